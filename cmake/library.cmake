@@ -1,0 +1,47 @@
+# How the shipped library is compiled and linked, for each target. Sources come from CMakeLists.txt.
+
+# Of every source of the library.
+set(library_compile_flags
+    -fvisibility=hidden           # exported are the entries of entries.S and the version call, nothing else
+    -fno-exceptions -fno-rtti
+    -fno-threadsafe-statics       # there are no start files: what needs an initializer must fail to link
+    -ffp-contract=off             # one step in a graph is one step in the machine
+    -fno-tree-vectorize           # GCC 12 packs straight-line code at -O2, and the operation counts break
+    -fexcess-precision=fast       # a stricter mode would store every x87 intermediate to memory
+    -fno-asynchronous-unwind-tables
+    -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)  # the same bytes from any folder
+
+# Kernels: smaller code is faster code here. More memory operands and fewer instructions than at -O2, and the size of
+# the instruction cache is the cliff for the long ones. -O2 would also move the early returns behind a backward jump.
+set(kernel_compile_flags -Os)
+
+if(WIN32)
+    list(APPEND library_compile_flags
+        -march=pentium -mfpmath=387   # the processor class of this target: no vector registers
+        -mincoming-stack-boundary=2   # Windows callers align the stack to 4 bytes
+        -fcf-protection=none)
+    set(library_link_flags
+        -nostdlib                     # the stock start files: 70 KB, some 20 imports, and initializers
+        -Wl,--entry=_zulgLoadEntry@12
+        -Wl,--image-base=0x65c00000   # fixed: the linker would derive it from the output path
+        -Wl,--no-insert-timestamp     # the same bytes from each build
+        -Wl,--dynamicbase,--nxcompat,--no-seh
+        -Wl,--strip-all)
+    set(library_link_libraries gcc)
+    set(library_platform_sources frame/load_entry.cpp frame/library.rc)
+    # The file's own name, without the "lib" in front that this toolchain would put there.
+    set(library_file_prefix "")
+else()
+    list(APPEND library_compile_flags
+        -mfpmath=sse -mno-sse3        # scalar code for any x86-64
+        -fcf-protection=full)
+    set(library_link_flags
+        -nostartfiles                 # nothing runs when the library is loaded
+        -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks: fails quietly without entries.S's note
+        -Wl,-z,relro,-z,now,-z,noexecstack
+        -Wl,--no-undefined,--build-id=none
+        -Wl,--strip-all)
+    set(library_link_libraries "")
+    set(library_platform_sources "")
+    set(library_file_prefix "lib")
+endif()

@@ -1,0 +1,14 @@
+# What is built on which target. The generator and the tools are programs of the build machine; the other target takes
+# the generated text as it is committed.
+if(CMAKE_CROSSCOMPILING)
+    set(host_tools OFF)
+else()
+    set(host_tools ON)
+endif()
+
+# Test programs of the other target carry their runtime with them: nothing is installed where they run.
+if(WIN32)
+    set(test_link_flags -static)
+else()
+    set(test_link_flags "")
+endif()

@@ -1,0 +1,30 @@
+// Declares the kernels: one routine for each family, length and element type. Definitions are in kernels/.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/platform.h"
+
+namespace zulg {
+
+using Status = ZulgStatus;
+
+enum class Family { DFTFwd_CToC, DFTInv_CToC };
+
+constexpr int shortestLength = 2, longestLength = 64;
+
+template <class Element>
+using KernelRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag);
+
+template <class Element>
+using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
+
+// A complex kernel sees its arrays as pairs of elements.
+template <Family family, int length, class Element>
+Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag);
+
+// The kernel of an argument `length`.
+template <Family family, class Element>
+Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
+
+}  // namespace zulg

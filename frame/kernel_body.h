@@ -1,0 +1,67 @@
+// The body that every kernel has: checks, `scale`, and the graph of its length run through the ports of its family.
+// Included by the files of kernels/, each of which defines one graph and instantiates its kernels.
+#pragma once
+
+#include "frame/kernel.h"
+#include "frame/ports.h"
+
+namespace zulg {
+
+// The text of a graph, specialised for each length: `run`, and 1/sqrt(length) as a double.
+template <int length>
+struct ComplexGraph;
+
+// What a family is made of: graph, ports, and the flags that divide by N.
+template <Family family>
+struct Parts;
+
+template <>
+struct Parts<Family::DFTFwd_CToC> {
+    template <int length>
+    using Graph = ComplexGraph<length>;
+    template <class Element>
+    using Ports = ComplexPorts<Element>;
+    static constexpr bool isDivided(std::int32_t flag) { return flag == DivFwdByN; }
+};
+
+template <>
+struct Parts<Family::DFTInv_CToC> {
+    template <int length>
+    using Graph = ComplexGraph<length>;
+    template <class Element>
+    using Ports = ExchangedPorts<Element>;
+    static constexpr bool isDivided(std::int32_t flag) { return flag == DivInvByN; }
+};
+
+// The stored factors of one length: of the width of the data, 1/N exact and rounded once, 1/sqrt(N) the double of the
+// graph rounded on.
+template <class Element, int length, class Graph>
+struct Scale {
+    static constexpr Element one = 1;
+    static constexpr Element inverse = Element{1} / Element{length};
+    static constexpr Element inverseRoot = static_cast<Element>(Graph::inverseRoot);
+};
+
+template <Family family, int length, class Element>
+Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
+    using Graph = typename Parts<family>::template Graph<length>;
+    using Factor = Scale<Element, length, Graph>;
+
+    if (pSrc == nullptr) return StatusNullPointer;
+    if (pDst == nullptr) return StatusNullPointer;
+
+    Element scale;
+    if (flag == NoDivByAny) {
+        scale = Factor::one;
+    } else if (flag == DivBySqrtN) {
+        scale = Factor::inverseRoot;
+    } else if (flag == DivFwdByN || flag == DivInvByN) {
+        scale = Parts<family>::isDivided(flag) ? Factor::inverse : Factor::one;
+    } else {
+        return StatusFlagError;
+    }
+    Graph::run(typename Parts<family>::template Ports<Element>{{pSrc, pDst, scale}});
+    return StatusOk;
+}
+
+}  // namespace zulg

@@ -1,0 +1,29 @@
+// The slot table: the address of every exported routine but the version call. Slot index = export ordinal - 1.
+// Filled in when the library is built and never written; the entries of entries.S jump through it.
+#include "frame/kernel.h"
+
+namespace zulg {
+
+// One routine of any of the exported shapes. A union and not a cast, so that the table is a constant expression.
+union Routine {
+    KernelRoutine<float> kernel32;
+    KernelRoutine<double> kernel64;
+    DispatchRoutine<float> dispatch32;
+    DispatchRoutine<double> dispatch64;
+
+    constexpr Routine(KernelRoutine<float> routine) : kernel32(routine) {}
+    constexpr Routine(KernelRoutine<double> routine) : kernel64(routine) {}
+    constexpr Routine(DispatchRoutine<float> routine) : dispatch32(routine) {}
+    constexpr Routine(DispatchRoutine<double> routine) : dispatch64(routine) {}
+};
+
+#define SLOT(name, routine, bytes) Routine(routine),
+extern "C" {
+extern const Routine zulgSlots[];
+constinit const Routine zulgSlots[] = {
+#include "frame/slots.inc"
+};
+}
+#undef SLOT
+
+}  // namespace zulg

@@ -1,0 +1,35 @@
+#include "graph/complex_value.h"
+
+#include "numbers/modular.h"
+
+namespace gen {
+namespace {
+
+// (-i)^quarters x.
+ComplexValue quarterTurns(ComplexValue x, int quarters) {
+    for (int i = 0; i < quarters; ++i) x = timesMinusI(x);
+    return x;
+}
+
+// exp(-2 pi i/8) x. Both parts take sqrt(1/2) first; the two products are then added and subtracted.
+ComplexValue eighthTurn(ComplexValue x) {
+    const ComplexValue y = cosine(1, 8) * x;
+    return {y.re + y.im, y.im - y.re};
+}
+
+// exp(-2 pi i e/n) x with four products: re = cos re + sin im, im = cos im - sin re.
+ComplexValue generalTurn(ComplexValue x, int e, int n) {
+    const Coefficient c = cosine(e, n), s = sine(e, n);
+    return {c * x.re + s * x.im, c * x.im - s * x.re};
+}
+
+}  // namespace
+
+ComplexValue twiddled(ComplexValue x, int e, int n) {
+    e = modulo(e, n);
+    if (4 * e % n == 0) return quarterTurns(x, 4 * e / n);
+    if (8 * e % n == 0) return quarterTurns(eighthTurn(x), 8 * e / n / 2);
+    return generalTurn(x, e, n);
+}
+
+}  // namespace gen

@@ -1,0 +1,26 @@
+// Pairs of values that stand for complex numbers while a graph is built.
+#pragma once
+
+#include <vector>
+
+#include "graph/graph.h"
+
+namespace gen {
+
+struct ComplexValue {
+    Value re, im;
+};
+
+using Signal = std::vector<ComplexValue>;
+
+inline ComplexValue operator+(ComplexValue a, ComplexValue b) { return {a.re + b.re, a.im + b.im}; }
+inline ComplexValue operator-(ComplexValue a, ComplexValue b) { return {a.re - b.re, a.im - b.im}; }
+inline ComplexValue operator*(const Coefficient& factor, ComplexValue x) { return {factor * x.re, factor * x.im}; }
+
+// -i (a + ib) = b - ia: no step, the parts change places and a sign goes into what follows.
+inline ComplexValue timesMinusI(ComplexValue x) { return {x.im, -x.re}; }
+
+// exp(-2 pi i e/n) x, in one of four forms chosen by e alone: none, quarter turn, eighth turn, general.
+ComplexValue twiddled(ComplexValue x, int e, int n);
+
+}  // namespace gen

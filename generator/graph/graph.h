@@ -1,0 +1,152 @@
+// The data-flow graph of one transform: loads, additions, subtractions and products with a constant.
+//
+// A node is a number into one vector, and a node never refers to a later one. Inserting is finding: a step whose equal
+// stands already is that step. Signs ride on values and never stand in a node, so that every constant is positive and
+// no negation is ever inserted: (-a) + b is b - a, and (-a) + (-b) is minus the sum. The graph has no other algebra.
+#pragma once
+
+#include <map>
+#include <span>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "numbers/exact.h"
+
+namespace gen {
+
+class Graph;
+
+// A node of a graph as it is handed around while a graph is built, with the sign that it is meant to have.
+struct Value {
+    Graph* graph;
+    int node;
+    bool minus;
+};
+
+// A factor of a product: its value with its sign, and where it comes from, such as "cos 2 pi 3/16".
+struct Coefficient {
+    Exact value;
+    std::string origin;
+};
+
+// cos and sin of 2 pi k/n.
+Coefficient cosine(int k, int n);
+Coefficient sine(int k, int n);
+
+// A stored constant: a magnitude, at full width and as the double that a kernel holds.
+struct Constant {
+    Exact exact;
+    double stored;
+    std::string origin;
+};
+
+enum class Kind { Load, Add, Sub, Mul };
+
+// Load: a is the number of the input. Add, Sub: a + b, a - b. Mul: constant number b times node a.
+struct Node {
+    Kind kind;
+    int a, b;
+    int title;
+};
+
+struct Output {
+    int node;
+    bool minus;
+};
+
+struct Counts {
+    int additions = 0, subtractions = 0, multiplications = 0, negations = 0, constants = 0;
+    bool operator==(const Counts&) const = default;
+};
+
+class Graph {
+public:
+    Graph() = default;
+    Graph(const Graph&) = delete;  // values point to their graph
+    Graph& operator=(const Graph&) = delete;
+
+    Value load(int input);
+    Value sum(Value a, Value b);
+    Value product(const Coefficient& factor, Value x);
+
+    // Gives output number `output` (0, 1, 2, ...) its value.
+    void store(int output, Value value);
+
+    // Nodes inserted from here on belong to the block of this title; returns the title that stood before.
+    int beginBlock(const std::string& title);
+    void endBlock(int previous) { currentTitle = previous; }
+
+    const std::vector<Node>& nodes() const { return allNodes; }
+    const std::vector<Constant>& constants() const { return allConstants; }
+    const std::vector<Output>& outputs() const { return allOutputs; }
+    const std::string& title(int number) const { return titles[static_cast<std::size_t>(number)]; }
+    int inputs() const { return inputCount; }
+
+    // For each node, whether an output depends on it.
+    std::vector<bool> alive() const;
+    Counts counts() const;
+
+    // One node to a line, in order of insertion, and a GraphViz drawing.
+    std::string text() const;
+    std::string dot() const;
+
+private:
+    int insert(Kind kind, int a, int b);
+    int constant(const Coefficient& factor);
+
+    std::vector<Node> allNodes;
+    std::map<std::tuple<Kind, int, int>, int> standing;
+    std::vector<Constant> allConstants;
+    std::map<double, int> constantByValue;
+    std::vector<Output> allOutputs;
+    std::vector<std::string> titles{""};
+    int currentTitle = 0;
+    int inputCount = 0;
+};
+
+// Names the block that the nodes inserted during its life belong to.
+class Titled {
+public:
+    Titled(Graph& owner, const std::string& title) : graph(owner), previous(owner.beginBlock(title)) {}
+    ~Titled() { graph.endBlock(previous); }
+    Titled(const Titled&) = delete;
+    Titled& operator=(const Titled&) = delete;
+
+private:
+    Graph& graph;
+    int previous;
+};
+
+inline Value operator-(Value x) { return {x.graph, x.node, !x.minus}; }
+inline Value operator+(Value a, Value b) { return a.graph->sum(a, b); }
+inline Value operator-(Value a, Value b) { return a.graph->sum(a, -b); }
+inline Value operator*(const Coefficient& factor, Value x) { return x.graph->product(factor, x); }
+
+// The graph as its own interpreter: the outputs for these inputs, in the arithmetic of T.
+template <class T>
+std::vector<T> evaluate(const Graph& graph, std::span<const T> inputs) {
+    std::vector<T> value;
+    value.reserve(graph.nodes().size());
+    const auto at = [&](int node) -> const T& { return value[static_cast<std::size_t>(node)]; };
+    for (const Node& node : graph.nodes()) {
+        switch (node.kind) {
+            case Kind::Load: value.push_back(inputs[static_cast<std::size_t>(node.a)]); break;
+            case Kind::Add: value.push_back(at(node.a) + at(node.b)); break;
+            case Kind::Sub: value.push_back(at(node.a) - at(node.b)); break;
+            case Kind::Mul: {
+                const Constant& constant = graph.constants()[static_cast<std::size_t>(node.b)];
+                value.push_back(static_cast<T>(constant.exact) * at(node.a));
+                break;
+            }
+        }
+    }
+    std::vector<T> result;
+    for (const Output& output : graph.outputs()) {
+        const T x = at(output.node);
+        result.push_back(output.minus ? -x : x);
+    }
+    return result;
+}
+
+}  // namespace gen

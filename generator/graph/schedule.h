@@ -1,0 +1,28 @@
+// The order in which a kernel goes through its graph: loads, steps and stores, one after the other.
+//
+// What comes out holds every operand before its use, every load before the first store, and no dead node. There is one
+// order for a graph, whatever width, direction or layout it is seen through.
+#pragma once
+
+#include <vector>
+
+#include "graph/graph.h"
+
+namespace gen {
+
+struct Step {
+    enum class Kind { Load, Operation, Store };
+    Kind kind;
+    int number;  // of the node, or for a store of the output
+};
+
+struct Schedule {
+    std::vector<Step> steps;
+    int mostAlive = 0;  // the greatest number of values that wait for a use at one time
+};
+
+// Block by block as constructed: the steps in their order of insertion, each load right before its first use, each
+// store as soon as its value and the last load are there.
+Schedule blockByBlock(const Graph& graph);
+
+}  // namespace gen

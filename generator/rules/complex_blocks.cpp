@@ -1,0 +1,135 @@
+// Complex blocks: base, direct symmetric, twiddled (Cooley-Tukey) and prime-factor (Good-Thomas) constructions.
+#include <stdexcept>
+#include <string>
+
+#include "numbers/modular.h"
+#include "rules/axes.h"
+#include "rules/blocks.h"
+#include "rules/tables.h"
+
+namespace gen {
+namespace {
+
+using std::size_t;
+
+Signal sumAndDifference(const Signal& x) { return {x[0] + x[1], x[0] - x[1]}; }
+
+// First members m of the pairs (m, p - m) of the direct form, in their order: powers of 3 mod 5 and of 5 mod 7, up to
+// half the group. The order within a pair fixes the sign of its difference.
+std::vector<int> pairsOf(int p) {
+    switch (p) {
+        case 3: return {1};
+        case 5: return {1, 3};
+        case 7: return {1, 5, 4};
+        default: throw std::logic_error("complex " + std::to_string(p) + ": no direct form");
+    }
+}
+
+// P = x0 + sum of cos(2 pi m_j k/p) a_j, for one part. Where the first product is negative, the sum begins with x0;
+// where it is positive, x0 is added last.
+Value cosineSum(Value x0, const std::vector<Value>& sums, const std::vector<int>& pairs, int k, int p) {
+    Value total = cosine(pairs[0] * k, p) * sums[0];
+    const bool beginsWithX0 = total.minus;
+    if (beginsWithX0) total = x0 + total;
+    for (size_t j = 1; j < pairs.size(); ++j) total = total + cosine(pairs[j] * k, p) * sums[j];
+    return beginsWithX0 ? total : total + x0;
+}
+
+// Q = sum of sin(2 pi m_j k/p) d_j.
+ComplexValue sineSum(const Signal& differences, const std::vector<int>& pairs, int k, int p) {
+    ComplexValue total = sine(pairs[0] * k, p) * differences[0];
+    for (size_t j = 1; j < pairs.size(); ++j) total = total + sine(pairs[j] * k, p) * differences[j];
+    return total;
+}
+
+std::vector<Value> parts(const Signal& x, Value ComplexValue::*part) {
+    std::vector<Value> values;
+    for (const ComplexValue& value : x) values.push_back(value.*part);
+    return values;
+}
+
+// Direct symmetric form of 3, 5, 7: X[k] = P_k - i Q_k, X[p - k] = P_k + i Q_k. Each product is used once. The rotated
+// block is the plain one with its outputs renamed, Z[k] = X[a k mod p].
+Signal direct(const Signal& x, int a) {
+    const int p = static_cast<int>(x.size());
+    const std::vector<int> pairs = pairsOf(p);
+    Signal sums, differences;
+    for (int m : pairs) {
+        const ComplexValue first = x[static_cast<size_t>(m)], second = x[static_cast<size_t>(p - m)];
+        sums.push_back(first + second);
+        differences.push_back(first - second);
+    }
+    ComplexValue total = sums[0];
+    for (size_t j = 1; j < sums.size(); ++j) total = total + sums[j];
+    const std::vector<Value> sumsRe = parts(sums, &ComplexValue::re), sumsIm = parts(sums, &ComplexValue::im);
+
+    Signal plain(x.size());
+    plain[0] = total + x[0];
+    for (int k = 1; k <= (p - 1) / 2; ++k) {
+        const ComplexValue cosines = {cosineSum(x[0].re, sumsRe, pairs, k, p), cosineSum(x[0].im, sumsIm, pairs, k, p)};
+        const ComplexValue sines = timesMinusI(sineSum(differences, pairs, k, p));
+        plain[static_cast<size_t>(k)] = cosines + sines;
+        plain[static_cast<size_t>(p - k)] = cosines - sines;
+    }
+    Signal rotated;
+    for (int k = 0; k < p; ++k) rotated.push_back(plain[static_cast<size_t>(modulo(a * k, p))]);
+    return rotated;
+}
+
+// N = A B with a common factor: B blocks of the inner factor A on the columns, twiddle factors, A blocks of the outer
+// factor B on the rows.
+//
+//     column r reads x[r + B m];  row k1 takes W_N^(a r k1) times output k1 of each column;  X[k1 + A k2] is output k2
+Signal twiddledConstruction(const Signal& x, int inner, int outer, int a) {
+    const int length = inner * outer;
+    std::vector<Signal> columns;
+    for (int r = 0; r < outer; ++r) {
+        Signal column;
+        for (int m = 0; m < inner; ++m) column.push_back(x[static_cast<size_t>(r + outer * m)]);
+        columns.push_back(complexBlock(column, modulo(a, inner)));
+    }
+    Signal result(x.size());
+    for (int k1 = 0; k1 < inner; ++k1) {
+        Signal row;
+        for (int r = 0; r < outer; ++r) {
+            row.push_back(twiddled(columns[static_cast<size_t>(r)][static_cast<size_t>(k1)], a * r * k1, length));
+        }
+        row = complexBlock(row, modulo(a, outer));
+        for (int k2 = 0; k2 < outer; ++k2) result[static_cast<size_t>(k1 + inner * k2)] = row[static_cast<size_t>(k2)];
+    }
+    return result;
+}
+
+// N = q_1 q_2 ... pairwise coprime: rotated blocks along each axis in turn, and nothing between them.
+Signal primeFactor(const Signal& x, const std::vector<int>& factors, int a) {
+    const Axes axes(factors);
+    Signal box = axes.gather(x);
+    for (int i = 0; i < axes.count(); ++i) {
+        axes.alongEach(i, box, [&](const Signal& line) {
+            return complexBlock(line, modulo(a * axes.multiplier(i), static_cast<int>(line.size())));
+        });
+    }
+    return axes.scatter(box);
+}
+
+std::string blockTitle(int length, int a) {
+    const std::string title = "block of " + std::to_string(length);
+    return a == 1 ? title : title + ", multiplier " + std::to_string(a);
+}
+
+}  // namespace
+
+Signal complexBlock(const Signal& x, int a) {
+    const int length = static_cast<int>(x.size());
+    const Titled title(*x[0].re.graph, blockTitle(length, a));
+    const Recipe& recipe = complexRecipe(length);
+    switch (recipe.construction) {
+        case Construction::Base: return sumAndDifference(x);
+        case Construction::Direct: return direct(x, a);
+        case Construction::Twiddled: return twiddledConstruction(x, recipe.factors[0], recipe.factors[1], a);
+        case Construction::PrimeFactor: return primeFactor(x, recipe.factors, a);
+    }
+    throw std::logic_error("complex " + std::to_string(length) + ": no construction");
+}
+
+}  // namespace gen

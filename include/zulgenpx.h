@@ -1,0 +1,114 @@
+/* zulgenpx: small signal transforms, each length a routine of its own. This header is plain C.
+
+   Nothing is to be set up: any routine may be called first. All results are statuses; output goes to the caller's
+   arrays. Every routine is reentrant: any number of threads may call at the same time, also on the same input, as long
+   as the output arrays differ. Nothing is allocated, no lock is taken, and the processor's floating-point settings are
+   neither read nor changed.
+
+   Data is contiguous and needs no alignment: any address will do. Not-a-number and infinity go
+   through the arithmetic as they will; the status is StatusOk all the same. */
+#ifndef ZULGENPX_H
+#define ZULGENPX_H
+
+#include <stdint.h>
+
+/* On 32-bit Windows a routine removes its arguments from the stack itself. Elsewhere the platform's own convention
+   holds. */
+#if defined(_WIN32) && !defined(_WIN64)
+#define ZULG_CALL __stdcall
+#else
+#define ZULG_CALL
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* -- Types ---------------------------------------------------------------------------------------------------------
+
+   The suffix of a routine tells its element type:
+     32f   float                      64f   double
+     32fc  float re, then float im    64fc  double re, then double im
+   These are the layouts of C's `float complex` and of std::complex<float>; a cast of the pointer is enough. */
+typedef float Zulg32f;
+typedef double Zulg64f;
+typedef struct Zulg32fc {
+    float re, im;
+} Zulg32fc;
+typedef struct Zulg64fc {
+    double re, im;
+} Zulg64fc;
+
+/* -- Status --------------------------------------------------------------------------------------------------------
+
+   A routine that returns anything but StatusOk has read nothing from its input and written nothing to its output.
+   Checks come in this order: length or order, pSrc, pDst, flag. So a bad length outranks a null pointer, and a null
+   pointer outranks a bad flag. */
+typedef int32_t ZulgStatus;
+enum {
+    StatusOk = 0,             /* done, the output is written */
+    StatusPlanKindError = -5, /* DCT-IV: the plan is of no known kind */
+    StatusSizeError = -6,     /* length or order out of range */
+    StatusNullPointer = -8,   /* a required pointer is null */
+    StatusFlagError = -16     /* flag is not exactly one of 1, 2, 4, 8 */
+};
+
+/* -- Scale ---------------------------------------------------------------------------------------------------------
+
+   The factor on every output of a transform of N points. It is one value, not a set of bits: 3 is refused.
+
+     flag          value   forward   inverse     Hartley, Walsh-Hadamard   what NumPy calls it
+     DivFwdByN         1       1/N         1                         1/N   norm="forward"
+     DivInvByN         2         1       1/N                         1/N   norm="backward", the default there
+     DivBySqrtN        4   1/sqrt(N) 1/sqrt(N)                 1/sqrt(N)   norm="ortho"
+     NoDivByAny        8         1         1                           1   no scale in either direction
+
+   The same flag forward and then inverse restores the input for 1, 2 and 4; 8 on both multiplies it by N. */
+enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
+
+/* -- Version -------------------------------------------------------------------------------------------------------
+
+   One constant record; the caller neither frees nor changes it. */
+typedef struct LibVersion {
+    int32_t major;
+    int32_t minor;
+    int32_t majorBuild;
+    int32_t build;
+    char targetCpu[4];     /* "px": generic floating-point code, no vector instructions */
+    const char* name;      /* "zulgenpx-7.0.dll" */
+    const char* version;   /* "7.0 build 205.58" */
+    const char* buildDate; /* "Apr 18 2011" */
+} LibVersion;
+
+/* Cannot fail; the same address at each call. */
+const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
+
+/* -- Complex DFT ---------------------------------------------------------------------------------------------------
+
+     zulgDFTFwd_CToC_<N>_32fc   X[k] = scale * sum over n of x[n] exp(-2 pi i n k/N)     k = 0 .. N-1
+     zulgDFTInv_CToC_<N>_32fc   x[n] = scale * sum over k of X[k] exp(+2 pi i n k/N)     n = 0 .. N-1
+     and the same with _64fc
+
+   pSrc    N complex elements, read only
+   pDst    N complex elements, all of them written, nothing beyond them
+   flag    one of the four scale flags
+
+   pDst may equal pSrc, and the two may overlap in any other way: all input is read before the first output is written.
+
+   Accuracy, as the root of summed squared errors over summed squared results: below 2 * 2^-53 in double precision; in
+   single precision below 0.45 * 2^-24, since all arithmetic is done in double and rounded once, at the store.
+
+   Without a length in the name, the length is the argument `length`; the result is bit for bit that of the routine of
+   that length. StatusSizeError where there is none.
+
+   Source: I. J. Good (1958) for the coprime factors, J. W. Cooley and J. W. Tukey (1965) for the powers of a prime,
+   direct symmetric forms for 3, 5 and 7. docs/constructions.md tells which length is built how. */
+
+/* -- All routines, one to a line ------------------------------------------------------------------------------------ */
+#include "zulgenpx_routines.h"
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

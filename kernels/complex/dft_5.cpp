@@ -1,0 +1,96 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 5.
+// Complex DFT of 5 points, direct symmetric form.
+// 18 additions, 14 subtractions, 16 multiplications (26 with `scale`); 4 constants; 16 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct ComplexGraph<5> {
+    static constexpr double inverseRoot = 0.4472135954999579;  // 1/sqrt(5), for `scale`
+    static constexpr double c0 = 0.30901699437494745;  // cos 2 pi 1/5
+    static constexpr double c1 = 0.8090169943749475;  // -cos 2 pi 3/5
+    static constexpr double c2 = 0.9510565162951535;  // sin 2 pi 1/5
+    static constexpr double c3 = 0.5877852522924731;  // -sin 2 pi 3/5
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // block of 5
+        const V x1r = io.re(1);
+        const V x4r = io.re(4);
+        const V t0 = x1r + x4r;
+        const V x1i = io.im(1);
+        const V x4i = io.im(4);
+        const V t1 = x1i + x4i;
+        const V t2 = x1r - x4r;
+        const V t3 = x1i - x4i;
+        const V x3r = io.re(3);
+        const V x2r = io.re(2);
+        const V t4 = x3r + x2r;
+        const V x3i = io.im(3);
+        const V x2i = io.im(2);
+        const V t5 = x3i + x2i;
+        const V t6 = x3r - x2r;
+        const V t7 = x3i - x2i;
+        const V t8 = t0 + t4;
+        const V t9 = t1 + t5;
+        const V x0r = io.re(0);
+        const V t10 = t8 + x0r;
+        const V x0i = io.im(0);
+        io.re(0, t10);
+        const V t11 = t9 + x0i;
+        io.im(0, t11);
+        const V t12 = c0 * t0;
+        const V t13 = c1 * t4;
+        const V t14 = t12 - t13;
+        const V t15 = t14 + x0r;
+        const V t16 = c0 * t1;
+        const V t17 = c1 * t5;
+        const V t18 = t16 - t17;
+        const V t19 = t18 + x0i;
+        const V t20 = c2 * t2;
+        const V t21 = c2 * t3;
+        const V t22 = c3 * t6;
+        const V t23 = c3 * t7;
+        const V t24 = t20 - t22;
+        const V t25 = t21 - t23;
+        const V t26 = t15 + t25;
+        io.re(1, t26);
+        const V t27 = t19 - t24;
+        io.im(1, t27);
+        const V t28 = t15 - t25;
+        io.re(4, t28);
+        const V t29 = t19 + t24;
+        io.im(4, t29);
+        const V t30 = c1 * t0;
+        const V t31 = x0r - t30;
+        const V t32 = c0 * t4;
+        const V t33 = t31 + t32;
+        const V t34 = c1 * t1;
+        const V t35 = x0i - t34;
+        const V t36 = c0 * t5;
+        const V t37 = t35 + t36;
+        const V t38 = c3 * t2;
+        const V t39 = c3 * t3;
+        const V t40 = c2 * t6;
+        const V t41 = c2 * t7;
+        const V t42 = t38 + t40;
+        const V t43 = t39 + t41;
+        const V t44 = t33 + t43;
+        io.re(2, t44);
+        const V t45 = t37 - t42;
+        io.im(2, t45);
+        const V t46 = t33 - t43;
+        io.re(3, t46);
+        const V t47 = t37 + t42;
+        io.im(3, t47);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTFwd_CToC, 5, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_CToC, 5, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CToC, 5, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CToC, 5, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

@@ -1,0 +1,154 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 7.
+// Complex DFT of 7 points, direct symmetric form.
+// 30 additions, 30 subtractions, 36 multiplications (50 with `scale`); 6 constants; 20 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct ComplexGraph<7> {
+    static constexpr double inverseRoot = 0.3779644730092272;  // 1/sqrt(7), for `scale`
+    static constexpr double c0 = 0.6234898018587335;  // cos 2 pi 1/7
+    static constexpr double c1 = 0.2225209339563144;  // -cos 2 pi 5/7
+    static constexpr double c2 = 0.9009688679024191;  // -cos 2 pi 4/7
+    static constexpr double c3 = 0.7818314824680298;  // sin 2 pi 1/7
+    static constexpr double c4 = 0.9749279121818236;  // -sin 2 pi 5/7
+    static constexpr double c5 = 0.4338837391175581;  // -sin 2 pi 4/7
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // block of 7
+        const V x1r = io.re(1);
+        const V x6r = io.re(6);
+        const V t0 = x1r + x6r;
+        const V x1i = io.im(1);
+        const V x6i = io.im(6);
+        const V t1 = x1i + x6i;
+        const V t2 = x1r - x6r;
+        const V t3 = x1i - x6i;
+        const V x5r = io.re(5);
+        const V x2r = io.re(2);
+        const V t4 = x5r + x2r;
+        const V x5i = io.im(5);
+        const V x2i = io.im(2);
+        const V t5 = x5i + x2i;
+        const V t6 = x5r - x2r;
+        const V t7 = x5i - x2i;
+        const V x4r = io.re(4);
+        const V x3r = io.re(3);
+        const V t8 = x4r + x3r;
+        const V x4i = io.im(4);
+        const V x3i = io.im(3);
+        const V t9 = x4i + x3i;
+        const V t10 = x4r - x3r;
+        const V t11 = x4i - x3i;
+        const V t12 = t0 + t4;
+        const V t13 = t1 + t5;
+        const V t14 = t12 + t8;
+        const V t15 = t13 + t9;
+        const V x0r = io.re(0);
+        const V t16 = t14 + x0r;
+        const V x0i = io.im(0);
+        io.re(0, t16);
+        const V t17 = t15 + x0i;
+        io.im(0, t17);
+        const V t18 = c0 * t0;
+        const V t19 = c1 * t4;
+        const V t20 = t18 - t19;
+        const V t21 = c2 * t8;
+        const V t22 = t20 - t21;
+        const V t23 = t22 + x0r;
+        const V t24 = c0 * t1;
+        const V t25 = c1 * t5;
+        const V t26 = t24 - t25;
+        const V t27 = c2 * t9;
+        const V t28 = t26 - t27;
+        const V t29 = t28 + x0i;
+        const V t30 = c3 * t2;
+        const V t31 = c3 * t3;
+        const V t32 = c4 * t6;
+        const V t33 = c4 * t7;
+        const V t34 = t30 - t32;
+        const V t35 = t31 - t33;
+        const V t36 = c5 * t10;
+        const V t37 = c5 * t11;
+        const V t38 = t34 - t36;
+        const V t39 = t35 - t37;
+        const V t40 = t23 + t39;
+        io.re(1, t40);
+        const V t41 = t29 - t38;
+        io.im(1, t41);
+        const V t42 = t23 - t39;
+        io.re(6, t42);
+        const V t43 = t29 + t38;
+        io.im(6, t43);
+        const V t44 = c1 * t0;
+        const V t45 = x0r - t44;
+        const V t46 = c2 * t4;
+        const V t47 = t45 - t46;
+        const V t48 = c0 * t8;
+        const V t49 = t47 + t48;
+        const V t50 = c1 * t1;
+        const V t51 = x0i - t50;
+        const V t52 = c2 * t5;
+        const V t53 = t51 - t52;
+        const V t54 = c0 * t9;
+        const V t55 = t53 + t54;
+        const V t56 = c4 * t2;
+        const V t57 = c4 * t3;
+        const V t58 = c5 * t6;
+        const V t59 = c5 * t7;
+        const V t60 = t56 + t58;
+        const V t61 = t57 + t59;
+        const V t62 = c3 * t10;
+        const V t63 = c3 * t11;
+        const V t64 = t60 + t62;
+        const V t65 = t61 + t63;
+        const V t66 = t49 + t65;
+        io.re(2, t66);
+        const V t67 = t55 - t64;
+        io.im(2, t67);
+        const V t68 = t49 - t65;
+        io.re(5, t68);
+        const V t69 = t55 + t64;
+        io.im(5, t69);
+        const V t70 = c2 * t0;
+        const V t71 = x0r - t70;
+        const V t72 = c0 * t4;
+        const V t73 = t71 + t72;
+        const V t74 = c1 * t8;
+        const V t75 = t73 - t74;
+        const V t76 = c2 * t1;
+        const V t77 = x0i - t76;
+        const V t78 = c0 * t5;
+        const V t79 = t77 + t78;
+        const V t80 = c1 * t9;
+        const V t81 = t79 - t80;
+        const V t82 = c5 * t2;
+        const V t83 = c5 * t3;
+        const V t84 = c3 * t6;
+        const V t85 = c3 * t7;
+        const V t86 = t82 + t84;
+        const V t87 = t83 + t85;
+        const V t88 = c4 * t10;
+        const V t89 = c4 * t11;
+        const V t90 = t86 - t88;
+        const V t91 = t87 - t89;
+        const V t92 = t75 + t91;
+        io.re(3, t92);
+        const V t93 = t81 - t90;
+        io.im(3, t93);
+        const V t94 = t75 - t91;
+        io.re(4, t94);
+        const V t95 = t81 + t90;
+        io.im(4, t95);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTFwd_CToC, 7, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_CToC, 7, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CToC, 7, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CToC, 7, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

@@ -1,0 +1,48 @@
+# Shared by the scripts beside this file; sourced, never run. Knows the tree, who we are, and what to install.
+# After sourcing, `tree` is the checkout and the working folder.
+set -euo pipefail
+tree=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+cd "$tree"
+
+# The i386 Debian root in which Windows programs run. It stands outside the tree: it is shared by all checkouts,
+# and `git clean` must never meet it.
+win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
+
+packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
+    binutils ca-certificates)
+packages_demo=(alsa-utils)
+packages_win32=(g++-mingw-w64-i686-posix debootstrap util-linux)
+
+say() { printf '%s\n' "$*"; }
+fail() { printf '%s\n' "$*" >&2; exit 1; }
+
+# Runs a command as root: directly, or through sudo where that asks no question.
+as_root() {
+    if [ "$(id -u)" = 0 ]; then "$@"; else sudo -n -- "$@"; fi
+}
+can_be_root() { [ "$(id -u)" = 0 ] || sudo -n true 2>/dev/null; }
+
+# need_packages NAME ...: installs those that are missing, or says the one command that does and stops.
+need_packages() {
+    local missing=() name
+    for name in "$@"; do
+        dpkg-query -W -f '${Status}\n' "$name" 2>/dev/null | grep -q 'ok installed$' || missing+=("$name")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    can_be_root || fail "Packages are missing. Run this as root, then start again:" \
+        "apt-get update && apt-get install -y --no-install-recommends ${missing[*]}"
+    say "Installing ${missing[*]} ..."
+    as_root apt-get -qq update </dev/null
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${missing[@]}" \
+        </dev/null >/dev/null
+}
+
+# build_preset NAME: configures and builds, quietly; on failure prints the end of the log.
+build_preset() {
+    local log=build/$1/build.log
+    mkdir -p "build/$1"
+    { cmake --preset "$1" && cmake --build --preset "$1"; } </dev/null >"$log" 2>&1 && return
+    grep -nE 'error|FAILED' "$log" | head -n 20 >&2 || true
+    tail -n 30 "$log" >&2
+    fail "the build of $1 failed; the whole log: $log"
+}

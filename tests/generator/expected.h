@@ -1,0 +1,18 @@
+// The tables of required counts, as they stand in tests/expected.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace test {
+
+struct ExpectedRow {
+    int length;
+    std::string construction;
+    std::vector<int> figures;  // the numbers behind the construction, in the order of the file's head line
+};
+
+// The rows of tests/expected/<name>.txt.
+std::vector<ExpectedRow> expectedRows(const std::string& name);
+
+}  // namespace test

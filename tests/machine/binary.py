@@ -1,0 +1,145 @@
+"""Reads the built library, ELF or PE: exported names, the code of each routine as the slot table reaches it.
+
+Uses objdump of the target for the disassembly and nothing else; the files' own tables are read here.
+"""
+import re
+import struct
+import subprocess
+
+
+class Instruction:
+    __slots__ = ("address", "mnemonic", "operands", "size")
+
+    def __init__(self, address, mnemonic, operands, size):
+        self.address, self.mnemonic, self.operands, self.size = address, mnemonic, operands, size
+
+    def target(self):
+        """The address a direct jump or call goes to, or None."""
+        match = re.match(r"(?:0x)?([0-9a-f]+)(?:\s|$|<)", self.operands)
+        return int(match.group(1), 16) if match else None
+
+
+class Library:
+    """exports: name -> (ordinal or None, entry address); word(address): the pointer stored there after loading."""
+
+    def __init__(self, path, objdump):
+        self.path = path
+        with open(path, "rb") as file:
+            self.data = file.read()
+        self.is_pe = self.data[:2] == b"MZ"
+        self.sections = []  # (name, address, size, file offset)
+        if self.is_pe:
+            self._read_pe()
+        else:
+            self._read_elf()
+        self._disassemble(objdump)
+
+    def _read_pe(self):
+        data = self.data
+        header = struct.unpack_from("<I", data, 0x3C)[0]
+        count, optional_size = struct.unpack_from("<H", data, header + 6)[0], struct.unpack_from("<H", data, header + 20)[0]
+        optional = header + 24
+        self.image_base = struct.unpack_from("<I", data, optional + 28)[0]
+        for i in range(count):
+            at = optional + optional_size + 40 * i
+            name = data[at:at + 8].rstrip(b"\0").decode()
+            size, rva, _, offset = struct.unpack_from("<IIII", data, at + 8)
+            self.sections.append((name, self.image_base + rva, size, offset))
+        export_rva = struct.unpack_from("<I", data, optional + 96)[0]
+        at = self.offset(self.image_base + export_rva)
+        base, functions, names = struct.unpack_from("<III", data, at + 16)
+        tables = [self.offset(self.image_base + rva) for rva in struct.unpack_from("<III", data, at + 28)]
+        self.exports = {}
+        for i in range(names):
+            name_rva = struct.unpack_from("<I", data, tables[1] + 4 * i)[0]
+            index = struct.unpack_from("<H", data, tables[2] + 2 * i)[0]
+            address = self.image_base + struct.unpack_from("<I", data, tables[0] + 4 * index)[0]
+            self.exports[self.text(self.image_base + name_rva)] = (index + base, address)
+
+    def _read_elf(self):
+        data = self.data
+        section_offset = struct.unpack_from("<Q", data, 0x28)[0]
+        size, count, names_index = struct.unpack_from("<HHH", data, 0x3A)
+        headers = [struct.unpack_from("<IIQQQQIIQQ", data, section_offset + i * size) for i in range(count)]
+        names_at = headers[names_index][4]
+        by_name = {}
+        for header in headers:
+            name = self._string(names_at + header[0])
+            by_name[name] = header
+            self.sections.append((name, header[3], header[5], header[4]))
+        self.exports, self.relocated = {}, {}
+        symbols, strings = by_name[".dynsym"], by_name[".dynstr"]
+        for at in range(symbols[4], symbols[4] + symbols[5], 24):
+            name, _, _, section, value, _ = struct.unpack_from("<IBBHQQ", data, at)
+            if section != 0:
+                self.exports[self._string(strings[4] + name)] = (None, value)
+        relocations = by_name.get(".rela.dyn")
+        if relocations:
+            for at in range(relocations[4], relocations[4] + relocations[5], 24):
+                place, kind, addend = struct.unpack_from("<QQq", data, at)
+                if kind & 0xFFFFFFFF == 8:  # R_X86_64_RELATIVE
+                    self.relocated[place] = addend
+
+    def _string(self, offset):
+        return self.data[offset:self.data.index(b"\0", offset)].decode()
+
+    def offset(self, address):
+        for _, start, size, offset in self.sections:
+            if start <= address < start + size and offset:
+                return address - start + offset
+        raise ValueError(f"no section holds {address:#x}")
+
+    def section_of(self, address):
+        return next(name for name, start, size, _ in self.sections if start and start <= address < start + size)
+
+    def text(self, address):
+        return self._string(self.offset(address))
+
+    def bytes(self, address, count):
+        at = self.offset(address)
+        return self.data[at:at + count]
+
+    def word(self, address):
+        if self.is_pe:
+            return struct.unpack("<I", self.bytes(address, 4))[0]
+        return self.relocated[address]
+
+    def _disassemble(self, objdump):
+        text = subprocess.run([objdump, "-d", "-w", "-j", ".text", self.path], check=True, capture_output=True,
+                              text=True).stdout
+        self.code = {}
+        for line in text.splitlines():
+            parts = line.split("\t")
+            if len(parts) < 3 or not parts[0].rstrip().endswith(":"):
+                continue
+            words = parts[2].split(None, 1)
+            while words and words[0] in ("notrack", "rep", "repz", "bnd", "data16") and len(words) > 1:
+                words = words[1].split(None, 1)
+            address = int(parts[0].strip()[:-1], 16)
+            operands = words[1] if len(words) > 1 else ""
+            self.code[address] = Instruction(address, words[0] if words else "", operands, len(parts[1].split()))
+
+    def slot_address(self, name):
+        """Where the entry of an export jumps through: the address of its slot, or None if it is no such entry."""
+        entry = self.exports[name][1]
+        if self.is_pe:
+            raw = self.bytes(entry, 6)
+            return struct.unpack_from("<I", raw, 2)[0] if raw[:2] == b"\xff\x25" else None
+        raw = self.bytes(entry, 10)
+        if raw[:6] != b"\xf3\x0f\x1e\xfa\xff\x25":
+            return None
+        return entry + 10 + struct.unpack_from("<i", raw, 6)[0]
+
+    def routine(self, start):
+        """The instructions of the routine at this address, following its jumps forward, up to its last return."""
+        instructions, reach, address = [], start, start
+        while True:
+            instruction = self.code[address]
+            instructions.append(instruction)
+            address += instruction.size
+            name = instruction.mnemonic
+            if name.startswith("j") and not instruction.operands.startswith("*"):
+                reach = max(reach, instruction.target())
+            ends = name.startswith("ret") or name == "jmp"
+            if ends and address > reach:
+                return instructions

@@ -1,0 +1,31 @@
+"""Links the library once more, to another path, and compares the two files byte for byte.
+
+relink.py BUILD_FOLDER LIBRARY
+"""
+import os
+import shlex
+import subprocess
+import sys
+import tempfile
+
+
+def main():
+    build, library = sys.argv[1:]
+    name = os.path.basename(library)
+    commands = subprocess.run(["ninja", "-t", "commands", name], cwd=build, check=True, capture_output=True,
+                              text=True).stdout.splitlines()
+    link = next(command for command in reversed(commands) if f"-o {name} " in command)
+    with tempfile.TemporaryDirectory() as folder:
+        again = os.path.join(folder, name)
+        words = [again if word == name else word for word in shlex.split(link) if word not in (":", "&&")]
+        # The import library is made by the same command; it must not be written over.
+        words = [word.replace("--out-implib,", f"--out-implib,{folder}/") if "--out-implib," in word else word
+                 for word in words]
+        subprocess.run(words, cwd=build, check=True)
+        with open(library, "rb") as first, open(again, "rb") as second:
+            same = first.read() == second.read()
+    print(f"{name}: {'the same bytes' if same else 'other bytes'} when linked again")
+    return 0 if same else 1
+
+
+sys.exit(main())

@@ -1,0 +1,25 @@
+// Memory with an inaccessible page on either side: one byte read or written past an end is a fault.
+#pragma once
+
+#include <cstddef>
+
+namespace test {
+
+class GuardedPages {
+public:
+    explicit GuardedPages(std::size_t bytes);
+    ~GuardedPages();
+    GuardedPages(const GuardedPages&) = delete;
+    GuardedPages& operator=(const GuardedPages&) = delete;
+
+    // The first `bytes` behind the front guard, and the last `bytes` before the rear guard.
+    std::byte* atFront() const { return inner; }
+    std::byte* atRear(std::size_t bytes) const { return inner + innerBytes - bytes; }
+
+private:
+    std::byte* whole;
+    std::byte* inner;
+    std::size_t wholeBytes, innerBytes;
+};
+
+}  // namespace test

@@ -1,0 +1,68 @@
+// The tests' own platform layer: the library's loader and guard pages.
+#include <cstdio>
+#include <cstdlib>
+
+#include "tests/exports.h"
+#include "tests/memory.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+namespace test {
+
+#ifdef _WIN32
+
+void* exportedAddress(const std::string& name) {
+    static const HMODULE library = LoadLibraryA("zulgenpx-7.0.dll");
+    if (library == nullptr) return std::puts("zulgenpx-7.0.dll does not load"), std::exit(1), nullptr;
+    return reinterpret_cast<void*>(GetProcAddress(library, name.c_str()));
+}
+
+GuardedPages::GuardedPages(std::size_t bytes) {
+    constexpr std::size_t page = 4096;
+    innerBytes = (bytes + page - 1) / page * page + page;
+    wholeBytes = innerBytes + 2 * page;
+    whole = static_cast<std::byte*>(VirtualAlloc(nullptr, wholeBytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
+    inner = whole + page;
+    DWORD previous;
+    VirtualProtect(whole, page, PAGE_NOACCESS, &previous);
+    VirtualProtect(inner + innerBytes, page, PAGE_NOACCESS, &previous);
+}
+
+GuardedPages::~GuardedPages() { VirtualFree(whole, 0, MEM_RELEASE); }
+
+#else
+
+void* exportedAddress(const std::string& name) {
+    static void* const library = dlopen(ZULG_LIBRARY, RTLD_NOW);
+    if (library == nullptr) return std::puts(dlerror()), std::exit(1), nullptr;
+    return dlsym(library, name.c_str());
+}
+
+GuardedPages::GuardedPages(std::size_t bytes) {
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    innerBytes = (bytes + page - 1) / page * page + page;
+    wholeBytes = innerBytes + 2 * page;
+    whole =
+        static_cast<std::byte*>(mmap(nullptr, wholeBytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    inner = whole + page;
+    mprotect(whole, page, PROT_NONE);
+    mprotect(inner + innerBytes, page, PROT_NONE);
+}
+
+GuardedPages::~GuardedPages() { munmap(whole, wholeBytes); }
+
+#endif
+
+void* requiredAddress(const std::string& name) {
+    void* const address = exportedAddress(name);
+    if (address == nullptr) std::printf("%s is not exported\n", name.c_str()), std::exit(1);
+    return address;
+}
+
+}  // namespace test

@@ -1,0 +1,41 @@
+#include "tests/reference.h"
+
+#include <cmath>
+
+namespace test {
+
+Wide cosTurn(int k, int n) {
+    constexpr Wide pi = 3.14159265358979323846264338327950288L;
+    // Reduced to the first quadrant in integers; a quarter turn is exact.
+    k = ((k % n) + n) % n;
+    if (2 * k > n) k = n - k;
+    if (4 * k == n) return 0;
+    if (4 * k > n) return -std::cos(2 * pi * static_cast<Wide>(n - 2 * k) / static_cast<Wide>(2 * n));
+    return std::cos(2 * pi * static_cast<Wide>(k) / static_cast<Wide>(n));
+}
+
+Wide sinTurn(int k, int n) { return cosTurn(4 * k - n, 4 * n); }
+
+Values complexTransform(const Values& x, int sign) {
+    const int length = static_cast<int>(x.size() / 2);
+    Values cosines, sines;
+    for (int k = 0; k < length; ++k) {
+        cosines.push_back(cosTurn(k, length));
+        sines.push_back(static_cast<Wide>(sign) * sinTurn(k, length));
+    }
+    Values result;
+    for (int k = 0; k < length; ++k) {
+        Wide re = 0, im = 0;
+        for (int n = 0; n < length; ++n) {
+            const auto place = static_cast<std::size_t>(n * k % length);
+            const Wide xr = x[static_cast<std::size_t>(2 * n)], xi = x[static_cast<std::size_t>(2 * n + 1)];
+            re += xr * cosines[place] - xi * sines[place];
+            im += xr * sines[place] + xi * cosines[place];
+        }
+        result.push_back(re);
+        result.push_back(im);
+    }
+    return result;
+}
+
+}  // namespace test

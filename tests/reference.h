@@ -1,0 +1,18 @@
+// The definitions, as slow and obvious as they are. FOR TESTS ONLY: O(N^2), in long double.
+#pragma once
+
+#include <vector>
+
+namespace test {
+
+using Wide = long double;
+using Values = std::vector<Wide>;  // complex values as pairs: real part, imaginary part
+
+// cos and sin of 2 pi k/n.
+Wide cosTurn(int k, int n);
+Wide sinTurn(int k, int n);
+
+// sum over n of x[n] exp(sign 2 pi i n k/N) for each k; x holds N pairs.
+Values complexTransform(const Values& x, int sign);
+
+}  // namespace test

@@ -1,0 +1,45 @@
+// What the suites over kernels share: the fixture, the flags, and how results are compared.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+
+#include "tests/transforms/transform.h"
+
+namespace test {
+
+inline constexpr int allFlags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
+inline constexpr std::byte pattern{0xA5};
+
+class KernelTest : public testing::TestWithParam<Transform> {
+protected:
+    const Transform& transform = GetParam();
+    const unsigned seed = static_cast<unsigned>(testing::UnitTest::GetInstance()->random_seed());
+    testing::ScopedTrace trace{__FILE__, __LINE__, "--gtest_random_seed=" + std::to_string(seed)};
+    std::mt19937 random{seed};
+
+    // Calls `body` with a zero of the kernel's element type.
+    template <class Body>
+    void withElement(const Body& body) {
+        if (transform.isSingle()) {
+            body(float{});
+        } else {
+            body(double{});
+        }
+    }
+
+    template <class Element>
+    std::vector<Element> randomSource() {
+        return randomElements<Element>(transform.sourceElements, random);
+    }
+};
+
+// Bit patterns, so that -0.0 and 0.0 differ and a not-a-number equals itself.
+template <class Element>
+bool sameBits(const std::vector<Element>& a, const std::vector<Element>& b) {
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(Element)) == 0;
+}
+
+}  // namespace test

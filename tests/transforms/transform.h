@@ -1,0 +1,87 @@
+// What the tests know of one exported transform of one length: enough to call it and to say what is right.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "tests/exports.h"
+#include "tests/reference.h"
+
+namespace test {
+
+enum class Direction { Forward, Inverse, Both };
+
+// The available lengths of the DFT families: those without a prime factor above 7.
+std::vector<int> availableLengths();
+
+struct Transform {
+    std::string family;  // "DFTFwd_CToC"
+    std::string suffix;  // "32fc"
+    int length;
+    Direction direction;  // which column of the flags' table holds
+    int sourceElements;   // of float or double
+    int destinationElements;
+    double bound64;                                   // largest relative error in double precision, in units of 2^-53
+    std::function<Values(const Values&)> definition;  // without scale
+
+    // Largest relative error, in units of 2^-24 or 2^-53.
+    // At length 2 an output is one sum of two singles, rounded once: about half of these sums lie exactly between two
+    // singles, so that 0.46 is the error of correct rounding, and no kernel can come below.
+    double bound() const { return !isSingle() ? bound64 : length == 2 ? 0.5 : 0.45; }
+    bool isSingle() const { return suffix.starts_with("32"); }
+    std::string kernelName() const { return "zulg" + family + "_" + std::to_string(length) + "_" + suffix; }
+    std::string dispatcherName() const { return "zulg" + family + "_" + suffix; }
+};
+
+std::vector<Transform> complexTransforms();
+
+// For value-parameterised tests: readable names.
+std::ostream& operator<<(std::ostream& out, const Transform& transform);
+std::string testName(const testing::TestParamInfo<Transform>& test);
+
+// 1/N and 1/sqrt(N) as they are stored: exact and rounded once; the double quotient of the double root, rounded on.
+template <class Element>
+Element storedInverse(int length);
+template <class Element>
+Element storedInverseRoot(int length);
+
+// The stored factor that a flag selects.
+template <class Element>
+Element storedScale(const Transform& transform, int flag) {
+    if (flag == DivBySqrtN) return storedInverseRoot<Element>(transform.length);
+    const bool divides = (flag == DivFwdByN && transform.direction != Direction::Inverse) ||
+                         (flag == DivInvByN && transform.direction != Direction::Forward);
+    return divides ? storedInverse<Element>(transform.length) : Element{1};
+}
+
+// Normally distributed, at a scale drawn anew from one octave: the relative error of even a correctly rounded result
+// depends on where it lies between two powers of two, and no length is to be judged by that. The seed is part of each
+// failure's trace.
+template <class Element>
+std::vector<Element> randomElements(int count, std::mt19937& random) {
+    std::normal_distribution<double> normal(0, std::exp2(std::uniform_real_distribution<double>(-0.5, 0.5)(random)));
+    std::vector<Element> elements;
+    for (int i = 0; i < count; ++i) elements.push_back(static_cast<Element>(normal(random)));
+    return elements;
+}
+
+template <class Element>
+Values widened(const std::vector<Element>& elements) {
+    return {elements.begin(), elements.end()};
+}
+
+// One call into fresh, separate arrays.
+template <class Element>
+std::vector<Element> run(const Transform& transform, const std::vector<Element>& source, int flag) {
+    std::vector<Element> destination(static_cast<std::size_t>(transform.destinationElements));
+    exported<Kernel<Element>>(transform.kernelName())(source.data(), destination.data(), flag);
+    return destination;
+}
+
+}  // namespace test

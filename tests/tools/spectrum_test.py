@@ -1,0 +1,463 @@
+# Tests of zulspectrum from the outside: python3 spectrum_test.py PATH-OF-THE-TOOL
+# Spectra are compared with sums of their own; nothing but the standard library is used.
+import cmath
+import csv
+import ctypes
+import io
+import math
+import os
+import pty
+import random
+import resource
+import select
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+sys.dont_write_bytecode = True  # the tree stays clean
+import sound_files
+
+TOOL = ""
+FLAGS = {  # name, number: scale forward
+    ("forward", "1"): lambda n: 1 / n,
+    ("backward", "2"): lambda n: 1,
+    ("ortho", "4"): lambda n: 1 / math.sqrt(n),
+    ("none", "8"): lambda n: 1,
+}
+# Of a picture: the rim around the plot.
+LEFT, TOP, RIGHT, BOTTOM = 72, 40, 112, 44
+
+
+def run(*arguments, given=None, **more):
+    if given is None:
+        more["stdin"] = subprocess.DEVNULL
+    more = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **more}
+    return subprocess.run([TOOL, *map(str, arguments)], input=given, timeout=120, **more)
+
+
+def numbers(values):
+    return "\n".join(map(repr, values)).encode()
+
+
+def cosine(length, k, count, amplitude=1.0, phase=0.0):
+    return [amplitude * math.cos(2 * math.pi * k * n / length + phase) for n in range(count)]
+
+
+def dft(frame):
+    n = len(frame)
+    return [sum(x * cmath.exp(-2j * math.pi * (i * k % n) / n) for i, x in enumerate(frame)) for k in range(n)]
+
+
+def brightness(point):
+    return 2 * point[0] + 7 * point[1] + point[2]
+
+
+class ToolTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+
+    def path(self, name, content=None):
+        path = os.path.join(self.folder.name, name)
+        if content is not None:
+            with open(path, "wb") as file:
+                file.write(content)
+        return path
+
+    def ok(self, *arguments, given=None):
+        done = run(*arguments, given=given)
+        self.assertEqual((done.returncode, done.stderr), (0, b""), arguments)
+        return done.stdout
+
+    def table(self, *arguments, given=None):
+        """CSV output as a list of dictionaries."""
+        text = self.ok(*arguments, "--format", "csv", given=given).decode()
+        self.assertTrue(text.endswith("\n"))
+        return list(csv.DictReader(io.StringIO(text)))
+
+    def refused(self, *arguments, says, given=None, **more):
+        done = run(*arguments, given=given, **more)
+        line = done.stderr.decode()
+        self.assertNotEqual(done.returncode, 0, arguments)
+        self.assertGreater(done.returncode, 0, "killed")
+        self.assertRegex(line, r"\Azulspectrum: [^\n]+\n\Z")
+        for word in [says] if isinstance(says, str) else says:
+            self.assertIn(word, line)
+        return line
+
+
+class Spectra(ToolTest):
+    def test_cosine_lands_in_its_bin_at_each_flag(self):
+        n, k, amplitude = 32, 5, 0.5
+        for words, scale in FLAGS.items():
+            for word in words:
+                for precision, tolerance in (("64", 1e-14), ("32", 1e-6)):
+                    rows = self.table("-", "--length", n, "--flag", word, "--precision", precision,
+                                      given=numbers(cosine(n, k, n, amplitude)))
+                    self.assertEqual(len(rows), n)
+                    for row in rows:
+                        due = amplitude * n / 2 * scale(n) if int(row["bin"]) in (k, n - k) else 0
+                        self.assertAlmostEqual(float(row["magnitude"]), due, delta=tolerance * n)
+
+    def test_every_length_that_exists_gives_its_dft(self):
+        source, lengths = random.Random(1), 0
+        for n in range(2, 65):
+            samples = [source.uniform(-1, 1) for _ in range(n)]
+            done = run("-", "--length", n, "--format", "csv", given=numbers(samples))
+            if done.returncode != 0:
+                self.refused("-", "--length", n, given=numbers(samples), says="no transform of this length")
+                continue
+            lengths += 1
+            for row, due in zip(csv.DictReader(io.StringIO(done.stdout.decode())), dft(samples), strict=True):
+                self.assertAlmostEqual(complex(float(row["re"]), float(row["im"])), due, delta=1e-13)
+        self.assertGreaterEqual(lengths, 35)
+
+    def test_window(self):
+        n = 16
+        samples = [math.sin(i * i) for i in range(n)]
+        weighted = [x * math.sin(math.pi * i / n) ** 2 for i, x in enumerate(samples)]
+        rows = self.table("-", "--length", n, "--window", "hann", given=numbers(samples))
+        for row, due in zip(rows, dft(weighted), strict=True):
+            self.assertAlmostEqual(complex(float(row["re"]), float(row["im"])), due, delta=1e-13)
+
+    def test_numbers_are_short_and_read_back(self):
+        samples = [math.sin(i * i) for i in range(64)]
+        for row in self.table("-", given=numbers(samples)):
+            for name in ("re", "im", "magnitude", "frequency"):
+                self.assertLessEqual(len(row[name]), len(repr(float(row[name]))))
+        for row in self.table("-", "--precision", 32, given=numbers(samples)):
+            for name in ("re", "im", "magnitude"):
+                value = struct.unpack("f", struct.pack("f", float(row[name])))[0]
+                self.assertLessEqual(len(row[name]), len("%.9g" % value))
+                self.assertEqual(value, struct.unpack("f", struct.pack("f", float("%.9g" % value)))[0])
+
+    def test_check_error_is_small(self):
+        source = random.Random(2)
+        samples = [source.uniform(-1, 1) for _ in range(1000)]
+        for words in FLAGS:
+            for precision, limit in (("64", 1e-15), ("32", 1.5e-7)):
+                report = self.ok("-", "--length", 60, "--hop", 45, "--window", "hann", "--flag", words[0], "--check",
+                                 "--precision", precision, given=numbers(samples)).decode()
+                found = dict(line.split(None, 1) for line in report.splitlines())
+                self.assertEqual(found["input"], "standard input, 1000 samples")
+                self.assertEqual(found["transforms"], "22 of 60 points each way")
+                error = float(found["relative"].split()[1])
+                self.assertLess(error, limit)
+                self.assertGreater(error, 0)
+
+    def test_check_beside_a_spectrum(self):
+        done = run("-", "--length", 4, "--check", "--format", "csv", given=b"1 2 3 4")
+        self.assertEqual((done.returncode, len(done.stdout.splitlines())), (0, 5))
+        self.assertIn(b"relative error", done.stderr)
+        path = self.path("out.csv")
+        self.assertIn(b"relative error", self.ok("-", "--length", 4, "--check", "--output", path, given=b"1 2 3 4"))
+        self.assertEqual(os.path.getsize(path), len(done.stdout))
+
+    def test_check_of_silence(self):
+        self.assertRegex(self.ok("-", "--length", 4, "--check", given=b"0 0 0 0").decode(), r"relative error +0 after")
+
+
+class Tables(ToolTest):
+    def frames(self, count, *arguments):
+        return [int(row["frame"]) for row in self.table("-", *arguments, given=numbers(range(count)))
+                if row["bin"] == "0"]
+
+    def test_csv_shape(self):
+        text = self.ok("-", "--length", 4, "--format", "csv", given=b"1 2 3 4 5 6 7 8").decode().splitlines()
+        self.assertEqual(text[0], "frame,time,bin,frequency,re,im,magnitude")
+        self.assertEqual(text[1:5], ["0,0,0,0,10,0,10", "0,0,1,0.25,-2,2,2.8284271247461903", "0,0,2,0.5,-2,0,2",
+                                     "0,0,3,-0.25,-2,-2,2.8284271247461903"])
+        self.assertEqual([line.split(",")[:3] for line in text[5:]], [["1", "4", str(k)] for k in range(4)])
+
+    def test_text_holds_the_same_numbers_as_csv(self):
+        given = numbers(cosine(20, 3, 50))
+        text = self.ok("-", "--length", 20, given=given).decode()
+        lines = [line.split() for line in text.splitlines() if line and line[0] != "#"]
+        rows = self.table("-", "--length", 20, given=given)
+        self.assertEqual(lines, [[row[name] for name in ("bin", "frequency", "re", "im", "magnitude")] for row in rows])
+        self.assertIn("# frame 2 at sample 40\n", text)
+
+    def test_frames_cover_all_samples_once_they_can(self):
+        for count, hop, due in ((96, 16, 6), (97, 16, 7), (100, 8, 12), (96, 8, 11), (97, 1, 82), (90, 40, 3),
+                                (100, 40, 3), (120, 40, 3), (121, 40, 4), (16, 1, 1), (17, 1000, 1)):
+            self.assertEqual(self.frames(count, "--length", 16, "--hop", hop), list(range(due)), (count, hop))
+
+    def test_last_frame_is_filled_up_with_zeros(self):
+        for hop, last in ((4, [5, 6, 0, 0]), (3, [4, 5, 6, 0]), (5, [6, 0, 0, 0])):
+            rows = self.table("-", "--length", 4, "--hop", hop, given=b"1 2 3 4 5 6")[-4:]
+            for row, due in zip(rows, dft(last), strict=True):
+                self.assertAlmostEqual(complex(float(row["re"]), float(row["im"])), due, delta=1e-14)
+
+    def test_text_input(self):
+        plain = self.ok("-", "--length", 6, given=b"1 -2 0.5 3e2 7 -8")
+        for given in (b"# a comment\n1,-2,\t.5\r\n+300 #3\n7\n\n-8.0", b"1 -2 5e-1,,3E+2\f7\v-8#end",
+                      b"\n1\n-2 .5 300 7 -8\n"):
+            self.assertEqual(self.ok("-", "--length", 6, given=given), plain)
+        path = self.path("numbers", b"1 -2 .5 300 7 -8")
+        self.assertEqual(self.ok(path, "--length", 6).replace(path.encode(), b"standard input"), plain)
+
+    def test_numbers_through_a_named_pipe(self):
+        path = self.path("pipe")
+        os.mkfifo(path)
+        feeder = subprocess.Popen(["sh", "-c", 'echo 1 2 3 4 > "$1"', "sh", path])
+        self.assertEqual(len(self.table(path, "--length", 4)), 4)
+        feeder.wait()
+
+
+class Sounds(ToolTest):
+    def test_wav_widths_and_channels(self):
+        n, k = 48, 6
+        for bits in (8, 16, 24, 32):
+            top = 2 ** (bits - 1)
+            quiet = [round(top / 4 * x) for x in cosine(n, 1, 10 * n)]
+            tone = [round(top / 2 * x) for x in cosine(n, k, 10 * n)]
+            path = self.path("sound.wav", sound_files.wav([quiet, tone], rate=48000, bits=bits))
+            rows = self.table(path, "--length", n, "--channel", 2)
+            self.assertEqual(len(rows), 10 * n)
+            for row in rows:
+                due = n / 4 if int(row["bin"]) in (k, n - k) else 0
+                self.assertAlmostEqual(float(row["magnitude"]), due, delta=n / top)
+            self.assertEqual(float(rows[k]["frequency"]), 6000)
+            self.assertEqual(float(rows[n]["time"]), 0.001)
+            self.assertAlmostEqual(float(self.table(path, "--length", n)[1]["magnitude"]), n / 8, delta=n / top)
+
+    def test_long_sound_is_read_in_order(self):
+        samples = [i % 30011 - 15000 for i in range(50000)]
+        path = self.path("long.wav", sound_files.wav([samples]))
+        rows = self.table(path, "--length", 2, "--hop", 977)
+        for row in rows[0:-2:2]:
+            start = int(row["frame"]) * 977
+            self.assertEqual(float(row["re"]) * 32768, samples[start] + samples[start + 1])
+
+    def test_flac_equals_wav(self):
+        samples = [round(20000 * math.sin(i * i / 999)) for i in range(1024)]
+        wav = self.path("a.wav", sound_files.wav([samples]))
+        flac = self.path("a.flac", sound_files.flac(samples))
+        self.assertEqual(self.table(flac), self.table(wav))
+
+    def test_kind_is_told_by_content(self):
+        path = self.path("tone.txt", sound_files.wav([[1000] * 64]))
+        self.assertEqual(float(self.table(path)[0]["re"]), 64 * 1000 / 32768)
+
+    def test_not_a_number_goes_through(self):
+        path = self.path("nan.wav", sound_files.wav([[0.5, math.nan] * 40], bits=32, floating=True))
+        self.assertEqual(self.table(path, "--length", 8)[0]["re"].lstrip("-"), "nan")
+        sound_files.png_rows(self.ok(path, "--length", 8, "--format", "png"))
+
+    def test_memory_does_not_grow_with_the_input(self):
+        head = sound_files.wav([[0] * 8], bits=8)
+        count = 100_000_000
+        path = self.path("zeros.wav", head[:4] + struct.pack("<I", 36 + count) + head[8:40] + struct.pack("<I", count))
+        os.truncate(path, 44 + count)
+        most = 256 << 20  # bytes; all samples as numbers would take three times as much
+        done = run(path, "--output", self.path("zeros.png"),
+                   preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (most, most)))
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+
+
+class Pictures(ToolTest):
+    def plot(self, data, columns, bins):
+        """The plot without its rim, checked for its size, and the pixels of one column and of one bin."""
+        rows = sound_files.png_rows(data)
+        across, down = -(-768 // columns), 512 // bins
+        self.assertEqual((len(rows[0]), len(rows)), (LEFT + columns * across + RIGHT, TOP + bins * down + BOTTOM))
+        return [row[LEFT:LEFT + columns * across] for row in rows[TOP:TOP + bins * down]], across, down
+
+    def brightest(self, plot, across, down, column):
+        line = [brightness(plot[y][column * across + across // 2]) for y in range(down // 2, len(plot), down)]
+        return len(line) - 1 - line.index(max(line))
+
+    def test_bright_row_is_the_bin_and_time_goes_right(self):
+        n = 16
+        samples = [round(9000 * x) for k in (2, 7) for x in cosine(n, k, 5 * n)]
+        path, out = self.path("two.wav", sound_files.wav([samples], rate=16000)), self.path("two.png")
+        self.assertEqual(self.ok(path, "--length", n, "--output", out), b"")
+        with open(out, "rb") as file:
+            plot, across, down = self.plot(file.read(), columns=10, bins=9)
+        self.assertEqual([self.brightest(plot, across, down, c) for c in range(10)], [2] * 5 + [7] * 5)
+
+    def test_pixels_of_a_bin_are_alike(self):
+        plot, across, down = self.plot(self.ok("-", "--length", 8, "--format", "png", given=numbers(cosine(8, 1, 24))),
+                                       columns=3, bins=5)
+        tone = {plot[y][x] for y in range(3 * down, 4 * down) for x in range(len(plot[0]))}
+        rest = {plot[y][x] for y in range(0, 3 * down) for x in range(len(plot[0]))}
+        self.assertEqual((len(tone), len(rest)), (1, 1))
+        self.assertGreater(brightness(tone.pop()), brightness(rest.pop()) + 1000)
+
+    def test_many_frames_share_columns(self):
+        n = 4
+        samples = cosine(n, 0, 5000 * n) + cosine(n, 2, 5000 * n)
+        # 10000 frames, eight to a column.
+        plot, across, down = self.plot(self.ok("-", "--length", n, "--format", "png", given=numbers(samples)),
+                                       columns=1250, bins=3)
+        self.assertEqual([self.brightest(plot, across, down, c) for c in (0, 1, 624, 625, 1248, 1249)],
+                         [0, 0, 0, 2, 2, 2])
+
+    def test_mean_power_of_a_partial_column(self):
+        n = 2
+        # 1537 frames: pairs, and a last column with one frame, of the same level.
+        plot, across, down = self.plot(self.ok("-", "--length", n, "--format", "png", given=b"1 1 " * 1537),
+                                       columns=769, bins=2)
+        self.assertEqual(plot[-1][0], plot[-1][-1])
+
+    def test_silence_is_dark(self):
+        plot, _, _ = self.plot(self.ok("-", "--length", 4, "--format", "png", given=b"0 " * 8), columns=2, bins=3)
+        colours = {point for row in plot for point in row}
+        self.assertEqual(len(colours), 1)
+        self.assertLess(max(colours.pop()), 60)
+
+
+class Options(ToolTest):
+    def test_help_and_version(self):
+        text = self.ok("--help").decode()
+        for word in ("--length", "--family", "--flag", "--hop", "--window", "--channel", "--precision", "--format",
+                     "--output", "--check", "--version", "filled up with zeros"):
+            self.assertIn(word, text)
+
+        class Version(ctypes.Structure):
+            _fields_ = [(name, ctypes.c_int32) for name in ("major", "minor", "major_build", "build")] + [
+                ("cpu", ctypes.c_char * 4), ("name", ctypes.c_char_p), ("version", ctypes.c_char_p),
+                ("date", ctypes.c_char_p)]
+        library = ctypes.CDLL(os.path.join(os.path.dirname(os.path.abspath(TOOL)), "libzulgenpx-7.0.so"))
+        library.zulgenGetLibVersion.restype = ctypes.POINTER(Version)
+        version = library.zulgenGetLibVersion().contents
+        text = self.ok("--version").decode()
+        for word in (version.name.decode(), version.version.decode(), version.date.decode(), version.cpu.decode(),
+                     "%d.%d.%d.%d" % (version.major, version.minor, version.major_build, version.build)):
+            self.assertIn(word, text)
+
+    def test_format_follows_the_suffix(self):
+        for name, start in (("a.txt", b"# standard input"), ("a.csv", b"frame,"), ("a.png", b"\x89PNG"), ("a", b"# ")):
+            path = self.path(name)
+            self.assertEqual(self.ok("-", "--length", 4, "--output", path, given=b"1 2 3 4"), b"")
+            with open(path, "rb") as file:
+                self.assertTrue(file.read().startswith(start), name)
+        path = self.path("b.png")
+        self.ok("-", "--length", 4, "--format", "csv", "--output", path, given=b"1 2 3 4")
+        with open(path, "rb") as file:
+            self.assertTrue(file.read().startswith(b"frame,"))
+
+    def test_progress_only_on_a_terminal(self):
+        ours, theirs = pty.openpty()
+        tool = subprocess.Popen([TOOL, "-", "--length", "2", "--output", "/dev/null"], stdin=subprocess.PIPE,
+                                stderr=theirs)
+        os.close(theirs)
+        time.sleep(1.2)
+        tool.communicate(b"0.5 " * 300000, timeout=60)
+        text = b""
+        while select.select([ours], [], [], 0.2)[0]:
+            try:
+                text += os.read(ours, 4096)
+            except OSError:  # the other end is closed
+                break
+        os.close(ours)
+        self.assertEqual(tool.returncode, 0)
+        self.assertRegex(text, rb"\rzulspectrum: \d+ samples")
+        self.assertTrue(text.endswith(b"\r\x1b[K"))
+        self.assertNotIn(b"\n", text)
+
+
+class Errors(ToolTest):
+    def test_command_line(self):
+        for arguments, says in (
+                ([], "INPUT"),
+                (["-", "--nonsense"], "--nonsense"),
+                (["-", "second"], "second"),
+                (["-", "--length"], "--length"),
+                (["-", "--length", "many"], ["--length", "many"]),
+                (["-", "--length", "65"], ["--length 65", "no transform of this length", "64"]),
+                (["-", "--length", "0"], ["--length 0", "no transform of this length"]),
+                (["-", "--length", "-4"], ["--length -4", "no transform of this length"]),
+                (["-", "--length", "99999999999999"], "--length"),
+                (["-", "--family", "fancy"], ["--family fancy", "no such family", "complex"]),
+                (["-", "--flag", "3"], ["--flag 3", "none of 1, 2, 4, 8"]),
+                (["-", "--flag", "0"], ["--flag 0", "none of 1, 2, 4, 8"]),
+                (["-", "--flag", "sideways"], ["--flag sideways", "backward"]),
+                (["-", "--flag", "2x"], "--flag 2x"),
+                (["-", "--hop", "0"], "--hop"),
+                (["-", "--window", "door"], ["--window", "door"]),
+                (["-", "--channel", "0"], "--channel"),
+                (["-", "--channel", "2"], ["--channel 2", "only channel 1"]),
+                (["-", "--precision", "16"], ["--precision", "16"]),
+                (["-", "--format", "gif"], ["--format", "gif"]),
+                (["-", "--output", "x.gif"], ["x.gif", "--format"])):
+            self.refused(*arguments, given=b"1 2 3 4 " * 100, says=says)
+        self.assertFalse(os.path.exists("x.gif"))
+
+    def test_unreadable_input(self):
+        self.refused(self.path("missing.wav"), says=["cannot read", "missing.wav", "No such file"])
+        self.refused(self.folder.name, says=["cannot read", "folder"])
+        self.refused(self.path("odd\nname"), says="odd?name")
+        if os.geteuid() != 0:
+            path = self.path("locked.wav", b"1 2 3")
+            os.chmod(path, 0)
+            self.refused(path, says=["cannot read", "Permission denied"])
+
+    def test_unsupported_input(self):
+        for content in (bytes(range(256)) * 8, b"\x7fELF" + bytes(200), b"RIFF\x10\0\0\0WAVEjunk" + bytes(8)):
+            self.refused(self.path("strange.wav", content), says=["strange.wav", "neither a sound file"])
+
+    def test_wrong_numbers_are_told_with_their_line(self):
+        path = self.path("numbers.txt", b"1 2\n# three\n\n3 4, five 6\n")
+        self.refused(path, "--length", 2, says=["numbers.txt, line 4: 'five' is not a number"])
+        for word in ("0x10", "1.5.2", "nan", "inf", "--1", "+-1", "1e", "+", "\x01\x02", "x" * 2000, "1;2", "é"):
+            line = self.refused("-", "--length", 2, given=("1\n2\n" + word).encode(), says=["line 3", "not a number"])
+            self.assertLess(len(line), 150)
+        for word in ("1e999", "7" * 2000):
+            self.refused("-", "--length", 2, given=b"1 " + word.encode(),
+                         says=["line 1: '" + word[:40], "beyond the range"])
+
+    def test_too_few_samples(self):
+        self.refused("-", "--length", 16, given=b"", says=["too few samples: 0", "takes 16"])
+        self.refused("-", "--length", 16, given=b"1 2 3", says=["too few samples: 3", "takes 16"])
+        self.refused(self.path("empty"), says="No such file")
+        self.refused(self.path("empty", b""), says="too few samples: 0")
+        self.refused(self.path("short.wav", sound_files.wav([[1] * 63])), says=["short.wav", "too few samples: 63"])
+
+    def test_channels(self):
+        path = self.path("mono.wav", sound_files.wav([[1] * 100]))
+        self.refused(path, "--channel", 2, says=["--channel 2", "mono.wav has 1 channel"])
+
+    def test_damaged_sound_does_not_pass(self):
+        data = sound_files.flac([round(9000 * math.sin(i)) for i in range(2048)])
+        self.refused(self.path("cut.flac", data[:len(data) // 2]), says=["cut.flac", "cannot be read beyond sample"])
+
+    def test_output_that_cannot_be_written(self):
+        given = b"1 2 3 4 " * 64
+        self.refused("-", "--output", self.path("no/such.csv"), given=given, says=["cannot write", "No such file"])
+        self.refused("-", "--output", self.folder.name, "--format", "csv", given=given, says="cannot write")
+
+    def test_full_disk(self):
+        given = b"1 2 3 4 " * 64
+        for format_name in ("text", "csv", "png"):
+            self.refused("-", "--format", format_name, "--output", "/dev/full", given=given,
+                         says="cannot write /dev/full: No space left on device")
+            with open("/dev/full", "wb") as full:
+                self.refused("-", "--format", format_name, given=given, stdout=full,
+                             says="cannot write standard output: No space left on device")
+        for arguments in (["-", "--check"], ["--help"], ["--version"]):
+            with open("/dev/full", "wb") as full:
+                self.refused(*arguments, given=given, stdout=full, says="cannot write standard output")
+
+    def test_files_survive_a_refused_run(self):
+        path = self.path("kept.csv", b"precious")
+        self.refused("-", "--output", path, given=b"1 2", says="too few")
+        self.refused("-", "--length", 65, "--output", path, given=b"1 2", says="--length 65")
+        with open(path, "rb") as file:
+            self.assertEqual(file.read(), b"precious")
+        path = self.path("input.txt", b"1 2 3 4")
+        self.refused(path, "--length", 4, "--output", path, says="that is the input itself")
+
+    def test_picture_is_not_sent_to_a_terminal(self):
+        ours, theirs = pty.openpty()
+        self.refused("-", "--format", "png", given=b"1 2 3 4 " * 64, stdout=theirs, says=["terminal", "--output"])
+        os.close(theirs)
+        os.close(ours)
+
+
+if __name__ == "__main__":
+    TOOL = os.path.abspath(sys.argv.pop(1))
+    unittest.main()

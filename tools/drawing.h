@@ -1,0 +1,32 @@
+// A picture in memory: rectangles, a small set of letters, and the bytes of a PNG file at the end.
+// Points are counted from the top left corner.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "colour_map.h"
+
+namespace spectrum {
+
+class Drawing {
+public:
+    Drawing(int width, int height, Colour background);
+
+    // Both cut off what falls outside.
+    void fill(int left, int top, int width, int height, Colour colour);
+    // `left` and `top` are those of the first letter. Letters that are not in the set are left blank.
+    void text(int left, int top, std::string_view letters, Colour colour);
+
+    static int textWidth(std::string_view letters);
+    static constexpr int textHeight = 14;
+
+    std::string png() const;
+
+private:
+    int width, height;
+    std::vector<Colour> points;
+};
+
+}  // namespace spectrum

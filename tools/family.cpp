@@ -1,0 +1,47 @@
+// The table of families, and the adapters between real samples and the argument lists of the library's routines.
+// Lengths go through the dispatchers, so that the library alone decides which exist.
+#include "family.h"
+
+#include <algorithm>
+#include <array>
+
+namespace spectrum {
+namespace {
+
+// The library's complex elements have the layout of std::complex.
+inline const Zulg32fc* plain(const std::complex<float>* data) { return reinterpret_cast<const Zulg32fc*>(data); }
+inline const Zulg64fc* plain(const std::complex<double>* data) { return reinterpret_cast<const Zulg64fc*>(data); }
+inline Zulg32fc* plain(std::complex<float>* data) { return reinterpret_cast<Zulg32fc*>(data); }
+inline Zulg64fc* plain(std::complex<double>* data) { return reinterpret_cast<Zulg64fc*>(data); }
+
+template <typename T, auto routine>
+ZulgStatus complexForward(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
+    std::array<std::complex<T>, longestLength> points{};
+    std::copy_n(samples, length, points.begin());
+    return routine(plain(points.data()), plain(bins), length, flag);
+}
+
+template <typename T, auto routine>
+ZulgStatus complexInverse(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
+    return routine(plain(bins), plain(points), length, flag);
+}
+
+constexpr Family families[] = {
+    {
+        .name = "complex",
+        .binCount = [](int length) { return length; },
+        // Samples are real, so that the bins above the middle only mirror the others.
+        .shownCount = [](int length) { return length / 2 + 1; },
+        .frequency = [](int bin, int length) { return double(bin <= length / 2 ? bin : bin - length) / length; },
+        .magnitude = [](ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); },
+        .restoringFlag = [](std::int32_t flag) { return std::int32_t{flag == NoDivByAny ? DivInvByN : flag}; },
+        .single = {complexForward<float, zulgDFTFwd_CToC_32fc>, complexInverse<float, zulgDFTInv_CToC_32fc>},
+        .wide = {complexForward<double, zulgDFTFwd_CToC_64fc>, complexInverse<double, zulgDFTInv_CToC_64fc>},
+    },
+};
+
+}  // namespace
+
+std::span<const Family> allFamilies() { return families; }
+
+}  // namespace spectrum

@@ -1,0 +1,135 @@
+// zulspectrum: short-time spectra of sound files and of numbers, with the transforms of the library beside it.
+// This file is the run itself, from the options to the report; run with --help for what it can do.
+#include <unistd.h>
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+
+#include "frames.h"
+#include "progress.h"
+#include "sink.h"
+#include "user_error.h"
+
+namespace spectrum {
+namespace {
+
+std::unique_ptr<Sink> makeSink(const Heading& heading, OutputFile& file) {
+    switch (heading.options.format) {
+    case Format::Csv: return makeCsvSink(heading, file);
+    case Format::Png: return makePictureSink(heading, file);
+    default: return makeTextSink(heading, file);
+    }
+}
+
+void refuseBadTargets(const Options& options) {
+    if (!options.writesSpectrum) return;
+    if (options.output == "-" && options.format == Format::Png && isatty(STDOUT_FILENO) == 1) {
+        throw UserError("a picture cannot go to a terminal; name a file with --output");
+    }
+    std::error_code error;
+    if (std::filesystem::is_regular_file(options.input, error) &&
+        std::filesystem::equivalent(options.input, options.output, error)) {
+        throw UserError("--output " + printable(options.output) + ": that is the input itself");
+    }
+}
+
+// What --check adds to a run.
+class Check {
+public:
+    explicit Check(const Transform& given) : transform(given) {}
+
+    void add(std::span<const double> samples) {
+        transform.forward(samples, bins);
+        transform.inverse(bins, points);
+        error.add(samples, points);
+    }
+
+    // Where the spectrum is on standard output, the report must not get between its lines.
+    void report(const Options& options, const Source& source, std::int64_t samples, std::int64_t frames) const {
+        std::FILE* const stream = options.writesSpectrum && options.output == "-" ? stderr : stdout;
+        std::fprintf(stream, "input           %s, %lld samples", source.name.c_str(), static_cast<long long>(samples));
+        if (source.isSound) {
+            std::fprintf(stream, ", %.3f s at %.0f Hz", static_cast<double>(samples) / source.rate, source.rate);
+        }
+        std::fprintf(stream, "\ntransforms      %lld of %d points each way\n", static_cast<long long>(frames),
+                     options.length);
+        std::fprintf(stream, "relative error  %.3g after the inverse transform\n", error.value());
+    }
+
+private:
+    const Transform& transform;
+    Bins bins, points;
+    RelativeError error;
+};
+
+// Gives each frame to the sink, if there is one, and to the check, if that is asked for; tells the number of frames.
+std::int64_t runFrames(Frames& frames, const Transform& transform, const Options& options, Sink* sink, Check& check,
+                       Progress& progress) {
+    const std::vector<double> weights = windowWeights(options.window, options.length);
+    std::vector<double> weighted(weights.size());
+    Bins bins;
+    std::int64_t frame = 0;
+    do {
+        const std::span<const double> samples = frames.samples();
+        if (sink) {
+            for (std::size_t i = 0; i < weights.size(); ++i) weighted[i] = weights[i] * samples[i];
+            transform.forward(weighted, bins);
+            sink->add(frame, bins);
+        }
+        if (options.check) check.add(samples);
+        progress.at(frames.samplesRead());
+        ++frame;
+    } while (frames.next());
+    return frame;
+}
+
+void run(const Options& options) {
+    const Transform transform(options);
+    refuseBadTargets(options);
+    const std::unique_ptr<Source> source = openInput(options.input, options.channel);
+    // A spectrum that runs over the same terminal is progress enough.
+    const bool toTerminal = options.writesSpectrum && options.output == "-" && isatty(STDOUT_FILENO) == 1;
+    std::optional<Progress> progress(std::in_place, !toTerminal && isatty(STDERR_FILENO) == 1, source->total);
+    Frames frames(*source, options.length, options.hop);
+
+    // Opened only now: an input that gives nothing leaves an earlier output as it was.
+    const Heading heading{options, source->name, source->isSound, source->rate};
+    std::optional<OutputFile> file;
+    std::unique_ptr<Sink> sink;
+    if (options.writesSpectrum) sink = makeSink(heading, file.emplace(options.output));
+
+    Check check(transform);
+    const std::int64_t count = runFrames(frames, transform, options, sink.get(), check, *progress);
+    if (sink) sink->finish();
+    if (file) file->close();
+    progress.reset();  // its line goes before the report comes
+    if (options.check) check.report(options, *source, frames.samplesRead(), count);
+}
+
+// The report and the help go to standard output too, and its disk may be full.
+void flushStandardOutput() {
+    if (!std::cout.flush() || std::fflush(stdout) != 0) throw UserError("cannot write standard output");
+}
+
+int runProgram(int argc, char** argv) {
+    int exitCode = 0;
+    const std::optional<Options> options = readOptions(argc, argv, exitCode);
+    if (options) run(*options);
+    flushStandardOutput();
+    return exitCode;
+}
+
+}  // namespace
+}  // namespace spectrum
+
+int main(int argc, char** argv) {
+    try {
+        return spectrum::runProgram(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "zulspectrum: %s\n", error.what());
+        return 1;
+    }
+}

@@ -1,0 +1,178 @@
+// The command line, read with CLI11. What the words of the options mean is all here; a wrong one ends in one line of
+// text, whether CLI11 or this file finds it.
+#include "options.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <filesystem>
+#include <limits>
+#include <map>
+
+#include "user_error.h"
+
+namespace spectrum {
+namespace {
+
+// The options as they are typed.
+struct Words {
+    std::string input, family = "complex", flag = "backward", window = "none", format, output = "-";
+    int length = 64, hop = 0, channel = 1, precision = 64;
+    bool check = false;
+};
+
+constexpr std::pair<const char*, std::int32_t> flagNames[] = {
+    {"forward", DivFwdByN}, {"backward", DivInvByN}, {"ortho", DivBySqrtN}, {"none", NoDivByAny}};
+
+constexpr const char* footer =
+    "The scale is 1/N in the forward transform (--flag forward or 1), 1/N in the inverse (backward or 2), 1/sqrt(N)\n"
+    "in both (ortho or 4), or 1 (none or 8).\n"
+    "\n"
+    "INPUT is a sound file (WAV, FLAC), a text file of real numbers, or - for numbers on standard input. Numbers are\n"
+    "separated by white space or commas; # starts a comment. Frames start every --hop samples. When samples remain\n"
+    "after the last full frame, one more frame is filled up with zeros; an input shorter than one frame is refused.\n"
+    "\n"
+    "Frequencies are in Hz and times in seconds for sound files, in cycles per sample and in samples for numbers.\n"
+    "A picture shows time to the right, frequency upward, and 80 dB below the strongest bin.\n"
+    "\n"
+    "--check transforms each frame, unwindowed, there and back, and reports the root of the summed squared error over\n"
+    "the root of the summed squares. The spectrum is then written only if --output or --format is given too.\n"
+    "\n"
+    "  zulspectrum voice.wav --length 60 --hop 30 --window hann --output voice.png\n"
+    "  seq 100 | zulspectrum - --length 25 --format csv\n"
+    "  zulspectrum voice.wav --length 48 --check";
+
+std::string versionText() {
+    const LibVersion& library = *zulgenGetLibVersion();
+    const std::string_view cpu(library.targetCpu, sizeof library.targetCpu);
+    const auto number = [](std::int32_t value) { return std::to_string(value); };
+    return std::string("zulspectrum with ") + library.name + ", version " + library.version + ", " +
+           library.buildDate + "\nmajor.minor.majorBuild.build " + number(library.major) + "." +
+           number(library.minor) + "." + number(library.majorBuild) + "." + number(library.build) + ", targetCpu " +
+           std::string(cpu.substr(0, cpu.find('\0')));
+}
+
+std::int32_t flagOf(const std::string& word) {
+    for (const auto& [name, flag] : flagNames) {
+        if (word == name) return flag;
+    }
+    std::int32_t flag = 0;
+    const char* const end = word.data() + word.size();
+    const auto [rest, error] = std::from_chars(word.data(), end, flag);
+    if (error != std::errc{} || rest != end) {
+        throw UserError("--flag " + printable(word) + ": neither a number nor forward, backward, ortho or none");
+    }
+    return flag;
+}
+
+std::string familyNames() {
+    std::string names;
+    for (const Family& family : allFamilies()) names += (names.empty() ? "" : ", ") + std::string(family.name);
+    return names;
+}
+
+const Family& familyOf(const std::string& word) {
+    for (const Family& family : allFamilies()) {
+        if (word == family.name) return family;
+    }
+    throw UserError("--family " + printable(word) + ": no such family; known: " + familyNames());
+}
+
+Format formatOf(const Words& words) {
+    static const std::map<std::string, Format> formats = {
+        {"", Format::Text},     {"text", Format::Text}, {".txt", Format::Text},
+        {"csv", Format::Csv},   {".csv", Format::Csv},  {"png", Format::Png},
+        {".png", Format::Png},
+    };
+    const std::string suffix = std::filesystem::path(words.output).extension().string();
+    const auto found = formats.find(words.format.empty() ? suffix : words.format);
+    if (found == formats.end()) {
+        throw UserError("--output " + printable(words.output) + ": no format has the suffix " + printable(suffix) +
+                        "; say which with --format");
+    }
+    return found->second;
+}
+
+void declareTransform(CLI::App& app, Words& words) {
+    app.add_option("--length", words.length, "Points of one transform, 2 to 64; not every length exists")
+        ->type_name("N")
+        ->capture_default_str();
+    app.add_option("--family", words.family, "Transform family: " + familyNames())
+        ->type_name("NAME")
+        ->capture_default_str();
+    app.add_option("--flag", words.flag, "Scale: forward, backward, ortho, none, or 1, 2, 4, 8 (see below)")
+        ->type_name("FLAG")
+        ->capture_default_str();
+    app.add_option("--precision", words.precision, "Bits of the numbers in the transforms: 32 or 64")
+        ->type_name("BITS")
+        ->check(CLI::IsMember({32, 64}).description(""))
+        ->capture_default_str();
+    app.add_flag("--check", words.check, "Report the error of the inverse transform (see below)");
+}
+
+void declareInput(CLI::App& app, Words& words) {
+    const CLI::Validator positive = CLI::Range(1, std::numeric_limits<int>::max()).description("");
+    app.add_option("INPUT", words.input, "Sound file, text file, or - for numbers on standard input")
+        ->required()
+        ->type_name("");
+    app.add_option("--hop", words.hop, "Samples from the start of one frame to the next [the length]")
+        ->type_name("N")
+        ->check(positive);
+    app.add_option("--window", words.window, "Weights of the samples of a frame: none or hann")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"none", "hann"}).description(""))
+        ->capture_default_str();
+    app.add_option("--channel", words.channel, "Channel of a sound file, counted from 1")
+        ->type_name("N")
+        ->check(positive)
+        ->capture_default_str();
+}
+
+void declareOutput(CLI::App& app, Words& words) {
+    app.add_option("--format", words.format, "text, csv or png [by the suffix of --output, else text]")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"text", "csv", "png"}).description(""));
+    app.add_option("--output", words.output, "File to write [standard output]")->type_name("FILE");
+    app.set_version_flag("--version", versionText, "Print the version record of the library and exit");
+}
+
+}  // namespace
+
+std::string flagName(std::int32_t flag) {
+    for (const auto& [name, value] : flagNames) {
+        if (value == flag) return name;
+    }
+    return std::to_string(flag);
+}
+
+std::optional<Options> readOptions(int argc, char** argv, int& exitCode) {
+    CLI::App app("Short-time spectra with the transforms of zulgenpx", "zulspectrum");
+    Words words;
+    declareInput(app, words);
+    declareTransform(app, words);
+    declareOutput(app, words);
+    app.footer(footer);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& done) {
+        exitCode = app.exit(done);
+        return std::nullopt;
+    } catch (const CLI::ParseError& error) {
+        throw UserError(printable(error.what()));
+    }
+    return Options{
+        .input = words.input,
+        .output = words.output,
+        .family = &familyOf(words.family),
+        .length = words.length,
+        .hop = words.hop > 0 ? words.hop : words.length,
+        .flag = flagOf(words.flag),
+        .channel = words.channel,
+        .window = words.window == "hann" ? Window::Hann : Window::None,
+        .precision = words.precision == 32 ? Precision::Single : Precision::Double,
+        .format = formatOf(words),
+        .writesSpectrum = !words.check || app.count("--output") > 0 || app.count("--format") > 0,
+        .check = words.check,
+    };
+}
+
+}  // namespace spectrum

@@ -8,9 +8,12 @@
 
 namespace zulg {
 
-// Whether the kernels of a length exist yet: so far, those whose prime factors are below 11.
-constexpr bool exists(int length) {
-    for (int p : {2, 3, 5, 7}) {
+// Whether the kernel of a length exists yet: so far, where no prime factor asks for a Rader block. The forward real
+// family has a direct form of 11.
+constexpr bool exists(Family family, int length) {
+    const bool isRealForward =
+        family == Family::DFTFwd_RToCCS || family == Family::DFTFwd_RToPack || family == Family::DFTFwd_RToPerm;
+    for (int p : {2, 3, 5, 7, isRealForward ? 11 : 7}) {
         while (length % p == 0) length /= p;
     }
     return length == 1;
@@ -18,7 +21,7 @@ constexpr bool exists(int length) {
 
 template <Family family, int length, class Element>
 constexpr KernelRoutine<Element> entry() {
-    if constexpr (exists(length)) return kernel<family, length, Element>;
+    if constexpr (exists(family, length)) return kernel<family, length, Element>;
     return nullptr;
 }
 

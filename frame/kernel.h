@@ -9,7 +9,16 @@ namespace zulg {
 
 using Status = ZulgStatus;
 
-enum class Family { DFTFwd_CToC, DFTInv_CToC };
+enum class Family {
+    DFTFwd_CToC,
+    DFTInv_CToC,
+    DFTFwd_RToCCS,
+    DFTFwd_RToPack,
+    DFTFwd_RToPerm,
+    DFTInv_CCSToR,
+    DFTInv_PackToR,
+    DFTInv_PermToR
+};
 
 constexpr int shortestLength = 2, longestLength = 64;
 

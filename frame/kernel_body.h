@@ -10,28 +10,68 @@ namespace zulg {
 // The text of a graph, specialised for each length: `run`, and 1/sqrt(length) as a double.
 template <int length>
 struct ComplexGraph;
+template <int length>
+struct RealForwardGraph;
+template <int length>
+struct RealInverseGraph;
 
-// What a family is made of: graph, ports, and the flags that divide by N.
+// What the flags mean: forward families divide by N at one flag, inverse ones at the other.
+struct ForwardFlags {
+    static constexpr bool isDivided(std::int32_t flag) { return flag == DivFwdByN; }
+};
+struct InverseFlags {
+    static constexpr bool isDivided(std::int32_t flag) { return flag == DivInvByN; }
+};
+
+// What a family is made of: flags, graph and ports.
 template <Family family>
 struct Parts;
 
 template <>
-struct Parts<Family::DFTFwd_CToC> {
+struct Parts<Family::DFTFwd_CToC> : ForwardFlags {
     template <int length>
     using Graph = ComplexGraph<length>;
-    template <class Element>
+    template <class Element, int length>
     using Ports = ComplexPorts<Element>;
-    static constexpr bool isDivided(std::int32_t flag) { return flag == DivFwdByN; }
 };
 
 template <>
-struct Parts<Family::DFTInv_CToC> {
+struct Parts<Family::DFTInv_CToC> : InverseFlags {
     template <int length>
     using Graph = ComplexGraph<length>;
-    template <class Element>
+    template <class Element, int length>
     using Ports = ExchangedPorts<Element>;
-    static constexpr bool isDivided(std::int32_t flag) { return flag == DivInvByN; }
 };
+
+template <Layout layout>
+struct RealForward : ForwardFlags {
+    template <int length>
+    using Graph = RealForwardGraph<length>;
+    template <class Element, int length>
+    using Ports = RealForwardPorts<Element, layout, length>;
+};
+
+template <>
+struct Parts<Family::DFTFwd_RToCCS> : RealForward<Layout::CCS> {};
+template <>
+struct Parts<Family::DFTFwd_RToPack> : RealForward<Layout::Pack> {};
+template <>
+struct Parts<Family::DFTFwd_RToPerm> : RealForward<Layout::Perm> {};
+
+template <Layout layout>
+struct RealInverse : InverseFlags {
+    template <int length>
+    using Graph = RealInverseGraph<length>;
+    template <class Element, int length>
+    using Ports = RealInversePorts<Element, layout, length>;
+};
+
+template <>
+struct Parts<Family::DFTInv_CCSToR> : RealInverse<Layout::CCS> {};
+template <>
+struct Parts<Family::DFTInv_PackToR> : RealInverse<Layout::Pack> {};
+template <>
+struct Parts<Family::DFTInv_PermToR> : RealInverse<Layout::Perm> {};
 
 // The stored factors of one length: of the width of the data, 1/N exact and rounded once, 1/sqrt(N) the double of the
 // graph rounded on.
@@ -60,7 +100,9 @@ Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
     } else {
         return StatusFlagError;
     }
-    Graph::run(typename Parts<family>::template Ports<Element>{{pSrc, pDst, scale}});
+    const typename Parts<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
+    Graph::run(io);
+    io.finish();
     return StatusOk;
 }
 

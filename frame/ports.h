@@ -5,6 +5,10 @@
 // output is multiplied by `scale` in double and rounded once, at the store.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
 #include "frame/platform.h"
 
 namespace zulg {
@@ -32,6 +36,14 @@ struct Arrays {
 
     ZULG_INLINE Value load(int place) const { return source[place]; }
     ZULG_INLINE void store(int place, Value value) const { destination[place] = static_cast<Element>(value * scale); }
+
+    // Where a graph holds minus a result, the sign is turned behind the scale: minus a zero is a negative zero.
+    ZULG_INLINE void storeMinus(int place, Value value) const {
+        destination[place] = static_cast<Element>(-(value * scale));
+    }
+
+    // Behind the last step of the graph.
+    ZULG_INLINE void finish() const {}
 };
 
 // Complex to complex: real part first.
@@ -55,6 +67,65 @@ struct ExchangedPorts : Arrays<Element> {
     ZULG_INLINE Value im(int n) const { return this->load(2 * n); }
     ZULG_INLINE void re(int k, Value value) const { this->store(2 * k + 1, value); }
     ZULG_INLINE void im(int k, Value value) const { this->store(2 * k, value); }
+};
+
+// The three layouts of a half spectrum, as the slots of the parts of bin k, 0 <= k <= length/2.
+//
+//     length 4   CCS   R0 0 R1 I1 R2 0      Pack  R0 R1 I1 R2      Perm  R0 R2 R1 I1
+//     length 5   CCS   R0 0 R1 I1 R2 I2     Pack  R0 R1 I1 R2 I2   Perm  the same
+enum class Layout { CCS, Pack, Perm };
+
+template <Layout layout, int length>
+struct Slots {
+    static constexpr bool isEven = length % 2 == 0;
+
+    static constexpr int re(int k) {
+        if (layout == Layout::CCS || k == 0) return 2 * k;
+        if (layout == Layout::Perm && isEven) return 2 * k == length ? 1 : 2 * k;
+        return 2 * k - 1;
+    }
+    static constexpr int im(int k) { return re(k) + 1; }
+};
+
+// Real values to half spectrum.
+template <class Element, Layout layout, int length>
+struct RealForwardPorts : Arrays<Element> {
+    using Value = double;
+    using Slot = Slots<layout, length>;
+
+    ZULG_INLINE Value in(int n) const { return this->load(n); }
+    ZULG_INLINE void re(int k, Value value) const { this->store(Slot::re(k), value); }
+    ZULG_INLINE void im(int k, Value value) const { this->store(Slot::im(k), value); }
+    ZULG_INLINE void minusRe(int k, Value value) const { this->storeMinus(Slot::re(k), value); }
+    ZULG_INLINE void minusIm(int k, Value value) const { this->storeMinus(Slot::im(k), value); }
+
+    // CCS keeps the imaginary parts of the real bins, always +0.0. They are no results: stored as integers, so that
+    // they take no floating-point register and leave the rest of the kernel as it is in the other layouts.
+    ZULG_INLINE void finish() const {
+        if constexpr (layout == Layout::CCS) {
+            storeZero(Slot::im(0));
+            if (Slot::isEven) storeZero(Slot::im(length / 2));
+        }
+    }
+
+private:
+    // Word by word: a zero of eight bytes would claim space in the frame on 32-bit targets.
+    ZULG_INLINE void storeZero(int slot) const {
+        const std::uint32_t zero = 0;
+        auto* const bytes = reinterpret_cast<char*>(this->destination + slot);
+        for (std::size_t i = 0; i < sizeof(Element); i += sizeof zero) std::memcpy(bytes + i, &zero, sizeof zero);
+    }
+};
+
+// Half spectrum to real values. The imaginary parts of the real bins, which CCS has slots for, are never read.
+template <class Element, Layout layout, int length>
+struct RealInversePorts : Arrays<Element> {
+    using Value = double;
+    using Slot = Slots<layout, length>;
+
+    ZULG_INLINE Value re(int k) const { return this->load(Slot::re(k)); }
+    ZULG_INLINE Value im(int k) const { return this->load(Slot::im(k)); }
+    ZULG_INLINE void out(int n, Value value) const { this->store(n, value); }
 };
 
 }  // namespace zulg

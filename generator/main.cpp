@@ -19,7 +19,7 @@ constexpr const char* usage =
     "       generate list FAMILY N    prints the graph itself, one node to a line\n"
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
-    "FAMILY: complex.  The tree is the working folder.\n";
+    "FAMILY: complex, real_forward, real_inverse.  The tree is the working folder.\n";
 
 const gen::GraphEntry& find(const std::string& family, const std::string& length) {
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
@@ -29,9 +29,8 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
 }
 
 std::string kernelText(const gen::GraphEntry& entry) {
-    gen::Graph graph;
-    entry.build(graph);
-    return gen::emitKernels(entry, graph, gen::blockByBlock(graph));
+    const auto graph = entry.build();
+    return gen::emitKernels(entry, *graph, gen::blockByBlock(*graph));
 }
 
 // Path and text of every generated file.
@@ -102,11 +101,10 @@ int check() {
 
 int count() {
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
-        gen::Graph graph;
-        entry.build(graph);
-        const gen::Counts counts = graph.counts();
+        const auto graph = entry.build();
+        const gen::Counts counts = graph->counts();
         std::cout << entry.name() << " | " << entry.recipe() << " | " << counts.additions << " | "
-                  << counts.subtractions << " | " << counts.multiplications + static_cast<int>(graph.outputs().size())
+                  << counts.subtractions << " | " << counts.multiplications + static_cast<int>(graph->outputs().size())
                   << " | " << counts.negations << " | " << counts.constants << "\n";
     }
     return 0;
@@ -119,9 +117,8 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 1 && verb == "count") return count();
     if (words.size() == 3 && (verb == "show" || verb == "list" || verb == "dot")) {
         const gen::GraphEntry& entry = find(words[1], words[2]);
-        gen::Graph graph;
-        entry.build(graph);
-        std::cout << (verb == "show" ? kernelText(entry) : verb == "list" ? graph.text() : graph.dot());
+        const auto graph = entry.build();
+        std::cout << (verb == "show" ? kernelText(entry) : verb == "list" ? graph->text() : graph->dot());
         return 0;
     }
     std::cerr << usage;

@@ -96,13 +96,57 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    pDst may equal pSrc, and the two may overlap in any other way: all input is read before the first output is written.
 
    Accuracy, as the root of summed squared errors over summed squared results: below 2 * 2^-53 in double precision; in
-   single precision below 0.45 * 2^-24, since all arithmetic is done in double and rounded once, at the store.
+   single precision below 0.45 * 2^-24 (2 points, one rounded sum: 0.47), since all arithmetic is done in double and
+   rounded once, at the store.
 
    Without a length in the name, the length is the argument `length`; the result is bit for bit that of the routine of
    that length. StatusSizeError where there is none.
 
    Source: I. J. Good (1958) for the coprime factors, J. W. Cooley and J. W. Tukey (1965) for the powers of a prime,
    direct symmetric forms for 3, 5 and 7. docs/constructions.md tells which length is built how. */
+
+/* -- Real DFT ------------------------------------------------------------------------------------------------------
+
+   The spectrum of N real values has X[N-k] = conj X[k], so that bins 0 .. N/2 tell all; X[0] and, for even N, X[N/2] are
+   real. Three layouts hold this half spectrum in a flat array of reals:
+
+     zulgDFTFwd_RToCCS_<N>_32f    zulgDFTInv_CCSToR_<N>_32f     and with _64f
+     zulgDFTFwd_RToPack_<N>_32f   zulgDFTInv_PackToR_<N>_32f
+     zulgDFTFwd_RToPerm_<N>_32f   zulgDFTInv_PermToR_<N>_32f
+
+   Forward: N reals in, X[k] = scale * sum over n of x[n] exp(-2 pi i n k/N). Inverse: N reals out,
+   y[n] = scale * sum over all k of X[k] exp(+2 pi i n k/N), the bins above N/2 taken as conjugates.
+
+            elements             Re X[0]  Re X[N/2]  Re X[k]      Im X[k]       0 < k < N/2
+     CCS    N+2, or N+1 (odd N)        0          N  2k           2k+1          slots 1 and N+1 hold +0.0
+     Pack   N                          0        N-1  2k-1         2k
+     Perm   N, even                    0          1  2k           2k+1
+     Perm   N, odd                     0          -  2k-1         2k
+
+     N   CCS                            Pack                      Perm
+     2   R0 0 R1 0                      R0 R1                     R0 R1
+     3   R0 0 R1 I1                     R0 R1 I1                  R0 R1 I1
+     4   R0 0 R1 I1 R2 0                R0 R1 I1 R2               R0 R2 R1 I1
+     5   R0 0 R1 I1 R2 I2               R0 R1 I1 R2 I2            R0 R1 I1 R2 I2
+     6   R0 0 R1 I1 R2 I2 R3 0          R0 R1 I1 R2 I2 R3         R0 R3 R1 I1 R2 I2
+     7   R0 0 R1 I1 R2 I2 R3 I3         R0 R1 I1 R2 I2 R3 I3      R0 R1 I1 R2 I2 R3 I3
+     8   R0 0 R1 I1 R2 I2 R3 I3 R4 0    R0 R1 I1 R2 I2 R3 I3 R4   R0 R4 R1 I1 R2 I2 R3 I3
+     9   R0 0 R1 I1 R2 I2 R3 I3 R4 I4   R0 R1 I1 R2 I2 R3 I3 R4 I4   the same as Pack
+
+   NumPy's rfft returns the complex values X[0] .. X[N/2]: a CCS array is that array, real and imaginary parts in turn.
+   Pack is it without the zeros; Perm, at even N, has Re X[N/2] in the place of the first zero.
+
+   Forward CCS stores its zeros whatever the input and the flag. Inverse CCS reads slots 0 and 2 .. N only: N+1 elements
+   suffice, and what stands in the slots of the zeros is of no effect. All layouts of one length give the same bits.
+   pDst may equal pSrc (forward CCS then needs its N+2 or N+1 elements); other overlaps are not supported. A result that
+   is zero may be a negative zero.
+
+   Accuracy: below 3 * 2^-53 in double, below 0.45 * 2^-24 in single precision (2 points, one rounded sum: 0.47).
+
+   Source: the constructions of the complex DFT, each reduced by the symmetry of the spectrum; docs/constructions.md. */
+#define ZULG_CCS_LENGTH(N) ((N) / 2 * 2 + 2)
+#define ZULG_PACK_LENGTH(N) (N)
+#define ZULG_PERM_LENGTH(N) (N)
 
 /* -- All routines, one to a line ------------------------------------------------------------------------------------ */
 #include "zulgenpx_routines.h"

@@ -38,4 +38,30 @@ Values complexTransform(const Values& x, int sign) {
     return result;
 }
 
+Values realTransform(const Values& x) {
+    Values pairs;
+    for (Wide value : x) pairs.insert(pairs.end(), {value, 0});
+    Values bins = complexTransform(pairs, -1);
+    bins.resize(x.size() / 2 * 2 + 2);
+    bins[1] = 0;
+    if (x.size() % 2 == 0) bins[x.size() + 1] = 0;
+    return bins;
+}
+
+Values inverseRealTransform(const Values& bins, int length) {
+    Values spectrum(static_cast<std::size_t>(2 * length));
+    for (int k = 0; 2 * k <= length; ++k) {
+        const auto here = static_cast<std::size_t>(2 * k),
+                   mirrored = static_cast<std::size_t>(2 * ((length - k) % length));
+        const bool isReal = 2 * k % length == 0;
+        spectrum[here] = spectrum[mirrored] = bins[here];
+        spectrum[here + 1] = isReal ? 0 : bins[here + 1];
+        spectrum[mirrored + 1] = -spectrum[here + 1];
+    }
+    const Values pairs = complexTransform(spectrum, +1);
+    Values y;
+    for (std::size_t n = 0; n < pairs.size(); n += 2) y.push_back(pairs[n]);
+    return y;
+}
+
 }  // namespace test

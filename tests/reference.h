@@ -15,4 +15,10 @@ Wide sinTurn(int k, int n);
 // sum over n of x[n] exp(sign 2 pi i n k/N) for each k; x holds N pairs.
 Values complexTransform(const Values& x, int sign);
 
+// The bins 0 .. N/2 of real x, as pairs.
+Values realTransform(const Values& x);
+
+// The N real values whose spectrum has these bins 0 .. N/2, times N; imaginary parts of real bins are not looked at.
+Values inverseRealTransform(const Values& bins, int length);
+
 }  // namespace test

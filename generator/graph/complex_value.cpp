@@ -25,6 +25,12 @@ ComplexValue generalTurn(ComplexValue x, int e, int n) {
 
 }  // namespace
 
+Signal exchanged(const Signal& x) {
+    Signal result;
+    for (const ComplexValue& value : x) result.push_back(exchanged(value));
+    return result;
+}
+
 ComplexValue twiddled(ComplexValue x, int e, int n) {
     e = modulo(e, n);
     if (4 * e % n == 0) return quarterTurns(x, 4 * e / n);

@@ -17,6 +17,12 @@ inline ComplexValue operator+(ComplexValue a, ComplexValue b) { return {a.re + b
 inline ComplexValue operator-(ComplexValue a, ComplexValue b) { return {a.re - b.re, a.im - b.im}; }
 inline ComplexValue operator*(const Coefficient& factor, ComplexValue x) { return {factor * x.re, factor * x.im}; }
 
+inline ComplexValue conjugate(ComplexValue x) { return {x.re, -x.im}; }
+
+// The parts in each other's place. The inverse transform is the forward one between two exchanges.
+inline ComplexValue exchanged(ComplexValue x) { return {x.im, x.re}; }
+Signal exchanged(const Signal& x);
+
 // -i (a + ib) = b - ia: no step, the parts change places and a sign goes into what follows.
 inline ComplexValue timesMinusI(ComplexValue x) { return {x.im, -x.re}; }
 

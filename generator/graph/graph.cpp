@@ -57,12 +57,6 @@ Value Graph::product(const Coefficient& factor, Value x) {
     return {this, insert(Kind::Mul, x.node, constant(factor)), x.minus != (factor.value < 0)};
 }
 
-void Graph::store(int output, Value value) {
-    const auto place = static_cast<std::size_t>(output);
-    if (allOutputs.size() <= place) allOutputs.resize(place + 1, {-1, false});
-    allOutputs[place] = {value.node, value.minus};
-}
-
 int Graph::beginBlock(const std::string& title) {
     titles.push_back(title);
     return std::exchange(currentTitle, static_cast<int>(titles.size()) - 1);
@@ -117,8 +111,8 @@ std::string Graph::text() const {
         }
         text += "\n";
     }
-    for (std::size_t k = 0; k < allOutputs.size(); ++k) {
-        text += "out " + std::to_string(k) + " = " + (allOutputs[k].minus ? "-" : "") + name(allOutputs[k].node) + "\n";
+    for (const Output& output : allOutputs) {
+        text += "out " + std::to_string(output.place) + " = " + (output.minus ? "-" : "") + name(output.node) + "\n";
     }
     return text;
 }
@@ -146,11 +140,11 @@ std::string Graph::dot() const {
         edge(node.a, name);
         if (node.kind != Kind::Mul) edge(node.b, name);
     }
-    for (std::size_t k = 0; k < allOutputs.size(); ++k) {
-        const std::string name = "out" + std::to_string(k);
-        text += "    " + name + " [label=\"" + (allOutputs[k].minus ? "-" : "") + "X" + std::to_string(k) +
+    for (const Output& output : allOutputs) {
+        const std::string name = "out" + std::to_string(output.place);
+        text += "    " + name + " [label=\"" + (output.minus ? "-" : "") + "X" + std::to_string(output.place) +
                 "\", shape=box, fillcolor=lightgreen];\n";
-        edge(allOutputs[k].node, name);
+        edge(output.node, name);
     }
     return text + "}\n";
 }

@@ -51,6 +51,7 @@ struct Node {
 };
 
 struct Output {
+    int place;  // which output it is; places may be left out
     int node;
     bool minus;
 };
@@ -70,12 +71,15 @@ public:
     Value sum(Value a, Value b);
     Value product(const Coefficient& factor, Value x);
 
-    // Gives output number `output` (0, 1, 2, ...) its value.
-    void store(int output, Value value);
+    // Gives the output at `place` its value. Outputs keep the order in which they are stored.
+    void store(int place, Value value) { allOutputs.push_back({place, value.node, value.minus}); }
 
     // Nodes inserted from here on belong to the block of this title; returns the title that stood before.
     int beginBlock(const std::string& title);
-    void endBlock(int previous) { currentTitle = previous; }
+    void continueBlock(int title) { currentTitle = title; }
+
+    // Takes over the blocks of another graph, so that its nodes can be copied into the block each of them has.
+    void takeBlocksOf(const Graph& other) { titles = other.titles; }
 
     const std::vector<Node>& nodes() const { return allNodes; }
     const std::vector<Constant>& constants() const { return allConstants; }
@@ -109,7 +113,7 @@ private:
 class Titled {
 public:
     Titled(Graph& owner, const std::string& title) : graph(owner), previous(owner.beginBlock(title)) {}
-    ~Titled() { graph.endBlock(previous); }
+    ~Titled() { graph.continueBlock(previous); }
     Titled(const Titled&) = delete;
     Titled& operator=(const Titled&) = delete;
 
@@ -123,7 +127,7 @@ inline Value operator+(Value a, Value b) { return a.graph->sum(a, b); }
 inline Value operator-(Value a, Value b) { return a.graph->sum(a, -b); }
 inline Value operator*(const Coefficient& factor, Value x) { return x.graph->product(factor, x); }
 
-// The graph as its own interpreter: the outputs for these inputs, in the arithmetic of T.
+// The graph as its own interpreter: the outputs for these inputs, in the arithmetic of T; 0 at places left out.
 template <class T>
 std::vector<T> evaluate(const Graph& graph, std::span<const T> inputs) {
     std::vector<T> value;
@@ -143,8 +147,9 @@ std::vector<T> evaluate(const Graph& graph, std::span<const T> inputs) {
     }
     std::vector<T> result;
     for (const Output& output : graph.outputs()) {
-        const T x = at(output.node);
-        result.push_back(output.minus ? -x : x);
+        const auto place = static_cast<std::size_t>(output.place);
+        if (result.size() <= place) result.resize(place + 1, T{0});
+        result[place] = output.minus ? T{-at(output.node)} : at(output.node);
     }
     return result;
 }

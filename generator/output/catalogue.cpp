@@ -2,11 +2,53 @@
 
 #include <algorithm>
 
+#include "graph/merge.h"
 #include "rules/blocks.h"
-#include "rules/tables.h"
 
 namespace gen {
 namespace {
+
+std::unique_ptr<Graph> buildComplex(int length) {
+    auto graph = std::make_unique<Graph>();
+    Signal x;
+    for (int n = 0; n < length; ++n) x.push_back({graph->load(2 * n), graph->load(2 * n + 1)});
+    x = complexBlock(x, 1);
+    for (int k = 0; k < length; ++k) {
+        graph->store(2 * k, x[static_cast<std::size_t>(k)].re);
+        graph->store(2 * k + 1, x[static_cast<std::size_t>(k)].im);
+    }
+    return merged(std::move(graph));
+}
+
+std::unique_ptr<Graph> buildRealForward(int length) {
+    auto graph = std::make_unique<Graph>();
+    RealSignal x;
+    for (int n = 0; n < length; ++n) x.push_back(graph->load(n));
+    const HalfSpectrum bins = realBlock(x, 1);
+    for (int k = 0; k <= bins.half(); ++k) {
+        graph->store(2 * k, bins.real(k));
+        if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
+    }
+    return merged(std::move(graph));
+}
+
+// Each interior bin stands for itself and its conjugate: its parts are doubled first.
+std::unique_ptr<Graph> buildRealInverse(int length) {
+    auto graph = std::make_unique<Graph>();
+    const Titled title(*graph, "doubled bins");
+    const Coefficient two{2, "2"};
+    HalfSpectrum bins(length);
+    for (int k = 0; k <= bins.half(); ++k) {
+        if (bins.isReal(k)) {
+            bins.setReal(k, graph->load(2 * k));
+        } else {
+            bins.set(k, {two * graph->load(2 * k), two * graph->load(2 * k + 1)});
+        }
+    }
+    const RealSignal y = spectrumBlock(bins, 1);
+    for (int n = 0; n < length; ++n) graph->store(n, y[static_cast<std::size_t>(n)]);
+    return merged(std::move(graph));
+}
 
 const std::vector<GraphFamily> families = {
     {.word = "complex",
@@ -17,7 +59,34 @@ const std::vector<GraphFamily> families = {
      .suffixTail = "fc",
      .complexInput = true,
      .complexOutput = true,
-     .allowsNegation = false},
+     .allowsNegation = false,
+     .recipes = complexRecipes,
+     .recipeText = complexText,
+     .build = buildComplex},
+    {.word = "real_forward",
+     .graphTemplate = "RealForwardGraph",
+     .filePrefix = "rdft_",
+     .title = "Forward DFT of %d real points",
+     .exported = {"DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm"},
+     .suffixTail = "f",
+     .complexInput = false,
+     .complexOutput = true,
+     .allowsNegation = true,
+     .recipes = realForwardRecipes,
+     .recipeText = realText,
+     .build = buildRealForward},
+    {.word = "real_inverse",
+     .graphTemplate = "RealInverseGraph",
+     .filePrefix = "rdft_",
+     .title = "Inverse DFT to %d real points",
+     .exported = {"DFTInv_CCSToR", "DFTInv_PackToR", "DFTInv_PermToR"},
+     .suffixTail = "f",
+     .complexInput = true,
+     .complexOutput = false,
+     .allowsNegation = false,
+     .recipes = realInverseRecipes,
+     .recipeText = realText,
+     .build = buildRealInverse},
 };
 
 struct Width {
@@ -26,19 +95,11 @@ struct Width {
 };
 constexpr Width widths[] = {{"32", "float"}, {"64", "double"}};
 
-void buildComplex(Graph& graph, int length) {
-    Signal x;
-    for (int n = 0; n < length; ++n) x.push_back({graph.load(2 * n), graph.load(2 * n + 1)});
-    x = complexBlock(x, 1);
-    for (int k = 0; k < length; ++k) {
-        graph.store(2 * k, x[static_cast<std::size_t>(k)].re);
-        graph.store(2 * k + 1, x[static_cast<std::size_t>(k)].im);
-    }
-}
-
 std::vector<GraphEntry> listGraphs() {
     std::vector<GraphEntry> graphs;
-    for (const Recipe& recipe : complexRecipes()) graphs.push_back({&families[0], recipe.length});
+    for (const GraphFamily& family : families) {
+        for (const Recipe& recipe : family.recipes()) graphs.push_back({&family, recipe.length});
+    }
     return graphs;
 }
 
@@ -78,9 +139,9 @@ std::string GraphEntry::title() const {
     return title.replace(title.find("%d"), 2, std::to_string(length));
 }
 
-std::string GraphEntry::recipe() const { return complexText(complexRecipe(length)); }
-
-void GraphEntry::build(Graph& graph) const { buildComplex(graph, length); }
+std::string GraphEntry::recipe() const {
+    return family->recipeText(*std::ranges::find(family->recipes(), length, &Recipe::length));
+}
 
 const std::vector<GraphEntry>& allGraphs() {
     static const std::vector<GraphEntry> graphs = listGraphs();

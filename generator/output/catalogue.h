@@ -1,14 +1,16 @@
 // The list of everything that is generated and exported. The only place where the name of a family is spelled.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "graph/graph.h"
+#include "rules/tables.h"
 
 namespace gen {
 
-// One family of graphs: 63 texts, each seen through the kernels of several exported families.
+// One family of graphs, one for each length, each seen through the kernels of several exported families.
 struct GraphFamily {
     std::string word;                   // "complex", as the command line and the tables say it
     std::string graphTemplate;          // "ComplexGraph"
@@ -18,6 +20,10 @@ struct GraphFamily {
     std::string suffixTail;             // of the element suffix: "fc" for complex elements, "f" for real ones
     bool complexInput, complexOutput;   // whether inputs and outputs go by (number, part) or by number
     bool allowsNegation;                // whether an output may be stored with its sign turned
+
+    const std::vector<Recipe>& (*recipes)();
+    std::string (*recipeText)(const Recipe& recipe);
+    std::unique_ptr<Graph> (*build)(int length);
 };
 
 // One graph: a family and a length.
@@ -29,7 +35,7 @@ struct GraphEntry {
     std::string file() const;
     std::string title() const;
     std::string recipe() const;
-    void build(Graph& graph) const;
+    std::unique_ptr<Graph> build() const { return family->build(length); }
 };
 
 // One exported routine, with its slot: the routine as the library's own sources name it, and the size of its arguments.

@@ -1,5 +1,6 @@
 #include "output/emit.h"
 
+#include <cctype>
 #include <charconv>
 #include <map>
 #include <stdexcept>
@@ -72,9 +73,15 @@ std::string loadText(const Node& node, bool isComplex) {
     return "io." + (place.part.empty() ? "in" : place.part) + "(" + place.number + ")";
 }
 
-std::string storeText(int output, const std::string& value, bool isComplex) {
-    const Place place = placeOf(output, isComplex);
-    return "io." + (place.part.empty() ? "out" : place.part) + "(" + place.number + ", " + value + ");";
+// A store: io.re(3, t7); or, where the output has a minus, io.minusRe(3, t7);
+std::string storeText(const Output& output, const std::string& value, bool isComplex) {
+    const Place place = placeOf(output.place, isComplex);
+    std::string port = place.part.empty() ? "out" : place.part;
+    if (output.minus) {
+        port[0] = static_cast<char>(std::toupper(port[0]));
+        port = "minus" + port;
+    }
+    return "io." + port + "(" + place.number + ", " + value + ");";
 }
 
 std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
@@ -85,7 +92,7 @@ std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule
                        entry.recipe() + ".\n// " + to_string(counts.additions) + " additions, " +
                        to_string(counts.subtractions) + " subtractions, " + to_string(counts.multiplications) +
                        " multiplications (" + to_string(counts.multiplications + outputs) + " with `scale`); ";
-    if (counts.negations > 0) text += to_string(counts.negations) + " negations; ";
+    if (counts.negations > 0) text += to_string(counts.negations) + " outputs negated; ";
     return text + to_string(counts.constants) + " constants; " + to_string(schedule.mostAlive) +
            " values alive at most.\n";
 }
@@ -120,9 +127,9 @@ std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedul
         if (step.kind == Step::Kind::Store) {
             const Output& output = graph.outputs()[static_cast<std::size_t>(step.number)];
             if (output.minus && !entry.family->allowsNegation) {
-                throw std::logic_error(entry.name() + ": output " + to_string(step.number) + " is left with a minus");
+                throw std::logic_error(entry.name() + ": output " + to_string(output.place) + " is left with a minus");
             }
-            text += storeText(step.number, names.value(output.node), entry.family->complexOutput);
+            text += storeText(output, names.value(output.node), entry.family->complexOutput);
         } else {
             const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
             text += "const V " + names.value(step.number) + " = " +

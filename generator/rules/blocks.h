@@ -3,13 +3,34 @@
 //
 // Every block takes a multiplier a, coprime to its length L, and then works with the root W_L^a in place of W_L: that
 // is how it stands inside a prime-factor construction. W_L is exp(-2 pi i/L). No block has a scale factor.
+//
+// A real or spectrum block takes its factor order from its row, or as an argument where a longer block prescribes it.
 #pragma once
 
-#include "graph/complex_value.h"
+#include "rules/half_spectrum.h"
+#include "rules/tables.h"
 
 namespace gen {
 
 // Z[k] = sum over n of x[n] W_L^(a n k), k = 0 .. L - 1, with L the length of x.
 Signal complexBlock(const Signal& x, int a);
+
+// The same with the root W_L^-a.
+Signal inverseComplexBlock(const Signal& x, int a);
+
+// Z[k] = sum over n of x[n] W_L^(a n k) for real x, k = 0 .. L/2.
+HalfSpectrum realBlock(const RealSignal& x, int a);
+HalfSpectrum realBlock(const RealSignal& x, int a, const Recipe& recipe);
+
+// The mirror: y[n] = E[0] + (-1)^n E[L/2] + sum over 0 < k < L/2 of the real part of E[k] W_L^(-a n k). An interior bin
+// stands for itself and its conjugate and is expected doubled.
+RealSignal spectrumBlock(const HalfSpectrum& bins, int a);
+RealSignal spectrumBlock(const HalfSpectrum& bins, int a, const Recipe& recipe);
+
+// Z[d] = sum over b of v[b] W_(2L)^(a b (2d + 1)) for real v and even L, d = 0 .. L/2 - 1; a is odd.
+Signal skewBlock(const RealSignal& v, int a);
+
+// The mirror: out[m] = sum over d of the real part of E[d] W_(2L)^(-a m (2d + 1)), doubled bins, m = 0 .. L - 1.
+RealSignal mirroredSkewBlock(const Signal& bins, int a);
 
 }  // namespace gen

@@ -4,7 +4,9 @@
 
 #include "numbers/modular.h"
 #include "rules/axes.h"
+#include "rules/block_title.h"
 #include "rules/blocks.h"
+#include "rules/direct.h"
 #include "rules/tables.h"
 
 namespace gen {
@@ -13,34 +15,6 @@ namespace {
 using std::size_t;
 
 Signal sumAndDifference(const Signal& x) { return {x[0] + x[1], x[0] - x[1]}; }
-
-// First members m of the pairs (m, p - m) of the direct form, in their order: powers of 3 mod 5 and of 5 mod 7, up to
-// half the group. The order within a pair fixes the sign of its difference.
-std::vector<int> pairsOf(int p) {
-    switch (p) {
-        case 3: return {1};
-        case 5: return {1, 3};
-        case 7: return {1, 5, 4};
-        default: throw std::logic_error("complex " + std::to_string(p) + ": no direct form");
-    }
-}
-
-// P = x0 + sum of cos(2 pi m_j k/p) a_j, for one part. Where the first product is negative, the sum begins with x0;
-// where it is positive, x0 is added last.
-Value cosineSum(Value x0, const std::vector<Value>& sums, const std::vector<int>& pairs, int k, int p) {
-    Value total = cosine(pairs[0] * k, p) * sums[0];
-    const bool beginsWithX0 = total.minus;
-    if (beginsWithX0) total = x0 + total;
-    for (size_t j = 1; j < pairs.size(); ++j) total = total + cosine(pairs[j] * k, p) * sums[j];
-    return beginsWithX0 ? total : total + x0;
-}
-
-// Q = sum of sin(2 pi m_j k/p) d_j.
-ComplexValue sineSum(const Signal& differences, const std::vector<int>& pairs, int k, int p) {
-    ComplexValue total = sine(pairs[0] * k, p) * differences[0];
-    for (size_t j = 1; j < pairs.size(); ++j) total = total + sine(pairs[j] * k, p) * differences[j];
-    return total;
-}
 
 std::vector<Value> parts(const Signal& x, Value ComplexValue::*part) {
     std::vector<Value> values;
@@ -52,24 +26,24 @@ std::vector<Value> parts(const Signal& x, Value ComplexValue::*part) {
 // block is the plain one with its outputs renamed, Z[k] = X[a k mod p].
 Signal direct(const Signal& x, int a) {
     const int p = static_cast<int>(x.size());
-    const std::vector<int> pairs = pairsOf(p);
+    const std::vector<int> pairs = directPairs(p);
     Signal sums, differences;
     for (int m : pairs) {
         const ComplexValue first = x[static_cast<size_t>(m)], second = x[static_cast<size_t>(p - m)];
         sums.push_back(first + second);
         differences.push_back(first - second);
     }
-    ComplexValue total = sums[0];
-    for (size_t j = 1; j < sums.size(); ++j) total = total + sums[j];
     const std::vector<Value> sumsRe = parts(sums, &ComplexValue::re), sumsIm = parts(sums, &ComplexValue::im);
+    const std::vector<Value> differencesRe = parts(differences, &ComplexValue::re);
+    const std::vector<Value> differencesIm = parts(differences, &ComplexValue::im);
 
     Signal plain(x.size());
-    plain[0] = total + x[0];
+    plain[0] = ComplexValue{sumInOrder(sumsRe), sumInOrder(sumsIm)} + x[0];
     for (int k = 1; k <= (p - 1) / 2; ++k) {
         const ComplexValue cosines = {cosineSum(x[0].re, sumsRe, pairs, k, p), cosineSum(x[0].im, sumsIm, pairs, k, p)};
-        const ComplexValue sines = timesMinusI(sineSum(differences, pairs, k, p));
-        plain[static_cast<size_t>(k)] = cosines + sines;
-        plain[static_cast<size_t>(p - k)] = cosines - sines;
+        const ComplexValue sines = {sineSum(differencesRe, pairs, k, p), sineSum(differencesIm, pairs, k, p)};
+        plain[static_cast<size_t>(k)] = cosines + timesMinusI(sines);
+        plain[static_cast<size_t>(p - k)] = cosines - timesMinusI(sines);
     }
     Signal rotated;
     for (int k = 0; k < p; ++k) rotated.push_back(plain[static_cast<size_t>(modulo(a * k, p))]);
@@ -112,16 +86,11 @@ Signal primeFactor(const Signal& x, const std::vector<int>& factors, int a) {
     return axes.scatter(box);
 }
 
-std::string blockTitle(int length, int a) {
-    const std::string title = "block of " + std::to_string(length);
-    return a == 1 ? title : title + ", multiplier " + std::to_string(a);
-}
-
 }  // namespace
 
 Signal complexBlock(const Signal& x, int a) {
     const int length = static_cast<int>(x.size());
-    const Titled title(*x[0].re.graph, blockTitle(length, a));
+    const Titled title(*x[0].re.graph, blockTitle("complex", length, a));
     const Recipe& recipe = complexRecipe(length);
     switch (recipe.construction) {
         case Construction::Base: return sumAndDifference(x);
@@ -131,5 +100,7 @@ Signal complexBlock(const Signal& x, int a) {
     }
     throw std::logic_error("complex " + std::to_string(length) + ": no construction");
 }
+
+Signal inverseComplexBlock(const Signal& x, int a) { return exchanged(complexBlock(exchanged(x), a)); }
 
 }  // namespace gen

@@ -8,18 +8,32 @@ namespace gen {
 
 enum class Construction { Base, Direct, Twiddled, PrimeFactor };
 
-// One row of a table. Factors of a twiddled construction: inner, outer; of a prime-factor one: in order of application.
+// One row of a table. Factors of a twiddled construction: inner, outer (first, final on the spectrum side); of a
+// prime-factor one: in order of application. A real prime-factor construction has two sides: the inner (first) one is
+// made of as many factors as `innerCount` says, the outer (final) one of the rest.
 struct Recipe {
     int length;
     Construction construction;
     std::vector<int> factors;
+    int innerCount = 1;
 };
 
-// The rows of the complex family, rising in length. Each is a stand-alone kernel and the block inside longer ones.
-const std::vector<Recipe>& complexRecipes();
-const Recipe& complexRecipe(int length);
+// The two sides of a real prime-factor construction. Several factors are a prime-factor construction in their order; a
+// single one is the row of its length in `family`.
+Recipe innerSide(const Recipe& recipe, const std::vector<Recipe>& family);
+Recipe outerSide(const Recipe& recipe, const std::vector<Recipe>& family);
 
-// As people write it: "prime-factor, order 3, 5".
+// The rows of one family, rising in length. Each is a stand-alone kernel and the block inside longer ones.
+const std::vector<Recipe>& complexRecipes();
+const std::vector<Recipe>& realForwardRecipes();
+const std::vector<Recipe>& realInverseRecipes();
+
+const Recipe& complexRecipe(int length);
+const Recipe& realForwardRecipe(int length);
+const Recipe& realInverseRecipe(int length);
+
+// As people write it: "prime-factor, order 3, 5" in the complex family, "prime-factor 3, 5" in the real ones.
 std::string complexText(const Recipe& recipe);
+std::string realText(const Recipe& recipe);
 
 }  // namespace gen

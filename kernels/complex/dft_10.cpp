@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 10.
 // Complex DFT of 10 points, prime-factor, order 2, 5.
-// 46 additions, 38 subtractions, 32 multiplications (52 with `scale`); 4 constants; 26 values alive at most.
+// 46 additions, 38 subtractions, 32 multiplications (52 with `scale`); 4 constants; 25 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -16,7 +16,7 @@ struct ComplexGraph<10> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x5r = io.re(5);
         const V t0 = x0r + x5r;
@@ -25,7 +25,7 @@ struct ComplexGraph<10> {
         const V t1 = x0i + x5i;
         const V t2 = x0r - x5r;
         const V t3 = x0i - x5i;
-        // block of 2
+        // complex block of 2
         const V x2r = io.re(2);
         const V x7r = io.re(7);
         const V t4 = x2r + x7r;
@@ -34,7 +34,7 @@ struct ComplexGraph<10> {
         const V t5 = x2i + x7i;
         const V t6 = x2r - x7r;
         const V t7 = x2i - x7i;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x9r = io.re(9);
         const V t8 = x4r + x9r;
@@ -43,7 +43,7 @@ struct ComplexGraph<10> {
         const V t9 = x4i + x9i;
         const V t10 = x4r - x9r;
         const V t11 = x4i - x9i;
-        // block of 2
+        // complex block of 2
         const V x6r = io.re(6);
         const V x1r = io.re(1);
         const V t12 = x6r + x1r;
@@ -52,7 +52,7 @@ struct ComplexGraph<10> {
         const V t13 = x6i + x1i;
         const V t14 = x6r - x1r;
         const V t15 = x6i - x1i;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x3r = io.re(3);
         const V t16 = x8r + x3r;
@@ -61,7 +61,7 @@ struct ComplexGraph<10> {
         const V t17 = x8i + x3i;
         const V t18 = x8r - x3r;
         const V t19 = x8i - x3i;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t20 = t4 + t16;
         const V t21 = t5 + t17;
         const V t22 = t4 - t16;
@@ -85,18 +85,18 @@ struct ComplexGraph<10> {
         const V t38 = t36 - t37;
         const V t39 = t38 + t1;
         const V t40 = c2 * t22;
-        const V t41 = c2 * t23;
-        const V t42 = c3 * t26;
-        const V t43 = c3 * t27;
-        const V t44 = t40 - t42;
-        const V t45 = t41 - t43;
+        const V t41 = c3 * t26;
+        const V t42 = t40 - t41;
+        const V t43 = c2 * t23;
+        const V t44 = c3 * t27;
+        const V t45 = t43 - t44;
         const V t46 = t35 + t45;
         io.re(6, t46);
-        const V t47 = t39 - t44;
+        const V t47 = t39 - t42;
         io.im(6, t47);
         const V t48 = t35 - t45;
         io.re(4, t48);
-        const V t49 = t39 + t44;
+        const V t49 = t39 + t42;
         io.im(4, t49);
         const V t50 = c1 * t20;
         const V t51 = t0 - t50;
@@ -107,20 +107,20 @@ struct ComplexGraph<10> {
         const V t56 = c0 * t25;
         const V t57 = t55 + t56;
         const V t58 = c3 * t22;
-        const V t59 = c3 * t23;
-        const V t60 = c2 * t26;
-        const V t61 = c2 * t27;
-        const V t62 = t58 + t60;
-        const V t63 = t59 + t61;
+        const V t59 = c2 * t26;
+        const V t60 = t58 + t59;
+        const V t61 = c3 * t23;
+        const V t62 = c2 * t27;
+        const V t63 = t61 + t62;
         const V t64 = t53 + t63;
         io.re(2, t64);
-        const V t65 = t57 - t62;
+        const V t65 = t57 - t60;
         io.im(2, t65);
         const V t66 = t53 - t63;
         io.re(8, t66);
-        const V t67 = t57 + t62;
+        const V t67 = t57 + t60;
         io.im(8, t67);
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t68 = t6 + t18;
         const V t69 = t7 + t19;
         const V t70 = t6 - t18;
@@ -144,18 +144,18 @@ struct ComplexGraph<10> {
         const V t86 = t84 - t85;
         const V t87 = t86 + t3;
         const V t88 = c2 * t70;
-        const V t89 = c2 * t71;
-        const V t90 = c3 * t74;
-        const V t91 = c3 * t75;
-        const V t92 = t88 - t90;
-        const V t93 = t89 - t91;
+        const V t89 = c3 * t74;
+        const V t90 = t88 - t89;
+        const V t91 = c2 * t71;
+        const V t92 = c3 * t75;
+        const V t93 = t91 - t92;
         const V t94 = t83 + t93;
         io.re(1, t94);
-        const V t95 = t87 - t92;
+        const V t95 = t87 - t90;
         io.im(1, t95);
         const V t96 = t83 - t93;
         io.re(9, t96);
-        const V t97 = t87 + t92;
+        const V t97 = t87 + t90;
         io.im(9, t97);
         const V t98 = c1 * t68;
         const V t99 = t2 - t98;
@@ -166,18 +166,18 @@ struct ComplexGraph<10> {
         const V t104 = c0 * t73;
         const V t105 = t103 + t104;
         const V t106 = c3 * t70;
-        const V t107 = c3 * t71;
-        const V t108 = c2 * t74;
-        const V t109 = c2 * t75;
-        const V t110 = t106 + t108;
-        const V t111 = t107 + t109;
+        const V t107 = c2 * t74;
+        const V t108 = t106 + t107;
+        const V t109 = c3 * t71;
+        const V t110 = c2 * t75;
+        const V t111 = t109 + t110;
         const V t112 = t101 + t111;
         io.re(7, t112);
-        const V t113 = t105 - t110;
+        const V t113 = t105 - t108;
         io.im(7, t113);
         const V t114 = t101 - t111;
         io.re(3, t114);
-        const V t115 = t105 + t110;
+        const V t115 = t105 + t108;
         io.im(3, t115);
     }
 };

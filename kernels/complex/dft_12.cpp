@@ -14,7 +14,7 @@ struct ComplexGraph<12> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x6r = io.re(6);
         const V t0 = x0r + x6r;
@@ -23,7 +23,7 @@ struct ComplexGraph<12> {
         const V t1 = x0i + x6i;
         const V t2 = x0r - x6r;
         const V t3 = x0i - x6i;
-        // block of 2
+        // complex block of 2
         const V x3r = io.re(3);
         const V x9r = io.re(9);
         const V t4 = x3r + x9r;
@@ -32,17 +32,17 @@ struct ComplexGraph<12> {
         const V t5 = x3i + x9i;
         const V t6 = x3r - x9r;
         const V t7 = x3i - x9i;
-        // block of 2
+        // complex block of 2
         const V t8 = t0 + t4;
         const V t9 = t1 + t5;
         const V t10 = t0 - t4;
         const V t11 = t1 - t5;
-        // block of 2
+        // complex block of 2
         const V t12 = t2 - t7;
         const V t13 = t3 + t6;
         const V t14 = t2 + t7;
         const V t15 = t3 - t6;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x10r = io.re(10);
         const V t16 = x4r + x10r;
@@ -51,7 +51,7 @@ struct ComplexGraph<12> {
         const V t17 = x4i + x10i;
         const V t18 = x4r - x10r;
         const V t19 = x4i - x10i;
-        // block of 2
+        // complex block of 2
         const V x7r = io.re(7);
         const V x1r = io.re(1);
         const V t20 = x7r + x1r;
@@ -60,17 +60,17 @@ struct ComplexGraph<12> {
         const V t21 = x7i + x1i;
         const V t22 = x7r - x1r;
         const V t23 = x7i - x1i;
-        // block of 2
+        // complex block of 2
         const V t24 = t16 + t20;
         const V t25 = t17 + t21;
         const V t26 = t16 - t20;
         const V t27 = t17 - t21;
-        // block of 2
+        // complex block of 2
         const V t28 = t18 - t23;
         const V t29 = t19 + t22;
         const V t30 = t18 + t23;
         const V t31 = t19 - t22;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x2r = io.re(2);
         const V t32 = x8r + x2r;
@@ -79,7 +79,7 @@ struct ComplexGraph<12> {
         const V t33 = x8i + x2i;
         const V t34 = x8r - x2r;
         const V t35 = x8i - x2i;
-        // block of 2
+        // complex block of 2
         const V x11r = io.re(11);
         const V x5r = io.re(5);
         const V t36 = x11r + x5r;
@@ -88,17 +88,17 @@ struct ComplexGraph<12> {
         const V t37 = x11i + x5i;
         const V t38 = x11r - x5r;
         const V t39 = x11i - x5i;
-        // block of 2
+        // complex block of 2
         const V t40 = t32 + t36;
         const V t41 = t33 + t37;
         const V t42 = t32 - t36;
         const V t43 = t33 - t37;
-        // block of 2
+        // complex block of 2
         const V t44 = t34 - t39;
         const V t45 = t35 + t38;
         const V t46 = t34 + t39;
         const V t47 = t35 - t38;
-        // block of 3
+        // complex block of 3
         const V t48 = t24 + t40;
         const V t49 = t25 + t41;
         const V t50 = t24 - t40;
@@ -121,7 +121,7 @@ struct ComplexGraph<12> {
         io.re(8, t62);
         const V t63 = t57 + t58;
         io.im(8, t63);
-        // block of 3
+        // complex block of 3
         const V t64 = t28 + t44;
         const V t65 = t29 + t45;
         const V t66 = t28 - t44;
@@ -144,7 +144,7 @@ struct ComplexGraph<12> {
         io.re(11, t78);
         const V t79 = t73 + t74;
         io.im(11, t79);
-        // block of 3
+        // complex block of 3
         const V t80 = t26 + t42;
         const V t81 = t27 + t43;
         const V t82 = t26 - t42;
@@ -167,7 +167,7 @@ struct ComplexGraph<12> {
         io.re(2, t94);
         const V t95 = t89 + t90;
         io.im(2, t95);
-        // block of 3
+        // complex block of 3
         const V t96 = t30 + t46;
         const V t97 = t31 + t47;
         const V t98 = t30 - t46;

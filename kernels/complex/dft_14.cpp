@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 14.
 // Complex DFT of 14 points, prime-factor, order 2, 7.
-// 74 additions, 74 subtractions, 72 multiplications (100 with `scale`); 6 constants; 34 values alive at most.
+// 74 additions, 74 subtractions, 72 multiplications (100 with `scale`); 6 constants; 33 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -18,7 +18,7 @@ struct ComplexGraph<14> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x7r = io.re(7);
         const V t0 = x0r + x7r;
@@ -27,7 +27,7 @@ struct ComplexGraph<14> {
         const V t1 = x0i + x7i;
         const V t2 = x0r - x7r;
         const V t3 = x0i - x7i;
-        // block of 2
+        // complex block of 2
         const V x2r = io.re(2);
         const V x9r = io.re(9);
         const V t4 = x2r + x9r;
@@ -36,7 +36,7 @@ struct ComplexGraph<14> {
         const V t5 = x2i + x9i;
         const V t6 = x2r - x9r;
         const V t7 = x2i - x9i;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x11r = io.re(11);
         const V t8 = x4r + x11r;
@@ -45,7 +45,7 @@ struct ComplexGraph<14> {
         const V t9 = x4i + x11i;
         const V t10 = x4r - x11r;
         const V t11 = x4i - x11i;
-        // block of 2
+        // complex block of 2
         const V x6r = io.re(6);
         const V x13r = io.re(13);
         const V t12 = x6r + x13r;
@@ -54,7 +54,7 @@ struct ComplexGraph<14> {
         const V t13 = x6i + x13i;
         const V t14 = x6r - x13r;
         const V t15 = x6i - x13i;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x1r = io.re(1);
         const V t16 = x8r + x1r;
@@ -63,7 +63,7 @@ struct ComplexGraph<14> {
         const V t17 = x8i + x1i;
         const V t18 = x8r - x1r;
         const V t19 = x8i - x1i;
-        // block of 2
+        // complex block of 2
         const V x10r = io.re(10);
         const V x3r = io.re(3);
         const V t20 = x10r + x3r;
@@ -72,7 +72,7 @@ struct ComplexGraph<14> {
         const V t21 = x10i + x3i;
         const V t22 = x10r - x3r;
         const V t23 = x10i - x3i;
-        // block of 2
+        // complex block of 2
         const V x12r = io.re(12);
         const V x5r = io.re(5);
         const V t24 = x12r + x5r;
@@ -81,7 +81,7 @@ struct ComplexGraph<14> {
         const V t25 = x12i + x5i;
         const V t26 = x12r - x5r;
         const V t27 = x12i - x5i;
-        // block of 7, multiplier 2
+        // complex block of 7, multiplier 2
         const V t28 = t4 + t24;
         const V t29 = t5 + t25;
         const V t30 = t4 - t24;
@@ -95,10 +95,10 @@ struct ComplexGraph<14> {
         const V t38 = t16 - t12;
         const V t39 = t17 - t13;
         const V t40 = t28 + t32;
-        const V t41 = t29 + t33;
-        const V t42 = t40 + t36;
-        const V t43 = t41 + t37;
-        const V t44 = t42 + t0;
+        const V t41 = t40 + t36;
+        const V t42 = t29 + t33;
+        const V t43 = t42 + t37;
+        const V t44 = t41 + t0;
         io.re(0, t44);
         const V t45 = t43 + t1;
         io.im(0, t45);
@@ -115,22 +115,22 @@ struct ComplexGraph<14> {
         const V t56 = t54 - t55;
         const V t57 = t56 + t1;
         const V t58 = c3 * t30;
-        const V t59 = c3 * t31;
-        const V t60 = c4 * t34;
-        const V t61 = c4 * t35;
-        const V t62 = t58 - t60;
-        const V t63 = t59 - t61;
-        const V t64 = c5 * t38;
-        const V t65 = c5 * t39;
-        const V t66 = t62 - t64;
-        const V t67 = t63 - t65;
+        const V t59 = c4 * t34;
+        const V t60 = t58 - t59;
+        const V t61 = c5 * t38;
+        const V t62 = t60 - t61;
+        const V t63 = c3 * t31;
+        const V t64 = c4 * t35;
+        const V t65 = t63 - t64;
+        const V t66 = c5 * t39;
+        const V t67 = t65 - t66;
         const V t68 = t51 + t67;
         io.re(8, t68);
-        const V t69 = t57 - t66;
+        const V t69 = t57 - t62;
         io.im(8, t69);
         const V t70 = t51 - t67;
         io.re(6, t70);
-        const V t71 = t57 + t66;
+        const V t71 = t57 + t62;
         io.im(6, t71);
         const V t72 = c1 * t28;
         const V t73 = t0 - t72;
@@ -145,22 +145,22 @@ struct ComplexGraph<14> {
         const V t82 = c0 * t37;
         const V t83 = t81 + t82;
         const V t84 = c4 * t30;
-        const V t85 = c4 * t31;
-        const V t86 = c5 * t34;
-        const V t87 = c5 * t35;
-        const V t88 = t84 + t86;
-        const V t89 = t85 + t87;
-        const V t90 = c3 * t38;
-        const V t91 = c3 * t39;
-        const V t92 = t88 + t90;
-        const V t93 = t89 + t91;
+        const V t85 = c5 * t34;
+        const V t86 = t84 + t85;
+        const V t87 = c3 * t38;
+        const V t88 = t86 + t87;
+        const V t89 = c4 * t31;
+        const V t90 = c5 * t35;
+        const V t91 = t89 + t90;
+        const V t92 = c3 * t39;
+        const V t93 = t91 + t92;
         const V t94 = t77 + t93;
         io.re(2, t94);
-        const V t95 = t83 - t92;
+        const V t95 = t83 - t88;
         io.im(2, t95);
         const V t96 = t77 - t93;
         io.re(12, t96);
-        const V t97 = t83 + t92;
+        const V t97 = t83 + t88;
         io.im(12, t97);
         const V t98 = c2 * t28;
         const V t99 = t0 - t98;
@@ -175,24 +175,24 @@ struct ComplexGraph<14> {
         const V t108 = c1 * t37;
         const V t109 = t107 - t108;
         const V t110 = c5 * t30;
-        const V t111 = c5 * t31;
-        const V t112 = c3 * t34;
-        const V t113 = c3 * t35;
-        const V t114 = t110 + t112;
-        const V t115 = t111 + t113;
-        const V t116 = c4 * t38;
-        const V t117 = c4 * t39;
-        const V t118 = t114 - t116;
-        const V t119 = t115 - t117;
+        const V t111 = c3 * t34;
+        const V t112 = t110 + t111;
+        const V t113 = c4 * t38;
+        const V t114 = t112 - t113;
+        const V t115 = c5 * t31;
+        const V t116 = c3 * t35;
+        const V t117 = t115 + t116;
+        const V t118 = c4 * t39;
+        const V t119 = t117 - t118;
         const V t120 = t103 + t119;
         io.re(10, t120);
-        const V t121 = t109 - t118;
+        const V t121 = t109 - t114;
         io.im(10, t121);
         const V t122 = t103 - t119;
         io.re(4, t122);
-        const V t123 = t109 + t118;
+        const V t123 = t109 + t114;
         io.im(4, t123);
-        // block of 7, multiplier 2
+        // complex block of 7, multiplier 2
         const V t124 = t6 + t26;
         const V t125 = t7 + t27;
         const V t126 = t6 - t26;
@@ -206,10 +206,10 @@ struct ComplexGraph<14> {
         const V t134 = t18 - t14;
         const V t135 = t19 - t15;
         const V t136 = t124 + t128;
-        const V t137 = t125 + t129;
-        const V t138 = t136 + t132;
-        const V t139 = t137 + t133;
-        const V t140 = t138 + t2;
+        const V t137 = t136 + t132;
+        const V t138 = t125 + t129;
+        const V t139 = t138 + t133;
+        const V t140 = t137 + t2;
         io.re(7, t140);
         const V t141 = t139 + t3;
         io.im(7, t141);
@@ -226,22 +226,22 @@ struct ComplexGraph<14> {
         const V t152 = t150 - t151;
         const V t153 = t152 + t3;
         const V t154 = c3 * t126;
-        const V t155 = c3 * t127;
-        const V t156 = c4 * t130;
-        const V t157 = c4 * t131;
-        const V t158 = t154 - t156;
-        const V t159 = t155 - t157;
-        const V t160 = c5 * t134;
-        const V t161 = c5 * t135;
-        const V t162 = t158 - t160;
-        const V t163 = t159 - t161;
+        const V t155 = c4 * t130;
+        const V t156 = t154 - t155;
+        const V t157 = c5 * t134;
+        const V t158 = t156 - t157;
+        const V t159 = c3 * t127;
+        const V t160 = c4 * t131;
+        const V t161 = t159 - t160;
+        const V t162 = c5 * t135;
+        const V t163 = t161 - t162;
         const V t164 = t147 + t163;
         io.re(1, t164);
-        const V t165 = t153 - t162;
+        const V t165 = t153 - t158;
         io.im(1, t165);
         const V t166 = t147 - t163;
         io.re(13, t166);
-        const V t167 = t153 + t162;
+        const V t167 = t153 + t158;
         io.im(13, t167);
         const V t168 = c1 * t124;
         const V t169 = t2 - t168;
@@ -256,22 +256,22 @@ struct ComplexGraph<14> {
         const V t178 = c0 * t133;
         const V t179 = t177 + t178;
         const V t180 = c4 * t126;
-        const V t181 = c4 * t127;
-        const V t182 = c5 * t130;
-        const V t183 = c5 * t131;
-        const V t184 = t180 + t182;
-        const V t185 = t181 + t183;
-        const V t186 = c3 * t134;
-        const V t187 = c3 * t135;
-        const V t188 = t184 + t186;
-        const V t189 = t185 + t187;
+        const V t181 = c5 * t130;
+        const V t182 = t180 + t181;
+        const V t183 = c3 * t134;
+        const V t184 = t182 + t183;
+        const V t185 = c4 * t127;
+        const V t186 = c5 * t131;
+        const V t187 = t185 + t186;
+        const V t188 = c3 * t135;
+        const V t189 = t187 + t188;
         const V t190 = t173 + t189;
         io.re(9, t190);
-        const V t191 = t179 - t188;
+        const V t191 = t179 - t184;
         io.im(9, t191);
         const V t192 = t173 - t189;
         io.re(5, t192);
-        const V t193 = t179 + t188;
+        const V t193 = t179 + t184;
         io.im(5, t193);
         const V t194 = c2 * t124;
         const V t195 = t2 - t194;
@@ -286,22 +286,22 @@ struct ComplexGraph<14> {
         const V t204 = c1 * t133;
         const V t205 = t203 - t204;
         const V t206 = c5 * t126;
-        const V t207 = c5 * t127;
-        const V t208 = c3 * t130;
-        const V t209 = c3 * t131;
-        const V t210 = t206 + t208;
-        const V t211 = t207 + t209;
-        const V t212 = c4 * t134;
-        const V t213 = c4 * t135;
-        const V t214 = t210 - t212;
-        const V t215 = t211 - t213;
+        const V t207 = c3 * t130;
+        const V t208 = t206 + t207;
+        const V t209 = c4 * t134;
+        const V t210 = t208 - t209;
+        const V t211 = c5 * t127;
+        const V t212 = c3 * t131;
+        const V t213 = t211 + t212;
+        const V t214 = c4 * t135;
+        const V t215 = t213 - t214;
         const V t216 = t199 + t215;
         io.re(3, t216);
-        const V t217 = t205 - t214;
+        const V t217 = t205 - t210;
         io.im(3, t217);
         const V t218 = t199 - t215;
         io.re(11, t218);
-        const V t219 = t205 + t214;
+        const V t219 = t205 + t210;
         io.im(11, t219);
     }
 };

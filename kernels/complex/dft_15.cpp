@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 15.
 // Complex DFT of 15 points, prime-factor, order 3, 5.
-// 84 additions, 72 subtractions, 68 multiplications (98 with `scale`); 6 constants; 36 values alive at most.
+// 84 additions, 72 subtractions, 68 multiplications (98 with `scale`); 6 constants; 35 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -18,7 +18,7 @@ struct ComplexGraph<15> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x5r = io.re(5);
         const V x10r = io.re(10);
         const V t0 = x5r + x10r;
@@ -41,7 +41,7 @@ struct ComplexGraph<15> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x8r = io.re(8);
         const V x13r = io.re(13);
         const V t16 = x8r + x13r;
@@ -64,7 +64,7 @@ struct ComplexGraph<15> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x11r = io.re(11);
         const V x1r = io.re(1);
         const V t32 = x11r + x1r;
@@ -87,7 +87,7 @@ struct ComplexGraph<15> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x14r = io.re(14);
         const V x4r = io.re(4);
         const V t48 = x14r + x4r;
@@ -110,7 +110,7 @@ struct ComplexGraph<15> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x2r = io.re(2);
         const V x7r = io.re(7);
         const V t64 = x2r + x7r;
@@ -133,7 +133,7 @@ struct ComplexGraph<15> {
         const V t77 = t73 - t74;
         const V t78 = t71 - t75;
         const V t79 = t73 + t74;
-        // block of 5, multiplier 3
+        // complex block of 5, multiplier 3
         const V t80 = t20 + t68;
         const V t81 = t21 + t69;
         const V t82 = t20 - t68;
@@ -157,18 +157,18 @@ struct ComplexGraph<15> {
         const V t98 = t96 - t97;
         const V t99 = t98 + t5;
         const V t100 = c4 * t82;
-        const V t101 = c4 * t83;
-        const V t102 = c5 * t86;
-        const V t103 = c5 * t87;
-        const V t104 = t100 - t102;
-        const V t105 = t101 - t103;
+        const V t101 = c5 * t86;
+        const V t102 = t100 - t101;
+        const V t103 = c4 * t83;
+        const V t104 = c5 * t87;
+        const V t105 = t103 - t104;
         const V t106 = t95 + t105;
         io.re(6, t106);
-        const V t107 = t99 - t104;
+        const V t107 = t99 - t102;
         io.im(6, t107);
         const V t108 = t95 - t105;
         io.re(9, t108);
-        const V t109 = t99 + t104;
+        const V t109 = t99 + t102;
         io.im(9, t109);
         const V t110 = c3 * t80;
         const V t111 = t4 - t110;
@@ -179,20 +179,20 @@ struct ComplexGraph<15> {
         const V t116 = c2 * t85;
         const V t117 = t115 + t116;
         const V t118 = c5 * t82;
-        const V t119 = c5 * t83;
-        const V t120 = c4 * t86;
-        const V t121 = c4 * t87;
-        const V t122 = t118 + t120;
-        const V t123 = t119 + t121;
+        const V t119 = c4 * t86;
+        const V t120 = t118 + t119;
+        const V t121 = c5 * t83;
+        const V t122 = c4 * t87;
+        const V t123 = t121 + t122;
         const V t124 = t113 + t123;
         io.re(12, t124);
-        const V t125 = t117 - t122;
+        const V t125 = t117 - t120;
         io.im(12, t125);
         const V t126 = t113 - t123;
         io.re(3, t126);
-        const V t127 = t117 + t122;
+        const V t127 = t117 + t120;
         io.im(3, t127);
-        // block of 5, multiplier 3
+        // complex block of 5, multiplier 3
         const V t128 = t30 + t78;
         const V t129 = t31 + t79;
         const V t130 = t30 - t78;
@@ -216,18 +216,18 @@ struct ComplexGraph<15> {
         const V t146 = t144 - t145;
         const V t147 = t146 + t15;
         const V t148 = c4 * t130;
-        const V t149 = c4 * t131;
-        const V t150 = c5 * t134;
-        const V t151 = c5 * t135;
-        const V t152 = t148 - t150;
-        const V t153 = t149 - t151;
+        const V t149 = c5 * t134;
+        const V t150 = t148 - t149;
+        const V t151 = c4 * t131;
+        const V t152 = c5 * t135;
+        const V t153 = t151 - t152;
         const V t154 = t143 + t153;
         io.re(11, t154);
-        const V t155 = t147 - t152;
+        const V t155 = t147 - t150;
         io.im(11, t155);
         const V t156 = t143 - t153;
         io.re(14, t156);
-        const V t157 = t147 + t152;
+        const V t157 = t147 + t150;
         io.im(14, t157);
         const V t158 = c3 * t128;
         const V t159 = t14 - t158;
@@ -238,20 +238,20 @@ struct ComplexGraph<15> {
         const V t164 = c2 * t133;
         const V t165 = t163 + t164;
         const V t166 = c5 * t130;
-        const V t167 = c5 * t131;
-        const V t168 = c4 * t134;
-        const V t169 = c4 * t135;
-        const V t170 = t166 + t168;
-        const V t171 = t167 + t169;
+        const V t167 = c4 * t134;
+        const V t168 = t166 + t167;
+        const V t169 = c5 * t131;
+        const V t170 = c4 * t135;
+        const V t171 = t169 + t170;
         const V t172 = t161 + t171;
         io.re(2, t172);
-        const V t173 = t165 - t170;
+        const V t173 = t165 - t168;
         io.im(2, t173);
         const V t174 = t161 - t171;
         io.re(8, t174);
-        const V t175 = t165 + t170;
+        const V t175 = t165 + t168;
         io.im(8, t175);
-        // block of 5, multiplier 3
+        // complex block of 5, multiplier 3
         const V t176 = t28 + t76;
         const V t177 = t29 + t77;
         const V t178 = t28 - t76;
@@ -275,18 +275,18 @@ struct ComplexGraph<15> {
         const V t194 = t192 - t193;
         const V t195 = t194 + t13;
         const V t196 = c4 * t178;
-        const V t197 = c4 * t179;
-        const V t198 = c5 * t182;
-        const V t199 = c5 * t183;
-        const V t200 = t196 - t198;
-        const V t201 = t197 - t199;
+        const V t197 = c5 * t182;
+        const V t198 = t196 - t197;
+        const V t199 = c4 * t179;
+        const V t200 = c5 * t183;
+        const V t201 = t199 - t200;
         const V t202 = t191 + t201;
         io.re(1, t202);
-        const V t203 = t195 - t200;
+        const V t203 = t195 - t198;
         io.im(1, t203);
         const V t204 = t191 - t201;
         io.re(4, t204);
-        const V t205 = t195 + t200;
+        const V t205 = t195 + t198;
         io.im(4, t205);
         const V t206 = c3 * t176;
         const V t207 = t12 - t206;
@@ -297,18 +297,18 @@ struct ComplexGraph<15> {
         const V t212 = c2 * t181;
         const V t213 = t211 + t212;
         const V t214 = c5 * t178;
-        const V t215 = c5 * t179;
-        const V t216 = c4 * t182;
-        const V t217 = c4 * t183;
-        const V t218 = t214 + t216;
-        const V t219 = t215 + t217;
+        const V t215 = c4 * t182;
+        const V t216 = t214 + t215;
+        const V t217 = c5 * t179;
+        const V t218 = c4 * t183;
+        const V t219 = t217 + t218;
         const V t220 = t209 + t219;
         io.re(7, t220);
-        const V t221 = t213 - t218;
+        const V t221 = t213 - t216;
         io.im(7, t221);
         const V t222 = t209 - t219;
         io.re(13, t222);
-        const V t223 = t213 + t218;
+        const V t223 = t213 + t216;
         io.im(13, t223);
     }
 };

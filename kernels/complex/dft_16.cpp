@@ -15,7 +15,7 @@ struct ComplexGraph<16> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x8r = io.re(8);
         const V t0 = x0r + x8r;
@@ -24,7 +24,7 @@ struct ComplexGraph<16> {
         const V t1 = x0i + x8i;
         const V t2 = x0r - x8r;
         const V t3 = x0i - x8i;
-        // block of 2
+        // complex block of 2
         const V x1r = io.re(1);
         const V x9r = io.re(9);
         const V t4 = x1r + x9r;
@@ -33,7 +33,7 @@ struct ComplexGraph<16> {
         const V t5 = x1i + x9i;
         const V t6 = x1r - x9r;
         const V t7 = x1i - x9i;
-        // block of 2
+        // complex block of 2
         const V x2r = io.re(2);
         const V x10r = io.re(10);
         const V t8 = x2r + x10r;
@@ -42,7 +42,7 @@ struct ComplexGraph<16> {
         const V t9 = x2i + x10i;
         const V t10 = x2r - x10r;
         const V t11 = x2i - x10i;
-        // block of 2
+        // complex block of 2
         const V x3r = io.re(3);
         const V x11r = io.re(11);
         const V t12 = x3r + x11r;
@@ -51,7 +51,7 @@ struct ComplexGraph<16> {
         const V t13 = x3i + x11i;
         const V t14 = x3r - x11r;
         const V t15 = x3i - x11i;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x12r = io.re(12);
         const V t16 = x4r + x12r;
@@ -60,7 +60,7 @@ struct ComplexGraph<16> {
         const V t17 = x4i + x12i;
         const V t18 = x4r - x12r;
         const V t19 = x4i - x12i;
-        // block of 2
+        // complex block of 2
         const V x5r = io.re(5);
         const V x13r = io.re(13);
         const V t20 = x5r + x13r;
@@ -69,7 +69,7 @@ struct ComplexGraph<16> {
         const V t21 = x5i + x13i;
         const V t22 = x5r - x13r;
         const V t23 = x5i - x13i;
-        // block of 2
+        // complex block of 2
         const V x6r = io.re(6);
         const V x14r = io.re(14);
         const V t24 = x6r + x14r;
@@ -78,7 +78,7 @@ struct ComplexGraph<16> {
         const V t25 = x6i + x14i;
         const V t26 = x6r - x14r;
         const V t27 = x6i - x14i;
-        // block of 2
+        // complex block of 2
         const V x7r = io.re(7);
         const V x15r = io.re(15);
         const V t28 = x7r + x15r;
@@ -87,37 +87,37 @@ struct ComplexGraph<16> {
         const V t29 = x7i + x15i;
         const V t30 = x7r - x15r;
         const V t31 = x7i - x15i;
-        // block of 2
+        // complex block of 2
         const V t32 = t0 + t16;
         const V t33 = t1 + t17;
         const V t34 = t0 - t16;
         const V t35 = t1 - t17;
-        // block of 2
+        // complex block of 2
         const V t36 = t4 + t20;
         const V t37 = t5 + t21;
         const V t38 = t4 - t20;
         const V t39 = t5 - t21;
-        // block of 2
+        // complex block of 2
         const V t40 = t8 + t24;
         const V t41 = t9 + t25;
         const V t42 = t8 - t24;
         const V t43 = t9 - t25;
-        // block of 2
+        // complex block of 2
         const V t44 = t12 + t28;
         const V t45 = t13 + t29;
         const V t46 = t12 - t28;
         const V t47 = t13 - t29;
-        // block of 2
+        // complex block of 2
         const V t48 = t32 + t40;
         const V t49 = t33 + t41;
         const V t50 = t32 - t40;
         const V t51 = t33 - t41;
-        // block of 2
+        // complex block of 2
         const V t52 = t36 + t44;
         const V t53 = t37 + t45;
         const V t54 = t36 - t44;
         const V t55 = t37 - t45;
-        // block of 2
+        // complex block of 2
         const V t56 = t48 + t52;
         io.re(0, t56);
         const V t57 = t49 + t53;
@@ -126,7 +126,7 @@ struct ComplexGraph<16> {
         io.re(8, t58);
         const V t59 = t49 - t53;
         io.im(8, t59);
-        // block of 2
+        // complex block of 2
         const V t60 = t50 + t55;
         io.re(4, t60);
         const V t61 = t51 - t54;
@@ -135,7 +135,7 @@ struct ComplexGraph<16> {
         io.re(12, t62);
         const V t63 = t51 + t54;
         io.im(12, t63);
-        // block of 8
+        // complex block of 8
         const V t64 = c0 * t38;
         const V t65 = c0 * t39;
         const V t66 = t64 + t65;
@@ -144,17 +144,17 @@ struct ComplexGraph<16> {
         const V t69 = c0 * t47;
         const V t70 = t68 + t69;
         const V t71 = t69 - t68;
-        // block of 2
+        // complex block of 2
         const V t72 = t34 + t43;
         const V t73 = t35 - t42;
         const V t74 = t34 - t43;
         const V t75 = t35 + t42;
-        // block of 2
+        // complex block of 2
         const V t76 = t66 + t71;
         const V t77 = t67 - t70;
         const V t78 = t66 - t71;
         const V t79 = t67 + t70;
-        // block of 2
+        // complex block of 2
         const V t80 = t72 + t76;
         io.re(2, t80);
         const V t81 = t73 + t77;
@@ -163,7 +163,7 @@ struct ComplexGraph<16> {
         io.re(10, t82);
         const V t83 = t73 - t77;
         io.im(10, t83);
-        // block of 2
+        // complex block of 2
         const V t84 = t74 + t79;
         io.re(6, t84);
         const V t85 = t75 - t78;
@@ -172,7 +172,7 @@ struct ComplexGraph<16> {
         io.re(14, t86);
         const V t87 = t75 + t78;
         io.im(14, t87);
-        // block of 16
+        // complex block of 16
         const V t88 = c1 * t7;
         const V t89 = c2 * t6;
         const V t90 = t89 + t88;
@@ -205,37 +205,37 @@ struct ComplexGraph<16> {
         const V t117 = c1 * t30;
         const V t118 = c2 * t31;
         const V t119 = t118 + t117;
-        // block of 2
+        // complex block of 2
         const V t120 = t2 + t19;
         const V t121 = t3 - t18;
         const V t122 = t2 - t19;
         const V t123 = t3 + t18;
-        // block of 2
+        // complex block of 2
         const V t124 = t90 + t106;
         const V t125 = t93 - t109;
         const V t126 = t90 - t106;
         const V t127 = t93 + t109;
-        // block of 2
+        // complex block of 2
         const V t128 = t96 + t113;
         const V t129 = t97 - t112;
         const V t130 = t96 - t113;
         const V t131 = t97 + t112;
-        // block of 2
+        // complex block of 2
         const V t132 = t100 + t116;
         const V t133 = t103 - t119;
         const V t134 = t100 - t116;
         const V t135 = t103 + t119;
-        // block of 2
+        // complex block of 2
         const V t136 = t120 + t128;
         const V t137 = t121 + t129;
         const V t138 = t120 - t128;
         const V t139 = t121 - t129;
-        // block of 2
+        // complex block of 2
         const V t140 = t124 + t132;
         const V t141 = t125 + t133;
         const V t142 = t124 - t132;
         const V t143 = t125 - t133;
-        // block of 2
+        // complex block of 2
         const V t144 = t136 + t140;
         io.re(1, t144);
         const V t145 = t137 + t141;
@@ -244,7 +244,7 @@ struct ComplexGraph<16> {
         io.re(9, t146);
         const V t147 = t137 - t141;
         io.im(9, t147);
-        // block of 2
+        // complex block of 2
         const V t148 = t138 + t143;
         io.re(5, t148);
         const V t149 = t139 - t142;
@@ -253,7 +253,7 @@ struct ComplexGraph<16> {
         io.re(13, t150);
         const V t151 = t139 + t142;
         io.im(13, t151);
-        // block of 8
+        // complex block of 8
         const V t152 = c0 * t126;
         const V t153 = c0 * t127;
         const V t154 = t152 + t153;
@@ -262,17 +262,17 @@ struct ComplexGraph<16> {
         const V t157 = c0 * t135;
         const V t158 = t156 + t157;
         const V t159 = t157 - t156;
-        // block of 2
+        // complex block of 2
         const V t160 = t122 + t131;
         const V t161 = t123 - t130;
         const V t162 = t122 - t131;
         const V t163 = t123 + t130;
-        // block of 2
+        // complex block of 2
         const V t164 = t154 + t159;
         const V t165 = t155 - t158;
         const V t166 = t154 - t159;
         const V t167 = t155 + t158;
-        // block of 2
+        // complex block of 2
         const V t168 = t160 + t164;
         io.re(3, t168);
         const V t169 = t161 + t165;
@@ -281,7 +281,7 @@ struct ComplexGraph<16> {
         io.re(11, t170);
         const V t171 = t161 - t165;
         io.im(11, t171);
-        // block of 2
+        // complex block of 2
         const V t172 = t162 + t167;
         io.re(7, t172);
         const V t173 = t163 - t166;

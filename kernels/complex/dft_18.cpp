@@ -20,7 +20,7 @@ struct ComplexGraph<18> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x9r = io.re(9);
         const V t0 = x0r + x9r;
@@ -29,7 +29,7 @@ struct ComplexGraph<18> {
         const V t1 = x0i + x9i;
         const V t2 = x0r - x9r;
         const V t3 = x0i - x9i;
-        // block of 2
+        // complex block of 2
         const V x2r = io.re(2);
         const V x11r = io.re(11);
         const V t4 = x2r + x11r;
@@ -38,7 +38,7 @@ struct ComplexGraph<18> {
         const V t5 = x2i + x11i;
         const V t6 = x2r - x11r;
         const V t7 = x2i - x11i;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x13r = io.re(13);
         const V t8 = x4r + x13r;
@@ -47,7 +47,7 @@ struct ComplexGraph<18> {
         const V t9 = x4i + x13i;
         const V t10 = x4r - x13r;
         const V t11 = x4i - x13i;
-        // block of 2
+        // complex block of 2
         const V x6r = io.re(6);
         const V x15r = io.re(15);
         const V t12 = x6r + x15r;
@@ -56,7 +56,7 @@ struct ComplexGraph<18> {
         const V t13 = x6i + x15i;
         const V t14 = x6r - x15r;
         const V t15 = x6i - x15i;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x17r = io.re(17);
         const V t16 = x8r + x17r;
@@ -65,7 +65,7 @@ struct ComplexGraph<18> {
         const V t17 = x8i + x17i;
         const V t18 = x8r - x17r;
         const V t19 = x8i - x17i;
-        // block of 2
+        // complex block of 2
         const V x10r = io.re(10);
         const V x1r = io.re(1);
         const V t20 = x10r + x1r;
@@ -74,7 +74,7 @@ struct ComplexGraph<18> {
         const V t21 = x10i + x1i;
         const V t22 = x10r - x1r;
         const V t23 = x10i - x1i;
-        // block of 2
+        // complex block of 2
         const V x12r = io.re(12);
         const V x3r = io.re(3);
         const V t24 = x12r + x3r;
@@ -83,7 +83,7 @@ struct ComplexGraph<18> {
         const V t25 = x12i + x3i;
         const V t26 = x12r - x3r;
         const V t27 = x12i - x3i;
-        // block of 2
+        // complex block of 2
         const V x14r = io.re(14);
         const V x5r = io.re(5);
         const V t28 = x14r + x5r;
@@ -92,7 +92,7 @@ struct ComplexGraph<18> {
         const V t29 = x14i + x5i;
         const V t30 = x14r - x5r;
         const V t31 = x14i - x5i;
-        // block of 2
+        // complex block of 2
         const V x16r = io.re(16);
         const V x7r = io.re(7);
         const V t32 = x16r + x7r;
@@ -101,7 +101,7 @@ struct ComplexGraph<18> {
         const V t33 = x16i + x7i;
         const V t34 = x16r - x7r;
         const V t35 = x16i - x7i;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t36 = t12 + t24;
         const V t37 = t13 + t25;
         const V t38 = t12 - t24;
@@ -118,7 +118,7 @@ struct ComplexGraph<18> {
         const V t49 = t45 - t46;
         const V t50 = t43 - t47;
         const V t51 = t45 + t46;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t52 = t16 + t28;
         const V t53 = t17 + t29;
         const V t54 = t16 - t28;
@@ -135,7 +135,7 @@ struct ComplexGraph<18> {
         const V t65 = t61 - t62;
         const V t66 = t59 - t63;
         const V t67 = t61 + t62;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t68 = t20 + t32;
         const V t69 = t21 + t33;
         const V t70 = t20 - t32;
@@ -152,7 +152,7 @@ struct ComplexGraph<18> {
         const V t81 = t77 - t78;
         const V t82 = t75 - t79;
         const V t83 = t77 + t78;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t84 = t56 + t72;
         const V t85 = t57 + t73;
         const V t86 = t56 - t72;
@@ -175,7 +175,7 @@ struct ComplexGraph<18> {
         io.re(6, t98);
         const V t99 = t93 + t94;
         io.im(6, t99);
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t100 = c2 * t67;
         const V t101 = c3 * t66;
         const V t102 = t101 + t100;
@@ -188,7 +188,7 @@ struct ComplexGraph<18> {
         const V t109 = c4 * t82;
         const V t110 = c5 * t83;
         const V t111 = t110 + t109;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t112 = t102 + t108;
         const V t113 = t105 - t111;
         const V t114 = t102 - t108;
@@ -211,7 +211,7 @@ struct ComplexGraph<18> {
         io.re(8, t126);
         const V t127 = t121 + t122;
         io.im(8, t127);
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t128 = c4 * t65;
         const V t129 = c5 * t64;
         const V t130 = t128 - t129;
@@ -224,7 +224,7 @@ struct ComplexGraph<18> {
         const V t137 = c6 * t80;
         const V t138 = c7 * t81;
         const V t139 = t138 + t137;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t140 = t130 + t136;
         const V t141 = t139 - t133;
         const V t142 = t130 - t136;
@@ -247,7 +247,7 @@ struct ComplexGraph<18> {
         io.re(10, t154);
         const V t155 = t149 + t150;
         io.im(10, t155);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t156 = t14 + t26;
         const V t157 = t15 + t27;
         const V t158 = t14 - t26;
@@ -264,7 +264,7 @@ struct ComplexGraph<18> {
         const V t169 = t165 - t166;
         const V t170 = t163 - t167;
         const V t171 = t165 + t166;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t172 = t18 + t30;
         const V t173 = t19 + t31;
         const V t174 = t18 - t30;
@@ -281,7 +281,7 @@ struct ComplexGraph<18> {
         const V t185 = t181 - t182;
         const V t186 = t179 - t183;
         const V t187 = t181 + t182;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t188 = t22 + t34;
         const V t189 = t23 + t35;
         const V t190 = t22 - t34;
@@ -298,7 +298,7 @@ struct ComplexGraph<18> {
         const V t201 = t197 - t198;
         const V t202 = t195 - t199;
         const V t203 = t197 + t198;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t204 = t176 + t192;
         const V t205 = t177 + t193;
         const V t206 = t176 - t192;
@@ -321,7 +321,7 @@ struct ComplexGraph<18> {
         io.re(15, t218);
         const V t219 = t213 + t214;
         io.im(15, t219);
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t220 = c2 * t187;
         const V t221 = c3 * t186;
         const V t222 = t221 + t220;
@@ -334,7 +334,7 @@ struct ComplexGraph<18> {
         const V t229 = c4 * t202;
         const V t230 = c5 * t203;
         const V t231 = t230 + t229;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t232 = t222 + t228;
         const V t233 = t225 - t231;
         const V t234 = t222 - t228;
@@ -357,7 +357,7 @@ struct ComplexGraph<18> {
         io.re(17, t246);
         const V t247 = t241 + t242;
         io.im(17, t247);
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t248 = c4 * t185;
         const V t249 = c5 * t184;
         const V t250 = t248 - t249;
@@ -370,7 +370,7 @@ struct ComplexGraph<18> {
         const V t257 = c6 * t200;
         const V t258 = c7 * t201;
         const V t259 = t258 + t257;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t260 = t250 + t256;
         const V t261 = t259 - t253;
         const V t262 = t250 - t256;

@@ -12,7 +12,7 @@ struct ComplexGraph<2> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x1r = io.re(1);
         const V t0 = x0r + x1r;

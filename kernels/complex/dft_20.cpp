@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 20.
 // Complex DFT of 20 points, prime-factor, order 4, 5.
-// 112 additions, 96 subtractions, 64 multiplications (104 with `scale`); 4 constants; 46 values alive at most.
+// 112 additions, 96 subtractions, 64 multiplications (104 with `scale`); 4 constants; 45 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -16,7 +16,7 @@ struct ComplexGraph<20> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x10r = io.re(10);
         const V t0 = x0r + x10r;
@@ -25,7 +25,7 @@ struct ComplexGraph<20> {
         const V t1 = x0i + x10i;
         const V t2 = x0r - x10r;
         const V t3 = x0i - x10i;
-        // block of 2
+        // complex block of 2
         const V x5r = io.re(5);
         const V x15r = io.re(15);
         const V t4 = x5r + x15r;
@@ -34,17 +34,17 @@ struct ComplexGraph<20> {
         const V t5 = x5i + x15i;
         const V t6 = x5r - x15r;
         const V t7 = x5i - x15i;
-        // block of 2
+        // complex block of 2
         const V t8 = t0 + t4;
         const V t9 = t1 + t5;
         const V t10 = t0 - t4;
         const V t11 = t1 - t5;
-        // block of 2
+        // complex block of 2
         const V t12 = t2 + t7;
         const V t13 = t3 - t6;
         const V t14 = t2 - t7;
         const V t15 = t3 + t6;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x14r = io.re(14);
         const V t16 = x4r + x14r;
@@ -53,7 +53,7 @@ struct ComplexGraph<20> {
         const V t17 = x4i + x14i;
         const V t18 = x4r - x14r;
         const V t19 = x4i - x14i;
-        // block of 2
+        // complex block of 2
         const V x9r = io.re(9);
         const V x19r = io.re(19);
         const V t20 = x9r + x19r;
@@ -62,17 +62,17 @@ struct ComplexGraph<20> {
         const V t21 = x9i + x19i;
         const V t22 = x9r - x19r;
         const V t23 = x9i - x19i;
-        // block of 2
+        // complex block of 2
         const V t24 = t16 + t20;
         const V t25 = t17 + t21;
         const V t26 = t16 - t20;
         const V t27 = t17 - t21;
-        // block of 2
+        // complex block of 2
         const V t28 = t18 + t23;
         const V t29 = t19 - t22;
         const V t30 = t18 - t23;
         const V t31 = t19 + t22;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x18r = io.re(18);
         const V t32 = x8r + x18r;
@@ -81,7 +81,7 @@ struct ComplexGraph<20> {
         const V t33 = x8i + x18i;
         const V t34 = x8r - x18r;
         const V t35 = x8i - x18i;
-        // block of 2
+        // complex block of 2
         const V x13r = io.re(13);
         const V x3r = io.re(3);
         const V t36 = x13r + x3r;
@@ -90,17 +90,17 @@ struct ComplexGraph<20> {
         const V t37 = x13i + x3i;
         const V t38 = x13r - x3r;
         const V t39 = x13i - x3i;
-        // block of 2
+        // complex block of 2
         const V t40 = t32 + t36;
         const V t41 = t33 + t37;
         const V t42 = t32 - t36;
         const V t43 = t33 - t37;
-        // block of 2
+        // complex block of 2
         const V t44 = t34 + t39;
         const V t45 = t35 - t38;
         const V t46 = t34 - t39;
         const V t47 = t35 + t38;
-        // block of 2
+        // complex block of 2
         const V x12r = io.re(12);
         const V x2r = io.re(2);
         const V t48 = x12r + x2r;
@@ -109,7 +109,7 @@ struct ComplexGraph<20> {
         const V t49 = x12i + x2i;
         const V t50 = x12r - x2r;
         const V t51 = x12i - x2i;
-        // block of 2
+        // complex block of 2
         const V x17r = io.re(17);
         const V x7r = io.re(7);
         const V t52 = x17r + x7r;
@@ -118,17 +118,17 @@ struct ComplexGraph<20> {
         const V t53 = x17i + x7i;
         const V t54 = x17r - x7r;
         const V t55 = x17i - x7i;
-        // block of 2
+        // complex block of 2
         const V t56 = t48 + t52;
         const V t57 = t49 + t53;
         const V t58 = t48 - t52;
         const V t59 = t49 - t53;
-        // block of 2
+        // complex block of 2
         const V t60 = t50 + t55;
         const V t61 = t51 - t54;
         const V t62 = t50 - t55;
         const V t63 = t51 + t54;
-        // block of 2
+        // complex block of 2
         const V x16r = io.re(16);
         const V x6r = io.re(6);
         const V t64 = x16r + x6r;
@@ -137,7 +137,7 @@ struct ComplexGraph<20> {
         const V t65 = x16i + x6i;
         const V t66 = x16r - x6r;
         const V t67 = x16i - x6i;
-        // block of 2
+        // complex block of 2
         const V x1r = io.re(1);
         const V x11r = io.re(11);
         const V t68 = x1r + x11r;
@@ -146,17 +146,17 @@ struct ComplexGraph<20> {
         const V t69 = x1i + x11i;
         const V t70 = x1r - x11r;
         const V t71 = x1i - x11i;
-        // block of 2
+        // complex block of 2
         const V t72 = t64 + t68;
         const V t73 = t65 + t69;
         const V t74 = t64 - t68;
         const V t75 = t65 - t69;
-        // block of 2
+        // complex block of 2
         const V t76 = t66 + t71;
         const V t77 = t67 - t70;
         const V t78 = t66 - t71;
         const V t79 = t67 + t70;
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t80 = t24 + t72;
         const V t81 = t25 + t73;
         const V t82 = t24 - t72;
@@ -180,18 +180,18 @@ struct ComplexGraph<20> {
         const V t98 = t96 - t97;
         const V t99 = t98 + t9;
         const V t100 = c2 * t82;
-        const V t101 = c2 * t83;
-        const V t102 = c3 * t86;
-        const V t103 = c3 * t87;
-        const V t104 = t100 - t102;
-        const V t105 = t101 - t103;
+        const V t101 = c3 * t86;
+        const V t102 = t100 - t101;
+        const V t103 = c2 * t83;
+        const V t104 = c3 * t87;
+        const V t105 = t103 - t104;
         const V t106 = t95 + t105;
         io.re(16, t106);
-        const V t107 = t99 - t104;
+        const V t107 = t99 - t102;
         io.im(16, t107);
         const V t108 = t95 - t105;
         io.re(4, t108);
-        const V t109 = t99 + t104;
+        const V t109 = t99 + t102;
         io.im(4, t109);
         const V t110 = c1 * t80;
         const V t111 = t8 - t110;
@@ -202,20 +202,20 @@ struct ComplexGraph<20> {
         const V t116 = c0 * t85;
         const V t117 = t115 + t116;
         const V t118 = c3 * t82;
-        const V t119 = c3 * t83;
-        const V t120 = c2 * t86;
-        const V t121 = c2 * t87;
-        const V t122 = t118 + t120;
-        const V t123 = t119 + t121;
+        const V t119 = c2 * t86;
+        const V t120 = t118 + t119;
+        const V t121 = c3 * t83;
+        const V t122 = c2 * t87;
+        const V t123 = t121 + t122;
         const V t124 = t113 + t123;
         io.re(12, t124);
-        const V t125 = t117 - t122;
+        const V t125 = t117 - t120;
         io.im(12, t125);
         const V t126 = t113 - t123;
         io.re(8, t126);
-        const V t127 = t117 + t122;
+        const V t127 = t117 + t120;
         io.im(8, t127);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t128 = t28 + t76;
         const V t129 = t29 + t77;
         const V t130 = t28 - t76;
@@ -239,18 +239,18 @@ struct ComplexGraph<20> {
         const V t146 = t144 - t145;
         const V t147 = t146 + t13;
         const V t148 = c2 * t130;
-        const V t149 = c2 * t131;
-        const V t150 = c3 * t134;
-        const V t151 = c3 * t135;
-        const V t152 = t148 - t150;
-        const V t153 = t149 - t151;
+        const V t149 = c3 * t134;
+        const V t150 = t148 - t149;
+        const V t151 = c2 * t131;
+        const V t152 = c3 * t135;
+        const V t153 = t151 - t152;
         const V t154 = t143 + t153;
         io.re(1, t154);
-        const V t155 = t147 - t152;
+        const V t155 = t147 - t150;
         io.im(1, t155);
         const V t156 = t143 - t153;
         io.re(9, t156);
-        const V t157 = t147 + t152;
+        const V t157 = t147 + t150;
         io.im(9, t157);
         const V t158 = c1 * t128;
         const V t159 = t12 - t158;
@@ -261,20 +261,20 @@ struct ComplexGraph<20> {
         const V t164 = c0 * t133;
         const V t165 = t163 + t164;
         const V t166 = c3 * t130;
-        const V t167 = c3 * t131;
-        const V t168 = c2 * t134;
-        const V t169 = c2 * t135;
-        const V t170 = t166 + t168;
-        const V t171 = t167 + t169;
+        const V t167 = c2 * t134;
+        const V t168 = t166 + t167;
+        const V t169 = c3 * t131;
+        const V t170 = c2 * t135;
+        const V t171 = t169 + t170;
         const V t172 = t161 + t171;
         io.re(17, t172);
-        const V t173 = t165 - t170;
+        const V t173 = t165 - t168;
         io.im(17, t173);
         const V t174 = t161 - t171;
         io.re(13, t174);
-        const V t175 = t165 + t170;
+        const V t175 = t165 + t168;
         io.im(13, t175);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t176 = t26 + t74;
         const V t177 = t27 + t75;
         const V t178 = t26 - t74;
@@ -298,18 +298,18 @@ struct ComplexGraph<20> {
         const V t194 = t192 - t193;
         const V t195 = t194 + t11;
         const V t196 = c2 * t178;
-        const V t197 = c2 * t179;
-        const V t198 = c3 * t182;
-        const V t199 = c3 * t183;
-        const V t200 = t196 - t198;
-        const V t201 = t197 - t199;
+        const V t197 = c3 * t182;
+        const V t198 = t196 - t197;
+        const V t199 = c2 * t179;
+        const V t200 = c3 * t183;
+        const V t201 = t199 - t200;
         const V t202 = t191 + t201;
         io.re(6, t202);
-        const V t203 = t195 - t200;
+        const V t203 = t195 - t198;
         io.im(6, t203);
         const V t204 = t191 - t201;
         io.re(14, t204);
-        const V t205 = t195 + t200;
+        const V t205 = t195 + t198;
         io.im(14, t205);
         const V t206 = c1 * t176;
         const V t207 = t10 - t206;
@@ -320,20 +320,20 @@ struct ComplexGraph<20> {
         const V t212 = c0 * t181;
         const V t213 = t211 + t212;
         const V t214 = c3 * t178;
-        const V t215 = c3 * t179;
-        const V t216 = c2 * t182;
-        const V t217 = c2 * t183;
-        const V t218 = t214 + t216;
-        const V t219 = t215 + t217;
+        const V t215 = c2 * t182;
+        const V t216 = t214 + t215;
+        const V t217 = c3 * t179;
+        const V t218 = c2 * t183;
+        const V t219 = t217 + t218;
         const V t220 = t209 + t219;
         io.re(2, t220);
-        const V t221 = t213 - t218;
+        const V t221 = t213 - t216;
         io.im(2, t221);
         const V t222 = t209 - t219;
         io.re(18, t222);
-        const V t223 = t213 + t218;
+        const V t223 = t213 + t216;
         io.im(18, t223);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t224 = t30 + t78;
         const V t225 = t31 + t79;
         const V t226 = t30 - t78;
@@ -357,18 +357,18 @@ struct ComplexGraph<20> {
         const V t242 = t240 - t241;
         const V t243 = t242 + t15;
         const V t244 = c2 * t226;
-        const V t245 = c2 * t227;
-        const V t246 = c3 * t230;
-        const V t247 = c3 * t231;
-        const V t248 = t244 - t246;
-        const V t249 = t245 - t247;
+        const V t245 = c3 * t230;
+        const V t246 = t244 - t245;
+        const V t247 = c2 * t227;
+        const V t248 = c3 * t231;
+        const V t249 = t247 - t248;
         const V t250 = t239 + t249;
         io.re(11, t250);
-        const V t251 = t243 - t248;
+        const V t251 = t243 - t246;
         io.im(11, t251);
         const V t252 = t239 - t249;
         io.re(19, t252);
-        const V t253 = t243 + t248;
+        const V t253 = t243 + t246;
         io.im(19, t253);
         const V t254 = c1 * t224;
         const V t255 = t14 - t254;
@@ -379,18 +379,18 @@ struct ComplexGraph<20> {
         const V t260 = c0 * t229;
         const V t261 = t259 + t260;
         const V t262 = c3 * t226;
-        const V t263 = c3 * t227;
-        const V t264 = c2 * t230;
-        const V t265 = c2 * t231;
-        const V t266 = t262 + t264;
-        const V t267 = t263 + t265;
+        const V t263 = c2 * t230;
+        const V t264 = t262 + t263;
+        const V t265 = c3 * t227;
+        const V t266 = c2 * t231;
+        const V t267 = t265 + t266;
         const V t268 = t257 + t267;
         io.re(7, t268);
-        const V t269 = t261 - t266;
+        const V t269 = t261 - t264;
         io.im(7, t269);
         const V t270 = t257 - t267;
         io.re(3, t270);
-        const V t271 = t261 + t266;
+        const V t271 = t261 + t264;
         io.im(3, t271);
     }
 };

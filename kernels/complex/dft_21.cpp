@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 21.
 // Complex DFT of 21 points, prime-factor, order 3, 7.
-// 132 additions, 132 subtractions, 136 multiplications (178 with `scale`); 8 constants; 48 values alive at most.
+// 132 additions, 132 subtractions, 136 multiplications (178 with `scale`); 8 constants; 47 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -20,7 +20,7 @@ struct ComplexGraph<21> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3
+        // complex block of 3
         const V x7r = io.re(7);
         const V x14r = io.re(14);
         const V t0 = x7r + x14r;
@@ -43,7 +43,7 @@ struct ComplexGraph<21> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3
+        // complex block of 3
         const V x10r = io.re(10);
         const V x17r = io.re(17);
         const V t16 = x10r + x17r;
@@ -66,7 +66,7 @@ struct ComplexGraph<21> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3
+        // complex block of 3
         const V x13r = io.re(13);
         const V x20r = io.re(20);
         const V t32 = x13r + x20r;
@@ -89,7 +89,7 @@ struct ComplexGraph<21> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3
+        // complex block of 3
         const V x16r = io.re(16);
         const V x2r = io.re(2);
         const V t48 = x16r + x2r;
@@ -112,7 +112,7 @@ struct ComplexGraph<21> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 3
+        // complex block of 3
         const V x19r = io.re(19);
         const V x5r = io.re(5);
         const V t64 = x19r + x5r;
@@ -135,7 +135,7 @@ struct ComplexGraph<21> {
         const V t77 = t73 - t74;
         const V t78 = t71 - t75;
         const V t79 = t73 + t74;
-        // block of 3
+        // complex block of 3
         const V x1r = io.re(1);
         const V x8r = io.re(8);
         const V t80 = x1r + x8r;
@@ -158,7 +158,7 @@ struct ComplexGraph<21> {
         const V t93 = t89 - t90;
         const V t94 = t87 - t91;
         const V t95 = t89 + t90;
-        // block of 3
+        // complex block of 3
         const V x4r = io.re(4);
         const V x11r = io.re(11);
         const V t96 = x4r + x11r;
@@ -181,7 +181,7 @@ struct ComplexGraph<21> {
         const V t109 = t105 - t106;
         const V t110 = t103 - t107;
         const V t111 = t105 + t106;
-        // block of 7, multiplier 3
+        // complex block of 7, multiplier 3
         const V t112 = t20 + t100;
         const V t113 = t21 + t101;
         const V t114 = t20 - t100;
@@ -195,10 +195,10 @@ struct ComplexGraph<21> {
         const V t122 = t68 - t52;
         const V t123 = t69 - t53;
         const V t124 = t112 + t116;
-        const V t125 = t113 + t117;
-        const V t126 = t124 + t120;
-        const V t127 = t125 + t121;
-        const V t128 = t126 + t4;
+        const V t125 = t124 + t120;
+        const V t126 = t113 + t117;
+        const V t127 = t126 + t121;
+        const V t128 = t125 + t4;
         io.re(0, t128);
         const V t129 = t127 + t5;
         io.im(0, t129);
@@ -215,22 +215,22 @@ struct ComplexGraph<21> {
         const V t140 = t138 - t139;
         const V t141 = t140 + t5;
         const V t142 = c5 * t114;
-        const V t143 = c5 * t115;
-        const V t144 = c6 * t118;
-        const V t145 = c6 * t119;
-        const V t146 = t142 - t144;
-        const V t147 = t143 - t145;
-        const V t148 = c7 * t122;
-        const V t149 = c7 * t123;
-        const V t150 = t146 - t148;
-        const V t151 = t147 - t149;
+        const V t143 = c6 * t118;
+        const V t144 = t142 - t143;
+        const V t145 = c7 * t122;
+        const V t146 = t144 - t145;
+        const V t147 = c5 * t115;
+        const V t148 = c6 * t119;
+        const V t149 = t147 - t148;
+        const V t150 = c7 * t123;
+        const V t151 = t149 - t150;
         const V t152 = t135 + t151;
         io.re(15, t152);
-        const V t153 = t141 - t150;
+        const V t153 = t141 - t146;
         io.im(15, t153);
         const V t154 = t135 - t151;
         io.re(6, t154);
-        const V t155 = t141 + t150;
+        const V t155 = t141 + t146;
         io.im(6, t155);
         const V t156 = c3 * t112;
         const V t157 = t4 - t156;
@@ -245,22 +245,22 @@ struct ComplexGraph<21> {
         const V t166 = c2 * t121;
         const V t167 = t165 + t166;
         const V t168 = c6 * t114;
-        const V t169 = c6 * t115;
-        const V t170 = c7 * t118;
-        const V t171 = c7 * t119;
-        const V t172 = t168 + t170;
-        const V t173 = t169 + t171;
-        const V t174 = c5 * t122;
-        const V t175 = c5 * t123;
-        const V t176 = t172 + t174;
-        const V t177 = t173 + t175;
+        const V t169 = c7 * t118;
+        const V t170 = t168 + t169;
+        const V t171 = c5 * t122;
+        const V t172 = t170 + t171;
+        const V t173 = c6 * t115;
+        const V t174 = c7 * t119;
+        const V t175 = t173 + t174;
+        const V t176 = c5 * t123;
+        const V t177 = t175 + t176;
         const V t178 = t161 + t177;
         io.re(9, t178);
-        const V t179 = t167 - t176;
+        const V t179 = t167 - t172;
         io.im(9, t179);
         const V t180 = t161 - t177;
         io.re(12, t180);
-        const V t181 = t167 + t176;
+        const V t181 = t167 + t172;
         io.im(12, t181);
         const V t182 = c4 * t112;
         const V t183 = t4 - t182;
@@ -275,24 +275,24 @@ struct ComplexGraph<21> {
         const V t192 = c3 * t121;
         const V t193 = t191 - t192;
         const V t194 = c7 * t114;
-        const V t195 = c7 * t115;
-        const V t196 = c5 * t118;
-        const V t197 = c5 * t119;
-        const V t198 = t194 + t196;
-        const V t199 = t195 + t197;
-        const V t200 = c6 * t122;
-        const V t201 = c6 * t123;
-        const V t202 = t198 - t200;
-        const V t203 = t199 - t201;
+        const V t195 = c5 * t118;
+        const V t196 = t194 + t195;
+        const V t197 = c6 * t122;
+        const V t198 = t196 - t197;
+        const V t199 = c7 * t115;
+        const V t200 = c5 * t119;
+        const V t201 = t199 + t200;
+        const V t202 = c6 * t123;
+        const V t203 = t201 - t202;
         const V t204 = t187 + t203;
         io.re(3, t204);
-        const V t205 = t193 - t202;
+        const V t205 = t193 - t198;
         io.im(3, t205);
         const V t206 = t187 - t203;
         io.re(18, t206);
-        const V t207 = t193 + t202;
+        const V t207 = t193 + t198;
         io.im(18, t207);
-        // block of 7, multiplier 3
+        // complex block of 7, multiplier 3
         const V t208 = t28 + t108;
         const V t209 = t29 + t109;
         const V t210 = t28 - t108;
@@ -306,10 +306,10 @@ struct ComplexGraph<21> {
         const V t218 = t76 - t60;
         const V t219 = t77 - t61;
         const V t220 = t208 + t212;
-        const V t221 = t209 + t213;
-        const V t222 = t220 + t216;
-        const V t223 = t221 + t217;
-        const V t224 = t222 + t12;
+        const V t221 = t220 + t216;
+        const V t222 = t209 + t213;
+        const V t223 = t222 + t217;
+        const V t224 = t221 + t12;
         io.re(7, t224);
         const V t225 = t223 + t13;
         io.im(7, t225);
@@ -326,22 +326,22 @@ struct ComplexGraph<21> {
         const V t236 = t234 - t235;
         const V t237 = t236 + t13;
         const V t238 = c5 * t210;
-        const V t239 = c5 * t211;
-        const V t240 = c6 * t214;
-        const V t241 = c6 * t215;
-        const V t242 = t238 - t240;
-        const V t243 = t239 - t241;
-        const V t244 = c7 * t218;
-        const V t245 = c7 * t219;
-        const V t246 = t242 - t244;
-        const V t247 = t243 - t245;
+        const V t239 = c6 * t214;
+        const V t240 = t238 - t239;
+        const V t241 = c7 * t218;
+        const V t242 = t240 - t241;
+        const V t243 = c5 * t211;
+        const V t244 = c6 * t215;
+        const V t245 = t243 - t244;
+        const V t246 = c7 * t219;
+        const V t247 = t245 - t246;
         const V t248 = t231 + t247;
         io.re(1, t248);
-        const V t249 = t237 - t246;
+        const V t249 = t237 - t242;
         io.im(1, t249);
         const V t250 = t231 - t247;
         io.re(13, t250);
-        const V t251 = t237 + t246;
+        const V t251 = t237 + t242;
         io.im(13, t251);
         const V t252 = c3 * t208;
         const V t253 = t12 - t252;
@@ -356,22 +356,22 @@ struct ComplexGraph<21> {
         const V t262 = c2 * t217;
         const V t263 = t261 + t262;
         const V t264 = c6 * t210;
-        const V t265 = c6 * t211;
-        const V t266 = c7 * t214;
-        const V t267 = c7 * t215;
-        const V t268 = t264 + t266;
-        const V t269 = t265 + t267;
-        const V t270 = c5 * t218;
-        const V t271 = c5 * t219;
-        const V t272 = t268 + t270;
-        const V t273 = t269 + t271;
+        const V t265 = c7 * t214;
+        const V t266 = t264 + t265;
+        const V t267 = c5 * t218;
+        const V t268 = t266 + t267;
+        const V t269 = c6 * t211;
+        const V t270 = c7 * t215;
+        const V t271 = t269 + t270;
+        const V t272 = c5 * t219;
+        const V t273 = t271 + t272;
         const V t274 = t257 + t273;
         io.re(16, t274);
-        const V t275 = t263 - t272;
+        const V t275 = t263 - t268;
         io.im(16, t275);
         const V t276 = t257 - t273;
         io.re(19, t276);
-        const V t277 = t263 + t272;
+        const V t277 = t263 + t268;
         io.im(19, t277);
         const V t278 = c4 * t208;
         const V t279 = t12 - t278;
@@ -386,24 +386,24 @@ struct ComplexGraph<21> {
         const V t288 = c3 * t217;
         const V t289 = t287 - t288;
         const V t290 = c7 * t210;
-        const V t291 = c7 * t211;
-        const V t292 = c5 * t214;
-        const V t293 = c5 * t215;
-        const V t294 = t290 + t292;
-        const V t295 = t291 + t293;
-        const V t296 = c6 * t218;
-        const V t297 = c6 * t219;
-        const V t298 = t294 - t296;
-        const V t299 = t295 - t297;
+        const V t291 = c5 * t214;
+        const V t292 = t290 + t291;
+        const V t293 = c6 * t218;
+        const V t294 = t292 - t293;
+        const V t295 = c7 * t211;
+        const V t296 = c5 * t215;
+        const V t297 = t295 + t296;
+        const V t298 = c6 * t219;
+        const V t299 = t297 - t298;
         const V t300 = t283 + t299;
         io.re(10, t300);
-        const V t301 = t289 - t298;
+        const V t301 = t289 - t294;
         io.im(10, t301);
         const V t302 = t283 - t299;
         io.re(4, t302);
-        const V t303 = t289 + t298;
+        const V t303 = t289 + t294;
         io.im(4, t303);
-        // block of 7, multiplier 3
+        // complex block of 7, multiplier 3
         const V t304 = t30 + t110;
         const V t305 = t31 + t111;
         const V t306 = t30 - t110;
@@ -417,10 +417,10 @@ struct ComplexGraph<21> {
         const V t314 = t78 - t62;
         const V t315 = t79 - t63;
         const V t316 = t304 + t308;
-        const V t317 = t305 + t309;
-        const V t318 = t316 + t312;
-        const V t319 = t317 + t313;
-        const V t320 = t318 + t14;
+        const V t317 = t316 + t312;
+        const V t318 = t305 + t309;
+        const V t319 = t318 + t313;
+        const V t320 = t317 + t14;
         io.re(14, t320);
         const V t321 = t319 + t15;
         io.im(14, t321);
@@ -437,22 +437,22 @@ struct ComplexGraph<21> {
         const V t332 = t330 - t331;
         const V t333 = t332 + t15;
         const V t334 = c5 * t306;
-        const V t335 = c5 * t307;
-        const V t336 = c6 * t310;
-        const V t337 = c6 * t311;
-        const V t338 = t334 - t336;
-        const V t339 = t335 - t337;
-        const V t340 = c7 * t314;
-        const V t341 = c7 * t315;
-        const V t342 = t338 - t340;
-        const V t343 = t339 - t341;
+        const V t335 = c6 * t310;
+        const V t336 = t334 - t335;
+        const V t337 = c7 * t314;
+        const V t338 = t336 - t337;
+        const V t339 = c5 * t307;
+        const V t340 = c6 * t311;
+        const V t341 = t339 - t340;
+        const V t342 = c7 * t315;
+        const V t343 = t341 - t342;
         const V t344 = t327 + t343;
         io.re(8, t344);
-        const V t345 = t333 - t342;
+        const V t345 = t333 - t338;
         io.im(8, t345);
         const V t346 = t327 - t343;
         io.re(20, t346);
-        const V t347 = t333 + t342;
+        const V t347 = t333 + t338;
         io.im(20, t347);
         const V t348 = c3 * t304;
         const V t349 = t14 - t348;
@@ -467,22 +467,22 @@ struct ComplexGraph<21> {
         const V t358 = c2 * t313;
         const V t359 = t357 + t358;
         const V t360 = c6 * t306;
-        const V t361 = c6 * t307;
-        const V t362 = c7 * t310;
-        const V t363 = c7 * t311;
-        const V t364 = t360 + t362;
-        const V t365 = t361 + t363;
-        const V t366 = c5 * t314;
-        const V t367 = c5 * t315;
-        const V t368 = t364 + t366;
-        const V t369 = t365 + t367;
+        const V t361 = c7 * t310;
+        const V t362 = t360 + t361;
+        const V t363 = c5 * t314;
+        const V t364 = t362 + t363;
+        const V t365 = c6 * t307;
+        const V t366 = c7 * t311;
+        const V t367 = t365 + t366;
+        const V t368 = c5 * t315;
+        const V t369 = t367 + t368;
         const V t370 = t353 + t369;
         io.re(2, t370);
-        const V t371 = t359 - t368;
+        const V t371 = t359 - t364;
         io.im(2, t371);
         const V t372 = t353 - t369;
         io.re(5, t372);
-        const V t373 = t359 + t368;
+        const V t373 = t359 + t364;
         io.im(5, t373);
         const V t374 = c4 * t304;
         const V t375 = t14 - t374;
@@ -497,22 +497,22 @@ struct ComplexGraph<21> {
         const V t384 = c3 * t313;
         const V t385 = t383 - t384;
         const V t386 = c7 * t306;
-        const V t387 = c7 * t307;
-        const V t388 = c5 * t310;
-        const V t389 = c5 * t311;
-        const V t390 = t386 + t388;
-        const V t391 = t387 + t389;
-        const V t392 = c6 * t314;
-        const V t393 = c6 * t315;
-        const V t394 = t390 - t392;
-        const V t395 = t391 - t393;
+        const V t387 = c5 * t310;
+        const V t388 = t386 + t387;
+        const V t389 = c6 * t314;
+        const V t390 = t388 - t389;
+        const V t391 = c7 * t307;
+        const V t392 = c5 * t311;
+        const V t393 = t391 + t392;
+        const V t394 = c6 * t315;
+        const V t395 = t393 - t394;
         const V t396 = t379 + t395;
         io.re(17, t396);
-        const V t397 = t385 - t394;
+        const V t397 = t385 - t390;
         io.im(17, t397);
         const V t398 = t379 - t395;
         io.re(11, t398);
-        const V t399 = t385 + t394;
+        const V t399 = t385 + t390;
         io.im(11, t399);
     }
 };

@@ -15,7 +15,7 @@ struct ComplexGraph<24> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x12r = io.re(12);
         const V t0 = x0r + x12r;
@@ -24,7 +24,7 @@ struct ComplexGraph<24> {
         const V t1 = x0i + x12i;
         const V t2 = x0r - x12r;
         const V t3 = x0i - x12i;
-        // block of 2
+        // complex block of 2
         const V x3r = io.re(3);
         const V x15r = io.re(15);
         const V t4 = x3r + x15r;
@@ -33,7 +33,7 @@ struct ComplexGraph<24> {
         const V t5 = x3i + x15i;
         const V t6 = x3r - x15r;
         const V t7 = x3i - x15i;
-        // block of 2
+        // complex block of 2
         const V x6r = io.re(6);
         const V x18r = io.re(18);
         const V t8 = x6r + x18r;
@@ -42,7 +42,7 @@ struct ComplexGraph<24> {
         const V t9 = x6i + x18i;
         const V t10 = x6r - x18r;
         const V t11 = x6i - x18i;
-        // block of 2
+        // complex block of 2
         const V x9r = io.re(9);
         const V x21r = io.re(21);
         const V t12 = x9r + x21r;
@@ -51,27 +51,27 @@ struct ComplexGraph<24> {
         const V t13 = x9i + x21i;
         const V t14 = x9r - x21r;
         const V t15 = x9i - x21i;
-        // block of 2
+        // complex block of 2
         const V t16 = t0 + t8;
         const V t17 = t1 + t9;
         const V t18 = t0 - t8;
         const V t19 = t1 - t9;
-        // block of 2
+        // complex block of 2
         const V t20 = t4 + t12;
         const V t21 = t5 + t13;
         const V t22 = t4 - t12;
         const V t23 = t5 - t13;
-        // block of 2
+        // complex block of 2
         const V t24 = t16 + t20;
         const V t25 = t17 + t21;
         const V t26 = t16 - t20;
         const V t27 = t17 - t21;
-        // block of 2
+        // complex block of 2
         const V t28 = t18 - t23;
         const V t29 = t19 + t22;
         const V t30 = t18 + t23;
         const V t31 = t19 - t22;
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t32 = c0 * t6;
         const V t33 = c0 * t7;
         const V t34 = t32 + t33;
@@ -80,27 +80,27 @@ struct ComplexGraph<24> {
         const V t37 = c0 * t15;
         const V t38 = t36 + t37;
         const V t39 = t37 - t36;
-        // block of 2
+        // complex block of 2
         const V t40 = t2 - t11;
         const V t41 = t3 + t10;
         const V t42 = t2 + t11;
         const V t43 = t3 - t10;
-        // block of 2
+        // complex block of 2
         const V t44 = t35 + t38;
         const V t45 = t39 - t34;
         const V t46 = t35 - t38;
         const V t47 = t34 + t39;
-        // block of 2
+        // complex block of 2
         const V t48 = t40 + t44;
         const V t49 = t41 + t45;
         const V t50 = t40 - t44;
         const V t51 = t41 - t45;
-        // block of 2
+        // complex block of 2
         const V t52 = t42 + t47;
         const V t53 = t43 + t46;
         const V t54 = t42 - t47;
         const V t55 = t43 - t46;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x20r = io.re(20);
         const V t56 = x8r + x20r;
@@ -109,7 +109,7 @@ struct ComplexGraph<24> {
         const V t57 = x8i + x20i;
         const V t58 = x8r - x20r;
         const V t59 = x8i - x20i;
-        // block of 2
+        // complex block of 2
         const V x11r = io.re(11);
         const V x23r = io.re(23);
         const V t60 = x11r + x23r;
@@ -118,7 +118,7 @@ struct ComplexGraph<24> {
         const V t61 = x11i + x23i;
         const V t62 = x11r - x23r;
         const V t63 = x11i - x23i;
-        // block of 2
+        // complex block of 2
         const V x14r = io.re(14);
         const V x2r = io.re(2);
         const V t64 = x14r + x2r;
@@ -127,7 +127,7 @@ struct ComplexGraph<24> {
         const V t65 = x14i + x2i;
         const V t66 = x14r - x2r;
         const V t67 = x14i - x2i;
-        // block of 2
+        // complex block of 2
         const V x17r = io.re(17);
         const V x5r = io.re(5);
         const V t68 = x17r + x5r;
@@ -136,27 +136,27 @@ struct ComplexGraph<24> {
         const V t69 = x17i + x5i;
         const V t70 = x17r - x5r;
         const V t71 = x17i - x5i;
-        // block of 2
+        // complex block of 2
         const V t72 = t56 + t64;
         const V t73 = t57 + t65;
         const V t74 = t56 - t64;
         const V t75 = t57 - t65;
-        // block of 2
+        // complex block of 2
         const V t76 = t60 + t68;
         const V t77 = t61 + t69;
         const V t78 = t60 - t68;
         const V t79 = t61 - t69;
-        // block of 2
+        // complex block of 2
         const V t80 = t72 + t76;
         const V t81 = t73 + t77;
         const V t82 = t72 - t76;
         const V t83 = t73 - t77;
-        // block of 2
+        // complex block of 2
         const V t84 = t74 - t79;
         const V t85 = t75 + t78;
         const V t86 = t74 + t79;
         const V t87 = t75 - t78;
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t88 = c0 * t62;
         const V t89 = c0 * t63;
         const V t90 = t88 + t89;
@@ -165,27 +165,27 @@ struct ComplexGraph<24> {
         const V t93 = c0 * t71;
         const V t94 = t92 + t93;
         const V t95 = t93 - t92;
-        // block of 2
+        // complex block of 2
         const V t96 = t58 - t67;
         const V t97 = t59 + t66;
         const V t98 = t58 + t67;
         const V t99 = t59 - t66;
-        // block of 2
+        // complex block of 2
         const V t100 = t91 + t94;
         const V t101 = t95 - t90;
         const V t102 = t91 - t94;
         const V t103 = t90 + t95;
-        // block of 2
+        // complex block of 2
         const V t104 = t96 + t100;
         const V t105 = t97 + t101;
         const V t106 = t96 - t100;
         const V t107 = t97 - t101;
-        // block of 2
+        // complex block of 2
         const V t108 = t98 + t103;
         const V t109 = t99 + t102;
         const V t110 = t98 - t103;
         const V t111 = t99 - t102;
-        // block of 2
+        // complex block of 2
         const V x16r = io.re(16);
         const V x4r = io.re(4);
         const V t112 = x16r + x4r;
@@ -194,7 +194,7 @@ struct ComplexGraph<24> {
         const V t113 = x16i + x4i;
         const V t114 = x16r - x4r;
         const V t115 = x16i - x4i;
-        // block of 2
+        // complex block of 2
         const V x19r = io.re(19);
         const V x7r = io.re(7);
         const V t116 = x19r + x7r;
@@ -203,7 +203,7 @@ struct ComplexGraph<24> {
         const V t117 = x19i + x7i;
         const V t118 = x19r - x7r;
         const V t119 = x19i - x7i;
-        // block of 2
+        // complex block of 2
         const V x22r = io.re(22);
         const V x10r = io.re(10);
         const V t120 = x22r + x10r;
@@ -212,7 +212,7 @@ struct ComplexGraph<24> {
         const V t121 = x22i + x10i;
         const V t122 = x22r - x10r;
         const V t123 = x22i - x10i;
-        // block of 2
+        // complex block of 2
         const V x1r = io.re(1);
         const V x13r = io.re(13);
         const V t124 = x1r + x13r;
@@ -221,27 +221,27 @@ struct ComplexGraph<24> {
         const V t125 = x1i + x13i;
         const V t126 = x1r - x13r;
         const V t127 = x1i - x13i;
-        // block of 2
+        // complex block of 2
         const V t128 = t112 + t120;
         const V t129 = t113 + t121;
         const V t130 = t112 - t120;
         const V t131 = t113 - t121;
-        // block of 2
+        // complex block of 2
         const V t132 = t116 + t124;
         const V t133 = t117 + t125;
         const V t134 = t116 - t124;
         const V t135 = t117 - t125;
-        // block of 2
+        // complex block of 2
         const V t136 = t128 + t132;
         const V t137 = t129 + t133;
         const V t138 = t128 - t132;
         const V t139 = t129 - t133;
-        // block of 2
+        // complex block of 2
         const V t140 = t130 - t135;
         const V t141 = t131 + t134;
         const V t142 = t130 + t135;
         const V t143 = t131 - t134;
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t144 = c0 * t118;
         const V t145 = c0 * t119;
         const V t146 = t144 + t145;
@@ -250,27 +250,27 @@ struct ComplexGraph<24> {
         const V t149 = c0 * t127;
         const V t150 = t148 + t149;
         const V t151 = t149 - t148;
-        // block of 2
+        // complex block of 2
         const V t152 = t114 - t123;
         const V t153 = t115 + t122;
         const V t154 = t114 + t123;
         const V t155 = t115 - t122;
-        // block of 2
+        // complex block of 2
         const V t156 = t147 + t150;
         const V t157 = t151 - t146;
         const V t158 = t147 - t150;
         const V t159 = t146 + t151;
-        // block of 2
+        // complex block of 2
         const V t160 = t152 + t156;
         const V t161 = t153 + t157;
         const V t162 = t152 - t156;
         const V t163 = t153 - t157;
-        // block of 2
+        // complex block of 2
         const V t164 = t154 + t159;
         const V t165 = t155 + t158;
         const V t166 = t154 - t159;
         const V t167 = t155 - t158;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t168 = t80 + t136;
         const V t169 = t81 + t137;
         const V t170 = t80 - t136;
@@ -293,7 +293,7 @@ struct ComplexGraph<24> {
         io.re(8, t182);
         const V t183 = t177 + t178;
         io.im(8, t183);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t184 = t104 + t160;
         const V t185 = t105 + t161;
         const V t186 = t104 - t160;
@@ -316,7 +316,7 @@ struct ComplexGraph<24> {
         io.re(11, t198);
         const V t199 = t193 + t194;
         io.im(11, t199);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t200 = t84 + t140;
         const V t201 = t85 + t141;
         const V t202 = t84 - t140;
@@ -339,7 +339,7 @@ struct ComplexGraph<24> {
         io.re(14, t214);
         const V t215 = t209 + t210;
         io.im(14, t215);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t216 = t108 + t164;
         const V t217 = t109 + t165;
         const V t218 = t108 - t164;
@@ -362,7 +362,7 @@ struct ComplexGraph<24> {
         io.re(17, t230);
         const V t231 = t225 + t226;
         io.im(17, t231);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t232 = t82 + t138;
         const V t233 = t83 + t139;
         const V t234 = t82 - t138;
@@ -385,7 +385,7 @@ struct ComplexGraph<24> {
         io.re(20, t246);
         const V t247 = t241 + t242;
         io.im(20, t247);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t248 = t106 + t162;
         const V t249 = t107 + t163;
         const V t250 = t106 - t162;
@@ -408,7 +408,7 @@ struct ComplexGraph<24> {
         io.re(23, t262);
         const V t263 = t257 + t258;
         io.im(23, t263);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t264 = t86 + t142;
         const V t265 = t87 + t143;
         const V t266 = t86 - t142;
@@ -431,7 +431,7 @@ struct ComplexGraph<24> {
         io.re(2, t278);
         const V t279 = t273 + t274;
         io.im(2, t279);
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t280 = t110 + t166;
         const V t281 = t111 + t167;
         const V t282 = t110 - t166;

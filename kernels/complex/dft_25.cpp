@@ -32,7 +32,7 @@ struct ComplexGraph<25> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 5
+        // complex block of 5
         const V x5r = io.re(5);
         const V x20r = io.re(20);
         const V t0 = x5r + x20r;
@@ -64,15 +64,15 @@ struct ComplexGraph<25> {
         const V t18 = t16 - t17;
         const V t19 = t18 + x0i;
         const V t20 = c2 * t2;
-        const V t21 = c2 * t3;
-        const V t22 = c3 * t6;
-        const V t23 = c3 * t7;
-        const V t24 = t20 - t22;
-        const V t25 = t21 - t23;
+        const V t21 = c3 * t6;
+        const V t22 = t20 - t21;
+        const V t23 = c2 * t3;
+        const V t24 = c3 * t7;
+        const V t25 = t23 - t24;
         const V t26 = t15 + t25;
-        const V t27 = t19 - t24;
+        const V t27 = t19 - t22;
         const V t28 = t15 - t25;
-        const V t29 = t19 + t24;
+        const V t29 = t19 + t22;
         const V t30 = c1 * t0;
         const V t31 = x0r - t30;
         const V t32 = c0 * t4;
@@ -82,16 +82,16 @@ struct ComplexGraph<25> {
         const V t36 = c0 * t5;
         const V t37 = t35 + t36;
         const V t38 = c3 * t2;
-        const V t39 = c3 * t3;
-        const V t40 = c2 * t6;
-        const V t41 = c2 * t7;
-        const V t42 = t38 + t40;
-        const V t43 = t39 + t41;
+        const V t39 = c2 * t6;
+        const V t40 = t38 + t39;
+        const V t41 = c3 * t3;
+        const V t42 = c2 * t7;
+        const V t43 = t41 + t42;
         const V t44 = t33 + t43;
-        const V t45 = t37 - t42;
+        const V t45 = t37 - t40;
         const V t46 = t33 - t43;
-        const V t47 = t37 + t42;
-        // block of 5
+        const V t47 = t37 + t40;
+        // complex block of 5
         const V x6r = io.re(6);
         const V x21r = io.re(21);
         const V t48 = x6r + x21r;
@@ -123,15 +123,15 @@ struct ComplexGraph<25> {
         const V t66 = t64 - t65;
         const V t67 = t66 + x1i;
         const V t68 = c2 * t50;
-        const V t69 = c2 * t51;
-        const V t70 = c3 * t54;
-        const V t71 = c3 * t55;
-        const V t72 = t68 - t70;
-        const V t73 = t69 - t71;
+        const V t69 = c3 * t54;
+        const V t70 = t68 - t69;
+        const V t71 = c2 * t51;
+        const V t72 = c3 * t55;
+        const V t73 = t71 - t72;
         const V t74 = t63 + t73;
-        const V t75 = t67 - t72;
+        const V t75 = t67 - t70;
         const V t76 = t63 - t73;
-        const V t77 = t67 + t72;
+        const V t77 = t67 + t70;
         const V t78 = c1 * t48;
         const V t79 = x1r - t78;
         const V t80 = c0 * t52;
@@ -141,16 +141,16 @@ struct ComplexGraph<25> {
         const V t84 = c0 * t53;
         const V t85 = t83 + t84;
         const V t86 = c3 * t50;
-        const V t87 = c3 * t51;
-        const V t88 = c2 * t54;
-        const V t89 = c2 * t55;
-        const V t90 = t86 + t88;
-        const V t91 = t87 + t89;
+        const V t87 = c2 * t54;
+        const V t88 = t86 + t87;
+        const V t89 = c3 * t51;
+        const V t90 = c2 * t55;
+        const V t91 = t89 + t90;
         const V t92 = t81 + t91;
-        const V t93 = t85 - t90;
+        const V t93 = t85 - t88;
         const V t94 = t81 - t91;
-        const V t95 = t85 + t90;
-        // block of 5
+        const V t95 = t85 + t88;
+        // complex block of 5
         const V x7r = io.re(7);
         const V x22r = io.re(22);
         const V t96 = x7r + x22r;
@@ -182,15 +182,15 @@ struct ComplexGraph<25> {
         const V t114 = t112 - t113;
         const V t115 = t114 + x2i;
         const V t116 = c2 * t98;
-        const V t117 = c2 * t99;
-        const V t118 = c3 * t102;
-        const V t119 = c3 * t103;
-        const V t120 = t116 - t118;
-        const V t121 = t117 - t119;
+        const V t117 = c3 * t102;
+        const V t118 = t116 - t117;
+        const V t119 = c2 * t99;
+        const V t120 = c3 * t103;
+        const V t121 = t119 - t120;
         const V t122 = t111 + t121;
-        const V t123 = t115 - t120;
+        const V t123 = t115 - t118;
         const V t124 = t111 - t121;
-        const V t125 = t115 + t120;
+        const V t125 = t115 + t118;
         const V t126 = c1 * t96;
         const V t127 = x2r - t126;
         const V t128 = c0 * t100;
@@ -200,16 +200,16 @@ struct ComplexGraph<25> {
         const V t132 = c0 * t101;
         const V t133 = t131 + t132;
         const V t134 = c3 * t98;
-        const V t135 = c3 * t99;
-        const V t136 = c2 * t102;
-        const V t137 = c2 * t103;
-        const V t138 = t134 + t136;
-        const V t139 = t135 + t137;
+        const V t135 = c2 * t102;
+        const V t136 = t134 + t135;
+        const V t137 = c3 * t99;
+        const V t138 = c2 * t103;
+        const V t139 = t137 + t138;
         const V t140 = t129 + t139;
-        const V t141 = t133 - t138;
+        const V t141 = t133 - t136;
         const V t142 = t129 - t139;
-        const V t143 = t133 + t138;
-        // block of 5
+        const V t143 = t133 + t136;
+        // complex block of 5
         const V x8r = io.re(8);
         const V x23r = io.re(23);
         const V t144 = x8r + x23r;
@@ -241,15 +241,15 @@ struct ComplexGraph<25> {
         const V t162 = t160 - t161;
         const V t163 = t162 + x3i;
         const V t164 = c2 * t146;
-        const V t165 = c2 * t147;
-        const V t166 = c3 * t150;
-        const V t167 = c3 * t151;
-        const V t168 = t164 - t166;
-        const V t169 = t165 - t167;
+        const V t165 = c3 * t150;
+        const V t166 = t164 - t165;
+        const V t167 = c2 * t147;
+        const V t168 = c3 * t151;
+        const V t169 = t167 - t168;
         const V t170 = t159 + t169;
-        const V t171 = t163 - t168;
+        const V t171 = t163 - t166;
         const V t172 = t159 - t169;
-        const V t173 = t163 + t168;
+        const V t173 = t163 + t166;
         const V t174 = c1 * t144;
         const V t175 = x3r - t174;
         const V t176 = c0 * t148;
@@ -259,16 +259,16 @@ struct ComplexGraph<25> {
         const V t180 = c0 * t149;
         const V t181 = t179 + t180;
         const V t182 = c3 * t146;
-        const V t183 = c3 * t147;
-        const V t184 = c2 * t150;
-        const V t185 = c2 * t151;
-        const V t186 = t182 + t184;
-        const V t187 = t183 + t185;
+        const V t183 = c2 * t150;
+        const V t184 = t182 + t183;
+        const V t185 = c3 * t147;
+        const V t186 = c2 * t151;
+        const V t187 = t185 + t186;
         const V t188 = t177 + t187;
-        const V t189 = t181 - t186;
+        const V t189 = t181 - t184;
         const V t190 = t177 - t187;
-        const V t191 = t181 + t186;
-        // block of 5
+        const V t191 = t181 + t184;
+        // complex block of 5
         const V x9r = io.re(9);
         const V x24r = io.re(24);
         const V t192 = x9r + x24r;
@@ -300,15 +300,15 @@ struct ComplexGraph<25> {
         const V t210 = t208 - t209;
         const V t211 = t210 + x4i;
         const V t212 = c2 * t194;
-        const V t213 = c2 * t195;
-        const V t214 = c3 * t198;
-        const V t215 = c3 * t199;
-        const V t216 = t212 - t214;
-        const V t217 = t213 - t215;
+        const V t213 = c3 * t198;
+        const V t214 = t212 - t213;
+        const V t215 = c2 * t195;
+        const V t216 = c3 * t199;
+        const V t217 = t215 - t216;
         const V t218 = t207 + t217;
-        const V t219 = t211 - t216;
+        const V t219 = t211 - t214;
         const V t220 = t207 - t217;
-        const V t221 = t211 + t216;
+        const V t221 = t211 + t214;
         const V t222 = c1 * t192;
         const V t223 = x4r - t222;
         const V t224 = c0 * t196;
@@ -318,16 +318,16 @@ struct ComplexGraph<25> {
         const V t228 = c0 * t197;
         const V t229 = t227 + t228;
         const V t230 = c3 * t194;
-        const V t231 = c3 * t195;
-        const V t232 = c2 * t198;
-        const V t233 = c2 * t199;
-        const V t234 = t230 + t232;
-        const V t235 = t231 + t233;
+        const V t231 = c2 * t198;
+        const V t232 = t230 + t231;
+        const V t233 = c3 * t195;
+        const V t234 = c2 * t199;
+        const V t235 = t233 + t234;
         const V t236 = t225 + t235;
-        const V t237 = t229 - t234;
+        const V t237 = t229 - t232;
         const V t238 = t225 - t235;
-        const V t239 = t229 + t234;
-        // block of 5
+        const V t239 = t229 + t232;
+        // complex block of 5
         const V t240 = t58 + t202;
         const V t241 = t59 + t203;
         const V t242 = t58 - t202;
@@ -351,18 +351,18 @@ struct ComplexGraph<25> {
         const V t258 = t256 - t257;
         const V t259 = t258 + t11;
         const V t260 = c2 * t242;
-        const V t261 = c2 * t243;
-        const V t262 = c3 * t246;
-        const V t263 = c3 * t247;
-        const V t264 = t260 - t262;
-        const V t265 = t261 - t263;
+        const V t261 = c3 * t246;
+        const V t262 = t260 - t261;
+        const V t263 = c2 * t243;
+        const V t264 = c3 * t247;
+        const V t265 = t263 - t264;
         const V t266 = t255 + t265;
         io.re(5, t266);
-        const V t267 = t259 - t264;
+        const V t267 = t259 - t262;
         io.im(5, t267);
         const V t268 = t255 - t265;
         io.re(20, t268);
-        const V t269 = t259 + t264;
+        const V t269 = t259 + t262;
         io.im(20, t269);
         const V t270 = c1 * t240;
         const V t271 = t10 - t270;
@@ -373,20 +373,20 @@ struct ComplexGraph<25> {
         const V t276 = c0 * t245;
         const V t277 = t275 + t276;
         const V t278 = c3 * t242;
-        const V t279 = c3 * t243;
-        const V t280 = c2 * t246;
-        const V t281 = c2 * t247;
-        const V t282 = t278 + t280;
-        const V t283 = t279 + t281;
+        const V t279 = c2 * t246;
+        const V t280 = t278 + t279;
+        const V t281 = c3 * t243;
+        const V t282 = c2 * t247;
+        const V t283 = t281 + t282;
         const V t284 = t273 + t283;
         io.re(10, t284);
-        const V t285 = t277 - t282;
+        const V t285 = t277 - t280;
         io.im(10, t285);
         const V t286 = t273 - t283;
         io.re(15, t286);
-        const V t287 = t277 + t282;
+        const V t287 = t277 + t280;
         io.im(15, t287);
-        // block of 25
+        // complex block of 25
         const V t288 = c4 * t75;
         const V t289 = c5 * t74;
         const V t290 = t289 + t288;
@@ -411,7 +411,7 @@ struct ComplexGraph<25> {
         const V t309 = c10 * t218;
         const V t310 = c11 * t219;
         const V t311 = t310 - t309;
-        // block of 5
+        // complex block of 5
         const V t312 = t290 + t308;
         const V t313 = t293 + t311;
         const V t314 = t290 - t308;
@@ -435,18 +435,18 @@ struct ComplexGraph<25> {
         const V t330 = t328 - t329;
         const V t331 = t330 + t27;
         const V t332 = c2 * t314;
-        const V t333 = c2 * t315;
-        const V t334 = c3 * t318;
-        const V t335 = c3 * t319;
-        const V t336 = t332 - t334;
-        const V t337 = t333 - t335;
+        const V t333 = c3 * t318;
+        const V t334 = t332 - t333;
+        const V t335 = c2 * t315;
+        const V t336 = c3 * t319;
+        const V t337 = t335 - t336;
         const V t338 = t327 + t337;
         io.re(6, t338);
-        const V t339 = t331 - t336;
+        const V t339 = t331 - t334;
         io.im(6, t339);
         const V t340 = t327 - t337;
         io.re(21, t340);
-        const V t341 = t331 + t336;
+        const V t341 = t331 + t334;
         io.im(21, t341);
         const V t342 = c1 * t312;
         const V t343 = t26 - t342;
@@ -457,20 +457,20 @@ struct ComplexGraph<25> {
         const V t348 = c0 * t317;
         const V t349 = t347 + t348;
         const V t350 = c3 * t314;
-        const V t351 = c3 * t315;
-        const V t352 = c2 * t318;
-        const V t353 = c2 * t319;
-        const V t354 = t350 + t352;
-        const V t355 = t351 + t353;
+        const V t351 = c2 * t318;
+        const V t352 = t350 + t351;
+        const V t353 = c3 * t315;
+        const V t354 = c2 * t319;
+        const V t355 = t353 + t354;
         const V t356 = t345 + t355;
         io.re(11, t356);
-        const V t357 = t349 - t354;
+        const V t357 = t349 - t352;
         io.im(11, t357);
         const V t358 = t345 - t355;
         io.re(16, t358);
-        const V t359 = t349 + t354;
+        const V t359 = t349 + t352;
         io.im(16, t359);
-        // block of 25
+        // complex block of 25
         const V t360 = c6 * t93;
         const V t361 = c7 * t92;
         const V t362 = t361 + t360;
@@ -495,7 +495,7 @@ struct ComplexGraph<25> {
         const V t381 = c14 * t236;
         const V t382 = c15 * t237;
         const V t383 = t382 + t381;
-        // block of 5
+        // complex block of 5
         const V t384 = t362 + t380;
         const V t385 = t365 - t383;
         const V t386 = t362 - t380;
@@ -519,18 +519,18 @@ struct ComplexGraph<25> {
         const V t402 = t400 - t401;
         const V t403 = t402 + t45;
         const V t404 = c2 * t386;
-        const V t405 = c2 * t387;
-        const V t406 = c3 * t390;
-        const V t407 = c3 * t391;
-        const V t408 = t404 - t406;
-        const V t409 = t405 - t407;
+        const V t405 = c3 * t390;
+        const V t406 = t404 - t405;
+        const V t407 = c2 * t387;
+        const V t408 = c3 * t391;
+        const V t409 = t407 - t408;
         const V t410 = t399 + t409;
         io.re(7, t410);
-        const V t411 = t403 - t408;
+        const V t411 = t403 - t406;
         io.im(7, t411);
         const V t412 = t399 - t409;
         io.re(22, t412);
-        const V t413 = t403 + t408;
+        const V t413 = t403 + t406;
         io.im(22, t413);
         const V t414 = c1 * t384;
         const V t415 = t44 - t414;
@@ -541,20 +541,20 @@ struct ComplexGraph<25> {
         const V t420 = c0 * t389;
         const V t421 = t419 + t420;
         const V t422 = c3 * t386;
-        const V t423 = c3 * t387;
-        const V t424 = c2 * t390;
-        const V t425 = c2 * t391;
-        const V t426 = t422 + t424;
-        const V t427 = t423 + t425;
+        const V t423 = c2 * t390;
+        const V t424 = t422 + t423;
+        const V t425 = c3 * t387;
+        const V t426 = c2 * t391;
+        const V t427 = t425 + t426;
         const V t428 = t417 + t427;
         io.re(12, t428);
-        const V t429 = t421 - t426;
+        const V t429 = t421 - t424;
         io.im(12, t429);
         const V t430 = t417 - t427;
         io.re(17, t430);
-        const V t431 = t421 + t426;
+        const V t431 = t421 + t424;
         io.im(17, t431);
-        // block of 25
+        // complex block of 25
         const V t432 = c8 * t95;
         const V t433 = c9 * t94;
         const V t434 = t433 + t432;
@@ -579,7 +579,7 @@ struct ComplexGraph<25> {
         const V t453 = c18 * t238;
         const V t454 = c19 * t239;
         const V t455 = t454 + t453;
-        // block of 5
+        // complex block of 5
         const V t456 = t434 + t452;
         const V t457 = t437 - t455;
         const V t458 = t434 - t452;
@@ -603,18 +603,18 @@ struct ComplexGraph<25> {
         const V t474 = t472 - t473;
         const V t475 = t474 + t47;
         const V t476 = c2 * t458;
-        const V t477 = c2 * t459;
-        const V t478 = c3 * t462;
-        const V t479 = c3 * t463;
-        const V t480 = t476 - t478;
-        const V t481 = t477 + t479;
+        const V t477 = c3 * t462;
+        const V t478 = t476 - t477;
+        const V t479 = c2 * t459;
+        const V t480 = c3 * t463;
+        const V t481 = t479 + t480;
         const V t482 = t471 + t481;
         io.re(8, t482);
-        const V t483 = t475 - t480;
+        const V t483 = t475 - t478;
         io.im(8, t483);
         const V t484 = t471 - t481;
         io.re(23, t484);
-        const V t485 = t475 + t480;
+        const V t485 = t475 + t478;
         io.im(23, t485);
         const V t486 = c1 * t456;
         const V t487 = t46 - t486;
@@ -625,20 +625,20 @@ struct ComplexGraph<25> {
         const V t492 = c0 * t461;
         const V t493 = t491 + t492;
         const V t494 = c3 * t458;
-        const V t495 = c3 * t459;
-        const V t496 = c2 * t462;
-        const V t497 = c2 * t463;
-        const V t498 = t494 + t496;
-        const V t499 = t495 - t497;
+        const V t495 = c2 * t462;
+        const V t496 = t494 + t495;
+        const V t497 = c3 * t459;
+        const V t498 = c2 * t463;
+        const V t499 = t497 - t498;
         const V t500 = t489 + t499;
         io.re(13, t500);
-        const V t501 = t493 - t498;
+        const V t501 = t493 - t496;
         io.im(13, t501);
         const V t502 = t489 - t499;
         io.re(18, t502);
-        const V t503 = t493 + t498;
+        const V t503 = t493 + t496;
         io.im(18, t503);
-        // block of 25
+        // complex block of 25
         const V t504 = c10 * t77;
         const V t505 = c11 * t76;
         const V t506 = t505 + t504;
@@ -663,7 +663,7 @@ struct ComplexGraph<25> {
         const V t525 = c16 * t220;
         const V t526 = c17 * t221;
         const V t527 = t525 - t526;
-        // block of 5
+        // complex block of 5
         const V t528 = t506 - t524;
         const V t529 = t509 + t527;
         const V t530 = t506 + t524;
@@ -687,18 +687,18 @@ struct ComplexGraph<25> {
         const V t546 = t544 + t545;
         const V t547 = t546 + t29;
         const V t548 = c2 * t530;
-        const V t549 = c2 * t531;
-        const V t550 = c3 * t534;
-        const V t551 = c3 * t535;
-        const V t552 = t548 - t550;
-        const V t553 = t549 - t551;
+        const V t549 = c3 * t534;
+        const V t550 = t548 - t549;
+        const V t551 = c2 * t531;
+        const V t552 = c3 * t535;
+        const V t553 = t551 - t552;
         const V t554 = t543 + t553;
         io.re(9, t554);
-        const V t555 = t547 - t552;
+        const V t555 = t547 - t550;
         io.im(9, t555);
         const V t556 = t543 - t553;
         io.re(24, t556);
-        const V t557 = t547 + t552;
+        const V t557 = t547 + t550;
         io.im(24, t557);
         const V t558 = c1 * t528;
         const V t559 = t28 - t558;
@@ -709,18 +709,18 @@ struct ComplexGraph<25> {
         const V t564 = c0 * t533;
         const V t565 = t563 - t564;
         const V t566 = c3 * t530;
-        const V t567 = c3 * t531;
-        const V t568 = c2 * t534;
-        const V t569 = c2 * t535;
-        const V t570 = t566 + t568;
-        const V t571 = t567 + t569;
+        const V t567 = c2 * t534;
+        const V t568 = t566 + t567;
+        const V t569 = c3 * t531;
+        const V t570 = c2 * t535;
+        const V t571 = t569 + t570;
         const V t572 = t561 + t571;
         io.re(14, t572);
-        const V t573 = t565 - t570;
+        const V t573 = t565 - t568;
         io.im(14, t573);
         const V t574 = t561 - t571;
         io.re(19, t574);
-        const V t575 = t565 + t570;
+        const V t575 = t565 + t568;
         io.im(19, t575);
     }
 };

@@ -38,7 +38,7 @@ struct ComplexGraph<27> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3
+        // complex block of 3
         const V x9r = io.re(9);
         const V x18r = io.re(18);
         const V t0 = x9r + x18r;
@@ -61,7 +61,7 @@ struct ComplexGraph<27> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3
+        // complex block of 3
         const V x12r = io.re(12);
         const V x21r = io.re(21);
         const V t16 = x12r + x21r;
@@ -84,7 +84,7 @@ struct ComplexGraph<27> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3
+        // complex block of 3
         const V x15r = io.re(15);
         const V x24r = io.re(24);
         const V t32 = x15r + x24r;
@@ -107,7 +107,7 @@ struct ComplexGraph<27> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3
+        // complex block of 3
         const V t48 = t20 + t36;
         const V t49 = t21 + t37;
         const V t50 = t20 - t36;
@@ -124,7 +124,7 @@ struct ComplexGraph<27> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 9
+        // complex block of 9
         const V t64 = c2 * t29;
         const V t65 = c3 * t28;
         const V t66 = t65 + t64;
@@ -137,7 +137,7 @@ struct ComplexGraph<27> {
         const V t73 = c4 * t44;
         const V t74 = c5 * t45;
         const V t75 = t74 - t73;
-        // block of 3
+        // complex block of 3
         const V t76 = t66 + t72;
         const V t77 = t69 + t75;
         const V t78 = t66 - t72;
@@ -154,7 +154,7 @@ struct ComplexGraph<27> {
         const V t89 = t85 - t86;
         const V t90 = t83 - t87;
         const V t91 = t85 + t86;
-        // block of 9
+        // complex block of 9
         const V t92 = c4 * t31;
         const V t93 = c5 * t30;
         const V t94 = t93 + t92;
@@ -167,7 +167,7 @@ struct ComplexGraph<27> {
         const V t101 = c6 * t46;
         const V t102 = c7 * t47;
         const V t103 = t102 + t101;
-        // block of 3
+        // complex block of 3
         const V t104 = t94 + t100;
         const V t105 = t97 - t103;
         const V t106 = t94 - t100;
@@ -184,7 +184,7 @@ struct ComplexGraph<27> {
         const V t117 = t113 - t114;
         const V t118 = t111 - t115;
         const V t119 = t113 + t114;
-        // block of 3
+        // complex block of 3
         const V x10r = io.re(10);
         const V x19r = io.re(19);
         const V t120 = x10r + x19r;
@@ -207,7 +207,7 @@ struct ComplexGraph<27> {
         const V t133 = t129 - t130;
         const V t134 = t127 - t131;
         const V t135 = t129 + t130;
-        // block of 3
+        // complex block of 3
         const V x13r = io.re(13);
         const V x22r = io.re(22);
         const V t136 = x13r + x22r;
@@ -230,7 +230,7 @@ struct ComplexGraph<27> {
         const V t149 = t145 - t146;
         const V t150 = t143 - t147;
         const V t151 = t145 + t146;
-        // block of 3
+        // complex block of 3
         const V x16r = io.re(16);
         const V x25r = io.re(25);
         const V t152 = x16r + x25r;
@@ -253,7 +253,7 @@ struct ComplexGraph<27> {
         const V t165 = t161 - t162;
         const V t166 = t159 - t163;
         const V t167 = t161 + t162;
-        // block of 3
+        // complex block of 3
         const V t168 = t140 + t156;
         const V t169 = t141 + t157;
         const V t170 = t140 - t156;
@@ -270,7 +270,7 @@ struct ComplexGraph<27> {
         const V t181 = t177 - t178;
         const V t182 = t175 - t179;
         const V t183 = t177 + t178;
-        // block of 9
+        // complex block of 9
         const V t184 = c2 * t149;
         const V t185 = c3 * t148;
         const V t186 = t185 + t184;
@@ -283,7 +283,7 @@ struct ComplexGraph<27> {
         const V t193 = c4 * t164;
         const V t194 = c5 * t165;
         const V t195 = t194 - t193;
-        // block of 3
+        // complex block of 3
         const V t196 = t186 + t192;
         const V t197 = t189 + t195;
         const V t198 = t186 - t192;
@@ -300,7 +300,7 @@ struct ComplexGraph<27> {
         const V t209 = t205 - t206;
         const V t210 = t203 - t207;
         const V t211 = t205 + t206;
-        // block of 9
+        // complex block of 9
         const V t212 = c4 * t151;
         const V t213 = c5 * t150;
         const V t214 = t213 + t212;
@@ -313,7 +313,7 @@ struct ComplexGraph<27> {
         const V t221 = c6 * t166;
         const V t222 = c7 * t167;
         const V t223 = t222 + t221;
-        // block of 3
+        // complex block of 3
         const V t224 = t214 + t220;
         const V t225 = t217 - t223;
         const V t226 = t214 - t220;
@@ -330,7 +330,7 @@ struct ComplexGraph<27> {
         const V t237 = t233 - t234;
         const V t238 = t231 - t235;
         const V t239 = t233 + t234;
-        // block of 3
+        // complex block of 3
         const V x11r = io.re(11);
         const V x20r = io.re(20);
         const V t240 = x11r + x20r;
@@ -353,7 +353,7 @@ struct ComplexGraph<27> {
         const V t253 = t249 - t250;
         const V t254 = t247 - t251;
         const V t255 = t249 + t250;
-        // block of 3
+        // complex block of 3
         const V x14r = io.re(14);
         const V x23r = io.re(23);
         const V t256 = x14r + x23r;
@@ -376,7 +376,7 @@ struct ComplexGraph<27> {
         const V t269 = t265 - t266;
         const V t270 = t263 - t267;
         const V t271 = t265 + t266;
-        // block of 3
+        // complex block of 3
         const V x17r = io.re(17);
         const V x26r = io.re(26);
         const V t272 = x17r + x26r;
@@ -399,7 +399,7 @@ struct ComplexGraph<27> {
         const V t285 = t281 - t282;
         const V t286 = t279 - t283;
         const V t287 = t281 + t282;
-        // block of 3
+        // complex block of 3
         const V t288 = t260 + t276;
         const V t289 = t261 + t277;
         const V t290 = t260 - t276;
@@ -416,7 +416,7 @@ struct ComplexGraph<27> {
         const V t301 = t297 - t298;
         const V t302 = t295 - t299;
         const V t303 = t297 + t298;
-        // block of 9
+        // complex block of 9
         const V t304 = c2 * t269;
         const V t305 = c3 * t268;
         const V t306 = t305 + t304;
@@ -429,7 +429,7 @@ struct ComplexGraph<27> {
         const V t313 = c4 * t284;
         const V t314 = c5 * t285;
         const V t315 = t314 - t313;
-        // block of 3
+        // complex block of 3
         const V t316 = t306 + t312;
         const V t317 = t309 + t315;
         const V t318 = t306 - t312;
@@ -446,7 +446,7 @@ struct ComplexGraph<27> {
         const V t329 = t325 - t326;
         const V t330 = t323 - t327;
         const V t331 = t325 + t326;
-        // block of 9
+        // complex block of 9
         const V t332 = c4 * t271;
         const V t333 = c5 * t270;
         const V t334 = t333 + t332;
@@ -459,7 +459,7 @@ struct ComplexGraph<27> {
         const V t341 = c6 * t286;
         const V t342 = c7 * t287;
         const V t343 = t342 + t341;
-        // block of 3
+        // complex block of 3
         const V t344 = t334 + t340;
         const V t345 = t337 - t343;
         const V t346 = t334 - t340;
@@ -476,7 +476,7 @@ struct ComplexGraph<27> {
         const V t357 = t353 - t354;
         const V t358 = t351 - t355;
         const V t359 = t353 + t354;
-        // block of 3
+        // complex block of 3
         const V t360 = t172 + t292;
         const V t361 = t173 + t293;
         const V t362 = t172 - t292;
@@ -499,7 +499,7 @@ struct ComplexGraph<27> {
         io.re(18, t374);
         const V t375 = t369 + t370;
         io.im(18, t375);
-        // block of 27
+        // complex block of 27
         const V t376 = c8 * t201;
         const V t377 = c9 * t200;
         const V t378 = t377 + t376;
@@ -512,7 +512,7 @@ struct ComplexGraph<27> {
         const V t385 = c10 * t320;
         const V t386 = c11 * t321;
         const V t387 = t386 - t385;
-        // block of 3
+        // complex block of 3
         const V t388 = t378 + t384;
         const V t389 = t381 + t387;
         const V t390 = t378 - t384;
@@ -535,7 +535,7 @@ struct ComplexGraph<27> {
         io.re(19, t402);
         const V t403 = t397 + t398;
         io.im(19, t403);
-        // block of 27
+        // complex block of 27
         const V t404 = c10 * t229;
         const V t405 = c11 * t228;
         const V t406 = t405 + t404;
@@ -548,7 +548,7 @@ struct ComplexGraph<27> {
         const V t413 = c12 * t348;
         const V t414 = c13 * t349;
         const V t415 = t414 - t413;
-        // block of 3
+        // complex block of 3
         const V t416 = t406 + t412;
         const V t417 = t409 + t415;
         const V t418 = t406 - t412;
@@ -571,7 +571,7 @@ struct ComplexGraph<27> {
         io.re(20, t430);
         const V t431 = t425 + t426;
         io.im(20, t431);
-        // block of 27
+        // complex block of 27
         const V t432 = c2 * t181;
         const V t433 = c3 * t180;
         const V t434 = t433 + t432;
@@ -584,7 +584,7 @@ struct ComplexGraph<27> {
         const V t441 = c4 * t300;
         const V t442 = c5 * t301;
         const V t443 = t442 - t441;
-        // block of 3
+        // complex block of 3
         const V t444 = t434 + t440;
         const V t445 = t437 + t443;
         const V t446 = t434 - t440;
@@ -607,7 +607,7 @@ struct ComplexGraph<27> {
         io.re(21, t458);
         const V t459 = t453 + t454;
         io.im(21, t459);
-        // block of 27
+        // complex block of 27
         const V t460 = c12 * t209;
         const V t461 = c13 * t208;
         const V t462 = t461 + t460;
@@ -620,7 +620,7 @@ struct ComplexGraph<27> {
         const V t469 = c14 * t328;
         const V t470 = c15 * t329;
         const V t471 = t470 + t469;
-        // block of 3
+        // complex block of 3
         const V t472 = t462 + t468;
         const V t473 = t465 - t471;
         const V t474 = t462 - t468;
@@ -643,7 +643,7 @@ struct ComplexGraph<27> {
         io.re(22, t486);
         const V t487 = t481 + t482;
         io.im(22, t487);
-        // block of 27
+        // complex block of 27
         const V t488 = c16 * t237;
         const V t489 = c17 * t236;
         const V t490 = t489 + t488;
@@ -656,7 +656,7 @@ struct ComplexGraph<27> {
         const V t497 = c18 * t356;
         const V t498 = c19 * t357;
         const V t499 = t498 + t497;
-        // block of 3
+        // complex block of 3
         const V t500 = t490 + t496;
         const V t501 = t493 - t499;
         const V t502 = t490 - t496;
@@ -679,7 +679,7 @@ struct ComplexGraph<27> {
         io.re(23, t514);
         const V t515 = t509 + t510;
         io.im(23, t515);
-        // block of 27
+        // complex block of 27
         const V t516 = c4 * t183;
         const V t517 = c5 * t182;
         const V t518 = t517 + t516;
@@ -692,7 +692,7 @@ struct ComplexGraph<27> {
         const V t525 = c6 * t302;
         const V t526 = c7 * t303;
         const V t527 = t526 + t525;
-        // block of 3
+        // complex block of 3
         const V t528 = t518 + t524;
         const V t529 = t521 - t527;
         const V t530 = t518 - t524;
@@ -715,7 +715,7 @@ struct ComplexGraph<27> {
         io.re(24, t542);
         const V t543 = t537 + t538;
         io.im(24, t543);
-        // block of 27
+        // complex block of 27
         const V t544 = c20 * t211;
         const V t545 = c21 * t210;
         const V t546 = t544 - t545;
@@ -728,7 +728,7 @@ struct ComplexGraph<27> {
         const V t553 = c22 * t330;
         const V t554 = c23 * t331;
         const V t555 = t553 - t554;
-        // block of 3
+        // complex block of 3
         const V t556 = t546 - t552;
         const V t557 = t555 - t549;
         const V t558 = t546 + t552;
@@ -751,7 +751,7 @@ struct ComplexGraph<27> {
         io.re(25, t570);
         const V t571 = t565 + t566;
         io.im(25, t571);
-        // block of 27
+        // complex block of 27
         const V t572 = c14 * t239;
         const V t573 = c15 * t238;
         const V t574 = t572 - t573;
@@ -764,7 +764,7 @@ struct ComplexGraph<27> {
         const V t581 = c24 * t358;
         const V t582 = c25 * t359;
         const V t583 = t581 - t582;
-        // block of 3
+        // complex block of 3
         const V t584 = t574 - t580;
         const V t585 = t583 - t577;
         const V t586 = t574 + t580;

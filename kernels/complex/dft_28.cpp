@@ -18,7 +18,7 @@ struct ComplexGraph<28> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 7, multiplier 4
+        // complex block of 7, multiplier 4
         const V x4r = io.re(4);
         const V x24r = io.re(24);
         const V t0 = x4r + x24r;
@@ -44,11 +44,11 @@ struct ComplexGraph<28> {
         const V t10 = x16r - x12r;
         const V t11 = x16i - x12i;
         const V t12 = t0 + t4;
-        const V t13 = t1 + t5;
-        const V t14 = t12 + t8;
-        const V t15 = t13 + t9;
+        const V t13 = t12 + t8;
+        const V t14 = t1 + t5;
+        const V t15 = t14 + t9;
         const V x0r = io.re(0);
-        const V t16 = t14 + x0r;
+        const V t16 = t13 + x0r;
         const V x0i = io.im(0);
         const V t17 = t15 + x0i;
         const V t18 = c0 * t0;
@@ -64,19 +64,19 @@ struct ComplexGraph<28> {
         const V t28 = t26 - t27;
         const V t29 = t28 + x0i;
         const V t30 = c3 * t2;
-        const V t31 = c3 * t3;
-        const V t32 = c4 * t6;
-        const V t33 = c4 * t7;
-        const V t34 = t30 - t32;
-        const V t35 = t31 - t33;
-        const V t36 = c5 * t10;
-        const V t37 = c5 * t11;
-        const V t38 = t34 - t36;
-        const V t39 = t35 - t37;
+        const V t31 = c4 * t6;
+        const V t32 = t30 - t31;
+        const V t33 = c5 * t10;
+        const V t34 = t32 - t33;
+        const V t35 = c3 * t3;
+        const V t36 = c4 * t7;
+        const V t37 = t35 - t36;
+        const V t38 = c5 * t11;
+        const V t39 = t37 - t38;
         const V t40 = t23 + t39;
-        const V t41 = t29 - t38;
+        const V t41 = t29 - t34;
         const V t42 = t23 - t39;
-        const V t43 = t29 + t38;
+        const V t43 = t29 + t34;
         const V t44 = c1 * t0;
         const V t45 = x0r - t44;
         const V t46 = c2 * t4;
@@ -90,19 +90,19 @@ struct ComplexGraph<28> {
         const V t54 = c0 * t9;
         const V t55 = t53 + t54;
         const V t56 = c4 * t2;
-        const V t57 = c4 * t3;
-        const V t58 = c5 * t6;
-        const V t59 = c5 * t7;
-        const V t60 = t56 + t58;
-        const V t61 = t57 + t59;
-        const V t62 = c3 * t10;
-        const V t63 = c3 * t11;
-        const V t64 = t60 + t62;
-        const V t65 = t61 + t63;
+        const V t57 = c5 * t6;
+        const V t58 = t56 + t57;
+        const V t59 = c3 * t10;
+        const V t60 = t58 + t59;
+        const V t61 = c4 * t3;
+        const V t62 = c5 * t7;
+        const V t63 = t61 + t62;
+        const V t64 = c3 * t11;
+        const V t65 = t63 + t64;
         const V t66 = t49 + t65;
-        const V t67 = t55 - t64;
+        const V t67 = t55 - t60;
         const V t68 = t49 - t65;
-        const V t69 = t55 + t64;
+        const V t69 = t55 + t60;
         const V t70 = c2 * t0;
         const V t71 = x0r - t70;
         const V t72 = c0 * t4;
@@ -116,20 +116,20 @@ struct ComplexGraph<28> {
         const V t80 = c1 * t9;
         const V t81 = t79 - t80;
         const V t82 = c5 * t2;
-        const V t83 = c5 * t3;
-        const V t84 = c3 * t6;
-        const V t85 = c3 * t7;
-        const V t86 = t82 + t84;
-        const V t87 = t83 + t85;
-        const V t88 = c4 * t10;
-        const V t89 = c4 * t11;
-        const V t90 = t86 - t88;
-        const V t91 = t87 - t89;
+        const V t83 = c3 * t6;
+        const V t84 = t82 + t83;
+        const V t85 = c4 * t10;
+        const V t86 = t84 - t85;
+        const V t87 = c5 * t3;
+        const V t88 = c3 * t7;
+        const V t89 = t87 + t88;
+        const V t90 = c4 * t11;
+        const V t91 = t89 - t90;
         const V t92 = t75 + t91;
-        const V t93 = t81 - t90;
+        const V t93 = t81 - t86;
         const V t94 = t75 - t91;
-        const V t95 = t81 + t90;
-        // block of 7, multiplier 4
+        const V t95 = t81 + t86;
+        // complex block of 7, multiplier 4
         const V x11r = io.re(11);
         const V x3r = io.re(3);
         const V t96 = x11r + x3r;
@@ -155,11 +155,11 @@ struct ComplexGraph<28> {
         const V t106 = x23r - x19r;
         const V t107 = x23i - x19i;
         const V t108 = t96 + t100;
-        const V t109 = t97 + t101;
-        const V t110 = t108 + t104;
-        const V t111 = t109 + t105;
+        const V t109 = t108 + t104;
+        const V t110 = t97 + t101;
+        const V t111 = t110 + t105;
         const V x7r = io.re(7);
-        const V t112 = t110 + x7r;
+        const V t112 = t109 + x7r;
         const V x7i = io.im(7);
         const V t113 = t111 + x7i;
         const V t114 = c0 * t96;
@@ -175,19 +175,19 @@ struct ComplexGraph<28> {
         const V t124 = t122 - t123;
         const V t125 = t124 + x7i;
         const V t126 = c3 * t98;
-        const V t127 = c3 * t99;
-        const V t128 = c4 * t102;
-        const V t129 = c4 * t103;
-        const V t130 = t126 - t128;
-        const V t131 = t127 - t129;
-        const V t132 = c5 * t106;
-        const V t133 = c5 * t107;
-        const V t134 = t130 - t132;
-        const V t135 = t131 - t133;
+        const V t127 = c4 * t102;
+        const V t128 = t126 - t127;
+        const V t129 = c5 * t106;
+        const V t130 = t128 - t129;
+        const V t131 = c3 * t99;
+        const V t132 = c4 * t103;
+        const V t133 = t131 - t132;
+        const V t134 = c5 * t107;
+        const V t135 = t133 - t134;
         const V t136 = t119 + t135;
-        const V t137 = t125 - t134;
+        const V t137 = t125 - t130;
         const V t138 = t119 - t135;
-        const V t139 = t125 + t134;
+        const V t139 = t125 + t130;
         const V t140 = c1 * t96;
         const V t141 = x7r - t140;
         const V t142 = c2 * t100;
@@ -201,19 +201,19 @@ struct ComplexGraph<28> {
         const V t150 = c0 * t105;
         const V t151 = t149 + t150;
         const V t152 = c4 * t98;
-        const V t153 = c4 * t99;
-        const V t154 = c5 * t102;
-        const V t155 = c5 * t103;
-        const V t156 = t152 + t154;
-        const V t157 = t153 + t155;
-        const V t158 = c3 * t106;
-        const V t159 = c3 * t107;
-        const V t160 = t156 + t158;
-        const V t161 = t157 + t159;
+        const V t153 = c5 * t102;
+        const V t154 = t152 + t153;
+        const V t155 = c3 * t106;
+        const V t156 = t154 + t155;
+        const V t157 = c4 * t99;
+        const V t158 = c5 * t103;
+        const V t159 = t157 + t158;
+        const V t160 = c3 * t107;
+        const V t161 = t159 + t160;
         const V t162 = t145 + t161;
-        const V t163 = t151 - t160;
+        const V t163 = t151 - t156;
         const V t164 = t145 - t161;
-        const V t165 = t151 + t160;
+        const V t165 = t151 + t156;
         const V t166 = c2 * t96;
         const V t167 = x7r - t166;
         const V t168 = c0 * t100;
@@ -227,20 +227,20 @@ struct ComplexGraph<28> {
         const V t176 = c1 * t105;
         const V t177 = t175 - t176;
         const V t178 = c5 * t98;
-        const V t179 = c5 * t99;
-        const V t180 = c3 * t102;
-        const V t181 = c3 * t103;
-        const V t182 = t178 + t180;
-        const V t183 = t179 + t181;
-        const V t184 = c4 * t106;
-        const V t185 = c4 * t107;
-        const V t186 = t182 - t184;
-        const V t187 = t183 - t185;
+        const V t179 = c3 * t102;
+        const V t180 = t178 + t179;
+        const V t181 = c4 * t106;
+        const V t182 = t180 - t181;
+        const V t183 = c5 * t99;
+        const V t184 = c3 * t103;
+        const V t185 = t183 + t184;
+        const V t186 = c4 * t107;
+        const V t187 = t185 - t186;
         const V t188 = t171 + t187;
-        const V t189 = t177 - t186;
+        const V t189 = t177 - t182;
         const V t190 = t171 - t187;
-        const V t191 = t177 + t186;
-        // block of 7, multiplier 4
+        const V t191 = t177 + t182;
+        // complex block of 7, multiplier 4
         const V x18r = io.re(18);
         const V x10r = io.re(10);
         const V t192 = x18r + x10r;
@@ -266,11 +266,11 @@ struct ComplexGraph<28> {
         const V t202 = x2r - x26r;
         const V t203 = x2i - x26i;
         const V t204 = t192 + t196;
-        const V t205 = t193 + t197;
-        const V t206 = t204 + t200;
-        const V t207 = t205 + t201;
+        const V t205 = t204 + t200;
+        const V t206 = t193 + t197;
+        const V t207 = t206 + t201;
         const V x14r = io.re(14);
-        const V t208 = t206 + x14r;
+        const V t208 = t205 + x14r;
         const V x14i = io.im(14);
         const V t209 = t207 + x14i;
         const V t210 = c0 * t192;
@@ -286,19 +286,19 @@ struct ComplexGraph<28> {
         const V t220 = t218 - t219;
         const V t221 = t220 + x14i;
         const V t222 = c3 * t194;
-        const V t223 = c3 * t195;
-        const V t224 = c4 * t198;
-        const V t225 = c4 * t199;
-        const V t226 = t222 - t224;
-        const V t227 = t223 - t225;
-        const V t228 = c5 * t202;
-        const V t229 = c5 * t203;
-        const V t230 = t226 - t228;
-        const V t231 = t227 - t229;
+        const V t223 = c4 * t198;
+        const V t224 = t222 - t223;
+        const V t225 = c5 * t202;
+        const V t226 = t224 - t225;
+        const V t227 = c3 * t195;
+        const V t228 = c4 * t199;
+        const V t229 = t227 - t228;
+        const V t230 = c5 * t203;
+        const V t231 = t229 - t230;
         const V t232 = t215 + t231;
-        const V t233 = t221 - t230;
+        const V t233 = t221 - t226;
         const V t234 = t215 - t231;
-        const V t235 = t221 + t230;
+        const V t235 = t221 + t226;
         const V t236 = c1 * t192;
         const V t237 = x14r - t236;
         const V t238 = c2 * t196;
@@ -312,19 +312,19 @@ struct ComplexGraph<28> {
         const V t246 = c0 * t201;
         const V t247 = t245 + t246;
         const V t248 = c4 * t194;
-        const V t249 = c4 * t195;
-        const V t250 = c5 * t198;
-        const V t251 = c5 * t199;
-        const V t252 = t248 + t250;
-        const V t253 = t249 + t251;
-        const V t254 = c3 * t202;
-        const V t255 = c3 * t203;
-        const V t256 = t252 + t254;
-        const V t257 = t253 + t255;
+        const V t249 = c5 * t198;
+        const V t250 = t248 + t249;
+        const V t251 = c3 * t202;
+        const V t252 = t250 + t251;
+        const V t253 = c4 * t195;
+        const V t254 = c5 * t199;
+        const V t255 = t253 + t254;
+        const V t256 = c3 * t203;
+        const V t257 = t255 + t256;
         const V t258 = t241 + t257;
-        const V t259 = t247 - t256;
+        const V t259 = t247 - t252;
         const V t260 = t241 - t257;
-        const V t261 = t247 + t256;
+        const V t261 = t247 + t252;
         const V t262 = c2 * t192;
         const V t263 = x14r - t262;
         const V t264 = c0 * t196;
@@ -338,20 +338,20 @@ struct ComplexGraph<28> {
         const V t272 = c1 * t201;
         const V t273 = t271 - t272;
         const V t274 = c5 * t194;
-        const V t275 = c5 * t195;
-        const V t276 = c3 * t198;
-        const V t277 = c3 * t199;
-        const V t278 = t274 + t276;
-        const V t279 = t275 + t277;
-        const V t280 = c4 * t202;
-        const V t281 = c4 * t203;
-        const V t282 = t278 - t280;
-        const V t283 = t279 - t281;
+        const V t275 = c3 * t198;
+        const V t276 = t274 + t275;
+        const V t277 = c4 * t202;
+        const V t278 = t276 - t277;
+        const V t279 = c5 * t195;
+        const V t280 = c3 * t199;
+        const V t281 = t279 + t280;
+        const V t282 = c4 * t203;
+        const V t283 = t281 - t282;
         const V t284 = t267 + t283;
-        const V t285 = t273 - t282;
+        const V t285 = t273 - t278;
         const V t286 = t267 - t283;
-        const V t287 = t273 + t282;
-        // block of 7, multiplier 4
+        const V t287 = t273 + t278;
+        // complex block of 7, multiplier 4
         const V x25r = io.re(25);
         const V x17r = io.re(17);
         const V t288 = x25r + x17r;
@@ -377,11 +377,11 @@ struct ComplexGraph<28> {
         const V t298 = x9r - x5r;
         const V t299 = x9i - x5i;
         const V t300 = t288 + t292;
-        const V t301 = t289 + t293;
-        const V t302 = t300 + t296;
-        const V t303 = t301 + t297;
+        const V t301 = t300 + t296;
+        const V t302 = t289 + t293;
+        const V t303 = t302 + t297;
         const V x21r = io.re(21);
-        const V t304 = t302 + x21r;
+        const V t304 = t301 + x21r;
         const V x21i = io.im(21);
         const V t305 = t303 + x21i;
         const V t306 = c0 * t288;
@@ -397,19 +397,19 @@ struct ComplexGraph<28> {
         const V t316 = t314 - t315;
         const V t317 = t316 + x21i;
         const V t318 = c3 * t290;
-        const V t319 = c3 * t291;
-        const V t320 = c4 * t294;
-        const V t321 = c4 * t295;
-        const V t322 = t318 - t320;
-        const V t323 = t319 - t321;
-        const V t324 = c5 * t298;
-        const V t325 = c5 * t299;
-        const V t326 = t322 - t324;
-        const V t327 = t323 - t325;
+        const V t319 = c4 * t294;
+        const V t320 = t318 - t319;
+        const V t321 = c5 * t298;
+        const V t322 = t320 - t321;
+        const V t323 = c3 * t291;
+        const V t324 = c4 * t295;
+        const V t325 = t323 - t324;
+        const V t326 = c5 * t299;
+        const V t327 = t325 - t326;
         const V t328 = t311 + t327;
-        const V t329 = t317 - t326;
+        const V t329 = t317 - t322;
         const V t330 = t311 - t327;
-        const V t331 = t317 + t326;
+        const V t331 = t317 + t322;
         const V t332 = c1 * t288;
         const V t333 = x21r - t332;
         const V t334 = c2 * t292;
@@ -423,19 +423,19 @@ struct ComplexGraph<28> {
         const V t342 = c0 * t297;
         const V t343 = t341 + t342;
         const V t344 = c4 * t290;
-        const V t345 = c4 * t291;
-        const V t346 = c5 * t294;
-        const V t347 = c5 * t295;
-        const V t348 = t344 + t346;
-        const V t349 = t345 + t347;
-        const V t350 = c3 * t298;
-        const V t351 = c3 * t299;
-        const V t352 = t348 + t350;
-        const V t353 = t349 + t351;
+        const V t345 = c5 * t294;
+        const V t346 = t344 + t345;
+        const V t347 = c3 * t298;
+        const V t348 = t346 + t347;
+        const V t349 = c4 * t291;
+        const V t350 = c5 * t295;
+        const V t351 = t349 + t350;
+        const V t352 = c3 * t299;
+        const V t353 = t351 + t352;
         const V t354 = t337 + t353;
-        const V t355 = t343 - t352;
+        const V t355 = t343 - t348;
         const V t356 = t337 - t353;
-        const V t357 = t343 + t352;
+        const V t357 = t343 + t348;
         const V t358 = c2 * t288;
         const V t359 = x21r - t358;
         const V t360 = c0 * t292;
@@ -449,30 +449,30 @@ struct ComplexGraph<28> {
         const V t368 = c1 * t297;
         const V t369 = t367 - t368;
         const V t370 = c5 * t290;
-        const V t371 = c5 * t291;
-        const V t372 = c3 * t294;
-        const V t373 = c3 * t295;
-        const V t374 = t370 + t372;
-        const V t375 = t371 + t373;
-        const V t376 = c4 * t298;
-        const V t377 = c4 * t299;
-        const V t378 = t374 - t376;
-        const V t379 = t375 - t377;
+        const V t371 = c3 * t294;
+        const V t372 = t370 + t371;
+        const V t373 = c4 * t298;
+        const V t374 = t372 - t373;
+        const V t375 = c5 * t291;
+        const V t376 = c3 * t295;
+        const V t377 = t375 + t376;
+        const V t378 = c4 * t299;
+        const V t379 = t377 - t378;
         const V t380 = t363 + t379;
-        const V t381 = t369 - t378;
+        const V t381 = t369 - t374;
         const V t382 = t363 - t379;
-        const V t383 = t369 + t378;
-        // block of 2
+        const V t383 = t369 + t374;
+        // complex block of 2
         const V t384 = t16 + t208;
         const V t385 = t17 + t209;
         const V t386 = t16 - t208;
         const V t387 = t17 - t209;
-        // block of 2
+        // complex block of 2
         const V t388 = t112 + t304;
         const V t389 = t113 + t305;
         const V t390 = t112 - t304;
         const V t391 = t113 - t305;
-        // block of 2
+        // complex block of 2
         const V t392 = t384 + t388;
         io.re(0, t392);
         const V t393 = t385 + t389;
@@ -481,7 +481,7 @@ struct ComplexGraph<28> {
         io.re(14, t394);
         const V t395 = t385 - t389;
         io.im(14, t395);
-        // block of 2
+        // complex block of 2
         const V t396 = t386 - t391;
         io.re(7, t396);
         const V t397 = t387 + t390;
@@ -490,17 +490,17 @@ struct ComplexGraph<28> {
         io.re(21, t398);
         const V t399 = t387 - t390;
         io.im(21, t399);
-        // block of 2
+        // complex block of 2
         const V t400 = t94 + t286;
         const V t401 = t95 + t287;
         const V t402 = t94 - t286;
         const V t403 = t95 - t287;
-        // block of 2
+        // complex block of 2
         const V t404 = t190 + t382;
         const V t405 = t191 + t383;
         const V t406 = t190 - t382;
         const V t407 = t191 - t383;
-        // block of 2
+        // complex block of 2
         const V t408 = t400 + t404;
         io.re(4, t408);
         const V t409 = t401 + t405;
@@ -509,7 +509,7 @@ struct ComplexGraph<28> {
         io.re(18, t410);
         const V t411 = t401 - t405;
         io.im(18, t411);
-        // block of 2
+        // complex block of 2
         const V t412 = t402 - t407;
         io.re(11, t412);
         const V t413 = t403 + t406;
@@ -518,17 +518,17 @@ struct ComplexGraph<28> {
         io.re(25, t414);
         const V t415 = t403 - t406;
         io.im(25, t415);
-        // block of 2
+        // complex block of 2
         const V t416 = t40 + t232;
         const V t417 = t41 + t233;
         const V t418 = t40 - t232;
         const V t419 = t41 - t233;
-        // block of 2
+        // complex block of 2
         const V t420 = t136 + t328;
         const V t421 = t137 + t329;
         const V t422 = t136 - t328;
         const V t423 = t137 - t329;
-        // block of 2
+        // complex block of 2
         const V t424 = t416 + t420;
         io.re(8, t424);
         const V t425 = t417 + t421;
@@ -537,7 +537,7 @@ struct ComplexGraph<28> {
         io.re(22, t426);
         const V t427 = t417 - t421;
         io.im(22, t427);
-        // block of 2
+        // complex block of 2
         const V t428 = t418 - t423;
         io.re(15, t428);
         const V t429 = t419 + t422;
@@ -546,17 +546,17 @@ struct ComplexGraph<28> {
         io.re(1, t430);
         const V t431 = t419 - t422;
         io.im(1, t431);
-        // block of 2
+        // complex block of 2
         const V t432 = t68 + t260;
         const V t433 = t69 + t261;
         const V t434 = t68 - t260;
         const V t435 = t69 - t261;
-        // block of 2
+        // complex block of 2
         const V t436 = t164 + t356;
         const V t437 = t165 + t357;
         const V t438 = t164 - t356;
         const V t439 = t165 - t357;
-        // block of 2
+        // complex block of 2
         const V t440 = t432 + t436;
         io.re(12, t440);
         const V t441 = t433 + t437;
@@ -565,7 +565,7 @@ struct ComplexGraph<28> {
         io.re(26, t442);
         const V t443 = t433 - t437;
         io.im(26, t443);
-        // block of 2
+        // complex block of 2
         const V t444 = t434 - t439;
         io.re(19, t444);
         const V t445 = t435 + t438;
@@ -574,17 +574,17 @@ struct ComplexGraph<28> {
         io.re(5, t446);
         const V t447 = t435 - t438;
         io.im(5, t447);
-        // block of 2
+        // complex block of 2
         const V t448 = t66 + t258;
         const V t449 = t67 + t259;
         const V t450 = t66 - t258;
         const V t451 = t67 - t259;
-        // block of 2
+        // complex block of 2
         const V t452 = t162 + t354;
         const V t453 = t163 + t355;
         const V t454 = t162 - t354;
         const V t455 = t163 - t355;
-        // block of 2
+        // complex block of 2
         const V t456 = t448 + t452;
         io.re(16, t456);
         const V t457 = t449 + t453;
@@ -593,7 +593,7 @@ struct ComplexGraph<28> {
         io.re(2, t458);
         const V t459 = t449 - t453;
         io.im(2, t459);
-        // block of 2
+        // complex block of 2
         const V t460 = t450 - t455;
         io.re(23, t460);
         const V t461 = t451 + t454;
@@ -602,17 +602,17 @@ struct ComplexGraph<28> {
         io.re(9, t462);
         const V t463 = t451 - t454;
         io.im(9, t463);
-        // block of 2
+        // complex block of 2
         const V t464 = t42 + t234;
         const V t465 = t43 + t235;
         const V t466 = t42 - t234;
         const V t467 = t43 - t235;
-        // block of 2
+        // complex block of 2
         const V t468 = t138 + t330;
         const V t469 = t139 + t331;
         const V t470 = t138 - t330;
         const V t471 = t139 - t331;
-        // block of 2
+        // complex block of 2
         const V t472 = t464 + t468;
         io.re(20, t472);
         const V t473 = t465 + t469;
@@ -621,7 +621,7 @@ struct ComplexGraph<28> {
         io.re(6, t474);
         const V t475 = t465 - t469;
         io.im(6, t475);
-        // block of 2
+        // complex block of 2
         const V t476 = t466 - t471;
         io.re(27, t476);
         const V t477 = t467 + t470;
@@ -630,17 +630,17 @@ struct ComplexGraph<28> {
         io.re(13, t478);
         const V t479 = t467 - t470;
         io.im(13, t479);
-        // block of 2
+        // complex block of 2
         const V t480 = t92 + t284;
         const V t481 = t93 + t285;
         const V t482 = t92 - t284;
         const V t483 = t93 - t285;
-        // block of 2
+        // complex block of 2
         const V t484 = t188 + t380;
         const V t485 = t189 + t381;
         const V t486 = t188 - t380;
         const V t487 = t189 - t381;
-        // block of 2
+        // complex block of 2
         const V t488 = t480 + t484;
         io.re(24, t488);
         const V t489 = t481 + t485;
@@ -649,7 +649,7 @@ struct ComplexGraph<28> {
         io.re(10, t490);
         const V t491 = t481 - t485;
         io.im(10, t491);
-        // block of 2
+        // complex block of 2
         const V t492 = t482 - t487;
         io.re(3, t492);
         const V t493 = t483 + t486;

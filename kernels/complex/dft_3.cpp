@@ -14,7 +14,7 @@ struct ComplexGraph<3> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3
+        // complex block of 3
         const V x1r = io.re(1);
         const V x2r = io.re(2);
         const V t0 = x1r + x2r;

@@ -18,7 +18,7 @@ struct ComplexGraph<30> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 5
+        // complex block of 5
         const V x6r = io.re(6);
         const V x24r = io.re(24);
         const V t0 = x6r + x24r;
@@ -50,15 +50,15 @@ struct ComplexGraph<30> {
         const V t18 = t16 - t17;
         const V t19 = t18 + x0i;
         const V t20 = c2 * t2;
-        const V t21 = c2 * t3;
-        const V t22 = c3 * t6;
-        const V t23 = c3 * t7;
-        const V t24 = t20 - t22;
-        const V t25 = t21 - t23;
+        const V t21 = c3 * t6;
+        const V t22 = t20 - t21;
+        const V t23 = c2 * t3;
+        const V t24 = c3 * t7;
+        const V t25 = t23 - t24;
         const V t26 = t15 + t25;
-        const V t27 = t19 - t24;
+        const V t27 = t19 - t22;
         const V t28 = t15 - t25;
-        const V t29 = t19 + t24;
+        const V t29 = t19 + t22;
         const V t30 = c1 * t0;
         const V t31 = x0r - t30;
         const V t32 = c0 * t4;
@@ -68,16 +68,16 @@ struct ComplexGraph<30> {
         const V t36 = c0 * t5;
         const V t37 = t35 + t36;
         const V t38 = c3 * t2;
-        const V t39 = c3 * t3;
-        const V t40 = c2 * t6;
-        const V t41 = c2 * t7;
-        const V t42 = t38 + t40;
-        const V t43 = t39 + t41;
+        const V t39 = c2 * t6;
+        const V t40 = t38 + t39;
+        const V t41 = c3 * t3;
+        const V t42 = c2 * t7;
+        const V t43 = t41 + t42;
         const V t44 = t33 + t43;
-        const V t45 = t37 - t42;
+        const V t45 = t37 - t40;
         const V t46 = t33 - t43;
-        const V t47 = t37 + t42;
-        // block of 5
+        const V t47 = t37 + t40;
+        // complex block of 5
         const V x21r = io.re(21);
         const V x9r = io.re(9);
         const V t48 = x21r + x9r;
@@ -109,15 +109,15 @@ struct ComplexGraph<30> {
         const V t66 = t64 - t65;
         const V t67 = t66 + x15i;
         const V t68 = c2 * t50;
-        const V t69 = c2 * t51;
-        const V t70 = c3 * t54;
-        const V t71 = c3 * t55;
-        const V t72 = t68 - t70;
-        const V t73 = t69 - t71;
+        const V t69 = c3 * t54;
+        const V t70 = t68 - t69;
+        const V t71 = c2 * t51;
+        const V t72 = c3 * t55;
+        const V t73 = t71 - t72;
         const V t74 = t63 + t73;
-        const V t75 = t67 - t72;
+        const V t75 = t67 - t70;
         const V t76 = t63 - t73;
-        const V t77 = t67 + t72;
+        const V t77 = t67 + t70;
         const V t78 = c1 * t48;
         const V t79 = x15r - t78;
         const V t80 = c0 * t52;
@@ -127,16 +127,16 @@ struct ComplexGraph<30> {
         const V t84 = c0 * t53;
         const V t85 = t83 + t84;
         const V t86 = c3 * t50;
-        const V t87 = c3 * t51;
-        const V t88 = c2 * t54;
-        const V t89 = c2 * t55;
-        const V t90 = t86 + t88;
-        const V t91 = t87 + t89;
+        const V t87 = c2 * t54;
+        const V t88 = t86 + t87;
+        const V t89 = c3 * t51;
+        const V t90 = c2 * t55;
+        const V t91 = t89 + t90;
         const V t92 = t81 + t91;
-        const V t93 = t85 - t90;
+        const V t93 = t85 - t88;
         const V t94 = t81 - t91;
-        const V t95 = t85 + t90;
-        // block of 5
+        const V t95 = t85 + t88;
+        // complex block of 5
         const V x16r = io.re(16);
         const V x4r = io.re(4);
         const V t96 = x16r + x4r;
@@ -168,15 +168,15 @@ struct ComplexGraph<30> {
         const V t114 = t112 - t113;
         const V t115 = t114 + x10i;
         const V t116 = c2 * t98;
-        const V t117 = c2 * t99;
-        const V t118 = c3 * t102;
-        const V t119 = c3 * t103;
-        const V t120 = t116 - t118;
-        const V t121 = t117 - t119;
+        const V t117 = c3 * t102;
+        const V t118 = t116 - t117;
+        const V t119 = c2 * t99;
+        const V t120 = c3 * t103;
+        const V t121 = t119 - t120;
         const V t122 = t111 + t121;
-        const V t123 = t115 - t120;
+        const V t123 = t115 - t118;
         const V t124 = t111 - t121;
-        const V t125 = t115 + t120;
+        const V t125 = t115 + t118;
         const V t126 = c1 * t96;
         const V t127 = x10r - t126;
         const V t128 = c0 * t100;
@@ -186,16 +186,16 @@ struct ComplexGraph<30> {
         const V t132 = c0 * t101;
         const V t133 = t131 + t132;
         const V t134 = c3 * t98;
-        const V t135 = c3 * t99;
-        const V t136 = c2 * t102;
-        const V t137 = c2 * t103;
-        const V t138 = t134 + t136;
-        const V t139 = t135 + t137;
+        const V t135 = c2 * t102;
+        const V t136 = t134 + t135;
+        const V t137 = c3 * t99;
+        const V t138 = c2 * t103;
+        const V t139 = t137 + t138;
         const V t140 = t129 + t139;
-        const V t141 = t133 - t138;
+        const V t141 = t133 - t136;
         const V t142 = t129 - t139;
-        const V t143 = t133 + t138;
-        // block of 5
+        const V t143 = t133 + t136;
+        // complex block of 5
         const V x1r = io.re(1);
         const V x19r = io.re(19);
         const V t144 = x1r + x19r;
@@ -227,15 +227,15 @@ struct ComplexGraph<30> {
         const V t162 = t160 - t161;
         const V t163 = t162 + x25i;
         const V t164 = c2 * t146;
-        const V t165 = c2 * t147;
-        const V t166 = c3 * t150;
-        const V t167 = c3 * t151;
-        const V t168 = t164 - t166;
-        const V t169 = t165 - t167;
+        const V t165 = c3 * t150;
+        const V t166 = t164 - t165;
+        const V t167 = c2 * t147;
+        const V t168 = c3 * t151;
+        const V t169 = t167 - t168;
         const V t170 = t159 + t169;
-        const V t171 = t163 - t168;
+        const V t171 = t163 - t166;
         const V t172 = t159 - t169;
-        const V t173 = t163 + t168;
+        const V t173 = t163 + t166;
         const V t174 = c1 * t144;
         const V t175 = x25r - t174;
         const V t176 = c0 * t148;
@@ -245,16 +245,16 @@ struct ComplexGraph<30> {
         const V t180 = c0 * t149;
         const V t181 = t179 + t180;
         const V t182 = c3 * t146;
-        const V t183 = c3 * t147;
-        const V t184 = c2 * t150;
-        const V t185 = c2 * t151;
-        const V t186 = t182 + t184;
-        const V t187 = t183 + t185;
+        const V t183 = c2 * t150;
+        const V t184 = t182 + t183;
+        const V t185 = c3 * t147;
+        const V t186 = c2 * t151;
+        const V t187 = t185 + t186;
         const V t188 = t177 + t187;
-        const V t189 = t181 - t186;
+        const V t189 = t181 - t184;
         const V t190 = t177 - t187;
-        const V t191 = t181 + t186;
-        // block of 5
+        const V t191 = t181 + t184;
+        // complex block of 5
         const V x26r = io.re(26);
         const V x14r = io.re(14);
         const V t192 = x26r + x14r;
@@ -286,15 +286,15 @@ struct ComplexGraph<30> {
         const V t210 = t208 - t209;
         const V t211 = t210 + x20i;
         const V t212 = c2 * t194;
-        const V t213 = c2 * t195;
-        const V t214 = c3 * t198;
-        const V t215 = c3 * t199;
-        const V t216 = t212 - t214;
-        const V t217 = t213 - t215;
+        const V t213 = c3 * t198;
+        const V t214 = t212 - t213;
+        const V t215 = c2 * t195;
+        const V t216 = c3 * t199;
+        const V t217 = t215 - t216;
         const V t218 = t207 + t217;
-        const V t219 = t211 - t216;
+        const V t219 = t211 - t214;
         const V t220 = t207 - t217;
-        const V t221 = t211 + t216;
+        const V t221 = t211 + t214;
         const V t222 = c1 * t192;
         const V t223 = x20r - t222;
         const V t224 = c0 * t196;
@@ -304,16 +304,16 @@ struct ComplexGraph<30> {
         const V t228 = c0 * t197;
         const V t229 = t227 + t228;
         const V t230 = c3 * t194;
-        const V t231 = c3 * t195;
-        const V t232 = c2 * t198;
-        const V t233 = c2 * t199;
-        const V t234 = t230 + t232;
-        const V t235 = t231 + t233;
+        const V t231 = c2 * t198;
+        const V t232 = t230 + t231;
+        const V t233 = c3 * t195;
+        const V t234 = c2 * t199;
+        const V t235 = t233 + t234;
         const V t236 = t225 + t235;
-        const V t237 = t229 - t234;
+        const V t237 = t229 - t232;
         const V t238 = t225 - t235;
-        const V t239 = t229 + t234;
-        // block of 5
+        const V t239 = t229 + t232;
+        // complex block of 5
         const V x11r = io.re(11);
         const V x29r = io.re(29);
         const V t240 = x11r + x29r;
@@ -345,15 +345,15 @@ struct ComplexGraph<30> {
         const V t258 = t256 - t257;
         const V t259 = t258 + x5i;
         const V t260 = c2 * t242;
-        const V t261 = c2 * t243;
-        const V t262 = c3 * t246;
-        const V t263 = c3 * t247;
-        const V t264 = t260 - t262;
-        const V t265 = t261 - t263;
+        const V t261 = c3 * t246;
+        const V t262 = t260 - t261;
+        const V t263 = c2 * t243;
+        const V t264 = c3 * t247;
+        const V t265 = t263 - t264;
         const V t266 = t255 + t265;
-        const V t267 = t259 - t264;
+        const V t267 = t259 - t262;
         const V t268 = t255 - t265;
-        const V t269 = t259 + t264;
+        const V t269 = t259 + t262;
         const V t270 = c1 * t240;
         const V t271 = x5r - t270;
         const V t272 = c0 * t244;
@@ -363,16 +363,16 @@ struct ComplexGraph<30> {
         const V t276 = c0 * t245;
         const V t277 = t275 + t276;
         const V t278 = c3 * t242;
-        const V t279 = c3 * t243;
-        const V t280 = c2 * t246;
-        const V t281 = c2 * t247;
-        const V t282 = t278 + t280;
-        const V t283 = t279 + t281;
+        const V t279 = c2 * t246;
+        const V t280 = t278 + t279;
+        const V t281 = c3 * t243;
+        const V t282 = c2 * t247;
+        const V t283 = t281 + t282;
         const V t284 = t273 + t283;
-        const V t285 = t277 - t282;
+        const V t285 = t277 - t280;
         const V t286 = t273 - t283;
-        const V t287 = t277 + t282;
-        // block of 3
+        const V t287 = t277 + t280;
+        // complex block of 3
         const V t288 = t106 + t202;
         const V t289 = t107 + t203;
         const V t290 = t106 - t202;
@@ -389,7 +389,7 @@ struct ComplexGraph<30> {
         const V t301 = t297 - t298;
         const V t302 = t295 - t299;
         const V t303 = t297 + t298;
-        // block of 3
+        // complex block of 3
         const V t304 = t154 + t250;
         const V t305 = t155 + t251;
         const V t306 = t154 - t250;
@@ -406,7 +406,7 @@ struct ComplexGraph<30> {
         const V t317 = t313 - t314;
         const V t318 = t311 - t315;
         const V t319 = t313 + t314;
-        // block of 3
+        // complex block of 3
         const V t320 = t122 + t218;
         const V t321 = t123 + t219;
         const V t322 = t122 - t218;
@@ -423,7 +423,7 @@ struct ComplexGraph<30> {
         const V t333 = t329 - t330;
         const V t334 = t327 - t331;
         const V t335 = t329 + t330;
-        // block of 3
+        // complex block of 3
         const V t336 = t170 + t266;
         const V t337 = t171 + t267;
         const V t338 = t170 - t266;
@@ -440,7 +440,7 @@ struct ComplexGraph<30> {
         const V t349 = t345 - t346;
         const V t350 = t343 - t347;
         const V t351 = t345 + t346;
-        // block of 3
+        // complex block of 3
         const V t352 = t140 + t236;
         const V t353 = t141 + t237;
         const V t354 = t140 - t236;
@@ -457,7 +457,7 @@ struct ComplexGraph<30> {
         const V t365 = t361 - t362;
         const V t366 = t359 - t363;
         const V t367 = t361 + t362;
-        // block of 3
+        // complex block of 3
         const V t368 = t188 + t284;
         const V t369 = t189 + t285;
         const V t370 = t188 - t284;
@@ -474,7 +474,7 @@ struct ComplexGraph<30> {
         const V t381 = t377 - t378;
         const V t382 = t375 - t379;
         const V t383 = t377 + t378;
-        // block of 3
+        // complex block of 3
         const V t384 = t142 + t238;
         const V t385 = t143 + t239;
         const V t386 = t142 - t238;
@@ -491,7 +491,7 @@ struct ComplexGraph<30> {
         const V t397 = t393 - t394;
         const V t398 = t391 - t395;
         const V t399 = t393 + t394;
-        // block of 3
+        // complex block of 3
         const V t400 = t190 + t286;
         const V t401 = t191 + t287;
         const V t402 = t190 - t286;
@@ -508,7 +508,7 @@ struct ComplexGraph<30> {
         const V t413 = t409 - t410;
         const V t414 = t407 - t411;
         const V t415 = t409 + t410;
-        // block of 3
+        // complex block of 3
         const V t416 = t124 + t220;
         const V t417 = t125 + t221;
         const V t418 = t124 - t220;
@@ -525,7 +525,7 @@ struct ComplexGraph<30> {
         const V t429 = t425 - t426;
         const V t430 = t423 - t427;
         const V t431 = t425 + t426;
-        // block of 3
+        // complex block of 3
         const V t432 = t172 + t268;
         const V t433 = t173 + t269;
         const V t434 = t172 - t268;
@@ -542,7 +542,7 @@ struct ComplexGraph<30> {
         const V t445 = t441 - t442;
         const V t446 = t439 - t443;
         const V t447 = t441 + t442;
-        // block of 2
+        // complex block of 2
         const V t448 = t292 + t308;
         io.re(0, t448);
         const V t449 = t293 + t309;
@@ -551,7 +551,7 @@ struct ComplexGraph<30> {
         io.re(15, t450);
         const V t451 = t293 - t309;
         io.im(15, t451);
-        // block of 2
+        // complex block of 2
         const V t452 = t300 + t316;
         io.re(10, t452);
         const V t453 = t301 + t317;
@@ -560,7 +560,7 @@ struct ComplexGraph<30> {
         io.re(25, t454);
         const V t455 = t301 - t317;
         io.im(25, t455);
-        // block of 2
+        // complex block of 2
         const V t456 = t302 + t318;
         io.re(20, t456);
         const V t457 = t303 + t319;
@@ -569,7 +569,7 @@ struct ComplexGraph<30> {
         io.re(5, t458);
         const V t459 = t303 - t319;
         io.im(5, t459);
-        // block of 2
+        // complex block of 2
         const V t460 = t324 + t340;
         io.re(6, t460);
         const V t461 = t325 + t341;
@@ -578,7 +578,7 @@ struct ComplexGraph<30> {
         io.re(21, t462);
         const V t463 = t325 - t341;
         io.im(21, t463);
-        // block of 2
+        // complex block of 2
         const V t464 = t332 + t348;
         io.re(16, t464);
         const V t465 = t333 + t349;
@@ -587,7 +587,7 @@ struct ComplexGraph<30> {
         io.re(1, t466);
         const V t467 = t333 - t349;
         io.im(1, t467);
-        // block of 2
+        // complex block of 2
         const V t468 = t334 + t350;
         io.re(26, t468);
         const V t469 = t335 + t351;
@@ -596,7 +596,7 @@ struct ComplexGraph<30> {
         io.re(11, t470);
         const V t471 = t335 - t351;
         io.im(11, t471);
-        // block of 2
+        // complex block of 2
         const V t472 = t356 + t372;
         io.re(12, t472);
         const V t473 = t357 + t373;
@@ -605,7 +605,7 @@ struct ComplexGraph<30> {
         io.re(27, t474);
         const V t475 = t357 - t373;
         io.im(27, t475);
-        // block of 2
+        // complex block of 2
         const V t476 = t364 + t380;
         io.re(22, t476);
         const V t477 = t365 + t381;
@@ -614,7 +614,7 @@ struct ComplexGraph<30> {
         io.re(7, t478);
         const V t479 = t365 - t381;
         io.im(7, t479);
-        // block of 2
+        // complex block of 2
         const V t480 = t366 + t382;
         io.re(2, t480);
         const V t481 = t367 + t383;
@@ -623,7 +623,7 @@ struct ComplexGraph<30> {
         io.re(17, t482);
         const V t483 = t367 - t383;
         io.im(17, t483);
-        // block of 2
+        // complex block of 2
         const V t484 = t388 + t404;
         io.re(18, t484);
         const V t485 = t389 + t405;
@@ -632,7 +632,7 @@ struct ComplexGraph<30> {
         io.re(3, t486);
         const V t487 = t389 - t405;
         io.im(3, t487);
-        // block of 2
+        // complex block of 2
         const V t488 = t396 + t412;
         io.re(28, t488);
         const V t489 = t397 + t413;
@@ -641,7 +641,7 @@ struct ComplexGraph<30> {
         io.re(13, t490);
         const V t491 = t397 - t413;
         io.im(13, t491);
-        // block of 2
+        // complex block of 2
         const V t492 = t398 + t414;
         io.re(8, t492);
         const V t493 = t399 + t415;
@@ -650,7 +650,7 @@ struct ComplexGraph<30> {
         io.re(23, t494);
         const V t495 = t399 - t415;
         io.im(23, t495);
-        // block of 2
+        // complex block of 2
         const V t496 = t420 + t436;
         io.re(24, t496);
         const V t497 = t421 + t437;
@@ -659,7 +659,7 @@ struct ComplexGraph<30> {
         io.re(9, t498);
         const V t499 = t421 - t437;
         io.im(9, t499);
-        // block of 2
+        // complex block of 2
         const V t500 = t428 + t444;
         io.re(4, t500);
         const V t501 = t429 + t445;
@@ -668,7 +668,7 @@ struct ComplexGraph<30> {
         io.re(19, t502);
         const V t503 = t429 - t445;
         io.im(19, t503);
-        // block of 2
+        // complex block of 2
         const V t504 = t430 + t446;
         io.re(14, t504);
         const V t505 = t431 + t447;

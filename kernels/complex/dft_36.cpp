@@ -20,7 +20,7 @@ struct ComplexGraph<36> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3
+        // complex block of 3
         const V x12r = io.re(12);
         const V x24r = io.re(24);
         const V t0 = x12r + x24r;
@@ -43,7 +43,7 @@ struct ComplexGraph<36> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3
+        // complex block of 3
         const V x16r = io.re(16);
         const V x28r = io.re(28);
         const V t16 = x16r + x28r;
@@ -66,7 +66,7 @@ struct ComplexGraph<36> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3
+        // complex block of 3
         const V x20r = io.re(20);
         const V x32r = io.re(32);
         const V t32 = x20r + x32r;
@@ -89,7 +89,7 @@ struct ComplexGraph<36> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3
+        // complex block of 3
         const V t48 = t20 + t36;
         const V t49 = t21 + t37;
         const V t50 = t20 - t36;
@@ -106,7 +106,7 @@ struct ComplexGraph<36> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t64 = c2 * t29;
         const V t65 = c3 * t28;
         const V t66 = t64 - t65;
@@ -119,7 +119,7 @@ struct ComplexGraph<36> {
         const V t73 = c4 * t44;
         const V t74 = c5 * t45;
         const V t75 = t74 + t73;
-        // block of 3
+        // complex block of 3
         const V t76 = t66 + t72;
         const V t77 = t75 - t69;
         const V t78 = t66 - t72;
@@ -136,7 +136,7 @@ struct ComplexGraph<36> {
         const V t89 = t85 - t86;
         const V t90 = t83 + t87;
         const V t91 = t85 + t86;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t92 = c4 * t31;
         const V t93 = c5 * t30;
         const V t94 = t93 - t92;
@@ -149,7 +149,7 @@ struct ComplexGraph<36> {
         const V t101 = c6 * t46;
         const V t102 = c7 * t47;
         const V t103 = t102 + t101;
-        // block of 3
+        // complex block of 3
         const V t104 = t94 + t100;
         const V t105 = t97 + t103;
         const V t106 = t94 - t100;
@@ -166,7 +166,7 @@ struct ComplexGraph<36> {
         const V t117 = t113 - t114;
         const V t118 = t111 - t115;
         const V t119 = t113 + t114;
-        // block of 3
+        // complex block of 3
         const V x21r = io.re(21);
         const V x33r = io.re(33);
         const V t120 = x21r + x33r;
@@ -189,7 +189,7 @@ struct ComplexGraph<36> {
         const V t133 = t129 - t130;
         const V t134 = t127 - t131;
         const V t135 = t129 + t130;
-        // block of 3
+        // complex block of 3
         const V x25r = io.re(25);
         const V x1r = io.re(1);
         const V t136 = x25r + x1r;
@@ -212,7 +212,7 @@ struct ComplexGraph<36> {
         const V t149 = t145 - t146;
         const V t150 = t143 - t147;
         const V t151 = t145 + t146;
-        // block of 3
+        // complex block of 3
         const V x29r = io.re(29);
         const V x5r = io.re(5);
         const V t152 = x29r + x5r;
@@ -235,7 +235,7 @@ struct ComplexGraph<36> {
         const V t165 = t161 - t162;
         const V t166 = t159 - t163;
         const V t167 = t161 + t162;
-        // block of 3
+        // complex block of 3
         const V t168 = t140 + t156;
         const V t169 = t141 + t157;
         const V t170 = t140 - t156;
@@ -252,7 +252,7 @@ struct ComplexGraph<36> {
         const V t181 = t177 - t178;
         const V t182 = t175 - t179;
         const V t183 = t177 + t178;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t184 = c2 * t149;
         const V t185 = c3 * t148;
         const V t186 = t184 - t185;
@@ -265,7 +265,7 @@ struct ComplexGraph<36> {
         const V t193 = c4 * t164;
         const V t194 = c5 * t165;
         const V t195 = t194 + t193;
-        // block of 3
+        // complex block of 3
         const V t196 = t186 + t192;
         const V t197 = t195 - t189;
         const V t198 = t186 - t192;
@@ -282,7 +282,7 @@ struct ComplexGraph<36> {
         const V t209 = t205 - t206;
         const V t210 = t203 + t207;
         const V t211 = t205 + t206;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t212 = c4 * t151;
         const V t213 = c5 * t150;
         const V t214 = t213 - t212;
@@ -295,7 +295,7 @@ struct ComplexGraph<36> {
         const V t221 = c6 * t166;
         const V t222 = c7 * t167;
         const V t223 = t222 + t221;
-        // block of 3
+        // complex block of 3
         const V t224 = t214 + t220;
         const V t225 = t217 + t223;
         const V t226 = t214 - t220;
@@ -312,7 +312,7 @@ struct ComplexGraph<36> {
         const V t237 = t233 - t234;
         const V t238 = t231 - t235;
         const V t239 = t233 + t234;
-        // block of 3
+        // complex block of 3
         const V x30r = io.re(30);
         const V x6r = io.re(6);
         const V t240 = x30r + x6r;
@@ -335,7 +335,7 @@ struct ComplexGraph<36> {
         const V t253 = t249 - t250;
         const V t254 = t247 - t251;
         const V t255 = t249 + t250;
-        // block of 3
+        // complex block of 3
         const V x34r = io.re(34);
         const V x10r = io.re(10);
         const V t256 = x34r + x10r;
@@ -358,7 +358,7 @@ struct ComplexGraph<36> {
         const V t269 = t265 - t266;
         const V t270 = t263 - t267;
         const V t271 = t265 + t266;
-        // block of 3
+        // complex block of 3
         const V x2r = io.re(2);
         const V x14r = io.re(14);
         const V t272 = x2r + x14r;
@@ -381,7 +381,7 @@ struct ComplexGraph<36> {
         const V t285 = t281 - t282;
         const V t286 = t279 - t283;
         const V t287 = t281 + t282;
-        // block of 3
+        // complex block of 3
         const V t288 = t260 + t276;
         const V t289 = t261 + t277;
         const V t290 = t260 - t276;
@@ -398,7 +398,7 @@ struct ComplexGraph<36> {
         const V t301 = t297 - t298;
         const V t302 = t295 - t299;
         const V t303 = t297 + t298;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t304 = c2 * t269;
         const V t305 = c3 * t268;
         const V t306 = t304 - t305;
@@ -411,7 +411,7 @@ struct ComplexGraph<36> {
         const V t313 = c4 * t284;
         const V t314 = c5 * t285;
         const V t315 = t314 + t313;
-        // block of 3
+        // complex block of 3
         const V t316 = t306 + t312;
         const V t317 = t315 - t309;
         const V t318 = t306 - t312;
@@ -428,7 +428,7 @@ struct ComplexGraph<36> {
         const V t329 = t325 - t326;
         const V t330 = t323 + t327;
         const V t331 = t325 + t326;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t332 = c4 * t271;
         const V t333 = c5 * t270;
         const V t334 = t333 - t332;
@@ -441,7 +441,7 @@ struct ComplexGraph<36> {
         const V t341 = c6 * t286;
         const V t342 = c7 * t287;
         const V t343 = t342 + t341;
-        // block of 3
+        // complex block of 3
         const V t344 = t334 + t340;
         const V t345 = t337 + t343;
         const V t346 = t334 - t340;
@@ -458,7 +458,7 @@ struct ComplexGraph<36> {
         const V t357 = t353 - t354;
         const V t358 = t351 - t355;
         const V t359 = t353 + t354;
-        // block of 3
+        // complex block of 3
         const V x3r = io.re(3);
         const V x15r = io.re(15);
         const V t360 = x3r + x15r;
@@ -481,7 +481,7 @@ struct ComplexGraph<36> {
         const V t373 = t369 - t370;
         const V t374 = t367 - t371;
         const V t375 = t369 + t370;
-        // block of 3
+        // complex block of 3
         const V x7r = io.re(7);
         const V x19r = io.re(19);
         const V t376 = x7r + x19r;
@@ -504,7 +504,7 @@ struct ComplexGraph<36> {
         const V t389 = t385 - t386;
         const V t390 = t383 - t387;
         const V t391 = t385 + t386;
-        // block of 3
+        // complex block of 3
         const V x11r = io.re(11);
         const V x23r = io.re(23);
         const V t392 = x11r + x23r;
@@ -527,7 +527,7 @@ struct ComplexGraph<36> {
         const V t405 = t401 - t402;
         const V t406 = t399 - t403;
         const V t407 = t401 + t402;
-        // block of 3
+        // complex block of 3
         const V t408 = t380 + t396;
         const V t409 = t381 + t397;
         const V t410 = t380 - t396;
@@ -544,7 +544,7 @@ struct ComplexGraph<36> {
         const V t421 = t417 - t418;
         const V t422 = t415 - t419;
         const V t423 = t417 + t418;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t424 = c2 * t389;
         const V t425 = c3 * t388;
         const V t426 = t424 - t425;
@@ -557,7 +557,7 @@ struct ComplexGraph<36> {
         const V t433 = c4 * t404;
         const V t434 = c5 * t405;
         const V t435 = t434 + t433;
-        // block of 3
+        // complex block of 3
         const V t436 = t426 + t432;
         const V t437 = t435 - t429;
         const V t438 = t426 - t432;
@@ -574,7 +574,7 @@ struct ComplexGraph<36> {
         const V t449 = t445 - t446;
         const V t450 = t443 + t447;
         const V t451 = t445 + t446;
-        // block of 9, multiplier 4
+        // complex block of 9, multiplier 4
         const V t452 = c4 * t391;
         const V t453 = c5 * t390;
         const V t454 = t453 - t452;
@@ -587,7 +587,7 @@ struct ComplexGraph<36> {
         const V t461 = c6 * t406;
         const V t462 = c7 * t407;
         const V t463 = t462 + t461;
-        // block of 3
+        // complex block of 3
         const V t464 = t454 + t460;
         const V t465 = t457 + t463;
         const V t466 = t454 - t460;
@@ -604,17 +604,17 @@ struct ComplexGraph<36> {
         const V t477 = t473 - t474;
         const V t478 = t471 - t475;
         const V t479 = t473 + t474;
-        // block of 2
+        // complex block of 2
         const V t480 = t52 + t292;
         const V t481 = t53 + t293;
         const V t482 = t52 - t292;
         const V t483 = t53 - t293;
-        // block of 2
+        // complex block of 2
         const V t484 = t172 + t412;
         const V t485 = t173 + t413;
         const V t486 = t172 - t412;
         const V t487 = t173 - t413;
-        // block of 2
+        // complex block of 2
         const V t488 = t480 + t484;
         io.re(0, t488);
         const V t489 = t481 + t485;
@@ -623,7 +623,7 @@ struct ComplexGraph<36> {
         io.re(18, t490);
         const V t491 = t481 - t485;
         io.im(18, t491);
-        // block of 2
+        // complex block of 2
         const V t492 = t482 + t487;
         io.re(9, t492);
         const V t493 = t483 - t486;
@@ -632,17 +632,17 @@ struct ComplexGraph<36> {
         io.re(27, t494);
         const V t495 = t483 + t486;
         io.im(27, t495);
-        // block of 2
+        // complex block of 2
         const V t496 = t80 + t320;
         const V t497 = t81 + t321;
         const V t498 = t80 - t320;
         const V t499 = t81 - t321;
-        // block of 2
+        // complex block of 2
         const V t500 = t200 + t440;
         const V t501 = t201 + t441;
         const V t502 = t200 - t440;
         const V t503 = t201 - t441;
-        // block of 2
+        // complex block of 2
         const V t504 = t496 + t500;
         io.re(4, t504);
         const V t505 = t497 + t501;
@@ -651,7 +651,7 @@ struct ComplexGraph<36> {
         io.re(22, t506);
         const V t507 = t497 - t501;
         io.im(22, t507);
-        // block of 2
+        // complex block of 2
         const V t508 = t498 + t503;
         io.re(13, t508);
         const V t509 = t499 - t502;
@@ -660,17 +660,17 @@ struct ComplexGraph<36> {
         io.re(31, t510);
         const V t511 = t499 + t502;
         io.im(31, t511);
-        // block of 2
+        // complex block of 2
         const V t512 = t108 + t348;
         const V t513 = t109 + t349;
         const V t514 = t108 - t348;
         const V t515 = t109 - t349;
-        // block of 2
+        // complex block of 2
         const V t516 = t228 + t468;
         const V t517 = t229 + t469;
         const V t518 = t228 - t468;
         const V t519 = t229 - t469;
-        // block of 2
+        // complex block of 2
         const V t520 = t512 + t516;
         io.re(8, t520);
         const V t521 = t513 + t517;
@@ -679,7 +679,7 @@ struct ComplexGraph<36> {
         io.re(26, t522);
         const V t523 = t513 - t517;
         io.im(26, t523);
-        // block of 2
+        // complex block of 2
         const V t524 = t514 + t519;
         io.re(17, t524);
         const V t525 = t515 - t518;
@@ -688,17 +688,17 @@ struct ComplexGraph<36> {
         io.re(35, t526);
         const V t527 = t515 + t518;
         io.im(35, t527);
-        // block of 2
+        // complex block of 2
         const V t528 = t60 + t300;
         const V t529 = t61 + t301;
         const V t530 = t60 - t300;
         const V t531 = t61 - t301;
-        // block of 2
+        // complex block of 2
         const V t532 = t180 + t420;
         const V t533 = t181 + t421;
         const V t534 = t180 - t420;
         const V t535 = t181 - t421;
-        // block of 2
+        // complex block of 2
         const V t536 = t528 + t532;
         io.re(12, t536);
         const V t537 = t529 + t533;
@@ -707,7 +707,7 @@ struct ComplexGraph<36> {
         io.re(30, t538);
         const V t539 = t529 - t533;
         io.im(30, t539);
-        // block of 2
+        // complex block of 2
         const V t540 = t530 + t535;
         io.re(21, t540);
         const V t541 = t531 - t534;
@@ -716,17 +716,17 @@ struct ComplexGraph<36> {
         io.re(3, t542);
         const V t543 = t531 + t534;
         io.im(3, t543);
-        // block of 2
+        // complex block of 2
         const V t544 = t88 + t328;
         const V t545 = t89 + t329;
         const V t546 = t88 - t328;
         const V t547 = t89 - t329;
-        // block of 2
+        // complex block of 2
         const V t548 = t208 + t448;
         const V t549 = t209 + t449;
         const V t550 = t208 - t448;
         const V t551 = t209 - t449;
-        // block of 2
+        // complex block of 2
         const V t552 = t544 + t548;
         io.re(16, t552);
         const V t553 = t545 + t549;
@@ -735,7 +735,7 @@ struct ComplexGraph<36> {
         io.re(34, t554);
         const V t555 = t545 - t549;
         io.im(34, t555);
-        // block of 2
+        // complex block of 2
         const V t556 = t546 + t551;
         io.re(25, t556);
         const V t557 = t547 - t550;
@@ -744,17 +744,17 @@ struct ComplexGraph<36> {
         io.re(7, t558);
         const V t559 = t547 + t550;
         io.im(7, t559);
-        // block of 2
+        // complex block of 2
         const V t560 = t116 + t356;
         const V t561 = t117 + t357;
         const V t562 = t116 - t356;
         const V t563 = t117 - t357;
-        // block of 2
+        // complex block of 2
         const V t564 = t236 + t476;
         const V t565 = t237 + t477;
         const V t566 = t236 - t476;
         const V t567 = t237 - t477;
-        // block of 2
+        // complex block of 2
         const V t568 = t560 + t564;
         io.re(20, t568);
         const V t569 = t561 + t565;
@@ -763,7 +763,7 @@ struct ComplexGraph<36> {
         io.re(2, t570);
         const V t571 = t561 - t565;
         io.im(2, t571);
-        // block of 2
+        // complex block of 2
         const V t572 = t562 + t567;
         io.re(29, t572);
         const V t573 = t563 - t566;
@@ -772,17 +772,17 @@ struct ComplexGraph<36> {
         io.re(11, t574);
         const V t575 = t563 + t566;
         io.im(11, t575);
-        // block of 2
+        // complex block of 2
         const V t576 = t62 + t302;
         const V t577 = t63 + t303;
         const V t578 = t62 - t302;
         const V t579 = t63 - t303;
-        // block of 2
+        // complex block of 2
         const V t580 = t182 + t422;
         const V t581 = t183 + t423;
         const V t582 = t182 - t422;
         const V t583 = t183 - t423;
-        // block of 2
+        // complex block of 2
         const V t584 = t576 + t580;
         io.re(24, t584);
         const V t585 = t577 + t581;
@@ -791,7 +791,7 @@ struct ComplexGraph<36> {
         io.re(6, t586);
         const V t587 = t577 - t581;
         io.im(6, t587);
-        // block of 2
+        // complex block of 2
         const V t588 = t578 + t583;
         io.re(33, t588);
         const V t589 = t579 - t582;
@@ -800,17 +800,17 @@ struct ComplexGraph<36> {
         io.re(15, t590);
         const V t591 = t579 + t582;
         io.im(15, t591);
-        // block of 2
+        // complex block of 2
         const V t592 = t90 + t330;
         const V t593 = t91 + t331;
         const V t594 = t90 - t330;
         const V t595 = t91 - t331;
-        // block of 2
+        // complex block of 2
         const V t596 = t210 + t450;
         const V t597 = t211 + t451;
         const V t598 = t210 - t450;
         const V t599 = t211 - t451;
-        // block of 2
+        // complex block of 2
         const V t600 = t592 + t596;
         io.re(28, t600);
         const V t601 = t593 + t597;
@@ -819,7 +819,7 @@ struct ComplexGraph<36> {
         io.re(10, t602);
         const V t603 = t593 - t597;
         io.im(10, t603);
-        // block of 2
+        // complex block of 2
         const V t604 = t594 + t599;
         io.re(1, t604);
         const V t605 = t595 - t598;
@@ -828,17 +828,17 @@ struct ComplexGraph<36> {
         io.re(19, t606);
         const V t607 = t595 + t598;
         io.im(19, t607);
-        // block of 2
+        // complex block of 2
         const V t608 = t118 + t358;
         const V t609 = t119 + t359;
         const V t610 = t118 - t358;
         const V t611 = t119 - t359;
-        // block of 2
+        // complex block of 2
         const V t612 = t238 + t478;
         const V t613 = t239 + t479;
         const V t614 = t238 - t478;
         const V t615 = t239 - t479;
-        // block of 2
+        // complex block of 2
         const V t616 = t608 + t612;
         io.re(32, t616);
         const V t617 = t609 + t613;
@@ -847,7 +847,7 @@ struct ComplexGraph<36> {
         io.re(14, t618);
         const V t619 = t609 - t613;
         io.im(14, t619);
-        // block of 2
+        // complex block of 2
         const V t620 = t610 + t615;
         io.re(5, t620);
         const V t621 = t611 - t614;

@@ -12,7 +12,7 @@ struct ComplexGraph<4> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x2r = io.re(2);
         const V t0 = x0r + x2r;
@@ -21,7 +21,7 @@ struct ComplexGraph<4> {
         const V t1 = x0i + x2i;
         const V t2 = x0r - x2r;
         const V t3 = x0i - x2i;
-        // block of 2
+        // complex block of 2
         const V x1r = io.re(1);
         const V x3r = io.re(3);
         const V t4 = x1r + x3r;
@@ -30,7 +30,7 @@ struct ComplexGraph<4> {
         const V t5 = x1i + x3i;
         const V t6 = x1r - x3r;
         const V t7 = x1i - x3i;
-        // block of 2
+        // complex block of 2
         const V t8 = t0 + t4;
         io.re(0, t8);
         const V t9 = t1 + t5;
@@ -39,7 +39,7 @@ struct ComplexGraph<4> {
         io.re(2, t10);
         const V t11 = t1 - t5;
         io.im(2, t11);
-        // block of 2
+        // complex block of 2
         const V t12 = t2 + t7;
         io.re(1, t12);
         const V t13 = t3 - t6;

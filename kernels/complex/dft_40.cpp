@@ -17,7 +17,7 @@ struct ComplexGraph<40> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 5, multiplier 3
+        // complex block of 5, multiplier 3
         const V x8r = io.re(8);
         const V x32r = io.re(32);
         const V t0 = x8r + x32r;
@@ -49,15 +49,15 @@ struct ComplexGraph<40> {
         const V t18 = t16 - t17;
         const V t19 = t18 + x0i;
         const V t20 = c2 * t2;
-        const V t21 = c2 * t3;
-        const V t22 = c3 * t6;
-        const V t23 = c3 * t7;
-        const V t24 = t20 - t22;
-        const V t25 = t21 - t23;
+        const V t21 = c3 * t6;
+        const V t22 = t20 - t21;
+        const V t23 = c2 * t3;
+        const V t24 = c3 * t7;
+        const V t25 = t23 - t24;
         const V t26 = t15 + t25;
-        const V t27 = t19 - t24;
+        const V t27 = t19 - t22;
         const V t28 = t15 - t25;
-        const V t29 = t19 + t24;
+        const V t29 = t19 + t22;
         const V t30 = c1 * t0;
         const V t31 = x0r - t30;
         const V t32 = c0 * t4;
@@ -67,16 +67,16 @@ struct ComplexGraph<40> {
         const V t36 = c0 * t5;
         const V t37 = t35 + t36;
         const V t38 = c3 * t2;
-        const V t39 = c3 * t3;
-        const V t40 = c2 * t6;
-        const V t41 = c2 * t7;
-        const V t42 = t38 + t40;
-        const V t43 = t39 + t41;
+        const V t39 = c2 * t6;
+        const V t40 = t38 + t39;
+        const V t41 = c3 * t3;
+        const V t42 = c2 * t7;
+        const V t43 = t41 + t42;
         const V t44 = t33 + t43;
-        const V t45 = t37 - t42;
+        const V t45 = t37 - t40;
         const V t46 = t33 - t43;
-        const V t47 = t37 + t42;
-        // block of 5, multiplier 3
+        const V t47 = t37 + t40;
+        // complex block of 5, multiplier 3
         const V x13r = io.re(13);
         const V x37r = io.re(37);
         const V t48 = x13r + x37r;
@@ -108,15 +108,15 @@ struct ComplexGraph<40> {
         const V t66 = t64 - t65;
         const V t67 = t66 + x5i;
         const V t68 = c2 * t50;
-        const V t69 = c2 * t51;
-        const V t70 = c3 * t54;
-        const V t71 = c3 * t55;
-        const V t72 = t68 - t70;
-        const V t73 = t69 - t71;
+        const V t69 = c3 * t54;
+        const V t70 = t68 - t69;
+        const V t71 = c2 * t51;
+        const V t72 = c3 * t55;
+        const V t73 = t71 - t72;
         const V t74 = t63 + t73;
-        const V t75 = t67 - t72;
+        const V t75 = t67 - t70;
         const V t76 = t63 - t73;
-        const V t77 = t67 + t72;
+        const V t77 = t67 + t70;
         const V t78 = c1 * t48;
         const V t79 = x5r - t78;
         const V t80 = c0 * t52;
@@ -126,16 +126,16 @@ struct ComplexGraph<40> {
         const V t84 = c0 * t53;
         const V t85 = t83 + t84;
         const V t86 = c3 * t50;
-        const V t87 = c3 * t51;
-        const V t88 = c2 * t54;
-        const V t89 = c2 * t55;
-        const V t90 = t86 + t88;
-        const V t91 = t87 + t89;
+        const V t87 = c2 * t54;
+        const V t88 = t86 + t87;
+        const V t89 = c3 * t51;
+        const V t90 = c2 * t55;
+        const V t91 = t89 + t90;
         const V t92 = t81 + t91;
-        const V t93 = t85 - t90;
+        const V t93 = t85 - t88;
         const V t94 = t81 - t91;
-        const V t95 = t85 + t90;
-        // block of 5, multiplier 3
+        const V t95 = t85 + t88;
+        // complex block of 5, multiplier 3
         const V x18r = io.re(18);
         const V x2r = io.re(2);
         const V t96 = x18r + x2r;
@@ -167,15 +167,15 @@ struct ComplexGraph<40> {
         const V t114 = t112 - t113;
         const V t115 = t114 + x10i;
         const V t116 = c2 * t98;
-        const V t117 = c2 * t99;
-        const V t118 = c3 * t102;
-        const V t119 = c3 * t103;
-        const V t120 = t116 - t118;
-        const V t121 = t117 - t119;
+        const V t117 = c3 * t102;
+        const V t118 = t116 - t117;
+        const V t119 = c2 * t99;
+        const V t120 = c3 * t103;
+        const V t121 = t119 - t120;
         const V t122 = t111 + t121;
-        const V t123 = t115 - t120;
+        const V t123 = t115 - t118;
         const V t124 = t111 - t121;
-        const V t125 = t115 + t120;
+        const V t125 = t115 + t118;
         const V t126 = c1 * t96;
         const V t127 = x10r - t126;
         const V t128 = c0 * t100;
@@ -185,16 +185,16 @@ struct ComplexGraph<40> {
         const V t132 = c0 * t101;
         const V t133 = t131 + t132;
         const V t134 = c3 * t98;
-        const V t135 = c3 * t99;
-        const V t136 = c2 * t102;
-        const V t137 = c2 * t103;
-        const V t138 = t134 + t136;
-        const V t139 = t135 + t137;
+        const V t135 = c2 * t102;
+        const V t136 = t134 + t135;
+        const V t137 = c3 * t99;
+        const V t138 = c2 * t103;
+        const V t139 = t137 + t138;
         const V t140 = t129 + t139;
-        const V t141 = t133 - t138;
+        const V t141 = t133 - t136;
         const V t142 = t129 - t139;
-        const V t143 = t133 + t138;
-        // block of 5, multiplier 3
+        const V t143 = t133 + t136;
+        // complex block of 5, multiplier 3
         const V x23r = io.re(23);
         const V x7r = io.re(7);
         const V t144 = x23r + x7r;
@@ -226,15 +226,15 @@ struct ComplexGraph<40> {
         const V t162 = t160 - t161;
         const V t163 = t162 + x15i;
         const V t164 = c2 * t146;
-        const V t165 = c2 * t147;
-        const V t166 = c3 * t150;
-        const V t167 = c3 * t151;
-        const V t168 = t164 - t166;
-        const V t169 = t165 - t167;
+        const V t165 = c3 * t150;
+        const V t166 = t164 - t165;
+        const V t167 = c2 * t147;
+        const V t168 = c3 * t151;
+        const V t169 = t167 - t168;
         const V t170 = t159 + t169;
-        const V t171 = t163 - t168;
+        const V t171 = t163 - t166;
         const V t172 = t159 - t169;
-        const V t173 = t163 + t168;
+        const V t173 = t163 + t166;
         const V t174 = c1 * t144;
         const V t175 = x15r - t174;
         const V t176 = c0 * t148;
@@ -244,16 +244,16 @@ struct ComplexGraph<40> {
         const V t180 = c0 * t149;
         const V t181 = t179 + t180;
         const V t182 = c3 * t146;
-        const V t183 = c3 * t147;
-        const V t184 = c2 * t150;
-        const V t185 = c2 * t151;
-        const V t186 = t182 + t184;
-        const V t187 = t183 + t185;
+        const V t183 = c2 * t150;
+        const V t184 = t182 + t183;
+        const V t185 = c3 * t147;
+        const V t186 = c2 * t151;
+        const V t187 = t185 + t186;
         const V t188 = t177 + t187;
-        const V t189 = t181 - t186;
+        const V t189 = t181 - t184;
         const V t190 = t177 - t187;
-        const V t191 = t181 + t186;
-        // block of 5, multiplier 3
+        const V t191 = t181 + t184;
+        // complex block of 5, multiplier 3
         const V x28r = io.re(28);
         const V x12r = io.re(12);
         const V t192 = x28r + x12r;
@@ -285,15 +285,15 @@ struct ComplexGraph<40> {
         const V t210 = t208 - t209;
         const V t211 = t210 + x20i;
         const V t212 = c2 * t194;
-        const V t213 = c2 * t195;
-        const V t214 = c3 * t198;
-        const V t215 = c3 * t199;
-        const V t216 = t212 - t214;
-        const V t217 = t213 - t215;
+        const V t213 = c3 * t198;
+        const V t214 = t212 - t213;
+        const V t215 = c2 * t195;
+        const V t216 = c3 * t199;
+        const V t217 = t215 - t216;
         const V t218 = t207 + t217;
-        const V t219 = t211 - t216;
+        const V t219 = t211 - t214;
         const V t220 = t207 - t217;
-        const V t221 = t211 + t216;
+        const V t221 = t211 + t214;
         const V t222 = c1 * t192;
         const V t223 = x20r - t222;
         const V t224 = c0 * t196;
@@ -303,16 +303,16 @@ struct ComplexGraph<40> {
         const V t228 = c0 * t197;
         const V t229 = t227 + t228;
         const V t230 = c3 * t194;
-        const V t231 = c3 * t195;
-        const V t232 = c2 * t198;
-        const V t233 = c2 * t199;
-        const V t234 = t230 + t232;
-        const V t235 = t231 + t233;
+        const V t231 = c2 * t198;
+        const V t232 = t230 + t231;
+        const V t233 = c3 * t195;
+        const V t234 = c2 * t199;
+        const V t235 = t233 + t234;
         const V t236 = t225 + t235;
-        const V t237 = t229 - t234;
+        const V t237 = t229 - t232;
         const V t238 = t225 - t235;
-        const V t239 = t229 + t234;
-        // block of 5, multiplier 3
+        const V t239 = t229 + t232;
+        // complex block of 5, multiplier 3
         const V x33r = io.re(33);
         const V x17r = io.re(17);
         const V t240 = x33r + x17r;
@@ -344,15 +344,15 @@ struct ComplexGraph<40> {
         const V t258 = t256 - t257;
         const V t259 = t258 + x25i;
         const V t260 = c2 * t242;
-        const V t261 = c2 * t243;
-        const V t262 = c3 * t246;
-        const V t263 = c3 * t247;
-        const V t264 = t260 - t262;
-        const V t265 = t261 - t263;
+        const V t261 = c3 * t246;
+        const V t262 = t260 - t261;
+        const V t263 = c2 * t243;
+        const V t264 = c3 * t247;
+        const V t265 = t263 - t264;
         const V t266 = t255 + t265;
-        const V t267 = t259 - t264;
+        const V t267 = t259 - t262;
         const V t268 = t255 - t265;
-        const V t269 = t259 + t264;
+        const V t269 = t259 + t262;
         const V t270 = c1 * t240;
         const V t271 = x25r - t270;
         const V t272 = c0 * t244;
@@ -362,16 +362,16 @@ struct ComplexGraph<40> {
         const V t276 = c0 * t245;
         const V t277 = t275 + t276;
         const V t278 = c3 * t242;
-        const V t279 = c3 * t243;
-        const V t280 = c2 * t246;
-        const V t281 = c2 * t247;
-        const V t282 = t278 + t280;
-        const V t283 = t279 + t281;
+        const V t279 = c2 * t246;
+        const V t280 = t278 + t279;
+        const V t281 = c3 * t243;
+        const V t282 = c2 * t247;
+        const V t283 = t281 + t282;
         const V t284 = t273 + t283;
-        const V t285 = t277 - t282;
+        const V t285 = t277 - t280;
         const V t286 = t273 - t283;
-        const V t287 = t277 + t282;
-        // block of 5, multiplier 3
+        const V t287 = t277 + t280;
+        // complex block of 5, multiplier 3
         const V x38r = io.re(38);
         const V x22r = io.re(22);
         const V t288 = x38r + x22r;
@@ -403,15 +403,15 @@ struct ComplexGraph<40> {
         const V t306 = t304 - t305;
         const V t307 = t306 + x30i;
         const V t308 = c2 * t290;
-        const V t309 = c2 * t291;
-        const V t310 = c3 * t294;
-        const V t311 = c3 * t295;
-        const V t312 = t308 - t310;
-        const V t313 = t309 - t311;
+        const V t309 = c3 * t294;
+        const V t310 = t308 - t309;
+        const V t311 = c2 * t291;
+        const V t312 = c3 * t295;
+        const V t313 = t311 - t312;
         const V t314 = t303 + t313;
-        const V t315 = t307 - t312;
+        const V t315 = t307 - t310;
         const V t316 = t303 - t313;
-        const V t317 = t307 + t312;
+        const V t317 = t307 + t310;
         const V t318 = c1 * t288;
         const V t319 = x30r - t318;
         const V t320 = c0 * t292;
@@ -421,16 +421,16 @@ struct ComplexGraph<40> {
         const V t324 = c0 * t293;
         const V t325 = t323 + t324;
         const V t326 = c3 * t290;
-        const V t327 = c3 * t291;
-        const V t328 = c2 * t294;
-        const V t329 = c2 * t295;
-        const V t330 = t326 + t328;
-        const V t331 = t327 + t329;
+        const V t327 = c2 * t294;
+        const V t328 = t326 + t327;
+        const V t329 = c3 * t291;
+        const V t330 = c2 * t295;
+        const V t331 = t329 + t330;
         const V t332 = t321 + t331;
-        const V t333 = t325 - t330;
+        const V t333 = t325 - t328;
         const V t334 = t321 - t331;
-        const V t335 = t325 + t330;
-        // block of 5, multiplier 3
+        const V t335 = t325 + t328;
+        // complex block of 5, multiplier 3
         const V x3r = io.re(3);
         const V x27r = io.re(27);
         const V t336 = x3r + x27r;
@@ -462,15 +462,15 @@ struct ComplexGraph<40> {
         const V t354 = t352 - t353;
         const V t355 = t354 + x35i;
         const V t356 = c2 * t338;
-        const V t357 = c2 * t339;
-        const V t358 = c3 * t342;
-        const V t359 = c3 * t343;
-        const V t360 = t356 - t358;
-        const V t361 = t357 - t359;
+        const V t357 = c3 * t342;
+        const V t358 = t356 - t357;
+        const V t359 = c2 * t339;
+        const V t360 = c3 * t343;
+        const V t361 = t359 - t360;
         const V t362 = t351 + t361;
-        const V t363 = t355 - t360;
+        const V t363 = t355 - t358;
         const V t364 = t351 - t361;
-        const V t365 = t355 + t360;
+        const V t365 = t355 + t358;
         const V t366 = c1 * t336;
         const V t367 = x35r - t366;
         const V t368 = c0 * t340;
@@ -480,46 +480,46 @@ struct ComplexGraph<40> {
         const V t372 = c0 * t341;
         const V t373 = t371 + t372;
         const V t374 = c3 * t338;
-        const V t375 = c3 * t339;
-        const V t376 = c2 * t342;
-        const V t377 = c2 * t343;
-        const V t378 = t374 + t376;
-        const V t379 = t375 + t377;
+        const V t375 = c2 * t342;
+        const V t376 = t374 + t375;
+        const V t377 = c3 * t339;
+        const V t378 = c2 * t343;
+        const V t379 = t377 + t378;
         const V t380 = t369 + t379;
-        const V t381 = t373 - t378;
+        const V t381 = t373 - t376;
         const V t382 = t369 - t379;
-        const V t383 = t373 + t378;
-        // block of 2
+        const V t383 = t373 + t376;
+        // complex block of 2
         const V t384 = t10 + t202;
         const V t385 = t11 + t203;
         const V t386 = t10 - t202;
         const V t387 = t11 - t203;
-        // block of 2
+        // complex block of 2
         const V t388 = t58 + t250;
         const V t389 = t59 + t251;
         const V t390 = t58 - t250;
         const V t391 = t59 - t251;
-        // block of 2
+        // complex block of 2
         const V t392 = t106 + t298;
         const V t393 = t107 + t299;
         const V t394 = t106 - t298;
         const V t395 = t107 - t299;
-        // block of 2
+        // complex block of 2
         const V t396 = t154 + t346;
         const V t397 = t155 + t347;
         const V t398 = t154 - t346;
         const V t399 = t155 - t347;
-        // block of 2
+        // complex block of 2
         const V t400 = t384 + t392;
         const V t401 = t385 + t393;
         const V t402 = t384 - t392;
         const V t403 = t385 - t393;
-        // block of 2
+        // complex block of 2
         const V t404 = t388 + t396;
         const V t405 = t389 + t397;
         const V t406 = t388 - t396;
         const V t407 = t389 - t397;
-        // block of 2
+        // complex block of 2
         const V t408 = t400 + t404;
         io.re(0, t408);
         const V t409 = t401 + t405;
@@ -528,7 +528,7 @@ struct ComplexGraph<40> {
         io.re(20, t410);
         const V t411 = t401 - t405;
         io.im(20, t411);
-        // block of 2
+        // complex block of 2
         const V t412 = t402 + t407;
         io.re(10, t412);
         const V t413 = t403 - t406;
@@ -537,7 +537,7 @@ struct ComplexGraph<40> {
         io.re(30, t414);
         const V t415 = t403 + t406;
         io.im(30, t415);
-        // block of 8, multiplier 5
+        // complex block of 8, multiplier 5
         const V t416 = c4 * t390;
         const V t417 = c4 * t391;
         const V t418 = t416 + t417;
@@ -546,17 +546,17 @@ struct ComplexGraph<40> {
         const V t421 = c4 * t399;
         const V t422 = t420 + t421;
         const V t423 = t421 - t420;
-        // block of 2
+        // complex block of 2
         const V t424 = t386 + t395;
         const V t425 = t387 - t394;
         const V t426 = t386 - t395;
         const V t427 = t387 + t394;
-        // block of 2
+        // complex block of 2
         const V t428 = t418 + t423;
         const V t429 = t422 - t419;
         const V t430 = t423 - t418;
         const V t431 = t419 + t422;
-        // block of 2
+        // complex block of 2
         const V t432 = t424 - t428;
         io.re(5, t432);
         const V t433 = t425 + t429;
@@ -565,7 +565,7 @@ struct ComplexGraph<40> {
         io.re(25, t434);
         const V t435 = t425 - t429;
         io.im(25, t435);
-        // block of 2
+        // complex block of 2
         const V t436 = t426 - t431;
         io.re(15, t436);
         const V t437 = t427 - t430;
@@ -574,37 +574,37 @@ struct ComplexGraph<40> {
         io.re(35, t438);
         const V t439 = t427 + t430;
         io.im(35, t439);
-        // block of 2
+        // complex block of 2
         const V t440 = t46 + t238;
         const V t441 = t47 + t239;
         const V t442 = t46 - t238;
         const V t443 = t47 - t239;
-        // block of 2
+        // complex block of 2
         const V t444 = t94 + t286;
         const V t445 = t95 + t287;
         const V t446 = t94 - t286;
         const V t447 = t95 - t287;
-        // block of 2
+        // complex block of 2
         const V t448 = t142 + t334;
         const V t449 = t143 + t335;
         const V t450 = t142 - t334;
         const V t451 = t143 - t335;
-        // block of 2
+        // complex block of 2
         const V t452 = t190 + t382;
         const V t453 = t191 + t383;
         const V t454 = t190 - t382;
         const V t455 = t191 - t383;
-        // block of 2
+        // complex block of 2
         const V t456 = t440 + t448;
         const V t457 = t441 + t449;
         const V t458 = t440 - t448;
         const V t459 = t441 - t449;
-        // block of 2
+        // complex block of 2
         const V t460 = t444 + t452;
         const V t461 = t445 + t453;
         const V t462 = t444 - t452;
         const V t463 = t445 - t453;
-        // block of 2
+        // complex block of 2
         const V t464 = t456 + t460;
         io.re(8, t464);
         const V t465 = t457 + t461;
@@ -613,7 +613,7 @@ struct ComplexGraph<40> {
         io.re(28, t466);
         const V t467 = t457 - t461;
         io.im(28, t467);
-        // block of 2
+        // complex block of 2
         const V t468 = t458 + t463;
         io.re(18, t468);
         const V t469 = t459 - t462;
@@ -622,7 +622,7 @@ struct ComplexGraph<40> {
         io.re(38, t470);
         const V t471 = t459 + t462;
         io.im(38, t471);
-        // block of 8, multiplier 5
+        // complex block of 8, multiplier 5
         const V t472 = c4 * t446;
         const V t473 = c4 * t447;
         const V t474 = t472 + t473;
@@ -631,17 +631,17 @@ struct ComplexGraph<40> {
         const V t477 = c4 * t455;
         const V t478 = t476 + t477;
         const V t479 = t477 - t476;
-        // block of 2
+        // complex block of 2
         const V t480 = t442 + t451;
         const V t481 = t443 - t450;
         const V t482 = t442 - t451;
         const V t483 = t443 + t450;
-        // block of 2
+        // complex block of 2
         const V t484 = t474 + t479;
         const V t485 = t478 - t475;
         const V t486 = t479 - t474;
         const V t487 = t475 + t478;
-        // block of 2
+        // complex block of 2
         const V t488 = t480 - t484;
         io.re(13, t488);
         const V t489 = t481 + t485;
@@ -650,7 +650,7 @@ struct ComplexGraph<40> {
         io.re(33, t490);
         const V t491 = t481 - t485;
         io.im(33, t491);
-        // block of 2
+        // complex block of 2
         const V t492 = t482 - t487;
         io.re(23, t492);
         const V t493 = t483 - t486;
@@ -659,37 +659,37 @@ struct ComplexGraph<40> {
         io.re(3, t494);
         const V t495 = t483 + t486;
         io.im(3, t495);
-        // block of 2
+        // complex block of 2
         const V t496 = t26 + t218;
         const V t497 = t27 + t219;
         const V t498 = t26 - t218;
         const V t499 = t27 - t219;
-        // block of 2
+        // complex block of 2
         const V t500 = t74 + t266;
         const V t501 = t75 + t267;
         const V t502 = t74 - t266;
         const V t503 = t75 - t267;
-        // block of 2
+        // complex block of 2
         const V t504 = t122 + t314;
         const V t505 = t123 + t315;
         const V t506 = t122 - t314;
         const V t507 = t123 - t315;
-        // block of 2
+        // complex block of 2
         const V t508 = t170 + t362;
         const V t509 = t171 + t363;
         const V t510 = t170 - t362;
         const V t511 = t171 - t363;
-        // block of 2
+        // complex block of 2
         const V t512 = t496 + t504;
         const V t513 = t497 + t505;
         const V t514 = t496 - t504;
         const V t515 = t497 - t505;
-        // block of 2
+        // complex block of 2
         const V t516 = t500 + t508;
         const V t517 = t501 + t509;
         const V t518 = t500 - t508;
         const V t519 = t501 - t509;
-        // block of 2
+        // complex block of 2
         const V t520 = t512 + t516;
         io.re(16, t520);
         const V t521 = t513 + t517;
@@ -698,7 +698,7 @@ struct ComplexGraph<40> {
         io.re(36, t522);
         const V t523 = t513 - t517;
         io.im(36, t523);
-        // block of 2
+        // complex block of 2
         const V t524 = t514 + t519;
         io.re(26, t524);
         const V t525 = t515 - t518;
@@ -707,7 +707,7 @@ struct ComplexGraph<40> {
         io.re(6, t526);
         const V t527 = t515 + t518;
         io.im(6, t527);
-        // block of 8, multiplier 5
+        // complex block of 8, multiplier 5
         const V t528 = c4 * t502;
         const V t529 = c4 * t503;
         const V t530 = t528 + t529;
@@ -716,17 +716,17 @@ struct ComplexGraph<40> {
         const V t533 = c4 * t511;
         const V t534 = t532 + t533;
         const V t535 = t533 - t532;
-        // block of 2
+        // complex block of 2
         const V t536 = t498 + t507;
         const V t537 = t499 - t506;
         const V t538 = t498 - t507;
         const V t539 = t499 + t506;
-        // block of 2
+        // complex block of 2
         const V t540 = t530 + t535;
         const V t541 = t534 - t531;
         const V t542 = t535 - t530;
         const V t543 = t531 + t534;
-        // block of 2
+        // complex block of 2
         const V t544 = t536 - t540;
         io.re(21, t544);
         const V t545 = t537 + t541;
@@ -735,7 +735,7 @@ struct ComplexGraph<40> {
         io.re(1, t546);
         const V t547 = t537 - t541;
         io.im(1, t547);
-        // block of 2
+        // complex block of 2
         const V t548 = t538 - t543;
         io.re(31, t548);
         const V t549 = t539 - t542;
@@ -744,37 +744,37 @@ struct ComplexGraph<40> {
         io.re(11, t550);
         const V t551 = t539 + t542;
         io.im(11, t551);
-        // block of 2
+        // complex block of 2
         const V t552 = t28 + t220;
         const V t553 = t29 + t221;
         const V t554 = t28 - t220;
         const V t555 = t29 - t221;
-        // block of 2
+        // complex block of 2
         const V t556 = t76 + t268;
         const V t557 = t77 + t269;
         const V t558 = t76 - t268;
         const V t559 = t77 - t269;
-        // block of 2
+        // complex block of 2
         const V t560 = t124 + t316;
         const V t561 = t125 + t317;
         const V t562 = t124 - t316;
         const V t563 = t125 - t317;
-        // block of 2
+        // complex block of 2
         const V t564 = t172 + t364;
         const V t565 = t173 + t365;
         const V t566 = t172 - t364;
         const V t567 = t173 - t365;
-        // block of 2
+        // complex block of 2
         const V t568 = t552 + t560;
         const V t569 = t553 + t561;
         const V t570 = t552 - t560;
         const V t571 = t553 - t561;
-        // block of 2
+        // complex block of 2
         const V t572 = t556 + t564;
         const V t573 = t557 + t565;
         const V t574 = t556 - t564;
         const V t575 = t557 - t565;
-        // block of 2
+        // complex block of 2
         const V t576 = t568 + t572;
         io.re(24, t576);
         const V t577 = t569 + t573;
@@ -783,7 +783,7 @@ struct ComplexGraph<40> {
         io.re(4, t578);
         const V t579 = t569 - t573;
         io.im(4, t579);
-        // block of 2
+        // complex block of 2
         const V t580 = t570 + t575;
         io.re(34, t580);
         const V t581 = t571 - t574;
@@ -792,7 +792,7 @@ struct ComplexGraph<40> {
         io.re(14, t582);
         const V t583 = t571 + t574;
         io.im(14, t583);
-        // block of 8, multiplier 5
+        // complex block of 8, multiplier 5
         const V t584 = c4 * t558;
         const V t585 = c4 * t559;
         const V t586 = t584 + t585;
@@ -801,17 +801,17 @@ struct ComplexGraph<40> {
         const V t589 = c4 * t567;
         const V t590 = t588 + t589;
         const V t591 = t589 - t588;
-        // block of 2
+        // complex block of 2
         const V t592 = t554 + t563;
         const V t593 = t555 - t562;
         const V t594 = t554 - t563;
         const V t595 = t555 + t562;
-        // block of 2
+        // complex block of 2
         const V t596 = t586 + t591;
         const V t597 = t590 - t587;
         const V t598 = t591 - t586;
         const V t599 = t587 + t590;
-        // block of 2
+        // complex block of 2
         const V t600 = t592 - t596;
         io.re(29, t600);
         const V t601 = t593 + t597;
@@ -820,7 +820,7 @@ struct ComplexGraph<40> {
         io.re(9, t602);
         const V t603 = t593 - t597;
         io.im(9, t603);
-        // block of 2
+        // complex block of 2
         const V t604 = t594 - t599;
         io.re(39, t604);
         const V t605 = t595 - t598;
@@ -829,37 +829,37 @@ struct ComplexGraph<40> {
         io.re(19, t606);
         const V t607 = t595 + t598;
         io.im(19, t607);
-        // block of 2
+        // complex block of 2
         const V t608 = t44 + t236;
         const V t609 = t45 + t237;
         const V t610 = t44 - t236;
         const V t611 = t45 - t237;
-        // block of 2
+        // complex block of 2
         const V t612 = t92 + t284;
         const V t613 = t93 + t285;
         const V t614 = t92 - t284;
         const V t615 = t93 - t285;
-        // block of 2
+        // complex block of 2
         const V t616 = t140 + t332;
         const V t617 = t141 + t333;
         const V t618 = t140 - t332;
         const V t619 = t141 - t333;
-        // block of 2
+        // complex block of 2
         const V t620 = t188 + t380;
         const V t621 = t189 + t381;
         const V t622 = t188 - t380;
         const V t623 = t189 - t381;
-        // block of 2
+        // complex block of 2
         const V t624 = t608 + t616;
         const V t625 = t609 + t617;
         const V t626 = t608 - t616;
         const V t627 = t609 - t617;
-        // block of 2
+        // complex block of 2
         const V t628 = t612 + t620;
         const V t629 = t613 + t621;
         const V t630 = t612 - t620;
         const V t631 = t613 - t621;
-        // block of 2
+        // complex block of 2
         const V t632 = t624 + t628;
         io.re(32, t632);
         const V t633 = t625 + t629;
@@ -868,7 +868,7 @@ struct ComplexGraph<40> {
         io.re(12, t634);
         const V t635 = t625 - t629;
         io.im(12, t635);
-        // block of 2
+        // complex block of 2
         const V t636 = t626 + t631;
         io.re(2, t636);
         const V t637 = t627 - t630;
@@ -877,7 +877,7 @@ struct ComplexGraph<40> {
         io.re(22, t638);
         const V t639 = t627 + t630;
         io.im(22, t639);
-        // block of 8, multiplier 5
+        // complex block of 8, multiplier 5
         const V t640 = c4 * t614;
         const V t641 = c4 * t615;
         const V t642 = t640 + t641;
@@ -886,17 +886,17 @@ struct ComplexGraph<40> {
         const V t645 = c4 * t623;
         const V t646 = t644 + t645;
         const V t647 = t645 - t644;
-        // block of 2
+        // complex block of 2
         const V t648 = t610 + t619;
         const V t649 = t611 - t618;
         const V t650 = t610 - t619;
         const V t651 = t611 + t618;
-        // block of 2
+        // complex block of 2
         const V t652 = t642 + t647;
         const V t653 = t646 - t643;
         const V t654 = t647 - t642;
         const V t655 = t643 + t646;
-        // block of 2
+        // complex block of 2
         const V t656 = t648 - t652;
         io.re(37, t656);
         const V t657 = t649 + t653;
@@ -905,7 +905,7 @@ struct ComplexGraph<40> {
         io.re(17, t658);
         const V t659 = t649 - t653;
         io.im(17, t659);
-        // block of 2
+        // complex block of 2
         const V t660 = t650 - t655;
         io.re(7, t660);
         const V t661 = t651 - t654;

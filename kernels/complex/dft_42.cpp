@@ -20,7 +20,7 @@ struct ComplexGraph<42> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 7, multiplier 6
+        // complex block of 7, multiplier 6
         const V x6r = io.re(6);
         const V x36r = io.re(36);
         const V t0 = x6r + x36r;
@@ -46,11 +46,11 @@ struct ComplexGraph<42> {
         const V t10 = x24r - x18r;
         const V t11 = x24i - x18i;
         const V t12 = t0 + t4;
-        const V t13 = t1 + t5;
-        const V t14 = t12 + t8;
-        const V t15 = t13 + t9;
+        const V t13 = t12 + t8;
+        const V t14 = t1 + t5;
+        const V t15 = t14 + t9;
         const V x0r = io.re(0);
-        const V t16 = t14 + x0r;
+        const V t16 = t13 + x0r;
         const V x0i = io.im(0);
         const V t17 = t15 + x0i;
         const V t18 = c0 * t0;
@@ -66,19 +66,19 @@ struct ComplexGraph<42> {
         const V t28 = t26 - t27;
         const V t29 = t28 + x0i;
         const V t30 = c3 * t2;
-        const V t31 = c3 * t3;
-        const V t32 = c4 * t6;
-        const V t33 = c4 * t7;
-        const V t34 = t30 - t32;
-        const V t35 = t31 - t33;
-        const V t36 = c5 * t10;
-        const V t37 = c5 * t11;
-        const V t38 = t34 - t36;
-        const V t39 = t35 - t37;
+        const V t31 = c4 * t6;
+        const V t32 = t30 - t31;
+        const V t33 = c5 * t10;
+        const V t34 = t32 - t33;
+        const V t35 = c3 * t3;
+        const V t36 = c4 * t7;
+        const V t37 = t35 - t36;
+        const V t38 = c5 * t11;
+        const V t39 = t37 - t38;
         const V t40 = t23 + t39;
-        const V t41 = t29 - t38;
+        const V t41 = t29 - t34;
         const V t42 = t23 - t39;
-        const V t43 = t29 + t38;
+        const V t43 = t29 + t34;
         const V t44 = c1 * t0;
         const V t45 = x0r - t44;
         const V t46 = c2 * t4;
@@ -92,19 +92,19 @@ struct ComplexGraph<42> {
         const V t54 = c0 * t9;
         const V t55 = t53 + t54;
         const V t56 = c4 * t2;
-        const V t57 = c4 * t3;
-        const V t58 = c5 * t6;
-        const V t59 = c5 * t7;
-        const V t60 = t56 + t58;
-        const V t61 = t57 + t59;
-        const V t62 = c3 * t10;
-        const V t63 = c3 * t11;
-        const V t64 = t60 + t62;
-        const V t65 = t61 + t63;
+        const V t57 = c5 * t6;
+        const V t58 = t56 + t57;
+        const V t59 = c3 * t10;
+        const V t60 = t58 + t59;
+        const V t61 = c4 * t3;
+        const V t62 = c5 * t7;
+        const V t63 = t61 + t62;
+        const V t64 = c3 * t11;
+        const V t65 = t63 + t64;
         const V t66 = t49 + t65;
-        const V t67 = t55 - t64;
+        const V t67 = t55 - t60;
         const V t68 = t49 - t65;
-        const V t69 = t55 + t64;
+        const V t69 = t55 + t60;
         const V t70 = c2 * t0;
         const V t71 = x0r - t70;
         const V t72 = c0 * t4;
@@ -118,20 +118,20 @@ struct ComplexGraph<42> {
         const V t80 = c1 * t9;
         const V t81 = t79 - t80;
         const V t82 = c5 * t2;
-        const V t83 = c5 * t3;
-        const V t84 = c3 * t6;
-        const V t85 = c3 * t7;
-        const V t86 = t82 + t84;
-        const V t87 = t83 + t85;
-        const V t88 = c4 * t10;
-        const V t89 = c4 * t11;
-        const V t90 = t86 - t88;
-        const V t91 = t87 - t89;
+        const V t83 = c3 * t6;
+        const V t84 = t82 + t83;
+        const V t85 = c4 * t10;
+        const V t86 = t84 - t85;
+        const V t87 = c5 * t3;
+        const V t88 = c3 * t7;
+        const V t89 = t87 + t88;
+        const V t90 = c4 * t11;
+        const V t91 = t89 - t90;
         const V t92 = t75 + t91;
-        const V t93 = t81 - t90;
+        const V t93 = t81 - t86;
         const V t94 = t75 - t91;
-        const V t95 = t81 + t90;
-        // block of 7, multiplier 6
+        const V t95 = t81 + t86;
+        // complex block of 7, multiplier 6
         const V x27r = io.re(27);
         const V x15r = io.re(15);
         const V t96 = x27r + x15r;
@@ -157,11 +157,11 @@ struct ComplexGraph<42> {
         const V t106 = x3r - x39r;
         const V t107 = x3i - x39i;
         const V t108 = t96 + t100;
-        const V t109 = t97 + t101;
-        const V t110 = t108 + t104;
-        const V t111 = t109 + t105;
+        const V t109 = t108 + t104;
+        const V t110 = t97 + t101;
+        const V t111 = t110 + t105;
         const V x21r = io.re(21);
-        const V t112 = t110 + x21r;
+        const V t112 = t109 + x21r;
         const V x21i = io.im(21);
         const V t113 = t111 + x21i;
         const V t114 = c0 * t96;
@@ -177,19 +177,19 @@ struct ComplexGraph<42> {
         const V t124 = t122 - t123;
         const V t125 = t124 + x21i;
         const V t126 = c3 * t98;
-        const V t127 = c3 * t99;
-        const V t128 = c4 * t102;
-        const V t129 = c4 * t103;
-        const V t130 = t126 - t128;
-        const V t131 = t127 - t129;
-        const V t132 = c5 * t106;
-        const V t133 = c5 * t107;
-        const V t134 = t130 - t132;
-        const V t135 = t131 - t133;
+        const V t127 = c4 * t102;
+        const V t128 = t126 - t127;
+        const V t129 = c5 * t106;
+        const V t130 = t128 - t129;
+        const V t131 = c3 * t99;
+        const V t132 = c4 * t103;
+        const V t133 = t131 - t132;
+        const V t134 = c5 * t107;
+        const V t135 = t133 - t134;
         const V t136 = t119 + t135;
-        const V t137 = t125 - t134;
+        const V t137 = t125 - t130;
         const V t138 = t119 - t135;
-        const V t139 = t125 + t134;
+        const V t139 = t125 + t130;
         const V t140 = c1 * t96;
         const V t141 = x21r - t140;
         const V t142 = c2 * t100;
@@ -203,19 +203,19 @@ struct ComplexGraph<42> {
         const V t150 = c0 * t105;
         const V t151 = t149 + t150;
         const V t152 = c4 * t98;
-        const V t153 = c4 * t99;
-        const V t154 = c5 * t102;
-        const V t155 = c5 * t103;
-        const V t156 = t152 + t154;
-        const V t157 = t153 + t155;
-        const V t158 = c3 * t106;
-        const V t159 = c3 * t107;
-        const V t160 = t156 + t158;
-        const V t161 = t157 + t159;
+        const V t153 = c5 * t102;
+        const V t154 = t152 + t153;
+        const V t155 = c3 * t106;
+        const V t156 = t154 + t155;
+        const V t157 = c4 * t99;
+        const V t158 = c5 * t103;
+        const V t159 = t157 + t158;
+        const V t160 = c3 * t107;
+        const V t161 = t159 + t160;
         const V t162 = t145 + t161;
-        const V t163 = t151 - t160;
+        const V t163 = t151 - t156;
         const V t164 = t145 - t161;
-        const V t165 = t151 + t160;
+        const V t165 = t151 + t156;
         const V t166 = c2 * t96;
         const V t167 = x21r - t166;
         const V t168 = c0 * t100;
@@ -229,20 +229,20 @@ struct ComplexGraph<42> {
         const V t176 = c1 * t105;
         const V t177 = t175 - t176;
         const V t178 = c5 * t98;
-        const V t179 = c5 * t99;
-        const V t180 = c3 * t102;
-        const V t181 = c3 * t103;
-        const V t182 = t178 + t180;
-        const V t183 = t179 + t181;
-        const V t184 = c4 * t106;
-        const V t185 = c4 * t107;
-        const V t186 = t182 - t184;
-        const V t187 = t183 - t185;
+        const V t179 = c3 * t102;
+        const V t180 = t178 + t179;
+        const V t181 = c4 * t106;
+        const V t182 = t180 - t181;
+        const V t183 = c5 * t99;
+        const V t184 = c3 * t103;
+        const V t185 = t183 + t184;
+        const V t186 = c4 * t107;
+        const V t187 = t185 - t186;
         const V t188 = t171 + t187;
-        const V t189 = t177 - t186;
+        const V t189 = t177 - t182;
         const V t190 = t171 - t187;
-        const V t191 = t177 + t186;
-        // block of 7, multiplier 6
+        const V t191 = t177 + t182;
+        // complex block of 7, multiplier 6
         const V x20r = io.re(20);
         const V x8r = io.re(8);
         const V t192 = x20r + x8r;
@@ -268,11 +268,11 @@ struct ComplexGraph<42> {
         const V t202 = x38r - x32r;
         const V t203 = x38i - x32i;
         const V t204 = t192 + t196;
-        const V t205 = t193 + t197;
-        const V t206 = t204 + t200;
-        const V t207 = t205 + t201;
+        const V t205 = t204 + t200;
+        const V t206 = t193 + t197;
+        const V t207 = t206 + t201;
         const V x14r = io.re(14);
-        const V t208 = t206 + x14r;
+        const V t208 = t205 + x14r;
         const V x14i = io.im(14);
         const V t209 = t207 + x14i;
         const V t210 = c0 * t192;
@@ -288,19 +288,19 @@ struct ComplexGraph<42> {
         const V t220 = t218 - t219;
         const V t221 = t220 + x14i;
         const V t222 = c3 * t194;
-        const V t223 = c3 * t195;
-        const V t224 = c4 * t198;
-        const V t225 = c4 * t199;
-        const V t226 = t222 - t224;
-        const V t227 = t223 - t225;
-        const V t228 = c5 * t202;
-        const V t229 = c5 * t203;
-        const V t230 = t226 - t228;
-        const V t231 = t227 - t229;
+        const V t223 = c4 * t198;
+        const V t224 = t222 - t223;
+        const V t225 = c5 * t202;
+        const V t226 = t224 - t225;
+        const V t227 = c3 * t195;
+        const V t228 = c4 * t199;
+        const V t229 = t227 - t228;
+        const V t230 = c5 * t203;
+        const V t231 = t229 - t230;
         const V t232 = t215 + t231;
-        const V t233 = t221 - t230;
+        const V t233 = t221 - t226;
         const V t234 = t215 - t231;
-        const V t235 = t221 + t230;
+        const V t235 = t221 + t226;
         const V t236 = c1 * t192;
         const V t237 = x14r - t236;
         const V t238 = c2 * t196;
@@ -314,19 +314,19 @@ struct ComplexGraph<42> {
         const V t246 = c0 * t201;
         const V t247 = t245 + t246;
         const V t248 = c4 * t194;
-        const V t249 = c4 * t195;
-        const V t250 = c5 * t198;
-        const V t251 = c5 * t199;
-        const V t252 = t248 + t250;
-        const V t253 = t249 + t251;
-        const V t254 = c3 * t202;
-        const V t255 = c3 * t203;
-        const V t256 = t252 + t254;
-        const V t257 = t253 + t255;
+        const V t249 = c5 * t198;
+        const V t250 = t248 + t249;
+        const V t251 = c3 * t202;
+        const V t252 = t250 + t251;
+        const V t253 = c4 * t195;
+        const V t254 = c5 * t199;
+        const V t255 = t253 + t254;
+        const V t256 = c3 * t203;
+        const V t257 = t255 + t256;
         const V t258 = t241 + t257;
-        const V t259 = t247 - t256;
+        const V t259 = t247 - t252;
         const V t260 = t241 - t257;
-        const V t261 = t247 + t256;
+        const V t261 = t247 + t252;
         const V t262 = c2 * t192;
         const V t263 = x14r - t262;
         const V t264 = c0 * t196;
@@ -340,20 +340,20 @@ struct ComplexGraph<42> {
         const V t272 = c1 * t201;
         const V t273 = t271 - t272;
         const V t274 = c5 * t194;
-        const V t275 = c5 * t195;
-        const V t276 = c3 * t198;
-        const V t277 = c3 * t199;
-        const V t278 = t274 + t276;
-        const V t279 = t275 + t277;
-        const V t280 = c4 * t202;
-        const V t281 = c4 * t203;
-        const V t282 = t278 - t280;
-        const V t283 = t279 - t281;
+        const V t275 = c3 * t198;
+        const V t276 = t274 + t275;
+        const V t277 = c4 * t202;
+        const V t278 = t276 - t277;
+        const V t279 = c5 * t195;
+        const V t280 = c3 * t199;
+        const V t281 = t279 + t280;
+        const V t282 = c4 * t203;
+        const V t283 = t281 - t282;
         const V t284 = t267 + t283;
-        const V t285 = t273 - t282;
+        const V t285 = t273 - t278;
         const V t286 = t267 - t283;
-        const V t287 = t273 + t282;
-        // block of 7, multiplier 6
+        const V t287 = t273 + t278;
+        // complex block of 7, multiplier 6
         const V x41r = io.re(41);
         const V x29r = io.re(29);
         const V t288 = x41r + x29r;
@@ -379,11 +379,11 @@ struct ComplexGraph<42> {
         const V t298 = x17r - x11r;
         const V t299 = x17i - x11i;
         const V t300 = t288 + t292;
-        const V t301 = t289 + t293;
-        const V t302 = t300 + t296;
-        const V t303 = t301 + t297;
+        const V t301 = t300 + t296;
+        const V t302 = t289 + t293;
+        const V t303 = t302 + t297;
         const V x35r = io.re(35);
-        const V t304 = t302 + x35r;
+        const V t304 = t301 + x35r;
         const V x35i = io.im(35);
         const V t305 = t303 + x35i;
         const V t306 = c0 * t288;
@@ -399,19 +399,19 @@ struct ComplexGraph<42> {
         const V t316 = t314 - t315;
         const V t317 = t316 + x35i;
         const V t318 = c3 * t290;
-        const V t319 = c3 * t291;
-        const V t320 = c4 * t294;
-        const V t321 = c4 * t295;
-        const V t322 = t318 - t320;
-        const V t323 = t319 - t321;
-        const V t324 = c5 * t298;
-        const V t325 = c5 * t299;
-        const V t326 = t322 - t324;
-        const V t327 = t323 - t325;
+        const V t319 = c4 * t294;
+        const V t320 = t318 - t319;
+        const V t321 = c5 * t298;
+        const V t322 = t320 - t321;
+        const V t323 = c3 * t291;
+        const V t324 = c4 * t295;
+        const V t325 = t323 - t324;
+        const V t326 = c5 * t299;
+        const V t327 = t325 - t326;
         const V t328 = t311 + t327;
-        const V t329 = t317 - t326;
+        const V t329 = t317 - t322;
         const V t330 = t311 - t327;
-        const V t331 = t317 + t326;
+        const V t331 = t317 + t322;
         const V t332 = c1 * t288;
         const V t333 = x35r - t332;
         const V t334 = c2 * t292;
@@ -425,19 +425,19 @@ struct ComplexGraph<42> {
         const V t342 = c0 * t297;
         const V t343 = t341 + t342;
         const V t344 = c4 * t290;
-        const V t345 = c4 * t291;
-        const V t346 = c5 * t294;
-        const V t347 = c5 * t295;
-        const V t348 = t344 + t346;
-        const V t349 = t345 + t347;
-        const V t350 = c3 * t298;
-        const V t351 = c3 * t299;
-        const V t352 = t348 + t350;
-        const V t353 = t349 + t351;
+        const V t345 = c5 * t294;
+        const V t346 = t344 + t345;
+        const V t347 = c3 * t298;
+        const V t348 = t346 + t347;
+        const V t349 = c4 * t291;
+        const V t350 = c5 * t295;
+        const V t351 = t349 + t350;
+        const V t352 = c3 * t299;
+        const V t353 = t351 + t352;
         const V t354 = t337 + t353;
-        const V t355 = t343 - t352;
+        const V t355 = t343 - t348;
         const V t356 = t337 - t353;
-        const V t357 = t343 + t352;
+        const V t357 = t343 + t348;
         const V t358 = c2 * t288;
         const V t359 = x35r - t358;
         const V t360 = c0 * t292;
@@ -451,20 +451,20 @@ struct ComplexGraph<42> {
         const V t368 = c1 * t297;
         const V t369 = t367 - t368;
         const V t370 = c5 * t290;
-        const V t371 = c5 * t291;
-        const V t372 = c3 * t294;
-        const V t373 = c3 * t295;
-        const V t374 = t370 + t372;
-        const V t375 = t371 + t373;
-        const V t376 = c4 * t298;
-        const V t377 = c4 * t299;
-        const V t378 = t374 - t376;
-        const V t379 = t375 - t377;
+        const V t371 = c3 * t294;
+        const V t372 = t370 + t371;
+        const V t373 = c4 * t298;
+        const V t374 = t372 - t373;
+        const V t375 = c5 * t291;
+        const V t376 = c3 * t295;
+        const V t377 = t375 + t376;
+        const V t378 = c4 * t299;
+        const V t379 = t377 - t378;
         const V t380 = t363 + t379;
-        const V t381 = t369 - t378;
+        const V t381 = t369 - t374;
         const V t382 = t363 - t379;
-        const V t383 = t369 + t378;
-        // block of 7, multiplier 6
+        const V t383 = t369 + t374;
+        // complex block of 7, multiplier 6
         const V x34r = io.re(34);
         const V x22r = io.re(22);
         const V t384 = x34r + x22r;
@@ -490,11 +490,11 @@ struct ComplexGraph<42> {
         const V t394 = x10r - x4r;
         const V t395 = x10i - x4i;
         const V t396 = t384 + t388;
-        const V t397 = t385 + t389;
-        const V t398 = t396 + t392;
-        const V t399 = t397 + t393;
+        const V t397 = t396 + t392;
+        const V t398 = t385 + t389;
+        const V t399 = t398 + t393;
         const V x28r = io.re(28);
-        const V t400 = t398 + x28r;
+        const V t400 = t397 + x28r;
         const V x28i = io.im(28);
         const V t401 = t399 + x28i;
         const V t402 = c0 * t384;
@@ -510,19 +510,19 @@ struct ComplexGraph<42> {
         const V t412 = t410 - t411;
         const V t413 = t412 + x28i;
         const V t414 = c3 * t386;
-        const V t415 = c3 * t387;
-        const V t416 = c4 * t390;
-        const V t417 = c4 * t391;
-        const V t418 = t414 - t416;
-        const V t419 = t415 - t417;
-        const V t420 = c5 * t394;
-        const V t421 = c5 * t395;
-        const V t422 = t418 - t420;
-        const V t423 = t419 - t421;
+        const V t415 = c4 * t390;
+        const V t416 = t414 - t415;
+        const V t417 = c5 * t394;
+        const V t418 = t416 - t417;
+        const V t419 = c3 * t387;
+        const V t420 = c4 * t391;
+        const V t421 = t419 - t420;
+        const V t422 = c5 * t395;
+        const V t423 = t421 - t422;
         const V t424 = t407 + t423;
-        const V t425 = t413 - t422;
+        const V t425 = t413 - t418;
         const V t426 = t407 - t423;
-        const V t427 = t413 + t422;
+        const V t427 = t413 + t418;
         const V t428 = c1 * t384;
         const V t429 = x28r - t428;
         const V t430 = c2 * t388;
@@ -536,19 +536,19 @@ struct ComplexGraph<42> {
         const V t438 = c0 * t393;
         const V t439 = t437 + t438;
         const V t440 = c4 * t386;
-        const V t441 = c4 * t387;
-        const V t442 = c5 * t390;
-        const V t443 = c5 * t391;
-        const V t444 = t440 + t442;
-        const V t445 = t441 + t443;
-        const V t446 = c3 * t394;
-        const V t447 = c3 * t395;
-        const V t448 = t444 + t446;
-        const V t449 = t445 + t447;
+        const V t441 = c5 * t390;
+        const V t442 = t440 + t441;
+        const V t443 = c3 * t394;
+        const V t444 = t442 + t443;
+        const V t445 = c4 * t387;
+        const V t446 = c5 * t391;
+        const V t447 = t445 + t446;
+        const V t448 = c3 * t395;
+        const V t449 = t447 + t448;
         const V t450 = t433 + t449;
-        const V t451 = t439 - t448;
+        const V t451 = t439 - t444;
         const V t452 = t433 - t449;
-        const V t453 = t439 + t448;
+        const V t453 = t439 + t444;
         const V t454 = c2 * t384;
         const V t455 = x28r - t454;
         const V t456 = c0 * t388;
@@ -562,20 +562,20 @@ struct ComplexGraph<42> {
         const V t464 = c1 * t393;
         const V t465 = t463 - t464;
         const V t466 = c5 * t386;
-        const V t467 = c5 * t387;
-        const V t468 = c3 * t390;
-        const V t469 = c3 * t391;
-        const V t470 = t466 + t468;
-        const V t471 = t467 + t469;
-        const V t472 = c4 * t394;
-        const V t473 = c4 * t395;
-        const V t474 = t470 - t472;
-        const V t475 = t471 - t473;
+        const V t467 = c3 * t390;
+        const V t468 = t466 + t467;
+        const V t469 = c4 * t394;
+        const V t470 = t468 - t469;
+        const V t471 = c5 * t387;
+        const V t472 = c3 * t391;
+        const V t473 = t471 + t472;
+        const V t474 = c4 * t395;
+        const V t475 = t473 - t474;
         const V t476 = t459 + t475;
-        const V t477 = t465 - t474;
+        const V t477 = t465 - t470;
         const V t478 = t459 - t475;
-        const V t479 = t465 + t474;
-        // block of 7, multiplier 6
+        const V t479 = t465 + t470;
+        // complex block of 7, multiplier 6
         const V x13r = io.re(13);
         const V x1r = io.re(1);
         const V t480 = x13r + x1r;
@@ -601,11 +601,11 @@ struct ComplexGraph<42> {
         const V t490 = x31r - x25r;
         const V t491 = x31i - x25i;
         const V t492 = t480 + t484;
-        const V t493 = t481 + t485;
-        const V t494 = t492 + t488;
-        const V t495 = t493 + t489;
+        const V t493 = t492 + t488;
+        const V t494 = t481 + t485;
+        const V t495 = t494 + t489;
         const V x7r = io.re(7);
-        const V t496 = t494 + x7r;
+        const V t496 = t493 + x7r;
         const V x7i = io.im(7);
         const V t497 = t495 + x7i;
         const V t498 = c0 * t480;
@@ -621,19 +621,19 @@ struct ComplexGraph<42> {
         const V t508 = t506 - t507;
         const V t509 = t508 + x7i;
         const V t510 = c3 * t482;
-        const V t511 = c3 * t483;
-        const V t512 = c4 * t486;
-        const V t513 = c4 * t487;
-        const V t514 = t510 - t512;
-        const V t515 = t511 - t513;
-        const V t516 = c5 * t490;
-        const V t517 = c5 * t491;
-        const V t518 = t514 - t516;
-        const V t519 = t515 - t517;
+        const V t511 = c4 * t486;
+        const V t512 = t510 - t511;
+        const V t513 = c5 * t490;
+        const V t514 = t512 - t513;
+        const V t515 = c3 * t483;
+        const V t516 = c4 * t487;
+        const V t517 = t515 - t516;
+        const V t518 = c5 * t491;
+        const V t519 = t517 - t518;
         const V t520 = t503 + t519;
-        const V t521 = t509 - t518;
+        const V t521 = t509 - t514;
         const V t522 = t503 - t519;
-        const V t523 = t509 + t518;
+        const V t523 = t509 + t514;
         const V t524 = c1 * t480;
         const V t525 = x7r - t524;
         const V t526 = c2 * t484;
@@ -647,19 +647,19 @@ struct ComplexGraph<42> {
         const V t534 = c0 * t489;
         const V t535 = t533 + t534;
         const V t536 = c4 * t482;
-        const V t537 = c4 * t483;
-        const V t538 = c5 * t486;
-        const V t539 = c5 * t487;
-        const V t540 = t536 + t538;
-        const V t541 = t537 + t539;
-        const V t542 = c3 * t490;
-        const V t543 = c3 * t491;
-        const V t544 = t540 + t542;
-        const V t545 = t541 + t543;
+        const V t537 = c5 * t486;
+        const V t538 = t536 + t537;
+        const V t539 = c3 * t490;
+        const V t540 = t538 + t539;
+        const V t541 = c4 * t483;
+        const V t542 = c5 * t487;
+        const V t543 = t541 + t542;
+        const V t544 = c3 * t491;
+        const V t545 = t543 + t544;
         const V t546 = t529 + t545;
-        const V t547 = t535 - t544;
+        const V t547 = t535 - t540;
         const V t548 = t529 - t545;
-        const V t549 = t535 + t544;
+        const V t549 = t535 + t540;
         const V t550 = c2 * t480;
         const V t551 = x7r - t550;
         const V t552 = c0 * t484;
@@ -673,20 +673,20 @@ struct ComplexGraph<42> {
         const V t560 = c1 * t489;
         const V t561 = t559 - t560;
         const V t562 = c5 * t482;
-        const V t563 = c5 * t483;
-        const V t564 = c3 * t486;
-        const V t565 = c3 * t487;
-        const V t566 = t562 + t564;
-        const V t567 = t563 + t565;
-        const V t568 = c4 * t490;
-        const V t569 = c4 * t491;
-        const V t570 = t566 - t568;
-        const V t571 = t567 - t569;
+        const V t563 = c3 * t486;
+        const V t564 = t562 + t563;
+        const V t565 = c4 * t490;
+        const V t566 = t564 - t565;
+        const V t567 = c5 * t483;
+        const V t568 = c3 * t487;
+        const V t569 = t567 + t568;
+        const V t570 = c4 * t491;
+        const V t571 = t569 - t570;
         const V t572 = t555 + t571;
-        const V t573 = t561 - t570;
+        const V t573 = t561 - t566;
         const V t574 = t555 - t571;
-        const V t575 = t561 + t570;
-        // block of 3, multiplier 2
+        const V t575 = t561 + t566;
+        // complex block of 3, multiplier 2
         const V t576 = t208 + t400;
         const V t577 = t209 + t401;
         const V t578 = t208 - t400;
@@ -703,7 +703,7 @@ struct ComplexGraph<42> {
         const V t589 = t585 - t586;
         const V t590 = t583 - t587;
         const V t591 = t585 + t586;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t592 = t304 + t496;
         const V t593 = t305 + t497;
         const V t594 = t304 - t496;
@@ -720,7 +720,7 @@ struct ComplexGraph<42> {
         const V t605 = t601 - t602;
         const V t606 = t599 - t603;
         const V t607 = t601 + t602;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t608 = t234 + t426;
         const V t609 = t235 + t427;
         const V t610 = t234 - t426;
@@ -737,7 +737,7 @@ struct ComplexGraph<42> {
         const V t621 = t617 - t618;
         const V t622 = t615 - t619;
         const V t623 = t617 + t618;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t624 = t330 + t522;
         const V t625 = t331 + t523;
         const V t626 = t330 - t522;
@@ -754,7 +754,7 @@ struct ComplexGraph<42> {
         const V t637 = t633 - t634;
         const V t638 = t631 - t635;
         const V t639 = t633 + t634;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t640 = t260 + t452;
         const V t641 = t261 + t453;
         const V t642 = t260 - t452;
@@ -771,7 +771,7 @@ struct ComplexGraph<42> {
         const V t653 = t649 - t650;
         const V t654 = t647 - t651;
         const V t655 = t649 + t650;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t656 = t356 + t548;
         const V t657 = t357 + t549;
         const V t658 = t356 - t548;
@@ -788,7 +788,7 @@ struct ComplexGraph<42> {
         const V t669 = t665 - t666;
         const V t670 = t663 - t667;
         const V t671 = t665 + t666;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t672 = t286 + t478;
         const V t673 = t287 + t479;
         const V t674 = t286 - t478;
@@ -805,7 +805,7 @@ struct ComplexGraph<42> {
         const V t685 = t681 - t682;
         const V t686 = t679 - t683;
         const V t687 = t681 + t682;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t688 = t382 + t574;
         const V t689 = t383 + t575;
         const V t690 = t382 - t574;
@@ -822,7 +822,7 @@ struct ComplexGraph<42> {
         const V t701 = t697 - t698;
         const V t702 = t695 - t699;
         const V t703 = t697 + t698;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t704 = t284 + t476;
         const V t705 = t285 + t477;
         const V t706 = t284 - t476;
@@ -839,7 +839,7 @@ struct ComplexGraph<42> {
         const V t717 = t713 - t714;
         const V t718 = t711 - t715;
         const V t719 = t713 + t714;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t720 = t380 + t572;
         const V t721 = t381 + t573;
         const V t722 = t380 - t572;
@@ -856,7 +856,7 @@ struct ComplexGraph<42> {
         const V t733 = t729 - t730;
         const V t734 = t727 - t731;
         const V t735 = t729 + t730;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t736 = t258 + t450;
         const V t737 = t259 + t451;
         const V t738 = t258 - t450;
@@ -873,7 +873,7 @@ struct ComplexGraph<42> {
         const V t749 = t745 - t746;
         const V t750 = t743 - t747;
         const V t751 = t745 + t746;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t752 = t354 + t546;
         const V t753 = t355 + t547;
         const V t754 = t354 - t546;
@@ -890,7 +890,7 @@ struct ComplexGraph<42> {
         const V t765 = t761 - t762;
         const V t766 = t759 - t763;
         const V t767 = t761 + t762;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t768 = t232 + t424;
         const V t769 = t233 + t425;
         const V t770 = t232 - t424;
@@ -907,7 +907,7 @@ struct ComplexGraph<42> {
         const V t781 = t777 - t778;
         const V t782 = t775 - t779;
         const V t783 = t777 + t778;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t784 = t328 + t520;
         const V t785 = t329 + t521;
         const V t786 = t328 - t520;
@@ -924,7 +924,7 @@ struct ComplexGraph<42> {
         const V t797 = t793 - t794;
         const V t798 = t791 - t795;
         const V t799 = t793 + t794;
-        // block of 2
+        // complex block of 2
         const V t800 = t580 + t596;
         io.re(0, t800);
         const V t801 = t581 + t597;
@@ -933,7 +933,7 @@ struct ComplexGraph<42> {
         io.re(21, t802);
         const V t803 = t581 - t597;
         io.im(21, t803);
-        // block of 2
+        // complex block of 2
         const V t804 = t590 + t606;
         io.re(14, t804);
         const V t805 = t591 + t607;
@@ -942,7 +942,7 @@ struct ComplexGraph<42> {
         io.re(35, t806);
         const V t807 = t591 - t607;
         io.im(35, t807);
-        // block of 2
+        // complex block of 2
         const V t808 = t588 + t604;
         io.re(28, t808);
         const V t809 = t589 + t605;
@@ -951,7 +951,7 @@ struct ComplexGraph<42> {
         io.re(7, t810);
         const V t811 = t589 - t605;
         io.im(7, t811);
-        // block of 2
+        // complex block of 2
         const V t812 = t612 + t628;
         io.re(6, t812);
         const V t813 = t613 + t629;
@@ -960,7 +960,7 @@ struct ComplexGraph<42> {
         io.re(27, t814);
         const V t815 = t613 - t629;
         io.im(27, t815);
-        // block of 2
+        // complex block of 2
         const V t816 = t622 + t638;
         io.re(20, t816);
         const V t817 = t623 + t639;
@@ -969,7 +969,7 @@ struct ComplexGraph<42> {
         io.re(41, t818);
         const V t819 = t623 - t639;
         io.im(41, t819);
-        // block of 2
+        // complex block of 2
         const V t820 = t620 + t636;
         io.re(34, t820);
         const V t821 = t621 + t637;
@@ -978,7 +978,7 @@ struct ComplexGraph<42> {
         io.re(13, t822);
         const V t823 = t621 - t637;
         io.im(13, t823);
-        // block of 2
+        // complex block of 2
         const V t824 = t644 + t660;
         io.re(12, t824);
         const V t825 = t645 + t661;
@@ -987,7 +987,7 @@ struct ComplexGraph<42> {
         io.re(33, t826);
         const V t827 = t645 - t661;
         io.im(33, t827);
-        // block of 2
+        // complex block of 2
         const V t828 = t654 + t670;
         io.re(26, t828);
         const V t829 = t655 + t671;
@@ -996,7 +996,7 @@ struct ComplexGraph<42> {
         io.re(5, t830);
         const V t831 = t655 - t671;
         io.im(5, t831);
-        // block of 2
+        // complex block of 2
         const V t832 = t652 + t668;
         io.re(40, t832);
         const V t833 = t653 + t669;
@@ -1005,7 +1005,7 @@ struct ComplexGraph<42> {
         io.re(19, t834);
         const V t835 = t653 - t669;
         io.im(19, t835);
-        // block of 2
+        // complex block of 2
         const V t836 = t676 + t692;
         io.re(18, t836);
         const V t837 = t677 + t693;
@@ -1014,7 +1014,7 @@ struct ComplexGraph<42> {
         io.re(39, t838);
         const V t839 = t677 - t693;
         io.im(39, t839);
-        // block of 2
+        // complex block of 2
         const V t840 = t686 + t702;
         io.re(32, t840);
         const V t841 = t687 + t703;
@@ -1023,7 +1023,7 @@ struct ComplexGraph<42> {
         io.re(11, t842);
         const V t843 = t687 - t703;
         io.im(11, t843);
-        // block of 2
+        // complex block of 2
         const V t844 = t684 + t700;
         io.re(4, t844);
         const V t845 = t685 + t701;
@@ -1032,7 +1032,7 @@ struct ComplexGraph<42> {
         io.re(25, t846);
         const V t847 = t685 - t701;
         io.im(25, t847);
-        // block of 2
+        // complex block of 2
         const V t848 = t708 + t724;
         io.re(24, t848);
         const V t849 = t709 + t725;
@@ -1041,7 +1041,7 @@ struct ComplexGraph<42> {
         io.re(3, t850);
         const V t851 = t709 - t725;
         io.im(3, t851);
-        // block of 2
+        // complex block of 2
         const V t852 = t718 + t734;
         io.re(38, t852);
         const V t853 = t719 + t735;
@@ -1050,7 +1050,7 @@ struct ComplexGraph<42> {
         io.re(17, t854);
         const V t855 = t719 - t735;
         io.im(17, t855);
-        // block of 2
+        // complex block of 2
         const V t856 = t716 + t732;
         io.re(10, t856);
         const V t857 = t717 + t733;
@@ -1059,7 +1059,7 @@ struct ComplexGraph<42> {
         io.re(31, t858);
         const V t859 = t717 - t733;
         io.im(31, t859);
-        // block of 2
+        // complex block of 2
         const V t860 = t740 + t756;
         io.re(30, t860);
         const V t861 = t741 + t757;
@@ -1068,7 +1068,7 @@ struct ComplexGraph<42> {
         io.re(9, t862);
         const V t863 = t741 - t757;
         io.im(9, t863);
-        // block of 2
+        // complex block of 2
         const V t864 = t750 + t766;
         io.re(2, t864);
         const V t865 = t751 + t767;
@@ -1077,7 +1077,7 @@ struct ComplexGraph<42> {
         io.re(23, t866);
         const V t867 = t751 - t767;
         io.im(23, t867);
-        // block of 2
+        // complex block of 2
         const V t868 = t748 + t764;
         io.re(16, t868);
         const V t869 = t749 + t765;
@@ -1086,7 +1086,7 @@ struct ComplexGraph<42> {
         io.re(37, t870);
         const V t871 = t749 - t765;
         io.im(37, t871);
-        // block of 2
+        // complex block of 2
         const V t872 = t772 + t788;
         io.re(36, t872);
         const V t873 = t773 + t789;
@@ -1095,7 +1095,7 @@ struct ComplexGraph<42> {
         io.re(15, t874);
         const V t875 = t773 - t789;
         io.im(15, t875);
-        // block of 2
+        // complex block of 2
         const V t876 = t782 + t798;
         io.re(8, t876);
         const V t877 = t783 + t799;
@@ -1104,7 +1104,7 @@ struct ComplexGraph<42> {
         io.re(29, t878);
         const V t879 = t783 - t799;
         io.im(29, t879);
-        // block of 2
+        // complex block of 2
         const V t880 = t780 + t796;
         io.re(22, t880);
         const V t881 = t781 + t797;

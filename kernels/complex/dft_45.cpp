@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 45.
 // Complex DFT of 45 points, prime-factor, order 9, 5.
-// 362 additions, 326 subtractions, 344 multiplications (434 with `scale`); 12 constants; 96 values alive at most.
+// 362 additions, 326 subtractions, 344 multiplications (434 with `scale`); 12 constants; 95 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -24,7 +24,7 @@ struct ComplexGraph<45> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x15r = io.re(15);
         const V x30r = io.re(30);
         const V t0 = x15r + x30r;
@@ -47,7 +47,7 @@ struct ComplexGraph<45> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x20r = io.re(20);
         const V x35r = io.re(35);
         const V t16 = x20r + x35r;
@@ -70,7 +70,7 @@ struct ComplexGraph<45> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x25r = io.re(25);
         const V x40r = io.re(40);
         const V t32 = x25r + x40r;
@@ -93,7 +93,7 @@ struct ComplexGraph<45> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t48 = t20 + t36;
         const V t49 = t21 + t37;
         const V t50 = t20 - t36;
@@ -110,7 +110,7 @@ struct ComplexGraph<45> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t64 = c2 * t31;
         const V t65 = c3 * t30;
         const V t66 = t65 + t64;
@@ -123,7 +123,7 @@ struct ComplexGraph<45> {
         const V t73 = c4 * t46;
         const V t74 = c5 * t47;
         const V t75 = t74 - t73;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t76 = t72 - t66;
         const V t77 = t69 + t75;
         const V t78 = t66 + t72;
@@ -140,7 +140,7 @@ struct ComplexGraph<45> {
         const V t89 = t85 + t86;
         const V t90 = t83 - t87;
         const V t91 = t85 - t86;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t92 = c4 * t29;
         const V t93 = c5 * t28;
         const V t94 = t93 + t92;
@@ -153,7 +153,7 @@ struct ComplexGraph<45> {
         const V t101 = c6 * t44;
         const V t102 = c7 * t45;
         const V t103 = t102 - t101;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t104 = t94 + t100;
         const V t105 = t97 + t103;
         const V t106 = t94 - t100;
@@ -170,7 +170,7 @@ struct ComplexGraph<45> {
         const V t117 = t113 - t114;
         const V t118 = t111 - t115;
         const V t119 = t113 + t114;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x24r = io.re(24);
         const V x39r = io.re(39);
         const V t120 = x24r + x39r;
@@ -193,7 +193,7 @@ struct ComplexGraph<45> {
         const V t133 = t129 - t130;
         const V t134 = t127 - t131;
         const V t135 = t129 + t130;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x29r = io.re(29);
         const V x44r = io.re(44);
         const V t136 = x29r + x44r;
@@ -216,7 +216,7 @@ struct ComplexGraph<45> {
         const V t149 = t145 - t146;
         const V t150 = t143 - t147;
         const V t151 = t145 + t146;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x34r = io.re(34);
         const V x4r = io.re(4);
         const V t152 = x34r + x4r;
@@ -239,7 +239,7 @@ struct ComplexGraph<45> {
         const V t165 = t161 - t162;
         const V t166 = t159 - t163;
         const V t167 = t161 + t162;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t168 = t140 + t156;
         const V t169 = t141 + t157;
         const V t170 = t140 - t156;
@@ -256,7 +256,7 @@ struct ComplexGraph<45> {
         const V t181 = t177 - t178;
         const V t182 = t175 - t179;
         const V t183 = t177 + t178;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t184 = c2 * t151;
         const V t185 = c3 * t150;
         const V t186 = t185 + t184;
@@ -269,7 +269,7 @@ struct ComplexGraph<45> {
         const V t193 = c4 * t166;
         const V t194 = c5 * t167;
         const V t195 = t194 - t193;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t196 = t192 - t186;
         const V t197 = t189 + t195;
         const V t198 = t186 + t192;
@@ -286,7 +286,7 @@ struct ComplexGraph<45> {
         const V t209 = t205 + t206;
         const V t210 = t203 - t207;
         const V t211 = t205 - t206;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t212 = c4 * t149;
         const V t213 = c5 * t148;
         const V t214 = t213 + t212;
@@ -299,7 +299,7 @@ struct ComplexGraph<45> {
         const V t221 = c6 * t164;
         const V t222 = c7 * t165;
         const V t223 = t222 - t221;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t224 = t214 + t220;
         const V t225 = t217 + t223;
         const V t226 = t214 - t220;
@@ -316,7 +316,7 @@ struct ComplexGraph<45> {
         const V t237 = t233 - t234;
         const V t238 = t231 - t235;
         const V t239 = t233 + t234;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x33r = io.re(33);
         const V x3r = io.re(3);
         const V t240 = x33r + x3r;
@@ -339,7 +339,7 @@ struct ComplexGraph<45> {
         const V t253 = t249 - t250;
         const V t254 = t247 - t251;
         const V t255 = t249 + t250;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x38r = io.re(38);
         const V x8r = io.re(8);
         const V t256 = x38r + x8r;
@@ -362,7 +362,7 @@ struct ComplexGraph<45> {
         const V t269 = t265 - t266;
         const V t270 = t263 - t267;
         const V t271 = t265 + t266;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x43r = io.re(43);
         const V x13r = io.re(13);
         const V t272 = x43r + x13r;
@@ -385,7 +385,7 @@ struct ComplexGraph<45> {
         const V t285 = t281 - t282;
         const V t286 = t279 - t283;
         const V t287 = t281 + t282;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t288 = t260 + t276;
         const V t289 = t261 + t277;
         const V t290 = t260 - t276;
@@ -402,7 +402,7 @@ struct ComplexGraph<45> {
         const V t301 = t297 - t298;
         const V t302 = t295 - t299;
         const V t303 = t297 + t298;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t304 = c2 * t271;
         const V t305 = c3 * t270;
         const V t306 = t305 + t304;
@@ -415,7 +415,7 @@ struct ComplexGraph<45> {
         const V t313 = c4 * t286;
         const V t314 = c5 * t287;
         const V t315 = t314 - t313;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t316 = t312 - t306;
         const V t317 = t309 + t315;
         const V t318 = t306 + t312;
@@ -432,7 +432,7 @@ struct ComplexGraph<45> {
         const V t329 = t325 + t326;
         const V t330 = t323 - t327;
         const V t331 = t325 - t326;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t332 = c4 * t269;
         const V t333 = c5 * t268;
         const V t334 = t333 + t332;
@@ -445,7 +445,7 @@ struct ComplexGraph<45> {
         const V t341 = c6 * t284;
         const V t342 = c7 * t285;
         const V t343 = t342 - t341;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t344 = t334 + t340;
         const V t345 = t337 + t343;
         const V t346 = t334 - t340;
@@ -462,7 +462,7 @@ struct ComplexGraph<45> {
         const V t357 = t353 - t354;
         const V t358 = t351 - t355;
         const V t359 = t353 + t354;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x42r = io.re(42);
         const V x12r = io.re(12);
         const V t360 = x42r + x12r;
@@ -485,7 +485,7 @@ struct ComplexGraph<45> {
         const V t373 = t369 - t370;
         const V t374 = t367 - t371;
         const V t375 = t369 + t370;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x2r = io.re(2);
         const V x17r = io.re(17);
         const V t376 = x2r + x17r;
@@ -508,7 +508,7 @@ struct ComplexGraph<45> {
         const V t389 = t385 - t386;
         const V t390 = t383 - t387;
         const V t391 = t385 + t386;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x7r = io.re(7);
         const V x22r = io.re(22);
         const V t392 = x7r + x22r;
@@ -531,7 +531,7 @@ struct ComplexGraph<45> {
         const V t405 = t401 - t402;
         const V t406 = t399 - t403;
         const V t407 = t401 + t402;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t408 = t380 + t396;
         const V t409 = t381 + t397;
         const V t410 = t380 - t396;
@@ -548,7 +548,7 @@ struct ComplexGraph<45> {
         const V t421 = t417 - t418;
         const V t422 = t415 - t419;
         const V t423 = t417 + t418;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t424 = c2 * t391;
         const V t425 = c3 * t390;
         const V t426 = t425 + t424;
@@ -561,7 +561,7 @@ struct ComplexGraph<45> {
         const V t433 = c4 * t406;
         const V t434 = c5 * t407;
         const V t435 = t434 - t433;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t436 = t432 - t426;
         const V t437 = t429 + t435;
         const V t438 = t426 + t432;
@@ -578,7 +578,7 @@ struct ComplexGraph<45> {
         const V t449 = t445 + t446;
         const V t450 = t443 - t447;
         const V t451 = t445 - t446;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t452 = c4 * t389;
         const V t453 = c5 * t388;
         const V t454 = t453 + t452;
@@ -591,7 +591,7 @@ struct ComplexGraph<45> {
         const V t461 = c6 * t404;
         const V t462 = c7 * t405;
         const V t463 = t462 - t461;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t464 = t454 + t460;
         const V t465 = t457 + t463;
         const V t466 = t454 - t460;
@@ -608,7 +608,7 @@ struct ComplexGraph<45> {
         const V t477 = t473 - t474;
         const V t478 = t471 - t475;
         const V t479 = t473 + t474;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x6r = io.re(6);
         const V x21r = io.re(21);
         const V t480 = x6r + x21r;
@@ -631,7 +631,7 @@ struct ComplexGraph<45> {
         const V t493 = t489 - t490;
         const V t494 = t487 - t491;
         const V t495 = t489 + t490;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x11r = io.re(11);
         const V x26r = io.re(26);
         const V t496 = x11r + x26r;
@@ -654,7 +654,7 @@ struct ComplexGraph<45> {
         const V t509 = t505 - t506;
         const V t510 = t503 - t507;
         const V t511 = t505 + t506;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x16r = io.re(16);
         const V x31r = io.re(31);
         const V t512 = x16r + x31r;
@@ -677,7 +677,7 @@ struct ComplexGraph<45> {
         const V t525 = t521 - t522;
         const V t526 = t519 - t523;
         const V t527 = t521 + t522;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t528 = t500 + t516;
         const V t529 = t501 + t517;
         const V t530 = t500 - t516;
@@ -694,7 +694,7 @@ struct ComplexGraph<45> {
         const V t541 = t537 - t538;
         const V t542 = t535 - t539;
         const V t543 = t537 + t538;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t544 = c2 * t511;
         const V t545 = c3 * t510;
         const V t546 = t545 + t544;
@@ -707,7 +707,7 @@ struct ComplexGraph<45> {
         const V t553 = c4 * t526;
         const V t554 = c5 * t527;
         const V t555 = t554 - t553;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t556 = t552 - t546;
         const V t557 = t549 + t555;
         const V t558 = t546 + t552;
@@ -724,7 +724,7 @@ struct ComplexGraph<45> {
         const V t569 = t565 + t566;
         const V t570 = t563 - t567;
         const V t571 = t565 - t566;
-        // block of 9, multiplier 5
+        // complex block of 9, multiplier 5
         const V t572 = c4 * t509;
         const V t573 = c5 * t508;
         const V t574 = t573 + t572;
@@ -737,7 +737,7 @@ struct ComplexGraph<45> {
         const V t581 = c6 * t524;
         const V t582 = c7 * t525;
         const V t583 = t582 - t581;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t584 = t574 + t580;
         const V t585 = t577 + t583;
         const V t586 = t574 - t580;
@@ -754,7 +754,7 @@ struct ComplexGraph<45> {
         const V t597 = t593 - t594;
         const V t598 = t591 - t595;
         const V t599 = t593 + t594;
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t600 = t172 + t532;
         const V t601 = t173 + t533;
         const V t602 = t172 - t532;
@@ -778,18 +778,18 @@ struct ComplexGraph<45> {
         const V t618 = t616 - t617;
         const V t619 = t618 + t53;
         const V t620 = c10 * t602;
-        const V t621 = c10 * t603;
-        const V t622 = c11 * t606;
-        const V t623 = c11 * t607;
-        const V t624 = t620 - t622;
-        const V t625 = t621 - t623;
+        const V t621 = c11 * t606;
+        const V t622 = t620 - t621;
+        const V t623 = c10 * t603;
+        const V t624 = c11 * t607;
+        const V t625 = t623 - t624;
         const V t626 = t615 + t625;
         io.re(36, t626);
-        const V t627 = t619 - t624;
+        const V t627 = t619 - t622;
         io.im(36, t627);
         const V t628 = t615 - t625;
         io.re(9, t628);
-        const V t629 = t619 + t624;
+        const V t629 = t619 + t622;
         io.im(9, t629);
         const V t630 = c9 * t600;
         const V t631 = t52 - t630;
@@ -800,20 +800,20 @@ struct ComplexGraph<45> {
         const V t636 = c8 * t605;
         const V t637 = t635 + t636;
         const V t638 = c11 * t602;
-        const V t639 = c11 * t603;
-        const V t640 = c10 * t606;
-        const V t641 = c10 * t607;
-        const V t642 = t638 + t640;
-        const V t643 = t639 + t641;
+        const V t639 = c10 * t606;
+        const V t640 = t638 + t639;
+        const V t641 = c11 * t603;
+        const V t642 = c10 * t607;
+        const V t643 = t641 + t642;
         const V t644 = t633 + t643;
         io.re(27, t644);
-        const V t645 = t637 - t642;
+        const V t645 = t637 - t640;
         io.im(27, t645);
         const V t646 = t633 - t643;
         io.re(18, t646);
-        const V t647 = t637 + t642;
+        const V t647 = t637 + t640;
         io.im(18, t647);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t648 = t200 + t560;
         const V t649 = t201 + t561;
         const V t650 = t200 - t560;
@@ -837,18 +837,18 @@ struct ComplexGraph<45> {
         const V t666 = t664 - t665;
         const V t667 = t666 + t81;
         const V t668 = c10 * t650;
-        const V t669 = c10 * t651;
-        const V t670 = c11 * t654;
-        const V t671 = c11 * t655;
-        const V t672 = t668 - t670;
-        const V t673 = t669 - t671;
+        const V t669 = c11 * t654;
+        const V t670 = t668 - t669;
+        const V t671 = c10 * t651;
+        const V t672 = c11 * t655;
+        const V t673 = t671 - t672;
         const V t674 = t663 + t673;
         io.re(41, t674);
-        const V t675 = t667 - t672;
+        const V t675 = t667 - t670;
         io.im(41, t675);
         const V t676 = t663 - t673;
         io.re(14, t676);
-        const V t677 = t667 + t672;
+        const V t677 = t667 + t670;
         io.im(14, t677);
         const V t678 = c9 * t648;
         const V t679 = t80 - t678;
@@ -859,20 +859,20 @@ struct ComplexGraph<45> {
         const V t684 = c8 * t653;
         const V t685 = t683 + t684;
         const V t686 = c11 * t650;
-        const V t687 = c11 * t651;
-        const V t688 = c10 * t654;
-        const V t689 = c10 * t655;
-        const V t690 = t686 + t688;
-        const V t691 = t687 + t689;
+        const V t687 = c10 * t654;
+        const V t688 = t686 + t687;
+        const V t689 = c11 * t651;
+        const V t690 = c10 * t655;
+        const V t691 = t689 + t690;
         const V t692 = t681 + t691;
         io.re(32, t692);
-        const V t693 = t685 - t690;
+        const V t693 = t685 - t688;
         io.im(32, t693);
         const V t694 = t681 - t691;
         io.re(23, t694);
-        const V t695 = t685 + t690;
+        const V t695 = t685 + t688;
         io.im(23, t695);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t696 = t228 + t588;
         const V t697 = t229 + t589;
         const V t698 = t228 - t588;
@@ -896,18 +896,18 @@ struct ComplexGraph<45> {
         const V t714 = t712 - t713;
         const V t715 = t714 + t109;
         const V t716 = c10 * t698;
-        const V t717 = c10 * t699;
-        const V t718 = c11 * t702;
-        const V t719 = c11 * t703;
-        const V t720 = t716 - t718;
-        const V t721 = t717 - t719;
+        const V t717 = c11 * t702;
+        const V t718 = t716 - t717;
+        const V t719 = c10 * t699;
+        const V t720 = c11 * t703;
+        const V t721 = t719 - t720;
         const V t722 = t711 + t721;
         io.re(1, t722);
-        const V t723 = t715 - t720;
+        const V t723 = t715 - t718;
         io.im(1, t723);
         const V t724 = t711 - t721;
         io.re(19, t724);
-        const V t725 = t715 + t720;
+        const V t725 = t715 + t718;
         io.im(19, t725);
         const V t726 = c9 * t696;
         const V t727 = t108 - t726;
@@ -918,20 +918,20 @@ struct ComplexGraph<45> {
         const V t732 = c8 * t701;
         const V t733 = t731 + t732;
         const V t734 = c11 * t698;
-        const V t735 = c11 * t699;
-        const V t736 = c10 * t702;
-        const V t737 = c10 * t703;
-        const V t738 = t734 + t736;
-        const V t739 = t735 + t737;
+        const V t735 = c10 * t702;
+        const V t736 = t734 + t735;
+        const V t737 = c11 * t699;
+        const V t738 = c10 * t703;
+        const V t739 = t737 + t738;
         const V t740 = t729 + t739;
         io.re(37, t740);
-        const V t741 = t733 - t738;
+        const V t741 = t733 - t736;
         io.im(37, t741);
         const V t742 = t729 - t739;
         io.re(28, t742);
-        const V t743 = t733 + t738;
+        const V t743 = t733 + t736;
         io.im(28, t743);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t744 = t182 + t542;
         const V t745 = t183 + t543;
         const V t746 = t182 - t542;
@@ -955,18 +955,18 @@ struct ComplexGraph<45> {
         const V t762 = t760 - t761;
         const V t763 = t762 + t63;
         const V t764 = c10 * t746;
-        const V t765 = c10 * t747;
-        const V t766 = c11 * t750;
-        const V t767 = c11 * t751;
-        const V t768 = t764 - t766;
-        const V t769 = t765 - t767;
+        const V t765 = c11 * t750;
+        const V t766 = t764 - t765;
+        const V t767 = c10 * t747;
+        const V t768 = c11 * t751;
+        const V t769 = t767 - t768;
         const V t770 = t759 + t769;
         io.re(6, t770);
-        const V t771 = t763 - t768;
+        const V t771 = t763 - t766;
         io.im(6, t771);
         const V t772 = t759 - t769;
         io.re(24, t772);
-        const V t773 = t763 + t768;
+        const V t773 = t763 + t766;
         io.im(24, t773);
         const V t774 = c9 * t744;
         const V t775 = t62 - t774;
@@ -977,20 +977,20 @@ struct ComplexGraph<45> {
         const V t780 = c8 * t749;
         const V t781 = t779 + t780;
         const V t782 = c11 * t746;
-        const V t783 = c11 * t747;
-        const V t784 = c10 * t750;
-        const V t785 = c10 * t751;
-        const V t786 = t782 + t784;
-        const V t787 = t783 + t785;
+        const V t783 = c10 * t750;
+        const V t784 = t782 + t783;
+        const V t785 = c11 * t747;
+        const V t786 = c10 * t751;
+        const V t787 = t785 + t786;
         const V t788 = t777 + t787;
         io.re(42, t788);
-        const V t789 = t781 - t786;
+        const V t789 = t781 - t784;
         io.im(42, t789);
         const V t790 = t777 - t787;
         io.re(33, t790);
-        const V t791 = t781 + t786;
+        const V t791 = t781 + t784;
         io.im(33, t791);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t792 = t210 + t570;
         const V t793 = t211 + t571;
         const V t794 = t210 - t570;
@@ -1014,18 +1014,18 @@ struct ComplexGraph<45> {
         const V t810 = t808 - t809;
         const V t811 = t810 + t91;
         const V t812 = c10 * t794;
-        const V t813 = c10 * t795;
-        const V t814 = c11 * t798;
-        const V t815 = c11 * t799;
-        const V t816 = t812 - t814;
-        const V t817 = t813 - t815;
+        const V t813 = c11 * t798;
+        const V t814 = t812 - t813;
+        const V t815 = c10 * t795;
+        const V t816 = c11 * t799;
+        const V t817 = t815 - t816;
         const V t818 = t807 + t817;
         io.re(11, t818);
-        const V t819 = t811 - t816;
+        const V t819 = t811 - t814;
         io.im(11, t819);
         const V t820 = t807 - t817;
         io.re(29, t820);
-        const V t821 = t811 + t816;
+        const V t821 = t811 + t814;
         io.im(29, t821);
         const V t822 = c9 * t792;
         const V t823 = t90 - t822;
@@ -1036,20 +1036,20 @@ struct ComplexGraph<45> {
         const V t828 = c8 * t797;
         const V t829 = t827 + t828;
         const V t830 = c11 * t794;
-        const V t831 = c11 * t795;
-        const V t832 = c10 * t798;
-        const V t833 = c10 * t799;
-        const V t834 = t830 + t832;
-        const V t835 = t831 + t833;
+        const V t831 = c10 * t798;
+        const V t832 = t830 + t831;
+        const V t833 = c11 * t795;
+        const V t834 = c10 * t799;
+        const V t835 = t833 + t834;
         const V t836 = t825 + t835;
         io.re(2, t836);
-        const V t837 = t829 - t834;
+        const V t837 = t829 - t832;
         io.im(2, t837);
         const V t838 = t825 - t835;
         io.re(38, t838);
-        const V t839 = t829 + t834;
+        const V t839 = t829 + t832;
         io.im(38, t839);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t840 = t238 + t598;
         const V t841 = t239 + t599;
         const V t842 = t238 - t598;
@@ -1073,18 +1073,18 @@ struct ComplexGraph<45> {
         const V t858 = t856 - t857;
         const V t859 = t858 + t119;
         const V t860 = c10 * t842;
-        const V t861 = c10 * t843;
-        const V t862 = c11 * t846;
-        const V t863 = c11 * t847;
-        const V t864 = t860 - t862;
-        const V t865 = t861 - t863;
+        const V t861 = c11 * t846;
+        const V t862 = t860 - t861;
+        const V t863 = c10 * t843;
+        const V t864 = c11 * t847;
+        const V t865 = t863 - t864;
         const V t866 = t855 + t865;
         io.re(16, t866);
-        const V t867 = t859 - t864;
+        const V t867 = t859 - t862;
         io.im(16, t867);
         const V t868 = t855 - t865;
         io.re(34, t868);
-        const V t869 = t859 + t864;
+        const V t869 = t859 + t862;
         io.im(34, t869);
         const V t870 = c9 * t840;
         const V t871 = t118 - t870;
@@ -1095,20 +1095,20 @@ struct ComplexGraph<45> {
         const V t876 = c8 * t845;
         const V t877 = t875 + t876;
         const V t878 = c11 * t842;
-        const V t879 = c11 * t843;
-        const V t880 = c10 * t846;
-        const V t881 = c10 * t847;
-        const V t882 = t878 + t880;
-        const V t883 = t879 + t881;
+        const V t879 = c10 * t846;
+        const V t880 = t878 + t879;
+        const V t881 = c11 * t843;
+        const V t882 = c10 * t847;
+        const V t883 = t881 + t882;
         const V t884 = t873 + t883;
         io.re(7, t884);
-        const V t885 = t877 - t882;
+        const V t885 = t877 - t880;
         io.im(7, t885);
         const V t886 = t873 - t883;
         io.re(43, t886);
-        const V t887 = t877 + t882;
+        const V t887 = t877 + t880;
         io.im(43, t887);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t888 = t180 + t540;
         const V t889 = t181 + t541;
         const V t890 = t180 - t540;
@@ -1132,18 +1132,18 @@ struct ComplexGraph<45> {
         const V t906 = t904 - t905;
         const V t907 = t906 + t61;
         const V t908 = c10 * t890;
-        const V t909 = c10 * t891;
-        const V t910 = c11 * t894;
-        const V t911 = c11 * t895;
-        const V t912 = t908 - t910;
-        const V t913 = t909 - t911;
+        const V t909 = c11 * t894;
+        const V t910 = t908 - t909;
+        const V t911 = c10 * t891;
+        const V t912 = c11 * t895;
+        const V t913 = t911 - t912;
         const V t914 = t903 + t913;
         io.re(21, t914);
-        const V t915 = t907 - t912;
+        const V t915 = t907 - t910;
         io.im(21, t915);
         const V t916 = t903 - t913;
         io.re(39, t916);
-        const V t917 = t907 + t912;
+        const V t917 = t907 + t910;
         io.im(39, t917);
         const V t918 = c9 * t888;
         const V t919 = t60 - t918;
@@ -1154,20 +1154,20 @@ struct ComplexGraph<45> {
         const V t924 = c8 * t893;
         const V t925 = t923 + t924;
         const V t926 = c11 * t890;
-        const V t927 = c11 * t891;
-        const V t928 = c10 * t894;
-        const V t929 = c10 * t895;
-        const V t930 = t926 + t928;
-        const V t931 = t927 + t929;
+        const V t927 = c10 * t894;
+        const V t928 = t926 + t927;
+        const V t929 = c11 * t891;
+        const V t930 = c10 * t895;
+        const V t931 = t929 + t930;
         const V t932 = t921 + t931;
         io.re(12, t932);
-        const V t933 = t925 - t930;
+        const V t933 = t925 - t928;
         io.im(12, t933);
         const V t934 = t921 - t931;
         io.re(3, t934);
-        const V t935 = t925 + t930;
+        const V t935 = t925 + t928;
         io.im(3, t935);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t936 = t208 + t568;
         const V t937 = t209 + t569;
         const V t938 = t208 - t568;
@@ -1191,18 +1191,18 @@ struct ComplexGraph<45> {
         const V t954 = t952 - t953;
         const V t955 = t954 + t89;
         const V t956 = c10 * t938;
-        const V t957 = c10 * t939;
-        const V t958 = c11 * t942;
-        const V t959 = c11 * t943;
-        const V t960 = t956 - t958;
-        const V t961 = t957 - t959;
+        const V t957 = c11 * t942;
+        const V t958 = t956 - t957;
+        const V t959 = c10 * t939;
+        const V t960 = c11 * t943;
+        const V t961 = t959 - t960;
         const V t962 = t951 + t961;
         io.re(26, t962);
-        const V t963 = t955 - t960;
+        const V t963 = t955 - t958;
         io.im(26, t963);
         const V t964 = t951 - t961;
         io.re(44, t964);
-        const V t965 = t955 + t960;
+        const V t965 = t955 + t958;
         io.im(44, t965);
         const V t966 = c9 * t936;
         const V t967 = t88 - t966;
@@ -1213,20 +1213,20 @@ struct ComplexGraph<45> {
         const V t972 = c8 * t941;
         const V t973 = t971 + t972;
         const V t974 = c11 * t938;
-        const V t975 = c11 * t939;
-        const V t976 = c10 * t942;
-        const V t977 = c10 * t943;
-        const V t978 = t974 + t976;
-        const V t979 = t975 + t977;
+        const V t975 = c10 * t942;
+        const V t976 = t974 + t975;
+        const V t977 = c11 * t939;
+        const V t978 = c10 * t943;
+        const V t979 = t977 + t978;
         const V t980 = t969 + t979;
         io.re(17, t980);
-        const V t981 = t973 - t978;
+        const V t981 = t973 - t976;
         io.im(17, t981);
         const V t982 = t969 - t979;
         io.re(8, t982);
-        const V t983 = t973 + t978;
+        const V t983 = t973 + t976;
         io.im(8, t983);
-        // block of 5, multiplier 4
+        // complex block of 5, multiplier 4
         const V t984 = t236 + t596;
         const V t985 = t237 + t597;
         const V t986 = t236 - t596;
@@ -1250,18 +1250,18 @@ struct ComplexGraph<45> {
         const V t1002 = t1000 - t1001;
         const V t1003 = t1002 + t117;
         const V t1004 = c10 * t986;
-        const V t1005 = c10 * t987;
-        const V t1006 = c11 * t990;
-        const V t1007 = c11 * t991;
-        const V t1008 = t1004 - t1006;
-        const V t1009 = t1005 - t1007;
+        const V t1005 = c11 * t990;
+        const V t1006 = t1004 - t1005;
+        const V t1007 = c10 * t987;
+        const V t1008 = c11 * t991;
+        const V t1009 = t1007 - t1008;
         const V t1010 = t999 + t1009;
         io.re(31, t1010);
-        const V t1011 = t1003 - t1008;
+        const V t1011 = t1003 - t1006;
         io.im(31, t1011);
         const V t1012 = t999 - t1009;
         io.re(4, t1012);
-        const V t1013 = t1003 + t1008;
+        const V t1013 = t1003 + t1006;
         io.im(4, t1013);
         const V t1014 = c9 * t984;
         const V t1015 = t116 - t1014;
@@ -1272,18 +1272,18 @@ struct ComplexGraph<45> {
         const V t1020 = c8 * t989;
         const V t1021 = t1019 + t1020;
         const V t1022 = c11 * t986;
-        const V t1023 = c11 * t987;
-        const V t1024 = c10 * t990;
-        const V t1025 = c10 * t991;
-        const V t1026 = t1022 + t1024;
-        const V t1027 = t1023 + t1025;
+        const V t1023 = c10 * t990;
+        const V t1024 = t1022 + t1023;
+        const V t1025 = c11 * t987;
+        const V t1026 = c10 * t991;
+        const V t1027 = t1025 + t1026;
         const V t1028 = t1017 + t1027;
         io.re(22, t1028);
-        const V t1029 = t1021 - t1026;
+        const V t1029 = t1021 - t1024;
         io.im(22, t1029);
         const V t1030 = t1017 - t1027;
         io.re(13, t1030);
-        const V t1031 = t1021 + t1026;
+        const V t1031 = t1021 + t1024;
         io.im(13, t1031);
     }
 };

@@ -17,7 +17,7 @@ struct ComplexGraph<48> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3
+        // complex block of 3
         const V x16r = io.re(16);
         const V x32r = io.re(32);
         const V t0 = x16r + x32r;
@@ -40,7 +40,7 @@ struct ComplexGraph<48> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3
+        // complex block of 3
         const V x19r = io.re(19);
         const V x35r = io.re(35);
         const V t16 = x19r + x35r;
@@ -63,7 +63,7 @@ struct ComplexGraph<48> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3
+        // complex block of 3
         const V x22r = io.re(22);
         const V x38r = io.re(38);
         const V t32 = x22r + x38r;
@@ -86,7 +86,7 @@ struct ComplexGraph<48> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3
+        // complex block of 3
         const V x25r = io.re(25);
         const V x41r = io.re(41);
         const V t48 = x25r + x41r;
@@ -109,7 +109,7 @@ struct ComplexGraph<48> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 3
+        // complex block of 3
         const V x28r = io.re(28);
         const V x44r = io.re(44);
         const V t64 = x28r + x44r;
@@ -132,7 +132,7 @@ struct ComplexGraph<48> {
         const V t77 = t73 - t74;
         const V t78 = t71 - t75;
         const V t79 = t73 + t74;
-        // block of 3
+        // complex block of 3
         const V x31r = io.re(31);
         const V x47r = io.re(47);
         const V t80 = x31r + x47r;
@@ -155,7 +155,7 @@ struct ComplexGraph<48> {
         const V t93 = t89 - t90;
         const V t94 = t87 - t91;
         const V t95 = t89 + t90;
-        // block of 3
+        // complex block of 3
         const V x34r = io.re(34);
         const V x2r = io.re(2);
         const V t96 = x34r + x2r;
@@ -178,7 +178,7 @@ struct ComplexGraph<48> {
         const V t109 = t105 - t106;
         const V t110 = t103 - t107;
         const V t111 = t105 + t106;
-        // block of 3
+        // complex block of 3
         const V x37r = io.re(37);
         const V x5r = io.re(5);
         const V t112 = x37r + x5r;
@@ -201,7 +201,7 @@ struct ComplexGraph<48> {
         const V t125 = t121 - t122;
         const V t126 = t119 - t123;
         const V t127 = t121 + t122;
-        // block of 3
+        // complex block of 3
         const V x40r = io.re(40);
         const V x8r = io.re(8);
         const V t128 = x40r + x8r;
@@ -224,7 +224,7 @@ struct ComplexGraph<48> {
         const V t141 = t137 - t138;
         const V t142 = t135 - t139;
         const V t143 = t137 + t138;
-        // block of 3
+        // complex block of 3
         const V x43r = io.re(43);
         const V x11r = io.re(11);
         const V t144 = x43r + x11r;
@@ -247,7 +247,7 @@ struct ComplexGraph<48> {
         const V t157 = t153 - t154;
         const V t158 = t151 - t155;
         const V t159 = t153 + t154;
-        // block of 3
+        // complex block of 3
         const V x46r = io.re(46);
         const V x14r = io.re(14);
         const V t160 = x46r + x14r;
@@ -270,7 +270,7 @@ struct ComplexGraph<48> {
         const V t173 = t169 - t170;
         const V t174 = t167 - t171;
         const V t175 = t169 + t170;
-        // block of 3
+        // complex block of 3
         const V x1r = io.re(1);
         const V x17r = io.re(17);
         const V t176 = x1r + x17r;
@@ -293,7 +293,7 @@ struct ComplexGraph<48> {
         const V t189 = t185 - t186;
         const V t190 = t183 - t187;
         const V t191 = t185 + t186;
-        // block of 3
+        // complex block of 3
         const V x4r = io.re(4);
         const V x20r = io.re(20);
         const V t192 = x4r + x20r;
@@ -316,7 +316,7 @@ struct ComplexGraph<48> {
         const V t205 = t201 - t202;
         const V t206 = t199 - t203;
         const V t207 = t201 + t202;
-        // block of 3
+        // complex block of 3
         const V x7r = io.re(7);
         const V x23r = io.re(23);
         const V t208 = x7r + x23r;
@@ -339,7 +339,7 @@ struct ComplexGraph<48> {
         const V t221 = t217 - t218;
         const V t222 = t215 - t219;
         const V t223 = t217 + t218;
-        // block of 3
+        // complex block of 3
         const V x10r = io.re(10);
         const V x26r = io.re(26);
         const V t224 = x10r + x26r;
@@ -362,7 +362,7 @@ struct ComplexGraph<48> {
         const V t237 = t233 - t234;
         const V t238 = t231 - t235;
         const V t239 = t233 + t234;
-        // block of 3
+        // complex block of 3
         const V x13r = io.re(13);
         const V x29r = io.re(29);
         const V t240 = x13r + x29r;
@@ -385,77 +385,77 @@ struct ComplexGraph<48> {
         const V t253 = t249 - t250;
         const V t254 = t247 - t251;
         const V t255 = t249 + t250;
-        // block of 2
+        // complex block of 2
         const V t256 = t4 + t132;
         const V t257 = t5 + t133;
         const V t258 = t4 - t132;
         const V t259 = t5 - t133;
-        // block of 2
+        // complex block of 2
         const V t260 = t20 + t148;
         const V t261 = t21 + t149;
         const V t262 = t20 - t148;
         const V t263 = t21 - t149;
-        // block of 2
+        // complex block of 2
         const V t264 = t36 + t164;
         const V t265 = t37 + t165;
         const V t266 = t36 - t164;
         const V t267 = t37 - t165;
-        // block of 2
+        // complex block of 2
         const V t268 = t52 + t180;
         const V t269 = t53 + t181;
         const V t270 = t52 - t180;
         const V t271 = t53 - t181;
-        // block of 2
+        // complex block of 2
         const V t272 = t68 + t196;
         const V t273 = t69 + t197;
         const V t274 = t68 - t196;
         const V t275 = t69 - t197;
-        // block of 2
+        // complex block of 2
         const V t276 = t84 + t212;
         const V t277 = t85 + t213;
         const V t278 = t84 - t212;
         const V t279 = t85 - t213;
-        // block of 2
+        // complex block of 2
         const V t280 = t100 + t228;
         const V t281 = t101 + t229;
         const V t282 = t100 - t228;
         const V t283 = t101 - t229;
-        // block of 2
+        // complex block of 2
         const V t284 = t116 + t244;
         const V t285 = t117 + t245;
         const V t286 = t116 - t244;
         const V t287 = t117 - t245;
-        // block of 2
+        // complex block of 2
         const V t288 = t256 + t272;
         const V t289 = t257 + t273;
         const V t290 = t256 - t272;
         const V t291 = t257 - t273;
-        // block of 2
+        // complex block of 2
         const V t292 = t260 + t276;
         const V t293 = t261 + t277;
         const V t294 = t260 - t276;
         const V t295 = t261 - t277;
-        // block of 2
+        // complex block of 2
         const V t296 = t264 + t280;
         const V t297 = t265 + t281;
         const V t298 = t264 - t280;
         const V t299 = t265 - t281;
-        // block of 2
+        // complex block of 2
         const V t300 = t268 + t284;
         const V t301 = t269 + t285;
         const V t302 = t268 - t284;
         const V t303 = t269 - t285;
-        // block of 2
+        // complex block of 2
         const V t304 = t288 + t296;
         const V t305 = t289 + t297;
         const V t306 = t288 - t296;
         const V t307 = t289 - t297;
-        // block of 2
+        // complex block of 2
         const V t308 = t292 + t300;
         const V t309 = t293 + t301;
         const V t310 = t292 - t300;
         const V t311 = t293 - t301;
-        // block of 2
+        // complex block of 2
         const V t312 = t304 + t308;
         io.re(0, t312);
         const V t313 = t305 + t309;
@@ -464,7 +464,7 @@ struct ComplexGraph<48> {
         io.re(24, t314);
         const V t315 = t305 - t309;
         io.im(24, t315);
-        // block of 2
+        // complex block of 2
         const V t316 = t306 - t311;
         io.re(12, t316);
         const V t317 = t307 + t310;
@@ -473,7 +473,7 @@ struct ComplexGraph<48> {
         io.re(36, t318);
         const V t319 = t307 - t310;
         io.im(36, t319);
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t320 = c2 * t294;
         const V t321 = c2 * t295;
         const V t322 = t320 + t321;
@@ -482,17 +482,17 @@ struct ComplexGraph<48> {
         const V t325 = c2 * t303;
         const V t326 = t324 + t325;
         const V t327 = t325 - t324;
-        // block of 2
+        // complex block of 2
         const V t328 = t290 - t299;
         const V t329 = t291 + t298;
         const V t330 = t290 + t299;
         const V t331 = t291 - t298;
-        // block of 2
+        // complex block of 2
         const V t332 = t323 + t326;
         const V t333 = t327 - t322;
         const V t334 = t323 - t326;
         const V t335 = t322 + t327;
-        // block of 2
+        // complex block of 2
         const V t336 = t328 + t332;
         io.re(6, t336);
         const V t337 = t329 + t333;
@@ -501,7 +501,7 @@ struct ComplexGraph<48> {
         io.re(30, t338);
         const V t339 = t329 - t333;
         io.im(30, t339);
-        // block of 2
+        // complex block of 2
         const V t340 = t330 + t335;
         io.re(18, t340);
         const V t341 = t331 + t334;
@@ -510,7 +510,7 @@ struct ComplexGraph<48> {
         io.re(42, t342);
         const V t343 = t331 - t334;
         io.im(42, t343);
-        // block of 16, multiplier 3
+        // complex block of 16, multiplier 3
         const V t344 = c3 * t263;
         const V t345 = c4 * t262;
         const V t346 = t345 + t344;
@@ -543,37 +543,37 @@ struct ComplexGraph<48> {
         const V t373 = c3 * t286;
         const V t374 = c4 * t287;
         const V t375 = t374 + t373;
-        // block of 2
+        // complex block of 2
         const V t376 = t258 - t275;
         const V t377 = t259 + t274;
         const V t378 = t258 + t275;
         const V t379 = t259 - t274;
-        // block of 2
+        // complex block of 2
         const V t380 = t346 + t362;
         const V t381 = t349 + t365;
         const V t382 = t346 - t362;
         const V t383 = t349 - t365;
-        // block of 2
+        // complex block of 2
         const V t384 = t353 + t368;
         const V t385 = t369 - t352;
         const V t386 = t353 - t368;
         const V t387 = t352 + t369;
-        // block of 2
+        // complex block of 2
         const V t388 = t372 - t356;
         const V t389 = t359 - t375;
         const V t390 = t356 + t372;
         const V t391 = t359 + t375;
-        // block of 2
+        // complex block of 2
         const V t392 = t376 + t384;
         const V t393 = t377 + t385;
         const V t394 = t376 - t384;
         const V t395 = t377 - t385;
-        // block of 2
+        // complex block of 2
         const V t396 = t380 + t388;
         const V t397 = t381 + t389;
         const V t398 = t380 - t388;
         const V t399 = t381 - t389;
-        // block of 2
+        // complex block of 2
         const V t400 = t392 + t396;
         io.re(3, t400);
         const V t401 = t393 + t397;
@@ -582,7 +582,7 @@ struct ComplexGraph<48> {
         io.re(27, t402);
         const V t403 = t393 - t397;
         io.im(27, t403);
-        // block of 2
+        // complex block of 2
         const V t404 = t394 - t399;
         io.re(15, t404);
         const V t405 = t395 + t398;
@@ -591,7 +591,7 @@ struct ComplexGraph<48> {
         io.re(39, t406);
         const V t407 = t395 - t398;
         io.im(39, t407);
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t408 = c2 * t382;
         const V t409 = c2 * t383;
         const V t410 = t408 + t409;
@@ -600,17 +600,17 @@ struct ComplexGraph<48> {
         const V t413 = c2 * t391;
         const V t414 = t413 - t412;
         const V t415 = t413 + t412;
-        // block of 2
+        // complex block of 2
         const V t416 = t378 + t387;
         const V t417 = t379 + t386;
         const V t418 = t378 - t387;
         const V t419 = t379 - t386;
-        // block of 2
+        // complex block of 2
         const V t420 = t411 + t414;
         const V t421 = t415 - t410;
         const V t422 = t411 - t414;
         const V t423 = t410 + t415;
-        // block of 2
+        // complex block of 2
         const V t424 = t416 + t420;
         io.re(9, t424);
         const V t425 = t417 + t421;
@@ -619,7 +619,7 @@ struct ComplexGraph<48> {
         io.re(33, t426);
         const V t427 = t417 - t421;
         io.im(33, t427);
-        // block of 2
+        // complex block of 2
         const V t428 = t418 + t423;
         io.re(21, t428);
         const V t429 = t419 + t422;
@@ -628,77 +628,77 @@ struct ComplexGraph<48> {
         io.re(45, t430);
         const V t431 = t419 - t422;
         io.im(45, t431);
-        // block of 2
+        // complex block of 2
         const V t432 = t12 + t140;
         const V t433 = t13 + t141;
         const V t434 = t12 - t140;
         const V t435 = t13 - t141;
-        // block of 2
+        // complex block of 2
         const V t436 = t28 + t156;
         const V t437 = t29 + t157;
         const V t438 = t28 - t156;
         const V t439 = t29 - t157;
-        // block of 2
+        // complex block of 2
         const V t440 = t44 + t172;
         const V t441 = t45 + t173;
         const V t442 = t44 - t172;
         const V t443 = t45 - t173;
-        // block of 2
+        // complex block of 2
         const V t444 = t60 + t188;
         const V t445 = t61 + t189;
         const V t446 = t60 - t188;
         const V t447 = t61 - t189;
-        // block of 2
+        // complex block of 2
         const V t448 = t76 + t204;
         const V t449 = t77 + t205;
         const V t450 = t76 - t204;
         const V t451 = t77 - t205;
-        // block of 2
+        // complex block of 2
         const V t452 = t92 + t220;
         const V t453 = t93 + t221;
         const V t454 = t92 - t220;
         const V t455 = t93 - t221;
-        // block of 2
+        // complex block of 2
         const V t456 = t108 + t236;
         const V t457 = t109 + t237;
         const V t458 = t108 - t236;
         const V t459 = t109 - t237;
-        // block of 2
+        // complex block of 2
         const V t460 = t124 + t252;
         const V t461 = t125 + t253;
         const V t462 = t124 - t252;
         const V t463 = t125 - t253;
-        // block of 2
+        // complex block of 2
         const V t464 = t432 + t448;
         const V t465 = t433 + t449;
         const V t466 = t432 - t448;
         const V t467 = t433 - t449;
-        // block of 2
+        // complex block of 2
         const V t468 = t436 + t452;
         const V t469 = t437 + t453;
         const V t470 = t436 - t452;
         const V t471 = t437 - t453;
-        // block of 2
+        // complex block of 2
         const V t472 = t440 + t456;
         const V t473 = t441 + t457;
         const V t474 = t440 - t456;
         const V t475 = t441 - t457;
-        // block of 2
+        // complex block of 2
         const V t476 = t444 + t460;
         const V t477 = t445 + t461;
         const V t478 = t444 - t460;
         const V t479 = t445 - t461;
-        // block of 2
+        // complex block of 2
         const V t480 = t464 + t472;
         const V t481 = t465 + t473;
         const V t482 = t464 - t472;
         const V t483 = t465 - t473;
-        // block of 2
+        // complex block of 2
         const V t484 = t468 + t476;
         const V t485 = t469 + t477;
         const V t486 = t468 - t476;
         const V t487 = t469 - t477;
-        // block of 2
+        // complex block of 2
         const V t488 = t480 + t484;
         io.re(16, t488);
         const V t489 = t481 + t485;
@@ -707,7 +707,7 @@ struct ComplexGraph<48> {
         io.re(40, t490);
         const V t491 = t481 - t485;
         io.im(40, t491);
-        // block of 2
+        // complex block of 2
         const V t492 = t482 - t487;
         io.re(28, t492);
         const V t493 = t483 + t486;
@@ -716,7 +716,7 @@ struct ComplexGraph<48> {
         io.re(4, t494);
         const V t495 = t483 - t486;
         io.im(4, t495);
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t496 = c2 * t470;
         const V t497 = c2 * t471;
         const V t498 = t496 + t497;
@@ -725,17 +725,17 @@ struct ComplexGraph<48> {
         const V t501 = c2 * t479;
         const V t502 = t500 + t501;
         const V t503 = t501 - t500;
-        // block of 2
+        // complex block of 2
         const V t504 = t466 - t475;
         const V t505 = t467 + t474;
         const V t506 = t466 + t475;
         const V t507 = t467 - t474;
-        // block of 2
+        // complex block of 2
         const V t508 = t499 + t502;
         const V t509 = t503 - t498;
         const V t510 = t499 - t502;
         const V t511 = t498 + t503;
-        // block of 2
+        // complex block of 2
         const V t512 = t504 + t508;
         io.re(22, t512);
         const V t513 = t505 + t509;
@@ -744,7 +744,7 @@ struct ComplexGraph<48> {
         io.re(46, t514);
         const V t515 = t505 - t509;
         io.im(46, t515);
-        // block of 2
+        // complex block of 2
         const V t516 = t506 + t511;
         io.re(34, t516);
         const V t517 = t507 + t510;
@@ -753,7 +753,7 @@ struct ComplexGraph<48> {
         io.re(10, t518);
         const V t519 = t507 - t510;
         io.im(10, t519);
-        // block of 16, multiplier 3
+        // complex block of 16, multiplier 3
         const V t520 = c3 * t439;
         const V t521 = c4 * t438;
         const V t522 = t521 + t520;
@@ -786,37 +786,37 @@ struct ComplexGraph<48> {
         const V t549 = c3 * t462;
         const V t550 = c4 * t463;
         const V t551 = t550 + t549;
-        // block of 2
+        // complex block of 2
         const V t552 = t434 - t451;
         const V t553 = t435 + t450;
         const V t554 = t434 + t451;
         const V t555 = t435 - t450;
-        // block of 2
+        // complex block of 2
         const V t556 = t522 + t538;
         const V t557 = t525 + t541;
         const V t558 = t522 - t538;
         const V t559 = t525 - t541;
-        // block of 2
+        // complex block of 2
         const V t560 = t529 + t544;
         const V t561 = t545 - t528;
         const V t562 = t529 - t544;
         const V t563 = t528 + t545;
-        // block of 2
+        // complex block of 2
         const V t564 = t548 - t532;
         const V t565 = t535 - t551;
         const V t566 = t532 + t548;
         const V t567 = t535 + t551;
-        // block of 2
+        // complex block of 2
         const V t568 = t552 + t560;
         const V t569 = t553 + t561;
         const V t570 = t552 - t560;
         const V t571 = t553 - t561;
-        // block of 2
+        // complex block of 2
         const V t572 = t556 + t564;
         const V t573 = t557 + t565;
         const V t574 = t556 - t564;
         const V t575 = t557 - t565;
-        // block of 2
+        // complex block of 2
         const V t576 = t568 + t572;
         io.re(19, t576);
         const V t577 = t569 + t573;
@@ -825,7 +825,7 @@ struct ComplexGraph<48> {
         io.re(43, t578);
         const V t579 = t569 - t573;
         io.im(43, t579);
-        // block of 2
+        // complex block of 2
         const V t580 = t570 - t575;
         io.re(31, t580);
         const V t581 = t571 + t574;
@@ -834,7 +834,7 @@ struct ComplexGraph<48> {
         io.re(7, t582);
         const V t583 = t571 - t574;
         io.im(7, t583);
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t584 = c2 * t558;
         const V t585 = c2 * t559;
         const V t586 = t584 + t585;
@@ -843,17 +843,17 @@ struct ComplexGraph<48> {
         const V t589 = c2 * t567;
         const V t590 = t589 - t588;
         const V t591 = t589 + t588;
-        // block of 2
+        // complex block of 2
         const V t592 = t554 + t563;
         const V t593 = t555 + t562;
         const V t594 = t554 - t563;
         const V t595 = t555 - t562;
-        // block of 2
+        // complex block of 2
         const V t596 = t587 + t590;
         const V t597 = t591 - t586;
         const V t598 = t587 - t590;
         const V t599 = t586 + t591;
-        // block of 2
+        // complex block of 2
         const V t600 = t592 + t596;
         io.re(25, t600);
         const V t601 = t593 + t597;
@@ -862,7 +862,7 @@ struct ComplexGraph<48> {
         io.re(1, t602);
         const V t603 = t593 - t597;
         io.im(1, t603);
-        // block of 2
+        // complex block of 2
         const V t604 = t594 + t599;
         io.re(37, t604);
         const V t605 = t595 + t598;
@@ -871,77 +871,77 @@ struct ComplexGraph<48> {
         io.re(13, t606);
         const V t607 = t595 - t598;
         io.im(13, t607);
-        // block of 2
+        // complex block of 2
         const V t608 = t14 + t142;
         const V t609 = t15 + t143;
         const V t610 = t14 - t142;
         const V t611 = t15 - t143;
-        // block of 2
+        // complex block of 2
         const V t612 = t30 + t158;
         const V t613 = t31 + t159;
         const V t614 = t30 - t158;
         const V t615 = t31 - t159;
-        // block of 2
+        // complex block of 2
         const V t616 = t46 + t174;
         const V t617 = t47 + t175;
         const V t618 = t46 - t174;
         const V t619 = t47 - t175;
-        // block of 2
+        // complex block of 2
         const V t620 = t62 + t190;
         const V t621 = t63 + t191;
         const V t622 = t62 - t190;
         const V t623 = t63 - t191;
-        // block of 2
+        // complex block of 2
         const V t624 = t78 + t206;
         const V t625 = t79 + t207;
         const V t626 = t78 - t206;
         const V t627 = t79 - t207;
-        // block of 2
+        // complex block of 2
         const V t628 = t94 + t222;
         const V t629 = t95 + t223;
         const V t630 = t94 - t222;
         const V t631 = t95 - t223;
-        // block of 2
+        // complex block of 2
         const V t632 = t110 + t238;
         const V t633 = t111 + t239;
         const V t634 = t110 - t238;
         const V t635 = t111 - t239;
-        // block of 2
+        // complex block of 2
         const V t636 = t126 + t254;
         const V t637 = t127 + t255;
         const V t638 = t126 - t254;
         const V t639 = t127 - t255;
-        // block of 2
+        // complex block of 2
         const V t640 = t608 + t624;
         const V t641 = t609 + t625;
         const V t642 = t608 - t624;
         const V t643 = t609 - t625;
-        // block of 2
+        // complex block of 2
         const V t644 = t612 + t628;
         const V t645 = t613 + t629;
         const V t646 = t612 - t628;
         const V t647 = t613 - t629;
-        // block of 2
+        // complex block of 2
         const V t648 = t616 + t632;
         const V t649 = t617 + t633;
         const V t650 = t616 - t632;
         const V t651 = t617 - t633;
-        // block of 2
+        // complex block of 2
         const V t652 = t620 + t636;
         const V t653 = t621 + t637;
         const V t654 = t620 - t636;
         const V t655 = t621 - t637;
-        // block of 2
+        // complex block of 2
         const V t656 = t640 + t648;
         const V t657 = t641 + t649;
         const V t658 = t640 - t648;
         const V t659 = t641 - t649;
-        // block of 2
+        // complex block of 2
         const V t660 = t644 + t652;
         const V t661 = t645 + t653;
         const V t662 = t644 - t652;
         const V t663 = t645 - t653;
-        // block of 2
+        // complex block of 2
         const V t664 = t656 + t660;
         io.re(32, t664);
         const V t665 = t657 + t661;
@@ -950,7 +950,7 @@ struct ComplexGraph<48> {
         io.re(8, t666);
         const V t667 = t657 - t661;
         io.im(8, t667);
-        // block of 2
+        // complex block of 2
         const V t668 = t658 - t663;
         io.re(44, t668);
         const V t669 = t659 + t662;
@@ -959,7 +959,7 @@ struct ComplexGraph<48> {
         io.re(20, t670);
         const V t671 = t659 - t662;
         io.im(20, t671);
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t672 = c2 * t646;
         const V t673 = c2 * t647;
         const V t674 = t672 + t673;
@@ -968,17 +968,17 @@ struct ComplexGraph<48> {
         const V t677 = c2 * t655;
         const V t678 = t676 + t677;
         const V t679 = t677 - t676;
-        // block of 2
+        // complex block of 2
         const V t680 = t642 - t651;
         const V t681 = t643 + t650;
         const V t682 = t642 + t651;
         const V t683 = t643 - t650;
-        // block of 2
+        // complex block of 2
         const V t684 = t675 + t678;
         const V t685 = t679 - t674;
         const V t686 = t675 - t678;
         const V t687 = t674 + t679;
-        // block of 2
+        // complex block of 2
         const V t688 = t680 + t684;
         io.re(38, t688);
         const V t689 = t681 + t685;
@@ -987,7 +987,7 @@ struct ComplexGraph<48> {
         io.re(14, t690);
         const V t691 = t681 - t685;
         io.im(14, t691);
-        // block of 2
+        // complex block of 2
         const V t692 = t682 + t687;
         io.re(2, t692);
         const V t693 = t683 + t686;
@@ -996,7 +996,7 @@ struct ComplexGraph<48> {
         io.re(26, t694);
         const V t695 = t683 - t686;
         io.im(26, t695);
-        // block of 16, multiplier 3
+        // complex block of 16, multiplier 3
         const V t696 = c3 * t615;
         const V t697 = c4 * t614;
         const V t698 = t697 + t696;
@@ -1029,37 +1029,37 @@ struct ComplexGraph<48> {
         const V t725 = c3 * t638;
         const V t726 = c4 * t639;
         const V t727 = t726 + t725;
-        // block of 2
+        // complex block of 2
         const V t728 = t610 - t627;
         const V t729 = t611 + t626;
         const V t730 = t610 + t627;
         const V t731 = t611 - t626;
-        // block of 2
+        // complex block of 2
         const V t732 = t698 + t714;
         const V t733 = t701 + t717;
         const V t734 = t698 - t714;
         const V t735 = t701 - t717;
-        // block of 2
+        // complex block of 2
         const V t736 = t705 + t720;
         const V t737 = t721 - t704;
         const V t738 = t705 - t720;
         const V t739 = t704 + t721;
-        // block of 2
+        // complex block of 2
         const V t740 = t724 - t708;
         const V t741 = t711 - t727;
         const V t742 = t708 + t724;
         const V t743 = t711 + t727;
-        // block of 2
+        // complex block of 2
         const V t744 = t728 + t736;
         const V t745 = t729 + t737;
         const V t746 = t728 - t736;
         const V t747 = t729 - t737;
-        // block of 2
+        // complex block of 2
         const V t748 = t732 + t740;
         const V t749 = t733 + t741;
         const V t750 = t732 - t740;
         const V t751 = t733 - t741;
-        // block of 2
+        // complex block of 2
         const V t752 = t744 + t748;
         io.re(35, t752);
         const V t753 = t745 + t749;
@@ -1068,7 +1068,7 @@ struct ComplexGraph<48> {
         io.re(11, t754);
         const V t755 = t745 - t749;
         io.im(11, t755);
-        // block of 2
+        // complex block of 2
         const V t756 = t746 - t751;
         io.re(47, t756);
         const V t757 = t747 + t750;
@@ -1077,7 +1077,7 @@ struct ComplexGraph<48> {
         io.re(23, t758);
         const V t759 = t747 - t750;
         io.im(23, t759);
-        // block of 8, multiplier 3
+        // complex block of 8, multiplier 3
         const V t760 = c2 * t734;
         const V t761 = c2 * t735;
         const V t762 = t760 + t761;
@@ -1086,17 +1086,17 @@ struct ComplexGraph<48> {
         const V t765 = c2 * t743;
         const V t766 = t765 - t764;
         const V t767 = t765 + t764;
-        // block of 2
+        // complex block of 2
         const V t768 = t730 + t739;
         const V t769 = t731 + t738;
         const V t770 = t730 - t739;
         const V t771 = t731 - t738;
-        // block of 2
+        // complex block of 2
         const V t772 = t763 + t766;
         const V t773 = t767 - t762;
         const V t774 = t763 - t766;
         const V t775 = t762 + t767;
-        // block of 2
+        // complex block of 2
         const V t776 = t768 + t772;
         io.re(41, t776);
         const V t777 = t769 + t773;
@@ -1105,7 +1105,7 @@ struct ComplexGraph<48> {
         io.re(17, t778);
         const V t779 = t769 - t773;
         io.im(17, t779);
-        // block of 2
+        // complex block of 2
         const V t780 = t770 + t775;
         io.re(5, t780);
         const V t781 = t771 + t774;

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 5.
 // Complex DFT of 5 points, direct symmetric form.
-// 18 additions, 14 subtractions, 16 multiplications (26 with `scale`); 4 constants; 16 values alive at most.
+// 18 additions, 14 subtractions, 16 multiplications (26 with `scale`); 4 constants; 15 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -16,7 +16,7 @@ struct ComplexGraph<5> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 5
+        // complex block of 5
         const V x1r = io.re(1);
         const V x4r = io.re(4);
         const V t0 = x1r + x4r;
@@ -50,18 +50,18 @@ struct ComplexGraph<5> {
         const V t18 = t16 - t17;
         const V t19 = t18 + x0i;
         const V t20 = c2 * t2;
-        const V t21 = c2 * t3;
-        const V t22 = c3 * t6;
-        const V t23 = c3 * t7;
-        const V t24 = t20 - t22;
-        const V t25 = t21 - t23;
+        const V t21 = c3 * t6;
+        const V t22 = t20 - t21;
+        const V t23 = c2 * t3;
+        const V t24 = c3 * t7;
+        const V t25 = t23 - t24;
         const V t26 = t15 + t25;
         io.re(1, t26);
-        const V t27 = t19 - t24;
+        const V t27 = t19 - t22;
         io.im(1, t27);
         const V t28 = t15 - t25;
         io.re(4, t28);
-        const V t29 = t19 + t24;
+        const V t29 = t19 + t22;
         io.im(4, t29);
         const V t30 = c1 * t0;
         const V t31 = x0r - t30;
@@ -72,18 +72,18 @@ struct ComplexGraph<5> {
         const V t36 = c0 * t5;
         const V t37 = t35 + t36;
         const V t38 = c3 * t2;
-        const V t39 = c3 * t3;
-        const V t40 = c2 * t6;
-        const V t41 = c2 * t7;
-        const V t42 = t38 + t40;
-        const V t43 = t39 + t41;
+        const V t39 = c2 * t6;
+        const V t40 = t38 + t39;
+        const V t41 = c3 * t3;
+        const V t42 = c2 * t7;
+        const V t43 = t41 + t42;
         const V t44 = t33 + t43;
         io.re(2, t44);
-        const V t45 = t37 - t42;
+        const V t45 = t37 - t40;
         io.im(2, t45);
         const V t46 = t33 - t43;
         io.re(3, t46);
-        const V t47 = t37 + t42;
+        const V t47 = t37 + t40;
         io.im(3, t47);
     }
 };

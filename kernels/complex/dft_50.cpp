@@ -32,7 +32,7 @@ struct ComplexGraph<50> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V x10r = io.re(10);
         const V x40r = io.re(40);
         const V t0 = x10r + x40r;
@@ -64,15 +64,15 @@ struct ComplexGraph<50> {
         const V t18 = t16 - t17;
         const V t19 = t18 + x0i;
         const V t20 = c2 * t2;
-        const V t21 = c2 * t3;
-        const V t22 = c3 * t6;
-        const V t23 = c3 * t7;
-        const V t24 = t20 - t22;
-        const V t25 = t21 - t23;
+        const V t21 = c3 * t6;
+        const V t22 = t20 - t21;
+        const V t23 = c2 * t3;
+        const V t24 = c3 * t7;
+        const V t25 = t23 - t24;
         const V t26 = t15 + t25;
-        const V t27 = t19 - t24;
+        const V t27 = t19 - t22;
         const V t28 = t15 - t25;
-        const V t29 = t19 + t24;
+        const V t29 = t19 + t22;
         const V t30 = c1 * t0;
         const V t31 = x0r - t30;
         const V t32 = c0 * t4;
@@ -82,16 +82,16 @@ struct ComplexGraph<50> {
         const V t36 = c0 * t5;
         const V t37 = t35 + t36;
         const V t38 = c3 * t2;
-        const V t39 = c3 * t3;
-        const V t40 = c2 * t6;
-        const V t41 = c2 * t7;
-        const V t42 = t38 + t40;
-        const V t43 = t39 + t41;
+        const V t39 = c2 * t6;
+        const V t40 = t38 + t39;
+        const V t41 = c3 * t3;
+        const V t42 = c2 * t7;
+        const V t43 = t41 + t42;
         const V t44 = t33 + t43;
-        const V t45 = t37 - t42;
+        const V t45 = t37 - t40;
         const V t46 = t33 - t43;
-        const V t47 = t37 + t42;
-        // block of 5, multiplier 2
+        const V t47 = t37 + t40;
+        // complex block of 5, multiplier 2
         const V x12r = io.re(12);
         const V x42r = io.re(42);
         const V t48 = x12r + x42r;
@@ -123,15 +123,15 @@ struct ComplexGraph<50> {
         const V t66 = t64 - t65;
         const V t67 = t66 + x2i;
         const V t68 = c2 * t50;
-        const V t69 = c2 * t51;
-        const V t70 = c3 * t54;
-        const V t71 = c3 * t55;
-        const V t72 = t68 - t70;
-        const V t73 = t69 - t71;
+        const V t69 = c3 * t54;
+        const V t70 = t68 - t69;
+        const V t71 = c2 * t51;
+        const V t72 = c3 * t55;
+        const V t73 = t71 - t72;
         const V t74 = t63 + t73;
-        const V t75 = t67 - t72;
+        const V t75 = t67 - t70;
         const V t76 = t63 - t73;
-        const V t77 = t67 + t72;
+        const V t77 = t67 + t70;
         const V t78 = c1 * t48;
         const V t79 = x2r - t78;
         const V t80 = c0 * t52;
@@ -141,16 +141,16 @@ struct ComplexGraph<50> {
         const V t84 = c0 * t53;
         const V t85 = t83 + t84;
         const V t86 = c3 * t50;
-        const V t87 = c3 * t51;
-        const V t88 = c2 * t54;
-        const V t89 = c2 * t55;
-        const V t90 = t86 + t88;
-        const V t91 = t87 + t89;
+        const V t87 = c2 * t54;
+        const V t88 = t86 + t87;
+        const V t89 = c3 * t51;
+        const V t90 = c2 * t55;
+        const V t91 = t89 + t90;
         const V t92 = t81 + t91;
-        const V t93 = t85 - t90;
+        const V t93 = t85 - t88;
         const V t94 = t81 - t91;
-        const V t95 = t85 + t90;
-        // block of 5, multiplier 2
+        const V t95 = t85 + t88;
+        // complex block of 5, multiplier 2
         const V x14r = io.re(14);
         const V x44r = io.re(44);
         const V t96 = x14r + x44r;
@@ -182,15 +182,15 @@ struct ComplexGraph<50> {
         const V t114 = t112 - t113;
         const V t115 = t114 + x4i;
         const V t116 = c2 * t98;
-        const V t117 = c2 * t99;
-        const V t118 = c3 * t102;
-        const V t119 = c3 * t103;
-        const V t120 = t116 - t118;
-        const V t121 = t117 - t119;
+        const V t117 = c3 * t102;
+        const V t118 = t116 - t117;
+        const V t119 = c2 * t99;
+        const V t120 = c3 * t103;
+        const V t121 = t119 - t120;
         const V t122 = t111 + t121;
-        const V t123 = t115 - t120;
+        const V t123 = t115 - t118;
         const V t124 = t111 - t121;
-        const V t125 = t115 + t120;
+        const V t125 = t115 + t118;
         const V t126 = c1 * t96;
         const V t127 = x4r - t126;
         const V t128 = c0 * t100;
@@ -200,16 +200,16 @@ struct ComplexGraph<50> {
         const V t132 = c0 * t101;
         const V t133 = t131 + t132;
         const V t134 = c3 * t98;
-        const V t135 = c3 * t99;
-        const V t136 = c2 * t102;
-        const V t137 = c2 * t103;
-        const V t138 = t134 + t136;
-        const V t139 = t135 + t137;
+        const V t135 = c2 * t102;
+        const V t136 = t134 + t135;
+        const V t137 = c3 * t99;
+        const V t138 = c2 * t103;
+        const V t139 = t137 + t138;
         const V t140 = t129 + t139;
-        const V t141 = t133 - t138;
+        const V t141 = t133 - t136;
         const V t142 = t129 - t139;
-        const V t143 = t133 + t138;
-        // block of 5, multiplier 2
+        const V t143 = t133 + t136;
+        // complex block of 5, multiplier 2
         const V x16r = io.re(16);
         const V x46r = io.re(46);
         const V t144 = x16r + x46r;
@@ -241,15 +241,15 @@ struct ComplexGraph<50> {
         const V t162 = t160 - t161;
         const V t163 = t162 + x6i;
         const V t164 = c2 * t146;
-        const V t165 = c2 * t147;
-        const V t166 = c3 * t150;
-        const V t167 = c3 * t151;
-        const V t168 = t164 - t166;
-        const V t169 = t165 - t167;
+        const V t165 = c3 * t150;
+        const V t166 = t164 - t165;
+        const V t167 = c2 * t147;
+        const V t168 = c3 * t151;
+        const V t169 = t167 - t168;
         const V t170 = t159 + t169;
-        const V t171 = t163 - t168;
+        const V t171 = t163 - t166;
         const V t172 = t159 - t169;
-        const V t173 = t163 + t168;
+        const V t173 = t163 + t166;
         const V t174 = c1 * t144;
         const V t175 = x6r - t174;
         const V t176 = c0 * t148;
@@ -259,16 +259,16 @@ struct ComplexGraph<50> {
         const V t180 = c0 * t149;
         const V t181 = t179 + t180;
         const V t182 = c3 * t146;
-        const V t183 = c3 * t147;
-        const V t184 = c2 * t150;
-        const V t185 = c2 * t151;
-        const V t186 = t182 + t184;
-        const V t187 = t183 + t185;
+        const V t183 = c2 * t150;
+        const V t184 = t182 + t183;
+        const V t185 = c3 * t147;
+        const V t186 = c2 * t151;
+        const V t187 = t185 + t186;
         const V t188 = t177 + t187;
-        const V t189 = t181 - t186;
+        const V t189 = t181 - t184;
         const V t190 = t177 - t187;
-        const V t191 = t181 + t186;
-        // block of 5, multiplier 2
+        const V t191 = t181 + t184;
+        // complex block of 5, multiplier 2
         const V x18r = io.re(18);
         const V x48r = io.re(48);
         const V t192 = x18r + x48r;
@@ -300,15 +300,15 @@ struct ComplexGraph<50> {
         const V t210 = t208 - t209;
         const V t211 = t210 + x8i;
         const V t212 = c2 * t194;
-        const V t213 = c2 * t195;
-        const V t214 = c3 * t198;
-        const V t215 = c3 * t199;
-        const V t216 = t212 - t214;
-        const V t217 = t213 - t215;
+        const V t213 = c3 * t198;
+        const V t214 = t212 - t213;
+        const V t215 = c2 * t195;
+        const V t216 = c3 * t199;
+        const V t217 = t215 - t216;
         const V t218 = t207 + t217;
-        const V t219 = t211 - t216;
+        const V t219 = t211 - t214;
         const V t220 = t207 - t217;
-        const V t221 = t211 + t216;
+        const V t221 = t211 + t214;
         const V t222 = c1 * t192;
         const V t223 = x8r - t222;
         const V t224 = c0 * t196;
@@ -318,16 +318,16 @@ struct ComplexGraph<50> {
         const V t228 = c0 * t197;
         const V t229 = t227 + t228;
         const V t230 = c3 * t194;
-        const V t231 = c3 * t195;
-        const V t232 = c2 * t198;
-        const V t233 = c2 * t199;
-        const V t234 = t230 + t232;
-        const V t235 = t231 + t233;
+        const V t231 = c2 * t198;
+        const V t232 = t230 + t231;
+        const V t233 = c3 * t195;
+        const V t234 = c2 * t199;
+        const V t235 = t233 + t234;
         const V t236 = t225 + t235;
-        const V t237 = t229 - t234;
+        const V t237 = t229 - t232;
         const V t238 = t225 - t235;
-        const V t239 = t229 + t234;
-        // block of 5, multiplier 2
+        const V t239 = t229 + t232;
+        // complex block of 5, multiplier 2
         const V t240 = t58 + t202;
         const V t241 = t59 + t203;
         const V t242 = t58 - t202;
@@ -349,15 +349,15 @@ struct ComplexGraph<50> {
         const V t258 = t256 - t257;
         const V t259 = t258 + t11;
         const V t260 = c2 * t242;
-        const V t261 = c2 * t243;
-        const V t262 = c3 * t246;
-        const V t263 = c3 * t247;
-        const V t264 = t260 - t262;
-        const V t265 = t261 - t263;
+        const V t261 = c3 * t246;
+        const V t262 = t260 - t261;
+        const V t263 = c2 * t243;
+        const V t264 = c3 * t247;
+        const V t265 = t263 - t264;
         const V t266 = t255 + t265;
-        const V t267 = t259 - t264;
+        const V t267 = t259 - t262;
         const V t268 = t255 - t265;
-        const V t269 = t259 + t264;
+        const V t269 = t259 + t262;
         const V t270 = c1 * t240;
         const V t271 = t10 - t270;
         const V t272 = c0 * t244;
@@ -367,16 +367,16 @@ struct ComplexGraph<50> {
         const V t276 = c0 * t245;
         const V t277 = t275 + t276;
         const V t278 = c3 * t242;
-        const V t279 = c3 * t243;
-        const V t280 = c2 * t246;
-        const V t281 = c2 * t247;
-        const V t282 = t278 + t280;
-        const V t283 = t279 + t281;
+        const V t279 = c2 * t246;
+        const V t280 = t278 + t279;
+        const V t281 = c3 * t243;
+        const V t282 = c2 * t247;
+        const V t283 = t281 + t282;
         const V t284 = t273 + t283;
-        const V t285 = t277 - t282;
+        const V t285 = t277 - t280;
         const V t286 = t273 - t283;
-        const V t287 = t277 + t282;
-        // block of 25, multiplier 2
+        const V t287 = t277 + t280;
+        // complex block of 25, multiplier 2
         const V t288 = c4 * t93;
         const V t289 = c5 * t92;
         const V t290 = t289 + t288;
@@ -401,7 +401,7 @@ struct ComplexGraph<50> {
         const V t309 = c10 * t236;
         const V t310 = c11 * t237;
         const V t311 = t310 + t309;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t312 = t290 + t308;
         const V t313 = t293 - t311;
         const V t314 = t290 - t308;
@@ -423,15 +423,15 @@ struct ComplexGraph<50> {
         const V t330 = t328 - t329;
         const V t331 = t330 + t45;
         const V t332 = c2 * t314;
-        const V t333 = c2 * t315;
-        const V t334 = c3 * t318;
-        const V t335 = c3 * t319;
-        const V t336 = t332 - t334;
-        const V t337 = t333 - t335;
+        const V t333 = c3 * t318;
+        const V t334 = t332 - t333;
+        const V t335 = c2 * t315;
+        const V t336 = c3 * t319;
+        const V t337 = t335 - t336;
         const V t338 = t327 + t337;
-        const V t339 = t331 - t336;
+        const V t339 = t331 - t334;
         const V t340 = t327 - t337;
-        const V t341 = t331 + t336;
+        const V t341 = t331 + t334;
         const V t342 = c1 * t312;
         const V t343 = t44 - t342;
         const V t344 = c0 * t316;
@@ -441,16 +441,16 @@ struct ComplexGraph<50> {
         const V t348 = c0 * t317;
         const V t349 = t347 + t348;
         const V t350 = c3 * t314;
-        const V t351 = c3 * t315;
-        const V t352 = c2 * t318;
-        const V t353 = c2 * t319;
-        const V t354 = t350 + t352;
-        const V t355 = t351 + t353;
+        const V t351 = c2 * t318;
+        const V t352 = t350 + t351;
+        const V t353 = c3 * t315;
+        const V t354 = c2 * t319;
+        const V t355 = t353 + t354;
         const V t356 = t345 + t355;
-        const V t357 = t349 - t354;
+        const V t357 = t349 - t352;
         const V t358 = t345 - t355;
-        const V t359 = t349 + t354;
-        // block of 25, multiplier 2
+        const V t359 = t349 + t352;
+        // complex block of 25, multiplier 2
         const V t360 = c6 * t77;
         const V t361 = c7 * t76;
         const V t362 = t361 + t360;
@@ -475,7 +475,7 @@ struct ComplexGraph<50> {
         const V t381 = c14 * t220;
         const V t382 = c15 * t221;
         const V t383 = t381 - t382;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t384 = t362 - t380;
         const V t385 = t365 + t383;
         const V t386 = t362 + t380;
@@ -497,15 +497,15 @@ struct ComplexGraph<50> {
         const V t402 = t400 + t401;
         const V t403 = t402 + t29;
         const V t404 = c2 * t386;
-        const V t405 = c2 * t387;
-        const V t406 = c3 * t390;
-        const V t407 = c3 * t391;
-        const V t408 = t404 - t406;
-        const V t409 = t405 - t407;
+        const V t405 = c3 * t390;
+        const V t406 = t404 - t405;
+        const V t407 = c2 * t387;
+        const V t408 = c3 * t391;
+        const V t409 = t407 - t408;
         const V t410 = t399 + t409;
-        const V t411 = t403 - t408;
+        const V t411 = t403 - t406;
         const V t412 = t399 - t409;
-        const V t413 = t403 + t408;
+        const V t413 = t403 + t406;
         const V t414 = c1 * t384;
         const V t415 = t28 - t414;
         const V t416 = c0 * t388;
@@ -515,16 +515,16 @@ struct ComplexGraph<50> {
         const V t420 = c0 * t389;
         const V t421 = t419 - t420;
         const V t422 = c3 * t386;
-        const V t423 = c3 * t387;
-        const V t424 = c2 * t390;
-        const V t425 = c2 * t391;
-        const V t426 = t422 + t424;
-        const V t427 = t423 + t425;
+        const V t423 = c2 * t390;
+        const V t424 = t422 + t423;
+        const V t425 = c3 * t387;
+        const V t426 = c2 * t391;
+        const V t427 = t425 + t426;
         const V t428 = t417 + t427;
-        const V t429 = t421 - t426;
+        const V t429 = t421 - t424;
         const V t430 = t417 - t427;
-        const V t431 = t421 + t426;
-        // block of 25, multiplier 2
+        const V t431 = t421 + t424;
+        // complex block of 25, multiplier 2
         const V t432 = c8 * t75;
         const V t433 = c9 * t74;
         const V t434 = t433 + t432;
@@ -549,7 +549,7 @@ struct ComplexGraph<50> {
         const V t453 = c18 * t218;
         const V t454 = c19 * t219;
         const V t455 = t454 + t453;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t456 = t434 + t452;
         const V t457 = t437 + t455;
         const V t458 = t434 - t452;
@@ -571,15 +571,15 @@ struct ComplexGraph<50> {
         const V t474 = t472 - t473;
         const V t475 = t474 + t27;
         const V t476 = c2 * t458;
-        const V t477 = c2 * t459;
-        const V t478 = c3 * t462;
-        const V t479 = c3 * t463;
-        const V t480 = t476 + t478;
-        const V t481 = t477 - t479;
+        const V t477 = c3 * t462;
+        const V t478 = t476 + t477;
+        const V t479 = c2 * t459;
+        const V t480 = c3 * t463;
+        const V t481 = t479 - t480;
         const V t482 = t471 + t481;
-        const V t483 = t475 - t480;
+        const V t483 = t475 - t478;
         const V t484 = t471 - t481;
-        const V t485 = t475 + t480;
+        const V t485 = t475 + t478;
         const V t486 = c1 * t456;
         const V t487 = t26 - t486;
         const V t488 = c0 * t460;
@@ -589,16 +589,16 @@ struct ComplexGraph<50> {
         const V t492 = c0 * t461;
         const V t493 = t491 + t492;
         const V t494 = c3 * t458;
-        const V t495 = c3 * t459;
-        const V t496 = c2 * t462;
-        const V t497 = c2 * t463;
-        const V t498 = t494 - t496;
-        const V t499 = t495 + t497;
+        const V t495 = c2 * t462;
+        const V t496 = t494 - t495;
+        const V t497 = c3 * t459;
+        const V t498 = c2 * t463;
+        const V t499 = t497 + t498;
         const V t500 = t489 + t499;
-        const V t501 = t493 - t498;
+        const V t501 = t493 - t496;
         const V t502 = t489 - t499;
-        const V t503 = t493 + t498;
-        // block of 25, multiplier 2
+        const V t503 = t493 + t496;
+        // complex block of 25, multiplier 2
         const V t504 = c10 * t95;
         const V t505 = c11 * t94;
         const V t506 = t504 - t505;
@@ -623,7 +623,7 @@ struct ComplexGraph<50> {
         const V t525 = c16 * t238;
         const V t526 = c17 * t239;
         const V t527 = t526 + t525;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t528 = t506 + t524;
         const V t529 = t509 + t527;
         const V t530 = t506 - t524;
@@ -645,15 +645,15 @@ struct ComplexGraph<50> {
         const V t546 = c1 * t533;
         const V t547 = t545 - t546;
         const V t548 = c2 * t530;
-        const V t549 = c2 * t531;
-        const V t550 = c3 * t534;
-        const V t551 = c3 * t535;
-        const V t552 = t548 - t550;
-        const V t553 = t549 - t551;
+        const V t549 = c3 * t534;
+        const V t550 = t548 - t549;
+        const V t551 = c2 * t531;
+        const V t552 = c3 * t535;
+        const V t553 = t551 - t552;
         const V t554 = t543 + t553;
-        const V t555 = t547 - t552;
+        const V t555 = t547 - t550;
         const V t556 = t543 - t553;
-        const V t557 = t547 + t552;
+        const V t557 = t547 + t550;
         const V t558 = c1 * t528;
         const V t559 = t46 - t558;
         const V t560 = c0 * t532;
@@ -663,16 +663,16 @@ struct ComplexGraph<50> {
         const V t564 = t562 + t563;
         const V t565 = t564 + t47;
         const V t566 = c3 * t530;
-        const V t567 = c3 * t531;
-        const V t568 = c2 * t534;
-        const V t569 = c2 * t535;
-        const V t570 = t566 + t568;
-        const V t571 = t567 + t569;
+        const V t567 = c2 * t534;
+        const V t568 = t566 + t567;
+        const V t569 = c3 * t531;
+        const V t570 = c2 * t535;
+        const V t571 = t569 + t570;
         const V t572 = t561 + t571;
-        const V t573 = t565 - t570;
+        const V t573 = t565 - t568;
         const V t574 = t561 - t571;
-        const V t575 = t565 + t570;
-        // block of 5, multiplier 2
+        const V t575 = t565 + t568;
+        // complex block of 5, multiplier 2
         const V x35r = io.re(35);
         const V x15r = io.re(15);
         const V t576 = x35r + x15r;
@@ -704,15 +704,15 @@ struct ComplexGraph<50> {
         const V t594 = t592 - t593;
         const V t595 = t594 + x25i;
         const V t596 = c2 * t578;
-        const V t597 = c2 * t579;
-        const V t598 = c3 * t582;
-        const V t599 = c3 * t583;
-        const V t600 = t596 - t598;
-        const V t601 = t597 - t599;
+        const V t597 = c3 * t582;
+        const V t598 = t596 - t597;
+        const V t599 = c2 * t579;
+        const V t600 = c3 * t583;
+        const V t601 = t599 - t600;
         const V t602 = t591 + t601;
-        const V t603 = t595 - t600;
+        const V t603 = t595 - t598;
         const V t604 = t591 - t601;
-        const V t605 = t595 + t600;
+        const V t605 = t595 + t598;
         const V t606 = c1 * t576;
         const V t607 = x25r - t606;
         const V t608 = c0 * t580;
@@ -722,16 +722,16 @@ struct ComplexGraph<50> {
         const V t612 = c0 * t581;
         const V t613 = t611 + t612;
         const V t614 = c3 * t578;
-        const V t615 = c3 * t579;
-        const V t616 = c2 * t582;
-        const V t617 = c2 * t583;
-        const V t618 = t614 + t616;
-        const V t619 = t615 + t617;
+        const V t615 = c2 * t582;
+        const V t616 = t614 + t615;
+        const V t617 = c3 * t579;
+        const V t618 = c2 * t583;
+        const V t619 = t617 + t618;
         const V t620 = t609 + t619;
-        const V t621 = t613 - t618;
+        const V t621 = t613 - t616;
         const V t622 = t609 - t619;
-        const V t623 = t613 + t618;
-        // block of 5, multiplier 2
+        const V t623 = t613 + t616;
+        // complex block of 5, multiplier 2
         const V x37r = io.re(37);
         const V x17r = io.re(17);
         const V t624 = x37r + x17r;
@@ -763,15 +763,15 @@ struct ComplexGraph<50> {
         const V t642 = t640 - t641;
         const V t643 = t642 + x27i;
         const V t644 = c2 * t626;
-        const V t645 = c2 * t627;
-        const V t646 = c3 * t630;
-        const V t647 = c3 * t631;
-        const V t648 = t644 - t646;
-        const V t649 = t645 - t647;
+        const V t645 = c3 * t630;
+        const V t646 = t644 - t645;
+        const V t647 = c2 * t627;
+        const V t648 = c3 * t631;
+        const V t649 = t647 - t648;
         const V t650 = t639 + t649;
-        const V t651 = t643 - t648;
+        const V t651 = t643 - t646;
         const V t652 = t639 - t649;
-        const V t653 = t643 + t648;
+        const V t653 = t643 + t646;
         const V t654 = c1 * t624;
         const V t655 = x27r - t654;
         const V t656 = c0 * t628;
@@ -781,16 +781,16 @@ struct ComplexGraph<50> {
         const V t660 = c0 * t629;
         const V t661 = t659 + t660;
         const V t662 = c3 * t626;
-        const V t663 = c3 * t627;
-        const V t664 = c2 * t630;
-        const V t665 = c2 * t631;
-        const V t666 = t662 + t664;
-        const V t667 = t663 + t665;
+        const V t663 = c2 * t630;
+        const V t664 = t662 + t663;
+        const V t665 = c3 * t627;
+        const V t666 = c2 * t631;
+        const V t667 = t665 + t666;
         const V t668 = t657 + t667;
-        const V t669 = t661 - t666;
+        const V t669 = t661 - t664;
         const V t670 = t657 - t667;
-        const V t671 = t661 + t666;
-        // block of 5, multiplier 2
+        const V t671 = t661 + t664;
+        // complex block of 5, multiplier 2
         const V x39r = io.re(39);
         const V x19r = io.re(19);
         const V t672 = x39r + x19r;
@@ -822,15 +822,15 @@ struct ComplexGraph<50> {
         const V t690 = t688 - t689;
         const V t691 = t690 + x29i;
         const V t692 = c2 * t674;
-        const V t693 = c2 * t675;
-        const V t694 = c3 * t678;
-        const V t695 = c3 * t679;
-        const V t696 = t692 - t694;
-        const V t697 = t693 - t695;
+        const V t693 = c3 * t678;
+        const V t694 = t692 - t693;
+        const V t695 = c2 * t675;
+        const V t696 = c3 * t679;
+        const V t697 = t695 - t696;
         const V t698 = t687 + t697;
-        const V t699 = t691 - t696;
+        const V t699 = t691 - t694;
         const V t700 = t687 - t697;
-        const V t701 = t691 + t696;
+        const V t701 = t691 + t694;
         const V t702 = c1 * t672;
         const V t703 = x29r - t702;
         const V t704 = c0 * t676;
@@ -840,16 +840,16 @@ struct ComplexGraph<50> {
         const V t708 = c0 * t677;
         const V t709 = t707 + t708;
         const V t710 = c3 * t674;
-        const V t711 = c3 * t675;
-        const V t712 = c2 * t678;
-        const V t713 = c2 * t679;
-        const V t714 = t710 + t712;
-        const V t715 = t711 + t713;
+        const V t711 = c2 * t678;
+        const V t712 = t710 + t711;
+        const V t713 = c3 * t675;
+        const V t714 = c2 * t679;
+        const V t715 = t713 + t714;
         const V t716 = t705 + t715;
-        const V t717 = t709 - t714;
+        const V t717 = t709 - t712;
         const V t718 = t705 - t715;
-        const V t719 = t709 + t714;
-        // block of 5, multiplier 2
+        const V t719 = t709 + t712;
+        // complex block of 5, multiplier 2
         const V x41r = io.re(41);
         const V x21r = io.re(21);
         const V t720 = x41r + x21r;
@@ -881,15 +881,15 @@ struct ComplexGraph<50> {
         const V t738 = t736 - t737;
         const V t739 = t738 + x31i;
         const V t740 = c2 * t722;
-        const V t741 = c2 * t723;
-        const V t742 = c3 * t726;
-        const V t743 = c3 * t727;
-        const V t744 = t740 - t742;
-        const V t745 = t741 - t743;
+        const V t741 = c3 * t726;
+        const V t742 = t740 - t741;
+        const V t743 = c2 * t723;
+        const V t744 = c3 * t727;
+        const V t745 = t743 - t744;
         const V t746 = t735 + t745;
-        const V t747 = t739 - t744;
+        const V t747 = t739 - t742;
         const V t748 = t735 - t745;
-        const V t749 = t739 + t744;
+        const V t749 = t739 + t742;
         const V t750 = c1 * t720;
         const V t751 = x31r - t750;
         const V t752 = c0 * t724;
@@ -899,16 +899,16 @@ struct ComplexGraph<50> {
         const V t756 = c0 * t725;
         const V t757 = t755 + t756;
         const V t758 = c3 * t722;
-        const V t759 = c3 * t723;
-        const V t760 = c2 * t726;
-        const V t761 = c2 * t727;
-        const V t762 = t758 + t760;
-        const V t763 = t759 + t761;
+        const V t759 = c2 * t726;
+        const V t760 = t758 + t759;
+        const V t761 = c3 * t723;
+        const V t762 = c2 * t727;
+        const V t763 = t761 + t762;
         const V t764 = t753 + t763;
-        const V t765 = t757 - t762;
+        const V t765 = t757 - t760;
         const V t766 = t753 - t763;
-        const V t767 = t757 + t762;
-        // block of 5, multiplier 2
+        const V t767 = t757 + t760;
+        // complex block of 5, multiplier 2
         const V x43r = io.re(43);
         const V x23r = io.re(23);
         const V t768 = x43r + x23r;
@@ -940,15 +940,15 @@ struct ComplexGraph<50> {
         const V t786 = t784 - t785;
         const V t787 = t786 + x33i;
         const V t788 = c2 * t770;
-        const V t789 = c2 * t771;
-        const V t790 = c3 * t774;
-        const V t791 = c3 * t775;
-        const V t792 = t788 - t790;
-        const V t793 = t789 - t791;
+        const V t789 = c3 * t774;
+        const V t790 = t788 - t789;
+        const V t791 = c2 * t771;
+        const V t792 = c3 * t775;
+        const V t793 = t791 - t792;
         const V t794 = t783 + t793;
-        const V t795 = t787 - t792;
+        const V t795 = t787 - t790;
         const V t796 = t783 - t793;
-        const V t797 = t787 + t792;
+        const V t797 = t787 + t790;
         const V t798 = c1 * t768;
         const V t799 = x33r - t798;
         const V t800 = c0 * t772;
@@ -958,16 +958,16 @@ struct ComplexGraph<50> {
         const V t804 = c0 * t773;
         const V t805 = t803 + t804;
         const V t806 = c3 * t770;
-        const V t807 = c3 * t771;
-        const V t808 = c2 * t774;
-        const V t809 = c2 * t775;
-        const V t810 = t806 + t808;
-        const V t811 = t807 + t809;
+        const V t807 = c2 * t774;
+        const V t808 = t806 + t807;
+        const V t809 = c3 * t771;
+        const V t810 = c2 * t775;
+        const V t811 = t809 + t810;
         const V t812 = t801 + t811;
-        const V t813 = t805 - t810;
+        const V t813 = t805 - t808;
         const V t814 = t801 - t811;
-        const V t815 = t805 + t810;
-        // block of 5, multiplier 2
+        const V t815 = t805 + t808;
+        // complex block of 5, multiplier 2
         const V t816 = t634 + t778;
         const V t817 = t635 + t779;
         const V t818 = t634 - t778;
@@ -989,15 +989,15 @@ struct ComplexGraph<50> {
         const V t834 = t832 - t833;
         const V t835 = t834 + t587;
         const V t836 = c2 * t818;
-        const V t837 = c2 * t819;
-        const V t838 = c3 * t822;
-        const V t839 = c3 * t823;
-        const V t840 = t836 - t838;
-        const V t841 = t837 - t839;
+        const V t837 = c3 * t822;
+        const V t838 = t836 - t837;
+        const V t839 = c2 * t819;
+        const V t840 = c3 * t823;
+        const V t841 = t839 - t840;
         const V t842 = t831 + t841;
-        const V t843 = t835 - t840;
+        const V t843 = t835 - t838;
         const V t844 = t831 - t841;
-        const V t845 = t835 + t840;
+        const V t845 = t835 + t838;
         const V t846 = c1 * t816;
         const V t847 = t586 - t846;
         const V t848 = c0 * t820;
@@ -1007,16 +1007,16 @@ struct ComplexGraph<50> {
         const V t852 = c0 * t821;
         const V t853 = t851 + t852;
         const V t854 = c3 * t818;
-        const V t855 = c3 * t819;
-        const V t856 = c2 * t822;
-        const V t857 = c2 * t823;
-        const V t858 = t854 + t856;
-        const V t859 = t855 + t857;
+        const V t855 = c2 * t822;
+        const V t856 = t854 + t855;
+        const V t857 = c3 * t819;
+        const V t858 = c2 * t823;
+        const V t859 = t857 + t858;
         const V t860 = t849 + t859;
-        const V t861 = t853 - t858;
+        const V t861 = t853 - t856;
         const V t862 = t849 - t859;
-        const V t863 = t853 + t858;
-        // block of 25, multiplier 2
+        const V t863 = t853 + t856;
+        // complex block of 25, multiplier 2
         const V t864 = c4 * t669;
         const V t865 = c5 * t668;
         const V t866 = t865 + t864;
@@ -1041,7 +1041,7 @@ struct ComplexGraph<50> {
         const V t885 = c10 * t812;
         const V t886 = c11 * t813;
         const V t887 = t886 + t885;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t888 = t866 + t884;
         const V t889 = t869 - t887;
         const V t890 = t866 - t884;
@@ -1063,15 +1063,15 @@ struct ComplexGraph<50> {
         const V t906 = t904 - t905;
         const V t907 = t906 + t621;
         const V t908 = c2 * t890;
-        const V t909 = c2 * t891;
-        const V t910 = c3 * t894;
-        const V t911 = c3 * t895;
-        const V t912 = t908 - t910;
-        const V t913 = t909 - t911;
+        const V t909 = c3 * t894;
+        const V t910 = t908 - t909;
+        const V t911 = c2 * t891;
+        const V t912 = c3 * t895;
+        const V t913 = t911 - t912;
         const V t914 = t903 + t913;
-        const V t915 = t907 - t912;
+        const V t915 = t907 - t910;
         const V t916 = t903 - t913;
-        const V t917 = t907 + t912;
+        const V t917 = t907 + t910;
         const V t918 = c1 * t888;
         const V t919 = t620 - t918;
         const V t920 = c0 * t892;
@@ -1081,16 +1081,16 @@ struct ComplexGraph<50> {
         const V t924 = c0 * t893;
         const V t925 = t923 + t924;
         const V t926 = c3 * t890;
-        const V t927 = c3 * t891;
-        const V t928 = c2 * t894;
-        const V t929 = c2 * t895;
-        const V t930 = t926 + t928;
-        const V t931 = t927 + t929;
+        const V t927 = c2 * t894;
+        const V t928 = t926 + t927;
+        const V t929 = c3 * t891;
+        const V t930 = c2 * t895;
+        const V t931 = t929 + t930;
         const V t932 = t921 + t931;
-        const V t933 = t925 - t930;
+        const V t933 = t925 - t928;
         const V t934 = t921 - t931;
-        const V t935 = t925 + t930;
-        // block of 25, multiplier 2
+        const V t935 = t925 + t928;
+        // complex block of 25, multiplier 2
         const V t936 = c6 * t653;
         const V t937 = c7 * t652;
         const V t938 = t937 + t936;
@@ -1115,7 +1115,7 @@ struct ComplexGraph<50> {
         const V t957 = c14 * t796;
         const V t958 = c15 * t797;
         const V t959 = t957 - t958;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t960 = t938 - t956;
         const V t961 = t941 + t959;
         const V t962 = t938 + t956;
@@ -1137,15 +1137,15 @@ struct ComplexGraph<50> {
         const V t978 = t976 + t977;
         const V t979 = t978 + t605;
         const V t980 = c2 * t962;
-        const V t981 = c2 * t963;
-        const V t982 = c3 * t966;
-        const V t983 = c3 * t967;
-        const V t984 = t980 - t982;
-        const V t985 = t981 - t983;
+        const V t981 = c3 * t966;
+        const V t982 = t980 - t981;
+        const V t983 = c2 * t963;
+        const V t984 = c3 * t967;
+        const V t985 = t983 - t984;
         const V t986 = t975 + t985;
-        const V t987 = t979 - t984;
+        const V t987 = t979 - t982;
         const V t988 = t975 - t985;
-        const V t989 = t979 + t984;
+        const V t989 = t979 + t982;
         const V t990 = c1 * t960;
         const V t991 = t604 - t990;
         const V t992 = c0 * t964;
@@ -1155,16 +1155,16 @@ struct ComplexGraph<50> {
         const V t996 = c0 * t965;
         const V t997 = t995 - t996;
         const V t998 = c3 * t962;
-        const V t999 = c3 * t963;
-        const V t1000 = c2 * t966;
-        const V t1001 = c2 * t967;
-        const V t1002 = t998 + t1000;
-        const V t1003 = t999 + t1001;
+        const V t999 = c2 * t966;
+        const V t1000 = t998 + t999;
+        const V t1001 = c3 * t963;
+        const V t1002 = c2 * t967;
+        const V t1003 = t1001 + t1002;
         const V t1004 = t993 + t1003;
-        const V t1005 = t997 - t1002;
+        const V t1005 = t997 - t1000;
         const V t1006 = t993 - t1003;
-        const V t1007 = t997 + t1002;
-        // block of 25, multiplier 2
+        const V t1007 = t997 + t1000;
+        // complex block of 25, multiplier 2
         const V t1008 = c8 * t651;
         const V t1009 = c9 * t650;
         const V t1010 = t1009 + t1008;
@@ -1189,7 +1189,7 @@ struct ComplexGraph<50> {
         const V t1029 = c18 * t794;
         const V t1030 = c19 * t795;
         const V t1031 = t1030 + t1029;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t1032 = t1010 + t1028;
         const V t1033 = t1013 + t1031;
         const V t1034 = t1010 - t1028;
@@ -1211,15 +1211,15 @@ struct ComplexGraph<50> {
         const V t1050 = t1048 - t1049;
         const V t1051 = t1050 + t603;
         const V t1052 = c2 * t1034;
-        const V t1053 = c2 * t1035;
-        const V t1054 = c3 * t1038;
-        const V t1055 = c3 * t1039;
-        const V t1056 = t1052 + t1054;
-        const V t1057 = t1053 - t1055;
+        const V t1053 = c3 * t1038;
+        const V t1054 = t1052 + t1053;
+        const V t1055 = c2 * t1035;
+        const V t1056 = c3 * t1039;
+        const V t1057 = t1055 - t1056;
         const V t1058 = t1047 + t1057;
-        const V t1059 = t1051 - t1056;
+        const V t1059 = t1051 - t1054;
         const V t1060 = t1047 - t1057;
-        const V t1061 = t1051 + t1056;
+        const V t1061 = t1051 + t1054;
         const V t1062 = c1 * t1032;
         const V t1063 = t602 - t1062;
         const V t1064 = c0 * t1036;
@@ -1229,16 +1229,16 @@ struct ComplexGraph<50> {
         const V t1068 = c0 * t1037;
         const V t1069 = t1067 + t1068;
         const V t1070 = c3 * t1034;
-        const V t1071 = c3 * t1035;
-        const V t1072 = c2 * t1038;
-        const V t1073 = c2 * t1039;
-        const V t1074 = t1070 - t1072;
-        const V t1075 = t1071 + t1073;
+        const V t1071 = c2 * t1038;
+        const V t1072 = t1070 - t1071;
+        const V t1073 = c3 * t1035;
+        const V t1074 = c2 * t1039;
+        const V t1075 = t1073 + t1074;
         const V t1076 = t1065 + t1075;
-        const V t1077 = t1069 - t1074;
+        const V t1077 = t1069 - t1072;
         const V t1078 = t1065 - t1075;
-        const V t1079 = t1069 + t1074;
-        // block of 25, multiplier 2
+        const V t1079 = t1069 + t1072;
+        // complex block of 25, multiplier 2
         const V t1080 = c10 * t671;
         const V t1081 = c11 * t670;
         const V t1082 = t1080 - t1081;
@@ -1263,7 +1263,7 @@ struct ComplexGraph<50> {
         const V t1101 = c16 * t814;
         const V t1102 = c17 * t815;
         const V t1103 = t1102 + t1101;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t1104 = t1082 + t1100;
         const V t1105 = t1085 + t1103;
         const V t1106 = t1082 - t1100;
@@ -1285,15 +1285,15 @@ struct ComplexGraph<50> {
         const V t1122 = c1 * t1109;
         const V t1123 = t1121 - t1122;
         const V t1124 = c2 * t1106;
-        const V t1125 = c2 * t1107;
-        const V t1126 = c3 * t1110;
-        const V t1127 = c3 * t1111;
-        const V t1128 = t1124 - t1126;
-        const V t1129 = t1125 - t1127;
+        const V t1125 = c3 * t1110;
+        const V t1126 = t1124 - t1125;
+        const V t1127 = c2 * t1107;
+        const V t1128 = c3 * t1111;
+        const V t1129 = t1127 - t1128;
         const V t1130 = t1119 + t1129;
-        const V t1131 = t1123 - t1128;
+        const V t1131 = t1123 - t1126;
         const V t1132 = t1119 - t1129;
-        const V t1133 = t1123 + t1128;
+        const V t1133 = t1123 + t1126;
         const V t1134 = c1 * t1104;
         const V t1135 = t622 - t1134;
         const V t1136 = c0 * t1108;
@@ -1303,16 +1303,16 @@ struct ComplexGraph<50> {
         const V t1140 = t1138 + t1139;
         const V t1141 = t1140 + t623;
         const V t1142 = c3 * t1106;
-        const V t1143 = c3 * t1107;
-        const V t1144 = c2 * t1110;
-        const V t1145 = c2 * t1111;
-        const V t1146 = t1142 + t1144;
-        const V t1147 = t1143 + t1145;
+        const V t1143 = c2 * t1110;
+        const V t1144 = t1142 + t1143;
+        const V t1145 = c3 * t1107;
+        const V t1146 = c2 * t1111;
+        const V t1147 = t1145 + t1146;
         const V t1148 = t1137 + t1147;
-        const V t1149 = t1141 - t1146;
+        const V t1149 = t1141 - t1144;
         const V t1150 = t1137 - t1147;
-        const V t1151 = t1141 + t1146;
-        // block of 2
+        const V t1151 = t1141 + t1144;
+        // complex block of 2
         const V t1152 = t250 + t826;
         io.re(0, t1152);
         const V t1153 = t251 + t827;
@@ -1321,7 +1321,7 @@ struct ComplexGraph<50> {
         io.re(25, t1154);
         const V t1155 = t251 - t827;
         io.im(25, t1155);
-        // block of 2
+        // complex block of 2
         const V t1156 = t322 + t898;
         io.re(2, t1156);
         const V t1157 = t323 + t899;
@@ -1330,7 +1330,7 @@ struct ComplexGraph<50> {
         io.re(27, t1158);
         const V t1159 = t323 - t899;
         io.im(27, t1159);
-        // block of 2
+        // complex block of 2
         const V t1160 = t394 + t970;
         io.re(4, t1160);
         const V t1161 = t395 + t971;
@@ -1339,7 +1339,7 @@ struct ComplexGraph<50> {
         io.re(29, t1162);
         const V t1163 = t395 - t971;
         io.im(29, t1163);
-        // block of 2
+        // complex block of 2
         const V t1164 = t466 + t1042;
         io.re(6, t1164);
         const V t1165 = t467 + t1043;
@@ -1348,7 +1348,7 @@ struct ComplexGraph<50> {
         io.re(31, t1166);
         const V t1167 = t467 - t1043;
         io.im(31, t1167);
-        // block of 2
+        // complex block of 2
         const V t1168 = t538 + t1114;
         io.re(8, t1168);
         const V t1169 = t539 + t1115;
@@ -1357,7 +1357,7 @@ struct ComplexGraph<50> {
         io.re(33, t1170);
         const V t1171 = t539 - t1115;
         io.im(33, t1171);
-        // block of 2
+        // complex block of 2
         const V t1172 = t284 + t860;
         io.re(10, t1172);
         const V t1173 = t285 + t861;
@@ -1366,7 +1366,7 @@ struct ComplexGraph<50> {
         io.re(35, t1174);
         const V t1175 = t285 - t861;
         io.im(35, t1175);
-        // block of 2
+        // complex block of 2
         const V t1176 = t356 + t932;
         io.re(12, t1176);
         const V t1177 = t357 + t933;
@@ -1375,7 +1375,7 @@ struct ComplexGraph<50> {
         io.re(37, t1178);
         const V t1179 = t357 - t933;
         io.im(37, t1179);
-        // block of 2
+        // complex block of 2
         const V t1180 = t428 + t1004;
         io.re(14, t1180);
         const V t1181 = t429 + t1005;
@@ -1384,7 +1384,7 @@ struct ComplexGraph<50> {
         io.re(39, t1182);
         const V t1183 = t429 - t1005;
         io.im(39, t1183);
-        // block of 2
+        // complex block of 2
         const V t1184 = t500 + t1076;
         io.re(16, t1184);
         const V t1185 = t501 + t1077;
@@ -1393,7 +1393,7 @@ struct ComplexGraph<50> {
         io.re(41, t1186);
         const V t1187 = t501 - t1077;
         io.im(41, t1187);
-        // block of 2
+        // complex block of 2
         const V t1188 = t572 + t1148;
         io.re(18, t1188);
         const V t1189 = t573 + t1149;
@@ -1402,7 +1402,7 @@ struct ComplexGraph<50> {
         io.re(43, t1190);
         const V t1191 = t573 - t1149;
         io.im(43, t1191);
-        // block of 2
+        // complex block of 2
         const V t1192 = t268 + t844;
         io.re(20, t1192);
         const V t1193 = t269 + t845;
@@ -1411,7 +1411,7 @@ struct ComplexGraph<50> {
         io.re(45, t1194);
         const V t1195 = t269 - t845;
         io.im(45, t1195);
-        // block of 2
+        // complex block of 2
         const V t1196 = t340 + t916;
         io.re(22, t1196);
         const V t1197 = t341 + t917;
@@ -1420,7 +1420,7 @@ struct ComplexGraph<50> {
         io.re(47, t1198);
         const V t1199 = t341 - t917;
         io.im(47, t1199);
-        // block of 2
+        // complex block of 2
         const V t1200 = t412 + t988;
         io.re(24, t1200);
         const V t1201 = t413 + t989;
@@ -1429,7 +1429,7 @@ struct ComplexGraph<50> {
         io.re(49, t1202);
         const V t1203 = t413 - t989;
         io.im(49, t1203);
-        // block of 2
+        // complex block of 2
         const V t1204 = t484 + t1060;
         io.re(26, t1204);
         const V t1205 = t485 + t1061;
@@ -1438,7 +1438,7 @@ struct ComplexGraph<50> {
         io.re(1, t1206);
         const V t1207 = t485 - t1061;
         io.im(1, t1207);
-        // block of 2
+        // complex block of 2
         const V t1208 = t556 + t1132;
         io.re(28, t1208);
         const V t1209 = t557 + t1133;
@@ -1447,7 +1447,7 @@ struct ComplexGraph<50> {
         io.re(3, t1210);
         const V t1211 = t557 - t1133;
         io.im(3, t1211);
-        // block of 2
+        // complex block of 2
         const V t1212 = t266 + t842;
         io.re(30, t1212);
         const V t1213 = t267 + t843;
@@ -1456,7 +1456,7 @@ struct ComplexGraph<50> {
         io.re(5, t1214);
         const V t1215 = t267 - t843;
         io.im(5, t1215);
-        // block of 2
+        // complex block of 2
         const V t1216 = t338 + t914;
         io.re(32, t1216);
         const V t1217 = t339 + t915;
@@ -1465,7 +1465,7 @@ struct ComplexGraph<50> {
         io.re(7, t1218);
         const V t1219 = t339 - t915;
         io.im(7, t1219);
-        // block of 2
+        // complex block of 2
         const V t1220 = t410 + t986;
         io.re(34, t1220);
         const V t1221 = t411 + t987;
@@ -1474,7 +1474,7 @@ struct ComplexGraph<50> {
         io.re(9, t1222);
         const V t1223 = t411 - t987;
         io.im(9, t1223);
-        // block of 2
+        // complex block of 2
         const V t1224 = t482 + t1058;
         io.re(36, t1224);
         const V t1225 = t483 + t1059;
@@ -1483,7 +1483,7 @@ struct ComplexGraph<50> {
         io.re(11, t1226);
         const V t1227 = t483 - t1059;
         io.im(11, t1227);
-        // block of 2
+        // complex block of 2
         const V t1228 = t554 + t1130;
         io.re(38, t1228);
         const V t1229 = t555 + t1131;
@@ -1492,7 +1492,7 @@ struct ComplexGraph<50> {
         io.re(13, t1230);
         const V t1231 = t555 - t1131;
         io.im(13, t1231);
-        // block of 2
+        // complex block of 2
         const V t1232 = t286 + t862;
         io.re(40, t1232);
         const V t1233 = t287 + t863;
@@ -1501,7 +1501,7 @@ struct ComplexGraph<50> {
         io.re(15, t1234);
         const V t1235 = t287 - t863;
         io.im(15, t1235);
-        // block of 2
+        // complex block of 2
         const V t1236 = t358 + t934;
         io.re(42, t1236);
         const V t1237 = t359 + t935;
@@ -1510,7 +1510,7 @@ struct ComplexGraph<50> {
         io.re(17, t1238);
         const V t1239 = t359 - t935;
         io.im(17, t1239);
-        // block of 2
+        // complex block of 2
         const V t1240 = t430 + t1006;
         io.re(44, t1240);
         const V t1241 = t431 + t1007;
@@ -1519,7 +1519,7 @@ struct ComplexGraph<50> {
         io.re(19, t1242);
         const V t1243 = t431 - t1007;
         io.im(19, t1243);
-        // block of 2
+        // complex block of 2
         const V t1244 = t502 + t1078;
         io.re(46, t1244);
         const V t1245 = t503 + t1079;
@@ -1528,7 +1528,7 @@ struct ComplexGraph<50> {
         io.re(21, t1246);
         const V t1247 = t503 - t1079;
         io.im(21, t1247);
-        // block of 2
+        // complex block of 2
         const V t1248 = t574 + t1150;
         io.re(48, t1248);
         const V t1249 = t575 + t1151;

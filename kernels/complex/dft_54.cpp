@@ -38,7 +38,7 @@ struct ComplexGraph<54> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x18r = io.re(18);
         const V x36r = io.re(36);
         const V t0 = x18r + x36r;
@@ -61,7 +61,7 @@ struct ComplexGraph<54> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x24r = io.re(24);
         const V x42r = io.re(42);
         const V t16 = x24r + x42r;
@@ -84,7 +84,7 @@ struct ComplexGraph<54> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x30r = io.re(30);
         const V x48r = io.re(48);
         const V t32 = x30r + x48r;
@@ -107,7 +107,7 @@ struct ComplexGraph<54> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t48 = t20 + t36;
         const V t49 = t21 + t37;
         const V t50 = t20 - t36;
@@ -124,7 +124,7 @@ struct ComplexGraph<54> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t64 = c2 * t31;
         const V t65 = c3 * t30;
         const V t66 = t65 + t64;
@@ -137,7 +137,7 @@ struct ComplexGraph<54> {
         const V t73 = c4 * t46;
         const V t74 = c5 * t47;
         const V t75 = t74 + t73;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t76 = t66 + t72;
         const V t77 = t69 - t75;
         const V t78 = t66 - t72;
@@ -154,7 +154,7 @@ struct ComplexGraph<54> {
         const V t89 = t85 - t86;
         const V t90 = t83 - t87;
         const V t91 = t85 + t86;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t92 = c4 * t29;
         const V t93 = c5 * t28;
         const V t94 = t92 - t93;
@@ -167,7 +167,7 @@ struct ComplexGraph<54> {
         const V t101 = c6 * t44;
         const V t102 = c7 * t45;
         const V t103 = t102 + t101;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t104 = t94 + t100;
         const V t105 = t103 - t97;
         const V t106 = t94 - t100;
@@ -184,7 +184,7 @@ struct ComplexGraph<54> {
         const V t117 = t113 - t114;
         const V t118 = t111 + t115;
         const V t119 = t113 + t114;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x20r = io.re(20);
         const V x38r = io.re(38);
         const V t120 = x20r + x38r;
@@ -207,7 +207,7 @@ struct ComplexGraph<54> {
         const V t133 = t129 - t130;
         const V t134 = t127 - t131;
         const V t135 = t129 + t130;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x26r = io.re(26);
         const V x44r = io.re(44);
         const V t136 = x26r + x44r;
@@ -230,7 +230,7 @@ struct ComplexGraph<54> {
         const V t149 = t145 - t146;
         const V t150 = t143 - t147;
         const V t151 = t145 + t146;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x32r = io.re(32);
         const V x50r = io.re(50);
         const V t152 = x32r + x50r;
@@ -253,7 +253,7 @@ struct ComplexGraph<54> {
         const V t165 = t161 - t162;
         const V t166 = t159 - t163;
         const V t167 = t161 + t162;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t168 = t140 + t156;
         const V t169 = t141 + t157;
         const V t170 = t140 - t156;
@@ -270,7 +270,7 @@ struct ComplexGraph<54> {
         const V t181 = t177 - t178;
         const V t182 = t175 - t179;
         const V t183 = t177 + t178;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t184 = c2 * t151;
         const V t185 = c3 * t150;
         const V t186 = t185 + t184;
@@ -283,7 +283,7 @@ struct ComplexGraph<54> {
         const V t193 = c4 * t166;
         const V t194 = c5 * t167;
         const V t195 = t194 + t193;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t196 = t186 + t192;
         const V t197 = t189 - t195;
         const V t198 = t186 - t192;
@@ -300,7 +300,7 @@ struct ComplexGraph<54> {
         const V t209 = t205 - t206;
         const V t210 = t203 - t207;
         const V t211 = t205 + t206;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t212 = c4 * t149;
         const V t213 = c5 * t148;
         const V t214 = t212 - t213;
@@ -313,7 +313,7 @@ struct ComplexGraph<54> {
         const V t221 = c6 * t164;
         const V t222 = c7 * t165;
         const V t223 = t222 + t221;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t224 = t214 + t220;
         const V t225 = t223 - t217;
         const V t226 = t214 - t220;
@@ -330,7 +330,7 @@ struct ComplexGraph<54> {
         const V t237 = t233 - t234;
         const V t238 = t231 + t235;
         const V t239 = t233 + t234;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x22r = io.re(22);
         const V x40r = io.re(40);
         const V t240 = x22r + x40r;
@@ -353,7 +353,7 @@ struct ComplexGraph<54> {
         const V t253 = t249 - t250;
         const V t254 = t247 - t251;
         const V t255 = t249 + t250;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x28r = io.re(28);
         const V x46r = io.re(46);
         const V t256 = x28r + x46r;
@@ -376,7 +376,7 @@ struct ComplexGraph<54> {
         const V t269 = t265 - t266;
         const V t270 = t263 - t267;
         const V t271 = t265 + t266;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x34r = io.re(34);
         const V x52r = io.re(52);
         const V t272 = x34r + x52r;
@@ -399,7 +399,7 @@ struct ComplexGraph<54> {
         const V t285 = t281 - t282;
         const V t286 = t279 - t283;
         const V t287 = t281 + t282;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t288 = t260 + t276;
         const V t289 = t261 + t277;
         const V t290 = t260 - t276;
@@ -416,7 +416,7 @@ struct ComplexGraph<54> {
         const V t301 = t297 - t298;
         const V t302 = t295 - t299;
         const V t303 = t297 + t298;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t304 = c2 * t271;
         const V t305 = c3 * t270;
         const V t306 = t305 + t304;
@@ -429,7 +429,7 @@ struct ComplexGraph<54> {
         const V t313 = c4 * t286;
         const V t314 = c5 * t287;
         const V t315 = t314 + t313;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t316 = t306 + t312;
         const V t317 = t309 - t315;
         const V t318 = t306 - t312;
@@ -446,7 +446,7 @@ struct ComplexGraph<54> {
         const V t329 = t325 - t326;
         const V t330 = t323 - t327;
         const V t331 = t325 + t326;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t332 = c4 * t269;
         const V t333 = c5 * t268;
         const V t334 = t332 - t333;
@@ -459,7 +459,7 @@ struct ComplexGraph<54> {
         const V t341 = c6 * t284;
         const V t342 = c7 * t285;
         const V t343 = t342 + t341;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t344 = t334 + t340;
         const V t345 = t343 - t337;
         const V t346 = t334 - t340;
@@ -476,7 +476,7 @@ struct ComplexGraph<54> {
         const V t357 = t353 - t354;
         const V t358 = t351 + t355;
         const V t359 = t353 + t354;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t360 = t172 + t292;
         const V t361 = t173 + t293;
         const V t362 = t172 - t292;
@@ -493,7 +493,7 @@ struct ComplexGraph<54> {
         const V t373 = t369 - t370;
         const V t374 = t367 - t371;
         const V t375 = t369 + t370;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t376 = c8 * t201;
         const V t377 = c9 * t200;
         const V t378 = t377 + t376;
@@ -506,7 +506,7 @@ struct ComplexGraph<54> {
         const V t385 = c10 * t320;
         const V t386 = c11 * t321;
         const V t387 = t386 - t385;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t388 = t378 + t384;
         const V t389 = t381 + t387;
         const V t390 = t378 - t384;
@@ -523,7 +523,7 @@ struct ComplexGraph<54> {
         const V t401 = t397 - t398;
         const V t402 = t395 - t399;
         const V t403 = t397 + t398;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t404 = c10 * t229;
         const V t405 = c11 * t228;
         const V t406 = t405 + t404;
@@ -536,7 +536,7 @@ struct ComplexGraph<54> {
         const V t413 = c12 * t348;
         const V t414 = c13 * t349;
         const V t415 = t414 + t413;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t416 = t406 + t412;
         const V t417 = t409 - t415;
         const V t418 = t406 - t412;
@@ -553,7 +553,7 @@ struct ComplexGraph<54> {
         const V t429 = t425 - t426;
         const V t430 = t423 - t427;
         const V t431 = t425 + t426;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t432 = c2 * t183;
         const V t433 = c3 * t182;
         const V t434 = t433 + t432;
@@ -566,7 +566,7 @@ struct ComplexGraph<54> {
         const V t441 = c4 * t302;
         const V t442 = c5 * t303;
         const V t443 = t442 + t441;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t444 = t434 + t440;
         const V t445 = t437 - t443;
         const V t446 = t434 - t440;
@@ -583,7 +583,7 @@ struct ComplexGraph<54> {
         const V t457 = t453 - t454;
         const V t458 = t451 - t455;
         const V t459 = t453 + t454;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t460 = c12 * t211;
         const V t461 = c13 * t210;
         const V t462 = t460 - t461;
@@ -596,7 +596,7 @@ struct ComplexGraph<54> {
         const V t469 = c14 * t330;
         const V t470 = c15 * t331;
         const V t471 = t469 - t470;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t472 = t462 - t468;
         const V t473 = t471 - t465;
         const V t474 = t462 + t468;
@@ -613,7 +613,7 @@ struct ComplexGraph<54> {
         const V t485 = t481 - t482;
         const V t486 = t479 + t483;
         const V t487 = t481 + t482;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t488 = c16 * t239;
         const V t489 = c17 * t238;
         const V t490 = t488 - t489;
@@ -626,7 +626,7 @@ struct ComplexGraph<54> {
         const V t497 = c18 * t358;
         const V t498 = c19 * t359;
         const V t499 = t497 - t498;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t500 = t490 - t496;
         const V t501 = t499 - t493;
         const V t502 = t490 + t496;
@@ -643,7 +643,7 @@ struct ComplexGraph<54> {
         const V t513 = t509 - t510;
         const V t514 = t507 + t511;
         const V t515 = t509 + t510;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t516 = c4 * t181;
         const V t517 = c5 * t180;
         const V t518 = t516 - t517;
@@ -656,7 +656,7 @@ struct ComplexGraph<54> {
         const V t525 = c6 * t300;
         const V t526 = c7 * t301;
         const V t527 = t526 + t525;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t528 = t518 + t524;
         const V t529 = t527 - t521;
         const V t530 = t518 - t524;
@@ -673,7 +673,7 @@ struct ComplexGraph<54> {
         const V t541 = t537 - t538;
         const V t542 = t535 + t539;
         const V t543 = t537 + t538;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t544 = c20 * t209;
         const V t545 = c21 * t208;
         const V t546 = t545 + t544;
@@ -686,7 +686,7 @@ struct ComplexGraph<54> {
         const V t553 = c22 * t328;
         const V t554 = c23 * t329;
         const V t555 = t554 - t553;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t556 = t552 - t546;
         const V t557 = t549 + t555;
         const V t558 = t546 + t552;
@@ -703,7 +703,7 @@ struct ComplexGraph<54> {
         const V t569 = t565 + t566;
         const V t570 = t563 - t567;
         const V t571 = t565 - t566;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t572 = c14 * t237;
         const V t573 = c15 * t236;
         const V t574 = t573 + t572;
@@ -716,7 +716,7 @@ struct ComplexGraph<54> {
         const V t581 = c24 * t356;
         const V t582 = c25 * t357;
         const V t583 = t582 - t581;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t584 = t580 - t574;
         const V t585 = t577 + t583;
         const V t586 = t574 + t580;
@@ -733,7 +733,7 @@ struct ComplexGraph<54> {
         const V t597 = t593 + t594;
         const V t598 = t591 - t595;
         const V t599 = t593 - t594;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x45r = io.re(45);
         const V x9r = io.re(9);
         const V t600 = x45r + x9r;
@@ -756,7 +756,7 @@ struct ComplexGraph<54> {
         const V t613 = t609 - t610;
         const V t614 = t607 - t611;
         const V t615 = t609 + t610;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x51r = io.re(51);
         const V x15r = io.re(15);
         const V t616 = x51r + x15r;
@@ -779,7 +779,7 @@ struct ComplexGraph<54> {
         const V t629 = t625 - t626;
         const V t630 = t623 - t627;
         const V t631 = t625 + t626;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x3r = io.re(3);
         const V x21r = io.re(21);
         const V t632 = x3r + x21r;
@@ -802,7 +802,7 @@ struct ComplexGraph<54> {
         const V t645 = t641 - t642;
         const V t646 = t639 - t643;
         const V t647 = t641 + t642;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t648 = t620 + t636;
         const V t649 = t621 + t637;
         const V t650 = t620 - t636;
@@ -819,7 +819,7 @@ struct ComplexGraph<54> {
         const V t661 = t657 - t658;
         const V t662 = t655 - t659;
         const V t663 = t657 + t658;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t664 = c2 * t631;
         const V t665 = c3 * t630;
         const V t666 = t665 + t664;
@@ -832,7 +832,7 @@ struct ComplexGraph<54> {
         const V t673 = c4 * t646;
         const V t674 = c5 * t647;
         const V t675 = t674 + t673;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t676 = t666 + t672;
         const V t677 = t669 - t675;
         const V t678 = t666 - t672;
@@ -849,7 +849,7 @@ struct ComplexGraph<54> {
         const V t689 = t685 - t686;
         const V t690 = t683 - t687;
         const V t691 = t685 + t686;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t692 = c4 * t629;
         const V t693 = c5 * t628;
         const V t694 = t692 - t693;
@@ -862,7 +862,7 @@ struct ComplexGraph<54> {
         const V t701 = c6 * t644;
         const V t702 = c7 * t645;
         const V t703 = t702 + t701;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t704 = t694 + t700;
         const V t705 = t703 - t697;
         const V t706 = t694 - t700;
@@ -879,7 +879,7 @@ struct ComplexGraph<54> {
         const V t717 = t713 - t714;
         const V t718 = t711 + t715;
         const V t719 = t713 + t714;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x47r = io.re(47);
         const V x11r = io.re(11);
         const V t720 = x47r + x11r;
@@ -902,7 +902,7 @@ struct ComplexGraph<54> {
         const V t733 = t729 - t730;
         const V t734 = t727 - t731;
         const V t735 = t729 + t730;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x53r = io.re(53);
         const V x17r = io.re(17);
         const V t736 = x53r + x17r;
@@ -925,7 +925,7 @@ struct ComplexGraph<54> {
         const V t749 = t745 - t746;
         const V t750 = t743 - t747;
         const V t751 = t745 + t746;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x5r = io.re(5);
         const V x23r = io.re(23);
         const V t752 = x5r + x23r;
@@ -948,7 +948,7 @@ struct ComplexGraph<54> {
         const V t765 = t761 - t762;
         const V t766 = t759 - t763;
         const V t767 = t761 + t762;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t768 = t740 + t756;
         const V t769 = t741 + t757;
         const V t770 = t740 - t756;
@@ -965,7 +965,7 @@ struct ComplexGraph<54> {
         const V t781 = t777 - t778;
         const V t782 = t775 - t779;
         const V t783 = t777 + t778;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t784 = c2 * t751;
         const V t785 = c3 * t750;
         const V t786 = t785 + t784;
@@ -978,7 +978,7 @@ struct ComplexGraph<54> {
         const V t793 = c4 * t766;
         const V t794 = c5 * t767;
         const V t795 = t794 + t793;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t796 = t786 + t792;
         const V t797 = t789 - t795;
         const V t798 = t786 - t792;
@@ -995,7 +995,7 @@ struct ComplexGraph<54> {
         const V t809 = t805 - t806;
         const V t810 = t803 - t807;
         const V t811 = t805 + t806;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t812 = c4 * t749;
         const V t813 = c5 * t748;
         const V t814 = t812 - t813;
@@ -1008,7 +1008,7 @@ struct ComplexGraph<54> {
         const V t821 = c6 * t764;
         const V t822 = c7 * t765;
         const V t823 = t822 + t821;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t824 = t814 + t820;
         const V t825 = t823 - t817;
         const V t826 = t814 - t820;
@@ -1025,7 +1025,7 @@ struct ComplexGraph<54> {
         const V t837 = t833 - t834;
         const V t838 = t831 + t835;
         const V t839 = t833 + t834;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x49r = io.re(49);
         const V x13r = io.re(13);
         const V t840 = x49r + x13r;
@@ -1048,7 +1048,7 @@ struct ComplexGraph<54> {
         const V t853 = t849 - t850;
         const V t854 = t847 - t851;
         const V t855 = t849 + t850;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x1r = io.re(1);
         const V x19r = io.re(19);
         const V t856 = x1r + x19r;
@@ -1071,7 +1071,7 @@ struct ComplexGraph<54> {
         const V t869 = t865 - t866;
         const V t870 = t863 - t867;
         const V t871 = t865 + t866;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x7r = io.re(7);
         const V x25r = io.re(25);
         const V t872 = x7r + x25r;
@@ -1094,7 +1094,7 @@ struct ComplexGraph<54> {
         const V t885 = t881 - t882;
         const V t886 = t879 - t883;
         const V t887 = t881 + t882;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t888 = t860 + t876;
         const V t889 = t861 + t877;
         const V t890 = t860 - t876;
@@ -1111,7 +1111,7 @@ struct ComplexGraph<54> {
         const V t901 = t897 - t898;
         const V t902 = t895 - t899;
         const V t903 = t897 + t898;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t904 = c2 * t871;
         const V t905 = c3 * t870;
         const V t906 = t905 + t904;
@@ -1124,7 +1124,7 @@ struct ComplexGraph<54> {
         const V t913 = c4 * t886;
         const V t914 = c5 * t887;
         const V t915 = t914 + t913;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t916 = t906 + t912;
         const V t917 = t909 - t915;
         const V t918 = t906 - t912;
@@ -1141,7 +1141,7 @@ struct ComplexGraph<54> {
         const V t929 = t925 - t926;
         const V t930 = t923 - t927;
         const V t931 = t925 + t926;
-        // block of 9, multiplier 2
+        // complex block of 9, multiplier 2
         const V t932 = c4 * t869;
         const V t933 = c5 * t868;
         const V t934 = t932 - t933;
@@ -1154,7 +1154,7 @@ struct ComplexGraph<54> {
         const V t941 = c6 * t884;
         const V t942 = c7 * t885;
         const V t943 = t942 + t941;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t944 = t934 + t940;
         const V t945 = t943 - t937;
         const V t946 = t934 - t940;
@@ -1171,7 +1171,7 @@ struct ComplexGraph<54> {
         const V t957 = t953 - t954;
         const V t958 = t951 + t955;
         const V t959 = t953 + t954;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t960 = t772 + t892;
         const V t961 = t773 + t893;
         const V t962 = t772 - t892;
@@ -1188,7 +1188,7 @@ struct ComplexGraph<54> {
         const V t973 = t969 - t970;
         const V t974 = t967 - t971;
         const V t975 = t969 + t970;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t976 = c8 * t801;
         const V t977 = c9 * t800;
         const V t978 = t977 + t976;
@@ -1201,7 +1201,7 @@ struct ComplexGraph<54> {
         const V t985 = c10 * t920;
         const V t986 = c11 * t921;
         const V t987 = t986 - t985;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t988 = t978 + t984;
         const V t989 = t981 + t987;
         const V t990 = t978 - t984;
@@ -1218,7 +1218,7 @@ struct ComplexGraph<54> {
         const V t1001 = t997 - t998;
         const V t1002 = t995 - t999;
         const V t1003 = t997 + t998;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1004 = c10 * t829;
         const V t1005 = c11 * t828;
         const V t1006 = t1005 + t1004;
@@ -1231,7 +1231,7 @@ struct ComplexGraph<54> {
         const V t1013 = c12 * t948;
         const V t1014 = c13 * t949;
         const V t1015 = t1014 + t1013;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1016 = t1006 + t1012;
         const V t1017 = t1009 - t1015;
         const V t1018 = t1006 - t1012;
@@ -1248,7 +1248,7 @@ struct ComplexGraph<54> {
         const V t1029 = t1025 - t1026;
         const V t1030 = t1023 - t1027;
         const V t1031 = t1025 + t1026;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1032 = c2 * t783;
         const V t1033 = c3 * t782;
         const V t1034 = t1033 + t1032;
@@ -1261,7 +1261,7 @@ struct ComplexGraph<54> {
         const V t1041 = c4 * t902;
         const V t1042 = c5 * t903;
         const V t1043 = t1042 + t1041;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1044 = t1034 + t1040;
         const V t1045 = t1037 - t1043;
         const V t1046 = t1034 - t1040;
@@ -1278,7 +1278,7 @@ struct ComplexGraph<54> {
         const V t1057 = t1053 - t1054;
         const V t1058 = t1051 - t1055;
         const V t1059 = t1053 + t1054;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1060 = c12 * t811;
         const V t1061 = c13 * t810;
         const V t1062 = t1060 - t1061;
@@ -1291,7 +1291,7 @@ struct ComplexGraph<54> {
         const V t1069 = c14 * t930;
         const V t1070 = c15 * t931;
         const V t1071 = t1069 - t1070;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1072 = t1062 - t1068;
         const V t1073 = t1071 - t1065;
         const V t1074 = t1062 + t1068;
@@ -1308,7 +1308,7 @@ struct ComplexGraph<54> {
         const V t1085 = t1081 - t1082;
         const V t1086 = t1079 + t1083;
         const V t1087 = t1081 + t1082;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1088 = c16 * t839;
         const V t1089 = c17 * t838;
         const V t1090 = t1088 - t1089;
@@ -1321,7 +1321,7 @@ struct ComplexGraph<54> {
         const V t1097 = c18 * t958;
         const V t1098 = c19 * t959;
         const V t1099 = t1097 - t1098;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1100 = t1090 - t1096;
         const V t1101 = t1099 - t1093;
         const V t1102 = t1090 + t1096;
@@ -1338,7 +1338,7 @@ struct ComplexGraph<54> {
         const V t1113 = t1109 - t1110;
         const V t1114 = t1107 + t1111;
         const V t1115 = t1109 + t1110;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1116 = c4 * t781;
         const V t1117 = c5 * t780;
         const V t1118 = t1116 - t1117;
@@ -1351,7 +1351,7 @@ struct ComplexGraph<54> {
         const V t1125 = c6 * t900;
         const V t1126 = c7 * t901;
         const V t1127 = t1126 + t1125;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1128 = t1118 + t1124;
         const V t1129 = t1127 - t1121;
         const V t1130 = t1118 - t1124;
@@ -1368,7 +1368,7 @@ struct ComplexGraph<54> {
         const V t1141 = t1137 - t1138;
         const V t1142 = t1135 + t1139;
         const V t1143 = t1137 + t1138;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1144 = c20 * t809;
         const V t1145 = c21 * t808;
         const V t1146 = t1145 + t1144;
@@ -1381,7 +1381,7 @@ struct ComplexGraph<54> {
         const V t1153 = c22 * t928;
         const V t1154 = c23 * t929;
         const V t1155 = t1154 - t1153;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1156 = t1152 - t1146;
         const V t1157 = t1149 + t1155;
         const V t1158 = t1146 + t1152;
@@ -1398,7 +1398,7 @@ struct ComplexGraph<54> {
         const V t1169 = t1165 + t1166;
         const V t1170 = t1163 - t1167;
         const V t1171 = t1165 - t1166;
-        // block of 27, multiplier 2
+        // complex block of 27, multiplier 2
         const V t1172 = c14 * t837;
         const V t1173 = c15 * t836;
         const V t1174 = t1173 + t1172;
@@ -1411,7 +1411,7 @@ struct ComplexGraph<54> {
         const V t1181 = c24 * t956;
         const V t1182 = c25 * t957;
         const V t1183 = t1182 - t1181;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V t1184 = t1180 - t1174;
         const V t1185 = t1177 + t1183;
         const V t1186 = t1174 + t1180;
@@ -1428,7 +1428,7 @@ struct ComplexGraph<54> {
         const V t1197 = t1193 + t1194;
         const V t1198 = t1191 - t1195;
         const V t1199 = t1193 - t1194;
-        // block of 2
+        // complex block of 2
         const V t1200 = t364 + t964;
         io.re(0, t1200);
         const V t1201 = t365 + t965;
@@ -1437,7 +1437,7 @@ struct ComplexGraph<54> {
         io.re(27, t1202);
         const V t1203 = t365 - t965;
         io.im(27, t1203);
-        // block of 2
+        // complex block of 2
         const V t1204 = t392 + t992;
         io.re(2, t1204);
         const V t1205 = t393 + t993;
@@ -1446,7 +1446,7 @@ struct ComplexGraph<54> {
         io.re(29, t1206);
         const V t1207 = t393 - t993;
         io.im(29, t1207);
-        // block of 2
+        // complex block of 2
         const V t1208 = t420 + t1020;
         io.re(4, t1208);
         const V t1209 = t421 + t1021;
@@ -1455,7 +1455,7 @@ struct ComplexGraph<54> {
         io.re(31, t1210);
         const V t1211 = t421 - t1021;
         io.im(31, t1211);
-        // block of 2
+        // complex block of 2
         const V t1212 = t448 + t1048;
         io.re(6, t1212);
         const V t1213 = t449 + t1049;
@@ -1464,7 +1464,7 @@ struct ComplexGraph<54> {
         io.re(33, t1214);
         const V t1215 = t449 - t1049;
         io.im(33, t1215);
-        // block of 2
+        // complex block of 2
         const V t1216 = t476 + t1076;
         io.re(8, t1216);
         const V t1217 = t477 + t1077;
@@ -1473,7 +1473,7 @@ struct ComplexGraph<54> {
         io.re(35, t1218);
         const V t1219 = t477 - t1077;
         io.im(35, t1219);
-        // block of 2
+        // complex block of 2
         const V t1220 = t504 + t1104;
         io.re(10, t1220);
         const V t1221 = t505 + t1105;
@@ -1482,7 +1482,7 @@ struct ComplexGraph<54> {
         io.re(37, t1222);
         const V t1223 = t505 - t1105;
         io.im(37, t1223);
-        // block of 2
+        // complex block of 2
         const V t1224 = t532 + t1132;
         io.re(12, t1224);
         const V t1225 = t533 + t1133;
@@ -1491,7 +1491,7 @@ struct ComplexGraph<54> {
         io.re(39, t1226);
         const V t1227 = t533 - t1133;
         io.im(39, t1227);
-        // block of 2
+        // complex block of 2
         const V t1228 = t560 + t1160;
         io.re(14, t1228);
         const V t1229 = t561 + t1161;
@@ -1500,7 +1500,7 @@ struct ComplexGraph<54> {
         io.re(41, t1230);
         const V t1231 = t561 - t1161;
         io.im(41, t1231);
-        // block of 2
+        // complex block of 2
         const V t1232 = t588 + t1188;
         io.re(16, t1232);
         const V t1233 = t589 + t1189;
@@ -1509,7 +1509,7 @@ struct ComplexGraph<54> {
         io.re(43, t1234);
         const V t1235 = t589 - t1189;
         io.im(43, t1235);
-        // block of 2
+        // complex block of 2
         const V t1236 = t374 + t974;
         io.re(18, t1236);
         const V t1237 = t375 + t975;
@@ -1518,7 +1518,7 @@ struct ComplexGraph<54> {
         io.re(45, t1238);
         const V t1239 = t375 - t975;
         io.im(45, t1239);
-        // block of 2
+        // complex block of 2
         const V t1240 = t402 + t1002;
         io.re(20, t1240);
         const V t1241 = t403 + t1003;
@@ -1527,7 +1527,7 @@ struct ComplexGraph<54> {
         io.re(47, t1242);
         const V t1243 = t403 - t1003;
         io.im(47, t1243);
-        // block of 2
+        // complex block of 2
         const V t1244 = t430 + t1030;
         io.re(22, t1244);
         const V t1245 = t431 + t1031;
@@ -1536,7 +1536,7 @@ struct ComplexGraph<54> {
         io.re(49, t1246);
         const V t1247 = t431 - t1031;
         io.im(49, t1247);
-        // block of 2
+        // complex block of 2
         const V t1248 = t458 + t1058;
         io.re(24, t1248);
         const V t1249 = t459 + t1059;
@@ -1545,7 +1545,7 @@ struct ComplexGraph<54> {
         io.re(51, t1250);
         const V t1251 = t459 - t1059;
         io.im(51, t1251);
-        // block of 2
+        // complex block of 2
         const V t1252 = t486 + t1086;
         io.re(26, t1252);
         const V t1253 = t487 + t1087;
@@ -1554,7 +1554,7 @@ struct ComplexGraph<54> {
         io.re(53, t1254);
         const V t1255 = t487 - t1087;
         io.im(53, t1255);
-        // block of 2
+        // complex block of 2
         const V t1256 = t514 + t1114;
         io.re(28, t1256);
         const V t1257 = t515 + t1115;
@@ -1563,7 +1563,7 @@ struct ComplexGraph<54> {
         io.re(1, t1258);
         const V t1259 = t515 - t1115;
         io.im(1, t1259);
-        // block of 2
+        // complex block of 2
         const V t1260 = t542 + t1142;
         io.re(30, t1260);
         const V t1261 = t543 + t1143;
@@ -1572,7 +1572,7 @@ struct ComplexGraph<54> {
         io.re(3, t1262);
         const V t1263 = t543 - t1143;
         io.im(3, t1263);
-        // block of 2
+        // complex block of 2
         const V t1264 = t570 + t1170;
         io.re(32, t1264);
         const V t1265 = t571 + t1171;
@@ -1581,7 +1581,7 @@ struct ComplexGraph<54> {
         io.re(5, t1266);
         const V t1267 = t571 - t1171;
         io.im(5, t1267);
-        // block of 2
+        // complex block of 2
         const V t1268 = t598 + t1198;
         io.re(34, t1268);
         const V t1269 = t599 + t1199;
@@ -1590,7 +1590,7 @@ struct ComplexGraph<54> {
         io.re(7, t1270);
         const V t1271 = t599 - t1199;
         io.im(7, t1271);
-        // block of 2
+        // complex block of 2
         const V t1272 = t372 + t972;
         io.re(36, t1272);
         const V t1273 = t373 + t973;
@@ -1599,7 +1599,7 @@ struct ComplexGraph<54> {
         io.re(9, t1274);
         const V t1275 = t373 - t973;
         io.im(9, t1275);
-        // block of 2
+        // complex block of 2
         const V t1276 = t400 + t1000;
         io.re(38, t1276);
         const V t1277 = t401 + t1001;
@@ -1608,7 +1608,7 @@ struct ComplexGraph<54> {
         io.re(11, t1278);
         const V t1279 = t401 - t1001;
         io.im(11, t1279);
-        // block of 2
+        // complex block of 2
         const V t1280 = t428 + t1028;
         io.re(40, t1280);
         const V t1281 = t429 + t1029;
@@ -1617,7 +1617,7 @@ struct ComplexGraph<54> {
         io.re(13, t1282);
         const V t1283 = t429 - t1029;
         io.im(13, t1283);
-        // block of 2
+        // complex block of 2
         const V t1284 = t456 + t1056;
         io.re(42, t1284);
         const V t1285 = t457 + t1057;
@@ -1626,7 +1626,7 @@ struct ComplexGraph<54> {
         io.re(15, t1286);
         const V t1287 = t457 - t1057;
         io.im(15, t1287);
-        // block of 2
+        // complex block of 2
         const V t1288 = t484 + t1084;
         io.re(44, t1288);
         const V t1289 = t485 + t1085;
@@ -1635,7 +1635,7 @@ struct ComplexGraph<54> {
         io.re(17, t1290);
         const V t1291 = t485 - t1085;
         io.im(17, t1291);
-        // block of 2
+        // complex block of 2
         const V t1292 = t512 + t1112;
         io.re(46, t1292);
         const V t1293 = t513 + t1113;
@@ -1644,7 +1644,7 @@ struct ComplexGraph<54> {
         io.re(19, t1294);
         const V t1295 = t513 - t1113;
         io.im(19, t1295);
-        // block of 2
+        // complex block of 2
         const V t1296 = t540 + t1140;
         io.re(48, t1296);
         const V t1297 = t541 + t1141;
@@ -1653,7 +1653,7 @@ struct ComplexGraph<54> {
         io.re(21, t1298);
         const V t1299 = t541 - t1141;
         io.im(21, t1299);
-        // block of 2
+        // complex block of 2
         const V t1300 = t568 + t1168;
         io.re(50, t1300);
         const V t1301 = t569 + t1169;
@@ -1662,7 +1662,7 @@ struct ComplexGraph<54> {
         io.re(23, t1302);
         const V t1303 = t569 - t1169;
         io.im(23, t1303);
-        // block of 2
+        // complex block of 2
         const V t1304 = t596 + t1196;
         io.re(52, t1304);
         const V t1305 = t597 + t1197;

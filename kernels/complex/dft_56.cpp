@@ -19,7 +19,7 @@ struct ComplexGraph<56> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 7
+        // complex block of 7
         const V x8r = io.re(8);
         const V x48r = io.re(48);
         const V t0 = x8r + x48r;
@@ -45,11 +45,11 @@ struct ComplexGraph<56> {
         const V t10 = x32r - x24r;
         const V t11 = x32i - x24i;
         const V t12 = t0 + t4;
-        const V t13 = t1 + t5;
-        const V t14 = t12 + t8;
-        const V t15 = t13 + t9;
+        const V t13 = t12 + t8;
+        const V t14 = t1 + t5;
+        const V t15 = t14 + t9;
         const V x0r = io.re(0);
-        const V t16 = t14 + x0r;
+        const V t16 = t13 + x0r;
         const V x0i = io.im(0);
         const V t17 = t15 + x0i;
         const V t18 = c0 * t0;
@@ -65,19 +65,19 @@ struct ComplexGraph<56> {
         const V t28 = t26 - t27;
         const V t29 = t28 + x0i;
         const V t30 = c3 * t2;
-        const V t31 = c3 * t3;
-        const V t32 = c4 * t6;
-        const V t33 = c4 * t7;
-        const V t34 = t30 - t32;
-        const V t35 = t31 - t33;
-        const V t36 = c5 * t10;
-        const V t37 = c5 * t11;
-        const V t38 = t34 - t36;
-        const V t39 = t35 - t37;
+        const V t31 = c4 * t6;
+        const V t32 = t30 - t31;
+        const V t33 = c5 * t10;
+        const V t34 = t32 - t33;
+        const V t35 = c3 * t3;
+        const V t36 = c4 * t7;
+        const V t37 = t35 - t36;
+        const V t38 = c5 * t11;
+        const V t39 = t37 - t38;
         const V t40 = t23 + t39;
-        const V t41 = t29 - t38;
+        const V t41 = t29 - t34;
         const V t42 = t23 - t39;
-        const V t43 = t29 + t38;
+        const V t43 = t29 + t34;
         const V t44 = c1 * t0;
         const V t45 = x0r - t44;
         const V t46 = c2 * t4;
@@ -91,19 +91,19 @@ struct ComplexGraph<56> {
         const V t54 = c0 * t9;
         const V t55 = t53 + t54;
         const V t56 = c4 * t2;
-        const V t57 = c4 * t3;
-        const V t58 = c5 * t6;
-        const V t59 = c5 * t7;
-        const V t60 = t56 + t58;
-        const V t61 = t57 + t59;
-        const V t62 = c3 * t10;
-        const V t63 = c3 * t11;
-        const V t64 = t60 + t62;
-        const V t65 = t61 + t63;
+        const V t57 = c5 * t6;
+        const V t58 = t56 + t57;
+        const V t59 = c3 * t10;
+        const V t60 = t58 + t59;
+        const V t61 = c4 * t3;
+        const V t62 = c5 * t7;
+        const V t63 = t61 + t62;
+        const V t64 = c3 * t11;
+        const V t65 = t63 + t64;
         const V t66 = t49 + t65;
-        const V t67 = t55 - t64;
+        const V t67 = t55 - t60;
         const V t68 = t49 - t65;
-        const V t69 = t55 + t64;
+        const V t69 = t55 + t60;
         const V t70 = c2 * t0;
         const V t71 = x0r - t70;
         const V t72 = c0 * t4;
@@ -117,20 +117,20 @@ struct ComplexGraph<56> {
         const V t80 = c1 * t9;
         const V t81 = t79 - t80;
         const V t82 = c5 * t2;
-        const V t83 = c5 * t3;
-        const V t84 = c3 * t6;
-        const V t85 = c3 * t7;
-        const V t86 = t82 + t84;
-        const V t87 = t83 + t85;
-        const V t88 = c4 * t10;
-        const V t89 = c4 * t11;
-        const V t90 = t86 - t88;
-        const V t91 = t87 - t89;
+        const V t83 = c3 * t6;
+        const V t84 = t82 + t83;
+        const V t85 = c4 * t10;
+        const V t86 = t84 - t85;
+        const V t87 = c5 * t3;
+        const V t88 = c3 * t7;
+        const V t89 = t87 + t88;
+        const V t90 = c4 * t11;
+        const V t91 = t89 - t90;
         const V t92 = t75 + t91;
-        const V t93 = t81 - t90;
+        const V t93 = t81 - t86;
         const V t94 = t75 - t91;
-        const V t95 = t81 + t90;
-        // block of 7
+        const V t95 = t81 + t86;
+        // complex block of 7
         const V x15r = io.re(15);
         const V x55r = io.re(55);
         const V t96 = x15r + x55r;
@@ -156,11 +156,11 @@ struct ComplexGraph<56> {
         const V t106 = x39r - x31r;
         const V t107 = x39i - x31i;
         const V t108 = t96 + t100;
-        const V t109 = t97 + t101;
-        const V t110 = t108 + t104;
-        const V t111 = t109 + t105;
+        const V t109 = t108 + t104;
+        const V t110 = t97 + t101;
+        const V t111 = t110 + t105;
         const V x7r = io.re(7);
-        const V t112 = t110 + x7r;
+        const V t112 = t109 + x7r;
         const V x7i = io.im(7);
         const V t113 = t111 + x7i;
         const V t114 = c0 * t96;
@@ -176,19 +176,19 @@ struct ComplexGraph<56> {
         const V t124 = t122 - t123;
         const V t125 = t124 + x7i;
         const V t126 = c3 * t98;
-        const V t127 = c3 * t99;
-        const V t128 = c4 * t102;
-        const V t129 = c4 * t103;
-        const V t130 = t126 - t128;
-        const V t131 = t127 - t129;
-        const V t132 = c5 * t106;
-        const V t133 = c5 * t107;
-        const V t134 = t130 - t132;
-        const V t135 = t131 - t133;
+        const V t127 = c4 * t102;
+        const V t128 = t126 - t127;
+        const V t129 = c5 * t106;
+        const V t130 = t128 - t129;
+        const V t131 = c3 * t99;
+        const V t132 = c4 * t103;
+        const V t133 = t131 - t132;
+        const V t134 = c5 * t107;
+        const V t135 = t133 - t134;
         const V t136 = t119 + t135;
-        const V t137 = t125 - t134;
+        const V t137 = t125 - t130;
         const V t138 = t119 - t135;
-        const V t139 = t125 + t134;
+        const V t139 = t125 + t130;
         const V t140 = c1 * t96;
         const V t141 = x7r - t140;
         const V t142 = c2 * t100;
@@ -202,19 +202,19 @@ struct ComplexGraph<56> {
         const V t150 = c0 * t105;
         const V t151 = t149 + t150;
         const V t152 = c4 * t98;
-        const V t153 = c4 * t99;
-        const V t154 = c5 * t102;
-        const V t155 = c5 * t103;
-        const V t156 = t152 + t154;
-        const V t157 = t153 + t155;
-        const V t158 = c3 * t106;
-        const V t159 = c3 * t107;
-        const V t160 = t156 + t158;
-        const V t161 = t157 + t159;
+        const V t153 = c5 * t102;
+        const V t154 = t152 + t153;
+        const V t155 = c3 * t106;
+        const V t156 = t154 + t155;
+        const V t157 = c4 * t99;
+        const V t158 = c5 * t103;
+        const V t159 = t157 + t158;
+        const V t160 = c3 * t107;
+        const V t161 = t159 + t160;
         const V t162 = t145 + t161;
-        const V t163 = t151 - t160;
+        const V t163 = t151 - t156;
         const V t164 = t145 - t161;
-        const V t165 = t151 + t160;
+        const V t165 = t151 + t156;
         const V t166 = c2 * t96;
         const V t167 = x7r - t166;
         const V t168 = c0 * t100;
@@ -228,20 +228,20 @@ struct ComplexGraph<56> {
         const V t176 = c1 * t105;
         const V t177 = t175 - t176;
         const V t178 = c5 * t98;
-        const V t179 = c5 * t99;
-        const V t180 = c3 * t102;
-        const V t181 = c3 * t103;
-        const V t182 = t178 + t180;
-        const V t183 = t179 + t181;
-        const V t184 = c4 * t106;
-        const V t185 = c4 * t107;
-        const V t186 = t182 - t184;
-        const V t187 = t183 - t185;
+        const V t179 = c3 * t102;
+        const V t180 = t178 + t179;
+        const V t181 = c4 * t106;
+        const V t182 = t180 - t181;
+        const V t183 = c5 * t99;
+        const V t184 = c3 * t103;
+        const V t185 = t183 + t184;
+        const V t186 = c4 * t107;
+        const V t187 = t185 - t186;
         const V t188 = t171 + t187;
-        const V t189 = t177 - t186;
+        const V t189 = t177 - t182;
         const V t190 = t171 - t187;
-        const V t191 = t177 + t186;
-        // block of 7
+        const V t191 = t177 + t182;
+        // complex block of 7
         const V x22r = io.re(22);
         const V x6r = io.re(6);
         const V t192 = x22r + x6r;
@@ -267,11 +267,11 @@ struct ComplexGraph<56> {
         const V t202 = x46r - x38r;
         const V t203 = x46i - x38i;
         const V t204 = t192 + t196;
-        const V t205 = t193 + t197;
-        const V t206 = t204 + t200;
-        const V t207 = t205 + t201;
+        const V t205 = t204 + t200;
+        const V t206 = t193 + t197;
+        const V t207 = t206 + t201;
         const V x14r = io.re(14);
-        const V t208 = t206 + x14r;
+        const V t208 = t205 + x14r;
         const V x14i = io.im(14);
         const V t209 = t207 + x14i;
         const V t210 = c0 * t192;
@@ -287,19 +287,19 @@ struct ComplexGraph<56> {
         const V t220 = t218 - t219;
         const V t221 = t220 + x14i;
         const V t222 = c3 * t194;
-        const V t223 = c3 * t195;
-        const V t224 = c4 * t198;
-        const V t225 = c4 * t199;
-        const V t226 = t222 - t224;
-        const V t227 = t223 - t225;
-        const V t228 = c5 * t202;
-        const V t229 = c5 * t203;
-        const V t230 = t226 - t228;
-        const V t231 = t227 - t229;
+        const V t223 = c4 * t198;
+        const V t224 = t222 - t223;
+        const V t225 = c5 * t202;
+        const V t226 = t224 - t225;
+        const V t227 = c3 * t195;
+        const V t228 = c4 * t199;
+        const V t229 = t227 - t228;
+        const V t230 = c5 * t203;
+        const V t231 = t229 - t230;
         const V t232 = t215 + t231;
-        const V t233 = t221 - t230;
+        const V t233 = t221 - t226;
         const V t234 = t215 - t231;
-        const V t235 = t221 + t230;
+        const V t235 = t221 + t226;
         const V t236 = c1 * t192;
         const V t237 = x14r - t236;
         const V t238 = c2 * t196;
@@ -313,19 +313,19 @@ struct ComplexGraph<56> {
         const V t246 = c0 * t201;
         const V t247 = t245 + t246;
         const V t248 = c4 * t194;
-        const V t249 = c4 * t195;
-        const V t250 = c5 * t198;
-        const V t251 = c5 * t199;
-        const V t252 = t248 + t250;
-        const V t253 = t249 + t251;
-        const V t254 = c3 * t202;
-        const V t255 = c3 * t203;
-        const V t256 = t252 + t254;
-        const V t257 = t253 + t255;
+        const V t249 = c5 * t198;
+        const V t250 = t248 + t249;
+        const V t251 = c3 * t202;
+        const V t252 = t250 + t251;
+        const V t253 = c4 * t195;
+        const V t254 = c5 * t199;
+        const V t255 = t253 + t254;
+        const V t256 = c3 * t203;
+        const V t257 = t255 + t256;
         const V t258 = t241 + t257;
-        const V t259 = t247 - t256;
+        const V t259 = t247 - t252;
         const V t260 = t241 - t257;
-        const V t261 = t247 + t256;
+        const V t261 = t247 + t252;
         const V t262 = c2 * t192;
         const V t263 = x14r - t262;
         const V t264 = c0 * t196;
@@ -339,20 +339,20 @@ struct ComplexGraph<56> {
         const V t272 = c1 * t201;
         const V t273 = t271 - t272;
         const V t274 = c5 * t194;
-        const V t275 = c5 * t195;
-        const V t276 = c3 * t198;
-        const V t277 = c3 * t199;
-        const V t278 = t274 + t276;
-        const V t279 = t275 + t277;
-        const V t280 = c4 * t202;
-        const V t281 = c4 * t203;
-        const V t282 = t278 - t280;
-        const V t283 = t279 - t281;
+        const V t275 = c3 * t198;
+        const V t276 = t274 + t275;
+        const V t277 = c4 * t202;
+        const V t278 = t276 - t277;
+        const V t279 = c5 * t195;
+        const V t280 = c3 * t199;
+        const V t281 = t279 + t280;
+        const V t282 = c4 * t203;
+        const V t283 = t281 - t282;
         const V t284 = t267 + t283;
-        const V t285 = t273 - t282;
+        const V t285 = t273 - t278;
         const V t286 = t267 - t283;
-        const V t287 = t273 + t282;
-        // block of 7
+        const V t287 = t273 + t278;
+        // complex block of 7
         const V x29r = io.re(29);
         const V x13r = io.re(13);
         const V t288 = x29r + x13r;
@@ -378,11 +378,11 @@ struct ComplexGraph<56> {
         const V t298 = x53r - x45r;
         const V t299 = x53i - x45i;
         const V t300 = t288 + t292;
-        const V t301 = t289 + t293;
-        const V t302 = t300 + t296;
-        const V t303 = t301 + t297;
+        const V t301 = t300 + t296;
+        const V t302 = t289 + t293;
+        const V t303 = t302 + t297;
         const V x21r = io.re(21);
-        const V t304 = t302 + x21r;
+        const V t304 = t301 + x21r;
         const V x21i = io.im(21);
         const V t305 = t303 + x21i;
         const V t306 = c0 * t288;
@@ -398,19 +398,19 @@ struct ComplexGraph<56> {
         const V t316 = t314 - t315;
         const V t317 = t316 + x21i;
         const V t318 = c3 * t290;
-        const V t319 = c3 * t291;
-        const V t320 = c4 * t294;
-        const V t321 = c4 * t295;
-        const V t322 = t318 - t320;
-        const V t323 = t319 - t321;
-        const V t324 = c5 * t298;
-        const V t325 = c5 * t299;
-        const V t326 = t322 - t324;
-        const V t327 = t323 - t325;
+        const V t319 = c4 * t294;
+        const V t320 = t318 - t319;
+        const V t321 = c5 * t298;
+        const V t322 = t320 - t321;
+        const V t323 = c3 * t291;
+        const V t324 = c4 * t295;
+        const V t325 = t323 - t324;
+        const V t326 = c5 * t299;
+        const V t327 = t325 - t326;
         const V t328 = t311 + t327;
-        const V t329 = t317 - t326;
+        const V t329 = t317 - t322;
         const V t330 = t311 - t327;
-        const V t331 = t317 + t326;
+        const V t331 = t317 + t322;
         const V t332 = c1 * t288;
         const V t333 = x21r - t332;
         const V t334 = c2 * t292;
@@ -424,19 +424,19 @@ struct ComplexGraph<56> {
         const V t342 = c0 * t297;
         const V t343 = t341 + t342;
         const V t344 = c4 * t290;
-        const V t345 = c4 * t291;
-        const V t346 = c5 * t294;
-        const V t347 = c5 * t295;
-        const V t348 = t344 + t346;
-        const V t349 = t345 + t347;
-        const V t350 = c3 * t298;
-        const V t351 = c3 * t299;
-        const V t352 = t348 + t350;
-        const V t353 = t349 + t351;
+        const V t345 = c5 * t294;
+        const V t346 = t344 + t345;
+        const V t347 = c3 * t298;
+        const V t348 = t346 + t347;
+        const V t349 = c4 * t291;
+        const V t350 = c5 * t295;
+        const V t351 = t349 + t350;
+        const V t352 = c3 * t299;
+        const V t353 = t351 + t352;
         const V t354 = t337 + t353;
-        const V t355 = t343 - t352;
+        const V t355 = t343 - t348;
         const V t356 = t337 - t353;
-        const V t357 = t343 + t352;
+        const V t357 = t343 + t348;
         const V t358 = c2 * t288;
         const V t359 = x21r - t358;
         const V t360 = c0 * t292;
@@ -450,20 +450,20 @@ struct ComplexGraph<56> {
         const V t368 = c1 * t297;
         const V t369 = t367 - t368;
         const V t370 = c5 * t290;
-        const V t371 = c5 * t291;
-        const V t372 = c3 * t294;
-        const V t373 = c3 * t295;
-        const V t374 = t370 + t372;
-        const V t375 = t371 + t373;
-        const V t376 = c4 * t298;
-        const V t377 = c4 * t299;
-        const V t378 = t374 - t376;
-        const V t379 = t375 - t377;
+        const V t371 = c3 * t294;
+        const V t372 = t370 + t371;
+        const V t373 = c4 * t298;
+        const V t374 = t372 - t373;
+        const V t375 = c5 * t291;
+        const V t376 = c3 * t295;
+        const V t377 = t375 + t376;
+        const V t378 = c4 * t299;
+        const V t379 = t377 - t378;
         const V t380 = t363 + t379;
-        const V t381 = t369 - t378;
+        const V t381 = t369 - t374;
         const V t382 = t363 - t379;
-        const V t383 = t369 + t378;
-        // block of 7
+        const V t383 = t369 + t374;
+        // complex block of 7
         const V x36r = io.re(36);
         const V x20r = io.re(20);
         const V t384 = x36r + x20r;
@@ -489,11 +489,11 @@ struct ComplexGraph<56> {
         const V t394 = x4r - x52r;
         const V t395 = x4i - x52i;
         const V t396 = t384 + t388;
-        const V t397 = t385 + t389;
-        const V t398 = t396 + t392;
-        const V t399 = t397 + t393;
+        const V t397 = t396 + t392;
+        const V t398 = t385 + t389;
+        const V t399 = t398 + t393;
         const V x28r = io.re(28);
-        const V t400 = t398 + x28r;
+        const V t400 = t397 + x28r;
         const V x28i = io.im(28);
         const V t401 = t399 + x28i;
         const V t402 = c0 * t384;
@@ -509,19 +509,19 @@ struct ComplexGraph<56> {
         const V t412 = t410 - t411;
         const V t413 = t412 + x28i;
         const V t414 = c3 * t386;
-        const V t415 = c3 * t387;
-        const V t416 = c4 * t390;
-        const V t417 = c4 * t391;
-        const V t418 = t414 - t416;
-        const V t419 = t415 - t417;
-        const V t420 = c5 * t394;
-        const V t421 = c5 * t395;
-        const V t422 = t418 - t420;
-        const V t423 = t419 - t421;
+        const V t415 = c4 * t390;
+        const V t416 = t414 - t415;
+        const V t417 = c5 * t394;
+        const V t418 = t416 - t417;
+        const V t419 = c3 * t387;
+        const V t420 = c4 * t391;
+        const V t421 = t419 - t420;
+        const V t422 = c5 * t395;
+        const V t423 = t421 - t422;
         const V t424 = t407 + t423;
-        const V t425 = t413 - t422;
+        const V t425 = t413 - t418;
         const V t426 = t407 - t423;
-        const V t427 = t413 + t422;
+        const V t427 = t413 + t418;
         const V t428 = c1 * t384;
         const V t429 = x28r - t428;
         const V t430 = c2 * t388;
@@ -535,19 +535,19 @@ struct ComplexGraph<56> {
         const V t438 = c0 * t393;
         const V t439 = t437 + t438;
         const V t440 = c4 * t386;
-        const V t441 = c4 * t387;
-        const V t442 = c5 * t390;
-        const V t443 = c5 * t391;
-        const V t444 = t440 + t442;
-        const V t445 = t441 + t443;
-        const V t446 = c3 * t394;
-        const V t447 = c3 * t395;
-        const V t448 = t444 + t446;
-        const V t449 = t445 + t447;
+        const V t441 = c5 * t390;
+        const V t442 = t440 + t441;
+        const V t443 = c3 * t394;
+        const V t444 = t442 + t443;
+        const V t445 = c4 * t387;
+        const V t446 = c5 * t391;
+        const V t447 = t445 + t446;
+        const V t448 = c3 * t395;
+        const V t449 = t447 + t448;
         const V t450 = t433 + t449;
-        const V t451 = t439 - t448;
+        const V t451 = t439 - t444;
         const V t452 = t433 - t449;
-        const V t453 = t439 + t448;
+        const V t453 = t439 + t444;
         const V t454 = c2 * t384;
         const V t455 = x28r - t454;
         const V t456 = c0 * t388;
@@ -561,20 +561,20 @@ struct ComplexGraph<56> {
         const V t464 = c1 * t393;
         const V t465 = t463 - t464;
         const V t466 = c5 * t386;
-        const V t467 = c5 * t387;
-        const V t468 = c3 * t390;
-        const V t469 = c3 * t391;
-        const V t470 = t466 + t468;
-        const V t471 = t467 + t469;
-        const V t472 = c4 * t394;
-        const V t473 = c4 * t395;
-        const V t474 = t470 - t472;
-        const V t475 = t471 - t473;
+        const V t467 = c3 * t390;
+        const V t468 = t466 + t467;
+        const V t469 = c4 * t394;
+        const V t470 = t468 - t469;
+        const V t471 = c5 * t387;
+        const V t472 = c3 * t391;
+        const V t473 = t471 + t472;
+        const V t474 = c4 * t395;
+        const V t475 = t473 - t474;
         const V t476 = t459 + t475;
-        const V t477 = t465 - t474;
+        const V t477 = t465 - t470;
         const V t478 = t459 - t475;
-        const V t479 = t465 + t474;
-        // block of 7
+        const V t479 = t465 + t470;
+        // complex block of 7
         const V x43r = io.re(43);
         const V x27r = io.re(27);
         const V t480 = x43r + x27r;
@@ -600,11 +600,11 @@ struct ComplexGraph<56> {
         const V t490 = x11r - x3r;
         const V t491 = x11i - x3i;
         const V t492 = t480 + t484;
-        const V t493 = t481 + t485;
-        const V t494 = t492 + t488;
-        const V t495 = t493 + t489;
+        const V t493 = t492 + t488;
+        const V t494 = t481 + t485;
+        const V t495 = t494 + t489;
         const V x35r = io.re(35);
-        const V t496 = t494 + x35r;
+        const V t496 = t493 + x35r;
         const V x35i = io.im(35);
         const V t497 = t495 + x35i;
         const V t498 = c0 * t480;
@@ -620,19 +620,19 @@ struct ComplexGraph<56> {
         const V t508 = t506 - t507;
         const V t509 = t508 + x35i;
         const V t510 = c3 * t482;
-        const V t511 = c3 * t483;
-        const V t512 = c4 * t486;
-        const V t513 = c4 * t487;
-        const V t514 = t510 - t512;
-        const V t515 = t511 - t513;
-        const V t516 = c5 * t490;
-        const V t517 = c5 * t491;
-        const V t518 = t514 - t516;
-        const V t519 = t515 - t517;
+        const V t511 = c4 * t486;
+        const V t512 = t510 - t511;
+        const V t513 = c5 * t490;
+        const V t514 = t512 - t513;
+        const V t515 = c3 * t483;
+        const V t516 = c4 * t487;
+        const V t517 = t515 - t516;
+        const V t518 = c5 * t491;
+        const V t519 = t517 - t518;
         const V t520 = t503 + t519;
-        const V t521 = t509 - t518;
+        const V t521 = t509 - t514;
         const V t522 = t503 - t519;
-        const V t523 = t509 + t518;
+        const V t523 = t509 + t514;
         const V t524 = c1 * t480;
         const V t525 = x35r - t524;
         const V t526 = c2 * t484;
@@ -646,19 +646,19 @@ struct ComplexGraph<56> {
         const V t534 = c0 * t489;
         const V t535 = t533 + t534;
         const V t536 = c4 * t482;
-        const V t537 = c4 * t483;
-        const V t538 = c5 * t486;
-        const V t539 = c5 * t487;
-        const V t540 = t536 + t538;
-        const V t541 = t537 + t539;
-        const V t542 = c3 * t490;
-        const V t543 = c3 * t491;
-        const V t544 = t540 + t542;
-        const V t545 = t541 + t543;
+        const V t537 = c5 * t486;
+        const V t538 = t536 + t537;
+        const V t539 = c3 * t490;
+        const V t540 = t538 + t539;
+        const V t541 = c4 * t483;
+        const V t542 = c5 * t487;
+        const V t543 = t541 + t542;
+        const V t544 = c3 * t491;
+        const V t545 = t543 + t544;
         const V t546 = t529 + t545;
-        const V t547 = t535 - t544;
+        const V t547 = t535 - t540;
         const V t548 = t529 - t545;
-        const V t549 = t535 + t544;
+        const V t549 = t535 + t540;
         const V t550 = c2 * t480;
         const V t551 = x35r - t550;
         const V t552 = c0 * t484;
@@ -672,20 +672,20 @@ struct ComplexGraph<56> {
         const V t560 = c1 * t489;
         const V t561 = t559 - t560;
         const V t562 = c5 * t482;
-        const V t563 = c5 * t483;
-        const V t564 = c3 * t486;
-        const V t565 = c3 * t487;
-        const V t566 = t562 + t564;
-        const V t567 = t563 + t565;
-        const V t568 = c4 * t490;
-        const V t569 = c4 * t491;
-        const V t570 = t566 - t568;
-        const V t571 = t567 - t569;
+        const V t563 = c3 * t486;
+        const V t564 = t562 + t563;
+        const V t565 = c4 * t490;
+        const V t566 = t564 - t565;
+        const V t567 = c5 * t483;
+        const V t568 = c3 * t487;
+        const V t569 = t567 + t568;
+        const V t570 = c4 * t491;
+        const V t571 = t569 - t570;
         const V t572 = t555 + t571;
-        const V t573 = t561 - t570;
+        const V t573 = t561 - t566;
         const V t574 = t555 - t571;
-        const V t575 = t561 + t570;
-        // block of 7
+        const V t575 = t561 + t566;
+        // complex block of 7
         const V x50r = io.re(50);
         const V x34r = io.re(34);
         const V t576 = x50r + x34r;
@@ -711,11 +711,11 @@ struct ComplexGraph<56> {
         const V t586 = x18r - x10r;
         const V t587 = x18i - x10i;
         const V t588 = t576 + t580;
-        const V t589 = t577 + t581;
-        const V t590 = t588 + t584;
-        const V t591 = t589 + t585;
+        const V t589 = t588 + t584;
+        const V t590 = t577 + t581;
+        const V t591 = t590 + t585;
         const V x42r = io.re(42);
-        const V t592 = t590 + x42r;
+        const V t592 = t589 + x42r;
         const V x42i = io.im(42);
         const V t593 = t591 + x42i;
         const V t594 = c0 * t576;
@@ -731,19 +731,19 @@ struct ComplexGraph<56> {
         const V t604 = t602 - t603;
         const V t605 = t604 + x42i;
         const V t606 = c3 * t578;
-        const V t607 = c3 * t579;
-        const V t608 = c4 * t582;
-        const V t609 = c4 * t583;
-        const V t610 = t606 - t608;
-        const V t611 = t607 - t609;
-        const V t612 = c5 * t586;
-        const V t613 = c5 * t587;
-        const V t614 = t610 - t612;
-        const V t615 = t611 - t613;
+        const V t607 = c4 * t582;
+        const V t608 = t606 - t607;
+        const V t609 = c5 * t586;
+        const V t610 = t608 - t609;
+        const V t611 = c3 * t579;
+        const V t612 = c4 * t583;
+        const V t613 = t611 - t612;
+        const V t614 = c5 * t587;
+        const V t615 = t613 - t614;
         const V t616 = t599 + t615;
-        const V t617 = t605 - t614;
+        const V t617 = t605 - t610;
         const V t618 = t599 - t615;
-        const V t619 = t605 + t614;
+        const V t619 = t605 + t610;
         const V t620 = c1 * t576;
         const V t621 = x42r - t620;
         const V t622 = c2 * t580;
@@ -757,19 +757,19 @@ struct ComplexGraph<56> {
         const V t630 = c0 * t585;
         const V t631 = t629 + t630;
         const V t632 = c4 * t578;
-        const V t633 = c4 * t579;
-        const V t634 = c5 * t582;
-        const V t635 = c5 * t583;
-        const V t636 = t632 + t634;
-        const V t637 = t633 + t635;
-        const V t638 = c3 * t586;
-        const V t639 = c3 * t587;
-        const V t640 = t636 + t638;
-        const V t641 = t637 + t639;
+        const V t633 = c5 * t582;
+        const V t634 = t632 + t633;
+        const V t635 = c3 * t586;
+        const V t636 = t634 + t635;
+        const V t637 = c4 * t579;
+        const V t638 = c5 * t583;
+        const V t639 = t637 + t638;
+        const V t640 = c3 * t587;
+        const V t641 = t639 + t640;
         const V t642 = t625 + t641;
-        const V t643 = t631 - t640;
+        const V t643 = t631 - t636;
         const V t644 = t625 - t641;
-        const V t645 = t631 + t640;
+        const V t645 = t631 + t636;
         const V t646 = c2 * t576;
         const V t647 = x42r - t646;
         const V t648 = c0 * t580;
@@ -783,20 +783,20 @@ struct ComplexGraph<56> {
         const V t656 = c1 * t585;
         const V t657 = t655 - t656;
         const V t658 = c5 * t578;
-        const V t659 = c5 * t579;
-        const V t660 = c3 * t582;
-        const V t661 = c3 * t583;
-        const V t662 = t658 + t660;
-        const V t663 = t659 + t661;
-        const V t664 = c4 * t586;
-        const V t665 = c4 * t587;
-        const V t666 = t662 - t664;
-        const V t667 = t663 - t665;
+        const V t659 = c3 * t582;
+        const V t660 = t658 + t659;
+        const V t661 = c4 * t586;
+        const V t662 = t660 - t661;
+        const V t663 = c5 * t579;
+        const V t664 = c3 * t583;
+        const V t665 = t663 + t664;
+        const V t666 = c4 * t587;
+        const V t667 = t665 - t666;
         const V t668 = t651 + t667;
-        const V t669 = t657 - t666;
+        const V t669 = t657 - t662;
         const V t670 = t651 - t667;
-        const V t671 = t657 + t666;
-        // block of 7
+        const V t671 = t657 + t662;
+        // complex block of 7
         const V x1r = io.re(1);
         const V x41r = io.re(41);
         const V t672 = x1r + x41r;
@@ -822,11 +822,11 @@ struct ComplexGraph<56> {
         const V t682 = x25r - x17r;
         const V t683 = x25i - x17i;
         const V t684 = t672 + t676;
-        const V t685 = t673 + t677;
-        const V t686 = t684 + t680;
-        const V t687 = t685 + t681;
+        const V t685 = t684 + t680;
+        const V t686 = t673 + t677;
+        const V t687 = t686 + t681;
         const V x49r = io.re(49);
-        const V t688 = t686 + x49r;
+        const V t688 = t685 + x49r;
         const V x49i = io.im(49);
         const V t689 = t687 + x49i;
         const V t690 = c0 * t672;
@@ -842,19 +842,19 @@ struct ComplexGraph<56> {
         const V t700 = t698 - t699;
         const V t701 = t700 + x49i;
         const V t702 = c3 * t674;
-        const V t703 = c3 * t675;
-        const V t704 = c4 * t678;
-        const V t705 = c4 * t679;
-        const V t706 = t702 - t704;
-        const V t707 = t703 - t705;
-        const V t708 = c5 * t682;
-        const V t709 = c5 * t683;
-        const V t710 = t706 - t708;
-        const V t711 = t707 - t709;
+        const V t703 = c4 * t678;
+        const V t704 = t702 - t703;
+        const V t705 = c5 * t682;
+        const V t706 = t704 - t705;
+        const V t707 = c3 * t675;
+        const V t708 = c4 * t679;
+        const V t709 = t707 - t708;
+        const V t710 = c5 * t683;
+        const V t711 = t709 - t710;
         const V t712 = t695 + t711;
-        const V t713 = t701 - t710;
+        const V t713 = t701 - t706;
         const V t714 = t695 - t711;
-        const V t715 = t701 + t710;
+        const V t715 = t701 + t706;
         const V t716 = c1 * t672;
         const V t717 = x49r - t716;
         const V t718 = c2 * t676;
@@ -868,19 +868,19 @@ struct ComplexGraph<56> {
         const V t726 = c0 * t681;
         const V t727 = t725 + t726;
         const V t728 = c4 * t674;
-        const V t729 = c4 * t675;
-        const V t730 = c5 * t678;
-        const V t731 = c5 * t679;
-        const V t732 = t728 + t730;
-        const V t733 = t729 + t731;
-        const V t734 = c3 * t682;
-        const V t735 = c3 * t683;
-        const V t736 = t732 + t734;
-        const V t737 = t733 + t735;
+        const V t729 = c5 * t678;
+        const V t730 = t728 + t729;
+        const V t731 = c3 * t682;
+        const V t732 = t730 + t731;
+        const V t733 = c4 * t675;
+        const V t734 = c5 * t679;
+        const V t735 = t733 + t734;
+        const V t736 = c3 * t683;
+        const V t737 = t735 + t736;
         const V t738 = t721 + t737;
-        const V t739 = t727 - t736;
+        const V t739 = t727 - t732;
         const V t740 = t721 - t737;
-        const V t741 = t727 + t736;
+        const V t741 = t727 + t732;
         const V t742 = c2 * t672;
         const V t743 = x49r - t742;
         const V t744 = c0 * t676;
@@ -894,50 +894,50 @@ struct ComplexGraph<56> {
         const V t752 = c1 * t681;
         const V t753 = t751 - t752;
         const V t754 = c5 * t674;
-        const V t755 = c5 * t675;
-        const V t756 = c3 * t678;
-        const V t757 = c3 * t679;
-        const V t758 = t754 + t756;
-        const V t759 = t755 + t757;
-        const V t760 = c4 * t682;
-        const V t761 = c4 * t683;
-        const V t762 = t758 - t760;
-        const V t763 = t759 - t761;
+        const V t755 = c3 * t678;
+        const V t756 = t754 + t755;
+        const V t757 = c4 * t682;
+        const V t758 = t756 - t757;
+        const V t759 = c5 * t675;
+        const V t760 = c3 * t679;
+        const V t761 = t759 + t760;
+        const V t762 = c4 * t683;
+        const V t763 = t761 - t762;
         const V t764 = t747 + t763;
-        const V t765 = t753 - t762;
+        const V t765 = t753 - t758;
         const V t766 = t747 - t763;
-        const V t767 = t753 + t762;
-        // block of 2
+        const V t767 = t753 + t758;
+        // complex block of 2
         const V t768 = t16 + t400;
         const V t769 = t17 + t401;
         const V t770 = t16 - t400;
         const V t771 = t17 - t401;
-        // block of 2
+        // complex block of 2
         const V t772 = t112 + t496;
         const V t773 = t113 + t497;
         const V t774 = t112 - t496;
         const V t775 = t113 - t497;
-        // block of 2
+        // complex block of 2
         const V t776 = t208 + t592;
         const V t777 = t209 + t593;
         const V t778 = t208 - t592;
         const V t779 = t209 - t593;
-        // block of 2
+        // complex block of 2
         const V t780 = t304 + t688;
         const V t781 = t305 + t689;
         const V t782 = t304 - t688;
         const V t783 = t305 - t689;
-        // block of 2
+        // complex block of 2
         const V t784 = t768 + t776;
         const V t785 = t769 + t777;
         const V t786 = t768 - t776;
         const V t787 = t769 - t777;
-        // block of 2
+        // complex block of 2
         const V t788 = t772 + t780;
         const V t789 = t773 + t781;
         const V t790 = t772 - t780;
         const V t791 = t773 - t781;
-        // block of 2
+        // complex block of 2
         const V t792 = t784 + t788;
         io.re(0, t792);
         const V t793 = t785 + t789;
@@ -946,7 +946,7 @@ struct ComplexGraph<56> {
         io.re(28, t794);
         const V t795 = t785 - t789;
         io.im(28, t795);
-        // block of 2
+        // complex block of 2
         const V t796 = t786 - t791;
         io.re(14, t796);
         const V t797 = t787 + t790;
@@ -955,7 +955,7 @@ struct ComplexGraph<56> {
         io.re(42, t798);
         const V t799 = t787 - t790;
         io.im(42, t799);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t800 = c6 * t774;
         const V t801 = c6 * t775;
         const V t802 = t800 + t801;
@@ -964,17 +964,17 @@ struct ComplexGraph<56> {
         const V t805 = c6 * t783;
         const V t806 = t804 + t805;
         const V t807 = t805 - t804;
-        // block of 2
+        // complex block of 2
         const V t808 = t770 - t779;
         const V t809 = t771 + t778;
         const V t810 = t770 + t779;
         const V t811 = t771 - t778;
-        // block of 2
+        // complex block of 2
         const V t812 = t803 + t806;
         const V t813 = t802 - t807;
         const V t814 = t806 - t803;
         const V t815 = t802 + t807;
-        // block of 2
+        // complex block of 2
         const V t816 = t808 - t812;
         io.re(7, t816);
         const V t817 = t809 + t813;
@@ -983,7 +983,7 @@ struct ComplexGraph<56> {
         io.re(35, t818);
         const V t819 = t809 - t813;
         io.im(35, t819);
-        // block of 2
+        // complex block of 2
         const V t820 = t810 - t815;
         io.re(21, t820);
         const V t821 = t811 + t814;
@@ -992,37 +992,37 @@ struct ComplexGraph<56> {
         io.re(49, t822);
         const V t823 = t811 - t814;
         io.im(49, t823);
-        // block of 2
+        // complex block of 2
         const V t824 = t40 + t424;
         const V t825 = t41 + t425;
         const V t826 = t40 - t424;
         const V t827 = t41 - t425;
-        // block of 2
+        // complex block of 2
         const V t828 = t136 + t520;
         const V t829 = t137 + t521;
         const V t830 = t136 - t520;
         const V t831 = t137 - t521;
-        // block of 2
+        // complex block of 2
         const V t832 = t232 + t616;
         const V t833 = t233 + t617;
         const V t834 = t232 - t616;
         const V t835 = t233 - t617;
-        // block of 2
+        // complex block of 2
         const V t836 = t328 + t712;
         const V t837 = t329 + t713;
         const V t838 = t328 - t712;
         const V t839 = t329 - t713;
-        // block of 2
+        // complex block of 2
         const V t840 = t824 + t832;
         const V t841 = t825 + t833;
         const V t842 = t824 - t832;
         const V t843 = t825 - t833;
-        // block of 2
+        // complex block of 2
         const V t844 = t828 + t836;
         const V t845 = t829 + t837;
         const V t846 = t828 - t836;
         const V t847 = t829 - t837;
-        // block of 2
+        // complex block of 2
         const V t848 = t840 + t844;
         io.re(8, t848);
         const V t849 = t841 + t845;
@@ -1031,7 +1031,7 @@ struct ComplexGraph<56> {
         io.re(36, t850);
         const V t851 = t841 - t845;
         io.im(36, t851);
-        // block of 2
+        // complex block of 2
         const V t852 = t842 - t847;
         io.re(22, t852);
         const V t853 = t843 + t846;
@@ -1040,7 +1040,7 @@ struct ComplexGraph<56> {
         io.re(50, t854);
         const V t855 = t843 - t846;
         io.im(50, t855);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t856 = c6 * t830;
         const V t857 = c6 * t831;
         const V t858 = t856 + t857;
@@ -1049,17 +1049,17 @@ struct ComplexGraph<56> {
         const V t861 = c6 * t839;
         const V t862 = t860 + t861;
         const V t863 = t861 - t860;
-        // block of 2
+        // complex block of 2
         const V t864 = t826 - t835;
         const V t865 = t827 + t834;
         const V t866 = t826 + t835;
         const V t867 = t827 - t834;
-        // block of 2
+        // complex block of 2
         const V t868 = t859 + t862;
         const V t869 = t858 - t863;
         const V t870 = t862 - t859;
         const V t871 = t858 + t863;
-        // block of 2
+        // complex block of 2
         const V t872 = t864 - t868;
         io.re(15, t872);
         const V t873 = t865 + t869;
@@ -1068,7 +1068,7 @@ struct ComplexGraph<56> {
         io.re(43, t874);
         const V t875 = t865 - t869;
         io.im(43, t875);
-        // block of 2
+        // complex block of 2
         const V t876 = t866 - t871;
         io.re(29, t876);
         const V t877 = t867 + t870;
@@ -1077,37 +1077,37 @@ struct ComplexGraph<56> {
         io.re(1, t878);
         const V t879 = t867 - t870;
         io.im(1, t879);
-        // block of 2
+        // complex block of 2
         const V t880 = t66 + t450;
         const V t881 = t67 + t451;
         const V t882 = t66 - t450;
         const V t883 = t67 - t451;
-        // block of 2
+        // complex block of 2
         const V t884 = t162 + t546;
         const V t885 = t163 + t547;
         const V t886 = t162 - t546;
         const V t887 = t163 - t547;
-        // block of 2
+        // complex block of 2
         const V t888 = t258 + t642;
         const V t889 = t259 + t643;
         const V t890 = t258 - t642;
         const V t891 = t259 - t643;
-        // block of 2
+        // complex block of 2
         const V t892 = t354 + t738;
         const V t893 = t355 + t739;
         const V t894 = t354 - t738;
         const V t895 = t355 - t739;
-        // block of 2
+        // complex block of 2
         const V t896 = t880 + t888;
         const V t897 = t881 + t889;
         const V t898 = t880 - t888;
         const V t899 = t881 - t889;
-        // block of 2
+        // complex block of 2
         const V t900 = t884 + t892;
         const V t901 = t885 + t893;
         const V t902 = t884 - t892;
         const V t903 = t885 - t893;
-        // block of 2
+        // complex block of 2
         const V t904 = t896 + t900;
         io.re(16, t904);
         const V t905 = t897 + t901;
@@ -1116,7 +1116,7 @@ struct ComplexGraph<56> {
         io.re(44, t906);
         const V t907 = t897 - t901;
         io.im(44, t907);
-        // block of 2
+        // complex block of 2
         const V t908 = t898 - t903;
         io.re(30, t908);
         const V t909 = t899 + t902;
@@ -1125,7 +1125,7 @@ struct ComplexGraph<56> {
         io.re(2, t910);
         const V t911 = t899 - t902;
         io.im(2, t911);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t912 = c6 * t886;
         const V t913 = c6 * t887;
         const V t914 = t912 + t913;
@@ -1134,17 +1134,17 @@ struct ComplexGraph<56> {
         const V t917 = c6 * t895;
         const V t918 = t916 + t917;
         const V t919 = t917 - t916;
-        // block of 2
+        // complex block of 2
         const V t920 = t882 - t891;
         const V t921 = t883 + t890;
         const V t922 = t882 + t891;
         const V t923 = t883 - t890;
-        // block of 2
+        // complex block of 2
         const V t924 = t915 + t918;
         const V t925 = t914 - t919;
         const V t926 = t918 - t915;
         const V t927 = t914 + t919;
-        // block of 2
+        // complex block of 2
         const V t928 = t920 - t924;
         io.re(23, t928);
         const V t929 = t921 + t925;
@@ -1153,7 +1153,7 @@ struct ComplexGraph<56> {
         io.re(51, t930);
         const V t931 = t921 - t925;
         io.im(51, t931);
-        // block of 2
+        // complex block of 2
         const V t932 = t922 - t927;
         io.re(37, t932);
         const V t933 = t923 + t926;
@@ -1162,37 +1162,37 @@ struct ComplexGraph<56> {
         io.re(9, t934);
         const V t935 = t923 - t926;
         io.im(9, t935);
-        // block of 2
+        // complex block of 2
         const V t936 = t92 + t476;
         const V t937 = t93 + t477;
         const V t938 = t92 - t476;
         const V t939 = t93 - t477;
-        // block of 2
+        // complex block of 2
         const V t940 = t188 + t572;
         const V t941 = t189 + t573;
         const V t942 = t188 - t572;
         const V t943 = t189 - t573;
-        // block of 2
+        // complex block of 2
         const V t944 = t284 + t668;
         const V t945 = t285 + t669;
         const V t946 = t284 - t668;
         const V t947 = t285 - t669;
-        // block of 2
+        // complex block of 2
         const V t948 = t380 + t764;
         const V t949 = t381 + t765;
         const V t950 = t380 - t764;
         const V t951 = t381 - t765;
-        // block of 2
+        // complex block of 2
         const V t952 = t936 + t944;
         const V t953 = t937 + t945;
         const V t954 = t936 - t944;
         const V t955 = t937 - t945;
-        // block of 2
+        // complex block of 2
         const V t956 = t940 + t948;
         const V t957 = t941 + t949;
         const V t958 = t940 - t948;
         const V t959 = t941 - t949;
-        // block of 2
+        // complex block of 2
         const V t960 = t952 + t956;
         io.re(24, t960);
         const V t961 = t953 + t957;
@@ -1201,7 +1201,7 @@ struct ComplexGraph<56> {
         io.re(52, t962);
         const V t963 = t953 - t957;
         io.im(52, t963);
-        // block of 2
+        // complex block of 2
         const V t964 = t954 - t959;
         io.re(38, t964);
         const V t965 = t955 + t958;
@@ -1210,7 +1210,7 @@ struct ComplexGraph<56> {
         io.re(10, t966);
         const V t967 = t955 - t958;
         io.im(10, t967);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t968 = c6 * t942;
         const V t969 = c6 * t943;
         const V t970 = t968 + t969;
@@ -1219,17 +1219,17 @@ struct ComplexGraph<56> {
         const V t973 = c6 * t951;
         const V t974 = t972 + t973;
         const V t975 = t973 - t972;
-        // block of 2
+        // complex block of 2
         const V t976 = t938 - t947;
         const V t977 = t939 + t946;
         const V t978 = t938 + t947;
         const V t979 = t939 - t946;
-        // block of 2
+        // complex block of 2
         const V t980 = t971 + t974;
         const V t981 = t970 - t975;
         const V t982 = t974 - t971;
         const V t983 = t970 + t975;
-        // block of 2
+        // complex block of 2
         const V t984 = t976 - t980;
         io.re(31, t984);
         const V t985 = t977 + t981;
@@ -1238,7 +1238,7 @@ struct ComplexGraph<56> {
         io.re(3, t986);
         const V t987 = t977 - t981;
         io.im(3, t987);
-        // block of 2
+        // complex block of 2
         const V t988 = t978 - t983;
         io.re(45, t988);
         const V t989 = t979 + t982;
@@ -1247,37 +1247,37 @@ struct ComplexGraph<56> {
         io.re(17, t990);
         const V t991 = t979 - t982;
         io.im(17, t991);
-        // block of 2
+        // complex block of 2
         const V t992 = t94 + t478;
         const V t993 = t95 + t479;
         const V t994 = t94 - t478;
         const V t995 = t95 - t479;
-        // block of 2
+        // complex block of 2
         const V t996 = t190 + t574;
         const V t997 = t191 + t575;
         const V t998 = t190 - t574;
         const V t999 = t191 - t575;
-        // block of 2
+        // complex block of 2
         const V t1000 = t286 + t670;
         const V t1001 = t287 + t671;
         const V t1002 = t286 - t670;
         const V t1003 = t287 - t671;
-        // block of 2
+        // complex block of 2
         const V t1004 = t382 + t766;
         const V t1005 = t383 + t767;
         const V t1006 = t382 - t766;
         const V t1007 = t383 - t767;
-        // block of 2
+        // complex block of 2
         const V t1008 = t992 + t1000;
         const V t1009 = t993 + t1001;
         const V t1010 = t992 - t1000;
         const V t1011 = t993 - t1001;
-        // block of 2
+        // complex block of 2
         const V t1012 = t996 + t1004;
         const V t1013 = t997 + t1005;
         const V t1014 = t996 - t1004;
         const V t1015 = t997 - t1005;
-        // block of 2
+        // complex block of 2
         const V t1016 = t1008 + t1012;
         io.re(32, t1016);
         const V t1017 = t1009 + t1013;
@@ -1286,7 +1286,7 @@ struct ComplexGraph<56> {
         io.re(4, t1018);
         const V t1019 = t1009 - t1013;
         io.im(4, t1019);
-        // block of 2
+        // complex block of 2
         const V t1020 = t1010 - t1015;
         io.re(46, t1020);
         const V t1021 = t1011 + t1014;
@@ -1295,7 +1295,7 @@ struct ComplexGraph<56> {
         io.re(18, t1022);
         const V t1023 = t1011 - t1014;
         io.im(18, t1023);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t1024 = c6 * t998;
         const V t1025 = c6 * t999;
         const V t1026 = t1024 + t1025;
@@ -1304,17 +1304,17 @@ struct ComplexGraph<56> {
         const V t1029 = c6 * t1007;
         const V t1030 = t1028 + t1029;
         const V t1031 = t1029 - t1028;
-        // block of 2
+        // complex block of 2
         const V t1032 = t994 - t1003;
         const V t1033 = t995 + t1002;
         const V t1034 = t994 + t1003;
         const V t1035 = t995 - t1002;
-        // block of 2
+        // complex block of 2
         const V t1036 = t1027 + t1030;
         const V t1037 = t1026 - t1031;
         const V t1038 = t1030 - t1027;
         const V t1039 = t1026 + t1031;
-        // block of 2
+        // complex block of 2
         const V t1040 = t1032 - t1036;
         io.re(39, t1040);
         const V t1041 = t1033 + t1037;
@@ -1323,7 +1323,7 @@ struct ComplexGraph<56> {
         io.re(11, t1042);
         const V t1043 = t1033 - t1037;
         io.im(11, t1043);
-        // block of 2
+        // complex block of 2
         const V t1044 = t1034 - t1039;
         io.re(53, t1044);
         const V t1045 = t1035 + t1038;
@@ -1332,37 +1332,37 @@ struct ComplexGraph<56> {
         io.re(25, t1046);
         const V t1047 = t1035 - t1038;
         io.im(25, t1047);
-        // block of 2
+        // complex block of 2
         const V t1048 = t68 + t452;
         const V t1049 = t69 + t453;
         const V t1050 = t68 - t452;
         const V t1051 = t69 - t453;
-        // block of 2
+        // complex block of 2
         const V t1052 = t164 + t548;
         const V t1053 = t165 + t549;
         const V t1054 = t164 - t548;
         const V t1055 = t165 - t549;
-        // block of 2
+        // complex block of 2
         const V t1056 = t260 + t644;
         const V t1057 = t261 + t645;
         const V t1058 = t260 - t644;
         const V t1059 = t261 - t645;
-        // block of 2
+        // complex block of 2
         const V t1060 = t356 + t740;
         const V t1061 = t357 + t741;
         const V t1062 = t356 - t740;
         const V t1063 = t357 - t741;
-        // block of 2
+        // complex block of 2
         const V t1064 = t1048 + t1056;
         const V t1065 = t1049 + t1057;
         const V t1066 = t1048 - t1056;
         const V t1067 = t1049 - t1057;
-        // block of 2
+        // complex block of 2
         const V t1068 = t1052 + t1060;
         const V t1069 = t1053 + t1061;
         const V t1070 = t1052 - t1060;
         const V t1071 = t1053 - t1061;
-        // block of 2
+        // complex block of 2
         const V t1072 = t1064 + t1068;
         io.re(40, t1072);
         const V t1073 = t1065 + t1069;
@@ -1371,7 +1371,7 @@ struct ComplexGraph<56> {
         io.re(12, t1074);
         const V t1075 = t1065 - t1069;
         io.im(12, t1075);
-        // block of 2
+        // complex block of 2
         const V t1076 = t1066 - t1071;
         io.re(54, t1076);
         const V t1077 = t1067 + t1070;
@@ -1380,7 +1380,7 @@ struct ComplexGraph<56> {
         io.re(26, t1078);
         const V t1079 = t1067 - t1070;
         io.im(26, t1079);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t1080 = c6 * t1054;
         const V t1081 = c6 * t1055;
         const V t1082 = t1080 + t1081;
@@ -1389,17 +1389,17 @@ struct ComplexGraph<56> {
         const V t1085 = c6 * t1063;
         const V t1086 = t1084 + t1085;
         const V t1087 = t1085 - t1084;
-        // block of 2
+        // complex block of 2
         const V t1088 = t1050 - t1059;
         const V t1089 = t1051 + t1058;
         const V t1090 = t1050 + t1059;
         const V t1091 = t1051 - t1058;
-        // block of 2
+        // complex block of 2
         const V t1092 = t1083 + t1086;
         const V t1093 = t1082 - t1087;
         const V t1094 = t1086 - t1083;
         const V t1095 = t1082 + t1087;
-        // block of 2
+        // complex block of 2
         const V t1096 = t1088 - t1092;
         io.re(47, t1096);
         const V t1097 = t1089 + t1093;
@@ -1408,7 +1408,7 @@ struct ComplexGraph<56> {
         io.re(19, t1098);
         const V t1099 = t1089 - t1093;
         io.im(19, t1099);
-        // block of 2
+        // complex block of 2
         const V t1100 = t1090 - t1095;
         io.re(5, t1100);
         const V t1101 = t1091 + t1094;
@@ -1417,37 +1417,37 @@ struct ComplexGraph<56> {
         io.re(33, t1102);
         const V t1103 = t1091 - t1094;
         io.im(33, t1103);
-        // block of 2
+        // complex block of 2
         const V t1104 = t42 + t426;
         const V t1105 = t43 + t427;
         const V t1106 = t42 - t426;
         const V t1107 = t43 - t427;
-        // block of 2
+        // complex block of 2
         const V t1108 = t138 + t522;
         const V t1109 = t139 + t523;
         const V t1110 = t138 - t522;
         const V t1111 = t139 - t523;
-        // block of 2
+        // complex block of 2
         const V t1112 = t234 + t618;
         const V t1113 = t235 + t619;
         const V t1114 = t234 - t618;
         const V t1115 = t235 - t619;
-        // block of 2
+        // complex block of 2
         const V t1116 = t330 + t714;
         const V t1117 = t331 + t715;
         const V t1118 = t330 - t714;
         const V t1119 = t331 - t715;
-        // block of 2
+        // complex block of 2
         const V t1120 = t1104 + t1112;
         const V t1121 = t1105 + t1113;
         const V t1122 = t1104 - t1112;
         const V t1123 = t1105 - t1113;
-        // block of 2
+        // complex block of 2
         const V t1124 = t1108 + t1116;
         const V t1125 = t1109 + t1117;
         const V t1126 = t1108 - t1116;
         const V t1127 = t1109 - t1117;
-        // block of 2
+        // complex block of 2
         const V t1128 = t1120 + t1124;
         io.re(48, t1128);
         const V t1129 = t1121 + t1125;
@@ -1456,7 +1456,7 @@ struct ComplexGraph<56> {
         io.re(20, t1130);
         const V t1131 = t1121 - t1125;
         io.im(20, t1131);
-        // block of 2
+        // complex block of 2
         const V t1132 = t1122 - t1127;
         io.re(6, t1132);
         const V t1133 = t1123 + t1126;
@@ -1465,7 +1465,7 @@ struct ComplexGraph<56> {
         io.re(34, t1134);
         const V t1135 = t1123 - t1126;
         io.im(34, t1135);
-        // block of 8, multiplier 7
+        // complex block of 8, multiplier 7
         const V t1136 = c6 * t1110;
         const V t1137 = c6 * t1111;
         const V t1138 = t1136 + t1137;
@@ -1474,17 +1474,17 @@ struct ComplexGraph<56> {
         const V t1141 = c6 * t1119;
         const V t1142 = t1140 + t1141;
         const V t1143 = t1141 - t1140;
-        // block of 2
+        // complex block of 2
         const V t1144 = t1106 - t1115;
         const V t1145 = t1107 + t1114;
         const V t1146 = t1106 + t1115;
         const V t1147 = t1107 - t1114;
-        // block of 2
+        // complex block of 2
         const V t1148 = t1139 + t1142;
         const V t1149 = t1138 - t1143;
         const V t1150 = t1142 - t1139;
         const V t1151 = t1138 + t1143;
-        // block of 2
+        // complex block of 2
         const V t1152 = t1144 - t1148;
         io.re(55, t1152);
         const V t1153 = t1145 + t1149;
@@ -1493,7 +1493,7 @@ struct ComplexGraph<56> {
         io.re(27, t1154);
         const V t1155 = t1145 - t1149;
         io.im(27, t1155);
-        // block of 2
+        // complex block of 2
         const V t1156 = t1146 - t1151;
         io.re(13, t1156);
         const V t1157 = t1147 + t1150;

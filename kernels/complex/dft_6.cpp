@@ -14,7 +14,7 @@ struct ComplexGraph<6> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x2r = io.re(2);
         const V x4r = io.re(4);
         const V t0 = x2r + x4r;
@@ -37,7 +37,7 @@ struct ComplexGraph<6> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x5r = io.re(5);
         const V x1r = io.re(1);
         const V t16 = x5r + x1r;
@@ -60,7 +60,7 @@ struct ComplexGraph<6> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 2
+        // complex block of 2
         const V t32 = t4 + t20;
         io.re(0, t32);
         const V t33 = t5 + t21;
@@ -69,7 +69,7 @@ struct ComplexGraph<6> {
         io.re(3, t34);
         const V t35 = t5 - t21;
         io.im(3, t35);
-        // block of 2
+        // complex block of 2
         const V t36 = t14 + t30;
         io.re(2, t36);
         const V t37 = t15 + t31;
@@ -78,7 +78,7 @@ struct ComplexGraph<6> {
         io.re(5, t38);
         const V t39 = t15 - t31;
         io.im(5, t39);
-        // block of 2
+        // complex block of 2
         const V t40 = t12 + t28;
         io.re(4, t40);
         const V t41 = t13 + t29;

@@ -18,7 +18,7 @@ struct ComplexGraph<60> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x20r = io.re(20);
         const V x40r = io.re(40);
         const V t0 = x20r + x40r;
@@ -41,7 +41,7 @@ struct ComplexGraph<60> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x35r = io.re(35);
         const V x55r = io.re(55);
         const V t16 = x35r + x55r;
@@ -64,7 +64,7 @@ struct ComplexGraph<60> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x50r = io.re(50);
         const V x10r = io.re(10);
         const V t32 = x50r + x10r;
@@ -87,7 +87,7 @@ struct ComplexGraph<60> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x5r = io.re(5);
         const V x25r = io.re(25);
         const V t48 = x5r + x25r;
@@ -110,7 +110,7 @@ struct ComplexGraph<60> {
         const V t61 = t57 - t58;
         const V t62 = t55 - t59;
         const V t63 = t57 + t58;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x32r = io.re(32);
         const V x52r = io.re(52);
         const V t64 = x32r + x52r;
@@ -133,7 +133,7 @@ struct ComplexGraph<60> {
         const V t77 = t73 - t74;
         const V t78 = t71 - t75;
         const V t79 = t73 + t74;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x47r = io.re(47);
         const V x7r = io.re(7);
         const V t80 = x47r + x7r;
@@ -156,7 +156,7 @@ struct ComplexGraph<60> {
         const V t93 = t89 - t90;
         const V t94 = t87 - t91;
         const V t95 = t89 + t90;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x2r = io.re(2);
         const V x22r = io.re(22);
         const V t96 = x2r + x22r;
@@ -179,7 +179,7 @@ struct ComplexGraph<60> {
         const V t109 = t105 - t106;
         const V t110 = t103 - t107;
         const V t111 = t105 + t106;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x17r = io.re(17);
         const V x37r = io.re(37);
         const V t112 = x17r + x37r;
@@ -202,7 +202,7 @@ struct ComplexGraph<60> {
         const V t125 = t121 - t122;
         const V t126 = t119 - t123;
         const V t127 = t121 + t122;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x44r = io.re(44);
         const V x4r = io.re(4);
         const V t128 = x44r + x4r;
@@ -225,7 +225,7 @@ struct ComplexGraph<60> {
         const V t141 = t137 - t138;
         const V t142 = t135 - t139;
         const V t143 = t137 + t138;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x59r = io.re(59);
         const V x19r = io.re(19);
         const V t144 = x59r + x19r;
@@ -248,7 +248,7 @@ struct ComplexGraph<60> {
         const V t157 = t153 - t154;
         const V t158 = t151 - t155;
         const V t159 = t153 + t154;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x14r = io.re(14);
         const V x34r = io.re(34);
         const V t160 = x14r + x34r;
@@ -271,7 +271,7 @@ struct ComplexGraph<60> {
         const V t173 = t169 - t170;
         const V t174 = t167 - t171;
         const V t175 = t169 + t170;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x29r = io.re(29);
         const V x49r = io.re(49);
         const V t176 = x29r + x49r;
@@ -294,7 +294,7 @@ struct ComplexGraph<60> {
         const V t189 = t185 - t186;
         const V t190 = t183 - t187;
         const V t191 = t185 + t186;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x56r = io.re(56);
         const V x16r = io.re(16);
         const V t192 = x56r + x16r;
@@ -317,7 +317,7 @@ struct ComplexGraph<60> {
         const V t205 = t201 - t202;
         const V t206 = t199 - t203;
         const V t207 = t201 + t202;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x11r = io.re(11);
         const V x31r = io.re(31);
         const V t208 = x11r + x31r;
@@ -340,7 +340,7 @@ struct ComplexGraph<60> {
         const V t221 = t217 - t218;
         const V t222 = t215 - t219;
         const V t223 = t217 + t218;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x26r = io.re(26);
         const V x46r = io.re(46);
         const V t224 = x26r + x46r;
@@ -363,7 +363,7 @@ struct ComplexGraph<60> {
         const V t237 = t233 - t234;
         const V t238 = t231 - t235;
         const V t239 = t233 + t234;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x41r = io.re(41);
         const V x1r = io.re(1);
         const V t240 = x41r + x1r;
@@ -386,7 +386,7 @@ struct ComplexGraph<60> {
         const V t253 = t249 - t250;
         const V t254 = t247 - t251;
         const V t255 = t249 + t250;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x8r = io.re(8);
         const V x28r = io.re(28);
         const V t256 = x8r + x28r;
@@ -409,7 +409,7 @@ struct ComplexGraph<60> {
         const V t269 = t265 - t266;
         const V t270 = t263 - t267;
         const V t271 = t265 + t266;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x23r = io.re(23);
         const V x43r = io.re(43);
         const V t272 = x23r + x43r;
@@ -432,7 +432,7 @@ struct ComplexGraph<60> {
         const V t285 = t281 - t282;
         const V t286 = t279 - t283;
         const V t287 = t281 + t282;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x38r = io.re(38);
         const V x58r = io.re(58);
         const V t288 = x38r + x58r;
@@ -455,7 +455,7 @@ struct ComplexGraph<60> {
         const V t301 = t297 - t298;
         const V t302 = t295 - t299;
         const V t303 = t297 + t298;
-        // block of 3, multiplier 2
+        // complex block of 3, multiplier 2
         const V x53r = io.re(53);
         const V x13r = io.re(13);
         const V t304 = x53r + x13r;
@@ -478,7 +478,7 @@ struct ComplexGraph<60> {
         const V t317 = t313 - t314;
         const V t318 = t311 - t315;
         const V t319 = t313 + t314;
-        // block of 5, multiplier 2
+        // complex block of 5, multiplier 2
         const V t320 = t68 + t260;
         const V t321 = t69 + t261;
         const V t322 = t68 - t260;
@@ -500,15 +500,15 @@ struct ComplexGraph<60> {
         const V t338 = t336 - t337;
         const V t339 = t338 + t5;
         const V t340 = c4 * t322;
-        const V t341 = c4 * t323;
-        const V t342 = c5 * t326;
-        const V t343 = c5 * t327;
-        const V t344 = t340 - t342;
-        const V t345 = t341 - t343;
+        const V t341 = c5 * t326;
+        const V t342 = t340 - t341;
+        const V t343 = c4 * t323;
+        const V t344 = c5 * t327;
+        const V t345 = t343 - t344;
         const V t346 = t335 + t345;
-        const V t347 = t339 - t344;
+        const V t347 = t339 - t342;
         const V t348 = t335 - t345;
-        const V t349 = t339 + t344;
+        const V t349 = t339 + t342;
         const V t350 = c3 * t320;
         const V t351 = t4 - t350;
         const V t352 = c2 * t324;
@@ -518,16 +518,16 @@ struct ComplexGraph<60> {
         const V t356 = c2 * t325;
         const V t357 = t355 + t356;
         const V t358 = c5 * t322;
-        const V t359 = c5 * t323;
-        const V t360 = c4 * t326;
-        const V t361 = c4 * t327;
-        const V t362 = t358 + t360;
-        const V t363 = t359 + t361;
+        const V t359 = c4 * t326;
+        const V t360 = t358 + t359;
+        const V t361 = c5 * t323;
+        const V t362 = c4 * t327;
+        const V t363 = t361 + t362;
         const V t364 = t353 + t363;
-        const V t365 = t357 - t362;
+        const V t365 = t357 - t360;
         const V t366 = t353 - t363;
-        const V t367 = t357 + t362;
-        // block of 5, multiplier 2
+        const V t367 = t357 + t360;
+        // complex block of 5, multiplier 2
         const V t368 = t84 + t276;
         const V t369 = t85 + t277;
         const V t370 = t84 - t276;
@@ -549,15 +549,15 @@ struct ComplexGraph<60> {
         const V t386 = t384 - t385;
         const V t387 = t386 + t21;
         const V t388 = c4 * t370;
-        const V t389 = c4 * t371;
-        const V t390 = c5 * t374;
-        const V t391 = c5 * t375;
-        const V t392 = t388 - t390;
-        const V t393 = t389 - t391;
+        const V t389 = c5 * t374;
+        const V t390 = t388 - t389;
+        const V t391 = c4 * t371;
+        const V t392 = c5 * t375;
+        const V t393 = t391 - t392;
         const V t394 = t383 + t393;
-        const V t395 = t387 - t392;
+        const V t395 = t387 - t390;
         const V t396 = t383 - t393;
-        const V t397 = t387 + t392;
+        const V t397 = t387 + t390;
         const V t398 = c3 * t368;
         const V t399 = t20 - t398;
         const V t400 = c2 * t372;
@@ -567,16 +567,16 @@ struct ComplexGraph<60> {
         const V t404 = c2 * t373;
         const V t405 = t403 + t404;
         const V t406 = c5 * t370;
-        const V t407 = c5 * t371;
-        const V t408 = c4 * t374;
-        const V t409 = c4 * t375;
-        const V t410 = t406 + t408;
-        const V t411 = t407 + t409;
+        const V t407 = c4 * t374;
+        const V t408 = t406 + t407;
+        const V t409 = c5 * t371;
+        const V t410 = c4 * t375;
+        const V t411 = t409 + t410;
         const V t412 = t401 + t411;
-        const V t413 = t405 - t410;
+        const V t413 = t405 - t408;
         const V t414 = t401 - t411;
-        const V t415 = t405 + t410;
-        // block of 5, multiplier 2
+        const V t415 = t405 + t408;
+        // complex block of 5, multiplier 2
         const V t416 = t100 + t292;
         const V t417 = t101 + t293;
         const V t418 = t100 - t292;
@@ -598,15 +598,15 @@ struct ComplexGraph<60> {
         const V t434 = t432 - t433;
         const V t435 = t434 + t37;
         const V t436 = c4 * t418;
-        const V t437 = c4 * t419;
-        const V t438 = c5 * t422;
-        const V t439 = c5 * t423;
-        const V t440 = t436 - t438;
-        const V t441 = t437 - t439;
+        const V t437 = c5 * t422;
+        const V t438 = t436 - t437;
+        const V t439 = c4 * t419;
+        const V t440 = c5 * t423;
+        const V t441 = t439 - t440;
         const V t442 = t431 + t441;
-        const V t443 = t435 - t440;
+        const V t443 = t435 - t438;
         const V t444 = t431 - t441;
-        const V t445 = t435 + t440;
+        const V t445 = t435 + t438;
         const V t446 = c3 * t416;
         const V t447 = t36 - t446;
         const V t448 = c2 * t420;
@@ -616,16 +616,16 @@ struct ComplexGraph<60> {
         const V t452 = c2 * t421;
         const V t453 = t451 + t452;
         const V t454 = c5 * t418;
-        const V t455 = c5 * t419;
-        const V t456 = c4 * t422;
-        const V t457 = c4 * t423;
-        const V t458 = t454 + t456;
-        const V t459 = t455 + t457;
+        const V t455 = c4 * t422;
+        const V t456 = t454 + t455;
+        const V t457 = c5 * t419;
+        const V t458 = c4 * t423;
+        const V t459 = t457 + t458;
         const V t460 = t449 + t459;
-        const V t461 = t453 - t458;
+        const V t461 = t453 - t456;
         const V t462 = t449 - t459;
-        const V t463 = t453 + t458;
-        // block of 5, multiplier 2
+        const V t463 = t453 + t456;
+        // complex block of 5, multiplier 2
         const V t464 = t116 + t308;
         const V t465 = t117 + t309;
         const V t466 = t116 - t308;
@@ -647,15 +647,15 @@ struct ComplexGraph<60> {
         const V t482 = t480 - t481;
         const V t483 = t482 + t53;
         const V t484 = c4 * t466;
-        const V t485 = c4 * t467;
-        const V t486 = c5 * t470;
-        const V t487 = c5 * t471;
-        const V t488 = t484 - t486;
-        const V t489 = t485 - t487;
+        const V t485 = c5 * t470;
+        const V t486 = t484 - t485;
+        const V t487 = c4 * t467;
+        const V t488 = c5 * t471;
+        const V t489 = t487 - t488;
         const V t490 = t479 + t489;
-        const V t491 = t483 - t488;
+        const V t491 = t483 - t486;
         const V t492 = t479 - t489;
-        const V t493 = t483 + t488;
+        const V t493 = t483 + t486;
         const V t494 = c3 * t464;
         const V t495 = t52 - t494;
         const V t496 = c2 * t468;
@@ -665,16 +665,16 @@ struct ComplexGraph<60> {
         const V t500 = c2 * t469;
         const V t501 = t499 + t500;
         const V t502 = c5 * t466;
-        const V t503 = c5 * t467;
-        const V t504 = c4 * t470;
-        const V t505 = c4 * t471;
-        const V t506 = t502 + t504;
-        const V t507 = t503 + t505;
+        const V t503 = c4 * t470;
+        const V t504 = t502 + t503;
+        const V t505 = c5 * t467;
+        const V t506 = c4 * t471;
+        const V t507 = t505 + t506;
         const V t508 = t497 + t507;
-        const V t509 = t501 - t506;
+        const V t509 = t501 - t504;
         const V t510 = t497 - t507;
-        const V t511 = t501 + t506;
-        // block of 5, multiplier 2
+        const V t511 = t501 + t504;
+        // complex block of 5, multiplier 2
         const V t512 = t78 + t270;
         const V t513 = t79 + t271;
         const V t514 = t78 - t270;
@@ -696,15 +696,15 @@ struct ComplexGraph<60> {
         const V t530 = t528 - t529;
         const V t531 = t530 + t15;
         const V t532 = c4 * t514;
-        const V t533 = c4 * t515;
-        const V t534 = c5 * t518;
-        const V t535 = c5 * t519;
-        const V t536 = t532 - t534;
-        const V t537 = t533 - t535;
+        const V t533 = c5 * t518;
+        const V t534 = t532 - t533;
+        const V t535 = c4 * t515;
+        const V t536 = c5 * t519;
+        const V t537 = t535 - t536;
         const V t538 = t527 + t537;
-        const V t539 = t531 - t536;
+        const V t539 = t531 - t534;
         const V t540 = t527 - t537;
-        const V t541 = t531 + t536;
+        const V t541 = t531 + t534;
         const V t542 = c3 * t512;
         const V t543 = t14 - t542;
         const V t544 = c2 * t516;
@@ -714,16 +714,16 @@ struct ComplexGraph<60> {
         const V t548 = c2 * t517;
         const V t549 = t547 + t548;
         const V t550 = c5 * t514;
-        const V t551 = c5 * t515;
-        const V t552 = c4 * t518;
-        const V t553 = c4 * t519;
-        const V t554 = t550 + t552;
-        const V t555 = t551 + t553;
+        const V t551 = c4 * t518;
+        const V t552 = t550 + t551;
+        const V t553 = c5 * t515;
+        const V t554 = c4 * t519;
+        const V t555 = t553 + t554;
         const V t556 = t545 + t555;
-        const V t557 = t549 - t554;
+        const V t557 = t549 - t552;
         const V t558 = t545 - t555;
-        const V t559 = t549 + t554;
-        // block of 5, multiplier 2
+        const V t559 = t549 + t552;
+        // complex block of 5, multiplier 2
         const V t560 = t94 + t286;
         const V t561 = t95 + t287;
         const V t562 = t94 - t286;
@@ -745,15 +745,15 @@ struct ComplexGraph<60> {
         const V t578 = t576 - t577;
         const V t579 = t578 + t31;
         const V t580 = c4 * t562;
-        const V t581 = c4 * t563;
-        const V t582 = c5 * t566;
-        const V t583 = c5 * t567;
-        const V t584 = t580 - t582;
-        const V t585 = t581 - t583;
+        const V t581 = c5 * t566;
+        const V t582 = t580 - t581;
+        const V t583 = c4 * t563;
+        const V t584 = c5 * t567;
+        const V t585 = t583 - t584;
         const V t586 = t575 + t585;
-        const V t587 = t579 - t584;
+        const V t587 = t579 - t582;
         const V t588 = t575 - t585;
-        const V t589 = t579 + t584;
+        const V t589 = t579 + t582;
         const V t590 = c3 * t560;
         const V t591 = t30 - t590;
         const V t592 = c2 * t564;
@@ -763,16 +763,16 @@ struct ComplexGraph<60> {
         const V t596 = c2 * t565;
         const V t597 = t595 + t596;
         const V t598 = c5 * t562;
-        const V t599 = c5 * t563;
-        const V t600 = c4 * t566;
-        const V t601 = c4 * t567;
-        const V t602 = t598 + t600;
-        const V t603 = t599 + t601;
+        const V t599 = c4 * t566;
+        const V t600 = t598 + t599;
+        const V t601 = c5 * t563;
+        const V t602 = c4 * t567;
+        const V t603 = t601 + t602;
         const V t604 = t593 + t603;
-        const V t605 = t597 - t602;
+        const V t605 = t597 - t600;
         const V t606 = t593 - t603;
-        const V t607 = t597 + t602;
-        // block of 5, multiplier 2
+        const V t607 = t597 + t600;
+        // complex block of 5, multiplier 2
         const V t608 = t110 + t302;
         const V t609 = t111 + t303;
         const V t610 = t110 - t302;
@@ -794,15 +794,15 @@ struct ComplexGraph<60> {
         const V t626 = t624 - t625;
         const V t627 = t626 + t47;
         const V t628 = c4 * t610;
-        const V t629 = c4 * t611;
-        const V t630 = c5 * t614;
-        const V t631 = c5 * t615;
-        const V t632 = t628 - t630;
-        const V t633 = t629 - t631;
+        const V t629 = c5 * t614;
+        const V t630 = t628 - t629;
+        const V t631 = c4 * t611;
+        const V t632 = c5 * t615;
+        const V t633 = t631 - t632;
         const V t634 = t623 + t633;
-        const V t635 = t627 - t632;
+        const V t635 = t627 - t630;
         const V t636 = t623 - t633;
-        const V t637 = t627 + t632;
+        const V t637 = t627 + t630;
         const V t638 = c3 * t608;
         const V t639 = t46 - t638;
         const V t640 = c2 * t612;
@@ -812,16 +812,16 @@ struct ComplexGraph<60> {
         const V t644 = c2 * t613;
         const V t645 = t643 + t644;
         const V t646 = c5 * t610;
-        const V t647 = c5 * t611;
-        const V t648 = c4 * t614;
-        const V t649 = c4 * t615;
-        const V t650 = t646 + t648;
-        const V t651 = t647 + t649;
+        const V t647 = c4 * t614;
+        const V t648 = t646 + t647;
+        const V t649 = c5 * t611;
+        const V t650 = c4 * t615;
+        const V t651 = t649 + t650;
         const V t652 = t641 + t651;
-        const V t653 = t645 - t650;
+        const V t653 = t645 - t648;
         const V t654 = t641 - t651;
-        const V t655 = t645 + t650;
-        // block of 5, multiplier 2
+        const V t655 = t645 + t648;
+        // complex block of 5, multiplier 2
         const V t656 = t126 + t318;
         const V t657 = t127 + t319;
         const V t658 = t126 - t318;
@@ -843,15 +843,15 @@ struct ComplexGraph<60> {
         const V t674 = t672 - t673;
         const V t675 = t674 + t63;
         const V t676 = c4 * t658;
-        const V t677 = c4 * t659;
-        const V t678 = c5 * t662;
-        const V t679 = c5 * t663;
-        const V t680 = t676 - t678;
-        const V t681 = t677 - t679;
+        const V t677 = c5 * t662;
+        const V t678 = t676 - t677;
+        const V t679 = c4 * t659;
+        const V t680 = c5 * t663;
+        const V t681 = t679 - t680;
         const V t682 = t671 + t681;
-        const V t683 = t675 - t680;
+        const V t683 = t675 - t678;
         const V t684 = t671 - t681;
-        const V t685 = t675 + t680;
+        const V t685 = t675 + t678;
         const V t686 = c3 * t656;
         const V t687 = t62 - t686;
         const V t688 = c2 * t660;
@@ -861,16 +861,16 @@ struct ComplexGraph<60> {
         const V t692 = c2 * t661;
         const V t693 = t691 + t692;
         const V t694 = c5 * t658;
-        const V t695 = c5 * t659;
-        const V t696 = c4 * t662;
-        const V t697 = c4 * t663;
-        const V t698 = t694 + t696;
-        const V t699 = t695 + t697;
+        const V t695 = c4 * t662;
+        const V t696 = t694 + t695;
+        const V t697 = c5 * t659;
+        const V t698 = c4 * t663;
+        const V t699 = t697 + t698;
         const V t700 = t689 + t699;
-        const V t701 = t693 - t698;
+        const V t701 = t693 - t696;
         const V t702 = t689 - t699;
-        const V t703 = t693 + t698;
-        // block of 5, multiplier 2
+        const V t703 = t693 + t696;
+        // complex block of 5, multiplier 2
         const V t704 = t76 + t268;
         const V t705 = t77 + t269;
         const V t706 = t76 - t268;
@@ -892,15 +892,15 @@ struct ComplexGraph<60> {
         const V t722 = t720 - t721;
         const V t723 = t722 + t13;
         const V t724 = c4 * t706;
-        const V t725 = c4 * t707;
-        const V t726 = c5 * t710;
-        const V t727 = c5 * t711;
-        const V t728 = t724 - t726;
-        const V t729 = t725 - t727;
+        const V t725 = c5 * t710;
+        const V t726 = t724 - t725;
+        const V t727 = c4 * t707;
+        const V t728 = c5 * t711;
+        const V t729 = t727 - t728;
         const V t730 = t719 + t729;
-        const V t731 = t723 - t728;
+        const V t731 = t723 - t726;
         const V t732 = t719 - t729;
-        const V t733 = t723 + t728;
+        const V t733 = t723 + t726;
         const V t734 = c3 * t704;
         const V t735 = t12 - t734;
         const V t736 = c2 * t708;
@@ -910,16 +910,16 @@ struct ComplexGraph<60> {
         const V t740 = c2 * t709;
         const V t741 = t739 + t740;
         const V t742 = c5 * t706;
-        const V t743 = c5 * t707;
-        const V t744 = c4 * t710;
-        const V t745 = c4 * t711;
-        const V t746 = t742 + t744;
-        const V t747 = t743 + t745;
+        const V t743 = c4 * t710;
+        const V t744 = t742 + t743;
+        const V t745 = c5 * t707;
+        const V t746 = c4 * t711;
+        const V t747 = t745 + t746;
         const V t748 = t737 + t747;
-        const V t749 = t741 - t746;
+        const V t749 = t741 - t744;
         const V t750 = t737 - t747;
-        const V t751 = t741 + t746;
-        // block of 5, multiplier 2
+        const V t751 = t741 + t744;
+        // complex block of 5, multiplier 2
         const V t752 = t92 + t284;
         const V t753 = t93 + t285;
         const V t754 = t92 - t284;
@@ -941,15 +941,15 @@ struct ComplexGraph<60> {
         const V t770 = t768 - t769;
         const V t771 = t770 + t29;
         const V t772 = c4 * t754;
-        const V t773 = c4 * t755;
-        const V t774 = c5 * t758;
-        const V t775 = c5 * t759;
-        const V t776 = t772 - t774;
-        const V t777 = t773 - t775;
+        const V t773 = c5 * t758;
+        const V t774 = t772 - t773;
+        const V t775 = c4 * t755;
+        const V t776 = c5 * t759;
+        const V t777 = t775 - t776;
         const V t778 = t767 + t777;
-        const V t779 = t771 - t776;
+        const V t779 = t771 - t774;
         const V t780 = t767 - t777;
-        const V t781 = t771 + t776;
+        const V t781 = t771 + t774;
         const V t782 = c3 * t752;
         const V t783 = t28 - t782;
         const V t784 = c2 * t756;
@@ -959,16 +959,16 @@ struct ComplexGraph<60> {
         const V t788 = c2 * t757;
         const V t789 = t787 + t788;
         const V t790 = c5 * t754;
-        const V t791 = c5 * t755;
-        const V t792 = c4 * t758;
-        const V t793 = c4 * t759;
-        const V t794 = t790 + t792;
-        const V t795 = t791 + t793;
+        const V t791 = c4 * t758;
+        const V t792 = t790 + t791;
+        const V t793 = c5 * t755;
+        const V t794 = c4 * t759;
+        const V t795 = t793 + t794;
         const V t796 = t785 + t795;
-        const V t797 = t789 - t794;
+        const V t797 = t789 - t792;
         const V t798 = t785 - t795;
-        const V t799 = t789 + t794;
-        // block of 5, multiplier 2
+        const V t799 = t789 + t792;
+        // complex block of 5, multiplier 2
         const V t800 = t108 + t300;
         const V t801 = t109 + t301;
         const V t802 = t108 - t300;
@@ -990,15 +990,15 @@ struct ComplexGraph<60> {
         const V t818 = t816 - t817;
         const V t819 = t818 + t45;
         const V t820 = c4 * t802;
-        const V t821 = c4 * t803;
-        const V t822 = c5 * t806;
-        const V t823 = c5 * t807;
-        const V t824 = t820 - t822;
-        const V t825 = t821 - t823;
+        const V t821 = c5 * t806;
+        const V t822 = t820 - t821;
+        const V t823 = c4 * t803;
+        const V t824 = c5 * t807;
+        const V t825 = t823 - t824;
         const V t826 = t815 + t825;
-        const V t827 = t819 - t824;
+        const V t827 = t819 - t822;
         const V t828 = t815 - t825;
-        const V t829 = t819 + t824;
+        const V t829 = t819 + t822;
         const V t830 = c3 * t800;
         const V t831 = t44 - t830;
         const V t832 = c2 * t804;
@@ -1008,16 +1008,16 @@ struct ComplexGraph<60> {
         const V t836 = c2 * t805;
         const V t837 = t835 + t836;
         const V t838 = c5 * t802;
-        const V t839 = c5 * t803;
-        const V t840 = c4 * t806;
-        const V t841 = c4 * t807;
-        const V t842 = t838 + t840;
-        const V t843 = t839 + t841;
+        const V t839 = c4 * t806;
+        const V t840 = t838 + t839;
+        const V t841 = c5 * t803;
+        const V t842 = c4 * t807;
+        const V t843 = t841 + t842;
         const V t844 = t833 + t843;
-        const V t845 = t837 - t842;
+        const V t845 = t837 - t840;
         const V t846 = t833 - t843;
-        const V t847 = t837 + t842;
-        // block of 5, multiplier 2
+        const V t847 = t837 + t840;
+        // complex block of 5, multiplier 2
         const V t848 = t124 + t316;
         const V t849 = t125 + t317;
         const V t850 = t124 - t316;
@@ -1039,15 +1039,15 @@ struct ComplexGraph<60> {
         const V t866 = t864 - t865;
         const V t867 = t866 + t61;
         const V t868 = c4 * t850;
-        const V t869 = c4 * t851;
-        const V t870 = c5 * t854;
-        const V t871 = c5 * t855;
-        const V t872 = t868 - t870;
-        const V t873 = t869 - t871;
+        const V t869 = c5 * t854;
+        const V t870 = t868 - t869;
+        const V t871 = c4 * t851;
+        const V t872 = c5 * t855;
+        const V t873 = t871 - t872;
         const V t874 = t863 + t873;
-        const V t875 = t867 - t872;
+        const V t875 = t867 - t870;
         const V t876 = t863 - t873;
-        const V t877 = t867 + t872;
+        const V t877 = t867 + t870;
         const V t878 = c3 * t848;
         const V t879 = t60 - t878;
         const V t880 = c2 * t852;
@@ -1057,26 +1057,26 @@ struct ComplexGraph<60> {
         const V t884 = c2 * t853;
         const V t885 = t883 + t884;
         const V t886 = c5 * t850;
-        const V t887 = c5 * t851;
-        const V t888 = c4 * t854;
-        const V t889 = c4 * t855;
-        const V t890 = t886 + t888;
-        const V t891 = t887 + t889;
+        const V t887 = c4 * t854;
+        const V t888 = t886 + t887;
+        const V t889 = c5 * t851;
+        const V t890 = c4 * t855;
+        const V t891 = t889 + t890;
         const V t892 = t881 + t891;
-        const V t893 = t885 - t890;
+        const V t893 = t885 - t888;
         const V t894 = t881 - t891;
-        const V t895 = t885 + t890;
-        // block of 2
+        const V t895 = t885 + t888;
+        // complex block of 2
         const V t896 = t330 + t426;
         const V t897 = t331 + t427;
         const V t898 = t330 - t426;
         const V t899 = t331 - t427;
-        // block of 2
+        // complex block of 2
         const V t900 = t378 + t474;
         const V t901 = t379 + t475;
         const V t902 = t378 - t474;
         const V t903 = t379 - t475;
-        // block of 2
+        // complex block of 2
         const V t904 = t896 + t900;
         io.re(0, t904);
         const V t905 = t897 + t901;
@@ -1085,7 +1085,7 @@ struct ComplexGraph<60> {
         io.re(30, t906);
         const V t907 = t897 - t901;
         io.im(30, t907);
-        // block of 2
+        // complex block of 2
         const V t908 = t898 - t903;
         io.re(15, t908);
         const V t909 = t899 + t902;
@@ -1094,17 +1094,17 @@ struct ComplexGraph<60> {
         io.re(45, t910);
         const V t911 = t899 - t902;
         io.im(45, t911);
-        // block of 2
+        // complex block of 2
         const V t912 = t364 + t460;
         const V t913 = t365 + t461;
         const V t914 = t364 - t460;
         const V t915 = t365 - t461;
-        // block of 2
+        // complex block of 2
         const V t916 = t412 + t508;
         const V t917 = t413 + t509;
         const V t918 = t412 - t508;
         const V t919 = t413 - t509;
-        // block of 2
+        // complex block of 2
         const V t920 = t912 + t916;
         io.re(12, t920);
         const V t921 = t913 + t917;
@@ -1113,7 +1113,7 @@ struct ComplexGraph<60> {
         io.re(42, t922);
         const V t923 = t913 - t917;
         io.im(42, t923);
-        // block of 2
+        // complex block of 2
         const V t924 = t914 - t919;
         io.re(27, t924);
         const V t925 = t915 + t918;
@@ -1122,17 +1122,17 @@ struct ComplexGraph<60> {
         io.re(57, t926);
         const V t927 = t915 - t918;
         io.im(57, t927);
-        // block of 2
+        // complex block of 2
         const V t928 = t348 + t444;
         const V t929 = t349 + t445;
         const V t930 = t348 - t444;
         const V t931 = t349 - t445;
-        // block of 2
+        // complex block of 2
         const V t932 = t396 + t492;
         const V t933 = t397 + t493;
         const V t934 = t396 - t492;
         const V t935 = t397 - t493;
-        // block of 2
+        // complex block of 2
         const V t936 = t928 + t932;
         io.re(24, t936);
         const V t937 = t929 + t933;
@@ -1141,7 +1141,7 @@ struct ComplexGraph<60> {
         io.re(54, t938);
         const V t939 = t929 - t933;
         io.im(54, t939);
-        // block of 2
+        // complex block of 2
         const V t940 = t930 - t935;
         io.re(39, t940);
         const V t941 = t931 + t934;
@@ -1150,17 +1150,17 @@ struct ComplexGraph<60> {
         io.re(9, t942);
         const V t943 = t931 - t934;
         io.im(9, t943);
-        // block of 2
+        // complex block of 2
         const V t944 = t346 + t442;
         const V t945 = t347 + t443;
         const V t946 = t346 - t442;
         const V t947 = t347 - t443;
-        // block of 2
+        // complex block of 2
         const V t948 = t394 + t490;
         const V t949 = t395 + t491;
         const V t950 = t394 - t490;
         const V t951 = t395 - t491;
-        // block of 2
+        // complex block of 2
         const V t952 = t944 + t948;
         io.re(36, t952);
         const V t953 = t945 + t949;
@@ -1169,7 +1169,7 @@ struct ComplexGraph<60> {
         io.re(6, t954);
         const V t955 = t945 - t949;
         io.im(6, t955);
-        // block of 2
+        // complex block of 2
         const V t956 = t946 - t951;
         io.re(51, t956);
         const V t957 = t947 + t950;
@@ -1178,17 +1178,17 @@ struct ComplexGraph<60> {
         io.re(21, t958);
         const V t959 = t947 - t950;
         io.im(21, t959);
-        // block of 2
+        // complex block of 2
         const V t960 = t366 + t462;
         const V t961 = t367 + t463;
         const V t962 = t366 - t462;
         const V t963 = t367 - t463;
-        // block of 2
+        // complex block of 2
         const V t964 = t414 + t510;
         const V t965 = t415 + t511;
         const V t966 = t414 - t510;
         const V t967 = t415 - t511;
-        // block of 2
+        // complex block of 2
         const V t968 = t960 + t964;
         io.re(48, t968);
         const V t969 = t961 + t965;
@@ -1197,7 +1197,7 @@ struct ComplexGraph<60> {
         io.re(18, t970);
         const V t971 = t961 - t965;
         io.im(18, t971);
-        // block of 2
+        // complex block of 2
         const V t972 = t962 - t967;
         io.re(3, t972);
         const V t973 = t963 + t966;
@@ -1206,17 +1206,17 @@ struct ComplexGraph<60> {
         io.re(33, t974);
         const V t975 = t963 - t966;
         io.im(33, t975);
-        // block of 2
+        // complex block of 2
         const V t976 = t522 + t618;
         const V t977 = t523 + t619;
         const V t978 = t522 - t618;
         const V t979 = t523 - t619;
-        // block of 2
+        // complex block of 2
         const V t980 = t570 + t666;
         const V t981 = t571 + t667;
         const V t982 = t570 - t666;
         const V t983 = t571 - t667;
-        // block of 2
+        // complex block of 2
         const V t984 = t976 + t980;
         io.re(20, t984);
         const V t985 = t977 + t981;
@@ -1225,7 +1225,7 @@ struct ComplexGraph<60> {
         io.re(50, t986);
         const V t987 = t977 - t981;
         io.im(50, t987);
-        // block of 2
+        // complex block of 2
         const V t988 = t978 - t983;
         io.re(35, t988);
         const V t989 = t979 + t982;
@@ -1234,17 +1234,17 @@ struct ComplexGraph<60> {
         io.re(5, t990);
         const V t991 = t979 - t982;
         io.im(5, t991);
-        // block of 2
+        // complex block of 2
         const V t992 = t556 + t652;
         const V t993 = t557 + t653;
         const V t994 = t556 - t652;
         const V t995 = t557 - t653;
-        // block of 2
+        // complex block of 2
         const V t996 = t604 + t700;
         const V t997 = t605 + t701;
         const V t998 = t604 - t700;
         const V t999 = t605 - t701;
-        // block of 2
+        // complex block of 2
         const V t1000 = t992 + t996;
         io.re(32, t1000);
         const V t1001 = t993 + t997;
@@ -1253,7 +1253,7 @@ struct ComplexGraph<60> {
         io.re(2, t1002);
         const V t1003 = t993 - t997;
         io.im(2, t1003);
-        // block of 2
+        // complex block of 2
         const V t1004 = t994 - t999;
         io.re(47, t1004);
         const V t1005 = t995 + t998;
@@ -1262,17 +1262,17 @@ struct ComplexGraph<60> {
         io.re(17, t1006);
         const V t1007 = t995 - t998;
         io.im(17, t1007);
-        // block of 2
+        // complex block of 2
         const V t1008 = t540 + t636;
         const V t1009 = t541 + t637;
         const V t1010 = t540 - t636;
         const V t1011 = t541 - t637;
-        // block of 2
+        // complex block of 2
         const V t1012 = t588 + t684;
         const V t1013 = t589 + t685;
         const V t1014 = t588 - t684;
         const V t1015 = t589 - t685;
-        // block of 2
+        // complex block of 2
         const V t1016 = t1008 + t1012;
         io.re(44, t1016);
         const V t1017 = t1009 + t1013;
@@ -1281,7 +1281,7 @@ struct ComplexGraph<60> {
         io.re(14, t1018);
         const V t1019 = t1009 - t1013;
         io.im(14, t1019);
-        // block of 2
+        // complex block of 2
         const V t1020 = t1010 - t1015;
         io.re(59, t1020);
         const V t1021 = t1011 + t1014;
@@ -1290,17 +1290,17 @@ struct ComplexGraph<60> {
         io.re(29, t1022);
         const V t1023 = t1011 - t1014;
         io.im(29, t1023);
-        // block of 2
+        // complex block of 2
         const V t1024 = t538 + t634;
         const V t1025 = t539 + t635;
         const V t1026 = t538 - t634;
         const V t1027 = t539 - t635;
-        // block of 2
+        // complex block of 2
         const V t1028 = t586 + t682;
         const V t1029 = t587 + t683;
         const V t1030 = t586 - t682;
         const V t1031 = t587 - t683;
-        // block of 2
+        // complex block of 2
         const V t1032 = t1024 + t1028;
         io.re(56, t1032);
         const V t1033 = t1025 + t1029;
@@ -1309,7 +1309,7 @@ struct ComplexGraph<60> {
         io.re(26, t1034);
         const V t1035 = t1025 - t1029;
         io.im(26, t1035);
-        // block of 2
+        // complex block of 2
         const V t1036 = t1026 - t1031;
         io.re(11, t1036);
         const V t1037 = t1027 + t1030;
@@ -1318,17 +1318,17 @@ struct ComplexGraph<60> {
         io.re(41, t1038);
         const V t1039 = t1027 - t1030;
         io.im(41, t1039);
-        // block of 2
+        // complex block of 2
         const V t1040 = t558 + t654;
         const V t1041 = t559 + t655;
         const V t1042 = t558 - t654;
         const V t1043 = t559 - t655;
-        // block of 2
+        // complex block of 2
         const V t1044 = t606 + t702;
         const V t1045 = t607 + t703;
         const V t1046 = t606 - t702;
         const V t1047 = t607 - t703;
-        // block of 2
+        // complex block of 2
         const V t1048 = t1040 + t1044;
         io.re(8, t1048);
         const V t1049 = t1041 + t1045;
@@ -1337,7 +1337,7 @@ struct ComplexGraph<60> {
         io.re(38, t1050);
         const V t1051 = t1041 - t1045;
         io.im(38, t1051);
-        // block of 2
+        // complex block of 2
         const V t1052 = t1042 - t1047;
         io.re(23, t1052);
         const V t1053 = t1043 + t1046;
@@ -1346,17 +1346,17 @@ struct ComplexGraph<60> {
         io.re(53, t1054);
         const V t1055 = t1043 - t1046;
         io.im(53, t1055);
-        // block of 2
+        // complex block of 2
         const V t1056 = t714 + t810;
         const V t1057 = t715 + t811;
         const V t1058 = t714 - t810;
         const V t1059 = t715 - t811;
-        // block of 2
+        // complex block of 2
         const V t1060 = t762 + t858;
         const V t1061 = t763 + t859;
         const V t1062 = t762 - t858;
         const V t1063 = t763 - t859;
-        // block of 2
+        // complex block of 2
         const V t1064 = t1056 + t1060;
         io.re(40, t1064);
         const V t1065 = t1057 + t1061;
@@ -1365,7 +1365,7 @@ struct ComplexGraph<60> {
         io.re(10, t1066);
         const V t1067 = t1057 - t1061;
         io.im(10, t1067);
-        // block of 2
+        // complex block of 2
         const V t1068 = t1058 - t1063;
         io.re(55, t1068);
         const V t1069 = t1059 + t1062;
@@ -1374,17 +1374,17 @@ struct ComplexGraph<60> {
         io.re(25, t1070);
         const V t1071 = t1059 - t1062;
         io.im(25, t1071);
-        // block of 2
+        // complex block of 2
         const V t1072 = t748 + t844;
         const V t1073 = t749 + t845;
         const V t1074 = t748 - t844;
         const V t1075 = t749 - t845;
-        // block of 2
+        // complex block of 2
         const V t1076 = t796 + t892;
         const V t1077 = t797 + t893;
         const V t1078 = t796 - t892;
         const V t1079 = t797 - t893;
-        // block of 2
+        // complex block of 2
         const V t1080 = t1072 + t1076;
         io.re(52, t1080);
         const V t1081 = t1073 + t1077;
@@ -1393,7 +1393,7 @@ struct ComplexGraph<60> {
         io.re(22, t1082);
         const V t1083 = t1073 - t1077;
         io.im(22, t1083);
-        // block of 2
+        // complex block of 2
         const V t1084 = t1074 - t1079;
         io.re(7, t1084);
         const V t1085 = t1075 + t1078;
@@ -1402,17 +1402,17 @@ struct ComplexGraph<60> {
         io.re(37, t1086);
         const V t1087 = t1075 - t1078;
         io.im(37, t1087);
-        // block of 2
+        // complex block of 2
         const V t1088 = t732 + t828;
         const V t1089 = t733 + t829;
         const V t1090 = t732 - t828;
         const V t1091 = t733 - t829;
-        // block of 2
+        // complex block of 2
         const V t1092 = t780 + t876;
         const V t1093 = t781 + t877;
         const V t1094 = t780 - t876;
         const V t1095 = t781 - t877;
-        // block of 2
+        // complex block of 2
         const V t1096 = t1088 + t1092;
         io.re(4, t1096);
         const V t1097 = t1089 + t1093;
@@ -1421,7 +1421,7 @@ struct ComplexGraph<60> {
         io.re(34, t1098);
         const V t1099 = t1089 - t1093;
         io.im(34, t1099);
-        // block of 2
+        // complex block of 2
         const V t1100 = t1090 - t1095;
         io.re(19, t1100);
         const V t1101 = t1091 + t1094;
@@ -1430,17 +1430,17 @@ struct ComplexGraph<60> {
         io.re(49, t1102);
         const V t1103 = t1091 - t1094;
         io.im(49, t1103);
-        // block of 2
+        // complex block of 2
         const V t1104 = t730 + t826;
         const V t1105 = t731 + t827;
         const V t1106 = t730 - t826;
         const V t1107 = t731 - t827;
-        // block of 2
+        // complex block of 2
         const V t1108 = t778 + t874;
         const V t1109 = t779 + t875;
         const V t1110 = t778 - t874;
         const V t1111 = t779 - t875;
-        // block of 2
+        // complex block of 2
         const V t1112 = t1104 + t1108;
         io.re(16, t1112);
         const V t1113 = t1105 + t1109;
@@ -1449,7 +1449,7 @@ struct ComplexGraph<60> {
         io.re(46, t1114);
         const V t1115 = t1105 - t1109;
         io.im(46, t1115);
-        // block of 2
+        // complex block of 2
         const V t1116 = t1106 - t1111;
         io.re(31, t1116);
         const V t1117 = t1107 + t1110;
@@ -1458,17 +1458,17 @@ struct ComplexGraph<60> {
         io.re(1, t1118);
         const V t1119 = t1107 - t1110;
         io.im(1, t1119);
-        // block of 2
+        // complex block of 2
         const V t1120 = t750 + t846;
         const V t1121 = t751 + t847;
         const V t1122 = t750 - t846;
         const V t1123 = t751 - t847;
-        // block of 2
+        // complex block of 2
         const V t1124 = t798 + t894;
         const V t1125 = t799 + t895;
         const V t1126 = t798 - t894;
         const V t1127 = t799 - t895;
-        // block of 2
+        // complex block of 2
         const V t1128 = t1120 + t1124;
         io.re(28, t1128);
         const V t1129 = t1121 + t1125;
@@ -1477,7 +1477,7 @@ struct ComplexGraph<60> {
         io.re(58, t1130);
         const V t1131 = t1121 - t1125;
         io.im(58, t1131);
-        // block of 2
+        // complex block of 2
         const V t1132 = t1122 - t1127;
         io.re(43, t1132);
         const V t1133 = t1123 + t1126;

@@ -26,7 +26,7 @@ struct ComplexGraph<63> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 7, multiplier 2
+        // complex block of 7, multiplier 2
         const V x9r = io.re(9);
         const V x54r = io.re(54);
         const V t0 = x9r + x54r;
@@ -52,11 +52,11 @@ struct ComplexGraph<63> {
         const V t10 = x36r - x27r;
         const V t11 = x36i - x27i;
         const V t12 = t0 + t4;
-        const V t13 = t1 + t5;
-        const V t14 = t12 + t8;
-        const V t15 = t13 + t9;
+        const V t13 = t12 + t8;
+        const V t14 = t1 + t5;
+        const V t15 = t14 + t9;
         const V x0r = io.re(0);
-        const V t16 = t14 + x0r;
+        const V t16 = t13 + x0r;
         const V x0i = io.im(0);
         const V t17 = t15 + x0i;
         const V t18 = c0 * t0;
@@ -72,19 +72,19 @@ struct ComplexGraph<63> {
         const V t28 = t26 - t27;
         const V t29 = t28 + x0i;
         const V t30 = c3 * t2;
-        const V t31 = c3 * t3;
-        const V t32 = c4 * t6;
-        const V t33 = c4 * t7;
-        const V t34 = t30 - t32;
-        const V t35 = t31 - t33;
-        const V t36 = c5 * t10;
-        const V t37 = c5 * t11;
-        const V t38 = t34 - t36;
-        const V t39 = t35 - t37;
+        const V t31 = c4 * t6;
+        const V t32 = t30 - t31;
+        const V t33 = c5 * t10;
+        const V t34 = t32 - t33;
+        const V t35 = c3 * t3;
+        const V t36 = c4 * t7;
+        const V t37 = t35 - t36;
+        const V t38 = c5 * t11;
+        const V t39 = t37 - t38;
         const V t40 = t23 + t39;
-        const V t41 = t29 - t38;
+        const V t41 = t29 - t34;
         const V t42 = t23 - t39;
-        const V t43 = t29 + t38;
+        const V t43 = t29 + t34;
         const V t44 = c1 * t0;
         const V t45 = x0r - t44;
         const V t46 = c2 * t4;
@@ -98,19 +98,19 @@ struct ComplexGraph<63> {
         const V t54 = c0 * t9;
         const V t55 = t53 + t54;
         const V t56 = c4 * t2;
-        const V t57 = c4 * t3;
-        const V t58 = c5 * t6;
-        const V t59 = c5 * t7;
-        const V t60 = t56 + t58;
-        const V t61 = t57 + t59;
-        const V t62 = c3 * t10;
-        const V t63 = c3 * t11;
-        const V t64 = t60 + t62;
-        const V t65 = t61 + t63;
+        const V t57 = c5 * t6;
+        const V t58 = t56 + t57;
+        const V t59 = c3 * t10;
+        const V t60 = t58 + t59;
+        const V t61 = c4 * t3;
+        const V t62 = c5 * t7;
+        const V t63 = t61 + t62;
+        const V t64 = c3 * t11;
+        const V t65 = t63 + t64;
         const V t66 = t49 + t65;
-        const V t67 = t55 - t64;
+        const V t67 = t55 - t60;
         const V t68 = t49 - t65;
-        const V t69 = t55 + t64;
+        const V t69 = t55 + t60;
         const V t70 = c2 * t0;
         const V t71 = x0r - t70;
         const V t72 = c0 * t4;
@@ -124,20 +124,20 @@ struct ComplexGraph<63> {
         const V t80 = c1 * t9;
         const V t81 = t79 - t80;
         const V t82 = c5 * t2;
-        const V t83 = c5 * t3;
-        const V t84 = c3 * t6;
-        const V t85 = c3 * t7;
-        const V t86 = t82 + t84;
-        const V t87 = t83 + t85;
-        const V t88 = c4 * t10;
-        const V t89 = c4 * t11;
-        const V t90 = t86 - t88;
-        const V t91 = t87 - t89;
+        const V t83 = c3 * t6;
+        const V t84 = t82 + t83;
+        const V t85 = c4 * t10;
+        const V t86 = t84 - t85;
+        const V t87 = c5 * t3;
+        const V t88 = c3 * t7;
+        const V t89 = t87 + t88;
+        const V t90 = c4 * t11;
+        const V t91 = t89 - t90;
         const V t92 = t75 + t91;
-        const V t93 = t81 - t90;
+        const V t93 = t81 - t86;
         const V t94 = t75 - t91;
-        const V t95 = t81 + t90;
-        // block of 7, multiplier 2
+        const V t95 = t81 + t86;
+        // complex block of 7, multiplier 2
         const V x16r = io.re(16);
         const V x61r = io.re(61);
         const V t96 = x16r + x61r;
@@ -163,11 +163,11 @@ struct ComplexGraph<63> {
         const V t106 = x43r - x34r;
         const V t107 = x43i - x34i;
         const V t108 = t96 + t100;
-        const V t109 = t97 + t101;
-        const V t110 = t108 + t104;
-        const V t111 = t109 + t105;
+        const V t109 = t108 + t104;
+        const V t110 = t97 + t101;
+        const V t111 = t110 + t105;
         const V x7r = io.re(7);
-        const V t112 = t110 + x7r;
+        const V t112 = t109 + x7r;
         const V x7i = io.im(7);
         const V t113 = t111 + x7i;
         const V t114 = c0 * t96;
@@ -183,19 +183,19 @@ struct ComplexGraph<63> {
         const V t124 = t122 - t123;
         const V t125 = t124 + x7i;
         const V t126 = c3 * t98;
-        const V t127 = c3 * t99;
-        const V t128 = c4 * t102;
-        const V t129 = c4 * t103;
-        const V t130 = t126 - t128;
-        const V t131 = t127 - t129;
-        const V t132 = c5 * t106;
-        const V t133 = c5 * t107;
-        const V t134 = t130 - t132;
-        const V t135 = t131 - t133;
+        const V t127 = c4 * t102;
+        const V t128 = t126 - t127;
+        const V t129 = c5 * t106;
+        const V t130 = t128 - t129;
+        const V t131 = c3 * t99;
+        const V t132 = c4 * t103;
+        const V t133 = t131 - t132;
+        const V t134 = c5 * t107;
+        const V t135 = t133 - t134;
         const V t136 = t119 + t135;
-        const V t137 = t125 - t134;
+        const V t137 = t125 - t130;
         const V t138 = t119 - t135;
-        const V t139 = t125 + t134;
+        const V t139 = t125 + t130;
         const V t140 = c1 * t96;
         const V t141 = x7r - t140;
         const V t142 = c2 * t100;
@@ -209,19 +209,19 @@ struct ComplexGraph<63> {
         const V t150 = c0 * t105;
         const V t151 = t149 + t150;
         const V t152 = c4 * t98;
-        const V t153 = c4 * t99;
-        const V t154 = c5 * t102;
-        const V t155 = c5 * t103;
-        const V t156 = t152 + t154;
-        const V t157 = t153 + t155;
-        const V t158 = c3 * t106;
-        const V t159 = c3 * t107;
-        const V t160 = t156 + t158;
-        const V t161 = t157 + t159;
+        const V t153 = c5 * t102;
+        const V t154 = t152 + t153;
+        const V t155 = c3 * t106;
+        const V t156 = t154 + t155;
+        const V t157 = c4 * t99;
+        const V t158 = c5 * t103;
+        const V t159 = t157 + t158;
+        const V t160 = c3 * t107;
+        const V t161 = t159 + t160;
         const V t162 = t145 + t161;
-        const V t163 = t151 - t160;
+        const V t163 = t151 - t156;
         const V t164 = t145 - t161;
-        const V t165 = t151 + t160;
+        const V t165 = t151 + t156;
         const V t166 = c2 * t96;
         const V t167 = x7r - t166;
         const V t168 = c0 * t100;
@@ -235,20 +235,20 @@ struct ComplexGraph<63> {
         const V t176 = c1 * t105;
         const V t177 = t175 - t176;
         const V t178 = c5 * t98;
-        const V t179 = c5 * t99;
-        const V t180 = c3 * t102;
-        const V t181 = c3 * t103;
-        const V t182 = t178 + t180;
-        const V t183 = t179 + t181;
-        const V t184 = c4 * t106;
-        const V t185 = c4 * t107;
-        const V t186 = t182 - t184;
-        const V t187 = t183 - t185;
+        const V t179 = c3 * t102;
+        const V t180 = t178 + t179;
+        const V t181 = c4 * t106;
+        const V t182 = t180 - t181;
+        const V t183 = c5 * t99;
+        const V t184 = c3 * t103;
+        const V t185 = t183 + t184;
+        const V t186 = c4 * t107;
+        const V t187 = t185 - t186;
         const V t188 = t171 + t187;
-        const V t189 = t177 - t186;
+        const V t189 = t177 - t182;
         const V t190 = t171 - t187;
-        const V t191 = t177 + t186;
-        // block of 7, multiplier 2
+        const V t191 = t177 + t182;
+        // complex block of 7, multiplier 2
         const V x23r = io.re(23);
         const V x5r = io.re(5);
         const V t192 = x23r + x5r;
@@ -274,11 +274,11 @@ struct ComplexGraph<63> {
         const V t202 = x50r - x41r;
         const V t203 = x50i - x41i;
         const V t204 = t192 + t196;
-        const V t205 = t193 + t197;
-        const V t206 = t204 + t200;
-        const V t207 = t205 + t201;
+        const V t205 = t204 + t200;
+        const V t206 = t193 + t197;
+        const V t207 = t206 + t201;
         const V x14r = io.re(14);
-        const V t208 = t206 + x14r;
+        const V t208 = t205 + x14r;
         const V x14i = io.im(14);
         const V t209 = t207 + x14i;
         const V t210 = c0 * t192;
@@ -294,19 +294,19 @@ struct ComplexGraph<63> {
         const V t220 = t218 - t219;
         const V t221 = t220 + x14i;
         const V t222 = c3 * t194;
-        const V t223 = c3 * t195;
-        const V t224 = c4 * t198;
-        const V t225 = c4 * t199;
-        const V t226 = t222 - t224;
-        const V t227 = t223 - t225;
-        const V t228 = c5 * t202;
-        const V t229 = c5 * t203;
-        const V t230 = t226 - t228;
-        const V t231 = t227 - t229;
+        const V t223 = c4 * t198;
+        const V t224 = t222 - t223;
+        const V t225 = c5 * t202;
+        const V t226 = t224 - t225;
+        const V t227 = c3 * t195;
+        const V t228 = c4 * t199;
+        const V t229 = t227 - t228;
+        const V t230 = c5 * t203;
+        const V t231 = t229 - t230;
         const V t232 = t215 + t231;
-        const V t233 = t221 - t230;
+        const V t233 = t221 - t226;
         const V t234 = t215 - t231;
-        const V t235 = t221 + t230;
+        const V t235 = t221 + t226;
         const V t236 = c1 * t192;
         const V t237 = x14r - t236;
         const V t238 = c2 * t196;
@@ -320,19 +320,19 @@ struct ComplexGraph<63> {
         const V t246 = c0 * t201;
         const V t247 = t245 + t246;
         const V t248 = c4 * t194;
-        const V t249 = c4 * t195;
-        const V t250 = c5 * t198;
-        const V t251 = c5 * t199;
-        const V t252 = t248 + t250;
-        const V t253 = t249 + t251;
-        const V t254 = c3 * t202;
-        const V t255 = c3 * t203;
-        const V t256 = t252 + t254;
-        const V t257 = t253 + t255;
+        const V t249 = c5 * t198;
+        const V t250 = t248 + t249;
+        const V t251 = c3 * t202;
+        const V t252 = t250 + t251;
+        const V t253 = c4 * t195;
+        const V t254 = c5 * t199;
+        const V t255 = t253 + t254;
+        const V t256 = c3 * t203;
+        const V t257 = t255 + t256;
         const V t258 = t241 + t257;
-        const V t259 = t247 - t256;
+        const V t259 = t247 - t252;
         const V t260 = t241 - t257;
-        const V t261 = t247 + t256;
+        const V t261 = t247 + t252;
         const V t262 = c2 * t192;
         const V t263 = x14r - t262;
         const V t264 = c0 * t196;
@@ -346,20 +346,20 @@ struct ComplexGraph<63> {
         const V t272 = c1 * t201;
         const V t273 = t271 - t272;
         const V t274 = c5 * t194;
-        const V t275 = c5 * t195;
-        const V t276 = c3 * t198;
-        const V t277 = c3 * t199;
-        const V t278 = t274 + t276;
-        const V t279 = t275 + t277;
-        const V t280 = c4 * t202;
-        const V t281 = c4 * t203;
-        const V t282 = t278 - t280;
-        const V t283 = t279 - t281;
+        const V t275 = c3 * t198;
+        const V t276 = t274 + t275;
+        const V t277 = c4 * t202;
+        const V t278 = t276 - t277;
+        const V t279 = c5 * t195;
+        const V t280 = c3 * t199;
+        const V t281 = t279 + t280;
+        const V t282 = c4 * t203;
+        const V t283 = t281 - t282;
         const V t284 = t267 + t283;
-        const V t285 = t273 - t282;
+        const V t285 = t273 - t278;
         const V t286 = t267 - t283;
-        const V t287 = t273 + t282;
-        // block of 7, multiplier 2
+        const V t287 = t273 + t278;
+        // complex block of 7, multiplier 2
         const V x30r = io.re(30);
         const V x12r = io.re(12);
         const V t288 = x30r + x12r;
@@ -385,11 +385,11 @@ struct ComplexGraph<63> {
         const V t298 = x57r - x48r;
         const V t299 = x57i - x48i;
         const V t300 = t288 + t292;
-        const V t301 = t289 + t293;
-        const V t302 = t300 + t296;
-        const V t303 = t301 + t297;
+        const V t301 = t300 + t296;
+        const V t302 = t289 + t293;
+        const V t303 = t302 + t297;
         const V x21r = io.re(21);
-        const V t304 = t302 + x21r;
+        const V t304 = t301 + x21r;
         const V x21i = io.im(21);
         const V t305 = t303 + x21i;
         const V t306 = c0 * t288;
@@ -405,19 +405,19 @@ struct ComplexGraph<63> {
         const V t316 = t314 - t315;
         const V t317 = t316 + x21i;
         const V t318 = c3 * t290;
-        const V t319 = c3 * t291;
-        const V t320 = c4 * t294;
-        const V t321 = c4 * t295;
-        const V t322 = t318 - t320;
-        const V t323 = t319 - t321;
-        const V t324 = c5 * t298;
-        const V t325 = c5 * t299;
-        const V t326 = t322 - t324;
-        const V t327 = t323 - t325;
+        const V t319 = c4 * t294;
+        const V t320 = t318 - t319;
+        const V t321 = c5 * t298;
+        const V t322 = t320 - t321;
+        const V t323 = c3 * t291;
+        const V t324 = c4 * t295;
+        const V t325 = t323 - t324;
+        const V t326 = c5 * t299;
+        const V t327 = t325 - t326;
         const V t328 = t311 + t327;
-        const V t329 = t317 - t326;
+        const V t329 = t317 - t322;
         const V t330 = t311 - t327;
-        const V t331 = t317 + t326;
+        const V t331 = t317 + t322;
         const V t332 = c1 * t288;
         const V t333 = x21r - t332;
         const V t334 = c2 * t292;
@@ -431,19 +431,19 @@ struct ComplexGraph<63> {
         const V t342 = c0 * t297;
         const V t343 = t341 + t342;
         const V t344 = c4 * t290;
-        const V t345 = c4 * t291;
-        const V t346 = c5 * t294;
-        const V t347 = c5 * t295;
-        const V t348 = t344 + t346;
-        const V t349 = t345 + t347;
-        const V t350 = c3 * t298;
-        const V t351 = c3 * t299;
-        const V t352 = t348 + t350;
-        const V t353 = t349 + t351;
+        const V t345 = c5 * t294;
+        const V t346 = t344 + t345;
+        const V t347 = c3 * t298;
+        const V t348 = t346 + t347;
+        const V t349 = c4 * t291;
+        const V t350 = c5 * t295;
+        const V t351 = t349 + t350;
+        const V t352 = c3 * t299;
+        const V t353 = t351 + t352;
         const V t354 = t337 + t353;
-        const V t355 = t343 - t352;
+        const V t355 = t343 - t348;
         const V t356 = t337 - t353;
-        const V t357 = t343 + t352;
+        const V t357 = t343 + t348;
         const V t358 = c2 * t288;
         const V t359 = x21r - t358;
         const V t360 = c0 * t292;
@@ -457,20 +457,20 @@ struct ComplexGraph<63> {
         const V t368 = c1 * t297;
         const V t369 = t367 - t368;
         const V t370 = c5 * t290;
-        const V t371 = c5 * t291;
-        const V t372 = c3 * t294;
-        const V t373 = c3 * t295;
-        const V t374 = t370 + t372;
-        const V t375 = t371 + t373;
-        const V t376 = c4 * t298;
-        const V t377 = c4 * t299;
-        const V t378 = t374 - t376;
-        const V t379 = t375 - t377;
+        const V t371 = c3 * t294;
+        const V t372 = t370 + t371;
+        const V t373 = c4 * t298;
+        const V t374 = t372 - t373;
+        const V t375 = c5 * t291;
+        const V t376 = c3 * t295;
+        const V t377 = t375 + t376;
+        const V t378 = c4 * t299;
+        const V t379 = t377 - t378;
         const V t380 = t363 + t379;
-        const V t381 = t369 - t378;
+        const V t381 = t369 - t374;
         const V t382 = t363 - t379;
-        const V t383 = t369 + t378;
-        // block of 7, multiplier 2
+        const V t383 = t369 + t374;
+        // complex block of 7, multiplier 2
         const V x37r = io.re(37);
         const V x19r = io.re(19);
         const V t384 = x37r + x19r;
@@ -496,11 +496,11 @@ struct ComplexGraph<63> {
         const V t394 = x1r - x55r;
         const V t395 = x1i - x55i;
         const V t396 = t384 + t388;
-        const V t397 = t385 + t389;
-        const V t398 = t396 + t392;
-        const V t399 = t397 + t393;
+        const V t397 = t396 + t392;
+        const V t398 = t385 + t389;
+        const V t399 = t398 + t393;
         const V x28r = io.re(28);
-        const V t400 = t398 + x28r;
+        const V t400 = t397 + x28r;
         const V x28i = io.im(28);
         const V t401 = t399 + x28i;
         const V t402 = c0 * t384;
@@ -516,19 +516,19 @@ struct ComplexGraph<63> {
         const V t412 = t410 - t411;
         const V t413 = t412 + x28i;
         const V t414 = c3 * t386;
-        const V t415 = c3 * t387;
-        const V t416 = c4 * t390;
-        const V t417 = c4 * t391;
-        const V t418 = t414 - t416;
-        const V t419 = t415 - t417;
-        const V t420 = c5 * t394;
-        const V t421 = c5 * t395;
-        const V t422 = t418 - t420;
-        const V t423 = t419 - t421;
+        const V t415 = c4 * t390;
+        const V t416 = t414 - t415;
+        const V t417 = c5 * t394;
+        const V t418 = t416 - t417;
+        const V t419 = c3 * t387;
+        const V t420 = c4 * t391;
+        const V t421 = t419 - t420;
+        const V t422 = c5 * t395;
+        const V t423 = t421 - t422;
         const V t424 = t407 + t423;
-        const V t425 = t413 - t422;
+        const V t425 = t413 - t418;
         const V t426 = t407 - t423;
-        const V t427 = t413 + t422;
+        const V t427 = t413 + t418;
         const V t428 = c1 * t384;
         const V t429 = x28r - t428;
         const V t430 = c2 * t388;
@@ -542,19 +542,19 @@ struct ComplexGraph<63> {
         const V t438 = c0 * t393;
         const V t439 = t437 + t438;
         const V t440 = c4 * t386;
-        const V t441 = c4 * t387;
-        const V t442 = c5 * t390;
-        const V t443 = c5 * t391;
-        const V t444 = t440 + t442;
-        const V t445 = t441 + t443;
-        const V t446 = c3 * t394;
-        const V t447 = c3 * t395;
-        const V t448 = t444 + t446;
-        const V t449 = t445 + t447;
+        const V t441 = c5 * t390;
+        const V t442 = t440 + t441;
+        const V t443 = c3 * t394;
+        const V t444 = t442 + t443;
+        const V t445 = c4 * t387;
+        const V t446 = c5 * t391;
+        const V t447 = t445 + t446;
+        const V t448 = c3 * t395;
+        const V t449 = t447 + t448;
         const V t450 = t433 + t449;
-        const V t451 = t439 - t448;
+        const V t451 = t439 - t444;
         const V t452 = t433 - t449;
-        const V t453 = t439 + t448;
+        const V t453 = t439 + t444;
         const V t454 = c2 * t384;
         const V t455 = x28r - t454;
         const V t456 = c0 * t388;
@@ -568,20 +568,20 @@ struct ComplexGraph<63> {
         const V t464 = c1 * t393;
         const V t465 = t463 - t464;
         const V t466 = c5 * t386;
-        const V t467 = c5 * t387;
-        const V t468 = c3 * t390;
-        const V t469 = c3 * t391;
-        const V t470 = t466 + t468;
-        const V t471 = t467 + t469;
-        const V t472 = c4 * t394;
-        const V t473 = c4 * t395;
-        const V t474 = t470 - t472;
-        const V t475 = t471 - t473;
+        const V t467 = c3 * t390;
+        const V t468 = t466 + t467;
+        const V t469 = c4 * t394;
+        const V t470 = t468 - t469;
+        const V t471 = c5 * t387;
+        const V t472 = c3 * t391;
+        const V t473 = t471 + t472;
+        const V t474 = c4 * t395;
+        const V t475 = t473 - t474;
         const V t476 = t459 + t475;
-        const V t477 = t465 - t474;
+        const V t477 = t465 - t470;
         const V t478 = t459 - t475;
-        const V t479 = t465 + t474;
-        // block of 7, multiplier 2
+        const V t479 = t465 + t470;
+        // complex block of 7, multiplier 2
         const V x44r = io.re(44);
         const V x26r = io.re(26);
         const V t480 = x44r + x26r;
@@ -607,11 +607,11 @@ struct ComplexGraph<63> {
         const V t490 = x8r - x62r;
         const V t491 = x8i - x62i;
         const V t492 = t480 + t484;
-        const V t493 = t481 + t485;
-        const V t494 = t492 + t488;
-        const V t495 = t493 + t489;
+        const V t493 = t492 + t488;
+        const V t494 = t481 + t485;
+        const V t495 = t494 + t489;
         const V x35r = io.re(35);
-        const V t496 = t494 + x35r;
+        const V t496 = t493 + x35r;
         const V x35i = io.im(35);
         const V t497 = t495 + x35i;
         const V t498 = c0 * t480;
@@ -627,19 +627,19 @@ struct ComplexGraph<63> {
         const V t508 = t506 - t507;
         const V t509 = t508 + x35i;
         const V t510 = c3 * t482;
-        const V t511 = c3 * t483;
-        const V t512 = c4 * t486;
-        const V t513 = c4 * t487;
-        const V t514 = t510 - t512;
-        const V t515 = t511 - t513;
-        const V t516 = c5 * t490;
-        const V t517 = c5 * t491;
-        const V t518 = t514 - t516;
-        const V t519 = t515 - t517;
+        const V t511 = c4 * t486;
+        const V t512 = t510 - t511;
+        const V t513 = c5 * t490;
+        const V t514 = t512 - t513;
+        const V t515 = c3 * t483;
+        const V t516 = c4 * t487;
+        const V t517 = t515 - t516;
+        const V t518 = c5 * t491;
+        const V t519 = t517 - t518;
         const V t520 = t503 + t519;
-        const V t521 = t509 - t518;
+        const V t521 = t509 - t514;
         const V t522 = t503 - t519;
-        const V t523 = t509 + t518;
+        const V t523 = t509 + t514;
         const V t524 = c1 * t480;
         const V t525 = x35r - t524;
         const V t526 = c2 * t484;
@@ -653,19 +653,19 @@ struct ComplexGraph<63> {
         const V t534 = c0 * t489;
         const V t535 = t533 + t534;
         const V t536 = c4 * t482;
-        const V t537 = c4 * t483;
-        const V t538 = c5 * t486;
-        const V t539 = c5 * t487;
-        const V t540 = t536 + t538;
-        const V t541 = t537 + t539;
-        const V t542 = c3 * t490;
-        const V t543 = c3 * t491;
-        const V t544 = t540 + t542;
-        const V t545 = t541 + t543;
+        const V t537 = c5 * t486;
+        const V t538 = t536 + t537;
+        const V t539 = c3 * t490;
+        const V t540 = t538 + t539;
+        const V t541 = c4 * t483;
+        const V t542 = c5 * t487;
+        const V t543 = t541 + t542;
+        const V t544 = c3 * t491;
+        const V t545 = t543 + t544;
         const V t546 = t529 + t545;
-        const V t547 = t535 - t544;
+        const V t547 = t535 - t540;
         const V t548 = t529 - t545;
-        const V t549 = t535 + t544;
+        const V t549 = t535 + t540;
         const V t550 = c2 * t480;
         const V t551 = x35r - t550;
         const V t552 = c0 * t484;
@@ -679,20 +679,20 @@ struct ComplexGraph<63> {
         const V t560 = c1 * t489;
         const V t561 = t559 - t560;
         const V t562 = c5 * t482;
-        const V t563 = c5 * t483;
-        const V t564 = c3 * t486;
-        const V t565 = c3 * t487;
-        const V t566 = t562 + t564;
-        const V t567 = t563 + t565;
-        const V t568 = c4 * t490;
-        const V t569 = c4 * t491;
-        const V t570 = t566 - t568;
-        const V t571 = t567 - t569;
+        const V t563 = c3 * t486;
+        const V t564 = t562 + t563;
+        const V t565 = c4 * t490;
+        const V t566 = t564 - t565;
+        const V t567 = c5 * t483;
+        const V t568 = c3 * t487;
+        const V t569 = t567 + t568;
+        const V t570 = c4 * t491;
+        const V t571 = t569 - t570;
         const V t572 = t555 + t571;
-        const V t573 = t561 - t570;
+        const V t573 = t561 - t566;
         const V t574 = t555 - t571;
-        const V t575 = t561 + t570;
-        // block of 7, multiplier 2
+        const V t575 = t561 + t566;
+        // complex block of 7, multiplier 2
         const V x51r = io.re(51);
         const V x33r = io.re(33);
         const V t576 = x51r + x33r;
@@ -718,11 +718,11 @@ struct ComplexGraph<63> {
         const V t586 = x15r - x6r;
         const V t587 = x15i - x6i;
         const V t588 = t576 + t580;
-        const V t589 = t577 + t581;
-        const V t590 = t588 + t584;
-        const V t591 = t589 + t585;
+        const V t589 = t588 + t584;
+        const V t590 = t577 + t581;
+        const V t591 = t590 + t585;
         const V x42r = io.re(42);
-        const V t592 = t590 + x42r;
+        const V t592 = t589 + x42r;
         const V x42i = io.im(42);
         const V t593 = t591 + x42i;
         const V t594 = c0 * t576;
@@ -738,19 +738,19 @@ struct ComplexGraph<63> {
         const V t604 = t602 - t603;
         const V t605 = t604 + x42i;
         const V t606 = c3 * t578;
-        const V t607 = c3 * t579;
-        const V t608 = c4 * t582;
-        const V t609 = c4 * t583;
-        const V t610 = t606 - t608;
-        const V t611 = t607 - t609;
-        const V t612 = c5 * t586;
-        const V t613 = c5 * t587;
-        const V t614 = t610 - t612;
-        const V t615 = t611 - t613;
+        const V t607 = c4 * t582;
+        const V t608 = t606 - t607;
+        const V t609 = c5 * t586;
+        const V t610 = t608 - t609;
+        const V t611 = c3 * t579;
+        const V t612 = c4 * t583;
+        const V t613 = t611 - t612;
+        const V t614 = c5 * t587;
+        const V t615 = t613 - t614;
         const V t616 = t599 + t615;
-        const V t617 = t605 - t614;
+        const V t617 = t605 - t610;
         const V t618 = t599 - t615;
-        const V t619 = t605 + t614;
+        const V t619 = t605 + t610;
         const V t620 = c1 * t576;
         const V t621 = x42r - t620;
         const V t622 = c2 * t580;
@@ -764,19 +764,19 @@ struct ComplexGraph<63> {
         const V t630 = c0 * t585;
         const V t631 = t629 + t630;
         const V t632 = c4 * t578;
-        const V t633 = c4 * t579;
-        const V t634 = c5 * t582;
-        const V t635 = c5 * t583;
-        const V t636 = t632 + t634;
-        const V t637 = t633 + t635;
-        const V t638 = c3 * t586;
-        const V t639 = c3 * t587;
-        const V t640 = t636 + t638;
-        const V t641 = t637 + t639;
+        const V t633 = c5 * t582;
+        const V t634 = t632 + t633;
+        const V t635 = c3 * t586;
+        const V t636 = t634 + t635;
+        const V t637 = c4 * t579;
+        const V t638 = c5 * t583;
+        const V t639 = t637 + t638;
+        const V t640 = c3 * t587;
+        const V t641 = t639 + t640;
         const V t642 = t625 + t641;
-        const V t643 = t631 - t640;
+        const V t643 = t631 - t636;
         const V t644 = t625 - t641;
-        const V t645 = t631 + t640;
+        const V t645 = t631 + t636;
         const V t646 = c2 * t576;
         const V t647 = x42r - t646;
         const V t648 = c0 * t580;
@@ -790,20 +790,20 @@ struct ComplexGraph<63> {
         const V t656 = c1 * t585;
         const V t657 = t655 - t656;
         const V t658 = c5 * t578;
-        const V t659 = c5 * t579;
-        const V t660 = c3 * t582;
-        const V t661 = c3 * t583;
-        const V t662 = t658 + t660;
-        const V t663 = t659 + t661;
-        const V t664 = c4 * t586;
-        const V t665 = c4 * t587;
-        const V t666 = t662 - t664;
-        const V t667 = t663 - t665;
+        const V t659 = c3 * t582;
+        const V t660 = t658 + t659;
+        const V t661 = c4 * t586;
+        const V t662 = t660 - t661;
+        const V t663 = c5 * t579;
+        const V t664 = c3 * t583;
+        const V t665 = t663 + t664;
+        const V t666 = c4 * t587;
+        const V t667 = t665 - t666;
         const V t668 = t651 + t667;
-        const V t669 = t657 - t666;
+        const V t669 = t657 - t662;
         const V t670 = t651 - t667;
-        const V t671 = t657 + t666;
-        // block of 7, multiplier 2
+        const V t671 = t657 + t662;
+        // complex block of 7, multiplier 2
         const V x58r = io.re(58);
         const V x40r = io.re(40);
         const V t672 = x58r + x40r;
@@ -829,11 +829,11 @@ struct ComplexGraph<63> {
         const V t682 = x22r - x13r;
         const V t683 = x22i - x13i;
         const V t684 = t672 + t676;
-        const V t685 = t673 + t677;
-        const V t686 = t684 + t680;
-        const V t687 = t685 + t681;
+        const V t685 = t684 + t680;
+        const V t686 = t673 + t677;
+        const V t687 = t686 + t681;
         const V x49r = io.re(49);
-        const V t688 = t686 + x49r;
+        const V t688 = t685 + x49r;
         const V x49i = io.im(49);
         const V t689 = t687 + x49i;
         const V t690 = c0 * t672;
@@ -849,19 +849,19 @@ struct ComplexGraph<63> {
         const V t700 = t698 - t699;
         const V t701 = t700 + x49i;
         const V t702 = c3 * t674;
-        const V t703 = c3 * t675;
-        const V t704 = c4 * t678;
-        const V t705 = c4 * t679;
-        const V t706 = t702 - t704;
-        const V t707 = t703 - t705;
-        const V t708 = c5 * t682;
-        const V t709 = c5 * t683;
-        const V t710 = t706 - t708;
-        const V t711 = t707 - t709;
+        const V t703 = c4 * t678;
+        const V t704 = t702 - t703;
+        const V t705 = c5 * t682;
+        const V t706 = t704 - t705;
+        const V t707 = c3 * t675;
+        const V t708 = c4 * t679;
+        const V t709 = t707 - t708;
+        const V t710 = c5 * t683;
+        const V t711 = t709 - t710;
         const V t712 = t695 + t711;
-        const V t713 = t701 - t710;
+        const V t713 = t701 - t706;
         const V t714 = t695 - t711;
-        const V t715 = t701 + t710;
+        const V t715 = t701 + t706;
         const V t716 = c1 * t672;
         const V t717 = x49r - t716;
         const V t718 = c2 * t676;
@@ -875,19 +875,19 @@ struct ComplexGraph<63> {
         const V t726 = c0 * t681;
         const V t727 = t725 + t726;
         const V t728 = c4 * t674;
-        const V t729 = c4 * t675;
-        const V t730 = c5 * t678;
-        const V t731 = c5 * t679;
-        const V t732 = t728 + t730;
-        const V t733 = t729 + t731;
-        const V t734 = c3 * t682;
-        const V t735 = c3 * t683;
-        const V t736 = t732 + t734;
-        const V t737 = t733 + t735;
+        const V t729 = c5 * t678;
+        const V t730 = t728 + t729;
+        const V t731 = c3 * t682;
+        const V t732 = t730 + t731;
+        const V t733 = c4 * t675;
+        const V t734 = c5 * t679;
+        const V t735 = t733 + t734;
+        const V t736 = c3 * t683;
+        const V t737 = t735 + t736;
         const V t738 = t721 + t737;
-        const V t739 = t727 - t736;
+        const V t739 = t727 - t732;
         const V t740 = t721 - t737;
-        const V t741 = t727 + t736;
+        const V t741 = t727 + t732;
         const V t742 = c2 * t672;
         const V t743 = x49r - t742;
         const V t744 = c0 * t676;
@@ -901,20 +901,20 @@ struct ComplexGraph<63> {
         const V t752 = c1 * t681;
         const V t753 = t751 - t752;
         const V t754 = c5 * t674;
-        const V t755 = c5 * t675;
-        const V t756 = c3 * t678;
-        const V t757 = c3 * t679;
-        const V t758 = t754 + t756;
-        const V t759 = t755 + t757;
-        const V t760 = c4 * t682;
-        const V t761 = c4 * t683;
-        const V t762 = t758 - t760;
-        const V t763 = t759 - t761;
+        const V t755 = c3 * t678;
+        const V t756 = t754 + t755;
+        const V t757 = c4 * t682;
+        const V t758 = t756 - t757;
+        const V t759 = c5 * t675;
+        const V t760 = c3 * t679;
+        const V t761 = t759 + t760;
+        const V t762 = c4 * t683;
+        const V t763 = t761 - t762;
         const V t764 = t747 + t763;
-        const V t765 = t753 - t762;
+        const V t765 = t753 - t758;
         const V t766 = t747 - t763;
-        const V t767 = t753 + t762;
-        // block of 7, multiplier 2
+        const V t767 = t753 + t758;
+        // complex block of 7, multiplier 2
         const V x2r = io.re(2);
         const V x47r = io.re(47);
         const V t768 = x2r + x47r;
@@ -940,11 +940,11 @@ struct ComplexGraph<63> {
         const V t778 = x29r - x20r;
         const V t779 = x29i - x20i;
         const V t780 = t768 + t772;
-        const V t781 = t769 + t773;
-        const V t782 = t780 + t776;
-        const V t783 = t781 + t777;
+        const V t781 = t780 + t776;
+        const V t782 = t769 + t773;
+        const V t783 = t782 + t777;
         const V x56r = io.re(56);
-        const V t784 = t782 + x56r;
+        const V t784 = t781 + x56r;
         const V x56i = io.im(56);
         const V t785 = t783 + x56i;
         const V t786 = c0 * t768;
@@ -960,19 +960,19 @@ struct ComplexGraph<63> {
         const V t796 = t794 - t795;
         const V t797 = t796 + x56i;
         const V t798 = c3 * t770;
-        const V t799 = c3 * t771;
-        const V t800 = c4 * t774;
-        const V t801 = c4 * t775;
-        const V t802 = t798 - t800;
-        const V t803 = t799 - t801;
-        const V t804 = c5 * t778;
-        const V t805 = c5 * t779;
-        const V t806 = t802 - t804;
-        const V t807 = t803 - t805;
+        const V t799 = c4 * t774;
+        const V t800 = t798 - t799;
+        const V t801 = c5 * t778;
+        const V t802 = t800 - t801;
+        const V t803 = c3 * t771;
+        const V t804 = c4 * t775;
+        const V t805 = t803 - t804;
+        const V t806 = c5 * t779;
+        const V t807 = t805 - t806;
         const V t808 = t791 + t807;
-        const V t809 = t797 - t806;
+        const V t809 = t797 - t802;
         const V t810 = t791 - t807;
-        const V t811 = t797 + t806;
+        const V t811 = t797 + t802;
         const V t812 = c1 * t768;
         const V t813 = x56r - t812;
         const V t814 = c2 * t772;
@@ -986,19 +986,19 @@ struct ComplexGraph<63> {
         const V t822 = c0 * t777;
         const V t823 = t821 + t822;
         const V t824 = c4 * t770;
-        const V t825 = c4 * t771;
-        const V t826 = c5 * t774;
-        const V t827 = c5 * t775;
-        const V t828 = t824 + t826;
-        const V t829 = t825 + t827;
-        const V t830 = c3 * t778;
-        const V t831 = c3 * t779;
-        const V t832 = t828 + t830;
-        const V t833 = t829 + t831;
+        const V t825 = c5 * t774;
+        const V t826 = t824 + t825;
+        const V t827 = c3 * t778;
+        const V t828 = t826 + t827;
+        const V t829 = c4 * t771;
+        const V t830 = c5 * t775;
+        const V t831 = t829 + t830;
+        const V t832 = c3 * t779;
+        const V t833 = t831 + t832;
         const V t834 = t817 + t833;
-        const V t835 = t823 - t832;
+        const V t835 = t823 - t828;
         const V t836 = t817 - t833;
-        const V t837 = t823 + t832;
+        const V t837 = t823 + t828;
         const V t838 = c2 * t768;
         const V t839 = x56r - t838;
         const V t840 = c0 * t772;
@@ -1012,20 +1012,20 @@ struct ComplexGraph<63> {
         const V t848 = c1 * t777;
         const V t849 = t847 - t848;
         const V t850 = c5 * t770;
-        const V t851 = c5 * t771;
-        const V t852 = c3 * t774;
-        const V t853 = c3 * t775;
-        const V t854 = t850 + t852;
-        const V t855 = t851 + t853;
-        const V t856 = c4 * t778;
-        const V t857 = c4 * t779;
-        const V t858 = t854 - t856;
-        const V t859 = t855 - t857;
+        const V t851 = c3 * t774;
+        const V t852 = t850 + t851;
+        const V t853 = c4 * t778;
+        const V t854 = t852 - t853;
+        const V t855 = c5 * t771;
+        const V t856 = c3 * t775;
+        const V t857 = t855 + t856;
+        const V t858 = c4 * t779;
+        const V t859 = t857 - t858;
         const V t860 = t843 + t859;
-        const V t861 = t849 - t858;
+        const V t861 = t849 - t854;
         const V t862 = t843 - t859;
-        const V t863 = t849 + t858;
-        // block of 3
+        const V t863 = t849 + t854;
+        // complex block of 3
         const V t864 = t304 + t592;
         const V t865 = t305 + t593;
         const V t866 = t304 - t592;
@@ -1042,7 +1042,7 @@ struct ComplexGraph<63> {
         const V t877 = t873 - t874;
         const V t878 = t871 - t875;
         const V t879 = t873 + t874;
-        // block of 3
+        // complex block of 3
         const V t880 = t400 + t688;
         const V t881 = t401 + t689;
         const V t882 = t400 - t688;
@@ -1059,7 +1059,7 @@ struct ComplexGraph<63> {
         const V t893 = t889 - t890;
         const V t894 = t887 - t891;
         const V t895 = t889 + t890;
-        // block of 3
+        // complex block of 3
         const V t896 = t496 + t784;
         const V t897 = t497 + t785;
         const V t898 = t496 - t784;
@@ -1076,7 +1076,7 @@ struct ComplexGraph<63> {
         const V t909 = t905 - t906;
         const V t910 = t903 - t907;
         const V t911 = t905 + t906;
-        // block of 3
+        // complex block of 3
         const V t912 = t884 + t900;
         const V t913 = t885 + t901;
         const V t914 = t884 - t900;
@@ -1099,7 +1099,7 @@ struct ComplexGraph<63> {
         io.re(42, t926);
         const V t927 = t921 + t922;
         io.im(42, t927);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t928 = c8 * t893;
         const V t929 = c9 * t892;
         const V t930 = t929 - t928;
@@ -1112,7 +1112,7 @@ struct ComplexGraph<63> {
         const V t937 = c10 * t908;
         const V t938 = c11 * t909;
         const V t939 = t937 - t938;
-        // block of 3
+        // complex block of 3
         const V t940 = t930 - t936;
         const V t941 = t933 + t939;
         const V t942 = t930 + t936;
@@ -1135,7 +1135,7 @@ struct ComplexGraph<63> {
         io.re(49, t954);
         const V t955 = t949 + t950;
         io.im(49, t955);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t956 = c10 * t895;
         const V t957 = c11 * t894;
         const V t958 = t957 + t956;
@@ -1148,7 +1148,7 @@ struct ComplexGraph<63> {
         const V t965 = c12 * t910;
         const V t966 = c13 * t911;
         const V t967 = t966 - t965;
-        // block of 3
+        // complex block of 3
         const V t968 = t964 - t958;
         const V t969 = t961 + t967;
         const V t970 = t958 + t964;
@@ -1171,7 +1171,7 @@ struct ComplexGraph<63> {
         io.re(56, t982);
         const V t983 = t977 - t978;
         io.im(56, t983);
-        // block of 3
+        // complex block of 3
         const V t984 = t354 + t642;
         const V t985 = t355 + t643;
         const V t986 = t354 - t642;
@@ -1188,7 +1188,7 @@ struct ComplexGraph<63> {
         const V t997 = t993 - t994;
         const V t998 = t991 - t995;
         const V t999 = t993 + t994;
-        // block of 3
+        // complex block of 3
         const V t1000 = t450 + t738;
         const V t1001 = t451 + t739;
         const V t1002 = t450 - t738;
@@ -1205,7 +1205,7 @@ struct ComplexGraph<63> {
         const V t1013 = t1009 - t1010;
         const V t1014 = t1007 - t1011;
         const V t1015 = t1009 + t1010;
-        // block of 3
+        // complex block of 3
         const V t1016 = t546 + t834;
         const V t1017 = t547 + t835;
         const V t1018 = t546 - t834;
@@ -1222,7 +1222,7 @@ struct ComplexGraph<63> {
         const V t1029 = t1025 - t1026;
         const V t1030 = t1023 - t1027;
         const V t1031 = t1025 + t1026;
-        // block of 3
+        // complex block of 3
         const V t1032 = t1004 + t1020;
         const V t1033 = t1005 + t1021;
         const V t1034 = t1004 - t1020;
@@ -1245,7 +1245,7 @@ struct ComplexGraph<63> {
         io.re(51, t1046);
         const V t1047 = t1041 + t1042;
         io.im(51, t1047);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1048 = c8 * t1013;
         const V t1049 = c9 * t1012;
         const V t1050 = t1049 - t1048;
@@ -1258,7 +1258,7 @@ struct ComplexGraph<63> {
         const V t1057 = c10 * t1028;
         const V t1058 = c11 * t1029;
         const V t1059 = t1057 - t1058;
-        // block of 3
+        // complex block of 3
         const V t1060 = t1050 - t1056;
         const V t1061 = t1053 + t1059;
         const V t1062 = t1050 + t1056;
@@ -1281,7 +1281,7 @@ struct ComplexGraph<63> {
         io.re(58, t1074);
         const V t1075 = t1069 + t1070;
         io.im(58, t1075);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1076 = c10 * t1015;
         const V t1077 = c11 * t1014;
         const V t1078 = t1077 + t1076;
@@ -1294,7 +1294,7 @@ struct ComplexGraph<63> {
         const V t1085 = c12 * t1030;
         const V t1086 = c13 * t1031;
         const V t1087 = t1086 - t1085;
-        // block of 3
+        // complex block of 3
         const V t1088 = t1084 - t1078;
         const V t1089 = t1081 + t1087;
         const V t1090 = t1078 + t1084;
@@ -1317,7 +1317,7 @@ struct ComplexGraph<63> {
         io.re(2, t1102);
         const V t1103 = t1097 - t1098;
         io.im(2, t1103);
-        // block of 3
+        // complex block of 3
         const V t1104 = t382 + t670;
         const V t1105 = t383 + t671;
         const V t1106 = t382 - t670;
@@ -1334,7 +1334,7 @@ struct ComplexGraph<63> {
         const V t1117 = t1113 - t1114;
         const V t1118 = t1111 - t1115;
         const V t1119 = t1113 + t1114;
-        // block of 3
+        // complex block of 3
         const V t1120 = t478 + t766;
         const V t1121 = t479 + t767;
         const V t1122 = t478 - t766;
@@ -1351,7 +1351,7 @@ struct ComplexGraph<63> {
         const V t1133 = t1129 - t1130;
         const V t1134 = t1127 - t1131;
         const V t1135 = t1129 + t1130;
-        // block of 3
+        // complex block of 3
         const V t1136 = t574 + t862;
         const V t1137 = t575 + t863;
         const V t1138 = t574 - t862;
@@ -1368,7 +1368,7 @@ struct ComplexGraph<63> {
         const V t1149 = t1145 - t1146;
         const V t1150 = t1143 - t1147;
         const V t1151 = t1145 + t1146;
-        // block of 3
+        // complex block of 3
         const V t1152 = t1124 + t1140;
         const V t1153 = t1125 + t1141;
         const V t1154 = t1124 - t1140;
@@ -1391,7 +1391,7 @@ struct ComplexGraph<63> {
         io.re(60, t1166);
         const V t1167 = t1161 + t1162;
         io.im(60, t1167);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1168 = c8 * t1133;
         const V t1169 = c9 * t1132;
         const V t1170 = t1169 - t1168;
@@ -1404,7 +1404,7 @@ struct ComplexGraph<63> {
         const V t1177 = c10 * t1148;
         const V t1178 = c11 * t1149;
         const V t1179 = t1177 - t1178;
-        // block of 3
+        // complex block of 3
         const V t1180 = t1170 - t1176;
         const V t1181 = t1173 + t1179;
         const V t1182 = t1170 + t1176;
@@ -1427,7 +1427,7 @@ struct ComplexGraph<63> {
         io.re(4, t1194);
         const V t1195 = t1189 + t1190;
         io.im(4, t1195);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1196 = c10 * t1135;
         const V t1197 = c11 * t1134;
         const V t1198 = t1197 + t1196;
@@ -1440,7 +1440,7 @@ struct ComplexGraph<63> {
         const V t1205 = c12 * t1150;
         const V t1206 = c13 * t1151;
         const V t1207 = t1206 - t1205;
-        // block of 3
+        // complex block of 3
         const V t1208 = t1204 - t1198;
         const V t1209 = t1201 + t1207;
         const V t1210 = t1198 + t1204;
@@ -1463,7 +1463,7 @@ struct ComplexGraph<63> {
         io.re(11, t1222);
         const V t1223 = t1217 - t1218;
         io.im(11, t1223);
-        // block of 3
+        // complex block of 3
         const V t1224 = t330 + t618;
         const V t1225 = t331 + t619;
         const V t1226 = t330 - t618;
@@ -1480,7 +1480,7 @@ struct ComplexGraph<63> {
         const V t1237 = t1233 - t1234;
         const V t1238 = t1231 - t1235;
         const V t1239 = t1233 + t1234;
-        // block of 3
+        // complex block of 3
         const V t1240 = t426 + t714;
         const V t1241 = t427 + t715;
         const V t1242 = t426 - t714;
@@ -1497,7 +1497,7 @@ struct ComplexGraph<63> {
         const V t1253 = t1249 - t1250;
         const V t1254 = t1247 - t1251;
         const V t1255 = t1249 + t1250;
-        // block of 3
+        // complex block of 3
         const V t1256 = t522 + t810;
         const V t1257 = t523 + t811;
         const V t1258 = t522 - t810;
@@ -1514,7 +1514,7 @@ struct ComplexGraph<63> {
         const V t1269 = t1265 - t1266;
         const V t1270 = t1263 - t1267;
         const V t1271 = t1265 + t1266;
-        // block of 3
+        // complex block of 3
         const V t1272 = t1244 + t1260;
         const V t1273 = t1245 + t1261;
         const V t1274 = t1244 - t1260;
@@ -1537,7 +1537,7 @@ struct ComplexGraph<63> {
         io.re(6, t1286);
         const V t1287 = t1281 + t1282;
         io.im(6, t1287);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1288 = c8 * t1253;
         const V t1289 = c9 * t1252;
         const V t1290 = t1289 - t1288;
@@ -1550,7 +1550,7 @@ struct ComplexGraph<63> {
         const V t1297 = c10 * t1268;
         const V t1298 = c11 * t1269;
         const V t1299 = t1297 - t1298;
-        // block of 3
+        // complex block of 3
         const V t1300 = t1290 - t1296;
         const V t1301 = t1293 + t1299;
         const V t1302 = t1290 + t1296;
@@ -1573,7 +1573,7 @@ struct ComplexGraph<63> {
         io.re(13, t1314);
         const V t1315 = t1309 + t1310;
         io.im(13, t1315);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1316 = c10 * t1255;
         const V t1317 = c11 * t1254;
         const V t1318 = t1317 + t1316;
@@ -1586,7 +1586,7 @@ struct ComplexGraph<63> {
         const V t1325 = c12 * t1270;
         const V t1326 = c13 * t1271;
         const V t1327 = t1326 - t1325;
-        // block of 3
+        // complex block of 3
         const V t1328 = t1324 - t1318;
         const V t1329 = t1321 + t1327;
         const V t1330 = t1318 + t1324;
@@ -1609,7 +1609,7 @@ struct ComplexGraph<63> {
         io.re(20, t1342);
         const V t1343 = t1337 - t1338;
         io.im(20, t1343);
-        // block of 3
+        // complex block of 3
         const V t1344 = t328 + t616;
         const V t1345 = t329 + t617;
         const V t1346 = t328 - t616;
@@ -1626,7 +1626,7 @@ struct ComplexGraph<63> {
         const V t1357 = t1353 - t1354;
         const V t1358 = t1351 - t1355;
         const V t1359 = t1353 + t1354;
-        // block of 3
+        // complex block of 3
         const V t1360 = t424 + t712;
         const V t1361 = t425 + t713;
         const V t1362 = t424 - t712;
@@ -1643,7 +1643,7 @@ struct ComplexGraph<63> {
         const V t1373 = t1369 - t1370;
         const V t1374 = t1367 - t1371;
         const V t1375 = t1369 + t1370;
-        // block of 3
+        // complex block of 3
         const V t1376 = t520 + t808;
         const V t1377 = t521 + t809;
         const V t1378 = t520 - t808;
@@ -1660,7 +1660,7 @@ struct ComplexGraph<63> {
         const V t1389 = t1385 - t1386;
         const V t1390 = t1383 - t1387;
         const V t1391 = t1385 + t1386;
-        // block of 3
+        // complex block of 3
         const V t1392 = t1364 + t1380;
         const V t1393 = t1365 + t1381;
         const V t1394 = t1364 - t1380;
@@ -1683,7 +1683,7 @@ struct ComplexGraph<63> {
         io.re(15, t1406);
         const V t1407 = t1401 + t1402;
         io.im(15, t1407);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1408 = c8 * t1373;
         const V t1409 = c9 * t1372;
         const V t1410 = t1409 - t1408;
@@ -1696,7 +1696,7 @@ struct ComplexGraph<63> {
         const V t1417 = c10 * t1388;
         const V t1418 = c11 * t1389;
         const V t1419 = t1417 - t1418;
-        // block of 3
+        // complex block of 3
         const V t1420 = t1410 - t1416;
         const V t1421 = t1413 + t1419;
         const V t1422 = t1410 + t1416;
@@ -1719,7 +1719,7 @@ struct ComplexGraph<63> {
         io.re(22, t1434);
         const V t1435 = t1429 + t1430;
         io.im(22, t1435);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1436 = c10 * t1375;
         const V t1437 = c11 * t1374;
         const V t1438 = t1437 + t1436;
@@ -1732,7 +1732,7 @@ struct ComplexGraph<63> {
         const V t1445 = c12 * t1390;
         const V t1446 = c13 * t1391;
         const V t1447 = t1446 - t1445;
-        // block of 3
+        // complex block of 3
         const V t1448 = t1444 - t1438;
         const V t1449 = t1441 + t1447;
         const V t1450 = t1438 + t1444;
@@ -1755,7 +1755,7 @@ struct ComplexGraph<63> {
         io.re(29, t1462);
         const V t1463 = t1457 - t1458;
         io.im(29, t1463);
-        // block of 3
+        // complex block of 3
         const V t1464 = t380 + t668;
         const V t1465 = t381 + t669;
         const V t1466 = t380 - t668;
@@ -1772,7 +1772,7 @@ struct ComplexGraph<63> {
         const V t1477 = t1473 - t1474;
         const V t1478 = t1471 - t1475;
         const V t1479 = t1473 + t1474;
-        // block of 3
+        // complex block of 3
         const V t1480 = t476 + t764;
         const V t1481 = t477 + t765;
         const V t1482 = t476 - t764;
@@ -1789,7 +1789,7 @@ struct ComplexGraph<63> {
         const V t1493 = t1489 - t1490;
         const V t1494 = t1487 - t1491;
         const V t1495 = t1489 + t1490;
-        // block of 3
+        // complex block of 3
         const V t1496 = t572 + t860;
         const V t1497 = t573 + t861;
         const V t1498 = t572 - t860;
@@ -1806,7 +1806,7 @@ struct ComplexGraph<63> {
         const V t1509 = t1505 - t1506;
         const V t1510 = t1503 - t1507;
         const V t1511 = t1505 + t1506;
-        // block of 3
+        // complex block of 3
         const V t1512 = t1484 + t1500;
         const V t1513 = t1485 + t1501;
         const V t1514 = t1484 - t1500;
@@ -1829,7 +1829,7 @@ struct ComplexGraph<63> {
         io.re(24, t1526);
         const V t1527 = t1521 + t1522;
         io.im(24, t1527);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1528 = c8 * t1493;
         const V t1529 = c9 * t1492;
         const V t1530 = t1529 - t1528;
@@ -1842,7 +1842,7 @@ struct ComplexGraph<63> {
         const V t1537 = c10 * t1508;
         const V t1538 = c11 * t1509;
         const V t1539 = t1537 - t1538;
-        // block of 3
+        // complex block of 3
         const V t1540 = t1530 - t1536;
         const V t1541 = t1533 + t1539;
         const V t1542 = t1530 + t1536;
@@ -1865,7 +1865,7 @@ struct ComplexGraph<63> {
         io.re(31, t1554);
         const V t1555 = t1549 + t1550;
         io.im(31, t1555);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1556 = c10 * t1495;
         const V t1557 = c11 * t1494;
         const V t1558 = t1557 + t1556;
@@ -1878,7 +1878,7 @@ struct ComplexGraph<63> {
         const V t1565 = c12 * t1510;
         const V t1566 = c13 * t1511;
         const V t1567 = t1566 - t1565;
-        // block of 3
+        // complex block of 3
         const V t1568 = t1564 - t1558;
         const V t1569 = t1561 + t1567;
         const V t1570 = t1558 + t1564;
@@ -1901,7 +1901,7 @@ struct ComplexGraph<63> {
         io.re(38, t1582);
         const V t1583 = t1577 - t1578;
         io.im(38, t1583);
-        // block of 3
+        // complex block of 3
         const V t1584 = t356 + t644;
         const V t1585 = t357 + t645;
         const V t1586 = t356 - t644;
@@ -1918,7 +1918,7 @@ struct ComplexGraph<63> {
         const V t1597 = t1593 - t1594;
         const V t1598 = t1591 - t1595;
         const V t1599 = t1593 + t1594;
-        // block of 3
+        // complex block of 3
         const V t1600 = t452 + t740;
         const V t1601 = t453 + t741;
         const V t1602 = t452 - t740;
@@ -1935,7 +1935,7 @@ struct ComplexGraph<63> {
         const V t1613 = t1609 - t1610;
         const V t1614 = t1607 - t1611;
         const V t1615 = t1609 + t1610;
-        // block of 3
+        // complex block of 3
         const V t1616 = t548 + t836;
         const V t1617 = t549 + t837;
         const V t1618 = t548 - t836;
@@ -1952,7 +1952,7 @@ struct ComplexGraph<63> {
         const V t1629 = t1625 - t1626;
         const V t1630 = t1623 - t1627;
         const V t1631 = t1625 + t1626;
-        // block of 3
+        // complex block of 3
         const V t1632 = t1604 + t1620;
         const V t1633 = t1605 + t1621;
         const V t1634 = t1604 - t1620;
@@ -1975,7 +1975,7 @@ struct ComplexGraph<63> {
         io.re(33, t1646);
         const V t1647 = t1641 + t1642;
         io.im(33, t1647);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1648 = c8 * t1613;
         const V t1649 = c9 * t1612;
         const V t1650 = t1649 - t1648;
@@ -1988,7 +1988,7 @@ struct ComplexGraph<63> {
         const V t1657 = c10 * t1628;
         const V t1658 = c11 * t1629;
         const V t1659 = t1657 - t1658;
-        // block of 3
+        // complex block of 3
         const V t1660 = t1650 - t1656;
         const V t1661 = t1653 + t1659;
         const V t1662 = t1650 + t1656;
@@ -2011,7 +2011,7 @@ struct ComplexGraph<63> {
         io.re(40, t1674);
         const V t1675 = t1669 + t1670;
         io.im(40, t1675);
-        // block of 9, multiplier 7
+        // complex block of 9, multiplier 7
         const V t1676 = c10 * t1615;
         const V t1677 = c11 * t1614;
         const V t1678 = t1677 + t1676;
@@ -2024,7 +2024,7 @@ struct ComplexGraph<63> {
         const V t1685 = c12 * t1630;
         const V t1686 = c13 * t1631;
         const V t1687 = t1686 - t1685;
-        // block of 3
+        // complex block of 3
         const V t1688 = t1684 - t1678;
         const V t1689 = t1681 + t1687;
         const V t1690 = t1678 + t1684;

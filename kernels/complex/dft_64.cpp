@@ -27,7 +27,7 @@ struct ComplexGraph<64> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x32r = io.re(32);
         const V t0 = x0r + x32r;
@@ -36,7 +36,7 @@ struct ComplexGraph<64> {
         const V t1 = x0i + x32i;
         const V t2 = x0r - x32r;
         const V t3 = x0i - x32i;
-        // block of 2
+        // complex block of 2
         const V x8r = io.re(8);
         const V x40r = io.re(40);
         const V t4 = x8r + x40r;
@@ -45,7 +45,7 @@ struct ComplexGraph<64> {
         const V t5 = x8i + x40i;
         const V t6 = x8r - x40r;
         const V t7 = x8i - x40i;
-        // block of 2
+        // complex block of 2
         const V x16r = io.re(16);
         const V x48r = io.re(48);
         const V t8 = x16r + x48r;
@@ -54,7 +54,7 @@ struct ComplexGraph<64> {
         const V t9 = x16i + x48i;
         const V t10 = x16r - x48r;
         const V t11 = x16i - x48i;
-        // block of 2
+        // complex block of 2
         const V x24r = io.re(24);
         const V x56r = io.re(56);
         const V t12 = x24r + x56r;
@@ -63,27 +63,27 @@ struct ComplexGraph<64> {
         const V t13 = x24i + x56i;
         const V t14 = x24r - x56r;
         const V t15 = x24i - x56i;
-        // block of 2
+        // complex block of 2
         const V t16 = t0 + t8;
         const V t17 = t1 + t9;
         const V t18 = t0 - t8;
         const V t19 = t1 - t9;
-        // block of 2
+        // complex block of 2
         const V t20 = t4 + t12;
         const V t21 = t5 + t13;
         const V t22 = t4 - t12;
         const V t23 = t5 - t13;
-        // block of 2
+        // complex block of 2
         const V t24 = t16 + t20;
         const V t25 = t17 + t21;
         const V t26 = t16 - t20;
         const V t27 = t17 - t21;
-        // block of 2
+        // complex block of 2
         const V t28 = t18 + t23;
         const V t29 = t19 - t22;
         const V t30 = t18 - t23;
         const V t31 = t19 + t22;
-        // block of 8
+        // complex block of 8
         const V t32 = c0 * t6;
         const V t33 = c0 * t7;
         const V t34 = t32 + t33;
@@ -92,27 +92,27 @@ struct ComplexGraph<64> {
         const V t37 = c0 * t15;
         const V t38 = t36 + t37;
         const V t39 = t37 - t36;
-        // block of 2
+        // complex block of 2
         const V t40 = t2 + t11;
         const V t41 = t3 - t10;
         const V t42 = t2 - t11;
         const V t43 = t3 + t10;
-        // block of 2
+        // complex block of 2
         const V t44 = t34 + t39;
         const V t45 = t35 - t38;
         const V t46 = t34 - t39;
         const V t47 = t35 + t38;
-        // block of 2
+        // complex block of 2
         const V t48 = t40 + t44;
         const V t49 = t41 + t45;
         const V t50 = t40 - t44;
         const V t51 = t41 - t45;
-        // block of 2
+        // complex block of 2
         const V t52 = t42 + t47;
         const V t53 = t43 - t46;
         const V t54 = t42 - t47;
         const V t55 = t43 + t46;
-        // block of 2
+        // complex block of 2
         const V x1r = io.re(1);
         const V x33r = io.re(33);
         const V t56 = x1r + x33r;
@@ -121,7 +121,7 @@ struct ComplexGraph<64> {
         const V t57 = x1i + x33i;
         const V t58 = x1r - x33r;
         const V t59 = x1i - x33i;
-        // block of 2
+        // complex block of 2
         const V x9r = io.re(9);
         const V x41r = io.re(41);
         const V t60 = x9r + x41r;
@@ -130,7 +130,7 @@ struct ComplexGraph<64> {
         const V t61 = x9i + x41i;
         const V t62 = x9r - x41r;
         const V t63 = x9i - x41i;
-        // block of 2
+        // complex block of 2
         const V x17r = io.re(17);
         const V x49r = io.re(49);
         const V t64 = x17r + x49r;
@@ -139,7 +139,7 @@ struct ComplexGraph<64> {
         const V t65 = x17i + x49i;
         const V t66 = x17r - x49r;
         const V t67 = x17i - x49i;
-        // block of 2
+        // complex block of 2
         const V x25r = io.re(25);
         const V x57r = io.re(57);
         const V t68 = x25r + x57r;
@@ -148,27 +148,27 @@ struct ComplexGraph<64> {
         const V t69 = x25i + x57i;
         const V t70 = x25r - x57r;
         const V t71 = x25i - x57i;
-        // block of 2
+        // complex block of 2
         const V t72 = t56 + t64;
         const V t73 = t57 + t65;
         const V t74 = t56 - t64;
         const V t75 = t57 - t65;
-        // block of 2
+        // complex block of 2
         const V t76 = t60 + t68;
         const V t77 = t61 + t69;
         const V t78 = t60 - t68;
         const V t79 = t61 - t69;
-        // block of 2
+        // complex block of 2
         const V t80 = t72 + t76;
         const V t81 = t73 + t77;
         const V t82 = t72 - t76;
         const V t83 = t73 - t77;
-        // block of 2
+        // complex block of 2
         const V t84 = t74 + t79;
         const V t85 = t75 - t78;
         const V t86 = t74 - t79;
         const V t87 = t75 + t78;
-        // block of 8
+        // complex block of 8
         const V t88 = c0 * t62;
         const V t89 = c0 * t63;
         const V t90 = t88 + t89;
@@ -177,27 +177,27 @@ struct ComplexGraph<64> {
         const V t93 = c0 * t71;
         const V t94 = t92 + t93;
         const V t95 = t93 - t92;
-        // block of 2
+        // complex block of 2
         const V t96 = t58 + t67;
         const V t97 = t59 - t66;
         const V t98 = t58 - t67;
         const V t99 = t59 + t66;
-        // block of 2
+        // complex block of 2
         const V t100 = t90 + t95;
         const V t101 = t91 - t94;
         const V t102 = t90 - t95;
         const V t103 = t91 + t94;
-        // block of 2
+        // complex block of 2
         const V t104 = t96 + t100;
         const V t105 = t97 + t101;
         const V t106 = t96 - t100;
         const V t107 = t97 - t101;
-        // block of 2
+        // complex block of 2
         const V t108 = t98 + t103;
         const V t109 = t99 - t102;
         const V t110 = t98 - t103;
         const V t111 = t99 + t102;
-        // block of 2
+        // complex block of 2
         const V x2r = io.re(2);
         const V x34r = io.re(34);
         const V t112 = x2r + x34r;
@@ -206,7 +206,7 @@ struct ComplexGraph<64> {
         const V t113 = x2i + x34i;
         const V t114 = x2r - x34r;
         const V t115 = x2i - x34i;
-        // block of 2
+        // complex block of 2
         const V x10r = io.re(10);
         const V x42r = io.re(42);
         const V t116 = x10r + x42r;
@@ -215,7 +215,7 @@ struct ComplexGraph<64> {
         const V t117 = x10i + x42i;
         const V t118 = x10r - x42r;
         const V t119 = x10i - x42i;
-        // block of 2
+        // complex block of 2
         const V x18r = io.re(18);
         const V x50r = io.re(50);
         const V t120 = x18r + x50r;
@@ -224,7 +224,7 @@ struct ComplexGraph<64> {
         const V t121 = x18i + x50i;
         const V t122 = x18r - x50r;
         const V t123 = x18i - x50i;
-        // block of 2
+        // complex block of 2
         const V x26r = io.re(26);
         const V x58r = io.re(58);
         const V t124 = x26r + x58r;
@@ -233,27 +233,27 @@ struct ComplexGraph<64> {
         const V t125 = x26i + x58i;
         const V t126 = x26r - x58r;
         const V t127 = x26i - x58i;
-        // block of 2
+        // complex block of 2
         const V t128 = t112 + t120;
         const V t129 = t113 + t121;
         const V t130 = t112 - t120;
         const V t131 = t113 - t121;
-        // block of 2
+        // complex block of 2
         const V t132 = t116 + t124;
         const V t133 = t117 + t125;
         const V t134 = t116 - t124;
         const V t135 = t117 - t125;
-        // block of 2
+        // complex block of 2
         const V t136 = t128 + t132;
         const V t137 = t129 + t133;
         const V t138 = t128 - t132;
         const V t139 = t129 - t133;
-        // block of 2
+        // complex block of 2
         const V t140 = t130 + t135;
         const V t141 = t131 - t134;
         const V t142 = t130 - t135;
         const V t143 = t131 + t134;
-        // block of 8
+        // complex block of 8
         const V t144 = c0 * t118;
         const V t145 = c0 * t119;
         const V t146 = t144 + t145;
@@ -262,27 +262,27 @@ struct ComplexGraph<64> {
         const V t149 = c0 * t127;
         const V t150 = t148 + t149;
         const V t151 = t149 - t148;
-        // block of 2
+        // complex block of 2
         const V t152 = t114 + t123;
         const V t153 = t115 - t122;
         const V t154 = t114 - t123;
         const V t155 = t115 + t122;
-        // block of 2
+        // complex block of 2
         const V t156 = t146 + t151;
         const V t157 = t147 - t150;
         const V t158 = t146 - t151;
         const V t159 = t147 + t150;
-        // block of 2
+        // complex block of 2
         const V t160 = t152 + t156;
         const V t161 = t153 + t157;
         const V t162 = t152 - t156;
         const V t163 = t153 - t157;
-        // block of 2
+        // complex block of 2
         const V t164 = t154 + t159;
         const V t165 = t155 - t158;
         const V t166 = t154 - t159;
         const V t167 = t155 + t158;
-        // block of 2
+        // complex block of 2
         const V x3r = io.re(3);
         const V x35r = io.re(35);
         const V t168 = x3r + x35r;
@@ -291,7 +291,7 @@ struct ComplexGraph<64> {
         const V t169 = x3i + x35i;
         const V t170 = x3r - x35r;
         const V t171 = x3i - x35i;
-        // block of 2
+        // complex block of 2
         const V x11r = io.re(11);
         const V x43r = io.re(43);
         const V t172 = x11r + x43r;
@@ -300,7 +300,7 @@ struct ComplexGraph<64> {
         const V t173 = x11i + x43i;
         const V t174 = x11r - x43r;
         const V t175 = x11i - x43i;
-        // block of 2
+        // complex block of 2
         const V x19r = io.re(19);
         const V x51r = io.re(51);
         const V t176 = x19r + x51r;
@@ -309,7 +309,7 @@ struct ComplexGraph<64> {
         const V t177 = x19i + x51i;
         const V t178 = x19r - x51r;
         const V t179 = x19i - x51i;
-        // block of 2
+        // complex block of 2
         const V x27r = io.re(27);
         const V x59r = io.re(59);
         const V t180 = x27r + x59r;
@@ -318,27 +318,27 @@ struct ComplexGraph<64> {
         const V t181 = x27i + x59i;
         const V t182 = x27r - x59r;
         const V t183 = x27i - x59i;
-        // block of 2
+        // complex block of 2
         const V t184 = t168 + t176;
         const V t185 = t169 + t177;
         const V t186 = t168 - t176;
         const V t187 = t169 - t177;
-        // block of 2
+        // complex block of 2
         const V t188 = t172 + t180;
         const V t189 = t173 + t181;
         const V t190 = t172 - t180;
         const V t191 = t173 - t181;
-        // block of 2
+        // complex block of 2
         const V t192 = t184 + t188;
         const V t193 = t185 + t189;
         const V t194 = t184 - t188;
         const V t195 = t185 - t189;
-        // block of 2
+        // complex block of 2
         const V t196 = t186 + t191;
         const V t197 = t187 - t190;
         const V t198 = t186 - t191;
         const V t199 = t187 + t190;
-        // block of 8
+        // complex block of 8
         const V t200 = c0 * t174;
         const V t201 = c0 * t175;
         const V t202 = t200 + t201;
@@ -347,27 +347,27 @@ struct ComplexGraph<64> {
         const V t205 = c0 * t183;
         const V t206 = t204 + t205;
         const V t207 = t205 - t204;
-        // block of 2
+        // complex block of 2
         const V t208 = t170 + t179;
         const V t209 = t171 - t178;
         const V t210 = t170 - t179;
         const V t211 = t171 + t178;
-        // block of 2
+        // complex block of 2
         const V t212 = t202 + t207;
         const V t213 = t203 - t206;
         const V t214 = t202 - t207;
         const V t215 = t203 + t206;
-        // block of 2
+        // complex block of 2
         const V t216 = t208 + t212;
         const V t217 = t209 + t213;
         const V t218 = t208 - t212;
         const V t219 = t209 - t213;
-        // block of 2
+        // complex block of 2
         const V t220 = t210 + t215;
         const V t221 = t211 - t214;
         const V t222 = t210 - t215;
         const V t223 = t211 + t214;
-        // block of 2
+        // complex block of 2
         const V x4r = io.re(4);
         const V x36r = io.re(36);
         const V t224 = x4r + x36r;
@@ -376,7 +376,7 @@ struct ComplexGraph<64> {
         const V t225 = x4i + x36i;
         const V t226 = x4r - x36r;
         const V t227 = x4i - x36i;
-        // block of 2
+        // complex block of 2
         const V x12r = io.re(12);
         const V x44r = io.re(44);
         const V t228 = x12r + x44r;
@@ -385,7 +385,7 @@ struct ComplexGraph<64> {
         const V t229 = x12i + x44i;
         const V t230 = x12r - x44r;
         const V t231 = x12i - x44i;
-        // block of 2
+        // complex block of 2
         const V x20r = io.re(20);
         const V x52r = io.re(52);
         const V t232 = x20r + x52r;
@@ -394,7 +394,7 @@ struct ComplexGraph<64> {
         const V t233 = x20i + x52i;
         const V t234 = x20r - x52r;
         const V t235 = x20i - x52i;
-        // block of 2
+        // complex block of 2
         const V x28r = io.re(28);
         const V x60r = io.re(60);
         const V t236 = x28r + x60r;
@@ -403,27 +403,27 @@ struct ComplexGraph<64> {
         const V t237 = x28i + x60i;
         const V t238 = x28r - x60r;
         const V t239 = x28i - x60i;
-        // block of 2
+        // complex block of 2
         const V t240 = t224 + t232;
         const V t241 = t225 + t233;
         const V t242 = t224 - t232;
         const V t243 = t225 - t233;
-        // block of 2
+        // complex block of 2
         const V t244 = t228 + t236;
         const V t245 = t229 + t237;
         const V t246 = t228 - t236;
         const V t247 = t229 - t237;
-        // block of 2
+        // complex block of 2
         const V t248 = t240 + t244;
         const V t249 = t241 + t245;
         const V t250 = t240 - t244;
         const V t251 = t241 - t245;
-        // block of 2
+        // complex block of 2
         const V t252 = t242 + t247;
         const V t253 = t243 - t246;
         const V t254 = t242 - t247;
         const V t255 = t243 + t246;
-        // block of 8
+        // complex block of 8
         const V t256 = c0 * t230;
         const V t257 = c0 * t231;
         const V t258 = t256 + t257;
@@ -432,27 +432,27 @@ struct ComplexGraph<64> {
         const V t261 = c0 * t239;
         const V t262 = t260 + t261;
         const V t263 = t261 - t260;
-        // block of 2
+        // complex block of 2
         const V t264 = t226 + t235;
         const V t265 = t227 - t234;
         const V t266 = t226 - t235;
         const V t267 = t227 + t234;
-        // block of 2
+        // complex block of 2
         const V t268 = t258 + t263;
         const V t269 = t259 - t262;
         const V t270 = t258 - t263;
         const V t271 = t259 + t262;
-        // block of 2
+        // complex block of 2
         const V t272 = t264 + t268;
         const V t273 = t265 + t269;
         const V t274 = t264 - t268;
         const V t275 = t265 - t269;
-        // block of 2
+        // complex block of 2
         const V t276 = t266 + t271;
         const V t277 = t267 - t270;
         const V t278 = t266 - t271;
         const V t279 = t267 + t270;
-        // block of 2
+        // complex block of 2
         const V x5r = io.re(5);
         const V x37r = io.re(37);
         const V t280 = x5r + x37r;
@@ -461,7 +461,7 @@ struct ComplexGraph<64> {
         const V t281 = x5i + x37i;
         const V t282 = x5r - x37r;
         const V t283 = x5i - x37i;
-        // block of 2
+        // complex block of 2
         const V x13r = io.re(13);
         const V x45r = io.re(45);
         const V t284 = x13r + x45r;
@@ -470,7 +470,7 @@ struct ComplexGraph<64> {
         const V t285 = x13i + x45i;
         const V t286 = x13r - x45r;
         const V t287 = x13i - x45i;
-        // block of 2
+        // complex block of 2
         const V x21r = io.re(21);
         const V x53r = io.re(53);
         const V t288 = x21r + x53r;
@@ -479,7 +479,7 @@ struct ComplexGraph<64> {
         const V t289 = x21i + x53i;
         const V t290 = x21r - x53r;
         const V t291 = x21i - x53i;
-        // block of 2
+        // complex block of 2
         const V x29r = io.re(29);
         const V x61r = io.re(61);
         const V t292 = x29r + x61r;
@@ -488,27 +488,27 @@ struct ComplexGraph<64> {
         const V t293 = x29i + x61i;
         const V t294 = x29r - x61r;
         const V t295 = x29i - x61i;
-        // block of 2
+        // complex block of 2
         const V t296 = t280 + t288;
         const V t297 = t281 + t289;
         const V t298 = t280 - t288;
         const V t299 = t281 - t289;
-        // block of 2
+        // complex block of 2
         const V t300 = t284 + t292;
         const V t301 = t285 + t293;
         const V t302 = t284 - t292;
         const V t303 = t285 - t293;
-        // block of 2
+        // complex block of 2
         const V t304 = t296 + t300;
         const V t305 = t297 + t301;
         const V t306 = t296 - t300;
         const V t307 = t297 - t301;
-        // block of 2
+        // complex block of 2
         const V t308 = t298 + t303;
         const V t309 = t299 - t302;
         const V t310 = t298 - t303;
         const V t311 = t299 + t302;
-        // block of 8
+        // complex block of 8
         const V t312 = c0 * t286;
         const V t313 = c0 * t287;
         const V t314 = t312 + t313;
@@ -517,27 +517,27 @@ struct ComplexGraph<64> {
         const V t317 = c0 * t295;
         const V t318 = t316 + t317;
         const V t319 = t317 - t316;
-        // block of 2
+        // complex block of 2
         const V t320 = t282 + t291;
         const V t321 = t283 - t290;
         const V t322 = t282 - t291;
         const V t323 = t283 + t290;
-        // block of 2
+        // complex block of 2
         const V t324 = t314 + t319;
         const V t325 = t315 - t318;
         const V t326 = t314 - t319;
         const V t327 = t315 + t318;
-        // block of 2
+        // complex block of 2
         const V t328 = t320 + t324;
         const V t329 = t321 + t325;
         const V t330 = t320 - t324;
         const V t331 = t321 - t325;
-        // block of 2
+        // complex block of 2
         const V t332 = t322 + t327;
         const V t333 = t323 - t326;
         const V t334 = t322 - t327;
         const V t335 = t323 + t326;
-        // block of 2
+        // complex block of 2
         const V x6r = io.re(6);
         const V x38r = io.re(38);
         const V t336 = x6r + x38r;
@@ -546,7 +546,7 @@ struct ComplexGraph<64> {
         const V t337 = x6i + x38i;
         const V t338 = x6r - x38r;
         const V t339 = x6i - x38i;
-        // block of 2
+        // complex block of 2
         const V x14r = io.re(14);
         const V x46r = io.re(46);
         const V t340 = x14r + x46r;
@@ -555,7 +555,7 @@ struct ComplexGraph<64> {
         const V t341 = x14i + x46i;
         const V t342 = x14r - x46r;
         const V t343 = x14i - x46i;
-        // block of 2
+        // complex block of 2
         const V x22r = io.re(22);
         const V x54r = io.re(54);
         const V t344 = x22r + x54r;
@@ -564,7 +564,7 @@ struct ComplexGraph<64> {
         const V t345 = x22i + x54i;
         const V t346 = x22r - x54r;
         const V t347 = x22i - x54i;
-        // block of 2
+        // complex block of 2
         const V x30r = io.re(30);
         const V x62r = io.re(62);
         const V t348 = x30r + x62r;
@@ -573,27 +573,27 @@ struct ComplexGraph<64> {
         const V t349 = x30i + x62i;
         const V t350 = x30r - x62r;
         const V t351 = x30i - x62i;
-        // block of 2
+        // complex block of 2
         const V t352 = t336 + t344;
         const V t353 = t337 + t345;
         const V t354 = t336 - t344;
         const V t355 = t337 - t345;
-        // block of 2
+        // complex block of 2
         const V t356 = t340 + t348;
         const V t357 = t341 + t349;
         const V t358 = t340 - t348;
         const V t359 = t341 - t349;
-        // block of 2
+        // complex block of 2
         const V t360 = t352 + t356;
         const V t361 = t353 + t357;
         const V t362 = t352 - t356;
         const V t363 = t353 - t357;
-        // block of 2
+        // complex block of 2
         const V t364 = t354 + t359;
         const V t365 = t355 - t358;
         const V t366 = t354 - t359;
         const V t367 = t355 + t358;
-        // block of 8
+        // complex block of 8
         const V t368 = c0 * t342;
         const V t369 = c0 * t343;
         const V t370 = t368 + t369;
@@ -602,27 +602,27 @@ struct ComplexGraph<64> {
         const V t373 = c0 * t351;
         const V t374 = t372 + t373;
         const V t375 = t373 - t372;
-        // block of 2
+        // complex block of 2
         const V t376 = t338 + t347;
         const V t377 = t339 - t346;
         const V t378 = t338 - t347;
         const V t379 = t339 + t346;
-        // block of 2
+        // complex block of 2
         const V t380 = t370 + t375;
         const V t381 = t371 - t374;
         const V t382 = t370 - t375;
         const V t383 = t371 + t374;
-        // block of 2
+        // complex block of 2
         const V t384 = t376 + t380;
         const V t385 = t377 + t381;
         const V t386 = t376 - t380;
         const V t387 = t377 - t381;
-        // block of 2
+        // complex block of 2
         const V t388 = t378 + t383;
         const V t389 = t379 - t382;
         const V t390 = t378 - t383;
         const V t391 = t379 + t382;
-        // block of 2
+        // complex block of 2
         const V x7r = io.re(7);
         const V x39r = io.re(39);
         const V t392 = x7r + x39r;
@@ -631,7 +631,7 @@ struct ComplexGraph<64> {
         const V t393 = x7i + x39i;
         const V t394 = x7r - x39r;
         const V t395 = x7i - x39i;
-        // block of 2
+        // complex block of 2
         const V x15r = io.re(15);
         const V x47r = io.re(47);
         const V t396 = x15r + x47r;
@@ -640,7 +640,7 @@ struct ComplexGraph<64> {
         const V t397 = x15i + x47i;
         const V t398 = x15r - x47r;
         const V t399 = x15i - x47i;
-        // block of 2
+        // complex block of 2
         const V x23r = io.re(23);
         const V x55r = io.re(55);
         const V t400 = x23r + x55r;
@@ -649,7 +649,7 @@ struct ComplexGraph<64> {
         const V t401 = x23i + x55i;
         const V t402 = x23r - x55r;
         const V t403 = x23i - x55i;
-        // block of 2
+        // complex block of 2
         const V x31r = io.re(31);
         const V x63r = io.re(63);
         const V t404 = x31r + x63r;
@@ -658,27 +658,27 @@ struct ComplexGraph<64> {
         const V t405 = x31i + x63i;
         const V t406 = x31r - x63r;
         const V t407 = x31i - x63i;
-        // block of 2
+        // complex block of 2
         const V t408 = t392 + t400;
         const V t409 = t393 + t401;
         const V t410 = t392 - t400;
         const V t411 = t393 - t401;
-        // block of 2
+        // complex block of 2
         const V t412 = t396 + t404;
         const V t413 = t397 + t405;
         const V t414 = t396 - t404;
         const V t415 = t397 - t405;
-        // block of 2
+        // complex block of 2
         const V t416 = t408 + t412;
         const V t417 = t409 + t413;
         const V t418 = t408 - t412;
         const V t419 = t409 - t413;
-        // block of 2
+        // complex block of 2
         const V t420 = t410 + t415;
         const V t421 = t411 - t414;
         const V t422 = t410 - t415;
         const V t423 = t411 + t414;
-        // block of 8
+        // complex block of 8
         const V t424 = c0 * t398;
         const V t425 = c0 * t399;
         const V t426 = t424 + t425;
@@ -687,57 +687,57 @@ struct ComplexGraph<64> {
         const V t429 = c0 * t407;
         const V t430 = t428 + t429;
         const V t431 = t429 - t428;
-        // block of 2
+        // complex block of 2
         const V t432 = t394 + t403;
         const V t433 = t395 - t402;
         const V t434 = t394 - t403;
         const V t435 = t395 + t402;
-        // block of 2
+        // complex block of 2
         const V t436 = t426 + t431;
         const V t437 = t427 - t430;
         const V t438 = t426 - t431;
         const V t439 = t427 + t430;
-        // block of 2
+        // complex block of 2
         const V t440 = t432 + t436;
         const V t441 = t433 + t437;
         const V t442 = t432 - t436;
         const V t443 = t433 - t437;
-        // block of 2
+        // complex block of 2
         const V t444 = t434 + t439;
         const V t445 = t435 - t438;
         const V t446 = t434 - t439;
         const V t447 = t435 + t438;
-        // block of 2
+        // complex block of 2
         const V t448 = t24 + t248;
         const V t449 = t25 + t249;
         const V t450 = t24 - t248;
         const V t451 = t25 - t249;
-        // block of 2
+        // complex block of 2
         const V t452 = t80 + t304;
         const V t453 = t81 + t305;
         const V t454 = t80 - t304;
         const V t455 = t81 - t305;
-        // block of 2
+        // complex block of 2
         const V t456 = t136 + t360;
         const V t457 = t137 + t361;
         const V t458 = t136 - t360;
         const V t459 = t137 - t361;
-        // block of 2
+        // complex block of 2
         const V t460 = t192 + t416;
         const V t461 = t193 + t417;
         const V t462 = t192 - t416;
         const V t463 = t193 - t417;
-        // block of 2
+        // complex block of 2
         const V t464 = t448 + t456;
         const V t465 = t449 + t457;
         const V t466 = t448 - t456;
         const V t467 = t449 - t457;
-        // block of 2
+        // complex block of 2
         const V t468 = t452 + t460;
         const V t469 = t453 + t461;
         const V t470 = t452 - t460;
         const V t471 = t453 - t461;
-        // block of 2
+        // complex block of 2
         const V t472 = t464 + t468;
         io.re(0, t472);
         const V t473 = t465 + t469;
@@ -746,7 +746,7 @@ struct ComplexGraph<64> {
         io.re(32, t474);
         const V t475 = t465 - t469;
         io.im(32, t475);
-        // block of 2
+        // complex block of 2
         const V t476 = t466 + t471;
         io.re(16, t476);
         const V t477 = t467 - t470;
@@ -755,7 +755,7 @@ struct ComplexGraph<64> {
         io.re(48, t478);
         const V t479 = t467 + t470;
         io.im(48, t479);
-        // block of 8
+        // complex block of 8
         const V t480 = c0 * t454;
         const V t481 = c0 * t455;
         const V t482 = t480 + t481;
@@ -764,17 +764,17 @@ struct ComplexGraph<64> {
         const V t485 = c0 * t463;
         const V t486 = t484 + t485;
         const V t487 = t485 - t484;
-        // block of 2
+        // complex block of 2
         const V t488 = t450 + t459;
         const V t489 = t451 - t458;
         const V t490 = t450 - t459;
         const V t491 = t451 + t458;
-        // block of 2
+        // complex block of 2
         const V t492 = t482 + t487;
         const V t493 = t483 - t486;
         const V t494 = t482 - t487;
         const V t495 = t483 + t486;
-        // block of 2
+        // complex block of 2
         const V t496 = t488 + t492;
         io.re(8, t496);
         const V t497 = t489 + t493;
@@ -783,7 +783,7 @@ struct ComplexGraph<64> {
         io.re(40, t498);
         const V t499 = t489 - t493;
         io.im(40, t499);
-        // block of 2
+        // complex block of 2
         const V t500 = t490 + t495;
         io.re(24, t500);
         const V t501 = t491 - t494;
@@ -792,7 +792,7 @@ struct ComplexGraph<64> {
         io.re(56, t502);
         const V t503 = t491 + t494;
         io.im(56, t503);
-        // block of 64
+        // complex block of 64
         const V t504 = c1 * t105;
         const V t505 = c2 * t104;
         const V t506 = t505 + t504;
@@ -835,37 +835,37 @@ struct ComplexGraph<64> {
         const V t543 = c13 * t440;
         const V t544 = c14 * t441;
         const V t545 = t544 - t543;
-        // block of 2
+        // complex block of 2
         const V t546 = t48 + t524;
         const V t547 = t49 + t527;
         const V t548 = t48 - t524;
         const V t549 = t49 - t527;
-        // block of 2
+        // complex block of 2
         const V t550 = t506 + t530;
         const V t551 = t509 + t533;
         const V t552 = t506 - t530;
         const V t553 = t509 - t533;
-        // block of 2
+        // complex block of 2
         const V t554 = t512 + t536;
         const V t555 = t515 + t539;
         const V t556 = t512 - t536;
         const V t557 = t515 - t539;
-        // block of 2
+        // complex block of 2
         const V t558 = t518 + t542;
         const V t559 = t521 + t545;
         const V t560 = t518 - t542;
         const V t561 = t521 - t545;
-        // block of 2
+        // complex block of 2
         const V t562 = t546 + t554;
         const V t563 = t547 + t555;
         const V t564 = t546 - t554;
         const V t565 = t547 - t555;
-        // block of 2
+        // complex block of 2
         const V t566 = t550 + t558;
         const V t567 = t551 + t559;
         const V t568 = t550 - t558;
         const V t569 = t551 - t559;
-        // block of 2
+        // complex block of 2
         const V t570 = t562 + t566;
         io.re(1, t570);
         const V t571 = t563 + t567;
@@ -874,7 +874,7 @@ struct ComplexGraph<64> {
         io.re(33, t572);
         const V t573 = t563 - t567;
         io.im(33, t573);
-        // block of 2
+        // complex block of 2
         const V t574 = t564 + t569;
         io.re(17, t574);
         const V t575 = t565 - t568;
@@ -883,7 +883,7 @@ struct ComplexGraph<64> {
         io.re(49, t576);
         const V t577 = t565 + t568;
         io.im(49, t577);
-        // block of 8
+        // complex block of 8
         const V t578 = c0 * t552;
         const V t579 = c0 * t553;
         const V t580 = t578 + t579;
@@ -892,17 +892,17 @@ struct ComplexGraph<64> {
         const V t583 = c0 * t561;
         const V t584 = t582 + t583;
         const V t585 = t583 - t582;
-        // block of 2
+        // complex block of 2
         const V t586 = t548 + t557;
         const V t587 = t549 - t556;
         const V t588 = t548 - t557;
         const V t589 = t549 + t556;
-        // block of 2
+        // complex block of 2
         const V t590 = t580 + t585;
         const V t591 = t581 - t584;
         const V t592 = t580 - t585;
         const V t593 = t581 + t584;
-        // block of 2
+        // complex block of 2
         const V t594 = t586 + t590;
         io.re(9, t594);
         const V t595 = t587 + t591;
@@ -911,7 +911,7 @@ struct ComplexGraph<64> {
         io.re(41, t596);
         const V t597 = t587 - t591;
         io.im(41, t597);
-        // block of 2
+        // complex block of 2
         const V t598 = t588 + t593;
         io.re(25, t598);
         const V t599 = t589 - t592;
@@ -920,7 +920,7 @@ struct ComplexGraph<64> {
         io.re(57, t600);
         const V t601 = t589 + t592;
         io.im(57, t601);
-        // block of 64
+        // complex block of 64
         const V t602 = c3 * t85;
         const V t603 = c4 * t84;
         const V t604 = t603 + t602;
@@ -961,37 +961,37 @@ struct ComplexGraph<64> {
         const V t639 = c4 * t420;
         const V t640 = c3 * t421;
         const V t641 = t640 - t639;
-        // block of 2
+        // complex block of 2
         const V t642 = t28 + t622;
         const V t643 = t29 + t623;
         const V t644 = t28 - t622;
         const V t645 = t29 - t623;
-        // block of 2
+        // complex block of 2
         const V t646 = t604 + t626;
         const V t647 = t607 + t629;
         const V t648 = t604 - t626;
         const V t649 = t607 - t629;
-        // block of 2
+        // complex block of 2
         const V t650 = t610 + t632;
         const V t651 = t613 + t635;
         const V t652 = t610 - t632;
         const V t653 = t613 - t635;
-        // block of 2
+        // complex block of 2
         const V t654 = t616 + t638;
         const V t655 = t619 + t641;
         const V t656 = t616 - t638;
         const V t657 = t619 - t641;
-        // block of 2
+        // complex block of 2
         const V t658 = t642 + t650;
         const V t659 = t643 + t651;
         const V t660 = t642 - t650;
         const V t661 = t643 - t651;
-        // block of 2
+        // complex block of 2
         const V t662 = t646 + t654;
         const V t663 = t647 + t655;
         const V t664 = t646 - t654;
         const V t665 = t647 - t655;
-        // block of 2
+        // complex block of 2
         const V t666 = t658 + t662;
         io.re(2, t666);
         const V t667 = t659 + t663;
@@ -1000,7 +1000,7 @@ struct ComplexGraph<64> {
         io.re(34, t668);
         const V t669 = t659 - t663;
         io.im(34, t669);
-        // block of 2
+        // complex block of 2
         const V t670 = t660 + t665;
         io.re(18, t670);
         const V t671 = t661 - t664;
@@ -1009,7 +1009,7 @@ struct ComplexGraph<64> {
         io.re(50, t672);
         const V t673 = t661 + t664;
         io.im(50, t673);
-        // block of 8
+        // complex block of 8
         const V t674 = c0 * t648;
         const V t675 = c0 * t649;
         const V t676 = t674 + t675;
@@ -1018,17 +1018,17 @@ struct ComplexGraph<64> {
         const V t679 = c0 * t657;
         const V t680 = t678 + t679;
         const V t681 = t679 - t678;
-        // block of 2
+        // complex block of 2
         const V t682 = t644 + t653;
         const V t683 = t645 - t652;
         const V t684 = t644 - t653;
         const V t685 = t645 + t652;
-        // block of 2
+        // complex block of 2
         const V t686 = t676 + t681;
         const V t687 = t677 - t680;
         const V t688 = t676 - t681;
         const V t689 = t677 + t680;
-        // block of 2
+        // complex block of 2
         const V t690 = t682 + t686;
         io.re(10, t690);
         const V t691 = t683 + t687;
@@ -1037,7 +1037,7 @@ struct ComplexGraph<64> {
         io.re(42, t692);
         const V t693 = t683 - t687;
         io.im(42, t693);
-        // block of 2
+        // complex block of 2
         const V t694 = t684 + t689;
         io.re(26, t694);
         const V t695 = t685 - t688;
@@ -1046,7 +1046,7 @@ struct ComplexGraph<64> {
         io.re(58, t696);
         const V t697 = t685 + t688;
         io.im(58, t697);
-        // block of 64
+        // complex block of 64
         const V t698 = c5 * t109;
         const V t699 = c6 * t108;
         const V t700 = t699 + t698;
@@ -1089,37 +1089,37 @@ struct ComplexGraph<64> {
         const V t737 = c10 * t444;
         const V t738 = c9 * t445;
         const V t739 = t738 + t737;
-        // block of 2
+        // complex block of 2
         const V t740 = t52 + t718;
         const V t741 = t53 + t721;
         const V t742 = t52 - t718;
         const V t743 = t53 - t721;
-        // block of 2
+        // complex block of 2
         const V t744 = t700 + t724;
         const V t745 = t703 + t727;
         const V t746 = t700 - t724;
         const V t747 = t703 - t727;
-        // block of 2
+        // complex block of 2
         const V t748 = t706 + t730;
         const V t749 = t709 - t733;
         const V t750 = t706 - t730;
         const V t751 = t709 + t733;
-        // block of 2
+        // complex block of 2
         const V t752 = t712 + t736;
         const V t753 = t715 - t739;
         const V t754 = t712 - t736;
         const V t755 = t715 + t739;
-        // block of 2
+        // complex block of 2
         const V t756 = t740 + t748;
         const V t757 = t741 + t749;
         const V t758 = t740 - t748;
         const V t759 = t741 - t749;
-        // block of 2
+        // complex block of 2
         const V t760 = t744 + t752;
         const V t761 = t745 + t753;
         const V t762 = t744 - t752;
         const V t763 = t745 - t753;
-        // block of 2
+        // complex block of 2
         const V t764 = t756 + t760;
         io.re(3, t764);
         const V t765 = t757 + t761;
@@ -1128,7 +1128,7 @@ struct ComplexGraph<64> {
         io.re(35, t766);
         const V t767 = t757 - t761;
         io.im(35, t767);
-        // block of 2
+        // complex block of 2
         const V t768 = t758 + t763;
         io.re(19, t768);
         const V t769 = t759 - t762;
@@ -1137,7 +1137,7 @@ struct ComplexGraph<64> {
         io.re(51, t770);
         const V t771 = t759 + t762;
         io.im(51, t771);
-        // block of 8
+        // complex block of 8
         const V t772 = c0 * t746;
         const V t773 = c0 * t747;
         const V t774 = t772 + t773;
@@ -1146,17 +1146,17 @@ struct ComplexGraph<64> {
         const V t777 = c0 * t755;
         const V t778 = t776 + t777;
         const V t779 = t777 - t776;
-        // block of 2
+        // complex block of 2
         const V t780 = t742 + t751;
         const V t781 = t743 - t750;
         const V t782 = t742 - t751;
         const V t783 = t743 + t750;
-        // block of 2
+        // complex block of 2
         const V t784 = t774 + t779;
         const V t785 = t775 - t778;
         const V t786 = t774 - t779;
         const V t787 = t775 + t778;
-        // block of 2
+        // complex block of 2
         const V t788 = t780 + t784;
         io.re(11, t788);
         const V t789 = t781 + t785;
@@ -1165,7 +1165,7 @@ struct ComplexGraph<64> {
         io.re(43, t790);
         const V t791 = t781 - t785;
         io.im(43, t791);
-        // block of 2
+        // complex block of 2
         const V t792 = t782 + t787;
         io.re(27, t792);
         const V t793 = t783 - t786;
@@ -1174,7 +1174,7 @@ struct ComplexGraph<64> {
         io.re(59, t794);
         const V t795 = t783 + t786;
         io.im(59, t795);
-        // block of 64
+        // complex block of 64
         const V t796 = c7 * t83;
         const V t797 = c8 * t82;
         const V t798 = t797 + t796;
@@ -1207,37 +1207,37 @@ struct ComplexGraph<64> {
         const V t825 = c7 * t418;
         const V t826 = c8 * t419;
         const V t827 = t826 + t825;
-        // block of 2
+        // complex block of 2
         const V t828 = t26 + t251;
         const V t829 = t27 - t250;
         const V t830 = t26 - t251;
         const V t831 = t27 + t250;
-        // block of 2
+        // complex block of 2
         const V t832 = t798 + t814;
         const V t833 = t801 - t817;
         const V t834 = t798 - t814;
         const V t835 = t801 + t817;
-        // block of 2
+        // complex block of 2
         const V t836 = t804 + t821;
         const V t837 = t805 - t820;
         const V t838 = t804 - t821;
         const V t839 = t805 + t820;
-        // block of 2
+        // complex block of 2
         const V t840 = t808 + t824;
         const V t841 = t811 - t827;
         const V t842 = t808 - t824;
         const V t843 = t811 + t827;
-        // block of 2
+        // complex block of 2
         const V t844 = t828 + t836;
         const V t845 = t829 + t837;
         const V t846 = t828 - t836;
         const V t847 = t829 - t837;
-        // block of 2
+        // complex block of 2
         const V t848 = t832 + t840;
         const V t849 = t833 + t841;
         const V t850 = t832 - t840;
         const V t851 = t833 - t841;
-        // block of 2
+        // complex block of 2
         const V t852 = t844 + t848;
         io.re(4, t852);
         const V t853 = t845 + t849;
@@ -1246,7 +1246,7 @@ struct ComplexGraph<64> {
         io.re(36, t854);
         const V t855 = t845 - t849;
         io.im(36, t855);
-        // block of 2
+        // complex block of 2
         const V t856 = t846 + t851;
         io.re(20, t856);
         const V t857 = t847 - t850;
@@ -1255,7 +1255,7 @@ struct ComplexGraph<64> {
         io.re(52, t858);
         const V t859 = t847 + t850;
         io.im(52, t859);
-        // block of 8
+        // complex block of 8
         const V t860 = c0 * t834;
         const V t861 = c0 * t835;
         const V t862 = t860 + t861;
@@ -1264,17 +1264,17 @@ struct ComplexGraph<64> {
         const V t865 = c0 * t843;
         const V t866 = t864 + t865;
         const V t867 = t865 - t864;
-        // block of 2
+        // complex block of 2
         const V t868 = t830 + t839;
         const V t869 = t831 - t838;
         const V t870 = t830 - t839;
         const V t871 = t831 + t838;
-        // block of 2
+        // complex block of 2
         const V t872 = t862 + t867;
         const V t873 = t863 - t866;
         const V t874 = t862 - t867;
         const V t875 = t863 + t866;
-        // block of 2
+        // complex block of 2
         const V t876 = t868 + t872;
         io.re(12, t876);
         const V t877 = t869 + t873;
@@ -1283,7 +1283,7 @@ struct ComplexGraph<64> {
         io.re(44, t878);
         const V t879 = t869 - t873;
         io.im(44, t879);
-        // block of 2
+        // complex block of 2
         const V t880 = t870 + t875;
         io.re(28, t880);
         const V t881 = t871 - t874;
@@ -1292,7 +1292,7 @@ struct ComplexGraph<64> {
         io.re(60, t882);
         const V t883 = t871 + t874;
         io.im(60, t883);
-        // block of 64
+        // complex block of 64
         const V t884 = c9 * t107;
         const V t885 = c10 * t106;
         const V t886 = t885 + t884;
@@ -1335,37 +1335,37 @@ struct ComplexGraph<64> {
         const V t923 = c5 * t442;
         const V t924 = c6 * t443;
         const V t925 = t923 - t924;
-        // block of 2
+        // complex block of 2
         const V t926 = t50 + t904;
         const V t927 = t51 - t907;
         const V t928 = t50 - t904;
         const V t929 = t51 + t907;
-        // block of 2
+        // complex block of 2
         const V t930 = t886 + t910;
         const V t931 = t889 - t913;
         const V t932 = t886 - t910;
         const V t933 = t889 + t913;
-        // block of 2
+        // complex block of 2
         const V t934 = t892 + t916;
         const V t935 = t895 - t919;
         const V t936 = t892 - t916;
         const V t937 = t895 + t919;
-        // block of 2
+        // complex block of 2
         const V t938 = t898 - t922;
         const V t939 = t901 + t925;
         const V t940 = t898 + t922;
         const V t941 = t901 - t925;
-        // block of 2
+        // complex block of 2
         const V t942 = t926 + t934;
         const V t943 = t927 + t935;
         const V t944 = t926 - t934;
         const V t945 = t927 - t935;
-        // block of 2
+        // complex block of 2
         const V t946 = t930 + t938;
         const V t947 = t931 + t939;
         const V t948 = t930 - t938;
         const V t949 = t931 - t939;
-        // block of 2
+        // complex block of 2
         const V t950 = t942 + t946;
         io.re(5, t950);
         const V t951 = t943 + t947;
@@ -1374,7 +1374,7 @@ struct ComplexGraph<64> {
         io.re(37, t952);
         const V t953 = t943 - t947;
         io.im(37, t953);
-        // block of 2
+        // complex block of 2
         const V t954 = t944 + t949;
         io.re(21, t954);
         const V t955 = t945 - t948;
@@ -1383,7 +1383,7 @@ struct ComplexGraph<64> {
         io.re(53, t956);
         const V t957 = t945 + t948;
         io.im(53, t957);
-        // block of 8
+        // complex block of 8
         const V t958 = c0 * t932;
         const V t959 = c0 * t933;
         const V t960 = t958 + t959;
@@ -1392,17 +1392,17 @@ struct ComplexGraph<64> {
         const V t963 = c0 * t941;
         const V t964 = t962 + t963;
         const V t965 = t963 - t962;
-        // block of 2
+        // complex block of 2
         const V t966 = t928 + t937;
         const V t967 = t929 - t936;
         const V t968 = t928 - t937;
         const V t969 = t929 + t936;
-        // block of 2
+        // complex block of 2
         const V t970 = t960 + t965;
         const V t971 = t961 - t964;
         const V t972 = t960 - t965;
         const V t973 = t961 + t964;
-        // block of 2
+        // complex block of 2
         const V t974 = t966 + t970;
         io.re(13, t974);
         const V t975 = t967 + t971;
@@ -1411,7 +1411,7 @@ struct ComplexGraph<64> {
         io.re(45, t976);
         const V t977 = t967 - t971;
         io.im(45, t977);
-        // block of 2
+        // complex block of 2
         const V t978 = t968 + t973;
         io.re(29, t978);
         const V t979 = t969 - t972;
@@ -1420,7 +1420,7 @@ struct ComplexGraph<64> {
         io.re(61, t980);
         const V t981 = t969 + t972;
         io.im(61, t981);
-        // block of 64
+        // complex block of 64
         const V t982 = c11 * t87;
         const V t983 = c12 * t86;
         const V t984 = t983 + t982;
@@ -1461,37 +1461,37 @@ struct ComplexGraph<64> {
         const V t1019 = c12 * t422;
         const V t1020 = c11 * t423;
         const V t1021 = t1019 - t1020;
-        // block of 2
+        // complex block of 2
         const V t1022 = t30 + t1003;
         const V t1023 = t31 - t1002;
         const V t1024 = t30 - t1003;
         const V t1025 = t31 + t1002;
-        // block of 2
+        // complex block of 2
         const V t1026 = t984 + t1006;
         const V t1027 = t987 - t1009;
         const V t1028 = t984 - t1006;
         const V t1029 = t987 + t1009;
-        // block of 2
+        // complex block of 2
         const V t1030 = t990 - t1012;
         const V t1031 = t993 + t1015;
         const V t1032 = t990 + t1012;
         const V t1033 = t993 - t1015;
-        // block of 2
+        // complex block of 2
         const V t1034 = t996 - t1018;
         const V t1035 = t1021 - t999;
         const V t1036 = t996 + t1018;
         const V t1037 = t999 + t1021;
-        // block of 2
+        // complex block of 2
         const V t1038 = t1022 + t1030;
         const V t1039 = t1023 + t1031;
         const V t1040 = t1022 - t1030;
         const V t1041 = t1023 - t1031;
-        // block of 2
+        // complex block of 2
         const V t1042 = t1026 + t1034;
         const V t1043 = t1027 + t1035;
         const V t1044 = t1026 - t1034;
         const V t1045 = t1027 - t1035;
-        // block of 2
+        // complex block of 2
         const V t1046 = t1038 + t1042;
         io.re(6, t1046);
         const V t1047 = t1039 + t1043;
@@ -1500,7 +1500,7 @@ struct ComplexGraph<64> {
         io.re(38, t1048);
         const V t1049 = t1039 - t1043;
         io.im(38, t1049);
-        // block of 2
+        // complex block of 2
         const V t1050 = t1040 + t1045;
         io.re(22, t1050);
         const V t1051 = t1041 - t1044;
@@ -1509,7 +1509,7 @@ struct ComplexGraph<64> {
         io.re(54, t1052);
         const V t1053 = t1041 + t1044;
         io.im(54, t1053);
-        // block of 8
+        // complex block of 8
         const V t1054 = c0 * t1028;
         const V t1055 = c0 * t1029;
         const V t1056 = t1054 + t1055;
@@ -1518,17 +1518,17 @@ struct ComplexGraph<64> {
         const V t1059 = c0 * t1037;
         const V t1060 = t1058 - t1059;
         const V t1061 = t1059 + t1058;
-        // block of 2
+        // complex block of 2
         const V t1062 = t1024 + t1033;
         const V t1063 = t1025 - t1032;
         const V t1064 = t1024 - t1033;
         const V t1065 = t1025 + t1032;
-        // block of 2
+        // complex block of 2
         const V t1066 = t1056 - t1061;
         const V t1067 = t1057 - t1060;
         const V t1068 = t1056 + t1061;
         const V t1069 = t1057 + t1060;
-        // block of 2
+        // complex block of 2
         const V t1070 = t1062 + t1066;
         io.re(14, t1070);
         const V t1071 = t1063 + t1067;
@@ -1537,7 +1537,7 @@ struct ComplexGraph<64> {
         io.re(46, t1072);
         const V t1073 = t1063 - t1067;
         io.im(46, t1073);
-        // block of 2
+        // complex block of 2
         const V t1074 = t1064 + t1069;
         io.re(30, t1074);
         const V t1075 = t1065 - t1068;
@@ -1546,7 +1546,7 @@ struct ComplexGraph<64> {
         io.re(62, t1076);
         const V t1077 = t1065 + t1068;
         io.im(62, t1077);
-        // block of 64
+        // complex block of 64
         const V t1078 = c13 * t111;
         const V t1079 = c14 * t110;
         const V t1080 = t1079 + t1078;
@@ -1589,37 +1589,37 @@ struct ComplexGraph<64> {
         const V t1117 = c2 * t446;
         const V t1118 = c1 * t447;
         const V t1119 = t1118 + t1117;
-        // block of 2
+        // complex block of 2
         const V t1120 = t54 + t1098;
         const V t1121 = t55 - t1101;
         const V t1122 = t54 - t1098;
         const V t1123 = t55 + t1101;
-        // block of 2
+        // complex block of 2
         const V t1124 = t1080 - t1104;
         const V t1125 = t1083 + t1107;
         const V t1126 = t1080 + t1104;
         const V t1127 = t1083 - t1107;
-        // block of 2
+        // complex block of 2
         const V t1128 = t1086 - t1110;
         const V t1129 = t1089 + t1113;
         const V t1130 = t1086 + t1110;
         const V t1131 = t1089 - t1113;
-        // block of 2
+        // complex block of 2
         const V t1132 = t1092 + t1116;
         const V t1133 = t1119 - t1095;
         const V t1134 = t1092 - t1116;
         const V t1135 = t1095 + t1119;
-        // block of 2
+        // complex block of 2
         const V t1136 = t1120 + t1128;
         const V t1137 = t1121 + t1129;
         const V t1138 = t1120 - t1128;
         const V t1139 = t1121 - t1129;
-        // block of 2
+        // complex block of 2
         const V t1140 = t1124 + t1132;
         const V t1141 = t1125 + t1133;
         const V t1142 = t1124 - t1132;
         const V t1143 = t1125 - t1133;
-        // block of 2
+        // complex block of 2
         const V t1144 = t1136 + t1140;
         io.re(7, t1144);
         const V t1145 = t1137 + t1141;
@@ -1628,7 +1628,7 @@ struct ComplexGraph<64> {
         io.re(39, t1146);
         const V t1147 = t1137 - t1141;
         io.im(39, t1147);
-        // block of 2
+        // complex block of 2
         const V t1148 = t1138 + t1143;
         io.re(23, t1148);
         const V t1149 = t1139 - t1142;
@@ -1637,7 +1637,7 @@ struct ComplexGraph<64> {
         io.re(55, t1150);
         const V t1151 = t1139 + t1142;
         io.im(55, t1151);
-        // block of 8
+        // complex block of 8
         const V t1152 = c0 * t1126;
         const V t1153 = c0 * t1127;
         const V t1154 = t1152 + t1153;
@@ -1646,17 +1646,17 @@ struct ComplexGraph<64> {
         const V t1157 = c0 * t1135;
         const V t1158 = t1156 - t1157;
         const V t1159 = t1157 + t1156;
-        // block of 2
+        // complex block of 2
         const V t1160 = t1122 + t1131;
         const V t1161 = t1123 - t1130;
         const V t1162 = t1122 - t1131;
         const V t1163 = t1123 + t1130;
-        // block of 2
+        // complex block of 2
         const V t1164 = t1154 - t1159;
         const V t1165 = t1155 - t1158;
         const V t1166 = t1154 + t1159;
         const V t1167 = t1155 + t1158;
-        // block of 2
+        // complex block of 2
         const V t1168 = t1160 + t1164;
         io.re(15, t1168);
         const V t1169 = t1161 + t1165;
@@ -1665,7 +1665,7 @@ struct ComplexGraph<64> {
         io.re(47, t1170);
         const V t1171 = t1161 - t1165;
         io.im(47, t1171);
-        // block of 2
+        // complex block of 2
         const V t1172 = t1162 + t1167;
         io.re(31, t1172);
         const V t1173 = t1163 - t1166;

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 7.
 // Complex DFT of 7 points, direct symmetric form.
-// 30 additions, 30 subtractions, 36 multiplications (50 with `scale`); 6 constants; 20 values alive at most.
+// 30 additions, 30 subtractions, 36 multiplications (50 with `scale`); 6 constants; 19 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -18,7 +18,7 @@ struct ComplexGraph<7> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 7
+        // complex block of 7
         const V x1r = io.re(1);
         const V x6r = io.re(6);
         const V t0 = x1r + x6r;
@@ -44,11 +44,11 @@ struct ComplexGraph<7> {
         const V t10 = x4r - x3r;
         const V t11 = x4i - x3i;
         const V t12 = t0 + t4;
-        const V t13 = t1 + t5;
-        const V t14 = t12 + t8;
-        const V t15 = t13 + t9;
+        const V t13 = t12 + t8;
+        const V t14 = t1 + t5;
+        const V t15 = t14 + t9;
         const V x0r = io.re(0);
-        const V t16 = t14 + x0r;
+        const V t16 = t13 + x0r;
         const V x0i = io.im(0);
         io.re(0, t16);
         const V t17 = t15 + x0i;
@@ -66,22 +66,22 @@ struct ComplexGraph<7> {
         const V t28 = t26 - t27;
         const V t29 = t28 + x0i;
         const V t30 = c3 * t2;
-        const V t31 = c3 * t3;
-        const V t32 = c4 * t6;
-        const V t33 = c4 * t7;
-        const V t34 = t30 - t32;
-        const V t35 = t31 - t33;
-        const V t36 = c5 * t10;
-        const V t37 = c5 * t11;
-        const V t38 = t34 - t36;
-        const V t39 = t35 - t37;
+        const V t31 = c4 * t6;
+        const V t32 = t30 - t31;
+        const V t33 = c5 * t10;
+        const V t34 = t32 - t33;
+        const V t35 = c3 * t3;
+        const V t36 = c4 * t7;
+        const V t37 = t35 - t36;
+        const V t38 = c5 * t11;
+        const V t39 = t37 - t38;
         const V t40 = t23 + t39;
         io.re(1, t40);
-        const V t41 = t29 - t38;
+        const V t41 = t29 - t34;
         io.im(1, t41);
         const V t42 = t23 - t39;
         io.re(6, t42);
-        const V t43 = t29 + t38;
+        const V t43 = t29 + t34;
         io.im(6, t43);
         const V t44 = c1 * t0;
         const V t45 = x0r - t44;
@@ -96,22 +96,22 @@ struct ComplexGraph<7> {
         const V t54 = c0 * t9;
         const V t55 = t53 + t54;
         const V t56 = c4 * t2;
-        const V t57 = c4 * t3;
-        const V t58 = c5 * t6;
-        const V t59 = c5 * t7;
-        const V t60 = t56 + t58;
-        const V t61 = t57 + t59;
-        const V t62 = c3 * t10;
-        const V t63 = c3 * t11;
-        const V t64 = t60 + t62;
-        const V t65 = t61 + t63;
+        const V t57 = c5 * t6;
+        const V t58 = t56 + t57;
+        const V t59 = c3 * t10;
+        const V t60 = t58 + t59;
+        const V t61 = c4 * t3;
+        const V t62 = c5 * t7;
+        const V t63 = t61 + t62;
+        const V t64 = c3 * t11;
+        const V t65 = t63 + t64;
         const V t66 = t49 + t65;
         io.re(2, t66);
-        const V t67 = t55 - t64;
+        const V t67 = t55 - t60;
         io.im(2, t67);
         const V t68 = t49 - t65;
         io.re(5, t68);
-        const V t69 = t55 + t64;
+        const V t69 = t55 + t60;
         io.im(5, t69);
         const V t70 = c2 * t0;
         const V t71 = x0r - t70;
@@ -126,22 +126,22 @@ struct ComplexGraph<7> {
         const V t80 = c1 * t9;
         const V t81 = t79 - t80;
         const V t82 = c5 * t2;
-        const V t83 = c5 * t3;
-        const V t84 = c3 * t6;
-        const V t85 = c3 * t7;
-        const V t86 = t82 + t84;
-        const V t87 = t83 + t85;
-        const V t88 = c4 * t10;
-        const V t89 = c4 * t11;
-        const V t90 = t86 - t88;
-        const V t91 = t87 - t89;
+        const V t83 = c3 * t6;
+        const V t84 = t82 + t83;
+        const V t85 = c4 * t10;
+        const V t86 = t84 - t85;
+        const V t87 = c5 * t3;
+        const V t88 = c3 * t7;
+        const V t89 = t87 + t88;
+        const V t90 = c4 * t11;
+        const V t91 = t89 - t90;
         const V t92 = t75 + t91;
         io.re(3, t92);
-        const V t93 = t81 - t90;
+        const V t93 = t81 - t86;
         io.im(3, t93);
         const V t94 = t75 - t91;
         io.re(4, t94);
-        const V t95 = t81 + t90;
+        const V t95 = t81 + t86;
         io.im(4, t95);
     }
 };

@@ -13,7 +13,7 @@ struct ComplexGraph<8> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 2
+        // complex block of 2
         const V x0r = io.re(0);
         const V x4r = io.re(4);
         const V t0 = x0r + x4r;
@@ -22,7 +22,7 @@ struct ComplexGraph<8> {
         const V t1 = x0i + x4i;
         const V t2 = x0r - x4r;
         const V t3 = x0i - x4i;
-        // block of 2
+        // complex block of 2
         const V x1r = io.re(1);
         const V x5r = io.re(5);
         const V t4 = x1r + x5r;
@@ -31,7 +31,7 @@ struct ComplexGraph<8> {
         const V t5 = x1i + x5i;
         const V t6 = x1r - x5r;
         const V t7 = x1i - x5i;
-        // block of 2
+        // complex block of 2
         const V x2r = io.re(2);
         const V x6r = io.re(6);
         const V t8 = x2r + x6r;
@@ -40,7 +40,7 @@ struct ComplexGraph<8> {
         const V t9 = x2i + x6i;
         const V t10 = x2r - x6r;
         const V t11 = x2i - x6i;
-        // block of 2
+        // complex block of 2
         const V x3r = io.re(3);
         const V x7r = io.re(7);
         const V t12 = x3r + x7r;
@@ -49,17 +49,17 @@ struct ComplexGraph<8> {
         const V t13 = x3i + x7i;
         const V t14 = x3r - x7r;
         const V t15 = x3i - x7i;
-        // block of 2
+        // complex block of 2
         const V t16 = t0 + t8;
         const V t17 = t1 + t9;
         const V t18 = t0 - t8;
         const V t19 = t1 - t9;
-        // block of 2
+        // complex block of 2
         const V t20 = t4 + t12;
         const V t21 = t5 + t13;
         const V t22 = t4 - t12;
         const V t23 = t5 - t13;
-        // block of 2
+        // complex block of 2
         const V t24 = t16 + t20;
         io.re(0, t24);
         const V t25 = t17 + t21;
@@ -68,7 +68,7 @@ struct ComplexGraph<8> {
         io.re(4, t26);
         const V t27 = t17 - t21;
         io.im(4, t27);
-        // block of 2
+        // complex block of 2
         const V t28 = t18 + t23;
         io.re(2, t28);
         const V t29 = t19 - t22;
@@ -77,7 +77,7 @@ struct ComplexGraph<8> {
         io.re(6, t30);
         const V t31 = t19 + t22;
         io.im(6, t31);
-        // block of 8
+        // complex block of 8
         const V t32 = c0 * t6;
         const V t33 = c0 * t7;
         const V t34 = t32 + t33;
@@ -86,17 +86,17 @@ struct ComplexGraph<8> {
         const V t37 = c0 * t15;
         const V t38 = t36 + t37;
         const V t39 = t37 - t36;
-        // block of 2
+        // complex block of 2
         const V t40 = t2 + t11;
         const V t41 = t3 - t10;
         const V t42 = t2 - t11;
         const V t43 = t3 + t10;
-        // block of 2
+        // complex block of 2
         const V t44 = t34 + t39;
         const V t45 = t35 - t38;
         const V t46 = t34 - t39;
         const V t47 = t35 + t38;
-        // block of 2
+        // complex block of 2
         const V t48 = t40 + t44;
         io.re(1, t48);
         const V t49 = t41 + t45;
@@ -105,7 +105,7 @@ struct ComplexGraph<8> {
         io.re(5, t50);
         const V t51 = t41 - t45;
         io.im(5, t51);
-        // block of 2
+        // complex block of 2
         const V t52 = t42 + t47;
         io.re(3, t52);
         const V t53 = t43 - t46;

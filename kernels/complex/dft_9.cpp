@@ -20,7 +20,7 @@ struct ComplexGraph<9> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // block of 3
+        // complex block of 3
         const V x3r = io.re(3);
         const V x6r = io.re(6);
         const V t0 = x3r + x6r;
@@ -43,7 +43,7 @@ struct ComplexGraph<9> {
         const V t13 = t9 - t10;
         const V t14 = t7 - t11;
         const V t15 = t9 + t10;
-        // block of 3
+        // complex block of 3
         const V x4r = io.re(4);
         const V x7r = io.re(7);
         const V t16 = x4r + x7r;
@@ -66,7 +66,7 @@ struct ComplexGraph<9> {
         const V t29 = t25 - t26;
         const V t30 = t23 - t27;
         const V t31 = t25 + t26;
-        // block of 3
+        // complex block of 3
         const V x5r = io.re(5);
         const V x8r = io.re(8);
         const V t32 = x5r + x8r;
@@ -89,7 +89,7 @@ struct ComplexGraph<9> {
         const V t45 = t41 - t42;
         const V t46 = t39 - t43;
         const V t47 = t41 + t42;
-        // block of 3
+        // complex block of 3
         const V t48 = t20 + t36;
         const V t49 = t21 + t37;
         const V t50 = t20 - t36;
@@ -112,7 +112,7 @@ struct ComplexGraph<9> {
         io.re(6, t62);
         const V t63 = t57 + t58;
         io.im(6, t63);
-        // block of 9
+        // complex block of 9
         const V t64 = c2 * t29;
         const V t65 = c3 * t28;
         const V t66 = t65 + t64;
@@ -125,7 +125,7 @@ struct ComplexGraph<9> {
         const V t73 = c4 * t44;
         const V t74 = c5 * t45;
         const V t75 = t74 - t73;
-        // block of 3
+        // complex block of 3
         const V t76 = t66 + t72;
         const V t77 = t69 + t75;
         const V t78 = t66 - t72;
@@ -148,7 +148,7 @@ struct ComplexGraph<9> {
         io.re(7, t90);
         const V t91 = t85 + t86;
         io.im(7, t91);
-        // block of 9
+        // complex block of 9
         const V t92 = c4 * t31;
         const V t93 = c5 * t30;
         const V t94 = t93 + t92;
@@ -161,7 +161,7 @@ struct ComplexGraph<9> {
         const V t101 = c6 * t46;
         const V t102 = c7 * t47;
         const V t103 = t102 + t101;
-        // block of 3
+        // complex block of 3
         const V t104 = t94 + t100;
         const V t105 = t97 - t103;
         const V t106 = t94 - t100;

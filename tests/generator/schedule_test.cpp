@@ -13,8 +13,8 @@ using namespace gen;
 class ScheduleTest : public testing::TestWithParam<GraphEntry> {};
 
 TEST_P(ScheduleTest, HoldsEveryStepOnceAndInAPossibleOrder) {
-    Graph graph;
-    GetParam().build(graph);
+    const auto built = GetParam().build();
+    const Graph& graph = *built;
     const Schedule schedule = blockByBlock(graph);
     std::vector<bool> done(graph.nodes().size(), false), stored(graph.outputs().size(), false);
     const auto isDone = [&](int node) { return done[static_cast<std::size_t>(node)]; };

@@ -16,7 +16,8 @@ inline constexpr std::byte pattern{0xA5};
 class KernelTest : public testing::TestWithParam<Transform> {
 protected:
     const Transform& transform = GetParam();
-    const unsigned seed = static_cast<unsigned>(testing::UnitTest::GetInstance()->random_seed());
+    // The same at every run, unless the command line asks for another one.
+    const unsigned seed = static_cast<unsigned>(GTEST_FLAG_GET(random_seed));
     testing::ScopedTrace trace{__FILE__, __LINE__, "--gtest_random_seed=" + std::to_string(seed)};
     std::mt19937 random{seed};
 

@@ -26,16 +26,42 @@ Values inverse(const Values& x) { return complexTransform(x, +1); }
 
 }  // namespace
 
-std::vector<int> availableLengths() {
+std::vector<int> availableLengths(int largest) {
     std::vector<int> lengths;
     for (int length = 2; length <= 64; ++length) {
         int rest = length;
-        for (int p : {2, 3, 5, 7}) {
+        for (int p = 2; p <= largest; ++p) {
             while (rest % p == 0) rest /= p;
         }
         if (rest == 1) lengths.push_back(length);
     }
     return lengths;
+}
+
+const char* layoutName(Layout layout) {
+    return layout == Layout::CCS ? "CCS" : layout == Layout::Pack ? "Pack" : "Perm";
+}
+
+int LayoutSlots::re(int k) const {
+    if (layout == Layout::CCS) return 2 * k;
+    if (k == 0) return 0;
+    if (2 * k == length) return layout == Layout::Pack ? length - 1 : 1;
+    return layout == Layout::Perm && length % 2 == 0 ? 2 * k : 2 * k - 1;
+}
+
+int LayoutSlots::im(int k) const {
+    const bool isReal = 2 * k % length == 0;
+    return isReal && layout != Layout::CCS ? -1 : re(k) + 1;
+}
+
+int LayoutSlots::elements() const { return layout == Layout::CCS ? length / 2 * 2 + 2 : length; }
+
+int expectedNegations(int length) {
+    constexpr int negations[] = {
+        0,  1,  1,  1, 1,  1,  3,  3,  3,  1,  3,  2,  3,  3,  6,  5,  4,  4,  5,  6,  5,
+        4,  5,  6,  7, 8,  7,  8,  9,  6,  10, 8,  8,  8,  10, 8,  12, 11, 11, 9,  10, 9,
+        11, 11, 11, 9, 14, 11, 18, 16, 14, 14, 13, 14, 14, 16, 14, 10, 18, 14, 21, 18, 19};  // of lengths 2 to 64
+    return negations[length - 2];
 }
 
 std::vector<Transform> complexTransforms() {
@@ -49,6 +75,64 @@ std::vector<Transform> complexTransforms() {
         }
     }
     return transforms;
+}
+
+std::vector<Transform> realForwardTransforms() {
+    std::vector<Transform> transforms;
+    for (int length : availableLengths(11)) {
+        for (Layout layout : allLayouts) {
+            const LayoutSlots slots{layout, length};
+            const auto definition = [slots](const Values& x) {
+                const Values bins = realTransform(x);
+                Values result(static_cast<std::size_t>(slots.elements()));
+                for (int k = 0; 2 * k <= slots.length; ++k) {
+                    result[static_cast<std::size_t>(slots.re(k))] = bins[static_cast<std::size_t>(2 * k)];
+                    if (slots.im(k) >= 0)
+                        result[static_cast<std::size_t>(slots.im(k))] = bins[static_cast<std::size_t>(2 * k + 1)];
+                }
+                return result;
+            };
+            for (const char* suffix : {"32f", "64f"}) {
+                transforms.push_back({std::string("DFTFwd_RTo") + layoutName(layout), suffix, length,
+                                      Direction::Forward, length, slots.elements(), 3.0, definition});
+            }
+        }
+    }
+    return transforms;
+}
+
+std::vector<Transform> realInverseTransforms() {
+    std::vector<Transform> transforms;
+    for (int length : availableLengths()) {
+        for (Layout layout : allLayouts) {
+            const LayoutSlots slots{layout, length};
+            const auto definition = [slots](const Values& packed) {
+                Values bins(static_cast<std::size_t>(slots.length / 2 * 2 + 2));
+                for (int k = 0; 2 * k <= slots.length; ++k) {
+                    bins[static_cast<std::size_t>(2 * k)] = packed[static_cast<std::size_t>(slots.re(k))];
+                    if (2 * k % slots.length != 0) {
+                        bins[static_cast<std::size_t>(2 * k + 1)] = packed[static_cast<std::size_t>(slots.im(k))];
+                    }
+                }
+                return inverseRealTransform(bins, slots.length);
+            };
+            // The last slot that an inverse CCS kernel reads is N, at either parity.
+            const int elements = layout == Layout::CCS ? length + 1 : length;
+            for (const char* suffix : {"32f", "64f"}) {
+                transforms.push_back({std::string("DFTInv_") + layoutName(layout) + "ToR", suffix, length,
+                                      Direction::Inverse, elements, length, 3.0, definition});
+            }
+        }
+    }
+    return transforms;
+}
+
+std::vector<Transform> allTransforms() {
+    std::vector<Transform> all;
+    for (const auto& family : {complexTransforms(), realForwardTransforms(), realInverseTransforms()}) {
+        all.insert(all.end(), family.begin(), family.end());
+    }
+    return all;
 }
 
 std::ostream& operator<<(std::ostream& out, const Transform& transform) { return out << transform.kernelName(); }

@@ -17,8 +17,22 @@ namespace test {
 
 enum class Direction { Forward, Inverse, Both };
 
-// The available lengths of the DFT families: those without a prime factor above 7.
-std::vector<int> availableLengths();
+// The available lengths of a family: those without a prime factor above `largest`, which is 7, or 11 for the forward
+// real families.
+std::vector<int> availableLengths(int largest = 7);
+
+enum class Layout { CCS, Pack, Perm };
+constexpr Layout allLayouts[] = {Layout::CCS, Layout::Pack, Layout::Perm};
+
+// Where a layout keeps the parts of bin k, and how many elements it has; -1 for an imaginary part that it leaves out.
+struct LayoutSlots {
+    Layout layout;
+    int length;
+
+    int re(int k) const;
+    int im(int k) const;
+    int elements() const;
+};
 
 struct Transform {
     std::string family;  // "DFTFwd_CToC"
@@ -40,6 +54,14 @@ struct Transform {
 };
 
 std::vector<Transform> complexTransforms();
+std::vector<Transform> realForwardTransforms();
+std::vector<Transform> realInverseTransforms();
+std::vector<Transform> allTransforms();
+
+const char* layoutName(Layout layout);
+
+// Of the outputs of the forward real transform of a length, how many are stored behind a negation.
+int expectedNegations(int length);
 
 // For value-parameterised tests: readable names.
 std::ostream& operator<<(std::ostream& out, const Transform& transform);

@@ -1,0 +1,114 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 10.
+// Inverse DFT to 10 real points, prime-factor 2, 5.
+// 19 additions, 15 subtractions, 24 multiplications (34 with `scale`); 5 constants; 13 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct RealInverseGraph<10> {
+    static constexpr double inverseRoot = 0.31622776601683794;  // 1/sqrt(10), for `scale`
+    static constexpr double c0 = 2.0;  // 2
+    static constexpr double c1 = 0.8090169943749475;  // -cos 2 pi 2/5
+    static constexpr double c2 = 0.30901699437494745;  // cos 2 pi 4/5
+    static constexpr double c3 = 0.5877852522924731;  // sin 2 pi 2/5
+    static constexpr double c4 = 0.9510565162951535;  // -sin 2 pi 4/5
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t0 = c0 * x1r;
+        const V x1i = io.im(1);
+        const V t1 = c0 * x1i;
+        const V x2r = io.re(2);
+        const V t2 = c0 * x2r;
+        const V x2i = io.im(2);
+        const V t3 = c0 * x2i;
+        const V x3r = io.re(3);
+        const V t4 = c0 * x3r;
+        const V x3i = io.im(3);
+        const V t5 = c0 * x3i;
+        const V x4r = io.re(4);
+        const V t6 = c0 * x4r;
+        const V x4i = io.im(4);
+        const V t7 = c0 * x4i;
+        // spectrum block of 2
+        const V x0r = io.re(0);
+        const V x5r = io.re(5);
+        const V t8 = x0r + x5r;
+        const V t9 = x0r - x5r;
+        // complex block of 2
+        const V t10 = t3 - t5;
+        const V t11 = t2 + t4;
+        const V t12 = t3 + t5;
+        const V t13 = t2 - t4;
+        // complex block of 2
+        const V t14 = t7 - t1;
+        const V t15 = t6 + t0;
+        const V t16 = t7 + t1;
+        const V t17 = t6 - t0;
+        // spectrum block of 5, multiplier 2
+        const V t18 = t11 + t15;
+        const V t19 = t18 + t8;
+        io.out(0, t19);
+        const V t20 = c1 * t11;
+        const V t21 = t8 - t20;
+        const V t22 = c2 * t15;
+        const V t23 = t21 + t22;
+        const V t24 = c3 * t10;
+        const V t25 = c4 * t14;
+        const V t26 = t24 - t25;
+        const V t27 = t23 - t26;
+        io.out(2, t27);
+        const V t28 = t23 + t26;
+        io.out(8, t28);
+        const V t29 = c2 * t11;
+        const V t30 = c1 * t15;
+        const V t31 = t29 - t30;
+        const V t32 = t31 + t8;
+        const V t33 = c4 * t10;
+        const V t34 = c3 * t14;
+        const V t35 = t33 + t34;
+        const V t36 = t32 + t35;
+        io.out(4, t36);
+        const V t37 = t32 - t35;
+        io.out(6, t37);
+        // spectrum block of 5, multiplier 2
+        const V t38 = t13 + t17;
+        const V t39 = t38 + t9;
+        io.out(5, t39);
+        const V t40 = c1 * t13;
+        const V t41 = t9 - t40;
+        const V t42 = c2 * t17;
+        const V t43 = t41 + t42;
+        const V t44 = c3 * t12;
+        const V t45 = c4 * t16;
+        const V t46 = t44 - t45;
+        const V t47 = t43 - t46;
+        io.out(7, t47);
+        const V t48 = t43 + t46;
+        io.out(3, t48);
+        const V t49 = c2 * t13;
+        const V t50 = c1 * t17;
+        const V t51 = t49 - t50;
+        const V t52 = t51 + t9;
+        const V t53 = c4 * t12;
+        const V t54 = c3 * t16;
+        const V t55 = t53 + t54;
+        const V t56 = t52 + t55;
+        io.out(9, t56);
+        const V t57 = t52 - t55;
+        io.out(1, t57);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 10, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 10, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 10, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 10, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 10, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 10, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

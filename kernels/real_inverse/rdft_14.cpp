@@ -1,0 +1,177 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 14.
+// Inverse DFT to 14 real points, prime-factor 2, 7.
+// 29 additions, 33 subtractions, 48 multiplications (62 with `scale`); 7 constants; 17 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct RealInverseGraph<14> {
+    static constexpr double inverseRoot = 0.2672612419124244;  // 1/sqrt(14), for `scale`
+    static constexpr double c0 = 2.0;  // 2
+    static constexpr double c1 = 0.2225209339563144;  // -cos 2 pi 2/7
+    static constexpr double c2 = 0.9009688679024191;  // -cos 2 pi 4/7
+    static constexpr double c3 = 0.6234898018587335;  // cos 2 pi 6/7
+    static constexpr double c4 = 0.9749279121818236;  // sin 2 pi 2/7
+    static constexpr double c5 = 0.4338837391175581;  // -sin 2 pi 4/7
+    static constexpr double c6 = 0.7818314824680298;  // -sin 2 pi 6/7
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t0 = c0 * x1r;
+        const V x1i = io.im(1);
+        const V t1 = c0 * x1i;
+        const V x2r = io.re(2);
+        const V t2 = c0 * x2r;
+        const V x2i = io.im(2);
+        const V t3 = c0 * x2i;
+        const V x3r = io.re(3);
+        const V t4 = c0 * x3r;
+        const V x3i = io.im(3);
+        const V t5 = c0 * x3i;
+        const V x4r = io.re(4);
+        const V t6 = c0 * x4r;
+        const V x4i = io.im(4);
+        const V t7 = c0 * x4i;
+        const V x5r = io.re(5);
+        const V t8 = c0 * x5r;
+        const V x5i = io.im(5);
+        const V t9 = c0 * x5i;
+        const V x6r = io.re(6);
+        const V t10 = c0 * x6r;
+        const V x6i = io.im(6);
+        const V t11 = c0 * x6i;
+        // spectrum block of 2
+        const V x0r = io.re(0);
+        const V x7r = io.re(7);
+        const V t12 = x0r + x7r;
+        const V t13 = x0r - x7r;
+        // complex block of 2
+        const V t14 = t3 - t9;
+        const V t15 = t2 + t8;
+        const V t16 = t3 + t9;
+        const V t17 = t2 - t8;
+        // complex block of 2
+        const V t18 = t7 - t5;
+        const V t19 = t6 + t4;
+        const V t20 = t7 + t5;
+        const V t21 = t6 - t4;
+        // complex block of 2
+        const V t22 = t11 - t1;
+        const V t23 = t10 + t0;
+        const V t24 = t11 + t1;
+        const V t25 = t10 - t0;
+        // spectrum block of 7, multiplier 2
+        const V t26 = t15 + t19;
+        const V t27 = t26 + t23;
+        const V t28 = t27 + t12;
+        io.out(0, t28);
+        const V t29 = c1 * t15;
+        const V t30 = t12 - t29;
+        const V t31 = c2 * t19;
+        const V t32 = t30 - t31;
+        const V t33 = c3 * t23;
+        const V t34 = t32 + t33;
+        const V t35 = c4 * t14;
+        const V t36 = c5 * t18;
+        const V t37 = t35 - t36;
+        const V t38 = c6 * t22;
+        const V t39 = t37 - t38;
+        const V t40 = t34 - t39;
+        io.out(2, t40);
+        const V t41 = t34 + t39;
+        io.out(12, t41);
+        const V t42 = c2 * t15;
+        const V t43 = t12 - t42;
+        const V t44 = c3 * t19;
+        const V t45 = t43 + t44;
+        const V t46 = c1 * t23;
+        const V t47 = t45 - t46;
+        const V t48 = c5 * t14;
+        const V t49 = c6 * t18;
+        const V t50 = t49 - t48;
+        const V t51 = c4 * t22;
+        const V t52 = t50 - t51;
+        const V t53 = t47 - t52;
+        io.out(4, t53);
+        const V t54 = t47 + t52;
+        io.out(10, t54);
+        const V t55 = c3 * t15;
+        const V t56 = c1 * t19;
+        const V t57 = t55 - t56;
+        const V t58 = c2 * t23;
+        const V t59 = t57 - t58;
+        const V t60 = t59 + t12;
+        const V t61 = c6 * t14;
+        const V t62 = c4 * t18;
+        const V t63 = t61 + t62;
+        const V t64 = c5 * t22;
+        const V t65 = t63 + t64;
+        const V t66 = t60 + t65;
+        io.out(6, t66);
+        const V t67 = t60 - t65;
+        io.out(8, t67);
+        // spectrum block of 7, multiplier 2
+        const V t68 = t17 + t21;
+        const V t69 = t68 + t25;
+        const V t70 = t69 + t13;
+        io.out(7, t70);
+        const V t71 = c1 * t17;
+        const V t72 = t13 - t71;
+        const V t73 = c2 * t21;
+        const V t74 = t72 - t73;
+        const V t75 = c3 * t25;
+        const V t76 = t74 + t75;
+        const V t77 = c4 * t16;
+        const V t78 = c5 * t20;
+        const V t79 = t77 - t78;
+        const V t80 = c6 * t24;
+        const V t81 = t79 - t80;
+        const V t82 = t76 - t81;
+        io.out(9, t82);
+        const V t83 = t76 + t81;
+        io.out(5, t83);
+        const V t84 = c2 * t17;
+        const V t85 = t13 - t84;
+        const V t86 = c3 * t21;
+        const V t87 = t85 + t86;
+        const V t88 = c1 * t25;
+        const V t89 = t87 - t88;
+        const V t90 = c5 * t16;
+        const V t91 = c6 * t20;
+        const V t92 = t91 - t90;
+        const V t93 = c4 * t24;
+        const V t94 = t92 - t93;
+        const V t95 = t89 - t94;
+        io.out(11, t95);
+        const V t96 = t89 + t94;
+        io.out(3, t96);
+        const V t97 = c3 * t17;
+        const V t98 = c1 * t21;
+        const V t99 = t97 - t98;
+        const V t100 = c2 * t25;
+        const V t101 = t99 - t100;
+        const V t102 = t101 + t13;
+        const V t103 = c6 * t16;
+        const V t104 = c4 * t20;
+        const V t105 = t103 + t104;
+        const V t106 = c5 * t24;
+        const V t107 = t105 + t106;
+        const V t108 = t102 + t107;
+        io.out(13, t108);
+        const V t109 = t102 - t107;
+        io.out(1, t109);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 14, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 14, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 14, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 14, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 14, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 14, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

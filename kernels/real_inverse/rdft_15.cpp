@@ -1,0 +1,181 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 15.
+// Inverse DFT to 15 real points, prime-factor 3, 5.
+// 35 additions, 29 subtractions, 47 multiplications (62 with `scale`); 8 constants; 18 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct RealInverseGraph<15> {
+    static constexpr double inverseRoot = 0.2581988897471611;  // 1/sqrt(15), for `scale`
+    static constexpr double c0 = 2.0;  // 2
+    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
+    static constexpr double c2 = 1.7320508075688772;  // -sin 2 pi 2/3 times 2
+    static constexpr double c3 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c4 = 0.8090169943749475;  // -cos 2 pi 3/5
+    static constexpr double c5 = 0.30901699437494745;  // cos 2 pi 6/5
+    static constexpr double c6 = 0.5877852522924731;  // -sin 2 pi 3/5
+    static constexpr double c7 = 0.9510565162951535;  // sin 2 pi 6/5
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t0 = c0 * x1r;
+        const V x1i = io.im(1);
+        const V t1 = c0 * x1i;
+        const V x2r = io.re(2);
+        const V t2 = c0 * x2r;
+        const V x2i = io.im(2);
+        const V t3 = c0 * x2i;
+        const V x3r = io.re(3);
+        const V t4 = c0 * x3r;
+        const V x3i = io.im(3);
+        const V t5 = c0 * x3i;
+        const V x4r = io.re(4);
+        const V t6 = c0 * x4r;
+        const V x4i = io.im(4);
+        const V t7 = c0 * x4i;
+        const V x5r = io.re(5);
+        const V t8 = c0 * x5r;
+        const V x6r = io.re(6);
+        const V t9 = c0 * x6r;
+        const V x6i = io.im(6);
+        const V t10 = c0 * x6i;
+        const V x7r = io.re(7);
+        const V t11 = c0 * x7r;
+        const V x7i = io.im(7);
+        const V t12 = c0 * x7i;
+        // spectrum block of 3, multiplier 2
+        const V x0r = io.re(0);
+        const V t13 = t8 + x0r;
+        const V t14 = c1 * t8;
+        const V t15 = x0r - t14;
+        const V x5i = io.im(5);
+        const V t16 = c2 * x5i;
+        const V t17 = t15 + t16;
+        const V t18 = t15 - t16;
+        // complex block of 3, multiplier 2
+        const V t19 = t12 + t3;
+        const V t20 = t11 + t2;
+        const V t21 = t3 - t12;
+        const V t22 = t11 - t2;
+        const V t23 = t5 - t19;
+        const V t24 = t20 + t4;
+        const V t25 = c1 * t19;
+        const V t26 = t25 + t5;
+        const V t27 = c1 * t20;
+        const V t28 = t4 - t27;
+        const V t29 = c3 * t21;
+        const V t30 = c3 * t22;
+        const V t31 = t26 + t30;
+        const V t32 = t28 - t29;
+        const V t33 = t26 - t30;
+        const V t34 = t28 + t29;
+        // complex block of 3, multiplier 2
+        const V t35 = t1 - t7;
+        const V t36 = t6 + t0;
+        const V t37 = t7 + t1;
+        const V t38 = t6 - t0;
+        const V t39 = t35 + t10;
+        const V t40 = t36 + t9;
+        const V t41 = c1 * t35;
+        const V t42 = t10 - t41;
+        const V t43 = c1 * t36;
+        const V t44 = t9 - t43;
+        const V t45 = c3 * t37;
+        const V t46 = c3 * t38;
+        const V t47 = t42 + t46;
+        const V t48 = t44 + t45;
+        const V t49 = t42 - t46;
+        const V t50 = t44 - t45;
+        // spectrum block of 5, multiplier 3
+        const V t51 = t24 + t40;
+        const V t52 = t51 + t13;
+        io.out(0, t52);
+        const V t53 = c4 * t24;
+        const V t54 = t13 - t53;
+        const V t55 = c5 * t40;
+        const V t56 = t54 + t55;
+        const V t57 = c6 * t23;
+        const V t58 = c7 * t39;
+        const V t59 = t58 - t57;
+        const V t60 = t56 - t59;
+        io.out(3, t60);
+        const V t61 = t56 + t59;
+        io.out(12, t61);
+        const V t62 = c5 * t24;
+        const V t63 = c4 * t40;
+        const V t64 = t62 - t63;
+        const V t65 = t64 + t13;
+        const V t66 = c7 * t23;
+        const V t67 = c6 * t39;
+        const V t68 = t66 + t67;
+        const V t69 = t65 - t68;
+        io.out(6, t69);
+        const V t70 = t65 + t68;
+        io.out(9, t70);
+        // spectrum block of 5, multiplier 3
+        const V t71 = t34 + t50;
+        const V t72 = t71 + t17;
+        io.out(5, t72);
+        const V t73 = c4 * t34;
+        const V t74 = t17 - t73;
+        const V t75 = c5 * t50;
+        const V t76 = t74 + t75;
+        const V t77 = c6 * t33;
+        const V t78 = c7 * t49;
+        const V t79 = t78 - t77;
+        const V t80 = t76 - t79;
+        io.out(8, t80);
+        const V t81 = t76 + t79;
+        io.out(2, t81);
+        const V t82 = c5 * t34;
+        const V t83 = c4 * t50;
+        const V t84 = t82 - t83;
+        const V t85 = t84 + t17;
+        const V t86 = c7 * t33;
+        const V t87 = c6 * t49;
+        const V t88 = t86 + t87;
+        const V t89 = t85 - t88;
+        io.out(11, t89);
+        const V t90 = t85 + t88;
+        io.out(14, t90);
+        // spectrum block of 5, multiplier 3
+        const V t91 = t32 + t48;
+        const V t92 = t91 + t18;
+        io.out(10, t92);
+        const V t93 = c4 * t32;
+        const V t94 = t18 - t93;
+        const V t95 = c5 * t48;
+        const V t96 = t94 + t95;
+        const V t97 = c6 * t31;
+        const V t98 = c7 * t47;
+        const V t99 = t98 - t97;
+        const V t100 = t96 - t99;
+        io.out(13, t100);
+        const V t101 = t96 + t99;
+        io.out(7, t101);
+        const V t102 = c5 * t32;
+        const V t103 = c4 * t48;
+        const V t104 = t102 - t103;
+        const V t105 = t104 + t18;
+        const V t106 = c7 * t31;
+        const V t107 = c6 * t47;
+        const V t108 = t106 + t107;
+        const V t109 = t105 - t108;
+        io.out(1, t109);
+        const V t110 = t105 + t108;
+        io.out(4, t110);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 15, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 15, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 15, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 15, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 15, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 15, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

@@ -1,0 +1,55 @@
+"""Compares the arithmetic of the three layouts of each forward real kernel in machine code.
+
+On x87: the same floating-point instructions on the same registers, in the same order. Only the places in memory may
+differ, since a layout is other store addresses and nothing else: these registers are wider than a double, and a spill at
+another point would show in the results. Elsewhere every step rounds to double wherever it stands, so that a compiler
+may order steps by their neighbours: there each kind of arithmetic must occur equally often.
+
+layouts.py LIBRARY OBJDUMP
+"""
+import re
+import sys
+
+from binary import Library
+
+
+def masked(instruction):
+    """Mnemonic and operands, every place in memory that a pointer leads to taken as one; constants keep their address."""
+    operands = re.sub(r"-?(0x[0-9a-f]+)?\(%rip\)\s*#\s*(0x)?([0-9a-f]+).*", r"constant \3", instruction.operands)
+    operands = re.sub(r"(-?0x[0-9a-f]+)?\(%[a-z0-9,%]+\)", "memory", operands)
+    return instruction.mnemonic, operands
+
+
+def arithmetic(library, name):
+    """The floating-point instructions; integer ones are pointers, checks and the stored zeros of CCS."""
+    routine = library.routine(library.word(library.slot_address(name)))
+    return [masked(instruction) for instruction in routine
+            if "xmm" in instruction.operands or instruction.mnemonic.startswith("f")]
+
+
+def comparable(library, name):
+    instructions = arithmetic(library, name)
+    if library.is_pe:
+        return instructions
+    return sorted(mnemonic for mnemonic, _ in instructions if re.match(r"(add|sub|mul|cvt)", mnemonic))
+
+
+def main():
+    library = Library(sys.argv[1], sys.argv[2])
+    compared, different = 0, []
+    for name in sorted(library.exports):
+        match = re.match(r"zulgDFTFwd_RTo(Pack|Perm)_(\d+_(32|64)f)$", name)
+        if not match:
+            continue
+        compared += 1
+        found, due = comparable(library, name), comparable(library, "zulgDFTFwd_RToCCS_" + match.group(2))
+        if found != due:
+            place = next((i for i, (a, b) in enumerate(zip(found, due)) if a != b), min(len(found), len(due)))
+            different.append(f"{name}: instruction {place}: {found[place:place + 1]}, in CCS {due[place:place + 1]}")
+    for line in different[:20]:
+        print(line)
+    print(f"{compared} kernels compared with CCS, {len(different)} differ")
+    return 1 if different or not compared else 0
+
+
+sys.exit(main())

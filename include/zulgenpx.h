@@ -95,15 +95,15 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
 
    pDst may equal pSrc, and the two may overlap in any other way: all input is read before the first output is written.
 
-   Accuracy, as the root of summed squared errors over summed squared results: below 2 * 2^-53 in double precision; in
-   single precision below 0.45 * 2^-24 (2 points, one rounded sum: 0.47), since all arithmetic is done in double and
+   Accuracy, as the root of summed squared errors over summed squared results: in double precision below 2 * 2^-53, or
+   4 * 2^-53 where N has a prime factor from 11 up; in single precision below 0.45 * 2^-24 (2 points, one rounded sum: 0.47), since all arithmetic is done in double and
    rounded once, at the store.
 
    Without a length in the name, the length is the argument `length`; the result is bit for bit that of the routine of
-   that length. StatusSizeError where there is none.
+   that length. StatusSizeError outside 2 to 64. The same holds for the families below.
 
    Source: I. J. Good (1958) for the coprime factors, J. W. Cooley and J. W. Tukey (1965) for the powers of a prime,
-   direct symmetric forms for 3, 5 and 7. docs/constructions.md tells which length is built how. */
+   direct symmetric forms for 3, 5 and 7, C. M. Rader (1968) for the primes from 11 up. docs/constructions.md tells which length is built how. */
 
 /* -- Real DFT ------------------------------------------------------------------------------------------------------
 

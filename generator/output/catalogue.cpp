@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "graph/merge.h"
+#include "graph/turn.h"
 #include "rules/blocks.h"
 
 namespace gen {
@@ -29,7 +30,7 @@ std::unique_ptr<Graph> buildRealForward(int length) {
         graph->store(2 * k, bins.real(k));
         if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
     }
-    return merged(std::move(graph));
+    return turned(merged(std::move(graph)), realForwardTurns(length));
 }
 
 // Each interior bin stands for itself and its conjugate: its parts are doubled first.

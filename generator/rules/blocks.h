@@ -27,10 +27,12 @@ HalfSpectrum realBlock(const RealSignal& x, int a, const Recipe& recipe);
 RealSignal spectrumBlock(const HalfSpectrum& bins, int a);
 RealSignal spectrumBlock(const HalfSpectrum& bins, int a, const Recipe& recipe);
 
-// Z[d] = sum over b of v[b] W_(2L)^(a b (2d + 1)) for real v and even L, d = 0 .. L/2 - 1; a is odd.
+// The odd bins of a real transform of length 2L: Z[d] = sum over b of v[b] W_(2L)^(a b (2d + 1)) for L real values v,
+// d = 0 .. ceil(L/2) - 1. The last one of odd L is real: its imaginary part is not set. a is odd.
 Signal skewBlock(const RealSignal& v, int a);
 
-// The mirror: out[m] = sum over d of the real part of E[d] W_(2L)^(-a m (2d + 1)), doubled bins, m = 0 .. L - 1.
-RealSignal mirroredSkewBlock(const Signal& bins, int a);
+// The mirror, the odd-frequency form: out[m] = sum over d of the real part of E[d] W_(2L)^(-a m (2d + 1)), m = 0 .. L
+// - 1. Bins come doubled, but for the real last one of odd L.
+RealSignal mirroredSkewBlock(const Signal& bins, int length, int a);
 
 }  // namespace gen

@@ -7,6 +7,7 @@
 #include "rules/block_title.h"
 #include "rules/blocks.h"
 #include "rules/direct.h"
+#include "rules/rader.h"
 #include "rules/tables.h"
 
 namespace gen {
@@ -97,6 +98,7 @@ Signal complexBlock(const Signal& x, int a) {
         case Construction::Direct: return direct(x, a);
         case Construction::Twiddled: return twiddledConstruction(x, recipe.factors[0], recipe.factors[1], a);
         case Construction::PrimeFactor: return primeFactor(x, recipe.factors, a);
+        case Construction::Rader: return raderComplex(x, a);
     }
     throw std::logic_error("complex " + std::to_string(length) + ": no construction");
 }

@@ -7,6 +7,7 @@
 #include "rules/block_title.h"
 #include "rules/blocks.h"
 #include "rules/direct.h"
+#include "rules/rader.h"
 #include "rules/tables.h"
 
 namespace gen {
@@ -142,6 +143,7 @@ HalfSpectrum realBlock(const RealSignal& x, int a, const Recipe& recipe) {
         case Construction::Direct: return direct(x, a);
         case Construction::Twiddled: return twiddledConstruction(x, a, recipe.factors[0], recipe.factors[1]);
         case Construction::PrimeFactor: return primeFactor(x, a, recipe);
+        case Construction::Rader: return raderReal(x, a, recipe);
     }
     throw std::logic_error("real " + std::to_string(recipe.length) + ": no construction");
 }

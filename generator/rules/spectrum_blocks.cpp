@@ -6,6 +6,7 @@
 #include "rules/block_title.h"
 #include "rules/blocks.h"
 #include "rules/direct.h"
+#include "rules/rader.h"
 #include "rules/tables.h"
 
 namespace gen {
@@ -114,7 +115,7 @@ RealSignal twiddledConstruction(const HalfSpectrum& bins, int a, int f, int g) {
     if (g % 2 == 0) {
         Signal middle;
         for (int d = 0; d < f / 2; ++d) middle.push_back(bins.at(g / 2 + g * d));
-        rows.real.push_back(mirroredSkewBlock(middle, a));
+        rows.real.push_back(mirroredSkewBlock(middle, f, a));
     }
     RealSignal y(static_cast<size_t>(length), bins.real(0));
     for (int b = 0; b < f; ++b) {
@@ -137,6 +138,7 @@ RealSignal spectrumBlock(const HalfSpectrum& bins, int a, const Recipe& recipe) 
         case Construction::Direct: return direct(bins, a);
         case Construction::Twiddled: return twiddledConstruction(bins, a, recipe.factors[0], recipe.factors[1]);
         case Construction::PrimeFactor: return primeFactor(bins, a, recipe);
+        case Construction::Rader: return raderSpectrum(bins, a, recipe);
     }
     throw std::logic_error("spectrum " + std::to_string(recipe.length) + ": no construction");
 }

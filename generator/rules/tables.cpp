@@ -22,30 +22,58 @@ const std::vector<Recipe> complexTable = {
     { 8, Twiddled,    {2, 4}},
     { 9, Twiddled,    {3, 3}},
     {10, PrimeFactor, {2, 5}},
+    {11, Rader,       {}},
     {12, PrimeFactor, {4, 3}},
+    {13, Rader,       {}},
     {14, PrimeFactor, {2, 7}},
     {15, PrimeFactor, {3, 5}},
     {16, Twiddled,    {2, 8}},
+    {17, Rader,       {}},
     {18, PrimeFactor, {2, 9}},
+    {19, Rader,       {}},
     {20, PrimeFactor, {4, 5}},
     {21, PrimeFactor, {3, 7}},
+    {22, PrimeFactor, {2, 11}},
+    {23, Rader,       {}},
     {24, PrimeFactor, {8, 3}},
     {25, Twiddled,    {5, 5}},
+    {26, PrimeFactor, {13, 2}},
     {27, Twiddled,    {9, 3}},
     {28, PrimeFactor, {7, 4}},
+    {29, Rader,       {}},
     {30, PrimeFactor, {5, 3, 2}},
+    {31, Rader,       {}},
     {32, Twiddled,    {8, 4}},
+    {33, PrimeFactor, {3, 11}},
+    {34, PrimeFactor, {2, 17}},
     {35, PrimeFactor, {5, 7}},
     {36, PrimeFactor, {9, 4}},
+    {37, Rader,       {}},
+    {38, PrimeFactor, {19, 2}},
+    {39, PrimeFactor, {3, 13}},
     {40, PrimeFactor, {5, 8}},
+    {41, Rader,       {}},
     {42, PrimeFactor, {7, 3, 2}},
+    {43, Rader,       {}},
+    {44, PrimeFactor, {11, 4}},
     {45, PrimeFactor, {9, 5}},
+    {46, PrimeFactor, {23, 2}},
+    {47, Rader,       {}},
     {48, PrimeFactor, {3, 16}},
     {49, Twiddled,    {7, 7}},
     {50, PrimeFactor, {25, 2}},
+    {51, PrimeFactor, {3, 17}},
+    {52, PrimeFactor, {4, 13}},
+    {53, Rader,       {}},
     {54, PrimeFactor, {27, 2}},
+    {55, PrimeFactor, {11, 5}},
     {56, PrimeFactor, {7, 8}},
+    {57, PrimeFactor, {19, 3}},
+    {58, PrimeFactor, {29, 2}},
+    {59, Rader,       {}},
     {60, PrimeFactor, {3, 5, 4}},
+    {61, Rader,       {}},
+    {62, PrimeFactor, {31, 2}},
     {63, PrimeFactor, {7, 9}},
     {64, Twiddled,    {8, 8}},
 };
@@ -62,33 +90,56 @@ const std::vector<Recipe> realForwardTable = {
     {10, PrimeFactor, {5, 2}},
     {11, Direct,      {}},
     {12, PrimeFactor, {4, 3}},
+    {13, Rader,       {3, 4}},
     {14, PrimeFactor, {2, 7}},
     {15, PrimeFactor, {3, 5}},
     {16, Twiddled,    {4, 4}},
+    {17, Rader,       {16}},
     {18, PrimeFactor, {2, 9}},
+    {19, Rader,       {9, 2}},
     {20, PrimeFactor, {5, 4}},
     {21, PrimeFactor, {7, 3}},
     {22, PrimeFactor, {2, 11}},
+    {23, Rader,       {2, 11}},
     {24, PrimeFactor, {3, 8}},
     {25, Twiddled,    {5, 5}},
+    {26, PrimeFactor, {13, 2}},
     {27, Twiddled,    {9, 3}},
     {28, PrimeFactor, {4, 7}},
+    {29, Rader,       {7, 4}},
     {30, PrimeFactor, {5, 3, 2}},
+    {31, Rader,       {3, 2, 5}},
     {32, Twiddled,    {8, 4}},
     {33, PrimeFactor, {11, 3}},
+    {34, PrimeFactor, {2, 17}},
     {35, PrimeFactor, {7, 5}},
     {36, PrimeFactor, {9, 4}},
+    {37, Rader,       {4, 9}},
+    {38, PrimeFactor, {19, 2}},
+    {39, PrimeFactor, {13, 3}},
     {40, PrimeFactor, {8, 5}},
+    {41, Rader,       {5, 8}},
     {42, PrimeFactor, {7, 3, 2}},
+    {43, Rader,       {2, 7, 3}},
     {44, PrimeFactor, {11, 4}},
     {45, PrimeFactor, {5, 9}},
+    {46, PrimeFactor, {2, 23}},
+    {47, Rader,       {23, 2}},
     {48, PrimeFactor, {16, 3}},
     {49, Twiddled,    {7, 7}},
     {50, PrimeFactor, {25, 2}},
+    {51, PrimeFactor, {17, 3}},
+    {52, PrimeFactor, {13, 4}},
+    {53, Rader,       {4, 13}},
     {54, PrimeFactor, {2, 27}},
     {55, PrimeFactor, {11, 5}},
     {56, PrimeFactor, {7, 8}},
+    {57, PrimeFactor, {19, 3}},
+    {58, PrimeFactor, {2, 29}},
+    {59, Rader,       {29, 2}},
     {60, PrimeFactor, {3, 5, 4}, 2},
+    {61, Rader,       {3, 5, 4}, 2},
+    {62, PrimeFactor, {31, 2}},
     {63, PrimeFactor, {7, 9}},
     {64, Twiddled,    {16, 4}},
 };
@@ -103,30 +154,58 @@ const std::vector<Recipe> realInverseTable = {
     { 8, Twiddled,    {4, 2}},
     { 9, Twiddled,    {3, 3}},
     {10, PrimeFactor, {2, 5}},
+    {11, Rader,       {2, 5}},
     {12, PrimeFactor, {3, 4}},
+    {13, Rader,       {3, 4}},
     {14, PrimeFactor, {2, 7}},
     {15, PrimeFactor, {3, 5}},
     {16, Twiddled,    {4, 4}},
+    {17, Rader,       {16}},
     {18, PrimeFactor, {2, 9}},
+    {19, Rader,       {2, 9}},
     {20, PrimeFactor, {5, 4}},
     {21, PrimeFactor, {3, 7}},
+    {22, PrimeFactor, {11, 2}},
+    {23, Rader,       {11, 2}, 1, true},
     {24, PrimeFactor, {8, 3}},
     {25, Twiddled,    {5, 5}},
+    {26, PrimeFactor, {2, 13}},
     {27, Twiddled,    {9, 3}},
     {28, PrimeFactor, {4, 7}},
+    {29, Rader,       {7, 4}},
     {30, PrimeFactor, {3, 5, 2}},
+    {31, Rader,       {2, 3, 5}},
     {32, Twiddled,    {8, 4}},
+    {33, PrimeFactor, {3, 11}},
+    {34, PrimeFactor, {17, 2}},
     {35, PrimeFactor, {5, 7}},
     {36, PrimeFactor, {4, 9}},
+    {37, Rader,       {9, 4}},
+    {38, PrimeFactor, {2, 19}},
+    {39, PrimeFactor, {13, 3}},
     {40, PrimeFactor, {5, 8}},
+    {41, Rader,       {5, 8}},
     {42, PrimeFactor, {2, 3, 7}},
+    {43, Rader,       {3, 2, 7}},
+    {44, PrimeFactor, {4, 11}},
     {45, PrimeFactor, {5, 9}},
+    {46, PrimeFactor, {23, 2}},
+    {47, Rader,       {23, 2}},
     {48, PrimeFactor, {16, 3}},
     {49, Twiddled,    {7, 7}},
     {50, PrimeFactor, {25, 2}},
+    {51, PrimeFactor, {3, 17}},
+    {52, PrimeFactor, {13, 4}},
+    {53, Rader,       {13, 4}},
     {54, PrimeFactor, {27, 2}},
+    {55, PrimeFactor, {5, 11}},
     {56, PrimeFactor, {8, 7}},
+    {57, PrimeFactor, {3, 19}},
+    {58, PrimeFactor, {29, 2}},
+    {59, Rader,       {2, 29}},
     {60, PrimeFactor, {4, 3, 5}},
+    {61, Rader,       {4, 3, 5}},
+    {62, PrimeFactor, {31, 2}},
     {63, PrimeFactor, {9, 7}},
     {64, Twiddled,    {16, 4}},
 };
@@ -138,7 +217,7 @@ const Recipe& find(const std::vector<Recipe>& table, int length) {
     return *row;
 }
 
-Recipe side(const std::vector<int>& factors, const std::vector<Recipe>& family) {
+Recipe ofFactors(const std::vector<int>& factors, const std::vector<Recipe>& family) {
     if (factors.size() == 1) return find(family, factors[0]);
     const int length = std::accumulate(factors.begin(), factors.end(), 1, std::multiplies());
     return {length, PrimeFactor, factors};
@@ -162,11 +241,50 @@ const Recipe& realForwardRecipe(int length) { return find(realForwardTable, leng
 const Recipe& realInverseRecipe(int length) { return find(realInverseTable, length); }
 
 Recipe innerSide(const Recipe& recipe, const std::vector<Recipe>& family) {
-    return side({recipe.factors.begin(), recipe.factors.begin() + recipe.innerCount}, family);
+    const std::vector<int> factors(recipe.factors.begin(), recipe.factors.begin() + recipe.innerCount);
+    if (recipe.isInnerDirect) return {factors[0], Direct, {}};
+    return ofFactors(factors, family);
 }
 
 Recipe outerSide(const Recipe& recipe, const std::vector<Recipe>& family) {
-    return side({recipe.factors.begin() + recipe.innerCount, recipe.factors.end()}, family);
+    return ofFactors({recipe.factors.begin() + recipe.innerCount, recipe.factors.end()}, family);
+}
+
+Recipe raderBlock(const Recipe& recipe, const std::vector<Recipe>& family) {
+    Recipe block = ofFactors(recipe.factors, family);
+    if (block.construction == PrimeFactor) {
+        block.innerCount = recipe.innerCount;
+        block.isInnerDirect = recipe.isInnerDirect;
+    }
+    return block;
+}
+
+OddSplit oddSplit(int length, bool isInput) {
+    switch (length) {
+        case 6: return isInput ? OddSplit{2, 3} : OddSplit{3, 2};
+        case 8: return {2, 4};
+        case 14: return {7, 2};
+        case 16: return {8, 2};
+        case 18: return {3, 6};
+        case 20: return {5, 4};
+        case 26: return {13, 2};
+        case 30: return {15, 2};
+        default: throw std::out_of_range("no odd-frequency form of length " + std::to_string(length));
+    }
+}
+
+std::vector<int> realForwardTurns(int length) {
+    switch (length) {
+        case 13: return {40, 126};
+        case 26: return {124, 131};
+        case 29: return {475};
+        case 37: return {371, 588};
+        case 39: return {397, 443};
+        case 52: return {531, 545};
+        case 53: return {619, 844};
+        case 61: return {832};
+        default: return {};
+    }
 }
 
 std::string complexText(const Recipe& recipe) {
@@ -177,6 +295,7 @@ std::string complexText(const Recipe& recipe) {
             return "twiddled, inner " + std::to_string(recipe.factors[0]) + ", outer " +
                    std::to_string(recipe.factors[1]);
         case PrimeFactor: return "prime-factor, order" + listed(recipe.factors);
+        case Rader: return "Rader block";
     }
     throw std::logic_error("no construction");
 }
@@ -187,6 +306,7 @@ std::string realText(const Recipe& recipe) {
         case Direct: return "direct";
         case Twiddled: return "twiddled" + listed(recipe.factors);
         case PrimeFactor: return "prime-factor" + listed(recipe.factors);
+        case Rader: return "Rader" + listed(recipe.factors);
     }
     throw std::logic_error("no construction");
 }

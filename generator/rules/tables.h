@@ -6,22 +6,33 @@
 
 namespace gen {
 
-enum class Construction { Base, Direct, Twiddled, PrimeFactor };
+enum class Construction { Base, Direct, Twiddled, PrimeFactor, Rader };
 
 // One row of a table. Factors of a twiddled construction: inner, outer (first, final on the spectrum side); of a
-// prime-factor one: in order of application. A real prime-factor construction has two sides: the inner (first) one is
-// made of as many factors as `innerCount` says, the outer (final) one of the rest.
+// prime-factor one: in order of application; of a real Rader form: those of the block of length p - 1 inside it.
+// A real prime-factor construction has two sides: the inner (first) one is made of as many factors as `innerCount`
+// says, the outer (final) one of the rest.
 struct Recipe {
     int length;
     Construction construction;
     std::vector<int> factors;
     int innerCount = 1;
+    bool isInnerDirect = false;  // the inner factor is in direct form here, whatever its own row says
 };
 
 // The two sides of a real prime-factor construction. Several factors are a prime-factor construction in their order; a
 // single one is the row of its length in `family`.
 Recipe innerSide(const Recipe& recipe, const std::vector<Recipe>& family);
 Recipe outerSide(const Recipe& recipe, const std::vector<Recipe>& family);
+
+// The block of length p - 1 inside a real Rader form.
+Recipe raderBlock(const Recipe& recipe, const std::vector<Recipe>& family);
+
+// How the odd-frequency form of an even length L = r s is split; `isInput` on the side of real inputs.
+struct OddSplit {
+    int r, s;
+};
+OddSplit oddSplit(int length, bool isInput);
 
 // The rows of one family, rising in length. Each is a stand-alone kernel and the block inside longer ones.
 const std::vector<Recipe>& complexRecipes();
@@ -31,6 +42,10 @@ const std::vector<Recipe>& realInverseRecipes();
 const Recipe& complexRecipe(int length);
 const Recipe& realForwardRecipe(int length);
 const Recipe& realInverseRecipe(int length);
+
+// Differences of the finished forward real graph of a length that are formed the other way round, by their numbers in
+// that graph. No rule of signs gives the settled number of negated outputs at these lengths; one or two turns each do.
+std::vector<int> realForwardTurns(int length);
 
 // As people write it: "prime-factor, order 3, 5" in the complex family, "prime-factor 3, 5" in the real ones.
 std::string complexText(const Recipe& recipe);

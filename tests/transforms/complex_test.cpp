@@ -1,5 +1,6 @@
 // Complex kernels: what their definition makes exact, and how the two directions belong together.
 #include <cmath>
+#include <limits>
 
 #include "tests/transforms/kernel_fixture.h"
 
@@ -8,16 +9,26 @@ namespace {
 
 using ComplexTest = KernelTest;
 
-TEST_P(ComplexTest, AnImpulseAtZeroGivesTheStoredScaleExactly) {
+// Through Rader's construction x[0] reaches the outputs but one through the DC bin of the inverse transform, and a sum
+// of constants through 1/M: right to rounding, not exact.
+bool isExactOnConstants(const Transform& transform) { return largestPrimeFactor(transform.length) < 11; }
+
+TEST_P(ComplexTest, AnImpulseAtZeroGivesTheStoredScale) {
     withElement([&](auto element) {
         using Element = decltype(element);
         std::vector<Element> source(static_cast<std::size_t>(transform.sourceElements));
         source[0] = 1;
         for (int flag : allFlags) {
             const auto found = run(transform, source, flag);
+            const Element scale = storedScale<Element>(transform, flag);
             for (int k = 0; k < transform.length; ++k) {
-                ASSERT_EQ(found[static_cast<std::size_t>(2 * k)], storedScale<Element>(transform, flag)) << k;
-                ASSERT_EQ(found[static_cast<std::size_t>(2 * k + 1)], 0) << k;
+                const Element re = found[static_cast<std::size_t>(2 * k)],
+                              im = found[static_cast<std::size_t>(2 * k + 1)];
+                if (isExactOnConstants(transform)) {
+                    ASSERT_EQ(re, scale) << k;
+                }
+                ASSERT_NEAR(re, scale, 4 * std::numeric_limits<Element>::epsilon()) << k;
+                ASSERT_EQ(im, 0) << k;
             }
         }
     });
@@ -32,6 +43,9 @@ TEST_P(ComplexTest, AConstantGivesTheExactSumTimesTheStoredScale) {
             const Wide due = static_cast<Wide>(storedScale<Element>(transform, flag)) * transform.length;
             const auto found = run(transform, source, flag);
             EXPECT_EQ(found[0], static_cast<Element>(due)) << "flag " << flag;
+            for (std::size_t i = 2; i < found.size(); ++i) {
+                EXPECT_NEAR(found[i], 0, 50 * std::numeric_limits<Element>::epsilon());
+            }
             EXPECT_EQ(found[1], 0);
         }
     });
@@ -86,7 +100,9 @@ TEST_P(ComplexTest, AShiftTurnsEveryOutput) {
         shifted.insert(shifted.end(), source.begin(), source.end() - 2);
         const auto plain = run(transform, source, NoDivByAny), found = run(transform, shifted, NoDivByAny);
         const int sign = transform.direction == Direction::Forward ? -1 : 1;
-        const double bound = std::ldexp(100.0, transform.isSingle() ? -24 : -53);
+        double squares = 0;
+        for (Element value : plain) squares += static_cast<double>(value) * value;
+        const double bound = std::ldexp(20.0, transform.isSingle() ? -24 : -53) * std::sqrt(squares);
         for (int k = 0; k < transform.length; ++k) {
             const auto re = static_cast<std::size_t>(2 * k), im = re + 1;
             const Wide c = cosTurn(k, transform.length), s = sign * sinTurn(k, transform.length);

@@ -116,7 +116,6 @@ TEST_P(RealForwardTest, OnesGiveTheExactSumInBinZero) {
 
 TEST_P(RealForwardTest, AgreesWithTheComplexTransformOfItsLength) {
     const auto name = "zulgDFTFwd_CToC_" + std::to_string(transform.length) + "_" + transform.suffix + "c";
-    if (exportedAddress(name) == nullptr) return;
     withElement([&](auto element) {
         using Element = decltype(element);
         const auto x = randomSource<Element>();
@@ -134,7 +133,6 @@ TEST_P(RealForwardTest, AgreesWithTheComplexTransformOfItsLength) {
 }
 
 TEST_P(RealForwardTest, TheInverseWithTheSameFlagRestoresTheInput) {
-    if (exportedAddress(kernelName(transform, false, slots.layout)) == nullptr) return;
     withElement([&](auto element) {
         using Element = decltype(element);
         const auto x = randomSource<Element>();
@@ -173,7 +171,7 @@ TEST_P(RealInverseTest, OneBinGivesItsCosine) {
             for (int n = 0; n < length; ++n) {
                 const double due = (isReal ? 0.75 : 1.5) * static_cast<double>(cosTurn(n * k, length));
                 EXPECT_NEAR(y[static_cast<std::size_t>(n)], due, 16 * unit()) << "bin " << k;
-                if (!isReal) continue;
+                if (!isReal || largestPrimeFactor(length) > 7) continue;  // Rader's construction rounds
                 EXPECT_EQ(y[static_cast<std::size_t>(n)], Element(k == 0 || n % 2 == 0 ? 0.75 : -0.75));
             }
         }

@@ -26,16 +26,18 @@ Values inverse(const Values& x) { return complexTransform(x, +1); }
 
 }  // namespace
 
-std::vector<int> availableLengths(int largest) {
+std::vector<int> allLengths() {
     std::vector<int> lengths;
-    for (int length = 2; length <= 64; ++length) {
-        int rest = length;
-        for (int p = 2; p <= largest; ++p) {
-            while (rest % p == 0) rest /= p;
-        }
-        if (rest == 1) lengths.push_back(length);
-    }
+    for (int length = 2; length <= 64; ++length) lengths.push_back(length);
     return lengths;
+}
+
+int largestPrimeFactor(int length) {
+    int largest = 1;
+    for (int p = 2; length > 1; ++p) {
+        while (length % p == 0) length /= largest = p;
+    }
+    return largest;
 }
 
 const char* layoutName(Layout layout) {
@@ -66,12 +68,13 @@ int expectedNegations(int length) {
 
 std::vector<Transform> complexTransforms() {
     std::vector<Transform> transforms;
-    for (int length : availableLengths()) {
+    for (int length : allLengths()) {
+        const double bound = largestPrimeFactor(length) < 11 ? 2.0 : 4.0;
         for (const char* suffix : {"32fc", "64fc"}) {
             transforms.push_back(
-                {"DFTFwd_CToC", suffix, length, Direction::Forward, 2 * length, 2 * length, 2.0, forward});
+                {"DFTFwd_CToC", suffix, length, Direction::Forward, 2 * length, 2 * length, bound, forward});
             transforms.push_back(
-                {"DFTInv_CToC", suffix, length, Direction::Inverse, 2 * length, 2 * length, 2.0, inverse});
+                {"DFTInv_CToC", suffix, length, Direction::Inverse, 2 * length, 2 * length, bound, inverse});
         }
     }
     return transforms;
@@ -79,7 +82,7 @@ std::vector<Transform> complexTransforms() {
 
 std::vector<Transform> realForwardTransforms() {
     std::vector<Transform> transforms;
-    for (int length : availableLengths(11)) {
+    for (int length : allLengths()) {
         for (Layout layout : allLayouts) {
             const LayoutSlots slots{layout, length};
             const auto definition = [slots](const Values& x) {
@@ -103,7 +106,7 @@ std::vector<Transform> realForwardTransforms() {
 
 std::vector<Transform> realInverseTransforms() {
     std::vector<Transform> transforms;
-    for (int length : availableLengths()) {
+    for (int length : allLengths()) {
         for (Layout layout : allLayouts) {
             const LayoutSlots slots{layout, length};
             const auto definition = [slots](const Values& packed) {

@@ -17,9 +17,9 @@ namespace test {
 
 enum class Direction { Forward, Inverse, Both };
 
-// The available lengths of a family: those without a prime factor above `largest`, which is 7, or 11 for the forward
-// real families.
-std::vector<int> availableLengths(int largest = 7);
+// The lengths of the DFT families: 2 to 64.
+std::vector<int> allLengths();
+int largestPrimeFactor(int length);
 
 enum class Layout { CCS, Pack, Perm };
 constexpr Layout allLayouts[] = {Layout::CCS, Layout::Pack, Layout::Perm};

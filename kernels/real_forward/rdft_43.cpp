@@ -1,0 +1,1099 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 43.
+// Forward DFT of 43 real points, Rader 2, 7, 3.
+// 264 additions, 268 subtractions, 352 multiplications (395 with `scale`); 9 outputs negated; 54 constants; 49 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct RealForwardGraph<43> {
+    static constexpr double inverseRoot = 0.15249857033260467;  // 1/sqrt(43), for `scale`
+    static constexpr double c0 = 0.6234898018587335;  // cos 2 pi 6/7
+    static constexpr double c1 = 0.2225209339563144;  // -cos 2 pi 30/7
+    static constexpr double c2 = 0.9009688679024191;  // -cos 2 pi 24/7
+    static constexpr double c3 = 0.7818314824680298;  // -sin 2 pi 6/7
+    static constexpr double c4 = 0.9749279121818236;  // sin 2 pi 30/7
+    static constexpr double c5 = 0.4338837391175581;  // sin 2 pi 24/7
+    static constexpr double c6 = 0.5;  // -cos 2 pi 2/3
+    static constexpr double c7 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c8 = 0.023809523809523808;  // 1/42
+    static constexpr double c9 = 0.08222826754004824;  // Q[1] of 43
+    static constexpr double c10 = 0.3012377482182514;  // -P[1] of 43
+    static constexpr double c11 = 0.3115158140914036;  // Q[2] of 43
+    static constexpr double c12 = 0.02153059463206762;  // P[2] of 43
+    static constexpr double c13 = 0.23875651933592446;  // -Q[3] of 43
+    static constexpr double c14 = 0.20124858610393936;  // -P[3] of 43
+    static constexpr double c15 = 0.2103692595529628;  // Q[4] of 43
+    static constexpr double c16 = 0.23076057628931884;  // P[4] of 43
+    static constexpr double c17 = 0.16498076041582113;  // Q[5] of 43
+    static constexpr double c18 = 0.26511698856704335;  // P[5] of 43
+    static constexpr double c19 = 0.19319176405051375;  // -Q[6] of 43
+    static constexpr double c20 = 0.24532144471548137;  // P[6] of 43
+    static constexpr double c21 = 0.026892691663313772;  // -Q[7] of 43
+    static constexpr double c22 = 0.31109878185126716;  // P[7] of 43
+    static constexpr double c23 = 0.3083663744032671;  // Q[8] of 43
+    static constexpr double c24 = 0.04915127741599876;  // P[8] of 43
+    static constexpr double c25 = 0.10490468278634746;  // Q[9] of 43
+    static constexpr double c26 = 0.29410997341765915;  // P[9] of 43
+    static constexpr double c27 = 0.3100587997761174;  // Q[10] of 43
+    static constexpr double c28 = 0.03700283253527918;  // P[10] of 43
+    static constexpr double c29 = 0.15718049159887415;  // Q[11] of 43
+    static constexpr double c30 = 0.2698146808366376;  // P[11] of 43
+    static constexpr double c31 = 0.04712732753509521;  // Q[12] of 43
+    static constexpr double c32 = 0.30868217300913287;  // P[12] of 43
+    static constexpr double c33 = 0.30825588409410104;  // -Q[13] of 43
+    static constexpr double c34 = 0.049839531053216354;  // -P[13] of 43
+    static constexpr double c35 = 0.21107840313178253;  // Q[14] of 43
+    static constexpr double c36 = 0.2301120958697675;  // P[14] of 43
+    static constexpr double c37 = 0.26976291906470395;  // Q[15] of 43
+    static constexpr double c38 = 0.15726931179327497;  // -P[15] of 43
+    static constexpr double c39 = 0.07016357494006686;  // -Q[16] of 43
+    static constexpr double c40 = 0.3042741226030731;  // -P[16] of 43
+    static constexpr double c41 = 0.3044528520057486;  // -Q[17] of 43
+    static constexpr double c42 = 0.06938393070305333;  // P[17] of 43
+    static constexpr double c43 = 0.25047759866823976;  // -Q[18] of 43
+    static constexpr double c44 = 0.18645814945888683;  // P[18] of 43
+    static constexpr double c45 = 0.10982914663214519;  // Q[19] of 43
+    static constexpr double c46 = 0.29230673527015266;  // -P[19] of 43
+    static constexpr double c47 = 0.31214576185951465;  // -Q[20] of 43
+    static constexpr double c48 = 0.008407870561774193;  // P[20] of 43
+    static constexpr double c49 = 0.15612948867385715;  // -beta of 43
+    static constexpr double c50 = 0.19928292074129883;  // -sin 2 pi 2/3 times P[14] of 43
+    static constexpr double c51 = 0.18279925930237648;  // -sin 2 pi 2/3 times Q[14] of 43
+    static constexpr double c52 = 0.2694194481695906;  // -sin 2 pi 2/3 times P[7] of 43
+    static constexpr double c53 = 0.023289754156571717;  // -sin 2 pi 2/3 times -Q[7] of 43
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // real block of 2
+        const V x1 = io.in(1);
+        const V x42 = io.in(42);
+        const V t0 = x1 + x42;
+        const V t1 = x1 - x42;
+        // real block of 2
+        const V x9 = io.in(9);
+        const V x34 = io.in(34);
+        const V t2 = x9 + x34;
+        const V t3 = x9 - x34;
+        // real block of 2
+        const V x38 = io.in(38);
+        const V x5 = io.in(5);
+        const V t4 = x38 + x5;
+        const V t5 = x38 - x5;
+        // real block of 2
+        const V x41 = io.in(41);
+        const V x2 = io.in(2);
+        const V t6 = x41 + x2;
+        const V t7 = x41 - x2;
+        // real block of 2
+        const V x25 = io.in(25);
+        const V x18 = io.in(18);
+        const V t8 = x25 + x18;
+        const V t9 = x25 - x18;
+        // real block of 2
+        const V x10 = io.in(10);
+        const V x33 = io.in(33);
+        const V t10 = x10 + x33;
+        const V t11 = x10 - x33;
+        // real block of 2
+        const V x4 = io.in(4);
+        const V x39 = io.in(39);
+        const V t12 = x4 + x39;
+        const V t13 = x4 - x39;
+        // real block of 2
+        const V x36 = io.in(36);
+        const V x7 = io.in(7);
+        const V t14 = x36 + x7;
+        const V t15 = x36 - x7;
+        // real block of 2
+        const V x23 = io.in(23);
+        const V x20 = io.in(20);
+        const V t16 = x23 + x20;
+        const V t17 = x23 - x20;
+        // real block of 2
+        const V x35 = io.in(35);
+        const V x8 = io.in(8);
+        const V t18 = x35 + x8;
+        const V t19 = x35 - x8;
+        // real block of 2
+        const V x14 = io.in(14);
+        const V x29 = io.in(29);
+        const V t20 = x14 + x29;
+        const V t21 = x14 - x29;
+        // real block of 2
+        const V x40 = io.in(40);
+        const V x3 = io.in(3);
+        const V t22 = x40 + x3;
+        const V t23 = x40 - x3;
+        // real block of 2
+        const V x16 = io.in(16);
+        const V x27 = io.in(27);
+        const V t24 = x16 + x27;
+        const V t25 = x16 - x27;
+        // real block of 2
+        const V x15 = io.in(15);
+        const V x28 = io.in(28);
+        const V t26 = x15 + x28;
+        const V t27 = x15 - x28;
+        // real block of 2
+        const V x6 = io.in(6);
+        const V x37 = io.in(37);
+        const V t28 = x6 + x37;
+        const V t29 = x6 - x37;
+        // real block of 2
+        const V x11 = io.in(11);
+        const V x32 = io.in(32);
+        const V t30 = x11 + x32;
+        const V t31 = x11 - x32;
+        // real block of 2
+        const V x13 = io.in(13);
+        const V x30 = io.in(30);
+        const V t32 = x13 + x30;
+        const V t33 = x13 - x30;
+        // real block of 2
+        const V x31 = io.in(31);
+        const V x12 = io.in(12);
+        const V t34 = x31 + x12;
+        const V t35 = x31 - x12;
+        // real block of 2
+        const V x21 = io.in(21);
+        const V x22 = io.in(22);
+        const V t36 = x21 + x22;
+        const V t37 = x21 - x22;
+        // real block of 2
+        const V x17 = io.in(17);
+        const V x26 = io.in(26);
+        const V t38 = x17 + x26;
+        const V t39 = x17 - x26;
+        // real block of 2
+        const V x24 = io.in(24);
+        const V x19 = io.in(19);
+        const V t40 = x24 + x19;
+        const V t41 = x24 - x19;
+        // real block of 7, multiplier 6
+        const V t42 = t6 + t36;
+        const V t43 = t6 - t36;
+        const V t44 = t30 + t12;
+        const V t45 = t30 - t12;
+        const V t46 = t24 + t18;
+        const V t47 = t24 - t18;
+        const V t48 = t42 + t44;
+        const V t49 = t48 + t46;
+        const V t50 = t49 + t0;
+        const V t51 = c0 * t42;
+        const V t52 = c1 * t44;
+        const V t53 = t51 - t52;
+        const V t54 = c2 * t46;
+        const V t55 = t53 - t54;
+        const V t56 = t55 + t0;
+        const V t57 = c3 * t43;
+        const V t58 = c4 * t45;
+        const V t59 = c5 * t47;
+        const V t60 = t57 - t58;
+        const V t61 = t60 - t59;
+        const V t62 = c1 * t42;
+        const V t63 = t0 - t62;
+        const V t64 = c2 * t44;
+        const V t65 = t63 - t64;
+        const V t66 = c0 * t46;
+        const V t67 = t65 + t66;
+        const V t68 = c4 * t43;
+        const V t69 = c5 * t45;
+        const V t70 = c3 * t47;
+        const V t71 = t68 + t69;
+        const V t72 = t71 + t70;
+        const V t73 = c2 * t42;
+        const V t74 = t0 - t73;
+        const V t75 = c0 * t44;
+        const V t76 = t74 + t75;
+        const V t77 = c1 * t46;
+        const V t78 = t76 - t77;
+        const V t79 = c5 * t43;
+        const V t80 = c3 * t45;
+        const V t81 = c4 * t47;
+        const V t82 = t79 + t80;
+        const V t83 = t82 - t81;
+        // real block of 7, multiplier 6
+        const V t84 = t20 + t8;
+        const V t85 = t20 - t8;
+        const V t86 = t2 + t26;
+        const V t87 = t2 - t26;
+        const V t88 = t38 + t32;
+        const V t89 = t38 - t32;
+        const V t90 = t84 + t86;
+        const V t91 = t90 + t88;
+        const V t92 = t91 + t14;
+        const V t93 = c0 * t84;
+        const V t94 = c1 * t86;
+        const V t95 = t93 - t94;
+        const V t96 = c2 * t88;
+        const V t97 = t95 - t96;
+        const V t98 = t97 + t14;
+        const V t99 = c3 * t85;
+        const V t100 = c4 * t87;
+        const V t101 = c5 * t89;
+        const V t102 = t99 - t100;
+        const V t103 = t102 - t101;
+        const V t104 = c1 * t84;
+        const V t105 = t14 - t104;
+        const V t106 = c2 * t86;
+        const V t107 = t105 - t106;
+        const V t108 = c0 * t88;
+        const V t109 = t107 + t108;
+        const V t110 = c4 * t85;
+        const V t111 = c5 * t87;
+        const V t112 = c3 * t89;
+        const V t113 = t110 + t111;
+        const V t114 = t113 + t112;
+        const V t115 = c2 * t84;
+        const V t116 = t14 - t115;
+        const V t117 = c0 * t86;
+        const V t118 = t116 + t117;
+        const V t119 = c1 * t88;
+        const V t120 = t118 - t119;
+        const V t121 = c5 * t85;
+        const V t122 = c3 * t87;
+        const V t123 = c4 * t89;
+        const V t124 = t121 + t122;
+        const V t125 = t124 - t123;
+        // real block of 7, multiplier 6
+        const V t126 = t34 + t22;
+        const V t127 = t34 - t22;
+        const V t128 = t16 + t40;
+        const V t129 = t16 - t40;
+        const V t130 = t10 + t4;
+        const V t131 = t10 - t4;
+        const V t132 = t126 + t128;
+        const V t133 = t132 + t130;
+        const V t134 = t133 + t28;
+        const V t135 = c0 * t126;
+        const V t136 = c1 * t128;
+        const V t137 = t135 - t136;
+        const V t138 = c2 * t130;
+        const V t139 = t137 - t138;
+        const V t140 = t139 + t28;
+        const V t141 = c3 * t127;
+        const V t142 = c4 * t129;
+        const V t143 = c5 * t131;
+        const V t144 = t141 - t142;
+        const V t145 = t144 - t143;
+        const V t146 = c1 * t126;
+        const V t147 = t28 - t146;
+        const V t148 = c2 * t128;
+        const V t149 = t147 - t148;
+        const V t150 = c0 * t130;
+        const V t151 = t149 + t150;
+        const V t152 = c4 * t127;
+        const V t153 = c5 * t129;
+        const V t154 = c3 * t131;
+        const V t155 = t152 + t153;
+        const V t156 = t155 + t154;
+        const V t157 = c2 * t126;
+        const V t158 = t28 - t157;
+        const V t159 = c0 * t128;
+        const V t160 = t158 + t159;
+        const V t161 = c1 * t130;
+        const V t162 = t160 - t161;
+        const V t163 = c5 * t127;
+        const V t164 = c3 * t129;
+        const V t165 = c4 * t131;
+        const V t166 = t163 + t164;
+        const V t167 = t166 - t165;
+        // real block of 3, multiplier 2
+        const V t168 = t92 + t134;
+        const V t169 = t92 - t134;
+        const V t170 = t168 + t50;
+        const V t171 = c6 * t168;
+        const V t172 = t50 - t171;
+        const V t173 = c7 * t169;
+        // complex block of 3, multiplier 2
+        const V t174 = t98 + t140;
+        const V t175 = t103 + t145;
+        const V t176 = t98 - t140;
+        const V t177 = t103 - t145;
+        const V t178 = t174 + t56;
+        const V t179 = t175 + t61;
+        const V t180 = c6 * t174;
+        const V t181 = t56 - t180;
+        const V t182 = c6 * t175;
+        const V t183 = t61 - t182;
+        const V t184 = c7 * t176;
+        const V t185 = c7 * t177;
+        const V t186 = t181 + t185;
+        const V t187 = t183 - t184;
+        const V t188 = t181 - t185;
+        const V t189 = t183 + t184;
+        // complex block of 3, multiplier 2
+        const V t190 = t109 + t151;
+        const V t191 = t114 + t156;
+        const V t192 = t109 - t151;
+        const V t193 = t114 - t156;
+        const V t194 = t190 + t67;
+        const V t195 = t191 + t72;
+        const V t196 = c6 * t190;
+        const V t197 = t67 - t196;
+        const V t198 = c6 * t191;
+        const V t199 = t72 - t198;
+        const V t200 = c7 * t192;
+        const V t201 = c7 * t193;
+        const V t202 = t197 + t201;
+        const V t203 = t199 - t200;
+        const V t204 = t197 - t201;
+        const V t205 = t199 + t200;
+        // complex block of 3, multiplier 2
+        const V t206 = t120 + t162;
+        const V t207 = t125 + t167;
+        const V t208 = t120 - t162;
+        const V t209 = t125 - t167;
+        const V t210 = t206 + t78;
+        const V t211 = t207 + t83;
+        const V t212 = c6 * t206;
+        const V t213 = t78 - t212;
+        const V t214 = c6 * t207;
+        const V t215 = t83 - t214;
+        const V t216 = c7 * t208;
+        const V t217 = c7 * t209;
+        const V t218 = t213 + t217;
+        const V t219 = t215 - t216;
+        const V t220 = t213 - t217;
+        const V t221 = t215 + t216;
+        // real block of 7, multiplier 6
+        const V t222 = t7 + t37;
+        const V t223 = t7 - t37;
+        const V t224 = t31 + t13;
+        const V t225 = t31 - t13;
+        const V t226 = t25 + t19;
+        const V t227 = t25 - t19;
+        const V t228 = t222 + t224;
+        const V t229 = t228 + t226;
+        const V t230 = t229 + t1;
+        const V t231 = c0 * t222;
+        const V t232 = c1 * t224;
+        const V t233 = t231 - t232;
+        const V t234 = c2 * t226;
+        const V t235 = t233 - t234;
+        const V t236 = t235 + t1;
+        const V t237 = c3 * t223;
+        const V t238 = c4 * t225;
+        const V t239 = c5 * t227;
+        const V t240 = t237 - t238;
+        const V t241 = t240 - t239;
+        const V t242 = c1 * t222;
+        const V t243 = t1 - t242;
+        const V t244 = c2 * t224;
+        const V t245 = t243 - t244;
+        const V t246 = c0 * t226;
+        const V t247 = t245 + t246;
+        const V t248 = c4 * t223;
+        const V t249 = c5 * t225;
+        const V t250 = c3 * t227;
+        const V t251 = t248 + t249;
+        const V t252 = t251 + t250;
+        const V t253 = c2 * t222;
+        const V t254 = t1 - t253;
+        const V t255 = c0 * t224;
+        const V t256 = t254 + t255;
+        const V t257 = c1 * t226;
+        const V t258 = t256 - t257;
+        const V t259 = c5 * t223;
+        const V t260 = c3 * t225;
+        const V t261 = c4 * t227;
+        const V t262 = t259 + t260;
+        const V t263 = t262 - t261;
+        // real block of 7, multiplier 6
+        const V t264 = t21 + t9;
+        const V t265 = t21 - t9;
+        const V t266 = t3 + t27;
+        const V t267 = t3 - t27;
+        const V t268 = t39 + t33;
+        const V t269 = t39 - t33;
+        const V t270 = t264 + t266;
+        const V t271 = t270 + t268;
+        const V t272 = t271 + t15;
+        const V t273 = c0 * t264;
+        const V t274 = c1 * t266;
+        const V t275 = t273 - t274;
+        const V t276 = c2 * t268;
+        const V t277 = t275 - t276;
+        const V t278 = t277 + t15;
+        const V t279 = c3 * t265;
+        const V t280 = c4 * t267;
+        const V t281 = c5 * t269;
+        const V t282 = t279 - t280;
+        const V t283 = t282 - t281;
+        const V t284 = c1 * t264;
+        const V t285 = t15 - t284;
+        const V t286 = c2 * t266;
+        const V t287 = t285 - t286;
+        const V t288 = c0 * t268;
+        const V t289 = t287 + t288;
+        const V t290 = c4 * t265;
+        const V t291 = c5 * t267;
+        const V t292 = c3 * t269;
+        const V t293 = t290 + t291;
+        const V t294 = t293 + t292;
+        const V t295 = c2 * t264;
+        const V t296 = t15 - t295;
+        const V t297 = c0 * t266;
+        const V t298 = t296 + t297;
+        const V t299 = c1 * t268;
+        const V t300 = t298 - t299;
+        const V t301 = c5 * t265;
+        const V t302 = c3 * t267;
+        const V t303 = c4 * t269;
+        const V t304 = t301 + t302;
+        const V t305 = t304 - t303;
+        // real block of 7, multiplier 6
+        const V t306 = t35 + t23;
+        const V t307 = t35 - t23;
+        const V t308 = t17 + t41;
+        const V t309 = t17 - t41;
+        const V t310 = t11 + t5;
+        const V t311 = t11 - t5;
+        const V t312 = t306 + t308;
+        const V t313 = t312 + t310;
+        const V t314 = t313 + t29;
+        const V t315 = c0 * t306;
+        const V t316 = c1 * t308;
+        const V t317 = t315 - t316;
+        const V t318 = c2 * t310;
+        const V t319 = t317 - t318;
+        const V t320 = t319 + t29;
+        const V t321 = c3 * t307;
+        const V t322 = c4 * t309;
+        const V t323 = c5 * t311;
+        const V t324 = t321 - t322;
+        const V t325 = t324 - t323;
+        const V t326 = c1 * t306;
+        const V t327 = t29 - t326;
+        const V t328 = c2 * t308;
+        const V t329 = t327 - t328;
+        const V t330 = c0 * t310;
+        const V t331 = t329 + t330;
+        const V t332 = c4 * t307;
+        const V t333 = c5 * t309;
+        const V t334 = c3 * t311;
+        const V t335 = t332 + t333;
+        const V t336 = t335 + t334;
+        const V t337 = c2 * t306;
+        const V t338 = t29 - t337;
+        const V t339 = c0 * t308;
+        const V t340 = t338 + t339;
+        const V t341 = c1 * t310;
+        const V t342 = t340 - t341;
+        const V t343 = c5 * t307;
+        const V t344 = c3 * t309;
+        const V t345 = c4 * t311;
+        const V t346 = t343 + t344;
+        const V t347 = t346 - t345;
+        // real block of 3, multiplier 2
+        const V t348 = t272 + t314;
+        const V t349 = t272 - t314;
+        const V t350 = t348 + t230;
+        const V t351 = c6 * t348;
+        const V t352 = t230 - t351;
+        const V t353 = c7 * t349;
+        // complex block of 3, multiplier 2
+        const V t354 = t278 + t320;
+        const V t355 = t283 + t325;
+        const V t356 = t278 - t320;
+        const V t357 = t283 - t325;
+        const V t358 = t354 + t236;
+        const V t359 = t355 + t241;
+        const V t360 = c6 * t354;
+        const V t361 = t236 - t360;
+        const V t362 = c6 * t355;
+        const V t363 = t241 - t362;
+        const V t364 = c7 * t356;
+        const V t365 = c7 * t357;
+        const V t366 = t361 + t365;
+        const V t367 = t363 - t364;
+        const V t368 = t361 - t365;
+        const V t369 = t363 + t364;
+        // complex block of 3, multiplier 2
+        const V t370 = t289 + t331;
+        const V t371 = t294 + t336;
+        const V t372 = t289 - t331;
+        const V t373 = t294 - t336;
+        const V t374 = t370 + t247;
+        const V t375 = t371 + t252;
+        const V t376 = c6 * t370;
+        const V t377 = t247 - t376;
+        const V t378 = c6 * t371;
+        const V t379 = t252 - t378;
+        const V t380 = c7 * t372;
+        const V t381 = c7 * t373;
+        const V t382 = t377 + t381;
+        const V t383 = t379 - t380;
+        const V t384 = t377 - t381;
+        const V t385 = t379 + t380;
+        // complex block of 3, multiplier 2
+        const V t386 = t300 + t342;
+        const V t387 = t305 + t347;
+        const V t388 = t300 - t342;
+        const V t389 = t305 - t347;
+        const V t390 = t386 + t258;
+        const V t391 = t387 + t263;
+        const V t392 = c6 * t386;
+        const V t393 = t258 - t392;
+        const V t394 = c6 * t387;
+        const V t395 = t263 - t394;
+        const V t396 = c7 * t388;
+        const V t397 = c7 * t389;
+        const V t398 = t393 + t397;
+        const V t399 = t395 - t396;
+        const V t400 = t393 - t397;
+        const V t401 = t395 + t396;
+        // real block of 43
+        const V x0 = io.in(0);
+        const V t402 = x0 + t170;
+        io.re(0, t402);
+        const V t403 = c8 * t170;
+        const V t404 = x0 - t403;
+        const V t405 = c9 * t369;
+        const V t406 = c10 * t368;
+        const V t407 = t405 - t406;
+        const V t408 = c9 * t368;
+        const V t409 = c10 * t369;
+        const V t410 = t409 + t408;
+        const V t411 = c11 * t203;
+        const V t412 = c12 * t202;
+        const V t413 = t412 + t411;
+        const V t414 = c11 * t202;
+        const V t415 = c12 * t203;
+        const V t416 = t414 - t415;
+        const V t417 = c13 * t391;
+        const V t418 = c14 * t390;
+        const V t419 = t418 + t417;
+        const V t420 = c13 * t390;
+        const V t421 = c14 * t391;
+        const V t422 = t421 - t420;
+        const V t423 = c15 * t219;
+        const V t424 = c16 * t218;
+        const V t425 = t424 - t423;
+        const V t426 = c15 * t218;
+        const V t427 = c16 * t219;
+        const V t428 = t427 + t426;
+        const V t429 = c17 * t385;
+        const V t430 = c18 * t384;
+        const V t431 = t430 - t429;
+        const V t432 = c17 * t384;
+        const V t433 = c18 * t385;
+        const V t434 = t433 + t432;
+        const V t435 = c19 * t179;
+        const V t436 = c20 * t178;
+        const V t437 = t436 + t435;
+        const V t438 = c19 * t178;
+        const V t439 = c20 * t179;
+        const V t440 = t439 - t438;
+        const V t441 = c21 * t352;
+        const V t442 = c22 * t353;
+        const V t443 = t442 + t441;
+        const V t444 = c23 * t187;
+        const V t445 = c24 * t186;
+        const V t446 = t445 + t444;
+        const V t447 = c23 * t186;
+        const V t448 = c24 * t187;
+        const V t449 = t447 - t448;
+        const V t450 = c25 * t375;
+        const V t451 = c26 * t374;
+        const V t452 = t451 + t450;
+        const V t453 = c25 * t374;
+        const V t454 = c26 * t375;
+        const V t455 = t453 - t454;
+        const V t456 = c27 * t221;
+        const V t457 = c28 * t220;
+        const V t458 = t457 + t456;
+        const V t459 = c27 * t220;
+        const V t460 = c28 * t221;
+        const V t461 = t459 - t460;
+        const V t462 = c29 * t401;
+        const V t463 = c30 * t400;
+        const V t464 = t463 - t462;
+        const V t465 = c29 * t400;
+        const V t466 = c30 * t401;
+        const V t467 = t466 + t465;
+        const V t468 = c31 * t195;
+        const V t469 = c32 * t194;
+        const V t470 = t469 - t468;
+        const V t471 = c31 * t194;
+        const V t472 = c32 * t195;
+        const V t473 = t472 + t471;
+        const V t474 = c33 * t367;
+        const V t475 = c34 * t366;
+        const V t476 = t474 - t475;
+        const V t477 = c33 * t366;
+        const V t478 = c34 * t367;
+        const V t479 = t478 + t477;
+        const V t480 = c35 * t173;
+        const V t481 = c36 * t172;
+        const V t482 = t481 - t480;
+        const V t483 = c37 * t359;
+        const V t484 = c38 * t358;
+        const V t485 = t483 - t484;
+        const V t486 = c37 * t358;
+        const V t487 = c38 * t359;
+        const V t488 = t487 + t486;
+        const V t489 = c39 * t205;
+        const V t490 = c40 * t204;
+        const V t491 = t490 + t489;
+        const V t492 = c39 * t204;
+        const V t493 = c40 * t205;
+        const V t494 = t493 - t492;
+        const V t495 = c41 * t399;
+        const V t496 = c42 * t398;
+        const V t497 = t496 - t495;
+        const V t498 = c41 * t398;
+        const V t499 = c42 * t399;
+        const V t500 = t499 + t498;
+        const V t501 = c43 * t211;
+        const V t502 = c44 * t210;
+        const V t503 = t502 + t501;
+        const V t504 = c43 * t210;
+        const V t505 = c44 * t211;
+        const V t506 = t505 - t504;
+        const V t507 = c45 * t383;
+        const V t508 = c46 * t382;
+        const V t509 = t508 + t507;
+        const V t510 = c45 * t382;
+        const V t511 = c46 * t383;
+        const V t512 = t510 - t511;
+        const V t513 = c47 * t189;
+        const V t514 = c48 * t188;
+        const V t515 = t514 + t513;
+        const V t516 = c47 * t188;
+        const V t517 = c48 * t189;
+        const V t518 = t517 - t516;
+        const V t519 = c49 * t350;
+        // spectrum block of 3
+        const V t520 = t482 + t404;
+        const V t521 = c6 * t482;
+        const V t522 = t404 - t521;
+        const V t523 = c50 * t173;
+        const V t524 = c51 * t172;
+        const V t525 = t523 + t524;
+        const V t526 = t522 - t525;
+        const V t527 = t522 + t525;
+        // complex block of 3
+        const V t528 = t518 - t449;
+        const V t529 = t515 + t446;
+        const V t530 = t518 + t449;
+        const V t531 = t515 - t446;
+        const V t532 = t528 + t440;
+        const V t533 = t529 + t437;
+        const V t534 = c6 * t528;
+        const V t535 = t440 - t534;
+        const V t536 = c6 * t529;
+        const V t537 = t437 - t536;
+        const V t538 = c7 * t530;
+        const V t539 = c7 * t531;
+        const V t540 = t535 + t539;
+        const V t541 = t537 - t538;
+        const V t542 = t535 - t539;
+        const V t543 = t537 + t538;
+        // complex block of 3
+        const V t544 = t494 + t416;
+        const V t545 = t413 - t491;
+        const V t546 = t416 - t494;
+        const V t547 = t491 + t413;
+        const V t548 = t473 - t544;
+        const V t549 = t545 + t470;
+        const V t550 = c6 * t544;
+        const V t551 = t550 + t473;
+        const V t552 = c6 * t545;
+        const V t553 = t470 - t552;
+        const V t554 = c7 * t546;
+        const V t555 = c7 * t547;
+        const V t556 = t551 - t555;
+        const V t557 = t553 - t554;
+        const V t558 = t551 + t555;
+        const V t559 = t553 + t554;
+        // complex block of 3
+        const V t560 = t428 - t461;
+        const V t561 = t458 + t425;
+        const V t562 = t461 + t428;
+        const V t563 = t458 - t425;
+        const V t564 = t560 + t506;
+        const V t565 = t561 + t503;
+        const V t566 = c6 * t560;
+        const V t567 = t506 - t566;
+        const V t568 = c6 * t561;
+        const V t569 = t503 - t568;
+        const V t570 = c7 * t562;
+        const V t571 = c7 * t563;
+        const V t572 = t567 + t571;
+        const V t573 = t569 + t570;
+        const V t574 = t567 - t571;
+        const V t575 = t569 - t570;
+        // spectrum block of 7, multiplier 3
+        const V t576 = t533 + t549;
+        const V t577 = t576 + t565;
+        const V t578 = t577 + t520;
+        io.re(1, t578);
+        const V t579 = c2 * t533;
+        const V t580 = t520 - t579;
+        const V t581 = c0 * t549;
+        const V t582 = t580 + t581;
+        const V t583 = c1 * t565;
+        const V t584 = t582 - t583;
+        const V t585 = c5 * t532;
+        const V t586 = c3 * t548;
+        const V t587 = t585 - t586;
+        const V t588 = c4 * t564;
+        const V t589 = t587 + t588;
+        const V t590 = t584 - t589;
+        io.re(8, t590);
+        const V t591 = t584 + t589;
+        io.re(16, t591);
+        const V t592 = c0 * t533;
+        const V t593 = c1 * t549;
+        const V t594 = t592 - t593;
+        const V t595 = c2 * t565;
+        const V t596 = t594 - t595;
+        const V t597 = t596 + t520;
+        const V t598 = c3 * t532;
+        const V t599 = c4 * t548;
+        const V t600 = t598 + t599;
+        const V t601 = c5 * t564;
+        const V t602 = t600 + t601;
+        const V t603 = t597 + t602;
+        io.re(21, t603);
+        const V t604 = t597 - t602;
+        io.re(2, t604);
+        const V t605 = c1 * t533;
+        const V t606 = t520 - t605;
+        const V t607 = c2 * t549;
+        const V t608 = t606 - t607;
+        const V t609 = c0 * t565;
+        const V t610 = t608 + t609;
+        const V t611 = c4 * t532;
+        const V t612 = c5 * t548;
+        const V t613 = t611 - t612;
+        const V t614 = c3 * t564;
+        const V t615 = t613 - t614;
+        const V t616 = t610 - t615;
+        io.re(4, t616);
+        const V t617 = t610 + t615;
+        io.re(11, t617);
+        // spectrum block of 7, multiplier 3
+        const V t618 = t541 + t557;
+        const V t619 = t618 + t573;
+        const V t620 = t619 + t526;
+        io.re(7, t620);
+        const V t621 = c2 * t541;
+        const V t622 = t526 - t621;
+        const V t623 = c0 * t557;
+        const V t624 = t622 + t623;
+        const V t625 = c1 * t573;
+        const V t626 = t624 - t625;
+        const V t627 = c5 * t540;
+        const V t628 = c3 * t556;
+        const V t629 = t627 - t628;
+        const V t630 = c4 * t572;
+        const V t631 = t629 + t630;
+        const V t632 = t626 - t631;
+        io.re(13, t632);
+        const V t633 = t626 + t631;
+        io.re(17, t633);
+        const V t634 = c0 * t541;
+        const V t635 = c1 * t557;
+        const V t636 = t634 - t635;
+        const V t637 = c2 * t573;
+        const V t638 = t636 - t637;
+        const V t639 = t638 + t526;
+        const V t640 = c3 * t540;
+        const V t641 = c4 * t556;
+        const V t642 = t640 + t641;
+        const V t643 = c5 * t572;
+        const V t644 = t642 + t643;
+        const V t645 = t639 + t644;
+        io.re(18, t645);
+        const V t646 = t639 - t644;
+        io.re(14, t646);
+        const V t647 = c1 * t541;
+        const V t648 = t526 - t647;
+        const V t649 = c2 * t557;
+        const V t650 = t648 - t649;
+        const V t651 = c0 * t573;
+        const V t652 = t650 + t651;
+        const V t653 = c4 * t540;
+        const V t654 = c5 * t556;
+        const V t655 = t653 - t654;
+        const V t656 = c3 * t572;
+        const V t657 = t655 - t656;
+        const V t658 = t652 - t657;
+        io.re(15, t658);
+        const V t659 = t652 + t657;
+        io.re(9, t659);
+        // spectrum block of 7, multiplier 3
+        const V t660 = t543 + t559;
+        const V t661 = t660 + t575;
+        const V t662 = t661 + t527;
+        io.re(6, t662);
+        const V t663 = c2 * t543;
+        const V t664 = t527 - t663;
+        const V t665 = c0 * t559;
+        const V t666 = t664 + t665;
+        const V t667 = c1 * t575;
+        const V t668 = t666 - t667;
+        const V t669 = c5 * t542;
+        const V t670 = c3 * t558;
+        const V t671 = t669 - t670;
+        const V t672 = c4 * t574;
+        const V t673 = t671 + t672;
+        const V t674 = t668 - t673;
+        io.re(5, t674);
+        const V t675 = t668 + t673;
+        io.re(10, t675);
+        const V t676 = c0 * t543;
+        const V t677 = c1 * t559;
+        const V t678 = t676 - t677;
+        const V t679 = c2 * t575;
+        const V t680 = t678 - t679;
+        const V t681 = t680 + t527;
+        const V t682 = c3 * t542;
+        const V t683 = c4 * t558;
+        const V t684 = t682 + t683;
+        const V t685 = c5 * t574;
+        const V t686 = t684 + t685;
+        const V t687 = t681 + t686;
+        io.re(3, t687);
+        const V t688 = t681 - t686;
+        io.re(12, t688);
+        const V t689 = c1 * t543;
+        const V t690 = t527 - t689;
+        const V t691 = c2 * t559;
+        const V t692 = t690 - t691;
+        const V t693 = c0 * t575;
+        const V t694 = t692 + t693;
+        const V t695 = c4 * t542;
+        const V t696 = c5 * t558;
+        const V t697 = t695 - t696;
+        const V t698 = c3 * t574;
+        const V t699 = t697 - t698;
+        const V t700 = t694 - t699;
+        io.re(19, t700);
+        const V t701 = t694 + t699;
+        io.re(20, t701);
+        // spectrum block of 3, multiplier 2
+        const V t702 = t443 + t519;
+        const V t703 = c6 * t443;
+        const V t704 = t703 - t519;
+        const V t705 = c52 * t352;
+        const V t706 = c53 * t353;
+        const V t707 = t705 - t706;
+        const V t708 = t704 + t707;
+        const V t709 = t704 - t707;
+        // complex block of 3, multiplier 2
+        const V t710 = t407 - t476;
+        const V t711 = t410 - t479;
+        const V t712 = t407 + t476;
+        const V t713 = t410 + t479;
+        const V t714 = t710 + t485;
+        const V t715 = t711 + t488;
+        const V t716 = c6 * t710;
+        const V t717 = t485 - t716;
+        const V t718 = c6 * t711;
+        const V t719 = t488 - t718;
+        const V t720 = c7 * t712;
+        const V t721 = c7 * t713;
+        const V t722 = t717 + t721;
+        const V t723 = t719 - t720;
+        const V t724 = t717 - t721;
+        const V t725 = t719 + t720;
+        // complex block of 3, multiplier 2
+        const V t726 = t509 - t431;
+        const V t727 = t434 + t512;
+        const V t728 = t431 + t509;
+        const V t729 = t434 - t512;
+        const V t730 = t726 + t452;
+        const V t731 = t727 + t455;
+        const V t732 = c6 * t726;
+        const V t733 = t452 - t732;
+        const V t734 = c6 * t727;
+        const V t735 = t455 - t734;
+        const V t736 = c7 * t728;
+        const V t737 = c7 * t729;
+        const V t738 = t733 + t737;
+        const V t739 = t735 + t736;
+        const V t740 = t733 - t737;
+        const V t741 = t735 - t736;
+        // complex block of 3, multiplier 2
+        const V t742 = t497 - t464;
+        const V t743 = t467 - t500;
+        const V t744 = t464 + t497;
+        const V t745 = t467 + t500;
+        const V t746 = t742 - t419;
+        const V t747 = t743 + t422;
+        const V t748 = c6 * t742;
+        const V t749 = t419 + t748;
+        const V t750 = c6 * t743;
+        const V t751 = t422 - t750;
+        const V t752 = c7 * t744;
+        const V t753 = c7 * t745;
+        const V t754 = t753 - t749;
+        const V t755 = t751 + t752;
+        const V t756 = t749 + t753;
+        const V t757 = t751 - t752;
+        // spectrum block of 7, multiplier 6
+        const V t758 = t715 + t731;
+        const V t759 = t758 + t747;
+        const V t760 = t759 - t702;
+        io.im(1, t760);
+        const V t761 = c0 * t715;
+        const V t762 = c1 * t731;
+        const V t763 = t761 - t762;
+        const V t764 = c2 * t747;
+        const V t765 = t763 - t764;
+        const V t766 = t765 - t702;
+        const V t767 = c3 * t714;
+        const V t768 = c4 * t730;
+        const V t769 = t767 + t768;
+        const V t770 = c5 * t746;
+        const V t771 = t769 + t770;
+        const V t772 = t766 + t771;
+        io.im(21, t772);
+        const V t773 = t766 - t771;
+        io.minusIm(2, t773);
+        const V t774 = c1 * t715;
+        const V t775 = t702 + t774;
+        const V t776 = c2 * t731;
+        const V t777 = t775 + t776;
+        const V t778 = c0 * t747;
+        const V t779 = t778 - t777;
+        const V t780 = c4 * t714;
+        const V t781 = c5 * t730;
+        const V t782 = t781 - t780;
+        const V t783 = c3 * t746;
+        const V t784 = t782 + t783;
+        const V t785 = t779 - t784;
+        io.im(11, t785);
+        const V t786 = t779 + t784;
+        io.im(4, t786);
+        const V t787 = c2 * t715;
+        const V t788 = t702 + t787;
+        const V t789 = c0 * t731;
+        const V t790 = t789 - t788;
+        const V t791 = c1 * t747;
+        const V t792 = t790 - t791;
+        const V t793 = c5 * t714;
+        const V t794 = c3 * t730;
+        const V t795 = t794 - t793;
+        const V t796 = c4 * t746;
+        const V t797 = t795 - t796;
+        const V t798 = t792 - t797;
+        io.im(16, t798);
+        const V t799 = t792 + t797;
+        io.minusIm(8, t799);
+        // spectrum block of 7, multiplier 6
+        const V t800 = t725 + t741;
+        const V t801 = t800 + t757;
+        const V t802 = t801 + t708;
+        io.im(6, t802);
+        const V t803 = c0 * t725;
+        const V t804 = c1 * t741;
+        const V t805 = t803 - t804;
+        const V t806 = c2 * t757;
+        const V t807 = t805 - t806;
+        const V t808 = t807 + t708;
+        const V t809 = c3 * t724;
+        const V t810 = c4 * t740;
+        const V t811 = t809 + t810;
+        const V t812 = c5 * t756;
+        const V t813 = t812 - t811;
+        const V t814 = t808 - t813;
+        io.minusIm(3, t814);
+        const V t815 = t808 + t813;
+        io.minusIm(12, t815);
+        const V t816 = c1 * t725;
+        const V t817 = t708 - t816;
+        const V t818 = c2 * t741;
+        const V t819 = t817 - t818;
+        const V t820 = c0 * t757;
+        const V t821 = t819 + t820;
+        const V t822 = c4 * t724;
+        const V t823 = c5 * t740;
+        const V t824 = t823 - t822;
+        const V t825 = c3 * t756;
+        const V t826 = t824 - t825;
+        const V t827 = t821 - t826;
+        io.minusIm(20, t827);
+        const V t828 = t821 + t826;
+        io.minusIm(19, t828);
+        const V t829 = c2 * t725;
+        const V t830 = t708 - t829;
+        const V t831 = c0 * t741;
+        const V t832 = t830 + t831;
+        const V t833 = c1 * t757;
+        const V t834 = t832 - t833;
+        const V t835 = c5 * t724;
+        const V t836 = c3 * t740;
+        const V t837 = t836 - t835;
+        const V t838 = c4 * t756;
+        const V t839 = t837 + t838;
+        const V t840 = t834 - t839;
+        io.im(10, t840);
+        const V t841 = t834 + t839;
+        io.minusIm(5, t841);
+        // spectrum block of 7, multiplier 6
+        const V t842 = t723 + t739;
+        const V t843 = t842 + t755;
+        const V t844 = t843 + t709;
+        io.minusIm(7, t844);
+        const V t845 = c0 * t723;
+        const V t846 = c1 * t739;
+        const V t847 = t845 - t846;
+        const V t848 = c2 * t755;
+        const V t849 = t847 - t848;
+        const V t850 = t849 + t709;
+        const V t851 = c3 * t722;
+        const V t852 = c4 * t738;
+        const V t853 = t851 + t852;
+        const V t854 = c5 * t754;
+        const V t855 = t853 + t854;
+        const V t856 = t850 + t855;
+        io.minusIm(18, t856);
+        const V t857 = t850 - t855;
+        io.im(14, t857);
+        const V t858 = c1 * t723;
+        const V t859 = t709 - t858;
+        const V t860 = c2 * t739;
+        const V t861 = t859 - t860;
+        const V t862 = c0 * t755;
+        const V t863 = t861 + t862;
+        const V t864 = c4 * t722;
+        const V t865 = c5 * t738;
+        const V t866 = t865 - t864;
+        const V t867 = c3 * t754;
+        const V t868 = t866 + t867;
+        const V t869 = t863 - t868;
+        io.im(9, t869);
+        const V t870 = t863 + t868;
+        io.im(15, t870);
+        const V t871 = c2 * t723;
+        const V t872 = t709 - t871;
+        const V t873 = c0 * t739;
+        const V t874 = t872 + t873;
+        const V t875 = c1 * t755;
+        const V t876 = t874 - t875;
+        const V t877 = c5 * t722;
+        const V t878 = c3 * t738;
+        const V t879 = t878 - t877;
+        const V t880 = c4 * t754;
+        const V t881 = t879 - t880;
+        const V t882 = t876 - t881;
+        io.im(17, t882);
+        const V t883 = t876 + t881;
+        io.im(13, t883);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTFwd_RToCCS, 43, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_RToCCS, 43, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_RToPack, 43, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_RToPack, 43, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_RToPerm, 43, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTFwd_RToPerm, 43, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

@@ -1,0 +1,706 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 29.
+// Inverse DFT to 29 real points, Rader 7, 4.
+// 152 additions, 154 subtractions, 238 multiplications (267 with `scale`); 35 constants; 42 values alive at most.
+#include "frame/kernel_body.h"
+
+namespace zulg {
+
+template <>
+struct RealInverseGraph<29> {
+    static constexpr double inverseRoot = 0.18569533817705186;  // 1/sqrt(29), for `scale`
+    static constexpr double c0 = 2.0;  // 2
+    static constexpr double c1 = 0.2225209339563144;  // -cos 2 pi 2/7
+    static constexpr double c2 = 0.9009688679024191;  // -cos 2 pi 10/7
+    static constexpr double c3 = 0.6234898018587335;  // cos 2 pi 8/7
+    static constexpr double c4 = 0.9749279121818236;  // sin 2 pi 2/7
+    static constexpr double c5 = 0.4338837391175581;  // sin 2 pi 10/7
+    static constexpr double c6 = 0.7818314824680298;  // sin 2 pi 8/7
+    static constexpr double c7 = 0.03571428571428571;  // 1/28
+    static constexpr double c8 = 0.2768145884649087;  // -P[1] of 29
+    static constexpr double c9 = 0.2670821358430261;  // -Q[1] of 29
+    static constexpr double c10 = 0.32142566997698113;  // Q[2] of 29
+    static constexpr double c11 = 0.21129297752958617;  // P[2] of 29
+    static constexpr double c12 = 0.29302504444220384;  // -P[3] of 29
+    static constexpr double c13 = 0.2491897008367598;  // Q[3] of 29
+    static constexpr double c14 = 0.19919633623825483;  // Q[4] of 29
+    static constexpr double c15 = 0.3290592701972177;  // P[4] of 29
+    static constexpr double c16 = 0.26862162181749166;  // -P[5] of 29
+    static constexpr double c17 = 0.27532091814028564;  // -Q[5] of 29
+    static constexpr double c18 = 0.35927022128602587;  // Q[6] of 29
+    static constexpr double c19 = 0.13741940099767344;  // P[6] of 29
+    static constexpr double c20 = 0.07274108340629196;  // P[7] of 29
+    static constexpr double c21 = 0.3777140697119294;  // Q[7] of 29
+    static constexpr double c22 = 0.21267702351981235;  // Q[8] of 29
+    static constexpr double c23 = 0.3205115713047231;  // -P[8] of 29
+    static constexpr double c24 = 0.035220206650882144;  // -P[9] of 29
+    static constexpr double c25 = 0.38303879792644835;  // -Q[9] of 29
+    static constexpr double c26 = 0.0825185747421179;  // -Q[10] of 29
+    static constexpr double c27 = 0.37569917287106036;  // P[10] of 29
+    static constexpr double c28 = 0.25511870438911255;  // P[11] of 29
+    static constexpr double c29 = 0.28787780453569184;  // -Q[11] of 29
+    static constexpr double c30 = 0.37467556794599116;  // Q[12] of 29
+    static constexpr double c31 = 0.0870482765930398;  // P[12] of 29
+    static constexpr double c32 = 0.0999373031094614;  // P[13] of 29
+    static constexpr double c33 = 0.3714454456857387;  // Q[13] of 29
+    static constexpr double c34 = 0.192327314540518;  // beta of 29
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t0 = c0 * x1r;
+        const V x1i = io.im(1);
+        const V t1 = c0 * x1i;
+        const V x2r = io.re(2);
+        const V t2 = c0 * x2r;
+        const V x2i = io.im(2);
+        const V t3 = c0 * x2i;
+        const V x3r = io.re(3);
+        const V t4 = c0 * x3r;
+        const V x3i = io.im(3);
+        const V t5 = c0 * x3i;
+        const V x4r = io.re(4);
+        const V t6 = c0 * x4r;
+        const V x4i = io.im(4);
+        const V t7 = c0 * x4i;
+        const V x5r = io.re(5);
+        const V t8 = c0 * x5r;
+        const V x5i = io.im(5);
+        const V t9 = c0 * x5i;
+        const V x6r = io.re(6);
+        const V t10 = c0 * x6r;
+        const V x6i = io.im(6);
+        const V t11 = c0 * x6i;
+        const V x7r = io.re(7);
+        const V t12 = c0 * x7r;
+        const V x7i = io.im(7);
+        const V t13 = c0 * x7i;
+        const V x8r = io.re(8);
+        const V t14 = c0 * x8r;
+        const V x8i = io.im(8);
+        const V t15 = c0 * x8i;
+        const V x9r = io.re(9);
+        const V t16 = c0 * x9r;
+        const V x9i = io.im(9);
+        const V t17 = c0 * x9i;
+        const V x10r = io.re(10);
+        const V t18 = c0 * x10r;
+        const V x10i = io.im(10);
+        const V t19 = c0 * x10i;
+        const V x11r = io.re(11);
+        const V t20 = c0 * x11r;
+        const V x11i = io.im(11);
+        const V t21 = c0 * x11i;
+        const V x12r = io.re(12);
+        const V t22 = c0 * x12r;
+        const V x12i = io.im(12);
+        const V t23 = c0 * x12i;
+        const V x13r = io.re(13);
+        const V t24 = c0 * x13r;
+        const V x13i = io.im(13);
+        const V t25 = c0 * x13i;
+        const V x14r = io.re(14);
+        const V t26 = c0 * x14r;
+        const V x14i = io.im(14);
+        const V t27 = c0 * x14i;
+        // real block of 2
+        const V t28 = t0 + t22;
+        const V t29 = t0 - t22;
+        // real block of 2
+        const V t30 = t6 + t18;
+        const V t31 = t6 - t18;
+        // real block of 2
+        const V t32 = t24 + t20;
+        const V t33 = t24 - t20;
+        // real block of 2
+        const V t34 = t10 + t26;
+        const V t35 = t10 - t26;
+        // real block of 2
+        const V t36 = t8 + t2;
+        const V t37 = t8 - t2;
+        // real block of 2
+        const V t38 = t16 + t14;
+        const V t39 = t16 - t14;
+        // real block of 2
+        const V t40 = t12 + t4;
+        const V t41 = t12 - t4;
+        // real block of 7, multiplier 2
+        const V t42 = t30 + t40;
+        const V t43 = t30 - t40;
+        const V t44 = t38 + t32;
+        const V t45 = t38 - t32;
+        const V t46 = t36 + t34;
+        const V t47 = t36 - t34;
+        const V t48 = t42 + t44;
+        const V t49 = t48 + t46;
+        const V t50 = t49 + t28;
+        const V t51 = c1 * t42;
+        const V t52 = t28 - t51;
+        const V t53 = c2 * t44;
+        const V t54 = t52 - t53;
+        const V t55 = c3 * t46;
+        const V t56 = t54 + t55;
+        const V t57 = c4 * t43;
+        const V t58 = c5 * t45;
+        const V t59 = c6 * t47;
+        const V t60 = t57 + t58;
+        const V t61 = t60 + t59;
+        const V t62 = c2 * t42;
+        const V t63 = t28 - t62;
+        const V t64 = c3 * t44;
+        const V t65 = t63 + t64;
+        const V t66 = c1 * t46;
+        const V t67 = t65 - t66;
+        const V t68 = c5 * t43;
+        const V t69 = c6 * t45;
+        const V t70 = c4 * t47;
+        const V t71 = t68 + t69;
+        const V t72 = t71 - t70;
+        const V t73 = c3 * t42;
+        const V t74 = c1 * t44;
+        const V t75 = t73 - t74;
+        const V t76 = c2 * t46;
+        const V t77 = t75 - t76;
+        const V t78 = t77 + t28;
+        const V t79 = c6 * t43;
+        const V t80 = c4 * t45;
+        const V t81 = c5 * t47;
+        const V t82 = t79 - t80;
+        const V t83 = t82 - t81;
+        // real block of 7, multiplier 2
+        const V t84 = t31 + t41;
+        const V t85 = t31 - t41;
+        const V t86 = t39 + t33;
+        const V t87 = t39 - t33;
+        const V t88 = t37 + t35;
+        const V t89 = t37 - t35;
+        const V t90 = t84 + t86;
+        const V t91 = t90 + t88;
+        const V t92 = t91 + t29;
+        const V t93 = c1 * t84;
+        const V t94 = t29 - t93;
+        const V t95 = c2 * t86;
+        const V t96 = t94 - t95;
+        const V t97 = c3 * t88;
+        const V t98 = t96 + t97;
+        const V t99 = c4 * t85;
+        const V t100 = c5 * t87;
+        const V t101 = c6 * t89;
+        const V t102 = t99 + t100;
+        const V t103 = t102 + t101;
+        const V t104 = c2 * t84;
+        const V t105 = t29 - t104;
+        const V t106 = c3 * t86;
+        const V t107 = t105 + t106;
+        const V t108 = c1 * t88;
+        const V t109 = t107 - t108;
+        const V t110 = c5 * t85;
+        const V t111 = c6 * t87;
+        const V t112 = c4 * t89;
+        const V t113 = t110 + t111;
+        const V t114 = t113 - t112;
+        const V t115 = c3 * t84;
+        const V t116 = c1 * t86;
+        const V t117 = t115 - t116;
+        const V t118 = c2 * t88;
+        const V t119 = t117 - t118;
+        const V t120 = t119 + t29;
+        const V t121 = c6 * t85;
+        const V t122 = c4 * t87;
+        const V t123 = c5 * t89;
+        const V t124 = t121 - t122;
+        const V t125 = t124 - t123;
+        // real block of 7
+        const V t126 = t13 - t7;
+        const V t127 = t7 + t13;
+        const V t128 = t17 + t25;
+        const V t129 = t25 - t17;
+        const V t130 = t9 + t11;
+        const V t131 = t11 - t9;
+        const V t132 = t126 - t128;
+        const V t133 = t132 - t130;
+        const V t134 = t133 + t1;
+        const V t135 = c3 * t126;
+        const V t136 = c1 * t128;
+        const V t137 = t135 + t136;
+        const V t138 = c2 * t130;
+        const V t139 = t137 + t138;
+        const V t140 = t139 + t1;
+        const V t141 = c6 * t127;
+        const V t142 = c4 * t129;
+        const V t143 = c5 * t131;
+        const V t144 = t141 + t142;
+        const V t145 = t144 + t143;
+        const V t146 = c1 * t126;
+        const V t147 = t1 - t146;
+        const V t148 = c2 * t128;
+        const V t149 = t147 + t148;
+        const V t150 = c3 * t130;
+        const V t151 = t149 - t150;
+        const V t152 = c4 * t127;
+        const V t153 = c5 * t129;
+        const V t154 = c6 * t131;
+        const V t155 = t152 - t153;
+        const V t156 = t155 - t154;
+        const V t157 = c2 * t126;
+        const V t158 = t1 - t157;
+        const V t159 = c3 * t128;
+        const V t160 = t158 - t159;
+        const V t161 = c1 * t130;
+        const V t162 = t160 + t161;
+        const V t163 = c5 * t127;
+        const V t164 = c6 * t129;
+        const V t165 = c4 * t131;
+        const V t166 = t163 + t165;
+        const V t167 = t166 - t164;
+        // real block of 7
+        const V t168 = t27 - t15;
+        const V t169 = t15 + t27;
+        const V t170 = t21 + t5;
+        const V t171 = t21 - t5;
+        const V t172 = t19 + t23;
+        const V t173 = t23 - t19;
+        const V t174 = t168 + t170;
+        const V t175 = t174 - t172;
+        const V t176 = t175 + t3;
+        const V t177 = c3 * t168;
+        const V t178 = c1 * t170;
+        const V t179 = t177 - t178;
+        const V t180 = c2 * t172;
+        const V t181 = t179 + t180;
+        const V t182 = t181 + t3;
+        const V t183 = c6 * t169;
+        const V t184 = c4 * t171;
+        const V t185 = c5 * t173;
+        const V t186 = t183 + t184;
+        const V t187 = t186 + t185;
+        const V t188 = c1 * t168;
+        const V t189 = t3 - t188;
+        const V t190 = c2 * t170;
+        const V t191 = t189 - t190;
+        const V t192 = c3 * t172;
+        const V t193 = t191 - t192;
+        const V t194 = c4 * t169;
+        const V t195 = c5 * t171;
+        const V t196 = c6 * t173;
+        const V t197 = t194 - t195;
+        const V t198 = t197 - t196;
+        const V t199 = c2 * t168;
+        const V t200 = t3 - t199;
+        const V t201 = c3 * t170;
+        const V t202 = t200 + t201;
+        const V t203 = c1 * t172;
+        const V t204 = t202 + t203;
+        const V t205 = c5 * t169;
+        const V t206 = c6 * t171;
+        const V t207 = c4 * t173;
+        const V t208 = t205 + t207;
+        const V t209 = t208 - t206;
+        // skew block of 14
+        const V t210 = c1 * t209;
+        const V t211 = c4 * t204;
+        const V t212 = t211 - t210;
+        const V t213 = c1 * t204;
+        const V t214 = c4 * t209;
+        const V t215 = t214 + t213;
+        // complex block of 2
+        const V t216 = t162 + t212;
+        const V t217 = t167 + t215;
+        const V t218 = t162 - t212;
+        const V t219 = t215 - t167;
+        // skew block of 14
+        const V t220 = c3 * t198;
+        const V t221 = c6 * t193;
+        const V t222 = t221 - t220;
+        const V t223 = c3 * t193;
+        const V t224 = c6 * t198;
+        const V t225 = t224 + t223;
+        // complex block of 2
+        const V t226 = t151 + t222;
+        const V t227 = t156 + t225;
+        const V t228 = t151 - t222;
+        const V t229 = t225 - t156;
+        // skew block of 14
+        const V t230 = c2 * t187;
+        const V t231 = c5 * t182;
+        const V t232 = t231 - t230;
+        const V t233 = c2 * t182;
+        const V t234 = c5 * t187;
+        const V t235 = t234 + t233;
+        // complex block of 2
+        const V t236 = t140 + t232;
+        const V t237 = t145 + t235;
+        const V t238 = t140 - t232;
+        const V t239 = t235 - t145;
+        // spectrum block of 29
+        const V t240 = c7 * t50;
+        const V x0r = io.re(0);
+        const V t241 = x0r - t240;
+        const V t242 = c8 * t217;
+        const V t243 = c9 * t216;
+        const V t244 = t243 + t242;
+        const V t245 = c8 * t216;
+        const V t246 = c9 * t217;
+        const V t247 = t246 - t245;
+        const V t248 = c10 * t125;
+        const V t249 = c11 * t120;
+        const V t250 = t249 + t248;
+        const V t251 = c10 * t120;
+        const V t252 = c11 * t125;
+        const V t253 = t251 - t252;
+        const V t254 = c12 * t227;
+        const V t255 = c13 * t226;
+        const V t256 = t255 - t254;
+        const V t257 = c12 * t226;
+        const V t258 = c13 * t227;
+        const V t259 = t258 + t257;
+        const V t260 = c14 * t61;
+        const V t261 = c15 * t56;
+        const V t262 = t261 + t260;
+        const V t263 = c14 * t56;
+        const V t264 = c15 * t61;
+        const V t265 = t263 - t264;
+        const V t266 = c16 * t237;
+        const V t267 = c17 * t236;
+        const V t268 = t267 + t266;
+        const V t269 = c16 * t236;
+        const V t270 = c17 * t237;
+        const V t271 = t270 - t269;
+        const V t272 = c18 * t114;
+        const V t273 = c19 * t109;
+        const V t274 = t273 + t272;
+        const V t275 = c18 * t109;
+        const V t276 = c19 * t114;
+        const V t277 = t275 - t276;
+        const V t278 = c20 * t176;
+        const V t279 = c21 * t134;
+        const V t280 = t279 + t278;
+        const V t281 = c20 * t134;
+        const V t282 = c21 * t176;
+        const V t283 = t281 - t282;
+        const V t284 = c22 * t72;
+        const V t285 = c23 * t67;
+        const V t286 = t285 + t284;
+        const V t287 = c22 * t67;
+        const V t288 = c23 * t72;
+        const V t289 = t287 - t288;
+        const V t290 = c24 * t239;
+        const V t291 = c25 * t238;
+        const V t292 = t291 + t290;
+        const V t293 = c24 * t238;
+        const V t294 = c25 * t239;
+        const V t295 = t294 - t293;
+        const V t296 = c26 * t103;
+        const V t297 = c27 * t98;
+        const V t298 = t297 + t296;
+        const V t299 = c26 * t98;
+        const V t300 = c27 * t103;
+        const V t301 = t300 - t299;
+        const V t302 = c28 * t229;
+        const V t303 = c29 * t228;
+        const V t304 = t302 - t303;
+        const V t305 = c28 * t228;
+        const V t306 = c29 * t229;
+        const V t307 = t306 + t305;
+        const V t308 = c30 * t83;
+        const V t309 = c31 * t78;
+        const V t310 = t309 - t308;
+        const V t311 = c30 * t78;
+        const V t312 = c31 * t83;
+        const V t313 = t312 + t311;
+        const V t314 = c32 * t219;
+        const V t315 = c33 * t218;
+        const V t316 = t315 + t314;
+        const V t317 = c32 * t218;
+        const V t318 = c33 * t219;
+        const V t319 = t317 - t318;
+        const V t320 = c34 * t92;
+        // spectrum block of 7, multiplier 4
+        const V t321 = t262 - t286;
+        const V t322 = t321 + t310;
+        const V t323 = t322 + t241;
+        const V t324 = c2 * t262;
+        const V t325 = t241 - t324;
+        const V t326 = c3 * t286;
+        const V t327 = t325 - t326;
+        const V t328 = c1 * t310;
+        const V t329 = t327 - t328;
+        const V t330 = c5 * t265;
+        const V t331 = c6 * t289;
+        const V t332 = t331 - t330;
+        const V t333 = c4 * t313;
+        const V t334 = t332 - t333;
+        const V t335 = t329 - t334;
+        const V t336 = t329 + t334;
+        const V t337 = c3 * t262;
+        const V t338 = c1 * t286;
+        const V t339 = t337 + t338;
+        const V t340 = c2 * t310;
+        const V t341 = t339 - t340;
+        const V t342 = t341 + t241;
+        const V t343 = c6 * t265;
+        const V t344 = c4 * t289;
+        const V t345 = t343 + t344;
+        const V t346 = c5 * t313;
+        const V t347 = t345 + t346;
+        const V t348 = t342 - t347;
+        const V t349 = t342 + t347;
+        const V t350 = c1 * t262;
+        const V t351 = t241 - t350;
+        const V t352 = c2 * t286;
+        const V t353 = t351 + t352;
+        const V t354 = c3 * t310;
+        const V t355 = t353 + t354;
+        const V t356 = c4 * t265;
+        const V t357 = c5 * t289;
+        const V t358 = t357 - t356;
+        const V t359 = c6 * t313;
+        const V t360 = t358 + t359;
+        const V t361 = t355 - t360;
+        const V t362 = t355 + t360;
+        // complex block of 7, multiplier 4
+        const V t363 = t307 - t259;
+        const V t364 = t304 + t256;
+        const V t365 = t307 + t259;
+        const V t366 = t304 - t256;
+        const V t367 = t247 + t319;
+        const V t368 = t316 - t244;
+        const V t369 = t319 - t247;
+        const V t370 = t244 + t316;
+        const V t371 = t271 + t295;
+        const V t372 = t268 + t292;
+        const V t373 = t295 - t271;
+        const V t374 = t292 - t268;
+        const V t375 = t363 - t367;
+        const V t376 = t375 - t371;
+        const V t377 = t364 + t368;
+        const V t378 = t377 - t372;
+        const V t379 = t376 + t283;
+        const V t380 = t378 + t280;
+        const V t381 = c3 * t363;
+        const V t382 = c1 * t367;
+        const V t383 = t381 + t382;
+        const V t384 = c2 * t371;
+        const V t385 = t383 + t384;
+        const V t386 = t385 + t283;
+        const V t387 = c3 * t364;
+        const V t388 = c1 * t368;
+        const V t389 = t387 - t388;
+        const V t390 = c2 * t372;
+        const V t391 = t389 + t390;
+        const V t392 = t391 + t280;
+        const V t393 = c6 * t365;
+        const V t394 = c4 * t369;
+        const V t395 = t393 - t394;
+        const V t396 = c5 * t373;
+        const V t397 = t395 - t396;
+        const V t398 = c6 * t366;
+        const V t399 = c4 * t370;
+        const V t400 = t398 + t399;
+        const V t401 = c5 * t374;
+        const V t402 = t400 - t401;
+        const V t403 = t386 + t402;
+        const V t404 = t392 - t397;
+        const V t405 = t386 - t402;
+        const V t406 = t392 + t397;
+        const V t407 = c1 * t363;
+        const V t408 = t283 - t407;
+        const V t409 = c2 * t367;
+        const V t410 = t408 + t409;
+        const V t411 = c3 * t371;
+        const V t412 = t410 - t411;
+        const V t413 = c1 * t364;
+        const V t414 = t280 - t413;
+        const V t415 = c2 * t368;
+        const V t416 = t414 - t415;
+        const V t417 = c3 * t372;
+        const V t418 = t416 - t417;
+        const V t419 = c4 * t365;
+        const V t420 = c5 * t369;
+        const V t421 = t419 + t420;
+        const V t422 = c6 * t373;
+        const V t423 = t421 + t422;
+        const V t424 = c4 * t366;
+        const V t425 = c5 * t370;
+        const V t426 = t424 - t425;
+        const V t427 = c6 * t374;
+        const V t428 = t426 + t427;
+        const V t429 = t412 + t428;
+        const V t430 = t418 - t423;
+        const V t431 = t412 - t428;
+        const V t432 = t418 + t423;
+        const V t433 = c2 * t363;
+        const V t434 = t283 - t433;
+        const V t435 = c3 * t367;
+        const V t436 = t434 - t435;
+        const V t437 = c1 * t371;
+        const V t438 = t436 + t437;
+        const V t439 = c2 * t364;
+        const V t440 = t280 - t439;
+        const V t441 = c3 * t368;
+        const V t442 = t440 + t441;
+        const V t443 = c1 * t372;
+        const V t444 = t442 + t443;
+        const V t445 = c5 * t365;
+        const V t446 = c6 * t369;
+        const V t447 = t445 + t446;
+        const V t448 = c4 * t373;
+        const V t449 = t447 - t448;
+        const V t450 = c5 * t366;
+        const V t451 = c6 * t370;
+        const V t452 = t450 - t451;
+        const V t453 = c4 * t374;
+        const V t454 = t452 - t453;
+        const V t455 = t438 + t454;
+        const V t456 = t444 - t449;
+        const V t457 = t438 - t454;
+        const V t458 = t444 + t449;
+        // spectrum block of 7, multiplier 4
+        const V t459 = t298 + t274;
+        const V t460 = t459 + t250;
+        const V t461 = t460 + t320;
+        const V t462 = c2 * t298;
+        const V t463 = t320 - t462;
+        const V t464 = c3 * t274;
+        const V t465 = t463 + t464;
+        const V t466 = c1 * t250;
+        const V t467 = t465 - t466;
+        const V t468 = c5 * t301;
+        const V t469 = c6 * t277;
+        const V t470 = t468 - t469;
+        const V t471 = c4 * t253;
+        const V t472 = t470 + t471;
+        const V t473 = t467 - t472;
+        const V t474 = t467 + t472;
+        const V t475 = c3 * t298;
+        const V t476 = c1 * t274;
+        const V t477 = t475 - t476;
+        const V t478 = c2 * t250;
+        const V t479 = t477 - t478;
+        const V t480 = t479 + t320;
+        const V t481 = c6 * t301;
+        const V t482 = c4 * t277;
+        const V t483 = t481 + t482;
+        const V t484 = c5 * t253;
+        const V t485 = t483 + t484;
+        const V t486 = t480 + t485;
+        const V t487 = t480 - t485;
+        const V t488 = c1 * t298;
+        const V t489 = t320 - t488;
+        const V t490 = c2 * t274;
+        const V t491 = t489 - t490;
+        const V t492 = c3 * t250;
+        const V t493 = t491 + t492;
+        const V t494 = c4 * t301;
+        const V t495 = c5 * t277;
+        const V t496 = t494 - t495;
+        const V t497 = c6 * t253;
+        const V t498 = t496 - t497;
+        const V t499 = t493 - t498;
+        const V t500 = t493 + t498;
+        // spectrum block of 2
+        const V t501 = t323 + t461;
+        const V t502 = t323 - t461;
+        // spectrum block of 2
+        const V t503 = t501 + t380;
+        io.out(1, t503);
+        const V t504 = t501 - t380;
+        io.out(28, t504);
+        // spectrum block of 2
+        const V t505 = t502 + t379;
+        io.out(17, t505);
+        const V t506 = t502 - t379;
+        io.out(12, t506);
+        // spectrum block of 2
+        const V t507 = t335 + t473;
+        const V t508 = t335 - t473;
+        // spectrum block of 2
+        const V t509 = t507 + t458;
+        io.out(20, t509);
+        const V t510 = t507 - t458;
+        io.out(9, t510);
+        // spectrum block of 2
+        const V t511 = t508 + t457;
+        io.out(21, t511);
+        const V t512 = t508 - t457;
+        io.out(8, t512);
+        // spectrum block of 2
+        const V t513 = t348 + t486;
+        const V t514 = t348 - t486;
+        // spectrum block of 2
+        const V t515 = t513 + t404;
+        io.out(23, t515);
+        const V t516 = t513 - t404;
+        io.out(6, t516);
+        // spectrum block of 2
+        const V t517 = t514 + t403;
+        io.out(14, t517);
+        const V t518 = t514 - t403;
+        io.out(15, t518);
+        // spectrum block of 2
+        const V t519 = t361 + t499;
+        const V t520 = t361 - t499;
+        // spectrum block of 2
+        const V t521 = t519 + t432;
+        io.out(25, t521);
+        const V t522 = t519 - t432;
+        io.out(4, t522);
+        // spectrum block of 2
+        const V t523 = t520 + t431;
+        io.out(19, t523);
+        const V t524 = t520 - t431;
+        io.out(10, t524);
+        // spectrum block of 2
+        const V t525 = t362 + t500;
+        const V t526 = t362 - t500;
+        // spectrum block of 2
+        const V t527 = t525 + t430;
+        io.out(7, t527);
+        const V t528 = t525 - t430;
+        io.out(22, t528);
+        // spectrum block of 2
+        const V t529 = t526 + t429;
+        io.out(3, t529);
+        const V t530 = t526 - t429;
+        io.out(26, t530);
+        // spectrum block of 2
+        const V t531 = t349 + t487;
+        const V t532 = t349 - t487;
+        // spectrum block of 2
+        const V t533 = t531 + t406;
+        io.out(24, t533);
+        const V t534 = t531 - t406;
+        io.out(5, t534);
+        // spectrum block of 2
+        const V t535 = t532 + t405;
+        io.out(2, t535);
+        const V t536 = t532 - t405;
+        io.out(27, t536);
+        // spectrum block of 2
+        const V t537 = t336 + t474;
+        const V t538 = t336 - t474;
+        // spectrum block of 2
+        const V t539 = t537 + t456;
+        io.out(16, t539);
+        const V t540 = t537 - t456;
+        io.out(13, t540);
+        // spectrum block of 2
+        const V t541 = t538 + t455;
+        io.out(11, t541);
+        const V t542 = t538 - t455;
+        io.out(18, t542);
+        // spectrum block of 29
+        const V t543 = x0r + t50;
+        io.out(0, t543);
+    }
+};
+
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 29, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_CCSToR, 29, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 29, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PackToR, 29, double>(const double*, double*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 29, float>(const float*, float*, std::int32_t);
+template Status ZULG_CALL kernel<Family::DFTInv_PermToR, 29, double>(const double*, double*, std::int32_t);
+
+}  // namespace zulg

@@ -26,17 +26,50 @@ ZulgStatus complexInverse(const std::complex<T>* bins, std::complex<T>* points, 
     return routine(plain(bins), plain(points), length, flag);
 }
 
+// A CCS array is the array of the bins from 0 to the middle, real and imaginary parts in turn.
+template <typename T, auto routine>
+ZulgStatus realForward(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
+    return routine(samples, reinterpret_cast<T*>(bins), length, flag);
+}
+
+template <typename T, auto routine>
+ZulgStatus realInverse(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
+    std::array<T, longestLength> samples{};
+    const ZulgStatus status = routine(reinterpret_cast<const T*>(bins), samples.data(), length, flag);
+    std::copy_n(samples.begin(), length, points);
+    return status;
+}
+
+// Samples are real, so that the bins above the middle only mirror the others.
+int countToMiddle(int length) { return length / 2 + 1; }
+
+double signedFrequency(int bin, int length) { return double(bin <= length / 2 ? bin : bin - length) / length; }
+
+double complexMagnitude(ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); }
+
+// Of a pair of routines that share out the scale between them.
+std::int32_t flagOfInverse(std::int32_t flag) { return flag == NoDivByAny ? DivInvByN : flag; }
+
 constexpr Family families[] = {
     {
         .name = "complex",
         .binCount = [](int length) { return length; },
-        // Samples are real, so that the bins above the middle only mirror the others.
-        .shownCount = [](int length) { return length / 2 + 1; },
-        .frequency = [](int bin, int length) { return double(bin <= length / 2 ? bin : bin - length) / length; },
-        .magnitude = [](ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); },
-        .restoringFlag = [](std::int32_t flag) { return std::int32_t{flag == NoDivByAny ? DivInvByN : flag}; },
+        .shownCount = countToMiddle,
+        .frequency = signedFrequency,
+        .magnitude = complexMagnitude,
+        .restoringFlag = flagOfInverse,
         .single = {complexForward<float, zulgDFTFwd_CToC_32fc>, complexInverse<float, zulgDFTInv_CToC_32fc>},
         .wide = {complexForward<double, zulgDFTFwd_CToC_64fc>, complexInverse<double, zulgDFTInv_CToC_64fc>},
+    },
+    {
+        .name = "real",
+        .binCount = countToMiddle,
+        .shownCount = countToMiddle,
+        .frequency = signedFrequency,
+        .magnitude = complexMagnitude,
+        .restoringFlag = flagOfInverse,
+        .single = {realForward<float, zulgDFTFwd_RToCCS_32f>, realInverse<float, zulgDFTInv_CCSToR_32f>},
+        .wide = {realForward<double, zulgDFTFwd_RToCCS_64f>, realInverse<double, zulgDFTInv_CCSToR_64f>},
     },
 };
 

@@ -1,5 +1,5 @@
 // zulspectrum: short-time spectra of sound files and of numbers, with the transforms of the library beside it.
-// This file is the run itself, from the options to the report; run with --help for what it can do.
+// This file is the run itself, from the command to the report; run with --help for what it can do.
 #include <unistd.h>
 
 #include <cstdio>
@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "frames.h"
+#include "layout.h"
 #include "progress.h"
 #include "sink.h"
 #include "user_error.h"
@@ -114,12 +115,11 @@ void flushStandardOutput() {
     if (!std::cout.flush() || std::fflush(stdout) != 0) throw UserError("cannot write standard output");
 }
 
-int runProgram(int argc, char** argv) {
-    int exitCode = 0;
-    const std::optional<Options> options = readOptions(argc, argv, exitCode);
-    if (options) run(*options);
+void runProgram(int argc, char** argv) {
+    const Command command = readCommand(argc, argv);
+    if (const auto* options = std::get_if<Options>(&command)) run(*options);
+    if (const auto* layout = std::get_if<LayoutOptions>(&command)) std::cout << layoutText(layout->length);
     flushStandardOutput();
-    return exitCode;
 }
 
 }  // namespace
@@ -127,7 +127,8 @@ int runProgram(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     try {
-        return spectrum::runProgram(argc, argv);
+        spectrum::runProgram(argc, argv);
+        return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "zulspectrum: %s\n", error.what());
         return 1;

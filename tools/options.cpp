@@ -18,12 +18,16 @@ struct Words {
     std::string input, family = "complex", flag = "backward", window = "none", format, output = "-";
     int length = 64, hop = 0, channel = 1, precision = 64;
     bool check = false;
+    int layoutLength = 0;
 };
 
 constexpr std::pair<const char*, std::int32_t> flagNames[] = {
     {"forward", DivFwdByN}, {"backward", DivInvByN}, {"ortho", DivBySqrtN}, {"none", NoDivByAny}};
 
 constexpr const char* footer =
+    "Families: complex is the DFT of all N bins; real is the DFT of real values, of the bins 0 to N/2, and the bins\n"
+    "above them mirror these.\n"
+    "\n"
     "The scale is 1/N in the forward transform (--flag forward or 1), 1/N in the inverse (backward or 2), 1/sqrt(N)\n"
     "in both (ortho or 4), or 1 (none or 8).\n"
     "\n"
@@ -39,7 +43,14 @@ constexpr const char* footer =
     "\n"
     "  zulspectrum voice.wav --length 60 --hop 30 --window hann --output voice.png\n"
     "  seq 100 | zulspectrum - --length 25 --format csv\n"
-    "  zulspectrum voice.wav --length 48 --check";
+    "  zulspectrum voice.wav --length 48 --check\n"
+    "  zulspectrum layout 8\n"
+    "\n"
+    "A file of the name layout is given as ./layout.";
+
+constexpr const char* layoutFooter =
+    "R3 stands for the real part of bin 3, I3 for its imaginary part, 0 for a slot that holds zero. The numbers of the\n"
+    "slots stand in the line above.";
 
 std::string versionText() {
     const LibVersion& library = *zulgenGetLibVersion();
@@ -93,10 +104,10 @@ Format formatOf(const Words& words) {
 }
 
 void declareTransform(CLI::App& app, Words& words) {
-    app.add_option("--length", words.length, "Points of one transform, 2 to 64; not every length exists")
+    app.add_option("--length", words.length, "Points of one transform, 2 to 64, where the family has them")
         ->type_name("N")
         ->capture_default_str();
-    app.add_option("--family", words.family, "Transform family: " + familyNames())
+    app.add_option("--family", words.family, "Transform family: " + familyNames() + " (see below)")
         ->type_name("NAME")
         ->capture_default_str();
     app.add_option("--flag", words.flag, "Scale: forward, backward, ortho, none, or 1, 2, 4, 8 (see below)")
@@ -112,7 +123,6 @@ void declareTransform(CLI::App& app, Words& words) {
 void declareInput(CLI::App& app, Words& words) {
     const CLI::Validator positive = CLI::Range(1, std::numeric_limits<int>::max()).description("");
     app.add_option("INPUT", words.input, "Sound file, text file, or - for numbers on standard input")
-        ->required()
         ->type_name("");
     app.add_option("--hop", words.hop, "Samples from the start of one frame to the next [the length]")
         ->type_name("N")
@@ -135,6 +145,15 @@ void declareOutput(CLI::App& app, Words& words) {
     app.set_version_flag("--version", versionText, "Print the version record of the library and exit");
 }
 
+void declareLayout(CLI::App& app, Words& words) {
+    const std::vector<CLI::Option*> others = app.get_options(
+        [](const CLI::Option* option) { return !option->check_name("--help") && !option->check_name("--version"); });
+    CLI::App& layout = *app.add_subcommand("layout", "Print which slot of the layouts CCS, Pack and Perm holds what");
+    layout.add_option("N", words.layoutLength, "Points of the real transform, 2 to 64")->required()->type_name("");
+    layout.footer(layoutFooter);
+    for (CLI::Option* option : others) layout.excludes(option);
+}
+
 }  // namespace
 
 std::string flagName(std::int32_t flag) {
@@ -144,21 +163,24 @@ std::string flagName(std::int32_t flag) {
     return std::to_string(flag);
 }
 
-std::optional<Options> readOptions(int argc, char** argv, int& exitCode) {
+Command readCommand(int argc, char** argv) {
     CLI::App app("Short-time spectra with the transforms of zulgenpx", "zulspectrum");
     Words words;
     declareInput(app, words);
     declareTransform(app, words);
     declareOutput(app, words);
+    declareLayout(app, words);
     app.footer(footer);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& done) {
-        exitCode = app.exit(done);
-        return std::nullopt;
+        app.exit(done);  // prints what is asked for
+        return {};
     } catch (const CLI::ParseError& error) {
         throw UserError(printable(error.what()));
     }
+    if (app.got_subcommand("layout")) return LayoutOptions{words.layoutLength};
+    if (words.input.empty()) throw UserError("INPUT is required");
     return Options{
         .input = words.input,
         .output = words.output,

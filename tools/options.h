@@ -3,8 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
+#include <variant>
 
 #include "family.h"
 
@@ -14,6 +14,7 @@ enum class Format { Text, Csv, Png };
 enum class Window { None, Hann };
 enum class Precision { Single, Double };
 
+// A run that makes spectra.
 struct Options {
     std::string input, output;  // "-" for the standard streams
     const Family* family;
@@ -27,8 +28,16 @@ struct Options {
     bool check;
 };
 
-// Nothing when the run ends here, as after --help: `exitCode` then is the program's. Throws UserError.
-std::optional<Options> readOptions(int argc, char** argv, int& exitCode);
+// The command `layout`: the slots of the layouts of one length.
+struct LayoutOptions {
+    int length;
+};
+
+// Nothing is left to be done after --help and --version.
+using Command = std::variant<std::monostate, LayoutOptions, Options>;
+
+// Throws UserError.
+Command readCommand(int argc, char** argv);
 
 // The scale as NumPy's `norm` argument calls it.
 std::string flagName(std::int32_t flag);

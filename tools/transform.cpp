@@ -40,15 +40,22 @@ ZulgStatus runInverse(const Family& family, int length, std::int32_t flag, const
 }
 
 // The tool's arrays bound the lengths that may be asked for at all.
-ZulgStatus tryLength(const Family& family, int length, std::int32_t flag) {
+ZulgStatus tryForward(const Family& family, int length, std::int32_t flag) {
     if (length < 1 || length > longestLength) return StatusSizeError;
     Bins bins;
     return runForward<double>(family, length, flag, {}, bins);
 }
 
-// Such as "2-10, 12, 14-16".
-std::string lengthsOf(const Family& family) {
-    const auto exists = [&](int length) { return tryLength(family, length, DivInvByN) == StatusOk; };
+// The two directions need not have the same lengths.
+ZulgStatus tryBothWays(const Family& family, int length, std::int32_t flag) {
+    const ZulgStatus status = tryForward(family, length, flag);
+    Bins points;
+    return status != StatusOk ? status : runInverse<double>(family, length, family.restoringFlag(flag), {}, points);
+}
+
+// The lengths for which `attempt` succeeds, such as "2-10, 12, 14-16".
+std::string lengthsOf(const Family& family, decltype(tryForward)& attempt) {
+    const auto exists = [&](int length) { return attempt(family, length, DivInvByN) == StatusOk; };
     std::string list;
     for (int first = 1; first <= longestLength; ++first) {
         if (!exists(first)) continue;
@@ -57,7 +64,7 @@ std::string lengthsOf(const Family& family) {
         list += (list.empty() ? "" : ", ") + std::to_string(first) + (last > first ? "-" + std::to_string(last) : "");
         first = last;
     }
-    return list;
+    return list.empty() ? "none" : list;
 }
 
 void expectOk(ZulgStatus status) {
@@ -68,13 +75,18 @@ void expectOk(ZulgStatus status) {
 
 Transform::Transform(const Options& options)
     : family(*options.family), length(options.length), flag(options.flag), precision(options.precision) {
-    const ZulgStatus status = tryLength(family, length, flag);
+    const ZulgStatus status = tryForward(family, length, flag);
     if (status == StatusSizeError) {
         throw UserError("--length " + std::to_string(length) + ": " + statusText(status) + "; the " +
-                        std::string(family.name) + " family has " + lengthsOf(family));
+                        std::string(family.name) + " family has " + lengthsOf(family, tryForward));
     }
     if (status == StatusFlagError) throw UserError("--flag " + std::to_string(flag) + ": " + statusText(status));
     expectOk(status);
+    if (options.check && tryBothWays(family, length, flag) == StatusSizeError) {
+        throw UserError("--check at --length " + std::to_string(length) + ": " + statusText(StatusSizeError) +
+                        " back to the samples; both ways, the " + std::string(family.name) + " family has " +
+                        lengthsOf(family, tryBothWays));
+    }
 }
 
 void Transform::forward(std::span<const double> samples, Bins& bins) const {

@@ -4,10 +4,12 @@ import cmath
 import csv
 import ctypes
 import io
+import itertools
 import math
 import os
 import pty
 import random
+import re
 import resource
 import select
 import struct
@@ -21,6 +23,7 @@ sys.dont_write_bytecode = True  # the tree stays clean
 import sound_files
 
 TOOL = ""
+LENGTHS = range(2, 65)
 FLAGS = {  # name, number: scale forward
     ("forward", "1"): lambda n: 1 / n,
     ("backward", "2"): lambda n: 1,
@@ -49,6 +52,24 @@ def cosine(length, k, count, amplitude=1.0, phase=0.0):
 def dft(frame):
     n = len(frame)
     return [sum(x * cmath.exp(-2j * math.pi * (i * k % n) / n) for i, x in enumerate(frame)) for k in range(n)]
+
+
+FAMILIES = {  # name: the routines there and back, and the bins of a frame without any scale
+    "complex": ("zulgDFTFwd_CToC_64fc", "zulgDFTInv_CToC_64fc", dft),
+    "real": ("zulgDFTFwd_RToCCS_64f", "zulgDFTInv_CCSToR_64f", lambda frame: dft(frame)[:len(frame) // 2 + 1]),
+}
+
+
+def library():
+    return ctypes.CDLL(os.path.join(os.path.dirname(os.path.abspath(TOOL)), "libzulgenpx-7.0.so"))
+
+
+def transformed(routine, values, length):
+    """What a routine of the library gives, without scale; nothing when it has no such length."""
+    given, result = (ctypes.c_double * 130)(*values), (ctypes.c_double * 130)()
+    status = getattr(library(), routine)(given, result, length, 8)
+    assert status in (0, -6), (routine, length, status)
+    return list(result) if status == 0 else None
 
 
 def brightness(point):
@@ -92,28 +113,50 @@ class ToolTest(unittest.TestCase):
 class Spectra(ToolTest):
     def test_cosine_lands_in_its_bin_at_each_flag(self):
         n, k, amplitude = 32, 5, 0.5
-        for words, scale in FLAGS.items():
-            for word in words:
-                for precision, tolerance in (("64", 1e-14), ("32", 1e-6)):
-                    rows = self.table("-", "--length", n, "--flag", word, "--precision", precision,
-                                      given=numbers(cosine(n, k, n, amplitude)))
-                    self.assertEqual(len(rows), n)
+        samples = cosine(n, k, n, amplitude)
+        for family, (_, _, spectrum) in FAMILIES.items():
+            for words, scale in FLAGS.items():
+                for word, (precision, tolerance) in itertools.product(words, (("64", 1e-14), ("32", 1e-6))):
+                    rows = self.table("-", "--length", n, "--family", family, "--flag", word, "--precision", precision,
+                                      given=numbers(samples))
+                    self.assertEqual(len(rows), len(spectrum(samples)))
                     for row in rows:
                         due = amplitude * n / 2 * scale(n) if int(row["bin"]) in (k, n - k) else 0
                         self.assertAlmostEqual(float(row["magnitude"]), due, delta=tolerance * n)
 
-    def test_every_length_that_exists_gives_its_dft(self):
-        source, lengths = random.Random(1), 0
-        for n in range(2, 65):
-            samples = [source.uniform(-1, 1) for _ in range(n)]
-            done = run("-", "--length", n, "--format", "csv", given=numbers(samples))
-            if done.returncode != 0:
-                self.refused("-", "--length", n, given=numbers(samples), says="no transform of this length")
-                continue
-            lengths += 1
-            for row, due in zip(csv.DictReader(io.StringIO(done.stdout.decode())), dft(samples), strict=True):
-                self.assertAlmostEqual(complex(float(row["re"]), float(row["im"])), due, delta=1e-13)
-        self.assertGreaterEqual(lengths, 35)
+    def test_lengths_are_those_of_the_library(self):
+        source = random.Random(1)
+        for family, (forward, inverse, spectrum) in FAMILIES.items():
+            lengths = 0
+            for n in LENGTHS:
+                samples = [source.uniform(-1, 1) for _ in range(n)]
+                arguments, given = ["-", "--length", n, "--family", family], numbers(samples)
+                there = transformed(forward, [], n) is not None
+                back = transformed(inverse, [], n) is not None
+                if not there:
+                    self.refused(*arguments, given=given, says=["--length %d" % n, "no transform of this length"])
+                    continue
+                rows = self.table(*arguments, given=given)
+                for row, due in zip(rows, spectrum(samples), strict=True):
+                    self.assertAlmostEqual(complex(float(row["re"]), float(row["im"])), due, delta=1e-13)
+                if not back:
+                    self.refused(*arguments, "--check", given=given, says=["--check", "no transform of this length"])
+                    continue
+                report = self.ok(*arguments, "--check", given=given).decode()
+                self.assertLess(float(re.search(r"relative error +(\S+) after", report)[1]), 1e-15)
+                lengths += 1
+            self.assertGreaterEqual(lengths, 35, family)
+
+    def test_all_families_show_the_same_magnitudes(self):
+        source = random.Random(3)
+        for n in (15, 16):
+            given = numbers([source.uniform(-1, 1) for _ in range(n)])
+            tables = [self.table("-", "--length", n, "--family", family, "--flag", "ortho", given=given)
+                      for family in FAMILIES]
+            for rows in zip(*tables):  # ends with the shortest
+                self.assertEqual(len({(row["bin"], row["frequency"]) for row in rows}), 1)
+                for row in rows[1:]:
+                    self.assertAlmostEqual(float(row["magnitude"]), float(rows[0]["magnitude"]), delta=1e-14)
 
     def test_window(self):
         n = 16
@@ -137,10 +180,10 @@ class Spectra(ToolTest):
     def test_check_error_is_small(self):
         source = random.Random(2)
         samples = [source.uniform(-1, 1) for _ in range(1000)]
-        for words in FLAGS:
+        for family, words in itertools.product(FAMILIES, FLAGS):
             for precision, limit in (("64", 1e-15), ("32", 1.5e-7)):
                 report = self.ok("-", "--length", 60, "--hop", 45, "--window", "hann", "--flag", words[0], "--check",
-                                 "--precision", precision, given=numbers(samples)).decode()
+                                 "--family", family, "--precision", precision, given=numbers(samples)).decode()
                 found = dict(line.split(None, 1) for line in report.splitlines())
                 self.assertEqual(found["input"], "standard input, 1000 samples")
                 self.assertEqual(found["transforms"], "22 of 60 points each way")
@@ -171,6 +214,14 @@ class Tables(ToolTest):
         self.assertEqual(text[1:5], ["0,0,0,0,10,0,10", "0,0,1,0.25,-2,2,2.8284271247461903", "0,0,2,0.5,-2,0,2",
                                      "0,0,3,-0.25,-2,-2,2.8284271247461903"])
         self.assertEqual([line.split(",")[:3] for line in text[5:]], [["1", "4", str(k)] for k in range(4)])
+
+    def test_real_family_ends_in_the_middle(self):
+        text = self.ok("-", "--length", 4, "--family", "real", "--format", "csv", given=b"1 2 3 4 5 6 7 9").decode()
+        self.assertEqual(text.splitlines()[1:], ["0,0,0,0,10,0,10", "0,0,1,0.25,-2,2,2.8284271247461903",
+                                                 "0,0,2,0.5,-2,0,2", "1,4,0,0,27,0,27",
+                                                 "1,4,1,0.25,-2,3,3.605551275463989", "1,4,2,0.5,-3,0,3"])
+        rows = self.table("-", "--length", 5, "--family", "real", given=b"1 2 3 4 5")
+        self.assertEqual([row["frequency"] for row in rows], ["0", "0.2", "0.4"])
 
     def test_text_holds_the_same_numbers_as_csv(self):
         given = numbers(cosine(20, 3, 50))
@@ -274,10 +325,11 @@ class Pictures(ToolTest):
         n = 16
         samples = [round(9000 * x) for k in (2, 7) for x in cosine(n, k, 5 * n)]
         path, out = self.path("two.wav", sound_files.wav([samples], rate=16000)), self.path("two.png")
-        self.assertEqual(self.ok(path, "--length", n, "--output", out), b"")
-        with open(out, "rb") as file:
-            plot, across, down = self.plot(file.read(), columns=10, bins=9)
-        self.assertEqual([self.brightest(plot, across, down, c) for c in range(10)], [2] * 5 + [7] * 5)
+        for family in FAMILIES:
+            self.assertEqual(self.ok(path, "--length", n, "--family", family, "--output", out), b"")
+            with open(out, "rb") as file:
+                plot, across, down = self.plot(file.read(), columns=10, bins=9)
+            self.assertEqual([self.brightest(plot, across, down, c) for c in range(10)], [2] * 5 + [7] * 5)
 
     def test_pixels_of_a_bin_are_alike(self):
         plot, across, down = self.plot(self.ok("-", "--length", 8, "--format", "png", given=numbers(cosine(8, 1, 24))),
@@ -310,20 +362,111 @@ class Pictures(ToolTest):
         self.assertLess(max(colours.pop()), 60)
 
 
+def layout_rule(n):
+    """What each slot holds, by layout."""
+    middle, even = "R%d" % (n // 2), n % 2 == 0
+    ccs = {0: "R0", 1: "0"} | ({n: middle, n + 1: "0"} if even else {})
+    pack = {0: "R0"} | ({n - 1: middle} if even else {})
+    perm = {0: "R0"} | ({1: middle} if even else {})
+    for k in range(1, (n + 1) // 2):
+        for layout, real in ((ccs, 2 * k), (pack, 2 * k - 1), (perm, 2 * k if even else 2 * k - 1)):
+            layout |= {real: "R%d" % k, real + 1: "I%d" % k}
+    return {"CCS": ccs, "Pack": pack, "Perm": perm}
+
+
+class Layouts(ToolTest):
+    def layouts(self, n):
+        """What each slot holds, by layout, read as a person does: the number of a slot stands above."""
+        found = {"CCS": {}, "Pack": {}, "Perm": {}}
+        for line in self.ok("layout", n).decode().split("\n"):
+            self.assertLessEqual(len(line), 80)
+            self.assertEqual(line, line.rstrip())
+            if not line:
+                continue
+            name, *cells = re.finditer(r"\S+", line)
+            if name[0] == "slot":
+                numbers_above = {cell.start(): int(cell[0]) for cell in cells}
+                continue
+            for cell in cells:
+                slot = numbers_above[cell.start()]
+                self.assertNotIn(slot, found[name[0]])
+                found[name[0]][slot] = cell[0]
+        return found
+
+    def test_short_length(self):
+        self.assertEqual(self.ok("layout", 4), b"slot  0   1   2   3   4   5\n"
+                                               b"CCS   R0  0   R1  I1  R2  0\n"
+                                               b"Pack  R0  R1  I1  R2\n"
+                                               b"Perm  R0  R2  R1  I1\n")
+
+    def test_every_length_is_as_the_rule_says(self):
+        for n in LENGTHS:
+            rule = layout_rule(n)
+            self.assertEqual(self.layouts(n), rule, n)
+            self.assertEqual([sorted(layout) for layout in rule.values()],
+                             [list(range(count)) for count in (n // 2 * 2 + 2, n, n)])
+
+    def test_library_fills_the_slots_that_are_told(self):
+        source, compared = random.Random(4), 0
+        for n in LENGTHS:
+            samples = [source.uniform(-1, 1) for _ in range(n)]
+            bins = dft(samples)
+            for name, slots in self.layouts(n).items():
+                values = transformed("zulgDFTFwd_RTo%s_64f" % name, samples, n)
+                for slot, held in slots.items() if values else ():
+                    if held == "0":
+                        self.assertEqual(str(values[slot]), "0.0", (n, name, slot))
+                        continue
+                    due = bins[int(held[1:])]
+                    self.assertAlmostEqual(values[slot], due.real if held[0] == "R" else due.imag, delta=1e-13)
+                    compared += 1
+        self.assertGreater(compared, 1000)
+
+    def test_refusals(self):
+        for word in ("65", "1", "0", "-4"):
+            self.refused("layout", word, says=["layout " + word, "2 to 64"])
+        for word in ("many", "4.5", "99999999999999"):
+            self.refused("layout", word, says=["N", word])
+        self.refused("layout", says="N is required")
+        self.refused("layout", "4", "5", says="5")
+        self.refused("layout", "4", "--check", says="--check")
+        self.refused("--length", "8", "layout", "4", says=["layout", "--length"])
+        self.refused("-", "layout", "4", says=["layout", "INPUT"], given=b"1 2 3 4 " * 16)
+        with open("/dev/full", "wb") as full:
+            self.refused("layout", "8", stdout=full, says="cannot write standard output")
+
+    def test_files_of_that_name(self):
+        folder = self.folder.name
+        self.path("layout", b"1 2 3 4")
+        done = run("./layout", "--length", 4, "--output", "layout", cwd=folder)
+        self.assertEqual((done.returncode, done.stderr), (1, b"zulspectrum: --output layout: that is the input itself\n"))
+        done = run("-", "--length", 4, "--format", "csv", "--output", "layout", given=b"1 2 3 4", cwd=folder)
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        with open(os.path.join(folder, "layout"), "rb") as file:
+            self.assertTrue(file.read().startswith(b"frame,"))
+
+    def test_help(self):
+        text = self.ok("layout", "--help").decode()
+        for word in ("2 to 64", "R3", "I3"):
+            self.assertIn(word, text)
+
+
 class Options(ToolTest):
     def test_help_and_version(self):
         text = self.ok("--help").decode()
+        for family in FAMILIES:
+            self.assertIn(family + " is the ", text)
         for word in ("--length", "--family", "--flag", "--hop", "--window", "--channel", "--precision", "--format",
-                     "--output", "--check", "--version", "filled up with zeros"):
+                     "--output", "--check", "--version", "filled up with zeros", "layout"):
             self.assertIn(word, text)
 
         class Version(ctypes.Structure):
             _fields_ = [(name, ctypes.c_int32) for name in ("major", "minor", "major_build", "build")] + [
                 ("cpu", ctypes.c_char * 4), ("name", ctypes.c_char_p), ("version", ctypes.c_char_p),
                 ("date", ctypes.c_char_p)]
-        library = ctypes.CDLL(os.path.join(os.path.dirname(os.path.abspath(TOOL)), "libzulgenpx-7.0.so"))
-        library.zulgenGetLibVersion.restype = ctypes.POINTER(Version)
-        version = library.zulgenGetLibVersion().contents
+        ask = library().zulgenGetLibVersion
+        ask.restype = ctypes.POINTER(Version)
+        version = ask().contents
         text = self.ok("--version").decode()
         for word in (version.name.decode(), version.version.decode(), version.date.decode(), version.cpu.decode(),
                      "%d.%d.%d.%d" % (version.major, version.minor, version.major_build, version.build)):
@@ -372,7 +515,7 @@ class Errors(ToolTest):
                 (["-", "--length", "0"], ["--length 0", "no transform of this length"]),
                 (["-", "--length", "-4"], ["--length -4", "no transform of this length"]),
                 (["-", "--length", "99999999999999"], "--length"),
-                (["-", "--family", "fancy"], ["--family fancy", "no such family", "complex"]),
+                (["-", "--family", "fancy"], ["--family fancy", "no such family", *FAMILIES]),
                 (["-", "--flag", "3"], ["--flag 3", "none of 1, 2, 4, 8"]),
                 (["-", "--flag", "0"], ["--flag 0", "none of 1, 2, 4, 8"]),
                 (["-", "--flag", "sideways"], ["--flag sideways", "backward"]),

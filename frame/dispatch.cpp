@@ -20,6 +20,8 @@ template Status ZULG_CALL dispatch<Family::DFTInv_PackToR, float>(const float*, 
 template Status ZULG_CALL dispatch<Family::DFTInv_PackToR, double>(const double*, double*, std::int32_t, std::int32_t);
 template Status ZULG_CALL dispatch<Family::DFTInv_PermToR, float>(const float*, float*, std::int32_t, std::int32_t);
 template Status ZULG_CALL dispatch<Family::DFTInv_PermToR, double>(const double*, double*, std::int32_t, std::int32_t);
+template Status ZULG_CALL dispatch<Family::Hartley, float>(const float*, float*, std::int32_t, std::int32_t);
+template Status ZULG_CALL dispatch<Family::Hartley, double>(const double*, double*, std::int32_t, std::int32_t);
 // clang-format on
 
 }  // namespace zulg

@@ -17,7 +17,8 @@ enum class Family {
     DFTFwd_RToPerm,
     DFTInv_CCSToR,
     DFTInv_PackToR,
-    DFTInv_PermToR
+    DFTInv_PermToR,
+    Hartley
 };
 
 constexpr int shortestLength = 2, longestLength = 64;

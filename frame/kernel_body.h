@@ -14,13 +14,20 @@ template <int length>
 struct RealForwardGraph;
 template <int length>
 struct RealInverseGraph;
+template <int length>
+struct HartleyGraph;
 
-// What the flags mean: forward families divide by N at one flag, inverse ones at the other.
+// What the flags mean: forward families divide by N at one flag, inverse ones at the other, the Hartley transform,
+// which is its own inverse, at both.
 struct ForwardFlags {
     static constexpr bool isDivided(std::int32_t flag) { return flag == DivFwdByN; }
 };
 struct InverseFlags {
     static constexpr bool isDivided(std::int32_t flag) { return flag == DivInvByN; }
+};
+
+struct InvolutionFlags {
+    static constexpr bool isDivided(std::int32_t) { return true; }
 };
 
 // What a family is made of: flags, graph and ports.
@@ -72,6 +79,14 @@ template <>
 struct Parts<Family::DFTInv_PackToR> : RealInverse<Layout::Pack> {};
 template <>
 struct Parts<Family::DFTInv_PermToR> : RealInverse<Layout::Perm> {};
+
+template <>
+struct Parts<Family::Hartley> : InvolutionFlags {
+    template <int length>
+    using Graph = HartleyGraph<length>;
+    template <class Element, int length>
+    using Ports = RealPorts<Element>;
+};
 
 // The stored factors of one length: of the width of the data, 1/N exact and rounded once, 1/sqrt(N) the double of the
 // graph rounded on.

@@ -69,6 +69,15 @@ struct ExchangedPorts : Arrays<Element> {
     ZULG_INLINE void im(int k, Value value) const { this->store(2 * k, value); }
 };
 
+// Real values to real values.
+template <class Element>
+struct RealPorts : Arrays<Element> {
+    using Value = double;
+
+    ZULG_INLINE Value in(int n) const { return this->load(n); }
+    ZULG_INLINE void out(int k, Value value) const { this->store(k, value); }
+};
+
 // The three layouts of a half spectrum, as the slots of the parts of bin k, 0 <= k <= length/2.
 //
 //     length 4   CCS   R0 0 R1 I1 R2 0      Pack  R0 R1 I1 R2      Perm  R0 R2 R1 I1

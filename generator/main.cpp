@@ -19,7 +19,7 @@ constexpr const char* usage =
     "       generate list FAMILY N    prints the graph itself, one node to a line\n"
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
-    "FAMILY: complex, real_forward, real_inverse.  The tree is the working folder.\n";
+    "FAMILY: complex, real_forward, real_inverse, hartley.  The tree is the working folder.\n";
 
 const gen::GraphEntry& find(const std::string& family, const std::string& length) {
     for (const gen::GraphEntry& entry : gen::allGraphs()) {

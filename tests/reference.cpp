@@ -64,4 +64,17 @@ Values inverseRealTransform(const Values& bins, int length) {
     return y;
 }
 
+Values hartleyTransform(const Values& x) {
+    const int length = static_cast<int>(x.size());
+    Values result;
+    for (int k = 0; k < length; ++k) {
+        Wide sum = 0;
+        for (int j = 0; j < length; ++j) {
+            sum += x[static_cast<std::size_t>(j)] * (cosTurn(j * k, length) + sinTurn(j * k, length));
+        }
+        result.push_back(sum);
+    }
+    return result;
+}
+
 }  // namespace test

@@ -21,4 +21,7 @@ Values realTransform(const Values& x);
 // The N real values whose spectrum has these bins 0 .. N/2, times N; imaginary parts of real bins are not looked at.
 Values inverseRealTransform(const Values& bins, int length);
 
+// sum over j of x[j] (cos + sin)(2 pi j k/N) for each k.
+Values hartleyTransform(const Values& x);
+
 }  // namespace test

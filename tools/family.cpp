@@ -40,6 +40,21 @@ ZulgStatus realInverse(const std::complex<T>* bins, std::complex<T>* points, int
     return status;
 }
 
+template <typename T, auto routine>
+ZulgStatus hartleyForward(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
+    std::array<T, longestLength> values{};
+    const ZulgStatus status = routine(samples, values.data(), length, flag);
+    std::copy_n(values.begin(), length, bins);
+    return status;
+}
+
+template <typename T, auto routine>
+ZulgStatus hartleyInverse(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
+    std::array<T, longestLength> values;
+    std::transform(bins, bins + length, values.begin(), [](std::complex<T> bin) { return bin.real(); });
+    return hartleyForward<T, routine>(values.data(), points, length, flag);
+}
+
 // Samples are real, so that the bins above the middle only mirror the others.
 int countToMiddle(int length) { return length / 2 + 1; }
 
@@ -47,8 +62,22 @@ double signedFrequency(int bin, int length) { return double(bin <= length / 2 ? 
 
 double complexMagnitude(ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); }
 
+// A Hartley bin is the sum of the cosine and the sine part of its frequency, the bin of the negative frequency their
+// difference; the two parts are those of the complex bin.
+double hartleyMagnitude(ConstBins bins, int bin) {
+    const std::size_t k = static_cast<std::size_t>(bin);
+    const double here = bins[k].real(), there = bins[(bins.size() - k) % bins.size()].real();
+    return std::abs(std::complex(here + there, here - there)) / 2;
+}
+
 // Of a pair of routines that share out the scale between them.
 std::int32_t flagOfInverse(std::int32_t flag) { return flag == NoDivByAny ? DivInvByN : flag; }
+
+// Of a routine that is its own inverse and divides by N both at DivFwdByN and at DivInvByN.
+std::int32_t flagOfInvolution(std::int32_t flag) {
+    if (flag == NoDivByAny) return DivInvByN;
+    return flag == DivBySqrtN ? DivBySqrtN : NoDivByAny;
+}
 
 constexpr Family families[] = {
     {
@@ -70,6 +99,16 @@ constexpr Family families[] = {
         .restoringFlag = flagOfInverse,
         .single = {realForward<float, zulgDFTFwd_RToCCS_32f>, realInverse<float, zulgDFTInv_CCSToR_32f>},
         .wide = {realForward<double, zulgDFTFwd_RToCCS_64f>, realInverse<double, zulgDFTInv_CCSToR_64f>},
+    },
+    {
+        .name = "hartley",
+        .binCount = [](int length) { return length; },
+        .shownCount = countToMiddle,
+        .frequency = signedFrequency,
+        .magnitude = hartleyMagnitude,
+        .restoringFlag = flagOfInvolution,
+        .single = {hartleyForward<float, zulgHartley_32f>, hartleyInverse<float, zulgHartley_32f>},
+        .wide = {hartleyForward<double, zulgHartley_64f>, hartleyInverse<double, zulgHartley_64f>},
     },
 };
 

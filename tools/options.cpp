@@ -26,10 +26,12 @@ constexpr std::pair<const char*, std::int32_t> flagNames[] = {
 
 constexpr const char* footer =
     "Families: complex is the DFT of all N bins; real is the DFT of real values, of the bins 0 to N/2, and the bins\n"
-    "above them mirror these.\n"
+    "above them mirror these; hartley is the Hartley transform, N real bins. Its magnitudes, of the bins k and N-k,\n"
+    "are those of the complex family but for the scale.\n"
     "\n"
     "The scale is 1/N in the forward transform (--flag forward or 1), 1/N in the inverse (backward or 2), 1/sqrt(N)\n"
-    "in both (ortho or 4), or 1 (none or 8).\n"
+    "in both (ortho or 4), or 1 (none or 8). Of hartley, which is its own inverse, the forward transform has 1/N both\n"
+    "with forward and with backward.\n"
     "\n"
     "INPUT is a sound file (WAV, FLAC), a text file of real numbers, or - for numbers on standard input. Numbers are\n"
     "separated by white space or commas; # starts a comment. Frames start every --hop samples. When samples remain\n"
@@ -49,8 +51,8 @@ constexpr const char* footer =
     "A file of the name layout is given as ./layout.";
 
 constexpr const char* layoutFooter =
-    "R3 stands for the real part of bin 3, I3 for its imaginary part, 0 for a slot that holds zero. The numbers of the\n"
-    "slots stand in the line above.";
+    "R3 stands for the real part of bin 3, I3 for its imaginary part, 0 for a slot that holds zero. The numbers of\n"
+    "the slots stand in the line above.";
 
 std::string versionText() {
     const LibVersion& library = *zulgenGetLibVersion();

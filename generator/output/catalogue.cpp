@@ -5,6 +5,8 @@
 #include "graph/merge.h"
 #include "graph/turn.h"
 #include "rules/blocks.h"
+#include "rules/hartley.h"
+#include "rules/tables.h"
 
 namespace gen {
 namespace {
@@ -51,6 +53,15 @@ std::unique_ptr<Graph> buildRealInverse(int length) {
     return merged(std::move(graph));
 }
 
+std::unique_ptr<Graph> buildHartley(int length) {
+    auto graph = std::make_unique<Graph>();
+    RealSignal x;
+    for (int n = 0; n < length; ++n) x.push_back(graph->load(n));
+    const RealSignal y = hartley(x);
+    for (int k = 0; k < length; ++k) graph->store(k, y[static_cast<std::size_t>(k)]);
+    return merged(std::move(graph));
+}
+
 const std::vector<GraphFamily> families = {
     {.word = "complex",
      .graphTemplate = "ComplexGraph",
@@ -61,8 +72,7 @@ const std::vector<GraphFamily> families = {
      .complexInput = true,
      .complexOutput = true,
      .allowsNegation = false,
-     .recipes = complexRecipes,
-     .recipeText = complexText,
+     .recipe = [](int length) { return complexText(complexRecipe(length)); },
      .build = buildComplex},
     {.word = "real_forward",
      .graphTemplate = "RealForwardGraph",
@@ -73,8 +83,7 @@ const std::vector<GraphFamily> families = {
      .complexInput = false,
      .complexOutput = true,
      .allowsNegation = true,
-     .recipes = realForwardRecipes,
-     .recipeText = realText,
+     .recipe = [](int length) { return realText(realForwardRecipe(length)); },
      .build = buildRealForward},
     {.word = "real_inverse",
      .graphTemplate = "RealInverseGraph",
@@ -85,9 +94,19 @@ const std::vector<GraphFamily> families = {
      .complexInput = true,
      .complexOutput = false,
      .allowsNegation = false,
-     .recipes = realInverseRecipes,
-     .recipeText = realText,
+     .recipe = [](int length) { return realText(realInverseRecipe(length)); },
      .build = buildRealInverse},
+    {.word = "hartley",
+     .graphTemplate = "HartleyGraph",
+     .filePrefix = "dht_",
+     .title = "Hartley transform of %d points",
+     .exported = {"Hartley"},
+     .suffixTail = "f",
+     .complexInput = false,
+     .complexOutput = false,
+     .allowsNegation = false,
+     .recipe = [](int length) { return "form " + hartleyText(length); },
+     .build = buildHartley},
 };
 
 struct Width {
@@ -99,7 +118,7 @@ constexpr Width widths[] = {{"32", "float"}, {"64", "double"}};
 std::vector<GraphEntry> listGraphs() {
     std::vector<GraphEntry> graphs;
     for (const GraphFamily& family : families) {
-        for (const Recipe& recipe : family.recipes()) graphs.push_back({&family, recipe.length});
+        for (int length = 2; length <= 64; ++length) graphs.push_back({&family, length});
     }
     return graphs;
 }
@@ -138,10 +157,6 @@ std::string GraphEntry::file() const {
 std::string GraphEntry::title() const {
     std::string title = family->title;
     return title.replace(title.find("%d"), 2, std::to_string(length));
-}
-
-std::string GraphEntry::recipe() const {
-    return family->recipeText(*std::ranges::find(family->recipes(), length, &Recipe::length));
 }
 
 const std::vector<GraphEntry>& allGraphs() {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "graph/graph.h"
-#include "rules/tables.h"
 
 namespace gen {
 
@@ -21,8 +20,7 @@ struct GraphFamily {
     bool complexInput, complexOutput;   // whether inputs and outputs go by (number, part) or by number
     bool allowsNegation;                // whether an output may be stored with its sign turned
 
-    const std::vector<Recipe>& (*recipes)();
-    std::string (*recipeText)(const Recipe& recipe);
+    std::string (*recipe)(int length);
     std::unique_ptr<Graph> (*build)(int length);
 };
 
@@ -34,7 +32,7 @@ struct GraphEntry {
     std::string name() const { return family->word + " " + std::to_string(length); }
     std::string file() const;
     std::string title() const;
-    std::string recipe() const;
+    std::string recipe() const { return family->recipe(length); }
     std::unique_ptr<Graph> build() const { return family->build(length); }
 };
 

@@ -18,8 +18,9 @@ RealSignal sumAndDifference(const HalfSpectrum& bins) {
     return {bins.real(0) + bins.real(1), bins.real(0) - bins.real(1)};
 }
 
-// Direct symmetric form of 3, 5, 7: y[m] = E_m - O_m, y[p - m] = E_m + O_m, with E_m = X[0] + sum of d[k] cos and
-// O_m = sum of e[k] sin of 2 pi a k m/p, d and e the parts of the bins.
+// Direct symmetric form of 3, 5, 7 (and 11 where a row says so): y[m] = E_m - O_m, y[p - m] = E_m + O_m, with E_m =
+// X[0] plus the sum of d[k] cos and O_m the sum of e[k] sin of 2 pi k m/p, d and e the parts of the bins. The rotated
+// block is the plain one with its outputs renamed.
 RealSignal direct(const HalfSpectrum& bins, int a) {
     const int p = bins.length();
     std::vector<int> numbers;
@@ -29,13 +30,15 @@ RealSignal direct(const HalfSpectrum& bins, int a) {
         d.push_back(bins.at(k).re);
         e.push_back(bins.at(k).im);
     }
-    RealSignal y(static_cast<size_t>(p), sumInOrder(d) + bins.real(0));
+    RealSignal plain(static_cast<size_t>(p), sumInOrder(d) + bins.real(0));
     for (int m = 1; m <= bins.half(); ++m) {
-        const Value even = cosineSum(bins.real(0), d, numbers, a * m, p), odd = sineSum(e, numbers, a * m, p);
-        y[static_cast<size_t>(m)] = even - odd;
-        y[static_cast<size_t>(p - m)] = even + odd;
+        const Value even = cosineSum(bins.real(0), d, numbers, m, p), odd = sineSum(e, numbers, m, p);
+        plain[static_cast<size_t>(m)] = even - odd;
+        plain[static_cast<size_t>(p - m)] = even + odd;
     }
-    return y;
+    RealSignal rotated;
+    for (int m = 0; m < p; ++m) rotated.push_back(plain[static_cast<size_t>(modulo(a * m, p))]);
+    return rotated;
 }
 
 // The final stage of both constructions: the values of all rows at one place are a half spectrum of the final length.

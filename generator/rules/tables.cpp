@@ -277,7 +277,7 @@ std::vector<int> realForwardTurns(int length) {
     switch (length) {
         case 13: return {40, 126};
         case 26: return {124, 131};
-        case 29: return {475};
+        case 29: return {476};
         case 37: return {371, 588};
         case 39: return {397, 443};
         case 52: return {531, 545};
@@ -286,6 +286,16 @@ std::vector<int> realForwardTurns(int length) {
         default: return {};
     }
 }
+
+HartleyForm hartleyForm(int length) {
+    // Lengths 2 to 64.
+    constexpr char forms[] = "FFFFFFFFIFIIIIFFIFIFFIFIFIIFIIIIIIIIFFIFIIIIIFIFFIFIIIIFFFIFIFI";
+    return forms[length - 2] == 'F' ? HartleyForm::F : HartleyForm::I;
+}
+
+bool isHartleyReversed(int length) { return length == 11 || length == 21 || length == 41 || length == 50; }
+
+std::string hartleyText(int length) { return hartleyForm(length) == HartleyForm::F ? "F" : "I"; }
 
 std::string complexText(const Recipe& recipe) {
     switch (recipe.construction) {

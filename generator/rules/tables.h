@@ -43,6 +43,12 @@ const Recipe& complexRecipe(int length);
 const Recipe& realForwardRecipe(int length);
 const Recipe& realInverseRecipe(int length);
 
+// The form of the Hartley transform of a length: around the forward or the inverse real graph. In form F the sign of
+// the exponent is reversed at some lengths, which is of no effect but on the split into additions and subtractions.
+enum class HartleyForm { F, I };
+HartleyForm hartleyForm(int length);
+bool isHartleyReversed(int length);
+
 // Differences of the finished forward real graph of a length that are formed the other way round, by their numbers in
 // that graph. No rule of signs gives the settled number of negated outputs at these lengths; one or two turns each do.
 std::vector<int> realForwardTurns(int length);
@@ -50,5 +56,6 @@ std::vector<int> realForwardTurns(int length);
 // As people write it: "prime-factor, order 3, 5" in the complex family, "prime-factor 3, 5" in the real ones.
 std::string complexText(const Recipe& recipe);
 std::string realText(const Recipe& recipe);
+std::string hartleyText(int length);
 
 }  // namespace gen

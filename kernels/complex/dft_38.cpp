@@ -497,8 +497,8 @@ struct ComplexGraph<38> {
         const V t367 = c0 * t359;
         const V t368 = t348 - t367;
         const V t369 = c1 * t358;
-        const V t370 = t368 + t369;
-        const V t371 = t368 - t369;
+        const V t370 = t368 - t369;
+        const V t371 = t368 + t369;
         // complex block of 3, multiplier 2
         const V t372 = t362 + t354;
         const V t373 = t363 + t355;
@@ -528,33 +528,33 @@ struct ComplexGraph<38> {
         const V t395 = c0 * t377;
         const V t396 = t366 - t395;
         const V t397 = c1 * t376;
-        const V t398 = t396 + t397;
-        const V t399 = t396 - t397;
+        const V t398 = t396 - t397;
+        const V t399 = t396 + t397;
         // spectrum block of 3, multiplier 2
-        const V t400 = t390 + t370;
+        const V t400 = t390 + t371;
         const V t401 = c0 * t390;
-        const V t402 = t370 - t401;
+        const V t402 = t371 - t401;
         const V t403 = c24 * t386;
         const V t404 = c25 * t387;
         const V t405 = t403 + t404;
-        const V t406 = t402 + t405;
-        const V t407 = t402 - t405;
+        const V t406 = t402 - t405;
+        const V t407 = t402 + t405;
         // spectrum block of 3, multiplier 2
-        const V t408 = t371 - t393;
+        const V t408 = t370 - t393;
         const V t409 = c0 * t393;
-        const V t410 = t409 + t371;
+        const V t410 = t409 + t370;
         const V t411 = c26 * t385;
         const V t412 = c27 * t384;
         const V t413 = t411 - t412;
-        const V t414 = t410 + t413;
-        const V t415 = t410 - t413;
+        const V t414 = t410 - t413;
+        const V t415 = t410 + t413;
         // spectrum block of 3, multiplier 2
         const V t416 = t361 + t349;
         const V t417 = c0 * t361;
         const V t418 = t349 - t417;
         const V t419 = c1 * t360;
-        const V t420 = t418 + t419;
-        const V t421 = t418 - t419;
+        const V t420 = t418 - t419;
+        const V t421 = t418 + t419;
         // complex block of 3, multiplier 2
         const V t422 = t364 + t356;
         const V t423 = t365 + t357;
@@ -584,26 +584,26 @@ struct ComplexGraph<38> {
         const V t445 = c0 * t427;
         const V t446 = t416 - t445;
         const V t447 = c1 * t426;
-        const V t448 = t446 + t447;
-        const V t449 = t446 - t447;
+        const V t448 = t446 - t447;
+        const V t449 = t446 + t447;
         // spectrum block of 3, multiplier 2
-        const V t450 = t440 + t420;
+        const V t450 = t440 + t421;
         const V t451 = c0 * t440;
-        const V t452 = t420 - t451;
+        const V t452 = t421 - t451;
         const V t453 = c24 * t436;
         const V t454 = c25 * t437;
         const V t455 = t453 + t454;
-        const V t456 = t452 + t455;
-        const V t457 = t452 - t455;
+        const V t456 = t452 - t455;
+        const V t457 = t452 + t455;
         // spectrum block of 3, multiplier 2
-        const V t458 = t421 - t443;
+        const V t458 = t420 - t443;
         const V t459 = c0 * t443;
-        const V t460 = t459 + t421;
+        const V t460 = t459 + t420;
         const V t461 = c26 * t435;
         const V t462 = c27 * t434;
         const V t463 = t461 - t462;
-        const V t464 = t460 + t463;
-        const V t465 = t460 - t463;
+        const V t464 = t460 - t463;
+        const V t465 = t460 + t463;
         // spectrum block of 2
         const V t466 = t249 + t347;
         const V t467 = t249 - t347;
@@ -632,8 +632,8 @@ struct ComplexGraph<38> {
         const V t485 = c0 * t477;
         const V t486 = t466 - t485;
         const V t487 = c1 * t476;
-        const V t488 = t486 + t487;
-        const V t489 = t486 - t487;
+        const V t488 = t486 - t487;
+        const V t489 = t486 + t487;
         // complex block of 3, multiplier 2
         const V t490 = t472 - t480;
         const V t491 = t481 + t473;
@@ -663,33 +663,33 @@ struct ComplexGraph<38> {
         const V t513 = c0 * t495;
         const V t514 = t484 - t513;
         const V t515 = c1 * t494;
-        const V t516 = t514 + t515;
-        const V t517 = t514 - t515;
+        const V t516 = t514 - t515;
+        const V t517 = t514 + t515;
         // spectrum block of 3, multiplier 2
-        const V t518 = t508 + t488;
+        const V t518 = t508 + t489;
         const V t519 = c0 * t508;
-        const V t520 = t488 - t519;
+        const V t520 = t489 - t519;
         const V t521 = c24 * t504;
         const V t522 = c25 * t505;
         const V t523 = t521 + t522;
-        const V t524 = t520 + t523;
-        const V t525 = t520 - t523;
+        const V t524 = t520 - t523;
+        const V t525 = t520 + t523;
         // spectrum block of 3, multiplier 2
-        const V t526 = t489 - t511;
+        const V t526 = t488 - t511;
         const V t527 = c0 * t511;
-        const V t528 = t527 + t489;
+        const V t528 = t527 + t488;
         const V t529 = c26 * t503;
         const V t530 = c27 * t502;
         const V t531 = t529 - t530;
-        const V t532 = t528 + t531;
-        const V t533 = t528 - t531;
+        const V t532 = t528 - t531;
+        const V t533 = t528 + t531;
         // spectrum block of 3, multiplier 2
         const V t534 = t479 + t467;
         const V t535 = c0 * t479;
         const V t536 = t467 - t535;
         const V t537 = c1 * t478;
-        const V t538 = t536 + t537;
-        const V t539 = t536 - t537;
+        const V t538 = t536 - t537;
+        const V t539 = t536 + t537;
         // complex block of 3, multiplier 2
         const V t540 = t482 - t474;
         const V t541 = t483 + t475;
@@ -719,26 +719,26 @@ struct ComplexGraph<38> {
         const V t563 = c0 * t545;
         const V t564 = t534 - t563;
         const V t565 = c1 * t544;
-        const V t566 = t564 + t565;
-        const V t567 = t564 - t565;
+        const V t566 = t564 - t565;
+        const V t567 = t564 + t565;
         // spectrum block of 3, multiplier 2
-        const V t568 = t558 + t538;
+        const V t568 = t558 + t539;
         const V t569 = c0 * t558;
-        const V t570 = t538 - t569;
+        const V t570 = t539 - t569;
         const V t571 = c24 * t554;
         const V t572 = c25 * t555;
         const V t573 = t571 + t572;
-        const V t574 = t570 + t573;
-        const V t575 = t570 - t573;
+        const V t574 = t570 - t573;
+        const V t575 = t570 + t573;
         // spectrum block of 3, multiplier 2
-        const V t576 = t539 - t561;
+        const V t576 = t538 - t561;
         const V t577 = c0 * t561;
-        const V t578 = t577 + t539;
+        const V t578 = t577 + t538;
         const V t579 = c26 * t553;
         const V t580 = c27 * t552;
         const V t581 = t579 - t580;
-        const V t582 = t578 + t581;
-        const V t583 = t578 - t581;
+        const V t582 = t578 - t581;
+        const V t583 = t578 + t581;
         // real block of 2
         const V x21r = io.re(21);
         const V x17r = io.re(17);
@@ -1196,8 +1196,8 @@ struct ComplexGraph<38> {
         const V t951 = c0 * t943;
         const V t952 = t932 - t951;
         const V t953 = c1 * t942;
-        const V t954 = t952 + t953;
-        const V t955 = t952 - t953;
+        const V t954 = t952 - t953;
+        const V t955 = t952 + t953;
         // complex block of 3, multiplier 2
         const V t956 = t946 + t938;
         const V t957 = t947 + t939;
@@ -1227,33 +1227,33 @@ struct ComplexGraph<38> {
         const V t979 = c0 * t961;
         const V t980 = t950 - t979;
         const V t981 = c1 * t960;
-        const V t982 = t980 + t981;
-        const V t983 = t980 - t981;
+        const V t982 = t980 - t981;
+        const V t983 = t980 + t981;
         // spectrum block of 3, multiplier 2
-        const V t984 = t974 + t954;
+        const V t984 = t974 + t955;
         const V t985 = c0 * t974;
-        const V t986 = t954 - t985;
+        const V t986 = t955 - t985;
         const V t987 = c24 * t970;
         const V t988 = c25 * t971;
         const V t989 = t987 + t988;
-        const V t990 = t986 + t989;
-        const V t991 = t986 - t989;
+        const V t990 = t986 - t989;
+        const V t991 = t986 + t989;
         // spectrum block of 3, multiplier 2
-        const V t992 = t955 - t977;
+        const V t992 = t954 - t977;
         const V t993 = c0 * t977;
-        const V t994 = t993 + t955;
+        const V t994 = t993 + t954;
         const V t995 = c26 * t969;
         const V t996 = c27 * t968;
         const V t997 = t995 - t996;
-        const V t998 = t994 + t997;
-        const V t999 = t994 - t997;
+        const V t998 = t994 - t997;
+        const V t999 = t994 + t997;
         // spectrum block of 3, multiplier 2
         const V t1000 = t945 + t933;
         const V t1001 = c0 * t945;
         const V t1002 = t933 - t1001;
         const V t1003 = c1 * t944;
-        const V t1004 = t1002 + t1003;
-        const V t1005 = t1002 - t1003;
+        const V t1004 = t1002 - t1003;
+        const V t1005 = t1002 + t1003;
         // complex block of 3, multiplier 2
         const V t1006 = t948 + t940;
         const V t1007 = t949 + t941;
@@ -1283,26 +1283,26 @@ struct ComplexGraph<38> {
         const V t1029 = c0 * t1011;
         const V t1030 = t1000 - t1029;
         const V t1031 = c1 * t1010;
-        const V t1032 = t1030 + t1031;
-        const V t1033 = t1030 - t1031;
+        const V t1032 = t1030 - t1031;
+        const V t1033 = t1030 + t1031;
         // spectrum block of 3, multiplier 2
-        const V t1034 = t1024 + t1004;
+        const V t1034 = t1024 + t1005;
         const V t1035 = c0 * t1024;
-        const V t1036 = t1004 - t1035;
+        const V t1036 = t1005 - t1035;
         const V t1037 = c24 * t1020;
         const V t1038 = c25 * t1021;
         const V t1039 = t1037 + t1038;
-        const V t1040 = t1036 + t1039;
-        const V t1041 = t1036 - t1039;
+        const V t1040 = t1036 - t1039;
+        const V t1041 = t1036 + t1039;
         // spectrum block of 3, multiplier 2
-        const V t1042 = t1005 - t1027;
+        const V t1042 = t1004 - t1027;
         const V t1043 = c0 * t1027;
-        const V t1044 = t1043 + t1005;
+        const V t1044 = t1043 + t1004;
         const V t1045 = c26 * t1019;
         const V t1046 = c27 * t1018;
         const V t1047 = t1045 - t1046;
-        const V t1048 = t1044 + t1047;
-        const V t1049 = t1044 - t1047;
+        const V t1048 = t1044 - t1047;
+        const V t1049 = t1044 + t1047;
         // spectrum block of 2
         const V t1050 = t833 + t931;
         const V t1051 = t833 - t931;
@@ -1331,8 +1331,8 @@ struct ComplexGraph<38> {
         const V t1069 = c0 * t1061;
         const V t1070 = t1050 - t1069;
         const V t1071 = c1 * t1060;
-        const V t1072 = t1070 + t1071;
-        const V t1073 = t1070 - t1071;
+        const V t1072 = t1070 - t1071;
+        const V t1073 = t1070 + t1071;
         // complex block of 3, multiplier 2
         const V t1074 = t1056 - t1064;
         const V t1075 = t1065 + t1057;
@@ -1362,33 +1362,33 @@ struct ComplexGraph<38> {
         const V t1097 = c0 * t1079;
         const V t1098 = t1068 - t1097;
         const V t1099 = c1 * t1078;
-        const V t1100 = t1098 + t1099;
-        const V t1101 = t1098 - t1099;
+        const V t1100 = t1098 - t1099;
+        const V t1101 = t1098 + t1099;
         // spectrum block of 3, multiplier 2
-        const V t1102 = t1092 + t1072;
+        const V t1102 = t1092 + t1073;
         const V t1103 = c0 * t1092;
-        const V t1104 = t1072 - t1103;
+        const V t1104 = t1073 - t1103;
         const V t1105 = c24 * t1088;
         const V t1106 = c25 * t1089;
         const V t1107 = t1105 + t1106;
-        const V t1108 = t1104 + t1107;
-        const V t1109 = t1104 - t1107;
+        const V t1108 = t1104 - t1107;
+        const V t1109 = t1104 + t1107;
         // spectrum block of 3, multiplier 2
-        const V t1110 = t1073 - t1095;
+        const V t1110 = t1072 - t1095;
         const V t1111 = c0 * t1095;
-        const V t1112 = t1111 + t1073;
+        const V t1112 = t1111 + t1072;
         const V t1113 = c26 * t1087;
         const V t1114 = c27 * t1086;
         const V t1115 = t1113 - t1114;
-        const V t1116 = t1112 + t1115;
-        const V t1117 = t1112 - t1115;
+        const V t1116 = t1112 - t1115;
+        const V t1117 = t1112 + t1115;
         // spectrum block of 3, multiplier 2
         const V t1118 = t1063 + t1051;
         const V t1119 = c0 * t1063;
         const V t1120 = t1051 - t1119;
         const V t1121 = c1 * t1062;
-        const V t1122 = t1120 + t1121;
-        const V t1123 = t1120 - t1121;
+        const V t1122 = t1120 - t1121;
+        const V t1123 = t1120 + t1121;
         // complex block of 3, multiplier 2
         const V t1124 = t1066 - t1058;
         const V t1125 = t1067 + t1059;
@@ -1418,26 +1418,26 @@ struct ComplexGraph<38> {
         const V t1147 = c0 * t1129;
         const V t1148 = t1118 - t1147;
         const V t1149 = c1 * t1128;
-        const V t1150 = t1148 + t1149;
-        const V t1151 = t1148 - t1149;
+        const V t1150 = t1148 - t1149;
+        const V t1151 = t1148 + t1149;
         // spectrum block of 3, multiplier 2
-        const V t1152 = t1142 + t1122;
+        const V t1152 = t1142 + t1123;
         const V t1153 = c0 * t1142;
-        const V t1154 = t1122 - t1153;
+        const V t1154 = t1123 - t1153;
         const V t1155 = c24 * t1138;
         const V t1156 = c25 * t1139;
         const V t1157 = t1155 + t1156;
-        const V t1158 = t1154 + t1157;
-        const V t1159 = t1154 - t1157;
+        const V t1158 = t1154 - t1157;
+        const V t1159 = t1154 + t1157;
         // spectrum block of 3, multiplier 2
-        const V t1160 = t1123 - t1145;
+        const V t1160 = t1122 - t1145;
         const V t1161 = c0 * t1145;
-        const V t1162 = t1161 + t1123;
+        const V t1162 = t1161 + t1122;
         const V t1163 = c26 * t1137;
         const V t1164 = c27 * t1136;
         const V t1165 = t1163 - t1164;
-        const V t1166 = t1162 + t1165;
-        const V t1167 = t1162 - t1165;
+        const V t1166 = t1162 - t1165;
+        const V t1167 = t1162 + t1165;
         // complex block of 2
         const V t1168 = t244 + t828;
         io.re(0, t1168);
@@ -1457,31 +1457,31 @@ struct ComplexGraph<38> {
         const V t1175 = t512 - t1096;
         io.im(21, t1175);
         // complex block of 2
-        const V t1176 = t456 + t1040;
+        const V t1176 = t457 + t1041;
         io.re(4, t1176);
-        const V t1177 = t574 + t1158;
+        const V t1177 = t575 + t1159;
         io.im(4, t1177);
-        const V t1178 = t456 - t1040;
+        const V t1178 = t457 - t1041;
         io.re(23, t1178);
-        const V t1179 = t574 - t1158;
+        const V t1179 = t575 - t1159;
         io.im(23, t1179);
         // complex block of 2
-        const V t1180 = t457 + t1041;
+        const V t1180 = t456 + t1040;
         io.re(6, t1180);
-        const V t1181 = t575 + t1159;
+        const V t1181 = t574 + t1158;
         io.im(6, t1181);
-        const V t1182 = t457 - t1041;
+        const V t1182 = t456 - t1040;
         io.re(25, t1182);
-        const V t1183 = t575 - t1159;
+        const V t1183 = t574 - t1158;
         io.im(25, t1183);
         // complex block of 2
-        const V t1184 = t415 + t999;
+        const V t1184 = t414 + t998;
         io.re(8, t1184);
-        const V t1185 = t533 + t1117;
+        const V t1185 = t532 + t1116;
         io.im(8, t1185);
-        const V t1186 = t415 - t999;
+        const V t1186 = t414 - t998;
         io.re(27, t1186);
-        const V t1187 = t533 - t1117;
+        const V t1187 = t532 - t1116;
         io.im(27, t1187);
         // complex block of 2
         const V t1188 = t400 + t984;
@@ -1502,58 +1502,58 @@ struct ComplexGraph<38> {
         const V t1195 = t526 - t1110;
         io.im(31, t1195);
         // complex block of 2
-        const V t1196 = t399 + t983;
+        const V t1196 = t398 + t982;
         io.re(14, t1196);
-        const V t1197 = t517 + t1101;
+        const V t1197 = t516 + t1100;
         io.im(14, t1197);
-        const V t1198 = t399 - t983;
+        const V t1198 = t398 - t982;
         io.re(33, t1198);
-        const V t1199 = t517 - t1101;
+        const V t1199 = t516 - t1100;
         io.im(33, t1199);
         // complex block of 2
-        const V t1200 = t448 + t1032;
+        const V t1200 = t449 + t1033;
         io.re(16, t1200);
-        const V t1201 = t566 + t1150;
+        const V t1201 = t567 + t1151;
         io.im(16, t1201);
-        const V t1202 = t448 - t1032;
+        const V t1202 = t449 - t1033;
         io.re(35, t1202);
-        const V t1203 = t566 - t1150;
+        const V t1203 = t567 - t1151;
         io.im(35, t1203);
         // complex block of 2
-        const V t1204 = t414 + t998;
+        const V t1204 = t415 + t999;
         io.re(18, t1204);
-        const V t1205 = t532 + t1116;
+        const V t1205 = t533 + t1117;
         io.im(18, t1205);
-        const V t1206 = t414 - t998;
+        const V t1206 = t415 - t999;
         io.re(37, t1206);
-        const V t1207 = t532 - t1116;
+        const V t1207 = t533 - t1117;
         io.im(37, t1207);
         // complex block of 2
-        const V t1208 = t464 + t1048;
+        const V t1208 = t465 + t1049;
         io.re(20, t1208);
-        const V t1209 = t582 + t1166;
+        const V t1209 = t583 + t1167;
         io.im(20, t1209);
-        const V t1210 = t464 - t1048;
+        const V t1210 = t465 - t1049;
         io.re(1, t1210);
-        const V t1211 = t582 - t1166;
+        const V t1211 = t583 - t1167;
         io.im(1, t1211);
         // complex block of 2
-        const V t1212 = t398 + t982;
+        const V t1212 = t399 + t983;
         io.re(22, t1212);
-        const V t1213 = t516 + t1100;
+        const V t1213 = t517 + t1101;
         io.im(22, t1213);
-        const V t1214 = t398 - t982;
+        const V t1214 = t399 - t983;
         io.re(3, t1214);
-        const V t1215 = t516 - t1100;
+        const V t1215 = t517 - t1101;
         io.im(3, t1215);
         // complex block of 2
-        const V t1216 = t449 + t1033;
+        const V t1216 = t448 + t1032;
         io.re(24, t1216);
-        const V t1217 = t567 + t1151;
+        const V t1217 = t566 + t1150;
         io.im(24, t1217);
-        const V t1218 = t449 - t1033;
+        const V t1218 = t448 - t1032;
         io.re(5, t1218);
-        const V t1219 = t567 - t1151;
+        const V t1219 = t566 - t1150;
         io.im(5, t1219);
         // complex block of 2
         const V t1220 = t458 + t1042;
@@ -1574,31 +1574,31 @@ struct ComplexGraph<38> {
         const V t1227 = t568 - t1152;
         io.im(9, t1227);
         // complex block of 2
-        const V t1228 = t465 + t1049;
+        const V t1228 = t464 + t1048;
         io.re(30, t1228);
-        const V t1229 = t583 + t1167;
+        const V t1229 = t582 + t1166;
         io.im(30, t1229);
-        const V t1230 = t465 - t1049;
+        const V t1230 = t464 - t1048;
         io.re(11, t1230);
-        const V t1231 = t583 - t1167;
+        const V t1231 = t582 - t1166;
         io.im(11, t1231);
         // complex block of 2
-        const V t1232 = t407 + t991;
+        const V t1232 = t406 + t990;
         io.re(32, t1232);
-        const V t1233 = t525 + t1109;
+        const V t1233 = t524 + t1108;
         io.im(32, t1233);
-        const V t1234 = t407 - t991;
+        const V t1234 = t406 - t990;
         io.re(13, t1234);
-        const V t1235 = t525 - t1109;
+        const V t1235 = t524 - t1108;
         io.im(13, t1235);
         // complex block of 2
-        const V t1236 = t406 + t990;
+        const V t1236 = t407 + t991;
         io.re(34, t1236);
-        const V t1237 = t524 + t1108;
+        const V t1237 = t525 + t1109;
         io.im(34, t1237);
-        const V t1238 = t406 - t990;
+        const V t1238 = t407 - t991;
         io.re(15, t1238);
-        const V t1239 = t524 - t1108;
+        const V t1239 = t525 - t1109;
         io.im(15, t1239);
         // complex block of 2
         const V t1240 = t444 + t1028;

@@ -1059,22 +1059,22 @@ struct ComplexGraph<41> {
         // spectrum block of 5, multiplier 3
         const V t824 = t680 + t776;
         const V t825 = t824 + t591;
-        const V t826 = c1 * t680;
-        const V t827 = t591 - t826;
-        const V t828 = c2 * t776;
-        const V t829 = t827 + t828;
-        const V t830 = c3 * t683;
-        const V t831 = c4 * t779;
-        const V t832 = t831 - t830;
+        const V t826 = c2 * t680;
+        const V t827 = c1 * t776;
+        const V t828 = t826 - t827;
+        const V t829 = t828 + t591;
+        const V t830 = c4 * t683;
+        const V t831 = c3 * t779;
+        const V t832 = t830 + t831;
         const V t833 = t829 - t832;
         const V t834 = t829 + t832;
-        const V t835 = c2 * t680;
-        const V t836 = c1 * t776;
-        const V t837 = t835 - t836;
-        const V t838 = t837 + t591;
-        const V t839 = c4 * t683;
-        const V t840 = c3 * t779;
-        const V t841 = t839 + t840;
+        const V t835 = c1 * t680;
+        const V t836 = t591 - t835;
+        const V t837 = c2 * t776;
+        const V t838 = t836 + t837;
+        const V t839 = c3 * t683;
+        const V t840 = c4 * t779;
+        const V t841 = t839 - t840;
         const V t842 = t838 - t841;
         const V t843 = t838 + t841;
         // complex block of 5, multiplier 3
@@ -1227,24 +1227,24 @@ struct ComplexGraph<41> {
         // spectrum block of 5, multiplier 3
         const V t988 = t632 - t728;
         const V t989 = t988 + t822;
-        const V t990 = c1 * t728;
-        const V t991 = c2 * t632;
-        const V t992 = t990 + t991;
-        const V t993 = t992 + t822;
-        const V t994 = c3 * t731;
-        const V t995 = c4 * t635;
-        const V t996 = t994 - t995;
-        const V t997 = t993 - t996;
-        const V t998 = t993 + t996;
-        const V t999 = c2 * t728;
-        const V t1000 = t822 - t999;
-        const V t1001 = c1 * t632;
-        const V t1002 = t1000 - t1001;
-        const V t1003 = c4 * t731;
-        const V t1004 = c3 * t635;
-        const V t1005 = t1003 + t1004;
-        const V t1006 = t1002 + t1005;
-        const V t1007 = t1002 - t1005;
+        const V t990 = c2 * t728;
+        const V t991 = t822 - t990;
+        const V t992 = c1 * t632;
+        const V t993 = t991 - t992;
+        const V t994 = c4 * t731;
+        const V t995 = c3 * t635;
+        const V t996 = t994 + t995;
+        const V t997 = t993 + t996;
+        const V t998 = t993 - t996;
+        const V t999 = c1 * t728;
+        const V t1000 = c2 * t632;
+        const V t1001 = t999 + t1000;
+        const V t1002 = t1001 + t822;
+        const V t1003 = c3 * t731;
+        const V t1004 = c4 * t635;
+        const V t1005 = t1004 - t1003;
+        const V t1006 = t1002 - t1005;
+        const V t1007 = t1002 + t1005;
         // spectrum block of 2
         const V t1008 = t825 + t989;
         const V t1009 = t825 - t989;
@@ -1284,8 +1284,8 @@ struct ComplexGraph<41> {
         const V t1029 = t1013 + t1021;
         io.re(27, t1029);
         // spectrum block of 2
-        const V t1030 = t833 + t997;
-        const V t1031 = t833 - t997;
+        const V t1030 = t843 + t1007;
+        const V t1031 = t843 - t1007;
         // spectrum block of 2
         const V t1032 = t1030 + t939;
         const V t1033 = t1030 - t939;
@@ -1322,8 +1322,8 @@ struct ComplexGraph<41> {
         const V t1051 = t1035 + t1043;
         io.re(15, t1051);
         // spectrum block of 2
-        const V t1052 = t842 + t1006;
-        const V t1053 = t842 - t1006;
+        const V t1052 = t833 + t997;
+        const V t1053 = t833 - t997;
         // spectrum block of 2
         const V t1054 = t1052 + t919;
         const V t1055 = t1052 - t919;
@@ -1360,8 +1360,8 @@ struct ComplexGraph<41> {
         const V t1073 = t1057 + t1065;
         io.re(22, t1073);
         // spectrum block of 2
-        const V t1074 = t843 + t1007;
-        const V t1075 = t843 - t1007;
+        const V t1074 = t834 + t998;
+        const V t1075 = t834 - t998;
         // spectrum block of 2
         const V t1076 = t1074 + t921;
         const V t1077 = t1074 - t921;
@@ -1398,8 +1398,8 @@ struct ComplexGraph<41> {
         const V t1095 = t1079 + t1087;
         io.re(35, t1095);
         // spectrum block of 2
-        const V t1096 = t834 + t998;
-        const V t1097 = t834 - t998;
+        const V t1096 = t842 + t1006;
+        const V t1097 = t842 - t1006;
         // spectrum block of 2
         const V t1098 = t1096 + t937;
         const V t1099 = t1096 - t937;
@@ -1438,22 +1438,22 @@ struct ComplexGraph<41> {
         // spectrum block of 5, multiplier 3
         const V t1118 = t686 + t782;
         const V t1119 = t1118 + t593;
-        const V t1120 = c1 * t686;
-        const V t1121 = t593 - t1120;
-        const V t1122 = c2 * t782;
-        const V t1123 = t1121 + t1122;
-        const V t1124 = c3 * t689;
-        const V t1125 = c4 * t785;
-        const V t1126 = t1125 - t1124;
+        const V t1120 = c2 * t686;
+        const V t1121 = c1 * t782;
+        const V t1122 = t1120 - t1121;
+        const V t1123 = t1122 + t593;
+        const V t1124 = c4 * t689;
+        const V t1125 = c3 * t785;
+        const V t1126 = t1124 + t1125;
         const V t1127 = t1123 - t1126;
         const V t1128 = t1123 + t1126;
-        const V t1129 = c2 * t686;
-        const V t1130 = c1 * t782;
-        const V t1131 = t1129 - t1130;
-        const V t1132 = t1131 + t593;
-        const V t1133 = c4 * t689;
-        const V t1134 = c3 * t785;
-        const V t1135 = t1133 + t1134;
+        const V t1129 = c1 * t686;
+        const V t1130 = t593 - t1129;
+        const V t1131 = c2 * t782;
+        const V t1132 = t1130 + t1131;
+        const V t1133 = c3 * t689;
+        const V t1134 = c4 * t785;
+        const V t1135 = t1133 - t1134;
         const V t1136 = t1132 - t1135;
         const V t1137 = t1132 + t1135;
         // complex block of 5, multiplier 3
@@ -1606,24 +1606,24 @@ struct ComplexGraph<41> {
         // spectrum block of 5, multiplier 3
         const V t1282 = t638 - t734;
         const V t1283 = t1282 + t823;
-        const V t1284 = c1 * t734;
-        const V t1285 = c2 * t638;
-        const V t1286 = t1284 + t1285;
-        const V t1287 = t1286 + t823;
-        const V t1288 = c3 * t737;
-        const V t1289 = c4 * t641;
-        const V t1290 = t1288 - t1289;
-        const V t1291 = t1287 - t1290;
-        const V t1292 = t1287 + t1290;
-        const V t1293 = c2 * t734;
-        const V t1294 = t823 - t1293;
-        const V t1295 = c1 * t638;
-        const V t1296 = t1294 - t1295;
-        const V t1297 = c4 * t737;
-        const V t1298 = c3 * t641;
-        const V t1299 = t1297 + t1298;
-        const V t1300 = t1296 + t1299;
-        const V t1301 = t1296 - t1299;
+        const V t1284 = c2 * t734;
+        const V t1285 = t823 - t1284;
+        const V t1286 = c1 * t638;
+        const V t1287 = t1285 - t1286;
+        const V t1288 = c4 * t737;
+        const V t1289 = c3 * t641;
+        const V t1290 = t1288 + t1289;
+        const V t1291 = t1287 + t1290;
+        const V t1292 = t1287 - t1290;
+        const V t1293 = c1 * t734;
+        const V t1294 = c2 * t638;
+        const V t1295 = t1293 + t1294;
+        const V t1296 = t1295 + t823;
+        const V t1297 = c3 * t737;
+        const V t1298 = c4 * t641;
+        const V t1299 = t1298 - t1297;
+        const V t1300 = t1296 - t1299;
+        const V t1301 = t1296 + t1299;
         // spectrum block of 2
         const V t1302 = t1119 + t1283;
         const V t1303 = t1119 - t1283;
@@ -1663,8 +1663,8 @@ struct ComplexGraph<41> {
         const V t1323 = t1307 + t1315;
         io.im(27, t1323);
         // spectrum block of 2
-        const V t1324 = t1127 + t1291;
-        const V t1325 = t1127 - t1291;
+        const V t1324 = t1137 + t1301;
+        const V t1325 = t1137 - t1301;
         // spectrum block of 2
         const V t1326 = t1324 + t1233;
         const V t1327 = t1324 - t1233;
@@ -1701,8 +1701,8 @@ struct ComplexGraph<41> {
         const V t1345 = t1329 + t1337;
         io.im(15, t1345);
         // spectrum block of 2
-        const V t1346 = t1136 + t1300;
-        const V t1347 = t1136 - t1300;
+        const V t1346 = t1127 + t1291;
+        const V t1347 = t1127 - t1291;
         // spectrum block of 2
         const V t1348 = t1346 + t1213;
         const V t1349 = t1346 - t1213;
@@ -1739,8 +1739,8 @@ struct ComplexGraph<41> {
         const V t1367 = t1351 + t1359;
         io.im(22, t1367);
         // spectrum block of 2
-        const V t1368 = t1137 + t1301;
-        const V t1369 = t1137 - t1301;
+        const V t1368 = t1128 + t1292;
+        const V t1369 = t1128 - t1292;
         // spectrum block of 2
         const V t1370 = t1368 + t1215;
         const V t1371 = t1368 - t1215;
@@ -1777,8 +1777,8 @@ struct ComplexGraph<41> {
         const V t1389 = t1373 + t1381;
         io.im(35, t1389);
         // spectrum block of 2
-        const V t1390 = t1128 + t1292;
-        const V t1391 = t1128 - t1292;
+        const V t1390 = t1136 + t1300;
+        const V t1391 = t1136 - t1300;
         // spectrum block of 2
         const V t1392 = t1390 + t1231;
         const V t1393 = t1390 - t1231;

@@ -829,45 +829,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t689 = t682 + t686;
         const V t690 = t689 + t679;
-        const V t691 = c33 * t682;
-        const V t692 = t679 - t691;
-        const V t693 = c32 * t686;
-        const V t694 = t692 + t693;
-        const V t695 = c35 * t681;
-        const V t696 = c34 * t685;
-        const V t697 = t695 + t696;
+        const V t691 = c32 * t682;
+        const V t692 = c33 * t686;
+        const V t693 = t691 - t692;
+        const V t694 = t693 + t679;
+        const V t695 = c34 * t681;
+        const V t696 = c35 * t685;
+        const V t697 = t695 - t696;
         const V t698 = t694 - t697;
         const V t699 = t694 + t697;
-        const V t700 = c32 * t682;
-        const V t701 = c33 * t686;
-        const V t702 = t700 - t701;
-        const V t703 = t702 + t679;
-        const V t704 = c34 * t681;
-        const V t705 = c35 * t685;
-        const V t706 = t705 - t704;
+        const V t700 = c33 * t682;
+        const V t701 = t679 - t700;
+        const V t702 = c32 * t686;
+        const V t703 = t701 + t702;
+        const V t704 = c35 * t681;
+        const V t705 = c34 * t685;
+        const V t706 = t704 + t705;
         const V t707 = t703 - t706;
         const V t708 = t703 + t706;
         // spectrum block of 5, multiplier 2
         const V t709 = t684 + t688;
         const V t710 = t709 + t680;
-        const V t711 = c33 * t684;
-        const V t712 = t680 - t711;
-        const V t713 = c32 * t688;
-        const V t714 = t712 + t713;
-        const V t715 = c35 * t683;
-        const V t716 = c34 * t687;
-        const V t717 = t715 - t716;
+        const V t711 = c32 * t684;
+        const V t712 = c33 * t688;
+        const V t713 = t711 - t712;
+        const V t714 = t713 + t680;
+        const V t715 = c34 * t683;
+        const V t716 = c35 * t687;
+        const V t717 = t715 + t716;
         const V t718 = t714 - t717;
         const V t719 = t714 + t717;
-        const V t720 = c32 * t684;
-        const V t721 = c33 * t688;
-        const V t722 = t720 - t721;
-        const V t723 = t722 + t680;
-        const V t724 = c34 * t683;
-        const V t725 = c35 * t687;
-        const V t726 = t724 + t725;
-        const V t727 = t723 + t726;
-        const V t728 = t723 - t726;
+        const V t720 = c33 * t684;
+        const V t721 = t680 - t720;
+        const V t722 = c32 * t688;
+        const V t723 = t721 + t722;
+        const V t724 = c35 * t683;
+        const V t725 = c34 * t687;
+        const V t726 = t724 - t725;
+        const V t727 = t723 - t726;
+        const V t728 = t723 + t726;
         // spectrum block of 11, multiplier 2
         const V t729 = t487 + t617;
         // real block of 5
@@ -956,45 +956,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t807 = t800 + t804;
         const V t808 = t807 + t797;
-        const V t809 = c33 * t800;
-        const V t810 = t797 - t809;
-        const V t811 = c32 * t804;
-        const V t812 = t810 + t811;
-        const V t813 = c35 * t799;
-        const V t814 = c34 * t803;
-        const V t815 = t813 + t814;
+        const V t809 = c32 * t800;
+        const V t810 = c33 * t804;
+        const V t811 = t809 - t810;
+        const V t812 = t811 + t797;
+        const V t813 = c34 * t799;
+        const V t814 = c35 * t803;
+        const V t815 = t813 - t814;
         const V t816 = t812 - t815;
         const V t817 = t812 + t815;
-        const V t818 = c32 * t800;
-        const V t819 = c33 * t804;
-        const V t820 = t818 - t819;
-        const V t821 = t820 + t797;
-        const V t822 = c34 * t799;
-        const V t823 = c35 * t803;
-        const V t824 = t823 - t822;
+        const V t818 = c33 * t800;
+        const V t819 = t797 - t818;
+        const V t820 = c32 * t804;
+        const V t821 = t819 + t820;
+        const V t822 = c35 * t799;
+        const V t823 = c34 * t803;
+        const V t824 = t822 + t823;
         const V t825 = t821 - t824;
         const V t826 = t821 + t824;
         // spectrum block of 5, multiplier 2
         const V t827 = t802 + t806;
         const V t828 = t827 + t798;
-        const V t829 = c33 * t802;
-        const V t830 = t798 - t829;
-        const V t831 = c32 * t806;
-        const V t832 = t830 + t831;
-        const V t833 = c35 * t801;
-        const V t834 = c34 * t805;
-        const V t835 = t833 - t834;
+        const V t829 = c32 * t802;
+        const V t830 = c33 * t806;
+        const V t831 = t829 - t830;
+        const V t832 = t831 + t798;
+        const V t833 = c34 * t801;
+        const V t834 = c35 * t805;
+        const V t835 = t833 + t834;
         const V t836 = t832 - t835;
         const V t837 = t832 + t835;
-        const V t838 = c32 * t802;
-        const V t839 = c33 * t806;
-        const V t840 = t838 - t839;
-        const V t841 = t840 + t798;
-        const V t842 = c34 * t801;
-        const V t843 = c35 * t805;
-        const V t844 = t842 + t843;
-        const V t845 = t841 + t844;
-        const V t846 = t841 - t844;
+        const V t838 = c33 * t802;
+        const V t839 = t798 - t838;
+        const V t840 = c32 * t806;
+        const V t841 = t839 + t840;
+        const V t842 = c35 * t801;
+        const V t843 = c34 * t805;
+        const V t844 = t842 - t843;
+        const V t845 = t841 - t844;
+        const V t846 = t841 + t844;
         // spectrum block of 11, multiplier 2
         const V t847 = t610 + t735;
         // spectrum block of 2
@@ -1004,29 +1004,29 @@ struct ComplexGraph<46> {
         const V t850 = t690 + t808;
         const V t851 = t690 - t808;
         // spectrum block of 2
-        const V t852 = t727 + t845;
-        const V t853 = t727 - t845;
+        const V t852 = t719 + t837;
+        const V t853 = t719 - t837;
         // spectrum block of 2
-        const V t854 = t698 + t816;
-        const V t855 = t698 - t816;
+        const V t854 = t707 + t825;
+        const V t855 = t707 - t825;
         // spectrum block of 2
-        const V t856 = t699 + t817;
-        const V t857 = t699 - t817;
+        const V t856 = t708 + t826;
+        const V t857 = t708 - t826;
         // spectrum block of 2
-        const V t858 = t708 + t826;
-        const V t859 = t708 - t826;
+        const V t858 = t698 + t816;
+        const V t859 = t698 - t816;
         // spectrum block of 2
-        const V t860 = t728 + t846;
-        const V t861 = t728 - t846;
+        const V t860 = t718 + t836;
+        const V t861 = t718 - t836;
         // spectrum block of 2
-        const V t862 = t719 + t837;
-        const V t863 = t719 - t837;
+        const V t862 = t728 + t846;
+        const V t863 = t728 - t846;
         // spectrum block of 2
-        const V t864 = t718 + t836;
-        const V t865 = t718 - t836;
+        const V t864 = t727 + t845;
+        const V t865 = t727 - t845;
         // spectrum block of 2
-        const V t866 = t707 + t825;
-        const V t867 = t707 - t825;
+        const V t866 = t699 + t817;
+        const V t867 = t699 - t817;
         // spectrum block of 2
         const V t868 = t710 + t828;
         const V t869 = t710 - t828;
@@ -1116,45 +1116,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t947 = t940 + t944;
         const V t948 = t947 + t937;
-        const V t949 = c33 * t940;
-        const V t950 = t937 - t949;
-        const V t951 = c32 * t944;
-        const V t952 = t950 + t951;
-        const V t953 = c35 * t939;
-        const V t954 = c34 * t943;
-        const V t955 = t953 + t954;
+        const V t949 = c32 * t940;
+        const V t950 = c33 * t944;
+        const V t951 = t949 - t950;
+        const V t952 = t951 + t937;
+        const V t953 = c34 * t939;
+        const V t954 = c35 * t943;
+        const V t955 = t953 - t954;
         const V t956 = t952 - t955;
         const V t957 = t952 + t955;
-        const V t958 = c32 * t940;
-        const V t959 = c33 * t944;
-        const V t960 = t958 - t959;
-        const V t961 = t960 + t937;
-        const V t962 = c34 * t939;
-        const V t963 = c35 * t943;
-        const V t964 = t963 - t962;
+        const V t958 = c33 * t940;
+        const V t959 = t937 - t958;
+        const V t960 = c32 * t944;
+        const V t961 = t959 + t960;
+        const V t962 = c35 * t939;
+        const V t963 = c34 * t943;
+        const V t964 = t962 + t963;
         const V t965 = t961 - t964;
         const V t966 = t961 + t964;
         // spectrum block of 5, multiplier 2
         const V t967 = t942 + t946;
         const V t968 = t967 + t938;
-        const V t969 = c33 * t942;
-        const V t970 = t938 - t969;
-        const V t971 = c32 * t946;
-        const V t972 = t970 + t971;
-        const V t973 = c35 * t941;
-        const V t974 = c34 * t945;
-        const V t975 = t973 - t974;
+        const V t969 = c32 * t942;
+        const V t970 = c33 * t946;
+        const V t971 = t969 - t970;
+        const V t972 = t971 + t938;
+        const V t973 = c34 * t941;
+        const V t974 = c35 * t945;
+        const V t975 = t973 + t974;
         const V t976 = t972 - t975;
         const V t977 = t972 + t975;
-        const V t978 = c32 * t942;
-        const V t979 = c33 * t946;
-        const V t980 = t978 - t979;
-        const V t981 = t980 + t938;
-        const V t982 = c34 * t941;
-        const V t983 = c35 * t945;
-        const V t984 = t982 + t983;
-        const V t985 = t981 + t984;
-        const V t986 = t981 - t984;
+        const V t978 = c33 * t942;
+        const V t979 = t938 - t978;
+        const V t980 = c32 * t946;
+        const V t981 = t979 + t980;
+        const V t982 = c35 * t941;
+        const V t983 = c34 * t945;
+        const V t984 = t982 - t983;
+        const V t985 = t981 - t984;
+        const V t986 = t981 + t984;
         // spectrum block of 11, multiplier 2
         const V t987 = t489 + t875;
         // real block of 5
@@ -1243,45 +1243,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t1065 = t1058 + t1062;
         const V t1066 = t1065 + t1055;
-        const V t1067 = c33 * t1058;
-        const V t1068 = t1055 - t1067;
-        const V t1069 = c32 * t1062;
-        const V t1070 = t1068 + t1069;
-        const V t1071 = c35 * t1057;
-        const V t1072 = c34 * t1061;
-        const V t1073 = t1071 - t1072;
+        const V t1067 = c32 * t1058;
+        const V t1068 = c33 * t1062;
+        const V t1069 = t1067 - t1068;
+        const V t1070 = t1069 + t1055;
+        const V t1071 = c34 * t1057;
+        const V t1072 = c35 * t1061;
+        const V t1073 = t1071 + t1072;
         const V t1074 = t1070 - t1073;
         const V t1075 = t1070 + t1073;
-        const V t1076 = c32 * t1058;
-        const V t1077 = c33 * t1062;
-        const V t1078 = t1076 - t1077;
-        const V t1079 = t1078 + t1055;
-        const V t1080 = c34 * t1057;
-        const V t1081 = c35 * t1061;
-        const V t1082 = t1080 + t1081;
-        const V t1083 = t1079 + t1082;
-        const V t1084 = t1079 - t1082;
+        const V t1076 = c33 * t1058;
+        const V t1077 = t1055 - t1076;
+        const V t1078 = c32 * t1062;
+        const V t1079 = t1077 + t1078;
+        const V t1080 = c35 * t1057;
+        const V t1081 = c34 * t1061;
+        const V t1082 = t1080 - t1081;
+        const V t1083 = t1079 - t1082;
+        const V t1084 = t1079 + t1082;
         // spectrum block of 5, multiplier 2
         const V t1085 = t1060 - t1064;
         const V t1086 = t1085 - t1056;
-        const V t1087 = c33 * t1060;
-        const V t1088 = t1056 + t1087;
-        const V t1089 = c32 * t1064;
-        const V t1090 = t1088 + t1089;
-        const V t1091 = c35 * t1059;
-        const V t1092 = c34 * t1063;
-        const V t1093 = t1091 - t1092;
-        const V t1094 = t1090 + t1093;
-        const V t1095 = t1093 - t1090;
-        const V t1096 = c32 * t1060;
-        const V t1097 = c33 * t1064;
-        const V t1098 = t1096 + t1097;
-        const V t1099 = t1098 - t1056;
-        const V t1100 = c34 * t1059;
-        const V t1101 = c35 * t1063;
-        const V t1102 = t1100 + t1101;
+        const V t1087 = c32 * t1060;
+        const V t1088 = c33 * t1064;
+        const V t1089 = t1087 + t1088;
+        const V t1090 = t1089 - t1056;
+        const V t1091 = c34 * t1059;
+        const V t1092 = c35 * t1063;
+        const V t1093 = t1091 + t1092;
+        const V t1094 = t1090 - t1093;
+        const V t1095 = t1090 + t1093;
+        const V t1096 = c33 * t1060;
+        const V t1097 = t1056 + t1096;
+        const V t1098 = c32 * t1064;
+        const V t1099 = t1097 + t1098;
+        const V t1100 = c35 * t1059;
+        const V t1101 = c34 * t1063;
+        const V t1102 = t1100 - t1101;
         const V t1103 = t1099 + t1102;
-        const V t1104 = t1099 - t1102;
+        const V t1104 = t1102 - t1099;
         // spectrum block of 11, multiplier 2
         const V t1105 = t993 - t611;
         // spectrum block of 2
@@ -1291,29 +1291,29 @@ struct ComplexGraph<46> {
         const V t1108 = t948 + t1066;
         const V t1109 = t948 - t1066;
         // spectrum block of 2
-        const V t1110 = t985 + t1103;
-        const V t1111 = t985 - t1103;
+        const V t1110 = t977 + t1095;
+        const V t1111 = t977 - t1095;
         // spectrum block of 2
-        const V t1112 = t956 + t1074;
-        const V t1113 = t956 - t1074;
+        const V t1112 = t965 + t1083;
+        const V t1113 = t965 - t1083;
         // spectrum block of 2
-        const V t1114 = t957 + t1075;
-        const V t1115 = t957 - t1075;
+        const V t1114 = t966 + t1084;
+        const V t1115 = t966 - t1084;
         // spectrum block of 2
-        const V t1116 = t966 + t1084;
-        const V t1117 = t966 - t1084;
+        const V t1116 = t956 + t1074;
+        const V t1117 = t956 - t1074;
         // spectrum block of 2
-        const V t1118 = t986 + t1104;
-        const V t1119 = t986 - t1104;
+        const V t1118 = t976 + t1094;
+        const V t1119 = t976 - t1094;
         // spectrum block of 2
-        const V t1120 = t977 + t1095;
-        const V t1121 = t977 - t1095;
+        const V t1120 = t986 + t1104;
+        const V t1121 = t986 - t1104;
         // spectrum block of 2
-        const V t1122 = t976 - t1094;
-        const V t1123 = t976 + t1094;
+        const V t1122 = t985 - t1103;
+        const V t1123 = t985 + t1103;
         // spectrum block of 2
-        const V t1124 = t965 + t1083;
-        const V t1125 = t965 - t1083;
+        const V t1124 = t957 + t1075;
+        const V t1125 = t957 - t1075;
         // spectrum block of 2
         const V t1126 = t968 + t1086;
         const V t1127 = t968 - t1086;
@@ -2088,45 +2088,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t1817 = t1810 + t1814;
         const V t1818 = t1817 + t1807;
-        const V t1819 = c33 * t1810;
-        const V t1820 = t1807 - t1819;
-        const V t1821 = c32 * t1814;
-        const V t1822 = t1820 + t1821;
-        const V t1823 = c35 * t1809;
-        const V t1824 = c34 * t1813;
-        const V t1825 = t1823 + t1824;
+        const V t1819 = c32 * t1810;
+        const V t1820 = c33 * t1814;
+        const V t1821 = t1819 - t1820;
+        const V t1822 = t1821 + t1807;
+        const V t1823 = c34 * t1809;
+        const V t1824 = c35 * t1813;
+        const V t1825 = t1823 - t1824;
         const V t1826 = t1822 - t1825;
         const V t1827 = t1822 + t1825;
-        const V t1828 = c32 * t1810;
-        const V t1829 = c33 * t1814;
-        const V t1830 = t1828 - t1829;
-        const V t1831 = t1830 + t1807;
-        const V t1832 = c34 * t1809;
-        const V t1833 = c35 * t1813;
-        const V t1834 = t1833 - t1832;
+        const V t1828 = c33 * t1810;
+        const V t1829 = t1807 - t1828;
+        const V t1830 = c32 * t1814;
+        const V t1831 = t1829 + t1830;
+        const V t1832 = c35 * t1809;
+        const V t1833 = c34 * t1813;
+        const V t1834 = t1832 + t1833;
         const V t1835 = t1831 - t1834;
         const V t1836 = t1831 + t1834;
         // spectrum block of 5, multiplier 2
         const V t1837 = t1812 + t1816;
         const V t1838 = t1837 + t1808;
-        const V t1839 = c33 * t1812;
-        const V t1840 = t1808 - t1839;
-        const V t1841 = c32 * t1816;
-        const V t1842 = t1840 + t1841;
-        const V t1843 = c35 * t1811;
-        const V t1844 = c34 * t1815;
-        const V t1845 = t1843 - t1844;
+        const V t1839 = c32 * t1812;
+        const V t1840 = c33 * t1816;
+        const V t1841 = t1839 - t1840;
+        const V t1842 = t1841 + t1808;
+        const V t1843 = c34 * t1811;
+        const V t1844 = c35 * t1815;
+        const V t1845 = t1843 + t1844;
         const V t1846 = t1842 - t1845;
         const V t1847 = t1842 + t1845;
-        const V t1848 = c32 * t1812;
-        const V t1849 = c33 * t1816;
-        const V t1850 = t1848 - t1849;
-        const V t1851 = t1850 + t1808;
-        const V t1852 = c34 * t1811;
-        const V t1853 = c35 * t1815;
-        const V t1854 = t1852 + t1853;
-        const V t1855 = t1851 + t1854;
-        const V t1856 = t1851 - t1854;
+        const V t1848 = c33 * t1812;
+        const V t1849 = t1808 - t1848;
+        const V t1850 = c32 * t1816;
+        const V t1851 = t1849 + t1850;
+        const V t1852 = c35 * t1811;
+        const V t1853 = c34 * t1815;
+        const V t1854 = t1852 - t1853;
+        const V t1855 = t1851 - t1854;
+        const V t1856 = t1851 + t1854;
         // spectrum block of 11, multiplier 2
         const V t1857 = t1615 + t1745;
         // real block of 5
@@ -2215,45 +2215,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t1935 = t1928 + t1932;
         const V t1936 = t1935 + t1925;
-        const V t1937 = c33 * t1928;
-        const V t1938 = t1925 - t1937;
-        const V t1939 = c32 * t1932;
-        const V t1940 = t1938 + t1939;
-        const V t1941 = c35 * t1927;
-        const V t1942 = c34 * t1931;
-        const V t1943 = t1941 + t1942;
+        const V t1937 = c32 * t1928;
+        const V t1938 = c33 * t1932;
+        const V t1939 = t1937 - t1938;
+        const V t1940 = t1939 + t1925;
+        const V t1941 = c34 * t1927;
+        const V t1942 = c35 * t1931;
+        const V t1943 = t1941 - t1942;
         const V t1944 = t1940 - t1943;
         const V t1945 = t1940 + t1943;
-        const V t1946 = c32 * t1928;
-        const V t1947 = c33 * t1932;
-        const V t1948 = t1946 - t1947;
-        const V t1949 = t1948 + t1925;
-        const V t1950 = c34 * t1927;
-        const V t1951 = c35 * t1931;
-        const V t1952 = t1951 - t1950;
+        const V t1946 = c33 * t1928;
+        const V t1947 = t1925 - t1946;
+        const V t1948 = c32 * t1932;
+        const V t1949 = t1947 + t1948;
+        const V t1950 = c35 * t1927;
+        const V t1951 = c34 * t1931;
+        const V t1952 = t1950 + t1951;
         const V t1953 = t1949 - t1952;
         const V t1954 = t1949 + t1952;
         // spectrum block of 5, multiplier 2
         const V t1955 = t1930 + t1934;
         const V t1956 = t1955 + t1926;
-        const V t1957 = c33 * t1930;
-        const V t1958 = t1926 - t1957;
-        const V t1959 = c32 * t1934;
-        const V t1960 = t1958 + t1959;
-        const V t1961 = c35 * t1929;
-        const V t1962 = c34 * t1933;
-        const V t1963 = t1961 - t1962;
+        const V t1957 = c32 * t1930;
+        const V t1958 = c33 * t1934;
+        const V t1959 = t1957 - t1958;
+        const V t1960 = t1959 + t1926;
+        const V t1961 = c34 * t1929;
+        const V t1962 = c35 * t1933;
+        const V t1963 = t1961 + t1962;
         const V t1964 = t1960 - t1963;
         const V t1965 = t1960 + t1963;
-        const V t1966 = c32 * t1930;
-        const V t1967 = c33 * t1934;
-        const V t1968 = t1966 - t1967;
-        const V t1969 = t1968 + t1926;
-        const V t1970 = c34 * t1929;
-        const V t1971 = c35 * t1933;
-        const V t1972 = t1970 + t1971;
-        const V t1973 = t1969 + t1972;
-        const V t1974 = t1969 - t1972;
+        const V t1966 = c33 * t1930;
+        const V t1967 = t1926 - t1966;
+        const V t1968 = c32 * t1934;
+        const V t1969 = t1967 + t1968;
+        const V t1970 = c35 * t1929;
+        const V t1971 = c34 * t1933;
+        const V t1972 = t1970 - t1971;
+        const V t1973 = t1969 - t1972;
+        const V t1974 = t1969 + t1972;
         // spectrum block of 11, multiplier 2
         const V t1975 = t1738 + t1863;
         // spectrum block of 2
@@ -2263,29 +2263,29 @@ struct ComplexGraph<46> {
         const V t1978 = t1818 + t1936;
         const V t1979 = t1818 - t1936;
         // spectrum block of 2
-        const V t1980 = t1855 + t1973;
-        const V t1981 = t1855 - t1973;
+        const V t1980 = t1847 + t1965;
+        const V t1981 = t1847 - t1965;
         // spectrum block of 2
-        const V t1982 = t1826 + t1944;
-        const V t1983 = t1826 - t1944;
+        const V t1982 = t1835 + t1953;
+        const V t1983 = t1835 - t1953;
         // spectrum block of 2
-        const V t1984 = t1827 + t1945;
-        const V t1985 = t1827 - t1945;
+        const V t1984 = t1836 + t1954;
+        const V t1985 = t1836 - t1954;
         // spectrum block of 2
-        const V t1986 = t1836 + t1954;
-        const V t1987 = t1836 - t1954;
+        const V t1986 = t1826 + t1944;
+        const V t1987 = t1826 - t1944;
         // spectrum block of 2
-        const V t1988 = t1856 + t1974;
-        const V t1989 = t1856 - t1974;
+        const V t1988 = t1846 + t1964;
+        const V t1989 = t1846 - t1964;
         // spectrum block of 2
-        const V t1990 = t1847 + t1965;
-        const V t1991 = t1847 - t1965;
+        const V t1990 = t1856 + t1974;
+        const V t1991 = t1856 - t1974;
         // spectrum block of 2
-        const V t1992 = t1846 + t1964;
-        const V t1993 = t1846 - t1964;
+        const V t1992 = t1855 + t1973;
+        const V t1993 = t1855 - t1973;
         // spectrum block of 2
-        const V t1994 = t1835 + t1953;
-        const V t1995 = t1835 - t1953;
+        const V t1994 = t1827 + t1945;
+        const V t1995 = t1827 - t1945;
         // spectrum block of 2
         const V t1996 = t1838 + t1956;
         const V t1997 = t1838 - t1956;
@@ -2375,45 +2375,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t2075 = t2068 + t2072;
         const V t2076 = t2075 + t2065;
-        const V t2077 = c33 * t2068;
-        const V t2078 = t2065 - t2077;
-        const V t2079 = c32 * t2072;
-        const V t2080 = t2078 + t2079;
-        const V t2081 = c35 * t2067;
-        const V t2082 = c34 * t2071;
-        const V t2083 = t2081 + t2082;
+        const V t2077 = c32 * t2068;
+        const V t2078 = c33 * t2072;
+        const V t2079 = t2077 - t2078;
+        const V t2080 = t2079 + t2065;
+        const V t2081 = c34 * t2067;
+        const V t2082 = c35 * t2071;
+        const V t2083 = t2081 - t2082;
         const V t2084 = t2080 - t2083;
         const V t2085 = t2080 + t2083;
-        const V t2086 = c32 * t2068;
-        const V t2087 = c33 * t2072;
-        const V t2088 = t2086 - t2087;
-        const V t2089 = t2088 + t2065;
-        const V t2090 = c34 * t2067;
-        const V t2091 = c35 * t2071;
-        const V t2092 = t2091 - t2090;
+        const V t2086 = c33 * t2068;
+        const V t2087 = t2065 - t2086;
+        const V t2088 = c32 * t2072;
+        const V t2089 = t2087 + t2088;
+        const V t2090 = c35 * t2067;
+        const V t2091 = c34 * t2071;
+        const V t2092 = t2090 + t2091;
         const V t2093 = t2089 - t2092;
         const V t2094 = t2089 + t2092;
         // spectrum block of 5, multiplier 2
         const V t2095 = t2070 + t2074;
         const V t2096 = t2095 + t2066;
-        const V t2097 = c33 * t2070;
-        const V t2098 = t2066 - t2097;
-        const V t2099 = c32 * t2074;
-        const V t2100 = t2098 + t2099;
-        const V t2101 = c35 * t2069;
-        const V t2102 = c34 * t2073;
-        const V t2103 = t2101 - t2102;
+        const V t2097 = c32 * t2070;
+        const V t2098 = c33 * t2074;
+        const V t2099 = t2097 - t2098;
+        const V t2100 = t2099 + t2066;
+        const V t2101 = c34 * t2069;
+        const V t2102 = c35 * t2073;
+        const V t2103 = t2101 + t2102;
         const V t2104 = t2100 - t2103;
         const V t2105 = t2100 + t2103;
-        const V t2106 = c32 * t2070;
-        const V t2107 = c33 * t2074;
-        const V t2108 = t2106 - t2107;
-        const V t2109 = t2108 + t2066;
-        const V t2110 = c34 * t2069;
-        const V t2111 = c35 * t2073;
-        const V t2112 = t2110 + t2111;
-        const V t2113 = t2109 + t2112;
-        const V t2114 = t2109 - t2112;
+        const V t2106 = c33 * t2070;
+        const V t2107 = t2066 - t2106;
+        const V t2108 = c32 * t2074;
+        const V t2109 = t2107 + t2108;
+        const V t2110 = c35 * t2069;
+        const V t2111 = c34 * t2073;
+        const V t2112 = t2110 - t2111;
+        const V t2113 = t2109 - t2112;
+        const V t2114 = t2109 + t2112;
         // spectrum block of 11, multiplier 2
         const V t2115 = t1617 + t2003;
         // real block of 5
@@ -2502,45 +2502,45 @@ struct ComplexGraph<46> {
         // spectrum block of 5, multiplier 2
         const V t2193 = t2186 + t2190;
         const V t2194 = t2193 + t2183;
-        const V t2195 = c33 * t2186;
-        const V t2196 = t2183 - t2195;
-        const V t2197 = c32 * t2190;
-        const V t2198 = t2196 + t2197;
-        const V t2199 = c35 * t2185;
-        const V t2200 = c34 * t2189;
-        const V t2201 = t2199 - t2200;
+        const V t2195 = c32 * t2186;
+        const V t2196 = c33 * t2190;
+        const V t2197 = t2195 - t2196;
+        const V t2198 = t2197 + t2183;
+        const V t2199 = c34 * t2185;
+        const V t2200 = c35 * t2189;
+        const V t2201 = t2199 + t2200;
         const V t2202 = t2198 - t2201;
         const V t2203 = t2198 + t2201;
-        const V t2204 = c32 * t2186;
-        const V t2205 = c33 * t2190;
-        const V t2206 = t2204 - t2205;
-        const V t2207 = t2206 + t2183;
-        const V t2208 = c34 * t2185;
-        const V t2209 = c35 * t2189;
-        const V t2210 = t2208 + t2209;
-        const V t2211 = t2207 + t2210;
-        const V t2212 = t2207 - t2210;
+        const V t2204 = c33 * t2186;
+        const V t2205 = t2183 - t2204;
+        const V t2206 = c32 * t2190;
+        const V t2207 = t2205 + t2206;
+        const V t2208 = c35 * t2185;
+        const V t2209 = c34 * t2189;
+        const V t2210 = t2208 - t2209;
+        const V t2211 = t2207 - t2210;
+        const V t2212 = t2207 + t2210;
         // spectrum block of 5, multiplier 2
         const V t2213 = t2188 - t2192;
         const V t2214 = t2213 - t2184;
-        const V t2215 = c33 * t2188;
-        const V t2216 = t2184 + t2215;
-        const V t2217 = c32 * t2192;
-        const V t2218 = t2216 + t2217;
-        const V t2219 = c35 * t2187;
-        const V t2220 = c34 * t2191;
-        const V t2221 = t2219 - t2220;
-        const V t2222 = t2218 + t2221;
-        const V t2223 = t2221 - t2218;
-        const V t2224 = c32 * t2188;
-        const V t2225 = c33 * t2192;
-        const V t2226 = t2224 + t2225;
-        const V t2227 = t2226 - t2184;
-        const V t2228 = c34 * t2187;
-        const V t2229 = c35 * t2191;
-        const V t2230 = t2228 + t2229;
+        const V t2215 = c32 * t2188;
+        const V t2216 = c33 * t2192;
+        const V t2217 = t2215 + t2216;
+        const V t2218 = t2217 - t2184;
+        const V t2219 = c34 * t2187;
+        const V t2220 = c35 * t2191;
+        const V t2221 = t2219 + t2220;
+        const V t2222 = t2218 - t2221;
+        const V t2223 = t2218 + t2221;
+        const V t2224 = c33 * t2188;
+        const V t2225 = t2184 + t2224;
+        const V t2226 = c32 * t2192;
+        const V t2227 = t2225 + t2226;
+        const V t2228 = c35 * t2187;
+        const V t2229 = c34 * t2191;
+        const V t2230 = t2228 - t2229;
         const V t2231 = t2227 + t2230;
-        const V t2232 = t2227 - t2230;
+        const V t2232 = t2230 - t2227;
         // spectrum block of 11, multiplier 2
         const V t2233 = t2121 - t1739;
         // spectrum block of 2
@@ -2550,29 +2550,29 @@ struct ComplexGraph<46> {
         const V t2236 = t2076 + t2194;
         const V t2237 = t2076 - t2194;
         // spectrum block of 2
-        const V t2238 = t2113 + t2231;
-        const V t2239 = t2113 - t2231;
+        const V t2238 = t2105 + t2223;
+        const V t2239 = t2105 - t2223;
         // spectrum block of 2
-        const V t2240 = t2084 + t2202;
-        const V t2241 = t2084 - t2202;
+        const V t2240 = t2093 + t2211;
+        const V t2241 = t2093 - t2211;
         // spectrum block of 2
-        const V t2242 = t2085 + t2203;
-        const V t2243 = t2085 - t2203;
+        const V t2242 = t2094 + t2212;
+        const V t2243 = t2094 - t2212;
         // spectrum block of 2
-        const V t2244 = t2094 + t2212;
-        const V t2245 = t2094 - t2212;
+        const V t2244 = t2084 + t2202;
+        const V t2245 = t2084 - t2202;
         // spectrum block of 2
-        const V t2246 = t2114 + t2232;
-        const V t2247 = t2114 - t2232;
+        const V t2246 = t2104 + t2222;
+        const V t2247 = t2104 - t2222;
         // spectrum block of 2
-        const V t2248 = t2105 + t2223;
-        const V t2249 = t2105 - t2223;
+        const V t2248 = t2114 + t2232;
+        const V t2249 = t2114 - t2232;
         // spectrum block of 2
-        const V t2250 = t2104 - t2222;
-        const V t2251 = t2104 + t2222;
+        const V t2250 = t2113 - t2231;
+        const V t2251 = t2113 + t2231;
         // spectrum block of 2
-        const V t2252 = t2093 + t2211;
-        const V t2253 = t2093 - t2211;
+        const V t2252 = t2085 + t2203;
+        const V t2253 = t2085 - t2203;
         // spectrum block of 2
         const V t2254 = t2096 + t2214;
         const V t2255 = t2096 - t2214;

@@ -202,15 +202,15 @@ struct ComplexGraph<53> {
         const V t87 = c0 * t83;
         const V t88 = t80 - t87;
         const V t89 = c1 * t82;
-        const V t90 = t88 + t89;
-        const V t91 = t88 - t89;
+        const V t90 = t88 - t89;
+        const V t91 = t88 + t89;
         // spectrum block of 3, multiplier 2
         const V t92 = t81 - t85;
         const V t93 = c0 * t85;
         const V t94 = t93 + t81;
         const V t95 = c1 * t84;
-        const V t96 = t94 + t95;
-        const V t97 = t94 - t95;
+        const V t96 = t94 - t95;
+        const V t97 = t94 + t95;
         // complex block of 2
         const V t98 = t51 + t75;
         const V t99 = t78 - t54;
@@ -225,8 +225,8 @@ struct ComplexGraph<53> {
         const V t106 = c0 * t99;
         const V t107 = t66 - t106;
         const V t108 = c1 * t98;
-        const V t109 = t107 + t108;
-        const V t110 = t107 - t108;
+        const V t109 = t107 - t108;
+        const V t110 = t107 + t108;
         // spectrum block of 3, multiplier 2
         const V t111 = t104 + t63;
         const V t112 = c0 * t104;
@@ -234,8 +234,8 @@ struct ComplexGraph<53> {
         const V t114 = c14 * t100;
         const V t115 = c15 * t101;
         const V t116 = t114 - t115;
-        const V t117 = t113 - t116;
-        const V t118 = t113 + t116;
+        const V t117 = t113 + t116;
+        const V t118 = t113 - t116;
         // real block of 3
         const V x26r = io.re(26);
         const V x20r = io.re(20);
@@ -354,15 +354,15 @@ struct ComplexGraph<53> {
         const V t206 = c0 * t202;
         const V t207 = t199 - t206;
         const V t208 = c1 * t201;
-        const V t209 = t207 + t208;
-        const V t210 = t207 - t208;
+        const V t209 = t207 - t208;
+        const V t210 = t207 + t208;
         // spectrum block of 3, multiplier 2
         const V t211 = t200 - t204;
         const V t212 = c0 * t204;
         const V t213 = t212 + t200;
         const V t214 = c1 * t203;
-        const V t215 = t213 + t214;
-        const V t216 = t213 - t214;
+        const V t215 = t213 - t214;
+        const V t216 = t213 + t214;
         // complex block of 2
         const V t217 = t170 + t194;
         const V t218 = t197 - t173;
@@ -377,8 +377,8 @@ struct ComplexGraph<53> {
         const V t225 = c0 * t218;
         const V t226 = t185 - t225;
         const V t227 = c1 * t217;
-        const V t228 = t226 + t227;
-        const V t229 = t226 - t227;
+        const V t228 = t226 - t227;
+        const V t229 = t226 + t227;
         // spectrum block of 3, multiplier 2
         const V t230 = t223 + t182;
         const V t231 = c0 * t223;
@@ -386,8 +386,8 @@ struct ComplexGraph<53> {
         const V t233 = c14 * t219;
         const V t234 = c15 * t220;
         const V t235 = t233 - t234;
-        const V t236 = t232 - t235;
-        const V t237 = t232 + t235;
+        const V t236 = t232 + t235;
+        const V t237 = t232 - t235;
         // real block of 3
         const V x38r = io.re(38);
         const V x17r = io.re(17);
@@ -506,15 +506,15 @@ struct ComplexGraph<53> {
         const V t325 = c0 * t321;
         const V t326 = t318 - t325;
         const V t327 = c1 * t320;
-        const V t328 = t326 + t327;
-        const V t329 = t326 - t327;
+        const V t328 = t326 - t327;
+        const V t329 = t326 + t327;
         // spectrum block of 3, multiplier 2
         const V t330 = t319 - t323;
         const V t331 = c0 * t323;
         const V t332 = t331 + t319;
         const V t333 = c1 * t322;
-        const V t334 = t332 + t333;
-        const V t335 = t332 - t333;
+        const V t334 = t332 - t333;
+        const V t335 = t332 + t333;
         // complex block of 2
         const V t336 = t289 + t313;
         const V t337 = t316 - t292;
@@ -529,8 +529,8 @@ struct ComplexGraph<53> {
         const V t344 = c0 * t337;
         const V t345 = t304 - t344;
         const V t346 = c1 * t336;
-        const V t347 = t345 + t346;
-        const V t348 = t345 - t346;
+        const V t347 = t345 - t346;
+        const V t348 = t345 + t346;
         // spectrum block of 3, multiplier 2
         const V t349 = t342 + t301;
         const V t350 = c0 * t342;
@@ -538,8 +538,8 @@ struct ComplexGraph<53> {
         const V t352 = c14 * t338;
         const V t353 = c15 * t339;
         const V t354 = t352 - t353;
-        const V t355 = t351 - t354;
-        const V t356 = t351 + t354;
+        const V t355 = t351 + t354;
+        const V t356 = t351 - t354;
         // real block of 3
         const V x27r = io.re(27);
         const V x33r = io.re(33);
@@ -658,15 +658,15 @@ struct ComplexGraph<53> {
         const V t444 = c0 * t440;
         const V t445 = t437 - t444;
         const V t446 = c1 * t439;
-        const V t447 = t445 + t446;
-        const V t448 = t445 - t446;
+        const V t447 = t445 - t446;
+        const V t448 = t445 + t446;
         // spectrum block of 3, multiplier 2
         const V t449 = t438 - t442;
         const V t450 = c0 * t442;
         const V t451 = t450 + t438;
         const V t452 = c1 * t441;
-        const V t453 = t451 + t452;
-        const V t454 = t451 - t452;
+        const V t453 = t451 - t452;
+        const V t454 = t451 + t452;
         // complex block of 2
         const V t455 = t408 + t432;
         const V t456 = t435 - t411;
@@ -681,8 +681,8 @@ struct ComplexGraph<53> {
         const V t463 = c0 * t456;
         const V t464 = t423 - t463;
         const V t465 = c1 * t455;
-        const V t466 = t464 + t465;
-        const V t467 = t464 - t465;
+        const V t466 = t464 - t465;
+        const V t467 = t464 + t465;
         // spectrum block of 3, multiplier 2
         const V t468 = t461 + t420;
         const V t469 = c0 * t461;
@@ -690,8 +690,8 @@ struct ComplexGraph<53> {
         const V t471 = c14 * t457;
         const V t472 = c15 * t458;
         const V t473 = t471 - t472;
-        const V t474 = t470 - t473;
-        const V t475 = t470 + t473;
+        const V t474 = t470 + t473;
+        const V t475 = t470 - t473;
         // real block of 2
         const V t476 = t46 + t284;
         const V t477 = t46 - t284;
@@ -722,15 +722,15 @@ struct ComplexGraph<53> {
         const V t496 = t484 - t489;
         const V t497 = t485 + t488;
         // complex block of 2
-        const V t498 = t96 + t334;
-        const V t499 = t117 + t355;
-        const V t500 = t96 - t334;
-        const V t501 = t355 - t117;
+        const V t498 = t97 + t335;
+        const V t499 = t118 + t356;
+        const V t500 = t97 - t335;
+        const V t501 = t356 - t118;
         // complex block of 2
-        const V t502 = t215 + t453;
-        const V t503 = t236 + t474;
-        const V t504 = t215 - t453;
-        const V t505 = t474 - t236;
+        const V t502 = t216 + t454;
+        const V t503 = t237 + t475;
+        const V t504 = t216 - t454;
+        const V t505 = t475 - t237;
         // complex block of 2
         const V t506 = t498 + t502;
         const V t507 = t499 + t503;
@@ -742,15 +742,15 @@ struct ComplexGraph<53> {
         const V t512 = t500 - t505;
         const V t513 = t501 + t504;
         // complex block of 2
-        const V t514 = t90 + t328;
-        const V t515 = t110 + t348;
-        const V t516 = t90 - t328;
-        const V t517 = t110 - t348;
+        const V t514 = t91 + t329;
+        const V t515 = t109 + t347;
+        const V t516 = t91 - t329;
+        const V t517 = t109 - t347;
         // complex block of 2
-        const V t518 = t209 + t447;
-        const V t519 = t229 + t467;
-        const V t520 = t209 - t447;
-        const V t521 = t229 - t467;
+        const V t518 = t210 + t448;
+        const V t519 = t228 + t466;
+        const V t520 = t210 - t448;
+        const V t521 = t228 - t466;
         // complex block of 2
         const V t522 = t514 + t518;
         const V t523 = t515 + t519;
@@ -762,15 +762,15 @@ struct ComplexGraph<53> {
         const V t528 = t516 - t521;
         const V t529 = t517 + t520;
         // complex block of 2
-        const V t530 = t91 + t329;
-        const V t531 = t109 + t347;
-        const V t532 = t91 - t329;
-        const V t533 = t347 - t109;
+        const V t530 = t90 + t328;
+        const V t531 = t110 + t348;
+        const V t532 = t90 - t328;
+        const V t533 = t348 - t110;
         // complex block of 2
-        const V t534 = t210 + t448;
-        const V t535 = t228 + t466;
-        const V t536 = t210 - t448;
-        const V t537 = t466 - t228;
+        const V t534 = t209 + t447;
+        const V t535 = t229 + t467;
+        const V t536 = t209 - t447;
+        const V t537 = t467 - t229;
         // complex block of 2
         const V t538 = t530 + t534;
         const V t539 = t531 + t535;
@@ -783,14 +783,14 @@ struct ComplexGraph<53> {
         const V t545 = t533 + t536;
         // complex block of 2
         const V t546 = t92 + t330;
-        const V t547 = t118 + t356;
+        const V t547 = t117 + t355;
         const V t548 = t92 - t330;
-        const V t549 = t356 - t118;
+        const V t549 = t355 - t117;
         // complex block of 2
         const V t550 = t211 + t449;
-        const V t551 = t237 + t475;
+        const V t551 = t236 + t474;
         const V t552 = t211 - t449;
-        const V t553 = t475 - t237;
+        const V t553 = t474 - t236;
         // complex block of 2
         const V t554 = t546 + t550;
         const V t555 = t547 + t551;
@@ -802,14 +802,14 @@ struct ComplexGraph<53> {
         const V t560 = t548 - t553;
         const V t561 = t549 + t552;
         // complex block of 2
-        const V t562 = t97 + t335;
+        const V t562 = t96 + t334;
         const V t563 = t111 + t349;
-        const V t564 = t97 - t335;
+        const V t564 = t96 - t334;
         const V t565 = t111 - t349;
         // complex block of 2
-        const V t566 = t216 + t454;
+        const V t566 = t215 + t453;
         const V t567 = t230 + t468;
-        const V t568 = t216 - t454;
+        const V t568 = t215 - t453;
         const V t569 = t230 - t468;
         // complex block of 2
         const V t570 = t562 + t566;
@@ -939,15 +939,15 @@ struct ComplexGraph<53> {
         const V t665 = c0 * t661;
         const V t666 = t658 - t665;
         const V t667 = c1 * t660;
-        const V t668 = t666 + t667;
-        const V t669 = t666 - t667;
+        const V t668 = t666 - t667;
+        const V t669 = t666 + t667;
         // spectrum block of 3, multiplier 2
         const V t670 = t659 - t663;
         const V t671 = c0 * t663;
         const V t672 = t671 + t659;
         const V t673 = c1 * t662;
-        const V t674 = t672 + t673;
-        const V t675 = t672 - t673;
+        const V t674 = t672 - t673;
+        const V t675 = t672 + t673;
         // complex block of 2
         const V t676 = t629 + t653;
         const V t677 = t656 - t632;
@@ -962,8 +962,8 @@ struct ComplexGraph<53> {
         const V t684 = c0 * t677;
         const V t685 = t644 - t684;
         const V t686 = c1 * t676;
-        const V t687 = t685 + t686;
-        const V t688 = t685 - t686;
+        const V t687 = t685 - t686;
+        const V t688 = t685 + t686;
         // spectrum block of 3, multiplier 2
         const V t689 = t682 + t641;
         const V t690 = c0 * t682;
@@ -971,8 +971,8 @@ struct ComplexGraph<53> {
         const V t692 = c14 * t678;
         const V t693 = c15 * t679;
         const V t694 = t692 - t693;
-        const V t695 = t691 - t694;
-        const V t696 = t691 + t694;
+        const V t695 = t691 + t694;
+        const V t696 = t691 - t694;
         // real block of 3
         const V x26i = io.im(26);
         const V x20i = io.im(20);
@@ -1091,15 +1091,15 @@ struct ComplexGraph<53> {
         const V t784 = c0 * t780;
         const V t785 = t777 - t784;
         const V t786 = c1 * t779;
-        const V t787 = t785 + t786;
-        const V t788 = t785 - t786;
+        const V t787 = t785 - t786;
+        const V t788 = t785 + t786;
         // spectrum block of 3, multiplier 2
         const V t789 = t778 - t782;
         const V t790 = c0 * t782;
         const V t791 = t790 + t778;
         const V t792 = c1 * t781;
-        const V t793 = t791 + t792;
-        const V t794 = t791 - t792;
+        const V t793 = t791 - t792;
+        const V t794 = t791 + t792;
         // complex block of 2
         const V t795 = t748 + t772;
         const V t796 = t775 - t751;
@@ -1114,8 +1114,8 @@ struct ComplexGraph<53> {
         const V t803 = c0 * t796;
         const V t804 = t763 - t803;
         const V t805 = c1 * t795;
-        const V t806 = t804 + t805;
-        const V t807 = t804 - t805;
+        const V t806 = t804 - t805;
+        const V t807 = t804 + t805;
         // spectrum block of 3, multiplier 2
         const V t808 = t801 + t760;
         const V t809 = c0 * t801;
@@ -1123,8 +1123,8 @@ struct ComplexGraph<53> {
         const V t811 = c14 * t797;
         const V t812 = c15 * t798;
         const V t813 = t811 - t812;
-        const V t814 = t810 - t813;
-        const V t815 = t810 + t813;
+        const V t814 = t810 + t813;
+        const V t815 = t810 - t813;
         // real block of 3
         const V x38i = io.im(38);
         const V x17i = io.im(17);
@@ -1243,15 +1243,15 @@ struct ComplexGraph<53> {
         const V t903 = c0 * t899;
         const V t904 = t896 - t903;
         const V t905 = c1 * t898;
-        const V t906 = t904 + t905;
-        const V t907 = t904 - t905;
+        const V t906 = t904 - t905;
+        const V t907 = t904 + t905;
         // spectrum block of 3, multiplier 2
         const V t908 = t897 - t901;
         const V t909 = c0 * t901;
         const V t910 = t909 + t897;
         const V t911 = c1 * t900;
-        const V t912 = t910 + t911;
-        const V t913 = t910 - t911;
+        const V t912 = t910 - t911;
+        const V t913 = t910 + t911;
         // complex block of 2
         const V t914 = t867 + t891;
         const V t915 = t894 - t870;
@@ -1266,8 +1266,8 @@ struct ComplexGraph<53> {
         const V t922 = c0 * t915;
         const V t923 = t882 - t922;
         const V t924 = c1 * t914;
-        const V t925 = t923 + t924;
-        const V t926 = t923 - t924;
+        const V t925 = t923 - t924;
+        const V t926 = t923 + t924;
         // spectrum block of 3, multiplier 2
         const V t927 = t920 + t879;
         const V t928 = c0 * t920;
@@ -1275,8 +1275,8 @@ struct ComplexGraph<53> {
         const V t930 = c14 * t916;
         const V t931 = c15 * t917;
         const V t932 = t930 - t931;
-        const V t933 = t929 - t932;
-        const V t934 = t929 + t932;
+        const V t933 = t929 + t932;
+        const V t934 = t929 - t932;
         // real block of 3
         const V x27i = io.im(27);
         const V x33i = io.im(33);
@@ -1395,15 +1395,15 @@ struct ComplexGraph<53> {
         const V t1022 = c0 * t1018;
         const V t1023 = t1015 - t1022;
         const V t1024 = c1 * t1017;
-        const V t1025 = t1023 + t1024;
-        const V t1026 = t1023 - t1024;
+        const V t1025 = t1023 - t1024;
+        const V t1026 = t1023 + t1024;
         // spectrum block of 3, multiplier 2
         const V t1027 = t1016 - t1020;
         const V t1028 = c0 * t1020;
         const V t1029 = t1028 + t1016;
         const V t1030 = c1 * t1019;
-        const V t1031 = t1029 + t1030;
-        const V t1032 = t1029 - t1030;
+        const V t1031 = t1029 - t1030;
+        const V t1032 = t1029 + t1030;
         // complex block of 2
         const V t1033 = t986 + t1010;
         const V t1034 = t1013 - t989;
@@ -1418,8 +1418,8 @@ struct ComplexGraph<53> {
         const V t1041 = c0 * t1034;
         const V t1042 = t1001 - t1041;
         const V t1043 = c1 * t1033;
-        const V t1044 = t1042 + t1043;
-        const V t1045 = t1042 - t1043;
+        const V t1044 = t1042 - t1043;
+        const V t1045 = t1042 + t1043;
         // spectrum block of 3, multiplier 2
         const V t1046 = t1039 + t998;
         const V t1047 = c0 * t1039;
@@ -1427,8 +1427,8 @@ struct ComplexGraph<53> {
         const V t1049 = c14 * t1035;
         const V t1050 = c15 * t1036;
         const V t1051 = t1049 - t1050;
-        const V t1052 = t1048 - t1051;
-        const V t1053 = t1048 + t1051;
+        const V t1052 = t1048 + t1051;
+        const V t1053 = t1048 - t1051;
         // real block of 2
         const V t1054 = t624 + t862;
         const V t1055 = t624 - t862;
@@ -1459,15 +1459,15 @@ struct ComplexGraph<53> {
         const V t1074 = t1062 - t1067;
         const V t1075 = t1063 + t1066;
         // complex block of 2
-        const V t1076 = t674 + t912;
-        const V t1077 = t695 + t933;
-        const V t1078 = t674 - t912;
-        const V t1079 = t933 - t695;
+        const V t1076 = t675 + t913;
+        const V t1077 = t696 + t934;
+        const V t1078 = t675 - t913;
+        const V t1079 = t934 - t696;
         // complex block of 2
-        const V t1080 = t793 + t1031;
-        const V t1081 = t814 + t1052;
-        const V t1082 = t793 - t1031;
-        const V t1083 = t1052 - t814;
+        const V t1080 = t794 + t1032;
+        const V t1081 = t815 + t1053;
+        const V t1082 = t794 - t1032;
+        const V t1083 = t1053 - t815;
         // complex block of 2
         const V t1084 = t1076 + t1080;
         const V t1085 = t1077 + t1081;
@@ -1479,15 +1479,15 @@ struct ComplexGraph<53> {
         const V t1090 = t1078 - t1083;
         const V t1091 = t1079 + t1082;
         // complex block of 2
-        const V t1092 = t668 + t906;
-        const V t1093 = t688 + t926;
-        const V t1094 = t668 - t906;
-        const V t1095 = t688 - t926;
+        const V t1092 = t669 + t907;
+        const V t1093 = t687 + t925;
+        const V t1094 = t669 - t907;
+        const V t1095 = t687 - t925;
         // complex block of 2
-        const V t1096 = t787 + t1025;
-        const V t1097 = t807 + t1045;
-        const V t1098 = t787 - t1025;
-        const V t1099 = t807 - t1045;
+        const V t1096 = t788 + t1026;
+        const V t1097 = t806 + t1044;
+        const V t1098 = t788 - t1026;
+        const V t1099 = t806 - t1044;
         // complex block of 2
         const V t1100 = t1092 + t1096;
         const V t1101 = t1093 + t1097;
@@ -1499,15 +1499,15 @@ struct ComplexGraph<53> {
         const V t1106 = t1094 - t1099;
         const V t1107 = t1095 + t1098;
         // complex block of 2
-        const V t1108 = t669 + t907;
-        const V t1109 = t687 + t925;
-        const V t1110 = t669 - t907;
-        const V t1111 = t925 - t687;
+        const V t1108 = t668 + t906;
+        const V t1109 = t688 + t926;
+        const V t1110 = t668 - t906;
+        const V t1111 = t926 - t688;
         // complex block of 2
-        const V t1112 = t788 + t1026;
-        const V t1113 = t806 + t1044;
-        const V t1114 = t788 - t1026;
-        const V t1115 = t1044 - t806;
+        const V t1112 = t787 + t1025;
+        const V t1113 = t807 + t1045;
+        const V t1114 = t787 - t1025;
+        const V t1115 = t1045 - t807;
         // complex block of 2
         const V t1116 = t1108 + t1112;
         const V t1117 = t1109 + t1113;
@@ -1520,14 +1520,14 @@ struct ComplexGraph<53> {
         const V t1123 = t1111 + t1114;
         // complex block of 2
         const V t1124 = t670 + t908;
-        const V t1125 = t696 + t934;
+        const V t1125 = t695 + t933;
         const V t1126 = t670 - t908;
-        const V t1127 = t934 - t696;
+        const V t1127 = t933 - t695;
         // complex block of 2
         const V t1128 = t789 + t1027;
-        const V t1129 = t815 + t1053;
+        const V t1129 = t814 + t1052;
         const V t1130 = t789 - t1027;
-        const V t1131 = t1053 - t815;
+        const V t1131 = t1052 - t814;
         // complex block of 2
         const V t1132 = t1124 + t1128;
         const V t1133 = t1125 + t1129;
@@ -1539,14 +1539,14 @@ struct ComplexGraph<53> {
         const V t1138 = t1126 - t1131;
         const V t1139 = t1127 + t1130;
         // complex block of 2
-        const V t1140 = t675 + t913;
+        const V t1140 = t674 + t912;
         const V t1141 = t689 + t927;
-        const V t1142 = t675 - t913;
+        const V t1142 = t674 - t912;
         const V t1143 = t689 - t927;
         // complex block of 2
-        const V t1144 = t794 + t1032;
+        const V t1144 = t793 + t1031;
         const V t1145 = t808 + t1046;
-        const V t1146 = t794 - t1032;
+        const V t1146 = t793 - t1031;
         const V t1147 = t808 - t1046;
         // complex block of 2
         const V t1148 = t1140 + t1144;

@@ -497,8 +497,8 @@ struct ComplexGraph<57> {
         const V t367 = c0 * t359;
         const V t368 = t348 - t367;
         const V t369 = c1 * t358;
-        const V t370 = t368 + t369;
-        const V t371 = t368 - t369;
+        const V t370 = t368 - t369;
+        const V t371 = t368 + t369;
         // complex block of 3, multiplier 2
         const V t372 = t362 - t354;
         const V t373 = t363 + t355;
@@ -528,33 +528,33 @@ struct ComplexGraph<57> {
         const V t395 = c0 * t377;
         const V t396 = t366 - t395;
         const V t397 = c1 * t376;
-        const V t398 = t396 + t397;
-        const V t399 = t396 - t397;
+        const V t398 = t396 - t397;
+        const V t399 = t396 + t397;
         // spectrum block of 3, multiplier 2
-        const V t400 = t390 + t370;
+        const V t400 = t390 + t371;
         const V t401 = c0 * t390;
-        const V t402 = t370 - t401;
+        const V t402 = t371 - t401;
         const V t403 = c24 * t387;
         const V t404 = c25 * t386;
         const V t405 = t403 - t404;
-        const V t406 = t402 + t405;
-        const V t407 = t402 - t405;
+        const V t406 = t402 - t405;
+        const V t407 = t402 + t405;
         // spectrum block of 3, multiplier 2
-        const V t408 = t371 - t393;
+        const V t408 = t370 - t393;
         const V t409 = c0 * t393;
-        const V t410 = t409 + t371;
+        const V t410 = t409 + t370;
         const V t411 = c26 * t385;
         const V t412 = c27 * t384;
         const V t413 = t411 - t412;
-        const V t414 = t410 + t413;
-        const V t415 = t410 - t413;
+        const V t414 = t410 - t413;
+        const V t415 = t410 + t413;
         // spectrum block of 3, multiplier 2
         const V t416 = t361 + t349;
         const V t417 = c0 * t361;
         const V t418 = t349 - t417;
         const V t419 = c1 * t360;
-        const V t420 = t418 + t419;
-        const V t421 = t418 - t419;
+        const V t420 = t418 - t419;
+        const V t421 = t418 + t419;
         // complex block of 3, multiplier 2
         const V t422 = t364 - t356;
         const V t423 = t365 + t357;
@@ -584,26 +584,26 @@ struct ComplexGraph<57> {
         const V t445 = c0 * t427;
         const V t446 = t416 - t445;
         const V t447 = c1 * t426;
-        const V t448 = t446 + t447;
-        const V t449 = t446 - t447;
+        const V t448 = t446 - t447;
+        const V t449 = t446 + t447;
         // spectrum block of 3, multiplier 2
-        const V t450 = t440 + t420;
+        const V t450 = t440 + t421;
         const V t451 = c0 * t440;
-        const V t452 = t420 - t451;
+        const V t452 = t421 - t451;
         const V t453 = c25 * t436;
         const V t454 = c24 * t437;
         const V t455 = t453 + t454;
-        const V t456 = t452 + t455;
-        const V t457 = t452 - t455;
+        const V t456 = t452 - t455;
+        const V t457 = t452 + t455;
         // spectrum block of 3, multiplier 2
-        const V t458 = t421 - t443;
+        const V t458 = t420 - t443;
         const V t459 = c0 * t443;
-        const V t460 = t459 + t421;
+        const V t460 = t459 + t420;
         const V t461 = c26 * t435;
         const V t462 = c27 * t434;
         const V t463 = t461 - t462;
-        const V t464 = t460 + t463;
-        const V t465 = t460 - t463;
+        const V t464 = t460 - t463;
+        const V t465 = t460 + t463;
         // spectrum block of 2
         const V t466 = t249 + t347;
         const V t467 = t249 - t347;
@@ -632,8 +632,8 @@ struct ComplexGraph<57> {
         const V t485 = c0 * t477;
         const V t486 = t466 - t485;
         const V t487 = c1 * t476;
-        const V t488 = t486 + t487;
-        const V t489 = t486 - t487;
+        const V t488 = t486 - t487;
+        const V t489 = t486 + t487;
         // complex block of 3, multiplier 2
         const V t490 = t480 - t472;
         const V t491 = t481 + t473;
@@ -663,33 +663,33 @@ struct ComplexGraph<57> {
         const V t513 = c0 * t495;
         const V t514 = t484 - t513;
         const V t515 = c1 * t494;
-        const V t516 = t514 + t515;
-        const V t517 = t514 - t515;
+        const V t516 = t514 - t515;
+        const V t517 = t514 + t515;
         // spectrum block of 3, multiplier 2
-        const V t518 = t508 + t488;
+        const V t518 = t508 + t489;
         const V t519 = c0 * t508;
-        const V t520 = t488 - t519;
+        const V t520 = t489 - t519;
         const V t521 = c24 * t505;
         const V t522 = c25 * t504;
         const V t523 = t521 - t522;
-        const V t524 = t520 + t523;
-        const V t525 = t520 - t523;
+        const V t524 = t520 - t523;
+        const V t525 = t520 + t523;
         // spectrum block of 3, multiplier 2
-        const V t526 = t489 - t511;
+        const V t526 = t488 - t511;
         const V t527 = c0 * t511;
-        const V t528 = t527 + t489;
+        const V t528 = t527 + t488;
         const V t529 = c26 * t503;
         const V t530 = c27 * t502;
         const V t531 = t529 - t530;
-        const V t532 = t528 + t531;
-        const V t533 = t528 - t531;
+        const V t532 = t528 - t531;
+        const V t533 = t528 + t531;
         // spectrum block of 3, multiplier 2
         const V t534 = t479 + t467;
         const V t535 = c0 * t479;
         const V t536 = t467 - t535;
         const V t537 = c1 * t478;
-        const V t538 = t536 + t537;
-        const V t539 = t536 - t537;
+        const V t538 = t536 - t537;
+        const V t539 = t536 + t537;
         // complex block of 3, multiplier 2
         const V t540 = t482 - t474;
         const V t541 = t483 + t475;
@@ -719,26 +719,26 @@ struct ComplexGraph<57> {
         const V t563 = c0 * t545;
         const V t564 = t534 - t563;
         const V t565 = c1 * t544;
-        const V t566 = t564 + t565;
-        const V t567 = t564 - t565;
+        const V t566 = t564 - t565;
+        const V t567 = t564 + t565;
         // spectrum block of 3, multiplier 2
-        const V t568 = t558 + t538;
+        const V t568 = t558 + t539;
         const V t569 = c0 * t558;
-        const V t570 = t538 - t569;
+        const V t570 = t539 - t569;
         const V t571 = c25 * t554;
         const V t572 = c24 * t555;
         const V t573 = t571 + t572;
-        const V t574 = t570 + t573;
-        const V t575 = t570 - t573;
+        const V t574 = t570 - t573;
+        const V t575 = t570 + t573;
         // spectrum block of 3, multiplier 2
-        const V t576 = t539 - t561;
+        const V t576 = t538 - t561;
         const V t577 = c0 * t561;
-        const V t578 = t577 + t539;
+        const V t578 = t577 + t538;
         const V t579 = c26 * t553;
         const V t580 = c27 * t552;
         const V t581 = t579 - t580;
-        const V t582 = t578 + t581;
-        const V t583 = t578 - t581;
+        const V t582 = t578 - t581;
+        const V t583 = t578 + t581;
         // real block of 2
         const V x22r = io.re(22);
         const V x16r = io.re(16);
@@ -1196,8 +1196,8 @@ struct ComplexGraph<57> {
         const V t951 = c0 * t943;
         const V t952 = t932 - t951;
         const V t953 = c1 * t942;
-        const V t954 = t952 + t953;
-        const V t955 = t952 - t953;
+        const V t954 = t952 - t953;
+        const V t955 = t952 + t953;
         // complex block of 3, multiplier 2
         const V t956 = t946 - t938;
         const V t957 = t947 + t939;
@@ -1227,33 +1227,33 @@ struct ComplexGraph<57> {
         const V t979 = c0 * t961;
         const V t980 = t950 - t979;
         const V t981 = c1 * t960;
-        const V t982 = t980 + t981;
-        const V t983 = t980 - t981;
+        const V t982 = t980 - t981;
+        const V t983 = t980 + t981;
         // spectrum block of 3, multiplier 2
-        const V t984 = t974 + t954;
+        const V t984 = t974 + t955;
         const V t985 = c0 * t974;
-        const V t986 = t954 - t985;
+        const V t986 = t955 - t985;
         const V t987 = c24 * t971;
         const V t988 = c25 * t970;
         const V t989 = t987 - t988;
-        const V t990 = t986 + t989;
-        const V t991 = t986 - t989;
+        const V t990 = t986 - t989;
+        const V t991 = t986 + t989;
         // spectrum block of 3, multiplier 2
-        const V t992 = t955 - t977;
+        const V t992 = t954 - t977;
         const V t993 = c0 * t977;
-        const V t994 = t993 + t955;
+        const V t994 = t993 + t954;
         const V t995 = c26 * t969;
         const V t996 = c27 * t968;
         const V t997 = t995 - t996;
-        const V t998 = t994 + t997;
-        const V t999 = t994 - t997;
+        const V t998 = t994 - t997;
+        const V t999 = t994 + t997;
         // spectrum block of 3, multiplier 2
         const V t1000 = t945 + t933;
         const V t1001 = c0 * t945;
         const V t1002 = t933 - t1001;
         const V t1003 = c1 * t944;
-        const V t1004 = t1002 + t1003;
-        const V t1005 = t1002 - t1003;
+        const V t1004 = t1002 - t1003;
+        const V t1005 = t1002 + t1003;
         // complex block of 3, multiplier 2
         const V t1006 = t948 - t940;
         const V t1007 = t949 + t941;
@@ -1283,26 +1283,26 @@ struct ComplexGraph<57> {
         const V t1029 = c0 * t1011;
         const V t1030 = t1000 - t1029;
         const V t1031 = c1 * t1010;
-        const V t1032 = t1030 + t1031;
-        const V t1033 = t1030 - t1031;
+        const V t1032 = t1030 - t1031;
+        const V t1033 = t1030 + t1031;
         // spectrum block of 3, multiplier 2
-        const V t1034 = t1024 + t1004;
+        const V t1034 = t1024 + t1005;
         const V t1035 = c0 * t1024;
-        const V t1036 = t1004 - t1035;
+        const V t1036 = t1005 - t1035;
         const V t1037 = c25 * t1020;
         const V t1038 = c24 * t1021;
         const V t1039 = t1037 + t1038;
-        const V t1040 = t1036 + t1039;
-        const V t1041 = t1036 - t1039;
+        const V t1040 = t1036 - t1039;
+        const V t1041 = t1036 + t1039;
         // spectrum block of 3, multiplier 2
-        const V t1042 = t1005 - t1027;
+        const V t1042 = t1004 - t1027;
         const V t1043 = c0 * t1027;
-        const V t1044 = t1043 + t1005;
+        const V t1044 = t1043 + t1004;
         const V t1045 = c26 * t1019;
         const V t1046 = c27 * t1018;
         const V t1047 = t1045 - t1046;
-        const V t1048 = t1044 + t1047;
-        const V t1049 = t1044 - t1047;
+        const V t1048 = t1044 - t1047;
+        const V t1049 = t1044 + t1047;
         // spectrum block of 2
         const V t1050 = t833 + t931;
         const V t1051 = t833 - t931;
@@ -1331,8 +1331,8 @@ struct ComplexGraph<57> {
         const V t1069 = c0 * t1061;
         const V t1070 = t1050 - t1069;
         const V t1071 = c1 * t1060;
-        const V t1072 = t1070 + t1071;
-        const V t1073 = t1070 - t1071;
+        const V t1072 = t1070 - t1071;
+        const V t1073 = t1070 + t1071;
         // complex block of 3, multiplier 2
         const V t1074 = t1064 - t1056;
         const V t1075 = t1065 + t1057;
@@ -1362,33 +1362,33 @@ struct ComplexGraph<57> {
         const V t1097 = c0 * t1079;
         const V t1098 = t1068 - t1097;
         const V t1099 = c1 * t1078;
-        const V t1100 = t1098 + t1099;
-        const V t1101 = t1098 - t1099;
+        const V t1100 = t1098 - t1099;
+        const V t1101 = t1098 + t1099;
         // spectrum block of 3, multiplier 2
-        const V t1102 = t1092 + t1072;
+        const V t1102 = t1092 + t1073;
         const V t1103 = c0 * t1092;
-        const V t1104 = t1072 - t1103;
+        const V t1104 = t1073 - t1103;
         const V t1105 = c24 * t1089;
         const V t1106 = c25 * t1088;
         const V t1107 = t1105 - t1106;
-        const V t1108 = t1104 + t1107;
-        const V t1109 = t1104 - t1107;
+        const V t1108 = t1104 - t1107;
+        const V t1109 = t1104 + t1107;
         // spectrum block of 3, multiplier 2
-        const V t1110 = t1073 - t1095;
+        const V t1110 = t1072 - t1095;
         const V t1111 = c0 * t1095;
-        const V t1112 = t1111 + t1073;
+        const V t1112 = t1111 + t1072;
         const V t1113 = c26 * t1087;
         const V t1114 = c27 * t1086;
         const V t1115 = t1113 - t1114;
-        const V t1116 = t1112 + t1115;
-        const V t1117 = t1112 - t1115;
+        const V t1116 = t1112 - t1115;
+        const V t1117 = t1112 + t1115;
         // spectrum block of 3, multiplier 2
         const V t1118 = t1063 + t1051;
         const V t1119 = c0 * t1063;
         const V t1120 = t1051 - t1119;
         const V t1121 = c1 * t1062;
-        const V t1122 = t1120 + t1121;
-        const V t1123 = t1120 - t1121;
+        const V t1122 = t1120 - t1121;
+        const V t1123 = t1120 + t1121;
         // complex block of 3, multiplier 2
         const V t1124 = t1066 - t1058;
         const V t1125 = t1067 + t1059;
@@ -1418,26 +1418,26 @@ struct ComplexGraph<57> {
         const V t1147 = c0 * t1129;
         const V t1148 = t1118 - t1147;
         const V t1149 = c1 * t1128;
-        const V t1150 = t1148 + t1149;
-        const V t1151 = t1148 - t1149;
+        const V t1150 = t1148 - t1149;
+        const V t1151 = t1148 + t1149;
         // spectrum block of 3, multiplier 2
-        const V t1152 = t1142 + t1122;
+        const V t1152 = t1142 + t1123;
         const V t1153 = c0 * t1142;
-        const V t1154 = t1122 - t1153;
+        const V t1154 = t1123 - t1153;
         const V t1155 = c25 * t1138;
         const V t1156 = c24 * t1139;
         const V t1157 = t1155 + t1156;
-        const V t1158 = t1154 + t1157;
-        const V t1159 = t1154 - t1157;
+        const V t1158 = t1154 - t1157;
+        const V t1159 = t1154 + t1157;
         // spectrum block of 3, multiplier 2
-        const V t1160 = t1123 - t1145;
+        const V t1160 = t1122 - t1145;
         const V t1161 = c0 * t1145;
-        const V t1162 = t1161 + t1123;
+        const V t1162 = t1161 + t1122;
         const V t1163 = c26 * t1137;
         const V t1164 = c27 * t1136;
         const V t1165 = t1163 - t1164;
-        const V t1166 = t1162 + t1165;
-        const V t1167 = t1162 - t1165;
+        const V t1166 = t1162 - t1165;
+        const V t1167 = t1162 + t1165;
         // real block of 2
         const V x41r = io.re(41);
         const V x35r = io.re(35);
@@ -1895,8 +1895,8 @@ struct ComplexGraph<57> {
         const V t1535 = c0 * t1527;
         const V t1536 = t1516 - t1535;
         const V t1537 = c1 * t1526;
-        const V t1538 = t1536 + t1537;
-        const V t1539 = t1536 - t1537;
+        const V t1538 = t1536 - t1537;
+        const V t1539 = t1536 + t1537;
         // complex block of 3, multiplier 2
         const V t1540 = t1530 - t1522;
         const V t1541 = t1531 + t1523;
@@ -1926,33 +1926,33 @@ struct ComplexGraph<57> {
         const V t1563 = c0 * t1545;
         const V t1564 = t1534 - t1563;
         const V t1565 = c1 * t1544;
-        const V t1566 = t1564 + t1565;
-        const V t1567 = t1564 - t1565;
+        const V t1566 = t1564 - t1565;
+        const V t1567 = t1564 + t1565;
         // spectrum block of 3, multiplier 2
-        const V t1568 = t1558 + t1538;
+        const V t1568 = t1558 + t1539;
         const V t1569 = c0 * t1558;
-        const V t1570 = t1538 - t1569;
+        const V t1570 = t1539 - t1569;
         const V t1571 = c24 * t1555;
         const V t1572 = c25 * t1554;
         const V t1573 = t1571 - t1572;
-        const V t1574 = t1570 + t1573;
-        const V t1575 = t1570 - t1573;
+        const V t1574 = t1570 - t1573;
+        const V t1575 = t1570 + t1573;
         // spectrum block of 3, multiplier 2
-        const V t1576 = t1539 - t1561;
+        const V t1576 = t1538 - t1561;
         const V t1577 = c0 * t1561;
-        const V t1578 = t1577 + t1539;
+        const V t1578 = t1577 + t1538;
         const V t1579 = c26 * t1553;
         const V t1580 = c27 * t1552;
         const V t1581 = t1579 - t1580;
-        const V t1582 = t1578 + t1581;
-        const V t1583 = t1578 - t1581;
+        const V t1582 = t1578 - t1581;
+        const V t1583 = t1578 + t1581;
         // spectrum block of 3, multiplier 2
         const V t1584 = t1529 + t1517;
         const V t1585 = c0 * t1529;
         const V t1586 = t1517 - t1585;
         const V t1587 = c1 * t1528;
-        const V t1588 = t1586 + t1587;
-        const V t1589 = t1586 - t1587;
+        const V t1588 = t1586 - t1587;
+        const V t1589 = t1586 + t1587;
         // complex block of 3, multiplier 2
         const V t1590 = t1532 - t1524;
         const V t1591 = t1533 + t1525;
@@ -1982,26 +1982,26 @@ struct ComplexGraph<57> {
         const V t1613 = c0 * t1595;
         const V t1614 = t1584 - t1613;
         const V t1615 = c1 * t1594;
-        const V t1616 = t1614 + t1615;
-        const V t1617 = t1614 - t1615;
+        const V t1616 = t1614 - t1615;
+        const V t1617 = t1614 + t1615;
         // spectrum block of 3, multiplier 2
-        const V t1618 = t1608 + t1588;
+        const V t1618 = t1608 + t1589;
         const V t1619 = c0 * t1608;
-        const V t1620 = t1588 - t1619;
+        const V t1620 = t1589 - t1619;
         const V t1621 = c25 * t1604;
         const V t1622 = c24 * t1605;
         const V t1623 = t1621 + t1622;
-        const V t1624 = t1620 + t1623;
-        const V t1625 = t1620 - t1623;
+        const V t1624 = t1620 - t1623;
+        const V t1625 = t1620 + t1623;
         // spectrum block of 3, multiplier 2
-        const V t1626 = t1589 - t1611;
+        const V t1626 = t1588 - t1611;
         const V t1627 = c0 * t1611;
-        const V t1628 = t1627 + t1589;
+        const V t1628 = t1627 + t1588;
         const V t1629 = c26 * t1603;
         const V t1630 = c27 * t1602;
         const V t1631 = t1629 - t1630;
-        const V t1632 = t1628 + t1631;
-        const V t1633 = t1628 - t1631;
+        const V t1632 = t1628 - t1631;
+        const V t1633 = t1628 + t1631;
         // spectrum block of 2
         const V t1634 = t1417 + t1515;
         const V t1635 = t1417 - t1515;
@@ -2030,8 +2030,8 @@ struct ComplexGraph<57> {
         const V t1653 = c0 * t1645;
         const V t1654 = t1634 - t1653;
         const V t1655 = c1 * t1644;
-        const V t1656 = t1654 + t1655;
-        const V t1657 = t1654 - t1655;
+        const V t1656 = t1654 - t1655;
+        const V t1657 = t1654 + t1655;
         // complex block of 3, multiplier 2
         const V t1658 = t1648 - t1640;
         const V t1659 = t1649 + t1641;
@@ -2061,33 +2061,33 @@ struct ComplexGraph<57> {
         const V t1681 = c0 * t1663;
         const V t1682 = t1652 - t1681;
         const V t1683 = c1 * t1662;
-        const V t1684 = t1682 + t1683;
-        const V t1685 = t1682 - t1683;
+        const V t1684 = t1682 - t1683;
+        const V t1685 = t1682 + t1683;
         // spectrum block of 3, multiplier 2
-        const V t1686 = t1676 + t1656;
+        const V t1686 = t1676 + t1657;
         const V t1687 = c0 * t1676;
-        const V t1688 = t1656 - t1687;
+        const V t1688 = t1657 - t1687;
         const V t1689 = c24 * t1673;
         const V t1690 = c25 * t1672;
         const V t1691 = t1689 - t1690;
-        const V t1692 = t1688 + t1691;
-        const V t1693 = t1688 - t1691;
+        const V t1692 = t1688 - t1691;
+        const V t1693 = t1688 + t1691;
         // spectrum block of 3, multiplier 2
-        const V t1694 = t1657 - t1679;
+        const V t1694 = t1656 - t1679;
         const V t1695 = c0 * t1679;
-        const V t1696 = t1695 + t1657;
+        const V t1696 = t1695 + t1656;
         const V t1697 = c26 * t1671;
         const V t1698 = c27 * t1670;
         const V t1699 = t1697 - t1698;
-        const V t1700 = t1696 + t1699;
-        const V t1701 = t1696 - t1699;
+        const V t1700 = t1696 - t1699;
+        const V t1701 = t1696 + t1699;
         // spectrum block of 3, multiplier 2
         const V t1702 = t1647 + t1635;
         const V t1703 = c0 * t1647;
         const V t1704 = t1635 - t1703;
         const V t1705 = c1 * t1646;
-        const V t1706 = t1704 + t1705;
-        const V t1707 = t1704 - t1705;
+        const V t1706 = t1704 - t1705;
+        const V t1707 = t1704 + t1705;
         // complex block of 3, multiplier 2
         const V t1708 = t1650 - t1642;
         const V t1709 = t1651 + t1643;
@@ -2117,26 +2117,26 @@ struct ComplexGraph<57> {
         const V t1731 = c0 * t1713;
         const V t1732 = t1702 - t1731;
         const V t1733 = c1 * t1712;
-        const V t1734 = t1732 + t1733;
-        const V t1735 = t1732 - t1733;
+        const V t1734 = t1732 - t1733;
+        const V t1735 = t1732 + t1733;
         // spectrum block of 3, multiplier 2
-        const V t1736 = t1726 + t1706;
+        const V t1736 = t1726 + t1707;
         const V t1737 = c0 * t1726;
-        const V t1738 = t1706 - t1737;
+        const V t1738 = t1707 - t1737;
         const V t1739 = c25 * t1722;
         const V t1740 = c24 * t1723;
         const V t1741 = t1739 + t1740;
-        const V t1742 = t1738 + t1741;
-        const V t1743 = t1738 - t1741;
+        const V t1742 = t1738 - t1741;
+        const V t1743 = t1738 + t1741;
         // spectrum block of 3, multiplier 2
-        const V t1744 = t1707 - t1729;
+        const V t1744 = t1706 - t1729;
         const V t1745 = c0 * t1729;
-        const V t1746 = t1745 + t1707;
+        const V t1746 = t1745 + t1706;
         const V t1747 = c26 * t1721;
         const V t1748 = c27 * t1720;
         const V t1749 = t1747 - t1748;
-        const V t1750 = t1746 + t1749;
-        const V t1751 = t1746 - t1749;
+        const V t1750 = t1746 - t1749;
+        const V t1751 = t1746 + t1749;
         // complex block of 3
         const V t1752 = t828 + t1412;
         const V t1753 = t829 + t1413;
@@ -2184,18 +2184,18 @@ struct ComplexGraph<57> {
         const V t1783 = t1777 + t1778;
         io.im(41, t1783);
         // complex block of 3
-        const V t1784 = t1040 + t1624;
-        const V t1785 = t1158 + t1742;
-        const V t1786 = t1040 - t1624;
-        const V t1787 = t1158 - t1742;
-        const V t1788 = t1784 + t456;
+        const V t1784 = t1041 + t1625;
+        const V t1785 = t1159 + t1743;
+        const V t1786 = t1041 - t1625;
+        const V t1787 = t1159 - t1743;
+        const V t1788 = t1784 + t457;
         io.re(6, t1788);
-        const V t1789 = t1785 + t574;
+        const V t1789 = t1785 + t575;
         io.im(6, t1789);
         const V t1790 = c0 * t1784;
-        const V t1791 = t456 - t1790;
+        const V t1791 = t457 - t1790;
         const V t1792 = c0 * t1785;
-        const V t1793 = t574 - t1792;
+        const V t1793 = t575 - t1792;
         const V t1794 = c1 * t1786;
         const V t1795 = c1 * t1787;
         const V t1796 = t1791 + t1795;
@@ -2207,18 +2207,18 @@ struct ComplexGraph<57> {
         const V t1799 = t1793 + t1794;
         io.im(44, t1799);
         // complex block of 3
-        const V t1800 = t1041 + t1625;
-        const V t1801 = t1159 + t1743;
-        const V t1802 = t1041 - t1625;
-        const V t1803 = t1159 - t1743;
-        const V t1804 = t1800 + t457;
+        const V t1800 = t1040 + t1624;
+        const V t1801 = t1158 + t1742;
+        const V t1802 = t1040 - t1624;
+        const V t1803 = t1158 - t1742;
+        const V t1804 = t1800 + t456;
         io.re(9, t1804);
-        const V t1805 = t1801 + t575;
+        const V t1805 = t1801 + t574;
         io.im(9, t1805);
         const V t1806 = c0 * t1800;
-        const V t1807 = t457 - t1806;
+        const V t1807 = t456 - t1806;
         const V t1808 = c0 * t1801;
-        const V t1809 = t575 - t1808;
+        const V t1809 = t574 - t1808;
         const V t1810 = c1 * t1802;
         const V t1811 = c1 * t1803;
         const V t1812 = t1807 + t1811;
@@ -2230,18 +2230,18 @@ struct ComplexGraph<57> {
         const V t1815 = t1809 + t1810;
         io.im(47, t1815);
         // complex block of 3
-        const V t1816 = t999 + t1583;
-        const V t1817 = t1117 + t1701;
-        const V t1818 = t999 - t1583;
-        const V t1819 = t1117 - t1701;
-        const V t1820 = t1816 + t415;
+        const V t1816 = t998 + t1582;
+        const V t1817 = t1116 + t1700;
+        const V t1818 = t998 - t1582;
+        const V t1819 = t1116 - t1700;
+        const V t1820 = t1816 + t414;
         io.re(12, t1820);
-        const V t1821 = t1817 + t533;
+        const V t1821 = t1817 + t532;
         io.im(12, t1821);
         const V t1822 = c0 * t1816;
-        const V t1823 = t415 - t1822;
+        const V t1823 = t414 - t1822;
         const V t1824 = c0 * t1817;
-        const V t1825 = t533 - t1824;
+        const V t1825 = t532 - t1824;
         const V t1826 = c1 * t1818;
         const V t1827 = c1 * t1819;
         const V t1828 = t1823 + t1827;
@@ -2299,18 +2299,18 @@ struct ComplexGraph<57> {
         const V t1863 = t1857 + t1858;
         io.im(56, t1863);
         // complex block of 3
-        const V t1864 = t983 + t1567;
-        const V t1865 = t1101 + t1685;
-        const V t1866 = t983 - t1567;
-        const V t1867 = t1101 - t1685;
-        const V t1868 = t1864 + t399;
+        const V t1864 = t982 + t1566;
+        const V t1865 = t1100 + t1684;
+        const V t1866 = t982 - t1566;
+        const V t1867 = t1100 - t1684;
+        const V t1868 = t1864 + t398;
         io.re(21, t1868);
-        const V t1869 = t1865 + t517;
+        const V t1869 = t1865 + t516;
         io.im(21, t1869);
         const V t1870 = c0 * t1864;
-        const V t1871 = t399 - t1870;
+        const V t1871 = t398 - t1870;
         const V t1872 = c0 * t1865;
-        const V t1873 = t517 - t1872;
+        const V t1873 = t516 - t1872;
         const V t1874 = c1 * t1866;
         const V t1875 = c1 * t1867;
         const V t1876 = t1871 + t1875;
@@ -2322,18 +2322,18 @@ struct ComplexGraph<57> {
         const V t1879 = t1873 + t1874;
         io.im(2, t1879);
         // complex block of 3
-        const V t1880 = t1032 + t1616;
-        const V t1881 = t1150 + t1734;
-        const V t1882 = t1032 - t1616;
-        const V t1883 = t1150 - t1734;
-        const V t1884 = t1880 + t448;
+        const V t1880 = t1033 + t1617;
+        const V t1881 = t1151 + t1735;
+        const V t1882 = t1033 - t1617;
+        const V t1883 = t1151 - t1735;
+        const V t1884 = t1880 + t449;
         io.re(24, t1884);
-        const V t1885 = t1881 + t566;
+        const V t1885 = t1881 + t567;
         io.im(24, t1885);
         const V t1886 = c0 * t1880;
-        const V t1887 = t448 - t1886;
+        const V t1887 = t449 - t1886;
         const V t1888 = c0 * t1881;
-        const V t1889 = t566 - t1888;
+        const V t1889 = t567 - t1888;
         const V t1890 = c1 * t1882;
         const V t1891 = c1 * t1883;
         const V t1892 = t1887 + t1891;
@@ -2345,18 +2345,18 @@ struct ComplexGraph<57> {
         const V t1895 = t1889 + t1890;
         io.im(5, t1895);
         // complex block of 3
-        const V t1896 = t998 + t1582;
-        const V t1897 = t1116 + t1700;
-        const V t1898 = t998 - t1582;
-        const V t1899 = t1116 - t1700;
-        const V t1900 = t1896 + t414;
+        const V t1896 = t999 + t1583;
+        const V t1897 = t1117 + t1701;
+        const V t1898 = t999 - t1583;
+        const V t1899 = t1117 - t1701;
+        const V t1900 = t1896 + t415;
         io.re(27, t1900);
-        const V t1901 = t1897 + t532;
+        const V t1901 = t1897 + t533;
         io.im(27, t1901);
         const V t1902 = c0 * t1896;
-        const V t1903 = t414 - t1902;
+        const V t1903 = t415 - t1902;
         const V t1904 = c0 * t1897;
-        const V t1905 = t532 - t1904;
+        const V t1905 = t533 - t1904;
         const V t1906 = c1 * t1898;
         const V t1907 = c1 * t1899;
         const V t1908 = t1903 + t1907;
@@ -2368,18 +2368,18 @@ struct ComplexGraph<57> {
         const V t1911 = t1905 + t1906;
         io.im(8, t1911);
         // complex block of 3
-        const V t1912 = t1048 + t1632;
-        const V t1913 = t1166 + t1750;
-        const V t1914 = t1048 - t1632;
-        const V t1915 = t1166 - t1750;
-        const V t1916 = t1912 + t464;
+        const V t1912 = t1049 + t1633;
+        const V t1913 = t1167 + t1751;
+        const V t1914 = t1049 - t1633;
+        const V t1915 = t1167 - t1751;
+        const V t1916 = t1912 + t465;
         io.re(30, t1916);
-        const V t1917 = t1913 + t582;
+        const V t1917 = t1913 + t583;
         io.im(30, t1917);
         const V t1918 = c0 * t1912;
-        const V t1919 = t464 - t1918;
+        const V t1919 = t465 - t1918;
         const V t1920 = c0 * t1913;
-        const V t1921 = t582 - t1920;
+        const V t1921 = t583 - t1920;
         const V t1922 = c1 * t1914;
         const V t1923 = c1 * t1915;
         const V t1924 = t1919 + t1923;
@@ -2391,18 +2391,18 @@ struct ComplexGraph<57> {
         const V t1927 = t1921 + t1922;
         io.im(11, t1927);
         // complex block of 3
-        const V t1928 = t982 + t1566;
-        const V t1929 = t1100 + t1684;
-        const V t1930 = t982 - t1566;
-        const V t1931 = t1100 - t1684;
-        const V t1932 = t1928 + t398;
+        const V t1928 = t983 + t1567;
+        const V t1929 = t1101 + t1685;
+        const V t1930 = t983 - t1567;
+        const V t1931 = t1101 - t1685;
+        const V t1932 = t1928 + t399;
         io.re(33, t1932);
-        const V t1933 = t1929 + t516;
+        const V t1933 = t1929 + t517;
         io.im(33, t1933);
         const V t1934 = c0 * t1928;
-        const V t1935 = t398 - t1934;
+        const V t1935 = t399 - t1934;
         const V t1936 = c0 * t1929;
-        const V t1937 = t516 - t1936;
+        const V t1937 = t517 - t1936;
         const V t1938 = c1 * t1930;
         const V t1939 = c1 * t1931;
         const V t1940 = t1935 + t1939;
@@ -2414,18 +2414,18 @@ struct ComplexGraph<57> {
         const V t1943 = t1937 + t1938;
         io.im(14, t1943);
         // complex block of 3
-        const V t1944 = t1033 + t1617;
-        const V t1945 = t1151 + t1735;
-        const V t1946 = t1033 - t1617;
-        const V t1947 = t1151 - t1735;
-        const V t1948 = t1944 + t449;
+        const V t1944 = t1032 + t1616;
+        const V t1945 = t1150 + t1734;
+        const V t1946 = t1032 - t1616;
+        const V t1947 = t1150 - t1734;
+        const V t1948 = t1944 + t448;
         io.re(36, t1948);
-        const V t1949 = t1945 + t567;
+        const V t1949 = t1945 + t566;
         io.im(36, t1949);
         const V t1950 = c0 * t1944;
-        const V t1951 = t449 - t1950;
+        const V t1951 = t448 - t1950;
         const V t1952 = c0 * t1945;
-        const V t1953 = t567 - t1952;
+        const V t1953 = t566 - t1952;
         const V t1954 = c1 * t1946;
         const V t1955 = c1 * t1947;
         const V t1956 = t1951 + t1955;
@@ -2483,18 +2483,18 @@ struct ComplexGraph<57> {
         const V t1991 = t1985 + t1986;
         io.im(23, t1991);
         // complex block of 3
-        const V t1992 = t1049 + t1633;
-        const V t1993 = t1167 + t1751;
-        const V t1994 = t1049 - t1633;
-        const V t1995 = t1167 - t1751;
-        const V t1996 = t1992 + t465;
+        const V t1992 = t1048 + t1632;
+        const V t1993 = t1166 + t1750;
+        const V t1994 = t1048 - t1632;
+        const V t1995 = t1166 - t1750;
+        const V t1996 = t1992 + t464;
         io.re(45, t1996);
-        const V t1997 = t1993 + t583;
+        const V t1997 = t1993 + t582;
         io.im(45, t1997);
         const V t1998 = c0 * t1992;
-        const V t1999 = t465 - t1998;
+        const V t1999 = t464 - t1998;
         const V t2000 = c0 * t1993;
-        const V t2001 = t583 - t2000;
+        const V t2001 = t582 - t2000;
         const V t2002 = c1 * t1994;
         const V t2003 = c1 * t1995;
         const V t2004 = t1999 + t2003;
@@ -2506,18 +2506,18 @@ struct ComplexGraph<57> {
         const V t2007 = t2001 + t2002;
         io.im(26, t2007);
         // complex block of 3
-        const V t2008 = t991 + t1575;
-        const V t2009 = t1109 + t1693;
-        const V t2010 = t991 - t1575;
-        const V t2011 = t1109 - t1693;
-        const V t2012 = t2008 + t407;
+        const V t2008 = t990 + t1574;
+        const V t2009 = t1108 + t1692;
+        const V t2010 = t990 - t1574;
+        const V t2011 = t1108 - t1692;
+        const V t2012 = t2008 + t406;
         io.re(48, t2012);
-        const V t2013 = t2009 + t525;
+        const V t2013 = t2009 + t524;
         io.im(48, t2013);
         const V t2014 = c0 * t2008;
-        const V t2015 = t407 - t2014;
+        const V t2015 = t406 - t2014;
         const V t2016 = c0 * t2009;
-        const V t2017 = t525 - t2016;
+        const V t2017 = t524 - t2016;
         const V t2018 = c1 * t2010;
         const V t2019 = c1 * t2011;
         const V t2020 = t2015 + t2019;
@@ -2529,18 +2529,18 @@ struct ComplexGraph<57> {
         const V t2023 = t2017 + t2018;
         io.im(29, t2023);
         // complex block of 3
-        const V t2024 = t990 + t1574;
-        const V t2025 = t1108 + t1692;
-        const V t2026 = t990 - t1574;
-        const V t2027 = t1108 - t1692;
-        const V t2028 = t2024 + t406;
+        const V t2024 = t991 + t1575;
+        const V t2025 = t1109 + t1693;
+        const V t2026 = t991 - t1575;
+        const V t2027 = t1109 - t1693;
+        const V t2028 = t2024 + t407;
         io.re(51, t2028);
-        const V t2029 = t2025 + t524;
+        const V t2029 = t2025 + t525;
         io.im(51, t2029);
         const V t2030 = c0 * t2024;
-        const V t2031 = t406 - t2030;
+        const V t2031 = t407 - t2030;
         const V t2032 = c0 * t2025;
-        const V t2033 = t524 - t2032;
+        const V t2033 = t525 - t2032;
         const V t2034 = c1 * t2026;
         const V t2035 = c1 * t2027;
         const V t2036 = t2031 + t2035;

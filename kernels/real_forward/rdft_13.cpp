@@ -148,20 +148,20 @@ struct RealForwardGraph<13> {
         const V t87 = c0 * t83;
         const V t88 = t80 - t87;
         const V t89 = c1 * t82;
-        const V t90 = t88 + t89;
-        io.re(3, t90);
-        const V t91 = t88 - t89;
-        io.re(4, t91);
+        const V t90 = t88 - t89;
+        io.re(4, t90);
+        const V t91 = t88 + t89;
+        io.re(3, t91);
         // spectrum block of 3, multiplier 2
         const V t92 = t85 + t81;
         io.re(5, t92);
         const V t93 = c0 * t85;
         const V t94 = t81 - t93;
         const V t95 = c1 * t84;
-        const V t96 = t94 + t95;
-        io.re(2, t96);
-        const V t97 = t94 - t95;
-        io.re(6, t97);
+        const V t96 = t94 - t95;
+        io.re(6, t96);
+        const V t97 = t94 + t95;
+        io.re(2, t97);
         // complex block of 2
         const V t98 = t75 - t51;
         const V t99 = t54 + t78;
@@ -177,10 +177,10 @@ struct RealForwardGraph<13> {
         const V t106 = c0 * t99;
         const V t107 = t66 + t106;
         const V t108 = c1 * t98;
-        const V t109 = t107 + t108;
-        io.im(4, t109);
-        const V t110 = t108 - t107;
-        io.im(3, t110);
+        const V t109 = t108 - t107;
+        io.im(3, t109);
+        const V t110 = t107 + t108;
+        io.im(4, t110);
         // spectrum block of 3, multiplier 2
         const V t111 = t104 + t63;
         io.minusIm(6, t111);
@@ -189,10 +189,10 @@ struct RealForwardGraph<13> {
         const V t114 = c14 * t101;
         const V t115 = c15 * t100;
         const V t116 = t114 - t115;
-        const V t117 = t113 + t116;
-        io.im(2, t117);
-        const V t118 = t116 - t113;
-        io.minusIm(5, t118);
+        const V t117 = t116 - t113;
+        io.minusIm(5, t117);
+        const V t118 = t113 + t116;
+        io.im(2, t118);
     }
 };
 

@@ -328,8 +328,8 @@ struct RealForwardGraph<19> {
         const V t223 = c32 * t116;
         const V t224 = c33 * t117;
         const V t225 = t223 + t224;
-        const V t226 = t225 - t222;
-        const V t227 = t222 + t225;
+        const V t226 = t222 + t225;
+        const V t227 = t225 - t222;
         // complex block of 3, multiplier 2
         const V t228 = t127 + t148;
         const V t229 = t130 + t151;
@@ -360,34 +360,34 @@ struct RealForwardGraph<19> {
         const V t251 = c0 * t233;
         const V t252 = t220 - t251;
         const V t253 = c1 * t232;
-        const V t254 = t252 + t253;
-        io.minusIm(8, t254);
-        const V t255 = t252 - t253;
-        io.im(7, t255);
+        const V t254 = t252 - t253;
+        io.im(7, t254);
+        const V t255 = t252 + t253;
+        io.minusIm(8, t255);
         // spectrum block of 3, multiplier 2
-        const V t256 = t246 + t226;
+        const V t256 = t246 + t227;
         io.im(5, t256);
         const V t257 = c0 * t246;
-        const V t258 = t226 - t257;
+        const V t258 = t227 - t257;
         const V t259 = c30 * t242;
         const V t260 = c31 * t243;
         const V t261 = t259 + t260;
-        const V t262 = t258 + t261;
-        io.minusIm(2, t262);
-        const V t263 = t258 - t261;
-        io.minusIm(3, t263);
+        const V t262 = t258 - t261;
+        io.minusIm(3, t262);
+        const V t263 = t258 + t261;
+        io.minusIm(2, t263);
         // spectrum block of 3, multiplier 2
-        const V t264 = t249 - t227;
+        const V t264 = t249 - t226;
         io.im(6, t264);
         const V t265 = c0 * t249;
-        const V t266 = t227 + t265;
+        const V t266 = t226 + t265;
         const V t267 = c34 * t240;
         const V t268 = c35 * t241;
         const V t269 = t267 + t268;
-        const V t270 = t266 + t269;
-        io.minusIm(9, t270);
-        const V t271 = t269 - t266;
-        io.im(4, t271);
+        const V t270 = t269 - t266;
+        io.im(4, t270);
+        const V t271 = t266 + t269;
+        io.minusIm(9, t271);
     }
 };
 

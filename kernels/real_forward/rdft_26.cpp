@@ -146,15 +146,15 @@ struct RealForwardGraph<26> {
         const V t87 = c0 * t83;
         const V t88 = t80 - t87;
         const V t89 = c1 * t82;
-        const V t90 = t88 + t89;
-        const V t91 = t88 - t89;
+        const V t90 = t88 - t89;
+        const V t91 = t88 + t89;
         // spectrum block of 3, multiplier 2
         const V t92 = t85 + t81;
         const V t93 = c0 * t85;
         const V t94 = t81 - t93;
         const V t95 = c1 * t84;
-        const V t96 = t94 - t95;
-        const V t97 = t94 + t95;
+        const V t96 = t94 + t95;
+        const V t97 = t94 - t95;
         // complex block of 2
         const V t98 = t51 - t75;
         const V t99 = t54 + t78;
@@ -169,8 +169,8 @@ struct RealForwardGraph<26> {
         const V t106 = c0 * t99;
         const V t107 = t66 + t106;
         const V t108 = c1 * t98;
-        const V t109 = t107 - t108;
-        const V t110 = t108 + t107;
+        const V t109 = t108 + t107;
+        const V t110 = t107 - t108;
         // spectrum block of 3, multiplier 2
         const V t111 = t104 + t63;
         const V t112 = c0 * t104;
@@ -178,8 +178,8 @@ struct RealForwardGraph<26> {
         const V t114 = c14 * t101;
         const V t115 = c15 * t100;
         const V t116 = t114 - t115;
-        const V t117 = t113 - t116;
-        const V t118 = t113 + t116;
+        const V t117 = t113 + t116;
+        const V t118 = t113 - t116;
         // real block of 3
         const V x19 = io.in(19);
         const V x5 = io.in(5);
@@ -298,15 +298,15 @@ struct RealForwardGraph<26> {
         const V t206 = c0 * t202;
         const V t207 = t199 - t206;
         const V t208 = c1 * t201;
-        const V t209 = t207 + t208;
-        const V t210 = t207 - t208;
+        const V t209 = t207 - t208;
+        const V t210 = t207 + t208;
         // spectrum block of 3, multiplier 2
         const V t211 = t204 + t200;
         const V t212 = c0 * t204;
         const V t213 = t200 - t212;
         const V t214 = c1 * t203;
-        const V t215 = t213 - t214;
-        const V t216 = t213 + t214;
+        const V t215 = t213 + t214;
+        const V t216 = t213 - t214;
         // complex block of 2
         const V t217 = t194 - t170;
         const V t218 = t173 + t197;
@@ -321,8 +321,8 @@ struct RealForwardGraph<26> {
         const V t225 = c0 * t218;
         const V t226 = t185 + t225;
         const V t227 = c1 * t217;
-        const V t228 = t226 + t227;
-        const V t229 = t227 - t226;
+        const V t228 = t227 - t226;
+        const V t229 = t226 + t227;
         // spectrum block of 3, multiplier 2
         const V t230 = t223 + t182;
         const V t231 = c0 * t223;
@@ -330,8 +330,8 @@ struct RealForwardGraph<26> {
         const V t233 = c14 * t220;
         const V t234 = c15 * t219;
         const V t235 = t233 - t234;
-        const V t236 = t232 - t235;
-        const V t237 = t232 + t235;
+        const V t236 = t232 + t235;
+        const V t237 = t232 - t235;
         // real block of 2
         const V t238 = t46 + t165;
         io.re(0, t238);
@@ -347,47 +347,47 @@ struct RealForwardGraph<26> {
         const V t243 = t105 + t224;
         io.im(11, t243);
         // complex block of 2
-        const V t244 = t96 + t215;
+        const V t244 = t97 + t216;
         io.re(4, t244);
-        const V t245 = t117 + t236;
+        const V t245 = t118 + t237;
         io.minusIm(4, t245);
-        const V t246 = t96 - t215;
+        const V t246 = t97 - t216;
         io.re(9, t246);
-        const V t247 = t236 - t117;
+        const V t247 = t237 - t118;
         io.minusIm(9, t247);
         // complex block of 2
-        const V t248 = t90 + t209;
+        const V t248 = t91 + t210;
         io.re(6, t248);
-        const V t249 = t229 - t110;
+        const V t249 = t228 - t109;
         io.im(6, t249);
-        const V t250 = t90 - t209;
+        const V t250 = t91 - t210;
         io.re(7, t250);
-        const V t251 = t110 + t229;
+        const V t251 = t109 + t228;
         io.im(7, t251);
         // complex block of 2
-        const V t252 = t91 + t210;
+        const V t252 = t90 + t209;
         io.re(8, t252);
-        const V t253 = t109 + t228;
+        const V t253 = t110 + t229;
         io.im(8, t253);
-        const V t254 = t91 - t210;
+        const V t254 = t90 - t209;
         io.re(5, t254);
-        const V t255 = t109 - t228;
+        const V t255 = t110 - t229;
         io.minusIm(5, t255);
         // complex block of 2
         const V t256 = t92 + t211;
         io.re(10, t256);
-        const V t257 = t118 + t237;
+        const V t257 = t117 + t236;
         io.minusIm(10, t257);
         const V t258 = t92 - t211;
         io.re(3, t258);
-        const V t259 = t237 - t118;
+        const V t259 = t236 - t117;
         io.minusIm(3, t259);
         // complex block of 2
-        const V t260 = t97 + t216;
+        const V t260 = t96 + t215;
         io.re(12, t260);
         const V t261 = t111 + t230;
         io.minusIm(12, t261);
-        const V t262 = t97 - t216;
+        const V t262 = t96 - t215;
         io.re(1, t262);
         const V t263 = t230 - t111;
         io.minusIm(1, t263);

@@ -318,8 +318,8 @@ struct RealForwardGraph<38> {
         const V t223 = c32 * t116;
         const V t224 = c33 * t117;
         const V t225 = t223 - t224;
-        const V t226 = t222 + t225;
-        const V t227 = t222 - t225;
+        const V t226 = t222 - t225;
+        const V t227 = t222 + t225;
         // complex block of 3, multiplier 2
         const V t228 = t127 + t148;
         const V t229 = t130 + t151;
@@ -349,26 +349,26 @@ struct RealForwardGraph<38> {
         const V t251 = c0 * t233;
         const V t252 = t220 - t251;
         const V t253 = c1 * t232;
-        const V t254 = t252 - t253;
-        const V t255 = t252 + t253;
+        const V t254 = t252 + t253;
+        const V t255 = t252 - t253;
         // spectrum block of 3, multiplier 2
-        const V t256 = t246 + t226;
+        const V t256 = t246 + t227;
         const V t257 = c0 * t246;
-        const V t258 = t226 - t257;
+        const V t258 = t227 - t257;
         const V t259 = c30 * t242;
         const V t260 = c31 * t243;
         const V t261 = t259 + t260;
-        const V t262 = t258 + t261;
-        const V t263 = t258 - t261;
+        const V t262 = t258 - t261;
+        const V t263 = t258 + t261;
         // spectrum block of 3, multiplier 2
-        const V t264 = t227 - t249;
+        const V t264 = t226 - t249;
         const V t265 = c0 * t249;
-        const V t266 = t265 + t227;
+        const V t266 = t265 + t226;
         const V t267 = c34 * t241;
         const V t268 = c35 * t240;
         const V t269 = t267 - t268;
-        const V t270 = t266 + t269;
-        const V t271 = t266 - t269;
+        const V t270 = t266 - t269;
+        const V t271 = t266 + t269;
         // real block of 3, multiplier 2
         const V x33 = io.in(33);
         const V x3 = io.in(3);
@@ -639,8 +639,8 @@ struct RealForwardGraph<38> {
         const V t495 = c32 * t388;
         const V t496 = c33 * t389;
         const V t497 = t495 - t496;
-        const V t498 = t494 + t497;
-        const V t499 = t494 - t497;
+        const V t498 = t494 - t497;
+        const V t499 = t494 + t497;
         // complex block of 3, multiplier 2
         const V t500 = t399 + t420;
         const V t501 = t402 + t423;
@@ -670,26 +670,26 @@ struct RealForwardGraph<38> {
         const V t523 = c0 * t505;
         const V t524 = t492 - t523;
         const V t525 = c1 * t504;
-        const V t526 = t524 - t525;
-        const V t527 = t524 + t525;
+        const V t526 = t524 + t525;
+        const V t527 = t524 - t525;
         // spectrum block of 3, multiplier 2
-        const V t528 = t518 + t498;
+        const V t528 = t518 + t499;
         const V t529 = c0 * t518;
-        const V t530 = t498 - t529;
+        const V t530 = t499 - t529;
         const V t531 = c30 * t514;
         const V t532 = c31 * t515;
         const V t533 = t531 + t532;
-        const V t534 = t530 + t533;
-        const V t535 = t530 - t533;
+        const V t534 = t530 - t533;
+        const V t535 = t530 + t533;
         // spectrum block of 3, multiplier 2
-        const V t536 = t499 - t521;
+        const V t536 = t498 - t521;
         const V t537 = c0 * t521;
-        const V t538 = t537 + t499;
+        const V t538 = t537 + t498;
         const V t539 = c34 * t513;
         const V t540 = c35 * t512;
         const V t541 = t539 - t540;
-        const V t542 = t538 + t541;
-        const V t543 = t538 - t541;
+        const V t542 = t538 - t541;
+        const V t543 = t538 + t541;
         // real block of 2
         const V t544 = t122 + t394;
         io.re(0, t544);
@@ -707,29 +707,29 @@ struct RealForwardGraph<38> {
         // complex block of 2
         const V t550 = t219 + t491;
         io.re(4, t550);
-        const V t551 = t262 + t534;
+        const V t551 = t263 + t535;
         io.minusIm(4, t551);
         const V t552 = t219 - t491;
         io.re(15, t552);
-        const V t553 = t534 - t262;
+        const V t553 = t535 - t263;
         io.minusIm(15, t553);
         // complex block of 2
         const V t554 = t218 + t490;
         io.re(6, t554);
-        const V t555 = t263 + t535;
+        const V t555 = t262 + t534;
         io.minusIm(6, t555);
         const V t556 = t218 - t490;
         io.re(13, t556);
-        const V t557 = t535 - t263;
+        const V t557 = t534 - t262;
         io.minusIm(13, t557);
         // complex block of 2
         const V t558 = t211 + t483;
         io.re(8, t558);
-        const V t559 = t271 + t543;
+        const V t559 = t270 + t542;
         io.im(8, t559);
         const V t560 = t211 - t483;
         io.re(11, t560);
-        const V t561 = t271 - t543;
+        const V t561 = t270 - t542;
         io.minusIm(11, t561);
         // complex block of 2
         const V t562 = t212 + t484;
@@ -752,29 +752,29 @@ struct RealForwardGraph<38> {
         // complex block of 2
         const V t570 = t202 + t474;
         io.re(14, t570);
-        const V t571 = t255 + t527;
+        const V t571 = t254 + t526;
         io.im(14, t571);
         const V t572 = t202 - t474;
         io.re(5, t572);
-        const V t573 = t255 - t527;
+        const V t573 = t254 - t526;
         io.minusIm(5, t573);
         // complex block of 2
         const V t574 = t203 + t475;
         io.re(16, t574);
-        const V t575 = t254 + t526;
+        const V t575 = t255 + t527;
         io.minusIm(16, t575);
         const V t576 = t203 - t475;
         io.re(3, t576);
-        const V t577 = t526 - t254;
+        const V t577 = t527 - t255;
         io.minusIm(3, t577);
         // complex block of 2
         const V t578 = t204 + t476;
         io.re(18, t578);
-        const V t579 = t270 + t542;
+        const V t579 = t271 + t543;
         io.im(18, t579);
         const V t580 = t204 - t476;
         io.re(1, t580);
-        const V t581 = t270 - t542;
+        const V t581 = t271 - t543;
         io.minusIm(1, t581);
     }
 };

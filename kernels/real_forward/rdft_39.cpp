@@ -146,15 +146,15 @@ struct RealForwardGraph<39> {
         const V t87 = c0 * t83;
         const V t88 = t80 - t87;
         const V t89 = c1 * t82;
-        const V t90 = t88 - t89;
-        const V t91 = t88 + t89;
+        const V t90 = t88 + t89;
+        const V t91 = t88 - t89;
         // spectrum block of 3, multiplier 2
         const V t92 = t85 + t81;
         const V t93 = c0 * t85;
         const V t94 = t81 - t93;
         const V t95 = c1 * t84;
-        const V t96 = t94 + t95;
-        const V t97 = t94 - t95;
+        const V t96 = t94 - t95;
+        const V t97 = t94 + t95;
         // complex block of 2
         const V t98 = t75 - t51;
         const V t99 = t54 + t78;
@@ -169,8 +169,8 @@ struct RealForwardGraph<39> {
         const V t106 = c0 * t99;
         const V t107 = t106 + t66;
         const V t108 = c1 * t98;
-        const V t109 = t107 - t108;
-        const V t110 = t107 + t108;
+        const V t109 = t107 + t108;
+        const V t110 = t107 - t108;
         // spectrum block of 3, multiplier 2
         const V t111 = t104 + t63;
         const V t112 = c0 * t104;
@@ -178,8 +178,8 @@ struct RealForwardGraph<39> {
         const V t114 = c14 * t101;
         const V t115 = c15 * t100;
         const V t116 = t114 - t115;
-        const V t117 = t113 - t116;
-        const V t118 = t113 + t116;
+        const V t117 = t113 + t116;
+        const V t118 = t113 - t116;
         // real block of 3
         const V x22 = io.in(22);
         const V x1 = io.in(1);
@@ -298,15 +298,15 @@ struct RealForwardGraph<39> {
         const V t206 = c0 * t202;
         const V t207 = t199 - t206;
         const V t208 = c1 * t201;
-        const V t209 = t207 - t208;
-        const V t210 = t207 + t208;
+        const V t209 = t207 + t208;
+        const V t210 = t207 - t208;
         // spectrum block of 3, multiplier 2
         const V t211 = t204 + t200;
         const V t212 = c0 * t204;
         const V t213 = t200 - t212;
         const V t214 = c1 * t203;
-        const V t215 = t213 + t214;
-        const V t216 = t213 - t214;
+        const V t215 = t213 - t214;
+        const V t216 = t213 + t214;
         // complex block of 2
         const V t217 = t194 - t170;
         const V t218 = t173 + t197;
@@ -321,8 +321,8 @@ struct RealForwardGraph<39> {
         const V t225 = c0 * t218;
         const V t226 = t225 + t185;
         const V t227 = c1 * t217;
-        const V t228 = t226 - t227;
-        const V t229 = t226 + t227;
+        const V t228 = t226 + t227;
+        const V t229 = t226 - t227;
         // spectrum block of 3, multiplier 2
         const V t230 = t223 + t182;
         const V t231 = c0 * t223;
@@ -330,8 +330,8 @@ struct RealForwardGraph<39> {
         const V t233 = c14 * t220;
         const V t234 = c15 * t219;
         const V t235 = t233 - t234;
-        const V t236 = t232 - t235;
-        const V t237 = t232 + t235;
+        const V t236 = t232 + t235;
+        const V t237 = t232 - t235;
         // real block of 3
         const V x35 = io.in(35);
         const V x14 = io.in(14);
@@ -450,15 +450,15 @@ struct RealForwardGraph<39> {
         const V t325 = c0 * t321;
         const V t326 = t318 - t325;
         const V t327 = c1 * t320;
-        const V t328 = t326 - t327;
-        const V t329 = t326 + t327;
+        const V t328 = t326 + t327;
+        const V t329 = t326 - t327;
         // spectrum block of 3, multiplier 2
         const V t330 = t323 + t319;
         const V t331 = c0 * t323;
         const V t332 = t319 - t331;
         const V t333 = c1 * t322;
-        const V t334 = t332 + t333;
-        const V t335 = t332 - t333;
+        const V t334 = t332 - t333;
+        const V t335 = t332 + t333;
         // complex block of 2
         const V t336 = t313 - t289;
         const V t337 = t292 + t316;
@@ -473,8 +473,8 @@ struct RealForwardGraph<39> {
         const V t344 = c0 * t337;
         const V t345 = t344 + t304;
         const V t346 = c1 * t336;
-        const V t347 = t345 - t346;
-        const V t348 = t345 + t346;
+        const V t347 = t345 + t346;
+        const V t348 = t345 - t346;
         // spectrum block of 3, multiplier 2
         const V t349 = t342 + t301;
         const V t350 = c0 * t342;
@@ -482,8 +482,8 @@ struct RealForwardGraph<39> {
         const V t352 = c14 * t339;
         const V t353 = c15 * t338;
         const V t354 = t352 - t353;
-        const V t355 = t351 - t354;
-        const V t356 = t351 + t354;
+        const V t355 = t351 + t354;
+        const V t356 = t351 - t354;
         // real block of 3
         const V t357 = t165 + t284;
         const V t358 = t284 - t165;
@@ -518,18 +518,18 @@ struct RealForwardGraph<39> {
         const V t378 = t372 + t373;
         io.minusIm(10, t378);
         // complex block of 3
-        const V t379 = t215 + t334;
-        const V t380 = t236 + t355;
-        const V t381 = t215 - t334;
-        const V t382 = t355 - t236;
-        const V t383 = t379 + t96;
+        const V t379 = t216 + t335;
+        const V t380 = t237 + t356;
+        const V t381 = t216 - t335;
+        const V t382 = t356 - t237;
+        const V t383 = t379 + t97;
         io.re(6, t383);
-        const V t384 = t380 + t117;
+        const V t384 = t380 + t118;
         io.minusIm(6, t384);
         const V t385 = c0 * t379;
-        const V t386 = t96 - t385;
+        const V t386 = t97 - t385;
         const V t387 = c0 * t380;
-        const V t388 = t387 - t117;
+        const V t388 = t387 - t118;
         const V t389 = c1 * t381;
         const V t390 = c1 * t382;
         const V t391 = t386 + t390;
@@ -541,18 +541,18 @@ struct RealForwardGraph<39> {
         const V t394 = t388 + t389;
         io.minusIm(7, t394);
         // complex block of 3
-        const V t395 = t209 + t328;
-        const V t396 = t229 + t348;
-        const V t397 = t209 - t328;
-        const V t398 = t229 - t348;
-        const V t399 = t395 + t90;
+        const V t395 = t210 + t329;
+        const V t396 = t228 + t347;
+        const V t397 = t210 - t329;
+        const V t398 = t228 - t347;
+        const V t399 = t395 + t91;
         io.re(9, t399);
-        const V t400 = t396 + t110;
+        const V t400 = t396 + t109;
         io.im(9, t400);
         const V t401 = c0 * t395;
-        const V t402 = t90 - t401;
+        const V t402 = t91 - t401;
         const V t403 = c0 * t396;
-        const V t404 = t403 - t110;
+        const V t404 = t403 - t109;
         const V t405 = c1 * t397;
         const V t406 = c1 * t398;
         const V t407 = t402 + t406;
@@ -564,18 +564,18 @@ struct RealForwardGraph<39> {
         const V t410 = t405 - t404;
         io.minusIm(4, t410);
         // complex block of 3
-        const V t411 = t210 + t329;
-        const V t412 = t228 + t347;
-        const V t413 = t210 - t329;
-        const V t414 = t347 - t228;
-        const V t415 = t411 + t91;
+        const V t411 = t209 + t328;
+        const V t412 = t229 + t348;
+        const V t413 = t209 - t328;
+        const V t414 = t348 - t229;
+        const V t415 = t411 + t90;
         io.re(12, t415);
-        const V t416 = t412 + t109;
+        const V t416 = t412 + t110;
         io.minusIm(12, t416);
         const V t417 = c0 * t411;
-        const V t418 = t91 - t417;
+        const V t418 = t90 - t417;
         const V t419 = c0 * t412;
-        const V t420 = t419 - t109;
+        const V t420 = t419 - t110;
         const V t421 = c1 * t413;
         const V t422 = c1 * t414;
         const V t423 = t418 + t422;
@@ -588,17 +588,17 @@ struct RealForwardGraph<39> {
         io.minusIm(1, t426);
         // complex block of 3
         const V t427 = t211 + t330;
-        const V t428 = t237 + t356;
+        const V t428 = t236 + t355;
         const V t429 = t211 - t330;
-        const V t430 = t356 - t237;
+        const V t430 = t355 - t236;
         const V t431 = t427 + t92;
         io.re(15, t431);
-        const V t432 = t428 + t118;
+        const V t432 = t428 + t117;
         io.minusIm(15, t432);
         const V t433 = c0 * t427;
         const V t434 = t92 - t433;
         const V t435 = c0 * t428;
-        const V t436 = t435 - t118;
+        const V t436 = t435 - t117;
         const V t437 = c1 * t429;
         const V t438 = c1 * t430;
         const V t439 = t434 + t438;
@@ -610,16 +610,16 @@ struct RealForwardGraph<39> {
         const V t442 = t436 + t437;
         io.im(2, t442);
         // complex block of 3
-        const V t443 = t216 + t335;
+        const V t443 = t215 + t334;
         const V t444 = t230 + t349;
-        const V t445 = t216 - t335;
+        const V t445 = t215 - t334;
         const V t446 = t349 - t230;
-        const V t447 = t443 + t97;
+        const V t447 = t443 + t96;
         io.re(18, t447);
         const V t448 = t444 + t111;
         io.minusIm(18, t448);
         const V t449 = c0 * t443;
-        const V t450 = t97 - t449;
+        const V t450 = t96 - t449;
         const V t451 = c0 * t444;
         const V t452 = t451 - t111;
         const V t453 = c1 * t445;

@@ -146,15 +146,15 @@ struct RealForwardGraph<52> {
         const V t87 = c0 * t83;
         const V t88 = t80 - t87;
         const V t89 = c1 * t82;
-        const V t90 = t88 + t89;
-        const V t91 = t88 - t89;
+        const V t90 = t88 - t89;
+        const V t91 = t88 + t89;
         // spectrum block of 3, multiplier 2
         const V t92 = t81 - t85;
         const V t93 = c0 * t85;
         const V t94 = t93 + t81;
         const V t95 = c1 * t84;
-        const V t96 = t94 + t95;
-        const V t97 = t94 - t95;
+        const V t96 = t94 - t95;
+        const V t97 = t94 + t95;
         // complex block of 2
         const V t98 = t51 + t75;
         const V t99 = t78 - t54;
@@ -169,8 +169,8 @@ struct RealForwardGraph<52> {
         const V t106 = c0 * t99;
         const V t107 = t66 - t106;
         const V t108 = c1 * t98;
-        const V t109 = t107 + t108;
-        const V t110 = t107 - t108;
+        const V t109 = t107 - t108;
+        const V t110 = t107 + t108;
         // spectrum block of 3, multiplier 2
         const V t111 = t104 + t63;
         const V t112 = c0 * t104;
@@ -178,8 +178,8 @@ struct RealForwardGraph<52> {
         const V t114 = c14 * t100;
         const V t115 = c15 * t101;
         const V t116 = t114 - t115;
-        const V t117 = t113 - t116;
-        const V t118 = t113 + t116;
+        const V t117 = t113 + t116;
+        const V t118 = t113 - t116;
         // real block of 3
         const V x25 = io.in(25);
         const V x49 = io.in(49);
@@ -298,15 +298,15 @@ struct RealForwardGraph<52> {
         const V t206 = c0 * t202;
         const V t207 = t199 - t206;
         const V t208 = c1 * t201;
-        const V t209 = t207 + t208;
-        const V t210 = t207 - t208;
+        const V t209 = t207 - t208;
+        const V t210 = t207 + t208;
         // spectrum block of 3, multiplier 2
         const V t211 = t200 - t204;
         const V t212 = c0 * t204;
         const V t213 = t212 + t200;
         const V t214 = c1 * t203;
-        const V t215 = t213 + t214;
-        const V t216 = t213 - t214;
+        const V t215 = t213 - t214;
+        const V t216 = t213 + t214;
         // complex block of 2
         const V t217 = t170 + t194;
         const V t218 = t197 - t173;
@@ -321,8 +321,8 @@ struct RealForwardGraph<52> {
         const V t225 = c0 * t218;
         const V t226 = t185 - t225;
         const V t227 = c1 * t217;
-        const V t228 = t226 + t227;
-        const V t229 = t226 - t227;
+        const V t228 = t226 - t227;
+        const V t229 = t226 + t227;
         // spectrum block of 3, multiplier 2
         const V t230 = t223 + t182;
         const V t231 = c0 * t223;
@@ -330,8 +330,8 @@ struct RealForwardGraph<52> {
         const V t233 = c14 * t219;
         const V t234 = c15 * t220;
         const V t235 = t233 - t234;
-        const V t236 = t232 - t235;
-        const V t237 = t232 + t235;
+        const V t236 = t232 + t235;
+        const V t237 = t232 - t235;
         // real block of 3
         const V x38 = io.in(38);
         const V x10 = io.in(10);
@@ -450,15 +450,15 @@ struct RealForwardGraph<52> {
         const V t325 = c0 * t321;
         const V t326 = t318 - t325;
         const V t327 = c1 * t320;
-        const V t328 = t326 + t327;
-        const V t329 = t326 - t327;
+        const V t328 = t326 - t327;
+        const V t329 = t326 + t327;
         // spectrum block of 3, multiplier 2
         const V t330 = t319 - t323;
         const V t331 = c0 * t323;
         const V t332 = t331 + t319;
         const V t333 = c1 * t322;
-        const V t334 = t332 + t333;
-        const V t335 = t332 - t333;
+        const V t334 = t332 - t333;
+        const V t335 = t332 + t333;
         // complex block of 2
         const V t336 = t289 + t313;
         const V t337 = t316 - t292;
@@ -473,8 +473,8 @@ struct RealForwardGraph<52> {
         const V t344 = c0 * t337;
         const V t345 = t304 - t344;
         const V t346 = c1 * t336;
-        const V t347 = t345 + t346;
-        const V t348 = t345 - t346;
+        const V t347 = t345 - t346;
+        const V t348 = t345 + t346;
         // spectrum block of 3, multiplier 2
         const V t349 = t342 + t301;
         const V t350 = c0 * t342;
@@ -482,8 +482,8 @@ struct RealForwardGraph<52> {
         const V t352 = c14 * t338;
         const V t353 = c15 * t339;
         const V t354 = t352 - t353;
-        const V t355 = t351 - t354;
-        const V t356 = t351 + t354;
+        const V t355 = t351 + t354;
+        const V t356 = t351 - t354;
         // real block of 3
         const V x51 = io.in(51);
         const V x23 = io.in(23);
@@ -602,15 +602,15 @@ struct RealForwardGraph<52> {
         const V t444 = c0 * t440;
         const V t445 = t437 - t444;
         const V t446 = c1 * t439;
-        const V t447 = t445 + t446;
-        const V t448 = t445 - t446;
+        const V t447 = t445 - t446;
+        const V t448 = t445 + t446;
         // spectrum block of 3, multiplier 2
         const V t449 = t438 - t442;
         const V t450 = c0 * t442;
         const V t451 = t450 + t438;
         const V t452 = c1 * t441;
-        const V t453 = t451 + t452;
-        const V t454 = t451 - t452;
+        const V t453 = t451 - t452;
+        const V t454 = t451 + t452;
         // complex block of 2
         const V t455 = t408 + t432;
         const V t456 = t435 - t411;
@@ -625,8 +625,8 @@ struct RealForwardGraph<52> {
         const V t463 = c0 * t456;
         const V t464 = t423 - t463;
         const V t465 = c1 * t455;
-        const V t466 = t464 + t465;
-        const V t467 = t464 - t465;
+        const V t466 = t464 - t465;
+        const V t467 = t464 + t465;
         // spectrum block of 3, multiplier 2
         const V t468 = t461 + t420;
         const V t469 = c0 * t461;
@@ -634,8 +634,8 @@ struct RealForwardGraph<52> {
         const V t471 = c14 * t457;
         const V t472 = c15 * t458;
         const V t473 = t471 - t472;
-        const V t474 = t470 - t473;
-        const V t475 = t470 + t473;
+        const V t474 = t470 + t473;
+        const V t475 = t470 - t473;
         // real block of 2
         const V t476 = t46 + t284;
         const V t477 = t46 - t284;
@@ -678,15 +678,15 @@ struct RealForwardGraph<52> {
         const V t497 = t485 + t488;
         io.minusIm(9, t497);
         // complex block of 2
-        const V t498 = t96 + t334;
-        const V t499 = t117 + t355;
-        const V t500 = t96 - t334;
-        const V t501 = t355 - t117;
+        const V t498 = t97 + t335;
+        const V t499 = t118 + t356;
+        const V t500 = t97 - t335;
+        const V t501 = t356 - t118;
         // complex block of 2
-        const V t502 = t215 + t453;
-        const V t503 = t236 + t474;
-        const V t504 = t215 - t453;
-        const V t505 = t474 - t236;
+        const V t502 = t216 + t454;
+        const V t503 = t237 + t475;
+        const V t504 = t216 - t454;
+        const V t505 = t475 - t237;
         // complex block of 2
         const V t506 = t498 + t502;
         io.re(8, t506);
@@ -706,15 +706,15 @@ struct RealForwardGraph<52> {
         const V t513 = t501 + t504;
         io.minusIm(5, t513);
         // complex block of 2
-        const V t514 = t90 + t328;
-        const V t515 = t110 + t348;
-        const V t516 = t90 - t328;
-        const V t517 = t110 - t348;
+        const V t514 = t91 + t329;
+        const V t515 = t109 + t347;
+        const V t516 = t91 - t329;
+        const V t517 = t109 - t347;
         // complex block of 2
-        const V t518 = t209 + t447;
-        const V t519 = t229 + t467;
-        const V t520 = t209 - t447;
-        const V t521 = t229 - t467;
+        const V t518 = t210 + t448;
+        const V t519 = t228 + t466;
+        const V t520 = t210 - t448;
+        const V t521 = t228 - t466;
         // complex block of 2
         const V t522 = t514 + t518;
         io.re(12, t522);
@@ -734,15 +734,15 @@ struct RealForwardGraph<52> {
         const V t529 = t517 + t520;
         io.minusIm(1, t529);
         // complex block of 2
-        const V t530 = t91 + t329;
-        const V t531 = t109 + t347;
-        const V t532 = t91 - t329;
-        const V t533 = t347 - t109;
+        const V t530 = t90 + t328;
+        const V t531 = t110 + t348;
+        const V t532 = t90 - t328;
+        const V t533 = t348 - t110;
         // complex block of 2
-        const V t534 = t210 + t448;
-        const V t535 = t228 + t466;
-        const V t536 = t210 - t448;
-        const V t537 = t466 - t228;
+        const V t534 = t209 + t447;
+        const V t535 = t229 + t467;
+        const V t536 = t209 - t447;
+        const V t537 = t467 - t229;
         // complex block of 2
         const V t538 = t530 + t534;
         io.re(16, t538);
@@ -763,14 +763,14 @@ struct RealForwardGraph<52> {
         io.im(3, t545);
         // complex block of 2
         const V t546 = t92 + t330;
-        const V t547 = t118 + t356;
+        const V t547 = t117 + t355;
         const V t548 = t92 - t330;
-        const V t549 = t356 - t118;
+        const V t549 = t355 - t117;
         // complex block of 2
         const V t550 = t211 + t449;
-        const V t551 = t237 + t475;
+        const V t551 = t236 + t474;
         const V t552 = t211 - t449;
-        const V t553 = t475 - t237;
+        const V t553 = t474 - t236;
         // complex block of 2
         const V t554 = t546 + t550;
         io.re(20, t554);
@@ -790,14 +790,14 @@ struct RealForwardGraph<52> {
         const V t561 = t549 + t552;
         io.im(7, t561);
         // complex block of 2
-        const V t562 = t97 + t335;
+        const V t562 = t96 + t334;
         const V t563 = t111 + t349;
-        const V t564 = t97 - t335;
+        const V t564 = t96 - t334;
         const V t565 = t111 - t349;
         // complex block of 2
-        const V t566 = t216 + t454;
+        const V t566 = t215 + t453;
         const V t567 = t230 + t468;
-        const V t568 = t216 - t454;
+        const V t568 = t215 - t453;
         const V t569 = t230 - t468;
         // complex block of 2
         const V t570 = t562 + t566;

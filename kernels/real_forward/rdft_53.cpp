@@ -382,15 +382,15 @@ struct RealForwardGraph<53> {
         const V t165 = c0 * t161;
         const V t166 = t158 - t165;
         const V t167 = c1 * t160;
-        const V t168 = t166 + t167;
-        const V t169 = t166 - t167;
+        const V t168 = t166 - t167;
+        const V t169 = t166 + t167;
         // spectrum block of 3, multiplier 2
         const V t170 = t159 - t163;
         const V t171 = c0 * t163;
         const V t172 = t171 + t159;
         const V t173 = c1 * t162;
-        const V t174 = t172 + t173;
-        const V t175 = t172 - t173;
+        const V t174 = t172 - t173;
+        const V t175 = t172 + t173;
         // complex block of 2
         const V t176 = t129 + t153;
         const V t177 = t156 - t132;
@@ -405,8 +405,8 @@ struct RealForwardGraph<53> {
         const V t184 = c0 * t177;
         const V t185 = t144 - t184;
         const V t186 = c1 * t176;
-        const V t187 = t185 + t186;
-        const V t188 = t185 - t186;
+        const V t187 = t185 - t186;
+        const V t188 = t185 + t186;
         // spectrum block of 3, multiplier 2
         const V t189 = t182 + t141;
         const V t190 = c0 * t182;
@@ -414,8 +414,8 @@ struct RealForwardGraph<53> {
         const V t192 = c14 * t178;
         const V t193 = c15 * t179;
         const V t194 = t192 - t193;
-        const V t195 = t191 - t194;
-        const V t196 = t191 + t194;
+        const V t195 = t191 + t194;
+        const V t196 = t191 - t194;
         // real block of 2
         const V t197 = t7 + t73;
         const V t198 = t7 - t73;
@@ -818,15 +818,15 @@ struct RealForwardGraph<53> {
         const V t532 = c0 * t528;
         const V t533 = t525 - t532;
         const V t534 = c1 * t527;
-        const V t535 = t533 + t534;
-        const V t536 = t533 - t534;
+        const V t535 = t533 - t534;
+        const V t536 = t533 + t534;
         // spectrum block of 3, multiplier 2
         const V t537 = t526 - t530;
         const V t538 = c0 * t530;
         const V t539 = t538 + t526;
         const V t540 = c1 * t529;
-        const V t541 = t539 + t540;
-        const V t542 = t539 - t540;
+        const V t541 = t539 - t540;
+        const V t542 = t539 + t540;
         // complex block of 2
         const V t543 = t496 + t520;
         const V t544 = t523 - t499;
@@ -841,8 +841,8 @@ struct RealForwardGraph<53> {
         const V t551 = c0 * t544;
         const V t552 = t511 - t551;
         const V t553 = c1 * t543;
-        const V t554 = t552 + t553;
-        const V t555 = t552 - t553;
+        const V t554 = t552 - t553;
+        const V t555 = t552 + t553;
         // spectrum block of 3, multiplier 2
         const V t556 = t549 + t508;
         const V t557 = c0 * t549;
@@ -850,8 +850,8 @@ struct RealForwardGraph<53> {
         const V t559 = c14 * t545;
         const V t560 = c15 * t546;
         const V t561 = t559 - t560;
-        const V t562 = t558 - t561;
-        const V t563 = t558 + t561;
+        const V t562 = t558 + t561;
+        const V t563 = t558 - t561;
         // real block of 53
         const V x0 = io.in(0);
         const V t564 = x0 + t124;
@@ -865,9 +865,9 @@ struct RealForwardGraph<53> {
         const V t571 = c22 * t442;
         const V t572 = t571 - t570;
         const V t573 = c23 * t556;
-        const V t574 = c24 * t542;
+        const V t574 = c24 * t541;
         const V t575 = t574 - t573;
-        const V t576 = c23 * t542;
+        const V t576 = c23 * t541;
         const V t577 = c24 * t556;
         const V t578 = t577 + t576;
         const V t579 = c25 * t435;
@@ -888,11 +888,11 @@ struct RealForwardGraph<53> {
         const V t594 = c29 * t394;
         const V t595 = c30 * t444;
         const V t596 = t595 + t594;
-        const V t597 = c31 * t563;
+        const V t597 = c31 * t562;
         const V t598 = c32 * t537;
         const V t599 = t598 - t597;
         const V t600 = c31 * t537;
-        const V t601 = c32 * t563;
+        const V t601 = c32 * t562;
         const V t602 = t601 + t600;
         const V t603 = c33 * t432;
         const V t604 = c34 * t382;
@@ -900,11 +900,11 @@ struct RealForwardGraph<53> {
         const V t606 = c33 * t382;
         const V t607 = c34 * t432;
         const V t608 = t606 - t607;
-        const V t609 = c35 * t195;
-        const V t610 = c36 * t174;
+        const V t609 = c35 * t196;
+        const V t610 = c36 * t175;
         const V t611 = t610 + t609;
-        const V t612 = c35 * t174;
-        const V t613 = c36 * t195;
+        const V t612 = c35 * t175;
+        const V t613 = c36 * t196;
         const V t614 = t612 - t613;
         const V t615 = c37 * t430;
         const V t616 = c38 * t380;
@@ -912,11 +912,11 @@ struct RealForwardGraph<53> {
         const V t618 = c37 * t380;
         const V t619 = c38 * t430;
         const V t620 = t619 + t618;
-        const V t621 = c39 * t554;
-        const V t622 = c40 * t536;
+        const V t621 = c39 * t555;
+        const V t622 = c40 * t535;
         const V t623 = t622 + t621;
-        const V t624 = c39 * t536;
-        const V t625 = c40 * t554;
+        const V t624 = c39 * t535;
+        const V t625 = c40 * t555;
         const V t626 = t624 - t625;
         const V t627 = c41 * t438;
         const V t628 = c42 * t388;
@@ -924,11 +924,11 @@ struct RealForwardGraph<53> {
         const V t630 = c41 * t388;
         const V t631 = c42 * t438;
         const V t632 = t631 + t630;
-        const V t633 = c43 * t188;
-        const V t634 = c44 * t168;
+        const V t633 = c43 * t187;
+        const V t634 = c44 * t169;
         const V t635 = t634 - t633;
-        const V t636 = c43 * t168;
-        const V t637 = c44 * t188;
+        const V t636 = c43 * t169;
+        const V t637 = c44 * t187;
         const V t638 = t637 + t636;
         const V t639 = c45 * t290;
         const V t640 = c46 * t289;
@@ -936,11 +936,11 @@ struct RealForwardGraph<53> {
         const V t642 = c45 * t289;
         const V t643 = c46 * t290;
         const V t644 = t643 + t642;
-        const V t645 = c47 * t555;
-        const V t646 = c48 * t535;
+        const V t645 = c47 * t554;
+        const V t646 = c48 * t536;
         const V t647 = t646 - t645;
-        const V t648 = c47 * t535;
-        const V t649 = c48 * t555;
+        const V t648 = c47 * t536;
+        const V t649 = c48 * t554;
         const V t650 = t649 + t648;
         const V t651 = c49 * t437;
         const V t652 = c50 * t387;
@@ -948,11 +948,11 @@ struct RealForwardGraph<53> {
         const V t654 = c49 * t387;
         const V t655 = c50 * t437;
         const V t656 = t655 - t654;
-        const V t657 = c51 * t187;
-        const V t658 = c52 * t169;
+        const V t657 = c51 * t188;
+        const V t658 = c52 * t168;
         const V t659 = t657 - t658;
-        const V t660 = c51 * t169;
-        const V t661 = c52 * t187;
+        const V t660 = c51 * t168;
+        const V t661 = c52 * t188;
         const V t662 = t661 + t660;
         const V t663 = c53 * t429;
         const V t664 = c54 * t379;
@@ -960,11 +960,11 @@ struct RealForwardGraph<53> {
         const V t666 = c53 * t379;
         const V t667 = c54 * t429;
         const V t668 = t667 - t666;
-        const V t669 = c55 * t562;
-        const V t670 = c56 * t541;
+        const V t669 = c55 * t563;
+        const V t670 = c56 * t542;
         const V t671 = t670 - t669;
-        const V t672 = c55 * t541;
-        const V t673 = c56 * t562;
+        const V t672 = c55 * t542;
+        const V t673 = c56 * t563;
         const V t674 = t673 + t672;
         const V t675 = c57 * t431;
         const V t676 = c58 * t381;
@@ -972,11 +972,11 @@ struct RealForwardGraph<53> {
         const V t678 = c57 * t381;
         const V t679 = c58 * t431;
         const V t680 = t678 - t679;
-        const V t681 = c59 * t196;
+        const V t681 = c59 * t195;
         const V t682 = c60 * t170;
         const V t683 = t682 + t681;
         const V t684 = c59 * t170;
-        const V t685 = c60 * t196;
+        const V t685 = c60 * t195;
         const V t686 = t684 - t685;
         const V t687 = c61 * t443;
         const V t688 = c62 * t393;
@@ -997,9 +997,9 @@ struct RealForwardGraph<53> {
         const V t703 = c66 * t436;
         const V t704 = t702 - t703;
         const V t705 = c67 * t189;
-        const V t706 = c68 * t175;
+        const V t706 = c68 * t174;
         const V t707 = t706 + t705;
-        const V t708 = c67 * t175;
+        const V t708 = c67 * t174;
         const V t709 = c68 * t189;
         const V t710 = t709 - t708;
         const V t711 = c69 * t441;

@@ -318,8 +318,8 @@ struct RealForwardGraph<57> {
         const V t223 = c32 * t116;
         const V t224 = c33 * t117;
         const V t225 = t223 - t224;
-        const V t226 = t222 + t225;
-        const V t227 = t222 - t225;
+        const V t226 = t222 - t225;
+        const V t227 = t222 + t225;
         // complex block of 3, multiplier 2
         const V t228 = t127 + t148;
         const V t229 = t151 - t130;
@@ -349,26 +349,26 @@ struct RealForwardGraph<57> {
         const V t251 = c0 * t233;
         const V t252 = t220 - t251;
         const V t253 = c1 * t232;
-        const V t254 = t252 + t253;
-        const V t255 = t252 - t253;
+        const V t254 = t252 - t253;
+        const V t255 = t252 + t253;
         // spectrum block of 3, multiplier 2
-        const V t256 = t246 + t226;
+        const V t256 = t246 + t227;
         const V t257 = c0 * t246;
-        const V t258 = t226 - t257;
+        const V t258 = t227 - t257;
         const V t259 = c31 * t242;
         const V t260 = c30 * t243;
         const V t261 = t259 + t260;
-        const V t262 = t258 + t261;
-        const V t263 = t258 - t261;
+        const V t262 = t258 - t261;
+        const V t263 = t258 + t261;
         // spectrum block of 3, multiplier 2
-        const V t264 = t249 + t227;
+        const V t264 = t249 + t226;
         const V t265 = c0 * t249;
-        const V t266 = t227 - t265;
+        const V t266 = t226 - t265;
         const V t267 = c34 * t240;
         const V t268 = c35 * t241;
         const V t269 = t267 + t268;
-        const V t270 = t266 - t269;
-        const V t271 = t266 + t269;
+        const V t270 = t266 + t269;
+        const V t271 = t266 - t269;
         // real block of 3, multiplier 2
         const V x40 = io.in(40);
         const V x52 = io.in(52);
@@ -639,8 +639,8 @@ struct RealForwardGraph<57> {
         const V t495 = c32 * t388;
         const V t496 = c33 * t389;
         const V t497 = t495 - t496;
-        const V t498 = t494 + t497;
-        const V t499 = t494 - t497;
+        const V t498 = t494 - t497;
+        const V t499 = t494 + t497;
         // complex block of 3, multiplier 2
         const V t500 = t399 + t420;
         const V t501 = t423 - t402;
@@ -670,26 +670,26 @@ struct RealForwardGraph<57> {
         const V t523 = c0 * t505;
         const V t524 = t492 - t523;
         const V t525 = c1 * t504;
-        const V t526 = t524 + t525;
-        const V t527 = t524 - t525;
+        const V t526 = t524 - t525;
+        const V t527 = t524 + t525;
         // spectrum block of 3, multiplier 2
-        const V t528 = t518 + t498;
+        const V t528 = t518 + t499;
         const V t529 = c0 * t518;
-        const V t530 = t498 - t529;
+        const V t530 = t499 - t529;
         const V t531 = c31 * t514;
         const V t532 = c30 * t515;
         const V t533 = t531 + t532;
-        const V t534 = t530 + t533;
-        const V t535 = t530 - t533;
+        const V t534 = t530 - t533;
+        const V t535 = t530 + t533;
         // spectrum block of 3, multiplier 2
-        const V t536 = t521 + t499;
+        const V t536 = t521 + t498;
         const V t537 = c0 * t521;
-        const V t538 = t499 - t537;
+        const V t538 = t498 - t537;
         const V t539 = c34 * t512;
         const V t540 = c35 * t513;
         const V t541 = t539 + t540;
-        const V t542 = t538 - t541;
-        const V t543 = t538 + t541;
+        const V t542 = t538 + t541;
+        const V t543 = t538 - t541;
         // real block of 3, multiplier 2
         const V x2 = io.in(2);
         const V x14 = io.in(14);
@@ -960,8 +960,8 @@ struct RealForwardGraph<57> {
         const V t767 = c32 * t660;
         const V t768 = c33 * t661;
         const V t769 = t767 - t768;
-        const V t770 = t766 + t769;
-        const V t771 = t766 - t769;
+        const V t770 = t766 - t769;
+        const V t771 = t766 + t769;
         // complex block of 3, multiplier 2
         const V t772 = t671 + t692;
         const V t773 = t695 - t674;
@@ -991,26 +991,26 @@ struct RealForwardGraph<57> {
         const V t795 = c0 * t777;
         const V t796 = t764 - t795;
         const V t797 = c1 * t776;
-        const V t798 = t796 + t797;
-        const V t799 = t796 - t797;
+        const V t798 = t796 - t797;
+        const V t799 = t796 + t797;
         // spectrum block of 3, multiplier 2
-        const V t800 = t790 + t770;
+        const V t800 = t790 + t771;
         const V t801 = c0 * t790;
-        const V t802 = t770 - t801;
+        const V t802 = t771 - t801;
         const V t803 = c31 * t786;
         const V t804 = c30 * t787;
         const V t805 = t803 + t804;
-        const V t806 = t802 + t805;
-        const V t807 = t802 - t805;
+        const V t806 = t802 - t805;
+        const V t807 = t802 + t805;
         // spectrum block of 3, multiplier 2
-        const V t808 = t793 + t771;
+        const V t808 = t793 + t770;
         const V t809 = c0 * t793;
-        const V t810 = t771 - t809;
+        const V t810 = t770 - t809;
         const V t811 = c34 * t784;
         const V t812 = c35 * t785;
         const V t813 = t811 + t812;
-        const V t814 = t810 - t813;
-        const V t815 = t810 + t813;
+        const V t814 = t810 + t813;
+        const V t815 = t810 - t813;
         // real block of 3
         const V t816 = t394 + t666;
         const V t817 = t394 - t666;
@@ -1046,17 +1046,17 @@ struct RealForwardGraph<57> {
         io.minusIm(16, t837);
         // complex block of 3
         const V t838 = t491 + t763;
-        const V t839 = t534 + t806;
+        const V t839 = t535 + t807;
         const V t840 = t491 - t763;
-        const V t841 = t806 - t534;
+        const V t841 = t807 - t535;
         const V t842 = t838 + t219;
         io.re(6, t842);
-        const V t843 = t839 + t262;
+        const V t843 = t839 + t263;
         io.minusIm(6, t843);
         const V t844 = c0 * t838;
         const V t845 = t219 - t844;
         const V t846 = c0 * t839;
-        const V t847 = t846 - t262;
+        const V t847 = t846 - t263;
         const V t848 = c1 * t840;
         const V t849 = c1 * t841;
         const V t850 = t845 + t849;
@@ -1069,17 +1069,17 @@ struct RealForwardGraph<57> {
         io.minusIm(13, t853);
         // complex block of 3
         const V t854 = t490 + t762;
-        const V t855 = t535 + t807;
+        const V t855 = t534 + t806;
         const V t856 = t490 - t762;
-        const V t857 = t807 - t535;
+        const V t857 = t806 - t534;
         const V t858 = t854 + t218;
         io.re(9, t858);
-        const V t859 = t855 + t263;
+        const V t859 = t855 + t262;
         io.minusIm(9, t859);
         const V t860 = c0 * t854;
         const V t861 = t218 - t860;
         const V t862 = c0 * t855;
-        const V t863 = t862 - t263;
+        const V t863 = t862 - t262;
         const V t864 = c1 * t856;
         const V t865 = c1 * t857;
         const V t866 = t861 + t865;
@@ -1092,17 +1092,17 @@ struct RealForwardGraph<57> {
         io.minusIm(10, t869);
         // complex block of 3
         const V t870 = t483 + t755;
-        const V t871 = t543 + t815;
+        const V t871 = t542 + t814;
         const V t872 = t483 - t755;
-        const V t873 = t543 - t815;
+        const V t873 = t542 - t814;
         const V t874 = t870 + t211;
         io.re(12, t874);
-        const V t875 = t871 + t271;
+        const V t875 = t871 + t270;
         io.im(12, t875);
         const V t876 = c0 * t870;
         const V t877 = t211 - t876;
         const V t878 = c0 * t871;
-        const V t879 = t271 - t878;
+        const V t879 = t270 - t878;
         const V t880 = c1 * t872;
         const V t881 = c1 * t873;
         const V t882 = t877 + t881;
@@ -1161,17 +1161,17 @@ struct RealForwardGraph<57> {
         io.minusIm(1, t917);
         // complex block of 3
         const V t918 = t474 + t746;
-        const V t919 = t527 + t799;
+        const V t919 = t526 + t798;
         const V t920 = t474 - t746;
-        const V t921 = t527 - t799;
+        const V t921 = t526 - t798;
         const V t922 = t918 + t202;
         io.re(21, t922);
-        const V t923 = t919 + t255;
+        const V t923 = t919 + t254;
         io.im(21, t923);
         const V t924 = c0 * t918;
         const V t925 = t202 - t924;
         const V t926 = c0 * t919;
-        const V t927 = t255 - t926;
+        const V t927 = t254 - t926;
         const V t928 = c1 * t920;
         const V t929 = c1 * t921;
         const V t930 = t925 + t929;
@@ -1184,17 +1184,17 @@ struct RealForwardGraph<57> {
         io.im(2, t933);
         // complex block of 3
         const V t934 = t475 + t747;
-        const V t935 = t526 + t798;
+        const V t935 = t527 + t799;
         const V t936 = t475 - t747;
-        const V t937 = t798 - t526;
+        const V t937 = t799 - t527;
         const V t938 = t934 + t203;
         io.re(24, t938);
-        const V t939 = t935 + t254;
+        const V t939 = t935 + t255;
         io.minusIm(24, t939);
         const V t940 = c0 * t934;
         const V t941 = t203 - t940;
         const V t942 = c0 * t935;
-        const V t943 = t942 - t254;
+        const V t943 = t942 - t255;
         const V t944 = c1 * t936;
         const V t945 = c1 * t937;
         const V t946 = t941 + t945;
@@ -1207,17 +1207,17 @@ struct RealForwardGraph<57> {
         io.im(5, t949);
         // complex block of 3
         const V t950 = t476 + t748;
-        const V t951 = t542 + t814;
+        const V t951 = t543 + t815;
         const V t952 = t476 - t748;
-        const V t953 = t542 - t814;
+        const V t953 = t543 - t815;
         const V t954 = t950 + t204;
         io.re(27, t954);
-        const V t955 = t951 + t270;
+        const V t955 = t951 + t271;
         io.im(27, t955);
         const V t956 = c0 * t950;
         const V t957 = t204 - t956;
         const V t958 = c0 * t951;
-        const V t959 = t270 - t958;
+        const V t959 = t271 - t958;
         const V t960 = c1 * t952;
         const V t961 = c1 * t953;
         const V t962 = t957 + t961;

@@ -9,10 +9,10 @@ template <>
 struct RealInverseGraph<10> {
     static constexpr double inverseRoot = 0.31622776601683794;  // 1/sqrt(10), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.8090169943749475;  // -cos 2 pi 2/5
-    static constexpr double c2 = 0.30901699437494745;  // cos 2 pi 4/5
-    static constexpr double c3 = 0.5877852522924731;  // sin 2 pi 2/5
-    static constexpr double c4 = 0.9510565162951535;  // -sin 2 pi 4/5
+    static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 1/5
+    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 2/5
+    static constexpr double c3 = 0.9510565162951535;  // sin 2 pi 1/5
+    static constexpr double c4 = 0.5877852522924731;  // sin 2 pi 2/5
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -54,53 +54,53 @@ struct RealInverseGraph<10> {
         const V t19 = t18 + t8;
         io.out(0, t19);
         const V t20 = c1 * t11;
-        const V t21 = t8 - t20;
-        const V t22 = c2 * t15;
-        const V t23 = t21 + t22;
+        const V t21 = c2 * t15;
+        const V t22 = t20 - t21;
+        const V t23 = t22 + t8;
         const V t24 = c3 * t10;
         const V t25 = c4 * t14;
-        const V t26 = t24 - t25;
+        const V t26 = t24 + t25;
         const V t27 = t23 - t26;
-        io.out(2, t27);
+        io.out(6, t27);
         const V t28 = t23 + t26;
-        io.out(8, t28);
+        io.out(4, t28);
         const V t29 = c2 * t11;
-        const V t30 = c1 * t15;
-        const V t31 = t29 - t30;
-        const V t32 = t31 + t8;
+        const V t30 = t8 - t29;
+        const V t31 = c1 * t15;
+        const V t32 = t30 + t31;
         const V t33 = c4 * t10;
         const V t34 = c3 * t14;
-        const V t35 = t33 + t34;
-        const V t36 = t32 + t35;
-        io.out(4, t36);
-        const V t37 = t32 - t35;
-        io.out(6, t37);
+        const V t35 = t33 - t34;
+        const V t36 = t32 - t35;
+        io.out(2, t36);
+        const V t37 = t32 + t35;
+        io.out(8, t37);
         // spectrum block of 5, multiplier 2
         const V t38 = t13 + t17;
         const V t39 = t38 + t9;
         io.out(5, t39);
         const V t40 = c1 * t13;
-        const V t41 = t9 - t40;
-        const V t42 = c2 * t17;
-        const V t43 = t41 + t42;
+        const V t41 = c2 * t17;
+        const V t42 = t40 - t41;
+        const V t43 = t42 + t9;
         const V t44 = c3 * t12;
         const V t45 = c4 * t16;
-        const V t46 = t44 - t45;
+        const V t46 = t44 + t45;
         const V t47 = t43 - t46;
-        io.out(7, t47);
+        io.out(1, t47);
         const V t48 = t43 + t46;
-        io.out(3, t48);
+        io.out(9, t48);
         const V t49 = c2 * t13;
-        const V t50 = c1 * t17;
-        const V t51 = t49 - t50;
-        const V t52 = t51 + t9;
+        const V t50 = t9 - t49;
+        const V t51 = c1 * t17;
+        const V t52 = t50 + t51;
         const V t53 = c4 * t12;
         const V t54 = c3 * t16;
-        const V t55 = t53 + t54;
-        const V t56 = t52 + t55;
-        io.out(9, t56);
-        const V t57 = t52 - t55;
-        io.out(1, t57);
+        const V t55 = t53 - t54;
+        const V t56 = t52 - t55;
+        io.out(7, t56);
+        const V t57 = t52 + t55;
+        io.out(3, t57);
     }
 };
 

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 14.
 // Inverse DFT to 14 real points, prime-factor 2, 7.
-// 29 additions, 33 subtractions, 48 multiplications (62 with `scale`); 7 constants; 17 values alive at most.
+// 31 additions, 31 subtractions, 48 multiplications (62 with `scale`); 7 constants; 17 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -9,12 +9,12 @@ template <>
 struct RealInverseGraph<14> {
     static constexpr double inverseRoot = 0.2672612419124244;  // 1/sqrt(14), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.2225209339563144;  // -cos 2 pi 2/7
-    static constexpr double c2 = 0.9009688679024191;  // -cos 2 pi 4/7
-    static constexpr double c3 = 0.6234898018587335;  // cos 2 pi 6/7
-    static constexpr double c4 = 0.9749279121818236;  // sin 2 pi 2/7
-    static constexpr double c5 = 0.4338837391175581;  // -sin 2 pi 4/7
-    static constexpr double c6 = 0.7818314824680298;  // -sin 2 pi 6/7
+    static constexpr double c1 = 0.6234898018587335;  // cos 2 pi 1/7
+    static constexpr double c2 = 0.2225209339563144;  // -cos 2 pi 2/7
+    static constexpr double c3 = 0.9009688679024191;  // -cos 2 pi 3/7
+    static constexpr double c4 = 0.7818314824680298;  // sin 2 pi 1/7
+    static constexpr double c5 = 0.9749279121818236;  // sin 2 pi 2/7
+    static constexpr double c6 = 0.4338837391175581;  // sin 2 pi 3/7
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -70,100 +70,100 @@ struct RealInverseGraph<14> {
         const V t28 = t27 + t12;
         io.out(0, t28);
         const V t29 = c1 * t15;
-        const V t30 = t12 - t29;
-        const V t31 = c2 * t19;
-        const V t32 = t30 - t31;
-        const V t33 = c3 * t23;
-        const V t34 = t32 + t33;
+        const V t30 = c2 * t19;
+        const V t31 = t29 - t30;
+        const V t32 = c3 * t23;
+        const V t33 = t31 - t32;
+        const V t34 = t33 + t12;
         const V t35 = c4 * t14;
         const V t36 = c5 * t18;
-        const V t37 = t35 - t36;
+        const V t37 = t35 + t36;
         const V t38 = c6 * t22;
-        const V t39 = t37 - t38;
+        const V t39 = t37 + t38;
         const V t40 = t34 - t39;
-        io.out(2, t40);
+        io.out(8, t40);
         const V t41 = t34 + t39;
-        io.out(12, t41);
+        io.out(6, t41);
         const V t42 = c2 * t15;
         const V t43 = t12 - t42;
         const V t44 = c3 * t19;
-        const V t45 = t43 + t44;
+        const V t45 = t43 - t44;
         const V t46 = c1 * t23;
-        const V t47 = t45 - t46;
+        const V t47 = t45 + t46;
         const V t48 = c5 * t14;
         const V t49 = c6 * t18;
-        const V t50 = t49 - t48;
+        const V t50 = t48 - t49;
         const V t51 = c4 * t22;
         const V t52 = t50 - t51;
         const V t53 = t47 - t52;
-        io.out(4, t53);
+        io.out(2, t53);
         const V t54 = t47 + t52;
-        io.out(10, t54);
+        io.out(12, t54);
         const V t55 = c3 * t15;
-        const V t56 = c1 * t19;
-        const V t57 = t55 - t56;
-        const V t58 = c2 * t23;
-        const V t59 = t57 - t58;
-        const V t60 = t59 + t12;
+        const V t56 = t12 - t55;
+        const V t57 = c1 * t19;
+        const V t58 = t56 + t57;
+        const V t59 = c2 * t23;
+        const V t60 = t58 - t59;
         const V t61 = c6 * t14;
         const V t62 = c4 * t18;
-        const V t63 = t61 + t62;
+        const V t63 = t61 - t62;
         const V t64 = c5 * t22;
         const V t65 = t63 + t64;
-        const V t66 = t60 + t65;
-        io.out(6, t66);
-        const V t67 = t60 - t65;
-        io.out(8, t67);
+        const V t66 = t60 - t65;
+        io.out(10, t66);
+        const V t67 = t60 + t65;
+        io.out(4, t67);
         // spectrum block of 7, multiplier 2
         const V t68 = t17 + t21;
         const V t69 = t68 + t25;
         const V t70 = t69 + t13;
         io.out(7, t70);
         const V t71 = c1 * t17;
-        const V t72 = t13 - t71;
-        const V t73 = c2 * t21;
-        const V t74 = t72 - t73;
-        const V t75 = c3 * t25;
-        const V t76 = t74 + t75;
+        const V t72 = c2 * t21;
+        const V t73 = t71 - t72;
+        const V t74 = c3 * t25;
+        const V t75 = t73 - t74;
+        const V t76 = t75 + t13;
         const V t77 = c4 * t16;
         const V t78 = c5 * t20;
-        const V t79 = t77 - t78;
+        const V t79 = t77 + t78;
         const V t80 = c6 * t24;
-        const V t81 = t79 - t80;
+        const V t81 = t79 + t80;
         const V t82 = t76 - t81;
-        io.out(9, t82);
+        io.out(1, t82);
         const V t83 = t76 + t81;
-        io.out(5, t83);
+        io.out(13, t83);
         const V t84 = c2 * t17;
         const V t85 = t13 - t84;
         const V t86 = c3 * t21;
-        const V t87 = t85 + t86;
+        const V t87 = t85 - t86;
         const V t88 = c1 * t25;
-        const V t89 = t87 - t88;
+        const V t89 = t87 + t88;
         const V t90 = c5 * t16;
         const V t91 = c6 * t20;
-        const V t92 = t91 - t90;
+        const V t92 = t90 - t91;
         const V t93 = c4 * t24;
         const V t94 = t92 - t93;
         const V t95 = t89 - t94;
-        io.out(11, t95);
+        io.out(9, t95);
         const V t96 = t89 + t94;
-        io.out(3, t96);
+        io.out(5, t96);
         const V t97 = c3 * t17;
-        const V t98 = c1 * t21;
-        const V t99 = t97 - t98;
-        const V t100 = c2 * t25;
-        const V t101 = t99 - t100;
-        const V t102 = t101 + t13;
+        const V t98 = t13 - t97;
+        const V t99 = c1 * t21;
+        const V t100 = t98 + t99;
+        const V t101 = c2 * t25;
+        const V t102 = t100 - t101;
         const V t103 = c6 * t16;
         const V t104 = c4 * t20;
-        const V t105 = t103 + t104;
+        const V t105 = t103 - t104;
         const V t106 = c5 * t24;
         const V t107 = t105 + t106;
-        const V t108 = t102 + t107;
-        io.out(13, t108);
-        const V t109 = t102 - t107;
-        io.out(1, t109);
+        const V t108 = t102 - t107;
+        io.out(3, t108);
+        const V t109 = t102 + t107;
+        io.out(11, t109);
     }
 };
 

@@ -9,13 +9,13 @@ template <>
 struct RealInverseGraph<15> {
     static constexpr double inverseRoot = 0.2581988897471611;  // 1/sqrt(15), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c2 = 1.7320508075688772;  // -sin 2 pi 2/3 times 2
-    static constexpr double c3 = 0.8660254037844386;  // -sin 2 pi 2/3
-    static constexpr double c4 = 0.8090169943749475;  // -cos 2 pi 3/5
-    static constexpr double c5 = 0.30901699437494745;  // cos 2 pi 6/5
-    static constexpr double c6 = 0.5877852522924731;  // -sin 2 pi 3/5
-    static constexpr double c7 = 0.9510565162951535;  // sin 2 pi 6/5
+    static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c2 = 1.7320508075688772;  // sin 2 pi 1/3 times 2
+    static constexpr double c3 = 0.8660254037844386;  // sin 2 pi 1/3
+    static constexpr double c4 = 0.30901699437494745;  // cos 2 pi 1/5
+    static constexpr double c5 = 0.8090169943749475;  // -cos 2 pi 2/5
+    static constexpr double c6 = 0.9510565162951535;  // sin 2 pi 1/5
+    static constexpr double c7 = 0.5877852522924731;  // sin 2 pi 2/5
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -54,8 +54,8 @@ struct RealInverseGraph<15> {
         const V t15 = x0r - t14;
         const V x5i = io.im(5);
         const V t16 = c2 * x5i;
-        const V t17 = t15 + t16;
-        const V t18 = t15 - t16;
+        const V t17 = t15 - t16;
+        const V t18 = t15 + t16;
         // complex block of 3, multiplier 2
         const V t19 = t12 + t3;
         const V t20 = t11 + t2;
@@ -95,79 +95,79 @@ struct RealInverseGraph<15> {
         const V t52 = t51 + t13;
         io.out(0, t52);
         const V t53 = c4 * t24;
-        const V t54 = t13 - t53;
-        const V t55 = c5 * t40;
-        const V t56 = t54 + t55;
+        const V t54 = c5 * t40;
+        const V t55 = t53 - t54;
+        const V t56 = t55 + t13;
         const V t57 = c6 * t23;
         const V t58 = c7 * t39;
-        const V t59 = t58 - t57;
+        const V t59 = t57 + t58;
         const V t60 = t56 - t59;
-        io.out(3, t60);
+        io.out(6, t60);
         const V t61 = t56 + t59;
-        io.out(12, t61);
+        io.out(9, t61);
         const V t62 = c5 * t24;
-        const V t63 = c4 * t40;
-        const V t64 = t62 - t63;
-        const V t65 = t64 + t13;
+        const V t63 = t13 - t62;
+        const V t64 = c4 * t40;
+        const V t65 = t63 + t64;
         const V t66 = c7 * t23;
         const V t67 = c6 * t39;
-        const V t68 = t66 + t67;
+        const V t68 = t66 - t67;
         const V t69 = t65 - t68;
-        io.out(6, t69);
+        io.out(12, t69);
         const V t70 = t65 + t68;
-        io.out(9, t70);
+        io.out(3, t70);
         // spectrum block of 5, multiplier 3
         const V t71 = t34 + t50;
-        const V t72 = t71 + t17;
+        const V t72 = t71 + t18;
         io.out(5, t72);
         const V t73 = c4 * t34;
-        const V t74 = t17 - t73;
-        const V t75 = c5 * t50;
-        const V t76 = t74 + t75;
+        const V t74 = c5 * t50;
+        const V t75 = t73 - t74;
+        const V t76 = t75 + t18;
         const V t77 = c6 * t33;
         const V t78 = c7 * t49;
-        const V t79 = t78 - t77;
+        const V t79 = t77 + t78;
         const V t80 = t76 - t79;
-        io.out(8, t80);
+        io.out(11, t80);
         const V t81 = t76 + t79;
-        io.out(2, t81);
+        io.out(14, t81);
         const V t82 = c5 * t34;
-        const V t83 = c4 * t50;
-        const V t84 = t82 - t83;
-        const V t85 = t84 + t17;
+        const V t83 = t18 - t82;
+        const V t84 = c4 * t50;
+        const V t85 = t83 + t84;
         const V t86 = c7 * t33;
         const V t87 = c6 * t49;
-        const V t88 = t86 + t87;
+        const V t88 = t86 - t87;
         const V t89 = t85 - t88;
-        io.out(11, t89);
+        io.out(2, t89);
         const V t90 = t85 + t88;
-        io.out(14, t90);
+        io.out(8, t90);
         // spectrum block of 5, multiplier 3
         const V t91 = t32 + t48;
-        const V t92 = t91 + t18;
+        const V t92 = t91 + t17;
         io.out(10, t92);
         const V t93 = c4 * t32;
-        const V t94 = t18 - t93;
-        const V t95 = c5 * t48;
-        const V t96 = t94 + t95;
+        const V t94 = c5 * t48;
+        const V t95 = t93 - t94;
+        const V t96 = t95 + t17;
         const V t97 = c6 * t31;
         const V t98 = c7 * t47;
-        const V t99 = t98 - t97;
+        const V t99 = t97 + t98;
         const V t100 = t96 - t99;
-        io.out(13, t100);
+        io.out(1, t100);
         const V t101 = t96 + t99;
-        io.out(7, t101);
+        io.out(4, t101);
         const V t102 = c5 * t32;
-        const V t103 = c4 * t48;
-        const V t104 = t102 - t103;
-        const V t105 = t104 + t18;
+        const V t103 = t17 - t102;
+        const V t104 = c4 * t48;
+        const V t105 = t103 + t104;
         const V t106 = c7 * t31;
         const V t107 = c6 * t47;
-        const V t108 = t106 + t107;
+        const V t108 = t106 - t107;
         const V t109 = t105 - t108;
-        io.out(1, t109);
+        io.out(7, t109);
         const V t110 = t105 + t108;
-        io.out(4, t110);
+        io.out(13, t110);
     }
 };
 

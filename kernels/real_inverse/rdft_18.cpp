@@ -9,16 +9,16 @@ template <>
 struct RealInverseGraph<18> {
     static constexpr double inverseRoot = 0.23570226039551587;  // 1/sqrt(18), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c2 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c2 = 0.8660254037844386;  // sin 2 pi 1/3
     static constexpr double c3 = 0.984807753012208;  // -sin 2 pi 7/9
     static constexpr double c4 = 0.17364817766693036;  // cos 2 pi 7/9
     static constexpr double c5 = 0.3420201433256687;  // -sin 2 pi 5/9
     static constexpr double c6 = 0.9396926207859084;  // -cos 2 pi 5/9
-    static constexpr double c7 = 0.1503837331804353;  // -sin 2 pi 2/3 times cos 2 pi 7/9
-    static constexpr double c8 = 0.8528685319524432;  // -sin 2 pi 2/3 times -sin 2 pi 7/9
-    static constexpr double c9 = 0.29619813272602386;  // -sin 2 pi 2/3 times -sin 2 pi 5/9
-    static constexpr double c10 = 0.8137976813493737;  // -sin 2 pi 2/3 times -cos 2 pi 5/9
+    static constexpr double c7 = 0.1503837331804353;  // sin 2 pi 1/3 times cos 2 pi 7/9
+    static constexpr double c8 = 0.8528685319524432;  // sin 2 pi 1/3 times -sin 2 pi 7/9
+    static constexpr double c9 = 0.29619813272602386;  // sin 2 pi 1/3 times -sin 2 pi 5/9
+    static constexpr double c10 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 5/9
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -86,8 +86,8 @@ struct RealInverseGraph<18> {
         const V t35 = c1 * t27;
         const V t36 = t16 - t35;
         const V t37 = c2 * t26;
-        const V t38 = t36 + t37;
-        const V t39 = t36 - t37;
+        const V t38 = t36 - t37;
+        const V t39 = t36 + t37;
         // complex block of 3, multiplier 2
         const V t40 = t30 - t22;
         const V t41 = t31 + t23;
@@ -118,41 +118,41 @@ struct RealInverseGraph<18> {
         const V t63 = c1 * t45;
         const V t64 = t34 - t63;
         const V t65 = c2 * t44;
-        const V t66 = t64 + t65;
-        io.out(6, t66);
-        const V t67 = t64 - t65;
-        io.out(12, t67);
+        const V t66 = t64 - t65;
+        io.out(12, t66);
+        const V t67 = t64 + t65;
+        io.out(6, t67);
         // spectrum block of 3, multiplier 2
-        const V t68 = t58 + t38;
+        const V t68 = t58 + t39;
         io.out(2, t68);
         const V t69 = c1 * t58;
-        const V t70 = t38 - t69;
+        const V t70 = t39 - t69;
         const V t71 = c7 * t54;
         const V t72 = c8 * t55;
         const V t73 = t71 + t72;
-        const V t74 = t70 + t73;
-        io.out(8, t74);
-        const V t75 = t70 - t73;
-        io.out(14, t75);
+        const V t74 = t70 - t73;
+        io.out(14, t74);
+        const V t75 = t70 + t73;
+        io.out(8, t75);
         // spectrum block of 3, multiplier 2
-        const V t76 = t39 - t61;
+        const V t76 = t38 - t61;
         io.out(4, t76);
         const V t77 = c1 * t61;
-        const V t78 = t77 + t39;
+        const V t78 = t77 + t38;
         const V t79 = c9 * t53;
         const V t80 = c10 * t52;
         const V t81 = t79 - t80;
-        const V t82 = t78 + t81;
-        io.out(10, t82);
-        const V t83 = t78 - t81;
-        io.out(16, t83);
+        const V t82 = t78 - t81;
+        io.out(16, t82);
+        const V t83 = t78 + t81;
+        io.out(10, t83);
         // spectrum block of 3, multiplier 2
         const V t84 = t29 + t17;
         const V t85 = c1 * t29;
         const V t86 = t17 - t85;
         const V t87 = c2 * t28;
-        const V t88 = t86 + t87;
-        const V t89 = t86 - t87;
+        const V t88 = t86 - t87;
+        const V t89 = t86 + t87;
         // complex block of 3, multiplier 2
         const V t90 = t32 - t24;
         const V t91 = t33 + t25;
@@ -183,34 +183,34 @@ struct RealInverseGraph<18> {
         const V t113 = c1 * t95;
         const V t114 = t84 - t113;
         const V t115 = c2 * t94;
-        const V t116 = t114 + t115;
-        io.out(15, t116);
-        const V t117 = t114 - t115;
-        io.out(3, t117);
+        const V t116 = t114 - t115;
+        io.out(3, t116);
+        const V t117 = t114 + t115;
+        io.out(15, t117);
         // spectrum block of 3, multiplier 2
-        const V t118 = t108 + t88;
+        const V t118 = t108 + t89;
         io.out(11, t118);
         const V t119 = c1 * t108;
-        const V t120 = t88 - t119;
+        const V t120 = t89 - t119;
         const V t121 = c7 * t104;
         const V t122 = c8 * t105;
         const V t123 = t121 + t122;
-        const V t124 = t120 + t123;
-        io.out(17, t124);
-        const V t125 = t120 - t123;
-        io.out(5, t125);
+        const V t124 = t120 - t123;
+        io.out(5, t124);
+        const V t125 = t120 + t123;
+        io.out(17, t125);
         // spectrum block of 3, multiplier 2
-        const V t126 = t89 - t111;
+        const V t126 = t88 - t111;
         io.out(13, t126);
         const V t127 = c1 * t111;
-        const V t128 = t127 + t89;
+        const V t128 = t127 + t88;
         const V t129 = c9 * t103;
         const V t130 = c10 * t102;
         const V t131 = t129 - t130;
-        const V t132 = t128 + t131;
-        io.out(1, t132);
-        const V t133 = t128 - t131;
-        io.out(7, t133);
+        const V t132 = t128 - t131;
+        io.out(7, t132);
+        const V t133 = t128 + t131;
+        io.out(1, t133);
     }
 };
 

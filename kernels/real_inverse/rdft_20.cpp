@@ -9,10 +9,10 @@ template <>
 struct RealInverseGraph<20> {
     static constexpr double inverseRoot = 0.22360679774997896;  // 1/sqrt(20), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 4/5
-    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 8/5
-    static constexpr double c3 = 0.9510565162951535;  // -sin 2 pi 4/5
-    static constexpr double c4 = 0.5877852522924731;  // -sin 2 pi 8/5
+    static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 1/5
+    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 2/5
+    static constexpr double c3 = 0.9510565162951535;  // sin 2 pi 1/5
+    static constexpr double c4 = 0.5877852522924731;  // sin 2 pi 2/5
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -65,15 +65,15 @@ struct RealInverseGraph<20> {
         const V t24 = c3 * t7;
         const V t25 = c4 * t15;
         const V t26 = t24 + t25;
-        const V t27 = t23 + t26;
-        const V t28 = t23 - t26;
+        const V t27 = t23 - t26;
+        const V t28 = t23 + t26;
         const V t29 = c2 * t6;
         const V t30 = x0r - t29;
         const V t31 = c1 * t14;
         const V t32 = t30 + t31;
         const V t33 = c4 * t7;
         const V t34 = c3 * t15;
-        const V t35 = t34 - t33;
+        const V t35 = t33 - t34;
         const V t36 = t32 - t35;
         const V t37 = t32 + t35;
         // complex block of 5, multiplier 4
@@ -136,15 +136,15 @@ struct RealInverseGraph<20> {
         const V t92 = c3 * t11;
         const V t93 = c4 * t3;
         const V t94 = t92 + t93;
-        const V t95 = t91 - t94;
-        const V t96 = t91 + t94;
+        const V t95 = t91 + t94;
+        const V t96 = t91 - t94;
         const V t97 = c2 * t10;
         const V t98 = x10r - t97;
         const V t99 = c1 * t2;
         const V t100 = t98 + t99;
         const V t101 = c4 * t11;
         const V t102 = c3 * t3;
-        const V t103 = t101 - t102;
+        const V t103 = t102 - t101;
         const V t104 = t100 - t103;
         const V t105 = t100 + t103;
         // spectrum block of 2
@@ -161,8 +161,8 @@ struct RealInverseGraph<20> {
         const V t111 = t107 + t48;
         io.out(15, t111);
         // spectrum block of 2
-        const V t112 = t27 + t95;
-        const V t113 = t27 - t95;
+        const V t112 = t28 + t96;
+        const V t113 = t28 - t96;
         // spectrum block of 2
         const V t114 = t112 + t67;
         io.out(4, t114);
@@ -174,8 +174,8 @@ struct RealInverseGraph<20> {
         const V t117 = t113 + t66;
         io.out(19, t117);
         // spectrum block of 2
-        const V t118 = t36 + t104;
-        const V t119 = t36 - t104;
+        const V t118 = t37 + t105;
+        const V t119 = t37 - t105;
         // spectrum block of 2
         const V t120 = t118 + t85;
         io.out(8, t120);
@@ -187,8 +187,8 @@ struct RealInverseGraph<20> {
         const V t123 = t119 + t84;
         io.out(3, t123);
         // spectrum block of 2
-        const V t124 = t37 + t105;
-        const V t125 = t37 - t105;
+        const V t124 = t36 + t104;
+        const V t125 = t36 - t104;
         // spectrum block of 2
         const V t126 = t124 + t83;
         io.out(12, t126);
@@ -200,8 +200,8 @@ struct RealInverseGraph<20> {
         const V t129 = t125 + t82;
         io.out(7, t129);
         // spectrum block of 2
-        const V t130 = t28 + t96;
-        const V t131 = t28 - t96;
+        const V t130 = t27 + t95;
+        const V t131 = t27 - t95;
         // spectrum block of 2
         const V t132 = t130 + t65;
         io.out(16, t132);

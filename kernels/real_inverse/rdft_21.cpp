@@ -12,12 +12,12 @@ struct RealInverseGraph<21> {
     static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
     static constexpr double c2 = 1.7320508075688772;  // sin 2 pi 1/3 times 2
     static constexpr double c3 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c4 = 0.9009688679024191;  // -cos 2 pi 3/7
-    static constexpr double c5 = 0.6234898018587335;  // cos 2 pi 6/7
-    static constexpr double c6 = 0.2225209339563144;  // -cos 2 pi 9/7
-    static constexpr double c7 = 0.4338837391175581;  // sin 2 pi 3/7
-    static constexpr double c8 = 0.7818314824680298;  // -sin 2 pi 6/7
-    static constexpr double c9 = 0.9749279121818236;  // sin 2 pi 9/7
+    static constexpr double c4 = 0.6234898018587335;  // cos 2 pi 1/7
+    static constexpr double c5 = 0.2225209339563144;  // -cos 2 pi 2/7
+    static constexpr double c6 = 0.9009688679024191;  // -cos 2 pi 3/7
+    static constexpr double c7 = 0.7818314824680298;  // sin 2 pi 1/7
+    static constexpr double c8 = 0.9749279121818236;  // sin 2 pi 2/7
+    static constexpr double c9 = 0.4338837391175581;  // sin 2 pi 3/7
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -127,150 +127,150 @@ struct RealInverseGraph<21> {
         const V t75 = t74 + t19;
         io.out(0, t75);
         const V t76 = c4 * t30;
-        const V t77 = t19 - t76;
-        const V t78 = c5 * t46;
-        const V t79 = t77 + t78;
-        const V t80 = c6 * t62;
-        const V t81 = t79 - t80;
+        const V t77 = c5 * t46;
+        const V t78 = t76 - t77;
+        const V t79 = c6 * t62;
+        const V t80 = t78 - t79;
+        const V t81 = t80 + t19;
         const V t82 = c7 * t29;
         const V t83 = c8 * t45;
-        const V t84 = t82 - t83;
+        const V t84 = t82 + t83;
         const V t85 = c9 * t61;
         const V t86 = t84 + t85;
         const V t87 = t81 - t86;
-        io.out(3, t87);
+        io.out(15, t87);
         const V t88 = t81 + t86;
-        io.out(18, t88);
+        io.out(6, t88);
         const V t89 = c5 * t30;
-        const V t90 = c6 * t46;
-        const V t91 = t89 - t90;
-        const V t92 = c4 * t62;
-        const V t93 = t91 - t92;
-        const V t94 = t93 + t19;
+        const V t90 = t19 - t89;
+        const V t91 = c6 * t46;
+        const V t92 = t90 - t91;
+        const V t93 = c4 * t62;
+        const V t94 = t92 + t93;
         const V t95 = c8 * t29;
         const V t96 = c9 * t45;
-        const V t97 = t95 + t96;
+        const V t97 = t95 - t96;
         const V t98 = c7 * t61;
-        const V t99 = t97 + t98;
-        const V t100 = t94 + t99;
-        io.out(6, t100);
-        const V t101 = t94 - t99;
-        io.out(15, t101);
+        const V t99 = t97 - t98;
+        const V t100 = t94 - t99;
+        io.out(9, t100);
+        const V t101 = t94 + t99;
+        io.out(12, t101);
         const V t102 = c6 * t30;
         const V t103 = t19 - t102;
         const V t104 = c4 * t46;
-        const V t105 = t103 - t104;
+        const V t105 = t103 + t104;
         const V t106 = c5 * t62;
-        const V t107 = t105 + t106;
+        const V t107 = t105 - t106;
         const V t108 = c9 * t29;
         const V t109 = c7 * t45;
         const V t110 = t108 - t109;
         const V t111 = c8 * t61;
-        const V t112 = t110 - t111;
+        const V t112 = t110 + t111;
         const V t113 = t107 - t112;
-        io.out(9, t113);
+        io.out(3, t113);
         const V t114 = t107 + t112;
-        io.out(12, t114);
+        io.out(18, t114);
         // spectrum block of 7, multiplier 3
         const V t115 = t38 + t54;
         const V t116 = t115 + t70;
         const V t117 = t116 + t23;
         io.out(7, t117);
         const V t118 = c4 * t38;
-        const V t119 = t23 - t118;
-        const V t120 = c5 * t54;
-        const V t121 = t119 + t120;
-        const V t122 = c6 * t70;
-        const V t123 = t121 - t122;
+        const V t119 = c5 * t54;
+        const V t120 = t118 - t119;
+        const V t121 = c6 * t70;
+        const V t122 = t120 - t121;
+        const V t123 = t122 + t23;
         const V t124 = c7 * t37;
         const V t125 = c8 * t53;
-        const V t126 = t124 - t125;
+        const V t126 = t124 + t125;
         const V t127 = c9 * t69;
         const V t128 = t126 + t127;
         const V t129 = t123 - t128;
-        io.out(10, t129);
+        io.out(1, t129);
         const V t130 = t123 + t128;
-        io.out(4, t130);
+        io.out(13, t130);
         const V t131 = c5 * t38;
-        const V t132 = c6 * t54;
-        const V t133 = t131 - t132;
-        const V t134 = c4 * t70;
-        const V t135 = t133 - t134;
-        const V t136 = t135 + t23;
+        const V t132 = t23 - t131;
+        const V t133 = c6 * t54;
+        const V t134 = t132 - t133;
+        const V t135 = c4 * t70;
+        const V t136 = t134 + t135;
         const V t137 = c8 * t37;
         const V t138 = c9 * t53;
-        const V t139 = t137 + t138;
+        const V t139 = t137 - t138;
         const V t140 = c7 * t69;
-        const V t141 = t139 + t140;
-        const V t142 = t136 + t141;
-        io.out(13, t142);
-        const V t143 = t136 - t141;
-        io.out(1, t143);
+        const V t141 = t139 - t140;
+        const V t142 = t136 - t141;
+        io.out(16, t142);
+        const V t143 = t136 + t141;
+        io.out(19, t143);
         const V t144 = c6 * t38;
         const V t145 = t23 - t144;
         const V t146 = c4 * t54;
-        const V t147 = t145 - t146;
+        const V t147 = t145 + t146;
         const V t148 = c5 * t70;
-        const V t149 = t147 + t148;
+        const V t149 = t147 - t148;
         const V t150 = c9 * t37;
         const V t151 = c7 * t53;
         const V t152 = t150 - t151;
         const V t153 = c8 * t69;
-        const V t154 = t152 - t153;
+        const V t154 = t152 + t153;
         const V t155 = t149 - t154;
-        io.out(16, t155);
+        io.out(10, t155);
         const V t156 = t149 + t154;
-        io.out(19, t156);
+        io.out(4, t156);
         // spectrum block of 7, multiplier 3
         const V t157 = t40 + t56;
         const V t158 = t157 + t72;
         const V t159 = t158 + t24;
         io.out(14, t159);
         const V t160 = c4 * t40;
-        const V t161 = t24 - t160;
-        const V t162 = c5 * t56;
-        const V t163 = t161 + t162;
-        const V t164 = c6 * t72;
-        const V t165 = t163 - t164;
+        const V t161 = c5 * t56;
+        const V t162 = t160 - t161;
+        const V t163 = c6 * t72;
+        const V t164 = t162 - t163;
+        const V t165 = t164 + t24;
         const V t166 = c7 * t39;
         const V t167 = c8 * t55;
-        const V t168 = t166 - t167;
+        const V t168 = t166 + t167;
         const V t169 = c9 * t71;
         const V t170 = t168 + t169;
         const V t171 = t165 - t170;
-        io.out(17, t171);
+        io.out(8, t171);
         const V t172 = t165 + t170;
-        io.out(11, t172);
+        io.out(20, t172);
         const V t173 = c5 * t40;
-        const V t174 = c6 * t56;
-        const V t175 = t173 - t174;
-        const V t176 = c4 * t72;
-        const V t177 = t175 - t176;
-        const V t178 = t177 + t24;
+        const V t174 = t24 - t173;
+        const V t175 = c6 * t56;
+        const V t176 = t174 - t175;
+        const V t177 = c4 * t72;
+        const V t178 = t176 + t177;
         const V t179 = c8 * t39;
         const V t180 = c9 * t55;
-        const V t181 = t179 + t180;
+        const V t181 = t179 - t180;
         const V t182 = c7 * t71;
-        const V t183 = t181 + t182;
-        const V t184 = t178 + t183;
-        io.out(20, t184);
-        const V t185 = t178 - t183;
-        io.out(8, t185);
+        const V t183 = t181 - t182;
+        const V t184 = t178 - t183;
+        io.out(2, t184);
+        const V t185 = t178 + t183;
+        io.out(5, t185);
         const V t186 = c6 * t40;
         const V t187 = t24 - t186;
         const V t188 = c4 * t56;
-        const V t189 = t187 - t188;
+        const V t189 = t187 + t188;
         const V t190 = c5 * t72;
-        const V t191 = t189 + t190;
+        const V t191 = t189 - t190;
         const V t192 = c9 * t39;
         const V t193 = c7 * t55;
         const V t194 = t192 - t193;
         const V t195 = c8 * t71;
-        const V t196 = t194 - t195;
+        const V t196 = t194 + t195;
         const V t197 = t191 - t196;
-        io.out(2, t197);
+        io.out(17, t197);
         const V t198 = t191 + t196;
-        io.out(5, t198);
+        io.out(11, t198);
     }
 };
 

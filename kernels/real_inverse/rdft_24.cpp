@@ -10,8 +10,8 @@ struct RealInverseGraph<24> {
     static constexpr double inverseRoot = 0.20412414523193154;  // 1/sqrt(24), for `scale`
     static constexpr double c0 = 2.0;  // 2
     static constexpr double c1 = 0.7071067811865476;  // cos 2 pi 1/8
-    static constexpr double c2 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c3 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c2 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c3 = 0.8660254037844386;  // sin 2 pi 1/3
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -168,80 +168,80 @@ struct RealInverseGraph<24> {
         const V t101 = c2 * t69;
         const V t102 = t36 - t101;
         const V t103 = c3 * t68;
-        const V t104 = t102 + t103;
-        io.out(8, t104);
-        const V t105 = t102 - t103;
-        io.out(16, t105);
+        const V t104 = t102 - t103;
+        io.out(16, t104);
+        const V t105 = t102 + t103;
+        io.out(8, t105);
         // spectrum block of 3, multiplier 2
         const V t106 = t93 + t38;
         io.out(3, t106);
         const V t107 = c2 * t93;
         const V t108 = t38 - t107;
         const V t109 = c3 * t92;
-        const V t110 = t108 + t109;
-        io.out(11, t110);
-        const V t111 = t108 - t109;
-        io.out(19, t111);
+        const V t110 = t108 - t109;
+        io.out(19, t110);
+        const V t111 = t108 + t109;
+        io.out(11, t111);
         // spectrum block of 3, multiplier 2
         const V t112 = t73 + t40;
         io.out(6, t112);
         const V t113 = c2 * t73;
         const V t114 = t40 - t113;
         const V t115 = c3 * t72;
-        const V t116 = t114 + t115;
-        io.out(14, t116);
-        const V t117 = t114 - t115;
-        io.out(22, t117);
+        const V t116 = t114 - t115;
+        io.out(22, t116);
+        const V t117 = t114 + t115;
+        io.out(14, t117);
         // spectrum block of 3, multiplier 2
         const V t118 = t97 + t42;
         io.out(9, t118);
         const V t119 = c2 * t97;
         const V t120 = t42 - t119;
         const V t121 = c3 * t96;
-        const V t122 = t120 + t121;
-        io.out(17, t122);
-        const V t123 = t120 - t121;
-        io.out(1, t123);
+        const V t122 = t120 - t121;
+        io.out(1, t122);
+        const V t123 = t120 + t121;
+        io.out(17, t123);
         // spectrum block of 3, multiplier 2
         const V t124 = t71 + t37;
         io.out(12, t124);
         const V t125 = c2 * t71;
         const V t126 = t37 - t125;
         const V t127 = c3 * t70;
-        const V t128 = t126 + t127;
-        io.out(20, t128);
-        const V t129 = t126 - t127;
-        io.out(4, t129);
+        const V t128 = t126 - t127;
+        io.out(4, t128);
+        const V t129 = t126 + t127;
+        io.out(20, t129);
         // spectrum block of 3, multiplier 2
         const V t130 = t95 + t39;
         io.out(15, t130);
         const V t131 = c2 * t95;
         const V t132 = t39 - t131;
         const V t133 = c3 * t94;
-        const V t134 = t132 + t133;
-        io.out(23, t134);
-        const V t135 = t132 - t133;
-        io.out(7, t135);
+        const V t134 = t132 - t133;
+        io.out(7, t134);
+        const V t135 = t132 + t133;
+        io.out(23, t135);
         // spectrum block of 3, multiplier 2
         const V t136 = t75 + t41;
         io.out(18, t136);
         const V t137 = c2 * t75;
         const V t138 = t41 - t137;
         const V t139 = c3 * t74;
-        const V t140 = t138 + t139;
-        io.out(2, t140);
-        const V t141 = t138 - t139;
-        io.out(10, t141);
+        const V t140 = t138 - t139;
+        io.out(10, t140);
+        const V t141 = t138 + t139;
+        io.out(2, t141);
         // spectrum block of 3, multiplier 2
         const V t142 = t99 + t43;
         io.out(21, t142);
         const V t143 = c2 * t99;
         const V t144 = t43 - t143;
         const V t145 = c3 * t98;
-        const V t146 = t144 + t145;
-        io.out(5, t146);
-        const V t147 = t144 - t145;
-        io.out(13, t147);
+        const V t146 = t144 - t145;
+        io.out(13, t146);
+        const V t147 = t144 + t145;
+        io.out(5, t147);
     }
 };
 

@@ -569,22 +569,22 @@ struct RealInverseGraph<41> {
         // spectrum block of 5, multiplier 3
         const V t431 = t360 + t408;
         const V t432 = t431 + t315;
-        const V t433 = c2 * t360;
-        const V t434 = t315 - t433;
-        const V t435 = c1 * t408;
-        const V t436 = t434 + t435;
-        const V t437 = c4 * t363;
-        const V t438 = c3 * t411;
-        const V t439 = t438 - t437;
+        const V t433 = c1 * t360;
+        const V t434 = c2 * t408;
+        const V t435 = t433 - t434;
+        const V t436 = t435 + t315;
+        const V t437 = c3 * t363;
+        const V t438 = c4 * t411;
+        const V t439 = t437 + t438;
         const V t440 = t436 - t439;
         const V t441 = t436 + t439;
-        const V t442 = c1 * t360;
-        const V t443 = c2 * t408;
-        const V t444 = t442 - t443;
-        const V t445 = t444 + t315;
-        const V t446 = c3 * t363;
-        const V t447 = c4 * t411;
-        const V t448 = t446 + t447;
+        const V t442 = c2 * t360;
+        const V t443 = t315 - t442;
+        const V t444 = c1 * t408;
+        const V t445 = t443 + t444;
+        const V t446 = c4 * t363;
+        const V t447 = c3 * t411;
+        const V t448 = t446 - t447;
         const V t449 = t445 - t448;
         const V t450 = t445 + t448;
         // complex block of 5, multiplier 3
@@ -737,24 +737,24 @@ struct RealInverseGraph<41> {
         // spectrum block of 5, multiplier 3
         const V t595 = t336 - t384;
         const V t596 = t595 + t430;
-        const V t597 = c2 * t384;
-        const V t598 = c1 * t336;
-        const V t599 = t597 + t598;
-        const V t600 = t599 + t430;
-        const V t601 = c4 * t387;
-        const V t602 = c3 * t339;
-        const V t603 = t601 - t602;
-        const V t604 = t600 - t603;
-        const V t605 = t600 + t603;
-        const V t606 = c1 * t384;
-        const V t607 = t430 - t606;
-        const V t608 = c2 * t336;
-        const V t609 = t607 - t608;
-        const V t610 = c3 * t387;
-        const V t611 = c4 * t339;
-        const V t612 = t610 + t611;
-        const V t613 = t609 + t612;
-        const V t614 = t609 - t612;
+        const V t597 = c1 * t384;
+        const V t598 = t430 - t597;
+        const V t599 = c2 * t336;
+        const V t600 = t598 - t599;
+        const V t601 = c3 * t387;
+        const V t602 = c4 * t339;
+        const V t603 = t601 + t602;
+        const V t604 = t600 + t603;
+        const V t605 = t600 - t603;
+        const V t606 = c2 * t384;
+        const V t607 = c1 * t336;
+        const V t608 = t606 + t607;
+        const V t609 = t608 + t430;
+        const V t610 = c4 * t387;
+        const V t611 = c3 * t339;
+        const V t612 = t611 - t610;
+        const V t613 = t609 - t612;
+        const V t614 = t609 + t612;
         // spectrum block of 2
         const V t615 = t432 + t596;
         const V t616 = t432 - t596;
@@ -794,8 +794,8 @@ struct RealInverseGraph<41> {
         const V t636 = t620 + t628;
         io.out(27, t636);
         // spectrum block of 2
-        const V t637 = t440 + t604;
-        const V t638 = t440 - t604;
+        const V t637 = t450 + t614;
+        const V t638 = t450 - t614;
         // spectrum block of 2
         const V t639 = t637 + t546;
         const V t640 = t637 - t546;
@@ -832,8 +832,8 @@ struct RealInverseGraph<41> {
         const V t658 = t642 + t650;
         io.out(15, t658);
         // spectrum block of 2
-        const V t659 = t449 + t613;
-        const V t660 = t449 - t613;
+        const V t659 = t440 + t604;
+        const V t660 = t440 - t604;
         // spectrum block of 2
         const V t661 = t659 + t526;
         const V t662 = t659 - t526;
@@ -870,8 +870,8 @@ struct RealInverseGraph<41> {
         const V t680 = t664 + t672;
         io.out(22, t680);
         // spectrum block of 2
-        const V t681 = t450 + t614;
-        const V t682 = t450 - t614;
+        const V t681 = t441 + t605;
+        const V t682 = t441 - t605;
         // spectrum block of 2
         const V t683 = t681 + t528;
         const V t684 = t681 - t528;
@@ -908,8 +908,8 @@ struct RealInverseGraph<41> {
         const V t702 = t686 + t694;
         io.out(35, t702);
         // spectrum block of 2
-        const V t703 = t441 + t605;
-        const V t704 = t441 - t605;
+        const V t703 = t449 + t613;
+        const V t704 = t449 - t613;
         // spectrum block of 2
         const V t705 = t703 + t544;
         const V t706 = t703 - t544;

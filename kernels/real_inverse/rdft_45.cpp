@@ -9,20 +9,20 @@ template <>
 struct RealInverseGraph<45> {
     static constexpr double inverseRoot = 0.14907119849998599;  // 1/sqrt(45), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 4/5
-    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 8/5
-    static constexpr double c3 = 0.9510565162951535;  // -sin 2 pi 4/5
-    static constexpr double c4 = 0.5877852522924731;  // -sin 2 pi 8/5
-    static constexpr double c5 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c6 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 1/5
+    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 2/5
+    static constexpr double c3 = 0.9510565162951535;  // sin 2 pi 1/5
+    static constexpr double c4 = 0.5877852522924731;  // sin 2 pi 2/5
+    static constexpr double c5 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c6 = 0.8660254037844386;  // sin 2 pi 1/3
     static constexpr double c7 = 0.3420201433256687;  // sin 2 pi 4/9
     static constexpr double c8 = 0.9396926207859084;  // -cos 2 pi 4/9
     static constexpr double c9 = 0.6427876096865394;  // -sin 2 pi 8/9
     static constexpr double c10 = 0.766044443118978;  // cos 2 pi 8/9
-    static constexpr double c11 = 0.8137976813493737;  // -sin 2 pi 2/3 times -cos 2 pi 4/9
-    static constexpr double c12 = 0.29619813272602386;  // -sin 2 pi 2/3 times sin 2 pi 4/9
-    static constexpr double c13 = 0.6634139481689384;  // -sin 2 pi 2/3 times cos 2 pi 8/9
-    static constexpr double c14 = 0.5566703992264194;  // -sin 2 pi 2/3 times -sin 2 pi 8/9
+    static constexpr double c11 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 4/9
+    static constexpr double c12 = 0.29619813272602386;  // sin 2 pi 1/3 times sin 2 pi 4/9
+    static constexpr double c13 = 0.6634139481689384;  // sin 2 pi 1/3 times cos 2 pi 8/9
+    static constexpr double c14 = 0.5566703992264194;  // sin 2 pi 1/3 times -sin 2 pi 8/9
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -127,15 +127,15 @@ struct RealInverseGraph<45> {
         const V t50 = c3 * t17;
         const V t51 = c4 * t35;
         const V t52 = t50 + t51;
-        const V t53 = t49 + t52;
-        const V t54 = t49 - t52;
+        const V t53 = t49 - t52;
+        const V t54 = t49 + t52;
         const V t55 = c2 * t16;
         const V t56 = x0r - t55;
         const V t57 = c1 * t34;
         const V t58 = t56 + t57;
         const V t59 = c4 * t17;
         const V t60 = c3 * t35;
-        const V t61 = t60 - t59;
+        const V t61 = t59 - t60;
         const V t62 = t58 - t61;
         const V t63 = t58 + t61;
         // complex block of 5, multiplier 4
@@ -339,8 +339,8 @@ struct RealInverseGraph<45> {
         const V t257 = c5 * t171;
         const V t258 = t45 - t257;
         const V t259 = c6 * t170;
-        const V t260 = t258 + t259;
-        const V t261 = t258 - t259;
+        const V t260 = t258 - t259;
+        const V t261 = t258 + t259;
         // complex block of 3, multiplier 2
         const V t262 = t218 - t122;
         const V t263 = t219 + t123;
@@ -371,41 +371,41 @@ struct RealInverseGraph<45> {
         const V t285 = c5 * t267;
         const V t286 = t256 - t285;
         const V t287 = c6 * t266;
-        const V t288 = t286 + t287;
-        io.out(15, t288);
-        const V t289 = t286 - t287;
-        io.out(30, t289);
+        const V t288 = t286 - t287;
+        io.out(30, t288);
+        const V t289 = t286 + t287;
+        io.out(15, t289);
         // spectrum block of 3, multiplier 2
-        const V t290 = t280 + t260;
+        const V t290 = t280 + t261;
         io.out(5, t290);
         const V t291 = c5 * t280;
-        const V t292 = t260 - t291;
+        const V t292 = t261 - t291;
         const V t293 = c11 * t276;
         const V t294 = c12 * t277;
         const V t295 = t293 + t294;
-        const V t296 = t292 - t295;
-        io.out(20, t296);
-        const V t297 = t292 + t295;
-        io.out(35, t297);
+        const V t296 = t292 + t295;
+        io.out(35, t296);
+        const V t297 = t292 - t295;
+        io.out(20, t297);
         // spectrum block of 3, multiplier 2
-        const V t298 = t283 + t261;
+        const V t298 = t283 + t260;
         io.out(10, t298);
         const V t299 = c5 * t283;
-        const V t300 = t261 - t299;
+        const V t300 = t260 - t299;
         const V t301 = c13 * t274;
         const V t302 = c14 * t275;
         const V t303 = t301 + t302;
-        const V t304 = t300 + t303;
-        io.out(25, t304);
-        const V t305 = t300 - t303;
-        io.out(40, t305);
+        const V t304 = t300 - t303;
+        io.out(40, t304);
+        const V t305 = t300 + t303;
+        io.out(25, t305);
         // spectrum block of 3, multiplier 2
-        const V t306 = t189 + t53;
+        const V t306 = t189 + t54;
         const V t307 = c5 * t189;
-        const V t308 = t53 - t307;
+        const V t308 = t54 - t307;
         const V t309 = c6 * t188;
-        const V t310 = t308 + t309;
-        const V t311 = t308 - t309;
+        const V t310 = t308 - t309;
+        const V t311 = t308 + t309;
         // complex block of 3, multiplier 2
         const V t312 = t236 - t140;
         const V t313 = t237 + t141;
@@ -436,41 +436,41 @@ struct RealInverseGraph<45> {
         const V t335 = c5 * t317;
         const V t336 = t306 - t335;
         const V t337 = c6 * t316;
-        const V t338 = t336 + t337;
-        io.out(24, t338);
-        const V t339 = t336 - t337;
-        io.out(39, t339);
+        const V t338 = t336 - t337;
+        io.out(39, t338);
+        const V t339 = t336 + t337;
+        io.out(24, t339);
         // spectrum block of 3, multiplier 2
-        const V t340 = t330 + t310;
+        const V t340 = t330 + t311;
         io.out(14, t340);
         const V t341 = c5 * t330;
-        const V t342 = t310 - t341;
+        const V t342 = t311 - t341;
         const V t343 = c11 * t326;
         const V t344 = c12 * t327;
         const V t345 = t343 + t344;
-        const V t346 = t342 - t345;
-        io.out(29, t346);
-        const V t347 = t342 + t345;
-        io.out(44, t347);
+        const V t346 = t342 + t345;
+        io.out(44, t346);
+        const V t347 = t342 - t345;
+        io.out(29, t347);
         // spectrum block of 3, multiplier 2
-        const V t348 = t333 + t311;
+        const V t348 = t333 + t310;
         io.out(19, t348);
         const V t349 = c5 * t333;
-        const V t350 = t311 - t349;
+        const V t350 = t310 - t349;
         const V t351 = c13 * t324;
         const V t352 = c14 * t325;
         const V t353 = t351 + t352;
-        const V t354 = t350 + t353;
-        io.out(34, t354);
-        const V t355 = t350 - t353;
-        io.out(4, t355);
+        const V t354 = t350 - t353;
+        io.out(4, t354);
+        const V t355 = t350 + t353;
+        io.out(34, t355);
         // spectrum block of 3, multiplier 2
-        const V t356 = t207 + t62;
+        const V t356 = t207 + t63;
         const V t357 = c5 * t207;
-        const V t358 = t62 - t357;
+        const V t358 = t63 - t357;
         const V t359 = c6 * t206;
-        const V t360 = t358 + t359;
-        const V t361 = t358 - t359;
+        const V t360 = t358 - t359;
+        const V t361 = t358 + t359;
         // complex block of 3, multiplier 2
         const V t362 = t254 - t158;
         const V t363 = t255 + t159;
@@ -501,41 +501,41 @@ struct RealInverseGraph<45> {
         const V t385 = c5 * t367;
         const V t386 = t356 - t385;
         const V t387 = c6 * t366;
-        const V t388 = t386 + t387;
-        io.out(33, t388);
-        const V t389 = t386 - t387;
-        io.out(3, t389);
+        const V t388 = t386 - t387;
+        io.out(3, t388);
+        const V t389 = t386 + t387;
+        io.out(33, t389);
         // spectrum block of 3, multiplier 2
-        const V t390 = t380 + t360;
+        const V t390 = t380 + t361;
         io.out(23, t390);
         const V t391 = c5 * t380;
-        const V t392 = t360 - t391;
+        const V t392 = t361 - t391;
         const V t393 = c11 * t376;
         const V t394 = c12 * t377;
         const V t395 = t393 + t394;
-        const V t396 = t392 - t395;
-        io.out(38, t396);
-        const V t397 = t392 + t395;
-        io.out(8, t397);
+        const V t396 = t392 + t395;
+        io.out(8, t396);
+        const V t397 = t392 - t395;
+        io.out(38, t397);
         // spectrum block of 3, multiplier 2
-        const V t398 = t383 + t361;
+        const V t398 = t383 + t360;
         io.out(28, t398);
         const V t399 = c5 * t383;
-        const V t400 = t361 - t399;
+        const V t400 = t360 - t399;
         const V t401 = c13 * t374;
         const V t402 = c14 * t375;
         const V t403 = t401 + t402;
-        const V t404 = t400 + t403;
-        io.out(43, t404);
-        const V t405 = t400 - t403;
-        io.out(13, t405);
+        const V t404 = t400 - t403;
+        io.out(13, t404);
+        const V t405 = t400 + t403;
+        io.out(43, t405);
         // spectrum block of 3, multiplier 2
-        const V t406 = t205 + t63;
+        const V t406 = t205 + t62;
         const V t407 = c5 * t205;
-        const V t408 = t63 - t407;
+        const V t408 = t62 - t407;
         const V t409 = c6 * t204;
-        const V t410 = t408 + t409;
-        const V t411 = t408 - t409;
+        const V t410 = t408 - t409;
+        const V t411 = t408 + t409;
         // complex block of 3, multiplier 2
         const V t412 = t252 - t156;
         const V t413 = t253 + t157;
@@ -566,41 +566,41 @@ struct RealInverseGraph<45> {
         const V t435 = c5 * t417;
         const V t436 = t406 - t435;
         const V t437 = c6 * t416;
-        const V t438 = t436 + t437;
-        io.out(42, t438);
-        const V t439 = t436 - t437;
-        io.out(12, t439);
+        const V t438 = t436 - t437;
+        io.out(12, t438);
+        const V t439 = t436 + t437;
+        io.out(42, t439);
         // spectrum block of 3, multiplier 2
-        const V t440 = t430 + t410;
+        const V t440 = t430 + t411;
         io.out(32, t440);
         const V t441 = c5 * t430;
-        const V t442 = t410 - t441;
+        const V t442 = t411 - t441;
         const V t443 = c11 * t426;
         const V t444 = c12 * t427;
         const V t445 = t443 + t444;
-        const V t446 = t442 - t445;
-        io.out(2, t446);
-        const V t447 = t442 + t445;
-        io.out(17, t447);
+        const V t446 = t442 + t445;
+        io.out(17, t446);
+        const V t447 = t442 - t445;
+        io.out(2, t447);
         // spectrum block of 3, multiplier 2
-        const V t448 = t433 + t411;
+        const V t448 = t433 + t410;
         io.out(37, t448);
         const V t449 = c5 * t433;
-        const V t450 = t411 - t449;
+        const V t450 = t410 - t449;
         const V t451 = c13 * t424;
         const V t452 = c14 * t425;
         const V t453 = t451 + t452;
-        const V t454 = t450 + t453;
-        io.out(7, t454);
-        const V t455 = t450 - t453;
-        io.out(22, t455);
+        const V t454 = t450 - t453;
+        io.out(22, t454);
+        const V t455 = t450 + t453;
+        io.out(7, t455);
         // spectrum block of 3, multiplier 2
-        const V t456 = t187 + t54;
+        const V t456 = t187 + t53;
         const V t457 = c5 * t187;
-        const V t458 = t54 - t457;
+        const V t458 = t53 - t457;
         const V t459 = c6 * t186;
-        const V t460 = t458 + t459;
-        const V t461 = t458 - t459;
+        const V t460 = t458 - t459;
+        const V t461 = t458 + t459;
         // complex block of 3, multiplier 2
         const V t462 = t234 - t138;
         const V t463 = t235 + t139;
@@ -631,34 +631,34 @@ struct RealInverseGraph<45> {
         const V t485 = c5 * t467;
         const V t486 = t456 - t485;
         const V t487 = c6 * t466;
-        const V t488 = t486 + t487;
-        io.out(6, t488);
-        const V t489 = t486 - t487;
-        io.out(21, t489);
+        const V t488 = t486 - t487;
+        io.out(21, t488);
+        const V t489 = t486 + t487;
+        io.out(6, t489);
         // spectrum block of 3, multiplier 2
-        const V t490 = t480 + t460;
+        const V t490 = t480 + t461;
         io.out(41, t490);
         const V t491 = c5 * t480;
-        const V t492 = t460 - t491;
+        const V t492 = t461 - t491;
         const V t493 = c11 * t476;
         const V t494 = c12 * t477;
         const V t495 = t493 + t494;
-        const V t496 = t492 - t495;
-        io.out(11, t496);
-        const V t497 = t492 + t495;
-        io.out(26, t497);
+        const V t496 = t492 + t495;
+        io.out(26, t496);
+        const V t497 = t492 - t495;
+        io.out(11, t497);
         // spectrum block of 3, multiplier 2
-        const V t498 = t483 + t461;
+        const V t498 = t483 + t460;
         io.out(1, t498);
         const V t499 = c5 * t483;
-        const V t500 = t461 - t499;
+        const V t500 = t460 - t499;
         const V t501 = c13 * t474;
         const V t502 = c14 * t475;
         const V t503 = t501 + t502;
-        const V t504 = t500 + t503;
-        io.out(16, t504);
-        const V t505 = t500 - t503;
-        io.out(31, t505);
+        const V t504 = t500 - t503;
+        io.out(31, t504);
+        const V t505 = t500 + t503;
+        io.out(16, t505);
     }
 };
 

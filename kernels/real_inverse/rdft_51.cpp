@@ -9,9 +9,9 @@ template <>
 struct RealInverseGraph<51> {
     static constexpr double inverseRoot = 0.14002800840280097;  // 1/sqrt(51), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c2 = 1.7320508075688772;  // -sin 2 pi 2/3 times 2
-    static constexpr double c3 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c2 = 1.7320508075688772;  // sin 2 pi 1/3 times 2
+    static constexpr double c3 = 0.8660254037844386;  // sin 2 pi 1/3
     static constexpr double c4 = 0.7071067811865476;  // cos 2 pi 1/8
     static constexpr double c5 = 0.3826834323650898;  // sin 2 pi 1/16
     static constexpr double c6 = 0.9238795325112867;  // cos 2 pi 1/16
@@ -141,8 +141,8 @@ struct RealInverseGraph<51> {
         const V t51 = x0r - t50;
         const V x17i = io.im(17);
         const V t52 = c2 * x17i;
-        const V t53 = t51 + t52;
-        const V t54 = t51 - t52;
+        const V t53 = t51 - t52;
+        const V t54 = t51 + t52;
         // complex block of 3, multiplier 2
         const V t55 = t38 - t27;
         const V t56 = t37 + t26;
@@ -571,7 +571,7 @@ struct RealInverseGraph<51> {
         const V t406 = t394 + t397;
         // spectrum block of 17, multiplier 3
         const V t407 = c7 * t365;
-        const V t408 = t53 - t407;
+        const V t408 = t54 - t407;
         const V t409 = c8 * t400;
         const V t410 = c9 * t399;
         const V t411 = t410 + t409;
@@ -723,7 +723,7 @@ struct RealInverseGraph<51> {
         const V t521 = t517 + t489;
         io.out(26, t521);
         // spectrum block of 17, multiplier 3
-        const V t522 = t53 + t365;
+        const V t522 = t54 + t365;
         io.out(17, t522);
         // real block of 2
         const V t523 = t68 + t116;
@@ -794,7 +794,7 @@ struct RealInverseGraph<51> {
         const V t576 = t564 + t567;
         // spectrum block of 17, multiplier 3
         const V t577 = c7 * t535;
-        const V t578 = t54 - t577;
+        const V t578 = t53 - t577;
         const V t579 = c8 * t570;
         const V t580 = c9 * t569;
         const V t581 = t580 + t579;
@@ -946,7 +946,7 @@ struct RealInverseGraph<51> {
         const V t691 = t687 + t659;
         io.out(43, t691);
         // spectrum block of 17, multiplier 3
-        const V t692 = t54 + t535;
+        const V t692 = t53 + t535;
         io.out(34, t692);
     }
 };

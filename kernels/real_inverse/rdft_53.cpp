@@ -323,15 +323,15 @@ struct RealInverseGraph<53> {
         const V t139 = c1 * t135;
         const V t140 = t132 - t139;
         const V t141 = c2 * t134;
-        const V t142 = t140 + t141;
-        const V t143 = t140 - t141;
+        const V t142 = t140 - t141;
+        const V t143 = t140 + t141;
         // spectrum block of 3, multiplier 2
         const V t144 = t137 + t133;
         const V t145 = c1 * t137;
         const V t146 = t133 - t145;
         const V t147 = c2 * t136;
-        const V t148 = t146 - t147;
-        const V t149 = t146 + t147;
+        const V t148 = t146 + t147;
+        const V t149 = t146 - t147;
         // complex block of 2
         const V t150 = t127 - t103;
         const V t151 = t106 + t130;
@@ -346,8 +346,8 @@ struct RealInverseGraph<53> {
         const V t158 = c1 * t151;
         const V t159 = t118 + t158;
         const V t160 = c2 * t150;
-        const V t161 = t159 + t160;
-        const V t162 = t160 - t159;
+        const V t161 = t160 - t159;
+        const V t162 = t159 + t160;
         // spectrum block of 3, multiplier 2
         const V t163 = t156 + t115;
         const V t164 = c1 * t156;
@@ -355,8 +355,8 @@ struct RealInverseGraph<53> {
         const V t166 = c15 * t153;
         const V t167 = c16 * t152;
         const V t168 = t166 - t167;
-        const V t169 = t165 - t168;
-        const V t170 = t165 + t168;
+        const V t169 = t165 + t168;
+        const V t170 = t165 - t168;
         // real block of 3
         const V t171 = t22 + t40;
         const V t172 = t22 - t40;
@@ -462,15 +462,15 @@ struct RealInverseGraph<53> {
         const V t258 = c1 * t254;
         const V t259 = t251 - t258;
         const V t260 = c2 * t253;
-        const V t261 = t259 + t260;
-        const V t262 = t259 - t260;
+        const V t261 = t259 - t260;
+        const V t262 = t259 + t260;
         // spectrum block of 3, multiplier 2
         const V t263 = t256 + t252;
         const V t264 = c1 * t256;
         const V t265 = t252 - t264;
         const V t266 = c2 * t255;
-        const V t267 = t265 - t266;
-        const V t268 = t265 + t266;
+        const V t267 = t265 + t266;
+        const V t268 = t265 - t266;
         // complex block of 2
         const V t269 = t246 - t222;
         const V t270 = t225 + t249;
@@ -485,8 +485,8 @@ struct RealInverseGraph<53> {
         const V t277 = c1 * t270;
         const V t278 = t237 + t277;
         const V t279 = c2 * t269;
-        const V t280 = t278 + t279;
-        const V t281 = t279 - t278;
+        const V t280 = t279 - t278;
+        const V t281 = t278 + t279;
         // spectrum block of 3, multiplier 2
         const V t282 = t275 + t234;
         const V t283 = c1 * t275;
@@ -494,8 +494,8 @@ struct RealInverseGraph<53> {
         const V t285 = c15 * t272;
         const V t286 = c16 * t271;
         const V t287 = t285 - t286;
-        const V t288 = t284 - t287;
-        const V t289 = t284 + t287;
+        const V t288 = t284 + t287;
+        const V t289 = t284 - t287;
         // real block of 2
         const V t290 = t98 + t217;
         const V t291 = t98 - t217;
@@ -505,29 +505,29 @@ struct RealInverseGraph<53> {
         const V t294 = t138 - t257;
         const V t295 = t157 - t276;
         // complex block of 2
-        const V t296 = t148 + t267;
-        const V t297 = t169 + t288;
-        const V t298 = t148 - t267;
-        const V t299 = t288 - t169;
+        const V t296 = t149 + t268;
+        const V t297 = t170 + t289;
+        const V t298 = t149 - t268;
+        const V t299 = t289 - t170;
         // complex block of 2
-        const V t300 = t142 + t261;
-        const V t301 = t162 + t281;
-        const V t302 = t142 - t261;
-        const V t303 = t162 - t281;
+        const V t300 = t143 + t262;
+        const V t301 = t161 + t280;
+        const V t302 = t143 - t262;
+        const V t303 = t161 - t280;
         // complex block of 2
-        const V t304 = t143 + t262;
-        const V t305 = t161 + t280;
-        const V t306 = t143 - t262;
-        const V t307 = t161 - t280;
+        const V t304 = t142 + t261;
+        const V t305 = t162 + t281;
+        const V t306 = t142 - t261;
+        const V t307 = t162 - t281;
         // complex block of 2
         const V t308 = t144 + t263;
-        const V t309 = t170 + t289;
+        const V t309 = t169 + t288;
         const V t310 = t144 - t263;
-        const V t311 = t289 - t170;
+        const V t311 = t288 - t169;
         // complex block of 2
-        const V t312 = t149 + t268;
+        const V t312 = t148 + t267;
         const V t313 = t163 + t282;
-        const V t314 = t149 - t268;
+        const V t314 = t148 - t267;
         const V t315 = t282 - t163;
         // real block of 3
         const V t316 = t21 + t11;
@@ -634,15 +634,15 @@ struct RealInverseGraph<53> {
         const V t403 = c1 * t399;
         const V t404 = t396 - t403;
         const V t405 = c2 * t398;
-        const V t406 = t404 + t405;
-        const V t407 = t404 - t405;
+        const V t406 = t404 - t405;
+        const V t407 = t404 + t405;
         // spectrum block of 3, multiplier 2
         const V t408 = t401 + t397;
         const V t409 = c1 * t401;
         const V t410 = t397 - t409;
         const V t411 = c2 * t400;
-        const V t412 = t410 + t411;
-        const V t413 = t410 - t411;
+        const V t412 = t410 - t411;
+        const V t413 = t410 + t411;
         // complex block of 2
         const V t414 = t391 - t367;
         const V t415 = t370 + t394;
@@ -657,8 +657,8 @@ struct RealInverseGraph<53> {
         const V t422 = c1 * t415;
         const V t423 = t382 - t422;
         const V t424 = c2 * t414;
-        const V t425 = t423 - t424;
-        const V t426 = t423 + t424;
+        const V t425 = t423 + t424;
+        const V t426 = t423 - t424;
         // spectrum block of 3, multiplier 2
         const V t427 = t420 + t379;
         const V t428 = c1 * t420;
@@ -666,8 +666,8 @@ struct RealInverseGraph<53> {
         const V t430 = c15 * t417;
         const V t431 = c16 * t416;
         const V t432 = t430 - t431;
-        const V t433 = t429 - t432;
-        const V t434 = t429 + t432;
+        const V t433 = t429 + t432;
+        const V t434 = t429 - t432;
         // real block of 3
         const V t435 = t43 + t23;
         const V t436 = t23 - t43;
@@ -773,15 +773,15 @@ struct RealInverseGraph<53> {
         const V t522 = c1 * t518;
         const V t523 = t515 - t522;
         const V t524 = c2 * t517;
-        const V t525 = t523 + t524;
-        const V t526 = t523 - t524;
+        const V t525 = t523 - t524;
+        const V t526 = t523 + t524;
         // spectrum block of 3, multiplier 2
         const V t527 = t520 + t516;
         const V t528 = c1 * t520;
         const V t529 = t516 - t528;
         const V t530 = c2 * t519;
-        const V t531 = t529 + t530;
-        const V t532 = t529 - t530;
+        const V t531 = t529 - t530;
+        const V t532 = t529 + t530;
         // complex block of 2
         const V t533 = t510 - t486;
         const V t534 = t489 + t513;
@@ -796,8 +796,8 @@ struct RealInverseGraph<53> {
         const V t541 = c1 * t534;
         const V t542 = t501 - t541;
         const V t543 = c2 * t533;
-        const V t544 = t542 - t543;
-        const V t545 = t542 + t543;
+        const V t544 = t542 + t543;
+        const V t545 = t542 - t543;
         // spectrum block of 3, multiplier 2
         const V t546 = t539 + t498;
         const V t547 = c1 * t539;
@@ -805,68 +805,68 @@ struct RealInverseGraph<53> {
         const V t549 = c15 * t536;
         const V t550 = c16 * t535;
         const V t551 = t549 - t550;
-        const V t552 = t548 - t551;
-        const V t553 = t548 + t551;
+        const V t552 = t548 + t551;
+        const V t553 = t548 - t551;
         // skew block of 26
         const V t554 = c25 * t546;
-        const V t555 = c26 * t532;
+        const V t555 = c26 * t531;
         const V t556 = t555 + t554;
-        const V t557 = c25 * t532;
+        const V t557 = c25 * t531;
         const V t558 = c26 * t546;
         const V t559 = t558 - t557;
         // complex block of 2
-        const V t560 = t413 + t556;
+        const V t560 = t412 + t556;
         const V t561 = t427 + t559;
-        const V t562 = t413 - t556;
+        const V t562 = t412 - t556;
         const V t563 = t427 - t559;
         // skew block of 26
-        const V t564 = c27 * t553;
+        const V t564 = c27 * t552;
         const V t565 = c28 * t527;
         const V t566 = t565 + t564;
         const V t567 = c27 * t527;
-        const V t568 = c28 * t553;
+        const V t568 = c28 * t552;
         const V t569 = t568 - t567;
         // complex block of 2
         const V t570 = t408 + t566;
-        const V t571 = t434 + t569;
+        const V t571 = t433 + t569;
         const V t572 = t408 - t566;
-        const V t573 = t434 - t569;
+        const V t573 = t433 - t569;
         // skew block of 26
-        const V t574 = c29 * t544;
-        const V t575 = c30 * t526;
+        const V t574 = c29 * t545;
+        const V t575 = c30 * t525;
         const V t576 = t575 + t574;
-        const V t577 = c29 * t526;
-        const V t578 = c30 * t544;
+        const V t577 = c29 * t525;
+        const V t578 = c30 * t545;
         const V t579 = t578 - t577;
         // complex block of 2
-        const V t580 = t407 + t576;
-        const V t581 = t425 + t579;
-        const V t582 = t407 - t576;
-        const V t583 = t425 - t579;
+        const V t580 = t406 + t576;
+        const V t581 = t426 + t579;
+        const V t582 = t406 - t576;
+        const V t583 = t426 - t579;
         // skew block of 26
-        const V t584 = c31 * t545;
-        const V t585 = c32 * t525;
+        const V t584 = c31 * t544;
+        const V t585 = c32 * t526;
         const V t586 = t585 - t584;
-        const V t587 = c31 * t525;
-        const V t588 = c32 * t545;
+        const V t587 = c31 * t526;
+        const V t588 = c32 * t544;
         const V t589 = t588 + t587;
         // complex block of 2
-        const V t590 = t406 + t586;
-        const V t591 = t426 + t589;
-        const V t592 = t406 - t586;
-        const V t593 = t589 - t426;
+        const V t590 = t407 + t586;
+        const V t591 = t425 + t589;
+        const V t592 = t407 - t586;
+        const V t593 = t589 - t425;
         // skew block of 26
-        const V t594 = c33 * t552;
-        const V t595 = c34 * t531;
+        const V t594 = c33 * t553;
+        const V t595 = c34 * t532;
         const V t596 = t595 + t594;
-        const V t597 = c33 * t531;
-        const V t598 = c34 * t552;
+        const V t597 = c33 * t532;
+        const V t598 = c34 * t553;
         const V t599 = t598 - t597;
         // complex block of 2
-        const V t600 = t412 + t596;
-        const V t601 = t433 + t599;
-        const V t602 = t412 - t596;
-        const V t603 = t433 - t599;
+        const V t600 = t413 + t596;
+        const V t601 = t434 + t599;
+        const V t602 = t413 - t596;
+        const V t603 = t434 - t599;
         // skew block of 26
         const V t604 = c35 * t540;
         const V t605 = c36 * t521;

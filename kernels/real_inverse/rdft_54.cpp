@@ -9,17 +9,17 @@ template <>
 struct RealInverseGraph<54> {
     static constexpr double inverseRoot = 0.13608276348795434;  // 1/sqrt(54), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c2 = 1.7320508075688772;  // -sin 2 pi 2/3 times 2
-    static constexpr double c3 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c2 = 1.7320508075688772;  // sin 2 pi 1/3 times 2
+    static constexpr double c3 = 0.8660254037844386;  // sin 2 pi 1/3
     static constexpr double c4 = 0.984807753012208;  // -sin 2 pi 7/9
     static constexpr double c5 = 0.17364817766693036;  // cos 2 pi 7/9
     static constexpr double c6 = 0.3420201433256687;  // -sin 2 pi 5/9
     static constexpr double c7 = 0.9396926207859084;  // -cos 2 pi 5/9
-    static constexpr double c8 = 0.1503837331804353;  // -sin 2 pi 2/3 times cos 2 pi 7/9
-    static constexpr double c9 = 0.8528685319524432;  // -sin 2 pi 2/3 times -sin 2 pi 7/9
-    static constexpr double c10 = 0.29619813272602386;  // -sin 2 pi 2/3 times -sin 2 pi 5/9
-    static constexpr double c11 = 0.8137976813493737;  // -sin 2 pi 2/3 times -cos 2 pi 5/9
+    static constexpr double c8 = 0.1503837331804353;  // sin 2 pi 1/3 times cos 2 pi 7/9
+    static constexpr double c9 = 0.8528685319524432;  // sin 2 pi 1/3 times -sin 2 pi 7/9
+    static constexpr double c10 = 0.29619813272602386;  // sin 2 pi 1/3 times -sin 2 pi 5/9
+    static constexpr double c11 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 5/9
     static constexpr double c12 = 0.6427876096865394;  // -sin 2 pi 8/9
     static constexpr double c13 = 0.766044443118978;  // cos 2 pi 8/9
     static constexpr double c14 = 0.44879918020046217;  // -sin 2 pi 25/27
@@ -34,18 +34,18 @@ struct RealInverseGraph<54> {
     static constexpr double c23 = 0.993238357741943;  // -cos 2 pi 13/27
     static constexpr double c24 = 0.549508978070806;  // sin 2 pi 11/27
     static constexpr double c25 = 0.8354878114129364;  // -cos 2 pi 11/27
-    static constexpr double c26 = 0.7739085681710371;  // -sin 2 pi 2/3 times cos 2 pi 25/27
-    static constexpr double c27 = 0.3886714912512303;  // -sin 2 pi 2/3 times -sin 2 pi 25/27
-    static constexpr double c28 = 0.5171545105027521;  // -sin 2 pi 2/3 times cos 2 pi 23/27
-    static constexpr double c29 = 0.6946590618905499;  // -sin 2 pi 2/3 times -sin 2 pi 23/27
-    static constexpr double c30 = 0.8296432542242788;  // -sin 2 pi 2/3 times -sin 2 pi 19/27
-    static constexpr double c31 = 0.24837888541530426;  // -sin 2 pi 2/3 times -cos 2 pi 19/27
-    static constexpr double c32 = 0.6299240516454571;  // -sin 2 pi 2/3 times -sin 2 pi 17/27
-    static constexpr double c33 = 0.5943026915289645;  // -sin 2 pi 2/3 times -cos 2 pi 17/27
-    static constexpr double c34 = 0.8601696498176589;  // -sin 2 pi 2/3 times -cos 2 pi 13/27
-    static constexpr double c35 = 0.10053941283181467;  // -sin 2 pi 2/3 times sin 2 pi 13/27
-    static constexpr double c36 = 0.7235536692358652;  // -sin 2 pi 2/3 times -cos 2 pi 11/27
-    static constexpr double c37 = 0.47588873461694403;  // -sin 2 pi 2/3 times sin 2 pi 11/27
+    static constexpr double c26 = 0.7739085681710371;  // sin 2 pi 1/3 times cos 2 pi 25/27
+    static constexpr double c27 = 0.3886714912512303;  // sin 2 pi 1/3 times -sin 2 pi 25/27
+    static constexpr double c28 = 0.5171545105027521;  // sin 2 pi 1/3 times cos 2 pi 23/27
+    static constexpr double c29 = 0.6946590618905499;  // sin 2 pi 1/3 times -sin 2 pi 23/27
+    static constexpr double c30 = 0.8296432542242788;  // sin 2 pi 1/3 times -sin 2 pi 19/27
+    static constexpr double c31 = 0.24837888541530426;  // sin 2 pi 1/3 times -cos 2 pi 19/27
+    static constexpr double c32 = 0.6299240516454571;  // sin 2 pi 1/3 times -sin 2 pi 17/27
+    static constexpr double c33 = 0.5943026915289645;  // sin 2 pi 1/3 times -cos 2 pi 17/27
+    static constexpr double c34 = 0.8601696498176589;  // sin 2 pi 1/3 times -cos 2 pi 13/27
+    static constexpr double c35 = 0.10053941283181467;  // sin 2 pi 1/3 times sin 2 pi 13/27
+    static constexpr double c36 = 0.7235536692358652;  // sin 2 pi 1/3 times -cos 2 pi 11/27
+    static constexpr double c37 = 0.47588873461694403;  // sin 2 pi 1/3 times sin 2 pi 11/27
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -158,8 +158,8 @@ struct RealInverseGraph<54> {
         const V t52 = x0r - t51;
         const V x18i = io.im(18);
         const V t53 = c2 * x18i;
-        const V t54 = t52 + t53;
-        const V t55 = t52 - t53;
+        const V t54 = t52 - t53;
+        const V t55 = t52 + t53;
         // complex block of 3, multiplier 2
         const V t56 = t45 - t22;
         const V t57 = t44 + t21;
@@ -189,26 +189,26 @@ struct RealInverseGraph<54> {
         const V t79 = c1 * t61;
         const V t80 = t50 - t79;
         const V t81 = c3 * t60;
-        const V t82 = t80 + t81;
-        const V t83 = t80 - t81;
+        const V t82 = t80 - t81;
+        const V t83 = t80 + t81;
         // spectrum block of 3, multiplier 2
-        const V t84 = t74 + t54;
+        const V t84 = t74 + t55;
         const V t85 = c1 * t74;
-        const V t86 = t54 - t85;
+        const V t86 = t55 - t85;
         const V t87 = c8 * t70;
         const V t88 = c9 * t71;
         const V t89 = t87 + t88;
-        const V t90 = t86 + t89;
-        const V t91 = t86 - t89;
+        const V t90 = t86 - t89;
+        const V t91 = t86 + t89;
         // spectrum block of 3, multiplier 2
-        const V t92 = t55 - t77;
+        const V t92 = t54 - t77;
         const V t93 = c1 * t77;
-        const V t94 = t93 + t55;
+        const V t94 = t93 + t54;
         const V t95 = c10 * t69;
         const V t96 = c11 * t68;
         const V t97 = t95 - t96;
-        const V t98 = t94 + t97;
-        const V t99 = t94 - t97;
+        const V t98 = t94 - t97;
+        const V t99 = t94 + t97;
         // complex block of 3, multiplier 2
         const V t100 = t37 - t30;
         const V t101 = t36 + t29;
@@ -367,8 +367,8 @@ struct RealInverseGraph<54> {
         const V t245 = c1 * t153;
         const V t246 = t78 - t245;
         const V t247 = c3 * t152;
-        const V t248 = t246 + t247;
-        const V t249 = t246 - t247;
+        const V t248 = t246 - t247;
+        const V t249 = t246 + t247;
         // spectrum block of 3, multiplier 2
         const V t250 = t222 + t84;
         const V t251 = c1 * t222;
@@ -376,8 +376,8 @@ struct RealInverseGraph<54> {
         const V t253 = c26 * t180;
         const V t254 = c27 * t181;
         const V t255 = t253 + t254;
-        const V t256 = t252 + t255;
-        const V t257 = t252 - t255;
+        const V t256 = t252 - t255;
+        const V t257 = t252 + t255;
         // spectrum block of 3, multiplier 2
         const V t258 = t225 + t92;
         const V t259 = c1 * t225;
@@ -385,62 +385,62 @@ struct RealInverseGraph<54> {
         const V t261 = c28 * t208;
         const V t262 = c29 * t209;
         const V t263 = t261 + t262;
-        const V t264 = t260 + t263;
-        const V t265 = t260 - t263;
+        const V t264 = t260 - t263;
+        const V t265 = t260 + t263;
         // spectrum block of 3, multiplier 2
-        const V t266 = t228 + t82;
+        const V t266 = t228 + t83;
         const V t267 = c1 * t228;
-        const V t268 = t82 - t267;
+        const V t268 = t83 - t267;
         const V t269 = c8 * t162;
         const V t270 = c9 * t163;
         const V t271 = t269 + t270;
-        const V t272 = t268 + t271;
-        const V t273 = t268 - t271;
+        const V t272 = t268 - t271;
+        const V t273 = t268 + t271;
         // spectrum block of 3, multiplier 2
-        const V t274 = t90 - t231;
+        const V t274 = t91 - t231;
         const V t275 = c1 * t231;
-        const V t276 = t275 + t90;
+        const V t276 = t275 + t91;
         const V t277 = c30 * t191;
         const V t278 = c31 * t190;
         const V t279 = t277 - t278;
-        const V t280 = t276 + t279;
-        const V t281 = t276 - t279;
+        const V t280 = t276 - t279;
+        const V t281 = t276 + t279;
         // spectrum block of 3, multiplier 2
-        const V t282 = t98 - t234;
+        const V t282 = t99 - t234;
         const V t283 = c1 * t234;
-        const V t284 = t283 + t98;
+        const V t284 = t283 + t99;
         const V t285 = c32 * t219;
         const V t286 = c33 * t218;
         const V t287 = t285 - t286;
-        const V t288 = t284 + t287;
-        const V t289 = t284 - t287;
+        const V t288 = t284 - t287;
+        const V t289 = t284 + t287;
         // spectrum block of 3, multiplier 2
-        const V t290 = t83 - t237;
+        const V t290 = t82 - t237;
         const V t291 = c1 * t237;
-        const V t292 = t291 + t83;
+        const V t292 = t291 + t82;
         const V t293 = c10 * t161;
         const V t294 = c11 * t160;
         const V t295 = t293 - t294;
-        const V t296 = t292 + t295;
-        const V t297 = t292 - t295;
+        const V t296 = t292 - t295;
+        const V t297 = t292 + t295;
         // spectrum block of 3, multiplier 2
-        const V t298 = t240 + t91;
+        const V t298 = t240 + t90;
         const V t299 = c1 * t240;
-        const V t300 = t91 - t299;
+        const V t300 = t90 - t299;
         const V t301 = c34 * t188;
         const V t302 = c35 * t189;
         const V t303 = t301 + t302;
-        const V t304 = t300 - t303;
-        const V t305 = t300 + t303;
+        const V t304 = t300 + t303;
+        const V t305 = t300 - t303;
         // spectrum block of 3, multiplier 2
-        const V t306 = t243 + t99;
+        const V t306 = t243 + t98;
         const V t307 = c1 * t243;
-        const V t308 = t99 - t307;
+        const V t308 = t98 - t307;
         const V t309 = c36 * t216;
         const V t310 = c37 * t217;
         const V t311 = t309 + t310;
-        const V t312 = t308 - t311;
-        const V t313 = t308 + t311;
+        const V t312 = t308 + t311;
+        const V t313 = t308 - t311;
         // spectrum block of 3, multiplier 2
         const V x27r = io.re(27);
         const V t314 = t16 + x27r;
@@ -448,8 +448,8 @@ struct RealInverseGraph<54> {
         const V t316 = x27r - t315;
         const V x9i = io.im(9);
         const V t317 = c2 * x9i;
-        const V t318 = t316 - t317;
-        const V t319 = t316 + t317;
+        const V t318 = t316 + t317;
+        const V t319 = t316 - t317;
         // complex block of 3, multiplier 2
         const V t320 = t28 - t5;
         const V t321 = t4 + t27;
@@ -479,26 +479,26 @@ struct RealInverseGraph<54> {
         const V t343 = c1 * t325;
         const V t344 = t314 - t343;
         const V t345 = c3 * t324;
-        const V t346 = t344 + t345;
-        const V t347 = t344 - t345;
+        const V t346 = t344 - t345;
+        const V t347 = t344 + t345;
         // spectrum block of 3, multiplier 2
-        const V t348 = t338 + t318;
+        const V t348 = t338 + t319;
         const V t349 = c1 * t338;
-        const V t350 = t318 - t349;
+        const V t350 = t319 - t349;
         const V t351 = c9 * t335;
         const V t352 = c8 * t334;
         const V t353 = t351 - t352;
-        const V t354 = t350 + t353;
-        const V t355 = t350 - t353;
+        const V t354 = t350 - t353;
+        const V t355 = t350 + t353;
         // spectrum block of 3, multiplier 2
-        const V t356 = t319 - t341;
+        const V t356 = t318 - t341;
         const V t357 = c1 * t341;
-        const V t358 = t357 + t319;
+        const V t358 = t357 + t318;
         const V t359 = c10 * t333;
         const V t360 = c11 * t332;
         const V t361 = t359 - t360;
-        const V t362 = t358 + t361;
-        const V t363 = t358 - t361;
+        const V t362 = t358 - t361;
+        const V t363 = t358 + t361;
         // complex block of 3, multiplier 2
         const V t364 = t20 - t13;
         const V t365 = t12 + t19;
@@ -657,8 +657,8 @@ struct RealInverseGraph<54> {
         const V t509 = c1 * t417;
         const V t510 = t342 - t509;
         const V t511 = c3 * t416;
-        const V t512 = t510 + t511;
-        const V t513 = t510 - t511;
+        const V t512 = t510 - t511;
+        const V t513 = t510 + t511;
         // spectrum block of 3, multiplier 2
         const V t514 = t486 + t348;
         const V t515 = c1 * t486;
@@ -666,8 +666,8 @@ struct RealInverseGraph<54> {
         const V t517 = c26 * t444;
         const V t518 = c27 * t445;
         const V t519 = t517 + t518;
-        const V t520 = t516 + t519;
-        const V t521 = t516 - t519;
+        const V t520 = t516 - t519;
+        const V t521 = t516 + t519;
         // spectrum block of 3, multiplier 2
         const V t522 = t489 + t356;
         const V t523 = c1 * t489;
@@ -675,62 +675,62 @@ struct RealInverseGraph<54> {
         const V t525 = c28 * t472;
         const V t526 = c29 * t473;
         const V t527 = t525 + t526;
-        const V t528 = t524 + t527;
-        const V t529 = t524 - t527;
+        const V t528 = t524 - t527;
+        const V t529 = t524 + t527;
         // spectrum block of 3, multiplier 2
-        const V t530 = t492 + t346;
+        const V t530 = t492 + t347;
         const V t531 = c1 * t492;
-        const V t532 = t346 - t531;
+        const V t532 = t347 - t531;
         const V t533 = c8 * t426;
         const V t534 = c9 * t427;
         const V t535 = t533 + t534;
-        const V t536 = t532 + t535;
-        const V t537 = t532 - t535;
+        const V t536 = t532 - t535;
+        const V t537 = t532 + t535;
         // spectrum block of 3, multiplier 2
-        const V t538 = t495 + t354;
+        const V t538 = t495 + t355;
         const V t539 = c1 * t495;
-        const V t540 = t354 - t539;
+        const V t540 = t355 - t539;
         const V t541 = c31 * t454;
         const V t542 = c30 * t455;
         const V t543 = t541 + t542;
-        const V t544 = t540 + t543;
-        const V t545 = t540 - t543;
+        const V t544 = t540 - t543;
+        const V t545 = t540 + t543;
         // spectrum block of 3, multiplier 2
-        const V t546 = t362 - t498;
+        const V t546 = t363 - t498;
         const V t547 = c1 * t498;
-        const V t548 = t547 + t362;
+        const V t548 = t547 + t363;
         const V t549 = c32 * t483;
         const V t550 = c33 * t482;
         const V t551 = t549 - t550;
-        const V t552 = t548 + t551;
-        const V t553 = t548 - t551;
+        const V t552 = t548 - t551;
+        const V t553 = t548 + t551;
         // spectrum block of 3, multiplier 2
-        const V t554 = t347 - t501;
+        const V t554 = t346 - t501;
         const V t555 = c1 * t501;
-        const V t556 = t555 + t347;
+        const V t556 = t555 + t346;
         const V t557 = c10 * t425;
         const V t558 = c11 * t424;
         const V t559 = t557 - t558;
-        const V t560 = t556 + t559;
-        const V t561 = t556 - t559;
+        const V t560 = t556 - t559;
+        const V t561 = t556 + t559;
         // spectrum block of 3, multiplier 2
-        const V t562 = t504 + t355;
+        const V t562 = t504 + t354;
         const V t563 = c1 * t504;
-        const V t564 = t355 - t563;
+        const V t564 = t354 - t563;
         const V t565 = c34 * t452;
         const V t566 = c35 * t453;
         const V t567 = t565 + t566;
-        const V t568 = t564 - t567;
-        const V t569 = t564 + t567;
+        const V t568 = t564 + t567;
+        const V t569 = t564 - t567;
         // spectrum block of 3, multiplier 2
-        const V t570 = t507 + t363;
+        const V t570 = t507 + t362;
         const V t571 = c1 * t507;
-        const V t572 = t363 - t571;
+        const V t572 = t362 - t571;
         const V t573 = c36 * t480;
         const V t574 = c37 * t481;
         const V t575 = t573 + t574;
-        const V t576 = t572 - t575;
-        const V t577 = t572 + t575;
+        const V t576 = t572 + t575;
+        const V t577 = t572 - t575;
         // spectrum block of 2
         const V t578 = t244 + t508;
         io.out(0, t578);
@@ -777,94 +777,94 @@ struct RealInverseGraph<54> {
         const V t595 = t306 - t570;
         io.out(43, t595);
         // spectrum block of 2
-        const V t596 = t248 + t512;
+        const V t596 = t249 + t513;
         io.out(18, t596);
-        const V t597 = t248 - t512;
+        const V t597 = t249 - t513;
         io.out(45, t597);
         // spectrum block of 2
-        const V t598 = t256 + t520;
+        const V t598 = t257 + t521;
         io.out(20, t598);
-        const V t599 = t256 - t520;
+        const V t599 = t257 - t521;
         io.out(47, t599);
         // spectrum block of 2
-        const V t600 = t264 + t528;
+        const V t600 = t265 + t529;
         io.out(22, t600);
-        const V t601 = t264 - t528;
+        const V t601 = t265 - t529;
         io.out(49, t601);
         // spectrum block of 2
-        const V t602 = t272 + t536;
+        const V t602 = t273 + t537;
         io.out(24, t602);
-        const V t603 = t272 - t536;
+        const V t603 = t273 - t537;
         io.out(51, t603);
         // spectrum block of 2
-        const V t604 = t280 + t544;
+        const V t604 = t281 + t545;
         io.out(26, t604);
-        const V t605 = t280 - t544;
+        const V t605 = t281 - t545;
         io.out(53, t605);
         // spectrum block of 2
-        const V t606 = t288 + t552;
+        const V t606 = t289 + t553;
         io.out(28, t606);
-        const V t607 = t288 - t552;
+        const V t607 = t289 - t553;
         io.out(1, t607);
         // spectrum block of 2
-        const V t608 = t296 + t560;
+        const V t608 = t297 + t561;
         io.out(30, t608);
-        const V t609 = t296 - t560;
+        const V t609 = t297 - t561;
         io.out(3, t609);
         // spectrum block of 2
-        const V t610 = t304 + t568;
+        const V t610 = t305 + t569;
         io.out(32, t610);
-        const V t611 = t304 - t568;
+        const V t611 = t305 - t569;
         io.out(5, t611);
         // spectrum block of 2
-        const V t612 = t312 + t576;
+        const V t612 = t313 + t577;
         io.out(34, t612);
-        const V t613 = t312 - t576;
+        const V t613 = t313 - t577;
         io.out(7, t613);
         // spectrum block of 2
-        const V t614 = t249 + t513;
+        const V t614 = t248 + t512;
         io.out(36, t614);
-        const V t615 = t249 - t513;
+        const V t615 = t248 - t512;
         io.out(9, t615);
         // spectrum block of 2
-        const V t616 = t257 + t521;
+        const V t616 = t256 + t520;
         io.out(38, t616);
-        const V t617 = t257 - t521;
+        const V t617 = t256 - t520;
         io.out(11, t617);
         // spectrum block of 2
-        const V t618 = t265 + t529;
+        const V t618 = t264 + t528;
         io.out(40, t618);
-        const V t619 = t265 - t529;
+        const V t619 = t264 - t528;
         io.out(13, t619);
         // spectrum block of 2
-        const V t620 = t273 + t537;
+        const V t620 = t272 + t536;
         io.out(42, t620);
-        const V t621 = t273 - t537;
+        const V t621 = t272 - t536;
         io.out(15, t621);
         // spectrum block of 2
-        const V t622 = t281 + t545;
+        const V t622 = t280 + t544;
         io.out(44, t622);
-        const V t623 = t281 - t545;
+        const V t623 = t280 - t544;
         io.out(17, t623);
         // spectrum block of 2
-        const V t624 = t289 + t553;
+        const V t624 = t288 + t552;
         io.out(46, t624);
-        const V t625 = t289 - t553;
+        const V t625 = t288 - t552;
         io.out(19, t625);
         // spectrum block of 2
-        const V t626 = t297 + t561;
+        const V t626 = t296 + t560;
         io.out(48, t626);
-        const V t627 = t297 - t561;
+        const V t627 = t296 - t560;
         io.out(21, t627);
         // spectrum block of 2
-        const V t628 = t305 + t569;
+        const V t628 = t304 + t568;
         io.out(50, t628);
-        const V t629 = t305 - t569;
+        const V t629 = t304 - t568;
         io.out(23, t629);
         // spectrum block of 2
-        const V t630 = t313 + t577;
+        const V t630 = t312 + t576;
         io.out(52, t630);
-        const V t631 = t313 - t577;
+        const V t631 = t312 - t576;
         io.out(25, t631);
     }
 };

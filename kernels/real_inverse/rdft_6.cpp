@@ -9,8 +9,8 @@ template <>
 struct RealInverseGraph<6> {
     static constexpr double inverseRoot = 0.4082482904638631;  // 1/sqrt(6), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c2 = 0.8660254037844386;  // -sin 2 pi 2/3
+    static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
+    static constexpr double c2 = 0.8660254037844386;  // sin 2 pi 1/3
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -40,20 +40,20 @@ struct RealInverseGraph<6> {
         const V t11 = c1 * t7;
         const V t12 = t4 - t11;
         const V t13 = c2 * t6;
-        const V t14 = t12 + t13;
-        io.out(2, t14);
-        const V t15 = t12 - t13;
-        io.out(4, t15);
+        const V t14 = t12 - t13;
+        io.out(4, t14);
+        const V t15 = t12 + t13;
+        io.out(2, t15);
         // spectrum block of 3, multiplier 2
         const V t16 = t9 + t5;
         io.out(3, t16);
         const V t17 = c1 * t9;
         const V t18 = t5 - t17;
         const V t19 = c2 * t8;
-        const V t20 = t18 + t19;
-        io.out(5, t20);
-        const V t21 = t18 - t19;
-        io.out(1, t21);
+        const V t20 = t18 - t19;
+        io.out(1, t20);
+        const V t21 = t18 + t19;
+        io.out(5, t21);
     }
 };
 

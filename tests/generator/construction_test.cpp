@@ -24,12 +24,23 @@ const gen::GraphEntry& graphOf(const std::string& family, int length) {
 
 // Rows in which the signs fall otherwise: the same sums and products, with another split into additions and
 // subtractions. First ours, then the table's.
-const std::map<int, std::pair<std::pair<int, int>, std::pair<int, int>>> complexSplits = {
-    {22, {{194, 162}, {190, 166}}}, {23, {{336, 308}, {333, 311}}},     {29, {{332, 324}, {316, 340}}},
-    {31, {{367, 325}, {366, 326}}}, {41, {{499, 461}, {494, 466}}},     {43, {{574, 574}, {571, 577}}},
-    {46, {{726, 654}, {718, 662}}}, {47, {{1329, 1283}, {1243, 1369}}}, {49, {{453, 459}, {451, 461}}},
-    {55, {{628, 504}, {618, 514}}}, {58, {{722, 706}, {694, 734}}},     {59, {{1404, 1392}, {1325, 1471}}},
-    {61, {{856, 760}, {840, 776}}}, {62, {{796, 712}, {800, 708}}},
+const std::map<std::string, std::pair<std::pair<int, int>, std::pair<int, int>>> otherSplits = {
+    {"complex 22", {{194, 162}, {190, 166}}}, {"complex 23", {{336, 308}, {333, 311}}},
+    {"complex 29", {{332, 324}, {316, 340}}}, {"complex 31", {{367, 325}, {366, 326}}},
+    {"complex 41", {{499, 461}, {494, 466}}}, {"complex 43", {{574, 574}, {571, 577}}},
+    {"complex 46", {{726, 654}, {718, 662}}}, {"complex 47", {{1319, 1293}, {1243, 1369}}},
+    {"complex 49", {{453, 459}, {451, 461}}}, {"complex 55", {{628, 504}, {618, 514}}},
+    {"complex 58", {{722, 706}, {694, 734}}}, {"complex 59", {{1404, 1392}, {1325, 1471}}},
+    {"complex 61", {{856, 760}, {840, 776}}}, {"complex 62", {{796, 712}, {800, 708}}},
+    {"hartley 23", {{152, 154}, {144, 162}}}, {"hartley 25", {{97, 79}, {98, 78}}},
+    {"hartley 28", {{88, 88}, {84, 92}}},     {"hartley 29", {{170, 164}, {167, 167}}},
+    {"hartley 31", {{185, 161}, {182, 164}}}, {"hartley 33", {{162, 138}, {159, 141}}},
+    {"hartley 41", {{252, 232}, {250, 234}}}, {"hartley 43", {{279, 295}, {286, 288}}},
+    {"hartley 44", {{216, 184}, {212, 188}}}, {"hartley 46", {{326, 332}, {323, 335}}},
+    {"hartley 47", {{655, 651}, {600, 706}}}, {"hartley 49", {{228, 228}, {227, 229}}},
+    {"hartley 55", {{301, 265}, {306, 260}}}, {"hartley 58", {{371, 355}, {353, 373}}},
+    {"hartley 59", {{707, 691}, {700, 698}}}, {"hartley 61", {{433, 389}, {432, 390}}},
+    {"hartley 62", {{395, 359}, {392, 362}}},
 };
 
 // Rows whose counts only another recipe meets than the one that the table names. First ours, then the table's.
@@ -60,24 +71,35 @@ TEST_P(Construction, IsTheOneOfTheTable) {
         EXPECT_EQ(entry.recipe(), other->second.first);
         EXPECT_EQ(row.construction, other->second.second);
     } else {
-        EXPECT_EQ(entry.recipe(), row.construction);
+        EXPECT_EQ(entry.recipe(), (entry.family->word == "hartley" ? "form " : "") + row.construction);
     }
+}
+
+// The families whose tables give the split into additions and subtractions.
+void expectSplit(const gen::GraphEntry& entry, const gen::Counts& counts, const ExpectedRow& row) {
+    EXPECT_EQ(counts.additions + counts.subtractions, row.figures[0] + row.figures[1]);
+    const std::pair found{counts.additions, counts.subtractions}, due{row.figures[0], row.figures[1]};
+    const auto other = otherSplits.find(entry.name());
+    EXPECT_EQ(found, other == otherSplits.end() ? due : other->second.first);
+    EXPECT_EQ(due, other == otherSplits.end() ? due : other->second.second);
 }
 
 TEST_P(Construction, HoldsTheCountsOfTheTable) {
     const ExpectedRow row = expectedRow();
+    const int products = counts.multiplications + outputs;
     if (entry.family->word == "complex") {
-        EXPECT_EQ(counts.additions + counts.subtractions, row.figures[2]);
+        expectSplit(entry, counts, row);
         EXPECT_EQ(row.figures[0] + row.figures[1], row.figures[2]);
-        EXPECT_EQ(counts.multiplications + outputs, row.figures[3]);
+        EXPECT_EQ(products, row.figures[3]);
         EXPECT_EQ(counts.negations, 0);
-        const std::pair found{counts.additions, counts.subtractions}, due{row.figures[0], row.figures[1]};
-        const auto split = complexSplits.find(entry.length);
-        EXPECT_EQ(found, split == complexSplits.end() ? due : split->second.first);
-        EXPECT_EQ(due, split == complexSplits.end() ? due : split->second.second);
+    } else if (entry.family->word == "hartley") {
+        expectSplit(entry, counts, row);
+        EXPECT_EQ(products, row.figures[2]);
+        EXPECT_EQ(counts.constants + 1, row.figures[3]);
+        EXPECT_EQ(counts.negations, 0);
     } else {
         EXPECT_EQ(counts.additions + counts.subtractions, row.figures[0]);
-        EXPECT_EQ(counts.multiplications + outputs, row.figures[1]);
+        EXPECT_EQ(products, row.figures[1]);
         EXPECT_EQ(counts.negations, row.figures[2]);
     }
 }
@@ -86,6 +108,7 @@ TEST_P(Construction, HoldsTheCountsOfTheTable) {
 Values definition(const std::string& family, const Values& x, int length) {
     if (family == "complex") return complexTransform(x, -1);
     if (family == "real_forward") return realTransform(x);
+    if (family == "hartley") return hartleyTransform(x);
     return inverseRealTransform(x, length);
 }
 

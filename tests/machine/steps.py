@@ -21,8 +21,8 @@ FOREIGN = re.compile(  # arithmetic that no kernel may hold
     r"|vf?n?m(add|sub)|cmp[a-z]*s[sd]|u?comis[sd]|fu?comi?p?")
 
 
-# Which cells of a row hold sums and products, counted behind the construction.
-COLUMNS = {"complex": (2, 3), "real_forward": (0, 1), "real_inverse": (0, 1)}
+# Which cells of a row, counted behind the construction, add up to the sums, and which holds the products.
+COLUMNS = {"complex": ((0, 1), 3), "real_forward": ((0,), 1), "real_inverse": ((0,), 1), "hartley": ((0, 1), 2)}
 
 
 def expected_rows(folder, family):
@@ -33,7 +33,7 @@ def expected_rows(folder, family):
             cells = [cell.strip() for cell in line.split("|")]
             if not line.startswith("#"):
                 sums, products = COLUMNS[family]
-                rows[int(cells[0])] = (int(cells[2 + sums]), int(cells[2 + products]))
+                rows[int(cells[0])] = (sum(int(cells[2 + cell]) for cell in sums), int(cells[2 + products]))
     return rows
 
 
@@ -62,6 +62,7 @@ def counted(instructions, may_negate):
 FAMILIES = [
     (re.compile(r"zulgDFT(?:Fwd|Inv)_CToC_(\d+)_(?:32|64)fc$"), "complex"),
     (re.compile(r"zulgDFTFwd_RTo(?:CCS|Pack|Perm)_(\d+)_(?:32|64)f$"), "real_forward"),
+    (re.compile(r"zulgHartley_(\d+)_(?:32|64)f$"), "hartley"),
     (re.compile(r"zulgDFTInv_(?:CCS|Pack|Perm)ToR_(\d+)_(?:32|64)f$"), "real_inverse"),
 ]
 

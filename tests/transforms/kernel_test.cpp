@@ -58,11 +58,11 @@ TEST_P(KernelTest, AgreesWithTheDefinitionAtEveryFlag) {
 TEST_P(KernelTest, HoldsItsAccuracyWhereRegistersRoundToDouble) {
     withElement([&](auto element) {
         using Element = decltype(element);
-        const auto rounded = [](const Transform& kernel, const std::vector<Element>& source, int flag) {
+        const auto inDoubles = [](const Transform& kernel, const std::vector<Element>& source, int flag) {
             const DoublePrecisionRegisters precision;  // what many a Windows program runs with
             return run(kernel, source, flag);
         };
-        EXPECT_LE(pooledError<Element>(transform, NoDivByAny, random, rounded), transform.bound());
+        EXPECT_LE(pooledError<Element>(transform, NoDivByAny, random, inDoubles), transform.bound());
     });
 }
 

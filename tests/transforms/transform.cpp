@@ -130,9 +130,20 @@ std::vector<Transform> realInverseTransforms() {
     return transforms;
 }
 
+std::vector<Transform> hartleyTransforms() {
+    std::vector<Transform> transforms;
+    for (int length : allLengths()) {
+        for (const char* suffix : {"32f", "64f"}) {
+            transforms.push_back({"Hartley", suffix, length, Direction::Both, length, length, 3.5, hartleyTransform});
+        }
+    }
+    return transforms;
+}
+
 std::vector<Transform> allTransforms() {
     std::vector<Transform> all;
-    for (const auto& family : {complexTransforms(), realForwardTransforms(), realInverseTransforms()}) {
+    for (const auto& family :
+         {complexTransforms(), realForwardTransforms(), realInverseTransforms(), hartleyTransforms()}) {
         all.insert(all.end(), family.begin(), family.end());
     }
     return all;

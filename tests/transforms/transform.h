@@ -56,6 +56,7 @@ struct Transform {
 std::vector<Transform> complexTransforms();
 std::vector<Transform> realForwardTransforms();
 std::vector<Transform> realInverseTransforms();
+std::vector<Transform> hartleyTransforms();
 std::vector<Transform> allTransforms();
 
 const char* layoutName(Layout layout);

@@ -20,4 +20,12 @@ ComplexValue HalfSpectrum::at(int k) const {
     return 2 * modulo(k, total) > total ? conjugate(bin) : bin;
 }
 
+void HalfSpectrum::take(int k, const HalfSpectrum& from, int j) {
+    if (isReal(k)) {
+        setReal(k, from.real(j));
+    } else {
+        set(k, from.at(j));
+    }
+}
+
 }  // namespace gen

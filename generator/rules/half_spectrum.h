@@ -23,6 +23,9 @@ public:
     void set(int k, ComplexValue bin);
     void setReal(int k, Value bin) { bins[place(k)].re = bin; }
     ComplexValue at(int k) const;
+
+    // Makes bin k what bin j of another half spectrum is; both are real or neither is.
+    void take(int k, const HalfSpectrum& from, int j);
     Value real(int k) const { return bins[place(k)].re; }
 
 private:

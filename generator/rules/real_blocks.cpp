@@ -81,14 +81,7 @@ HalfSpectrum primeFactor(const RealSignal& x, int a, const Recipe& recipe) {
         const int multiplier = modulo(a * r, s);
         if (columns[0].isReal(k1)) {
             const HalfSpectrum row = realBlock(realRow(columns, k1), multiplier, outer);
-            for (int k2 = 0; k2 <= row.half(); ++k2) {
-                const int k = s * k1 + r * k2;
-                if (bins.isReal(k)) {
-                    bins.setReal(k, row.real(k2));
-                } else {
-                    bins.set(k, row.at(k2));
-                }
-            }
+            for (int k2 = 0; k2 <= row.half(); ++k2) bins.take(s * k1 + r * k2, row, k2);
         } else {
             const Signal row = complexBlock(complexRow(columns, k1), multiplier);
             for (int k2 = 0; k2 < s; ++k2) bins.set(s * k1 + r * k2, row[static_cast<size_t>(k2)]);
@@ -109,13 +102,7 @@ HalfSpectrum twiddledConstruction(const RealSignal& x, int a, int r, int s) {
     }
     HalfSpectrum bins(length);
     const HalfSpectrum firstRow = realBlock(realRow(columns, 0), modulo(a, s));
-    for (int d = 0; d <= firstRow.half(); ++d) {
-        if (firstRow.isReal(d)) {
-            bins.setReal(r * d, firstRow.real(d));
-        } else {
-            bins.set(r * d, firstRow.at(d));
-        }
-    }
+    for (int d = 0; d <= firstRow.half(); ++d) bins.take(r * d, firstRow, d);
     for (int c = 1; 2 * c < r; ++c) {
         Signal row = complexRow(columns, c);
         for (int b = 0; b < s; ++b)

@@ -68,14 +68,7 @@ RealSignal primeFactor(const HalfSpectrum& bins, int a, const Recipe& recipe) {
         const int multiplier = modulo(a * g, f);
         if (2 * k2 % g == 0) {
             HalfSpectrum row(f);
-            for (int k1 = 0; 2 * k1 <= f; ++k1) {
-                const int k = g * k1 + f * k2;
-                if (row.isReal(k1)) {
-                    row.setReal(k1, bins.real(k));
-                } else {
-                    row.set(k1, bins.at(k));
-                }
-            }
+            for (int k1 = 0; 2 * k1 <= f; ++k1) row.take(k1, bins, g * k1 + f * k2);
             rows.real.push_back(spectrumBlock(row, multiplier, first));
         } else {
             Signal row;
@@ -99,13 +92,7 @@ RealSignal twiddledConstruction(const HalfSpectrum& bins, int a, int f, int g) {
     const int length = f * g;
     Rows rows;
     HalfSpectrum firstRow(f);
-    for (int d = 0; d <= firstRow.half(); ++d) {
-        if (firstRow.isReal(d)) {
-            firstRow.setReal(d, bins.real(g * d));
-        } else {
-            firstRow.set(d, bins.at(g * d));
-        }
-    }
+    for (int d = 0; d <= firstRow.half(); ++d) firstRow.take(d, bins, g * d);
     rows.real.push_back(spectrumBlock(firstRow, modulo(a, f)));
     for (int c = 1; 2 * c < g; ++c) {
         Signal row;

@@ -32,9 +32,12 @@ need_packages() {
     can_be_root || fail "Packages are missing. Run this as root, then start again:" \
         "apt-get update && apt-get install -y --no-install-recommends ${missing[*]}"
     say "Installing ${missing[*]} ..."
-    as_root apt-get -qq update </dev/null
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${missing[@]}" \
-        </dev/null >/dev/null
+    local log
+    log=$(mktemp)
+    { as_root apt-get -qq update && as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get -qq install -y --no-install-recommends "${missing[@]}"; } </dev/null >"$log" 2>&1 ||
+        { tail -n 20 "$log" >&2; fail "the packages could not be installed; the whole log: $log"; }
+    rm -f "$log"
 }
 
 # build_preset NAME: configures and builds, quietly; on failure prints the end of the log.

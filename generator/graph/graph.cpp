@@ -57,6 +57,17 @@ Value Graph::product(const Coefficient& factor, Value x) {
     return {this, insert(Kind::Mul, x.node, constant(factor)), x.minus != (factor.value < 0)};
 }
 
+Value Graph::copy(const Graph& other, const Node& node, const std::vector<Value>& copies) {
+    if (node.kind == Kind::Load) return load(node.a);
+    const Value a = copies[static_cast<std::size_t>(node.a)];
+    if (node.kind == Kind::Mul) {
+        const Constant& factor = other.constants()[static_cast<std::size_t>(node.b)];
+        return product({factor.exact, factor.origin}, a);
+    }
+    const Value b = copies[static_cast<std::size_t>(node.b)];
+    return node.kind == Kind::Add ? a + b : a - b;
+}
+
 int Graph::beginBlock(const std::string& title) {
     titles.push_back(title);
     return std::exchange(currentTitle, static_cast<int>(titles.size()) - 1);

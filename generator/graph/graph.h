@@ -95,6 +95,9 @@ public:
     std::string text() const;
     std::string dot() const;
 
+    // Inserts a node of another graph, given what the nodes before it have become here.
+    Value copy(const Graph& other, const Node& node, const std::vector<Value>& copies);
+
 private:
     int insert(Kind kind, int a, int b);
     int constant(const Coefficient& factor);

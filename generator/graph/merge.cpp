@@ -53,12 +53,7 @@ private:
     }
 
     Value copy(const Node& x) {
-        switch (x.kind) {
-            case Kind::Load: return fresh->load(x.a);
-            case Kind::Add: return copyOf(x.a) + copyOf(x.b);
-            case Kind::Sub: return copyOf(x.a) - copyOf(x.b);
-            case Kind::Mul: break;
-        }
+        if (x.kind != Kind::Mul) return fresh->copy(old, x, copies);
         const Constant& outer = constant(x.b);
         const Node& inner = node(x.a);
         if (isLoneProduct(x.a)) {
@@ -71,7 +66,7 @@ private:
             const Value left = mergedProduct(outer, node(inner.a)), right = mergedProduct(outer, node(inner.b));
             return inner.kind == Kind::Add ? left + right : left - right;
         }
-        return Coefficient{outer.exact, outer.origin} * copyOf(x.a);
+        return fresh->copy(old, x, copies);
     }
 
     const Graph& old;

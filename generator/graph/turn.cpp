@@ -15,18 +15,7 @@ std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<in
         const bool turns = std::ranges::find(nodes, static_cast<int>(copies.size())) != nodes.end();
         if (turns && node.kind != Kind::Sub) throw std::logic_error("only a difference can be turned");
         fresh->continueBlock(node.title);
-        switch (node.kind) {
-            case Kind::Load: copies.push_back(fresh->load(node.a)); break;
-            case Kind::Add: copies.push_back(copyOf(node.a) + copyOf(node.b)); break;
-            case Kind::Sub:
-                copies.push_back(turns ? -(copyOf(node.b) - copyOf(node.a)) : copyOf(node.a) - copyOf(node.b));
-                break;
-            case Kind::Mul: {
-                const Constant& constant = graph->constants()[static_cast<std::size_t>(node.b)];
-                copies.push_back(Coefficient{constant.exact, constant.origin} * copyOf(node.a));
-                break;
-            }
-        }
+        copies.push_back(turns ? -(copyOf(node.b) - copyOf(node.a)) : fresh->copy(*graph, node, copies));
     }
     for (const Output& output : graph->outputs()) {
         fresh->store(output.place, output.minus ? -copyOf(output.node) : copyOf(output.node));

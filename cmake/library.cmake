@@ -27,8 +27,8 @@ if(WIN32)
         -Wl,--no-insert-timestamp     # the same bytes from each build
         -Wl,--dynamicbase,--nxcompat,--no-seh
         -Wl,--strip-all)
-    set(library_link_libraries gcc)
-    set(library_platform_sources frame/load_entry.cpp frame/library.rc)
+    set(library_link_libraries gcc kernel32 msvcrt)
+    set(library_platform_sources frame/shared_library_windows.cpp frame/library.rc)
     # The file's own name, without the "lib" in front that this toolchain would put there.
     set(library_file_prefix "")
 else()
@@ -36,12 +36,13 @@ else()
         -mfpmath=sse -mno-sse3        # scalar code for any x86-64
         -fcf-protection=full)
     set(library_link_flags
-        -nostartfiles                 # nothing runs when the library is loaded
+        -nostartfiles                 # nothing but the load entry runs when the library is loaded
+        -Wl,-init=zulgLoad
         -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks: fails quietly without entries.S's note
         -Wl,-z,relro,-z,now,-z,noexecstack
         -Wl,--no-undefined,--build-id=none
         -Wl,--strip-all)
-    set(library_link_libraries "")
-    set(library_platform_sources "")
+    set(library_link_libraries ${CMAKE_DL_LIBS})
+    set(library_platform_sources frame/shared_library_elf.cpp frame/load_elf.cpp)
     set(library_file_prefix "lib")
 endif()

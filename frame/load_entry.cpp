@@ -1,7 +1,10 @@
-// The library's load entry on Windows, in place of the stock start files: loading does no work, and nothing here or
-// elsewhere in the library waits for an initializer to run.
-#include <cstdint>
+// The library's load entry. It starts the allocator hook and does nothing else: nothing here or elsewhere in the
+// library waits for an initializer to run, and at the end nothing is undone.
+#include "frame/load_entry.h"
 
-#include "frame/platform.h"
+#include "frame/allocator_hook.h"
 
-extern "C" std::int32_t ZULG_CALL zulgLoadEntry(void*, std::uint32_t, void*) { return 1; }
+extern "C" std::int32_t ZULG_CALL zulgLoadEntry(void*, std::uint32_t reason, void*) {
+    if (reason == processAttach) zulg::allocatorHook.slots = zulg::trampolines;
+    return 1;
+}

@@ -1,0 +1,10 @@
+// The load entry, in the form in which Windows calls it; on ELF platforms load_elf.cpp does.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/platform.h"
+
+inline constexpr std::uint32_t processAttach = 1;
+
+extern "C" std::int32_t ZULG_CALL zulgLoadEntry(void* module, std::uint32_t reason, void* reserved);

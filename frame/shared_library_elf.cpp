@@ -1,0 +1,15 @@
+// Dynamic loading of ELF platforms.
+#include <dlfcn.h>
+
+#include "frame/shared_library.h"
+
+namespace zulg {
+
+// A companion that lacks something of its own is refused here, and not when it is first called.
+SharedLibrary openCompanion() { return dlopen("libtmalloc.so", RTLD_NOW | RTLD_LOCAL); }
+
+const void* findSymbol(SharedLibrary library, const char* name) { return dlsym(library, name); }
+
+void releaseLibrary(SharedLibrary library) { dlclose(library); }
+
+}  // namespace zulg

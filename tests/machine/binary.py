@@ -2,6 +2,7 @@
 
 Uses objdump of the target for the disassembly and nothing else; the files' own tables are read here.
 """
+import functools
 import re
 import struct
 import subprocess
@@ -20,10 +21,12 @@ class Instruction:
 
 
 class Library:
-    """exports: name -> (ordinal or None, entry address); word(address): the pointer stored there after loading."""
+    """exports: name -> (ordinal or None, entry address); imports: file -> names of a PE file, names of an ELF one;
+    word(address): the pointer stored there after loading; code: address -> instruction."""
 
     def __init__(self, path, objdump):
         self.path = path
+        self.objdump = objdump
         with open(path, "rb") as file:
             self.data = file.read()
         self.is_pe = self.data[:2] == b"MZ"
@@ -32,7 +35,6 @@ class Library:
             self._read_pe()
         else:
             self._read_elf()
-        self._disassemble(objdump)
 
     def _read_pe(self):
         data = self.data
@@ -55,6 +57,22 @@ class Library:
             index = struct.unpack_from("<H", data, tables[2] + 2 * i)[0]
             address = self.image_base + struct.unpack_from("<I", data, tables[0] + 4 * index)[0]
             self.exports[self.text(self.image_base + name_rva)] = (index + base, address)
+        self._read_pe_imports(struct.unpack_from("<I", data, optional + 104)[0])
+
+    def _read_pe_imports(self, directory_rva):
+        self.imports = {}
+        descriptor = self.offset(self.image_base + directory_rva)
+        while True:
+            names_rva, _, _, file_rva, _ = struct.unpack_from("<IIIII", self.data, descriptor)
+            if file_rva == 0:
+                return
+            names = self.imports.setdefault(self.text(self.image_base + file_rva), set())
+            at = self.offset(self.image_base + names_rva)
+            while (entry := struct.unpack_from("<I", self.data, at)[0]) != 0:
+                by_ordinal = entry & 0x80000000
+                names.add(entry & 0xFFFF if by_ordinal else self.text(self.image_base + entry + 2))
+                at += 4
+            descriptor += 20
 
     def _read_elf(self):
         data = self.data
@@ -67,12 +85,14 @@ class Library:
             name = self._string(names_at + header[0])
             by_name[name] = header
             self.sections.append((name, header[3], header[5], header[4]))
-        self.exports, self.relocated = {}, {}
+        self.exports, self.imports, self.relocated = {}, set(), {}
         symbols, strings = by_name[".dynsym"], by_name[".dynstr"]
         for at in range(symbols[4], symbols[4] + symbols[5], 24):
             name, _, _, section, value, _ = struct.unpack_from("<IBBHQQ", data, at)
             if section != 0:
                 self.exports[self._string(strings[4] + name)] = (None, value)
+            elif name != 0:
+                self.imports.add(self._string(strings[4] + name))
         relocations = by_name.get(".rela.dyn")
         if relocations:
             for at in range(relocations[4], relocations[4] + relocations[5], 24):
@@ -104,10 +124,11 @@ class Library:
             return struct.unpack("<I", self.bytes(address, 4))[0]
         return self.relocated[address]
 
-    def _disassemble(self, objdump):
-        text = subprocess.run([objdump, "-d", "-w", "-j", ".text", self.path], check=True, capture_output=True,
+    @functools.cached_property
+    def code(self):
+        text = subprocess.run([self.objdump, "-d", "-w", "-j", ".text", self.path], check=True, capture_output=True,
                               text=True).stdout
-        self.code = {}
+        code = {}
         for line in text.splitlines():
             parts = line.split("\t")
             if len(parts) < 3 or not parts[0].rstrip().endswith(":"):
@@ -117,7 +138,8 @@ class Library:
                 words = words[1].split(None, 1)
             address = int(parts[0].strip()[:-1], 16)
             operands = words[1] if len(words) > 1 else ""
-            self.code[address] = Instruction(address, words[0] if words else "", operands, len(parts[1].split()))
+            code[address] = Instruction(address, words[0] if words else "", operands, len(parts[1].split()))
+        return code
 
     def slot_address(self, name):
         """Where the entry of an export jumps through: the address of its slot, or None if it is no such entry."""

@@ -1,0 +1,145 @@
+"""Holds what the built library asks of its surroundings, and the marks that harden it, against what is promised.
+
+hardening.py LIBRARY OBJDUMP
+"""
+import struct
+import subprocess
+import sys
+
+from binary import Library
+
+# Everything that the library imports.
+hook = {"malloc", "calloc", "realloc", "free"}  # the allocator hook's fallback
+pe_imports = {
+    "KERNEL32.dll": {"LoadLibraryA", "GetProcAddress", "FreeLibrary"},
+    "msvcrt.dll": hook,
+}
+elf_imports = {
+    "libc.so.6": {"dlopen", "dlsym", "dlclose"} | hook,
+}
+
+failures = []
+
+
+def expect(condition, message):
+    if not condition:
+        failures.append(message)
+
+
+def slots(library):
+    return [library.slot_address(name) for name in library.exports if name != "zulgenGetLibVersion"]
+
+
+def check_no_initializers(library):
+    for name, _, size, _ in library.sections:
+        expect(not size or not name.startswith((".ctors", ".dtors", ".init_array", ".fini_array", ".CRT", ".tls")),
+               f"section {name}: something besides the load entry waits to be run at load time")
+
+
+def pe_relocations(library, address, size):
+    """The addresses that the loader corrects when it moves the file: 32-bit words all."""
+    places, at = set(), address
+    while at < address + size:
+        page, block = struct.unpack("<II", library.bytes(at, 8))
+        for entry in struct.unpack(f"<{(block - 8) // 2}H", library.bytes(at + 8, block - 8)):
+            if entry >> 12 == 3:
+                places.add(library.image_base + page + (entry & 0xFFF))
+        at += block
+    return places
+
+
+def check_pe(library):
+    expect(library.imports == pe_imports, f"imports {library.imports}")
+
+    header = struct.unpack_from("<I", library.data, 0x3C)[0]
+    optional = header + 24
+    machine, sections, optional_size, kind = struct.unpack_from("<HH12xHH", library.data, header + 4)
+    expect(machine == 0x14C, "not for 32-bit x86")
+    expect(kind & 0x2000 and not kind & 0x0001, "no DLL, or its relocations are stripped")
+    characteristics = struct.unpack_from("<H", library.data, optional + 70)[0]
+    for bit, what in ((0x40, "dynamic base"), (0x100, "no-execute"), (0x400, "no SEH")):
+        expect(characteristics & bit, f"not marked: {what}")
+
+    directories = struct.unpack_from("<32I", library.data, optional + 96)
+    for index, what in ((6, "debug data"), (9, "thread-local storage"), (13, "delayed imports")):
+        expect(directories[2 * index] == 0, f"there is a directory of {what}")
+    relocated = pe_relocations(library, library.image_base + directories[10], directories[11])
+    expect(relocated >= set(slots(library)), "slots without relocation")
+
+    for i in range(sections):
+        at = optional + optional_size + 40 * i
+        name = library.data[at:at + 8].rstrip(b"\0").decode()
+        flags = struct.unpack_from("<I", library.data, at + 36)[0]
+        executable, writable = flags & 0x20000000, flags & 0x80000000
+        expect(not (executable and writable), f"{name} is writable and executable")
+        if name == library.section_of(slots(library)[0]):
+            expect(not writable and not executable, "the slot table is not in read-only data")
+    # Marks of branch targets are of no use to this target's loader.
+    start, size = next((start, size) for name, start, size, _ in library.sections if name == ".text")
+    expect(b"\xf3\x0f\x1e\xfb" not in library.bytes(start, size), "branch-target marks")
+
+
+def check_elf(library):
+    def readelf(option):
+        return subprocess.run(["readelf", "-W", option, library.path], check=True, capture_output=True,
+                              text=True).stdout
+
+    segments, dynamic, notes = readelf("-l"), readelf("-d"), readelf("-n")
+
+    def tag(name):
+        """The values of a tag of the dynamic section."""
+        rows = [line.split(None, 2) for line in dynamic.splitlines() if f"({name})" in line]
+        return [row[2].split("[")[-1].rstrip("]") for row in rows]
+
+    expect(set(tag("NEEDED")) == set(elf_imports), f"needs {tag('NEEDED')}")
+    expect(library.imports == set().union(*elf_imports.values()), f"imports {library.imports}")
+    expect(not tag("RPATH") and set(tag("RUNPATH")) <= {"$ORIGIN"}, "looks for others in a folder not its own")
+
+    rows = [line.split() for line in segments.splitlines() if line.startswith("  ")]
+    by_kind = {}
+    for row in rows:
+        if len(row) >= 8 and row[1].startswith("0x"):
+            address, size, flags = int(row[2], 16), int(row[5], 16), "".join(row[6:-1])
+            by_kind.setdefault(row[0], []).append((address, size, flags))
+    expect("E" not in by_kind["GNU_STACK"][0][2], "executable stack")
+    expect("TLS" not in by_kind, "thread-local storage")
+    for _, _, flags in by_kind["LOAD"]:
+        expect(not ("W" in flags and "E" in flags), "a segment is writable and executable")
+
+    expect("NOW" in " ".join(tag("FLAGS") + tag("FLAGS_1")), "not bound at load time")
+    expect(not tag("TEXTREL") and "TEXTREL" not in " ".join(tag("FLAGS")), "text relocations")
+    start, size, _ = by_kind.get("GNU_RELRO", [(0, 0, "")])[0]
+    expect(all(start <= slot < start + size for slot in slots(library)),
+           "the slot table is not read-only after loading")
+    for name in (".dynamic", ".got"):
+        at = next(address for section, address, _, _ in library.sections if section == name)
+        expect(start <= at < start + size, f"{name} is not read-only after loading")
+
+    expect("IBT" in notes and "SHSTK" in notes, "no branch-target or shadow-stack mark")
+    landing = b"\xf3\x0f\x1e\xfa"
+    for slot in slots(library):
+        routine = library.word(slot)
+        expect(library.bytes(routine, 4) == landing, f"{routine:#x}: in a slot, and no branch target")
+
+    # The load entry is the one routine that the loader calls.
+    entry = [int(value, 16) for value in tag("INIT")]
+    expect(len(entry) == 1 and library.bytes(entry[0], 4) == landing, "no load entry, or no branch target")
+    for name in ("FINI", "INIT_ARRAY", "FINI_ARRAY", "PREINIT_ARRAY"):
+        expect(not tag(name), f"{name}: something besides the load entry waits to be run")
+
+
+def main():
+    library = Library(*sys.argv[1:])
+    check_no_initializers(library)
+    if library.is_pe:
+        check_pe(library)
+    else:
+        check_elf(library)
+    for failure in failures[:20]:
+        print(failure)
+    imported = library.imports.values() if library.is_pe else [library.imports]
+    print(f"{sum(len(names) for names in imported)} imports, {len(failures)} faults")
+    return 1 if failures else 0
+
+
+sys.exit(main())

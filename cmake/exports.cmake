@@ -5,10 +5,13 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DI
 string(REGEX MATCHALL "SLOT\\(zulg[^\n]+" slot_lines "${slots_text}")
 list(APPEND slot_lines "SLOT(zulgenGetLibVersion, the last, 0)")  # behind the slots: it has none
 
-# One .def makes the DLL, the other the import library for consumers: there a name carries the bytes of its arguments,
-# as a caller's compiler writes it, and dlltool -k takes them off again in the name that is looked up.
+# One .def makes the DLL, the other the import libraries for consumers, and it ships: there a name carries the bytes of
+# its arguments, as a caller's compiler writes it, and dlltool -k takes them off again in the name that is looked up.
 set(def_text "LIBRARY \"zulgenpx-7.0.dll\"\nEXPORTS\n")
-set(import_text "${def_text}")
+string(CONCAT import_text
+    "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are undecorated:\n"
+    "; dlltool -k -d zulgenpx.def -l libzulgenpx.dll.a, or llvm-dlltool -m i386 -k -d zulgenpx.def -l zulgenpx.lib.\n"
+    "${def_text}")
 set(map_text "{\nglobal:\n")
 set(ordinal 0)
 foreach(line IN LISTS slot_lines)
@@ -30,13 +33,23 @@ file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx.def CONTENT "${def_text}" @ON
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx_import.def CONTENT "${import_text}" @ONLY)
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx.map CONTENT "${map_text}" @ONLY)
 
-# link_consumer(TARGET): links a program with the library as its users do.
+# link_consumer(TARGET): links a program with the library as its users do. On Windows through an import library, of
+# which there are two: the GNU format and the Microsoft one. The one that the linker writes beside the DLL is of no use,
+# since it knows no decorated names; it is not installed.
 if(WIN32)
+    find_program(LLVM_DLLTOOL llvm-dlltool REQUIRED)
+    set(import_def ${CMAKE_BINARY_DIR}/zulgenpx_import.def)
     set(import_library ${CMAKE_BINARY_DIR}/libzulgenpx.dll.a)
+    set(microsoft_import_library ${CMAKE_BINARY_DIR}/zulgenpx.lib)
     add_custom_command(OUTPUT ${import_library}
-        COMMAND ${CMAKE_DLLTOOL} -k -d ${CMAKE_BINARY_DIR}/zulgenpx_import.def -l ${import_library}
-        DEPENDS ${CMAKE_BINARY_DIR}/zulgenpx_import.def)
-    add_custom_target(import_library ALL DEPENDS ${import_library})
+        COMMAND ${CMAKE_DLLTOOL} -k -d ${import_def} -l ${import_library}
+        DEPENDS ${import_def})
+    add_custom_command(OUTPUT ${microsoft_import_library}
+        COMMAND ${LLVM_DLLTOOL} -m i386 -k -d ${import_def} -l ${microsoft_import_library}
+        DEPENDS ${import_def})
+    add_custom_target(import_library ALL DEPENDS ${import_library} ${microsoft_import_library})
+    install(FILES ${import_library} ${microsoft_import_library} DESTINATION lib)
+    install(FILES ${import_def} DESTINATION lib RENAME zulgenpx.def)
     function(link_consumer target)
         target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/include)
         target_link_libraries(${target} PRIVATE ${import_library})
@@ -55,4 +68,14 @@ if(WIN32)
 else()
     set(exports_link_input "")
     set(exports_link_flags -Wl,--version-script=${CMAKE_BINARY_DIR}/zulgenpx.map)
+endif()
+
+# With what a test builds consumers of either import library.
+if(WIN32)
+    find_program(CLANG clang REQUIRED)
+    find_program(LLD_LINK lld-link REQUIRED)
+    set(consumer_tools --emulator ${CMAKE_CROSSCOMPILING_EMULATOR} --dlltool ${CMAKE_DLLTOOL}
+        --llvm-dlltool ${LLVM_DLLTOOL} --clang ${CLANG} --lld-link ${LLD_LINK})
+else()
+    set(consumer_tools "")
 endif()

@@ -11,7 +11,7 @@ win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
     binutils ca-certificates)
 packages_demo=(alsa-utils)
-packages_win32=(g++-mingw-w64-i686-posix debootstrap util-linux)
+packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s\n' "$*" >&2; exit 1; }

@@ -20,13 +20,14 @@ if(WIN32)
         -march=pentium -mfpmath=387   # the processor class of this target: no vector registers
         -mincoming-stack-boundary=2   # Windows callers align the stack to 4 bytes
         -fcf-protection=none)
-    set(library_link_flags
+    set(common_link_flags
         -nostdlib                     # the stock start files: 70 KB, some 20 imports, and initializers
-        -Wl,--entry=_zulgLoadEntry@12
-        -Wl,--image-base=0x65c00000   # fixed: the linker would derive it from the output path
         -Wl,--no-insert-timestamp     # the same bytes from each build
         -Wl,--dynamicbase,--nxcompat,--no-seh
         -Wl,--strip-all)
+    # Image bases are fixed: the linker would derive them from the output path.
+    set(library_link_flags ${common_link_flags} -Wl,--entry=_zulgLoadEntry@12 -Wl,--image-base=0x65c00000)
+    set(companion_link_flags ${common_link_flags} -Wl,--image-base=0x65b00000)
     set(library_link_libraries gcc kernel32 msvcrt)
     set(library_platform_sources frame/shared_library_windows.cpp frame/library.rc)
     # The file's own name, without the "lib" in front that this toolchain would put there.
@@ -35,13 +36,13 @@ else()
     list(APPEND library_compile_flags
         -mfpmath=sse -mno-sse3        # scalar code for any x86-64
         -fcf-protection=full)
-    set(library_link_flags
+    set(companion_link_flags
         -nostartfiles                 # nothing but the load entry runs when the library is loaded
-        -Wl,-init=zulgLoad
         -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks: fails quietly without entries.S's note
         -Wl,-z,relro,-z,now,-z,noexecstack
         -Wl,--no-undefined,--build-id=none
         -Wl,--strip-all)
+    set(library_link_flags ${companion_link_flags} -Wl,-init=zulgLoad)
     set(library_link_libraries ${CMAKE_DL_LIBS})
     set(library_platform_sources frame/shared_library_elf.cpp frame/load_elf.cpp)
     set(library_file_prefix "lib")

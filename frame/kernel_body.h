@@ -4,6 +4,7 @@
 
 #include "frame/kernel.h"
 #include "frame/ports.h"
+#include "frame/scale.h"
 
 namespace zulg {
 
@@ -16,19 +17,6 @@ template <int length>
 struct RealInverseGraph;
 template <int length>
 struct HartleyGraph;
-
-// What the flags mean: forward families divide by N at one flag, inverse ones at the other, the Hartley transform,
-// which is its own inverse, at both.
-struct ForwardFlags {
-    static constexpr bool isDivided(std::int32_t flag) { return flag == DivFwdByN; }
-};
-struct InverseFlags {
-    static constexpr bool isDivided(std::int32_t flag) { return flag == DivInvByN; }
-};
-
-struct InvolutionFlags {
-    static constexpr bool isDivided(std::int32_t) { return true; }
-};
 
 // What a family is made of: flags, graph and ports.
 template <Family family>
@@ -88,15 +76,6 @@ struct Parts<Family::Hartley> : InvolutionFlags {
     using Ports = RealPorts<Element>;
 };
 
-// The stored factors of one length: of the width of the data, 1/N exact and rounded once, 1/sqrt(N) the double of the
-// graph rounded on.
-template <class Element, int length, class Graph>
-struct Scale {
-    static constexpr Element one = 1;
-    static constexpr Element inverse = Element{1} / Element{length};
-    static constexpr Element inverseRoot = static_cast<Element>(Graph::inverseRoot);
-};
-
 template <Family family, int length, class Element>
 Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
     using Graph = typename Parts<family>::template Graph<length>;
@@ -105,20 +84,11 @@ Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
     if (pSrc == nullptr) return StatusNullPointer;
     if (pDst == nullptr) return StatusNullPointer;
 
-    Element scale;
-    if (flag == NoDivByAny) {
-        scale = Factor::one;
-    } else if (flag == DivBySqrtN) {
-        scale = Factor::inverseRoot;
-    } else if (flag == DivFwdByN || flag == DivInvByN) {
-        scale = Parts<family>::isDivided(flag) ? Factor::inverse : Factor::one;
-    } else {
-        return StatusFlagError;
-    }
-    const typename Parts<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
-    Graph::run(io);
-    io.finish();
-    return StatusOk;
+    return withScale<Parts<family>, Factor>(flag, [=](Element scale) __attribute__((always_inline)) {
+        const typename Parts<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
+        Graph::run(io);
+        io.finish();
+    });
 }
 
 }  // namespace zulg

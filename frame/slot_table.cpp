@@ -1,6 +1,7 @@
 // The slot table: the address of every exported routine but the version call. Slot index = export ordinal - 1.
 // Filled in when the library is built and never written; the entries of entries.S jump through it.
 #include "frame/kernel.h"
+#include "wht/wht.h"
 
 namespace zulg {
 
@@ -10,11 +11,21 @@ union Routine {
     KernelRoutine<double> kernel64;
     DispatchRoutine<float> dispatch32;
     DispatchRoutine<double> dispatch64;
+    WhtRoutine<float> wht32;
+    WhtRoutine<double> wht64;
+    WhtDispatchRoutine<float> whtDispatch32;
+    WhtDispatchRoutine<double> whtDispatch64;
+    SizeRoutine size;
 
     constexpr Routine(KernelRoutine<float> routine) : kernel32(routine) {}
     constexpr Routine(KernelRoutine<double> routine) : kernel64(routine) {}
     constexpr Routine(DispatchRoutine<float> routine) : dispatch32(routine) {}
     constexpr Routine(DispatchRoutine<double> routine) : dispatch64(routine) {}
+    constexpr Routine(WhtRoutine<float> routine) : wht32(routine) {}
+    constexpr Routine(WhtRoutine<double> routine) : wht64(routine) {}
+    constexpr Routine(WhtDispatchRoutine<float> routine) : whtDispatch32(routine) {}
+    constexpr Routine(WhtDispatchRoutine<double> routine) : whtDispatch64(routine) {}
+    constexpr Routine(SizeRoutine routine) : size(routine) {}
 };
 
 #define SLOT(name, routine, bytes) Routine(routine),

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 
@@ -19,7 +20,7 @@ constexpr const char* usage =
     "       generate list FAMILY N    prints the graph itself, one node to a line\n"
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
-    "FAMILY: complex, real_forward, real_inverse, hartley.  The tree is the working folder.\n";
+    "FAMILY: complex, real_forward, real_inverse, hartley, wht.  The tree is the working folder.\n";
 
 const gen::GraphEntry& find(const std::string& family, const std::string& length) {
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
@@ -28,15 +29,15 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
     throw std::runtime_error("no graph " + family + " " + length);
 }
 
-std::string kernelText(const gen::GraphEntry& entry) {
+std::string graphText(const gen::GraphEntry& entry) {
     const auto graph = entry.build();
-    return gen::emitKernels(entry, *graph, gen::blockByBlock(*graph));
+    return gen::emitGraph(entry, *graph, gen::blockByBlock(*graph));
 }
 
 // Path and text of every generated file.
 std::map<std::string, std::string> allFiles() {
     std::map<std::string, std::string> files;
-    for (const gen::GraphEntry& entry : gen::allGraphs()) files[entry.file()] = kernelText(entry);
+    for (const gen::GraphEntry& entry : gen::allGraphs()) files[entry.file()] = graphText(entry);
     files["frame/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
     return files;
@@ -49,13 +50,16 @@ std::string read(const fs::path& path) {
     return text.str();
 }
 
-// Files below kernels/ that nothing generates any more.
+// Files beside generated ones that nothing generates any more.
 std::vector<fs::path> strayFiles(const std::map<std::string, std::string>& files) {
+    std::set<std::string> folders;
+    for (const gen::GraphEntry& entry : gen::allGraphs()) folders.insert(entry.family->folder);
     std::vector<fs::path> stray;
-    if (!fs::exists("kernels")) return stray;
-    for (const auto& item : fs::recursive_directory_iterator("kernels")) {
-        if (item.path().extension() == ".cpp" && !files.contains(item.path().generic_string()))
-            stray.push_back(item.path());
+    for (const std::string& folder : folders) {
+        if (!fs::exists(folder)) continue;
+        for (const auto& item : fs::directory_iterator(folder)) {
+            if (!files.contains(item.path().generic_string())) stray.push_back(item.path());
+        }
     }
     return stray;
 }
@@ -104,7 +108,9 @@ int count() {
         const auto graph = entry.build();
         const gen::Counts counts = graph->counts();
         std::cout << entry.name() << " | " << entry.recipe() << " | " << counts.additions << " | "
-                  << counts.subtractions << " | " << counts.multiplications + static_cast<int>(graph->outputs().size())
+                  << counts.subtractions << " | "
+                  << counts.multiplications +
+                         (entry.family->isBody() ? 0 : static_cast<int>(graph->outputs().size()))
                   << " | " << counts.negations << " | " << counts.constants << "\n";
     }
     return 0;
@@ -118,7 +124,7 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 3 && (verb == "show" || verb == "list" || verb == "dot")) {
         const gen::GraphEntry& entry = find(words[1], words[2]);
         const auto graph = entry.build();
-        std::cout << (verb == "show" ? kernelText(entry) : verb == "list" ? graph->text() : graph->dot());
+        std::cout << (verb == "show" ? graphText(entry) : verb == "list" ? graph->text() : graph->dot());
         return 0;
     }
     std::cerr << usage;

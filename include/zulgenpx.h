@@ -2,8 +2,9 @@
 
    Nothing is to be set up: any routine may be called first. All results are statuses; output goes to the caller's
    arrays. Every routine is reentrant: any number of threads may call at the same time, also on the same input, as long
-   as the output arrays differ. Nothing is allocated, no lock is taken, and the processor's floating-point settings are
-   neither read nor changed.
+   as the output arrays differ. No lock is taken, and the processor's floating-point settings are neither read nor
+   changed. Nothing is allocated, but by large Walsh-Hadamard orders called without a buffer and by plans made with
+   InitAlloc; that memory comes from the core library zulcore, which stands beside this one.
 
    Data is contiguous and needs no alignment: any address will do. Not-a-number and infinity go
    through the arithmetic as they will; the status is StatusOk all the same. */
@@ -163,6 +164,35 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
 
    Source: R. N. Bracewell (1983). Each length is the real DFT of this library, forward or inverse, with one stage of
    sums and differences. */
+
+/* -- Walsh-Hadamard transform --------------------------------------------------------------------------------------
+
+     zulgWHT_<O>_32f       out[k] = scale * sum over j of (-1)^(bits set in both j and k) in[j]   k = 0 .. N-1, N = 2^O
+     zulgWHT_32f           the same with the order O as an argument: StatusSizeError outside 1 to 13
+     zulgWHTGetBufferSize_32f   bytes of the buffer of an order: StatusSizeError outside 1 to 13, *pSize then as it was
+     and the same with _64f
+
+   pSrc     N reals, read only
+   pDst     N reals, all of them written; may equal pSrc, no other overlap
+   flag     1 and 2 both divide by N, 4 by sqrt(N); the transform is its own inverse up to that factor
+   pBuffer  orders 1 to 7 do not look at it. Orders 8 to 13 work through it, and any address of an element will do:
+
+              order            8     9    10    11     12     13
+              bytes, 32f    1024  2048  4096  8192  17408  36864     twice as many in 64f
+
+            With a null pointer the routine takes a block of that size from zulcore for the time of the call. A refused
+            block is not looked for, and the call then faults: pass a buffer where that matters. Two calls at one time
+            need two buffers. What stands in a buffer after a call is of no use.
+
+   Rows are in natural (Sylvester) order: row k is that of the Kronecker power of (1 1; 1 -1). Integers come out exact
+   at flag 8 as long as every sum fits the element.
+
+   Accuracy: below 0.45 sqrt(O + 1) * 2^-53 in double; in single precision, where values are rounded only when they are
+   written to the buffer or the destination, below 0.45 * 2^-24 up to order 7 (order 1, one rounded sum: 0.47), 0.64 up
+   to 11 and 0.78 at 12 and 13.
+
+   Source: J. Hadamard (1893), J. L. Walsh (1923); the fast form: K. W. Henderson (1964), W. K. Pratt, J. Kane and
+   H. C. Andrews (1969). */
 
 /* -- All routines, one to a line ------------------------------------------------------------------------------------ */
 #include "zulgenpx_routines.h"

@@ -25,7 +25,7 @@ Coefficient cosine(int k, int n) { return {cosTurn(k, n), turn("cos", k, n)}; }
 Coefficient sine(int k, int n) { return {sinTurn(k, n), turn("sin", k, n)}; }
 
 int Graph::insert(Kind kind, int a, int b) {
-    const bool commutes = kind == Kind::Add;
+    const bool commutes = kind == Kind::Add || kind == Kind::Product;
     const auto key = commutes ? std::tuple(kind, std::min(a, b), std::max(a, b)) : std::tuple(kind, a, b);
     const auto [found, isNew] = standing.try_emplace(key, static_cast<int>(allNodes.size()));
     if (isNew) allNodes.push_back({kind, a, b, currentTitle});
@@ -57,6 +57,10 @@ Value Graph::product(const Coefficient& factor, Value x) {
     return {this, insert(Kind::Mul, x.node, constant(factor)), x.minus != (factor.value < 0)};
 }
 
+Value Graph::product(Value a, Value b) {
+    return {this, insert(Kind::Product, a.node, b.node), a.minus != b.minus};
+}
+
 Value Graph::copy(const Graph& other, const Node& node, const std::vector<Value>& copies) {
     if (node.kind == Kind::Load) return load(node.a);
     const Value a = copies[static_cast<std::size_t>(node.a)];
@@ -65,6 +69,7 @@ Value Graph::copy(const Graph& other, const Node& node, const std::vector<Value>
         return product({factor.exact, factor.origin}, a);
     }
     const Value b = copies[static_cast<std::size_t>(node.b)];
+    if (node.kind == Kind::Product) return a * b;
     return node.kind == Kind::Add ? a + b : a - b;
 }
 
@@ -99,6 +104,7 @@ Counts Graph::counts() const {
                 ++counts.multiplications;
                 used.insert(allNodes[i].b);
                 break;
+            case Kind::Product: ++counts.multiplications; break;
         }
     }
     for (const Output& output : allOutputs) counts.negations += output.minus;
@@ -116,6 +122,7 @@ std::string Graph::text() const {
             case Kind::Load: text += "in " + std::to_string(node.a); break;
             case Kind::Add: text += name(node.a) + " + " + name(node.b); break;
             case Kind::Sub: text += name(node.a) + " - " + name(node.b); break;
+            case Kind::Product: text += name(node.a) + " * " + name(node.b); break;
             case Kind::Mul:
                 text += number(allConstants[static_cast<std::size_t>(node.b)].stored) + " * " + name(node.a);
                 break;
@@ -143,6 +150,7 @@ std::string Graph::dot() const {
                 continue;
             case Kind::Add: text += "    " + name + " [label=\"+\"];\n"; break;
             case Kind::Sub: text += "    " + name + " [label=\"-\"];\n"; break;
+            case Kind::Product: text += "    " + name + " [label=\"*\"];\n"; break;
             case Kind::Mul:
                 text += "    " + name + " [label=\"" + allConstants[static_cast<std::size_t>(node.b)].origin +
                         "\", shape=ellipse, fillcolor=lightyellow];\n";

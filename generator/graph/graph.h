@@ -1,4 +1,5 @@
-// The data-flow graph of one transform: loads, additions, subtractions and products with a constant.
+// The data-flow graph of one transform: loads, additions, subtractions, products with a constant and, where a factor
+// comes from a table, of two values.
 //
 // A node is a number into one vector, and a node never refers to a later one. Inserting is finding: a step whose equal
 // stands already is that step. Signs ride on values and never stand in a node, so that every constant is positive and
@@ -41,9 +42,9 @@ struct Constant {
     std::string origin;
 };
 
-enum class Kind { Load, Add, Sub, Mul };
+enum class Kind { Load, Add, Sub, Mul, Product };
 
-// Load: a is the number of the input. Add, Sub: a + b, a - b. Mul: constant number b times node a.
+// Load: a is the number of the input. Add, Sub, Product: a + b, a - b, a b. Mul: constant number b times node a.
 struct Node {
     Kind kind;
     int a, b;
@@ -70,6 +71,7 @@ public:
     Value load(int input);
     Value sum(Value a, Value b);
     Value product(const Coefficient& factor, Value x);
+    Value product(Value a, Value b);
 
     // Gives the output at `place` its value. Outputs keep the order in which they are stored.
     void store(int place, Value value) { allOutputs.push_back({place, value.node, value.minus}); }
@@ -129,6 +131,7 @@ inline Value operator-(Value x) { return {x.graph, x.node, !x.minus}; }
 inline Value operator+(Value a, Value b) { return a.graph->sum(a, b); }
 inline Value operator-(Value a, Value b) { return a.graph->sum(a, -b); }
 inline Value operator*(const Coefficient& factor, Value x) { return x.graph->product(factor, x); }
+inline Value operator*(Value a, Value b) { return a.graph->product(a, b); }
 
 // The graph as its own interpreter: the outputs for these inputs, in the arithmetic of T; 0 at places left out.
 template <class T>
@@ -141,6 +144,7 @@ std::vector<T> evaluate(const Graph& graph, std::span<const T> inputs) {
             case Kind::Load: value.push_back(inputs[static_cast<std::size_t>(node.a)]); break;
             case Kind::Add: value.push_back(at(node.a) + at(node.b)); break;
             case Kind::Sub: value.push_back(at(node.a) - at(node.b)); break;
+            case Kind::Product: value.push_back(at(node.a) * at(node.b)); break;
             case Kind::Mul: {
                 const Constant& constant = graph.constants()[static_cast<std::size_t>(node.b)];
                 value.push_back(static_cast<T>(constant.exact) * at(node.a));

@@ -9,19 +9,31 @@
 
 namespace gen {
 
-// One family of graphs, one for each length, each seen through the kernels of several exported families.
-struct GraphFamily {
-    std::string word;                   // "complex", as the command line and the tables say it
-    std::string graphTemplate;          // "ComplexGraph"
-    std::string filePrefix;             // of kernels/<word>/<filePrefix><length>.cpp
-    std::string title;                  // "Complex DFT of %d points", the length in place of %d
-    std::vector<std::string> exported;  // "DFTFwd_CToC", ...
-    std::string suffixTail;             // of the element suffix: "fc" for complex elements, "f" for real ones
-    bool complexInput, complexOutput;   // whether inputs and outputs go by (number, part) or by number
-    bool allowsNegation;                // whether an output may be stored with its sign turned
+// How the emitted text reads an input or stores an output: io.<port>(<number>), and the name of the value read.
+struct Port {
+    std::string value, port;
+    int number;
+};
 
+// One family of graphs, one for each length. Either each is seen through the kernels of several exported families, or
+// it is a body: a text that hand-written loops include and run through ports of their own.
+struct GraphFamily {
+    std::string word;                         // "complex", as the command line and the tables say it
+    std::string graphTemplate;                // "ComplexGraph"
+    std::string folder, filePrefix;           // of <folder>/<filePrefix><length>.cpp, or .h for a body
+    std::string rule;                         // the file in which to change it
+    std::string title;                        // "Complex DFT of %d points", the length in place of %d
+    std::vector<std::string> exported;        // "DFTFwd_CToC", ...; none for a body
+    std::string suffixTail;                   // of the element suffix: "fc" for complex elements, "f" for real ones
+    Port (*input)(int length, int index);     // where the graph's inputs
+    Port (*output)(int length, int index);    // and outputs are
+    bool allowsNegation;                      // whether an output may be stored with its sign turned
+
+    std::vector<int> (*lengths)();
     std::string (*recipe)(int length);
     std::unique_ptr<Graph> (*build)(int length);
+
+    bool isBody() const { return exported.empty(); }
 };
 
 // One graph: a family and a length.

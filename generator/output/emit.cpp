@@ -18,17 +18,6 @@ std::string literal(double x) {
     return digits.find_first_of(".e") == std::string::npos ? digits + ".0" : digits;
 }
 
-// What a number of inputs or outputs is called: "3" or, with two parts to a number, ("1", part).
-struct Place {
-    std::string number;
-    std::string part;  // "re", "im", or empty
-};
-
-Place placeOf(int index, bool isComplex) {
-    if (!isComplex) return {to_string(index), ""};
-    return {to_string(index / 2), index % 2 ? "im" : "re"};
-}
-
 // Names the constants and values of one graph in the order in which the schedule meets them.
 class Names {
 public:
@@ -38,8 +27,7 @@ public:
             if (step.kind == Step::Kind::Store) continue;
             const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
             if (node.kind == Kind::Load) {
-                const Place place = placeOf(node.a, entry.family->complexInput);
-                values[step.number] = "x" + place.number + place.part.substr(0, 1);
+                values[step.number] = entry.family->input(entry.length, node.a).value;
             } else {
                 values[step.number] = "t" + to_string(operations++);
             }
@@ -63,46 +51,47 @@ std::string operationText(const Node& node, const Names& names) {
         case Kind::Add: return names.value(node.a) + " + " + names.value(node.b);
         case Kind::Sub: return names.value(node.a) + " - " + names.value(node.b);
         case Kind::Mul: return names.constant(node.b) + " * " + names.value(node.a);
+        case Kind::Product: return names.value(node.a) + " * " + names.value(node.b);
         case Kind::Load: break;
     }
     throw std::logic_error("a load is no operation");
 }
 
-std::string loadText(const Node& node, bool isComplex) {
-    const Place place = placeOf(node.a, isComplex);
-    return "io." + (place.part.empty() ? "in" : place.part) + "(" + place.number + ")";
-}
+std::string loadText(const Port& port) { return "io." + port.port + "(" + to_string(port.number) + ")"; }
 
 // A store: io.re(3, t7); or, where the output has a minus, io.minusRe(3, t7);
-std::string storeText(const Output& output, const std::string& value, bool isComplex) {
-    const Place place = placeOf(output.place, isComplex);
-    std::string port = place.part.empty() ? "out" : place.part;
-    if (output.minus) {
+std::string storeText(const Port& place, bool minus, const std::string& value) {
+    std::string port = place.port;
+    if (minus) {
         port[0] = static_cast<char>(std::toupper(port[0]));
         port = "minus" + port;
     }
-    return "io." + port + "(" + place.number + ", " + value + ");";
+    return "io." + port + "(" + to_string(place.number) + ", " + value + ");";
 }
 
 std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
     const Counts counts = graph.counts();
     const auto outputs = static_cast<int>(graph.outputs().size());
-    std::string text = "// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, " +
+    std::string text = "// Written by `generate write`; do not edit. The rule: " + entry.family->rule + ", " +
                        entry.family->word + ", " + to_string(entry.length) + ".\n// " + entry.title() + ", " +
                        entry.recipe() + ".\n// " + to_string(counts.additions) + " additions, " +
                        to_string(counts.subtractions) + " subtractions, " + to_string(counts.multiplications) +
-                       " multiplications (" + to_string(counts.multiplications + outputs) + " with `scale`); ";
+                       " multiplications";
+    if (!entry.family->isBody()) text += " (" + to_string(counts.multiplications + outputs) + " with `scale`)";
+    text += "; ";
     if (counts.negations > 0) text += to_string(counts.negations) + " outputs negated; ";
     return text + to_string(counts.constants) + " constants; " + to_string(schedule.mostAlive) +
            " values alive at most.\n";
 }
 
-std::string constantsText(const Graph& graph, const Names& names) {
+// The constants of a kernel are doubles; those of a body have the width that its ports give them.
+std::string constantsText(const Graph& graph, const Names& names, bool isBody) {
     std::string text;
     for (int number : names.constantsInOrder()) {
         const Constant& constant = graph.constants()[static_cast<std::size_t>(number)];
-        text += "    static constexpr double " + names.constant(number) + " = " + literal(constant.stored) + ";  // " +
-                constant.origin + "\n";
+        const std::string value = literal(constant.stored);
+        text += (isBody ? "        constexpr auto " : "    static constexpr double ") + names.constant(number) + " = " +
+                (isBody ? "Ports::fixed(" + value + ")" : value) + ";  // " + constant.origin + "\n";
     }
     return text;
 }
@@ -129,11 +118,11 @@ std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedul
             if (output.minus && !entry.family->allowsNegation) {
                 throw std::logic_error(entry.name() + ": output " + to_string(output.place) + " is left with a minus");
             }
-            text += storeText(output, names.value(output.node), entry.family->complexOutput);
+            text += storeText(entry.family->output(entry.length, output.place), output.minus, names.value(output.node));
         } else {
             const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
             text += "const V " + names.value(step.number) + " = " +
-                    (step.kind == Step::Kind::Load ? loadText(node, entry.family->complexInput)
+                    (step.kind == Step::Kind::Load ? loadText(entry.family->input(entry.length, node.a))
                                                    : operationText(node, names)) +
                     ";";
         }
@@ -155,28 +144,30 @@ std::string instantiations(const GraphEntry& entry) {
 
 }  // namespace
 
-std::string emitKernels(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
+std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
     const Names names(entry, graph, schedule);
-    return headText(entry, graph, schedule) +
-           "#include \"frame/kernel_body.h\"\n\n"
-           "namespace zulg {\n\n"
-           "template <>\n"
-           "struct " +
-           entry.family->graphTemplate + "<" + to_string(entry.length) +
-           "> {\n"
-           "    static constexpr double inverseRoot = " +
-           literal(storedInverseRoot(entry.length)) + ";  // 1/sqrt(" + to_string(entry.length) + "), for `scale`\n" +
-           constantsText(graph, names) +
-           "\n"
-           "    template <class Ports>\n"
-           "    ZULG_INLINE static void run(const Ports& io) {\n"
-           "        using V = typename Ports::Value;\n" +
-           stepsText(entry, graph, schedule, names) +
-           "    }\n"
-           "};\n\n" +
-           instantiations(entry) +
-           "\n"
-           "}  // namespace zulg\n";
+    const GraphFamily& family = *entry.family;
+    const std::string name = family.graphTemplate + "<" + to_string(entry.length) + ">";
+    const std::string constants = constantsText(graph, names, family.isBody());
+    std::string text = headText(entry, graph, schedule);
+    if (family.isBody()) {
+        text += "#pragma once\n\n#include \"" + family.folder + ".h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
+                " {\n";
+    } else {
+        text += "#include \"frame/kernel_body.h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
+                " {\n    static constexpr double inverseRoot = " + literal(storedInverseRoot(entry.length)) +
+                ";  // 1/sqrt(" + to_string(entry.length) + "), for `scale`\n" + constants + "\n";
+    }
+    text +=
+        "    template <class Ports>\n"
+        "    ZULG_INLINE static void run(const Ports& io) {\n"
+        "        using V = typename Ports::Value;\n";
+    if (family.isBody()) text += constants;
+    text += stepsText(entry, graph, schedule, names) +
+            "    }\n"
+            "};\n\n";
+    if (!family.isBody()) text += instantiations(entry) + "\n";
+    return text + "}  // namespace zulg\n";
 }
 
 std::string emitSlots(const std::vector<Export>& exports) {

@@ -9,8 +9,8 @@
 
 namespace gen {
 
-// One file of kernels/: the graph as straight-line text, and the instantiations of its kernels.
-std::string emitKernels(const GraphEntry& entry, const Graph& graph, const Schedule& schedule);
+// The file of one graph: the graph as straight-line text and, where it has kernels, their instantiations.
+std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule);
 
 // frame/slots.inc and include/zulgenpx_routines.h.
 std::string emitSlots(const std::vector<Export>& exports);

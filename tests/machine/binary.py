@@ -152,6 +152,16 @@ class Library:
             return None
         return entry + 10 + struct.unpack_from("<i", raw, 6)[0]
 
+    def leads_outside(self, call):
+        """Whether a call goes to another library: through the table of imports, or to a stub that does."""
+        if self.is_pe:
+            match = re.match(r"\*0x([0-9a-f]+)$", call.operands)
+            return bool(match) and self.section_of(int(match.group(1), 16)) == ".idata"
+        match = re.search(r"# 0x([0-9a-f]+)|# ([0-9a-f]+)", call.operands)
+        if match:
+            return self.section_of(int(match.group(1) or match.group(2), 16)) == ".got"
+        return call.target() is not None and self.section_of(call.target()).startswith(".plt")
+
     def routine(self, start):
         """The instructions of the routine at this address, following its jumps forward, up to its last return."""
         instructions, reach, address = [], start, start

@@ -10,11 +10,14 @@ from binary import Library
 
 # Everything that the library imports.
 hook = {"malloc", "calloc", "realloc", "free"}  # the allocator hook's fallback
+core = {"zulMalloc", "zulFree"}
 pe_imports = {
+    "zulcore-7.0.dll": core,
     "KERNEL32.dll": {"LoadLibraryA", "GetProcAddress", "FreeLibrary"},
     "msvcrt.dll": hook,
 }
 elf_imports = {
+    "libzulcore-7.0.so": core,
     "libc.so.6": {"dlopen", "dlsym", "dlclose"} | hook,
 }
 

@@ -17,11 +17,10 @@ def main():
     link = next(command for command in reversed(commands) if f"-o {name} " in command)
     with tempfile.TemporaryDirectory() as folder:
         again = os.path.join(folder, name)
-        words = [again if word == name else word for word in shlex.split(link) if word not in (":", "&&")]
+        command = link.replace(f"-o {name} ", f"-o {shlex.quote(again)} ")
         # The import library is made by the same command; it must not be written over.
-        words = [word.replace("--out-implib,", f"--out-implib,{folder}/") if "--out-implib," in word else word
-                 for word in words]
-        subprocess.run(words, cwd=build, check=True)
+        command = command.replace("--out-implib,", f"--out-implib,{folder}/")
+        subprocess.run(command, shell=True, cwd=build, check=True)
         with open(library, "rb") as first, open(again, "rb") as second:
             same = first.read() == second.read()
     print(f"{name}: {'the same bytes' if same else 'other bytes'} when linked again")

@@ -4,7 +4,8 @@ steps.py LIBRARY OBJDUMP EXPECTED_FOLDER
 
 Each kernel is reached as a caller reaches it: exported entry, one indirect jump, slot, routine. What is demanded of it:
 additions plus subtractions and multiplications of the table, no packed arithmetic, no call, no backward jump. The
-negations of the forward real family are left to the graph: a compiler may fold one into its neighbours.
+negations of the forward real family are left to the graph: a compiler may fold one into its neighbours. The large
+Walsh-Hadamard orders have the loops and the calls out of the library that their table grants them.
 """
 import os
 import re
@@ -37,11 +38,14 @@ def expected_rows(folder, family):
     return rows
 
 
-def counted(instructions, may_negate):
-    sums = products = 0
+def counted(library, instructions, may_negate, granted=(0, 0)):
+    """granted: how many loops and calls out of the library there are to be."""
+    sums = products = loops = calls = 0
     faults = []
+    since_call = 9
     for instruction in instructions:
         name = instruction.mnemonic
+        since_call = 0 if name.startswith("call") else since_call + 1
         if X87_SUMS.match(name) or SSE_SUMS.match(name):
             sums += 1
         elif X87_PRODUCTS.match(name) or SSE_PRODUCTS.match(name):
@@ -53,9 +57,18 @@ def counted(instructions, may_negate):
         elif name in ("xorps", "xorpd", "pxor") and len(set(instruction.operands.split(","))) != 1:
             faults.append(f"holds {name} {instruction.operands}")
         elif name.startswith("call"):
-            faults.append(f"calls {instruction.operands}")
-        elif name.startswith(("j", "loop")) and (instruction.target() is None or instruction.target() <= instruction.address):
-            faults.append(f"jumps back or elsewhere: {name} {instruction.operands}")
+            calls += 1
+            if not library.leads_outside(instruction):
+                faults.append(f"calls {instruction.operands}")
+        elif name.startswith(("j", "loop")):
+            target = instruction.target()
+            if target is None or not instructions[0].address <= target <= instructions[-1].address:
+                faults.append(f"jumps elsewhere: {name} {instruction.operands}")
+            elif target <= instruction.address:
+                # The way back from a call that stands aside, behind its care for the stack, is no loop.
+                loops += not (name == "jmp" and since_call <= 2)
+    if (loops, calls) != granted:
+        faults.append(f"{loops} backward jumps, {calls} calls; due are {granted[0]}, {granted[1]}")
     return sums, products, faults
 
 
@@ -67,11 +80,47 @@ FAMILIES = [
 ]
 
 
+WHT = re.compile(r"zulgWHT_(\d+)_(?:32|64)f$")
+
+
+def wht_rows(folder):
+    """order -> (sums, products, (loops, calls))."""
+    rows = {}
+    with open(os.path.join(folder, "wht.txt"), encoding="ascii") as file:
+        for line in file:
+            if not line.startswith("#"):
+                order, additions, subtractions, products, loops, calls = (int(cell) for cell in line.split("|"))
+                rows[order] = (additions + subtractions, products, (loops, calls))
+    return rows
+
+
+def wrong_wht(library, rows):
+    """How many Walsh-Hadamard kernels were counted, and how many are not as their table says."""
+    kernels = failures = 0
+    for name in sorted(library.exports):
+        match = WHT.match(name)
+        if not match:
+            continue
+        kernels += 1
+        sums, products, granted = rows[int(match.group(1))]
+        routine = library.routine(library.word(library.slot_address(name)))
+        found_sums, found_products, faults = counted(library, routine, False, granted)
+        if (found_sums, found_products) != (sums, products):
+            faults.append(f"{found_sums} sums, {found_products} products; due are {sums}, {products}")
+        if faults:
+            failures += 1
+            print(f"{name}: " + "; ".join(faults[:5]))
+    return kernels, failures
+
+
 def main():
     path, objdump, folder = sys.argv[1:]
     library = Library(path, objdump)
     tables = {family: expected_rows(folder, family) for _, family in FAMILIES}
-    kernels = failures = 0
+    kernels, failures = wrong_wht(library, wht_rows(folder))
+    if kernels != 26:
+        print(f"{kernels} Walsh-Hadamard kernels")
+        failures += 1
     for name in sorted(library.exports):
         for pattern, family in FAMILIES:
             match = pattern.match(name)
@@ -80,7 +129,7 @@ def main():
             kernels += 1
             sums, products = tables[family][int(match.group(1))]
             routine = library.routine(library.word(library.slot_address(name)))
-            found_sums, found_products, faults = counted(routine, family == "real_forward")
+            found_sums, found_products, faults = counted(library, routine, family == "real_forward")
             if family == "real_inverse":  # a product with 2 may stand as a sum
                 is_right = found_sums + found_products == sums + products and found_sums >= sums
             else:

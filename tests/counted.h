@@ -1,0 +1,33 @@
+// A number that counts what is done with it: the text of a body, run on it, tells its own operations.
+#pragma once
+
+namespace test {
+
+struct OperationCounts {
+    int additions = 0, subtractions = 0, multiplications = 0, negations = 0;
+    bool operator==(const OperationCounts&) const = default;
+    int sums() const { return additions + subtractions; }
+};
+
+inline OperationCounts operationCounts;
+
+struct Counted {
+    long double value = 0;
+
+    Counted() = default;
+    Counted(double x) : value(x) {}
+    static Counted of(long double x) {
+        Counted counted;
+        counted.value = x;
+        return counted;
+    }
+};
+
+inline Counted operator+(Counted a, Counted b) { return ++operationCounts.additions, Counted::of(a.value + b.value); }
+inline Counted operator-(Counted a, Counted b) { return ++operationCounts.subtractions, Counted::of(a.value - b.value); }
+inline Counted operator*(Counted a, Counted b) {
+    return ++operationCounts.multiplications, Counted::of(a.value * b.value);
+}
+inline Counted operator-(Counted a) { return ++operationCounts.negations, Counted::of(-a.value); }
+
+}  // namespace test

@@ -1,0 +1,368 @@
+// The Walsh-Hadamard routines through the boundary: values, accuracy, buffers, refusals, and what they ask of the core
+// library.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <random>
+
+#include "tests/exports.h"
+#include "tests/fake_core.h"
+#include "tests/memory.h"
+#include "tests/reference.h"
+
+#ifdef _WIN32
+#include <process.h>
+#else
+#include <sys/wait.h>
+#endif
+
+namespace test {
+namespace {
+
+constexpr int allFlags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
+
+template <class Element>
+using WhtKernel = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
+template <class Element>
+using WhtDispatcher = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
+                                             Element* pBuffer);
+using BufferSize = ZulgStatus(ZULG_CALL*)(std::int32_t order, std::int32_t* pSize);
+
+template <class Element>
+std::string suffix() {
+    return sizeof(Element) == 4 ? "_32f" : "_64f";
+}
+
+template <class Element>
+WhtKernel<Element> kernelOf(int order) {
+    return exported<WhtKernel<Element>>("zulgWHT_" + std::to_string(order) + suffix<Element>());
+}
+
+// Elements of the buffer of each order: a main area, and behind it a scratch area at 12 and 13.
+int bufferElements(int order) {
+    if (order < 8) return 0;
+    return (1 << order) + (order == 12 ? 256 : order == 13 ? 1024 : 0);
+}
+
+double storedFactor(int order, int flag, bool isSingle) {
+    const double count = std::exp2(order);
+    if (flag == NoDivByAny) return 1;
+    if (flag != DivBySqrtN) return 1 / count;
+    volatile double root = std::sqrt(count), inverse = 1 / root;
+    volatile float single = static_cast<float>(inverse);
+    return isSingle ? single : inverse;
+}
+
+// By stages in falling stride: the other way round than the routines, and the same rows. The definition itself is
+// checked on single rows below.
+Values walshHadamard(Values x) {
+    for (std::size_t stride = x.size() / 2; stride > 0; stride /= 2) {
+        for (std::size_t j = 0; j < x.size(); ++j) {
+            if ((j & stride) != 0) continue;
+            const Wide a = x[j], b = x[j + stride];
+            x[j] = a + b;
+            x[j + stride] = a - b;
+        }
+    }
+    return x;
+}
+
+template <class Element>
+class WhtTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() { substitutedCore(); }
+    void SetUp() override { core = {}; }
+
+    FakeCore& core = substitutedCore();
+    static constexpr bool isSingle = sizeof(Element) == 4;
+    std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
+
+    std::vector<Element> randomElements(int order) {
+        std::normal_distribution<double> normal;
+        std::vector<Element> x;
+        for (int i = 0; i < 1 << order; ++i) x.push_back(static_cast<Element>(normal(random)));
+        return x;
+    }
+
+    std::vector<Element> run(int order, const std::vector<Element>& source, int flag) {
+        std::vector<Element> destination(source.size()), buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
+        EXPECT_EQ(kernelOf<Element>(order)(source.data(), destination.data(), flag, buffer.data()), StatusOk);
+        return destination;
+    }
+};
+
+using Elements = testing::Types<float, double>;
+TYPED_TEST_SUITE(WhtTest, Elements);
+
+TYPED_TEST(WhtTest, OrderOneIsASingleButterfly) {
+    using Element = TypeParam;
+    const std::vector<Element> source = {Element(3), Element(-0.75)};
+    for (int flag : allFlags) {
+        const Element scale = static_cast<Element>(storedFactor(1, flag, this->isSingle));
+        const auto found = this->run(1, source, flag);
+        volatile Element sum = static_cast<Element>(Wide{scale} * Wide{2.25}),
+                         difference = static_cast<Element>(Wide{scale} * Wide{3.75});
+        EXPECT_EQ(found[0], sum) << flag;
+        EXPECT_EQ(found[1], difference) << flag;
+    }
+}
+
+TYPED_TEST(WhtTest, ScaleAtSqrtNIsTheStoredOne) {
+    const std::vector<TypeParam> impulse = {1, 0};
+    EXPECT_EQ(this->run(1, impulse, DivBySqrtN)[0],
+              static_cast<TypeParam>(this->isSingle ? 0.7071067690849304 : 0.7071067811865475));
+}
+
+// Every row of the matrix up to order 8, some rows above: an impulse at j gives scale times column j.
+TYPED_TEST(WhtTest, RowsAreInNaturalOrder) {
+    for (int order = 1; order <= 13; ++order) {
+        const int count = 1 << order;
+        for (int j = 0; j < count; j += std::max(1, count / 61)) {
+            for (int flag : allFlags) {
+                std::vector<TypeParam> source(static_cast<std::size_t>(count));
+                source[static_cast<std::size_t>(j)] = 1;
+                const auto found = this->run(order, source, flag);
+                const auto scale = static_cast<TypeParam>(storedFactor(order, flag, this->isSingle));
+                for (int k = 0; k < count; ++k) {
+                    const bool isMinus = std::popcount(static_cast<unsigned>(j & k)) % 2 == 1;
+                    ASSERT_EQ(found[static_cast<std::size_t>(k)], isMinus ? -scale : scale) << order << ", " << k;
+                }
+            }
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, IntegersAreExactWhileTheValuesFit) {
+    for (int order = 1; order <= 13; ++order) {
+        // 24 or 53 bits hold every sum of 2^order such numbers.
+        const int most = (1 << (this->isSingle ? 24 : 30)) >> order;
+        std::uniform_int_distribution<int> uniform(-most, most);
+        std::vector<TypeParam> source;
+        for (int i = 0; i < 1 << order; ++i) source.push_back(static_cast<TypeParam>(uniform(this->random)));
+        const Values due = walshHadamard({source.begin(), source.end()});
+        const auto found = this->run(order, source, NoDivByAny);
+        for (std::size_t k = 0; k < due.size(); ++k) ASSERT_EQ(Wide{found[k]}, due[k]) << order << ", " << k;
+    }
+}
+
+TYPED_TEST(WhtTest, AnAllEqualInputGivesOneValueAndExactZeros) {
+    for (int order = 1; order <= 13; ++order) {
+        for (int flag : allFlags) {
+            const std::vector<TypeParam> source(std::size_t{1} << order, TypeParam(3));
+            const auto found = this->run(order, source, flag);
+            const double due = 3 * std::exp2(order) * storedFactor(order, flag, this->isSingle);
+            EXPECT_EQ(found[0], static_cast<TypeParam>(due)) << order << ", " << flag;
+            for (std::size_t k = 1; k < found.size(); ++k) ASSERT_EQ(found[k], 0) << order << ", " << k;
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, TwiceGivesTheInputBack) {
+    const double unit = std::ldexp(1.0, this->isSingle ? -24 : -53);
+    const std::pair<int, int> pairs[] = {
+        {DivBySqrtN, DivBySqrtN}, {NoDivByAny, DivFwdByN}, {NoDivByAny, DivInvByN}, {DivInvByN, NoDivByAny}};
+    for (int order = 1; order <= 13; ++order) {
+        const auto source = this->randomElements(order);
+        for (const auto& [first, second] : pairs) {
+            const auto twice = this->run(order, this->run(order, source, first), second);
+            for (std::size_t n = 0; n < source.size(); ++n) ASSERT_NEAR(twice[n], source[n], 40 * unit) << order;
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, FlagsOneAndTwoAreTheSameBits) {
+    for (int order = 1; order <= 13; ++order) {
+        const auto source = this->randomElements(order);
+        EXPECT_EQ(this->run(order, source, DivFwdByN), this->run(order, source, DivInvByN));
+    }
+}
+
+// Relative L2 error in units of the last place: 0.45 sqrt(n + 1) in double. In single, values are held in double inside
+// a block, so that only what the buffer takes and the result are rounded: once to three times. Order 1 is one sum of two
+// singles, half of which lie exactly between two singles: correct rounding itself gives 0.47 there.
+TYPED_TEST(WhtTest, IsAccurate) {
+    const Wide unit = std::ldexp(1.0L, this->isSingle ? -24 : -53);
+    for (int order = 1; order <= 13; ++order) {
+        Wide errors = 0, squares = 0;
+        for (int round = 0; round < std::max(4, 4000 >> order); ++round) {
+            const auto source = this->randomElements(order);
+            const Values due = walshHadamard({source.begin(), source.end()});
+            const auto found = this->run(order, source, NoDivByAny);
+            for (std::size_t k = 0; k < due.size(); ++k) {
+                errors += (found[k] - due[k]) * (found[k] - due[k]);
+                squares += due[k] * due[k];
+            }
+        }
+        const double error = static_cast<double>(std::sqrt(errors / squares) / unit);
+        const int roundings = order < 8 ? 1 : order < 12 ? 2 : 3;
+        const double bound = !this->isSingle ? 0.45 * std::sqrt(order + 1.0) : order == 1 ? 0.5 : 0.45 * std::sqrt(roundings);
+        EXPECT_LE(error, bound) << "order " << order;
+        this->RecordProperty("order" + std::to_string(order), std::to_string(error));
+    }
+}
+
+TYPED_TEST(WhtTest, SourceAndDestinationMayBeTheSame) {
+    for (int order = 1; order <= 13; ++order) {
+        for (int flag : allFlags) {
+            const auto source = this->randomElements(order);
+            auto both = source;
+            std::vector<TypeParam> buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
+            EXPECT_EQ(kernelOf<TypeParam>(order)(both.data(), both.data(), flag, buffer.data()), StatusOk);
+            EXPECT_EQ(both, this->run(order, source, flag)) << order;
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, DispatcherAndKernelGiveTheSameBits) {
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>("zulgWHT" + suffix<TypeParam>());
+    for (int order = 1; order <= 13; ++order) {
+        for (int flag : allFlags) {
+            const auto source = this->randomElements(order);
+            std::vector<TypeParam> found(source.size()), buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
+            EXPECT_EQ(dispatcher(source.data(), found.data(), order, flag, buffer.data()), StatusOk);
+            EXPECT_EQ(found, this->run(order, source, flag)) << order;
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, ReportsTheBufferOfEachOrder) {
+    const auto bufferSize = exported<BufferSize>("zulgWHTGetBufferSize" + suffix<TypeParam>());
+    const int sizes32[] = {0, 0, 0, 0, 0, 0, 0, 1024, 2048, 4096, 8192, 17408, 36864};
+    for (int order = 1; order <= 13; ++order) {
+        std::int32_t size = -1;
+        EXPECT_EQ(bufferSize(order, &size), StatusOk);
+        EXPECT_EQ(size, sizes32[order - 1] * (this->isSingle ? 1 : 2)) << order;
+    }
+}
+
+TYPED_TEST(WhtTest, RefusesAnOrderOutOfRangeBeforeAnythingElse) {
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>("zulgWHT" + suffix<TypeParam>());
+    const auto bufferSize = exported<BufferSize>("zulgWHTGetBufferSize" + suffix<TypeParam>());
+    TypeParam data[2] = {7, 7};
+    for (int order : {0, 14, -1, -13, 64, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        std::int32_t size = 77;
+        EXPECT_EQ(bufferSize(order, &size), StatusSizeError) << order;
+        EXPECT_EQ(size, 77) << order;
+        EXPECT_EQ(bufferSize(order, nullptr), StatusSizeError) << order;
+        EXPECT_EQ(dispatcher(data, data, order, NoDivByAny, nullptr), StatusSizeError) << order;
+        EXPECT_EQ(dispatcher(nullptr, nullptr, order, 3, nullptr), StatusSizeError) << order;
+    }
+    EXPECT_EQ(data[0], 7);
+}
+
+TYPED_TEST(WhtTest, ChecksPointersThenFlagAndAllocatesNothingOnFailure) {
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>("zulgWHT" + suffix<TypeParam>());
+    for (int order = 1; order <= 13; ++order) {
+        const auto kernel = kernelOf<TypeParam>(order);
+        auto data = this->randomElements(order);
+        const auto before = data;
+        for (int flag : {0, 3, 5, 16, -1, 8}) {
+            EXPECT_EQ(kernel(nullptr, data.data(), flag, nullptr), StatusNullPointer);
+            EXPECT_EQ(kernel(data.data(), nullptr, flag, nullptr), StatusNullPointer);
+            EXPECT_EQ(kernel(nullptr, nullptr, flag, nullptr), StatusNullPointer);
+            EXPECT_EQ(dispatcher(nullptr, data.data(), order, flag, nullptr), StatusNullPointer);
+            if (flag == 8) continue;
+            EXPECT_EQ(kernel(data.data(), data.data(), flag, nullptr), StatusFlagError) << flag;
+            EXPECT_EQ(dispatcher(data.data(), data.data(), order, flag, nullptr), StatusFlagError) << flag;
+        }
+        EXPECT_EQ(data, before);
+    }
+    EXPECT_EQ(this->core.allocations, 0);
+    EXPECT_EQ(this->core.releases, 0);
+}
+
+TYPED_TEST(WhtTest, AsksTheCoreLibraryForNothingWhenABufferIsGiven) {
+    for (int order = 1; order <= 13; ++order) this->run(order, this->randomElements(order), DivBySqrtN);
+    EXPECT_EQ(this->core.allocations, 0);
+    EXPECT_EQ(this->core.releases, 0);
+}
+
+TYPED_TEST(WhtTest, WithoutABufferTakesOneOfTheReportedSizeAndGivesItBack) {
+    const auto bufferSize = exported<BufferSize>("zulgWHTGetBufferSize" + suffix<TypeParam>());
+    for (int order = 1; order <= 13; ++order) {
+        this->core = {};
+        const auto source = this->randomElements(order);
+        std::vector<TypeParam> found(source.size());
+        EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, nullptr), StatusOk);
+        EXPECT_EQ(found, this->run(order, source, NoDivByAny)) << order;
+        const int calls = order < 8 ? 0 : 1;
+        EXPECT_EQ(this->core.allocations, calls) << order;
+        EXPECT_EQ(this->core.releases, calls) << order;
+        std::int32_t size = 0;
+        bufferSize(order, &size);
+        EXPECT_EQ(this->core.bytes, static_cast<std::uint32_t>(size)) << order;
+        EXPECT_EQ(this->core.block, this->core.released) << order;
+    }
+}
+
+// Arrays and buffer end at an inaccessible page, aligned to the element only; every element of the buffer is written.
+TYPED_TEST(WhtTest, StaysInsideItsArraysAndWritesTheWholeBuffer) {
+    for (int order = 1; order <= 13; ++order) {
+        const auto source = this->randomElements(order);
+        const std::size_t bytes = source.size() * sizeof(TypeParam);
+        const std::size_t bufferBytes = static_cast<std::size_t>(bufferElements(order)) * sizeof(TypeParam);
+        const GuardedPages from(bytes), to(bytes), buffer(bufferBytes);
+        for (bool rear : {false, true}) {
+            const auto place = [&](const GuardedPages& pages, std::size_t size) {
+                return reinterpret_cast<TypeParam*>(rear ? pages.atRear(size) : pages.atFront());
+            };
+            TypeParam* const pSrc = place(from, bytes);
+            std::memcpy(pSrc, source.data(), bytes);
+            std::memset(place(buffer, bufferBytes), 0xFF, bufferBytes);  // not-a-number throughout
+            EXPECT_EQ(kernelOf<TypeParam>(order)(pSrc, place(to, bytes), NoDivByAny, place(buffer, bufferBytes)),
+                      StatusOk);
+            EXPECT_EQ(std::memcmp(pSrc, source.data(), bytes), 0) << "the source was written";
+            const auto due = this->run(order, source, NoDivByAny);
+            EXPECT_EQ(std::memcmp(place(to, bytes), due.data(), bytes), 0) << order;
+            const auto* const used = place(buffer, bufferBytes);
+            for (int i = 0; i < bufferElements(order); ++i) ASSERT_FALSE(std::isnan(used[i])) << order << ", " << i;
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, ABufferNeedsNoAlignmentBeyondTheElement) {
+    for (int order = 8; order <= 13; ++order) {
+        const auto source = this->randomElements(order);
+        const auto due = this->run(order, source, NoDivByAny);
+        const auto elements = static_cast<std::size_t>(bufferElements(order));
+        std::vector<TypeParam> found(source.size());
+        alignas(64) static std::byte memory[73728 + 128];
+        for (std::size_t shift = 0; shift < 64; shift += sizeof(TypeParam)) {
+            ASSERT_LE(shift + elements * sizeof(TypeParam), sizeof memory);
+            auto* const buffer = reinterpret_cast<TypeParam*>(memory + shift);
+            EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, buffer), StatusOk);
+            EXPECT_EQ(found, due) << order << ", " << shift;
+        }
+    }
+}
+
+TYPED_TEST(WhtTest, SmallOrdersDoNotLookAtTheBuffer) {
+    for (int order = 1; order <= 7; ++order) {
+        const auto source = this->randomElements(order);
+        std::vector<TypeParam> found(source.size());
+        for (auto* buffer : {static_cast<TypeParam*>(nullptr), reinterpret_cast<TypeParam*>(std::uintptr_t{1})}) {
+            EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, buffer), StatusOk);
+            EXPECT_EQ(found, this->run(order, source, NoDivByAny));
+        }
+    }
+}
+
+int exitCodeOf(const char* program) {
+#ifdef _WIN32
+    return static_cast<int>(_spawnl(_P_WAIT, program, program, nullptr));
+#else
+    const int status = std::system(program);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+#endif
+}
+
+TEST(WhtAllocation, ARefusalFaultsInTheBufferThatWasNotGiven) {
+    EXPECT_EQ(exitCodeOf(ZULG_REFUSED_ALLOCATION), 42);
+}
+
+}  // namespace
+}  // namespace test

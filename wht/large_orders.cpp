@@ -1,0 +1,35 @@
+// Orders 8 to 13: passes of blocks through a buffer, the caller's or one for the time of the call.
+#include "frame/core_library.h"
+#include "wht/checks.h"
+#include "wht/passes.h"
+
+namespace zulg {
+
+// A refused allocation is not looked for: the family has no status for it, and a caller that wants no such risk passes
+// a buffer.
+template <int order, class Element>
+Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer) {
+    return whtChecked<order>(pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
+        constexpr std::uint32_t bytes = whtBufferElements(order) * sizeof(Element);
+        Element* const buffer = pBuffer != nullptr ? pBuffer : static_cast<Element*>(zulMalloc(bytes));
+        whtPasses<order, double>(pSrc, pDst, buffer, static_cast<double>(scale));
+        if (pBuffer == nullptr) zulFree(buffer);
+    });
+}
+
+// clang-format off
+template Status ZULG_CALL wht<8, float>(const float*, float*, std::int32_t, float*);
+template Status ZULG_CALL wht<9, float>(const float*, float*, std::int32_t, float*);
+template Status ZULG_CALL wht<10, float>(const float*, float*, std::int32_t, float*);
+template Status ZULG_CALL wht<11, float>(const float*, float*, std::int32_t, float*);
+template Status ZULG_CALL wht<12, float>(const float*, float*, std::int32_t, float*);
+template Status ZULG_CALL wht<13, float>(const float*, float*, std::int32_t, float*);
+template Status ZULG_CALL wht<8, double>(const double*, double*, std::int32_t, double*);
+template Status ZULG_CALL wht<9, double>(const double*, double*, std::int32_t, double*);
+template Status ZULG_CALL wht<10, double>(const double*, double*, std::int32_t, double*);
+template Status ZULG_CALL wht<11, double>(const double*, double*, std::int32_t, double*);
+template Status ZULG_CALL wht<12, double>(const double*, double*, std::int32_t, double*);
+template Status ZULG_CALL wht<13, double>(const double*, double*, std::int32_t, double*);
+// clang-format on
+
+}  // namespace zulg

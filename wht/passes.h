@@ -1,0 +1,117 @@
+// How the blocks of a large order go over its arrays. The element and the type that a block works in are arguments, so
+// that the very loops that ship can also be run on a type that counts.
+//
+//     orders 8 to 11   first pass: source to buffer, blocks of neighbours; second pass: buffer to destination, blocks at
+//                      a stride
+//     orders 12, 13    for each outer block the same two passes, from the source through the scratch area into the main
+//                      area; then a last pass over the whole main area
+//
+// The stages of the first pass have the lower strides, so that all stages together come in rising stride. Only the pass
+// that writes the destination scales. Between passes values are rounded to the element.
+#pragma once
+
+#include "frame/ports.h"
+#include "wht/bodies/wht_16.h"
+#include "wht/bodies/wht_32.h"
+#include "wht/bodies/wht_64.h"
+#include "wht/bodies/wht_8.h"
+#include "wht/wht.h"
+
+namespace zulg {
+
+// One block: point n is element n * stride, on both sides.
+template <class Element, class Working, int stride>
+struct WhtPorts {
+    using Value = Working;
+    using Place = typename InMemory<Element>::Type;
+
+    const Place* source;
+    Place* destination;
+
+    ZULG_INLINE Value in(int n) const { return source[n * stride]; }
+    ZULG_INLINE void out(int k, Value value) const { destination[k * stride] = static_cast<Element>(value); }
+};
+
+template <class Element, class Working, int stride>
+struct WhtScaledPorts : WhtPorts<Element, Working, stride> {
+    Working scale;
+
+    ZULG_INLINE void out(int k, Working value) const {
+        this->destination[k * stride] = static_cast<Element>(value * scale);
+    }
+};
+
+// `blocks` blocks of `points` neighbours each.
+template <int blocks, int points, class Working, class Element>
+ZULG_INLINE void passOfNeighbours(const Element* from, Element* to) {
+    for (int i = 0; i < blocks * points; i += points) {
+        WhtBlock<points>::run(WhtPorts<Element, Working, 1>{from + i, to + i});
+    }
+}
+
+// `stride` blocks of `points` each, `stride` elements apart.
+template <int stride, int points, class Working, class Element>
+ZULG_INLINE void passAtStride(const Element* from, Element* to) {
+    for (int j = 0; j < stride; ++j) WhtBlock<points>::run(WhtPorts<Element, Working, stride>{from + j, to + j});
+}
+
+template <int stride, int points, class Working, class Element>
+ZULG_INLINE void scaledPassAtStride(const Element* from, Element* to, Working scale) {
+    for (int j = 0; j < stride; ++j) {
+        WhtBlock<points>::run(WhtScaledPorts<Element, Working, stride>{{from + j, to + j}, scale});
+    }
+}
+
+// The points of the blocks of a two-pass order: 2^order is their product. An outer block of order 12 or 13 is passed as
+// a transform of order 8 or 10 is.
+template <int order>
+struct WhtSplit;
+template <>
+struct WhtSplit<8> {
+    static constexpr int first = 16, second = 16;
+};
+template <>
+struct WhtSplit<9> {
+    static constexpr int first = 16, second = 32;
+};
+template <>
+struct WhtSplit<10> {
+    static constexpr int first = 16, second = 64;
+};
+template <>
+struct WhtSplit<11> {
+    static constexpr int first = 64, second = 32;
+};
+
+template <int order>
+struct WhtOuter;
+template <>
+struct WhtOuter<12> {
+    static constexpr int innerOrder = 8, last = 16;
+};
+template <>
+struct WhtOuter<13> {
+    static constexpr int innerOrder = 10, last = 8;
+};
+
+template <int order, class Working, class Element>
+ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer, Working scale) {
+    if constexpr (order <= 11) {
+        using Split = WhtSplit<order>;
+        passOfNeighbours<Split::second, Split::first, Working>(pSrc, pBuffer);
+        scaledPassAtStride<Split::first, Split::second>(pBuffer, pDst, scale);
+    } else {
+        using Outer = WhtOuter<order>;
+        using Split = WhtSplit<Outer::innerOrder>;
+        constexpr int elements = 1 << order, outerElements = 1 << Outer::innerOrder;
+        static_assert(outerElements == whtScratchElements(order) && outerElements * Outer::last == elements);
+        Element* const scratch = pBuffer + elements;
+        for (int b = 0; b < elements; b += outerElements) {
+            passOfNeighbours<Split::second, Split::first, Working>(pSrc + b, scratch);
+            passAtStride<Split::first, Split::second, Working>(scratch, pBuffer + b);
+        }
+        scaledPassAtStride<outerElements, Outer::last>(pBuffer, pDst, scale);
+    }
+}
+
+}  // namespace zulg

@@ -1,0 +1,34 @@
+// The routines of the Walsh-Hadamard family behind the boundary.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/kernel.h"
+
+namespace zulg {
+
+constexpr int lowestOrder = 1, highestOrder = 13;
+
+template <class Element>
+using WhtRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
+
+template <class Element>
+using WhtDispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
+                                              Element* pBuffer);
+
+// 2^order points. Orders up to 7 do not look at pBuffer; from 8 on it is whtBufferElements(order) elements, or null.
+template <int order, class Element>
+Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
+
+template <class Element>
+Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
+                             Element* pBuffer);
+
+template <class Element>
+Status ZULG_CALL whtGetBufferSize(std::int32_t order, std::int32_t* pSize);
+
+// The main area holds all points; orders 12 and 13 have a scratch area of one outer block behind it.
+constexpr int whtScratchElements(int order) { return order == 12 ? 256 : order == 13 ? 1024 : 0; }
+constexpr int whtBufferElements(int order) { return order < 8 ? 0 : (1 << order) + whtScratchElements(order); }
+
+}  // namespace zulg

@@ -1,0 +1,30 @@
+// The five routines of the family behind its exports, for both element types.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/kernel.h"
+
+namespace zulg {
+
+struct DctPlan;
+
+// The bytes that Init needs. The size is written with StatusOk only; the pointer to it is not checked.
+template <class Element>
+Status ZULG_CALL dct4GetSize(std::int32_t length, std::int32_t* pSize);
+
+// Builds a plan in the caller's block, which must be as long as GetSize says. The plan is written with StatusOk only.
+template <class Element>
+Status ZULG_CALL dct4Init(DctPlan** pPlan, std::int32_t length, std::uint8_t* pBuffer);
+
+// The same in a block of the core library, for dct4Free to give back.
+template <class Element>
+Status ZULG_CALL dct4InitAlloc(DctPlan** pPlan, std::int32_t length);
+
+template <class Element>
+Status ZULG_CALL dct4Free(DctPlan* plan);
+
+template <class Element>
+Status ZULG_CALL dct4(const Element* pSrc, Element* pDst, DctPlan* plan);
+
+}  // namespace zulg

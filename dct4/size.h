@@ -1,0 +1,15 @@
+// The size of a plan, found by going through its build without building.
+#pragma once
+
+#include <cstdint>
+
+namespace zulg {
+
+// The bytes to ask for, or a negative number if the length is refused. `width` is that of an element in bytes.
+std::int32_t planBytes(std::int32_t length, std::int32_t width);
+
+// Of the two kinds of table; the build and the teardown ask too. `rows` and `radix` are those of the stage.
+std::int32_t outputTableBytes(std::int32_t rows, std::int32_t radix, std::int32_t width);
+std::int32_t combineTableBytes(std::int32_t rows, std::int32_t radix, std::int32_t width);
+
+}  // namespace zulg

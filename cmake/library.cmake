@@ -47,3 +47,15 @@ else()
     set(library_platform_sources frame/shared_library_elf.cpp frame/load_elf.cpp)
     set(library_file_prefix "lib")
 endif()
+
+# Sine and cosine, for the tables of the DCT-IV: the mathematics library, or the C runtime of Windows. The toolchain's
+# import library of that runtime leaves these two out in favour of code of its own.
+if(WIN32)
+    set(library_math ${CMAKE_BINARY_DIR}/libmsvcrt_math.a)
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/msvcrt_math.def CONTENT "LIBRARY msvcrt.dll\nEXPORTS\n    cos\n    sin\n")
+    execute_process(COMMAND ${CMAKE_DLLTOOL} -d ${CMAKE_BINARY_DIR}/msvcrt_math.def -l ${library_math}
+        COMMAND_ERROR_IS_FATAL ANY)
+else()
+    set(library_math m)
+endif()
+list(APPEND library_link_libraries ${library_math})

@@ -1,0 +1,84 @@
+#include "dct4/build.h"
+#include "dct4/dct4.h"
+#include "dct4/radix.h"
+#include "dct4/release.h"
+#include "dct4/run.h"
+#include "dct4/size.h"
+#include "frame/core_library.h"
+
+namespace zulg {
+
+namespace {
+
+// Returns the cursor to where it stood before the root was drawn, if the plan is a finished one.
+template <class Element>
+void takeDown(DctPlan& plan) {
+    releasePlan<Element>(plan.head);
+    arenaRelease(plan.head.arena, &plan, plan.head.size);
+}
+
+}  // namespace
+
+template <class Element>
+Status ZULG_CALL dct4GetSize(std::int32_t length, std::int32_t* pSize) {
+    const std::int32_t bytes = planBytes(length, sizeof(Element));
+    if (bytes < 0) return StatusSizeError;
+    *pSize = bytes;
+    return StatusOk;
+}
+
+template <class Element>
+Status ZULG_CALL dct4Init(DctPlan** pPlan, std::int32_t length, std::uint8_t* pBuffer) {
+    if (pPlan == nullptr || pBuffer == nullptr) return StatusNullPointer;
+    DctPlan* const plan = drawPlan(arenaInit(pBuffer), length, planType<Element>);
+    const Status status = buildPlan(plan->head, planType<Element>);
+    if (status != StatusOk) {
+        takeDown<Element>(*plan);
+        return status;
+    }
+    *pPlan = plan;
+    return StatusOk;
+}
+
+template <class Element>
+Status ZULG_CALL dct4InitAlloc(DctPlan** pPlan, std::int32_t length) {
+    if (pPlan == nullptr) return StatusNullPointer;
+    std::int32_t bytes;
+    Status status = dct4GetSize<Element>(length, &bytes);
+    if (status != StatusOk) return status;
+    // A refused block is Init's to report, and null is passed on to zulFree as it stands.
+    void* const block = zulMalloc(static_cast<std::uint32_t>(bytes));
+    status = dct4Init<Element>(pPlan, length, static_cast<std::uint8_t*>(block));
+    if (status != StatusOk) zulFree(block);
+    return status;
+}
+
+template <class Element>
+Status ZULG_CALL dct4Free(DctPlan* plan) {
+    if (plan == nullptr) return StatusNullPointer;
+    PlanArena* const arena = plan->head.arena;
+    takeDown<Element>(*plan);
+    zulFree(arena);
+    return StatusOk;
+}
+
+template <class Element>
+Status ZULG_CALL dct4(const Element* pSrc, Element* pDst, DctPlan* plan) {
+    if (pSrc == nullptr || pDst == nullptr || plan == nullptr) return StatusNullPointer;
+    if (plan->kind < 1 || plan->kind > compositePlan) return StatusPlanKindError;
+    runPlan<Element>(*plan, pSrc, pDst);
+    return StatusOk;
+}
+
+template Status ZULG_CALL dct4GetSize<float>(std::int32_t, std::int32_t*);
+template Status ZULG_CALL dct4GetSize<double>(std::int32_t, std::int32_t*);
+template Status ZULG_CALL dct4Init<float>(DctPlan**, std::int32_t, std::uint8_t*);
+template Status ZULG_CALL dct4Init<double>(DctPlan**, std::int32_t, std::uint8_t*);
+template Status ZULG_CALL dct4InitAlloc<float>(DctPlan**, std::int32_t);
+template Status ZULG_CALL dct4InitAlloc<double>(DctPlan**, std::int32_t);
+template Status ZULG_CALL dct4Free<float>(DctPlan*);
+template Status ZULG_CALL dct4Free<double>(DctPlan*);
+template Status ZULG_CALL dct4<float>(const float*, float*, DctPlan*);
+template Status ZULG_CALL dct4<double>(const double*, double*, DctPlan*);
+
+}  // namespace zulg

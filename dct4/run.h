@@ -1,0 +1,12 @@
+// Runs a finished plan.
+#pragma once
+
+#include "dct4/records.h"
+
+namespace zulg {
+
+// The plan's kind must be one of the six. Writes the plan's scratch vectors and nothing else of it.
+template <class Element>
+void runPlan(const DctPlan& plan, const Element* pSrc, Element* pDst);
+
+}  // namespace zulg

@@ -1,0 +1,126 @@
+// Every entry is the cosine or sine of pi times a fraction, by its own call of the mathematics library. In a plan of
+// single values the fraction itself is rounded to single first; that shows only where it is no short binary fraction,
+// at the lengths 2^k + 1. The tables lie in the order in which the passes read them.
+#include "dct4/tables.h"
+
+#include <cmath>
+
+#include "dct4/radix.h"
+#include "dct4/size.h"
+
+namespace zulg {
+
+namespace {
+
+constexpr double pi = 3.141592653589793;
+
+// Not inlined: the call passes the fraction through memory, which rounds it to the element where registers are wider.
+template <class Element>
+[[gnu::noinline]] Element cospi(Element x) {
+    return static_cast<Element>(std::cos(static_cast<double>(x) * pi));
+}
+
+template <class Element>
+[[gnu::noinline]] Element sinpi(Element x) {
+    return static_cast<Element>(std::sin(static_cast<double>(x) * pi));
+}
+
+// The input of an output body that has place `place` in its row. Even places rise, each is followed by its mirror; in
+// the body of radix 32, p = a + 4b + 16c rises with c first, then b, then a.
+std::int32_t inputAtPlace(std::int32_t place, std::int32_t radix) {
+    const std::int32_t i = place / 2;
+    const std::int32_t p = radix == 32 ? i % 2 * 16 + i / 2 % 4 * 4 + i / 8 : i;
+    return place % 2 == 0 ? p : radix - 1 - p;
+}
+
+template <class Element>
+Element* storePair(Element* at, double fraction) {
+    const auto x = static_cast<Element>(fraction);
+    at[0] = cospi<Element>(x);
+    at[1] = sinpi<Element>(x);
+    return at + 2;
+}
+
+double rowAngleOf(const CombineStage& stage, std::int32_t row) {
+    const RowAngleSource& source = *stage.source;
+    return source.head.init.as<RowAngleOperation>()(source, row, 0);
+}
+
+// For each row the twiddles of a DFT of `inner` points over t: 2tc/inner, c from 1 up.
+template <class Element>
+Element* storeInner(Element* at, const CombineStage& stage, std::int32_t inner) {
+    for (std::int32_t row = 0; row < stage.rows; ++row) {
+        const double t = rowAngleOf(stage, row);
+        for (std::int32_t c = 1; c < inner; ++c) at = storePair(at, 2.0 / inner * c * t);
+    }
+    return at;
+}
+
+// For each row and each of the sub-rows t + j, those of the outer DFT of 4 points: 2(t + j)c/radix, c from 1 to 3.
+template <class Element>
+Element* storeOuter(Element* at, const CombineStage& stage, std::int32_t inner) {
+    for (std::int32_t row = 0; row < stage.rows; ++row) {
+        const double t = rowAngleOf(stage, row);
+        for (std::int32_t j = 0; j < inner; ++j) {
+            for (std::int32_t c = 1; c < 4; ++c) at = storePair(at, 2.0 / stage.radix * c * (t + j));
+        }
+    }
+    return at;
+}
+
+}  // namespace
+
+template <class Element>
+double angleEntry(const AngleSource& source, std::int32_t row, std::int32_t index) {
+    const std::int32_t i = wrapSum(wrapProduct(source.rowStride, row), index);
+    const std::int32_t h = i / 2, q = h / source.radix, p = h % source.radix;
+    const std::int32_t a = wrapProduct(wrapSum(wrapProduct(4, q), 2), wrapSum(wrapProduct(2, p), 1));
+    const auto f = static_cast<Element>(static_cast<double>(a) / source.denominator);
+    return i % 2 != 0 ? sinpi<Element>(f) : cospi<Element>(f);
+}
+
+double rowAngle(const RowAngleSource& source, std::int32_t row, std::int32_t) {
+    return (row + 0.5) / (source.skewLength / source.radix);
+}
+
+template <class Element>
+void buildOutputTable(OutputStage& stage) {
+    auto at =
+        static_cast<Element*>(arenaAlloc(stage.head.arena, outputTableBytes(stage.rows, stage.radix, sizeof(Element))));
+    stage.table = at;
+    const AngleSource& source = *stage.source;
+    const auto entry = source.head.init.as<AngleOperation>();
+    for (std::int32_t row = 0; row < stage.rows; ++row) {
+        for (std::int32_t place = 0; place < stage.radix; ++place) {
+            const std::int32_t p = inputAtPlace(place, stage.radix);
+            *at++ = static_cast<Element>(entry(source, row, 2 * p));
+            *at++ = static_cast<Element>(entry(source, row, 2 * p + 1));
+        }
+    }
+}
+
+// Up to radix 8 one DFT, above it two levels: inner ones of a quarter of the radix, then outer ones of 4 points. The
+// combine bodies of radix 32 of the two element types read the two sections in opposite order.
+template <class Element>
+void buildCombineTable(CombineStage& stage) {
+    auto at = static_cast<Element*>(
+        arenaAlloc(stage.head.arena, combineTableBytes(stage.rows, stage.radix, sizeof(Element))));
+    stage.table = at;
+    const std::int32_t inner = stage.radix / 4;
+    if (stage.radix <= 8) {
+        storeInner(at, stage, stage.radix);
+    } else if (stage.radix == 32 && sizeof(Element) == sizeof(float)) {
+        storeInner(storeOuter(at, stage, inner), stage, inner);
+    } else {
+        storeOuter(storeInner(at, stage, inner), stage, inner);
+    }
+}
+
+template double angleEntry<float>(const AngleSource&, std::int32_t, std::int32_t);
+template double angleEntry<double>(const AngleSource&, std::int32_t, std::int32_t);
+template void buildOutputTable<float>(OutputStage&);
+template void buildOutputTable<double>(OutputStage&);
+template void buildCombineTable<float>(CombineStage&);
+template void buildCombineTable<double>(CombineStage&);
+
+}  // namespace zulg

@@ -2,23 +2,21 @@
 
 namespace zulg {
 
-namespace {
-
-struct RadixRule {
-    std::int32_t leastNumber, radix;
-};
-constexpr RadixRule rules[] = {{512, 32}, {128, 16}, {32, 8}, {16, 4}, {4, 2}};
-
-}  // namespace
-
 Status pickRadix(std::int32_t* pRadix, std::int32_t n) {
-    for (const RadixRule& rule : rules) {
-        if (n >= rule.leastNumber && n % rule.radix == 0) {
-            *pRadix = rule.radix;
-            return StatusOk;
-        }
+    if (n >= 512 && n % 32 == 0) {
+        *pRadix = 32;
+    } else if (n >= 128 && n % 16 == 0) {
+        *pRadix = 16;
+    } else if (n >= 32 && n % 8 == 0) {
+        *pRadix = 8;
+    } else if (n >= 16 && n % 4 == 0) {
+        *pRadix = 4;
+    } else if (n >= 4 && n % 2 == 0) {
+        *pRadix = 2;
+    } else {
+        return StatusSizeError;
     }
-    return StatusSizeError;
+    return StatusOk;
 }
 
 }  // namespace zulg

@@ -6,9 +6,10 @@ else()
     set(host_tools ON)
 endif()
 
-# Test programs of the other target carry their runtime with them: nothing is installed where they run.
+# Test programs of the other target carry their runtime with them: nothing is installed where they run. They may use
+# the upper half of the address space, where addresses are negative to those who take them as signed.
 if(WIN32)
-    set(test_link_flags -static)
+    set(test_link_flags -static -Wl,--large-address-aware)
 else()
     set(test_link_flags "")
 endif()

@@ -53,9 +53,10 @@ endif()
 if(WIN32)
     set(library_math ${CMAKE_BINARY_DIR}/libmsvcrt_math.a)
     file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/msvcrt_math.def CONTENT "LIBRARY msvcrt.dll\nEXPORTS\n    cos\n    sin\n")
-    execute_process(COMMAND ${CMAKE_DLLTOOL} -d ${CMAKE_BINARY_DIR}/msvcrt_math.def -l ${library_math}
-        COMMAND_ERROR_IS_FATAL ANY)
+    # By relative names: the members of an import library are named after its path.
+    execute_process(COMMAND ${CMAKE_DLLTOOL} -d msvcrt_math.def -l libmsvcrt_math.a
+        WORKING_DIRECTORY ${CMAKE_BINARY_DIR} COMMAND_ERROR_IS_FATAL ANY)
 else()
     set(library_math m)
 endif()
-list(APPEND library_link_libraries ${library_math})
+list(PREPEND library_link_libraries ${library_math})

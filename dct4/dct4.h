@@ -9,6 +9,12 @@ namespace zulg {
 
 struct DctPlan;
 
+template <class Element>
+using Dct4Routine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, DctPlan* plan);
+using Dct4InitRoutine = Status(ZULG_CALL*)(DctPlan** pPlan, std::int32_t length, std::uint8_t* pBuffer);
+using Dct4InitAllocRoutine = Status(ZULG_CALL*)(DctPlan** pPlan, std::int32_t length);
+using Dct4FreeRoutine = Status(ZULG_CALL*)(DctPlan* plan);
+
 // The bytes that Init needs. The size is written with StatusOk only; the pointer to it is not checked.
 template <class Element>
 Status ZULG_CALL dct4GetSize(std::int32_t length, std::int32_t* pSize);

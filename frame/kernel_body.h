@@ -84,11 +84,12 @@ Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
     if (pSrc == nullptr) return StatusNullPointer;
     if (pDst == nullptr) return StatusNullPointer;
 
-    return withScale<Parts<family>, Factor>(flag, [=](Element scale) __attribute__((always_inline)) {
-        const typename Parts<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
-        Graph::run(io);
-        io.finish();
-    });
+    return withScale<Parts<family>, Factor>(
+        flag, [=](Element scale) __attribute__((always_inline)) {
+            const typename Parts<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
+            Graph::run(io);
+            io.finish();
+        });
 }
 
 }  // namespace zulg

@@ -28,8 +28,8 @@ struct Scale {
     static constexpr Element inverseRoot = static_cast<Element>(Graph::inverseRoot);
 };
 
-// Calls run(scale) with the factor of the flag, or refuses the flag. The run is inside, so that the refusals of a kernel
-// stand before its arithmetic and no jump goes back to them.
+// Calls run(scale) with the factor of the flag, or refuses the flag. The run is inside, so that the refusals of a
+// kernel stand before its arithmetic and no jump goes back to them.
 template <class Flags, class Factor, class Run>
 ZULG_INLINE Status withScale(std::int32_t flag, const Run& run) {
     std::remove_const_t<decltype(Factor::one)> scale;

@@ -1,5 +1,6 @@
 // The slot table: the address of every exported routine but the version call. Slot index = export ordinal - 1.
 // Filled in when the library is built and never written; the entries of entries.S jump through it.
+#include "dct4/dct4.h"
 #include "frame/kernel.h"
 #include "wht/wht.h"
 
@@ -16,6 +17,11 @@ union Routine {
     WhtDispatchRoutine<float> whtDispatch32;
     WhtDispatchRoutine<double> whtDispatch64;
     SizeRoutine size;
+    Dct4Routine<float> dct432;
+    Dct4Routine<double> dct464;
+    Dct4InitRoutine dct4Init;
+    Dct4InitAllocRoutine dct4InitAlloc;
+    Dct4FreeRoutine dct4Free;
 
     constexpr Routine(KernelRoutine<float> routine) : kernel32(routine) {}
     constexpr Routine(KernelRoutine<double> routine) : kernel64(routine) {}
@@ -26,6 +32,11 @@ union Routine {
     constexpr Routine(WhtDispatchRoutine<float> routine) : whtDispatch32(routine) {}
     constexpr Routine(WhtDispatchRoutine<double> routine) : whtDispatch64(routine) {}
     constexpr Routine(SizeRoutine routine) : size(routine) {}
+    constexpr Routine(Dct4Routine<float> routine) : dct432(routine) {}
+    constexpr Routine(Dct4Routine<double> routine) : dct464(routine) {}
+    constexpr Routine(Dct4InitRoutine routine) : dct4Init(routine) {}
+    constexpr Routine(Dct4InitAllocRoutine routine) : dct4InitAlloc(routine) {}
+    constexpr Routine(Dct4FreeRoutine routine) : dct4Free(routine) {}
 };
 
 #define SLOT(name, routine, bytes) Routine(routine),

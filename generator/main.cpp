@@ -20,7 +20,8 @@ constexpr const char* usage =
     "       generate list FAMILY N    prints the graph itself, one node to a line\n"
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
-    "FAMILY: complex, real_forward, real_inverse, hartley, wht.  The tree is the working folder.\n";
+    "FAMILY: complex, real_forward, real_inverse, hartley, wht, dct4_fold, dct4_output, dct4_combine,\n"
+    "dct4_direct.  The tree is the working folder.\n";
 
 const gen::GraphEntry& find(const std::string& family, const std::string& length) {
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
@@ -109,8 +110,7 @@ int count() {
         const gen::Counts counts = graph->counts();
         std::cout << entry.name() << " | " << entry.recipe() << " | " << counts.additions << " | "
                   << counts.subtractions << " | "
-                  << counts.multiplications +
-                         (entry.family->isBody() ? 0 : static_cast<int>(graph->outputs().size()))
+                  << counts.multiplications + (entry.family->isBody() ? 0 : static_cast<int>(graph->outputs().size()))
                   << " | " << counts.negations << " | " << counts.constants << "\n";
     }
     return 0;

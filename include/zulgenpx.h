@@ -194,6 +194,52 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    Source: J. Hadamard (1893), J. L. Walsh (1923); the fast form: K. W. Henderson (1964), W. K. Pratt, J. Kane and
    H. C. Andrews (1969). */
 
+/* -- DCT-IV ----------------------------------------------------------------------------------------------------------
+
+   ****************************************************************************************************************
+   *  Before anything else:                                                                                       *
+   *  - Lengths are powers of two: 2, 4, 8 ...                                                                    *
+   *  - The lengths 2^k + 1 from 9 on are accepted too, by accident of the interface. They must not be used: they *
+   *    read and write one element past the arrays, leave others unwritten, and compute nothing of use.           *
+   *  - 2^27 points in 32f and 2^26 in 64f are the last whose size does not wrap around. Larger ones that are     *
+   *    accepted report a size that is far too small.                                                             *
+   *  - Align the block of a plan to 32 bytes, and never move or copy it: a plan refers to its own addresses.     *
+   *  - Free is for plans of InitAlloc only. A plan of Init needs no freeing: stop using the block.               *
+   *  - A plan of more than 32 points serves one thread at a time: each run writes vectors inside the plan.       *
+   ****************************************************************************************************************
+
+     zulgDCT4_32f           y[k] = sum over n of x[n] cos(pi (n + 1/2)(k + 1/2)/N)   k = 0 .. N-1; no scale, no flag
+     zulgDCT4GetSize_32f    bytes of the plan of a length
+     zulgDCT4Init_32f       builds a plan in the caller's block of that many bytes
+     zulgDCT4InitAlloc_32f  builds a plan in a block of the core library
+     zulgDCT4Free_32f       gives a plan of InitAlloc back
+     and the same with _64f
+
+   pSrc    N reals, read only
+   pDst    N reals, all of them written; may equal pSrc, no other overlap
+   plan    of that length and that element type; may be run any number of times
+
+   Twice gives N/2 times the input. Sizes are the same on every target:
+
+     N         2 to 32    64   128   256   512   1024   2048   4096   8192   16384   32768    65536
+     32f           224  1184  1696  2720  4768   8864  17056  35072  68864  136384  271552   541760
+     64f           224  1696  2720  4768  8864  17056  33440  68800 136384  271424  541760  1082176
+
+   GetSize    StatusSizeError for a length that is not accepted; *pSize then as it was
+   Init       StatusNullPointer, StatusSizeError; *pPlan then as it was. A length that GetSize refuses may be built in
+              part before it is refused here
+   InitAlloc  the same, and StatusNullPointer where the core library has no memory
+   Free       StatusNullPointer
+   DCT4       StatusNullPointer, StatusPlanKindError if the plan is of no known kind; the destination is then untouched
+
+   Accuracy, as the root of summed squared errors over summed squared results: 64f below 1.8 (16 points), 2.8 (1024) and
+   3.6 (65536) times 2^-53; 32f below 1.0, 1.6 and 1.9 times 2^-24, as values are held in double inside a pass.
+
+   Source: fold and skew transforms, decimated in time: P. Duhamel and H. Hollmann (1984), M. Vetterli and
+   H. J. Nussbaumer (1984); docs/constructions.md. */
+typedef struct ZulgDCT4Plan_32f ZulgDCT4Plan_32f;
+typedef struct ZulgDCT4Plan_64f ZulgDCT4Plan_64f;
+
 /* -- All routines, one to a line ------------------------------------------------------------------------------------ */
 #include "zulgenpx_routines.h"
 

@@ -1,5 +1,15 @@
 /* Written by `generate write`; do not edit. The rule: generator/output/catalogue.cpp.
    The routines of the library, one to a line. Included by zulgenpx.h, which tells what each family does. */
+ZulgStatus ZULG_CALL zulgDCT4Free_32f(ZulgDCT4Plan_32f* plan);
+ZulgStatus ZULG_CALL zulgDCT4Free_64f(ZulgDCT4Plan_64f* plan);
+ZulgStatus ZULG_CALL zulgDCT4GetSize_32f(int32_t length, int32_t* pSize);
+ZulgStatus ZULG_CALL zulgDCT4GetSize_64f(int32_t length, int32_t* pSize);
+ZulgStatus ZULG_CALL zulgDCT4InitAlloc_32f(ZulgDCT4Plan_32f** pPlan, int32_t length);
+ZulgStatus ZULG_CALL zulgDCT4InitAlloc_64f(ZulgDCT4Plan_64f** pPlan, int32_t length);
+ZulgStatus ZULG_CALL zulgDCT4Init_32f(ZulgDCT4Plan_32f** pPlan, int32_t length, uint8_t* pBuffer);
+ZulgStatus ZULG_CALL zulgDCT4Init_64f(ZulgDCT4Plan_64f** pPlan, int32_t length, uint8_t* pBuffer);
+ZulgStatus ZULG_CALL zulgDCT4_32f(const Zulg32f* pSrc, Zulg32f* pDst, ZulgDCT4Plan_32f* plan);
+ZulgStatus ZULG_CALL zulgDCT4_64f(const Zulg64f* pSrc, Zulg64f* pDst, ZulgDCT4Plan_64f* plan);
 ZulgStatus ZULG_CALL zulgDFTFwd_CToC_10_32fc(const Zulg32fc* pSrc, Zulg32fc* pDst, int32_t flag);
 ZulgStatus ZULG_CALL zulgDFTFwd_CToC_10_64fc(const Zulg64fc* pSrc, Zulg64fc* pDst, int32_t flag);
 ZulgStatus ZULG_CALL zulgDFTFwd_CToC_11_32fc(const Zulg32fc* pSrc, Zulg32fc* pDst, int32_t flag);

@@ -24,7 +24,9 @@ struct Counted {
 };
 
 inline Counted operator+(Counted a, Counted b) { return ++operationCounts.additions, Counted::of(a.value + b.value); }
-inline Counted operator-(Counted a, Counted b) { return ++operationCounts.subtractions, Counted::of(a.value - b.value); }
+inline Counted operator-(Counted a, Counted b) {
+    return ++operationCounts.subtractions, Counted::of(a.value - b.value);
+}
 inline Counted operator*(Counted a, Counted b) {
     return ++operationCounts.multiplications, Counted::of(a.value * b.value);
 }

@@ -15,9 +15,9 @@ namespace {
 FakeCore* load() {
 #ifdef _WIN32
     const HMODULE core = LoadLibraryA(ZULG_FAKE_CORE);
-    const auto call = core ? reinterpret_cast<FakeCore*(__stdcall*)()>(
-                                 reinterpret_cast<void*>(GetProcAddress(core, "fakeCore")))
-                           : nullptr;
+    const auto call =
+        core ? reinterpret_cast<FakeCore*(__stdcall*)()>(reinterpret_cast<void*>(GetProcAddress(core, "fakeCore")))
+             : nullptr;
 #else
     void* const core = dlopen(ZULG_FAKE_CORE, RTLD_NOW | RTLD_GLOBAL);
     const auto call = core ? reinterpret_cast<FakeCore* (*)()>(dlsym(core, "fakeCore")) : nullptr;

@@ -13,11 +13,13 @@ constexpr auto orders = std::make_integer_sequence<int, highestOrder - lowestOrd
 template <class Element>
 constexpr auto kernelTable = []<int... index>(std::integer_sequence<int, index...>) {
     return std::array<WhtRoutine<Element>, sizeof...(index)>{&wht<lowestOrder + index, Element>...};
-}(orders);
+}
+(orders);
 
 constexpr auto bufferTable = []<int... index>(std::integer_sequence<int, index...>) {
     return std::array{whtBufferElements(lowestOrder + index)...};
-}(orders);
+}
+(orders);
 
 // An order below the lowest becomes a number above the highest.
 std::uint32_t indexOf(std::int32_t order) { return static_cast<std::uint32_t>(order) - lowestOrder; }

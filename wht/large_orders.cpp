@@ -9,12 +9,13 @@ namespace zulg {
 // a buffer.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer) {
-    return whtChecked<order>(pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-        constexpr std::uint32_t bytes = whtBufferElements(order) * sizeof(Element);
-        Element* const buffer = pBuffer != nullptr ? pBuffer : static_cast<Element*>(zulMalloc(bytes));
-        whtPasses<order, double>(pSrc, pDst, buffer, static_cast<double>(scale));
-        if (pBuffer == nullptr) zulFree(buffer);
-    });
+    return whtChecked<order>(
+        pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
+            constexpr std::uint32_t bytes = whtBufferElements(order) * sizeof(Element);
+            Element* const buffer = pBuffer != nullptr ? pBuffer : static_cast<Element*>(zulMalloc(bytes));
+            whtPasses<order, double>(pSrc, pDst, buffer, static_cast<double>(scale));
+            if (pBuffer == nullptr) zulFree(buffer);
+        });
 }
 
 // clang-format off

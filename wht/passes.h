@@ -1,7 +1,8 @@
 // How the blocks of a large order go over its arrays. The element and the type that a block works in are arguments, so
 // that the very loops that ship can also be run on a type that counts.
 //
-//     orders 8 to 11   first pass: source to buffer, blocks of neighbours; second pass: buffer to destination, blocks at
+//     orders 8 to 11   first pass: source to buffer, blocks of neighbours; second pass: buffer to destination, blocks
+//     at
 //                      a stride
 //     orders 12, 13    for each outer block the same two passes, from the source through the scratch area into the main
 //                      area; then a last pass over the whole main area

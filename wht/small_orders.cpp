@@ -14,9 +14,10 @@ namespace zulg {
 // The buffer is part of the signature of all orders and is not looked at here.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element*) {
-    return whtChecked<order>(pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-        WhtBlock<1 << order>::run(RealPorts<Element>{{pSrc, pDst, scale}});
-    });
+    return whtChecked<order>(
+        pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
+            WhtBlock<1 << order>::run(RealPorts<Element>{{pSrc, pDst, scale}});
+        });
 }
 
 // clang-format off

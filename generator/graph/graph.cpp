@@ -57,8 +57,12 @@ Value Graph::product(const Coefficient& factor, Value x) {
     return {this, insert(Kind::Mul, x.node, constant(factor)), x.minus != (factor.value < 0)};
 }
 
-Value Graph::product(Value a, Value b) {
-    return {this, insert(Kind::Product, a.node, b.node), a.minus != b.minus};
+Value Graph::product(Value a, Value b) { return {this, insert(Kind::Product, a.node, b.node), a.minus != b.minus}; }
+
+Value Graph::withoutMinus(Value x) {
+    const Node node = allNodes[static_cast<std::size_t>(x.node)];
+    if (!x.minus || node.kind != Kind::Sub) return x;
+    return {this, insert(Kind::Sub, node.b, node.a), false};
 }
 
 Value Graph::copy(const Graph& other, const Node& node, const std::vector<Value>& copies) {

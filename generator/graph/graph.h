@@ -73,6 +73,10 @@ public:
     Value product(const Coefficient& factor, Value x);
     Value product(Value a, Value b);
 
+    // Minus a difference, as the difference the other way round; any other value as it is. The step that stood for the
+    // value dies unless something else uses it.
+    Value withoutMinus(Value x);
+
     // Gives the output at `place` its value. Outputs keep the order in which they are stored.
     void store(int place, Value value) { allOutputs.push_back({place, value.node, value.minus}); }
 

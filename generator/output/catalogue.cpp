@@ -5,6 +5,7 @@
 #include "graph/merge.h"
 #include "graph/turn.h"
 #include "rules/blocks.h"
+#include "rules/dct4_bodies.h"
 #include "rules/hartley.h"
 #include "rules/tables.h"
 #include "rules/wht.h"
@@ -70,13 +71,55 @@ RealSignal loadReals(Graph& graph, int first, int count) {
     return x;
 }
 
+Signal loadPairs(Graph& graph, int first, int count) {
+    Signal x;
+    for (int n = 0; n < count; ++n) x.push_back({graph.load(first + 2 * n), graph.load(first + 2 * n + 1)});
+    return x;
+}
+
 void storeReals(Graph& graph, const RealSignal& y) {
     for (std::size_t k = 0; k < y.size(); ++k) graph.store(static_cast<int>(k), y[k]);
+}
+
+void storePairs(Graph& graph, const Signal& y) {
+    for (std::size_t k = 0; k < y.size(); ++k) {
+        graph.store(static_cast<int>(2 * k), graph.withoutMinus(y[k].re));
+        graph.store(static_cast<int>(2 * k + 1), graph.withoutMinus(y[k].im));
+    }
 }
 
 std::unique_ptr<Graph> buildWht(int length) {
     auto graph = std::make_unique<Graph>();
     storeReals(*graph, walshHadamard(loadReals(*graph, 0, length)));
+    return graph;
+}
+
+std::unique_ptr<Graph> buildDct4Fold(int length) {
+    auto graph = std::make_unique<Graph>();
+    storePairs(*graph, dct4Fold(loadReals(*graph, 0, length)));
+    return graph;
+}
+
+std::unique_ptr<Graph> buildDct4Output(int radix) {
+    auto graph = std::make_unique<Graph>();
+    const Signal z = loadPairs(*graph, 0, radix);
+    storeReals(*graph, dct4Output(z, loadPairs(*graph, 2 * radix, radix)));
+    return graph;
+}
+
+// Twiddles of a row of a combine pass.
+int combineTwiddles(int radix) { return radix > 8 ? radix / 4 - 1 + radix / 4 * 3 : radix - 1; }
+
+std::unique_ptr<Graph> buildDct4Combine(int radix) {
+    auto graph = std::make_unique<Graph>();
+    const Signal d = loadPairs(*graph, 0, radix);
+    storePairs(*graph, dct4Combine(d, loadPairs(*graph, 2 * radix, combineTwiddles(radix))));
+    return graph;
+}
+
+std::unique_ptr<Graph> buildDct4Direct(int length) {
+    auto graph = std::make_unique<Graph>();
+    storeReals(*graph, dct4Direct(loadReals(*graph, 0, length)));
     return graph;
 }
 
@@ -90,6 +133,24 @@ Port complexPort(int index) {
 Port realInput(int, int index) { return realPort("in", index); }
 Port realOutput(int, int index) { return realPort("out", index); }
 Port complexPlace(int, int index) { return complexPort(index); }
+
+// A row's bins, then the entries of its table; of a combine row with two steps, those of the inner and of the outer
+// one.
+Port tablePort(const std::string& port, const std::string& letter, int index) {
+    return {letter + std::to_string(index), port, index};
+}
+Port outputRowInput(int radix, int index) {
+    return index < 2 * radix ? complexPort(index) : tablePort("table", "w", index - 2 * radix);
+}
+Port outputRowOutput(int radix, int index) {
+    return index < radix ? Port{"", "rising", index} : Port{"", "falling", index - radix};
+}
+Port combineRowInput(int radix, int index) {
+    if (index < 2 * radix) return complexPort(index);
+    const int entry = index - 2 * radix, innerEntries = 2 * (radix / 4 - 1);
+    if (radix <= 8) return tablePort("table", "w", entry);
+    return entry < innerEntries ? tablePort("inner", "w", entry) : tablePort("outer", "u", entry - innerEntries);
+}
 
 std::vector<int> everyLength() {
     std::vector<int> lengths;
@@ -174,6 +235,69 @@ const std::vector<GraphFamily> families = {
      .lengths = [] { return powersOfTwo(2, 128); },
      .recipe = [](int) { return std::string("stages in rising stride"); },
      .build = buildWht},
+    {.word = "dct4_fold",
+     .graphTemplate = "Dct4Fold",
+     .folder = "dct4/bodies",
+     .filePrefix = "fold_",
+     .rule = "generator/rules/dct4_bodies.cpp",
+     .title = "Skew transform of %d folded points",
+     .exported = {},
+     .suffixTail = "",
+     .input = realInput,
+     .output = complexPlace,
+     .allowsNegation = true,  // the two points of length 2 are its outputs
+     .lengths = [] { return powersOfTwo(2, 64); },
+     .recipe = [](int) { return std::string("decimation in time"); },
+     .build = buildDct4Fold},
+    {.word = "dct4_output",
+     .graphTemplate = "Dct4Output",
+     .folder = "dct4/bodies",
+     .filePrefix = "output_",
+     .rule = "generator/rules/dct4_bodies.cpp",
+     .title = "Output row of radix %d",
+     .exported = {},
+     .suffixTail = "",
+     .input = outputRowInput,
+     .output = outputRowOutput,
+     .allowsNegation = false,
+     .lengths = [] { return powersOfTwo(1, 32); },
+     .recipe = [](int) { return std::string("rotations by the table, then a mirrored skew transform"); },
+     .build = buildDct4Output},
+    {.word = "dct4_combine",
+     .graphTemplate = "Dct4Combine",
+     .folder = "dct4/bodies",
+     .filePrefix = "combine_",
+     .rule = "generator/rules/dct4_bodies.cpp",
+     .title = "Combine row of radix %d",
+     .exported = {},
+     .suffixTail = "",
+     .input = combineRowInput,
+     .output = complexPlace,
+     .allowsNegation = false,
+     .lengths = [] { return powersOfTwo(2, 32); },
+     .recipe =
+         [](int radix) {
+             if (radix <= 8) return std::string("rotations by the table, then a DFT");
+             return "rotations and DFTs of " + std::to_string(radix / 4) + ", then of 4";
+         },
+     .build = buildDct4Combine},
+    {.word = "dct4_direct",
+     .graphTemplate = "Dct4Direct",
+     .folder = "dct4/bodies",
+     .filePrefix = "direct_",
+     .rule = "generator/rules/dct4_bodies.cpp",
+     .title = "DCT-IV of %d points",
+     .exported = {},
+     .suffixTail = "",
+     .input = realInput,
+     .output = realOutput,
+     .allowsNegation = false,
+     .lengths = [] { return powersOfTwo(2, 32); },
+     .recipe =
+         [](int length) {
+             return std::string(length == 2 ? "one rotation" : length == 4 ? "rotations by lifting" : "two passes");
+         },
+     .build = buildDct4Direct},
 };
 
 struct Width {
@@ -218,7 +342,8 @@ void addDispatchers(const GraphFamily& graphs, std::vector<Export>& exports) {
 // Walsh-Hadamard: a kernel for each order, the dispatcher, the size of the buffer.
 void addWht(std::vector<Export>& exports) {
     for (const Width& width : widths) {
-        const std::string suffix = std::string("_") + width.digits + "f", type = std::string("Zulg") + width.digits + "f";
+        const std::string suffix = std::string("_") + width.digits + "f",
+                          type = std::string("Zulg") + width.digits + "f";
         const std::string element = std::string("<") + width.element + ">";
         const std::string arrays = "const " + type + "* pSrc, " + type + "* pDst, ";
         for (int order = 1; order <= 13; ++order) {
@@ -230,6 +355,23 @@ void addWht(std::vector<Export>& exports) {
                            arrays + "int32_t order, int32_t flag, " + type + "* pBuffer"});
         exports.push_back(
             {"zulgWHTGetBufferSize" + suffix, "whtGetBufferSize" + element, 8, "int32_t order, int32_t* pSize"});
+    }
+}
+
+// DCT-IV: the transform through a plan, and the life of a plan.
+void addDct4(std::vector<Export>& exports) {
+    for (const Width& width : widths) {
+        const std::string suffix = std::string("_") + width.digits + "f",
+                          type = std::string("Zulg") + width.digits + "f";
+        const std::string element = std::string("<") + width.element + ">", plan = "ZulgDCT4Plan" + suffix + "*";
+        exports.push_back({"zulgDCT4" + suffix, "dct4" + element, 12,
+                           "const " + type + "* pSrc, " + type + "* pDst, " + plan + " plan"});
+        exports.push_back({"zulgDCT4Free" + suffix, "dct4Free" + element, 4, plan + " plan"});
+        exports.push_back({"zulgDCT4GetSize" + suffix, "dct4GetSize" + element, 8, "int32_t length, int32_t* pSize"});
+        exports.push_back(
+            {"zulgDCT4Init" + suffix, "dct4Init" + element, 12, plan + "* pPlan, int32_t length, uint8_t* pBuffer"});
+        exports.push_back(
+            {"zulgDCT4InitAlloc" + suffix, "dct4InitAlloc" + element, 8, plan + "* pPlan, int32_t length"});
     }
 }
 
@@ -254,6 +396,7 @@ std::vector<Export> allExports() {
     for (const GraphEntry& graph : allGraphs()) addKernels(graph, exports);
     for (const GraphFamily& family : families) addDispatchers(family, exports);
     addWht(exports);
+    addDct4(exports);
     std::ranges::sort(exports, {}, &Export::name);
     return exports;
 }

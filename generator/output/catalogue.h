@@ -18,16 +18,16 @@ struct Port {
 // One family of graphs, one for each length. Either each is seen through the kernels of several exported families, or
 // it is a body: a text that hand-written loops include and run through ports of their own.
 struct GraphFamily {
-    std::string word;                         // "complex", as the command line and the tables say it
-    std::string graphTemplate;                // "ComplexGraph"
-    std::string folder, filePrefix;           // of <folder>/<filePrefix><length>.cpp, or .h for a body
-    std::string rule;                         // the file in which to change it
-    std::string title;                        // "Complex DFT of %d points", the length in place of %d
-    std::vector<std::string> exported;        // "DFTFwd_CToC", ...; none for a body
-    std::string suffixTail;                   // of the element suffix: "fc" for complex elements, "f" for real ones
-    Port (*input)(int length, int index);     // where the graph's inputs
-    Port (*output)(int length, int index);    // and outputs are
-    bool allowsNegation;                      // whether an output may be stored with its sign turned
+    std::string word;                       // "complex", as the command line and the tables say it
+    std::string graphTemplate;              // "ComplexGraph"
+    std::string folder, filePrefix;         // of <folder>/<filePrefix><length>.cpp, or .h for a body
+    std::string rule;                       // the file in which to change it
+    std::string title;                      // "Complex DFT of %d points", the length in place of %d
+    std::vector<std::string> exported;      // "DFTFwd_CToC", ...; none for a body
+    std::string suffixTail;                 // of the element suffix: "fc" for complex elements, "f" for real ones
+    Port (*input)(int length, int index);   // where the graph's inputs
+    Port (*output)(int length, int index);  // and outputs are
+    bool allowsNegation;                    // whether an output may be stored with its sign turned
 
     std::vector<int> (*lengths)();
     std::string (*recipe)(int length);

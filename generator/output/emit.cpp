@@ -110,7 +110,7 @@ std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedul
         const Step& step = schedule.steps[i];
         if (const int next = titleAt(graph, schedule.steps, i); next >= 0 && next != title) {
             title = next;
-            text += "        // " + graph.title(title) + "\n";
+            if (!graph.title(title).empty()) text += "        // " + graph.title(title) + "\n";
         }
         text += "        ";
         if (step.kind == Step::Kind::Store) {
@@ -151,8 +151,8 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
     const std::string constants = constantsText(graph, names, family.isBody());
     std::string text = headText(entry, graph, schedule);
     if (family.isBody()) {
-        text += "#pragma once\n\n#include \"" + family.folder + ".h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
-                " {\n";
+        text += "#pragma once\n\n#include \"" + family.folder + ".h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " +
+                name + " {\n";
     } else {
         text += "#include \"frame/kernel_body.h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
                 " {\n    static constexpr double inverseRoot = " + literal(storedInverseRoot(entry.length)) +

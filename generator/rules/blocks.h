@@ -31,8 +31,12 @@ RealSignal spectrumBlock(const HalfSpectrum& bins, int a, const Recipe& recipe);
 // d = 0 .. ceil(L/2) - 1. The last one of odd L is real: its imaginary part is not set. a is odd.
 Signal skewBlock(const RealSignal& v, int a);
 
+// The splits of a mirrored skew block, outermost first, where they are not to be those of the tables: a length L is
+// split into so many parts, and each of them by the rest of the list. The last parts have 4 points.
+using Splits = std::vector<int>;
+
 // The mirror, the odd-frequency form: out[m] = sum over d of the real part of E[d] W_(2L)^(-a m (2d + 1)), m = 0 .. L
 // - 1. Bins come doubled, but for the real last one of odd L.
-RealSignal mirroredSkewBlock(const Signal& bins, int length, int a);
+RealSignal mirroredSkewBlock(const Signal& bins, int length, int a, const Splits& splits = {});
 
 }  // namespace gen

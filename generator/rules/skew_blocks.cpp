@@ -128,7 +128,7 @@ RealSignal mirroredOdd(const Signal& bins, int length) {
 // L = r s: the frequency k0 + 2 r e belongs to row k0 at place e. Each odd k0 < r takes an inverse complex block of s
 // and the twiddles of 2L, the row r of odd r the mirror of length s; then, for each place b, the mirror of length r
 // over the rows gives out[s m + b].
-RealSignal mirroredSplit(const Signal& bins, int r, int s) {
+RealSignal mirroredSplit(const Signal& bins, int r, int s, const Splits& inner) {
     const int length = r * s;
     std::vector<Signal> columns(static_cast<size_t>(s));
     for (int k0 = 1; k0 < r; k0 += 2) {
@@ -148,7 +148,7 @@ RealSignal mirroredSplit(const Signal& bins, int r, int s) {
     }
     RealSignal out(static_cast<size_t>(length));
     for (int b = 0; b < s; ++b) {
-        const RealSignal values = mirroredSkewBlock(columns[static_cast<size_t>(b)], r, 1);
+        const RealSignal values = mirroredSkewBlock(columns[static_cast<size_t>(b)], r, 1, inner);
         for (int m = 0; m < r; ++m) out[static_cast<size_t>(s * m + b)] = values[static_cast<size_t>(m)];
     }
     return out;
@@ -163,12 +163,15 @@ Signal plainSkew(const RealSignal& v, int a) {
     return skewSplit(v, split.r, split.s);
 }
 
-RealSignal plainMirror(const Signal& bins, int length) {
+RealSignal plainMirror(const Signal& bins, int length, const Splits& splits) {
     if (length == 2) return mirroredTwo(bins);
     if (length == 4) return mirroredFour(bins);
     if (length % 2 == 1) return mirroredOdd(bins, length);
+    if (!splits.empty()) {
+        return mirroredSplit(bins, length / splits[0], splits[0], Splits(splits.begin() + 1, splits.end()));
+    }
     const OddSplit split = oddSplit(length, false);
-    return mirroredSplit(bins, split.r, split.s);
+    return mirroredSplit(bins, split.r, split.s, {});
 }
 
 }  // namespace
@@ -183,11 +186,11 @@ Signal skewBlock(const RealSignal& v, int a) {
     return rotated;
 }
 
-RealSignal mirroredSkewBlock(const Signal& bins, int length, int a) {
+RealSignal mirroredSkewBlock(const Signal& bins, int length, int a, const Splits& splits) {
     const Titled title(*bins[0].re.graph, blockTitle("mirrored skew", length, a));
     Signal plain = bins;
     for (int d = 0; d < length / 2; ++d) setFrequency(plain, a * (2 * d + 1), length, bins[static_cast<size_t>(d)]);
-    return plainMirror(plain, length);
+    return plainMirror(plain, length, splits);
 }
 
 }  // namespace gen

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <cmath>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -111,6 +112,144 @@ TEST(Bodies, OfTheWalshHadamardTransformComputeItsDefinition) {
             EXPECT_NEAR(static_cast<double>(sample.y[static_cast<std::size_t>(k)] - due), 0, 1e-16) << points;
         }
     }
+}
+
+// A complex number of a list of pairs, and sums of such.
+struct Number {
+    Wide re = 0, im = 0;
+};
+Number at(const Values& pairs, int index) {
+    return {pairs[static_cast<std::size_t>(2 * index)], pairs[static_cast<std::size_t>(2 * index + 1)]};
+}
+Number operator+(Number a, Number b) { return {a.re + b.re, a.im + b.im}; }
+Number operator*(Number a, Number b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+// exp(2 pi i k/n).
+Number root(int k, int n) { return {cosTurn(k, n), sinTurn(k, n)}; }
+
+void expectNear(Number found, Number due, const std::string& where) {
+    EXPECT_NEAR(static_cast<double>(found.re - due.re), 0, 2e-17 * 64) << where;
+    EXPECT_NEAR(static_cast<double>(found.im - due.im), 0, 2e-17 * 64) << where;
+}
+
+TEST(Bodies, FoldsComputeTheSkewTransform) {
+    for (int M = 2; M <= 64; M *= 2) {
+        const Sample sample = sampleOf("dct4_fold", M);
+        for (int k = 0; k < M / 2; ++k) {
+            Number due;
+            for (int s = 0; s < M; ++s) {
+                const Wide x = sample.x[static_cast<std::size_t>(s)];
+                due = due + Number{s < M / 2 ? x : -x, 0} * root(s * (2 * k + 1), 2 * M);
+            }
+            expectNear(at(sample.y, k), due, "fold " + std::to_string(M));
+        }
+    }
+}
+
+// The order of p in a row of the table, as the plan fills it.
+std::vector<int> outputOrder(int radix) {
+    switch (radix) {
+        case 1: return {0};
+        case 2: return {0, 1};
+        case 4: return {0, 3, 1, 2};
+        case 8: return {0, 7, 1, 6, 2, 5, 3, 4};
+        case 16: return {0, 15, 1, 14, 2, 13, 3, 12, 4, 11, 5, 10, 6, 9, 7, 8};
+        default:
+            return {0, 31, 16, 15, 4, 27, 20, 11, 8, 23, 24, 7, 12, 19, 28, 3,
+                    1, 30, 17, 14, 5, 26, 21, 10, 9, 22, 25, 6, 13, 18, 29, 2};
+    }
+}
+
+TEST(Bodies, OutputRowsComputeTheSecondPass) {
+    for (int r = 1; r <= 32; r *= 2) {
+        const Sample sample = sampleOf("dct4_output", r);
+        const Values table(sample.x.begin() + 2 * r, sample.x.end());
+        const std::vector<int> order = outputOrder(r);
+        for (int b = 0; b < r; ++b) {
+            Wide rising = 0, falling = 0;
+            for (int place = 0; place < r; ++place) {
+                const int p = order[static_cast<std::size_t>(place)];
+                const Number w = at(sample.x, p) * at(table, place) * root((2 * p + 1) * b, 4 * r);
+                rising += w.re;
+                falling += p % 2 == 0 ? w.im : -w.im;
+            }
+            EXPECT_NEAR(static_cast<double>(sample.y[static_cast<std::size_t>(b)] - rising), 0, 1e-17 * 128) << r;
+            EXPECT_NEAR(static_cast<double>(sample.y[static_cast<std::size_t>(r + b)] - falling), 0, 1e-17 * 128) << r;
+        }
+    }
+}
+
+// With random numbers in place of twiddles: the two steps of radix 16 and 32 keep their sections apart.
+TEST(Bodies, CombineRowsJoinTheirParts) {
+    for (int r = 2; r <= 32; r *= 2) {
+        const Sample sample = sampleOf("dct4_combine", r);
+        const Values table(sample.x.begin() + 2 * r, sample.x.end());
+        const int inner = r > 8 ? r / 4 : r, outer = r / inner;
+        for (int e = 0; e < r; ++e) {
+            const int j = e % inner, b = e / inner;
+            Number due;
+            for (int c = 0; c < r; ++c) {
+                const int c1 = c % outer, c2 = c / outer;
+                Number term = at(sample.x, c) * root(c2 * j, inner) * root(c1 * b, outer);
+                if (c2 > 0) term = term * at(table, c2 - 1);
+                if (c1 > 0) term = term * at(table, inner - 1 + 3 * j + c1 - 1);
+                due = due + term;
+            }
+            if (e >= r / 2) due.im = -due.im;
+            expectNear(at(sample.y, e), due, "combine " + std::to_string(r));
+        }
+    }
+}
+
+TEST(Bodies, DirectTransformsComputeTheDefinition) {
+    for (int N = 2; N <= 32; N *= 2) {
+        const Sample sample = sampleOf("dct4_direct", N);
+        for (int k = 0; k < N; ++k) {
+            Wide due = 0;
+            for (int n = 0; n < N; ++n) {
+                due += sample.x[static_cast<std::size_t>(n)] * cosTurn((2 * n + 1) * (2 * k + 1), 8 * N);
+            }
+            EXPECT_NEAR(static_cast<double>(sample.y[static_cast<std::size_t>(k)] - due), 0, 1e-17 * 64) << N;
+        }
+    }
+}
+
+TEST(Bodies, OfTheDctNegateNothingButTheFoldOfTwo) {
+    for (const gen::GraphEntry& entry : bodies()) {
+        EXPECT_EQ(entry.build()->counts().negations, entry.name() == "dct4_fold 2" ? 1 : 0) << entry.name();
+    }
+}
+
+// A single constant is the rounded double: no constant lies so near the middle of two singles that this shows.
+TEST(Bodies, ConstantsOfTheDctRoundToTheSameSingleOnceOrTwice) {
+    for (const gen::GraphEntry& entry : bodies()) {
+        const auto graph = entry.build();
+        for (const gen::Constant& constant : graph->constants()) {
+            const float twice = static_cast<float>(constant.stored);
+            const gen::Exact error = abs(constant.exact - gen::Exact(twice));
+            for (float other : {std::nextafter(twice, 0.0f), std::nextafter(twice, 2.0f)}) {
+                EXPECT_LT(error, abs(constant.exact - gen::Exact(other))) << entry.name() << " " << constant.origin;
+            }
+        }
+    }
+}
+
+TEST(Graph, MinusADifferenceIsTheDifferenceTheOtherWayRound) {
+    gen::Graph graph;
+    const gen::Value a = graph.load(0), b = graph.load(1);
+    graph.store(0, graph.withoutMinus(-(a - b)));
+    graph.store(1, graph.withoutMinus(-(a + b)));
+    EXPECT_EQ(graph.counts(), (gen::Counts{1, 1, 0, 1, 0}));
+    const std::vector<Wide> y = gen::evaluate<Wide>(graph, std::vector<Wide>{5, 3});
+    EXPECT_EQ(y, (std::vector<Wide>{-2, -8}));
+}
+
+TEST(Graph, AProductOfValuesIsSharedAndCarriesBothSigns) {
+    gen::Graph graph;
+    const gen::Value a = graph.load(0), b = graph.load(1);
+    graph.store(0, a * b);
+    graph.store(1, -b * a);
+    EXPECT_EQ(graph.counts(), (gen::Counts{0, 0, 1, 1, 0}));
+    EXPECT_EQ(gen::evaluate<Wide>(graph, std::vector<Wide>{5, 3}), (std::vector<Wide>{15, -15}));
 }
 
 }  // namespace

@@ -14,11 +14,12 @@ core = {"zulMalloc", "zulFree"}
 pe_imports = {
     "zulcore-7.0.dll": core,
     "KERNEL32.dll": {"LoadLibraryA", "GetProcAddress", "FreeLibrary"},
-    "msvcrt.dll": hook,
+    "msvcrt.dll": hook | {"cos", "sin"},
 }
 elf_imports = {
     "libzulcore-7.0.so": core,
     "libc.so.6": {"dlopen", "dlsym", "dlclose"} | hook,
+    "libm.so.6": {"cos", "sin"},
 }
 
 failures = []

@@ -1,11 +1,12 @@
 // The loops and blocks of the large orders, the very text that ships, run on a type that counts.
+#include "wht/passes.h"
+
 #include <gtest/gtest.h>
 
 #include <bit>
 #include <vector>
 
 #include "tests/counted.h"
-#include "wht/passes.h"
 
 namespace zulg {
 template <>

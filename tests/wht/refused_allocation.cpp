@@ -11,8 +11,9 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
-#include <csignal>
 #include <unistd.h>
+
+#include <csignal>
 #endif
 
 namespace {

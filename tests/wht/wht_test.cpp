@@ -182,8 +182,8 @@ TYPED_TEST(WhtTest, FlagsOneAndTwoAreTheSameBits) {
 }
 
 // Relative L2 error in units of the last place: 0.45 sqrt(n + 1) in double. In single, values are held in double inside
-// a block, so that only what the buffer takes and the result are rounded: once to three times. Order 1 is one sum of two
-// singles, half of which lie exactly between two singles: correct rounding itself gives 0.47 there.
+// a block, so that only what the buffer takes and the result are rounded: once to three times. Order 1 is one sum of
+// two singles, half of which lie exactly between two singles: correct rounding itself gives 0.47 there.
 TYPED_TEST(WhtTest, IsAccurate) {
     const Wide unit = std::ldexp(1.0L, this->isSingle ? -24 : -53);
     for (int order = 1; order <= 13; ++order) {
@@ -199,7 +199,9 @@ TYPED_TEST(WhtTest, IsAccurate) {
         }
         const double error = static_cast<double>(std::sqrt(errors / squares) / unit);
         const int roundings = order < 8 ? 1 : order < 12 ? 2 : 3;
-        const double bound = !this->isSingle ? 0.45 * std::sqrt(order + 1.0) : order == 1 ? 0.5 : 0.45 * std::sqrt(roundings);
+        const double bound = !this->isSingle ? 0.45 * std::sqrt(order + 1.0)
+                             : order == 1    ? 0.5
+                                             : 0.45 * std::sqrt(roundings);
         EXPECT_LE(error, bound) << "order " << order;
         this->RecordProperty("order" + std::to_string(order), std::to_string(error));
     }
@@ -360,9 +362,7 @@ int exitCodeOf(const char* program) {
 #endif
 }
 
-TEST(WhtAllocation, ARefusalFaultsInTheBufferThatWasNotGiven) {
-    EXPECT_EQ(exitCodeOf(ZULG_REFUSED_ALLOCATION), 42);
-}
+TEST(WhtAllocation, ARefusalFaultsInTheBufferThatWasNotGiven) { EXPECT_EQ(exitCodeOf(ZULG_REFUSED_ALLOCATION), 42); }
 
 }  // namespace
 }  // namespace test

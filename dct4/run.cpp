@@ -1,0 +1,38 @@
+#include "dct4/run.h"
+
+#include "dct4/bodies/direct_16.h"
+#include "dct4/bodies/direct_2.h"
+#include "dct4/bodies/direct_32.h"
+#include "dct4/bodies/direct_4.h"
+#include "dct4/bodies/direct_8.h"
+#include "dct4/passes.h"
+#include "dct4/ports.h"
+
+namespace zulg {
+namespace {
+
+template <int points, class Element>
+void runDirect(const Element* pSrc, Element* pDst) {
+    Dct4Direct<points>::run(DirectPorts<Element>{{}, pSrc, pDst});
+}
+
+}  // namespace
+
+template <class Element>
+void runPlan(const DctPlan& plan, const Element* pSrc, Element* pDst) {
+    switch (plan.kind) {
+        case 1: return runDirect<2>(pSrc, pDst);
+        case 2: return runDirect<4>(pSrc, pDst);
+        case 3: return runDirect<8>(pSrc, pDst);
+        case 4: return runDirect<16>(pSrc, pDst);
+        case 5: return runDirect<32>(pSrc, pDst);
+    }
+    Element* const transforms = static_cast<Element*>(plan.scratch.get());
+    firstPass(firstOf<FoldStage>(plan.pre), transforms, pSrc);
+    secondPass(firstOf<OutputStage>(plan.post), pDst, transforms);
+}
+
+template void runPlan<float>(const DctPlan&, const float*, float*);
+template void runPlan<double>(const DctPlan&, const double*, double*);
+
+}  // namespace zulg

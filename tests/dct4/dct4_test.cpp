@@ -1,0 +1,470 @@
+// The DCT-IV through the boundary: values, accuracy, arrays, lengths that are accepted by accident, statuses, and what
+// is asked of the core library.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <thread>
+
+#include "dct4/records.h"
+#include "tests/exports.h"
+#include "tests/fake_core.h"
+#include "tests/memory.h"
+#include "tests/reference.h"
+
+namespace test {
+namespace {
+
+template <class Element>
+struct Routines {
+    static std::string name(const char* stem) { return std::string(stem) + (sizeof(Element) == 4 ? "_32f" : "_64f"); }
+
+    using Plan = zulg::DctPlan;
+    ZulgStatus(ZULG_CALL* getSize)(std::int32_t, std::int32_t*) = exported<decltype(getSize)>(name("zulgDCT4GetSize"));
+    ZulgStatus(ZULG_CALL* init)(Plan**, std::int32_t, std::uint8_t*) = exported<decltype(init)>(name("zulgDCT4Init"));
+    ZulgStatus(ZULG_CALL* initAlloc)(Plan**, std::int32_t) = exported<decltype(initAlloc)>(name("zulgDCT4InitAlloc"));
+    ZulgStatus(ZULG_CALL* free)(Plan*) = exported<decltype(free)>(name("zulgDCT4Free"));
+    ZulgStatus(ZULG_CALL* run)(const Element*, Element*, Plan*) = exported<decltype(run)>(name("zulgDCT4"));
+};
+
+template <class Element>
+const Routines<Element>& routines() {
+    static const Routines<Element> found;
+    return found;
+}
+
+// A plan in a block of exactly the reported size, at an address that is a multiple of 32.
+template <class Element>
+class Planned {
+public:
+    explicit Planned(std::int32_t length) {
+        std::int32_t bytes = 0;
+        EXPECT_EQ(routines<Element>().getSize(length, &bytes), StatusOk) << length;
+        memory.resize(static_cast<std::size_t>(bytes) + 32);
+        const auto first = reinterpret_cast<std::uintptr_t>(memory.data());
+        EXPECT_EQ(routines<Element>().init(&plan, length, memory.data() + (32 - first % 32) % 32), StatusOk) << length;
+    }
+
+    std::vector<Element> run(const std::vector<Element>& source) {
+        std::vector<Element> result(source.size(), std::numeric_limits<Element>::quiet_NaN());
+        EXPECT_EQ(routines<Element>().run(source.data(), result.data(), plan), StatusOk);
+        return result;
+    }
+
+    zulg::DctPlan* plan = nullptr;
+
+private:
+    std::vector<std::uint8_t> memory;
+};
+
+// The record in a list of one.
+template <class Record>
+Record& recordIn(const zulg::PlanListNode* list) {
+    return reinterpret_cast<Record&>(*list->value.get());
+}
+
+// cos(2 pi j/(8N)) for all j: every factor of the definition is one of them.
+class Cosines {
+public:
+    explicit Cosines(int length) : period(8 * length) {
+        for (int j = 0; j < period; ++j) values.push_back(cosTurn(j, period));
+    }
+    // y[k] of the definition.
+    template <class Element>
+    Wide bin(const std::vector<Element>& x, int k) const {
+        Wide sum = 0;
+        for (std::size_t from = 0; from < x.size(); from += 64) {
+            Wide part = 0;
+            for (std::size_t n = from; n < std::min(x.size(), from + 64); ++n) {
+                const auto j = static_cast<long long>(2 * n + 1) * (2 * k + 1) % period;
+                part += x[n] * values[static_cast<std::size_t>(j)];
+            }
+            sum += part;
+        }
+        return sum;
+    }
+
+private:
+    int period;
+    Values values;
+};
+
+template <class Element>
+class Dct4Test : public testing::Test {
+protected:
+    static void SetUpTestSuite() { substitutedCore(); }
+    void SetUp() override { core = {}; }
+
+    FakeCore& core = substitutedCore();
+    const Routines<Element>& dct4 = routines<Element>();
+    static constexpr bool isSingle = sizeof(Element) == 4;
+    const double unit = std::ldexp(1.0, isSingle ? -24 : -53);
+    std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
+
+    std::vector<Element> randomElements(int count) {
+        std::normal_distribution<double> normal;
+        std::vector<Element> x;
+        for (int i = 0; i < count; ++i) x.push_back(static_cast<Element>(normal(random)));
+        return x;
+    }
+
+    // Relative L2 error over all bins, or over some of them where the length is great.
+    double relativeError(int length, int rounds) {
+        const Cosines cosines(length);
+        Planned<Element> planned(length);
+        Wide errors = 0, squares = 0;
+        for (int round = 0; round < rounds; ++round) {
+            const auto x = randomElements(length);
+            const auto y = planned.run(x);
+            const int step = std::max(1, length / 512) | 1;
+            for (int k = round % step; k < length; k += step) {
+                const Wide due = cosines.bin(x, k), error = y[static_cast<std::size_t>(k)] - due;
+                errors += error * error;
+                squares += due * due;
+            }
+        }
+        return static_cast<double>(std::sqrt(errors / squares));
+    }
+};
+
+using Elements = testing::Types<float, double>;
+TYPED_TEST_SUITE(Dct4Test, Elements);
+
+// Every length up to one with two levels of SkewSplit.
+TYPED_TEST(Dct4Test, ComputesTheDefinitionAtEveryPowerOfTwo) {
+    for (int length = 2; length <= 131072; length *= 2) {
+        EXPECT_LT(this->relativeError(length, length < 64 ? 200 : 2), 5 * this->unit) << length;
+    }
+}
+
+TYPED_TEST(Dct4Test, IsAccurate) {
+    const struct {
+        int length, rounds;
+        double bound32, bound64;
+    } rows[] = {{16, 2000, 1.0, 1.72}, {64, 500, 1.6, 2.10}, {256, 100, 1.7, 2.38},
+                {1024, 20, 1.5, 2.79}, {4096, 6, 1.7, 3.02}, {65536, 2, 1.8, 3.54}};
+    for (const auto& row : rows) {
+        const double error = this->relativeError(row.length, row.rounds) / this->unit;
+        EXPECT_LE(error, this->isSingle ? row.bound32 : row.bound64) << row.length;
+        this->RecordProperty("length" + std::to_string(row.length), std::to_string(error));
+    }
+}
+
+TYPED_TEST(Dct4Test, ZerosGiveZeros) {
+    for (int length = 2; length <= 65536; length *= 2) {
+        const std::vector<TypeParam> zeros(static_cast<std::size_t>(length));
+        for (TypeParam y : Planned<TypeParam>(length).run(zeros)) ASSERT_EQ(y, 0) << length;
+    }
+}
+
+TYPED_TEST(Dct4Test, AnImpulseAtZeroGivesTheFirstColumn) {
+    for (int length = 2; length <= 16384; length *= 2) {
+        std::vector<TypeParam> x(static_cast<std::size_t>(length));
+        x[0] = 1;
+        const auto y = Planned<TypeParam>(length).run(x);
+        for (int k = 0; k < length; ++k) {
+            const double due = static_cast<double>(cosTurn(2 * k + 1, 8 * length));
+            ASSERT_NEAR(y[static_cast<std::size_t>(k)], due, 8 * this->unit) << length << ", " << k;
+        }
+    }
+}
+
+TYPED_TEST(Dct4Test, LengthTwoHasNoFactor) {
+    const auto y = Planned<TypeParam>(2).run({1, 0});
+    EXPECT_NEAR(y[0], std::cos(3.141592653589793 / 8), this->unit);
+    EXPECT_NEAR(y[1], std::sin(3.141592653589793 / 8), this->unit);
+}
+
+// The lifting constants of length 4 and the cosines of length 2 are of the element's width.
+TYPED_TEST(Dct4Test, FixedConstantsHaveTheWidthOfTheElement) {
+    const auto rounded = [](double x) {
+        volatile TypeParam narrow = static_cast<TypeParam>(x);
+        return static_cast<double>(narrow);
+    };
+    const auto y = Planned<TypeParam>(2).run({1, 0});
+    EXPECT_EQ(y[0], rounded(0.9238795325112867));
+    EXPECT_EQ(y[1], rounded(0.3826834323650898));
+    // x = (0, 0, 0, 1): t0 = -a, t1 = 1 - A a, so that y[0] = t1.
+    const double a = rounded(0.8206787908286603), A = rounded(0.9807852804032304);
+    volatile double product = A * a;
+    volatile TypeParam due = static_cast<TypeParam>(1 - product);
+    const auto lifted = Planned<TypeParam>(4).run({0, 0, 0, 1});
+    EXPECT_NEAR(lifted[0], due, this->isSingle ? 1e-9 : 1e-16);
+}
+
+TYPED_TEST(Dct4Test, TwiceGivesHalfTheLengthTimesTheInput) {
+    for (int length = 2; length <= 65536; length *= 2) {
+        Planned<TypeParam> planned(length);
+        const auto x = this->randomElements(length);
+        const auto twice = planned.run(planned.run(x));
+        for (std::size_t n = 0; n < x.size(); ++n)
+            ASSERT_NEAR(twice[n] / (length / 2.0), x[n], 40 * this->unit) << length;
+    }
+}
+
+TYPED_TEST(Dct4Test, SourceAndDestinationMayBeTheSame) {
+    for (int length = 2; length <= 16384; length *= 2) {
+        Planned<TypeParam> planned(length);
+        const auto x = this->randomElements(length);
+        auto both = x;
+        EXPECT_EQ(this->dct4.run(both.data(), both.data(), planned.plan), StatusOk);
+        EXPECT_EQ(both, planned.run(x)) << length;
+    }
+}
+
+TYPED_TEST(Dct4Test, ARunDependsOnNoEarlierOne) {
+    for (int length : {64, 2048, 8192}) {
+        Planned<TypeParam> used(length), fresh(length);
+        const auto x = this->randomElements(length);
+        used.run(std::vector<TypeParam>(static_cast<std::size_t>(length), std::numeric_limits<TypeParam>::quiet_NaN()));
+        EXPECT_EQ(used.run(x), fresh.run(x)) << length;
+    }
+}
+
+TYPED_TEST(Dct4Test, NotANumberGoesThrough) {
+    for (int length : {2, 4, 32, 64, 4096}) {
+        std::vector<TypeParam> x(static_cast<std::size_t>(length), std::numeric_limits<TypeParam>::quiet_NaN());
+        for (TypeParam y : Planned<TypeParam>(length).run(x)) ASSERT_TRUE(std::isnan(y)) << length;
+    }
+}
+
+// Arrays end at an inaccessible page on either side and are aligned to the element only.
+TYPED_TEST(Dct4Test, StaysInsideItsArrays) {
+    for (int length = 2; length <= 8192; length *= 2) {
+        Planned<TypeParam> planned(length);
+        const auto x = this->randomElements(length);
+        const auto due = planned.run(x);
+        const std::size_t bytes = x.size() * sizeof(TypeParam);
+        const GuardedPages from(bytes), to(bytes);
+        for (bool rear : {false, true}) {
+            auto* const pSrc = reinterpret_cast<TypeParam*>(rear ? from.atRear(bytes) : from.atFront());
+            auto* const pDst = reinterpret_cast<TypeParam*>(rear ? to.atRear(bytes) : to.atFront());
+            std::memcpy(pSrc, x.data(), bytes);
+            EXPECT_EQ(this->dct4.run(pSrc, pDst, planned.plan), StatusOk);
+            EXPECT_EQ(std::memcmp(pDst, due.data(), bytes), 0) << length;
+            EXPECT_EQ(std::memcmp(pSrc, x.data(), bytes), 0) << "the source was written";
+        }
+    }
+}
+
+TYPED_TEST(Dct4Test, ArraysNeedNoAlignmentAtAll) {
+    for (int length : {2, 4, 8, 16, 32, 64, 4096}) {
+        Planned<TypeParam> planned(length);
+        const auto x = this->randomElements(length);
+        const auto due = planned.run(x);
+        const std::size_t bytes = x.size() * sizeof(TypeParam);
+        std::vector<char> from(bytes + 3), to(bytes + 5);
+        std::memcpy(from.data() + 3, x.data(), bytes);
+        EXPECT_EQ(this->dct4.run(reinterpret_cast<const TypeParam*>(from.data() + 3),
+                                 reinterpret_cast<TypeParam*>(to.data() + 5), planned.plan),
+                  StatusOk);
+        EXPECT_EQ(std::memcmp(to.data() + 5, due.data(), bytes), 0) << length;
+    }
+}
+
+// 9 points: r = 2, M = 4, 2 rows. The fold reads x[9], one past the end; the second pass writes 0, 1, 4, 5, 8 and 9,
+// one past the end, and never 2, 3, 6 and 7.
+TYPED_TEST(Dct4Test, LengthNineReadsAndWritesWhatItsPassesSay) {
+    Planned<TypeParam> planned(9);
+    auto x = this->randomElements(10);
+    const TypeParam untouched = 77;
+    std::vector<TypeParam> y(12, untouched);
+    EXPECT_EQ(this->dct4.run(x.data(), y.data(), planned.plan), StatusOk);
+    for (int k : {2, 3, 6, 7, 10, 11}) EXPECT_EQ(y[static_cast<std::size_t>(k)], untouched) << k;
+    for (int k : {0, 1, 4, 5, 8, 9}) EXPECT_NE(y[static_cast<std::size_t>(k)], untouched) << k;
+
+    // The two passes, literally.
+    const int N = 9, r = 2, M = 4, rows = 2;
+    using Pair = std::pair<Wide, Wide>;
+    std::vector<std::vector<Pair>> C;
+    for (int p = 0; p < r; ++p) {
+        C.emplace_back();
+        for (int k = 0; k < M / 2; ++k) {
+            Pair sum{0, 0};
+            for (int s = 0; s < M; ++s) {
+                const Wide v = s < M / 2 ? x[static_cast<std::size_t>(p + 2 * r * s)]
+                                         : -x[static_cast<std::size_t>(2 * N - 1 - p - 2 * r * s)];
+                sum.first += v * cosTurn(s * (2 * k + 1), 2 * M);
+                sum.second += v * sinTurn(s * (2 * k + 1), 2 * M);
+            }
+            C.back().push_back(sum);
+        }
+    }
+    std::vector<Wide> due(10);
+    for (int m = 0; m < rows; ++m) {
+        for (int b = 0; b < r; ++b) {
+            Wide rising = 0, falling = 0;
+            for (int p = 0; p < r; ++p) {
+                const auto [re, im] = C[static_cast<std::size_t>(p)][static_cast<std::size_t>(m)];
+                // alpha + pi (2p+1) b/(2r), in units of 2 pi/(8 N r).
+                const int turn = (2 * m + 1) * (2 * p + 1) * r + 2 * N * (2 * p + 1) * b;
+                const Wide c = cosTurn(turn, 8 * N * r), s = sinTurn(turn, 8 * N * r);
+                rising += re * c - im * s;
+                falling += (p % 2 == 0 ? 1 : -1) * (re * s + im * c);
+            }
+            due[static_cast<std::size_t>(m + b * M)] = rising;
+            due[static_cast<std::size_t>(2 * N - 1 - m - (r + b) * M)] = falling;
+        }
+    }
+    for (int k : {0, 1, 8, 9}) {
+        EXPECT_NEAR(static_cast<double>(y[static_cast<std::size_t>(k)] - due[static_cast<std::size_t>(k)]), 0,
+                    16 * this->unit)
+            << k;
+    }
+    // x[9] takes part.
+    std::vector<TypeParam> other(12, untouched);
+    x[9] += 1;
+    EXPECT_EQ(this->dct4.run(x.data(), other.data(), planned.plan), StatusOk);
+    EXPECT_NE(other, y);
+}
+
+TYPED_TEST(Dct4Test, LengthsBesidePowersOfTwoRunWithOneElementMore) {
+    for (int k = 3; k <= 14; ++k) {
+        const int length = (1 << k) + 1;
+        Planned<TypeParam> planned(length);
+        const std::size_t bytes = static_cast<std::size_t>(length + 1) * sizeof(TypeParam);
+        const GuardedPages from(bytes), to(bytes);
+        const auto x = this->randomElements(length + 1);
+        std::memcpy(from.atRear(bytes), x.data(), bytes);
+        EXPECT_EQ(this->dct4.run(reinterpret_cast<const TypeParam*>(from.atRear(bytes)),
+                                 reinterpret_cast<TypeParam*>(to.atRear(bytes)), planned.plan),
+                  StatusOk)
+            << length;
+    }
+}
+
+TYPED_TEST(Dct4Test, NullPointersAreRefusedAndNothingIsWritten) {
+    Planned<TypeParam> planned(8);
+    TypeParam data[8] = {7, 7, 7, 7, 7, 7, 7, 7};
+    EXPECT_EQ(this->dct4.run(nullptr, data, planned.plan), StatusNullPointer);
+    EXPECT_EQ(this->dct4.run(data, nullptr, planned.plan), StatusNullPointer);
+    EXPECT_EQ(this->dct4.run(data, data, nullptr), StatusNullPointer);
+    for (TypeParam x : data) EXPECT_EQ(x, 7);
+    EXPECT_EQ(this->dct4.init(nullptr, 8, reinterpret_cast<std::uint8_t*>(data)), StatusNullPointer);
+    zulg::DctPlan* plan = nullptr;
+    EXPECT_EQ(this->dct4.init(&plan, 8, nullptr), StatusNullPointer);
+    EXPECT_EQ(this->dct4.initAlloc(nullptr, 8), StatusNullPointer);
+    EXPECT_EQ(this->dct4.free(nullptr), StatusNullPointer);
+    EXPECT_EQ(this->core.allocations, 0);
+    EXPECT_EQ(this->core.releases, 0);
+}
+
+TYPED_TEST(Dct4Test, APlanOfUnknownKindIsRefused) {
+    for (int kind : {0, -1, 7, 8, 1000, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        Planned<TypeParam> planned(64);
+        planned.plan->kind = kind;
+        std::vector<TypeParam> x(64, 1), y(64, 7);
+        EXPECT_EQ(this->dct4.run(x.data(), y.data(), planned.plan), StatusPlanKindError) << kind;
+        EXPECT_EQ(y, std::vector<TypeParam>(64, 7));
+    }
+}
+
+// A stage makes the same check, but nobody looks at its result: the pass does nothing and the status is StatusOk.
+TYPED_TEST(Dct4Test, TheStatusOfAStageIsDropped) {
+    const std::vector<TypeParam> x(64, 1), sevens(64, 7);
+    {
+        Planned<TypeParam> planned(64);
+        recordIn<zulg::OutputStage>(planned.plan->post).kind = 0;
+        std::vector<TypeParam> y = sevens;
+        EXPECT_EQ(this->dct4.run(x.data(), y.data(), planned.plan), StatusOk);
+        EXPECT_EQ(y, sevens);
+    }
+    {
+        Planned<TypeParam> planned(64);
+        const auto before = planned.run(x);
+        recordIn<zulg::FoldStage>(planned.plan->pre).kind = 8;
+        const std::vector<TypeParam> zeros(64);
+        EXPECT_EQ(planned.run(zeros), before) << "the second pass works on what the last first pass left";
+    }
+}
+
+TYPED_TEST(Dct4Test, TheStatusOfASplitsStagesIsDropped) {
+    const std::vector<TypeParam> x(4096, 1), zeros(4096);
+    Planned<TypeParam> planned(4096);
+    const auto before = planned.run(x);
+    const auto& fold = recordIn<zulg::FoldStage>(planned.plan->pre);
+    const auto& split = recordIn<zulg::SkewSplit>(fold.children);
+    recordIn<zulg::CombineStage>(split.post).kind = 6;
+    EXPECT_EQ(planned.run(zeros), before);
+    recordIn<zulg::FoldStep>(split.pre).kind = 0;
+    EXPECT_EQ(planned.run(zeros), before);
+}
+
+TYPED_TEST(Dct4Test, ASplitThatIsNotActiveDoesNothing) {
+    const std::vector<TypeParam> x(4096, 1), zeros(4096);
+    for (int active : {0, 2, -1}) {
+        Planned<TypeParam> planned(4096);
+        const auto before = planned.run(x);
+        const auto& fold = recordIn<zulg::FoldStage>(planned.plan->pre);
+        recordIn<zulg::SkewSplit>(fold.children).active = active;
+        EXPECT_EQ(planned.run(zeros), before) << active;
+    }
+}
+
+TYPED_TEST(Dct4Test, RefusedLengthsLeaveSizeAndPlanAsTheyWere) {
+    std::vector<std::uint8_t> block(1 << 20);
+    for (int length : {0, 1, 3, 5, 6, 7, 12, 1000, -1, -2, -64, 48, 63, 66}) {
+        std::int32_t size = 77;
+        EXPECT_EQ(this->dct4.getSize(length, &size), StatusSizeError) << length;
+        EXPECT_EQ(size, 77);
+        auto* plan = reinterpret_cast<zulg::DctPlan*>(block.data());
+        EXPECT_EQ(this->dct4.initAlloc(&plan, length), StatusSizeError) << length;
+        EXPECT_EQ(plan, reinterpret_cast<zulg::DctPlan*>(block.data()));
+    }
+    EXPECT_EQ(this->core.allocations, 0);
+}
+
+TYPED_TEST(Dct4Test, InitAllocAsksForTheReportedSizeAndFreeGivesItBack) {
+    for (int length : {2, 32, 64, 1024, 4096, 131072}) {
+        this->core = {};
+        zulg::DctPlan* plan = nullptr;
+        ASSERT_EQ(this->dct4.initAlloc(&plan, length), StatusOk);
+        std::int32_t size = 0;
+        this->dct4.getSize(length, &size);
+        EXPECT_EQ(this->core.bytes, static_cast<std::uint32_t>(size));
+        const auto x = this->randomElements(length);
+        std::vector<TypeParam> y(x.size());
+        EXPECT_EQ(this->dct4.run(x.data(), y.data(), plan), StatusOk);
+        EXPECT_EQ(y, Planned<TypeParam>(length).run(x));
+        EXPECT_EQ(this->dct4.free(plan), StatusOk);
+        EXPECT_EQ(this->core.allocations, 1);
+        EXPECT_EQ(this->core.releases, 1);
+        EXPECT_EQ(this->core.released, this->core.block);
+    }
+}
+
+TYPED_TEST(Dct4Test, ARefusedBlockShowsAsANullPointer) {
+    this->core.refuses = true;
+    zulg::DctPlan* plan = nullptr;
+    EXPECT_EQ(this->dct4.initAlloc(&plan, 64), StatusNullPointer);
+    EXPECT_EQ(plan, nullptr);
+    EXPECT_EQ(this->core.allocations, 1);
+    EXPECT_EQ(this->core.releases, 1);
+    EXPECT_EQ(this->core.released, nullptr);
+}
+
+// Plans are independent; those up to 32 points are never written when run and may be shared.
+TYPED_TEST(Dct4Test, ThreadsWithPlansOfTheirOwnDoNotMeet) {
+    const auto x = this->randomElements(4096), small = this->randomElements(32);
+    Planned<TypeParam> shared(32), model(4096);
+    const auto due = model.run(x), dueSmall = shared.run(small);
+    std::vector<std::thread> threads;
+    std::vector<int> wrong(4);
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([&, t] {
+            Planned<TypeParam> own(4096);
+            for (int i = 0; i < 50; ++i) {
+                wrong[static_cast<std::size_t>(t)] += own.run(x) != due;
+                wrong[static_cast<std::size_t>(t)] += shared.run(small) != dueSmall;
+            }
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(wrong, std::vector<int>(4));
+}
+
+}  // namespace
+}  // namespace test

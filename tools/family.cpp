@@ -1,66 +1,58 @@
-// The table of families, and the adapters between real samples and the argument lists of the library's routines.
-// Lengths go through the dispatchers, so that the library alone decides which exist.
+// The table of families, and the adapters from the argument lists of the library's routines to the one of the tool.
+// Sizes go through the dispatchers, so that the library decides which exist.
 #include "family.h"
 
 #include <algorithm>
-#include <array>
+#include <bit>
+#include <cstdlib>
 
 namespace spectrum {
 namespace {
 
-// The library's complex elements have the layout of std::complex.
-inline const Zulg32fc* plain(const std::complex<float>* data) { return reinterpret_cast<const Zulg32fc*>(data); }
-inline const Zulg64fc* plain(const std::complex<double>* data) { return reinterpret_cast<const Zulg64fc*>(data); }
-inline Zulg32fc* plain(std::complex<float>* data) { return reinterpret_cast<Zulg32fc*>(data); }
-inline Zulg64fc* plain(std::complex<double>* data) { return reinterpret_cast<Zulg64fc*>(data); }
-
-template <typename T, auto routine>
-ZulgStatus complexForward(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
-    std::array<std::complex<T>, longestLength> points{};
-    std::copy_n(samples, length, points.begin());
-    return routine(plain(points.data()), plain(bins), length, flag);
+// Source, destination, length, flag.
+template <typename Element, auto routine, typename T>
+ZulgStatus plain(const T* from, T* to, const Call& call) {
+    return routine(reinterpret_cast<const Element*>(from), reinterpret_cast<Element*>(to), call.size, call.flag);
 }
 
-template <typename T, auto routine>
-ZulgStatus complexInverse(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
-    return routine(plain(bins), plain(points), length, flag);
+template <auto routine, typename T>
+ZulgStatus buffered(const T* from, T* to, const Call& call) {
+    return routine(from, to, call.size, call.flag, static_cast<T*>(call.workspace));
 }
 
-// A CCS array is the array of the bins from 0 to the middle, real and imaginary parts in turn.
-template <typename T, auto routine>
-ZulgStatus realForward(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
-    return routine(samples, reinterpret_cast<T*>(bins), length, flag);
+ZulgStatus buffer(std::int32_t, void* block, void** workspace) {
+    *workspace = block;
+    return StatusOk;
 }
 
-template <typename T, auto routine>
-ZulgStatus realInverse(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
-    std::array<T, longestLength> samples{};
-    const ZulgStatus status = routine(reinterpret_cast<const T*>(bins), samples.data(), length, flag);
-    std::copy_n(samples.begin(), length, points);
-    return status;
-}
-
-template <typename T, auto routine>
-ZulgStatus hartleyForward(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
-    std::array<T, longestLength> values{};
-    const ZulgStatus status = routine(samples, values.data(), length, flag);
-    std::copy_n(values.begin(), length, bins);
-    return status;
-}
-
-template <typename T, auto routine>
-ZulgStatus hartleyInverse(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
-    std::array<T, longestLength> values;
-    std::transform(bins, bins + length, values.begin(), [](std::complex<T> bin) { return bin.real(); });
-    return hartleyForward<T, routine>(values.data(), points, length, flag);
-}
+int all(int length) { return length; }
 
 // Samples are real, so that the bins above the middle only mirror the others.
 int countToMiddle(int length) { return length / 2 + 1; }
 
+int inTheirOrder(int place, int) { return place; }
+
 double signedFrequency(int bin, int length) { return double(bin <= length / 2 ? bin : bin - length) / length; }
 
-double complexMagnitude(ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); }
+// Row k of the natural order: with the bits of k mirrored it is the Gray code of its number of sign changes.
+unsigned mirrored(unsigned bits, int length) {
+    unsigned result = 0;
+    for (int rest = length; rest > 1; rest /= 2, bits /= 2) result = 2 * result + bits % 2;
+    return result;
+}
+
+double signChanges(int bin, int length) {
+    unsigned changes = 0;
+    for (unsigned gray = mirrored(static_cast<unsigned>(bin), length); gray != 0; gray /= 2) changes ^= gray;
+    return changes;
+}
+
+int binOfSignChanges(int changes, int length) {
+    const unsigned count = static_cast<unsigned>(changes);
+    return static_cast<int>(mirrored(count ^ count / 2, length));
+}
+
+double ownMagnitude(ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); }
 
 // A Hartley bin is the sum of the cosine and the sine part of its frequency, the bin of the negative frequency their
 // difference; the two parts are those of the complex bin.
@@ -82,33 +74,68 @@ std::int32_t flagOfInvolution(std::int32_t flag) {
 constexpr Family families[] = {
     {
         .name = "complex",
-        .binCount = [](int length) { return length; },
+        .sizes = Sizes::Lengths,
+        .takesFlag = true,
+        .numbersInPoint = 2,
+        .numbersInBin = 2,
+        .binCount = all,
+        .axis = Axis::Frequency,
+        .position = signedFrequency,
         .shownCount = countToMiddle,
-        .frequency = signedFrequency,
-        .magnitude = complexMagnitude,
+        .shownBin = inTheirOrder,
+        .magnitude = ownMagnitude,
         .restoringFlag = flagOfInverse,
-        .single = {complexForward<float, zulgDFTFwd_CToC_32fc>, complexInverse<float, zulgDFTInv_CToC_32fc>},
-        .wide = {complexForward<double, zulgDFTFwd_CToC_64fc>, complexInverse<double, zulgDFTInv_CToC_64fc>},
+        .single = {nullptr, nullptr, plain<Zulg32fc, zulgDFTFwd_CToC_32fc>, plain<Zulg32fc, zulgDFTInv_CToC_32fc>},
+        .wide = {nullptr, nullptr, plain<Zulg64fc, zulgDFTFwd_CToC_64fc>, plain<Zulg64fc, zulgDFTInv_CToC_64fc>},
     },
     {
+        // A CCS array is the array of the bins from 0 to the middle, real and imaginary parts in turn.
         .name = "real",
+        .sizes = Sizes::Lengths,
+        .takesFlag = true,
+        .numbersInPoint = 1,
+        .numbersInBin = 2,
         .binCount = countToMiddle,
+        .axis = Axis::Frequency,
+        .position = signedFrequency,
         .shownCount = countToMiddle,
-        .frequency = signedFrequency,
-        .magnitude = complexMagnitude,
+        .shownBin = inTheirOrder,
+        .magnitude = ownMagnitude,
         .restoringFlag = flagOfInverse,
-        .single = {realForward<float, zulgDFTFwd_RToCCS_32f>, realInverse<float, zulgDFTInv_CCSToR_32f>},
-        .wide = {realForward<double, zulgDFTFwd_RToCCS_64f>, realInverse<double, zulgDFTInv_CCSToR_64f>},
+        .single = {nullptr, nullptr, plain<Zulg32f, zulgDFTFwd_RToCCS_32f>, plain<Zulg32f, zulgDFTInv_CCSToR_32f>},
+        .wide = {nullptr, nullptr, plain<Zulg64f, zulgDFTFwd_RToCCS_64f>, plain<Zulg64f, zulgDFTInv_CCSToR_64f>},
     },
     {
         .name = "hartley",
-        .binCount = [](int length) { return length; },
+        .sizes = Sizes::Lengths,
+        .takesFlag = true,
+        .numbersInPoint = 1,
+        .numbersInBin = 1,
+        .binCount = all,
+        .axis = Axis::Frequency,
+        .position = signedFrequency,
         .shownCount = countToMiddle,
-        .frequency = signedFrequency,
+        .shownBin = inTheirOrder,
         .magnitude = hartleyMagnitude,
         .restoringFlag = flagOfInvolution,
-        .single = {hartleyForward<float, zulgHartley_32f>, hartleyInverse<float, zulgHartley_32f>},
-        .wide = {hartleyForward<double, zulgHartley_64f>, hartleyInverse<double, zulgHartley_64f>},
+        .single = {nullptr, nullptr, plain<Zulg32f, zulgHartley_32f>, plain<Zulg32f, zulgHartley_32f>},
+        .wide = {nullptr, nullptr, plain<Zulg64f, zulgHartley_64f>, plain<Zulg64f, zulgHartley_64f>},
+    },
+    {
+        .name = "wht",
+        .sizes = Sizes::Orders,
+        .takesFlag = true,
+        .numbersInPoint = 1,
+        .numbersInBin = 1,
+        .binCount = all,
+        .axis = Axis::Sequency,
+        .position = signChanges,
+        .shownCount = all,
+        .shownBin = binOfSignChanges,
+        .magnitude = ownMagnitude,
+        .restoringFlag = flagOfInvolution,
+        .single = {zulgWHTGetBufferSize_32f, buffer, buffered<zulgWHT_32f>, buffered<zulgWHT_32f>},
+        .wide = {zulgWHTGetBufferSize_64f, buffer, buffered<zulgWHT_64f>, buffered<zulgWHT_64f>},
     },
 };
 

@@ -11,26 +11,46 @@
 
 namespace spectrum {
 
-// No routine of the library is longer. The adapters of a family hold one frame of this size.
-inline constexpr int longestLength = 64;
+// A frame of this many samples keeps a run below some 150 MB. No family is run at more, whatever the library has.
+inline constexpr int longestFrame = 1 << 20;
 
-// Real samples in, bins out, and back. A family whose bins are real leaves the imaginary parts zero. `length` is at
-// most longestLength; the status is the library's own.
+// What a routine is called with beside its arrays.
+struct Call {
+    std::int32_t size;  // the length, or the order where the family counts in orders
+    std::int32_t flag;
+    void* workspace;  // a buffer or a plan; null where the routine takes neither
+};
+
+// The routines of one precision. Arrays are plain numbers: those of a complex value stand side by side, and the row of
+// the family says which values are complex. Statuses are the library's own, and so is their order: a size that does not
+// exist outranks a null pointer, and that a wrong flag.
 template <typename T>
 struct Routines {
-    ZulgStatus (*forward)(const T* samples, std::complex<T>* bins, int length, std::int32_t flag);
-    ZulgStatus (*inverse)(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag);
+    // Both null for routines that need nothing but their arrays. The block has that many bytes, is aligned to 64 and
+    // stays where it is as long as the workspace is in use.
+    ZulgStatus (*workspaceBytes)(std::int32_t size, std::int32_t* bytes);
+    ZulgStatus (*makeWorkspace)(std::int32_t size, void* block, void** workspace);
+    ZulgStatus (*forward)(const T* points, T* bins, const Call& call);
+    ZulgStatus (*inverse)(const T* bins, T* points, const Call& call);
 };
 
 using ConstBins = std::span<const std::complex<double>>;
 
+enum class Sizes { Lengths, PowersOfTwo, Orders };  // of an order O: 2^O points
+enum class Axis { Frequency, Sequency };
+
 struct Family {
     std::string_view name;
+    Sizes sizes;
+    bool takesFlag;
+    int numbersInPoint, numbersInBin;  // 2 where they are complex
     int (*binCount)(int length);
-    // A picture shows the bins from 0 to this count, where frequency rises evenly.
+    // Where a bin stands: its frequency in cycles per sample, or its sequency, the sign changes of its pattern.
+    Axis axis;
+    double (*position)(int bin, int length);
+    // A picture shows so many bins, in the order in which their positions rise evenly.
     int (*shownCount)(int length);
-    // Of a bin, in cycles per sample.
-    double (*frequency)(int bin, int length);
+    int (*shownBin)(int place, int length);
     // All bins are at hand, since some families form one magnitude of several.
     double (*magnitude)(ConstBins bins, int bin);
     // The scale flag with which the inverse restores what the forward transform with `flag` was given.

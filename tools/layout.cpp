@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "family.h"
 #include "user_error.h"
 
 namespace spectrum {
@@ -51,8 +50,8 @@ std::string line(const std::string& name, const std::vector<std::string>& slots,
 }  // namespace
 
 std::string layoutText(int length) {
-    if (length < 2 || length > longestLength) {
-        throw UserError("layout " + std::to_string(length) + ": lengths are 2 to " + std::to_string(longestLength));
+    if (length < 2 || length > longestLayout) {
+        throw UserError("layout " + std::to_string(length) + ": lengths are 2 to " + std::to_string(longestLayout));
     }
     const std::vector<Layout> layouts = layoutsOf(length);
     const std::size_t most = layouts[0].slots.size();  // none has more slots than CCS

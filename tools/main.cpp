@@ -40,7 +40,7 @@ void refuseBadTargets(const Options& options) {
 // What --check adds to a run.
 class Check {
 public:
-    explicit Check(const Transform& given) : transform(given) {}
+    explicit Check(Transform& given) : transform(given) {}
 
     void add(std::span<const double> samples) {
         transform.forward(samples, bins);
@@ -61,13 +61,13 @@ public:
     }
 
 private:
-    const Transform& transform;
+    Transform& transform;
     Bins bins, points;
     RelativeError error;
 };
 
 // Gives each frame to the sink, if there is one, and to the check, if that is asked for; tells the number of frames.
-std::int64_t runFrames(Frames& frames, const Transform& transform, const Options& options, Sink* sink, Check& check,
+std::int64_t runFrames(Frames& frames, Transform& transform, const Options& options, Sink* sink, Check& check,
                        Progress& progress) {
     const std::vector<double> weights = windowWeights(options.window, options.length);
     std::vector<double> weighted(weights.size());
@@ -88,7 +88,7 @@ std::int64_t runFrames(Frames& frames, const Transform& transform, const Options
 }
 
 void run(const Options& options) {
-    const Transform transform(options);
+    Transform transform(options);
     refuseBadTargets(options);
     const std::unique_ptr<Source> source = openInput(options.input, options.channel);
     // A spectrum that runs over the same terminal is progress enough.

@@ -3,6 +3,8 @@
 #include "options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <bit>
 #include <charconv>
 #include <filesystem>
 #include <limits>
@@ -16,8 +18,9 @@ namespace {
 // The options as they are typed.
 struct Words {
     std::string input, family = "complex", flag = "backward", window = "none", format, output = "-";
-    int length = 64, hop = 0, channel = 1, precision = 64;
-    bool check = false;
+    int length = 64, order = 0, hop = 0, channel = 1, precision = 64;
+    bool orderGiven = false, lengthGiven = false, flagGiven = false;
+    bool check = false, writesSpectrum = true;
     int layoutLength = 0;
 };
 
@@ -27,18 +30,20 @@ constexpr std::pair<const char*, std::int32_t> flagNames[] = {
 constexpr const char* footer =
     "Families: complex is the DFT of all N bins; real is the DFT of real values, of the bins 0 to N/2, and the bins\n"
     "above them mirror these; hartley is the Hartley transform, N real bins. Its magnitudes, of the bins k and N-k,\n"
-    "are those of the complex family but for the scale.\n"
+    "are those of the complex family but for the scale. wht is the Walsh-Hadamard transform of 2^O points, with\n"
+    "--order O or --length of that many; its bins come in natural order, and in the place of a frequency each has a\n"
+    "sequency: how often its pattern of +1 and -1 changes sign.\n"
     "\n"
     "The scale is 1/N in the forward transform (--flag forward or 1), 1/N in the inverse (backward or 2), 1/sqrt(N)\n"
-    "in both (ortho or 4), or 1 (none or 8). Of hartley, which is its own inverse, the forward transform has 1/N both\n"
-    "with forward and with backward.\n"
+    "in both (ortho or 4), or 1 (none or 8). Of hartley and wht, which are their own inverses, the forward transform\n"
+    "has 1/N both with forward and with backward.\n"
     "\n"
     "INPUT is a sound file (WAV, FLAC), a text file of real numbers, or - for numbers on standard input. Numbers are\n"
     "separated by white space or commas; # starts a comment. Frames start every --hop samples. When samples remain\n"
     "after the last full frame, one more frame is filled up with zeros; an input shorter than one frame is refused.\n"
     "\n"
     "Frequencies are in Hz and times in seconds for sound files, in cycles per sample and in samples for numbers.\n"
-    "A picture shows time to the right, frequency upward, and 80 dB below the strongest bin.\n"
+    "A picture shows time to the right, frequency or sequency upward, and 80 dB below the strongest bin.\n"
     "\n"
     "--check transforms each frame, unwindowed, there and back, and reports the root of the summed squared error over\n"
     "the root of the summed squares. The spectrum is then written only if --output or --format is given too.\n"
@@ -46,6 +51,7 @@ constexpr const char* footer =
     "  zulspectrum voice.wav --length 60 --hop 30 --window hann --output voice.png\n"
     "  seq 100 | zulspectrum - --length 25 --format csv\n"
     "  zulspectrum voice.wav --length 48 --check\n"
+    "  zulspectrum numbers.txt --family wht --order 10 --format csv\n"
     "  zulspectrum layout 8\n"
     "\n"
     "A file of the name layout is given as ./layout.";
@@ -90,6 +96,29 @@ const Family& familyOf(const std::string& word) {
     throw UserError("--family " + printable(word) + ": no such family; known: " + familyNames());
 }
 
+// 2^order, or 0 where that is no int. The library is asked about the order itself.
+int lengthOfOrder(int order) { return order >= 0 && order < std::numeric_limits<int>::digits ? 1 << order : 0; }
+
+// 0, which is no order of any family, where the length is not 2^order.
+int orderOfLength(int length) {
+    const unsigned bits = static_cast<unsigned>(std::max(length, 0));
+    return std::has_single_bit(bits) ? std::countr_zero(bits) : 0;
+}
+
+void expectFittingOptions(const Words& words, const Family& family) {
+    const std::string name(family.name);
+    if (words.orderGiven && family.sizes != Sizes::Orders) {
+        throw UserError("--order " + std::to_string(words.order) + ": the " + name + " family has no orders; say --length");
+    }
+    if (words.orderGiven && words.lengthGiven) {
+        throw UserError("--order " + std::to_string(words.order) + " beside --length " + std::to_string(words.length) +
+                        ": one of them is enough");
+    }
+    if (words.flagGiven && !family.takesFlag) {
+        throw UserError("--flag " + printable(words.flag) + ": the " + name + " family has no scale");
+    }
+}
+
 Format formatOf(const Words& words) {
     static const std::map<std::string, Format> formats = {
         {"", Format::Text},     {"text", Format::Text}, {".txt", Format::Text},
@@ -105,10 +134,36 @@ Format formatOf(const Words& words) {
     return found->second;
 }
 
+// The words that are one thing in one family and another in the next.
+Options optionsOf(const Words& words) {
+    const Family& family = familyOf(words.family);
+    expectFittingOptions(words, family);
+    const int length = words.orderGiven ? lengthOfOrder(words.order) : words.length;
+    const int order = words.orderGiven ? words.order : orderOfLength(words.length);
+    return Options{
+        .input = words.input,
+        .output = words.output,
+        .family = &family,
+        .length = length,
+        .hop = words.hop > 0 ? words.hop : length,
+        .size = family.sizes == Sizes::Orders ? order : length,
+        .byOrder = words.orderGiven,
+        .flag = family.takesFlag ? flagOf(words.flag) : NoDivByAny,
+        .channel = words.channel,
+        .window = words.window == "hann" ? Window::Hann : Window::None,
+        .precision = words.precision == 32 ? Precision::Single : Precision::Double,
+        .format = formatOf(words),
+        .writesSpectrum = words.writesSpectrum,
+        .check = words.check,
+    };
+}
+
 void declareTransform(CLI::App& app, Words& words) {
-    app.add_option("--length", words.length, "Points of one transform, 2 to 64, where the family has them")
+    app.add_option("--length", words.length, "Points of one transform; most families have 2 to 64 (see below)")
         ->type_name("N")
         ->capture_default_str();
+    app.add_option("--order", words.order, "Of the wht family, instead of --length: transforms of 2^O points")
+        ->type_name("O");
     app.add_option("--family", words.family, "Transform family: " + familyNames() + " (see below)")
         ->type_name("NAME")
         ->capture_default_str();
@@ -183,20 +238,11 @@ Command readCommand(int argc, char** argv) {
     }
     if (app.got_subcommand("layout")) return LayoutOptions{words.layoutLength};
     if (words.input.empty()) throw UserError("INPUT is required");
-    return Options{
-        .input = words.input,
-        .output = words.output,
-        .family = &familyOf(words.family),
-        .length = words.length,
-        .hop = words.hop > 0 ? words.hop : words.length,
-        .flag = flagOf(words.flag),
-        .channel = words.channel,
-        .window = words.window == "hann" ? Window::Hann : Window::None,
-        .precision = words.precision == 32 ? Precision::Single : Precision::Double,
-        .format = formatOf(words),
-        .writesSpectrum = !words.check || app.count("--output") > 0 || app.count("--format") > 0,
-        .check = words.check,
-    };
+    words.orderGiven = app.count("--order") > 0;
+    words.lengthGiven = app.count("--length") > 0;
+    words.flagGiven = app.count("--flag") > 0;
+    words.writesSpectrum = !words.check || app.count("--output") > 0 || app.count("--format") > 0;
+    return optionsOf(words);
 }
 
 }  // namespace spectrum

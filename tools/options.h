@@ -18,7 +18,9 @@ enum class Precision { Single, Double };
 struct Options {
     std::string input, output;  // "-" for the standard streams
     const Family* family;
-    int length, hop;
+    int length, hop;    // the length is 0 where the order is out of reach
+    std::int32_t size;  // what the library is asked for: the length, or the order where the family counts in orders
+    bool byOrder;       // --order says it, and not --length
     std::int32_t flag;
     int channel;
     Window window;

@@ -1,5 +1,6 @@
-// The spectrogram: time to the right, frequency upward, level as colour. Frames are gathered into columns of a bounded
-// number, each the mean power of its frames; with every doubling of a long input neighbours are merged.
+// The spectrogram: time to the right, frequency or sequency upward, level as colour. Frames are gathered into columns
+// of a bounded number, each the mean power of its frames; with every doubling of a long input neighbours are merged.
+// Bins are gathered into rows in the same way where there are more of them than pixels.
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -12,7 +13,7 @@ namespace {
 
 constexpr int marginLeft = 72, marginTop = 40, marginRight = 112, marginBottom = 44;
 constexpr int fewestPixelsAcross = 768, mostColumns = 2 * fewestPixelsAcross;
-constexpr int fewestPixelsDown = 512;
+constexpr int pixelsDown = 512;
 constexpr double shownDecibels = 80;
 constexpr Colour background{20, 20, 26}, ink{214, 214, 222}, frameLine{96, 96, 108};
 
@@ -34,14 +35,20 @@ std::string label(double value) {
 class PictureSink : public Sink {
 public:
     PictureSink(const Heading& head, OutputFile& out)
-        : heading(head), file(out), rows(head.options.family->shownCount(head.options.length)) {}
+        : heading(head),
+          file(out),
+          places(head.options.family->shownCount(head.options.length)),
+          placesPerRow((places + pixelsDown - 1) / pixelsDown),
+          rows((places + placesPerRow - 1) / placesPerRow) {}
 
     void add(std::int64_t, const Bins& bins) override {
         if (framesInLast == framesPerColumn || columns == 0) startColumn();
         ++framesInLast;
-        for (int k = 0; k < rows; ++k) {
-            const double magnitude = heading.magnitude(bins, k);
-            power[index(columns - 1, k)] += magnitude * magnitude;
+        for (int place = 0; place < places; ++place) {
+            const double magnitude = heading.magnitude(bins, binAt(place));
+            const int row = place / placesPerRow;
+            power[index(columns - 1, row)] +=
+                magnitude * magnitude / std::min(placesPerRow, places - row * placesPerRow);
         }
     }
 
@@ -49,14 +56,14 @@ public:
         const double missing = static_cast<double>(framesPerColumn) / static_cast<double>(framesInLast);
         for (int k = 0; k < rows; ++k) power[index(columns - 1, k)] *= missing;
         columnPixels = (fewestPixelsAcross + columns - 1) / columns;
-        rowPixels = std::max(4, fewestPixelsDown / rows);
+        rowPixels = pixelsDown / rows;
         plotWidth = columns * columnPixels;
         plotHeight = rows * rowPixels;
         Drawing drawing(marginLeft + plotWidth + marginRight, marginTop + plotHeight + marginBottom, background);
         drawing.fill(marginLeft - 2, marginTop - 2, plotWidth + 4, plotHeight + 4, frameLine);
         drawLevels(drawing);
         drawTimeAxis(drawing);
-        drawFrequencyAxis(drawing);
+        drawBinAxis(drawing);
         drawScale(drawing);
         file.write(drawing.png());
     }
@@ -65,6 +72,8 @@ private:
     std::size_t index(int column, int row) const {
         return static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) + static_cast<std::size_t>(row);
     }
+
+    int binAt(int place) const { return heading.options.family->shownBin(place, heading.options.length); }
 
     void startColumn() {
         if (columns == mostColumns) {
@@ -109,21 +118,24 @@ private:
         drawing.text(marginLeft + plotWidth + 24, top + 12, unit, ink);
     }
 
-    void drawFrequencyAxis(Drawing& drawing) const {
-        // Frequency rises evenly from row to row, and stands in the middle of its row.
-        const bool inKilohertz = heading.isSound && heading.frequency(rows - 1) >= 1000;
+    void drawBinAxis(Drawing& drawing) const {
+        // Positions rise evenly from place to place, and stand in the middle of theirs.
+        const bool ofSound = heading.isSound && heading.showsFrequency();
+        const bool inKilohertz = ofSound && heading.position(binAt(places - 1)) >= 1000;
         const double unit = inKilohertz ? 1000 : 1;
-        const double first = heading.frequency(0) / unit;
-        const double perRow = rows > 1 ? heading.frequency(1) / unit - first : 1;
-        const double range = perRow * rows, step = roundStep(range, 10);
-        for (int i = 0; i * step <= first + range - perRow / 2 + 1e-9 * range; ++i) {
-            const double row = (i * step - first) / perRow + 0.5;
+        const double first = heading.position(binAt(0)) / unit;
+        const double each = places > 1 ? heading.position(binAt(1)) / unit - first : 1;
+        const double range = each * places, leastStep = heading.showsFrequency() ? 0 : 1;
+        const double step = std::max(roundStep(range, 10), leastStep);
+        for (int i = 0; i * step <= first + range - each / 2 + 1e-9 * range; ++i) {
+            const double row = ((i * step - first) / each + 0.5) / placesPerRow;
             const int y = marginTop + plotHeight - static_cast<int>(std::lround(row * rowPixels));
             const std::string number = label(i * step);
             drawing.fill(marginLeft - 8, y - 1, 6, 2, ink);
             drawing.text(marginLeft - 14 - Drawing::textWidth(number), y - Drawing::textHeight / 2, number, ink);
         }
-        drawing.text(10, 10, inKilohertz ? "kHz" : heading.isSound ? "Hz" : "cycles/sample", ink);
+        const char* const frequencyUnit = inKilohertz ? "kHz" : ofSound ? "Hz" : "cycles/sample";
+        drawing.text(10, 10, heading.showsFrequency() ? frequencyUnit : "sequency", ink);
     }
 
     void drawScale(Drawing& drawing) const {
@@ -142,7 +154,7 @@ private:
 
     const Heading& heading;
     OutputFile& file;
-    int rows;
+    int places, placesPerRow, rows;
     int columns = 0;
     std::int64_t framesPerColumn = 1;
     std::int64_t framesInLast = 0;

@@ -19,7 +19,10 @@ struct Heading {
     double rate;
 
     double time(std::int64_t frame) const { return static_cast<double>(frame) * options.hop / rate; }
-    double frequency(int bin) const { return options.family->frequency(bin, options.length) * rate; }
+    bool showsFrequency() const { return options.family->axis == Axis::Frequency; }
+    double position(int bin) const {
+        return options.family->position(bin, options.length) * (showsFrequency() ? rate : 1);
+    }
     double magnitude(const Bins& bins, int bin) const { return options.family->magnitude(bins, bin); }
 };
 

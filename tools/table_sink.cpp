@@ -1,5 +1,6 @@
 // Spectra as text for people and as CSV for programs. Both write each number in the fewest digits that read back as
 // the same number, in the precision of the transform.
+#include <algorithm>
 #include <charconv>
 
 #include "sink.h"
@@ -22,36 +23,49 @@ void appendRight(std::string& line, const std::string& cell, std::size_t width) 
     line += cell;
 }
 
+// A long frame must not be held in memory as text.
+void writeWhenMuch(std::string& text, OutputFile& file) {
+    if (text.size() < 1 << 16) return;
+    file.write(text);
+    text.clear();
+}
+
 class TextSink : public Sink {
 public:
-    TextSink(const Heading& head, OutputFile& out) : heading(head), file(out) {
+    TextSink(const Heading& head, OutputFile& out)
+        : heading(head), file(out), binWidth(std::max<std::size_t>(5, std::to_string(head.options.length).size() + 1)) {
         const Options& options = heading.options;
         std::string text = "# " + heading.inputName;
         if (heading.isSound) {
             text += ", channel " + std::to_string(options.channel) + ", " + shortest(heading.rate) + " Hz";
         }
         text += "\n# family " + std::string(options.family->name) + ", length " + std::to_string(options.length) +
-                ", flag " + flagName(options.flag) + ", hop " + std::to_string(options.hop) + ", window " +
-                (options.window == Window::Hann ? "hann" : "none") + ", " +
+                (options.family->takesFlag ? ", flag " + flagName(options.flag) : "") + ", hop " +
+                std::to_string(options.hop) + ", window " + (options.window == Window::Hann ? "hann" : "none") + ", " +
                 (options.precision == Precision::Single ? "32" : "64") + " bits\n#";
-        appendRight(text, "bin", 3);
-        appendRight(text, heading.isSound ? "frequency/Hz" : "cycles/sample", 24);
+        appendRight(text, "bin", binWidth - 1);
+        appendRight(text,
+                    !heading.showsFrequency() ? "sequency"
+                    : heading.isSound         ? "frequency/Hz"
+                                              : "cycles/sample",
+                    24);
         for (const char* name : {"re", "im", "magnitude"}) appendRight(text, name, numberWidth);
         file.write(text + "\n");
     }
 
     void add(std::int64_t frame, const Bins& bins) override {
-        std::string text = "\n# frame " + std::to_string(frame) + " at " +
-                           (heading.isSound ? shortest(heading.time(frame)) + " s"
-                                            : "sample " + shortest(heading.time(frame))) + "\n";
+        std::string text =
+            "\n# frame " + std::to_string(frame) + " at " +
+            (heading.isSound ? shortest(heading.time(frame)) + " s" : "sample " + shortest(heading.time(frame))) + "\n";
         for (int k = 0; k < static_cast<int>(bins.size()); ++k) {
             const std::complex<double> bin = bins[static_cast<std::size_t>(k)];
-            appendRight(text, std::to_string(k), 4);
-            appendRight(text, shortest(heading.frequency(k)), 24);
+            appendRight(text, std::to_string(k), binWidth);
+            appendRight(text, shortest(heading.position(k)), 24);
             for (double value : {bin.real(), bin.imag(), heading.magnitude(bins, k)}) {
                 appendRight(text, binNumber(heading, value), numberWidth);
             }
             text += '\n';
+            writeWhenMuch(text, file);
         }
         file.write(text);
     }
@@ -61,12 +75,14 @@ private:
 
     const Heading& heading;
     OutputFile& file;
+    std::size_t binWidth;
 };
 
 class CsvSink : public Sink {
 public:
     CsvSink(const Heading& head, OutputFile& out) : heading(head), file(out) {
-        file.write("frame,time,bin,frequency,re,im,magnitude\n");
+        const char* const position = heading.showsFrequency() ? "frequency" : "sequency";
+        file.write("frame,time,bin," + std::string(position) + ",re,im,magnitude\n");
     }
 
     void add(std::int64_t frame, const Bins& bins) override {
@@ -74,11 +90,12 @@ public:
         std::string text;
         for (int k = 0; k < static_cast<int>(bins.size()); ++k) {
             const std::complex<double> bin = bins[static_cast<std::size_t>(k)];
-            text += start + std::to_string(k) + "," + shortest(heading.frequency(k));
+            text += start + std::to_string(k) + "," + shortest(heading.position(k));
             for (double value : {bin.real(), bin.imag(), heading.magnitude(bins, k)}) {
                 text += "," + binNumber(heading, value);
             }
             text += '\n';
+            writeWhenMuch(text, file);
         }
         file.write(text);
     }

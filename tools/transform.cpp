@@ -1,8 +1,11 @@
 // Runs the routines of a family and turns their statuses into errors.
-// Which lengths exist is never listed here: the library is asked.
+// Which sizes exist is never listed here: the library is asked. A size that is too long for a frame, or accepted by
+// the library though it is none of the family's, is not even asked for.
 #include "transform.h"
 
+#include <bit>
 #include <cmath>
+#include <new>
 
 #include "status.h"
 #include "user_error.h"
@@ -19,85 +22,156 @@ const Routines<T>& routinesOf(const Family& family) {
     }
 }
 
-template <typename T>
-ZulgStatus runForward(const Family& family, int length, std::int32_t flag, std::span<const double> samples,
-                      Bins& bins) {
-    T in[longestLength]{};
-    std::complex<T> out[longestLength];
-    for (std::size_t i = 0; i < samples.size(); ++i) in[i] = static_cast<T>(samples[i]);
-    const ZulgStatus status = routinesOf<T>(family).forward(in, out, length, flag);
-    bins.assign(out, out + (status == StatusOk ? family.binCount(length) : 0));
-    return status;
-}
-
-template <typename T>
-ZulgStatus runInverse(const Family& family, int length, std::int32_t flag, const Bins& bins, Bins& points) {
-    std::complex<T> in[longestLength], out[longestLength];
-    for (std::size_t i = 0; i < bins.size(); ++i) in[i] = std::complex<T>(bins[i]);
-    const ZulgStatus status = routinesOf<T>(family).inverse(in, out, length, flag);
-    points.assign(out, out + length);
-    return status;
-}
-
-// The tool's arrays bound the lengths that may be asked for at all.
-ZulgStatus tryForward(const Family& family, int length, std::int32_t flag) {
-    if (length < 1 || length > longestLength) return StatusSizeError;
-    Bins bins;
-    return runForward<double>(family, length, flag, {}, bins);
-}
-
-// The two directions need not have the same lengths.
-ZulgStatus tryBothWays(const Family& family, int length, std::int32_t flag) {
-    const ZulgStatus status = tryForward(family, length, flag);
-    Bins points;
-    return status != StatusOk ? status : runInverse<double>(family, length, family.restoringFlag(flag), {}, points);
-}
-
-// The lengths for which `attempt` succeeds, such as "2-10, 12, 14-16".
-std::string lengthsOf(const Family& family, decltype(tryForward)& attempt) {
-    const auto exists = [&](int length) { return attempt(family, length, DivInvByN) == StatusOk; };
-    std::string list;
-    for (int first = 1; first <= longestLength; ++first) {
-        if (!exists(first)) continue;
-        int last = first;
-        while (exists(last + 1)) ++last;
-        list += (list.empty() ? "" : ", ") + std::to_string(first) + (last > first ? "-" + std::to_string(last) : "");
-        first = last;
-    }
-    return list.empty() ? "none" : list;
-}
-
 void expectOk(ZulgStatus status) {
     if (status != StatusOk) throw UserError(statusText(status));
 }
 
+enum class Ways { There, Both };
+
+bool isPowerOfTwo(int length) { return length > 0 && std::has_single_bit(static_cast<unsigned>(length)); }
+
+bool canBeFramed(const Family& family, int size) {
+    const int longest = family.sizes == Sizes::Orders ? std::bit_width(unsigned{longestFrame}) - 1 : longestFrame;
+    return size >= 1 && size <= longest && (family.sizes != Sizes::PowersOfTwo || isPowerOfTwo(size));
+}
+
+// Asks with null pointers, since these come second to a size that does not exist.
+bool exists(const Family& family, int size, Ways ways) {
+    const auto& routines = family.wide;
+    const Call call{size, NoDivByAny, nullptr};
+    std::int32_t bytes;
+    return canBeFramed(family, size) &&
+           (!routines.workspaceBytes || routines.workspaceBytes(size, &bytes) != StatusSizeError) &&
+           routines.forward(nullptr, nullptr, call) != StatusSizeError &&
+           (ways == Ways::There || routines.inverse(nullptr, nullptr, call) != StatusSizeError);
+}
+
+// Such as "2-10, 12, 14-16", or "the powers of two 2-64".
+std::string sizesOf(const Family& family, Ways ways) {
+    const auto next = [&](int size) { return family.sizes == Sizes::PowersOfTwo ? 2 * size : size + 1; };
+    std::string list;
+    for (int first = 1; first <= longestFrame; first = next(first)) {
+        if (!exists(family, first, ways)) continue;
+        int last = first;
+        while (exists(family, next(last), ways)) last = next(last);
+        list += (list.empty() ? "" : ", ") + std::to_string(first) + (last > first ? "-" + std::to_string(last) : "");
+        first = last;
+    }
+    if (list.empty()) return "none";
+    if (family.sizes == Sizes::PowersOfTwo) return "the powers of two " + list;
+    return (family.sizes == Sizes::Orders ? "the orders " : "") + list;
+}
+
+std::string sizeWords(const Options& options) {
+    return options.byOrder ? "--order " + std::to_string(options.size) : "--length " + std::to_string(options.length);
+}
+
+std::string whyMissing(const Options& options) {
+    const Family& family = *options.family;
+    if (options.byOrder) return "no transform of this order";
+    if (family.sizes != Sizes::Lengths && !isPowerOfTwo(options.length)) return "not a power of two";
+    if (family.sizes == Sizes::PowersOfTwo && options.length > longestFrame) return "too long for one frame";
+    return "no transform of this length";
+}
+
+// Tells the options back, so that it can stand in front of what relies on them.
+const Options& checked(const Options& options) {
+    const Family& family = *options.family;
+    if (exists(family, options.size, Ways::There)) return options;
+    throw UserError(sizeWords(options) + ": " + whyMissing(options) + "; the " + std::string(family.name) +
+                    " family has " + sizesOf(family, Ways::There));
+}
+
+// The two directions need not have the same sizes.
+void expectWayBack(const Options& options) {
+    const Family& family = *options.family;
+    if (exists(family, options.size, Ways::Both)) return;
+    throw UserError("--check at " + sizeWords(options) + ": " + whyMissing(options) +
+                    " back to the samples; both ways, the " + std::string(family.name) + " family has " +
+                    sizesOf(family, Ways::Both));
+}
+
+std::variant<Prepared<float>, Prepared<double>> preparedFor(const Options& options) {
+    if (options.precision == Precision::Single) return Prepared<float>(options);
+    return Prepared<double>(options);
+}
+
+// Complex values from and to plain numbers: both parts side by side, or the real part alone.
+template <typename T>
+void flatten(ConstBins values, int numbersInValue, std::vector<T>& numbers) {
+    auto number = numbers.begin();
+    for (const std::complex<double>& value : values) {
+        *number++ = static_cast<T>(value.real());
+        if (numbersInValue == 2) *number++ = static_cast<T>(value.imag());
+    }
+}
+
+template <typename T>
+void unflatten(const std::vector<T>& numbers, int numbersInValue, Bins& values) {
+    values.resize(numbers.size() / static_cast<std::size_t>(numbersInValue));
+    auto number = numbers.begin();
+    for (std::complex<double>& value : values) {
+        value.real(*number++);
+        value.imag(numbersInValue == 2 ? *number++ : 0);
+    }
+}
+
 }  // namespace
 
-Transform::Transform(const Options& options)
-    : family(*options.family), length(options.length), flag(options.flag), precision(options.precision) {
-    const ZulgStatus status = tryForward(family, length, flag);
-    if (status == StatusSizeError) {
-        throw UserError("--length " + std::to_string(length) + ": " + statusText(status) + "; the " +
-                        std::string(family.name) + " family has " + lengthsOf(family, tryForward));
-    }
-    if (status == StatusFlagError) throw UserError("--flag " + std::to_string(flag) + ": " + statusText(status));
+template <typename T>
+Prepared<T>::Prepared(const Options& options)
+    : family(*options.family),
+      routines(routinesOf<T>(family)),
+      call{options.size, options.flag, nullptr},
+      points(static_cast<std::size_t>(options.length * family.numbersInPoint)),
+      bins(static_cast<std::size_t>(family.binCount(options.length) * family.numbersInBin)) {
+    if (routines.workspaceBytes) makeWorkspace();
+    // Silence through it once: the flag is the library's to refuse.
+    const ZulgStatus status = routines.forward(points.data(), bins.data(), call);
+    if (status == StatusFlagError) throw UserError("--flag " + std::to_string(call.flag) + ": " + statusText(status));
     expectOk(status);
-    if (options.check && tryBothWays(family, length, flag) == StatusSizeError) {
-        throw UserError("--check at --length " + std::to_string(length) + ": " + statusText(StatusSizeError) +
-                        " back to the samples; both ways, the " + std::string(family.name) + " family has " +
-                        lengthsOf(family, tryBothWays));
+}
+
+template <typename T>
+void Prepared<T>::makeWorkspace() {
+    std::int32_t bytes = 0;
+    expectOk(routines.workspaceBytes(call.size, &bytes));
+    constexpr std::size_t alignment = 64;
+    const std::size_t lines = static_cast<std::size_t>(bytes) / alignment + 1;
+    block.reset(std::aligned_alloc(alignment, lines * alignment));
+    if (!block) throw std::bad_alloc();
+    expectOk(routines.makeWorkspace(call.size, block.get(), &call.workspace));
+}
+
+template <typename T>
+void Prepared<T>::forward(std::span<const double> samples, Bins& result) {
+    auto point = points.begin();
+    for (double sample : samples) {
+        *point++ = static_cast<T>(sample);
+        if (family.numbersInPoint == 2) *point++ = 0;
     }
+    expectOk(routines.forward(points.data(), bins.data(), call));
+    unflatten(bins, family.numbersInBin, result);
 }
 
-void Transform::forward(std::span<const double> samples, Bins& bins) const {
-    expectOk(precision == Precision::Single ? runForward<float>(family, length, flag, samples, bins)
-                                            : runForward<double>(family, length, flag, samples, bins));
+template <typename T>
+void Prepared<T>::inverse(const Bins& given, Bins& result) {
+    flatten(given, family.numbersInBin, bins);
+    const Call back{call.size, family.restoringFlag(call.flag), call.workspace};
+    expectOk(routines.inverse(bins.data(), points.data(), back));
+    unflatten(points, family.numbersInPoint, result);
 }
 
-void Transform::inverse(const Bins& bins, Bins& points) const {
-    const std::int32_t restoring = family.restoringFlag(flag);
-    expectOk(precision == Precision::Single ? runInverse<float>(family, length, restoring, bins, points)
-                                            : runInverse<double>(family, length, restoring, bins, points));
+Transform::Transform(const Options& options) : prepared(preparedFor(checked(options))) {
+    if (options.check) expectWayBack(options);
+}
+
+void Transform::forward(std::span<const double> samples, Bins& bins) {
+    std::visit([&](auto& transform) { transform.forward(samples, bins); }, prepared);
+}
+
+void Transform::inverse(const Bins& bins, Bins& points) {
+    std::visit([&](auto& transform) { transform.inverse(bins, points); }, prepared);
 }
 
 void RelativeError::add(std::span<const double> samples, const Bins& points) {

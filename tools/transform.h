@@ -1,9 +1,13 @@
-// One transform of the library, chosen once and run frame by frame, in either precision.
+// One transform of the library, chosen and prepared once and run frame by frame, in either precision: arrays, buffers
+// and plans are made at the start, and no frame allocates.
 // Bins and points come out as double; those of single precision fit into that without loss.
 #pragma once
 
 #include <complex>
+#include <cstdlib>
+#include <memory>
 #include <span>
+#include <variant>
 #include <vector>
 
 #include "options.h"
@@ -12,20 +16,40 @@ namespace spectrum {
 
 using Bins = std::vector<std::complex<double>>;
 
-class Transform {
+// The routines of a family with all that they are called with.
+template <typename T>
+class Prepared {
 public:
-    // Throws UserError in the library's words when it has no such transform.
-    explicit Transform(const Options& options);
+    explicit Prepared(const Options& options);
 
-    void forward(std::span<const double> samples, Bins& bins) const;
-    // With the scale that restores what forward was given.
-    void inverse(const Bins& bins, Bins& points) const;
+    void forward(std::span<const double> samples, Bins& bins);
+    void inverse(const Bins& bins, Bins& points);
 
 private:
+    struct Release {
+        void operator()(void* block) const { std::free(block); }
+    };
+
+    void makeWorkspace();
+
     const Family& family;
-    int length;
-    std::int32_t flag;
-    Precision precision;
+    Routines<T> routines;
+    Call call;
+    std::vector<T> points, bins;
+    std::unique_ptr<void, Release> block;
+};
+
+class Transform {
+public:
+    // Throws UserError, in the words of the option that asks for it, when there is no such transform.
+    explicit Transform(const Options& options);
+
+    void forward(std::span<const double> samples, Bins& bins);
+    // With the scale that restores what forward was given.
+    void inverse(const Bins& bins, Bins& points);
+
+private:
+    std::variant<Prepared<float>, Prepared<double>> prepared;
 };
 
 // How far the points that an inverse transform gave are from the samples: the root of the summed squared error over

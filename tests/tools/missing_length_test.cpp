@@ -1,6 +1,8 @@
-// What is said of lengths that do not exist, or only in one direction: asked of a family made up for this, so that it
-// does not depend on the lengths of the library.
+// What is said of sizes that do not exist, exist in one direction only, or must not be asked for: asked of families
+// made up for this, so that it does not depend on the sizes of the library.
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "tools/transform.h"
 #include "tools/user_error.h"
@@ -8,45 +10,61 @@
 namespace spectrum {
 namespace {
 
-ZulgStatus answer(bool exists, std::int32_t flag) {
+// There and back: the numbers themselves.
+template <typename T>
+ZulgStatus copied(bool exists, const T* from, T* to, const Call& call) {
     if (!exists) return StatusSizeError;
-    return flag == 1 || flag == 2 || flag == 4 || flag == 8 ? StatusOk : StatusFlagError;
-}
-
-// There and back: the samples themselves.
-template <typename T>
-ZulgStatus thereFrom3To9And12(const T* samples, std::complex<T>* bins, int length, std::int32_t flag) {
-    const ZulgStatus status = answer((length >= 3 && length <= 9) || length == 12, flag);
-    for (int i = 0; status == StatusOk && i < length; ++i) bins[i] = samples[i];
-    return status;
+    if (from == nullptr || to == nullptr) return StatusNullPointer;
+    if (call.flag != 1 && call.flag != 2 && call.flag != 4 && call.flag != 8) return StatusFlagError;
+    std::copy_n(from, call.size, to);
+    return StatusOk;
 }
 
 template <typename T>
-ZulgStatus backBut6And9(const std::complex<T>* bins, std::complex<T>* points, int length, std::int32_t flag) {
-    const ZulgStatus status = answer(length != 6 && length != 9, flag);
-    for (int i = 0; status == StatusOk && i < length; ++i) points[i] = bins[i];
-    return status;
+ZulgStatus thereFrom3To9And12(const T* points, T* bins, const Call& call) {
+    return copied((call.size >= 3 && call.size <= 9) || call.size == 12, points, bins, call);
 }
 
-constexpr Family family = {
-    .name = "echo",
-    .binCount = [](int length) { return length; },
-    .shownCount = [](int length) { return length; },
-    .frequency = [](int bin, int length) { return double(bin) / length; },
-    .magnitude = [](ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); },
-    .restoringFlag = [](std::int32_t flag) { return flag; },
-    .single = {thereFrom3To9And12<float>, backBut6And9<float>},
-    .wide = {thereFrom3To9And12<double>, backBut6And9<double>},
-};
+template <typename T>
+ZulgStatus backBut6And9(const T* bins, T* points, const Call& call) {
+    return copied(call.size != 6 && call.size != 9, bins, points, call);
+}
+
+// Takes each size from 4 to 64, and tells when it is asked for one that is no power of two.
+template <typename T>
+ZulgStatus anyFrom4To64(const T* from, T* to, const Call& call) {
+    EXPECT_EQ(call.size & (call.size - 1), 0) << call.size;
+    return copied(call.size >= 4 && call.size <= 64, from, to, call);
+}
+
+constexpr Family familyOf(Sizes sizes, Routines<float> single, Routines<double> wide) {
+    return {
+        .name = "echo",
+        .sizes = sizes,
+        .takesFlag = true,
+        .numbersInPoint = 1,
+        .numbersInBin = 1,
+        .binCount = [](int length) { return length; },
+        .axis = Axis::Frequency,
+        .position = [](int bin, int length) { return double(bin) / length; },
+        .shownCount = [](int length) { return length; },
+        .shownBin = [](int place, int) { return place; },
+        .magnitude = [](ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); },
+        .restoringFlag = [](std::int32_t flag) { return flag; },
+        .single = single,
+        .wide = wide,
+    };
+}
+
+constexpr Family lengths = familyOf(Sizes::Lengths, {nullptr, nullptr, thereFrom3To9And12<float>, backBut6And9<float>},
+                                    {nullptr, nullptr, thereFrom3To9And12<double>, backBut6And9<double>});
+constexpr Family powers = familyOf(Sizes::PowersOfTwo, {nullptr, nullptr, anyFrom4To64<float>, anyFrom4To64<float>},
+                                   {nullptr, nullptr, anyFrom4To64<double>, anyFrom4To64<double>});
+constexpr Family orders = familyOf(Sizes::Orders, lengths.single, lengths.wide);
 
 // Empty where there is such a transform.
-std::string refusal(int length, bool check, std::int32_t flag = DivInvByN) {
-    Options options{};
-    options.family = &family;
-    options.length = length;
-    options.flag = flag;
+std::string refusal(Options options) {
     options.precision = Precision::Double;
-    options.check = check;
     try {
         const Transform transform(options);
     } catch (const UserError& error) {
@@ -55,12 +73,30 @@ std::string refusal(int length, bool check, std::int32_t flag = DivInvByN) {
     return "";
 }
 
+std::string refusal(int length, bool check, std::int32_t flag = DivInvByN, const Family& family = lengths) {
+    Options options{};
+    options.family = &family;
+    options.length = options.size = length;
+    options.flag = flag;
+    options.check = check;
+    return refusal(options);
+}
+
+std::string refusalOfOrder(int order, int length, bool byOrder) {
+    Options options{};
+    options.family = &orders;
+    options.length = length;
+    options.size = order;
+    options.byOrder = byOrder;
+    options.flag = NoDivByAny;
+    return refusal(options);
+}
+
 TEST(MissingLength, isToldWithThoseThatExist) {
     for (bool check : {false, true}) {
-        for (int length : {-1, 0, 2, 10, 13, 64, 65}) {
+        for (int length : {-1, 0, 2, 10, 13, 64, 65, longestFrame, longestFrame + 1}) {
             EXPECT_EQ(refusal(length, check), "--length " + std::to_string(length) +
-                                                  ": the library has no transform of this length; the echo family "
-                                                  "has 3-9, 12");
+                                                  ": no transform of this length; the echo family has 3-9, 12");
         }
         for (int length : {3, 5, 7, 8, 12}) EXPECT_EQ(refusal(length, check), "");
     }
@@ -70,14 +106,46 @@ TEST(MissingLength, mattersBackwardOnlyToTheCheck) {
     for (int length : {6, 9}) {
         EXPECT_EQ(refusal(length, false), "");
         EXPECT_EQ(refusal(length, true), "--check at --length " + std::to_string(length) +
-                                             ": the library has no transform of this length back to the samples; "
-                                             "both ways, the echo family has 3-5, 7-8, 12");
+                                             ": no transform of this length back to the samples; both ways, the echo "
+                                             "family has 3-5, 7-8, 12");
     }
 }
 
 TEST(MissingLength, outranksABadFlag) {
     EXPECT_EQ(refusal(2, true, 3).find("--length 2: "), 0u);
     EXPECT_EQ(refusal(6, true, 3).find("--flag 3: "), 0u);
+}
+
+TEST(LengthThatIsNoPowerOfTwo, isNeverAskedForWherePowersAreDue) {
+    for (int length : {-8, 0, 3, 5, 9, 17, 33, 63, 65, longestFrame + 1}) {
+        EXPECT_EQ(
+            refusal(length, true, NoDivByAny, powers),
+            "--length " + std::to_string(length) + ": not a power of two; the echo family has the powers of two 4-64");
+    }
+    for (int length : {1, 2, 128, longestFrame}) {
+        EXPECT_EQ(refusal(length, false, NoDivByAny, powers),
+                  "--length " + std::to_string(length) +
+                      ": no transform of this length; the echo family has the powers of two 4-64");
+    }
+    for (int length : {4, 8, 16, 32, 64}) EXPECT_EQ(refusal(length, true, NoDivByAny, powers), "");
+}
+
+TEST(LengthThatIsTooLongForAFrame, isNotAskedForEither) {
+    EXPECT_EQ(refusal(2 * longestFrame, false, NoDivByAny, powers),
+              "--length 2097152: too long for one frame; the echo family has the powers of two 4-64");
+}
+
+TEST(MissingOrder, isToldInTheWordsThatAskForIt) {
+    EXPECT_EQ(refusalOfOrder(3, 8, true), "");
+    EXPECT_EQ(refusalOfOrder(12, 4096, false), "");
+    for (int order : {-1, 0, 2, 13, 20, 21, 31, 1000}) {
+        EXPECT_EQ(refusalOfOrder(order, 0, true), "--order " + std::to_string(order) +
+                                                      ": no transform of this order; the echo family has the orders "
+                                                      "3-9, 12");
+    }
+    EXPECT_EQ(refusalOfOrder(2, 4, false),
+              "--length 4: no transform of this length; the echo family has the orders 3-9, 12");
+    EXPECT_EQ(refusalOfOrder(0, 60, false), "--length 60: not a power of two; the echo family has the orders 3-9, 12");
 }
 
 }  // namespace

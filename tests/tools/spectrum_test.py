@@ -58,11 +58,29 @@ def hartley(frame):
     return [bin.real - bin.imag for bin in dft(frame)]
 
 
-FAMILIES = {  # name: the routines there and back, and the bins of a frame without any scale
+FAMILIES = {  # of lengths 2 to 64; name: the routines there and back, and the bins of a frame without any scale
     "complex": ("zulgDFTFwd_CToC_64fc", "zulgDFTInv_CToC_64fc", dft),
     "real": ("zulgDFTFwd_RToCCS_64f", "zulgDFTInv_CCSToR_64f", lambda frame: dft(frame)[:len(frame) // 2 + 1]),
     "hartley": ("zulgHartley_64f", "zulgHartley_64f", hartley),
 }
+
+
+ALL_FAMILIES = [*FAMILIES, "wht"]
+SCALES_OF_INVOLUTIONS = {words: FLAGS["forward", "1"] if words[0] == "backward" else scale
+                         for words, scale in FLAGS.items()}
+
+
+def pattern(k, n):
+    """Row k of the Walsh-Hadamard matrix of n points in natural order."""
+    return [(-1) ** bin(j & k).count("1") for j in range(n)]
+
+
+def walsh_hadamard(frame):
+    n = len(frame)
+    if n == 1:
+        return list(frame)
+    low, high = walsh_hadamard(frame[:n // 2]), walsh_hadamard(frame[n // 2:])
+    return [a + b for a, b in zip(low, high)] + [a - b for a, b in zip(low, high)]
 
 
 def library():
@@ -236,6 +254,114 @@ class Spectra(ToolTest):
             self.assertEqual(float(rows[k]["magnitude"]), abs(float(rows[k]["re"])))
 
 
+def check_error(report):
+    return float(re.search(r"relative error +(\S+) after", report.decode())[1])
+
+
+class WalshHadamard(ToolTest):
+    ARGUMENTS = "-", "--family", "wht"
+
+    def test_orders_are_those_of_the_library(self):
+        ask, bytes_wanted, source, orders = library().zulgWHTGetBufferSize_64f, ctypes.c_int32(), random.Random(5), []
+        for order in range(-1, 22):
+            if ask(order, ctypes.byref(bytes_wanted)) != 0:
+                self.refused(*self.ARGUMENTS, "--order", order, given=b"1 " * 9,
+                             says=["--order %d: no transform of this order" % order, "the orders 1-13"])
+                continue
+            n = 2 ** order
+            samples = [source.uniform(-1, 1) for _ in range(n)]
+            given = numbers(samples)
+            text = self.ok(*self.ARGUMENTS, "--order", order, "--flag", "none", "--format", "csv", given=given)
+            self.assertEqual(self.ok(*self.ARGUMENTS, "--length", n, "--flag", "none", "--format", "csv", given=given),
+                             text)
+            rows = list(csv.DictReader(io.StringIO(text.decode())))
+            for k, (row, due) in enumerate(zip(rows, walsh_hadamard(samples), strict=True)):
+                self.assertEqual((row["bin"], row["im"]), (str(k), "0"))
+                self.assertAlmostEqual(float(row["re"]), due, delta=1e-13)
+                self.assertEqual(float(row["magnitude"]), abs(float(row["re"])))
+            self.assertEqual(sorted(int(row["sequency"]) for row in rows), list(range(n)))
+            for k in source.sample(range(n), min(n, 40)):
+                signs = pattern(k, n)
+                self.assertEqual(int(rows[k]["sequency"]), sum(a != b for a, b in zip(signs, signs[1:])), (order, k))
+            self.assertLess(check_error(self.ok(*self.ARGUMENTS, "--order", order, "--check", given=given)), 2e-15)
+            orders.append(order)
+        self.assertEqual(orders, list(range(1, 14)))
+
+    def test_a_pattern_lands_in_its_bin_at_each_flag(self):
+        for order, k in ((5, 11), (9, 300)):  # without and with a buffer
+            n = 2 ** order
+            given = numbers([0.5 * sign for sign in pattern(k, n)])
+            for words, scale in SCALES_OF_INVOLUTIONS.items():
+                for word, precision in itertools.product(words, (64, 32)):
+                    rows = self.table(*self.ARGUMENTS, "--order", order, "--flag", word, "--precision", precision,
+                                      given=given)
+                    for row in rows:
+                        due = 0.5 * n * scale(n) if int(row["bin"]) == k else 0
+                        self.assertAlmostEqual(float(row["re"]), due, delta=1e-6 * n * scale(n))
+
+    def test_whole_numbers_are_exact(self):
+        source = random.Random(6)
+        samples = [source.randrange(-1000, 1000) for _ in range(8192)]
+        rows = self.table(*self.ARGUMENTS, "--order", 13, "--flag", "none", "--precision", 32, given=numbers(samples))
+        self.assertEqual([float(row["re"]) for row in rows], walsh_hadamard(samples))
+
+    def test_check_error_is_small_in_many_frames(self):
+        source = random.Random(7)
+        given = numbers([source.uniform(-1, 1) for _ in range(1000)])
+        for order, words in itertools.product((6, 8), FLAGS):
+            for precision, limit in ((64, 1e-15), (32, 3e-7)):
+                report = self.ok(*self.ARGUMENTS, "--order", order, "--hop", 45, "--flag", words[0], "--check",
+                                 "--precision", precision, given=given)
+                self.assertIn(b" of %d points each way" % 2 ** order, report)
+                self.assertLess(check_error(report), limit)
+                self.assertGreater(check_error(report), 0)
+
+    def test_shape(self):
+        given = b"1 2 3 4 5 6 7 9"
+        text = self.ok(*self.ARGUMENTS, "--order", 2, "--format", "csv", given=given).decode()
+        self.assertEqual(text.splitlines(), ["frame,time,bin,sequency,re,im,magnitude", "0,0,0,0,2.5,0,2.5",
+                                             "0,0,1,3,-0.5,0,0.5", "0,0,2,1,-1,0,1", "0,0,3,2,0,0,0",
+                                             "1,4,0,0,6.75,0,6.75", "1,4,1,3,-0.75,0,0.75", "1,4,2,1,-1.25,0,1.25",
+                                             "1,4,3,2,0.25,0,0.25"])
+        text = self.ok(*self.ARGUMENTS, "--order", 2, given=given).decode()
+        self.assertIn("family wht, length 4, flag backward,", text)
+        self.assertRegex(text, "# bin +sequency +re +im +magnitude\n")
+        # The sequency counts in frames: a rate does not change it.
+        path = self.path("four.wav", sound_files.wav([[1, 2, 3, 4]], rate=16000))
+        self.assertEqual([row["sequency"] for row in self.table(path, "--family", "wht", "--order", 2)],
+                         ["0", "3", "1", "2"])
+
+    def test_columns_are_straight_at_any_order(self):
+        for order in (2, 13):
+            lines = self.ok(*self.ARGUMENTS, "--order", order, given=b"1 " * 2 ** order).decode().splitlines()
+            ends = {tuple(word.end() for word in re.finditer(r"[^ ]+", line))
+                    for line in lines if re.match("# +bin| ", line)}
+            self.assertEqual(len({end[-5:] for end in ends}), 1)
+
+    def test_default_is_that_of_the_length(self):
+        self.assertEqual(len(self.table(*self.ARGUMENTS, given=b"1 " * 64)), 64)
+
+    def test_refusals(self):
+        for arguments, says in (
+                (["--length", 60], ["--length 60: not a power of two", "the orders 1-13"]),
+                (["--length", 0], "--length 0: not a power of two"),
+                (["--length", -8], "--length -8: not a power of two"),
+                (["--length", 1], "--length 1: no transform of this length"),
+                (["--length", 16384], ["--length 16384: no transform of this length", "the orders 1-13"]),
+                (["--length", 2 ** 30], "--length 1073741824: no transform of this length"),
+                (["--order", 31], "--order 31: no transform of this order"),
+                (["--order", 1000000], "--order 1000000: no transform of this order"),
+                (["--order", -2147483648], "--order -2147483648: no transform of this order"),
+                (["--order", "many"], ["--order", "many"]),
+                (["--order", 4, "--length", 16], ["--order 4", "--length 16", "one of them is enough"]),
+                (["--order", 4, "--flag", 3], ["--flag 3", "none of 1, 2, 4, 8"])):
+            self.refused(*self.ARGUMENTS, *arguments, given=b"1 2 3 4 " * 16, says=says)
+        for family in FAMILIES:
+            self.refused("-", "--family", family, "--order", 4, given=b"1 " * 64,
+                         says=["--order 4", "the %s family has no orders" % family, "--length"])
+        self.refused(*self.ARGUMENTS, "--order", 4, given=b"1 " * 15, says=["too few samples: 15", "takes 16"])
+
+
 class Tables(ToolTest):
     def frames(self, count, *arguments):
         return [int(row["frame"]) for row in self.table("-", *arguments, given=numbers(range(count)))
@@ -346,6 +472,7 @@ class Pictures(ToolTest):
     def plot(self, data, columns, bins):
         """The plot without its rim, checked for its size, and the pixels of one column and of one bin."""
         rows = sound_files.png_rows(data)
+        bins = bins if bins <= 512 else 512  # neighbours share a row; of the lengths here, the same number in each
         across, down = -(-768 // columns), 512 // bins
         self.assertEqual((len(rows[0]), len(rows)), (LEFT + columns * across + RIGHT, TOP + bins * down + BOTTOM))
         return [row[LEFT:LEFT + columns * across] for row in rows[TOP:TOP + bins * down]], across, down
@@ -363,6 +490,26 @@ class Pictures(ToolTest):
             with open(out, "rb") as file:
                 plot, across, down = self.plot(file.read(), columns=10, bins=9)
             self.assertEqual([self.brightest(plot, across, down, c) for c in range(10)], [2] * 5 + [7] * 5)
+
+    def test_rows_are_in_the_order_of_sequency(self):
+        n = 16
+        patterns = [pattern(k, n) for k in range(n)]
+        plot, across, down = self.plot(self.ok("-", "--family", "wht", "--order", 4, "--format", "png",
+                                               given=numbers(sum(patterns, []))), columns=n, bins=n)
+        for column, signs in enumerate(patterns):
+            changes = sum(a != b for a, b in zip(signs, signs[1:]))
+            self.assertEqual(self.brightest(plot, across, down, column), changes)
+
+    def test_words_and_numbers_of_the_axis(self):
+        """The marks stand left of the plot; their distances tell what is numbered."""
+        def marks(*arguments):
+            rows = sound_files.png_rows(self.ok("-", "--format", "png", *arguments, given=b"1 " * 1024))
+            light = [y for y in range(TOP - 8, len(rows) - BOTTOM + 8) if brightness(rows[y][LEFT - 5]) > 1500]
+            return [y for y in light if y - 1 not in light], rows[:TOP - 10]
+        wht, _ = marks("--family", "wht", "--order", 10)
+        self.assertEqual(wht, [TOP + 512 - 1 - y for y in (500, 400, 300, 200, 100, 0)])  # 1000 .. 0, two to a row
+        small, _ = marks("--family", "wht", "--order", 1)
+        self.assertEqual(len(small), 2)  # 0 and 1: there are no halves of sequencies
 
     def test_pixels_of_a_bin_are_alike(self):
         plot, across, down = self.plot(self.ok("-", "--length", 8, "--format", "png", given=numbers(cosine(8, 1, 24))),
@@ -488,9 +635,9 @@ class Layouts(ToolTest):
 class Options(ToolTest):
     def test_help_and_version(self):
         text = self.ok("--help").decode()
-        for family in FAMILIES:
+        for family in ALL_FAMILIES:
             self.assertIn(family + " is the ", text)
-        for word in ("--length", "--family", "--flag", "--hop", "--window", "--channel", "--precision", "--format",
+        for word in ("--length", "--order", "--family", "--flag", "--hop", "--window", "--channel", "--precision", "--format",
                      "--output", "--check", "--version", "filled up with zeros", "layout"):
             self.assertIn(word, text)
 
@@ -549,7 +696,7 @@ class Errors(ToolTest):
                 (["-", "--length", "0"], ["--length 0", "no transform of this length"]),
                 (["-", "--length", "-4"], ["--length -4", "no transform of this length"]),
                 (["-", "--length", "99999999999999"], "--length"),
-                (["-", "--family", "fancy"], ["--family fancy", "no such family", *FAMILIES]),
+                (["-", "--family", "fancy"], ["--family fancy", "no such family", *ALL_FAMILIES]),
                 (["-", "--flag", "3"], ["--flag 3", "none of 1, 2, 4, 8"]),
                 (["-", "--flag", "0"], ["--flag 0", "none of 1, 2, 4, 8"]),
                 (["-", "--flag", "sideways"], ["--flag sideways", "backward"]),

@@ -25,6 +25,28 @@ ZulgStatus buffer(std::int32_t, void* block, void** workspace) {
     return StatusOk;
 }
 
+template <typename Plan, auto routine>
+ZulgStatus plan(std::int32_t length, void* block, void** workspace) {
+    Plan* made = nullptr;
+    const ZulgStatus status = routine(&made, length, static_cast<std::uint8_t*>(block));
+    *workspace = made;
+    return status;
+}
+
+template <typename Plan, auto routine, typename T>
+ZulgStatus planned(const T* from, T* to, const Call& call) {
+    return routine(from, to, static_cast<Plan*>(call.workspace));
+}
+
+// Twice the DCT-IV gives N/2 times the input.
+template <typename Plan, auto routine, typename T>
+ZulgStatus plannedInverse(const T* from, T* to, const Call& call) {
+    const ZulgStatus status = planned<Plan, routine>(from, to, call);
+    if (status == StatusOk)
+        std::for_each_n(to, call.size, [&](T& value) { value *= T(2) / static_cast<T>(call.size); });
+    return status;
+}
+
 int all(int length) { return length; }
 
 // Samples are real, so that the bins above the middle only mirror the others.
@@ -136,6 +158,24 @@ constexpr Family families[] = {
         .restoringFlag = flagOfInvolution,
         .single = {zulgWHTGetBufferSize_32f, buffer, buffered<zulgWHT_32f>, buffered<zulgWHT_32f>},
         .wide = {zulgWHTGetBufferSize_64f, buffer, buffered<zulgWHT_64f>, buffered<zulgWHT_64f>},
+    },
+    {
+        .name = "dct4",
+        .sizes = Sizes::PowersOfTwo,
+        .takesFlag = false,
+        .numbersInPoint = 1,
+        .numbersInBin = 1,
+        .binCount = all,
+        .axis = Axis::Frequency,
+        .position = [](int bin, int length) { return (bin + 0.5) / (2.0 * length); },
+        .shownCount = all,
+        .shownBin = inTheirOrder,
+        .magnitude = ownMagnitude,
+        .restoringFlag = [](std::int32_t flag) { return flag; },
+        .single = {zulgDCT4GetSize_32f, plan<ZulgDCT4Plan_32f, zulgDCT4Init_32f>,
+                   planned<ZulgDCT4Plan_32f, zulgDCT4_32f>, plannedInverse<ZulgDCT4Plan_32f, zulgDCT4_32f>},
+        .wide = {zulgDCT4GetSize_64f, plan<ZulgDCT4Plan_64f, zulgDCT4Init_64f>, planned<ZulgDCT4Plan_64f, zulgDCT4_64f>,
+                 plannedInverse<ZulgDCT4Plan_64f, zulgDCT4_64f>},
     },
 };
 

@@ -6,6 +6,7 @@ import ctypes
 import io
 import itertools
 import math
+import operator
 import os
 import pty
 import random
@@ -65,7 +66,7 @@ FAMILIES = {  # of lengths 2 to 64; name: the routines there and back, and the b
 }
 
 
-ALL_FAMILIES = [*FAMILIES, "wht"]
+ALL_FAMILIES = [*FAMILIES, "wht", "dct4"]
 SCALES_OF_INVOLUTIONS = {words: FLAGS["forward", "1"] if words[0] == "backward" else scale
                          for words, scale in FLAGS.items()}
 
@@ -81,6 +82,15 @@ def walsh_hadamard(frame):
         return list(frame)
     low, high = walsh_hadamard(frame[:n // 2]), walsh_hadamard(frame[n // 2:])
     return [a + b for a, b in zip(low, high)] + [a - b for a, b in zip(low, high)]
+
+
+def dct4_cosine(k, n):
+    """The k-th of the cosines that the DCT-IV of n points knows. Angles go around after 8 n quarter steps."""
+    return [math.cos(math.pi * ((2 * i + 1) * (2 * k + 1) % (8 * n)) / (4 * n)) for i in range(n)]
+
+
+def dct4_bin(frame, k):
+    return math.fsum(map(operator.mul, frame, dct4_cosine(k, len(frame))))
 
 
 def library():
@@ -356,10 +366,87 @@ class WalshHadamard(ToolTest):
                 (["--order", 4, "--length", 16], ["--order 4", "--length 16", "one of them is enough"]),
                 (["--order", 4, "--flag", 3], ["--flag 3", "none of 1, 2, 4, 8"])):
             self.refused(*self.ARGUMENTS, *arguments, given=b"1 2 3 4 " * 16, says=says)
-        for family in FAMILIES:
+        for family in [*FAMILIES, "dct4"]:
             self.refused("-", "--family", family, "--order", 4, given=b"1 " * 64,
                          says=["--order 4", "the %s family has no orders" % family, "--length"])
         self.refused(*self.ARGUMENTS, "--order", 4, given=b"1 " * 15, says=["too few samples: 15", "takes 16"])
+
+
+class Dct4(ToolTest):
+    ARGUMENTS = "-", "--family", "dct4"
+    LONGEST = 2 ** 20
+
+    def test_powers_of_two(self):
+        source, n = random.Random(8), 2
+        while n <= 2 ** 16:
+            samples = [source.uniform(-1, 1) for _ in range(n)]
+            norm = math.sqrt(n * sum(x * x for x in samples))
+            for precision, tolerance in ((64, 1e-15), (32, 3e-7)):
+                rows = self.table(*self.ARGUMENTS, "--length", n, "--precision", precision, given=numbers(samples))
+                self.assertEqual([int(row["bin"]) for row in rows], list(range(n)))
+                for k in range(n) if n <= 64 else [0, n - 1, *source.sample(range(n), 6)]:
+                    self.assertAlmostEqual(float(rows[k]["re"]), dct4_bin(samples, k), delta=tolerance * norm)
+                    self.assertEqual(float(rows[k]["magnitude"]), abs(float(rows[k]["re"])))
+                    self.assertEqual((rows[k]["im"], float(rows[k]["frequency"])), ("0", (k + 0.5) / (2 * n)))
+            n *= 2
+
+    def test_a_cosine_lands_in_its_bin(self):
+        for n, k in ((2, 1), (32, 5), (64, 0), (4096, 1234)):
+            for row in self.table(*self.ARGUMENTS, "--length", n, given=numbers(dct4_cosine(k, n))):
+                self.assertAlmostEqual(float(row["re"]), n / 2 if int(row["bin"]) == k else 0, delta=1e-12)
+
+    def test_check_error_is_small_in_many_frames(self):
+        source = random.Random(9)
+        given = numbers([source.uniform(-1, 1) for _ in range(9000)])
+        for n, (precision, limit) in itertools.product((2, 16, 64, 1024, 8192), ((64, 2e-15), (32, 5e-7))):
+            report = self.ok(*self.ARGUMENTS, "--length", n, "--hop", n // 2, "--check", "--precision", precision,
+                             given=given)
+            self.assertIn(b" of %d points each way" % n, report)
+            self.assertLess(check_error(report), limit)
+            self.assertGreater(check_error(report), 0)
+
+    def test_frames_do_not_mix(self):
+        frames = [dct4_cosine(k, 128) for k in (3, 90)]
+        rows = self.table(*self.ARGUMENTS, "--length", 128, given=numbers(sum(frames, [])))
+        strong = [(row["frame"], row["bin"]) for row in rows if float(row["magnitude"]) > 1e-10]
+        self.assertEqual(strong, [("0", "3"), ("1", "90")])
+
+    def test_lengths_that_are_no_powers_of_two(self):
+        for n in (-8, 0, 3, 5, 6, 9, 17, 33, 60, 65, 129, 257, 1025, 4097, 65537, self.LONGEST + 1):
+            self.refused(*self.ARGUMENTS, "--length", n, given=b"1 " * 2048,
+                         says=["--length %d: not a power of two" % n, "the powers of two 2-%d" % self.LONGEST])
+        self.refused(*self.ARGUMENTS, "--length", 1, given=b"1 1", says="--length 1: no transform of this length")
+
+    def test_lengths_beyond_reason(self):
+        for n in (2 * self.LONGEST, 2 ** 26, 2 ** 27, 2 ** 29, 2 ** 30):
+            self.refused(*self.ARGUMENTS, "--length", n, given=b"1 " * 100,
+                         says=["--length %d: too long for one frame" % n, "2-%d" % self.LONGEST])
+        self.refused(*self.ARGUMENTS, "--length", 2 ** 31, given=b"1 " * 100, says="--length")
+
+    def test_the_longest_frame_needs_little_memory(self):
+        samples = dct4_cosine(777777, self.LONGEST)
+        path = self.path("long.wav", sound_files.wav([samples], bits=32, floating=True))
+        most = 256 << 20  # bytes
+        for arguments in (["--check", "--output", self.path("long.csv")], ["--output", self.path("long.png")]):
+            done = run(path, "--family", "dct4", "--length", self.LONGEST, *arguments,
+                       preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (most, most)))
+            self.assertEqual((done.returncode, done.stderr), (0, b""))
+        with open(self.path("long.csv"), encoding="ascii") as file:
+            largest = max(csv.DictReader(file), key=lambda row: float(row["magnitude"]))
+        self.assertEqual(largest["bin"], "777777")
+
+    def test_no_scale(self):
+        for word in ("forward", "backward", "ortho", "none", "8", "3", "sideways"):
+            self.refused(*self.ARGUMENTS, "--flag", word, given=b"1 " * 64,
+                         says=["--flag %s" % word, "the dct4 family has no scale"])
+        text = self.ok(*self.ARGUMENTS, "--length", 4, given=b"1 2 3 4").decode()
+        self.assertIn("family dct4, length 4, hop 4,", text)
+        self.assertNotIn("flag", text)
+
+    def test_frequencies_of_sound(self):
+        path = self.path("four.wav", sound_files.wav([[1, 2, 3, 4]], rate=16000))
+        rows = self.table(path, "--family", "dct4", "--length", 4)
+        self.assertEqual([row["frequency"] for row in rows], ["1000", "3000", "5000", "7000"])
 
 
 class Tables(ToolTest):
@@ -500,16 +587,41 @@ class Pictures(ToolTest):
             changes = sum(a != b for a, b in zip(signs, signs[1:]))
             self.assertEqual(self.brightest(plot, across, down, column), changes)
 
+    def test_rows_of_the_dct4(self):
+        n = 16
+        plot, across, down = self.plot(self.ok("-", "--family", "dct4", "--length", n, "--format", "png",
+                                               given=numbers(sum((dct4_cosine(k, n) for k in range(n)), []))),
+                                       columns=n, bins=n)
+        self.assertEqual([self.brightest(plot, across, down, column) for column in range(n)], list(range(n)))
+
+    def test_many_bins_share_rows(self):
+        n = 4096
+        tones = [dct4_cosine(k, n) for k in (5, 1000, 4095)]
+        # All power in one bin of eight, or in equal parts in all eight: the rows are alike.
+        tones.append([math.sqrt(8) * x for x in dct4_cosine(803, n)])
+        tones[3] = [x + sum(y) for x, *y in zip(tones[3], *(dct4_cosine(k, n) for k in range(2400, 2408)))]
+        plot, across, down = self.plot(self.ok("-", "--family", "dct4", "--length", n, "--format", "png",
+                                               given=numbers(sum(tones, []))), columns=4, bins=n)
+        self.assertEqual([self.brightest(plot, across, down, column) for column in range(3)], [0, 125, 511])
+        rows = [line[-1] for line in plot]
+        self.assertEqual(rows[511 - 100], rows[511 - 300])
+        self.assertEqual([y for y in range(512) if brightness(rows[y]) > brightness(rows[0]) + 100],
+                         [511 - 300, 511 - 100])
+
     def test_words_and_numbers_of_the_axis(self):
         """The marks stand left of the plot; their distances tell what is numbered."""
         def marks(*arguments):
             rows = sound_files.png_rows(self.ok("-", "--format", "png", *arguments, given=b"1 " * 1024))
             light = [y for y in range(TOP - 8, len(rows) - BOTTOM + 8) if brightness(rows[y][LEFT - 5]) > 1500]
             return [y for y in light if y - 1 not in light], rows[:TOP - 10]
-        wht, _ = marks("--family", "wht", "--order", 10)
+        wht, sequency = marks("--family", "wht", "--order", 10)
         self.assertEqual(wht, [TOP + 512 - 1 - y for y in (500, 400, 300, 200, 100, 0)])  # 1000 .. 0, two to a row
         small, _ = marks("--family", "wht", "--order", 1)
         self.assertEqual(len(small), 2)  # 0 and 1: there are no halves of sequencies
+        dct4, cycles = marks("--family", "dct4", "--length", 1024)
+        self.assertEqual(len(dct4), 11)  # 0, 0.05 .. 0.5 at the upper edge
+        self.assertEqual((dct4[0], dct4[-1]), (TOP - 1, TOP + 512 - 1))
+        self.assertNotEqual(sequency, cycles)
 
     def test_pixels_of_a_bin_are_alike(self):
         plot, across, down = self.plot(self.ok("-", "--length", 8, "--format", "png", given=numbers(cosine(8, 1, 24))),

@@ -3,8 +3,6 @@
 #include "family.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdlib>
 
 namespace spectrum {
 namespace {

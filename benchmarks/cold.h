@@ -1,0 +1,23 @@
+// Timings that a loop cannot make: of a call that finds nothing in the caches, of the first result in a new process,
+// and of loading the library.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "benchmarks/contest.h"
+
+namespace bench {
+
+// Every call behind a walk through more memory than all caches hold.
+void timeCold(benchmark::State& state, const Participant& participant, const std::function<void()>& fill);
+
+// From nothing to the first result, each in a process of its own: plans are made and forgotten, and no page of the
+// code has been touched.
+void timeFirst(benchmark::State& state, const Participant& participant, const std::function<void()>& fill);
+
+// Load and unload, again and again.
+void timeLoading(benchmark::State& state, const std::string& path);
+
+}  // namespace bench

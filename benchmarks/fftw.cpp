@@ -1,0 +1,145 @@
+// FFTW 3 as a participant: three efforts of planning, each with and without its codelets for vector instructions.
+#include <fftw3.h>
+
+#include <cstdio>
+
+#include "benchmarks/contest.h"
+
+namespace bench {
+namespace {
+
+// Keeps FFTW from codelets with vector instructions. Its public header leaves this flag out, but every release of
+// version 3 knows it; `requireScalar` looks at what comes of it.
+constexpr unsigned withoutVectors = 1U << 17;
+
+struct Planning {
+    const char* name;
+    unsigned flags;
+};
+constexpr Planning plannings[] = {
+    {"fftw_estimate_scalar", FFTW_ESTIMATE | withoutVectors}, {"fftw_estimate_simd", FFTW_ESTIMATE},
+    {"fftw_measure_scalar", FFTW_MEASURE | withoutVectors},   {"fftw_measure_simd", FFTW_MEASURE},
+    {"fftw_patient_scalar", FFTW_PATIENT | withoutVectors},   {"fftw_patient_simd", FFTW_PATIENT},
+};
+
+template <class Element>
+struct Fftw;
+
+template <>
+struct Fftw<double> {
+    using Plan = fftw_plan;
+    using Complex = fftw_complex;
+    static constexpr auto planComplex = fftw_plan_many_dft;
+    static constexpr auto planRealForward = fftw_plan_many_dft_r2c;
+    static constexpr auto planRealInverse = fftw_plan_many_dft_c2r;
+    static constexpr auto planRealToReal = fftw_plan_many_r2r;
+    static constexpr auto execute = fftw_execute;
+    static constexpr auto print = fftw_sprint_plan;
+};
+
+template <>
+struct Fftw<float> {
+    using Plan = fftwf_plan;
+    using Complex = fftwf_complex;
+    static constexpr auto planComplex = fftwf_plan_many_dft;
+    static constexpr auto planRealForward = fftwf_plan_many_dft_r2c;
+    static constexpr auto planRealInverse = fftwf_plan_many_dft_c2r;
+    static constexpr auto planRealToReal = fftwf_plan_many_r2r;
+    static constexpr auto execute = fftwf_execute;
+    static constexpr auto print = fftwf_sprint_plan;
+};
+
+fftw_r2r_kind realKind(Transform transform) {
+    switch (transform) {
+        case Transform::PackedForward: return FFTW_R2HC;
+        case Transform::PackedInverse: return FFTW_HC2R;
+        case Transform::Hartley: return FFTW_DHT;
+        default: return FFTW_REDFT11;
+    }
+}
+
+// Ours keep their source, so FFTW keeps it too.
+template <class Element>
+typename Fftw<Element>::Plan makePlan(Transform transform, int size, int count, const Arrays<Element>& arrays,
+                                      unsigned flags) {
+    using Api = Fftw<Element>;
+    using Complex = typename Api::Complex;
+    Element* const in = arrays.source;
+    Element* const out = arrays.destination;
+    auto* const complexIn = reinterpret_cast<Complex*>(in);
+    auto* const complexOut = reinterpret_cast<Complex*>(out);
+    const int bins = size / 2 + 1;
+    const fftw_r2r_kind kind = realKind(transform);
+    flags |= FFTW_PRESERVE_INPUT;
+    switch (transform) {
+        case Transform::ComplexForward:
+        case Transform::ComplexInverse:
+            return Api::planComplex(1, &size, count, complexIn, nullptr, 1, size, complexOut, nullptr, 1, size,
+                                    transform == Transform::ComplexForward ? FFTW_FORWARD : FFTW_BACKWARD, flags);
+        case Transform::RealForward:
+            return Api::planRealForward(1, &size, count, in, nullptr, 1, size, complexOut, nullptr, 1, bins, flags);
+        case Transform::RealInverse:
+            return Api::planRealInverse(1, &size, count, complexIn, nullptr, 1, bins, out, nullptr, 1, size, flags);
+        default: return Api::planRealToReal(1, &size, count, in, nullptr, 1, size, out, nullptr, 1, size, &kind, flags);
+    }
+}
+
+// The names of codelets with vector instructions end in the set of instructions they need.
+template <class Element>
+void requireScalar(typename Fftw<Element>::Plan plan) {
+    char* const text = Fftw<Element>::print(plan);
+    const std::string codelets = text;
+    std::free(text);
+    for (const char* ending : {"_sse2", "_avx", "_avx2", "_avx512", "_128_fma", "_kcvi"})
+        if (codelets.find(ending) != std::string::npos)
+            std::fprintf(stderr, "a plan without vector instructions holds some:\n%s\n", codelets.c_str()),
+                std::exit(1);
+}
+
+// FFTW's half spectrum without zeros is R0 R1 .. R(n/2) I((n-1)/2) .. I1; ours R0 R1 I1 R2 I2 ..
+Result packed(const Result& half) {
+    const std::size_t n = half.size();
+    Result values(n);
+    for (std::size_t k = 0; k <= n / 2; ++k) values[k == 0 ? 0 : 2 * k - 1] = half[k];
+    for (std::size_t k = 1; k <= (n - 1) / 2; ++k) values[2 * k] = half[n - k];
+    return values;
+}
+
+// Our packed source in FFTW's order. The order of numbers that a transform reads is not what its time depends on, so
+// that only the check asks for this.
+template <class Element>
+void unpack(const Arrays<Element>& arrays) {
+    const Result ours(arrays.source, arrays.source + arrays.sourceCount);
+    const std::size_t n = ours.size();
+    for (std::size_t k = 0; k <= n / 2; ++k) arrays.source[k] = static_cast<Element>(ours[k == 0 ? 0 : 2 * k - 1]);
+    for (std::size_t k = 1; k <= (n - 1) / 2; ++k) arrays.source[n - k] = static_cast<Element>(ours[2 * k]);
+}
+
+}  // namespace
+
+template <class Element>
+void addFftw(Field<Element>& field) {
+    using Api = Fftw<Element>;
+    if (field.transform == Transform::WalshHadamard) return;
+    const auto destination = field.destination(field.transform == Transform::Dct4 ? 0.5 : 1);
+    for (const Planning& planning : plannings) {
+        const auto prepare = [=, transform = field.transform, size = field.size, count = field.count,
+                              arrays = field.arrays] {
+            const auto plan = makePlan(transform, size, count, *arrays, planning.flags);
+            if (plan == nullptr) std::fprintf(stderr, "FFTW: no plan of length %d\n", size), std::exit(1);
+            if (planning.flags & withoutVectors) requireScalar<Element>(plan);
+            Prepared call = prepared([plan] { Api::execute(plan); });
+            if (transform == Transform::PackedInverse)
+                call.once = [plan, arrays] { unpack(*arrays), Api::execute(plan); };
+            return call;
+        };
+        std::function<Result()> result = destination;
+        if (field.transform == Transform::PackedForward) result = [destination] { return packed(destination()); };
+        field.contest.participants.push_back({planning.name, prepare, result});
+    }
+}
+
+template void addFftw(Field<float>&);
+template void addFftw(Field<double>&);
+
+}  // namespace bench

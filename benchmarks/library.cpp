@@ -1,0 +1,23 @@
+#include "benchmarks/library.h"
+
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace bench {
+
+void* Library::address(const std::string& exportedName) const { return dlsym(handle, exportedName.c_str()); }
+
+std::vector<Library>& libraries() {
+    static std::vector<Library> all;
+    return all;
+}
+
+Library openLibrary(const std::string& name, const std::string& path) {
+    void* const handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (handle == nullptr) std::fprintf(stderr, "%s\n", dlerror()), std::exit(1);
+    return {name, handle};
+}
+
+}  // namespace bench

@@ -1,0 +1,41 @@
+// Our library as any program can reach it: by path and exported name. Several builds of it can take part in one
+// run, each under a name of its own.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "include/zulgenpx.h"
+
+namespace bench {
+
+struct Library {
+    std::string name;  // how its participants are called
+    void* handle;
+
+    void* address(const std::string& exportedName) const;  // null if there is none
+    template <class Routine>
+    Routine routine(const std::string& exportedName) const {
+        return reinterpret_cast<Routine>(address(exportedName));
+    }
+};
+
+// Ends the program where there is none.
+Library openLibrary(const std::string& name, const std::string& path);
+
+// All that take part; the first is that of this build. Filled before contests are made.
+std::vector<Library>& libraries();
+
+template <class Element>
+using Kernel = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t flag);
+template <class Element>
+using Dispatcher = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t length, std::int32_t flag);
+template <class Element>
+using BufferedKernel = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t flag, void* buffer);
+using SizeQuery = ZulgStatus(ZULG_CALL*)(std::int32_t order, std::int32_t* pSize);
+using PlanInit = ZulgStatus(ZULG_CALL*)(void** pPlan, std::int32_t length);
+template <class Element>
+using PlanRun = ZulgStatus(ZULG_CALL*)(const Element*, Element*, void* plan);
+
+}  // namespace bench

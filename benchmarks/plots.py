@@ -1,0 +1,81 @@
+"""The results as pictures: ratio over length, time over the floor, DCT-IV and Walsh-Hadamard over size."""
+import matplotlib
+
+matplotlib.use("svg")
+import matplotlib.pyplot as plt  # noqa: E402  (the back end comes first)
+
+from tables import ratio  # noqa: E402
+
+plt.rcParams.update({"svg.fonttype": "none", "svg.hashsalt": "zulgenpx", "font.size": 9, "axes.grid": True,
+                     "grid.alpha": 0.3, "axes.spines.top": False, "axes.spines.right": False, "legend.frameon": False})
+
+LINES = {"complex_forward": ("complex", "#1f5fa8"), "real_forward": ("real, forward", "#c8541d"),
+         "real_inverse": ("real, inverse", "#d9a021"), "hartley": ("Hartley", "#3c8d4f")}
+PRIMES = [n for n in range(2, 65) if all(n % d for d in range(2, n))]
+
+
+def save(figure, path):
+    figure.savefig(path, metadata={"Date": None})
+    plt.close(figure)
+
+
+def mark_primes(axes):
+    for prime in PRIMES:
+        axes.axvspan(prime - 0.5, prime + 0.5, color="#000000", alpha=0.05, lw=0)
+
+
+def over_length(families, value, title, label, path, log=False):
+    figure, both = plt.subplots(2, 1, figsize=(9, 6.4), sharex=True, constrained_layout=True)
+    figure.suptitle(title, fontsize=10)
+    for axes, element in zip(both, ("double", "single")):
+        mark_primes(axes)
+        axes.axhline(1, color="black", lw=0.8)
+        for family, (name, colour) in LINES.items():
+            points = [(item.size, value(item)) for item in families.get((family, element), [])]
+            points = [point for point in points if point[1] is not None]
+            if points:
+                axes.plot(*zip(*points), color=colour, lw=1, marker="o", ms=2.5, label=name)
+        if log:
+            axes.set_yscale("log", base=2)
+            axes.yaxis.set_major_formatter(lambda tick, _: f"{tick:g}")
+        axes.set_ylabel(f"{element}: {label}")
+        axes.set_xticks([2] + list(range(4, 65, 4)))
+        axes.set_xlim(1, 65)
+    both[0].legend(ncol=4, loc="upper center")
+    both[1].set_xlabel("length; primes are shaded")
+    save(figure, path)
+
+
+def ratios(families, path):
+    peer = "fftw_patient_scalar"
+    over_length(families, lambda item: ratio(item, peer) if peer in item.figures else None,
+                "FFTW 3 PATIENT without SIMD: its time over ours (above 1 we lead)", "FFTW / ours", path, log=True)
+
+
+def floors(families, path):
+    over_length(families, lambda item: item.ours.cycles / item.floor if item.floor and item.size >= 5 else None,
+                "Time over the floor that the operation counts set, from 5 points up", "cycles / floor", path)
+
+
+def over_size(families, path):
+    """DCT-IV and Walsh-Hadamard: cycles for each point and binary digit of the size."""
+    panels = [key for key in families if key[0] in ("dct4", "wht")]
+    if not panels:
+        return
+    figure, axes = plt.subplots(1, len(panels), figsize=(3.4 * len(panels), 3.6), constrained_layout=True, squeeze=False)
+    curves = {"zulgenpx": ("ours", "#1f5fa8"), "fftw_patient_scalar": ("FFTW patient, scalar", "#c8541d"),
+              "fftw_patient_simd": ("FFTW patient, SIMD", "#d9a021"), "plain_in_place": ("plain loop", "#777777")}
+    for panel, key in zip(axes[0], panels):
+        for name, (label, colour) in curves.items():
+            points = [(item.size, item.figures[name].cycles / item.size / (item.size.bit_length() - 1))
+                      for item in families[key] if name in item.figures]
+            if points:
+                panel.plot(*zip(*points), color=colour, lw=1, marker="o", ms=2.5, label=label)
+        panel.set_xscale("log", base=2)
+        panel.set_yscale("log", base=2)
+        panel.yaxis.set_major_formatter(lambda tick, _: f"{tick:g}")
+        panel.set_title(f"{'DCT-IV' if key[0] == 'dct4' else 'Walsh-Hadamard'}, {key[1]}", fontsize=9)
+        panel.set_xlabel("size N")
+        panel.legend(fontsize=7)
+    axes[0][0].set_ylabel("cycles / (N log2 N)")
+    save(figure, path)

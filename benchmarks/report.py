@@ -1,0 +1,157 @@
+"""Reads the records of one run of scripts/bench and writes its table, pictures and figures.
+
+report.py RECORDS RESULTS COMMAND
+
+RECORDS holds *.json of the program bench and x87.* of the program cycles; RESULTS/DATE-MACHINE.md, .json and *.svg are
+written. COMMAND is what the reader is told to have been typed.
+"""
+import collections
+import datetime
+import glob
+import json
+import os
+import re
+import subprocess
+import sys
+
+TREE = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, os.path.join(TREE, "tests", "machine"))
+
+import floors  # noqa: E402
+import measurements  # noqa: E402
+import plots  # noqa: E402
+import tables  # noqa: E402
+from binary import Library  # noqa: E402
+
+EXPORTS = {"complex_forward": "DFTFwd_CToC", "complex_inverse": "DFTInv_CToC", "real_forward": "DFTFwd_RToCCS",
+           "real_inverse": "DFTInv_CCSToR", "packed_forward": "DFTFwd_RToPack", "packed_inverse": "DFTInv_PackToR",
+           "hartley": "Hartley"}
+ORDER = list(tables.TITLES)
+
+Item = collections.namedtuple("Item", "size ours figures floor code_bytes")
+
+
+def exported_name(family, element, size):
+    if family not in EXPORTS:
+        return None
+    width = "64f" if element == "double" else "32f"
+    return f"zulg{EXPORTS[family]}_{size}_{width}" + ("c" if family.startswith("complex") else "")
+
+
+def machine():
+    text = subprocess.run(["lscpu"], check=True, capture_output=True, text=True, env={"LC_ALL": "C"}).stdout
+    fields = dict(re.findall(r"^([^:]+):\s+(.*)$", text, re.M))
+    return {key: fields.get(key, "") for key in
+            ("Model name", "CPU family", "Model", "CPU(s)", "L1i cache", "L1d cache", "L2 cache", "L3 cache",
+             "Hypervisor vendor")}
+
+
+def compiler():
+    return subprocess.run(["c++", "--version"], check=True, capture_output=True, text=True).stdout.splitlines()[0]
+
+
+def families_of(contests, library):
+    """(family, element) -> items by size, in the order of the report."""
+    found = collections.defaultdict(list)
+    for contest, figures in contests.items():
+        if contest.count("/") != 2 or "zulgenpx" not in figures:
+            continue
+        family, element, size = contest.split("/")
+        size = int(size)
+        counts = floors.counts(TREE, family, size)
+        name = exported_name(family, element, size)
+        code_bytes = None
+        if name and name in library.exports:
+            routine = library.routine(library.word(library.slot_address(name)))
+            code_bytes = sum(instruction.size for instruction in routine)
+        found[family, element].append(
+            Item(size, figures["zulgenpx"], figures, floors.scalar(*counts) if counts else None, code_bytes))
+    keys = sorted(found, key=lambda key: (ORDER.index(key[0]) if key[0] in ORDER else len(ORDER), key[1]))
+    return {key: sorted(found[key]) for key in keys}
+
+
+def steps_of(cycles):
+    """(family, element) -> (size, cycles, steps, spread) of the 32-bit library."""
+    found = collections.OrderedDict()
+    for family in EXPORTS:
+        for element in ("double", "single"):
+            for size in range(2, 65):
+                name = exported_name(family, element, size)
+                if name in cycles:
+                    found.setdefault((family, element), []).append(
+                        (size, cycles[name][0], floors.x87(*floors.counts(TREE, family, size)), cycles[name][1]))
+    return found
+
+
+def compact(contests, cycles, about):
+    """The figures without the single repetitions: nanoseconds, cycles, spread."""
+    def short(value):
+        return float(f"{value:.4g}")
+    return {"about": about,
+            "columns": ["nanoseconds", "cycles", "spread"],
+            "contests": {contest: {name: [short(value) for value in figure] for name, figure in sorted(figures.items())}
+                         for contest, figures in sorted(contests.items())},
+            "x87": {name: [short(value) for value in values] for name, values in sorted(cycles.items())}}
+
+
+def document(about, families, loads, steps, stem):
+    yield f"# Timings, {about['date']}, {about['machine']['Model name']}"
+    yield ""
+    yield f"    {about['command']}"
+    yield ""
+    yield "; ".join(f"{key} {value}" for key, value in about["machine"].items() if value) + "."
+    yield f"{about['compiler']}; {about['processes']} processes."
+    yield ""
+    yield ("Times are of one call. Ratios are peer time over ours: above 1 we lead. How it is measured and how to read "
+           "it: [README](../README.md).")
+    for picture in ("ratio", "floor", "sizes"):
+        if os.path.exists(f"{stem}-{picture}.svg"):
+            yield f"\n![{picture}]({os.path.basename(stem)}-{picture}.svg)"
+    yield "\n## Summary\n"
+    yield from tables.summary(families)
+    dispatched = list(tables.dispatch_text({key: items for key, items in families.items()
+                                            if key[0].startswith("dispatch_")}))
+    if dispatched:
+        yield "\n## Dispatchers\n"
+        yield from dispatched
+    if loads:
+        yield "\n## Loading and unloading a library\n"
+        yield from tables.load_text(loads)
+    if steps:
+        yield "\n## 32-bit DLL in wine: cycles over steps, from N = 5\n"
+        yield from tables.x87_table(steps)
+    for (family, element), items in families.items():
+        if not family.startswith("dispatch_"):
+            yield f"\n## {tables.TITLES.get(family, family)}, {element}\n"
+            yield from tables.family_table(items)
+    if steps:
+        yield "\n## 32-bit DLL in wine: cycles / steps\n"
+        yield from tables.x87_lengths(steps)
+
+
+def main():
+    records, results, command = sys.argv[1:]
+    paths = sorted(glob.glob(os.path.join(records, "*.json")))
+    contests = measurements.settle(paths)
+    cycles = measurements.settle_cycles(sorted(glob.glob(os.path.join(records, "x87.*"))))
+    about = {"date": datetime.date.today().isoformat(), "command": command, "machine": machine(), "compiler": compiler(),
+             "processes": len({path.rsplit(".", 2)[1] for path in paths})}
+    families = families_of(contests, Library(os.path.join(TREE, "build/native/libzulgenpx-7.0.so"), "objdump"))
+    about_machine = about["machine"]
+    slug = re.sub(r"[^a-z0-9]+", "-", about_machine["Model name"].lower()).strip("-")
+    name = f"{about['date']}-{slug}-family-{about_machine['CPU family']}-model-{about_machine['Model']}"
+    os.makedirs(results, exist_ok=True)
+    stem = os.path.join(results, name)
+    plots.ratios(families, f"{stem}-ratio.svg")
+    plots.floors(families, f"{stem}-floor.svg")
+    plots.over_size(families, f"{stem}-sizes.svg")
+    with open(f"{stem}.json", "w", encoding="utf-8") as file:
+        json.dump(compact(contests, cycles, about), file, separators=(",", ":"))
+        file.write("\n")
+    with open(f"{stem}.md", "w", encoding="utf-8") as file:
+        file.write("\n".join(document(about, families, contests.get("load", {}), steps_of(cycles), stem)) + "\n")
+    print(f"{stem}.md")
+
+
+if __name__ == "__main__":
+    main()

@@ -22,9 +22,10 @@ def percent(part):
     return f"{100 * part:.0f} %"
 
 
-def rows(columns, lines):
+def rows(columns, lines, words=0):
+    """A table whose first `words` columns hold words, the others numbers."""
     yield "| " + " | ".join(columns) + " |"
-    yield "|" + "--:|" * len(columns)
+    yield "|" + "---|" * words + "--:|" * (len(columns) - words)
     for line in lines:
         yield "| " + " | ".join(line) + " |"
 
@@ -83,7 +84,7 @@ def summary(families):
         else:
             line += ["", ""]
         lines.append(line)
-    return rows(columns, lines)
+    return rows(columns, lines, words=3)
 
 
 def dispatch_text(families):
@@ -112,7 +113,7 @@ def x87_table(steps):
         over = ", ".join(str(size) for size, value in per_step.items() if value > 1.15) or "none"
         lines.append([TITLES.get(family, family), element, f"{statistics.median(per_step.values()):.2f}",
                       f"{per_step[most]:.2f}, {most}", over])
-    return rows(columns, lines)
+    return rows(columns, lines, words=2)
 
 
 def x87_lengths(steps):

@@ -53,7 +53,7 @@ int& chosenCopy();
 template <int copy, class Call>
 [[gnu::noinline]] void timedLoop(benchmark::State& state, Call call) {
     constexpr int bytesBetween = 832;
-    asm volatile(".skip %c0, 0x90" : : "i"(copy * bytesBetween));
+    asm volatile(".skip %c0, 0x90" : : "i"((copy + 1) * bytesBetween));
     const CoreProbe before = probeCore();
     for (auto _ : state) call();
     report(state, before, probeCore());

@@ -25,6 +25,8 @@ def mark_primes(axes):
 
 
 def over_length(families, value, title, label, path, log=False):
+    if not any(family in LINES for family, _ in families):
+        return
     figure, both = plt.subplots(2, 1, figsize=(9, 6.4), sharex=True, constrained_layout=True)
     figure.suptitle(title, fontsize=10)
     for axes, element in zip(both, ("double", "single")):
@@ -41,7 +43,7 @@ def over_length(families, value, title, label, path, log=False):
         axes.set_ylabel(f"{element}: {label}")
         axes.set_xticks([2] + list(range(4, 65, 4)))
         axes.set_xlim(1, 65)
-    both[0].legend(ncol=4, loc="upper center")
+    (both[0] if both[0].lines[1:] else both[1]).legend(ncol=4, loc="upper center")
     both[1].set_xlabel("length; primes are shaded")
     save(figure, path)
 

@@ -142,6 +142,8 @@ def main():
     name = f"{about['date']}-{slug}-family-{about_machine['CPU family']}-model-{about_machine['Model']}"
     os.makedirs(results, exist_ok=True)
     stem = os.path.join(results, name)
+    for picture in glob.glob(f"{stem}-*.svg"):  # of an earlier run on the same day
+        os.remove(picture)
     plots.ratios(families, f"{stem}-ratio.svg")
     plots.floors(families, f"{stem}-floor.svg")
     plots.over_size(families, f"{stem}-sizes.svg")

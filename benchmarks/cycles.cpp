@@ -1,5 +1,5 @@
-// Times every kernel of the library in cycles of the core, with nothing but the time stamp counter: for the 32-bit DLL,
-// where neither Google Benchmark nor the peers are packaged. Prints one line for each kernel: name, cycles.
+// Times every transform of the library in cycles of the core, with nothing but the time stamp counter: for the 32-bit
+// DLL, where neither Google Benchmark nor the peers are packaged. Prints one line for each: name, cycles.
 //
 //     cycles [PATTERN]    a regular expression on the exported name
 //
@@ -54,33 +54,78 @@ double cyclesOf(Call call) {
     return cycles[samples / 2];
 }
 
+// One line of the output, unless the pattern leaves it out.
+template <class Call>
+void report(const std::regex& pattern, const std::string& name, Call call) {
+    if (std::regex_search(name, pattern)) std::printf("%s %.1f\n", name.c_str(), cyclesOf(call));
+}
+
 template <class Element>
-void timeKernel(const std::string& name, int elements) {
-    const auto routine = reinterpret_cast<test::Kernel<Element>>(test::exportedAddress(name));
-    if (routine == nullptr) return;
-    const auto count = static_cast<std::size_t>(elements);
-    std::vector<Element> source(count), destination(count);
+std::vector<Element> randomValues(int count) {
     std::mt19937 random(1);
     std::normal_distribution<double> normal;
-    for (Element& value : source) value = static_cast<Element>(normal(random));
-    const double cycles = cyclesOf([&] { routine(source.data(), destination.data(), NoDivByAny); });
-    std::printf("%s %.1f\n", name.c_str(), cycles);
+    std::vector<Element> values;
+    for (int i = 0; i < count; ++i) values.push_back(static_cast<Element>(normal(random)));
+    return values;
+}
+
+template <class Element>
+void timeKernels(const std::regex& pattern, const std::string& family, const std::string& ending) {
+    for (int length = 2; length <= 64; ++length) {
+        const std::string name = "zulg" + family + "_" + std::to_string(length) + "_" + ending;
+        const auto routine = test::exported<test::Kernel<Element>>(name);
+        const std::vector<Element> source = randomValues<Element>(2 * length + 2);
+        std::vector<Element> destination(source.size());
+        report(pattern, name, [&] { routine(source.data(), destination.data(), NoDivByAny); });
+    }
+}
+
+template <class Element>
+void timeWalshHadamard(const std::regex& pattern, const std::string& ending) {
+    using Routine = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t flag, void* buffer);
+    for (int order = 1; order <= 13; ++order) {
+        const std::string name = "zulgWHT_" + std::to_string(order) + "_" + ending;
+        const auto routine = test::exported<Routine>(name);
+        const std::vector<Element> source = randomValues<Element>(1 << order);
+        std::vector<Element> destination(source.size()), buffer(2 * source.size());
+        report(pattern, name, [&] { routine(source.data(), destination.data(), NoDivByAny, buffer.data()); });
+    }
+}
+
+template <class Element>
+void timeDct4(const std::regex& pattern, const std::string& ending) {
+    using Init = ZulgStatus(ZULG_CALL*)(void** pPlan, std::int32_t length);
+    using Run = ZulgStatus(ZULG_CALL*)(const Element*, Element*, void* plan);
+    using Free = ZulgStatus(ZULG_CALL*)(void* plan);
+    if (test::exportedAddress("zulgDCT4_" + ending) == nullptr) return;
+    for (int length = 2; length <= 65536; length *= 2) {
+        void* plan = nullptr;
+        if (test::exported<Init>("zulgDCT4InitAlloc_" + ending)(&plan, length) != StatusOk) continue;
+        const auto run = test::exported<Run>("zulgDCT4_" + ending);
+        const std::vector<Element> source = randomValues<Element>(length);
+        std::vector<Element> destination(source.size());
+        report(pattern, "zulgDCT4_" + ending + "/" + std::to_string(length),
+               [&] { run(source.data(), destination.data(), plan); });
+        test::exported<Free>("zulgDCT4Free_" + ending)(plan);
+    }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     const std::regex pattern(argc > 1 ? argv[1] : "");
-    for (const char* family : {"DFTFwd_CToC", "DFTInv_CToC", "DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm",
-                               "DFTInv_CCSToR", "DFTInv_PackToR", "DFTInv_PermToR", "Hartley"}) {
-        const std::string name = std::string("zulg") + family + "_";
-        const char* const ending = name.find("CToC") != std::string::npos ? "fc" : "f";
-        for (int length = 2; length <= 64; ++length) {
-            const std::string stem = name + std::to_string(length);
-            if (std::regex_search(stem + "_64" + ending, pattern))
-                timeKernel<double>(stem + "_64" + ending, 2 * length + 2);
-            if (std::regex_search(stem + "_32" + ending, pattern))
-                timeKernel<float>(stem + "_32" + ending, 2 * length + 2);
-        }
+    for (int i = 0; i < 1000; ++i) cyclesPerTick();  // until the core has reached its clock
+    for (const char* family : {"DFTFwd_CToC", "DFTInv_CToC"}) {
+        timeKernels<double>(pattern, family, "64fc");
+        timeKernels<float>(pattern, family, "32fc");
     }
+    for (const char* family : {"DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm", "DFTInv_CCSToR", "DFTInv_PackToR",
+                               "DFTInv_PermToR", "Hartley"}) {
+        timeKernels<double>(pattern, family, "64f");
+        timeKernels<float>(pattern, family, "32f");
+    }
+    timeWalshHadamard<double>(pattern, "64f");
+    timeWalshHadamard<float>(pattern, "32f");
+    timeDct4<double>(pattern, "64f");
+    timeDct4<float>(pattern, "32f");
 }

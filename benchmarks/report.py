@@ -32,9 +32,13 @@ Item = collections.namedtuple("Item", "size ours figures floor code_bytes")
 
 
 def exported_name(family, element, size):
+    width = "64f" if element == "double" else "32f"
+    if family == "wht":
+        return f"zulgWHT_{size.bit_length() - 1}_{width}"
+    if family == "dct4":
+        return f"zulgDCT4_{width}/{size}"
     if family not in EXPORTS:
         return None
-    width = "64f" if element == "double" else "32f"
     return f"zulg{EXPORTS[family]}_{size}_{width}" + ("c" if family.startswith("complex") else "")
 
 
@@ -61,7 +65,7 @@ def families_of(contests, library):
         counts = floors.counts(TREE, family, size)
         name = exported_name(family, element, size)
         code_bytes = None
-        if name and name in library.exports:
+        if family in EXPORTS and name in library.exports:
             routine = library.routine(library.word(library.slot_address(name)))
             code_bytes = sum(instruction.size for instruction in routine)
         found[family, element].append(
@@ -73,9 +77,9 @@ def families_of(contests, library):
 def steps_of(cycles):
     """(family, element) -> (size, cycles, steps, spread) of the 32-bit library."""
     found = collections.OrderedDict()
-    for family in EXPORTS:
+    for family in [*EXPORTS, "wht", "dct4"]:
         for element in ("double", "single"):
-            for size in range(2, 65):
+            for size in range(2, 65) if family in EXPORTS else [1 << digits for digits in range(1, 17)]:
                 name = exported_name(family, element, size)
                 if name in cycles:
                     found.setdefault((family, element), []).append(
@@ -125,8 +129,11 @@ def document(about, families, loads, steps, stem):
             yield f"\n## {tables.TITLES.get(family, family)}, {element}\n"
             yield from tables.family_table(items)
     if steps:
-        yield "\n## 32-bit DLL in wine: cycles / steps\n"
-        yield from tables.x87_lengths(steps)
+        for title, chosen in (("lengths", lambda family: family in EXPORTS), ("sizes", lambda family: family not in EXPORTS)):
+            part = {key: values for key, values in steps.items() if chosen(key[0])}
+            if part:
+                yield f"\n## 32-bit DLL in wine: cycles / steps, by {title}\n"
+                yield from tables.x87_lengths(part)
 
 
 def main():

@@ -64,7 +64,8 @@ def over_size(families, path):
     panels = [key for key in families if key[0] in ("dct4", "wht")]
     if not panels:
         return
-    figure, axes = plt.subplots(1, len(panels), figsize=(3.4 * len(panels), 3.6), constrained_layout=True, squeeze=False)
+    figure, axes = plt.subplots(1, len(panels), figsize=(3.4 * len(panels), 3.6), constrained_layout=True,
+                                squeeze=False)
     curves = {"zulgenpx": ("ours", "#1f5fa8"), "fftw_patient_scalar": ("FFTW patient, scalar", "#c8541d"),
               "fftw_patient_simd": ("FFTW patient, SIMD", "#d9a021"), "plain_in_place": ("plain loop", "#777777")}
     for panel, key in zip(axes[0], panels):

@@ -129,8 +129,8 @@ def document(about, families, loads, steps, stem):
             yield f"\n## {tables.TITLES.get(family, family)}, {element}\n"
             yield from tables.family_table(items)
     if steps:
-        for title, chosen in (("lengths", lambda family: family in EXPORTS), ("sizes", lambda family: family not in EXPORTS)):
-            part = {key: values for key, values in steps.items() if chosen(key[0])}
+        for title, is_kernel in (("lengths", True), ("sizes", False)):
+            part = {key: values for key, values in steps.items() if (key[0] in EXPORTS) == is_kernel}
             if part:
                 yield f"\n## 32-bit DLL in wine: cycles / steps, by {title}\n"
                 yield from tables.x87_lengths(part)
@@ -141,8 +141,8 @@ def main():
     paths = sorted(glob.glob(os.path.join(records, "*.json")))
     contests = measurements.settle(paths)
     cycles = measurements.settle_cycles(sorted(glob.glob(os.path.join(records, "x87.*"))))
-    about = {"date": datetime.date.today().isoformat(), "command": command, "machine": machine(), "compiler": compiler(),
-             "processes": len({path.rsplit(".", 2)[1] for path in paths})}
+    about = {"date": datetime.date.today().isoformat(), "command": command, "machine": machine(),
+             "compiler": compiler(), "processes": len({path.rsplit(".", 2)[1] for path in paths})}
     families = families_of(contests, Library(os.path.join(TREE, "build/native/libzulgenpx-7.0.so"), "objdump"))
     about_machine = about["machine"]
     slug = re.sub(r"[^a-z0-9]+", "-", about_machine["Model name"].lower()).strip("-")

@@ -6,7 +6,8 @@ PEERS = [("fftw_patient_scalar", "FFTW patient"), ("fftw_measure_scalar", "measu
          ("fftw_measure_simd", "measure, SIMD"), ("fftw_estimate_simd", "estimate, SIMD"), ("kissfft", "KissFFT"),
          ("gsl", "GSL"), ("plain_in_place", "plain loop"), ("plain_copied", "plain loop and copy")]
 TITLES = {"complex_forward": "Complex, forward", "complex_inverse": "Complex, inverse",
-          "real_forward": "Real to half spectrum (CCS; FFTW r2c)", "real_inverse": "Half spectrum to real (CCS; FFTW c2r)",
+          "real_forward": "Real to half spectrum (CCS; FFTW r2c)",
+          "real_inverse": "Half spectrum to real (CCS; FFTW c2r)",
           "packed_forward": "Real to half spectrum (Pack; FFTW r2hc)",
           "packed_inverse": "Half spectrum to real (Pack; FFTW hc2r)", "hartley": "Hartley (FFTW DHT)",
           "dct4": "DCT-IV (FFTW REDFT11)", "wht": "Walsh-Hadamard",
@@ -41,12 +42,13 @@ def ratio(item, peer):
 
 
 def family_table(items):
-    peers = [peer for peer in PEERS if any(peer[0] in item.figures for item in items)]
-    others = sorted({name for item in items for name in item.figures if name.startswith("zulgenpx_")})
+    present = {name for item in items for name in item.figures}
+    builds = sorted(present - {"zulgenpx", *dict(PEERS)})  # further ones of our library
+    peers = [(name, name) for name in builds] + [peer for peer in PEERS if peer[0] in present]
     has_cycles = bool(items[0].ours.cycles)
     has_floor, has_bytes = any(item.floor for item in items), any(item.code_bytes for item in items)
     columns = ["N", "ns", "spread"] + ["cycles"] * has_cycles + ["floor", "of floor"] * has_floor
-    columns += ["code bytes"] * has_bytes + [name for name in others] + [title for _, title in peers]
+    columns += ["code bytes"] * has_bytes + [title for _, title in peers]
     lines = []
     for item in items:
         line = [str(item.size), time_text(item.ours.nanoseconds), percent(item.ours.spread)]
@@ -56,15 +58,14 @@ def family_table(items):
             line += [f"{item.floor:.1f}", f"{item.ours.cycles / item.floor:.2f}"]
         if has_bytes:
             line.append(str(item.code_bytes or ""))
-        line += [f"{item.figures[name].cycles:.1f}" if name in item.figures else "" for name in others]
         line += [f"{ratio(item, peer):.2f}" if peer in item.figures else "" for peer, _ in peers]
         lines.append(line)
     return rows(columns, lines)
 
 
 def summary(families):
-    columns = ["family", "element", "peer", "geometric mean", "least, at N", "below 1 at N", "of floor from N = 5: median",
-               "most, at N"]
+    columns = ["family", "element", "peer", "geometric mean", "least, at N", "below 1 at N",
+               "of floor from N = 5: median", "most, at N"]
     lines = []
     for (family, element), items in families.items():
         if not items[0].ours.cycles or family.startswith("dispatch_"):
@@ -75,8 +76,8 @@ def summary(families):
             continue
         least = min(ratios, key=ratios.get)
         below = ", ".join(str(size) for size, value in ratios.items() if value < 1) or "none"
-        line = [TITLES.get(family, family), element, dict(PEERS)[peer], f"{statistics.geometric_mean(ratios.values()):.2f}",
-                f"{ratios[least]:.2f}, {least}", below]
+        line = [TITLES.get(family, family), element, dict(PEERS)[peer],
+                f"{statistics.geometric_mean(ratios.values()):.2f}", f"{ratios[least]:.2f}, {least}", below]
         of_floor = {item.size: item.ours.cycles / item.floor for item in items if item.floor and item.size >= 5}
         if of_floor:
             most = max(of_floor, key=of_floor.get)
@@ -93,8 +94,8 @@ def dispatch_text(families):
         if name is None:
             continue
         extra = [item.figures[name].nanoseconds - item.ours.nanoseconds for item in items]
-        yield (f"- {element}: the length as an argument costs {statistics.median(extra):.2f} ns more in the median over "
-               f"{len(items)} lengths, {min(extra):.2f} to {max(extra):.2f} ns.")
+        yield (f"- {element}: the length as an argument costs {statistics.median(extra):.2f} ns more in the median "
+               f"over {len(items)} lengths, {min(extra):.2f} to {max(extra):.2f} ns.")
 
 
 def load_text(loads):

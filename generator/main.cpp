@@ -32,7 +32,7 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
 
 std::string graphText(const gen::GraphEntry& entry) {
     const auto graph = entry.build();
-    return gen::emitGraph(entry, *graph, gen::blockByBlock(*graph));
+    return gen::emitGraph(entry, *graph, entry.schedule(*graph));
 }
 
 // Path and text of every generated file.

@@ -25,4 +25,9 @@ struct Schedule {
 // store as soon as its value and the last load are there.
 Schedule blockByBlock(const Graph& graph);
 
+// Recursive bisection: parts that do not touch each other one after the other; a part that hangs together is cut in
+// half between its inputs and its outputs, and each half is taken in the same way. Few values wait whatever the number
+// of registers. The idea: M. Frigo, A fast Fourier transform compiler, PLDI 1999.
+Schedule byBisection(const Graph& graph);
+
 }  // namespace gen

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "graph/graph.h"
+#include "graph/schedule.h"
 
 namespace gen {
 
@@ -46,6 +47,8 @@ struct GraphEntry {
     std::string title() const;
     std::string recipe() const { return family->recipe(length); }
     std::unique_ptr<Graph> build() const { return family->build(length); }
+    // The order that is settled for this graph.
+    Schedule schedule(const Graph& graph) const;
 };
 
 // One exported routine, with its slot: the routine as the library's own sources name it, and the size of its arguments.

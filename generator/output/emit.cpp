@@ -1,7 +1,9 @@
 #include "output/emit.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <functional>
 #include <map>
 #include <stdexcept>
 
@@ -18,6 +20,15 @@ std::string literal(double x) {
     return digits.find_first_of(".e") == std::string::npos ? digits + ".0" : digits;
 }
 
+// Whether the constants of a kernel stand in a table that a register points at. In a long kernel the bytes of code are
+// the time, since the processor's cache of decoded instructions does not hold it: a short displacement in place of an
+// address saves 3 bytes a product, 4 to 30 % of the time. A short kernel loses up to 8 %.
+bool isLong(const GraphEntry& entry, const Graph& graph) {
+    const Counts counts = graph.counts();
+    const int steps = counts.additions + counts.subtractions + counts.multiplications;
+    return !entry.family->isBody() && steps + static_cast<int>(graph.outputs().size()) >= 1200;
+}
+
 // Names the constants and values of one graph in the order in which the schedule meets them.
 class Names {
 public:
@@ -31,17 +42,34 @@ public:
             } else {
                 values[step.number] = "t" + to_string(operations++);
             }
-            if (node.kind == Kind::Mul && constants.emplace(node.b, "c" + to_string(constants.size())).second) {
-                constantOrder.push_back(node.b);
-            }
+            if (node.kind != Kind::Mul) continue;
+            if (uses[node.b]++ == 0) constantOrder.push_back(node.b);
+        }
+        if (!isLong(entry, graph)) {
+            for (int number : constantOrder) constants.emplace(number, "c" + to_string(constants.size()));
+        } else {
+            nameByPlace();
         }
     }
 
     const std::string& value(int node) const { return values.at(node); }
     const std::string& constant(int number) const { return constants.at(number); }
     const std::vector<int>& constantsInOrder() const { return constantOrder; }
+    // Which constant of a kernel c points at.
+    std::size_t origin() const { return std::min(constantOrder.size() / 2, reach); }
 
 private:
+    // A kernel holds its constants in a table, those used most within reach of a short displacement from c.
+    void nameByPlace() {
+        std::ranges::stable_sort(constantOrder, std::greater(), [&](int number) { return uses[number]; });
+        for (std::size_t i = 0; i < constantOrder.size(); ++i) {
+            const int place = static_cast<int>(i) - static_cast<int>(origin());
+            constants.emplace(constantOrder[i], "c[" + to_string(place) + "]");
+        }
+    }
+
+    static constexpr std::size_t reach = 16;  // doubles in 128 bytes
+    std::map<int, int> uses;
     std::map<int, std::string> values, constants;
     std::vector<int> constantOrder;
 };
@@ -85,15 +113,18 @@ std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule
 }
 
 // The constants of a kernel are doubles; those of a body have the width that its ports give them.
-std::string constantsText(const Graph& graph, const Names& names, bool isBody) {
-    std::string text;
+std::string constantsText(const GraphEntry& entry, const Graph& graph, const Names& names) {
+    const bool isBody = entry.family->isBody(), isTable = isLong(entry, graph);
+    std::string text = isTable ? "    static constexpr double constants[] = {\n" : "";
     for (int number : names.constantsInOrder()) {
         const Constant& constant = graph.constants()[static_cast<std::size_t>(number)];
-        const std::string value = literal(constant.stored);
-        text += (isBody ? "        constexpr auto " : "    static constexpr double ") + names.constant(number) + " = " +
-                (isBody ? "Ports::fixed(" + value + ")" : value) + ";  // " + constant.origin + "\n";
+        const std::string value = literal(constant.stored), name = names.constant(number);
+        text += isBody    ? "        constexpr auto " + name + " = Ports::fixed(" + value + ");  // "
+                : isTable ? "        " + value + ",  // " + name + ": "
+                          : "    static constexpr double " + name + " = " + value + ";  // ";
+        text += constant.origin + "\n";
     }
-    return text;
+    return text + (isTable ? "    };\n" : "");
 }
 
 // The title of the next operation at or behind a step: a load is written where its first use is.
@@ -148,13 +179,15 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
     const Names names(entry, graph, schedule);
     const GraphFamily& family = *entry.family;
     const std::string name = family.graphTemplate + "<" + to_string(entry.length) + ">";
-    const std::string constants = constantsText(graph, names, family.isBody());
+    const std::string constants = constantsText(entry, graph, names);
     std::string text = headText(entry, graph, schedule);
     if (family.isBody()) {
         text += "#pragma once\n\n#include \"" + family.folder + ".h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " +
                 name + " {\n";
     } else {
-        text += "#include \"frame/kernel_body.h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
+        text += "#include \"frame/kernel_body.h\"\n";
+        if (isLong(entry, graph)) text += "#include \"frame/near_constants.h\"\n";
+        text += "\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
                 " {\n    static constexpr double inverseRoot = " + literal(storedInverseRoot(entry.length)) +
                 ";  // 1/sqrt(" + to_string(entry.length) + "), for `scale`\n" + constants + "\n";
     }
@@ -162,7 +195,11 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
         "    template <class Ports>\n"
         "    ZULG_INLINE static void run(const Ports& io) {\n"
         "        using V = typename Ports::Value;\n";
-    if (family.isBody()) text += constants;
+    if (family.isBody()) {
+        text += constants;
+    } else if (isLong(entry, graph)) {
+        text += "        const double* const c = inRegister(constants + " + to_string(names.origin()) + ");\n";
+    }
     text += stepsText(entry, graph, schedule, names) +
             "    }\n"
             "};\n\n";

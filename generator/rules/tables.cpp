@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <numeric>
+#include <set>
 #include <stdexcept>
 
 namespace gen {
@@ -271,6 +273,20 @@ OddSplit oddSplit(int length, bool isInput) {
         case 30: return {15, 2};
         default: throw std::out_of_range("no odd-frequency form of length " + std::to_string(length));
     }
+}
+
+// What the choice wins stands in benchmarks/results; benchmarks/README.md tells how it is measured.
+bool isBisected(const std::string& family, int length) {
+    static const std::map<std::string, std::set<int>> lengths = {
+        {"complex", {8, 10, 16, 18, 26, 30, 34, 38, 42, 44, 46, 48, 54, 58, 59, 62}},
+        {"real_forward", {14, 16, 24, 26, 38, 50}},
+        {"real_inverse",
+         {11, 16, 17, 20, 21, 22, 24, 28, 32, 34, 35, 36, 37, 38, 39, 40, 42, 44, 46, 48, 49, 50, 51, 52, 53, 54,
+          56, 58, 60, 61, 62, 63, 64}},
+        {"hartley", {9, 11, 12, 13, 22, 24, 26, 34, 35, 37, 38, 40, 42, 46, 48, 50, 54, 56, 62, 64}},
+    };
+    const auto found = lengths.find(family);
+    return found != lengths.end() && found->second.contains(length);
 }
 
 std::vector<int> realForwardTurns(int length) {

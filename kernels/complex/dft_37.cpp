@@ -2,62 +2,66 @@
 // Complex DFT of 37 points, Rader block.
 // 432 additions, 432 subtractions, 444 multiplications (518 with `scale`); 46 constants; 75 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct ComplexGraph<37> {
     static constexpr double inverseRoot = 0.1643989873053573;  // 1/sqrt(37), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c1 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c2 = 0.3420201433256687;  // sin 2 pi 4/9
-    static constexpr double c3 = 0.9396926207859084;  // -cos 2 pi 4/9
-    static constexpr double c4 = 0.6427876096865394;  // -sin 2 pi 8/9
-    static constexpr double c5 = 0.766044443118978;  // cos 2 pi 8/9
-    static constexpr double c6 = 0.027777777777777776;  // 1/36
-    static constexpr double c7 = 0.29019472587628237;  // -P[1] of 37
-    static constexpr double c8 = 0.1731604803001738;  // Q[1] of 37
-    static constexpr double c9 = 0.27801178968802176;  // Q[2] of 37
-    static constexpr double c10 = 0.19211188317920547;  // P[2] of 37
-    static constexpr double c11 = 0.3200973041246296;  // P[3] of 37
-    static constexpr double c12 = 0.10832934393017396;  // Q[3] of 37
-    static constexpr double c13 = 0.13371391769319224;  // Q[4] of 37
-    static constexpr double c14 = 0.3103516055691282;  // P[4] of 37
-    static constexpr double c15 = 0.24288635390370164;  // P[5] of 37
-    static constexpr double c16 = 0.2349547827807796;  // -Q[5] of 37
-    static constexpr double c17 = 0.3290788923998385;  // Q[6] of 37
-    static constexpr double c18 = 0.07684148255397624;  // -P[6] of 37
-    static constexpr double c19 = 0.25364370716273305;  // P[7] of 37
-    static constexpr double c20 = 0.22329890434335598;  // -Q[7] of 37
-    static constexpr double c21 = 0.2338246809597342;  // Q[8] of 37
-    static constexpr double c22 = 0.24397448521981976;  // P[8] of 37
-    static constexpr double c23 = 0.21843027770589768;  // -P[9] of 37
-    static constexpr double c24 = 0.2578482977363278;  // Q[9] of 37
-    static constexpr double c25 = 0.25216731301218065;  // Q[10] of 37
-    static constexpr double c26 = 0.22496483527968195;  // -P[10] of 37
-    static constexpr double c27 = 0.1782451073659696;  // P[11] of 37
-    static constexpr double c28 = 0.2870996561549517;  // Q[11] of 37
-    static constexpr double c29 = 0.3142620078134601;  // -Q[12] of 37
-    static constexpr double c30 = 0.12424540759822993;  // P[12] of 37
-    static constexpr double c31 = 0.3301590368394409;  // -P[13] of 37
-    static constexpr double c32 = 0.07205928987611672;  // Q[13] of 37
-    static constexpr double c33 = 0.2912479292396942;  // Q[14] of 37
-    static constexpr double c34 = 0.17138312220807392;  // P[14] of 37
-    static constexpr double c35 = 0.15947907926271018;  // -P[15] of 37
-    static constexpr double c36 = 0.2979328013860101;  // -Q[15] of 37
-    static constexpr double c37 = 0.32147563578344845;  // Q[16] of 37
-    static constexpr double c38 = 0.10416787634306994;  // P[16] of 37
-    static constexpr double c39 = 0.3368755881752301;  // P[17] of 37
-    static constexpr double c40 = 0.026690240834250763;  // Q[17] of 37
-    static constexpr double c41 = 0.1689656258416172;  // beta of 37
-    static constexpr double c42 = 0.29619813272602386;  // sin 2 pi 1/3 times sin 2 pi 4/9
-    static constexpr double c43 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 4/9
-    static constexpr double c44 = 0.6634139481689384;  // sin 2 pi 1/3 times cos 2 pi 8/9
-    static constexpr double c45 = 0.5566703992264194;  // sin 2 pi 1/3 times -sin 2 pi 8/9
+    static constexpr double constants[] = {
+        0.5,  // c[-16]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-15]: sin 2 pi 1/3
+        0.3420201433256687,  // c[-14]: sin 2 pi 4/9
+        0.9396926207859084,  // c[-13]: -cos 2 pi 4/9
+        0.6427876096865394,  // c[-12]: -sin 2 pi 8/9
+        0.766044443118978,  // c[-11]: cos 2 pi 8/9
+        0.29619813272602386,  // c[-10]: sin 2 pi 1/3 times sin 2 pi 4/9
+        0.8137976813493737,  // c[-9]: sin 2 pi 1/3 times -cos 2 pi 4/9
+        0.6634139481689384,  // c[-8]: sin 2 pi 1/3 times cos 2 pi 8/9
+        0.5566703992264194,  // c[-7]: sin 2 pi 1/3 times -sin 2 pi 8/9
+        0.29019472587628237,  // c[-6]: -P[1] of 37
+        0.1731604803001738,  // c[-5]: Q[1] of 37
+        0.27801178968802176,  // c[-4]: Q[2] of 37
+        0.19211188317920547,  // c[-3]: P[2] of 37
+        0.3200973041246296,  // c[-2]: P[3] of 37
+        0.10832934393017396,  // c[-1]: Q[3] of 37
+        0.13371391769319224,  // c[0]: Q[4] of 37
+        0.3103516055691282,  // c[1]: P[4] of 37
+        0.24288635390370164,  // c[2]: P[5] of 37
+        0.2349547827807796,  // c[3]: -Q[5] of 37
+        0.3290788923998385,  // c[4]: Q[6] of 37
+        0.07684148255397624,  // c[5]: -P[6] of 37
+        0.25364370716273305,  // c[6]: P[7] of 37
+        0.22329890434335598,  // c[7]: -Q[7] of 37
+        0.2338246809597342,  // c[8]: Q[8] of 37
+        0.24397448521981976,  // c[9]: P[8] of 37
+        0.21843027770589768,  // c[10]: -P[9] of 37
+        0.2578482977363278,  // c[11]: Q[9] of 37
+        0.25216731301218065,  // c[12]: Q[10] of 37
+        0.22496483527968195,  // c[13]: -P[10] of 37
+        0.1782451073659696,  // c[14]: P[11] of 37
+        0.2870996561549517,  // c[15]: Q[11] of 37
+        0.3142620078134601,  // c[16]: -Q[12] of 37
+        0.12424540759822993,  // c[17]: P[12] of 37
+        0.3301590368394409,  // c[18]: -P[13] of 37
+        0.07205928987611672,  // c[19]: Q[13] of 37
+        0.2912479292396942,  // c[20]: Q[14] of 37
+        0.17138312220807392,  // c[21]: P[14] of 37
+        0.15947907926271018,  // c[22]: -P[15] of 37
+        0.2979328013860101,  // c[23]: -Q[15] of 37
+        0.32147563578344845,  // c[24]: Q[16] of 37
+        0.10416787634306994,  // c[25]: P[16] of 37
+        0.3368755881752301,  // c[26]: P[17] of 37
+        0.026690240834250763,  // c[27]: Q[17] of 37
+        0.027777777777777776,  // c[28]: 1/36
+        0.1689656258416172,  // c[29]: beta of 37
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // real block of 3
         const V x26r = io.re(26);
         const V x10r = io.re(10);
@@ -65,9 +69,9 @@ struct ComplexGraph<37> {
         const V t1 = x26r - x10r;
         const V x1r = io.re(1);
         const V t2 = t0 + x1r;
-        const V t3 = c0 * t0;
+        const V t3 = c[-16] * t0;
         const V t4 = x1r - t3;
-        const V t5 = c1 * t1;
+        const V t5 = c[-15] * t1;
         // real block of 3
         const V x9r = io.re(9);
         const V x12r = io.re(12);
@@ -75,9 +79,9 @@ struct ComplexGraph<37> {
         const V t7 = x9r - x12r;
         const V x16r = io.re(16);
         const V t8 = t6 + x16r;
-        const V t9 = c0 * t6;
+        const V t9 = c[-16] * t6;
         const V t10 = x16r - t9;
-        const V t11 = c1 * t7;
+        const V t11 = c[-15] * t7;
         // real block of 3
         const V x33r = io.re(33);
         const V x7r = io.re(7);
@@ -85,28 +89,28 @@ struct ComplexGraph<37> {
         const V t13 = x33r - x7r;
         const V x34r = io.re(34);
         const V t14 = t12 + x34r;
-        const V t15 = c0 * t12;
+        const V t15 = c[-16] * t12;
         const V t16 = x34r - t15;
-        const V t17 = c1 * t13;
+        const V t17 = c[-15] * t13;
         // real block of 3
         const V t18 = t8 + t14;
         const V t19 = t8 - t14;
         const V t20 = t18 + t2;
-        const V t21 = c0 * t18;
+        const V t21 = c[-16] * t18;
         const V t22 = t2 - t21;
-        const V t23 = c1 * t19;
+        const V t23 = c[-15] * t19;
         // real block of 9, multiplier 4
-        const V t24 = c2 * t11;
-        const V t25 = c3 * t10;
+        const V t24 = c[-14] * t11;
+        const V t25 = c[-13] * t10;
         const V t26 = t25 + t24;
-        const V t27 = c2 * t10;
-        const V t28 = c3 * t11;
+        const V t27 = c[-14] * t10;
+        const V t28 = c[-13] * t11;
         const V t29 = t28 - t27;
-        const V t30 = c4 * t17;
-        const V t31 = c5 * t16;
+        const V t30 = c[-12] * t17;
+        const V t31 = c[-11] * t16;
         const V t32 = t31 + t30;
-        const V t33 = c4 * t16;
-        const V t34 = c5 * t17;
+        const V t33 = c[-12] * t16;
+        const V t34 = c[-11] * t17;
         const V t35 = t33 - t34;
         // complex block of 3
         const V t36 = t32 - t26;
@@ -115,12 +119,12 @@ struct ComplexGraph<37> {
         const V t39 = t29 - t35;
         const V t40 = t36 + t4;
         const V t41 = t37 - t5;
-        const V t42 = c0 * t36;
+        const V t42 = c[-16] * t36;
         const V t43 = t4 - t42;
-        const V t44 = c0 * t37;
+        const V t44 = c[-16] * t37;
         const V t45 = t5 + t44;
-        const V t46 = c1 * t38;
-        const V t47 = c1 * t39;
+        const V t46 = c[-15] * t38;
+        const V t47 = c[-15] * t39;
         const V t48 = t43 + t47;
         const V t49 = t46 - t45;
         const V t50 = t43 - t47;
@@ -132,9 +136,9 @@ struct ComplexGraph<37> {
         const V t53 = x29r - x14r;
         const V x31r = io.re(31);
         const V t54 = t52 + x31r;
-        const V t55 = c0 * t52;
+        const V t55 = c[-16] * t52;
         const V t56 = x31r - t55;
-        const V t57 = c1 * t53;
+        const V t57 = c[-15] * t53;
         // real block of 3
         const V x20r = io.re(20);
         const V x2r = io.re(2);
@@ -142,9 +146,9 @@ struct ComplexGraph<37> {
         const V t59 = x20r - x2r;
         const V x15r = io.re(15);
         const V t60 = t58 + x15r;
-        const V t61 = c0 * t58;
+        const V t61 = c[-16] * t58;
         const V t62 = x15r - t61;
-        const V t63 = c1 * t59;
+        const V t63 = c[-15] * t59;
         // real block of 3
         const V x24r = io.re(24);
         const V x32r = io.re(32);
@@ -152,28 +156,28 @@ struct ComplexGraph<37> {
         const V t65 = x24r - x32r;
         const V x18r = io.re(18);
         const V t66 = t64 + x18r;
-        const V t67 = c0 * t64;
+        const V t67 = c[-16] * t64;
         const V t68 = x18r - t67;
-        const V t69 = c1 * t65;
+        const V t69 = c[-15] * t65;
         // real block of 3
         const V t70 = t60 + t66;
         const V t71 = t60 - t66;
         const V t72 = t70 + t54;
-        const V t73 = c0 * t70;
+        const V t73 = c[-16] * t70;
         const V t74 = t54 - t73;
-        const V t75 = c1 * t71;
+        const V t75 = c[-15] * t71;
         // real block of 9, multiplier 4
-        const V t76 = c2 * t63;
-        const V t77 = c3 * t62;
+        const V t76 = c[-14] * t63;
+        const V t77 = c[-13] * t62;
         const V t78 = t77 + t76;
-        const V t79 = c2 * t62;
-        const V t80 = c3 * t63;
+        const V t79 = c[-14] * t62;
+        const V t80 = c[-13] * t63;
         const V t81 = t80 - t79;
-        const V t82 = c4 * t69;
-        const V t83 = c5 * t68;
+        const V t82 = c[-12] * t69;
+        const V t83 = c[-11] * t68;
         const V t84 = t83 + t82;
-        const V t85 = c4 * t68;
-        const V t86 = c5 * t69;
+        const V t85 = c[-12] * t68;
+        const V t86 = c[-11] * t69;
         const V t87 = t85 - t86;
         // complex block of 3
         const V t88 = t84 - t78;
@@ -182,12 +186,12 @@ struct ComplexGraph<37> {
         const V t91 = t81 - t87;
         const V t92 = t88 + t56;
         const V t93 = t89 - t57;
-        const V t94 = c0 * t88;
+        const V t94 = c[-16] * t88;
         const V t95 = t56 - t94;
-        const V t96 = c0 * t89;
+        const V t96 = c[-16] * t89;
         const V t97 = t57 + t96;
-        const V t98 = c1 * t90;
-        const V t99 = c1 * t91;
+        const V t98 = c[-15] * t90;
+        const V t99 = c[-15] * t91;
         const V t100 = t95 + t99;
         const V t101 = t98 - t97;
         const V t102 = t95 - t99;
@@ -199,9 +203,9 @@ struct ComplexGraph<37> {
         const V t105 = x11r - x27r;
         const V x36r = io.re(36);
         const V t106 = t104 + x36r;
-        const V t107 = c0 * t104;
+        const V t107 = c[-16] * t104;
         const V t108 = x36r - t107;
-        const V t109 = c1 * t105;
+        const V t109 = c[-15] * t105;
         // real block of 3
         const V x28r = io.re(28);
         const V x25r = io.re(25);
@@ -209,9 +213,9 @@ struct ComplexGraph<37> {
         const V t111 = x28r - x25r;
         const V x21r = io.re(21);
         const V t112 = t110 + x21r;
-        const V t113 = c0 * t110;
+        const V t113 = c[-16] * t110;
         const V t114 = x21r - t113;
-        const V t115 = c1 * t111;
+        const V t115 = c[-15] * t111;
         // real block of 3
         const V x4r = io.re(4);
         const V x30r = io.re(30);
@@ -219,28 +223,28 @@ struct ComplexGraph<37> {
         const V t117 = x4r - x30r;
         const V x3r = io.re(3);
         const V t118 = t116 + x3r;
-        const V t119 = c0 * t116;
+        const V t119 = c[-16] * t116;
         const V t120 = x3r - t119;
-        const V t121 = c1 * t117;
+        const V t121 = c[-15] * t117;
         // real block of 3
         const V t122 = t112 + t118;
         const V t123 = t112 - t118;
         const V t124 = t122 + t106;
-        const V t125 = c0 * t122;
+        const V t125 = c[-16] * t122;
         const V t126 = t106 - t125;
-        const V t127 = c1 * t123;
+        const V t127 = c[-15] * t123;
         // real block of 9, multiplier 4
-        const V t128 = c2 * t115;
-        const V t129 = c3 * t114;
+        const V t128 = c[-14] * t115;
+        const V t129 = c[-13] * t114;
         const V t130 = t129 + t128;
-        const V t131 = c2 * t114;
-        const V t132 = c3 * t115;
+        const V t131 = c[-14] * t114;
+        const V t132 = c[-13] * t115;
         const V t133 = t132 - t131;
-        const V t134 = c4 * t121;
-        const V t135 = c5 * t120;
+        const V t134 = c[-12] * t121;
+        const V t135 = c[-11] * t120;
         const V t136 = t135 + t134;
-        const V t137 = c4 * t120;
-        const V t138 = c5 * t121;
+        const V t137 = c[-12] * t120;
+        const V t138 = c[-11] * t121;
         const V t139 = t137 - t138;
         // complex block of 3
         const V t140 = t136 - t130;
@@ -249,12 +253,12 @@ struct ComplexGraph<37> {
         const V t143 = t133 - t139;
         const V t144 = t140 + t108;
         const V t145 = t141 - t109;
-        const V t146 = c0 * t140;
+        const V t146 = c[-16] * t140;
         const V t147 = t108 - t146;
-        const V t148 = c0 * t141;
+        const V t148 = c[-16] * t141;
         const V t149 = t109 + t148;
-        const V t150 = c1 * t142;
-        const V t151 = c1 * t143;
+        const V t150 = c[-15] * t142;
+        const V t151 = c[-15] * t143;
         const V t152 = t147 + t151;
         const V t153 = t150 - t149;
         const V t154 = t147 - t151;
@@ -266,9 +270,9 @@ struct ComplexGraph<37> {
         const V t157 = x8r - x23r;
         const V x6r = io.re(6);
         const V t158 = t156 + x6r;
-        const V t159 = c0 * t156;
+        const V t159 = c[-16] * t156;
         const V t160 = x6r - t159;
-        const V t161 = c1 * t157;
+        const V t161 = c[-15] * t157;
         // real block of 3
         const V x17r = io.re(17);
         const V x35r = io.re(35);
@@ -276,9 +280,9 @@ struct ComplexGraph<37> {
         const V t163 = x17r - x35r;
         const V x22r = io.re(22);
         const V t164 = t162 + x22r;
-        const V t165 = c0 * t162;
+        const V t165 = c[-16] * t162;
         const V t166 = x22r - t165;
-        const V t167 = c1 * t163;
+        const V t167 = c[-15] * t163;
         // real block of 3
         const V x13r = io.re(13);
         const V x5r = io.re(5);
@@ -286,28 +290,28 @@ struct ComplexGraph<37> {
         const V t169 = x13r - x5r;
         const V x19r = io.re(19);
         const V t170 = t168 + x19r;
-        const V t171 = c0 * t168;
+        const V t171 = c[-16] * t168;
         const V t172 = x19r - t171;
-        const V t173 = c1 * t169;
+        const V t173 = c[-15] * t169;
         // real block of 3
         const V t174 = t164 + t170;
         const V t175 = t164 - t170;
         const V t176 = t174 + t158;
-        const V t177 = c0 * t174;
+        const V t177 = c[-16] * t174;
         const V t178 = t158 - t177;
-        const V t179 = c1 * t175;
+        const V t179 = c[-15] * t175;
         // real block of 9, multiplier 4
-        const V t180 = c2 * t167;
-        const V t181 = c3 * t166;
+        const V t180 = c[-14] * t167;
+        const V t181 = c[-13] * t166;
         const V t182 = t181 + t180;
-        const V t183 = c2 * t166;
-        const V t184 = c3 * t167;
+        const V t183 = c[-14] * t166;
+        const V t184 = c[-13] * t167;
         const V t185 = t184 - t183;
-        const V t186 = c4 * t173;
-        const V t187 = c5 * t172;
+        const V t186 = c[-12] * t173;
+        const V t187 = c[-11] * t172;
         const V t188 = t187 + t186;
-        const V t189 = c4 * t172;
-        const V t190 = c5 * t173;
+        const V t189 = c[-12] * t172;
+        const V t190 = c[-11] * t173;
         const V t191 = t189 - t190;
         // complex block of 3
         const V t192 = t188 - t182;
@@ -316,12 +320,12 @@ struct ComplexGraph<37> {
         const V t195 = t185 - t191;
         const V t196 = t192 + t160;
         const V t197 = t193 - t161;
-        const V t198 = c0 * t192;
+        const V t198 = c[-16] * t192;
         const V t199 = t160 - t198;
-        const V t200 = c0 * t193;
+        const V t200 = c[-16] * t193;
         const V t201 = t161 + t200;
-        const V t202 = c1 * t194;
-        const V t203 = c1 * t195;
+        const V t202 = c[-15] * t194;
+        const V t203 = c[-15] * t195;
         const V t204 = t199 + t203;
         const V t205 = t202 - t201;
         const V t206 = t199 - t203;
@@ -422,9 +426,9 @@ struct ComplexGraph<37> {
         const V t279 = x26i - x10i;
         const V x1i = io.im(1);
         const V t280 = t278 + x1i;
-        const V t281 = c0 * t278;
+        const V t281 = c[-16] * t278;
         const V t282 = x1i - t281;
-        const V t283 = c1 * t279;
+        const V t283 = c[-15] * t279;
         // real block of 3
         const V x9i = io.im(9);
         const V x12i = io.im(12);
@@ -432,9 +436,9 @@ struct ComplexGraph<37> {
         const V t285 = x9i - x12i;
         const V x16i = io.im(16);
         const V t286 = t284 + x16i;
-        const V t287 = c0 * t284;
+        const V t287 = c[-16] * t284;
         const V t288 = x16i - t287;
-        const V t289 = c1 * t285;
+        const V t289 = c[-15] * t285;
         // real block of 3
         const V x33i = io.im(33);
         const V x7i = io.im(7);
@@ -442,28 +446,28 @@ struct ComplexGraph<37> {
         const V t291 = x33i - x7i;
         const V x34i = io.im(34);
         const V t292 = t290 + x34i;
-        const V t293 = c0 * t290;
+        const V t293 = c[-16] * t290;
         const V t294 = x34i - t293;
-        const V t295 = c1 * t291;
+        const V t295 = c[-15] * t291;
         // real block of 3
         const V t296 = t286 + t292;
         const V t297 = t286 - t292;
         const V t298 = t296 + t280;
-        const V t299 = c0 * t296;
+        const V t299 = c[-16] * t296;
         const V t300 = t280 - t299;
-        const V t301 = c1 * t297;
+        const V t301 = c[-15] * t297;
         // real block of 9, multiplier 4
-        const V t302 = c2 * t289;
-        const V t303 = c3 * t288;
+        const V t302 = c[-14] * t289;
+        const V t303 = c[-13] * t288;
         const V t304 = t303 + t302;
-        const V t305 = c2 * t288;
-        const V t306 = c3 * t289;
+        const V t305 = c[-14] * t288;
+        const V t306 = c[-13] * t289;
         const V t307 = t306 - t305;
-        const V t308 = c4 * t295;
-        const V t309 = c5 * t294;
+        const V t308 = c[-12] * t295;
+        const V t309 = c[-11] * t294;
         const V t310 = t309 + t308;
-        const V t311 = c4 * t294;
-        const V t312 = c5 * t295;
+        const V t311 = c[-12] * t294;
+        const V t312 = c[-11] * t295;
         const V t313 = t311 - t312;
         // complex block of 3
         const V t314 = t310 - t304;
@@ -472,12 +476,12 @@ struct ComplexGraph<37> {
         const V t317 = t307 - t313;
         const V t318 = t314 + t282;
         const V t319 = t315 - t283;
-        const V t320 = c0 * t314;
+        const V t320 = c[-16] * t314;
         const V t321 = t282 - t320;
-        const V t322 = c0 * t315;
+        const V t322 = c[-16] * t315;
         const V t323 = t283 + t322;
-        const V t324 = c1 * t316;
-        const V t325 = c1 * t317;
+        const V t324 = c[-15] * t316;
+        const V t325 = c[-15] * t317;
         const V t326 = t321 + t325;
         const V t327 = t324 - t323;
         const V t328 = t321 - t325;
@@ -489,9 +493,9 @@ struct ComplexGraph<37> {
         const V t331 = x29i - x14i;
         const V x31i = io.im(31);
         const V t332 = t330 + x31i;
-        const V t333 = c0 * t330;
+        const V t333 = c[-16] * t330;
         const V t334 = x31i - t333;
-        const V t335 = c1 * t331;
+        const V t335 = c[-15] * t331;
         // real block of 3
         const V x20i = io.im(20);
         const V x2i = io.im(2);
@@ -499,9 +503,9 @@ struct ComplexGraph<37> {
         const V t337 = x20i - x2i;
         const V x15i = io.im(15);
         const V t338 = t336 + x15i;
-        const V t339 = c0 * t336;
+        const V t339 = c[-16] * t336;
         const V t340 = x15i - t339;
-        const V t341 = c1 * t337;
+        const V t341 = c[-15] * t337;
         // real block of 3
         const V x24i = io.im(24);
         const V x32i = io.im(32);
@@ -509,28 +513,28 @@ struct ComplexGraph<37> {
         const V t343 = x24i - x32i;
         const V x18i = io.im(18);
         const V t344 = t342 + x18i;
-        const V t345 = c0 * t342;
+        const V t345 = c[-16] * t342;
         const V t346 = x18i - t345;
-        const V t347 = c1 * t343;
+        const V t347 = c[-15] * t343;
         // real block of 3
         const V t348 = t338 + t344;
         const V t349 = t338 - t344;
         const V t350 = t348 + t332;
-        const V t351 = c0 * t348;
+        const V t351 = c[-16] * t348;
         const V t352 = t332 - t351;
-        const V t353 = c1 * t349;
+        const V t353 = c[-15] * t349;
         // real block of 9, multiplier 4
-        const V t354 = c2 * t341;
-        const V t355 = c3 * t340;
+        const V t354 = c[-14] * t341;
+        const V t355 = c[-13] * t340;
         const V t356 = t355 + t354;
-        const V t357 = c2 * t340;
-        const V t358 = c3 * t341;
+        const V t357 = c[-14] * t340;
+        const V t358 = c[-13] * t341;
         const V t359 = t358 - t357;
-        const V t360 = c4 * t347;
-        const V t361 = c5 * t346;
+        const V t360 = c[-12] * t347;
+        const V t361 = c[-11] * t346;
         const V t362 = t361 + t360;
-        const V t363 = c4 * t346;
-        const V t364 = c5 * t347;
+        const V t363 = c[-12] * t346;
+        const V t364 = c[-11] * t347;
         const V t365 = t363 - t364;
         // complex block of 3
         const V t366 = t362 - t356;
@@ -539,12 +543,12 @@ struct ComplexGraph<37> {
         const V t369 = t359 - t365;
         const V t370 = t366 + t334;
         const V t371 = t367 - t335;
-        const V t372 = c0 * t366;
+        const V t372 = c[-16] * t366;
         const V t373 = t334 - t372;
-        const V t374 = c0 * t367;
+        const V t374 = c[-16] * t367;
         const V t375 = t335 + t374;
-        const V t376 = c1 * t368;
-        const V t377 = c1 * t369;
+        const V t376 = c[-15] * t368;
+        const V t377 = c[-15] * t369;
         const V t378 = t373 + t377;
         const V t379 = t376 - t375;
         const V t380 = t373 - t377;
@@ -556,9 +560,9 @@ struct ComplexGraph<37> {
         const V t383 = x11i - x27i;
         const V x36i = io.im(36);
         const V t384 = t382 + x36i;
-        const V t385 = c0 * t382;
+        const V t385 = c[-16] * t382;
         const V t386 = x36i - t385;
-        const V t387 = c1 * t383;
+        const V t387 = c[-15] * t383;
         // real block of 3
         const V x28i = io.im(28);
         const V x25i = io.im(25);
@@ -566,9 +570,9 @@ struct ComplexGraph<37> {
         const V t389 = x28i - x25i;
         const V x21i = io.im(21);
         const V t390 = t388 + x21i;
-        const V t391 = c0 * t388;
+        const V t391 = c[-16] * t388;
         const V t392 = x21i - t391;
-        const V t393 = c1 * t389;
+        const V t393 = c[-15] * t389;
         // real block of 3
         const V x4i = io.im(4);
         const V x30i = io.im(30);
@@ -576,28 +580,28 @@ struct ComplexGraph<37> {
         const V t395 = x4i - x30i;
         const V x3i = io.im(3);
         const V t396 = t394 + x3i;
-        const V t397 = c0 * t394;
+        const V t397 = c[-16] * t394;
         const V t398 = x3i - t397;
-        const V t399 = c1 * t395;
+        const V t399 = c[-15] * t395;
         // real block of 3
         const V t400 = t390 + t396;
         const V t401 = t390 - t396;
         const V t402 = t400 + t384;
-        const V t403 = c0 * t400;
+        const V t403 = c[-16] * t400;
         const V t404 = t384 - t403;
-        const V t405 = c1 * t401;
+        const V t405 = c[-15] * t401;
         // real block of 9, multiplier 4
-        const V t406 = c2 * t393;
-        const V t407 = c3 * t392;
+        const V t406 = c[-14] * t393;
+        const V t407 = c[-13] * t392;
         const V t408 = t407 + t406;
-        const V t409 = c2 * t392;
-        const V t410 = c3 * t393;
+        const V t409 = c[-14] * t392;
+        const V t410 = c[-13] * t393;
         const V t411 = t410 - t409;
-        const V t412 = c4 * t399;
-        const V t413 = c5 * t398;
+        const V t412 = c[-12] * t399;
+        const V t413 = c[-11] * t398;
         const V t414 = t413 + t412;
-        const V t415 = c4 * t398;
-        const V t416 = c5 * t399;
+        const V t415 = c[-12] * t398;
+        const V t416 = c[-11] * t399;
         const V t417 = t415 - t416;
         // complex block of 3
         const V t418 = t414 - t408;
@@ -606,12 +610,12 @@ struct ComplexGraph<37> {
         const V t421 = t411 - t417;
         const V t422 = t418 + t386;
         const V t423 = t419 - t387;
-        const V t424 = c0 * t418;
+        const V t424 = c[-16] * t418;
         const V t425 = t386 - t424;
-        const V t426 = c0 * t419;
+        const V t426 = c[-16] * t419;
         const V t427 = t387 + t426;
-        const V t428 = c1 * t420;
-        const V t429 = c1 * t421;
+        const V t428 = c[-15] * t420;
+        const V t429 = c[-15] * t421;
         const V t430 = t425 + t429;
         const V t431 = t428 - t427;
         const V t432 = t425 - t429;
@@ -623,9 +627,9 @@ struct ComplexGraph<37> {
         const V t435 = x8i - x23i;
         const V x6i = io.im(6);
         const V t436 = t434 + x6i;
-        const V t437 = c0 * t434;
+        const V t437 = c[-16] * t434;
         const V t438 = x6i - t437;
-        const V t439 = c1 * t435;
+        const V t439 = c[-15] * t435;
         // real block of 3
         const V x17i = io.im(17);
         const V x35i = io.im(35);
@@ -633,9 +637,9 @@ struct ComplexGraph<37> {
         const V t441 = x17i - x35i;
         const V x22i = io.im(22);
         const V t442 = t440 + x22i;
-        const V t443 = c0 * t440;
+        const V t443 = c[-16] * t440;
         const V t444 = x22i - t443;
-        const V t445 = c1 * t441;
+        const V t445 = c[-15] * t441;
         // real block of 3
         const V x13i = io.im(13);
         const V x5i = io.im(5);
@@ -643,28 +647,28 @@ struct ComplexGraph<37> {
         const V t447 = x13i - x5i;
         const V x19i = io.im(19);
         const V t448 = t446 + x19i;
-        const V t449 = c0 * t446;
+        const V t449 = c[-16] * t446;
         const V t450 = x19i - t449;
-        const V t451 = c1 * t447;
+        const V t451 = c[-15] * t447;
         // real block of 3
         const V t452 = t442 + t448;
         const V t453 = t442 - t448;
         const V t454 = t452 + t436;
-        const V t455 = c0 * t452;
+        const V t455 = c[-16] * t452;
         const V t456 = t436 - t455;
-        const V t457 = c1 * t453;
+        const V t457 = c[-15] * t453;
         // real block of 9, multiplier 4
-        const V t458 = c2 * t445;
-        const V t459 = c3 * t444;
+        const V t458 = c[-14] * t445;
+        const V t459 = c[-13] * t444;
         const V t460 = t459 + t458;
-        const V t461 = c2 * t444;
-        const V t462 = c3 * t445;
+        const V t461 = c[-14] * t444;
+        const V t462 = c[-13] * t445;
         const V t463 = t462 - t461;
-        const V t464 = c4 * t451;
-        const V t465 = c5 * t450;
+        const V t464 = c[-12] * t451;
+        const V t465 = c[-11] * t450;
         const V t466 = t465 + t464;
-        const V t467 = c4 * t450;
-        const V t468 = c5 * t451;
+        const V t467 = c[-12] * t450;
+        const V t468 = c[-11] * t451;
         const V t469 = t467 - t468;
         // complex block of 3
         const V t470 = t466 - t460;
@@ -673,12 +677,12 @@ struct ComplexGraph<37> {
         const V t473 = t463 - t469;
         const V t474 = t470 + t438;
         const V t475 = t471 - t439;
-        const V t476 = c0 * t470;
+        const V t476 = c[-16] * t470;
         const V t477 = t438 - t476;
-        const V t478 = c0 * t471;
+        const V t478 = c[-16] * t471;
         const V t479 = t439 + t478;
-        const V t480 = c1 * t472;
-        const V t481 = c1 * t473;
+        const V t480 = c[-15] * t472;
+        const V t481 = c[-15] * t473;
         const V t482 = t477 + t481;
         const V t483 = t480 - t479;
         const V t484 = t477 - t481;
@@ -779,216 +783,216 @@ struct ComplexGraph<37> {
         io.re(0, t556);
         const V t557 = x0i + t490;
         io.im(0, t557);
-        const V t558 = c6 * t212;
+        const V t558 = c[28] * t212;
         const V t559 = x0r - t558;
-        const V t560 = c6 * t490;
+        const V t560 = c[28] * t490;
         const V t561 = x0i - t560;
-        const V t562 = c7 * t523;
-        const V t563 = c8 * t522;
+        const V t562 = c[-6] * t523;
+        const V t563 = c[-5] * t522;
         const V t564 = t563 - t562;
-        const V t565 = c7 * t522;
-        const V t566 = c8 * t523;
+        const V t565 = c[-6] * t522;
+        const V t566 = c[-5] * t523;
         const V t567 = t566 + t565;
-        const V t568 = c7 * t245;
-        const V t569 = c8 * t244;
+        const V t568 = c[-6] * t245;
+        const V t569 = c[-5] * t244;
         const V t570 = t568 - t569;
-        const V t571 = c7 * t244;
-        const V t572 = c8 * t245;
+        const V t571 = c[-6] * t244;
+        const V t572 = c[-5] * t245;
         const V t573 = t572 + t571;
-        const V t574 = c9 * t273;
-        const V t575 = c10 * t272;
+        const V t574 = c[-4] * t273;
+        const V t575 = c[-3] * t272;
         const V t576 = t575 + t574;
-        const V t577 = c9 * t272;
-        const V t578 = c10 * t273;
+        const V t577 = c[-4] * t272;
+        const V t578 = c[-3] * t273;
         const V t579 = t577 - t578;
-        const V t580 = c9 * t551;
-        const V t581 = c10 * t550;
+        const V t580 = c[-4] * t551;
+        const V t581 = c[-3] * t550;
         const V t582 = t581 + t580;
-        const V t583 = c9 * t550;
-        const V t584 = c10 * t551;
+        const V t583 = c[-4] * t550;
+        const V t584 = c[-3] * t551;
         const V t585 = t583 - t584;
-        const V t586 = c11 * t539;
-        const V t587 = c12 * t538;
+        const V t586 = c[-2] * t539;
+        const V t587 = c[-1] * t538;
         const V t588 = t587 - t586;
-        const V t589 = c11 * t538;
-        const V t590 = c12 * t539;
+        const V t589 = c[-2] * t538;
+        const V t590 = c[-1] * t539;
         const V t591 = t590 + t589;
-        const V t592 = c11 * t261;
-        const V t593 = c12 * t260;
+        const V t592 = c[-2] * t261;
+        const V t593 = c[-1] * t260;
         const V t594 = t592 - t593;
-        const V t595 = c11 * t260;
-        const V t596 = c12 * t261;
+        const V t595 = c[-2] * t260;
+        const V t596 = c[-1] * t261;
         const V t597 = t596 + t595;
-        const V t598 = c13 * t223;
-        const V t599 = c14 * t222;
+        const V t598 = c[0] * t223;
+        const V t599 = c[1] * t222;
         const V t600 = t599 - t598;
-        const V t601 = c13 * t222;
-        const V t602 = c14 * t223;
+        const V t601 = c[0] * t222;
+        const V t602 = c[1] * t223;
         const V t603 = t602 + t601;
-        const V t604 = c13 * t501;
-        const V t605 = c14 * t500;
+        const V t604 = c[0] * t501;
+        const V t605 = c[1] * t500;
         const V t606 = t605 - t604;
-        const V t607 = c13 * t500;
-        const V t608 = c14 * t501;
+        const V t607 = c[0] * t500;
+        const V t608 = c[1] * t501;
         const V t609 = t608 + t607;
-        const V t610 = c15 * t507;
-        const V t611 = c16 * t506;
+        const V t610 = c[2] * t507;
+        const V t611 = c[3] * t506;
         const V t612 = t610 - t611;
-        const V t613 = c15 * t506;
-        const V t614 = c16 * t507;
+        const V t613 = c[2] * t506;
+        const V t614 = c[3] * t507;
         const V t615 = t614 + t613;
-        const V t616 = c15 * t229;
-        const V t617 = c16 * t228;
+        const V t616 = c[2] * t229;
+        const V t617 = c[3] * t228;
         const V t618 = t617 - t616;
-        const V t619 = c15 * t228;
-        const V t620 = c16 * t229;
+        const V t619 = c[2] * t228;
+        const V t620 = c[3] * t229;
         const V t621 = t620 + t619;
-        const V t622 = c17 * t257;
-        const V t623 = c18 * t256;
+        const V t622 = c[4] * t257;
+        const V t623 = c[5] * t256;
         const V t624 = t622 - t623;
-        const V t625 = c17 * t256;
-        const V t626 = c18 * t257;
+        const V t625 = c[4] * t256;
+        const V t626 = c[5] * t257;
         const V t627 = t626 + t625;
-        const V t628 = c17 * t535;
-        const V t629 = c18 * t534;
+        const V t628 = c[4] * t535;
+        const V t629 = c[5] * t534;
         const V t630 = t628 - t629;
-        const V t631 = c17 * t534;
-        const V t632 = c18 * t535;
+        const V t631 = c[4] * t534;
+        const V t632 = c[5] * t535;
         const V t633 = t632 + t631;
-        const V t634 = c19 * t555;
-        const V t635 = c20 * t554;
+        const V t634 = c[6] * t555;
+        const V t635 = c[7] * t554;
         const V t636 = t635 + t634;
-        const V t637 = c19 * t554;
-        const V t638 = c20 * t555;
+        const V t637 = c[6] * t554;
+        const V t638 = c[7] * t555;
         const V t639 = t637 - t638;
-        const V t640 = c19 * t277;
-        const V t641 = c20 * t276;
+        const V t640 = c[6] * t277;
+        const V t641 = c[7] * t276;
         const V t642 = t641 + t640;
-        const V t643 = c19 * t276;
-        const V t644 = c20 * t277;
+        const V t643 = c[6] * t276;
+        const V t644 = c[7] * t277;
         const V t645 = t644 - t643;
-        const V t646 = c21 * t239;
-        const V t647 = c22 * t238;
+        const V t646 = c[8] * t239;
+        const V t647 = c[9] * t238;
         const V t648 = t647 - t646;
-        const V t649 = c21 * t238;
-        const V t650 = c22 * t239;
+        const V t649 = c[8] * t238;
+        const V t650 = c[9] * t239;
         const V t651 = t650 + t649;
-        const V t652 = c21 * t517;
-        const V t653 = c22 * t516;
+        const V t652 = c[8] * t517;
+        const V t653 = c[9] * t516;
         const V t654 = t653 - t652;
-        const V t655 = c21 * t516;
-        const V t656 = c22 * t517;
+        const V t655 = c[8] * t516;
+        const V t656 = c[9] * t517;
         const V t657 = t656 + t655;
-        const V t658 = c23 * t489;
-        const V t659 = c24 * t487;
+        const V t658 = c[10] * t489;
+        const V t659 = c[11] * t487;
         const V t660 = t659 - t658;
-        const V t661 = c23 * t487;
-        const V t662 = c24 * t489;
+        const V t661 = c[10] * t487;
+        const V t662 = c[11] * t489;
         const V t663 = t662 + t661;
-        const V t664 = c23 * t211;
-        const V t665 = c24 * t209;
+        const V t664 = c[10] * t211;
+        const V t665 = c[11] * t209;
         const V t666 = t664 - t665;
-        const V t667 = c23 * t209;
-        const V t668 = c24 * t211;
+        const V t667 = c[10] * t209;
+        const V t668 = c[11] * t211;
         const V t669 = t668 + t667;
-        const V t670 = c25 * t241;
-        const V t671 = c26 * t240;
+        const V t670 = c[12] * t241;
+        const V t671 = c[13] * t240;
         const V t672 = t670 - t671;
-        const V t673 = c25 * t240;
-        const V t674 = c26 * t241;
+        const V t673 = c[12] * t240;
+        const V t674 = c[13] * t241;
         const V t675 = t674 + t673;
-        const V t676 = c25 * t519;
-        const V t677 = c26 * t518;
+        const V t676 = c[12] * t519;
+        const V t677 = c[13] * t518;
         const V t678 = t676 - t677;
-        const V t679 = c25 * t518;
-        const V t680 = c26 * t519;
+        const V t679 = c[12] * t518;
+        const V t680 = c[13] * t519;
         const V t681 = t680 + t679;
-        const V t682 = c27 * t553;
-        const V t683 = c28 * t552;
+        const V t682 = c[14] * t553;
+        const V t683 = c[15] * t552;
         const V t684 = t683 + t682;
-        const V t685 = c27 * t552;
-        const V t686 = c28 * t553;
+        const V t685 = c[14] * t552;
+        const V t686 = c[15] * t553;
         const V t687 = t685 - t686;
-        const V t688 = c27 * t275;
-        const V t689 = c28 * t274;
+        const V t688 = c[14] * t275;
+        const V t689 = c[15] * t274;
         const V t690 = t689 + t688;
-        const V t691 = c27 * t274;
-        const V t692 = c28 * t275;
+        const V t691 = c[14] * t274;
+        const V t692 = c[15] * t275;
         const V t693 = t692 - t691;
-        const V t694 = c29 * t255;
-        const V t695 = c30 * t254;
+        const V t694 = c[16] * t255;
+        const V t695 = c[17] * t254;
         const V t696 = t695 - t694;
-        const V t697 = c29 * t254;
-        const V t698 = c30 * t255;
+        const V t697 = c[16] * t254;
+        const V t698 = c[17] * t255;
         const V t699 = t698 + t697;
-        const V t700 = c29 * t533;
-        const V t701 = c30 * t532;
+        const V t700 = c[16] * t533;
+        const V t701 = c[17] * t532;
         const V t702 = t701 - t700;
-        const V t703 = c29 * t532;
-        const V t704 = c30 * t533;
+        const V t703 = c[16] * t532;
+        const V t704 = c[17] * t533;
         const V t705 = t704 + t703;
-        const V t706 = c31 * t505;
-        const V t707 = c32 * t504;
+        const V t706 = c[18] * t505;
+        const V t707 = c[19] * t504;
         const V t708 = t707 + t706;
-        const V t709 = c31 * t504;
-        const V t710 = c32 * t505;
+        const V t709 = c[18] * t504;
+        const V t710 = c[19] * t505;
         const V t711 = t710 - t709;
-        const V t712 = c31 * t227;
-        const V t713 = c32 * t226;
+        const V t712 = c[18] * t227;
+        const V t713 = c[19] * t226;
         const V t714 = t713 + t712;
-        const V t715 = c31 * t226;
-        const V t716 = c32 * t227;
+        const V t715 = c[18] * t226;
+        const V t716 = c[19] * t227;
         const V t717 = t715 - t716;
-        const V t718 = c33 * t225;
-        const V t719 = c34 * t224;
+        const V t718 = c[20] * t225;
+        const V t719 = c[21] * t224;
         const V t720 = t719 + t718;
-        const V t721 = c33 * t224;
-        const V t722 = c34 * t225;
+        const V t721 = c[20] * t224;
+        const V t722 = c[21] * t225;
         const V t723 = t721 - t722;
-        const V t724 = c33 * t503;
-        const V t725 = c34 * t502;
+        const V t724 = c[20] * t503;
+        const V t725 = c[21] * t502;
         const V t726 = t725 + t724;
-        const V t727 = c33 * t502;
-        const V t728 = c34 * t503;
+        const V t727 = c[20] * t502;
+        const V t728 = c[21] * t503;
         const V t729 = t727 - t728;
-        const V t730 = c35 * t537;
-        const V t731 = c36 * t536;
+        const V t730 = c[22] * t537;
+        const V t731 = c[23] * t536;
         const V t732 = t731 + t730;
-        const V t733 = c35 * t536;
-        const V t734 = c36 * t537;
+        const V t733 = c[22] * t536;
+        const V t734 = c[23] * t537;
         const V t735 = t734 - t733;
-        const V t736 = c35 * t259;
-        const V t737 = c36 * t258;
+        const V t736 = c[22] * t259;
+        const V t737 = c[23] * t258;
         const V t738 = t737 + t736;
-        const V t739 = c35 * t258;
-        const V t740 = c36 * t259;
+        const V t739 = c[22] * t258;
+        const V t740 = c[23] * t259;
         const V t741 = t739 - t740;
-        const V t742 = c37 * t271;
-        const V t743 = c38 * t270;
+        const V t742 = c[24] * t271;
+        const V t743 = c[25] * t270;
         const V t744 = t743 - t742;
-        const V t745 = c37 * t270;
-        const V t746 = c38 * t271;
+        const V t745 = c[24] * t270;
+        const V t746 = c[25] * t271;
         const V t747 = t746 + t745;
-        const V t748 = c37 * t549;
-        const V t749 = c38 * t548;
+        const V t748 = c[24] * t549;
+        const V t749 = c[25] * t548;
         const V t750 = t749 - t748;
-        const V t751 = c37 * t548;
-        const V t752 = c38 * t549;
+        const V t751 = c[24] * t548;
+        const V t752 = c[25] * t549;
         const V t753 = t752 + t751;
-        const V t754 = c39 * t521;
-        const V t755 = c40 * t520;
+        const V t754 = c[26] * t521;
+        const V t755 = c[27] * t520;
         const V t756 = t755 - t754;
-        const V t757 = c39 * t520;
-        const V t758 = c40 * t521;
+        const V t757 = c[26] * t520;
+        const V t758 = c[27] * t521;
         const V t759 = t758 + t757;
-        const V t760 = c39 * t243;
-        const V t761 = c40 * t242;
+        const V t760 = c[26] * t243;
+        const V t761 = c[27] * t242;
         const V t762 = t760 - t761;
-        const V t763 = c39 * t242;
-        const V t764 = c40 * t243;
+        const V t763 = c[26] * t242;
+        const V t764 = c[27] * t243;
         const V t765 = t764 + t763;
-        const V t766 = c41 * t213;
-        const V t767 = c41 * t491;
+        const V t766 = c[29] * t213;
+        const V t767 = c[29] * t491;
         // spectrum block of 2
         const V t768 = t559 + t766;
         const V t769 = t559 - t766;
@@ -1080,9 +1084,9 @@ struct ComplexGraph<37> {
         const V t837 = t825 - t828;
         // spectrum block of 3
         const V t838 = t815 + t770;
-        const V t839 = c0 * t815;
+        const V t839 = c[-16] * t815;
         const V t840 = t770 - t839;
-        const V t841 = c1 * t814;
+        const V t841 = c[-15] * t814;
         const V t842 = t840 - t841;
         const V t843 = t840 + t841;
         // complex block of 3
@@ -1092,29 +1096,29 @@ struct ComplexGraph<37> {
         const V t847 = t831 - t799;
         const V t848 = t844 + t782;
         const V t849 = t845 + t783;
-        const V t850 = c0 * t844;
+        const V t850 = c[-16] * t844;
         const V t851 = t782 - t850;
-        const V t852 = c0 * t845;
+        const V t852 = c[-16] * t845;
         const V t853 = t783 - t852;
-        const V t854 = c1 * t846;
-        const V t855 = c1 * t847;
+        const V t854 = c[-15] * t846;
+        const V t855 = c[-15] * t847;
         const V t856 = t851 + t855;
         const V t857 = t853 - t854;
         const V t858 = t851 - t855;
         const V t859 = t853 + t854;
         // spectrum block of 9, multiplier 4
-        const V t860 = c2 * t856;
-        const V t861 = c3 * t857;
+        const V t860 = c[-14] * t856;
+        const V t861 = c[-13] * t857;
         const V t862 = t861 + t860;
-        const V t863 = c4 * t858;
-        const V t864 = c5 * t859;
+        const V t863 = c[-12] * t858;
+        const V t864 = c[-11] * t859;
         const V t865 = t864 + t863;
         // spectrum block of 3
         const V t866 = t849 + t838;
         io.re(1, t866);
-        const V t867 = c0 * t849;
+        const V t867 = c[-16] * t849;
         const V t868 = t838 - t867;
-        const V t869 = c1 * t848;
+        const V t869 = c[-15] * t848;
         const V t870 = t868 - t869;
         io.re(10, t870);
         const V t871 = t868 + t869;
@@ -1122,10 +1126,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t872 = t842 - t862;
         io.re(7, t872);
-        const V t873 = c0 * t862;
+        const V t873 = c[-16] * t862;
         const V t874 = t873 + t842;
-        const V t875 = c42 * t857;
-        const V t876 = c43 * t856;
+        const V t875 = c[-10] * t857;
+        const V t876 = c[-9] * t856;
         const V t877 = t875 - t876;
         const V t878 = t874 - t877;
         io.re(33, t878);
@@ -1134,10 +1138,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t880 = t865 + t843;
         io.re(12, t880);
-        const V t881 = c0 * t865;
+        const V t881 = c[-16] * t865;
         const V t882 = t843 - t881;
-        const V t883 = c44 * t858;
-        const V t884 = c45 * t859;
+        const V t883 = c[-8] * t858;
+        const V t884 = c[-7] * t859;
         const V t885 = t883 - t884;
         const V t886 = t882 - t885;
         io.re(9, t886);
@@ -1145,9 +1149,9 @@ struct ComplexGraph<37> {
         io.re(16, t887);
         // spectrum block of 3
         const V t888 = t819 + t772;
-        const V t889 = c0 * t819;
+        const V t889 = c[-16] * t819;
         const V t890 = t772 - t889;
-        const V t891 = c1 * t818;
+        const V t891 = c[-15] * t818;
         const V t892 = t890 - t891;
         const V t893 = t890 + t891;
         // complex block of 3
@@ -1157,29 +1161,29 @@ struct ComplexGraph<37> {
         const V t897 = t835 - t803;
         const V t898 = t894 + t786;
         const V t899 = t895 + t787;
-        const V t900 = c0 * t894;
+        const V t900 = c[-16] * t894;
         const V t901 = t786 - t900;
-        const V t902 = c0 * t895;
+        const V t902 = c[-16] * t895;
         const V t903 = t787 - t902;
-        const V t904 = c1 * t896;
-        const V t905 = c1 * t897;
+        const V t904 = c[-15] * t896;
+        const V t905 = c[-15] * t897;
         const V t906 = t901 + t905;
         const V t907 = t903 - t904;
         const V t908 = t901 - t905;
         const V t909 = t903 + t904;
         // spectrum block of 9, multiplier 4
-        const V t910 = c2 * t906;
-        const V t911 = c3 * t907;
+        const V t910 = c[-14] * t906;
+        const V t911 = c[-13] * t907;
         const V t912 = t911 + t910;
-        const V t913 = c4 * t908;
-        const V t914 = c5 * t909;
+        const V t913 = c[-12] * t908;
+        const V t914 = c[-11] * t909;
         const V t915 = t914 + t913;
         // spectrum block of 3
         const V t916 = t899 + t888;
         io.re(6, t916);
-        const V t917 = c0 * t899;
+        const V t917 = c[-16] * t899;
         const V t918 = t888 - t917;
-        const V t919 = c1 * t898;
+        const V t919 = c[-15] * t898;
         const V t920 = t918 - t919;
         io.re(23, t920);
         const V t921 = t918 + t919;
@@ -1187,10 +1191,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t922 = t892 - t912;
         io.re(5, t922);
-        const V t923 = c0 * t912;
+        const V t923 = c[-16] * t912;
         const V t924 = t923 + t892;
-        const V t925 = c42 * t907;
-        const V t926 = c43 * t906;
+        const V t925 = c[-10] * t907;
+        const V t926 = c[-9] * t906;
         const V t927 = t925 - t926;
         const V t928 = t924 - t927;
         io.re(13, t928);
@@ -1199,10 +1203,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t930 = t915 + t893;
         io.re(35, t930);
-        const V t931 = c0 * t915;
+        const V t931 = c[-16] * t915;
         const V t932 = t893 - t931;
-        const V t933 = c44 * t908;
-        const V t934 = c45 * t909;
+        const V t933 = c[-8] * t908;
+        const V t934 = c[-7] * t909;
         const V t935 = t933 - t934;
         const V t936 = t932 - t935;
         io.re(17, t936);
@@ -1210,9 +1214,9 @@ struct ComplexGraph<37> {
         io.re(22, t937);
         // spectrum block of 3
         const V t938 = t817 + t771;
-        const V t939 = c0 * t817;
+        const V t939 = c[-16] * t817;
         const V t940 = t771 - t939;
-        const V t941 = c1 * t816;
+        const V t941 = c[-15] * t816;
         const V t942 = t940 + t941;
         const V t943 = t940 - t941;
         // complex block of 3
@@ -1222,29 +1226,29 @@ struct ComplexGraph<37> {
         const V t947 = t833 - t801;
         const V t948 = t944 + t784;
         const V t949 = t945 + t785;
-        const V t950 = c0 * t944;
+        const V t950 = c[-16] * t944;
         const V t951 = t784 - t950;
-        const V t952 = c0 * t945;
+        const V t952 = c[-16] * t945;
         const V t953 = t785 - t952;
-        const V t954 = c1 * t946;
-        const V t955 = c1 * t947;
+        const V t954 = c[-15] * t946;
+        const V t955 = c[-15] * t947;
         const V t956 = t951 + t955;
         const V t957 = t953 - t954;
         const V t958 = t951 - t955;
         const V t959 = t953 + t954;
         // spectrum block of 9, multiplier 4
-        const V t960 = c2 * t956;
-        const V t961 = c3 * t957;
+        const V t960 = c[-14] * t956;
+        const V t961 = c[-13] * t957;
         const V t962 = t961 + t960;
-        const V t963 = c4 * t958;
-        const V t964 = c5 * t959;
+        const V t963 = c[-12] * t958;
+        const V t964 = c[-11] * t959;
         const V t965 = t964 + t963;
         // spectrum block of 3
         const V t966 = t949 + t938;
         io.re(36, t966);
-        const V t967 = c0 * t949;
+        const V t967 = c[-16] * t949;
         const V t968 = t938 - t967;
-        const V t969 = c1 * t948;
+        const V t969 = c[-15] * t948;
         const V t970 = t968 - t969;
         io.re(27, t970);
         const V t971 = t968 + t969;
@@ -1252,10 +1256,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t972 = t942 - t962;
         io.re(30, t972);
-        const V t973 = c0 * t962;
+        const V t973 = c[-16] * t962;
         const V t974 = t973 + t942;
-        const V t975 = c42 * t957;
-        const V t976 = c43 * t956;
+        const V t975 = c[-10] * t957;
+        const V t976 = c[-9] * t956;
         const V t977 = t975 - t976;
         const V t978 = t974 - t977;
         io.re(4, t978);
@@ -1264,10 +1268,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t980 = t965 + t943;
         io.re(25, t980);
-        const V t981 = c0 * t965;
+        const V t981 = c[-16] * t965;
         const V t982 = t943 - t981;
-        const V t983 = c44 * t958;
-        const V t984 = c45 * t959;
+        const V t983 = c[-8] * t958;
+        const V t984 = c[-7] * t959;
         const V t985 = t983 - t984;
         const V t986 = t982 - t985;
         io.re(28, t986);
@@ -1275,9 +1279,9 @@ struct ComplexGraph<37> {
         io.re(21, t987);
         // spectrum block of 3
         const V t988 = t821 + t773;
-        const V t989 = c0 * t821;
+        const V t989 = c[-16] * t821;
         const V t990 = t773 - t989;
-        const V t991 = c1 * t820;
+        const V t991 = c[-15] * t820;
         const V t992 = t990 - t991;
         const V t993 = t990 + t991;
         // complex block of 3
@@ -1287,29 +1291,29 @@ struct ComplexGraph<37> {
         const V t997 = t837 - t805;
         const V t998 = t994 + t788;
         const V t999 = t995 + t789;
-        const V t1000 = c0 * t994;
+        const V t1000 = c[-16] * t994;
         const V t1001 = t788 - t1000;
-        const V t1002 = c0 * t995;
+        const V t1002 = c[-16] * t995;
         const V t1003 = t789 - t1002;
-        const V t1004 = c1 * t996;
-        const V t1005 = c1 * t997;
+        const V t1004 = c[-15] * t996;
+        const V t1005 = c[-15] * t997;
         const V t1006 = t1001 + t1005;
         const V t1007 = t1003 - t1004;
         const V t1008 = t1001 - t1005;
         const V t1009 = t1003 + t1004;
         // spectrum block of 9, multiplier 4
-        const V t1010 = c2 * t1006;
-        const V t1011 = c3 * t1007;
+        const V t1010 = c[-14] * t1006;
+        const V t1011 = c[-13] * t1007;
         const V t1012 = t1011 + t1010;
-        const V t1013 = c4 * t1008;
-        const V t1014 = c5 * t1009;
+        const V t1013 = c[-12] * t1008;
+        const V t1014 = c[-11] * t1009;
         const V t1015 = t1014 + t1013;
         // spectrum block of 3
         const V t1016 = t999 + t988;
         io.re(31, t1016);
-        const V t1017 = c0 * t999;
+        const V t1017 = c[-16] * t999;
         const V t1018 = t988 - t1017;
-        const V t1019 = c1 * t998;
+        const V t1019 = c[-15] * t998;
         const V t1020 = t1018 - t1019;
         io.re(14, t1020);
         const V t1021 = t1018 + t1019;
@@ -1317,10 +1321,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1022 = t992 - t1012;
         io.re(32, t1022);
-        const V t1023 = c0 * t1012;
+        const V t1023 = c[-16] * t1012;
         const V t1024 = t1023 + t992;
-        const V t1025 = c42 * t1007;
-        const V t1026 = c43 * t1006;
+        const V t1025 = c[-10] * t1007;
+        const V t1026 = c[-9] * t1006;
         const V t1027 = t1025 - t1026;
         const V t1028 = t1024 - t1027;
         io.re(24, t1028);
@@ -1329,10 +1333,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1030 = t1015 + t993;
         io.re(2, t1030);
-        const V t1031 = c0 * t1015;
+        const V t1031 = c[-16] * t1015;
         const V t1032 = t993 - t1031;
-        const V t1033 = c44 * t1008;
-        const V t1034 = c45 * t1009;
+        const V t1033 = c[-8] * t1008;
+        const V t1034 = c[-7] * t1009;
         const V t1035 = t1033 - t1034;
         const V t1036 = t1032 - t1035;
         io.re(20, t1036);
@@ -1429,9 +1433,9 @@ struct ComplexGraph<37> {
         const V t1107 = t1095 - t1098;
         // spectrum block of 3
         const V t1108 = t1085 + t1040;
-        const V t1109 = c0 * t1085;
+        const V t1109 = c[-16] * t1085;
         const V t1110 = t1040 - t1109;
-        const V t1111 = c1 * t1084;
+        const V t1111 = c[-15] * t1084;
         const V t1112 = t1110 + t1111;
         const V t1113 = t1110 - t1111;
         // complex block of 3
@@ -1441,29 +1445,29 @@ struct ComplexGraph<37> {
         const V t1117 = t1101 - t1069;
         const V t1118 = t1114 + t1052;
         const V t1119 = t1115 + t1053;
-        const V t1120 = c0 * t1114;
+        const V t1120 = c[-16] * t1114;
         const V t1121 = t1052 - t1120;
-        const V t1122 = c0 * t1115;
+        const V t1122 = c[-16] * t1115;
         const V t1123 = t1053 - t1122;
-        const V t1124 = c1 * t1116;
-        const V t1125 = c1 * t1117;
+        const V t1124 = c[-15] * t1116;
+        const V t1125 = c[-15] * t1117;
         const V t1126 = t1121 + t1125;
         const V t1127 = t1123 - t1124;
         const V t1128 = t1121 - t1125;
         const V t1129 = t1123 + t1124;
         // spectrum block of 9, multiplier 4
-        const V t1130 = c2 * t1126;
-        const V t1131 = c3 * t1127;
+        const V t1130 = c[-14] * t1126;
+        const V t1131 = c[-13] * t1127;
         const V t1132 = t1131 + t1130;
-        const V t1133 = c4 * t1128;
-        const V t1134 = c5 * t1129;
+        const V t1133 = c[-12] * t1128;
+        const V t1134 = c[-11] * t1129;
         const V t1135 = t1134 + t1133;
         // spectrum block of 3
         const V t1136 = t1119 + t1108;
         io.im(1, t1136);
-        const V t1137 = c0 * t1119;
+        const V t1137 = c[-16] * t1119;
         const V t1138 = t1108 - t1137;
-        const V t1139 = c1 * t1118;
+        const V t1139 = c[-15] * t1118;
         const V t1140 = t1138 - t1139;
         io.im(10, t1140);
         const V t1141 = t1138 + t1139;
@@ -1471,10 +1475,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1142 = t1112 - t1132;
         io.im(7, t1142);
-        const V t1143 = c0 * t1132;
+        const V t1143 = c[-16] * t1132;
         const V t1144 = t1143 + t1112;
-        const V t1145 = c42 * t1127;
-        const V t1146 = c43 * t1126;
+        const V t1145 = c[-10] * t1127;
+        const V t1146 = c[-9] * t1126;
         const V t1147 = t1145 - t1146;
         const V t1148 = t1144 - t1147;
         io.im(33, t1148);
@@ -1483,10 +1487,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1150 = t1135 + t1113;
         io.im(12, t1150);
-        const V t1151 = c0 * t1135;
+        const V t1151 = c[-16] * t1135;
         const V t1152 = t1113 - t1151;
-        const V t1153 = c44 * t1128;
-        const V t1154 = c45 * t1129;
+        const V t1153 = c[-8] * t1128;
+        const V t1154 = c[-7] * t1129;
         const V t1155 = t1153 - t1154;
         const V t1156 = t1152 - t1155;
         io.im(9, t1156);
@@ -1494,9 +1498,9 @@ struct ComplexGraph<37> {
         io.im(16, t1157);
         // spectrum block of 3
         const V t1158 = t1089 + t1042;
-        const V t1159 = c0 * t1089;
+        const V t1159 = c[-16] * t1089;
         const V t1160 = t1042 - t1159;
-        const V t1161 = c1 * t1088;
+        const V t1161 = c[-15] * t1088;
         const V t1162 = t1160 - t1161;
         const V t1163 = t1160 + t1161;
         // complex block of 3
@@ -1506,29 +1510,29 @@ struct ComplexGraph<37> {
         const V t1167 = t1105 - t1073;
         const V t1168 = t1164 + t1056;
         const V t1169 = t1165 + t1057;
-        const V t1170 = c0 * t1164;
+        const V t1170 = c[-16] * t1164;
         const V t1171 = t1056 - t1170;
-        const V t1172 = c0 * t1165;
+        const V t1172 = c[-16] * t1165;
         const V t1173 = t1057 - t1172;
-        const V t1174 = c1 * t1166;
-        const V t1175 = c1 * t1167;
+        const V t1174 = c[-15] * t1166;
+        const V t1175 = c[-15] * t1167;
         const V t1176 = t1171 + t1175;
         const V t1177 = t1173 - t1174;
         const V t1178 = t1171 - t1175;
         const V t1179 = t1173 + t1174;
         // spectrum block of 9, multiplier 4
-        const V t1180 = c2 * t1176;
-        const V t1181 = c3 * t1177;
+        const V t1180 = c[-14] * t1176;
+        const V t1181 = c[-13] * t1177;
         const V t1182 = t1181 + t1180;
-        const V t1183 = c4 * t1178;
-        const V t1184 = c5 * t1179;
+        const V t1183 = c[-12] * t1178;
+        const V t1184 = c[-11] * t1179;
         const V t1185 = t1184 + t1183;
         // spectrum block of 3
         const V t1186 = t1169 + t1158;
         io.im(6, t1186);
-        const V t1187 = c0 * t1169;
+        const V t1187 = c[-16] * t1169;
         const V t1188 = t1158 - t1187;
-        const V t1189 = c1 * t1168;
+        const V t1189 = c[-15] * t1168;
         const V t1190 = t1188 - t1189;
         io.im(23, t1190);
         const V t1191 = t1188 + t1189;
@@ -1536,10 +1540,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1192 = t1162 - t1182;
         io.im(5, t1192);
-        const V t1193 = c0 * t1182;
+        const V t1193 = c[-16] * t1182;
         const V t1194 = t1193 + t1162;
-        const V t1195 = c42 * t1177;
-        const V t1196 = c43 * t1176;
+        const V t1195 = c[-10] * t1177;
+        const V t1196 = c[-9] * t1176;
         const V t1197 = t1195 - t1196;
         const V t1198 = t1194 - t1197;
         io.im(13, t1198);
@@ -1548,10 +1552,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1200 = t1185 + t1163;
         io.im(35, t1200);
-        const V t1201 = c0 * t1185;
+        const V t1201 = c[-16] * t1185;
         const V t1202 = t1163 - t1201;
-        const V t1203 = c44 * t1178;
-        const V t1204 = c45 * t1179;
+        const V t1203 = c[-8] * t1178;
+        const V t1204 = c[-7] * t1179;
         const V t1205 = t1203 - t1204;
         const V t1206 = t1202 - t1205;
         io.im(17, t1206);
@@ -1559,9 +1563,9 @@ struct ComplexGraph<37> {
         io.im(22, t1207);
         // spectrum block of 3
         const V t1208 = t1087 + t1041;
-        const V t1209 = c0 * t1087;
+        const V t1209 = c[-16] * t1087;
         const V t1210 = t1041 - t1209;
-        const V t1211 = c1 * t1086;
+        const V t1211 = c[-15] * t1086;
         const V t1212 = t1210 - t1211;
         const V t1213 = t1210 + t1211;
         // complex block of 3
@@ -1571,29 +1575,29 @@ struct ComplexGraph<37> {
         const V t1217 = t1103 - t1071;
         const V t1218 = t1214 + t1054;
         const V t1219 = t1215 + t1055;
-        const V t1220 = c0 * t1214;
+        const V t1220 = c[-16] * t1214;
         const V t1221 = t1054 - t1220;
-        const V t1222 = c0 * t1215;
+        const V t1222 = c[-16] * t1215;
         const V t1223 = t1055 - t1222;
-        const V t1224 = c1 * t1216;
-        const V t1225 = c1 * t1217;
+        const V t1224 = c[-15] * t1216;
+        const V t1225 = c[-15] * t1217;
         const V t1226 = t1221 + t1225;
         const V t1227 = t1223 - t1224;
         const V t1228 = t1221 - t1225;
         const V t1229 = t1223 + t1224;
         // spectrum block of 9, multiplier 4
-        const V t1230 = c2 * t1226;
-        const V t1231 = c3 * t1227;
+        const V t1230 = c[-14] * t1226;
+        const V t1231 = c[-13] * t1227;
         const V t1232 = t1231 + t1230;
-        const V t1233 = c4 * t1228;
-        const V t1234 = c5 * t1229;
+        const V t1233 = c[-12] * t1228;
+        const V t1234 = c[-11] * t1229;
         const V t1235 = t1234 + t1233;
         // spectrum block of 3
         const V t1236 = t1219 + t1208;
         io.im(36, t1236);
-        const V t1237 = c0 * t1219;
+        const V t1237 = c[-16] * t1219;
         const V t1238 = t1208 - t1237;
-        const V t1239 = c1 * t1218;
+        const V t1239 = c[-15] * t1218;
         const V t1240 = t1238 - t1239;
         io.im(27, t1240);
         const V t1241 = t1238 + t1239;
@@ -1601,10 +1605,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1242 = t1212 - t1232;
         io.im(30, t1242);
-        const V t1243 = c0 * t1232;
+        const V t1243 = c[-16] * t1232;
         const V t1244 = t1243 + t1212;
-        const V t1245 = c42 * t1227;
-        const V t1246 = c43 * t1226;
+        const V t1245 = c[-10] * t1227;
+        const V t1246 = c[-9] * t1226;
         const V t1247 = t1245 - t1246;
         const V t1248 = t1244 - t1247;
         io.im(4, t1248);
@@ -1613,10 +1617,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1250 = t1235 + t1213;
         io.im(25, t1250);
-        const V t1251 = c0 * t1235;
+        const V t1251 = c[-16] * t1235;
         const V t1252 = t1213 - t1251;
-        const V t1253 = c44 * t1228;
-        const V t1254 = c45 * t1229;
+        const V t1253 = c[-8] * t1228;
+        const V t1254 = c[-7] * t1229;
         const V t1255 = t1253 - t1254;
         const V t1256 = t1252 - t1255;
         io.im(28, t1256);
@@ -1624,9 +1628,9 @@ struct ComplexGraph<37> {
         io.im(21, t1257);
         // spectrum block of 3
         const V t1258 = t1091 + t1043;
-        const V t1259 = c0 * t1091;
+        const V t1259 = c[-16] * t1091;
         const V t1260 = t1043 - t1259;
-        const V t1261 = c1 * t1090;
+        const V t1261 = c[-15] * t1090;
         const V t1262 = t1260 - t1261;
         const V t1263 = t1260 + t1261;
         // complex block of 3
@@ -1636,29 +1640,29 @@ struct ComplexGraph<37> {
         const V t1267 = t1107 - t1075;
         const V t1268 = t1264 + t1058;
         const V t1269 = t1265 + t1059;
-        const V t1270 = c0 * t1264;
+        const V t1270 = c[-16] * t1264;
         const V t1271 = t1058 - t1270;
-        const V t1272 = c0 * t1265;
+        const V t1272 = c[-16] * t1265;
         const V t1273 = t1059 - t1272;
-        const V t1274 = c1 * t1266;
-        const V t1275 = c1 * t1267;
+        const V t1274 = c[-15] * t1266;
+        const V t1275 = c[-15] * t1267;
         const V t1276 = t1271 + t1275;
         const V t1277 = t1273 - t1274;
         const V t1278 = t1271 - t1275;
         const V t1279 = t1273 + t1274;
         // spectrum block of 9, multiplier 4
-        const V t1280 = c2 * t1276;
-        const V t1281 = c3 * t1277;
+        const V t1280 = c[-14] * t1276;
+        const V t1281 = c[-13] * t1277;
         const V t1282 = t1281 + t1280;
-        const V t1283 = c4 * t1278;
-        const V t1284 = c5 * t1279;
+        const V t1283 = c[-12] * t1278;
+        const V t1284 = c[-11] * t1279;
         const V t1285 = t1284 + t1283;
         // spectrum block of 3
         const V t1286 = t1269 + t1258;
         io.im(31, t1286);
-        const V t1287 = c0 * t1269;
+        const V t1287 = c[-16] * t1269;
         const V t1288 = t1258 - t1287;
-        const V t1289 = c1 * t1268;
+        const V t1289 = c[-15] * t1268;
         const V t1290 = t1288 - t1289;
         io.im(14, t1290);
         const V t1291 = t1288 + t1289;
@@ -1666,10 +1670,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1292 = t1262 - t1282;
         io.im(32, t1292);
-        const V t1293 = c0 * t1282;
+        const V t1293 = c[-16] * t1282;
         const V t1294 = t1293 + t1262;
-        const V t1295 = c42 * t1277;
-        const V t1296 = c43 * t1276;
+        const V t1295 = c[-10] * t1277;
+        const V t1296 = c[-9] * t1276;
         const V t1297 = t1295 - t1296;
         const V t1298 = t1294 - t1297;
         io.im(24, t1298);
@@ -1678,10 +1682,10 @@ struct ComplexGraph<37> {
         // spectrum block of 3
         const V t1300 = t1285 + t1263;
         io.im(2, t1300);
-        const V t1301 = c0 * t1285;
+        const V t1301 = c[-16] * t1285;
         const V t1302 = t1263 - t1301;
-        const V t1303 = c44 * t1278;
-        const V t1304 = c45 * t1279;
+        const V t1303 = c[-8] * t1278;
+        const V t1304 = c[-7] * t1279;
         const V t1305 = t1303 - t1304;
         const V t1306 = t1302 - t1305;
         io.im(20, t1306);

@@ -2,34 +2,38 @@
 // Complex DFT of 52 points, prime-factor, order 4, 13.
 // 456 additions, 456 subtractions, 288 multiplications (392 with `scale`); 18 constants; 108 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct ComplexGraph<52> {
     static constexpr double inverseRoot = 0.1386750490563073;  // 1/sqrt(52), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c1 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c2 = 0.08333333333333333;  // 1/12
-    static constexpr double c3 = 0.015496188988565054;  // -P[1] of 13
-    static constexpr double c4 = 0.6007253775544544;  // Q[1] of 13
-    static constexpr double c5 = 0.6008758031820526;  // -Q[2] of 13
-    static constexpr double c6 = 0.007705858903092426;  // P[2] of 13
-    static constexpr double c7 = 0.5751407294740031;  // -P[3] of 13
-    static constexpr double c8 = 0.1741386011521359;  // -Q[3] of 13
-    static constexpr double c9 = 0.15924941320823024;  // -Q[4] of 13
-    static constexpr double c10 = 0.5794400189009605;  // -P[4] of 13
-    static constexpr double c11 = 0.3203288761978803;  // -P[5] of 13
-    static constexpr double c12 = 0.5084294662830964;  // Q[5] of 13
-    static constexpr double c13 = 0.3004626062886658;  // beta of 13
-    static constexpr double c14 = 0.5018097763375671;  // sin 2 pi 1/3 times -P[4] of 13
-    static constexpr double c15 = 0.1379140373760925;  // sin 2 pi 1/3 times -Q[4] of 13
-    static constexpr double c16 = 0.00667346956805653;  // sin 2 pi 1/3 times P[2] of 13
-    static constexpr double c17 = 0.520373710075036;  // sin 2 pi 1/3 times -Q[2] of 13
+    static constexpr double constants[] = {
+        0.5,  // c[-9]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-8]: sin 2 pi 1/3
+        0.015496188988565054,  // c[-7]: -P[1] of 13
+        0.6007253775544544,  // c[-6]: Q[1] of 13
+        0.5751407294740031,  // c[-5]: -P[3] of 13
+        0.1741386011521359,  // c[-4]: -Q[3] of 13
+        0.3203288761978803,  // c[-3]: -P[5] of 13
+        0.5084294662830964,  // c[-2]: Q[5] of 13
+        0.08333333333333333,  // c[-1]: 1/12
+        0.6008758031820526,  // c[0]: -Q[2] of 13
+        0.007705858903092426,  // c[1]: P[2] of 13
+        0.15924941320823024,  // c[2]: -Q[4] of 13
+        0.5794400189009605,  // c[3]: -P[4] of 13
+        0.3004626062886658,  // c[4]: beta of 13
+        0.5018097763375671,  // c[5]: sin 2 pi 1/3 times -P[4] of 13
+        0.1379140373760925,  // c[6]: sin 2 pi 1/3 times -Q[4] of 13
+        0.00667346956805653,  // c[7]: sin 2 pi 1/3 times P[2] of 13
+        0.520373710075036,  // c[8]: sin 2 pi 1/3 times -Q[2] of 13
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 9);
         // complex block of 2
         const V x0r = io.re(0);
         const V x26r = io.re(26);
@@ -425,9 +429,9 @@ struct ComplexGraph<52> {
         const V t226 = t218 + t224;
         const V t227 = t218 - t224;
         const V t228 = t226 + t212;
-        const V t229 = c0 * t226;
+        const V t229 = c[-9] * t226;
         const V t230 = t212 - t229;
-        const V t231 = c1 * t227;
+        const V t231 = c[-8] * t227;
         // complex block of 3
         const V t232 = t215 + t221;
         const V t233 = t217 + t223;
@@ -435,12 +439,12 @@ struct ComplexGraph<52> {
         const V t235 = t217 - t223;
         const V t236 = t232 + t209;
         const V t237 = t233 + t211;
-        const V t238 = c0 * t232;
+        const V t238 = c[-9] * t232;
         const V t239 = t209 - t238;
-        const V t240 = c0 * t233;
+        const V t240 = c[-9] * t233;
         const V t241 = t211 - t240;
-        const V t242 = c1 * t234;
-        const V t243 = c1 * t235;
+        const V t242 = c[-8] * t234;
+        const V t243 = c[-8] * t235;
         const V t244 = t239 + t243;
         const V t245 = t241 - t242;
         const V t246 = t239 - t243;
@@ -449,9 +453,9 @@ struct ComplexGraph<52> {
         const V t248 = t219 + t225;
         const V t249 = t219 - t225;
         const V t250 = t248 + t213;
-        const V t251 = c0 * t248;
+        const V t251 = c[-9] * t248;
         const V t252 = t213 - t251;
-        const V t253 = c1 * t249;
+        const V t253 = c[-8] * t249;
         // real block of 2
         const V t254 = t25 + t201;
         const V t255 = t25 - t201;
@@ -483,9 +487,9 @@ struct ComplexGraph<52> {
         const V t272 = t264 + t270;
         const V t273 = t264 - t270;
         const V t274 = t272 + t258;
-        const V t275 = c0 * t272;
+        const V t275 = c[-9] * t272;
         const V t276 = t258 - t275;
-        const V t277 = c1 * t273;
+        const V t277 = c[-8] * t273;
         // complex block of 3
         const V t278 = t261 + t267;
         const V t279 = t263 + t269;
@@ -493,12 +497,12 @@ struct ComplexGraph<52> {
         const V t281 = t263 - t269;
         const V t282 = t278 + t255;
         const V t283 = t279 + t257;
-        const V t284 = c0 * t278;
+        const V t284 = c[-9] * t278;
         const V t285 = t255 - t284;
-        const V t286 = c0 * t279;
+        const V t286 = c[-9] * t279;
         const V t287 = t257 - t286;
-        const V t288 = c1 * t280;
-        const V t289 = c1 * t281;
+        const V t288 = c[-8] * t280;
+        const V t289 = c[-8] * t281;
         const V t290 = t285 + t289;
         const V t291 = t287 - t288;
         const V t292 = t285 - t289;
@@ -507,74 +511,74 @@ struct ComplexGraph<52> {
         const V t294 = t265 + t271;
         const V t295 = t265 - t271;
         const V t296 = t294 + t259;
-        const V t297 = c0 * t294;
+        const V t297 = c[-9] * t294;
         const V t298 = t259 - t297;
-        const V t299 = c1 * t295;
+        const V t299 = c[-8] * t295;
         // complex block of 13, multiplier 4
         const V t300 = t8 + t228;
         io.re(0, t300);
         const V t301 = t9 + t274;
         io.im(0, t301);
-        const V t302 = c2 * t228;
+        const V t302 = c[-1] * t228;
         const V t303 = t8 - t302;
-        const V t304 = c2 * t274;
+        const V t304 = c[-1] * t274;
         const V t305 = t9 - t304;
-        const V t306 = c3 * t293;
-        const V t307 = c4 * t292;
+        const V t306 = c[-7] * t293;
+        const V t307 = c[-6] * t292;
         const V t308 = t307 - t306;
-        const V t309 = c3 * t292;
-        const V t310 = c4 * t293;
+        const V t309 = c[-7] * t292;
+        const V t310 = c[-6] * t293;
         const V t311 = t310 + t309;
-        const V t312 = c3 * t247;
-        const V t313 = c4 * t246;
+        const V t312 = c[-7] * t247;
+        const V t313 = c[-6] * t246;
         const V t314 = t312 - t313;
-        const V t315 = c3 * t246;
-        const V t316 = c4 * t247;
+        const V t315 = c[-7] * t246;
+        const V t316 = c[-6] * t247;
         const V t317 = t316 + t315;
-        const V t318 = c5 * t253;
-        const V t319 = c6 * t252;
+        const V t318 = c[0] * t253;
+        const V t319 = c[1] * t252;
         const V t320 = t319 + t318;
-        const V t321 = c5 * t299;
-        const V t322 = c6 * t298;
+        const V t321 = c[0] * t299;
+        const V t322 = c[1] * t298;
         const V t323 = t322 + t321;
-        const V t324 = c7 * t283;
-        const V t325 = c8 * t282;
+        const V t324 = c[-5] * t283;
+        const V t325 = c[-4] * t282;
         const V t326 = t324 - t325;
-        const V t327 = c7 * t282;
-        const V t328 = c8 * t283;
+        const V t327 = c[-5] * t282;
+        const V t328 = c[-4] * t283;
         const V t329 = t328 + t327;
-        const V t330 = c7 * t237;
-        const V t331 = c8 * t236;
+        const V t330 = c[-5] * t237;
+        const V t331 = c[-4] * t236;
         const V t332 = t331 - t330;
-        const V t333 = c7 * t236;
-        const V t334 = c8 * t237;
+        const V t333 = c[-5] * t236;
+        const V t334 = c[-4] * t237;
         const V t335 = t334 + t333;
-        const V t336 = c9 * t231;
-        const V t337 = c10 * t230;
+        const V t336 = c[2] * t231;
+        const V t337 = c[3] * t230;
         const V t338 = t337 + t336;
-        const V t339 = c9 * t277;
-        const V t340 = c10 * t276;
+        const V t339 = c[2] * t277;
+        const V t340 = c[3] * t276;
         const V t341 = t340 + t339;
-        const V t342 = c11 * t291;
-        const V t343 = c12 * t290;
+        const V t342 = c[-3] * t291;
+        const V t343 = c[-2] * t290;
         const V t344 = t343 - t342;
-        const V t345 = c11 * t290;
-        const V t346 = c12 * t291;
+        const V t345 = c[-3] * t290;
+        const V t346 = c[-2] * t291;
         const V t347 = t346 + t345;
-        const V t348 = c11 * t245;
-        const V t349 = c12 * t244;
+        const V t348 = c[-3] * t245;
+        const V t349 = c[-2] * t244;
         const V t350 = t348 - t349;
-        const V t351 = c11 * t244;
-        const V t352 = c12 * t245;
+        const V t351 = c[-3] * t244;
+        const V t352 = c[-2] * t245;
         const V t353 = t352 + t351;
-        const V t354 = c13 * t250;
-        const V t355 = c13 * t296;
+        const V t354 = c[4] * t250;
+        const V t355 = c[4] * t296;
         // spectrum block of 3
         const V t356 = t303 - t338;
-        const V t357 = c0 * t338;
+        const V t357 = c[-9] * t338;
         const V t358 = t357 + t303;
-        const V t359 = c14 * t231;
-        const V t360 = c15 * t230;
+        const V t359 = c[5] * t231;
+        const V t360 = c[6] * t230;
         const V t361 = t359 - t360;
         const V t362 = t358 - t361;
         const V t363 = t358 + t361;
@@ -585,22 +589,22 @@ struct ComplexGraph<52> {
         const V t367 = t344 - t308;
         const V t368 = t364 - t329;
         const V t369 = t365 + t326;
-        const V t370 = c0 * t364;
+        const V t370 = c[-9] * t364;
         const V t371 = t329 + t370;
-        const V t372 = c0 * t365;
+        const V t372 = c[-9] * t365;
         const V t373 = t326 - t372;
-        const V t374 = c1 * t366;
-        const V t375 = c1 * t367;
+        const V t374 = c[-8] * t366;
+        const V t375 = c[-8] * t367;
         const V t376 = t375 - t371;
         const V t377 = t373 - t374;
         const V t378 = t371 + t375;
         const V t379 = t373 + t374;
         // spectrum block of 3
         const V t380 = t320 + t354;
-        const V t381 = c0 * t320;
+        const V t381 = c[-9] * t320;
         const V t382 = t354 - t381;
-        const V t383 = c16 * t253;
-        const V t384 = c17 * t252;
+        const V t383 = c[7] * t253;
+        const V t384 = c[8] * t252;
         const V t385 = t383 - t384;
         const V t386 = t382 + t385;
         const V t387 = t382 - t385;
@@ -645,10 +649,10 @@ struct ComplexGraph<52> {
         io.re(44, t405);
         // spectrum block of 3
         const V t406 = t305 - t341;
-        const V t407 = c0 * t341;
+        const V t407 = c[-9] * t341;
         const V t408 = t407 + t305;
-        const V t409 = c14 * t277;
-        const V t410 = c15 * t276;
+        const V t409 = c[5] * t277;
+        const V t410 = c[6] * t276;
         const V t411 = t409 - t410;
         const V t412 = t408 - t411;
         const V t413 = t408 + t411;
@@ -659,22 +663,22 @@ struct ComplexGraph<52> {
         const V t417 = t350 - t314;
         const V t418 = t335 - t414;
         const V t419 = t415 + t332;
-        const V t420 = c0 * t414;
+        const V t420 = c[-9] * t414;
         const V t421 = t420 + t335;
-        const V t422 = c0 * t415;
+        const V t422 = c[-9] * t415;
         const V t423 = t332 - t422;
-        const V t424 = c1 * t416;
-        const V t425 = c1 * t417;
+        const V t424 = c[-8] * t416;
+        const V t425 = c[-8] * t417;
         const V t426 = t421 + t425;
         const V t427 = t423 - t424;
         const V t428 = t421 - t425;
         const V t429 = t423 + t424;
         // spectrum block of 3
         const V t430 = t323 + t355;
-        const V t431 = c0 * t323;
+        const V t431 = c[-9] * t323;
         const V t432 = t355 - t431;
-        const V t433 = c16 * t299;
-        const V t434 = c17 * t298;
+        const V t433 = c[7] * t299;
+        const V t434 = c[8] * t298;
         const V t435 = t433 - t434;
         const V t436 = t432 + t435;
         const V t437 = t432 - t435;
@@ -748,9 +752,9 @@ struct ComplexGraph<52> {
         const V t474 = t466 + t472;
         const V t475 = t466 - t472;
         const V t476 = t474 + t460;
-        const V t477 = c0 * t474;
+        const V t477 = c[-9] * t474;
         const V t478 = t460 - t477;
-        const V t479 = c1 * t475;
+        const V t479 = c[-8] * t475;
         // complex block of 3
         const V t480 = t463 + t469;
         const V t481 = t465 + t471;
@@ -758,12 +762,12 @@ struct ComplexGraph<52> {
         const V t483 = t465 - t471;
         const V t484 = t480 + t457;
         const V t485 = t481 + t459;
-        const V t486 = c0 * t480;
+        const V t486 = c[-9] * t480;
         const V t487 = t457 - t486;
-        const V t488 = c0 * t481;
+        const V t488 = c[-9] * t481;
         const V t489 = t459 - t488;
-        const V t490 = c1 * t482;
-        const V t491 = c1 * t483;
+        const V t490 = c[-8] * t482;
+        const V t491 = c[-8] * t483;
         const V t492 = t487 + t491;
         const V t493 = t489 - t490;
         const V t494 = t487 - t491;
@@ -772,9 +776,9 @@ struct ComplexGraph<52> {
         const V t496 = t467 + t473;
         const V t497 = t467 - t473;
         const V t498 = t496 + t461;
-        const V t499 = c0 * t496;
+        const V t499 = c[-9] * t496;
         const V t500 = t461 - t499;
-        const V t501 = c1 * t497;
+        const V t501 = c[-8] * t497;
         // real block of 2
         const V t502 = t29 + t205;
         const V t503 = t29 - t205;
@@ -806,9 +810,9 @@ struct ComplexGraph<52> {
         const V t520 = t512 + t518;
         const V t521 = t512 - t518;
         const V t522 = t520 + t506;
-        const V t523 = c0 * t520;
+        const V t523 = c[-9] * t520;
         const V t524 = t506 - t523;
-        const V t525 = c1 * t521;
+        const V t525 = c[-8] * t521;
         // complex block of 3
         const V t526 = t509 + t515;
         const V t527 = t511 + t517;
@@ -816,12 +820,12 @@ struct ComplexGraph<52> {
         const V t529 = t511 - t517;
         const V t530 = t526 + t503;
         const V t531 = t527 + t505;
-        const V t532 = c0 * t526;
+        const V t532 = c[-9] * t526;
         const V t533 = t503 - t532;
-        const V t534 = c0 * t527;
+        const V t534 = c[-9] * t527;
         const V t535 = t505 - t534;
-        const V t536 = c1 * t528;
-        const V t537 = c1 * t529;
+        const V t536 = c[-8] * t528;
+        const V t537 = c[-8] * t529;
         const V t538 = t533 + t537;
         const V t539 = t535 - t536;
         const V t540 = t533 - t537;
@@ -830,74 +834,74 @@ struct ComplexGraph<52> {
         const V t542 = t513 + t519;
         const V t543 = t513 - t519;
         const V t544 = t542 + t507;
-        const V t545 = c0 * t542;
+        const V t545 = c[-9] * t542;
         const V t546 = t507 - t545;
-        const V t547 = c1 * t543;
+        const V t547 = c[-8] * t543;
         // complex block of 13, multiplier 4
         const V t548 = t12 + t476;
         io.re(13, t548);
         const V t549 = t13 + t522;
         io.im(13, t549);
-        const V t550 = c2 * t476;
+        const V t550 = c[-1] * t476;
         const V t551 = t12 - t550;
-        const V t552 = c2 * t522;
+        const V t552 = c[-1] * t522;
         const V t553 = t13 - t552;
-        const V t554 = c3 * t541;
-        const V t555 = c4 * t540;
+        const V t554 = c[-7] * t541;
+        const V t555 = c[-6] * t540;
         const V t556 = t555 - t554;
-        const V t557 = c3 * t540;
-        const V t558 = c4 * t541;
+        const V t557 = c[-7] * t540;
+        const V t558 = c[-6] * t541;
         const V t559 = t558 + t557;
-        const V t560 = c3 * t495;
-        const V t561 = c4 * t494;
+        const V t560 = c[-7] * t495;
+        const V t561 = c[-6] * t494;
         const V t562 = t560 - t561;
-        const V t563 = c3 * t494;
-        const V t564 = c4 * t495;
+        const V t563 = c[-7] * t494;
+        const V t564 = c[-6] * t495;
         const V t565 = t564 + t563;
-        const V t566 = c5 * t501;
-        const V t567 = c6 * t500;
+        const V t566 = c[0] * t501;
+        const V t567 = c[1] * t500;
         const V t568 = t567 + t566;
-        const V t569 = c5 * t547;
-        const V t570 = c6 * t546;
+        const V t569 = c[0] * t547;
+        const V t570 = c[1] * t546;
         const V t571 = t570 + t569;
-        const V t572 = c7 * t531;
-        const V t573 = c8 * t530;
+        const V t572 = c[-5] * t531;
+        const V t573 = c[-4] * t530;
         const V t574 = t572 - t573;
-        const V t575 = c7 * t530;
-        const V t576 = c8 * t531;
+        const V t575 = c[-5] * t530;
+        const V t576 = c[-4] * t531;
         const V t577 = t576 + t575;
-        const V t578 = c7 * t485;
-        const V t579 = c8 * t484;
+        const V t578 = c[-5] * t485;
+        const V t579 = c[-4] * t484;
         const V t580 = t579 - t578;
-        const V t581 = c7 * t484;
-        const V t582 = c8 * t485;
+        const V t581 = c[-5] * t484;
+        const V t582 = c[-4] * t485;
         const V t583 = t582 + t581;
-        const V t584 = c9 * t479;
-        const V t585 = c10 * t478;
+        const V t584 = c[2] * t479;
+        const V t585 = c[3] * t478;
         const V t586 = t585 + t584;
-        const V t587 = c9 * t525;
-        const V t588 = c10 * t524;
+        const V t587 = c[2] * t525;
+        const V t588 = c[3] * t524;
         const V t589 = t588 + t587;
-        const V t590 = c11 * t539;
-        const V t591 = c12 * t538;
+        const V t590 = c[-3] * t539;
+        const V t591 = c[-2] * t538;
         const V t592 = t591 - t590;
-        const V t593 = c11 * t538;
-        const V t594 = c12 * t539;
+        const V t593 = c[-3] * t538;
+        const V t594 = c[-2] * t539;
         const V t595 = t594 + t593;
-        const V t596 = c11 * t493;
-        const V t597 = c12 * t492;
+        const V t596 = c[-3] * t493;
+        const V t597 = c[-2] * t492;
         const V t598 = t596 - t597;
-        const V t599 = c11 * t492;
-        const V t600 = c12 * t493;
+        const V t599 = c[-3] * t492;
+        const V t600 = c[-2] * t493;
         const V t601 = t600 + t599;
-        const V t602 = c13 * t498;
-        const V t603 = c13 * t544;
+        const V t602 = c[4] * t498;
+        const V t603 = c[4] * t544;
         // spectrum block of 3
         const V t604 = t551 - t586;
-        const V t605 = c0 * t586;
+        const V t605 = c[-9] * t586;
         const V t606 = t605 + t551;
-        const V t607 = c14 * t479;
-        const V t608 = c15 * t478;
+        const V t607 = c[5] * t479;
+        const V t608 = c[6] * t478;
         const V t609 = t607 - t608;
         const V t610 = t606 - t609;
         const V t611 = t606 + t609;
@@ -908,22 +912,22 @@ struct ComplexGraph<52> {
         const V t615 = t592 - t556;
         const V t616 = t612 - t577;
         const V t617 = t613 + t574;
-        const V t618 = c0 * t612;
+        const V t618 = c[-9] * t612;
         const V t619 = t577 + t618;
-        const V t620 = c0 * t613;
+        const V t620 = c[-9] * t613;
         const V t621 = t574 - t620;
-        const V t622 = c1 * t614;
-        const V t623 = c1 * t615;
+        const V t622 = c[-8] * t614;
+        const V t623 = c[-8] * t615;
         const V t624 = t623 - t619;
         const V t625 = t621 - t622;
         const V t626 = t619 + t623;
         const V t627 = t621 + t622;
         // spectrum block of 3
         const V t628 = t568 + t602;
-        const V t629 = c0 * t568;
+        const V t629 = c[-9] * t568;
         const V t630 = t602 - t629;
-        const V t631 = c16 * t501;
-        const V t632 = c17 * t500;
+        const V t631 = c[7] * t501;
+        const V t632 = c[8] * t500;
         const V t633 = t631 - t632;
         const V t634 = t630 + t633;
         const V t635 = t630 - t633;
@@ -968,10 +972,10 @@ struct ComplexGraph<52> {
         io.re(5, t653);
         // spectrum block of 3
         const V t654 = t553 - t589;
-        const V t655 = c0 * t589;
+        const V t655 = c[-9] * t589;
         const V t656 = t655 + t553;
-        const V t657 = c14 * t525;
-        const V t658 = c15 * t524;
+        const V t657 = c[5] * t525;
+        const V t658 = c[6] * t524;
         const V t659 = t657 - t658;
         const V t660 = t656 - t659;
         const V t661 = t656 + t659;
@@ -982,22 +986,22 @@ struct ComplexGraph<52> {
         const V t665 = t598 - t562;
         const V t666 = t583 - t662;
         const V t667 = t663 + t580;
-        const V t668 = c0 * t662;
+        const V t668 = c[-9] * t662;
         const V t669 = t668 + t583;
-        const V t670 = c0 * t663;
+        const V t670 = c[-9] * t663;
         const V t671 = t580 - t670;
-        const V t672 = c1 * t664;
-        const V t673 = c1 * t665;
+        const V t672 = c[-8] * t664;
+        const V t673 = c[-8] * t665;
         const V t674 = t669 + t673;
         const V t675 = t671 - t672;
         const V t676 = t669 - t673;
         const V t677 = t671 + t672;
         // spectrum block of 3
         const V t678 = t571 + t603;
-        const V t679 = c0 * t571;
+        const V t679 = c[-9] * t571;
         const V t680 = t603 - t679;
-        const V t681 = c16 * t547;
-        const V t682 = c17 * t546;
+        const V t681 = c[7] * t547;
+        const V t682 = c[8] * t546;
         const V t683 = t681 - t682;
         const V t684 = t680 + t683;
         const V t685 = t680 - t683;
@@ -1071,9 +1075,9 @@ struct ComplexGraph<52> {
         const V t722 = t714 + t720;
         const V t723 = t714 - t720;
         const V t724 = t722 + t708;
-        const V t725 = c0 * t722;
+        const V t725 = c[-9] * t722;
         const V t726 = t708 - t725;
-        const V t727 = c1 * t723;
+        const V t727 = c[-8] * t723;
         // complex block of 3
         const V t728 = t711 + t717;
         const V t729 = t713 + t719;
@@ -1081,12 +1085,12 @@ struct ComplexGraph<52> {
         const V t731 = t713 - t719;
         const V t732 = t728 + t705;
         const V t733 = t729 + t707;
-        const V t734 = c0 * t728;
+        const V t734 = c[-9] * t728;
         const V t735 = t705 - t734;
-        const V t736 = c0 * t729;
+        const V t736 = c[-9] * t729;
         const V t737 = t707 - t736;
-        const V t738 = c1 * t730;
-        const V t739 = c1 * t731;
+        const V t738 = c[-8] * t730;
+        const V t739 = c[-8] * t731;
         const V t740 = t735 + t739;
         const V t741 = t737 - t738;
         const V t742 = t735 - t739;
@@ -1095,9 +1099,9 @@ struct ComplexGraph<52> {
         const V t744 = t715 + t721;
         const V t745 = t715 - t721;
         const V t746 = t744 + t709;
-        const V t747 = c0 * t744;
+        const V t747 = c[-9] * t744;
         const V t748 = t709 - t747;
-        const V t749 = c1 * t745;
+        const V t749 = c[-8] * t745;
         // real block of 2
         const V t750 = t27 + t203;
         const V t751 = t27 - t203;
@@ -1129,9 +1133,9 @@ struct ComplexGraph<52> {
         const V t768 = t760 + t766;
         const V t769 = t760 - t766;
         const V t770 = t768 + t754;
-        const V t771 = c0 * t768;
+        const V t771 = c[-9] * t768;
         const V t772 = t754 - t771;
-        const V t773 = c1 * t769;
+        const V t773 = c[-8] * t769;
         // complex block of 3
         const V t774 = t757 + t763;
         const V t775 = t759 + t765;
@@ -1139,12 +1143,12 @@ struct ComplexGraph<52> {
         const V t777 = t759 - t765;
         const V t778 = t774 + t751;
         const V t779 = t775 + t753;
-        const V t780 = c0 * t774;
+        const V t780 = c[-9] * t774;
         const V t781 = t751 - t780;
-        const V t782 = c0 * t775;
+        const V t782 = c[-9] * t775;
         const V t783 = t753 - t782;
-        const V t784 = c1 * t776;
-        const V t785 = c1 * t777;
+        const V t784 = c[-8] * t776;
+        const V t785 = c[-8] * t777;
         const V t786 = t781 + t785;
         const V t787 = t783 - t784;
         const V t788 = t781 - t785;
@@ -1153,74 +1157,74 @@ struct ComplexGraph<52> {
         const V t790 = t761 + t767;
         const V t791 = t761 - t767;
         const V t792 = t790 + t755;
-        const V t793 = c0 * t790;
+        const V t793 = c[-9] * t790;
         const V t794 = t755 - t793;
-        const V t795 = c1 * t791;
+        const V t795 = c[-8] * t791;
         // complex block of 13, multiplier 4
         const V t796 = t10 + t724;
         io.re(26, t796);
         const V t797 = t11 + t770;
         io.im(26, t797);
-        const V t798 = c2 * t724;
+        const V t798 = c[-1] * t724;
         const V t799 = t10 - t798;
-        const V t800 = c2 * t770;
+        const V t800 = c[-1] * t770;
         const V t801 = t11 - t800;
-        const V t802 = c3 * t789;
-        const V t803 = c4 * t788;
+        const V t802 = c[-7] * t789;
+        const V t803 = c[-6] * t788;
         const V t804 = t803 - t802;
-        const V t805 = c3 * t788;
-        const V t806 = c4 * t789;
+        const V t805 = c[-7] * t788;
+        const V t806 = c[-6] * t789;
         const V t807 = t806 + t805;
-        const V t808 = c3 * t743;
-        const V t809 = c4 * t742;
+        const V t808 = c[-7] * t743;
+        const V t809 = c[-6] * t742;
         const V t810 = t808 - t809;
-        const V t811 = c3 * t742;
-        const V t812 = c4 * t743;
+        const V t811 = c[-7] * t742;
+        const V t812 = c[-6] * t743;
         const V t813 = t812 + t811;
-        const V t814 = c5 * t749;
-        const V t815 = c6 * t748;
+        const V t814 = c[0] * t749;
+        const V t815 = c[1] * t748;
         const V t816 = t815 + t814;
-        const V t817 = c5 * t795;
-        const V t818 = c6 * t794;
+        const V t817 = c[0] * t795;
+        const V t818 = c[1] * t794;
         const V t819 = t818 + t817;
-        const V t820 = c7 * t779;
-        const V t821 = c8 * t778;
+        const V t820 = c[-5] * t779;
+        const V t821 = c[-4] * t778;
         const V t822 = t820 - t821;
-        const V t823 = c7 * t778;
-        const V t824 = c8 * t779;
+        const V t823 = c[-5] * t778;
+        const V t824 = c[-4] * t779;
         const V t825 = t824 + t823;
-        const V t826 = c7 * t733;
-        const V t827 = c8 * t732;
+        const V t826 = c[-5] * t733;
+        const V t827 = c[-4] * t732;
         const V t828 = t827 - t826;
-        const V t829 = c7 * t732;
-        const V t830 = c8 * t733;
+        const V t829 = c[-5] * t732;
+        const V t830 = c[-4] * t733;
         const V t831 = t830 + t829;
-        const V t832 = c9 * t727;
-        const V t833 = c10 * t726;
+        const V t832 = c[2] * t727;
+        const V t833 = c[3] * t726;
         const V t834 = t833 + t832;
-        const V t835 = c9 * t773;
-        const V t836 = c10 * t772;
+        const V t835 = c[2] * t773;
+        const V t836 = c[3] * t772;
         const V t837 = t836 + t835;
-        const V t838 = c11 * t787;
-        const V t839 = c12 * t786;
+        const V t838 = c[-3] * t787;
+        const V t839 = c[-2] * t786;
         const V t840 = t839 - t838;
-        const V t841 = c11 * t786;
-        const V t842 = c12 * t787;
+        const V t841 = c[-3] * t786;
+        const V t842 = c[-2] * t787;
         const V t843 = t842 + t841;
-        const V t844 = c11 * t741;
-        const V t845 = c12 * t740;
+        const V t844 = c[-3] * t741;
+        const V t845 = c[-2] * t740;
         const V t846 = t844 - t845;
-        const V t847 = c11 * t740;
-        const V t848 = c12 * t741;
+        const V t847 = c[-3] * t740;
+        const V t848 = c[-2] * t741;
         const V t849 = t848 + t847;
-        const V t850 = c13 * t746;
-        const V t851 = c13 * t792;
+        const V t850 = c[4] * t746;
+        const V t851 = c[4] * t792;
         // spectrum block of 3
         const V t852 = t799 - t834;
-        const V t853 = c0 * t834;
+        const V t853 = c[-9] * t834;
         const V t854 = t853 + t799;
-        const V t855 = c14 * t727;
-        const V t856 = c15 * t726;
+        const V t855 = c[5] * t727;
+        const V t856 = c[6] * t726;
         const V t857 = t855 - t856;
         const V t858 = t854 - t857;
         const V t859 = t854 + t857;
@@ -1231,22 +1235,22 @@ struct ComplexGraph<52> {
         const V t863 = t840 - t804;
         const V t864 = t860 - t825;
         const V t865 = t861 + t822;
-        const V t866 = c0 * t860;
+        const V t866 = c[-9] * t860;
         const V t867 = t825 + t866;
-        const V t868 = c0 * t861;
+        const V t868 = c[-9] * t861;
         const V t869 = t822 - t868;
-        const V t870 = c1 * t862;
-        const V t871 = c1 * t863;
+        const V t870 = c[-8] * t862;
+        const V t871 = c[-8] * t863;
         const V t872 = t871 - t867;
         const V t873 = t869 - t870;
         const V t874 = t867 + t871;
         const V t875 = t869 + t870;
         // spectrum block of 3
         const V t876 = t816 + t850;
-        const V t877 = c0 * t816;
+        const V t877 = c[-9] * t816;
         const V t878 = t850 - t877;
-        const V t879 = c16 * t749;
-        const V t880 = c17 * t748;
+        const V t879 = c[7] * t749;
+        const V t880 = c[8] * t748;
         const V t881 = t879 - t880;
         const V t882 = t878 + t881;
         const V t883 = t878 - t881;
@@ -1291,10 +1295,10 @@ struct ComplexGraph<52> {
         io.re(18, t901);
         // spectrum block of 3
         const V t902 = t801 - t837;
-        const V t903 = c0 * t837;
+        const V t903 = c[-9] * t837;
         const V t904 = t903 + t801;
-        const V t905 = c14 * t773;
-        const V t906 = c15 * t772;
+        const V t905 = c[5] * t773;
+        const V t906 = c[6] * t772;
         const V t907 = t905 - t906;
         const V t908 = t904 - t907;
         const V t909 = t904 + t907;
@@ -1305,22 +1309,22 @@ struct ComplexGraph<52> {
         const V t913 = t846 - t810;
         const V t914 = t831 - t910;
         const V t915 = t911 + t828;
-        const V t916 = c0 * t910;
+        const V t916 = c[-9] * t910;
         const V t917 = t916 + t831;
-        const V t918 = c0 * t911;
+        const V t918 = c[-9] * t911;
         const V t919 = t828 - t918;
-        const V t920 = c1 * t912;
-        const V t921 = c1 * t913;
+        const V t920 = c[-8] * t912;
+        const V t921 = c[-8] * t913;
         const V t922 = t917 + t921;
         const V t923 = t919 - t920;
         const V t924 = t917 - t921;
         const V t925 = t919 + t920;
         // spectrum block of 3
         const V t926 = t819 + t851;
-        const V t927 = c0 * t819;
+        const V t927 = c[-9] * t819;
         const V t928 = t851 - t927;
-        const V t929 = c16 * t795;
-        const V t930 = c17 * t794;
+        const V t929 = c[7] * t795;
+        const V t930 = c[8] * t794;
         const V t931 = t929 - t930;
         const V t932 = t928 + t931;
         const V t933 = t928 - t931;
@@ -1394,9 +1398,9 @@ struct ComplexGraph<52> {
         const V t970 = t962 + t968;
         const V t971 = t962 - t968;
         const V t972 = t970 + t956;
-        const V t973 = c0 * t970;
+        const V t973 = c[-9] * t970;
         const V t974 = t956 - t973;
-        const V t975 = c1 * t971;
+        const V t975 = c[-8] * t971;
         // complex block of 3
         const V t976 = t959 + t965;
         const V t977 = t961 + t967;
@@ -1404,12 +1408,12 @@ struct ComplexGraph<52> {
         const V t979 = t961 - t967;
         const V t980 = t976 + t953;
         const V t981 = t977 + t955;
-        const V t982 = c0 * t976;
+        const V t982 = c[-9] * t976;
         const V t983 = t953 - t982;
-        const V t984 = c0 * t977;
+        const V t984 = c[-9] * t977;
         const V t985 = t955 - t984;
-        const V t986 = c1 * t978;
-        const V t987 = c1 * t979;
+        const V t986 = c[-8] * t978;
+        const V t987 = c[-8] * t979;
         const V t988 = t983 + t987;
         const V t989 = t985 - t986;
         const V t990 = t983 - t987;
@@ -1418,9 +1422,9 @@ struct ComplexGraph<52> {
         const V t992 = t963 + t969;
         const V t993 = t963 - t969;
         const V t994 = t992 + t957;
-        const V t995 = c0 * t992;
+        const V t995 = c[-9] * t992;
         const V t996 = t957 - t995;
-        const V t997 = c1 * t993;
+        const V t997 = c[-8] * t993;
         // real block of 2
         const V t998 = t31 + t207;
         const V t999 = t31 - t207;
@@ -1452,9 +1456,9 @@ struct ComplexGraph<52> {
         const V t1016 = t1008 + t1014;
         const V t1017 = t1008 - t1014;
         const V t1018 = t1016 + t1002;
-        const V t1019 = c0 * t1016;
+        const V t1019 = c[-9] * t1016;
         const V t1020 = t1002 - t1019;
-        const V t1021 = c1 * t1017;
+        const V t1021 = c[-8] * t1017;
         // complex block of 3
         const V t1022 = t1005 + t1011;
         const V t1023 = t1007 + t1013;
@@ -1462,12 +1466,12 @@ struct ComplexGraph<52> {
         const V t1025 = t1007 - t1013;
         const V t1026 = t1022 + t999;
         const V t1027 = t1023 + t1001;
-        const V t1028 = c0 * t1022;
+        const V t1028 = c[-9] * t1022;
         const V t1029 = t999 - t1028;
-        const V t1030 = c0 * t1023;
+        const V t1030 = c[-9] * t1023;
         const V t1031 = t1001 - t1030;
-        const V t1032 = c1 * t1024;
-        const V t1033 = c1 * t1025;
+        const V t1032 = c[-8] * t1024;
+        const V t1033 = c[-8] * t1025;
         const V t1034 = t1029 + t1033;
         const V t1035 = t1031 - t1032;
         const V t1036 = t1029 - t1033;
@@ -1476,74 +1480,74 @@ struct ComplexGraph<52> {
         const V t1038 = t1009 + t1015;
         const V t1039 = t1009 - t1015;
         const V t1040 = t1038 + t1003;
-        const V t1041 = c0 * t1038;
+        const V t1041 = c[-9] * t1038;
         const V t1042 = t1003 - t1041;
-        const V t1043 = c1 * t1039;
+        const V t1043 = c[-8] * t1039;
         // complex block of 13, multiplier 4
         const V t1044 = t14 + t972;
         io.re(39, t1044);
         const V t1045 = t15 + t1018;
         io.im(39, t1045);
-        const V t1046 = c2 * t972;
+        const V t1046 = c[-1] * t972;
         const V t1047 = t14 - t1046;
-        const V t1048 = c2 * t1018;
+        const V t1048 = c[-1] * t1018;
         const V t1049 = t15 - t1048;
-        const V t1050 = c3 * t1037;
-        const V t1051 = c4 * t1036;
+        const V t1050 = c[-7] * t1037;
+        const V t1051 = c[-6] * t1036;
         const V t1052 = t1051 - t1050;
-        const V t1053 = c3 * t1036;
-        const V t1054 = c4 * t1037;
+        const V t1053 = c[-7] * t1036;
+        const V t1054 = c[-6] * t1037;
         const V t1055 = t1054 + t1053;
-        const V t1056 = c3 * t991;
-        const V t1057 = c4 * t990;
+        const V t1056 = c[-7] * t991;
+        const V t1057 = c[-6] * t990;
         const V t1058 = t1056 - t1057;
-        const V t1059 = c3 * t990;
-        const V t1060 = c4 * t991;
+        const V t1059 = c[-7] * t990;
+        const V t1060 = c[-6] * t991;
         const V t1061 = t1060 + t1059;
-        const V t1062 = c5 * t997;
-        const V t1063 = c6 * t996;
+        const V t1062 = c[0] * t997;
+        const V t1063 = c[1] * t996;
         const V t1064 = t1063 + t1062;
-        const V t1065 = c5 * t1043;
-        const V t1066 = c6 * t1042;
+        const V t1065 = c[0] * t1043;
+        const V t1066 = c[1] * t1042;
         const V t1067 = t1066 + t1065;
-        const V t1068 = c7 * t1027;
-        const V t1069 = c8 * t1026;
+        const V t1068 = c[-5] * t1027;
+        const V t1069 = c[-4] * t1026;
         const V t1070 = t1068 - t1069;
-        const V t1071 = c7 * t1026;
-        const V t1072 = c8 * t1027;
+        const V t1071 = c[-5] * t1026;
+        const V t1072 = c[-4] * t1027;
         const V t1073 = t1072 + t1071;
-        const V t1074 = c7 * t981;
-        const V t1075 = c8 * t980;
+        const V t1074 = c[-5] * t981;
+        const V t1075 = c[-4] * t980;
         const V t1076 = t1075 - t1074;
-        const V t1077 = c7 * t980;
-        const V t1078 = c8 * t981;
+        const V t1077 = c[-5] * t980;
+        const V t1078 = c[-4] * t981;
         const V t1079 = t1078 + t1077;
-        const V t1080 = c9 * t975;
-        const V t1081 = c10 * t974;
+        const V t1080 = c[2] * t975;
+        const V t1081 = c[3] * t974;
         const V t1082 = t1081 + t1080;
-        const V t1083 = c9 * t1021;
-        const V t1084 = c10 * t1020;
+        const V t1083 = c[2] * t1021;
+        const V t1084 = c[3] * t1020;
         const V t1085 = t1084 + t1083;
-        const V t1086 = c11 * t1035;
-        const V t1087 = c12 * t1034;
+        const V t1086 = c[-3] * t1035;
+        const V t1087 = c[-2] * t1034;
         const V t1088 = t1087 - t1086;
-        const V t1089 = c11 * t1034;
-        const V t1090 = c12 * t1035;
+        const V t1089 = c[-3] * t1034;
+        const V t1090 = c[-2] * t1035;
         const V t1091 = t1090 + t1089;
-        const V t1092 = c11 * t989;
-        const V t1093 = c12 * t988;
+        const V t1092 = c[-3] * t989;
+        const V t1093 = c[-2] * t988;
         const V t1094 = t1092 - t1093;
-        const V t1095 = c11 * t988;
-        const V t1096 = c12 * t989;
+        const V t1095 = c[-3] * t988;
+        const V t1096 = c[-2] * t989;
         const V t1097 = t1096 + t1095;
-        const V t1098 = c13 * t994;
-        const V t1099 = c13 * t1040;
+        const V t1098 = c[4] * t994;
+        const V t1099 = c[4] * t1040;
         // spectrum block of 3
         const V t1100 = t1047 - t1082;
-        const V t1101 = c0 * t1082;
+        const V t1101 = c[-9] * t1082;
         const V t1102 = t1101 + t1047;
-        const V t1103 = c14 * t975;
-        const V t1104 = c15 * t974;
+        const V t1103 = c[5] * t975;
+        const V t1104 = c[6] * t974;
         const V t1105 = t1103 - t1104;
         const V t1106 = t1102 - t1105;
         const V t1107 = t1102 + t1105;
@@ -1554,22 +1558,22 @@ struct ComplexGraph<52> {
         const V t1111 = t1088 - t1052;
         const V t1112 = t1108 - t1073;
         const V t1113 = t1109 + t1070;
-        const V t1114 = c0 * t1108;
+        const V t1114 = c[-9] * t1108;
         const V t1115 = t1073 + t1114;
-        const V t1116 = c0 * t1109;
+        const V t1116 = c[-9] * t1109;
         const V t1117 = t1070 - t1116;
-        const V t1118 = c1 * t1110;
-        const V t1119 = c1 * t1111;
+        const V t1118 = c[-8] * t1110;
+        const V t1119 = c[-8] * t1111;
         const V t1120 = t1119 - t1115;
         const V t1121 = t1117 - t1118;
         const V t1122 = t1115 + t1119;
         const V t1123 = t1117 + t1118;
         // spectrum block of 3
         const V t1124 = t1064 + t1098;
-        const V t1125 = c0 * t1064;
+        const V t1125 = c[-9] * t1064;
         const V t1126 = t1098 - t1125;
-        const V t1127 = c16 * t997;
-        const V t1128 = c17 * t996;
+        const V t1127 = c[7] * t997;
+        const V t1128 = c[8] * t996;
         const V t1129 = t1127 - t1128;
         const V t1130 = t1126 + t1129;
         const V t1131 = t1126 - t1129;
@@ -1614,10 +1618,10 @@ struct ComplexGraph<52> {
         io.re(31, t1149);
         // spectrum block of 3
         const V t1150 = t1049 - t1085;
-        const V t1151 = c0 * t1085;
+        const V t1151 = c[-9] * t1085;
         const V t1152 = t1151 + t1049;
-        const V t1153 = c14 * t1021;
-        const V t1154 = c15 * t1020;
+        const V t1153 = c[5] * t1021;
+        const V t1154 = c[6] * t1020;
         const V t1155 = t1153 - t1154;
         const V t1156 = t1152 - t1155;
         const V t1157 = t1152 + t1155;
@@ -1628,22 +1632,22 @@ struct ComplexGraph<52> {
         const V t1161 = t1094 - t1058;
         const V t1162 = t1079 - t1158;
         const V t1163 = t1159 + t1076;
-        const V t1164 = c0 * t1158;
+        const V t1164 = c[-9] * t1158;
         const V t1165 = t1164 + t1079;
-        const V t1166 = c0 * t1159;
+        const V t1166 = c[-9] * t1159;
         const V t1167 = t1076 - t1166;
-        const V t1168 = c1 * t1160;
-        const V t1169 = c1 * t1161;
+        const V t1168 = c[-8] * t1160;
+        const V t1169 = c[-8] * t1161;
         const V t1170 = t1165 + t1169;
         const V t1171 = t1167 - t1168;
         const V t1172 = t1165 - t1169;
         const V t1173 = t1167 + t1168;
         // spectrum block of 3
         const V t1174 = t1067 + t1099;
-        const V t1175 = c0 * t1067;
+        const V t1175 = c[-9] * t1067;
         const V t1176 = t1099 - t1175;
-        const V t1177 = c16 * t1043;
-        const V t1178 = c17 * t1042;
+        const V t1177 = c[7] * t1043;
+        const V t1178 = c[8] * t1042;
         const V t1179 = t1177 - t1178;
         const V t1180 = t1176 + t1179;
         const V t1181 = t1176 - t1179;

@@ -2,88 +2,92 @@
 // Complex DFT of 53 points, Rader block.
 // 880 additions, 880 subtractions, 852 multiplications (958 with `scale`); 72 constants; 110 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct ComplexGraph<53> {
     static constexpr double inverseRoot = 0.13736056394868904;  // 1/sqrt(53), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c1 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c2 = 0.08333333333333333;  // 1/12
-    static constexpr double c3 = 0.6007253775544544;  // -Q[1] of 13
-    static constexpr double c4 = 0.015496188988565054;  // -P[1] of 13
-    static constexpr double c5 = 0.6008758031820526;  // -Q[2] of 13
-    static constexpr double c6 = 0.007705858903092426;  // P[2] of 13
-    static constexpr double c7 = 0.1741386011521359;  // Q[3] of 13
-    static constexpr double c8 = 0.5751407294740031;  // -P[3] of 13
-    static constexpr double c9 = 0.15924941320823024;  // -Q[4] of 13
-    static constexpr double c10 = 0.5794400189009605;  // -P[4] of 13
-    static constexpr double c11 = 0.5084294662830964;  // -Q[5] of 13
-    static constexpr double c12 = 0.3203288761978803;  // -P[5] of 13
-    static constexpr double c13 = 0.3004626062886658;  // beta of 13
-    static constexpr double c14 = 0.75;  // sin 2 pi 1/3 times sin 2 pi 1/3
-    static constexpr double c15 = 0.4330127018922193;  // sin 2 pi 1/3 times -cos 2 pi 1/3
-    static constexpr double c16 = 0.019230769230769232;  // 1/52
-    static constexpr double c17 = 0.2535110589592131;  // P[1] of 53
-    static constexpr double c18 = 0.11888864474491956;  // Q[1] of 53
-    static constexpr double c19 = 0.13160258300584013;  // -Q[2] of 53
-    static constexpr double c20 = 0.2471500091242084;  // P[2] of 53
-    static constexpr double c21 = 0.01920483471835668;  // P[3] of 53
-    static constexpr double c22 = 0.27934484277921784;  // Q[3] of 53
-    static constexpr double c23 = 0.2755686148630738;  // Q[4] of 53
-    static constexpr double c24 = 0.049641770378907886;  // P[4] of 53
-    static constexpr double c25 = 0.08550180730497182;  // P[5] of 53
-    static constexpr double c26 = 0.26663047052332334;  // -Q[5] of 53
-    static constexpr double c27 = 0.21010412063116707;  // Q[6] of 53
-    static constexpr double c28 = 0.18509085703434766;  // P[6] of 53
-    static constexpr double c29 = 0.02729324277461261;  // P[7] of 53
-    static constexpr double c30 = 0.2786708556034366;  // -Q[7] of 53
-    static constexpr double c31 = 0.27887234952845297;  // Q[8] of 53
-    static constexpr double c32 = 0.02515113381908794;  // P[8] of 53
-    static constexpr double c33 = 0.27926923264549397;  // P[9] of 53
-    static constexpr double c34 = 0.02027467783966699;  // -Q[9] of 53
-    static constexpr double c35 = 0.2421434442697633;  // Q[10] of 53
-    static constexpr double c36 = 0.14060198882334973;  // -P[10] of 53
-    static constexpr double c37 = 0.23326162380743898;  // P[11] of 53
-    static constexpr double c38 = 0.15489151598012768;  // Q[11] of 53
-    static constexpr double c39 = 0.1903832491584887;  // Q[12] of 53
-    static constexpr double c40 = 0.20532068893261132;  // P[12] of 53
-    static constexpr double c41 = 0.27729778231647617;  // -P[13] of 53
-    static constexpr double c42 = 0.038836925551200704;  // -Q[13] of 53
-    static constexpr double c43 = 0.2645541253996386;  // -Q[14] of 53
-    static constexpr double c44 = 0.09172503255893466;  // P[14] of 53
-    static constexpr double c45 = 0.10309300873453617;  // -P[15] of 53
-    static constexpr double c46 = 0.2603347814141748;  // Q[15] of 53
-    static constexpr double c47 = 0.04985858822323415;  // Q[16] of 53
-    static constexpr double c48 = 0.27552946855879373;  // -P[16] of 53
-    static constexpr double c49 = 0.062487064695808406;  // P[17] of 53
-    static constexpr double c50 = 0.27294272954157833;  // Q[17] of 53
-    static constexpr double c51 = 0.12218648440059575;  // Q[18] of 53
-    static constexpr double c52 = 0.2519381469601781;  // P[18] of 53
-    static constexpr double c53 = 0.0855629575860694;  // P[19] of 53
-    static constexpr double c54 = 0.26661085340441376;  // -Q[19] of 53
-    static constexpr double c55 = 0.279948840618166;  // Q[20] of 53
-    static constexpr double c56 = 0.005568976607062611;  // P[20] of 53
-    static constexpr double c57 = 0.2608612063201607;  // -P[21] of 53
-    static constexpr double c58 = 0.10175361370042776;  // Q[21] of 53
-    static constexpr double c59 = 0.21551686731931244;  // Q[22] of 53
-    static constexpr double c60 = 0.17875918651855408;  // P[22] of 53
-    static constexpr double c61 = 0.015387675100292094;  // P[23] of 53
-    static constexpr double c62 = 0.2795810907749542;  // -Q[23] of 53
-    static constexpr double c63 = 0.2758601234844355;  // -Q[24] of 53
-    static constexpr double c64 = 0.04799540743714245;  // P[24] of 53
-    static constexpr double c65 = 0.26811627900458906;  // -P[25] of 53
-    static constexpr double c66 = 0.08072191645791539;  // Q[25] of 53
-    static constexpr double c67 = 0.14000211325539458;  // beta of 53
-    static constexpr double c68 = 0.5018097763375671;  // sin 2 pi 1/3 times -P[4] of 13
-    static constexpr double c69 = 0.1379140373760925;  // sin 2 pi 1/3 times -Q[4] of 13
-    static constexpr double c70 = 0.00667346956805653;  // sin 2 pi 1/3 times P[2] of 13
-    static constexpr double c71 = 0.520373710075036;  // sin 2 pi 1/3 times -Q[2] of 13
+    static constexpr double constants[] = {
+        0.5,  // c[-16]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-15]: sin 2 pi 1/3
+        0.6007253775544544,  // c[-14]: -Q[1] of 13
+        0.015496188988565054,  // c[-13]: -P[1] of 13
+        0.1741386011521359,  // c[-12]: Q[3] of 13
+        0.5751407294740031,  // c[-11]: -P[3] of 13
+        0.5084294662830964,  // c[-10]: -Q[5] of 13
+        0.3203288761978803,  // c[-9]: -P[5] of 13
+        0.6008758031820526,  // c[-8]: -Q[2] of 13
+        0.007705858903092426,  // c[-7]: P[2] of 13
+        0.15924941320823024,  // c[-6]: -Q[4] of 13
+        0.5794400189009605,  // c[-5]: -P[4] of 13
+        0.08333333333333333,  // c[-4]: 1/12
+        0.3004626062886658,  // c[-3]: beta of 13
+        0.75,  // c[-2]: sin 2 pi 1/3 times sin 2 pi 1/3
+        0.4330127018922193,  // c[-1]: sin 2 pi 1/3 times -cos 2 pi 1/3
+        0.5018097763375671,  // c[0]: sin 2 pi 1/3 times -P[4] of 13
+        0.1379140373760925,  // c[1]: sin 2 pi 1/3 times -Q[4] of 13
+        0.00667346956805653,  // c[2]: sin 2 pi 1/3 times P[2] of 13
+        0.520373710075036,  // c[3]: sin 2 pi 1/3 times -Q[2] of 13
+        0.2535110589592131,  // c[4]: P[1] of 53
+        0.11888864474491956,  // c[5]: Q[1] of 53
+        0.13160258300584013,  // c[6]: -Q[2] of 53
+        0.2471500091242084,  // c[7]: P[2] of 53
+        0.01920483471835668,  // c[8]: P[3] of 53
+        0.27934484277921784,  // c[9]: Q[3] of 53
+        0.2755686148630738,  // c[10]: Q[4] of 53
+        0.049641770378907886,  // c[11]: P[4] of 53
+        0.08550180730497182,  // c[12]: P[5] of 53
+        0.26663047052332334,  // c[13]: -Q[5] of 53
+        0.21010412063116707,  // c[14]: Q[6] of 53
+        0.18509085703434766,  // c[15]: P[6] of 53
+        0.02729324277461261,  // c[16]: P[7] of 53
+        0.2786708556034366,  // c[17]: -Q[7] of 53
+        0.27887234952845297,  // c[18]: Q[8] of 53
+        0.02515113381908794,  // c[19]: P[8] of 53
+        0.27926923264549397,  // c[20]: P[9] of 53
+        0.02027467783966699,  // c[21]: -Q[9] of 53
+        0.2421434442697633,  // c[22]: Q[10] of 53
+        0.14060198882334973,  // c[23]: -P[10] of 53
+        0.23326162380743898,  // c[24]: P[11] of 53
+        0.15489151598012768,  // c[25]: Q[11] of 53
+        0.1903832491584887,  // c[26]: Q[12] of 53
+        0.20532068893261132,  // c[27]: P[12] of 53
+        0.27729778231647617,  // c[28]: -P[13] of 53
+        0.038836925551200704,  // c[29]: -Q[13] of 53
+        0.2645541253996386,  // c[30]: -Q[14] of 53
+        0.09172503255893466,  // c[31]: P[14] of 53
+        0.10309300873453617,  // c[32]: -P[15] of 53
+        0.2603347814141748,  // c[33]: Q[15] of 53
+        0.04985858822323415,  // c[34]: Q[16] of 53
+        0.27552946855879373,  // c[35]: -P[16] of 53
+        0.062487064695808406,  // c[36]: P[17] of 53
+        0.27294272954157833,  // c[37]: Q[17] of 53
+        0.12218648440059575,  // c[38]: Q[18] of 53
+        0.2519381469601781,  // c[39]: P[18] of 53
+        0.0855629575860694,  // c[40]: P[19] of 53
+        0.26661085340441376,  // c[41]: -Q[19] of 53
+        0.279948840618166,  // c[42]: Q[20] of 53
+        0.005568976607062611,  // c[43]: P[20] of 53
+        0.2608612063201607,  // c[44]: -P[21] of 53
+        0.10175361370042776,  // c[45]: Q[21] of 53
+        0.21551686731931244,  // c[46]: Q[22] of 53
+        0.17875918651855408,  // c[47]: P[22] of 53
+        0.015387675100292094,  // c[48]: P[23] of 53
+        0.2795810907749542,  // c[49]: -Q[23] of 53
+        0.2758601234844355,  // c[50]: -Q[24] of 53
+        0.04799540743714245,  // c[51]: P[24] of 53
+        0.26811627900458906,  // c[52]: -P[25] of 53
+        0.08072191645791539,  // c[53]: Q[25] of 53
+        0.019230769230769232,  // c[54]: 1/52
+        0.14000211325539458,  // c[55]: beta of 53
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // real block of 3
         const V x15r = io.re(15);
         const V x36r = io.re(36);
@@ -91,9 +95,9 @@ struct ComplexGraph<53> {
         const V t1 = x15r - x36r;
         const V x16r = io.re(16);
         const V t2 = t0 + x16r;
-        const V t3 = c0 * t0;
+        const V t3 = c[-16] * t0;
         const V t4 = x16r - t3;
-        const V t5 = c1 * t1;
+        const V t5 = c[-15] * t1;
         // real block of 3
         const V x47r = io.re(47);
         const V x49r = io.re(49);
@@ -101,9 +105,9 @@ struct ComplexGraph<53> {
         const V t7 = x47r - x49r;
         const V x42r = io.re(42);
         const V t8 = t6 + x42r;
-        const V t9 = c0 * t6;
+        const V t9 = c[-16] * t6;
         const V t10 = x42r - t9;
-        const V t11 = c1 * t7;
+        const V t11 = c[-15] * t7;
         // real block of 3
         const V x46r = io.re(46);
         const V x28r = io.re(28);
@@ -111,9 +115,9 @@ struct ComplexGraph<53> {
         const V t13 = x46r - x28r;
         const V x10r = io.re(10);
         const V t14 = t12 + x10r;
-        const V t15 = c0 * t12;
+        const V t15 = c[-16] * t12;
         const V t16 = x10r - t15;
-        const V t17 = c1 * t13;
+        const V t17 = c[-15] * t13;
         // real block of 3
         const V x44r = io.re(44);
         const V x13r = io.re(13);
@@ -121,9 +125,9 @@ struct ComplexGraph<53> {
         const V t19 = x44r - x13r;
         const V x24r = io.re(24);
         const V t20 = t18 + x24r;
-        const V t21 = c0 * t18;
+        const V t21 = c[-16] * t18;
         const V t22 = x24r - t21;
-        const V t23 = c1 * t19;
+        const V t23 = c[-15] * t19;
         // real block of 2
         const V t24 = t2 + t14;
         const V t25 = t2 - t14;
@@ -156,39 +160,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x1r = io.re(1);
         const V t46 = x1r + t28;
-        const V t47 = c2 * t28;
+        const V t47 = c[-4] * t28;
         const V t48 = x1r - t47;
-        const V t49 = c3 * t45;
-        const V t50 = c4 * t44;
+        const V t49 = c[-14] * t45;
+        const V t50 = c[-13] * t44;
         const V t51 = t49 - t50;
-        const V t52 = c3 * t44;
-        const V t53 = c4 * t45;
+        const V t52 = c[-14] * t44;
+        const V t53 = c[-13] * t45;
         const V t54 = t53 + t52;
-        const V t55 = c5 * t41;
-        const V t56 = c6 * t40;
+        const V t55 = c[-8] * t41;
+        const V t56 = c[-7] * t40;
         const V t57 = t56 - t55;
-        const V t58 = c5 * t40;
-        const V t59 = c6 * t41;
+        const V t58 = c[-8] * t40;
+        const V t59 = c[-7] * t41;
         const V t60 = t59 + t58;
-        const V t61 = c7 * t27;
-        const V t62 = c8 * t25;
+        const V t61 = c[-12] * t27;
+        const V t62 = c[-11] * t25;
         const V t63 = t62 + t61;
-        const V t64 = c7 * t25;
-        const V t65 = c8 * t27;
+        const V t64 = c[-12] * t25;
+        const V t65 = c[-11] * t27;
         const V t66 = t64 - t65;
-        const V t67 = c9 * t39;
-        const V t68 = c10 * t38;
+        const V t67 = c[-6] * t39;
+        const V t68 = c[-5] * t38;
         const V t69 = t68 + t67;
-        const V t70 = c9 * t38;
-        const V t71 = c10 * t39;
+        const V t70 = c[-6] * t38;
+        const V t71 = c[-5] * t39;
         const V t72 = t71 - t70;
-        const V t73 = c11 * t43;
-        const V t74 = c12 * t42;
+        const V t73 = c[-10] * t43;
+        const V t74 = c[-9] * t42;
         const V t75 = t74 + t73;
-        const V t76 = c11 * t42;
-        const V t77 = c12 * t43;
+        const V t76 = c[-10] * t42;
+        const V t77 = c[-9] * t43;
         const V t78 = t77 - t76;
-        const V t79 = c13 * t29;
+        const V t79 = c[-3] * t29;
         // spectrum block of 2
         const V t80 = t48 + t79;
         const V t81 = t48 - t79;
@@ -199,16 +203,16 @@ struct ComplexGraph<53> {
         const V t85 = t69 + t57;
         // spectrum block of 3, multiplier 2
         const V t86 = t83 + t80;
-        const V t87 = c0 * t83;
+        const V t87 = c[-16] * t83;
         const V t88 = t80 - t87;
-        const V t89 = c1 * t82;
+        const V t89 = c[-15] * t82;
         const V t90 = t88 - t89;
         const V t91 = t88 + t89;
         // spectrum block of 3, multiplier 2
         const V t92 = t81 - t85;
-        const V t93 = c0 * t85;
+        const V t93 = c[-16] * t85;
         const V t94 = t93 + t81;
-        const V t95 = c1 * t84;
+        const V t95 = c[-15] * t84;
         const V t96 = t94 - t95;
         const V t97 = t94 + t95;
         // complex block of 2
@@ -217,22 +221,22 @@ struct ComplexGraph<53> {
         const V t100 = t75 - t51;
         const V t101 = t54 + t78;
         // mirrored skew block of 6
-        const V t102 = c0 * t100;
-        const V t103 = c1 * t101;
+        const V t102 = c[-16] * t100;
+        const V t103 = c[-15] * t101;
         const V t104 = t103 + t102;
         // spectrum block of 3, multiplier 2
         const V t105 = t99 + t66;
-        const V t106 = c0 * t99;
+        const V t106 = c[-16] * t99;
         const V t107 = t66 - t106;
-        const V t108 = c1 * t98;
+        const V t108 = c[-15] * t98;
         const V t109 = t107 - t108;
         const V t110 = t107 + t108;
         // spectrum block of 3, multiplier 2
         const V t111 = t104 + t63;
-        const V t112 = c0 * t104;
+        const V t112 = c[-16] * t104;
         const V t113 = t112 - t63;
-        const V t114 = c14 * t100;
-        const V t115 = c15 * t101;
+        const V t114 = c[-2] * t100;
+        const V t115 = c[-1] * t101;
         const V t116 = t114 - t115;
         const V t117 = t113 + t116;
         const V t118 = t113 - t116;
@@ -243,9 +247,9 @@ struct ComplexGraph<53> {
         const V t120 = x26r - x20r;
         const V x3r = io.re(3);
         const V t121 = t119 + x3r;
-        const V t122 = c0 * t119;
+        const V t122 = c[-16] * t119;
         const V t123 = x3r - t122;
-        const V t124 = c1 * t120;
+        const V t124 = c[-15] * t120;
         // real block of 3
         const V x32r = io.re(32);
         const V x39r = io.re(39);
@@ -253,9 +257,9 @@ struct ComplexGraph<53> {
         const V t126 = x32r - x39r;
         const V x41r = io.re(41);
         const V t127 = t125 + x41r;
-        const V t128 = c0 * t125;
+        const V t128 = c[-16] * t125;
         const V t129 = x41r - t128;
-        const V t130 = c1 * t126;
+        const V t130 = c[-15] * t126;
         // real block of 3
         const V x2r = io.re(2);
         const V x45r = io.re(45);
@@ -263,9 +267,9 @@ struct ComplexGraph<53> {
         const V t132 = x2r - x45r;
         const V x35r = io.re(35);
         const V t133 = t131 + x35r;
-        const V t134 = c0 * t131;
+        const V t134 = c[-16] * t131;
         const V t135 = x35r - t134;
-        const V t136 = c1 * t132;
+        const V t136 = c[-15] * t132;
         // real block of 3
         const V x48r = io.re(48);
         const V x19r = io.re(19);
@@ -273,9 +277,9 @@ struct ComplexGraph<53> {
         const V t138 = x48r - x19r;
         const V x31r = io.re(31);
         const V t139 = t137 + x31r;
-        const V t140 = c0 * t137;
+        const V t140 = c[-16] * t137;
         const V t141 = x31r - t140;
-        const V t142 = c1 * t138;
+        const V t142 = c[-15] * t138;
         // real block of 2
         const V t143 = t121 + t133;
         const V t144 = t121 - t133;
@@ -308,39 +312,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x30r = io.re(30);
         const V t165 = x30r + t147;
-        const V t166 = c2 * t147;
+        const V t166 = c[-4] * t147;
         const V t167 = x30r - t166;
-        const V t168 = c3 * t164;
-        const V t169 = c4 * t163;
+        const V t168 = c[-14] * t164;
+        const V t169 = c[-13] * t163;
         const V t170 = t168 - t169;
-        const V t171 = c3 * t163;
-        const V t172 = c4 * t164;
+        const V t171 = c[-14] * t163;
+        const V t172 = c[-13] * t164;
         const V t173 = t172 + t171;
-        const V t174 = c5 * t160;
-        const V t175 = c6 * t159;
+        const V t174 = c[-8] * t160;
+        const V t175 = c[-7] * t159;
         const V t176 = t175 - t174;
-        const V t177 = c5 * t159;
-        const V t178 = c6 * t160;
+        const V t177 = c[-8] * t159;
+        const V t178 = c[-7] * t160;
         const V t179 = t178 + t177;
-        const V t180 = c7 * t146;
-        const V t181 = c8 * t144;
+        const V t180 = c[-12] * t146;
+        const V t181 = c[-11] * t144;
         const V t182 = t181 + t180;
-        const V t183 = c7 * t144;
-        const V t184 = c8 * t146;
+        const V t183 = c[-12] * t144;
+        const V t184 = c[-11] * t146;
         const V t185 = t183 - t184;
-        const V t186 = c9 * t158;
-        const V t187 = c10 * t157;
+        const V t186 = c[-6] * t158;
+        const V t187 = c[-5] * t157;
         const V t188 = t187 + t186;
-        const V t189 = c9 * t157;
-        const V t190 = c10 * t158;
+        const V t189 = c[-6] * t157;
+        const V t190 = c[-5] * t158;
         const V t191 = t190 - t189;
-        const V t192 = c11 * t162;
-        const V t193 = c12 * t161;
+        const V t192 = c[-10] * t162;
+        const V t193 = c[-9] * t161;
         const V t194 = t193 + t192;
-        const V t195 = c11 * t161;
-        const V t196 = c12 * t162;
+        const V t195 = c[-10] * t161;
+        const V t196 = c[-9] * t162;
         const V t197 = t196 - t195;
-        const V t198 = c13 * t148;
+        const V t198 = c[-3] * t148;
         // spectrum block of 2
         const V t199 = t167 + t198;
         const V t200 = t167 - t198;
@@ -351,16 +355,16 @@ struct ComplexGraph<53> {
         const V t204 = t188 + t176;
         // spectrum block of 3, multiplier 2
         const V t205 = t202 + t199;
-        const V t206 = c0 * t202;
+        const V t206 = c[-16] * t202;
         const V t207 = t199 - t206;
-        const V t208 = c1 * t201;
+        const V t208 = c[-15] * t201;
         const V t209 = t207 - t208;
         const V t210 = t207 + t208;
         // spectrum block of 3, multiplier 2
         const V t211 = t200 - t204;
-        const V t212 = c0 * t204;
+        const V t212 = c[-16] * t204;
         const V t213 = t212 + t200;
-        const V t214 = c1 * t203;
+        const V t214 = c[-15] * t203;
         const V t215 = t213 - t214;
         const V t216 = t213 + t214;
         // complex block of 2
@@ -369,22 +373,22 @@ struct ComplexGraph<53> {
         const V t219 = t194 - t170;
         const V t220 = t173 + t197;
         // mirrored skew block of 6
-        const V t221 = c0 * t219;
-        const V t222 = c1 * t220;
+        const V t221 = c[-16] * t219;
+        const V t222 = c[-15] * t220;
         const V t223 = t222 + t221;
         // spectrum block of 3, multiplier 2
         const V t224 = t218 + t185;
-        const V t225 = c0 * t218;
+        const V t225 = c[-16] * t218;
         const V t226 = t185 - t225;
-        const V t227 = c1 * t217;
+        const V t227 = c[-15] * t217;
         const V t228 = t226 - t227;
         const V t229 = t226 + t227;
         // spectrum block of 3, multiplier 2
         const V t230 = t223 + t182;
-        const V t231 = c0 * t223;
+        const V t231 = c[-16] * t223;
         const V t232 = t231 - t182;
-        const V t233 = c14 * t219;
-        const V t234 = c15 * t220;
+        const V t233 = c[-2] * t219;
+        const V t234 = c[-1] * t220;
         const V t235 = t233 - t234;
         const V t236 = t232 + t235;
         const V t237 = t232 - t235;
@@ -395,9 +399,9 @@ struct ComplexGraph<53> {
         const V t239 = x38r - x17r;
         const V x37r = io.re(37);
         const V t240 = t238 + x37r;
-        const V t241 = c0 * t238;
+        const V t241 = c[-16] * t238;
         const V t242 = x37r - t241;
-        const V t243 = c1 * t239;
+        const V t243 = c[-15] * t239;
         // real block of 3
         const V x6r = io.re(6);
         const V x4r = io.re(4);
@@ -405,9 +409,9 @@ struct ComplexGraph<53> {
         const V t245 = x6r - x4r;
         const V x11r = io.re(11);
         const V t246 = t244 + x11r;
-        const V t247 = c0 * t244;
+        const V t247 = c[-16] * t244;
         const V t248 = x11r - t247;
-        const V t249 = c1 * t245;
+        const V t249 = c[-15] * t245;
         // real block of 3
         const V x7r = io.re(7);
         const V x25r = io.re(25);
@@ -415,9 +419,9 @@ struct ComplexGraph<53> {
         const V t251 = x7r - x25r;
         const V x43r = io.re(43);
         const V t252 = t250 + x43r;
-        const V t253 = c0 * t250;
+        const V t253 = c[-16] * t250;
         const V t254 = x43r - t253;
-        const V t255 = c1 * t251;
+        const V t255 = c[-15] * t251;
         // real block of 3
         const V x9r = io.re(9);
         const V x40r = io.re(40);
@@ -425,9 +429,9 @@ struct ComplexGraph<53> {
         const V t257 = x9r - x40r;
         const V x29r = io.re(29);
         const V t258 = t256 + x29r;
-        const V t259 = c0 * t256;
+        const V t259 = c[-16] * t256;
         const V t260 = x29r - t259;
-        const V t261 = c1 * t257;
+        const V t261 = c[-15] * t257;
         // real block of 2
         const V t262 = t240 + t252;
         const V t263 = t240 - t252;
@@ -460,39 +464,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x52r = io.re(52);
         const V t284 = x52r + t266;
-        const V t285 = c2 * t266;
+        const V t285 = c[-4] * t266;
         const V t286 = x52r - t285;
-        const V t287 = c3 * t283;
-        const V t288 = c4 * t282;
+        const V t287 = c[-14] * t283;
+        const V t288 = c[-13] * t282;
         const V t289 = t287 - t288;
-        const V t290 = c3 * t282;
-        const V t291 = c4 * t283;
+        const V t290 = c[-14] * t282;
+        const V t291 = c[-13] * t283;
         const V t292 = t291 + t290;
-        const V t293 = c5 * t279;
-        const V t294 = c6 * t278;
+        const V t293 = c[-8] * t279;
+        const V t294 = c[-7] * t278;
         const V t295 = t294 - t293;
-        const V t296 = c5 * t278;
-        const V t297 = c6 * t279;
+        const V t296 = c[-8] * t278;
+        const V t297 = c[-7] * t279;
         const V t298 = t297 + t296;
-        const V t299 = c7 * t265;
-        const V t300 = c8 * t263;
+        const V t299 = c[-12] * t265;
+        const V t300 = c[-11] * t263;
         const V t301 = t300 + t299;
-        const V t302 = c7 * t263;
-        const V t303 = c8 * t265;
+        const V t302 = c[-12] * t263;
+        const V t303 = c[-11] * t265;
         const V t304 = t302 - t303;
-        const V t305 = c9 * t277;
-        const V t306 = c10 * t276;
+        const V t305 = c[-6] * t277;
+        const V t306 = c[-5] * t276;
         const V t307 = t306 + t305;
-        const V t308 = c9 * t276;
-        const V t309 = c10 * t277;
+        const V t308 = c[-6] * t276;
+        const V t309 = c[-5] * t277;
         const V t310 = t309 - t308;
-        const V t311 = c11 * t281;
-        const V t312 = c12 * t280;
+        const V t311 = c[-10] * t281;
+        const V t312 = c[-9] * t280;
         const V t313 = t312 + t311;
-        const V t314 = c11 * t280;
-        const V t315 = c12 * t281;
+        const V t314 = c[-10] * t280;
+        const V t315 = c[-9] * t281;
         const V t316 = t315 - t314;
-        const V t317 = c13 * t267;
+        const V t317 = c[-3] * t267;
         // spectrum block of 2
         const V t318 = t286 + t317;
         const V t319 = t286 - t317;
@@ -503,16 +507,16 @@ struct ComplexGraph<53> {
         const V t323 = t307 + t295;
         // spectrum block of 3, multiplier 2
         const V t324 = t321 + t318;
-        const V t325 = c0 * t321;
+        const V t325 = c[-16] * t321;
         const V t326 = t318 - t325;
-        const V t327 = c1 * t320;
+        const V t327 = c[-15] * t320;
         const V t328 = t326 - t327;
         const V t329 = t326 + t327;
         // spectrum block of 3, multiplier 2
         const V t330 = t319 - t323;
-        const V t331 = c0 * t323;
+        const V t331 = c[-16] * t323;
         const V t332 = t331 + t319;
-        const V t333 = c1 * t322;
+        const V t333 = c[-15] * t322;
         const V t334 = t332 - t333;
         const V t335 = t332 + t333;
         // complex block of 2
@@ -521,22 +525,22 @@ struct ComplexGraph<53> {
         const V t338 = t313 - t289;
         const V t339 = t292 + t316;
         // mirrored skew block of 6
-        const V t340 = c0 * t338;
-        const V t341 = c1 * t339;
+        const V t340 = c[-16] * t338;
+        const V t341 = c[-15] * t339;
         const V t342 = t341 + t340;
         // spectrum block of 3, multiplier 2
         const V t343 = t337 + t304;
-        const V t344 = c0 * t337;
+        const V t344 = c[-16] * t337;
         const V t345 = t304 - t344;
-        const V t346 = c1 * t336;
+        const V t346 = c[-15] * t336;
         const V t347 = t345 - t346;
         const V t348 = t345 + t346;
         // spectrum block of 3, multiplier 2
         const V t349 = t342 + t301;
-        const V t350 = c0 * t342;
+        const V t350 = c[-16] * t342;
         const V t351 = t350 - t301;
-        const V t352 = c14 * t338;
-        const V t353 = c15 * t339;
+        const V t352 = c[-2] * t338;
+        const V t353 = c[-1] * t339;
         const V t354 = t352 - t353;
         const V t355 = t351 + t354;
         const V t356 = t351 - t354;
@@ -547,9 +551,9 @@ struct ComplexGraph<53> {
         const V t358 = x27r - x33r;
         const V x50r = io.re(50);
         const V t359 = t357 + x50r;
-        const V t360 = c0 * t357;
+        const V t360 = c[-16] * t357;
         const V t361 = x50r - t360;
-        const V t362 = c1 * t358;
+        const V t362 = c[-15] * t358;
         // real block of 3
         const V x21r = io.re(21);
         const V x14r = io.re(14);
@@ -557,9 +561,9 @@ struct ComplexGraph<53> {
         const V t364 = x21r - x14r;
         const V x12r = io.re(12);
         const V t365 = t363 + x12r;
-        const V t366 = c0 * t363;
+        const V t366 = c[-16] * t363;
         const V t367 = x12r - t366;
-        const V t368 = c1 * t364;
+        const V t368 = c[-15] * t364;
         // real block of 3
         const V x51r = io.re(51);
         const V x8r = io.re(8);
@@ -567,9 +571,9 @@ struct ComplexGraph<53> {
         const V t370 = x51r - x8r;
         const V x18r = io.re(18);
         const V t371 = t369 + x18r;
-        const V t372 = c0 * t369;
+        const V t372 = c[-16] * t369;
         const V t373 = x18r - t372;
-        const V t374 = c1 * t370;
+        const V t374 = c[-15] * t370;
         // real block of 3
         const V x5r = io.re(5);
         const V x34r = io.re(34);
@@ -577,9 +581,9 @@ struct ComplexGraph<53> {
         const V t376 = x5r - x34r;
         const V x22r = io.re(22);
         const V t377 = t375 + x22r;
-        const V t378 = c0 * t375;
+        const V t378 = c[-16] * t375;
         const V t379 = x22r - t378;
-        const V t380 = c1 * t376;
+        const V t380 = c[-15] * t376;
         // real block of 2
         const V t381 = t359 + t371;
         const V t382 = t359 - t371;
@@ -612,39 +616,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x23r = io.re(23);
         const V t403 = x23r + t385;
-        const V t404 = c2 * t385;
+        const V t404 = c[-4] * t385;
         const V t405 = x23r - t404;
-        const V t406 = c3 * t402;
-        const V t407 = c4 * t401;
+        const V t406 = c[-14] * t402;
+        const V t407 = c[-13] * t401;
         const V t408 = t406 - t407;
-        const V t409 = c3 * t401;
-        const V t410 = c4 * t402;
+        const V t409 = c[-14] * t401;
+        const V t410 = c[-13] * t402;
         const V t411 = t410 + t409;
-        const V t412 = c5 * t398;
-        const V t413 = c6 * t397;
+        const V t412 = c[-8] * t398;
+        const V t413 = c[-7] * t397;
         const V t414 = t413 - t412;
-        const V t415 = c5 * t397;
-        const V t416 = c6 * t398;
+        const V t415 = c[-8] * t397;
+        const V t416 = c[-7] * t398;
         const V t417 = t416 + t415;
-        const V t418 = c7 * t384;
-        const V t419 = c8 * t382;
+        const V t418 = c[-12] * t384;
+        const V t419 = c[-11] * t382;
         const V t420 = t419 + t418;
-        const V t421 = c7 * t382;
-        const V t422 = c8 * t384;
+        const V t421 = c[-12] * t382;
+        const V t422 = c[-11] * t384;
         const V t423 = t421 - t422;
-        const V t424 = c9 * t396;
-        const V t425 = c10 * t395;
+        const V t424 = c[-6] * t396;
+        const V t425 = c[-5] * t395;
         const V t426 = t425 + t424;
-        const V t427 = c9 * t395;
-        const V t428 = c10 * t396;
+        const V t427 = c[-6] * t395;
+        const V t428 = c[-5] * t396;
         const V t429 = t428 - t427;
-        const V t430 = c11 * t400;
-        const V t431 = c12 * t399;
+        const V t430 = c[-10] * t400;
+        const V t431 = c[-9] * t399;
         const V t432 = t431 + t430;
-        const V t433 = c11 * t399;
-        const V t434 = c12 * t400;
+        const V t433 = c[-10] * t399;
+        const V t434 = c[-9] * t400;
         const V t435 = t434 - t433;
-        const V t436 = c13 * t386;
+        const V t436 = c[-3] * t386;
         // spectrum block of 2
         const V t437 = t405 + t436;
         const V t438 = t405 - t436;
@@ -655,16 +659,16 @@ struct ComplexGraph<53> {
         const V t442 = t426 + t414;
         // spectrum block of 3, multiplier 2
         const V t443 = t440 + t437;
-        const V t444 = c0 * t440;
+        const V t444 = c[-16] * t440;
         const V t445 = t437 - t444;
-        const V t446 = c1 * t439;
+        const V t446 = c[-15] * t439;
         const V t447 = t445 - t446;
         const V t448 = t445 + t446;
         // spectrum block of 3, multiplier 2
         const V t449 = t438 - t442;
-        const V t450 = c0 * t442;
+        const V t450 = c[-16] * t442;
         const V t451 = t450 + t438;
-        const V t452 = c1 * t441;
+        const V t452 = c[-15] * t441;
         const V t453 = t451 - t452;
         const V t454 = t451 + t452;
         // complex block of 2
@@ -673,22 +677,22 @@ struct ComplexGraph<53> {
         const V t457 = t432 - t408;
         const V t458 = t411 + t435;
         // mirrored skew block of 6
-        const V t459 = c0 * t457;
-        const V t460 = c1 * t458;
+        const V t459 = c[-16] * t457;
+        const V t460 = c[-15] * t458;
         const V t461 = t460 + t459;
         // spectrum block of 3, multiplier 2
         const V t462 = t456 + t423;
-        const V t463 = c0 * t456;
+        const V t463 = c[-16] * t456;
         const V t464 = t423 - t463;
-        const V t465 = c1 * t455;
+        const V t465 = c[-15] * t455;
         const V t466 = t464 - t465;
         const V t467 = t464 + t465;
         // spectrum block of 3, multiplier 2
         const V t468 = t461 + t420;
-        const V t469 = c0 * t461;
+        const V t469 = c[-16] * t461;
         const V t470 = t469 - t420;
-        const V t471 = c14 * t457;
-        const V t472 = c15 * t458;
+        const V t471 = c[-2] * t457;
+        const V t472 = c[-1] * t458;
         const V t473 = t471 - t472;
         const V t474 = t470 + t473;
         const V t475 = t470 - t473;
@@ -828,9 +832,9 @@ struct ComplexGraph<53> {
         const V t579 = x15i - x36i;
         const V x16i = io.im(16);
         const V t580 = t578 + x16i;
-        const V t581 = c0 * t578;
+        const V t581 = c[-16] * t578;
         const V t582 = x16i - t581;
-        const V t583 = c1 * t579;
+        const V t583 = c[-15] * t579;
         // real block of 3
         const V x47i = io.im(47);
         const V x49i = io.im(49);
@@ -838,9 +842,9 @@ struct ComplexGraph<53> {
         const V t585 = x47i - x49i;
         const V x42i = io.im(42);
         const V t586 = t584 + x42i;
-        const V t587 = c0 * t584;
+        const V t587 = c[-16] * t584;
         const V t588 = x42i - t587;
-        const V t589 = c1 * t585;
+        const V t589 = c[-15] * t585;
         // real block of 3
         const V x46i = io.im(46);
         const V x28i = io.im(28);
@@ -848,9 +852,9 @@ struct ComplexGraph<53> {
         const V t591 = x46i - x28i;
         const V x10i = io.im(10);
         const V t592 = t590 + x10i;
-        const V t593 = c0 * t590;
+        const V t593 = c[-16] * t590;
         const V t594 = x10i - t593;
-        const V t595 = c1 * t591;
+        const V t595 = c[-15] * t591;
         // real block of 3
         const V x44i = io.im(44);
         const V x13i = io.im(13);
@@ -858,9 +862,9 @@ struct ComplexGraph<53> {
         const V t597 = x44i - x13i;
         const V x24i = io.im(24);
         const V t598 = t596 + x24i;
-        const V t599 = c0 * t596;
+        const V t599 = c[-16] * t596;
         const V t600 = x24i - t599;
-        const V t601 = c1 * t597;
+        const V t601 = c[-15] * t597;
         // real block of 2
         const V t602 = t580 + t592;
         const V t603 = t580 - t592;
@@ -893,39 +897,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x1i = io.im(1);
         const V t624 = x1i + t606;
-        const V t625 = c2 * t606;
+        const V t625 = c[-4] * t606;
         const V t626 = x1i - t625;
-        const V t627 = c3 * t623;
-        const V t628 = c4 * t622;
+        const V t627 = c[-14] * t623;
+        const V t628 = c[-13] * t622;
         const V t629 = t627 - t628;
-        const V t630 = c3 * t622;
-        const V t631 = c4 * t623;
+        const V t630 = c[-14] * t622;
+        const V t631 = c[-13] * t623;
         const V t632 = t631 + t630;
-        const V t633 = c5 * t619;
-        const V t634 = c6 * t618;
+        const V t633 = c[-8] * t619;
+        const V t634 = c[-7] * t618;
         const V t635 = t634 - t633;
-        const V t636 = c5 * t618;
-        const V t637 = c6 * t619;
+        const V t636 = c[-8] * t618;
+        const V t637 = c[-7] * t619;
         const V t638 = t637 + t636;
-        const V t639 = c7 * t605;
-        const V t640 = c8 * t603;
+        const V t639 = c[-12] * t605;
+        const V t640 = c[-11] * t603;
         const V t641 = t640 + t639;
-        const V t642 = c7 * t603;
-        const V t643 = c8 * t605;
+        const V t642 = c[-12] * t603;
+        const V t643 = c[-11] * t605;
         const V t644 = t642 - t643;
-        const V t645 = c9 * t617;
-        const V t646 = c10 * t616;
+        const V t645 = c[-6] * t617;
+        const V t646 = c[-5] * t616;
         const V t647 = t646 + t645;
-        const V t648 = c9 * t616;
-        const V t649 = c10 * t617;
+        const V t648 = c[-6] * t616;
+        const V t649 = c[-5] * t617;
         const V t650 = t649 - t648;
-        const V t651 = c11 * t621;
-        const V t652 = c12 * t620;
+        const V t651 = c[-10] * t621;
+        const V t652 = c[-9] * t620;
         const V t653 = t652 + t651;
-        const V t654 = c11 * t620;
-        const V t655 = c12 * t621;
+        const V t654 = c[-10] * t620;
+        const V t655 = c[-9] * t621;
         const V t656 = t655 - t654;
-        const V t657 = c13 * t607;
+        const V t657 = c[-3] * t607;
         // spectrum block of 2
         const V t658 = t626 + t657;
         const V t659 = t626 - t657;
@@ -936,16 +940,16 @@ struct ComplexGraph<53> {
         const V t663 = t647 + t635;
         // spectrum block of 3, multiplier 2
         const V t664 = t661 + t658;
-        const V t665 = c0 * t661;
+        const V t665 = c[-16] * t661;
         const V t666 = t658 - t665;
-        const V t667 = c1 * t660;
+        const V t667 = c[-15] * t660;
         const V t668 = t666 - t667;
         const V t669 = t666 + t667;
         // spectrum block of 3, multiplier 2
         const V t670 = t659 - t663;
-        const V t671 = c0 * t663;
+        const V t671 = c[-16] * t663;
         const V t672 = t671 + t659;
-        const V t673 = c1 * t662;
+        const V t673 = c[-15] * t662;
         const V t674 = t672 - t673;
         const V t675 = t672 + t673;
         // complex block of 2
@@ -954,22 +958,22 @@ struct ComplexGraph<53> {
         const V t678 = t653 - t629;
         const V t679 = t632 + t656;
         // mirrored skew block of 6
-        const V t680 = c0 * t678;
-        const V t681 = c1 * t679;
+        const V t680 = c[-16] * t678;
+        const V t681 = c[-15] * t679;
         const V t682 = t681 + t680;
         // spectrum block of 3, multiplier 2
         const V t683 = t677 + t644;
-        const V t684 = c0 * t677;
+        const V t684 = c[-16] * t677;
         const V t685 = t644 - t684;
-        const V t686 = c1 * t676;
+        const V t686 = c[-15] * t676;
         const V t687 = t685 - t686;
         const V t688 = t685 + t686;
         // spectrum block of 3, multiplier 2
         const V t689 = t682 + t641;
-        const V t690 = c0 * t682;
+        const V t690 = c[-16] * t682;
         const V t691 = t690 - t641;
-        const V t692 = c14 * t678;
-        const V t693 = c15 * t679;
+        const V t692 = c[-2] * t678;
+        const V t693 = c[-1] * t679;
         const V t694 = t692 - t693;
         const V t695 = t691 + t694;
         const V t696 = t691 - t694;
@@ -980,9 +984,9 @@ struct ComplexGraph<53> {
         const V t698 = x26i - x20i;
         const V x3i = io.im(3);
         const V t699 = t697 + x3i;
-        const V t700 = c0 * t697;
+        const V t700 = c[-16] * t697;
         const V t701 = x3i - t700;
-        const V t702 = c1 * t698;
+        const V t702 = c[-15] * t698;
         // real block of 3
         const V x32i = io.im(32);
         const V x39i = io.im(39);
@@ -990,9 +994,9 @@ struct ComplexGraph<53> {
         const V t704 = x32i - x39i;
         const V x41i = io.im(41);
         const V t705 = t703 + x41i;
-        const V t706 = c0 * t703;
+        const V t706 = c[-16] * t703;
         const V t707 = x41i - t706;
-        const V t708 = c1 * t704;
+        const V t708 = c[-15] * t704;
         // real block of 3
         const V x2i = io.im(2);
         const V x45i = io.im(45);
@@ -1000,9 +1004,9 @@ struct ComplexGraph<53> {
         const V t710 = x2i - x45i;
         const V x35i = io.im(35);
         const V t711 = t709 + x35i;
-        const V t712 = c0 * t709;
+        const V t712 = c[-16] * t709;
         const V t713 = x35i - t712;
-        const V t714 = c1 * t710;
+        const V t714 = c[-15] * t710;
         // real block of 3
         const V x48i = io.im(48);
         const V x19i = io.im(19);
@@ -1010,9 +1014,9 @@ struct ComplexGraph<53> {
         const V t716 = x48i - x19i;
         const V x31i = io.im(31);
         const V t717 = t715 + x31i;
-        const V t718 = c0 * t715;
+        const V t718 = c[-16] * t715;
         const V t719 = x31i - t718;
-        const V t720 = c1 * t716;
+        const V t720 = c[-15] * t716;
         // real block of 2
         const V t721 = t699 + t711;
         const V t722 = t699 - t711;
@@ -1045,39 +1049,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x30i = io.im(30);
         const V t743 = x30i + t725;
-        const V t744 = c2 * t725;
+        const V t744 = c[-4] * t725;
         const V t745 = x30i - t744;
-        const V t746 = c3 * t742;
-        const V t747 = c4 * t741;
+        const V t746 = c[-14] * t742;
+        const V t747 = c[-13] * t741;
         const V t748 = t746 - t747;
-        const V t749 = c3 * t741;
-        const V t750 = c4 * t742;
+        const V t749 = c[-14] * t741;
+        const V t750 = c[-13] * t742;
         const V t751 = t750 + t749;
-        const V t752 = c5 * t738;
-        const V t753 = c6 * t737;
+        const V t752 = c[-8] * t738;
+        const V t753 = c[-7] * t737;
         const V t754 = t753 - t752;
-        const V t755 = c5 * t737;
-        const V t756 = c6 * t738;
+        const V t755 = c[-8] * t737;
+        const V t756 = c[-7] * t738;
         const V t757 = t756 + t755;
-        const V t758 = c7 * t724;
-        const V t759 = c8 * t722;
+        const V t758 = c[-12] * t724;
+        const V t759 = c[-11] * t722;
         const V t760 = t759 + t758;
-        const V t761 = c7 * t722;
-        const V t762 = c8 * t724;
+        const V t761 = c[-12] * t722;
+        const V t762 = c[-11] * t724;
         const V t763 = t761 - t762;
-        const V t764 = c9 * t736;
-        const V t765 = c10 * t735;
+        const V t764 = c[-6] * t736;
+        const V t765 = c[-5] * t735;
         const V t766 = t765 + t764;
-        const V t767 = c9 * t735;
-        const V t768 = c10 * t736;
+        const V t767 = c[-6] * t735;
+        const V t768 = c[-5] * t736;
         const V t769 = t768 - t767;
-        const V t770 = c11 * t740;
-        const V t771 = c12 * t739;
+        const V t770 = c[-10] * t740;
+        const V t771 = c[-9] * t739;
         const V t772 = t771 + t770;
-        const V t773 = c11 * t739;
-        const V t774 = c12 * t740;
+        const V t773 = c[-10] * t739;
+        const V t774 = c[-9] * t740;
         const V t775 = t774 - t773;
-        const V t776 = c13 * t726;
+        const V t776 = c[-3] * t726;
         // spectrum block of 2
         const V t777 = t745 + t776;
         const V t778 = t745 - t776;
@@ -1088,16 +1092,16 @@ struct ComplexGraph<53> {
         const V t782 = t766 + t754;
         // spectrum block of 3, multiplier 2
         const V t783 = t780 + t777;
-        const V t784 = c0 * t780;
+        const V t784 = c[-16] * t780;
         const V t785 = t777 - t784;
-        const V t786 = c1 * t779;
+        const V t786 = c[-15] * t779;
         const V t787 = t785 - t786;
         const V t788 = t785 + t786;
         // spectrum block of 3, multiplier 2
         const V t789 = t778 - t782;
-        const V t790 = c0 * t782;
+        const V t790 = c[-16] * t782;
         const V t791 = t790 + t778;
-        const V t792 = c1 * t781;
+        const V t792 = c[-15] * t781;
         const V t793 = t791 - t792;
         const V t794 = t791 + t792;
         // complex block of 2
@@ -1106,22 +1110,22 @@ struct ComplexGraph<53> {
         const V t797 = t772 - t748;
         const V t798 = t751 + t775;
         // mirrored skew block of 6
-        const V t799 = c0 * t797;
-        const V t800 = c1 * t798;
+        const V t799 = c[-16] * t797;
+        const V t800 = c[-15] * t798;
         const V t801 = t800 + t799;
         // spectrum block of 3, multiplier 2
         const V t802 = t796 + t763;
-        const V t803 = c0 * t796;
+        const V t803 = c[-16] * t796;
         const V t804 = t763 - t803;
-        const V t805 = c1 * t795;
+        const V t805 = c[-15] * t795;
         const V t806 = t804 - t805;
         const V t807 = t804 + t805;
         // spectrum block of 3, multiplier 2
         const V t808 = t801 + t760;
-        const V t809 = c0 * t801;
+        const V t809 = c[-16] * t801;
         const V t810 = t809 - t760;
-        const V t811 = c14 * t797;
-        const V t812 = c15 * t798;
+        const V t811 = c[-2] * t797;
+        const V t812 = c[-1] * t798;
         const V t813 = t811 - t812;
         const V t814 = t810 + t813;
         const V t815 = t810 - t813;
@@ -1132,9 +1136,9 @@ struct ComplexGraph<53> {
         const V t817 = x38i - x17i;
         const V x37i = io.im(37);
         const V t818 = t816 + x37i;
-        const V t819 = c0 * t816;
+        const V t819 = c[-16] * t816;
         const V t820 = x37i - t819;
-        const V t821 = c1 * t817;
+        const V t821 = c[-15] * t817;
         // real block of 3
         const V x6i = io.im(6);
         const V x4i = io.im(4);
@@ -1142,9 +1146,9 @@ struct ComplexGraph<53> {
         const V t823 = x6i - x4i;
         const V x11i = io.im(11);
         const V t824 = t822 + x11i;
-        const V t825 = c0 * t822;
+        const V t825 = c[-16] * t822;
         const V t826 = x11i - t825;
-        const V t827 = c1 * t823;
+        const V t827 = c[-15] * t823;
         // real block of 3
         const V x7i = io.im(7);
         const V x25i = io.im(25);
@@ -1152,9 +1156,9 @@ struct ComplexGraph<53> {
         const V t829 = x7i - x25i;
         const V x43i = io.im(43);
         const V t830 = t828 + x43i;
-        const V t831 = c0 * t828;
+        const V t831 = c[-16] * t828;
         const V t832 = x43i - t831;
-        const V t833 = c1 * t829;
+        const V t833 = c[-15] * t829;
         // real block of 3
         const V x9i = io.im(9);
         const V x40i = io.im(40);
@@ -1162,9 +1166,9 @@ struct ComplexGraph<53> {
         const V t835 = x9i - x40i;
         const V x29i = io.im(29);
         const V t836 = t834 + x29i;
-        const V t837 = c0 * t834;
+        const V t837 = c[-16] * t834;
         const V t838 = x29i - t837;
-        const V t839 = c1 * t835;
+        const V t839 = c[-15] * t835;
         // real block of 2
         const V t840 = t818 + t830;
         const V t841 = t818 - t830;
@@ -1197,39 +1201,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x52i = io.im(52);
         const V t862 = x52i + t844;
-        const V t863 = c2 * t844;
+        const V t863 = c[-4] * t844;
         const V t864 = x52i - t863;
-        const V t865 = c3 * t861;
-        const V t866 = c4 * t860;
+        const V t865 = c[-14] * t861;
+        const V t866 = c[-13] * t860;
         const V t867 = t865 - t866;
-        const V t868 = c3 * t860;
-        const V t869 = c4 * t861;
+        const V t868 = c[-14] * t860;
+        const V t869 = c[-13] * t861;
         const V t870 = t869 + t868;
-        const V t871 = c5 * t857;
-        const V t872 = c6 * t856;
+        const V t871 = c[-8] * t857;
+        const V t872 = c[-7] * t856;
         const V t873 = t872 - t871;
-        const V t874 = c5 * t856;
-        const V t875 = c6 * t857;
+        const V t874 = c[-8] * t856;
+        const V t875 = c[-7] * t857;
         const V t876 = t875 + t874;
-        const V t877 = c7 * t843;
-        const V t878 = c8 * t841;
+        const V t877 = c[-12] * t843;
+        const V t878 = c[-11] * t841;
         const V t879 = t878 + t877;
-        const V t880 = c7 * t841;
-        const V t881 = c8 * t843;
+        const V t880 = c[-12] * t841;
+        const V t881 = c[-11] * t843;
         const V t882 = t880 - t881;
-        const V t883 = c9 * t855;
-        const V t884 = c10 * t854;
+        const V t883 = c[-6] * t855;
+        const V t884 = c[-5] * t854;
         const V t885 = t884 + t883;
-        const V t886 = c9 * t854;
-        const V t887 = c10 * t855;
+        const V t886 = c[-6] * t854;
+        const V t887 = c[-5] * t855;
         const V t888 = t887 - t886;
-        const V t889 = c11 * t859;
-        const V t890 = c12 * t858;
+        const V t889 = c[-10] * t859;
+        const V t890 = c[-9] * t858;
         const V t891 = t890 + t889;
-        const V t892 = c11 * t858;
-        const V t893 = c12 * t859;
+        const V t892 = c[-10] * t858;
+        const V t893 = c[-9] * t859;
         const V t894 = t893 - t892;
-        const V t895 = c13 * t845;
+        const V t895 = c[-3] * t845;
         // spectrum block of 2
         const V t896 = t864 + t895;
         const V t897 = t864 - t895;
@@ -1240,16 +1244,16 @@ struct ComplexGraph<53> {
         const V t901 = t885 + t873;
         // spectrum block of 3, multiplier 2
         const V t902 = t899 + t896;
-        const V t903 = c0 * t899;
+        const V t903 = c[-16] * t899;
         const V t904 = t896 - t903;
-        const V t905 = c1 * t898;
+        const V t905 = c[-15] * t898;
         const V t906 = t904 - t905;
         const V t907 = t904 + t905;
         // spectrum block of 3, multiplier 2
         const V t908 = t897 - t901;
-        const V t909 = c0 * t901;
+        const V t909 = c[-16] * t901;
         const V t910 = t909 + t897;
-        const V t911 = c1 * t900;
+        const V t911 = c[-15] * t900;
         const V t912 = t910 - t911;
         const V t913 = t910 + t911;
         // complex block of 2
@@ -1258,22 +1262,22 @@ struct ComplexGraph<53> {
         const V t916 = t891 - t867;
         const V t917 = t870 + t894;
         // mirrored skew block of 6
-        const V t918 = c0 * t916;
-        const V t919 = c1 * t917;
+        const V t918 = c[-16] * t916;
+        const V t919 = c[-15] * t917;
         const V t920 = t919 + t918;
         // spectrum block of 3, multiplier 2
         const V t921 = t915 + t882;
-        const V t922 = c0 * t915;
+        const V t922 = c[-16] * t915;
         const V t923 = t882 - t922;
-        const V t924 = c1 * t914;
+        const V t924 = c[-15] * t914;
         const V t925 = t923 - t924;
         const V t926 = t923 + t924;
         // spectrum block of 3, multiplier 2
         const V t927 = t920 + t879;
-        const V t928 = c0 * t920;
+        const V t928 = c[-16] * t920;
         const V t929 = t928 - t879;
-        const V t930 = c14 * t916;
-        const V t931 = c15 * t917;
+        const V t930 = c[-2] * t916;
+        const V t931 = c[-1] * t917;
         const V t932 = t930 - t931;
         const V t933 = t929 + t932;
         const V t934 = t929 - t932;
@@ -1284,9 +1288,9 @@ struct ComplexGraph<53> {
         const V t936 = x27i - x33i;
         const V x50i = io.im(50);
         const V t937 = t935 + x50i;
-        const V t938 = c0 * t935;
+        const V t938 = c[-16] * t935;
         const V t939 = x50i - t938;
-        const V t940 = c1 * t936;
+        const V t940 = c[-15] * t936;
         // real block of 3
         const V x21i = io.im(21);
         const V x14i = io.im(14);
@@ -1294,9 +1298,9 @@ struct ComplexGraph<53> {
         const V t942 = x21i - x14i;
         const V x12i = io.im(12);
         const V t943 = t941 + x12i;
-        const V t944 = c0 * t941;
+        const V t944 = c[-16] * t941;
         const V t945 = x12i - t944;
-        const V t946 = c1 * t942;
+        const V t946 = c[-15] * t942;
         // real block of 3
         const V x51i = io.im(51);
         const V x8i = io.im(8);
@@ -1304,9 +1308,9 @@ struct ComplexGraph<53> {
         const V t948 = x51i - x8i;
         const V x18i = io.im(18);
         const V t949 = t947 + x18i;
-        const V t950 = c0 * t947;
+        const V t950 = c[-16] * t947;
         const V t951 = x18i - t950;
-        const V t952 = c1 * t948;
+        const V t952 = c[-15] * t948;
         // real block of 3
         const V x5i = io.im(5);
         const V x34i = io.im(34);
@@ -1314,9 +1318,9 @@ struct ComplexGraph<53> {
         const V t954 = x5i - x34i;
         const V x22i = io.im(22);
         const V t955 = t953 + x22i;
-        const V t956 = c0 * t953;
+        const V t956 = c[-16] * t953;
         const V t957 = x22i - t956;
-        const V t958 = c1 * t954;
+        const V t958 = c[-15] * t954;
         // real block of 2
         const V t959 = t937 + t949;
         const V t960 = t937 - t949;
@@ -1349,39 +1353,39 @@ struct ComplexGraph<53> {
         // real block of 13, multiplier 4
         const V x23i = io.im(23);
         const V t981 = x23i + t963;
-        const V t982 = c2 * t963;
+        const V t982 = c[-4] * t963;
         const V t983 = x23i - t982;
-        const V t984 = c3 * t980;
-        const V t985 = c4 * t979;
+        const V t984 = c[-14] * t980;
+        const V t985 = c[-13] * t979;
         const V t986 = t984 - t985;
-        const V t987 = c3 * t979;
-        const V t988 = c4 * t980;
+        const V t987 = c[-14] * t979;
+        const V t988 = c[-13] * t980;
         const V t989 = t988 + t987;
-        const V t990 = c5 * t976;
-        const V t991 = c6 * t975;
+        const V t990 = c[-8] * t976;
+        const V t991 = c[-7] * t975;
         const V t992 = t991 - t990;
-        const V t993 = c5 * t975;
-        const V t994 = c6 * t976;
+        const V t993 = c[-8] * t975;
+        const V t994 = c[-7] * t976;
         const V t995 = t994 + t993;
-        const V t996 = c7 * t962;
-        const V t997 = c8 * t960;
+        const V t996 = c[-12] * t962;
+        const V t997 = c[-11] * t960;
         const V t998 = t997 + t996;
-        const V t999 = c7 * t960;
-        const V t1000 = c8 * t962;
+        const V t999 = c[-12] * t960;
+        const V t1000 = c[-11] * t962;
         const V t1001 = t999 - t1000;
-        const V t1002 = c9 * t974;
-        const V t1003 = c10 * t973;
+        const V t1002 = c[-6] * t974;
+        const V t1003 = c[-5] * t973;
         const V t1004 = t1003 + t1002;
-        const V t1005 = c9 * t973;
-        const V t1006 = c10 * t974;
+        const V t1005 = c[-6] * t973;
+        const V t1006 = c[-5] * t974;
         const V t1007 = t1006 - t1005;
-        const V t1008 = c11 * t978;
-        const V t1009 = c12 * t977;
+        const V t1008 = c[-10] * t978;
+        const V t1009 = c[-9] * t977;
         const V t1010 = t1009 + t1008;
-        const V t1011 = c11 * t977;
-        const V t1012 = c12 * t978;
+        const V t1011 = c[-10] * t977;
+        const V t1012 = c[-9] * t978;
         const V t1013 = t1012 - t1011;
-        const V t1014 = c13 * t964;
+        const V t1014 = c[-3] * t964;
         // spectrum block of 2
         const V t1015 = t983 + t1014;
         const V t1016 = t983 - t1014;
@@ -1392,16 +1396,16 @@ struct ComplexGraph<53> {
         const V t1020 = t1004 + t992;
         // spectrum block of 3, multiplier 2
         const V t1021 = t1018 + t1015;
-        const V t1022 = c0 * t1018;
+        const V t1022 = c[-16] * t1018;
         const V t1023 = t1015 - t1022;
-        const V t1024 = c1 * t1017;
+        const V t1024 = c[-15] * t1017;
         const V t1025 = t1023 - t1024;
         const V t1026 = t1023 + t1024;
         // spectrum block of 3, multiplier 2
         const V t1027 = t1016 - t1020;
-        const V t1028 = c0 * t1020;
+        const V t1028 = c[-16] * t1020;
         const V t1029 = t1028 + t1016;
-        const V t1030 = c1 * t1019;
+        const V t1030 = c[-15] * t1019;
         const V t1031 = t1029 - t1030;
         const V t1032 = t1029 + t1030;
         // complex block of 2
@@ -1410,22 +1414,22 @@ struct ComplexGraph<53> {
         const V t1035 = t1010 - t986;
         const V t1036 = t989 + t1013;
         // mirrored skew block of 6
-        const V t1037 = c0 * t1035;
-        const V t1038 = c1 * t1036;
+        const V t1037 = c[-16] * t1035;
+        const V t1038 = c[-15] * t1036;
         const V t1039 = t1038 + t1037;
         // spectrum block of 3, multiplier 2
         const V t1040 = t1034 + t1001;
-        const V t1041 = c0 * t1034;
+        const V t1041 = c[-16] * t1034;
         const V t1042 = t1001 - t1041;
-        const V t1043 = c1 * t1033;
+        const V t1043 = c[-15] * t1033;
         const V t1044 = t1042 - t1043;
         const V t1045 = t1042 + t1043;
         // spectrum block of 3, multiplier 2
         const V t1046 = t1039 + t998;
-        const V t1047 = c0 * t1039;
+        const V t1047 = c[-16] * t1039;
         const V t1048 = t1047 - t998;
-        const V t1049 = c14 * t1035;
-        const V t1050 = c15 * t1036;
+        const V t1049 = c[-2] * t1035;
+        const V t1050 = c[-1] * t1036;
         const V t1051 = t1049 - t1050;
         const V t1052 = t1048 + t1051;
         const V t1053 = t1048 - t1051;
@@ -1565,326 +1569,326 @@ struct ComplexGraph<53> {
         io.re(0, t1156);
         const V t1157 = x0i + t1058;
         io.im(0, t1157);
-        const V t1158 = c16 * t480;
+        const V t1158 = c[54] * t480;
         const V t1159 = x0r - t1158;
-        const V t1160 = c16 * t1058;
+        const V t1160 = c[54] * t1058;
         const V t1161 = x0i - t1160;
-        const V t1162 = c17 * t1107;
-        const V t1163 = c18 * t1106;
+        const V t1162 = c[4] * t1107;
+        const V t1163 = c[5] * t1106;
         const V t1164 = t1163 + t1162;
-        const V t1165 = c17 * t1106;
-        const V t1166 = c18 * t1107;
+        const V t1165 = c[4] * t1106;
+        const V t1166 = c[5] * t1107;
         const V t1167 = t1165 - t1166;
-        const V t1168 = c17 * t529;
-        const V t1169 = c18 * t528;
+        const V t1168 = c[4] * t529;
+        const V t1169 = c[5] * t528;
         const V t1170 = t1169 + t1168;
-        const V t1171 = c17 * t528;
-        const V t1172 = c18 * t529;
+        const V t1171 = c[4] * t528;
+        const V t1172 = c[5] * t529;
         const V t1173 = t1172 - t1171;
-        const V t1174 = c19 * t573;
-        const V t1175 = c20 * t572;
+        const V t1174 = c[6] * t573;
+        const V t1175 = c[7] * t572;
         const V t1176 = t1175 - t1174;
-        const V t1177 = c19 * t572;
-        const V t1178 = c20 * t573;
+        const V t1177 = c[6] * t572;
+        const V t1178 = c[7] * t573;
         const V t1179 = t1178 + t1177;
-        const V t1180 = c19 * t1151;
-        const V t1181 = c20 * t1150;
+        const V t1180 = c[6] * t1151;
+        const V t1181 = c[7] * t1150;
         const V t1182 = t1181 - t1180;
-        const V t1183 = c19 * t1150;
-        const V t1184 = c20 * t1151;
+        const V t1183 = c[6] * t1150;
+        const V t1184 = c[7] * t1151;
         const V t1185 = t1184 + t1183;
-        const V t1186 = c21 * t1123;
-        const V t1187 = c22 * t1122;
+        const V t1186 = c[8] * t1123;
+        const V t1187 = c[9] * t1122;
         const V t1188 = t1187 - t1186;
-        const V t1189 = c21 * t1122;
-        const V t1190 = c22 * t1123;
+        const V t1189 = c[8] * t1122;
+        const V t1190 = c[9] * t1123;
         const V t1191 = t1190 + t1189;
-        const V t1192 = c21 * t545;
-        const V t1193 = c22 * t544;
+        const V t1192 = c[8] * t545;
+        const V t1193 = c[9] * t544;
         const V t1194 = t1192 - t1193;
-        const V t1195 = c21 * t544;
-        const V t1196 = c22 * t545;
+        const V t1195 = c[8] * t544;
+        const V t1196 = c[9] * t545;
         const V t1197 = t1196 + t1195;
-        const V t1198 = c23 * t491;
-        const V t1199 = c24 * t490;
+        const V t1198 = c[10] * t491;
+        const V t1199 = c[11] * t490;
         const V t1200 = t1199 - t1198;
-        const V t1201 = c23 * t490;
-        const V t1202 = c24 * t491;
+        const V t1201 = c[10] * t490;
+        const V t1202 = c[11] * t491;
         const V t1203 = t1202 + t1201;
-        const V t1204 = c23 * t1069;
-        const V t1205 = c24 * t1068;
+        const V t1204 = c[10] * t1069;
+        const V t1205 = c[11] * t1068;
         const V t1206 = t1205 - t1204;
-        const V t1207 = c23 * t1068;
-        const V t1208 = c24 * t1069;
+        const V t1207 = c[10] * t1068;
+        const V t1208 = c[11] * t1069;
         const V t1209 = t1208 + t1207;
-        const V t1210 = c25 * t1091;
-        const V t1211 = c26 * t1090;
+        const V t1210 = c[12] * t1091;
+        const V t1211 = c[13] * t1090;
         const V t1212 = t1210 - t1211;
-        const V t1213 = c25 * t1090;
-        const V t1214 = c26 * t1091;
+        const V t1213 = c[12] * t1090;
+        const V t1214 = c[13] * t1091;
         const V t1215 = t1214 + t1213;
-        const V t1216 = c25 * t513;
-        const V t1217 = c26 * t512;
+        const V t1216 = c[12] * t513;
+        const V t1217 = c[13] * t512;
         const V t1218 = t1217 - t1216;
-        const V t1219 = c25 * t512;
-        const V t1220 = c26 * t513;
+        const V t1219 = c[12] * t512;
+        const V t1220 = c[13] * t513;
         const V t1221 = t1220 + t1219;
-        const V t1222 = c27 * t557;
-        const V t1223 = c28 * t556;
+        const V t1222 = c[14] * t557;
+        const V t1223 = c[15] * t556;
         const V t1224 = t1223 + t1222;
-        const V t1225 = c27 * t556;
-        const V t1226 = c28 * t557;
+        const V t1225 = c[14] * t556;
+        const V t1226 = c[15] * t557;
         const V t1227 = t1225 - t1226;
-        const V t1228 = c27 * t1135;
-        const V t1229 = c28 * t1134;
+        const V t1228 = c[14] * t1135;
+        const V t1229 = c[15] * t1134;
         const V t1230 = t1229 + t1228;
-        const V t1231 = c27 * t1134;
-        const V t1232 = c28 * t1135;
+        const V t1231 = c[14] * t1134;
+        const V t1232 = c[15] * t1135;
         const V t1233 = t1231 - t1232;
-        const V t1234 = c29 * t1139;
-        const V t1235 = c30 * t1138;
+        const V t1234 = c[16] * t1139;
+        const V t1235 = c[17] * t1138;
         const V t1236 = t1235 + t1234;
-        const V t1237 = c29 * t1138;
-        const V t1238 = c30 * t1139;
+        const V t1237 = c[16] * t1138;
+        const V t1238 = c[17] * t1139;
         const V t1239 = t1237 - t1238;
-        const V t1240 = c29 * t561;
-        const V t1241 = c30 * t560;
+        const V t1240 = c[16] * t561;
+        const V t1241 = c[17] * t560;
         const V t1242 = t1241 + t1240;
-        const V t1243 = c29 * t560;
-        const V t1244 = c30 * t561;
+        const V t1243 = c[16] * t560;
+        const V t1244 = c[17] * t561;
         const V t1245 = t1244 - t1243;
-        const V t1246 = c31 * t507;
-        const V t1247 = c32 * t506;
+        const V t1246 = c[18] * t507;
+        const V t1247 = c[19] * t506;
         const V t1248 = t1247 + t1246;
-        const V t1249 = c31 * t506;
-        const V t1250 = c32 * t507;
+        const V t1249 = c[18] * t506;
+        const V t1250 = c[19] * t507;
         const V t1251 = t1249 - t1250;
-        const V t1252 = c31 * t1085;
-        const V t1253 = c32 * t1084;
+        const V t1252 = c[18] * t1085;
+        const V t1253 = c[19] * t1084;
         const V t1254 = t1253 + t1252;
-        const V t1255 = c31 * t1084;
-        const V t1256 = c32 * t1085;
+        const V t1255 = c[18] * t1084;
+        const V t1256 = c[19] * t1085;
         const V t1257 = t1255 - t1256;
-        const V t1258 = c33 * t1075;
-        const V t1259 = c34 * t1074;
+        const V t1258 = c[20] * t1075;
+        const V t1259 = c[21] * t1074;
         const V t1260 = t1258 - t1259;
-        const V t1261 = c33 * t1074;
-        const V t1262 = c34 * t1075;
+        const V t1261 = c[20] * t1074;
+        const V t1262 = c[21] * t1075;
         const V t1263 = t1262 + t1261;
-        const V t1264 = c33 * t497;
-        const V t1265 = c34 * t496;
+        const V t1264 = c[20] * t497;
+        const V t1265 = c[21] * t496;
         const V t1266 = t1265 - t1264;
-        const V t1267 = c33 * t496;
-        const V t1268 = c34 * t497;
+        const V t1267 = c[20] * t496;
+        const V t1268 = c[21] * t497;
         const V t1269 = t1268 + t1267;
-        const V t1270 = c35 * t541;
-        const V t1271 = c36 * t540;
+        const V t1270 = c[22] * t541;
+        const V t1271 = c[23] * t540;
         const V t1272 = t1270 - t1271;
-        const V t1273 = c35 * t540;
-        const V t1274 = c36 * t541;
+        const V t1273 = c[22] * t540;
+        const V t1274 = c[23] * t541;
         const V t1275 = t1274 + t1273;
-        const V t1276 = c35 * t1119;
-        const V t1277 = c36 * t1118;
+        const V t1276 = c[22] * t1119;
+        const V t1277 = c[23] * t1118;
         const V t1278 = t1276 - t1277;
-        const V t1279 = c35 * t1118;
-        const V t1280 = c36 * t1119;
+        const V t1279 = c[22] * t1118;
+        const V t1280 = c[23] * t1119;
         const V t1281 = t1280 + t1279;
-        const V t1282 = c37 * t1155;
-        const V t1283 = c38 * t1154;
+        const V t1282 = c[24] * t1155;
+        const V t1283 = c[25] * t1154;
         const V t1284 = t1283 - t1282;
-        const V t1285 = c37 * t1154;
-        const V t1286 = c38 * t1155;
+        const V t1285 = c[24] * t1154;
+        const V t1286 = c[25] * t1155;
         const V t1287 = t1286 + t1285;
-        const V t1288 = c37 * t577;
-        const V t1289 = c38 * t576;
+        const V t1288 = c[24] * t577;
+        const V t1289 = c[25] * t576;
         const V t1290 = t1288 - t1289;
-        const V t1291 = c37 * t576;
-        const V t1292 = c38 * t577;
+        const V t1291 = c[24] * t576;
+        const V t1292 = c[25] * t577;
         const V t1293 = t1292 + t1291;
-        const V t1294 = c39 * t523;
-        const V t1295 = c40 * t522;
+        const V t1294 = c[26] * t523;
+        const V t1295 = c[27] * t522;
         const V t1296 = t1295 - t1294;
-        const V t1297 = c39 * t522;
-        const V t1298 = c40 * t523;
+        const V t1297 = c[26] * t522;
+        const V t1298 = c[27] * t523;
         const V t1299 = t1298 + t1297;
-        const V t1300 = c39 * t1101;
-        const V t1301 = c40 * t1100;
+        const V t1300 = c[26] * t1101;
+        const V t1301 = c[27] * t1100;
         const V t1302 = t1301 - t1300;
-        const V t1303 = c39 * t1100;
-        const V t1304 = c40 * t1101;
+        const V t1303 = c[26] * t1100;
+        const V t1304 = c[27] * t1101;
         const V t1305 = t1304 + t1303;
-        const V t1306 = c41 * t1057;
-        const V t1307 = c42 * t1055;
+        const V t1306 = c[28] * t1057;
+        const V t1307 = c[29] * t1055;
         const V t1308 = t1307 + t1306;
-        const V t1309 = c41 * t1055;
-        const V t1310 = c42 * t1057;
+        const V t1309 = c[28] * t1055;
+        const V t1310 = c[29] * t1057;
         const V t1311 = t1310 - t1309;
-        const V t1312 = c41 * t479;
-        const V t1313 = c42 * t477;
+        const V t1312 = c[28] * t479;
+        const V t1313 = c[29] * t477;
         const V t1314 = t1313 + t1312;
-        const V t1315 = c41 * t477;
-        const V t1316 = c42 * t479;
+        const V t1315 = c[28] * t477;
+        const V t1316 = c[29] * t479;
         const V t1317 = t1315 - t1316;
-        const V t1318 = c43 * t525;
-        const V t1319 = c44 * t524;
+        const V t1318 = c[30] * t525;
+        const V t1319 = c[31] * t524;
         const V t1320 = t1319 - t1318;
-        const V t1321 = c43 * t524;
-        const V t1322 = c44 * t525;
+        const V t1321 = c[30] * t524;
+        const V t1322 = c[31] * t525;
         const V t1323 = t1322 + t1321;
-        const V t1324 = c43 * t1103;
-        const V t1325 = c44 * t1102;
+        const V t1324 = c[30] * t1103;
+        const V t1325 = c[31] * t1102;
         const V t1326 = t1325 - t1324;
-        const V t1327 = c43 * t1102;
-        const V t1328 = c44 * t1103;
+        const V t1327 = c[30] * t1102;
+        const V t1328 = c[31] * t1103;
         const V t1329 = t1328 + t1327;
-        const V t1330 = c45 * t1153;
-        const V t1331 = c46 * t1152;
+        const V t1330 = c[32] * t1153;
+        const V t1331 = c[33] * t1152;
         const V t1332 = t1331 - t1330;
-        const V t1333 = c45 * t1152;
-        const V t1334 = c46 * t1153;
+        const V t1333 = c[32] * t1152;
+        const V t1334 = c[33] * t1153;
         const V t1335 = t1334 + t1333;
-        const V t1336 = c45 * t575;
-        const V t1337 = c46 * t574;
+        const V t1336 = c[32] * t575;
+        const V t1337 = c[33] * t574;
         const V t1338 = t1336 - t1337;
-        const V t1339 = c45 * t574;
-        const V t1340 = c46 * t575;
+        const V t1339 = c[32] * t574;
+        const V t1340 = c[33] * t575;
         const V t1341 = t1340 + t1339;
-        const V t1342 = c47 * t539;
-        const V t1343 = c48 * t538;
+        const V t1342 = c[34] * t539;
+        const V t1343 = c[35] * t538;
         const V t1344 = t1342 - t1343;
-        const V t1345 = c47 * t538;
-        const V t1346 = c48 * t539;
+        const V t1345 = c[34] * t538;
+        const V t1346 = c[35] * t539;
         const V t1347 = t1346 + t1345;
-        const V t1348 = c47 * t1117;
-        const V t1349 = c48 * t1116;
+        const V t1348 = c[34] * t1117;
+        const V t1349 = c[35] * t1116;
         const V t1350 = t1348 - t1349;
-        const V t1351 = c47 * t1116;
-        const V t1352 = c48 * t1117;
+        const V t1351 = c[34] * t1116;
+        const V t1352 = c[35] * t1117;
         const V t1353 = t1352 + t1351;
-        const V t1354 = c49 * t1073;
-        const V t1355 = c50 * t1072;
+        const V t1354 = c[36] * t1073;
+        const V t1355 = c[37] * t1072;
         const V t1356 = t1355 - t1354;
-        const V t1357 = c49 * t1072;
-        const V t1358 = c50 * t1073;
+        const V t1357 = c[36] * t1072;
+        const V t1358 = c[37] * t1073;
         const V t1359 = t1358 + t1357;
-        const V t1360 = c49 * t495;
-        const V t1361 = c50 * t494;
+        const V t1360 = c[36] * t495;
+        const V t1361 = c[37] * t494;
         const V t1362 = t1360 - t1361;
-        const V t1363 = c49 * t494;
-        const V t1364 = c50 * t495;
+        const V t1363 = c[36] * t494;
+        const V t1364 = c[37] * t495;
         const V t1365 = t1364 + t1363;
-        const V t1366 = c51 * t509;
-        const V t1367 = c52 * t508;
+        const V t1366 = c[38] * t509;
+        const V t1367 = c[39] * t508;
         const V t1368 = t1367 + t1366;
-        const V t1369 = c51 * t508;
-        const V t1370 = c52 * t509;
+        const V t1369 = c[38] * t508;
+        const V t1370 = c[39] * t509;
         const V t1371 = t1369 - t1370;
-        const V t1372 = c51 * t1087;
-        const V t1373 = c52 * t1086;
+        const V t1372 = c[38] * t1087;
+        const V t1373 = c[39] * t1086;
         const V t1374 = t1373 + t1372;
-        const V t1375 = c51 * t1086;
-        const V t1376 = c52 * t1087;
+        const V t1375 = c[38] * t1086;
+        const V t1376 = c[39] * t1087;
         const V t1377 = t1375 - t1376;
-        const V t1378 = c53 * t1137;
-        const V t1379 = c54 * t1136;
+        const V t1378 = c[40] * t1137;
+        const V t1379 = c[41] * t1136;
         const V t1380 = t1378 - t1379;
-        const V t1381 = c53 * t1136;
-        const V t1382 = c54 * t1137;
+        const V t1381 = c[40] * t1136;
+        const V t1382 = c[41] * t1137;
         const V t1383 = t1382 + t1381;
-        const V t1384 = c53 * t559;
-        const V t1385 = c54 * t558;
+        const V t1384 = c[40] * t559;
+        const V t1385 = c[41] * t558;
         const V t1386 = t1385 - t1384;
-        const V t1387 = c53 * t558;
-        const V t1388 = c54 * t559;
+        const V t1387 = c[40] * t558;
+        const V t1388 = c[41] * t559;
         const V t1389 = t1388 + t1387;
-        const V t1390 = c55 * t555;
-        const V t1391 = c56 * t554;
+        const V t1390 = c[42] * t555;
+        const V t1391 = c[43] * t554;
         const V t1392 = t1391 + t1390;
-        const V t1393 = c55 * t554;
-        const V t1394 = c56 * t555;
+        const V t1393 = c[42] * t554;
+        const V t1394 = c[43] * t555;
         const V t1395 = t1393 - t1394;
-        const V t1396 = c55 * t1133;
-        const V t1397 = c56 * t1132;
+        const V t1396 = c[42] * t1133;
+        const V t1397 = c[43] * t1132;
         const V t1398 = t1397 + t1396;
-        const V t1399 = c55 * t1132;
-        const V t1400 = c56 * t1133;
+        const V t1399 = c[42] * t1132;
+        const V t1400 = c[43] * t1133;
         const V t1401 = t1399 - t1400;
-        const V t1402 = c57 * t1089;
-        const V t1403 = c58 * t1088;
+        const V t1402 = c[44] * t1089;
+        const V t1403 = c[45] * t1088;
         const V t1404 = t1403 + t1402;
-        const V t1405 = c57 * t1088;
-        const V t1406 = c58 * t1089;
+        const V t1405 = c[44] * t1088;
+        const V t1406 = c[45] * t1089;
         const V t1407 = t1406 - t1405;
-        const V t1408 = c57 * t511;
-        const V t1409 = c58 * t510;
+        const V t1408 = c[44] * t511;
+        const V t1409 = c[45] * t510;
         const V t1410 = t1409 + t1408;
-        const V t1411 = c57 * t510;
-        const V t1412 = c58 * t511;
+        const V t1411 = c[44] * t510;
+        const V t1412 = c[45] * t511;
         const V t1413 = t1411 - t1412;
-        const V t1414 = c59 * t493;
-        const V t1415 = c60 * t492;
+        const V t1414 = c[46] * t493;
+        const V t1415 = c[47] * t492;
         const V t1416 = t1415 + t1414;
-        const V t1417 = c59 * t492;
-        const V t1418 = c60 * t493;
+        const V t1417 = c[46] * t492;
+        const V t1418 = c[47] * t493;
         const V t1419 = t1417 - t1418;
-        const V t1420 = c59 * t1071;
-        const V t1421 = c60 * t1070;
+        const V t1420 = c[46] * t1071;
+        const V t1421 = c[47] * t1070;
         const V t1422 = t1421 + t1420;
-        const V t1423 = c59 * t1070;
-        const V t1424 = c60 * t1071;
+        const V t1423 = c[46] * t1070;
+        const V t1424 = c[47] * t1071;
         const V t1425 = t1423 - t1424;
-        const V t1426 = c61 * t1121;
-        const V t1427 = c62 * t1120;
+        const V t1426 = c[48] * t1121;
+        const V t1427 = c[49] * t1120;
         const V t1428 = t1426 - t1427;
-        const V t1429 = c61 * t1120;
-        const V t1430 = c62 * t1121;
+        const V t1429 = c[48] * t1120;
+        const V t1430 = c[49] * t1121;
         const V t1431 = t1430 + t1429;
-        const V t1432 = c61 * t543;
-        const V t1433 = c62 * t542;
+        const V t1432 = c[48] * t543;
+        const V t1433 = c[49] * t542;
         const V t1434 = t1433 - t1432;
-        const V t1435 = c61 * t542;
-        const V t1436 = c62 * t543;
+        const V t1435 = c[48] * t542;
+        const V t1436 = c[49] * t543;
         const V t1437 = t1436 + t1435;
-        const V t1438 = c63 * t571;
-        const V t1439 = c64 * t570;
+        const V t1438 = c[50] * t571;
+        const V t1439 = c[51] * t570;
         const V t1440 = t1439 + t1438;
-        const V t1441 = c63 * t570;
-        const V t1442 = c64 * t571;
+        const V t1441 = c[50] * t570;
+        const V t1442 = c[51] * t571;
         const V t1443 = t1442 - t1441;
-        const V t1444 = c63 * t1149;
-        const V t1445 = c64 * t1148;
+        const V t1444 = c[50] * t1149;
+        const V t1445 = c[51] * t1148;
         const V t1446 = t1445 + t1444;
-        const V t1447 = c63 * t1148;
-        const V t1448 = c64 * t1149;
+        const V t1447 = c[50] * t1148;
+        const V t1448 = c[51] * t1149;
         const V t1449 = t1448 - t1447;
-        const V t1450 = c65 * t1105;
-        const V t1451 = c66 * t1104;
+        const V t1450 = c[52] * t1105;
+        const V t1451 = c[53] * t1104;
         const V t1452 = t1451 + t1450;
-        const V t1453 = c65 * t1104;
-        const V t1454 = c66 * t1105;
+        const V t1453 = c[52] * t1104;
+        const V t1454 = c[53] * t1105;
         const V t1455 = t1454 - t1453;
-        const V t1456 = c65 * t527;
-        const V t1457 = c66 * t526;
+        const V t1456 = c[52] * t527;
+        const V t1457 = c[53] * t526;
         const V t1458 = t1457 + t1456;
-        const V t1459 = c65 * t526;
-        const V t1460 = c66 * t527;
+        const V t1459 = c[52] * t526;
+        const V t1460 = c[53] * t527;
         const V t1461 = t1459 - t1460;
-        const V t1462 = c67 * t481;
-        const V t1463 = c67 * t1059;
+        const V t1462 = c[55] * t481;
+        const V t1463 = c[55] * t1059;
         // real block of 3, multiplier 2
         const V t1464 = t1344 + t1296;
         const V t1465 = t1344 - t1296;
         const V t1466 = t1464 + t1200;
-        const V t1467 = c0 * t1464;
+        const V t1467 = c[-16] * t1464;
         const V t1468 = t1200 - t1467;
-        const V t1469 = c1 * t1465;
+        const V t1469 = c[-15] * t1465;
         // real block of 3, multiplier 2
         const V t1470 = t1440 + t1248;
         const V t1471 = t1440 - t1248;
         const V t1472 = t1470 + t1392;
-        const V t1473 = c0 * t1470;
+        const V t1473 = c[-16] * t1470;
         const V t1474 = t1392 - t1473;
-        const V t1475 = c1 * t1471;
+        const V t1475 = c[-15] * t1471;
         // real block of 2
         const V t1476 = t1466 + t1472;
         const V t1477 = t1466 - t1472;
@@ -1894,17 +1898,17 @@ struct ComplexGraph<53> {
         const V t1480 = t1468 - t1474;
         const V t1481 = t1469 - t1475;
         // skew block of 6
-        const V t1482 = c0 * t1299;
-        const V t1483 = c1 * t1251;
+        const V t1482 = c[-16] * t1299;
+        const V t1483 = c[-15] * t1251;
         const V t1484 = t1483 - t1482;
-        const V t1485 = c0 * t1251;
-        const V t1486 = c1 * t1299;
+        const V t1485 = c[-16] * t1251;
+        const V t1486 = c[-15] * t1299;
         const V t1487 = t1486 + t1485;
-        const V t1488 = c1 * t1443;
-        const V t1489 = c0 * t1347;
+        const V t1488 = c[-15] * t1443;
+        const V t1489 = c[-16] * t1347;
         const V t1490 = t1489 - t1488;
-        const V t1491 = c1 * t1347;
-        const V t1492 = c0 * t1443;
+        const V t1491 = c[-15] * t1347;
+        const V t1492 = c[-16] * t1443;
         const V t1493 = t1492 + t1491;
         // complex block of 3
         const V t1494 = t1484 + t1490;
@@ -1913,50 +1917,50 @@ struct ComplexGraph<53> {
         const V t1497 = t1493 - t1487;
         const V t1498 = t1494 + t1203;
         const V t1499 = t1395 - t1495;
-        const V t1500 = c0 * t1494;
+        const V t1500 = c[-16] * t1494;
         const V t1501 = t1203 - t1500;
-        const V t1502 = c0 * t1495;
+        const V t1502 = c[-16] * t1495;
         const V t1503 = t1502 + t1395;
-        const V t1504 = c1 * t1496;
-        const V t1505 = c1 * t1497;
+        const V t1504 = c[-15] * t1496;
+        const V t1505 = c[-15] * t1497;
         const V t1506 = t1501 + t1505;
         const V t1507 = t1503 - t1504;
         const V t1508 = t1501 - t1505;
         const V t1509 = t1503 + t1504;
         // spectrum block of 13, multiplier 4
-        const V t1510 = c2 * t1476;
+        const V t1510 = c[-4] * t1476;
         const V t1511 = t1159 - t1510;
-        const V t1512 = c4 * t1499;
-        const V t1513 = c3 * t1498;
+        const V t1512 = c[-13] * t1499;
+        const V t1513 = c[-14] * t1498;
         const V t1514 = t1513 + t1512;
-        const V t1515 = c4 * t1498;
-        const V t1516 = c3 * t1499;
+        const V t1515 = c[-13] * t1498;
+        const V t1516 = c[-14] * t1499;
         const V t1517 = t1515 - t1516;
-        const V t1518 = c5 * t1481;
-        const V t1519 = c6 * t1480;
+        const V t1518 = c[-8] * t1481;
+        const V t1519 = c[-7] * t1480;
         const V t1520 = t1519 - t1518;
-        const V t1521 = c8 * t1509;
-        const V t1522 = c7 * t1508;
+        const V t1521 = c[-11] * t1509;
+        const V t1522 = c[-12] * t1508;
         const V t1523 = t1522 + t1521;
-        const V t1524 = c8 * t1508;
-        const V t1525 = c7 * t1509;
+        const V t1524 = c[-11] * t1508;
+        const V t1525 = c[-12] * t1509;
         const V t1526 = t1524 - t1525;
-        const V t1527 = c9 * t1479;
-        const V t1528 = c10 * t1478;
+        const V t1527 = c[-6] * t1479;
+        const V t1528 = c[-5] * t1478;
         const V t1529 = t1527 - t1528;
-        const V t1530 = c12 * t1507;
-        const V t1531 = c11 * t1506;
+        const V t1530 = c[-9] * t1507;
+        const V t1531 = c[-10] * t1506;
         const V t1532 = t1531 + t1530;
-        const V t1533 = c12 * t1506;
-        const V t1534 = c11 * t1507;
+        const V t1533 = c[-9] * t1506;
+        const V t1534 = c[-10] * t1507;
         const V t1535 = t1533 - t1534;
-        const V t1536 = c13 * t1477;
+        const V t1536 = c[-3] * t1477;
         // spectrum block of 3
         const V t1537 = t1529 + t1511;
-        const V t1538 = c0 * t1529;
+        const V t1538 = c[-16] * t1529;
         const V t1539 = t1511 - t1538;
-        const V t1540 = c68 * t1479;
-        const V t1541 = c69 * t1478;
+        const V t1540 = c[0] * t1479;
+        const V t1541 = c[1] * t1478;
         const V t1542 = t1540 + t1541;
         const V t1543 = t1539 + t1542;
         const V t1544 = t1539 - t1542;
@@ -1967,22 +1971,22 @@ struct ComplexGraph<53> {
         const V t1548 = t1514 - t1532;
         const V t1549 = t1526 - t1545;
         const V t1550 = t1523 - t1546;
-        const V t1551 = c0 * t1545;
+        const V t1551 = c[-16] * t1545;
         const V t1552 = t1551 + t1526;
-        const V t1553 = c0 * t1546;
+        const V t1553 = c[-16] * t1546;
         const V t1554 = t1553 + t1523;
-        const V t1555 = c1 * t1547;
-        const V t1556 = c1 * t1548;
+        const V t1555 = c[-15] * t1547;
+        const V t1556 = c[-15] * t1548;
         const V t1557 = t1552 + t1556;
         const V t1558 = t1554 - t1555;
         const V t1559 = t1552 - t1556;
         const V t1560 = t1554 + t1555;
         // spectrum block of 3
         const V t1561 = t1520 + t1536;
-        const V t1562 = c0 * t1520;
+        const V t1562 = c[-16] * t1520;
         const V t1563 = t1536 - t1562;
-        const V t1564 = c70 * t1481;
-        const V t1565 = c71 * t1480;
+        const V t1564 = c[2] * t1481;
+        const V t1565 = c[3] * t1480;
         const V t1566 = t1564 + t1565;
         const V t1567 = t1563 - t1566;
         const V t1568 = t1563 + t1566;
@@ -2046,9 +2050,9 @@ struct ComplexGraph<53> {
         const V t1606 = t1598 + t1604;
         const V t1607 = t1598 - t1604;
         const V t1608 = t1606 + t1592;
-        const V t1609 = c0 * t1606;
+        const V t1609 = c[-16] * t1606;
         const V t1610 = t1592 - t1609;
-        const V t1611 = c1 * t1607;
+        const V t1611 = c[-15] * t1607;
         // complex block of 3
         const V t1612 = t1595 + t1601;
         const V t1613 = t1597 - t1603;
@@ -2056,12 +2060,12 @@ struct ComplexGraph<53> {
         const V t1615 = t1597 + t1603;
         const V t1616 = t1612 + t1589;
         const V t1617 = t1613 + t1591;
-        const V t1618 = c0 * t1612;
+        const V t1618 = c[-16] * t1612;
         const V t1619 = t1589 - t1618;
-        const V t1620 = c0 * t1613;
+        const V t1620 = c[-16] * t1613;
         const V t1621 = t1591 - t1620;
-        const V t1622 = c1 * t1614;
-        const V t1623 = c1 * t1615;
+        const V t1622 = c[-15] * t1614;
+        const V t1623 = c[-15] * t1615;
         const V t1624 = t1619 + t1623;
         const V t1625 = t1621 - t1622;
         const V t1626 = t1619 - t1623;
@@ -2070,9 +2074,9 @@ struct ComplexGraph<53> {
         const V t1628 = t1599 - t1605;
         const V t1629 = t1599 + t1605;
         const V t1630 = t1628 + t1593;
-        const V t1631 = c0 * t1628;
+        const V t1631 = c[-16] * t1628;
         const V t1632 = t1593 - t1631;
-        const V t1633 = c1 * t1629;
+        const V t1633 = c[-15] * t1629;
         // real block of 2
         const V t1634 = t1356 + t1260;
         const V t1635 = t1356 - t1260;
@@ -2104,9 +2108,9 @@ struct ComplexGraph<53> {
         const V t1652 = t1644 + t1650;
         const V t1653 = t1644 - t1650;
         const V t1654 = t1652 + t1638;
-        const V t1655 = c0 * t1652;
+        const V t1655 = c[-16] * t1652;
         const V t1656 = t1638 - t1655;
-        const V t1657 = c1 * t1653;
+        const V t1657 = c[-15] * t1653;
         // complex block of 3
         const V t1658 = t1641 + t1647;
         const V t1659 = t1643 + t1649;
@@ -2114,12 +2118,12 @@ struct ComplexGraph<53> {
         const V t1661 = t1643 - t1649;
         const V t1662 = t1658 + t1635;
         const V t1663 = t1659 - t1637;
-        const V t1664 = c0 * t1658;
+        const V t1664 = c[-16] * t1658;
         const V t1665 = t1635 - t1664;
-        const V t1666 = c0 * t1659;
+        const V t1666 = c[-16] * t1659;
         const V t1667 = t1637 + t1666;
-        const V t1668 = c1 * t1660;
-        const V t1669 = c1 * t1661;
+        const V t1668 = c[-15] * t1660;
+        const V t1669 = c[-15] * t1661;
         const V t1670 = t1665 + t1669;
         const V t1671 = t1667 + t1668;
         const V t1672 = t1665 - t1669;
@@ -2128,72 +2132,72 @@ struct ComplexGraph<53> {
         const V t1674 = t1645 + t1651;
         const V t1675 = t1645 - t1651;
         const V t1676 = t1674 + t1639;
-        const V t1677 = c0 * t1674;
+        const V t1677 = c[-16] * t1674;
         const V t1678 = t1639 - t1677;
-        const V t1679 = c1 * t1675;
+        const V t1679 = c[-15] * t1675;
         // complex block of 13, multiplier 4
         const V t1680 = t1311 + t1608;
         const V t1681 = t1654 - t1308;
-        const V t1682 = c2 * t1608;
+        const V t1682 = c[-4] * t1608;
         const V t1683 = t1311 - t1682;
-        const V t1684 = c2 * t1654;
+        const V t1684 = c[-4] * t1654;
         const V t1685 = t1308 + t1684;
-        const V t1686 = c4 * t1673;
-        const V t1687 = c3 * t1672;
+        const V t1686 = c[-13] * t1673;
+        const V t1687 = c[-14] * t1672;
         const V t1688 = t1687 - t1686;
-        const V t1689 = c4 * t1672;
-        const V t1690 = c3 * t1673;
+        const V t1689 = c[-13] * t1672;
+        const V t1690 = c[-14] * t1673;
         const V t1691 = t1690 + t1689;
-        const V t1692 = c4 * t1627;
-        const V t1693 = c3 * t1626;
+        const V t1692 = c[-13] * t1627;
+        const V t1693 = c[-14] * t1626;
         const V t1694 = t1692 - t1693;
-        const V t1695 = c4 * t1626;
-        const V t1696 = c3 * t1627;
+        const V t1695 = c[-13] * t1626;
+        const V t1696 = c[-14] * t1627;
         const V t1697 = t1696 + t1695;
-        const V t1698 = c5 * t1633;
-        const V t1699 = c6 * t1632;
+        const V t1698 = c[-8] * t1633;
+        const V t1699 = c[-7] * t1632;
         const V t1700 = t1699 + t1698;
-        const V t1701 = c5 * t1679;
-        const V t1702 = c6 * t1678;
+        const V t1701 = c[-8] * t1679;
+        const V t1702 = c[-7] * t1678;
         const V t1703 = t1702 + t1701;
-        const V t1704 = c8 * t1663;
-        const V t1705 = c7 * t1662;
+        const V t1704 = c[-11] * t1663;
+        const V t1705 = c[-12] * t1662;
         const V t1706 = t1704 - t1705;
-        const V t1707 = c8 * t1662;
-        const V t1708 = c7 * t1663;
+        const V t1707 = c[-11] * t1662;
+        const V t1708 = c[-12] * t1663;
         const V t1709 = t1708 + t1707;
-        const V t1710 = c8 * t1617;
-        const V t1711 = c7 * t1616;
+        const V t1710 = c[-11] * t1617;
+        const V t1711 = c[-12] * t1616;
         const V t1712 = t1711 - t1710;
-        const V t1713 = c8 * t1616;
-        const V t1714 = c7 * t1617;
+        const V t1713 = c[-11] * t1616;
+        const V t1714 = c[-12] * t1617;
         const V t1715 = t1714 + t1713;
-        const V t1716 = c9 * t1611;
-        const V t1717 = c10 * t1610;
+        const V t1716 = c[-6] * t1611;
+        const V t1717 = c[-5] * t1610;
         const V t1718 = t1717 + t1716;
-        const V t1719 = c9 * t1657;
-        const V t1720 = c10 * t1656;
+        const V t1719 = c[-6] * t1657;
+        const V t1720 = c[-5] * t1656;
         const V t1721 = t1720 + t1719;
-        const V t1722 = c12 * t1671;
-        const V t1723 = c11 * t1670;
+        const V t1722 = c[-9] * t1671;
+        const V t1723 = c[-10] * t1670;
         const V t1724 = t1723 + t1722;
-        const V t1725 = c12 * t1670;
-        const V t1726 = c11 * t1671;
+        const V t1725 = c[-9] * t1670;
+        const V t1726 = c[-10] * t1671;
         const V t1727 = t1726 - t1725;
-        const V t1728 = c12 * t1625;
-        const V t1729 = c11 * t1624;
+        const V t1728 = c[-9] * t1625;
+        const V t1729 = c[-10] * t1624;
         const V t1730 = t1728 - t1729;
-        const V t1731 = c12 * t1624;
-        const V t1732 = c11 * t1625;
+        const V t1731 = c[-9] * t1624;
+        const V t1732 = c[-10] * t1625;
         const V t1733 = t1732 + t1731;
-        const V t1734 = c13 * t1630;
-        const V t1735 = c13 * t1676;
+        const V t1734 = c[-3] * t1630;
+        const V t1735 = c[-3] * t1676;
         // spectrum block of 3
         const V t1736 = t1683 - t1718;
-        const V t1737 = c0 * t1718;
+        const V t1737 = c[-16] * t1718;
         const V t1738 = t1737 + t1683;
-        const V t1739 = c68 * t1611;
-        const V t1740 = c69 * t1610;
+        const V t1739 = c[0] * t1611;
+        const V t1740 = c[1] * t1610;
         const V t1741 = t1739 - t1740;
         const V t1742 = t1738 - t1741;
         const V t1743 = t1738 + t1741;
@@ -2204,22 +2208,22 @@ struct ComplexGraph<53> {
         const V t1747 = t1724 - t1688;
         const V t1748 = t1744 - t1709;
         const V t1749 = t1745 + t1706;
-        const V t1750 = c0 * t1744;
+        const V t1750 = c[-16] * t1744;
         const V t1751 = t1709 + t1750;
-        const V t1752 = c0 * t1745;
+        const V t1752 = c[-16] * t1745;
         const V t1753 = t1706 - t1752;
-        const V t1754 = c1 * t1746;
-        const V t1755 = c1 * t1747;
+        const V t1754 = c[-15] * t1746;
+        const V t1755 = c[-15] * t1747;
         const V t1756 = t1755 - t1751;
         const V t1757 = t1753 + t1754;
         const V t1758 = t1751 + t1755;
         const V t1759 = t1753 - t1754;
         // spectrum block of 3
         const V t1760 = t1700 + t1734;
-        const V t1761 = c0 * t1700;
+        const V t1761 = c[-16] * t1700;
         const V t1762 = t1734 - t1761;
-        const V t1763 = c70 * t1633;
-        const V t1764 = c71 * t1632;
+        const V t1763 = c[2] * t1633;
+        const V t1764 = c[3] * t1632;
         const V t1765 = t1763 - t1764;
         const V t1766 = t1762 + t1765;
         const V t1767 = t1762 - t1765;
@@ -2252,10 +2256,10 @@ struct ComplexGraph<53> {
         const V t1785 = t1781 + t1758;
         // spectrum block of 3
         const V t1786 = t1721 + t1685;
-        const V t1787 = c0 * t1721;
+        const V t1787 = c[-16] * t1721;
         const V t1788 = t1787 - t1685;
-        const V t1789 = c68 * t1657;
-        const V t1790 = c69 * t1656;
+        const V t1789 = c[0] * t1657;
+        const V t1790 = c[1] * t1656;
         const V t1791 = t1789 - t1790;
         const V t1792 = t1788 - t1791;
         const V t1793 = t1788 + t1791;
@@ -2266,22 +2270,22 @@ struct ComplexGraph<53> {
         const V t1797 = t1730 - t1694;
         const V t1798 = t1715 - t1794;
         const V t1799 = t1795 + t1712;
-        const V t1800 = c0 * t1794;
+        const V t1800 = c[-16] * t1794;
         const V t1801 = t1800 + t1715;
-        const V t1802 = c0 * t1795;
+        const V t1802 = c[-16] * t1795;
         const V t1803 = t1712 - t1802;
-        const V t1804 = c1 * t1796;
-        const V t1805 = c1 * t1797;
+        const V t1804 = c[-15] * t1796;
+        const V t1805 = c[-15] * t1797;
         const V t1806 = t1801 + t1805;
         const V t1807 = t1803 - t1804;
         const V t1808 = t1801 - t1805;
         const V t1809 = t1803 + t1804;
         // spectrum block of 3
         const V t1810 = t1703 + t1735;
-        const V t1811 = c0 * t1703;
+        const V t1811 = c[-16] * t1703;
         const V t1812 = t1735 - t1811;
-        const V t1813 = c70 * t1679;
-        const V t1814 = c71 * t1678;
+        const V t1813 = c[2] * t1679;
+        const V t1814 = c[3] * t1678;
         const V t1815 = t1813 - t1814;
         const V t1816 = t1812 + t1815;
         const V t1817 = t1812 - t1815;
@@ -2316,16 +2320,16 @@ struct ComplexGraph<53> {
         const V t1836 = t1272 + t1320;
         const V t1837 = t1272 - t1320;
         const V t1838 = t1836 + t1416;
-        const V t1839 = c0 * t1836;
+        const V t1839 = c[-16] * t1836;
         const V t1840 = t1416 - t1839;
-        const V t1841 = c1 * t1837;
+        const V t1841 = c[-15] * t1837;
         // real block of 3, multiplier 2
         const V t1842 = t1176 + t1368;
         const V t1843 = t1176 - t1368;
         const V t1844 = t1842 + t1224;
-        const V t1845 = c0 * t1842;
+        const V t1845 = c[-16] * t1842;
         const V t1846 = t1224 - t1845;
-        const V t1847 = c1 * t1843;
+        const V t1847 = c[-15] * t1843;
         // real block of 2
         const V t1848 = t1838 + t1844;
         const V t1849 = t1838 - t1844;
@@ -2335,17 +2339,17 @@ struct ComplexGraph<53> {
         const V t1852 = t1840 - t1846;
         const V t1853 = t1841 - t1847;
         // skew block of 6
-        const V t1854 = c0 * t1323;
-        const V t1855 = c1 * t1371;
+        const V t1854 = c[-16] * t1323;
+        const V t1855 = c[-15] * t1371;
         const V t1856 = t1855 + t1854;
-        const V t1857 = c0 * t1371;
-        const V t1858 = c1 * t1323;
+        const V t1857 = c[-16] * t1371;
+        const V t1858 = c[-15] * t1323;
         const V t1859 = t1857 - t1858;
-        const V t1860 = c1 * t1179;
-        const V t1861 = c0 * t1275;
+        const V t1860 = c[-15] * t1179;
+        const V t1861 = c[-16] * t1275;
         const V t1862 = t1861 + t1860;
-        const V t1863 = c1 * t1275;
-        const V t1864 = c0 * t1179;
+        const V t1863 = c[-15] * t1275;
+        const V t1864 = c[-16] * t1179;
         const V t1865 = t1863 - t1864;
         // complex block of 3
         const V t1866 = t1856 + t1862;
@@ -2354,50 +2358,50 @@ struct ComplexGraph<53> {
         const V t1869 = t1859 - t1865;
         const V t1870 = t1866 + t1419;
         const V t1871 = t1867 - t1227;
-        const V t1872 = c0 * t1866;
+        const V t1872 = c[-16] * t1866;
         const V t1873 = t1872 - t1419;
-        const V t1874 = c0 * t1867;
+        const V t1874 = c[-16] * t1867;
         const V t1875 = t1227 + t1874;
-        const V t1876 = c1 * t1868;
-        const V t1877 = c1 * t1869;
+        const V t1876 = c[-15] * t1868;
+        const V t1877 = c[-15] * t1869;
         const V t1878 = t1873 + t1877;
         const V t1879 = t1875 + t1876;
         const V t1880 = t1873 - t1877;
         const V t1881 = t1876 - t1875;
         // spectrum block of 13, multiplier 4
-        const V t1882 = c2 * t1848;
+        const V t1882 = c[-4] * t1848;
         const V t1883 = t1462 - t1882;
-        const V t1884 = c4 * t1871;
-        const V t1885 = c3 * t1870;
+        const V t1884 = c[-13] * t1871;
+        const V t1885 = c[-14] * t1870;
         const V t1886 = t1885 - t1884;
-        const V t1887 = c4 * t1870;
-        const V t1888 = c3 * t1871;
+        const V t1887 = c[-13] * t1870;
+        const V t1888 = c[-14] * t1871;
         const V t1889 = t1888 + t1887;
-        const V t1890 = c5 * t1853;
-        const V t1891 = c6 * t1852;
+        const V t1890 = c[-8] * t1853;
+        const V t1891 = c[-7] * t1852;
         const V t1892 = t1891 - t1890;
-        const V t1893 = c8 * t1881;
-        const V t1894 = c7 * t1880;
+        const V t1893 = c[-11] * t1881;
+        const V t1894 = c[-12] * t1880;
         const V t1895 = t1894 + t1893;
-        const V t1896 = c8 * t1880;
-        const V t1897 = c7 * t1881;
+        const V t1896 = c[-11] * t1880;
+        const V t1897 = c[-12] * t1881;
         const V t1898 = t1896 - t1897;
-        const V t1899 = c9 * t1851;
-        const V t1900 = c10 * t1850;
+        const V t1899 = c[-6] * t1851;
+        const V t1900 = c[-5] * t1850;
         const V t1901 = t1899 - t1900;
-        const V t1902 = c12 * t1879;
-        const V t1903 = c11 * t1878;
+        const V t1902 = c[-9] * t1879;
+        const V t1903 = c[-10] * t1878;
         const V t1904 = t1902 - t1903;
-        const V t1905 = c12 * t1878;
-        const V t1906 = c11 * t1879;
+        const V t1905 = c[-9] * t1878;
+        const V t1906 = c[-10] * t1879;
         const V t1907 = t1906 + t1905;
-        const V t1908 = c13 * t1849;
+        const V t1908 = c[-3] * t1849;
         // spectrum block of 3
         const V t1909 = t1901 + t1883;
-        const V t1910 = c0 * t1901;
+        const V t1910 = c[-16] * t1901;
         const V t1911 = t1883 - t1910;
-        const V t1912 = c68 * t1851;
-        const V t1913 = c69 * t1850;
+        const V t1912 = c[0] * t1851;
+        const V t1913 = c[1] * t1850;
         const V t1914 = t1912 + t1913;
         const V t1915 = t1911 + t1914;
         const V t1916 = t1911 - t1914;
@@ -2408,22 +2412,22 @@ struct ComplexGraph<53> {
         const V t1920 = t1904 - t1886;
         const V t1921 = t1917 + t1898;
         const V t1922 = t1918 + t1895;
-        const V t1923 = c0 * t1917;
+        const V t1923 = c[-16] * t1917;
         const V t1924 = t1898 - t1923;
-        const V t1925 = c0 * t1918;
+        const V t1925 = c[-16] * t1918;
         const V t1926 = t1895 - t1925;
-        const V t1927 = c1 * t1919;
-        const V t1928 = c1 * t1920;
+        const V t1927 = c[-15] * t1919;
+        const V t1928 = c[-15] * t1920;
         const V t1929 = t1924 + t1928;
         const V t1930 = t1926 + t1927;
         const V t1931 = t1924 - t1928;
         const V t1932 = t1926 - t1927;
         // spectrum block of 3
         const V t1933 = t1892 + t1908;
-        const V t1934 = c0 * t1892;
+        const V t1934 = c[-16] * t1892;
         const V t1935 = t1908 - t1934;
-        const V t1936 = c70 * t1853;
-        const V t1937 = c71 * t1852;
+        const V t1936 = c[2] * t1853;
+        const V t1937 = c[3] * t1852;
         const V t1938 = t1936 + t1937;
         const V t1939 = t1935 - t1938;
         const V t1940 = t1935 + t1938;
@@ -2629,16 +2633,16 @@ struct ComplexGraph<53> {
         const V t2038 = t1350 + t1302;
         const V t2039 = t1350 - t1302;
         const V t2040 = t2038 + t1206;
-        const V t2041 = c0 * t2038;
+        const V t2041 = c[-16] * t2038;
         const V t2042 = t1206 - t2041;
-        const V t2043 = c1 * t2039;
+        const V t2043 = c[-15] * t2039;
         // real block of 3, multiplier 2
         const V t2044 = t1446 + t1254;
         const V t2045 = t1446 - t1254;
         const V t2046 = t2044 + t1398;
-        const V t2047 = c0 * t2044;
+        const V t2047 = c[-16] * t2044;
         const V t2048 = t1398 - t2047;
-        const V t2049 = c1 * t2045;
+        const V t2049 = c[-15] * t2045;
         // real block of 2
         const V t2050 = t2040 + t2046;
         const V t2051 = t2040 - t2046;
@@ -2648,17 +2652,17 @@ struct ComplexGraph<53> {
         const V t2054 = t2042 - t2048;
         const V t2055 = t2043 - t2049;
         // skew block of 6
-        const V t2056 = c0 * t1305;
-        const V t2057 = c1 * t1257;
+        const V t2056 = c[-16] * t1305;
+        const V t2057 = c[-15] * t1257;
         const V t2058 = t2057 - t2056;
-        const V t2059 = c0 * t1257;
-        const V t2060 = c1 * t1305;
+        const V t2059 = c[-16] * t1257;
+        const V t2060 = c[-15] * t1305;
         const V t2061 = t2060 + t2059;
-        const V t2062 = c1 * t1449;
-        const V t2063 = c0 * t1353;
+        const V t2062 = c[-15] * t1449;
+        const V t2063 = c[-16] * t1353;
         const V t2064 = t2063 - t2062;
-        const V t2065 = c1 * t1353;
-        const V t2066 = c0 * t1449;
+        const V t2065 = c[-15] * t1353;
+        const V t2066 = c[-16] * t1449;
         const V t2067 = t2066 + t2065;
         // complex block of 3
         const V t2068 = t2058 + t2064;
@@ -2667,50 +2671,50 @@ struct ComplexGraph<53> {
         const V t2071 = t2067 - t2061;
         const V t2072 = t2068 + t1209;
         const V t2073 = t1401 - t2069;
-        const V t2074 = c0 * t2068;
+        const V t2074 = c[-16] * t2068;
         const V t2075 = t1209 - t2074;
-        const V t2076 = c0 * t2069;
+        const V t2076 = c[-16] * t2069;
         const V t2077 = t2076 + t1401;
-        const V t2078 = c1 * t2070;
-        const V t2079 = c1 * t2071;
+        const V t2078 = c[-15] * t2070;
+        const V t2079 = c[-15] * t2071;
         const V t2080 = t2075 + t2079;
         const V t2081 = t2077 - t2078;
         const V t2082 = t2075 - t2079;
         const V t2083 = t2077 + t2078;
         // spectrum block of 13, multiplier 4
-        const V t2084 = c2 * t2050;
+        const V t2084 = c[-4] * t2050;
         const V t2085 = t1161 - t2084;
-        const V t2086 = c4 * t2073;
-        const V t2087 = c3 * t2072;
+        const V t2086 = c[-13] * t2073;
+        const V t2087 = c[-14] * t2072;
         const V t2088 = t2087 + t2086;
-        const V t2089 = c4 * t2072;
-        const V t2090 = c3 * t2073;
+        const V t2089 = c[-13] * t2072;
+        const V t2090 = c[-14] * t2073;
         const V t2091 = t2089 - t2090;
-        const V t2092 = c5 * t2055;
-        const V t2093 = c6 * t2054;
+        const V t2092 = c[-8] * t2055;
+        const V t2093 = c[-7] * t2054;
         const V t2094 = t2093 - t2092;
-        const V t2095 = c8 * t2083;
-        const V t2096 = c7 * t2082;
+        const V t2095 = c[-11] * t2083;
+        const V t2096 = c[-12] * t2082;
         const V t2097 = t2096 + t2095;
-        const V t2098 = c8 * t2082;
-        const V t2099 = c7 * t2083;
+        const V t2098 = c[-11] * t2082;
+        const V t2099 = c[-12] * t2083;
         const V t2100 = t2098 - t2099;
-        const V t2101 = c9 * t2053;
-        const V t2102 = c10 * t2052;
+        const V t2101 = c[-6] * t2053;
+        const V t2102 = c[-5] * t2052;
         const V t2103 = t2101 - t2102;
-        const V t2104 = c12 * t2081;
-        const V t2105 = c11 * t2080;
+        const V t2104 = c[-9] * t2081;
+        const V t2105 = c[-10] * t2080;
         const V t2106 = t2105 + t2104;
-        const V t2107 = c12 * t2080;
-        const V t2108 = c11 * t2081;
+        const V t2107 = c[-9] * t2080;
+        const V t2108 = c[-10] * t2081;
         const V t2109 = t2107 - t2108;
-        const V t2110 = c13 * t2051;
+        const V t2110 = c[-3] * t2051;
         // spectrum block of 3
         const V t2111 = t2103 + t2085;
-        const V t2112 = c0 * t2103;
+        const V t2112 = c[-16] * t2103;
         const V t2113 = t2085 - t2112;
-        const V t2114 = c68 * t2053;
-        const V t2115 = c69 * t2052;
+        const V t2114 = c[0] * t2053;
+        const V t2115 = c[1] * t2052;
         const V t2116 = t2114 + t2115;
         const V t2117 = t2113 + t2116;
         const V t2118 = t2113 - t2116;
@@ -2721,22 +2725,22 @@ struct ComplexGraph<53> {
         const V t2122 = t2088 - t2106;
         const V t2123 = t2100 - t2119;
         const V t2124 = t2097 - t2120;
-        const V t2125 = c0 * t2119;
+        const V t2125 = c[-16] * t2119;
         const V t2126 = t2125 + t2100;
-        const V t2127 = c0 * t2120;
+        const V t2127 = c[-16] * t2120;
         const V t2128 = t2127 + t2097;
-        const V t2129 = c1 * t2121;
-        const V t2130 = c1 * t2122;
+        const V t2129 = c[-15] * t2121;
+        const V t2130 = c[-15] * t2122;
         const V t2131 = t2126 + t2130;
         const V t2132 = t2128 - t2129;
         const V t2133 = t2126 - t2130;
         const V t2134 = t2128 + t2129;
         // spectrum block of 3
         const V t2135 = t2094 + t2110;
-        const V t2136 = c0 * t2094;
+        const V t2136 = c[-16] * t2094;
         const V t2137 = t2110 - t2136;
-        const V t2138 = c70 * t2055;
-        const V t2139 = c71 * t2054;
+        const V t2138 = c[2] * t2055;
+        const V t2139 = c[3] * t2054;
         const V t2140 = t2138 + t2139;
         const V t2141 = t2137 - t2140;
         const V t2142 = t2137 + t2140;
@@ -2800,9 +2804,9 @@ struct ComplexGraph<53> {
         const V t2180 = t2172 + t2178;
         const V t2181 = t2172 - t2178;
         const V t2182 = t2180 + t2166;
-        const V t2183 = c0 * t2180;
+        const V t2183 = c[-16] * t2180;
         const V t2184 = t2166 - t2183;
-        const V t2185 = c1 * t2181;
+        const V t2185 = c[-15] * t2181;
         // complex block of 3
         const V t2186 = t2169 + t2175;
         const V t2187 = t2177 - t2171;
@@ -2810,12 +2814,12 @@ struct ComplexGraph<53> {
         const V t2189 = t2171 + t2177;
         const V t2190 = t2186 + t2163;
         const V t2191 = t2187 - t2165;
-        const V t2192 = c0 * t2186;
+        const V t2192 = c[-16] * t2186;
         const V t2193 = t2163 - t2192;
-        const V t2194 = c0 * t2187;
+        const V t2194 = c[-16] * t2187;
         const V t2195 = t2165 + t2194;
-        const V t2196 = c1 * t2188;
-        const V t2197 = c1 * t2189;
+        const V t2196 = c[-15] * t2188;
+        const V t2197 = c[-15] * t2189;
         const V t2198 = t2193 - t2197;
         const V t2199 = t2195 + t2196;
         const V t2200 = t2193 + t2197;
@@ -2824,9 +2828,9 @@ struct ComplexGraph<53> {
         const V t2202 = t2173 + t2179;
         const V t2203 = t2173 - t2179;
         const V t2204 = t2202 - t2167;
-        const V t2205 = c0 * t2202;
+        const V t2205 = c[-16] * t2202;
         const V t2206 = t2167 + t2205;
-        const V t2207 = c1 * t2203;
+        const V t2207 = c[-15] * t2203;
         // real block of 2
         const V t2208 = t1362 + t1266;
         const V t2209 = t1362 - t1266;
@@ -2858,9 +2862,9 @@ struct ComplexGraph<53> {
         const V t2226 = t2218 + t2224;
         const V t2227 = t2218 - t2224;
         const V t2228 = t2226 + t2212;
-        const V t2229 = c0 * t2226;
+        const V t2229 = c[-16] * t2226;
         const V t2230 = t2212 - t2229;
-        const V t2231 = c1 * t2227;
+        const V t2231 = c[-15] * t2227;
         // complex block of 3
         const V t2232 = t2215 + t2221;
         const V t2233 = t2217 + t2223;
@@ -2868,12 +2872,12 @@ struct ComplexGraph<53> {
         const V t2235 = t2217 - t2223;
         const V t2236 = t2232 + t2209;
         const V t2237 = t2233 + t2211;
-        const V t2238 = c0 * t2232;
+        const V t2238 = c[-16] * t2232;
         const V t2239 = t2209 - t2238;
-        const V t2240 = c0 * t2233;
+        const V t2240 = c[-16] * t2233;
         const V t2241 = t2211 - t2240;
-        const V t2242 = c1 * t2234;
-        const V t2243 = c1 * t2235;
+        const V t2242 = c[-15] * t2234;
+        const V t2243 = c[-15] * t2235;
         const V t2244 = t2239 + t2243;
         const V t2245 = t2241 - t2242;
         const V t2246 = t2239 - t2243;
@@ -2882,72 +2886,72 @@ struct ComplexGraph<53> {
         const V t2248 = t2225 - t2219;
         const V t2249 = t2219 + t2225;
         const V t2250 = t2248 + t2213;
-        const V t2251 = c0 * t2248;
+        const V t2251 = c[-16] * t2248;
         const V t2252 = t2213 - t2251;
-        const V t2253 = c1 * t2249;
+        const V t2253 = c[-15] * t2249;
         // complex block of 13, multiplier 4
         const V t2254 = t1317 + t2182;
         const V t2255 = t1314 + t2228;
-        const V t2256 = c2 * t2182;
+        const V t2256 = c[-4] * t2182;
         const V t2257 = t1317 - t2256;
-        const V t2258 = c2 * t2228;
+        const V t2258 = c[-4] * t2228;
         const V t2259 = t1314 - t2258;
-        const V t2260 = c4 * t2247;
-        const V t2261 = c3 * t2246;
+        const V t2260 = c[-13] * t2247;
+        const V t2261 = c[-14] * t2246;
         const V t2262 = t2261 - t2260;
-        const V t2263 = c4 * t2246;
-        const V t2264 = c3 * t2247;
+        const V t2263 = c[-13] * t2246;
+        const V t2264 = c[-14] * t2247;
         const V t2265 = t2264 + t2263;
-        const V t2266 = c4 * t2201;
-        const V t2267 = c3 * t2200;
+        const V t2266 = c[-13] * t2201;
+        const V t2267 = c[-14] * t2200;
         const V t2268 = t2266 - t2267;
-        const V t2269 = c4 * t2200;
-        const V t2270 = c3 * t2201;
+        const V t2269 = c[-13] * t2200;
+        const V t2270 = c[-14] * t2201;
         const V t2271 = t2270 + t2269;
-        const V t2272 = c5 * t2207;
-        const V t2273 = c6 * t2206;
+        const V t2272 = c[-8] * t2207;
+        const V t2273 = c[-7] * t2206;
         const V t2274 = t2272 - t2273;
-        const V t2275 = c5 * t2253;
-        const V t2276 = c6 * t2252;
+        const V t2275 = c[-8] * t2253;
+        const V t2276 = c[-7] * t2252;
         const V t2277 = t2276 - t2275;
-        const V t2278 = c8 * t2237;
-        const V t2279 = c7 * t2236;
+        const V t2278 = c[-11] * t2237;
+        const V t2279 = c[-12] * t2236;
         const V t2280 = t2278 - t2279;
-        const V t2281 = c8 * t2236;
-        const V t2282 = c7 * t2237;
+        const V t2281 = c[-11] * t2236;
+        const V t2282 = c[-12] * t2237;
         const V t2283 = t2282 + t2281;
-        const V t2284 = c8 * t2191;
-        const V t2285 = c7 * t2190;
+        const V t2284 = c[-11] * t2191;
+        const V t2285 = c[-12] * t2190;
         const V t2286 = t2285 - t2284;
-        const V t2287 = c8 * t2190;
-        const V t2288 = c7 * t2191;
+        const V t2287 = c[-11] * t2190;
+        const V t2288 = c[-12] * t2191;
         const V t2289 = t2288 + t2287;
-        const V t2290 = c9 * t2185;
-        const V t2291 = c10 * t2184;
+        const V t2290 = c[-6] * t2185;
+        const V t2291 = c[-5] * t2184;
         const V t2292 = t2291 + t2290;
-        const V t2293 = c9 * t2231;
-        const V t2294 = c10 * t2230;
+        const V t2293 = c[-6] * t2231;
+        const V t2294 = c[-5] * t2230;
         const V t2295 = t2294 + t2293;
-        const V t2296 = c12 * t2245;
-        const V t2297 = c11 * t2244;
+        const V t2296 = c[-9] * t2245;
+        const V t2297 = c[-10] * t2244;
         const V t2298 = t2297 - t2296;
-        const V t2299 = c12 * t2244;
-        const V t2300 = c11 * t2245;
+        const V t2299 = c[-9] * t2244;
+        const V t2300 = c[-10] * t2245;
         const V t2301 = t2300 + t2299;
-        const V t2302 = c12 * t2199;
-        const V t2303 = c11 * t2198;
+        const V t2302 = c[-9] * t2199;
+        const V t2303 = c[-10] * t2198;
         const V t2304 = t2303 + t2302;
-        const V t2305 = c12 * t2198;
-        const V t2306 = c11 * t2199;
+        const V t2305 = c[-9] * t2198;
+        const V t2306 = c[-10] * t2199;
         const V t2307 = t2305 - t2306;
-        const V t2308 = c13 * t2204;
-        const V t2309 = c13 * t2250;
+        const V t2308 = c[-3] * t2204;
+        const V t2309 = c[-3] * t2250;
         // spectrum block of 3
         const V t2310 = t2257 - t2292;
-        const V t2311 = c0 * t2292;
+        const V t2311 = c[-16] * t2292;
         const V t2312 = t2311 + t2257;
-        const V t2313 = c68 * t2185;
-        const V t2314 = c69 * t2184;
+        const V t2313 = c[0] * t2185;
+        const V t2314 = c[1] * t2184;
         const V t2315 = t2313 - t2314;
         const V t2316 = t2312 - t2315;
         const V t2317 = t2312 + t2315;
@@ -2958,22 +2962,22 @@ struct ComplexGraph<53> {
         const V t2321 = t2298 - t2262;
         const V t2322 = t2318 - t2283;
         const V t2323 = t2319 + t2280;
-        const V t2324 = c0 * t2318;
+        const V t2324 = c[-16] * t2318;
         const V t2325 = t2283 + t2324;
-        const V t2326 = c0 * t2319;
+        const V t2326 = c[-16] * t2319;
         const V t2327 = t2280 - t2326;
-        const V t2328 = c1 * t2320;
-        const V t2329 = c1 * t2321;
+        const V t2328 = c[-15] * t2320;
+        const V t2329 = c[-15] * t2321;
         const V t2330 = t2329 - t2325;
         const V t2331 = t2327 - t2328;
         const V t2332 = t2325 + t2329;
         const V t2333 = t2327 + t2328;
         // spectrum block of 3
         const V t2334 = t2274 + t2308;
-        const V t2335 = c0 * t2274;
+        const V t2335 = c[-16] * t2274;
         const V t2336 = t2308 - t2335;
-        const V t2337 = c70 * t2207;
-        const V t2338 = c71 * t2206;
+        const V t2337 = c[2] * t2207;
+        const V t2338 = c[3] * t2206;
         const V t2339 = t2337 + t2338;
         const V t2340 = t2336 + t2339;
         const V t2341 = t2336 - t2339;
@@ -3006,10 +3010,10 @@ struct ComplexGraph<53> {
         const V t2359 = t2355 + t2332;
         // spectrum block of 3
         const V t2360 = t2259 - t2295;
-        const V t2361 = c0 * t2295;
+        const V t2361 = c[-16] * t2295;
         const V t2362 = t2361 + t2259;
-        const V t2363 = c68 * t2231;
-        const V t2364 = c69 * t2230;
+        const V t2363 = c[0] * t2231;
+        const V t2364 = c[1] * t2230;
         const V t2365 = t2363 - t2364;
         const V t2366 = t2362 - t2365;
         const V t2367 = t2362 + t2365;
@@ -3020,22 +3024,22 @@ struct ComplexGraph<53> {
         const V t2371 = t2304 + t2268;
         const V t2372 = t2289 - t2368;
         const V t2373 = t2369 + t2286;
-        const V t2374 = c0 * t2368;
+        const V t2374 = c[-16] * t2368;
         const V t2375 = t2374 + t2289;
-        const V t2376 = c0 * t2369;
+        const V t2376 = c[-16] * t2369;
         const V t2377 = t2286 - t2376;
-        const V t2378 = c1 * t2370;
-        const V t2379 = c1 * t2371;
+        const V t2378 = c[-15] * t2370;
+        const V t2379 = c[-15] * t2371;
         const V t2380 = t2375 - t2379;
         const V t2381 = t2377 - t2378;
         const V t2382 = t2375 + t2379;
         const V t2383 = t2377 + t2378;
         // spectrum block of 3
         const V t2384 = t2277 + t2309;
-        const V t2385 = c0 * t2277;
+        const V t2385 = c[-16] * t2277;
         const V t2386 = t2309 - t2385;
-        const V t2387 = c70 * t2253;
-        const V t2388 = c71 * t2252;
+        const V t2387 = c[2] * t2253;
+        const V t2388 = c[3] * t2252;
         const V t2389 = t2387 + t2388;
         const V t2390 = t2386 - t2389;
         const V t2391 = t2386 + t2389;
@@ -3070,16 +3074,16 @@ struct ComplexGraph<53> {
         const V t2410 = t1278 + t1326;
         const V t2411 = t1278 - t1326;
         const V t2412 = t2410 + t1422;
-        const V t2413 = c0 * t2410;
+        const V t2413 = c[-16] * t2410;
         const V t2414 = t1422 - t2413;
-        const V t2415 = c1 * t2411;
+        const V t2415 = c[-15] * t2411;
         // real block of 3, multiplier 2
         const V t2416 = t1182 + t1374;
         const V t2417 = t1182 - t1374;
         const V t2418 = t2416 + t1230;
-        const V t2419 = c0 * t2416;
+        const V t2419 = c[-16] * t2416;
         const V t2420 = t1230 - t2419;
-        const V t2421 = c1 * t2417;
+        const V t2421 = c[-15] * t2417;
         // real block of 2
         const V t2422 = t2412 + t2418;
         const V t2423 = t2412 - t2418;
@@ -3089,17 +3093,17 @@ struct ComplexGraph<53> {
         const V t2426 = t2414 - t2420;
         const V t2427 = t2415 - t2421;
         // skew block of 6
-        const V t2428 = c0 * t1329;
-        const V t2429 = c1 * t1377;
+        const V t2428 = c[-16] * t1329;
+        const V t2429 = c[-15] * t1377;
         const V t2430 = t2429 + t2428;
-        const V t2431 = c0 * t1377;
-        const V t2432 = c1 * t1329;
+        const V t2431 = c[-16] * t1377;
+        const V t2432 = c[-15] * t1329;
         const V t2433 = t2431 - t2432;
-        const V t2434 = c1 * t1185;
-        const V t2435 = c0 * t1281;
+        const V t2434 = c[-15] * t1185;
+        const V t2435 = c[-16] * t1281;
         const V t2436 = t2435 + t2434;
-        const V t2437 = c1 * t1281;
-        const V t2438 = c0 * t1185;
+        const V t2437 = c[-15] * t1281;
+        const V t2438 = c[-16] * t1185;
         const V t2439 = t2437 - t2438;
         // complex block of 3
         const V t2440 = t2430 + t2436;
@@ -3108,50 +3112,50 @@ struct ComplexGraph<53> {
         const V t2443 = t2433 - t2439;
         const V t2444 = t2440 + t1425;
         const V t2445 = t2441 - t1233;
-        const V t2446 = c0 * t2440;
+        const V t2446 = c[-16] * t2440;
         const V t2447 = t2446 - t1425;
-        const V t2448 = c0 * t2441;
+        const V t2448 = c[-16] * t2441;
         const V t2449 = t1233 + t2448;
-        const V t2450 = c1 * t2442;
-        const V t2451 = c1 * t2443;
+        const V t2450 = c[-15] * t2442;
+        const V t2451 = c[-15] * t2443;
         const V t2452 = t2447 + t2451;
         const V t2453 = t2449 + t2450;
         const V t2454 = t2447 - t2451;
         const V t2455 = t2450 - t2449;
         // spectrum block of 13, multiplier 4
-        const V t2456 = c2 * t2422;
+        const V t2456 = c[-4] * t2422;
         const V t2457 = t1463 - t2456;
-        const V t2458 = c4 * t2445;
-        const V t2459 = c3 * t2444;
+        const V t2458 = c[-13] * t2445;
+        const V t2459 = c[-14] * t2444;
         const V t2460 = t2459 - t2458;
-        const V t2461 = c4 * t2444;
-        const V t2462 = c3 * t2445;
+        const V t2461 = c[-13] * t2444;
+        const V t2462 = c[-14] * t2445;
         const V t2463 = t2462 + t2461;
-        const V t2464 = c5 * t2427;
-        const V t2465 = c6 * t2426;
+        const V t2464 = c[-8] * t2427;
+        const V t2465 = c[-7] * t2426;
         const V t2466 = t2465 - t2464;
-        const V t2467 = c8 * t2455;
-        const V t2468 = c7 * t2454;
+        const V t2467 = c[-11] * t2455;
+        const V t2468 = c[-12] * t2454;
         const V t2469 = t2468 + t2467;
-        const V t2470 = c8 * t2454;
-        const V t2471 = c7 * t2455;
+        const V t2470 = c[-11] * t2454;
+        const V t2471 = c[-12] * t2455;
         const V t2472 = t2470 - t2471;
-        const V t2473 = c9 * t2425;
-        const V t2474 = c10 * t2424;
+        const V t2473 = c[-6] * t2425;
+        const V t2474 = c[-5] * t2424;
         const V t2475 = t2473 - t2474;
-        const V t2476 = c12 * t2453;
-        const V t2477 = c11 * t2452;
+        const V t2476 = c[-9] * t2453;
+        const V t2477 = c[-10] * t2452;
         const V t2478 = t2476 - t2477;
-        const V t2479 = c12 * t2452;
-        const V t2480 = c11 * t2453;
+        const V t2479 = c[-9] * t2452;
+        const V t2480 = c[-10] * t2453;
         const V t2481 = t2480 + t2479;
-        const V t2482 = c13 * t2423;
+        const V t2482 = c[-3] * t2423;
         // spectrum block of 3
         const V t2483 = t2475 + t2457;
-        const V t2484 = c0 * t2475;
+        const V t2484 = c[-16] * t2475;
         const V t2485 = t2457 - t2484;
-        const V t2486 = c68 * t2425;
-        const V t2487 = c69 * t2424;
+        const V t2486 = c[0] * t2425;
+        const V t2487 = c[1] * t2424;
         const V t2488 = t2486 + t2487;
         const V t2489 = t2485 + t2488;
         const V t2490 = t2485 - t2488;
@@ -3162,22 +3166,22 @@ struct ComplexGraph<53> {
         const V t2494 = t2478 - t2460;
         const V t2495 = t2491 + t2472;
         const V t2496 = t2492 + t2469;
-        const V t2497 = c0 * t2491;
+        const V t2497 = c[-16] * t2491;
         const V t2498 = t2472 - t2497;
-        const V t2499 = c0 * t2492;
+        const V t2499 = c[-16] * t2492;
         const V t2500 = t2469 - t2499;
-        const V t2501 = c1 * t2493;
-        const V t2502 = c1 * t2494;
+        const V t2501 = c[-15] * t2493;
+        const V t2502 = c[-15] * t2494;
         const V t2503 = t2498 + t2502;
         const V t2504 = t2500 + t2501;
         const V t2505 = t2498 - t2502;
         const V t2506 = t2500 - t2501;
         // spectrum block of 3
         const V t2507 = t2466 + t2482;
-        const V t2508 = c0 * t2466;
+        const V t2508 = c[-16] * t2466;
         const V t2509 = t2482 - t2508;
-        const V t2510 = c70 * t2427;
-        const V t2511 = c71 * t2426;
+        const V t2510 = c[2] * t2427;
+        const V t2511 = c[3] * t2426;
         const V t2512 = t2510 + t2511;
         const V t2513 = t2509 - t2512;
         const V t2514 = t2509 + t2512;

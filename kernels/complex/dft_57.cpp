@@ -2,44 +2,48 @@
 // Complex DFT of 57 points, prime-factor, order 19, 3.
 // 660 additions, 660 subtractions, 736 multiplications (850 with `scale`); 28 constants; 117 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct ComplexGraph<57> {
     static constexpr double inverseRoot = 0.13245323570650439;  // 1/sqrt(57), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c1 = 0.8660254037844386;  // -sin 2 pi 2/3
-    static constexpr double c2 = 0.984807753012208;  // sin 2 pi 2/9
-    static constexpr double c3 = 0.17364817766693036;  // cos 2 pi 2/9
-    static constexpr double c4 = 0.3420201433256687;  // sin 2 pi 4/9
-    static constexpr double c5 = 0.9396926207859084;  // -cos 2 pi 4/9
-    static constexpr double c6 = 0.05555555555555555;  // 1/18
-    static constexpr double c7 = 0.48419213608836237;  // P[1] of 19
-    static constexpr double c8 = 0.011219473461650014;  // Q[1] of 19
-    static constexpr double c9 = 0.4483141527641826;  // -Q[2] of 19
-    static constexpr double c10 = 0.18325479984409965;  // -P[2] of 19
-    static constexpr double c11 = 0.28199561460730244;  // P[3] of 19
-    static constexpr double c12 = 0.3937592850674352;  // Q[3] of 19
-    static constexpr double c13 = 0.4781837436243932;  // Q[4] of 19
-    static constexpr double c14 = 0.0768648721323888;  // P[4] of 19
-    static constexpr double c15 = 0.0003161186210583505;  // -P[5] of 19
-    static constexpr double c16 = 0.48432200167201295;  // Q[5] of 19
-    static constexpr double c17 = 0.10231284930367265;  // -Q[6] of 19
-    static constexpr double c18 = 0.47339199623771827;  // P[6] of 19
-    static constexpr double c19 = 0.4454859456092568;  // P[7] of 19
-    static constexpr double c20 = 0.19002677048035677;  // Q[7] of 19
-    static constexpr double c21 = 0.4232102035221754;  // Q[8] of 19
-    static constexpr double c22 = 0.235501645151975;  // P[8] of 19
-    static constexpr double c23 = 0.2421610524189263;  // -beta of 19
-    static constexpr double c24 = 0.8528685319524432;  // -sin 2 pi 2/3 times sin 2 pi 2/9
-    static constexpr double c25 = 0.1503837331804353;  // -sin 2 pi 2/3 times cos 2 pi 2/9
-    static constexpr double c26 = 0.29619813272602386;  // -sin 2 pi 2/3 times sin 2 pi 4/9
-    static constexpr double c27 = 0.8137976813493737;  // -sin 2 pi 2/3 times -cos 2 pi 4/9
+    static constexpr double constants[] = {
+        0.5,  // c[-14]: -cos 2 pi 2/3
+        0.8660254037844386,  // c[-13]: -sin 2 pi 2/3
+        0.984807753012208,  // c[-12]: sin 2 pi 2/9
+        0.17364817766693036,  // c[-11]: cos 2 pi 2/9
+        0.3420201433256687,  // c[-10]: sin 2 pi 4/9
+        0.9396926207859084,  // c[-9]: -cos 2 pi 4/9
+        0.48419213608836237,  // c[-8]: P[1] of 19
+        0.011219473461650014,  // c[-7]: Q[1] of 19
+        0.4483141527641826,  // c[-6]: -Q[2] of 19
+        0.18325479984409965,  // c[-5]: -P[2] of 19
+        0.28199561460730244,  // c[-4]: P[3] of 19
+        0.3937592850674352,  // c[-3]: Q[3] of 19
+        0.4781837436243932,  // c[-2]: Q[4] of 19
+        0.0768648721323888,  // c[-1]: P[4] of 19
+        0.0003161186210583505,  // c[0]: -P[5] of 19
+        0.48432200167201295,  // c[1]: Q[5] of 19
+        0.10231284930367265,  // c[2]: -Q[6] of 19
+        0.47339199623771827,  // c[3]: P[6] of 19
+        0.4454859456092568,  // c[4]: P[7] of 19
+        0.19002677048035677,  // c[5]: Q[7] of 19
+        0.4232102035221754,  // c[6]: Q[8] of 19
+        0.235501645151975,  // c[7]: P[8] of 19
+        0.8528685319524432,  // c[8]: -sin 2 pi 2/3 times sin 2 pi 2/9
+        0.1503837331804353,  // c[9]: -sin 2 pi 2/3 times cos 2 pi 2/9
+        0.29619813272602386,  // c[10]: -sin 2 pi 2/3 times sin 2 pi 4/9
+        0.8137976813493737,  // c[11]: -sin 2 pi 2/3 times -cos 2 pi 4/9
+        0.05555555555555555,  // c[12]: 1/18
+        0.2421610524189263,  // c[13]: -beta of 19
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 14);
         // real block of 2
         const V x3r = io.re(3);
         const V x54r = io.re(54);
@@ -89,42 +93,42 @@ struct ComplexGraph<57> {
         const V t18 = t6 + t12;
         const V t19 = t6 - t12;
         const V t20 = t18 + t0;
-        const V t21 = c0 * t18;
+        const V t21 = c[-14] * t18;
         const V t22 = t0 - t21;
-        const V t23 = c1 * t19;
+        const V t23 = c[-13] * t19;
         // real block of 3, multiplier 2
         const V t24 = t8 + t14;
         const V t25 = t8 - t14;
         const V t26 = t24 + t2;
-        const V t27 = c0 * t24;
+        const V t27 = c[-14] * t24;
         const V t28 = t2 - t27;
-        const V t29 = c1 * t25;
+        const V t29 = c[-13] * t25;
         // real block of 3, multiplier 2
         const V t30 = t10 + t16;
         const V t31 = t10 - t16;
         const V t32 = t30 + t4;
-        const V t33 = c0 * t30;
+        const V t33 = c[-14] * t30;
         const V t34 = t4 - t33;
-        const V t35 = c1 * t31;
+        const V t35 = c[-13] * t31;
         // real block of 3, multiplier 2
         const V t36 = t26 + t32;
         const V t37 = t26 - t32;
         const V t38 = t36 + t20;
-        const V t39 = c0 * t36;
+        const V t39 = c[-14] * t36;
         const V t40 = t20 - t39;
-        const V t41 = c1 * t37;
+        const V t41 = c[-13] * t37;
         // real block of 9, multiplier 2
-        const V t42 = c2 * t29;
-        const V t43 = c3 * t28;
+        const V t42 = c[-12] * t29;
+        const V t43 = c[-11] * t28;
         const V t44 = t43 + t42;
-        const V t45 = c2 * t28;
-        const V t46 = c3 * t29;
+        const V t45 = c[-12] * t28;
+        const V t46 = c[-11] * t29;
         const V t47 = t46 - t45;
-        const V t48 = c4 * t35;
-        const V t49 = c5 * t34;
+        const V t48 = c[-10] * t35;
+        const V t49 = c[-9] * t34;
         const V t50 = t48 - t49;
-        const V t51 = c4 * t34;
-        const V t52 = c5 * t35;
+        const V t51 = c[-10] * t34;
+        const V t52 = c[-9] * t35;
         const V t53 = t52 + t51;
         // complex block of 3, multiplier 2
         const V t54 = t44 + t50;
@@ -133,12 +137,12 @@ struct ComplexGraph<57> {
         const V t57 = t47 + t53;
         const V t58 = t54 + t22;
         const V t59 = t55 + t23;
-        const V t60 = c0 * t54;
+        const V t60 = c[-14] * t54;
         const V t61 = t22 - t60;
-        const V t62 = c0 * t55;
+        const V t62 = c[-14] * t55;
         const V t63 = t23 - t62;
-        const V t64 = c1 * t56;
-        const V t65 = c1 * t57;
+        const V t64 = c[-13] * t56;
+        const V t65 = c[-13] * t57;
         const V t66 = t61 + t65;
         const V t67 = t63 - t64;
         const V t68 = t61 - t65;
@@ -147,42 +151,42 @@ struct ComplexGraph<57> {
         const V t70 = t7 + t13;
         const V t71 = t7 - t13;
         const V t72 = t70 + t1;
-        const V t73 = c0 * t70;
+        const V t73 = c[-14] * t70;
         const V t74 = t1 - t73;
-        const V t75 = c1 * t71;
+        const V t75 = c[-13] * t71;
         // real block of 3, multiplier 2
         const V t76 = t9 + t15;
         const V t77 = t9 - t15;
         const V t78 = t76 + t3;
-        const V t79 = c0 * t76;
+        const V t79 = c[-14] * t76;
         const V t80 = t3 - t79;
-        const V t81 = c1 * t77;
+        const V t81 = c[-13] * t77;
         // real block of 3, multiplier 2
         const V t82 = t11 + t17;
         const V t83 = t11 - t17;
         const V t84 = t82 + t5;
-        const V t85 = c0 * t82;
+        const V t85 = c[-14] * t82;
         const V t86 = t5 - t85;
-        const V t87 = c1 * t83;
+        const V t87 = c[-13] * t83;
         // real block of 3, multiplier 2
         const V t88 = t78 + t84;
         const V t89 = t78 - t84;
         const V t90 = t88 + t72;
-        const V t91 = c0 * t88;
+        const V t91 = c[-14] * t88;
         const V t92 = t72 - t91;
-        const V t93 = c1 * t89;
+        const V t93 = c[-13] * t89;
         // real block of 9, multiplier 2
-        const V t94 = c2 * t81;
-        const V t95 = c3 * t80;
+        const V t94 = c[-12] * t81;
+        const V t95 = c[-11] * t80;
         const V t96 = t95 + t94;
-        const V t97 = c2 * t80;
-        const V t98 = c3 * t81;
+        const V t97 = c[-12] * t80;
+        const V t98 = c[-11] * t81;
         const V t99 = t98 - t97;
-        const V t100 = c4 * t87;
-        const V t101 = c5 * t86;
+        const V t100 = c[-10] * t87;
+        const V t101 = c[-9] * t86;
         const V t102 = t100 - t101;
-        const V t103 = c4 * t86;
-        const V t104 = c5 * t87;
+        const V t103 = c[-10] * t86;
+        const V t104 = c[-9] * t87;
         const V t105 = t104 + t103;
         // complex block of 3, multiplier 2
         const V t106 = t96 + t102;
@@ -191,12 +195,12 @@ struct ComplexGraph<57> {
         const V t109 = t99 + t105;
         const V t110 = t106 + t74;
         const V t111 = t107 + t75;
-        const V t112 = c0 * t106;
+        const V t112 = c[-14] * t106;
         const V t113 = t74 - t112;
-        const V t114 = c0 * t107;
+        const V t114 = c[-14] * t107;
         const V t115 = t75 - t114;
-        const V t116 = c1 * t108;
-        const V t117 = c1 * t109;
+        const V t116 = c[-13] * t108;
+        const V t117 = c[-13] * t109;
         const V t118 = t113 + t117;
         const V t119 = t115 - t116;
         const V t120 = t113 - t117;
@@ -250,42 +254,42 @@ struct ComplexGraph<57> {
         const V t140 = t128 + t134;
         const V t141 = t128 - t134;
         const V t142 = t140 + t122;
-        const V t143 = c0 * t140;
+        const V t143 = c[-14] * t140;
         const V t144 = t122 - t143;
-        const V t145 = c1 * t141;
+        const V t145 = c[-13] * t141;
         // real block of 3, multiplier 2
         const V t146 = t130 + t136;
         const V t147 = t130 - t136;
         const V t148 = t146 + t124;
-        const V t149 = c0 * t146;
+        const V t149 = c[-14] * t146;
         const V t150 = t124 - t149;
-        const V t151 = c1 * t147;
+        const V t151 = c[-13] * t147;
         // real block of 3, multiplier 2
         const V t152 = t132 + t138;
         const V t153 = t132 - t138;
         const V t154 = t152 + t126;
-        const V t155 = c0 * t152;
+        const V t155 = c[-14] * t152;
         const V t156 = t126 - t155;
-        const V t157 = c1 * t153;
+        const V t157 = c[-13] * t153;
         // real block of 3, multiplier 2
         const V t158 = t148 + t154;
         const V t159 = t148 - t154;
         const V t160 = t158 + t142;
-        const V t161 = c0 * t158;
+        const V t161 = c[-14] * t158;
         const V t162 = t142 - t161;
-        const V t163 = c1 * t159;
+        const V t163 = c[-13] * t159;
         // real block of 9, multiplier 2
-        const V t164 = c2 * t151;
-        const V t165 = c3 * t150;
+        const V t164 = c[-12] * t151;
+        const V t165 = c[-11] * t150;
         const V t166 = t165 + t164;
-        const V t167 = c2 * t150;
-        const V t168 = c3 * t151;
+        const V t167 = c[-12] * t150;
+        const V t168 = c[-11] * t151;
         const V t169 = t168 - t167;
-        const V t170 = c4 * t157;
-        const V t171 = c5 * t156;
+        const V t170 = c[-10] * t157;
+        const V t171 = c[-9] * t156;
         const V t172 = t170 - t171;
-        const V t173 = c4 * t156;
-        const V t174 = c5 * t157;
+        const V t173 = c[-10] * t156;
+        const V t174 = c[-9] * t157;
         const V t175 = t174 + t173;
         // complex block of 3, multiplier 2
         const V t176 = t166 + t172;
@@ -294,12 +298,12 @@ struct ComplexGraph<57> {
         const V t179 = t169 + t175;
         const V t180 = t176 + t144;
         const V t181 = t177 + t145;
-        const V t182 = c0 * t176;
+        const V t182 = c[-14] * t176;
         const V t183 = t144 - t182;
-        const V t184 = c0 * t177;
+        const V t184 = c[-14] * t177;
         const V t185 = t145 - t184;
-        const V t186 = c1 * t178;
-        const V t187 = c1 * t179;
+        const V t186 = c[-13] * t178;
+        const V t187 = c[-13] * t179;
         const V t188 = t183 + t187;
         const V t189 = t185 - t186;
         const V t190 = t183 - t187;
@@ -308,42 +312,42 @@ struct ComplexGraph<57> {
         const V t192 = t129 + t135;
         const V t193 = t129 - t135;
         const V t194 = t192 + t123;
-        const V t195 = c0 * t192;
+        const V t195 = c[-14] * t192;
         const V t196 = t123 - t195;
-        const V t197 = c1 * t193;
+        const V t197 = c[-13] * t193;
         // real block of 3, multiplier 2
         const V t198 = t131 + t137;
         const V t199 = t131 - t137;
         const V t200 = t198 + t125;
-        const V t201 = c0 * t198;
+        const V t201 = c[-14] * t198;
         const V t202 = t125 - t201;
-        const V t203 = c1 * t199;
+        const V t203 = c[-13] * t199;
         // real block of 3, multiplier 2
         const V t204 = t133 + t139;
         const V t205 = t133 - t139;
         const V t206 = t204 + t127;
-        const V t207 = c0 * t204;
+        const V t207 = c[-14] * t204;
         const V t208 = t127 - t207;
-        const V t209 = c1 * t205;
+        const V t209 = c[-13] * t205;
         // real block of 3, multiplier 2
         const V t210 = t200 + t206;
         const V t211 = t200 - t206;
         const V t212 = t210 + t194;
-        const V t213 = c0 * t210;
+        const V t213 = c[-14] * t210;
         const V t214 = t194 - t213;
-        const V t215 = c1 * t211;
+        const V t215 = c[-13] * t211;
         // real block of 9, multiplier 2
-        const V t216 = c2 * t203;
-        const V t217 = c3 * t202;
+        const V t216 = c[-12] * t203;
+        const V t217 = c[-11] * t202;
         const V t218 = t217 + t216;
-        const V t219 = c2 * t202;
-        const V t220 = c3 * t203;
+        const V t219 = c[-12] * t202;
+        const V t220 = c[-11] * t203;
         const V t221 = t220 - t219;
-        const V t222 = c4 * t209;
-        const V t223 = c5 * t208;
+        const V t222 = c[-10] * t209;
+        const V t223 = c[-9] * t208;
         const V t224 = t222 - t223;
-        const V t225 = c4 * t208;
-        const V t226 = c5 * t209;
+        const V t225 = c[-10] * t208;
+        const V t226 = c[-9] * t209;
         const V t227 = t226 + t225;
         // complex block of 3, multiplier 2
         const V t228 = t218 + t224;
@@ -352,12 +356,12 @@ struct ComplexGraph<57> {
         const V t231 = t221 + t227;
         const V t232 = t228 + t196;
         const V t233 = t229 + t197;
-        const V t234 = c0 * t228;
+        const V t234 = c[-14] * t228;
         const V t235 = t196 - t234;
-        const V t236 = c0 * t229;
+        const V t236 = c[-14] * t229;
         const V t237 = t197 - t236;
-        const V t238 = c1 * t230;
-        const V t239 = c1 * t231;
+        const V t238 = c[-13] * t230;
+        const V t239 = c[-13] * t231;
         const V t240 = t235 + t239;
         const V t241 = t237 - t238;
         const V t242 = t235 - t239;
@@ -367,108 +371,108 @@ struct ComplexGraph<57> {
         const V t244 = x0r + t38;
         const V x0i = io.im(0);
         const V t245 = x0i + t160;
-        const V t246 = c6 * t38;
+        const V t246 = c[12] * t38;
         const V t247 = x0r - t246;
-        const V t248 = c6 * t160;
+        const V t248 = c[12] * t160;
         const V t249 = x0i - t248;
-        const V t250 = c7 * t243;
-        const V t251 = c8 * t242;
+        const V t250 = c[-8] * t243;
+        const V t251 = c[-7] * t242;
         const V t252 = t251 + t250;
-        const V t253 = c7 * t242;
-        const V t254 = c8 * t243;
+        const V t253 = c[-8] * t242;
+        const V t254 = c[-7] * t243;
         const V t255 = t253 - t254;
-        const V t256 = c7 * t121;
-        const V t257 = c8 * t120;
+        const V t256 = c[-8] * t121;
+        const V t257 = c[-7] * t120;
         const V t258 = t257 + t256;
-        const V t259 = c7 * t120;
-        const V t260 = c8 * t121;
+        const V t259 = c[-8] * t120;
+        const V t260 = c[-7] * t121;
         const V t261 = t260 - t259;
-        const V t262 = c9 * t59;
-        const V t263 = c10 * t58;
+        const V t262 = c[-6] * t59;
+        const V t263 = c[-5] * t58;
         const V t264 = t262 - t263;
-        const V t265 = c9 * t58;
-        const V t266 = c10 * t59;
+        const V t265 = c[-6] * t58;
+        const V t266 = c[-5] * t59;
         const V t267 = t266 + t265;
-        const V t268 = c9 * t181;
-        const V t269 = c10 * t180;
+        const V t268 = c[-6] * t181;
+        const V t269 = c[-5] * t180;
         const V t270 = t268 - t269;
-        const V t271 = c9 * t180;
-        const V t272 = c10 * t181;
+        const V t271 = c[-6] * t180;
+        const V t272 = c[-5] * t181;
         const V t273 = t272 + t271;
-        const V t274 = c11 * t215;
-        const V t275 = c12 * t214;
+        const V t274 = c[-4] * t215;
+        const V t275 = c[-3] * t214;
         const V t276 = t275 + t274;
-        const V t277 = c11 * t214;
-        const V t278 = c12 * t215;
+        const V t277 = c[-4] * t214;
+        const V t278 = c[-3] * t215;
         const V t279 = t277 - t278;
-        const V t280 = c11 * t93;
-        const V t281 = c12 * t92;
+        const V t280 = c[-4] * t93;
+        const V t281 = c[-3] * t92;
         const V t282 = t281 + t280;
-        const V t283 = c11 * t92;
-        const V t284 = c12 * t93;
+        const V t283 = c[-4] * t92;
+        const V t284 = c[-3] * t93;
         const V t285 = t284 - t283;
-        const V t286 = c13 * t67;
-        const V t287 = c14 * t66;
+        const V t286 = c[-2] * t67;
+        const V t287 = c[-1] * t66;
         const V t288 = t287 + t286;
-        const V t289 = c13 * t66;
-        const V t290 = c14 * t67;
+        const V t289 = c[-2] * t66;
+        const V t290 = c[-1] * t67;
         const V t291 = t289 - t290;
-        const V t292 = c13 * t189;
-        const V t293 = c14 * t188;
+        const V t292 = c[-2] * t189;
+        const V t293 = c[-1] * t188;
         const V t294 = t293 + t292;
-        const V t295 = c13 * t188;
-        const V t296 = c14 * t189;
+        const V t295 = c[-2] * t188;
+        const V t296 = c[-1] * t189;
         const V t297 = t295 - t296;
-        const V t298 = c15 * t241;
-        const V t299 = c16 * t240;
+        const V t298 = c[0] * t241;
+        const V t299 = c[1] * t240;
         const V t300 = t299 + t298;
-        const V t301 = c15 * t240;
-        const V t302 = c16 * t241;
+        const V t301 = c[0] * t240;
+        const V t302 = c[1] * t241;
         const V t303 = t302 - t301;
-        const V t304 = c15 * t119;
-        const V t305 = c16 * t118;
+        const V t304 = c[0] * t119;
+        const V t305 = c[1] * t118;
         const V t306 = t305 + t304;
-        const V t307 = c15 * t118;
-        const V t308 = c16 * t119;
+        const V t307 = c[0] * t118;
+        const V t308 = c[1] * t119;
         const V t309 = t307 - t308;
-        const V t310 = c17 * t41;
-        const V t311 = c18 * t40;
+        const V t310 = c[2] * t41;
+        const V t311 = c[3] * t40;
         const V t312 = t311 + t310;
-        const V t313 = c17 * t40;
-        const V t314 = c18 * t41;
+        const V t313 = c[2] * t40;
+        const V t314 = c[3] * t41;
         const V t315 = t314 - t313;
-        const V t316 = c17 * t163;
-        const V t317 = c18 * t162;
+        const V t316 = c[2] * t163;
+        const V t317 = c[3] * t162;
         const V t318 = t317 + t316;
-        const V t319 = c17 * t162;
-        const V t320 = c18 * t163;
+        const V t319 = c[2] * t162;
+        const V t320 = c[3] * t163;
         const V t321 = t320 - t319;
-        const V t322 = c19 * t233;
-        const V t323 = c20 * t232;
+        const V t322 = c[4] * t233;
+        const V t323 = c[5] * t232;
         const V t324 = t323 + t322;
-        const V t325 = c19 * t232;
-        const V t326 = c20 * t233;
+        const V t325 = c[4] * t232;
+        const V t326 = c[5] * t233;
         const V t327 = t325 - t326;
-        const V t328 = c19 * t111;
-        const V t329 = c20 * t110;
+        const V t328 = c[4] * t111;
+        const V t329 = c[5] * t110;
         const V t330 = t329 + t328;
-        const V t331 = c19 * t110;
-        const V t332 = c20 * t111;
+        const V t331 = c[4] * t110;
+        const V t332 = c[5] * t111;
         const V t333 = t332 - t331;
-        const V t334 = c21 * t69;
-        const V t335 = c22 * t68;
+        const V t334 = c[6] * t69;
+        const V t335 = c[7] * t68;
         const V t336 = t335 - t334;
-        const V t337 = c21 * t68;
-        const V t338 = c22 * t69;
+        const V t337 = c[6] * t68;
+        const V t338 = c[7] * t69;
         const V t339 = t338 + t337;
-        const V t340 = c21 * t191;
-        const V t341 = c22 * t190;
+        const V t340 = c[6] * t191;
+        const V t341 = c[7] * t190;
         const V t342 = t341 - t340;
-        const V t343 = c21 * t190;
-        const V t344 = c22 * t191;
+        const V t343 = c[6] * t190;
+        const V t344 = c[7] * t191;
         const V t345 = t344 + t343;
-        const V t346 = c23 * t212;
-        const V t347 = c23 * t90;
+        const V t346 = c[13] * t212;
+        const V t347 = c[13] * t90;
         // spectrum block of 2
         const V t348 = t247 - t346;
         const V t349 = t247 + t346;
@@ -494,9 +498,9 @@ struct ComplexGraph<57> {
         const V t365 = t336 - t252;
         // spectrum block of 3, multiplier 2
         const V t366 = t359 + t348;
-        const V t367 = c0 * t359;
+        const V t367 = c[-14] * t359;
         const V t368 = t348 - t367;
-        const V t369 = c1 * t358;
+        const V t369 = c[-13] * t358;
         const V t370 = t368 - t369;
         const V t371 = t368 + t369;
         // complex block of 3, multiplier 2
@@ -506,53 +510,53 @@ struct ComplexGraph<57> {
         const V t375 = t363 - t355;
         const V t376 = t372 - t350;
         const V t377 = t373 + t351;
-        const V t378 = c0 * t372;
+        const V t378 = c[-14] * t372;
         const V t379 = t350 + t378;
-        const V t380 = c0 * t373;
+        const V t380 = c[-14] * t373;
         const V t381 = t351 - t380;
-        const V t382 = c1 * t374;
-        const V t383 = c1 * t375;
+        const V t382 = c[-13] * t374;
+        const V t383 = c[-13] * t375;
         const V t384 = t383 - t379;
         const V t385 = t381 - t382;
         const V t386 = t379 + t383;
         const V t387 = t381 + t382;
         // spectrum block of 9, multiplier 2
-        const V t388 = c2 * t386;
-        const V t389 = c3 * t387;
+        const V t388 = c[-12] * t386;
+        const V t389 = c[-11] * t387;
         const V t390 = t389 + t388;
-        const V t391 = c4 * t384;
-        const V t392 = c5 * t385;
+        const V t391 = c[-10] * t384;
+        const V t392 = c[-9] * t385;
         const V t393 = t392 + t391;
         // spectrum block of 3, multiplier 2
         const V t394 = t377 + t366;
-        const V t395 = c0 * t377;
+        const V t395 = c[-14] * t377;
         const V t396 = t366 - t395;
-        const V t397 = c1 * t376;
+        const V t397 = c[-13] * t376;
         const V t398 = t396 - t397;
         const V t399 = t396 + t397;
         // spectrum block of 3, multiplier 2
         const V t400 = t390 + t371;
-        const V t401 = c0 * t390;
+        const V t401 = c[-14] * t390;
         const V t402 = t371 - t401;
-        const V t403 = c24 * t387;
-        const V t404 = c25 * t386;
+        const V t403 = c[8] * t387;
+        const V t404 = c[9] * t386;
         const V t405 = t403 - t404;
         const V t406 = t402 - t405;
         const V t407 = t402 + t405;
         // spectrum block of 3, multiplier 2
         const V t408 = t370 - t393;
-        const V t409 = c0 * t393;
+        const V t409 = c[-14] * t393;
         const V t410 = t409 + t370;
-        const V t411 = c26 * t385;
-        const V t412 = c27 * t384;
+        const V t411 = c[10] * t385;
+        const V t412 = c[11] * t384;
         const V t413 = t411 - t412;
         const V t414 = t410 - t413;
         const V t415 = t410 + t413;
         // spectrum block of 3, multiplier 2
         const V t416 = t361 + t349;
-        const V t417 = c0 * t361;
+        const V t417 = c[-14] * t361;
         const V t418 = t349 - t417;
-        const V t419 = c1 * t360;
+        const V t419 = c[-13] * t360;
         const V t420 = t418 - t419;
         const V t421 = t418 + t419;
         // complex block of 3, multiplier 2
@@ -562,45 +566,45 @@ struct ComplexGraph<57> {
         const V t425 = t365 - t357;
         const V t426 = t422 + t352;
         const V t427 = t423 + t353;
-        const V t428 = c0 * t422;
+        const V t428 = c[-14] * t422;
         const V t429 = t352 - t428;
-        const V t430 = c0 * t423;
+        const V t430 = c[-14] * t423;
         const V t431 = t353 - t430;
-        const V t432 = c1 * t424;
-        const V t433 = c1 * t425;
+        const V t432 = c[-13] * t424;
+        const V t433 = c[-13] * t425;
         const V t434 = t429 + t433;
         const V t435 = t431 - t432;
         const V t436 = t429 - t433;
         const V t437 = t431 + t432;
         // spectrum block of 9, multiplier 2
-        const V t438 = c2 * t436;
-        const V t439 = c3 * t437;
+        const V t438 = c[-12] * t436;
+        const V t439 = c[-11] * t437;
         const V t440 = t439 - t438;
-        const V t441 = c4 * t434;
-        const V t442 = c5 * t435;
+        const V t441 = c[-10] * t434;
+        const V t442 = c[-9] * t435;
         const V t443 = t442 + t441;
         // spectrum block of 3, multiplier 2
         const V t444 = t427 + t416;
-        const V t445 = c0 * t427;
+        const V t445 = c[-14] * t427;
         const V t446 = t416 - t445;
-        const V t447 = c1 * t426;
+        const V t447 = c[-13] * t426;
         const V t448 = t446 - t447;
         const V t449 = t446 + t447;
         // spectrum block of 3, multiplier 2
         const V t450 = t440 + t421;
-        const V t451 = c0 * t440;
+        const V t451 = c[-14] * t440;
         const V t452 = t421 - t451;
-        const V t453 = c25 * t436;
-        const V t454 = c24 * t437;
+        const V t453 = c[9] * t436;
+        const V t454 = c[8] * t437;
         const V t455 = t453 + t454;
         const V t456 = t452 - t455;
         const V t457 = t452 + t455;
         // spectrum block of 3, multiplier 2
         const V t458 = t420 - t443;
-        const V t459 = c0 * t443;
+        const V t459 = c[-14] * t443;
         const V t460 = t459 + t420;
-        const V t461 = c26 * t435;
-        const V t462 = c27 * t434;
+        const V t461 = c[10] * t435;
+        const V t462 = c[11] * t434;
         const V t463 = t461 - t462;
         const V t464 = t460 - t463;
         const V t465 = t460 + t463;
@@ -629,9 +633,9 @@ struct ComplexGraph<57> {
         const V t483 = t342 + t258;
         // spectrum block of 3, multiplier 2
         const V t484 = t477 + t466;
-        const V t485 = c0 * t477;
+        const V t485 = c[-14] * t477;
         const V t486 = t466 - t485;
-        const V t487 = c1 * t476;
+        const V t487 = c[-13] * t476;
         const V t488 = t486 - t487;
         const V t489 = t486 + t487;
         // complex block of 3, multiplier 2
@@ -641,53 +645,53 @@ struct ComplexGraph<57> {
         const V t493 = t481 - t473;
         const V t494 = t490 - t468;
         const V t495 = t491 + t469;
-        const V t496 = c0 * t490;
+        const V t496 = c[-14] * t490;
         const V t497 = t468 + t496;
-        const V t498 = c0 * t491;
+        const V t498 = c[-14] * t491;
         const V t499 = t469 - t498;
-        const V t500 = c1 * t492;
-        const V t501 = c1 * t493;
+        const V t500 = c[-13] * t492;
+        const V t501 = c[-13] * t493;
         const V t502 = t501 - t497;
         const V t503 = t499 - t500;
         const V t504 = t497 + t501;
         const V t505 = t499 + t500;
         // spectrum block of 9, multiplier 2
-        const V t506 = c2 * t504;
-        const V t507 = c3 * t505;
+        const V t506 = c[-12] * t504;
+        const V t507 = c[-11] * t505;
         const V t508 = t507 + t506;
-        const V t509 = c4 * t502;
-        const V t510 = c5 * t503;
+        const V t509 = c[-10] * t502;
+        const V t510 = c[-9] * t503;
         const V t511 = t510 + t509;
         // spectrum block of 3, multiplier 2
         const V t512 = t495 + t484;
-        const V t513 = c0 * t495;
+        const V t513 = c[-14] * t495;
         const V t514 = t484 - t513;
-        const V t515 = c1 * t494;
+        const V t515 = c[-13] * t494;
         const V t516 = t514 - t515;
         const V t517 = t514 + t515;
         // spectrum block of 3, multiplier 2
         const V t518 = t508 + t489;
-        const V t519 = c0 * t508;
+        const V t519 = c[-14] * t508;
         const V t520 = t489 - t519;
-        const V t521 = c24 * t505;
-        const V t522 = c25 * t504;
+        const V t521 = c[8] * t505;
+        const V t522 = c[9] * t504;
         const V t523 = t521 - t522;
         const V t524 = t520 - t523;
         const V t525 = t520 + t523;
         // spectrum block of 3, multiplier 2
         const V t526 = t488 - t511;
-        const V t527 = c0 * t511;
+        const V t527 = c[-14] * t511;
         const V t528 = t527 + t488;
-        const V t529 = c26 * t503;
-        const V t530 = c27 * t502;
+        const V t529 = c[10] * t503;
+        const V t530 = c[11] * t502;
         const V t531 = t529 - t530;
         const V t532 = t528 - t531;
         const V t533 = t528 + t531;
         // spectrum block of 3, multiplier 2
         const V t534 = t479 + t467;
-        const V t535 = c0 * t479;
+        const V t535 = c[-14] * t479;
         const V t536 = t467 - t535;
-        const V t537 = c1 * t478;
+        const V t537 = c[-13] * t478;
         const V t538 = t536 - t537;
         const V t539 = t536 + t537;
         // complex block of 3, multiplier 2
@@ -697,45 +701,45 @@ struct ComplexGraph<57> {
         const V t543 = t483 - t475;
         const V t544 = t540 + t470;
         const V t545 = t541 + t471;
-        const V t546 = c0 * t540;
+        const V t546 = c[-14] * t540;
         const V t547 = t470 - t546;
-        const V t548 = c0 * t541;
+        const V t548 = c[-14] * t541;
         const V t549 = t471 - t548;
-        const V t550 = c1 * t542;
-        const V t551 = c1 * t543;
+        const V t550 = c[-13] * t542;
+        const V t551 = c[-13] * t543;
         const V t552 = t547 + t551;
         const V t553 = t549 - t550;
         const V t554 = t547 - t551;
         const V t555 = t549 + t550;
         // spectrum block of 9, multiplier 2
-        const V t556 = c2 * t554;
-        const V t557 = c3 * t555;
+        const V t556 = c[-12] * t554;
+        const V t557 = c[-11] * t555;
         const V t558 = t557 - t556;
-        const V t559 = c4 * t552;
-        const V t560 = c5 * t553;
+        const V t559 = c[-10] * t552;
+        const V t560 = c[-9] * t553;
         const V t561 = t560 + t559;
         // spectrum block of 3, multiplier 2
         const V t562 = t545 + t534;
-        const V t563 = c0 * t545;
+        const V t563 = c[-14] * t545;
         const V t564 = t534 - t563;
-        const V t565 = c1 * t544;
+        const V t565 = c[-13] * t544;
         const V t566 = t564 - t565;
         const V t567 = t564 + t565;
         // spectrum block of 3, multiplier 2
         const V t568 = t558 + t539;
-        const V t569 = c0 * t558;
+        const V t569 = c[-14] * t558;
         const V t570 = t539 - t569;
-        const V t571 = c25 * t554;
-        const V t572 = c24 * t555;
+        const V t571 = c[9] * t554;
+        const V t572 = c[8] * t555;
         const V t573 = t571 + t572;
         const V t574 = t570 - t573;
         const V t575 = t570 + t573;
         // spectrum block of 3, multiplier 2
         const V t576 = t538 - t561;
-        const V t577 = c0 * t561;
+        const V t577 = c[-14] * t561;
         const V t578 = t577 + t538;
-        const V t579 = c26 * t553;
-        const V t580 = c27 * t552;
+        const V t579 = c[10] * t553;
+        const V t580 = c[11] * t552;
         const V t581 = t579 - t580;
         const V t582 = t578 - t581;
         const V t583 = t578 + t581;
@@ -788,42 +792,42 @@ struct ComplexGraph<57> {
         const V t602 = t590 + t596;
         const V t603 = t590 - t596;
         const V t604 = t602 + t584;
-        const V t605 = c0 * t602;
+        const V t605 = c[-14] * t602;
         const V t606 = t584 - t605;
-        const V t607 = c1 * t603;
+        const V t607 = c[-13] * t603;
         // real block of 3, multiplier 2
         const V t608 = t592 + t598;
         const V t609 = t592 - t598;
         const V t610 = t608 + t586;
-        const V t611 = c0 * t608;
+        const V t611 = c[-14] * t608;
         const V t612 = t586 - t611;
-        const V t613 = c1 * t609;
+        const V t613 = c[-13] * t609;
         // real block of 3, multiplier 2
         const V t614 = t594 + t600;
         const V t615 = t594 - t600;
         const V t616 = t614 + t588;
-        const V t617 = c0 * t614;
+        const V t617 = c[-14] * t614;
         const V t618 = t588 - t617;
-        const V t619 = c1 * t615;
+        const V t619 = c[-13] * t615;
         // real block of 3, multiplier 2
         const V t620 = t610 + t616;
         const V t621 = t610 - t616;
         const V t622 = t620 + t604;
-        const V t623 = c0 * t620;
+        const V t623 = c[-14] * t620;
         const V t624 = t604 - t623;
-        const V t625 = c1 * t621;
+        const V t625 = c[-13] * t621;
         // real block of 9, multiplier 2
-        const V t626 = c2 * t613;
-        const V t627 = c3 * t612;
+        const V t626 = c[-12] * t613;
+        const V t627 = c[-11] * t612;
         const V t628 = t627 + t626;
-        const V t629 = c2 * t612;
-        const V t630 = c3 * t613;
+        const V t629 = c[-12] * t612;
+        const V t630 = c[-11] * t613;
         const V t631 = t630 - t629;
-        const V t632 = c4 * t619;
-        const V t633 = c5 * t618;
+        const V t632 = c[-10] * t619;
+        const V t633 = c[-9] * t618;
         const V t634 = t632 - t633;
-        const V t635 = c4 * t618;
-        const V t636 = c5 * t619;
+        const V t635 = c[-10] * t618;
+        const V t636 = c[-9] * t619;
         const V t637 = t636 + t635;
         // complex block of 3, multiplier 2
         const V t638 = t628 + t634;
@@ -832,12 +836,12 @@ struct ComplexGraph<57> {
         const V t641 = t631 + t637;
         const V t642 = t638 + t606;
         const V t643 = t639 + t607;
-        const V t644 = c0 * t638;
+        const V t644 = c[-14] * t638;
         const V t645 = t606 - t644;
-        const V t646 = c0 * t639;
+        const V t646 = c[-14] * t639;
         const V t647 = t607 - t646;
-        const V t648 = c1 * t640;
-        const V t649 = c1 * t641;
+        const V t648 = c[-13] * t640;
+        const V t649 = c[-13] * t641;
         const V t650 = t645 + t649;
         const V t651 = t647 - t648;
         const V t652 = t645 - t649;
@@ -846,42 +850,42 @@ struct ComplexGraph<57> {
         const V t654 = t591 + t597;
         const V t655 = t591 - t597;
         const V t656 = t654 + t585;
-        const V t657 = c0 * t654;
+        const V t657 = c[-14] * t654;
         const V t658 = t585 - t657;
-        const V t659 = c1 * t655;
+        const V t659 = c[-13] * t655;
         // real block of 3, multiplier 2
         const V t660 = t593 + t599;
         const V t661 = t593 - t599;
         const V t662 = t660 + t587;
-        const V t663 = c0 * t660;
+        const V t663 = c[-14] * t660;
         const V t664 = t587 - t663;
-        const V t665 = c1 * t661;
+        const V t665 = c[-13] * t661;
         // real block of 3, multiplier 2
         const V t666 = t595 + t601;
         const V t667 = t595 - t601;
         const V t668 = t666 + t589;
-        const V t669 = c0 * t666;
+        const V t669 = c[-14] * t666;
         const V t670 = t589 - t669;
-        const V t671 = c1 * t667;
+        const V t671 = c[-13] * t667;
         // real block of 3, multiplier 2
         const V t672 = t662 + t668;
         const V t673 = t662 - t668;
         const V t674 = t672 + t656;
-        const V t675 = c0 * t672;
+        const V t675 = c[-14] * t672;
         const V t676 = t656 - t675;
-        const V t677 = c1 * t673;
+        const V t677 = c[-13] * t673;
         // real block of 9, multiplier 2
-        const V t678 = c2 * t665;
-        const V t679 = c3 * t664;
+        const V t678 = c[-12] * t665;
+        const V t679 = c[-11] * t664;
         const V t680 = t679 + t678;
-        const V t681 = c2 * t664;
-        const V t682 = c3 * t665;
+        const V t681 = c[-12] * t664;
+        const V t682 = c[-11] * t665;
         const V t683 = t682 - t681;
-        const V t684 = c4 * t671;
-        const V t685 = c5 * t670;
+        const V t684 = c[-10] * t671;
+        const V t685 = c[-9] * t670;
         const V t686 = t684 - t685;
-        const V t687 = c4 * t670;
-        const V t688 = c5 * t671;
+        const V t687 = c[-10] * t670;
+        const V t688 = c[-9] * t671;
         const V t689 = t688 + t687;
         // complex block of 3, multiplier 2
         const V t690 = t680 + t686;
@@ -890,12 +894,12 @@ struct ComplexGraph<57> {
         const V t693 = t683 + t689;
         const V t694 = t690 + t658;
         const V t695 = t691 + t659;
-        const V t696 = c0 * t690;
+        const V t696 = c[-14] * t690;
         const V t697 = t658 - t696;
-        const V t698 = c0 * t691;
+        const V t698 = c[-14] * t691;
         const V t699 = t659 - t698;
-        const V t700 = c1 * t692;
-        const V t701 = c1 * t693;
+        const V t700 = c[-13] * t692;
+        const V t701 = c[-13] * t693;
         const V t702 = t697 + t701;
         const V t703 = t699 - t700;
         const V t704 = t697 - t701;
@@ -949,42 +953,42 @@ struct ComplexGraph<57> {
         const V t724 = t712 + t718;
         const V t725 = t712 - t718;
         const V t726 = t724 + t706;
-        const V t727 = c0 * t724;
+        const V t727 = c[-14] * t724;
         const V t728 = t706 - t727;
-        const V t729 = c1 * t725;
+        const V t729 = c[-13] * t725;
         // real block of 3, multiplier 2
         const V t730 = t714 + t720;
         const V t731 = t714 - t720;
         const V t732 = t730 + t708;
-        const V t733 = c0 * t730;
+        const V t733 = c[-14] * t730;
         const V t734 = t708 - t733;
-        const V t735 = c1 * t731;
+        const V t735 = c[-13] * t731;
         // real block of 3, multiplier 2
         const V t736 = t716 + t722;
         const V t737 = t716 - t722;
         const V t738 = t736 + t710;
-        const V t739 = c0 * t736;
+        const V t739 = c[-14] * t736;
         const V t740 = t710 - t739;
-        const V t741 = c1 * t737;
+        const V t741 = c[-13] * t737;
         // real block of 3, multiplier 2
         const V t742 = t732 + t738;
         const V t743 = t732 - t738;
         const V t744 = t742 + t726;
-        const V t745 = c0 * t742;
+        const V t745 = c[-14] * t742;
         const V t746 = t726 - t745;
-        const V t747 = c1 * t743;
+        const V t747 = c[-13] * t743;
         // real block of 9, multiplier 2
-        const V t748 = c2 * t735;
-        const V t749 = c3 * t734;
+        const V t748 = c[-12] * t735;
+        const V t749 = c[-11] * t734;
         const V t750 = t749 + t748;
-        const V t751 = c2 * t734;
-        const V t752 = c3 * t735;
+        const V t751 = c[-12] * t734;
+        const V t752 = c[-11] * t735;
         const V t753 = t752 - t751;
-        const V t754 = c4 * t741;
-        const V t755 = c5 * t740;
+        const V t754 = c[-10] * t741;
+        const V t755 = c[-9] * t740;
         const V t756 = t754 - t755;
-        const V t757 = c4 * t740;
-        const V t758 = c5 * t741;
+        const V t757 = c[-10] * t740;
+        const V t758 = c[-9] * t741;
         const V t759 = t758 + t757;
         // complex block of 3, multiplier 2
         const V t760 = t750 + t756;
@@ -993,12 +997,12 @@ struct ComplexGraph<57> {
         const V t763 = t753 + t759;
         const V t764 = t760 + t728;
         const V t765 = t761 + t729;
-        const V t766 = c0 * t760;
+        const V t766 = c[-14] * t760;
         const V t767 = t728 - t766;
-        const V t768 = c0 * t761;
+        const V t768 = c[-14] * t761;
         const V t769 = t729 - t768;
-        const V t770 = c1 * t762;
-        const V t771 = c1 * t763;
+        const V t770 = c[-13] * t762;
+        const V t771 = c[-13] * t763;
         const V t772 = t767 + t771;
         const V t773 = t769 - t770;
         const V t774 = t767 - t771;
@@ -1007,42 +1011,42 @@ struct ComplexGraph<57> {
         const V t776 = t713 + t719;
         const V t777 = t713 - t719;
         const V t778 = t776 + t707;
-        const V t779 = c0 * t776;
+        const V t779 = c[-14] * t776;
         const V t780 = t707 - t779;
-        const V t781 = c1 * t777;
+        const V t781 = c[-13] * t777;
         // real block of 3, multiplier 2
         const V t782 = t715 + t721;
         const V t783 = t715 - t721;
         const V t784 = t782 + t709;
-        const V t785 = c0 * t782;
+        const V t785 = c[-14] * t782;
         const V t786 = t709 - t785;
-        const V t787 = c1 * t783;
+        const V t787 = c[-13] * t783;
         // real block of 3, multiplier 2
         const V t788 = t717 + t723;
         const V t789 = t717 - t723;
         const V t790 = t788 + t711;
-        const V t791 = c0 * t788;
+        const V t791 = c[-14] * t788;
         const V t792 = t711 - t791;
-        const V t793 = c1 * t789;
+        const V t793 = c[-13] * t789;
         // real block of 3, multiplier 2
         const V t794 = t784 + t790;
         const V t795 = t784 - t790;
         const V t796 = t794 + t778;
-        const V t797 = c0 * t794;
+        const V t797 = c[-14] * t794;
         const V t798 = t778 - t797;
-        const V t799 = c1 * t795;
+        const V t799 = c[-13] * t795;
         // real block of 9, multiplier 2
-        const V t800 = c2 * t787;
-        const V t801 = c3 * t786;
+        const V t800 = c[-12] * t787;
+        const V t801 = c[-11] * t786;
         const V t802 = t801 + t800;
-        const V t803 = c2 * t786;
-        const V t804 = c3 * t787;
+        const V t803 = c[-12] * t786;
+        const V t804 = c[-11] * t787;
         const V t805 = t804 - t803;
-        const V t806 = c4 * t793;
-        const V t807 = c5 * t792;
+        const V t806 = c[-10] * t793;
+        const V t807 = c[-9] * t792;
         const V t808 = t806 - t807;
-        const V t809 = c4 * t792;
-        const V t810 = c5 * t793;
+        const V t809 = c[-10] * t792;
+        const V t810 = c[-9] * t793;
         const V t811 = t810 + t809;
         // complex block of 3, multiplier 2
         const V t812 = t802 + t808;
@@ -1051,12 +1055,12 @@ struct ComplexGraph<57> {
         const V t815 = t805 + t811;
         const V t816 = t812 + t780;
         const V t817 = t813 + t781;
-        const V t818 = c0 * t812;
+        const V t818 = c[-14] * t812;
         const V t819 = t780 - t818;
-        const V t820 = c0 * t813;
+        const V t820 = c[-14] * t813;
         const V t821 = t781 - t820;
-        const V t822 = c1 * t814;
-        const V t823 = c1 * t815;
+        const V t822 = c[-13] * t814;
+        const V t823 = c[-13] * t815;
         const V t824 = t819 + t823;
         const V t825 = t821 - t822;
         const V t826 = t819 - t823;
@@ -1066,108 +1070,108 @@ struct ComplexGraph<57> {
         const V t828 = x19r + t622;
         const V x19i = io.im(19);
         const V t829 = x19i + t744;
-        const V t830 = c6 * t622;
+        const V t830 = c[12] * t622;
         const V t831 = x19r - t830;
-        const V t832 = c6 * t744;
+        const V t832 = c[12] * t744;
         const V t833 = x19i - t832;
-        const V t834 = c7 * t827;
-        const V t835 = c8 * t826;
+        const V t834 = c[-8] * t827;
+        const V t835 = c[-7] * t826;
         const V t836 = t835 + t834;
-        const V t837 = c7 * t826;
-        const V t838 = c8 * t827;
+        const V t837 = c[-8] * t826;
+        const V t838 = c[-7] * t827;
         const V t839 = t837 - t838;
-        const V t840 = c7 * t705;
-        const V t841 = c8 * t704;
+        const V t840 = c[-8] * t705;
+        const V t841 = c[-7] * t704;
         const V t842 = t841 + t840;
-        const V t843 = c7 * t704;
-        const V t844 = c8 * t705;
+        const V t843 = c[-8] * t704;
+        const V t844 = c[-7] * t705;
         const V t845 = t844 - t843;
-        const V t846 = c9 * t643;
-        const V t847 = c10 * t642;
+        const V t846 = c[-6] * t643;
+        const V t847 = c[-5] * t642;
         const V t848 = t846 - t847;
-        const V t849 = c9 * t642;
-        const V t850 = c10 * t643;
+        const V t849 = c[-6] * t642;
+        const V t850 = c[-5] * t643;
         const V t851 = t850 + t849;
-        const V t852 = c9 * t765;
-        const V t853 = c10 * t764;
+        const V t852 = c[-6] * t765;
+        const V t853 = c[-5] * t764;
         const V t854 = t852 - t853;
-        const V t855 = c9 * t764;
-        const V t856 = c10 * t765;
+        const V t855 = c[-6] * t764;
+        const V t856 = c[-5] * t765;
         const V t857 = t856 + t855;
-        const V t858 = c11 * t799;
-        const V t859 = c12 * t798;
+        const V t858 = c[-4] * t799;
+        const V t859 = c[-3] * t798;
         const V t860 = t859 + t858;
-        const V t861 = c11 * t798;
-        const V t862 = c12 * t799;
+        const V t861 = c[-4] * t798;
+        const V t862 = c[-3] * t799;
         const V t863 = t861 - t862;
-        const V t864 = c11 * t677;
-        const V t865 = c12 * t676;
+        const V t864 = c[-4] * t677;
+        const V t865 = c[-3] * t676;
         const V t866 = t865 + t864;
-        const V t867 = c11 * t676;
-        const V t868 = c12 * t677;
+        const V t867 = c[-4] * t676;
+        const V t868 = c[-3] * t677;
         const V t869 = t868 - t867;
-        const V t870 = c13 * t651;
-        const V t871 = c14 * t650;
+        const V t870 = c[-2] * t651;
+        const V t871 = c[-1] * t650;
         const V t872 = t871 + t870;
-        const V t873 = c13 * t650;
-        const V t874 = c14 * t651;
+        const V t873 = c[-2] * t650;
+        const V t874 = c[-1] * t651;
         const V t875 = t873 - t874;
-        const V t876 = c13 * t773;
-        const V t877 = c14 * t772;
+        const V t876 = c[-2] * t773;
+        const V t877 = c[-1] * t772;
         const V t878 = t877 + t876;
-        const V t879 = c13 * t772;
-        const V t880 = c14 * t773;
+        const V t879 = c[-2] * t772;
+        const V t880 = c[-1] * t773;
         const V t881 = t879 - t880;
-        const V t882 = c15 * t825;
-        const V t883 = c16 * t824;
+        const V t882 = c[0] * t825;
+        const V t883 = c[1] * t824;
         const V t884 = t883 + t882;
-        const V t885 = c15 * t824;
-        const V t886 = c16 * t825;
+        const V t885 = c[0] * t824;
+        const V t886 = c[1] * t825;
         const V t887 = t886 - t885;
-        const V t888 = c15 * t703;
-        const V t889 = c16 * t702;
+        const V t888 = c[0] * t703;
+        const V t889 = c[1] * t702;
         const V t890 = t889 + t888;
-        const V t891 = c15 * t702;
-        const V t892 = c16 * t703;
+        const V t891 = c[0] * t702;
+        const V t892 = c[1] * t703;
         const V t893 = t891 - t892;
-        const V t894 = c17 * t625;
-        const V t895 = c18 * t624;
+        const V t894 = c[2] * t625;
+        const V t895 = c[3] * t624;
         const V t896 = t895 + t894;
-        const V t897 = c17 * t624;
-        const V t898 = c18 * t625;
+        const V t897 = c[2] * t624;
+        const V t898 = c[3] * t625;
         const V t899 = t898 - t897;
-        const V t900 = c17 * t747;
-        const V t901 = c18 * t746;
+        const V t900 = c[2] * t747;
+        const V t901 = c[3] * t746;
         const V t902 = t901 + t900;
-        const V t903 = c17 * t746;
-        const V t904 = c18 * t747;
+        const V t903 = c[2] * t746;
+        const V t904 = c[3] * t747;
         const V t905 = t904 - t903;
-        const V t906 = c19 * t817;
-        const V t907 = c20 * t816;
+        const V t906 = c[4] * t817;
+        const V t907 = c[5] * t816;
         const V t908 = t907 + t906;
-        const V t909 = c19 * t816;
-        const V t910 = c20 * t817;
+        const V t909 = c[4] * t816;
+        const V t910 = c[5] * t817;
         const V t911 = t909 - t910;
-        const V t912 = c19 * t695;
-        const V t913 = c20 * t694;
+        const V t912 = c[4] * t695;
+        const V t913 = c[5] * t694;
         const V t914 = t913 + t912;
-        const V t915 = c19 * t694;
-        const V t916 = c20 * t695;
+        const V t915 = c[4] * t694;
+        const V t916 = c[5] * t695;
         const V t917 = t916 - t915;
-        const V t918 = c21 * t653;
-        const V t919 = c22 * t652;
+        const V t918 = c[6] * t653;
+        const V t919 = c[7] * t652;
         const V t920 = t919 - t918;
-        const V t921 = c21 * t652;
-        const V t922 = c22 * t653;
+        const V t921 = c[6] * t652;
+        const V t922 = c[7] * t653;
         const V t923 = t922 + t921;
-        const V t924 = c21 * t775;
-        const V t925 = c22 * t774;
+        const V t924 = c[6] * t775;
+        const V t925 = c[7] * t774;
         const V t926 = t925 - t924;
-        const V t927 = c21 * t774;
-        const V t928 = c22 * t775;
+        const V t927 = c[6] * t774;
+        const V t928 = c[7] * t775;
         const V t929 = t928 + t927;
-        const V t930 = c23 * t796;
-        const V t931 = c23 * t674;
+        const V t930 = c[13] * t796;
+        const V t931 = c[13] * t674;
         // spectrum block of 2
         const V t932 = t831 - t930;
         const V t933 = t831 + t930;
@@ -1193,9 +1197,9 @@ struct ComplexGraph<57> {
         const V t949 = t920 - t836;
         // spectrum block of 3, multiplier 2
         const V t950 = t943 + t932;
-        const V t951 = c0 * t943;
+        const V t951 = c[-14] * t943;
         const V t952 = t932 - t951;
-        const V t953 = c1 * t942;
+        const V t953 = c[-13] * t942;
         const V t954 = t952 - t953;
         const V t955 = t952 + t953;
         // complex block of 3, multiplier 2
@@ -1205,53 +1209,53 @@ struct ComplexGraph<57> {
         const V t959 = t947 - t939;
         const V t960 = t956 - t934;
         const V t961 = t957 + t935;
-        const V t962 = c0 * t956;
+        const V t962 = c[-14] * t956;
         const V t963 = t934 + t962;
-        const V t964 = c0 * t957;
+        const V t964 = c[-14] * t957;
         const V t965 = t935 - t964;
-        const V t966 = c1 * t958;
-        const V t967 = c1 * t959;
+        const V t966 = c[-13] * t958;
+        const V t967 = c[-13] * t959;
         const V t968 = t967 - t963;
         const V t969 = t965 - t966;
         const V t970 = t963 + t967;
         const V t971 = t965 + t966;
         // spectrum block of 9, multiplier 2
-        const V t972 = c2 * t970;
-        const V t973 = c3 * t971;
+        const V t972 = c[-12] * t970;
+        const V t973 = c[-11] * t971;
         const V t974 = t973 + t972;
-        const V t975 = c4 * t968;
-        const V t976 = c5 * t969;
+        const V t975 = c[-10] * t968;
+        const V t976 = c[-9] * t969;
         const V t977 = t976 + t975;
         // spectrum block of 3, multiplier 2
         const V t978 = t961 + t950;
-        const V t979 = c0 * t961;
+        const V t979 = c[-14] * t961;
         const V t980 = t950 - t979;
-        const V t981 = c1 * t960;
+        const V t981 = c[-13] * t960;
         const V t982 = t980 - t981;
         const V t983 = t980 + t981;
         // spectrum block of 3, multiplier 2
         const V t984 = t974 + t955;
-        const V t985 = c0 * t974;
+        const V t985 = c[-14] * t974;
         const V t986 = t955 - t985;
-        const V t987 = c24 * t971;
-        const V t988 = c25 * t970;
+        const V t987 = c[8] * t971;
+        const V t988 = c[9] * t970;
         const V t989 = t987 - t988;
         const V t990 = t986 - t989;
         const V t991 = t986 + t989;
         // spectrum block of 3, multiplier 2
         const V t992 = t954 - t977;
-        const V t993 = c0 * t977;
+        const V t993 = c[-14] * t977;
         const V t994 = t993 + t954;
-        const V t995 = c26 * t969;
-        const V t996 = c27 * t968;
+        const V t995 = c[10] * t969;
+        const V t996 = c[11] * t968;
         const V t997 = t995 - t996;
         const V t998 = t994 - t997;
         const V t999 = t994 + t997;
         // spectrum block of 3, multiplier 2
         const V t1000 = t945 + t933;
-        const V t1001 = c0 * t945;
+        const V t1001 = c[-14] * t945;
         const V t1002 = t933 - t1001;
-        const V t1003 = c1 * t944;
+        const V t1003 = c[-13] * t944;
         const V t1004 = t1002 - t1003;
         const V t1005 = t1002 + t1003;
         // complex block of 3, multiplier 2
@@ -1261,45 +1265,45 @@ struct ComplexGraph<57> {
         const V t1009 = t949 - t941;
         const V t1010 = t1006 + t936;
         const V t1011 = t1007 + t937;
-        const V t1012 = c0 * t1006;
+        const V t1012 = c[-14] * t1006;
         const V t1013 = t936 - t1012;
-        const V t1014 = c0 * t1007;
+        const V t1014 = c[-14] * t1007;
         const V t1015 = t937 - t1014;
-        const V t1016 = c1 * t1008;
-        const V t1017 = c1 * t1009;
+        const V t1016 = c[-13] * t1008;
+        const V t1017 = c[-13] * t1009;
         const V t1018 = t1013 + t1017;
         const V t1019 = t1015 - t1016;
         const V t1020 = t1013 - t1017;
         const V t1021 = t1015 + t1016;
         // spectrum block of 9, multiplier 2
-        const V t1022 = c2 * t1020;
-        const V t1023 = c3 * t1021;
+        const V t1022 = c[-12] * t1020;
+        const V t1023 = c[-11] * t1021;
         const V t1024 = t1023 - t1022;
-        const V t1025 = c4 * t1018;
-        const V t1026 = c5 * t1019;
+        const V t1025 = c[-10] * t1018;
+        const V t1026 = c[-9] * t1019;
         const V t1027 = t1026 + t1025;
         // spectrum block of 3, multiplier 2
         const V t1028 = t1011 + t1000;
-        const V t1029 = c0 * t1011;
+        const V t1029 = c[-14] * t1011;
         const V t1030 = t1000 - t1029;
-        const V t1031 = c1 * t1010;
+        const V t1031 = c[-13] * t1010;
         const V t1032 = t1030 - t1031;
         const V t1033 = t1030 + t1031;
         // spectrum block of 3, multiplier 2
         const V t1034 = t1024 + t1005;
-        const V t1035 = c0 * t1024;
+        const V t1035 = c[-14] * t1024;
         const V t1036 = t1005 - t1035;
-        const V t1037 = c25 * t1020;
-        const V t1038 = c24 * t1021;
+        const V t1037 = c[9] * t1020;
+        const V t1038 = c[8] * t1021;
         const V t1039 = t1037 + t1038;
         const V t1040 = t1036 - t1039;
         const V t1041 = t1036 + t1039;
         // spectrum block of 3, multiplier 2
         const V t1042 = t1004 - t1027;
-        const V t1043 = c0 * t1027;
+        const V t1043 = c[-14] * t1027;
         const V t1044 = t1043 + t1004;
-        const V t1045 = c26 * t1019;
-        const V t1046 = c27 * t1018;
+        const V t1045 = c[10] * t1019;
+        const V t1046 = c[11] * t1018;
         const V t1047 = t1045 - t1046;
         const V t1048 = t1044 - t1047;
         const V t1049 = t1044 + t1047;
@@ -1328,9 +1332,9 @@ struct ComplexGraph<57> {
         const V t1067 = t926 + t842;
         // spectrum block of 3, multiplier 2
         const V t1068 = t1061 + t1050;
-        const V t1069 = c0 * t1061;
+        const V t1069 = c[-14] * t1061;
         const V t1070 = t1050 - t1069;
-        const V t1071 = c1 * t1060;
+        const V t1071 = c[-13] * t1060;
         const V t1072 = t1070 - t1071;
         const V t1073 = t1070 + t1071;
         // complex block of 3, multiplier 2
@@ -1340,53 +1344,53 @@ struct ComplexGraph<57> {
         const V t1077 = t1065 - t1057;
         const V t1078 = t1074 - t1052;
         const V t1079 = t1075 + t1053;
-        const V t1080 = c0 * t1074;
+        const V t1080 = c[-14] * t1074;
         const V t1081 = t1052 + t1080;
-        const V t1082 = c0 * t1075;
+        const V t1082 = c[-14] * t1075;
         const V t1083 = t1053 - t1082;
-        const V t1084 = c1 * t1076;
-        const V t1085 = c1 * t1077;
+        const V t1084 = c[-13] * t1076;
+        const V t1085 = c[-13] * t1077;
         const V t1086 = t1085 - t1081;
         const V t1087 = t1083 - t1084;
         const V t1088 = t1081 + t1085;
         const V t1089 = t1083 + t1084;
         // spectrum block of 9, multiplier 2
-        const V t1090 = c2 * t1088;
-        const V t1091 = c3 * t1089;
+        const V t1090 = c[-12] * t1088;
+        const V t1091 = c[-11] * t1089;
         const V t1092 = t1091 + t1090;
-        const V t1093 = c4 * t1086;
-        const V t1094 = c5 * t1087;
+        const V t1093 = c[-10] * t1086;
+        const V t1094 = c[-9] * t1087;
         const V t1095 = t1094 + t1093;
         // spectrum block of 3, multiplier 2
         const V t1096 = t1079 + t1068;
-        const V t1097 = c0 * t1079;
+        const V t1097 = c[-14] * t1079;
         const V t1098 = t1068 - t1097;
-        const V t1099 = c1 * t1078;
+        const V t1099 = c[-13] * t1078;
         const V t1100 = t1098 - t1099;
         const V t1101 = t1098 + t1099;
         // spectrum block of 3, multiplier 2
         const V t1102 = t1092 + t1073;
-        const V t1103 = c0 * t1092;
+        const V t1103 = c[-14] * t1092;
         const V t1104 = t1073 - t1103;
-        const V t1105 = c24 * t1089;
-        const V t1106 = c25 * t1088;
+        const V t1105 = c[8] * t1089;
+        const V t1106 = c[9] * t1088;
         const V t1107 = t1105 - t1106;
         const V t1108 = t1104 - t1107;
         const V t1109 = t1104 + t1107;
         // spectrum block of 3, multiplier 2
         const V t1110 = t1072 - t1095;
-        const V t1111 = c0 * t1095;
+        const V t1111 = c[-14] * t1095;
         const V t1112 = t1111 + t1072;
-        const V t1113 = c26 * t1087;
-        const V t1114 = c27 * t1086;
+        const V t1113 = c[10] * t1087;
+        const V t1114 = c[11] * t1086;
         const V t1115 = t1113 - t1114;
         const V t1116 = t1112 - t1115;
         const V t1117 = t1112 + t1115;
         // spectrum block of 3, multiplier 2
         const V t1118 = t1063 + t1051;
-        const V t1119 = c0 * t1063;
+        const V t1119 = c[-14] * t1063;
         const V t1120 = t1051 - t1119;
-        const V t1121 = c1 * t1062;
+        const V t1121 = c[-13] * t1062;
         const V t1122 = t1120 - t1121;
         const V t1123 = t1120 + t1121;
         // complex block of 3, multiplier 2
@@ -1396,45 +1400,45 @@ struct ComplexGraph<57> {
         const V t1127 = t1067 - t1059;
         const V t1128 = t1124 + t1054;
         const V t1129 = t1125 + t1055;
-        const V t1130 = c0 * t1124;
+        const V t1130 = c[-14] * t1124;
         const V t1131 = t1054 - t1130;
-        const V t1132 = c0 * t1125;
+        const V t1132 = c[-14] * t1125;
         const V t1133 = t1055 - t1132;
-        const V t1134 = c1 * t1126;
-        const V t1135 = c1 * t1127;
+        const V t1134 = c[-13] * t1126;
+        const V t1135 = c[-13] * t1127;
         const V t1136 = t1131 + t1135;
         const V t1137 = t1133 - t1134;
         const V t1138 = t1131 - t1135;
         const V t1139 = t1133 + t1134;
         // spectrum block of 9, multiplier 2
-        const V t1140 = c2 * t1138;
-        const V t1141 = c3 * t1139;
+        const V t1140 = c[-12] * t1138;
+        const V t1141 = c[-11] * t1139;
         const V t1142 = t1141 - t1140;
-        const V t1143 = c4 * t1136;
-        const V t1144 = c5 * t1137;
+        const V t1143 = c[-10] * t1136;
+        const V t1144 = c[-9] * t1137;
         const V t1145 = t1144 + t1143;
         // spectrum block of 3, multiplier 2
         const V t1146 = t1129 + t1118;
-        const V t1147 = c0 * t1129;
+        const V t1147 = c[-14] * t1129;
         const V t1148 = t1118 - t1147;
-        const V t1149 = c1 * t1128;
+        const V t1149 = c[-13] * t1128;
         const V t1150 = t1148 - t1149;
         const V t1151 = t1148 + t1149;
         // spectrum block of 3, multiplier 2
         const V t1152 = t1142 + t1123;
-        const V t1153 = c0 * t1142;
+        const V t1153 = c[-14] * t1142;
         const V t1154 = t1123 - t1153;
-        const V t1155 = c25 * t1138;
-        const V t1156 = c24 * t1139;
+        const V t1155 = c[9] * t1138;
+        const V t1156 = c[8] * t1139;
         const V t1157 = t1155 + t1156;
         const V t1158 = t1154 - t1157;
         const V t1159 = t1154 + t1157;
         // spectrum block of 3, multiplier 2
         const V t1160 = t1122 - t1145;
-        const V t1161 = c0 * t1145;
+        const V t1161 = c[-14] * t1145;
         const V t1162 = t1161 + t1122;
-        const V t1163 = c26 * t1137;
-        const V t1164 = c27 * t1136;
+        const V t1163 = c[10] * t1137;
+        const V t1164 = c[11] * t1136;
         const V t1165 = t1163 - t1164;
         const V t1166 = t1162 - t1165;
         const V t1167 = t1162 + t1165;
@@ -1487,42 +1491,42 @@ struct ComplexGraph<57> {
         const V t1186 = t1174 + t1180;
         const V t1187 = t1174 - t1180;
         const V t1188 = t1186 + t1168;
-        const V t1189 = c0 * t1186;
+        const V t1189 = c[-14] * t1186;
         const V t1190 = t1168 - t1189;
-        const V t1191 = c1 * t1187;
+        const V t1191 = c[-13] * t1187;
         // real block of 3, multiplier 2
         const V t1192 = t1176 + t1182;
         const V t1193 = t1176 - t1182;
         const V t1194 = t1192 + t1170;
-        const V t1195 = c0 * t1192;
+        const V t1195 = c[-14] * t1192;
         const V t1196 = t1170 - t1195;
-        const V t1197 = c1 * t1193;
+        const V t1197 = c[-13] * t1193;
         // real block of 3, multiplier 2
         const V t1198 = t1178 + t1184;
         const V t1199 = t1178 - t1184;
         const V t1200 = t1198 + t1172;
-        const V t1201 = c0 * t1198;
+        const V t1201 = c[-14] * t1198;
         const V t1202 = t1172 - t1201;
-        const V t1203 = c1 * t1199;
+        const V t1203 = c[-13] * t1199;
         // real block of 3, multiplier 2
         const V t1204 = t1194 + t1200;
         const V t1205 = t1194 - t1200;
         const V t1206 = t1204 + t1188;
-        const V t1207 = c0 * t1204;
+        const V t1207 = c[-14] * t1204;
         const V t1208 = t1188 - t1207;
-        const V t1209 = c1 * t1205;
+        const V t1209 = c[-13] * t1205;
         // real block of 9, multiplier 2
-        const V t1210 = c2 * t1197;
-        const V t1211 = c3 * t1196;
+        const V t1210 = c[-12] * t1197;
+        const V t1211 = c[-11] * t1196;
         const V t1212 = t1211 + t1210;
-        const V t1213 = c2 * t1196;
-        const V t1214 = c3 * t1197;
+        const V t1213 = c[-12] * t1196;
+        const V t1214 = c[-11] * t1197;
         const V t1215 = t1214 - t1213;
-        const V t1216 = c4 * t1203;
-        const V t1217 = c5 * t1202;
+        const V t1216 = c[-10] * t1203;
+        const V t1217 = c[-9] * t1202;
         const V t1218 = t1216 - t1217;
-        const V t1219 = c4 * t1202;
-        const V t1220 = c5 * t1203;
+        const V t1219 = c[-10] * t1202;
+        const V t1220 = c[-9] * t1203;
         const V t1221 = t1220 + t1219;
         // complex block of 3, multiplier 2
         const V t1222 = t1212 + t1218;
@@ -1531,12 +1535,12 @@ struct ComplexGraph<57> {
         const V t1225 = t1215 + t1221;
         const V t1226 = t1222 + t1190;
         const V t1227 = t1223 + t1191;
-        const V t1228 = c0 * t1222;
+        const V t1228 = c[-14] * t1222;
         const V t1229 = t1190 - t1228;
-        const V t1230 = c0 * t1223;
+        const V t1230 = c[-14] * t1223;
         const V t1231 = t1191 - t1230;
-        const V t1232 = c1 * t1224;
-        const V t1233 = c1 * t1225;
+        const V t1232 = c[-13] * t1224;
+        const V t1233 = c[-13] * t1225;
         const V t1234 = t1229 + t1233;
         const V t1235 = t1231 - t1232;
         const V t1236 = t1229 - t1233;
@@ -1545,42 +1549,42 @@ struct ComplexGraph<57> {
         const V t1238 = t1175 + t1181;
         const V t1239 = t1175 - t1181;
         const V t1240 = t1238 + t1169;
-        const V t1241 = c0 * t1238;
+        const V t1241 = c[-14] * t1238;
         const V t1242 = t1169 - t1241;
-        const V t1243 = c1 * t1239;
+        const V t1243 = c[-13] * t1239;
         // real block of 3, multiplier 2
         const V t1244 = t1177 + t1183;
         const V t1245 = t1177 - t1183;
         const V t1246 = t1244 + t1171;
-        const V t1247 = c0 * t1244;
+        const V t1247 = c[-14] * t1244;
         const V t1248 = t1171 - t1247;
-        const V t1249 = c1 * t1245;
+        const V t1249 = c[-13] * t1245;
         // real block of 3, multiplier 2
         const V t1250 = t1179 + t1185;
         const V t1251 = t1179 - t1185;
         const V t1252 = t1250 + t1173;
-        const V t1253 = c0 * t1250;
+        const V t1253 = c[-14] * t1250;
         const V t1254 = t1173 - t1253;
-        const V t1255 = c1 * t1251;
+        const V t1255 = c[-13] * t1251;
         // real block of 3, multiplier 2
         const V t1256 = t1246 + t1252;
         const V t1257 = t1246 - t1252;
         const V t1258 = t1256 + t1240;
-        const V t1259 = c0 * t1256;
+        const V t1259 = c[-14] * t1256;
         const V t1260 = t1240 - t1259;
-        const V t1261 = c1 * t1257;
+        const V t1261 = c[-13] * t1257;
         // real block of 9, multiplier 2
-        const V t1262 = c2 * t1249;
-        const V t1263 = c3 * t1248;
+        const V t1262 = c[-12] * t1249;
+        const V t1263 = c[-11] * t1248;
         const V t1264 = t1263 + t1262;
-        const V t1265 = c2 * t1248;
-        const V t1266 = c3 * t1249;
+        const V t1265 = c[-12] * t1248;
+        const V t1266 = c[-11] * t1249;
         const V t1267 = t1266 - t1265;
-        const V t1268 = c4 * t1255;
-        const V t1269 = c5 * t1254;
+        const V t1268 = c[-10] * t1255;
+        const V t1269 = c[-9] * t1254;
         const V t1270 = t1268 - t1269;
-        const V t1271 = c4 * t1254;
-        const V t1272 = c5 * t1255;
+        const V t1271 = c[-10] * t1254;
+        const V t1272 = c[-9] * t1255;
         const V t1273 = t1272 + t1271;
         // complex block of 3, multiplier 2
         const V t1274 = t1264 + t1270;
@@ -1589,12 +1593,12 @@ struct ComplexGraph<57> {
         const V t1277 = t1267 + t1273;
         const V t1278 = t1274 + t1242;
         const V t1279 = t1275 + t1243;
-        const V t1280 = c0 * t1274;
+        const V t1280 = c[-14] * t1274;
         const V t1281 = t1242 - t1280;
-        const V t1282 = c0 * t1275;
+        const V t1282 = c[-14] * t1275;
         const V t1283 = t1243 - t1282;
-        const V t1284 = c1 * t1276;
-        const V t1285 = c1 * t1277;
+        const V t1284 = c[-13] * t1276;
+        const V t1285 = c[-13] * t1277;
         const V t1286 = t1281 + t1285;
         const V t1287 = t1283 - t1284;
         const V t1288 = t1281 - t1285;
@@ -1648,42 +1652,42 @@ struct ComplexGraph<57> {
         const V t1308 = t1296 + t1302;
         const V t1309 = t1296 - t1302;
         const V t1310 = t1308 + t1290;
-        const V t1311 = c0 * t1308;
+        const V t1311 = c[-14] * t1308;
         const V t1312 = t1290 - t1311;
-        const V t1313 = c1 * t1309;
+        const V t1313 = c[-13] * t1309;
         // real block of 3, multiplier 2
         const V t1314 = t1298 + t1304;
         const V t1315 = t1298 - t1304;
         const V t1316 = t1314 + t1292;
-        const V t1317 = c0 * t1314;
+        const V t1317 = c[-14] * t1314;
         const V t1318 = t1292 - t1317;
-        const V t1319 = c1 * t1315;
+        const V t1319 = c[-13] * t1315;
         // real block of 3, multiplier 2
         const V t1320 = t1300 + t1306;
         const V t1321 = t1300 - t1306;
         const V t1322 = t1320 + t1294;
-        const V t1323 = c0 * t1320;
+        const V t1323 = c[-14] * t1320;
         const V t1324 = t1294 - t1323;
-        const V t1325 = c1 * t1321;
+        const V t1325 = c[-13] * t1321;
         // real block of 3, multiplier 2
         const V t1326 = t1316 + t1322;
         const V t1327 = t1316 - t1322;
         const V t1328 = t1326 + t1310;
-        const V t1329 = c0 * t1326;
+        const V t1329 = c[-14] * t1326;
         const V t1330 = t1310 - t1329;
-        const V t1331 = c1 * t1327;
+        const V t1331 = c[-13] * t1327;
         // real block of 9, multiplier 2
-        const V t1332 = c2 * t1319;
-        const V t1333 = c3 * t1318;
+        const V t1332 = c[-12] * t1319;
+        const V t1333 = c[-11] * t1318;
         const V t1334 = t1333 + t1332;
-        const V t1335 = c2 * t1318;
-        const V t1336 = c3 * t1319;
+        const V t1335 = c[-12] * t1318;
+        const V t1336 = c[-11] * t1319;
         const V t1337 = t1336 - t1335;
-        const V t1338 = c4 * t1325;
-        const V t1339 = c5 * t1324;
+        const V t1338 = c[-10] * t1325;
+        const V t1339 = c[-9] * t1324;
         const V t1340 = t1338 - t1339;
-        const V t1341 = c4 * t1324;
-        const V t1342 = c5 * t1325;
+        const V t1341 = c[-10] * t1324;
+        const V t1342 = c[-9] * t1325;
         const V t1343 = t1342 + t1341;
         // complex block of 3, multiplier 2
         const V t1344 = t1334 + t1340;
@@ -1692,12 +1696,12 @@ struct ComplexGraph<57> {
         const V t1347 = t1337 + t1343;
         const V t1348 = t1344 + t1312;
         const V t1349 = t1345 + t1313;
-        const V t1350 = c0 * t1344;
+        const V t1350 = c[-14] * t1344;
         const V t1351 = t1312 - t1350;
-        const V t1352 = c0 * t1345;
+        const V t1352 = c[-14] * t1345;
         const V t1353 = t1313 - t1352;
-        const V t1354 = c1 * t1346;
-        const V t1355 = c1 * t1347;
+        const V t1354 = c[-13] * t1346;
+        const V t1355 = c[-13] * t1347;
         const V t1356 = t1351 + t1355;
         const V t1357 = t1353 - t1354;
         const V t1358 = t1351 - t1355;
@@ -1706,42 +1710,42 @@ struct ComplexGraph<57> {
         const V t1360 = t1297 + t1303;
         const V t1361 = t1297 - t1303;
         const V t1362 = t1360 + t1291;
-        const V t1363 = c0 * t1360;
+        const V t1363 = c[-14] * t1360;
         const V t1364 = t1291 - t1363;
-        const V t1365 = c1 * t1361;
+        const V t1365 = c[-13] * t1361;
         // real block of 3, multiplier 2
         const V t1366 = t1299 + t1305;
         const V t1367 = t1299 - t1305;
         const V t1368 = t1366 + t1293;
-        const V t1369 = c0 * t1366;
+        const V t1369 = c[-14] * t1366;
         const V t1370 = t1293 - t1369;
-        const V t1371 = c1 * t1367;
+        const V t1371 = c[-13] * t1367;
         // real block of 3, multiplier 2
         const V t1372 = t1301 + t1307;
         const V t1373 = t1301 - t1307;
         const V t1374 = t1372 + t1295;
-        const V t1375 = c0 * t1372;
+        const V t1375 = c[-14] * t1372;
         const V t1376 = t1295 - t1375;
-        const V t1377 = c1 * t1373;
+        const V t1377 = c[-13] * t1373;
         // real block of 3, multiplier 2
         const V t1378 = t1368 + t1374;
         const V t1379 = t1368 - t1374;
         const V t1380 = t1378 + t1362;
-        const V t1381 = c0 * t1378;
+        const V t1381 = c[-14] * t1378;
         const V t1382 = t1362 - t1381;
-        const V t1383 = c1 * t1379;
+        const V t1383 = c[-13] * t1379;
         // real block of 9, multiplier 2
-        const V t1384 = c2 * t1371;
-        const V t1385 = c3 * t1370;
+        const V t1384 = c[-12] * t1371;
+        const V t1385 = c[-11] * t1370;
         const V t1386 = t1385 + t1384;
-        const V t1387 = c2 * t1370;
-        const V t1388 = c3 * t1371;
+        const V t1387 = c[-12] * t1370;
+        const V t1388 = c[-11] * t1371;
         const V t1389 = t1388 - t1387;
-        const V t1390 = c4 * t1377;
-        const V t1391 = c5 * t1376;
+        const V t1390 = c[-10] * t1377;
+        const V t1391 = c[-9] * t1376;
         const V t1392 = t1390 - t1391;
-        const V t1393 = c4 * t1376;
-        const V t1394 = c5 * t1377;
+        const V t1393 = c[-10] * t1376;
+        const V t1394 = c[-9] * t1377;
         const V t1395 = t1394 + t1393;
         // complex block of 3, multiplier 2
         const V t1396 = t1386 + t1392;
@@ -1750,12 +1754,12 @@ struct ComplexGraph<57> {
         const V t1399 = t1389 + t1395;
         const V t1400 = t1396 + t1364;
         const V t1401 = t1397 + t1365;
-        const V t1402 = c0 * t1396;
+        const V t1402 = c[-14] * t1396;
         const V t1403 = t1364 - t1402;
-        const V t1404 = c0 * t1397;
+        const V t1404 = c[-14] * t1397;
         const V t1405 = t1365 - t1404;
-        const V t1406 = c1 * t1398;
-        const V t1407 = c1 * t1399;
+        const V t1406 = c[-13] * t1398;
+        const V t1407 = c[-13] * t1399;
         const V t1408 = t1403 + t1407;
         const V t1409 = t1405 - t1406;
         const V t1410 = t1403 - t1407;
@@ -1765,108 +1769,108 @@ struct ComplexGraph<57> {
         const V t1412 = x38r + t1206;
         const V x38i = io.im(38);
         const V t1413 = x38i + t1328;
-        const V t1414 = c6 * t1206;
+        const V t1414 = c[12] * t1206;
         const V t1415 = x38r - t1414;
-        const V t1416 = c6 * t1328;
+        const V t1416 = c[12] * t1328;
         const V t1417 = x38i - t1416;
-        const V t1418 = c7 * t1411;
-        const V t1419 = c8 * t1410;
+        const V t1418 = c[-8] * t1411;
+        const V t1419 = c[-7] * t1410;
         const V t1420 = t1419 + t1418;
-        const V t1421 = c7 * t1410;
-        const V t1422 = c8 * t1411;
+        const V t1421 = c[-8] * t1410;
+        const V t1422 = c[-7] * t1411;
         const V t1423 = t1421 - t1422;
-        const V t1424 = c7 * t1289;
-        const V t1425 = c8 * t1288;
+        const V t1424 = c[-8] * t1289;
+        const V t1425 = c[-7] * t1288;
         const V t1426 = t1425 + t1424;
-        const V t1427 = c7 * t1288;
-        const V t1428 = c8 * t1289;
+        const V t1427 = c[-8] * t1288;
+        const V t1428 = c[-7] * t1289;
         const V t1429 = t1428 - t1427;
-        const V t1430 = c9 * t1227;
-        const V t1431 = c10 * t1226;
+        const V t1430 = c[-6] * t1227;
+        const V t1431 = c[-5] * t1226;
         const V t1432 = t1430 - t1431;
-        const V t1433 = c9 * t1226;
-        const V t1434 = c10 * t1227;
+        const V t1433 = c[-6] * t1226;
+        const V t1434 = c[-5] * t1227;
         const V t1435 = t1434 + t1433;
-        const V t1436 = c9 * t1349;
-        const V t1437 = c10 * t1348;
+        const V t1436 = c[-6] * t1349;
+        const V t1437 = c[-5] * t1348;
         const V t1438 = t1436 - t1437;
-        const V t1439 = c9 * t1348;
-        const V t1440 = c10 * t1349;
+        const V t1439 = c[-6] * t1348;
+        const V t1440 = c[-5] * t1349;
         const V t1441 = t1440 + t1439;
-        const V t1442 = c11 * t1383;
-        const V t1443 = c12 * t1382;
+        const V t1442 = c[-4] * t1383;
+        const V t1443 = c[-3] * t1382;
         const V t1444 = t1443 + t1442;
-        const V t1445 = c11 * t1382;
-        const V t1446 = c12 * t1383;
+        const V t1445 = c[-4] * t1382;
+        const V t1446 = c[-3] * t1383;
         const V t1447 = t1445 - t1446;
-        const V t1448 = c11 * t1261;
-        const V t1449 = c12 * t1260;
+        const V t1448 = c[-4] * t1261;
+        const V t1449 = c[-3] * t1260;
         const V t1450 = t1449 + t1448;
-        const V t1451 = c11 * t1260;
-        const V t1452 = c12 * t1261;
+        const V t1451 = c[-4] * t1260;
+        const V t1452 = c[-3] * t1261;
         const V t1453 = t1452 - t1451;
-        const V t1454 = c13 * t1235;
-        const V t1455 = c14 * t1234;
+        const V t1454 = c[-2] * t1235;
+        const V t1455 = c[-1] * t1234;
         const V t1456 = t1455 + t1454;
-        const V t1457 = c13 * t1234;
-        const V t1458 = c14 * t1235;
+        const V t1457 = c[-2] * t1234;
+        const V t1458 = c[-1] * t1235;
         const V t1459 = t1457 - t1458;
-        const V t1460 = c13 * t1357;
-        const V t1461 = c14 * t1356;
+        const V t1460 = c[-2] * t1357;
+        const V t1461 = c[-1] * t1356;
         const V t1462 = t1461 + t1460;
-        const V t1463 = c13 * t1356;
-        const V t1464 = c14 * t1357;
+        const V t1463 = c[-2] * t1356;
+        const V t1464 = c[-1] * t1357;
         const V t1465 = t1463 - t1464;
-        const V t1466 = c15 * t1409;
-        const V t1467 = c16 * t1408;
+        const V t1466 = c[0] * t1409;
+        const V t1467 = c[1] * t1408;
         const V t1468 = t1467 + t1466;
-        const V t1469 = c15 * t1408;
-        const V t1470 = c16 * t1409;
+        const V t1469 = c[0] * t1408;
+        const V t1470 = c[1] * t1409;
         const V t1471 = t1470 - t1469;
-        const V t1472 = c15 * t1287;
-        const V t1473 = c16 * t1286;
+        const V t1472 = c[0] * t1287;
+        const V t1473 = c[1] * t1286;
         const V t1474 = t1473 + t1472;
-        const V t1475 = c15 * t1286;
-        const V t1476 = c16 * t1287;
+        const V t1475 = c[0] * t1286;
+        const V t1476 = c[1] * t1287;
         const V t1477 = t1475 - t1476;
-        const V t1478 = c17 * t1209;
-        const V t1479 = c18 * t1208;
+        const V t1478 = c[2] * t1209;
+        const V t1479 = c[3] * t1208;
         const V t1480 = t1479 + t1478;
-        const V t1481 = c17 * t1208;
-        const V t1482 = c18 * t1209;
+        const V t1481 = c[2] * t1208;
+        const V t1482 = c[3] * t1209;
         const V t1483 = t1482 - t1481;
-        const V t1484 = c17 * t1331;
-        const V t1485 = c18 * t1330;
+        const V t1484 = c[2] * t1331;
+        const V t1485 = c[3] * t1330;
         const V t1486 = t1485 + t1484;
-        const V t1487 = c17 * t1330;
-        const V t1488 = c18 * t1331;
+        const V t1487 = c[2] * t1330;
+        const V t1488 = c[3] * t1331;
         const V t1489 = t1488 - t1487;
-        const V t1490 = c19 * t1401;
-        const V t1491 = c20 * t1400;
+        const V t1490 = c[4] * t1401;
+        const V t1491 = c[5] * t1400;
         const V t1492 = t1491 + t1490;
-        const V t1493 = c19 * t1400;
-        const V t1494 = c20 * t1401;
+        const V t1493 = c[4] * t1400;
+        const V t1494 = c[5] * t1401;
         const V t1495 = t1493 - t1494;
-        const V t1496 = c19 * t1279;
-        const V t1497 = c20 * t1278;
+        const V t1496 = c[4] * t1279;
+        const V t1497 = c[5] * t1278;
         const V t1498 = t1497 + t1496;
-        const V t1499 = c19 * t1278;
-        const V t1500 = c20 * t1279;
+        const V t1499 = c[4] * t1278;
+        const V t1500 = c[5] * t1279;
         const V t1501 = t1500 - t1499;
-        const V t1502 = c21 * t1237;
-        const V t1503 = c22 * t1236;
+        const V t1502 = c[6] * t1237;
+        const V t1503 = c[7] * t1236;
         const V t1504 = t1503 - t1502;
-        const V t1505 = c21 * t1236;
-        const V t1506 = c22 * t1237;
+        const V t1505 = c[6] * t1236;
+        const V t1506 = c[7] * t1237;
         const V t1507 = t1506 + t1505;
-        const V t1508 = c21 * t1359;
-        const V t1509 = c22 * t1358;
+        const V t1508 = c[6] * t1359;
+        const V t1509 = c[7] * t1358;
         const V t1510 = t1509 - t1508;
-        const V t1511 = c21 * t1358;
-        const V t1512 = c22 * t1359;
+        const V t1511 = c[6] * t1358;
+        const V t1512 = c[7] * t1359;
         const V t1513 = t1512 + t1511;
-        const V t1514 = c23 * t1380;
-        const V t1515 = c23 * t1258;
+        const V t1514 = c[13] * t1380;
+        const V t1515 = c[13] * t1258;
         // spectrum block of 2
         const V t1516 = t1415 - t1514;
         const V t1517 = t1415 + t1514;
@@ -1892,9 +1896,9 @@ struct ComplexGraph<57> {
         const V t1533 = t1504 - t1420;
         // spectrum block of 3, multiplier 2
         const V t1534 = t1527 + t1516;
-        const V t1535 = c0 * t1527;
+        const V t1535 = c[-14] * t1527;
         const V t1536 = t1516 - t1535;
-        const V t1537 = c1 * t1526;
+        const V t1537 = c[-13] * t1526;
         const V t1538 = t1536 - t1537;
         const V t1539 = t1536 + t1537;
         // complex block of 3, multiplier 2
@@ -1904,53 +1908,53 @@ struct ComplexGraph<57> {
         const V t1543 = t1531 - t1523;
         const V t1544 = t1540 - t1518;
         const V t1545 = t1541 + t1519;
-        const V t1546 = c0 * t1540;
+        const V t1546 = c[-14] * t1540;
         const V t1547 = t1518 + t1546;
-        const V t1548 = c0 * t1541;
+        const V t1548 = c[-14] * t1541;
         const V t1549 = t1519 - t1548;
-        const V t1550 = c1 * t1542;
-        const V t1551 = c1 * t1543;
+        const V t1550 = c[-13] * t1542;
+        const V t1551 = c[-13] * t1543;
         const V t1552 = t1551 - t1547;
         const V t1553 = t1549 - t1550;
         const V t1554 = t1547 + t1551;
         const V t1555 = t1549 + t1550;
         // spectrum block of 9, multiplier 2
-        const V t1556 = c2 * t1554;
-        const V t1557 = c3 * t1555;
+        const V t1556 = c[-12] * t1554;
+        const V t1557 = c[-11] * t1555;
         const V t1558 = t1557 + t1556;
-        const V t1559 = c4 * t1552;
-        const V t1560 = c5 * t1553;
+        const V t1559 = c[-10] * t1552;
+        const V t1560 = c[-9] * t1553;
         const V t1561 = t1560 + t1559;
         // spectrum block of 3, multiplier 2
         const V t1562 = t1545 + t1534;
-        const V t1563 = c0 * t1545;
+        const V t1563 = c[-14] * t1545;
         const V t1564 = t1534 - t1563;
-        const V t1565 = c1 * t1544;
+        const V t1565 = c[-13] * t1544;
         const V t1566 = t1564 - t1565;
         const V t1567 = t1564 + t1565;
         // spectrum block of 3, multiplier 2
         const V t1568 = t1558 + t1539;
-        const V t1569 = c0 * t1558;
+        const V t1569 = c[-14] * t1558;
         const V t1570 = t1539 - t1569;
-        const V t1571 = c24 * t1555;
-        const V t1572 = c25 * t1554;
+        const V t1571 = c[8] * t1555;
+        const V t1572 = c[9] * t1554;
         const V t1573 = t1571 - t1572;
         const V t1574 = t1570 - t1573;
         const V t1575 = t1570 + t1573;
         // spectrum block of 3, multiplier 2
         const V t1576 = t1538 - t1561;
-        const V t1577 = c0 * t1561;
+        const V t1577 = c[-14] * t1561;
         const V t1578 = t1577 + t1538;
-        const V t1579 = c26 * t1553;
-        const V t1580 = c27 * t1552;
+        const V t1579 = c[10] * t1553;
+        const V t1580 = c[11] * t1552;
         const V t1581 = t1579 - t1580;
         const V t1582 = t1578 - t1581;
         const V t1583 = t1578 + t1581;
         // spectrum block of 3, multiplier 2
         const V t1584 = t1529 + t1517;
-        const V t1585 = c0 * t1529;
+        const V t1585 = c[-14] * t1529;
         const V t1586 = t1517 - t1585;
-        const V t1587 = c1 * t1528;
+        const V t1587 = c[-13] * t1528;
         const V t1588 = t1586 - t1587;
         const V t1589 = t1586 + t1587;
         // complex block of 3, multiplier 2
@@ -1960,45 +1964,45 @@ struct ComplexGraph<57> {
         const V t1593 = t1533 - t1525;
         const V t1594 = t1590 + t1520;
         const V t1595 = t1591 + t1521;
-        const V t1596 = c0 * t1590;
+        const V t1596 = c[-14] * t1590;
         const V t1597 = t1520 - t1596;
-        const V t1598 = c0 * t1591;
+        const V t1598 = c[-14] * t1591;
         const V t1599 = t1521 - t1598;
-        const V t1600 = c1 * t1592;
-        const V t1601 = c1 * t1593;
+        const V t1600 = c[-13] * t1592;
+        const V t1601 = c[-13] * t1593;
         const V t1602 = t1597 + t1601;
         const V t1603 = t1599 - t1600;
         const V t1604 = t1597 - t1601;
         const V t1605 = t1599 + t1600;
         // spectrum block of 9, multiplier 2
-        const V t1606 = c2 * t1604;
-        const V t1607 = c3 * t1605;
+        const V t1606 = c[-12] * t1604;
+        const V t1607 = c[-11] * t1605;
         const V t1608 = t1607 - t1606;
-        const V t1609 = c4 * t1602;
-        const V t1610 = c5 * t1603;
+        const V t1609 = c[-10] * t1602;
+        const V t1610 = c[-9] * t1603;
         const V t1611 = t1610 + t1609;
         // spectrum block of 3, multiplier 2
         const V t1612 = t1595 + t1584;
-        const V t1613 = c0 * t1595;
+        const V t1613 = c[-14] * t1595;
         const V t1614 = t1584 - t1613;
-        const V t1615 = c1 * t1594;
+        const V t1615 = c[-13] * t1594;
         const V t1616 = t1614 - t1615;
         const V t1617 = t1614 + t1615;
         // spectrum block of 3, multiplier 2
         const V t1618 = t1608 + t1589;
-        const V t1619 = c0 * t1608;
+        const V t1619 = c[-14] * t1608;
         const V t1620 = t1589 - t1619;
-        const V t1621 = c25 * t1604;
-        const V t1622 = c24 * t1605;
+        const V t1621 = c[9] * t1604;
+        const V t1622 = c[8] * t1605;
         const V t1623 = t1621 + t1622;
         const V t1624 = t1620 - t1623;
         const V t1625 = t1620 + t1623;
         // spectrum block of 3, multiplier 2
         const V t1626 = t1588 - t1611;
-        const V t1627 = c0 * t1611;
+        const V t1627 = c[-14] * t1611;
         const V t1628 = t1627 + t1588;
-        const V t1629 = c26 * t1603;
-        const V t1630 = c27 * t1602;
+        const V t1629 = c[10] * t1603;
+        const V t1630 = c[11] * t1602;
         const V t1631 = t1629 - t1630;
         const V t1632 = t1628 - t1631;
         const V t1633 = t1628 + t1631;
@@ -2027,9 +2031,9 @@ struct ComplexGraph<57> {
         const V t1651 = t1510 + t1426;
         // spectrum block of 3, multiplier 2
         const V t1652 = t1645 + t1634;
-        const V t1653 = c0 * t1645;
+        const V t1653 = c[-14] * t1645;
         const V t1654 = t1634 - t1653;
-        const V t1655 = c1 * t1644;
+        const V t1655 = c[-13] * t1644;
         const V t1656 = t1654 - t1655;
         const V t1657 = t1654 + t1655;
         // complex block of 3, multiplier 2
@@ -2039,53 +2043,53 @@ struct ComplexGraph<57> {
         const V t1661 = t1649 - t1641;
         const V t1662 = t1658 - t1636;
         const V t1663 = t1659 + t1637;
-        const V t1664 = c0 * t1658;
+        const V t1664 = c[-14] * t1658;
         const V t1665 = t1636 + t1664;
-        const V t1666 = c0 * t1659;
+        const V t1666 = c[-14] * t1659;
         const V t1667 = t1637 - t1666;
-        const V t1668 = c1 * t1660;
-        const V t1669 = c1 * t1661;
+        const V t1668 = c[-13] * t1660;
+        const V t1669 = c[-13] * t1661;
         const V t1670 = t1669 - t1665;
         const V t1671 = t1667 - t1668;
         const V t1672 = t1665 + t1669;
         const V t1673 = t1667 + t1668;
         // spectrum block of 9, multiplier 2
-        const V t1674 = c2 * t1672;
-        const V t1675 = c3 * t1673;
+        const V t1674 = c[-12] * t1672;
+        const V t1675 = c[-11] * t1673;
         const V t1676 = t1675 + t1674;
-        const V t1677 = c4 * t1670;
-        const V t1678 = c5 * t1671;
+        const V t1677 = c[-10] * t1670;
+        const V t1678 = c[-9] * t1671;
         const V t1679 = t1678 + t1677;
         // spectrum block of 3, multiplier 2
         const V t1680 = t1663 + t1652;
-        const V t1681 = c0 * t1663;
+        const V t1681 = c[-14] * t1663;
         const V t1682 = t1652 - t1681;
-        const V t1683 = c1 * t1662;
+        const V t1683 = c[-13] * t1662;
         const V t1684 = t1682 - t1683;
         const V t1685 = t1682 + t1683;
         // spectrum block of 3, multiplier 2
         const V t1686 = t1676 + t1657;
-        const V t1687 = c0 * t1676;
+        const V t1687 = c[-14] * t1676;
         const V t1688 = t1657 - t1687;
-        const V t1689 = c24 * t1673;
-        const V t1690 = c25 * t1672;
+        const V t1689 = c[8] * t1673;
+        const V t1690 = c[9] * t1672;
         const V t1691 = t1689 - t1690;
         const V t1692 = t1688 - t1691;
         const V t1693 = t1688 + t1691;
         // spectrum block of 3, multiplier 2
         const V t1694 = t1656 - t1679;
-        const V t1695 = c0 * t1679;
+        const V t1695 = c[-14] * t1679;
         const V t1696 = t1695 + t1656;
-        const V t1697 = c26 * t1671;
-        const V t1698 = c27 * t1670;
+        const V t1697 = c[10] * t1671;
+        const V t1698 = c[11] * t1670;
         const V t1699 = t1697 - t1698;
         const V t1700 = t1696 - t1699;
         const V t1701 = t1696 + t1699;
         // spectrum block of 3, multiplier 2
         const V t1702 = t1647 + t1635;
-        const V t1703 = c0 * t1647;
+        const V t1703 = c[-14] * t1647;
         const V t1704 = t1635 - t1703;
-        const V t1705 = c1 * t1646;
+        const V t1705 = c[-13] * t1646;
         const V t1706 = t1704 - t1705;
         const V t1707 = t1704 + t1705;
         // complex block of 3, multiplier 2
@@ -2095,45 +2099,45 @@ struct ComplexGraph<57> {
         const V t1711 = t1651 - t1643;
         const V t1712 = t1708 + t1638;
         const V t1713 = t1709 + t1639;
-        const V t1714 = c0 * t1708;
+        const V t1714 = c[-14] * t1708;
         const V t1715 = t1638 - t1714;
-        const V t1716 = c0 * t1709;
+        const V t1716 = c[-14] * t1709;
         const V t1717 = t1639 - t1716;
-        const V t1718 = c1 * t1710;
-        const V t1719 = c1 * t1711;
+        const V t1718 = c[-13] * t1710;
+        const V t1719 = c[-13] * t1711;
         const V t1720 = t1715 + t1719;
         const V t1721 = t1717 - t1718;
         const V t1722 = t1715 - t1719;
         const V t1723 = t1717 + t1718;
         // spectrum block of 9, multiplier 2
-        const V t1724 = c2 * t1722;
-        const V t1725 = c3 * t1723;
+        const V t1724 = c[-12] * t1722;
+        const V t1725 = c[-11] * t1723;
         const V t1726 = t1725 - t1724;
-        const V t1727 = c4 * t1720;
-        const V t1728 = c5 * t1721;
+        const V t1727 = c[-10] * t1720;
+        const V t1728 = c[-9] * t1721;
         const V t1729 = t1728 + t1727;
         // spectrum block of 3, multiplier 2
         const V t1730 = t1713 + t1702;
-        const V t1731 = c0 * t1713;
+        const V t1731 = c[-14] * t1713;
         const V t1732 = t1702 - t1731;
-        const V t1733 = c1 * t1712;
+        const V t1733 = c[-13] * t1712;
         const V t1734 = t1732 - t1733;
         const V t1735 = t1732 + t1733;
         // spectrum block of 3, multiplier 2
         const V t1736 = t1726 + t1707;
-        const V t1737 = c0 * t1726;
+        const V t1737 = c[-14] * t1726;
         const V t1738 = t1707 - t1737;
-        const V t1739 = c25 * t1722;
-        const V t1740 = c24 * t1723;
+        const V t1739 = c[9] * t1722;
+        const V t1740 = c[8] * t1723;
         const V t1741 = t1739 + t1740;
         const V t1742 = t1738 - t1741;
         const V t1743 = t1738 + t1741;
         // spectrum block of 3, multiplier 2
         const V t1744 = t1706 - t1729;
-        const V t1745 = c0 * t1729;
+        const V t1745 = c[-14] * t1729;
         const V t1746 = t1745 + t1706;
-        const V t1747 = c26 * t1721;
-        const V t1748 = c27 * t1720;
+        const V t1747 = c[10] * t1721;
+        const V t1748 = c[11] * t1720;
         const V t1749 = t1747 - t1748;
         const V t1750 = t1746 - t1749;
         const V t1751 = t1746 + t1749;
@@ -2146,12 +2150,12 @@ struct ComplexGraph<57> {
         io.re(0, t1756);
         const V t1757 = t1753 + t245;
         io.im(0, t1757);
-        const V t1758 = c0 * t1752;
+        const V t1758 = c[-14] * t1752;
         const V t1759 = t244 - t1758;
-        const V t1760 = c0 * t1753;
+        const V t1760 = c[-14] * t1753;
         const V t1761 = t245 - t1760;
-        const V t1762 = c1 * t1754;
-        const V t1763 = c1 * t1755;
+        const V t1762 = c[-13] * t1754;
+        const V t1763 = c[-13] * t1755;
         const V t1764 = t1759 + t1763;
         io.re(19, t1764);
         const V t1765 = t1761 - t1762;
@@ -2169,12 +2173,12 @@ struct ComplexGraph<57> {
         io.re(3, t1772);
         const V t1773 = t1769 + t512;
         io.im(3, t1773);
-        const V t1774 = c0 * t1768;
+        const V t1774 = c[-14] * t1768;
         const V t1775 = t394 - t1774;
-        const V t1776 = c0 * t1769;
+        const V t1776 = c[-14] * t1769;
         const V t1777 = t512 - t1776;
-        const V t1778 = c1 * t1770;
-        const V t1779 = c1 * t1771;
+        const V t1778 = c[-13] * t1770;
+        const V t1779 = c[-13] * t1771;
         const V t1780 = t1775 + t1779;
         io.re(22, t1780);
         const V t1781 = t1777 - t1778;
@@ -2192,12 +2196,12 @@ struct ComplexGraph<57> {
         io.re(6, t1788);
         const V t1789 = t1785 + t575;
         io.im(6, t1789);
-        const V t1790 = c0 * t1784;
+        const V t1790 = c[-14] * t1784;
         const V t1791 = t457 - t1790;
-        const V t1792 = c0 * t1785;
+        const V t1792 = c[-14] * t1785;
         const V t1793 = t575 - t1792;
-        const V t1794 = c1 * t1786;
-        const V t1795 = c1 * t1787;
+        const V t1794 = c[-13] * t1786;
+        const V t1795 = c[-13] * t1787;
         const V t1796 = t1791 + t1795;
         io.re(25, t1796);
         const V t1797 = t1793 - t1794;
@@ -2215,12 +2219,12 @@ struct ComplexGraph<57> {
         io.re(9, t1804);
         const V t1805 = t1801 + t574;
         io.im(9, t1805);
-        const V t1806 = c0 * t1800;
+        const V t1806 = c[-14] * t1800;
         const V t1807 = t456 - t1806;
-        const V t1808 = c0 * t1801;
+        const V t1808 = c[-14] * t1801;
         const V t1809 = t574 - t1808;
-        const V t1810 = c1 * t1802;
-        const V t1811 = c1 * t1803;
+        const V t1810 = c[-13] * t1802;
+        const V t1811 = c[-13] * t1803;
         const V t1812 = t1807 + t1811;
         io.re(28, t1812);
         const V t1813 = t1809 - t1810;
@@ -2238,12 +2242,12 @@ struct ComplexGraph<57> {
         io.re(12, t1820);
         const V t1821 = t1817 + t532;
         io.im(12, t1821);
-        const V t1822 = c0 * t1816;
+        const V t1822 = c[-14] * t1816;
         const V t1823 = t414 - t1822;
-        const V t1824 = c0 * t1817;
+        const V t1824 = c[-14] * t1817;
         const V t1825 = t532 - t1824;
-        const V t1826 = c1 * t1818;
-        const V t1827 = c1 * t1819;
+        const V t1826 = c[-13] * t1818;
+        const V t1827 = c[-13] * t1819;
         const V t1828 = t1823 + t1827;
         io.re(31, t1828);
         const V t1829 = t1825 - t1826;
@@ -2261,12 +2265,12 @@ struct ComplexGraph<57> {
         io.re(15, t1836);
         const V t1837 = t1833 + t518;
         io.im(15, t1837);
-        const V t1838 = c0 * t1832;
+        const V t1838 = c[-14] * t1832;
         const V t1839 = t400 - t1838;
-        const V t1840 = c0 * t1833;
+        const V t1840 = c[-14] * t1833;
         const V t1841 = t518 - t1840;
-        const V t1842 = c1 * t1834;
-        const V t1843 = c1 * t1835;
+        const V t1842 = c[-13] * t1834;
+        const V t1843 = c[-13] * t1835;
         const V t1844 = t1839 + t1843;
         io.re(34, t1844);
         const V t1845 = t1841 - t1842;
@@ -2284,12 +2288,12 @@ struct ComplexGraph<57> {
         io.re(18, t1852);
         const V t1853 = t1849 + t526;
         io.im(18, t1853);
-        const V t1854 = c0 * t1848;
+        const V t1854 = c[-14] * t1848;
         const V t1855 = t408 - t1854;
-        const V t1856 = c0 * t1849;
+        const V t1856 = c[-14] * t1849;
         const V t1857 = t526 - t1856;
-        const V t1858 = c1 * t1850;
-        const V t1859 = c1 * t1851;
+        const V t1858 = c[-13] * t1850;
+        const V t1859 = c[-13] * t1851;
         const V t1860 = t1855 + t1859;
         io.re(37, t1860);
         const V t1861 = t1857 - t1858;
@@ -2307,12 +2311,12 @@ struct ComplexGraph<57> {
         io.re(21, t1868);
         const V t1869 = t1865 + t516;
         io.im(21, t1869);
-        const V t1870 = c0 * t1864;
+        const V t1870 = c[-14] * t1864;
         const V t1871 = t398 - t1870;
-        const V t1872 = c0 * t1865;
+        const V t1872 = c[-14] * t1865;
         const V t1873 = t516 - t1872;
-        const V t1874 = c1 * t1866;
-        const V t1875 = c1 * t1867;
+        const V t1874 = c[-13] * t1866;
+        const V t1875 = c[-13] * t1867;
         const V t1876 = t1871 + t1875;
         io.re(40, t1876);
         const V t1877 = t1873 - t1874;
@@ -2330,12 +2334,12 @@ struct ComplexGraph<57> {
         io.re(24, t1884);
         const V t1885 = t1881 + t567;
         io.im(24, t1885);
-        const V t1886 = c0 * t1880;
+        const V t1886 = c[-14] * t1880;
         const V t1887 = t449 - t1886;
-        const V t1888 = c0 * t1881;
+        const V t1888 = c[-14] * t1881;
         const V t1889 = t567 - t1888;
-        const V t1890 = c1 * t1882;
-        const V t1891 = c1 * t1883;
+        const V t1890 = c[-13] * t1882;
+        const V t1891 = c[-13] * t1883;
         const V t1892 = t1887 + t1891;
         io.re(43, t1892);
         const V t1893 = t1889 - t1890;
@@ -2353,12 +2357,12 @@ struct ComplexGraph<57> {
         io.re(27, t1900);
         const V t1901 = t1897 + t533;
         io.im(27, t1901);
-        const V t1902 = c0 * t1896;
+        const V t1902 = c[-14] * t1896;
         const V t1903 = t415 - t1902;
-        const V t1904 = c0 * t1897;
+        const V t1904 = c[-14] * t1897;
         const V t1905 = t533 - t1904;
-        const V t1906 = c1 * t1898;
-        const V t1907 = c1 * t1899;
+        const V t1906 = c[-13] * t1898;
+        const V t1907 = c[-13] * t1899;
         const V t1908 = t1903 + t1907;
         io.re(46, t1908);
         const V t1909 = t1905 - t1906;
@@ -2376,12 +2380,12 @@ struct ComplexGraph<57> {
         io.re(30, t1916);
         const V t1917 = t1913 + t583;
         io.im(30, t1917);
-        const V t1918 = c0 * t1912;
+        const V t1918 = c[-14] * t1912;
         const V t1919 = t465 - t1918;
-        const V t1920 = c0 * t1913;
+        const V t1920 = c[-14] * t1913;
         const V t1921 = t583 - t1920;
-        const V t1922 = c1 * t1914;
-        const V t1923 = c1 * t1915;
+        const V t1922 = c[-13] * t1914;
+        const V t1923 = c[-13] * t1915;
         const V t1924 = t1919 + t1923;
         io.re(49, t1924);
         const V t1925 = t1921 - t1922;
@@ -2399,12 +2403,12 @@ struct ComplexGraph<57> {
         io.re(33, t1932);
         const V t1933 = t1929 + t517;
         io.im(33, t1933);
-        const V t1934 = c0 * t1928;
+        const V t1934 = c[-14] * t1928;
         const V t1935 = t399 - t1934;
-        const V t1936 = c0 * t1929;
+        const V t1936 = c[-14] * t1929;
         const V t1937 = t517 - t1936;
-        const V t1938 = c1 * t1930;
-        const V t1939 = c1 * t1931;
+        const V t1938 = c[-13] * t1930;
+        const V t1939 = c[-13] * t1931;
         const V t1940 = t1935 + t1939;
         io.re(52, t1940);
         const V t1941 = t1937 - t1938;
@@ -2422,12 +2426,12 @@ struct ComplexGraph<57> {
         io.re(36, t1948);
         const V t1949 = t1945 + t566;
         io.im(36, t1949);
-        const V t1950 = c0 * t1944;
+        const V t1950 = c[-14] * t1944;
         const V t1951 = t448 - t1950;
-        const V t1952 = c0 * t1945;
+        const V t1952 = c[-14] * t1945;
         const V t1953 = t566 - t1952;
-        const V t1954 = c1 * t1946;
-        const V t1955 = c1 * t1947;
+        const V t1954 = c[-13] * t1946;
+        const V t1955 = c[-13] * t1947;
         const V t1956 = t1951 + t1955;
         io.re(55, t1956);
         const V t1957 = t1953 - t1954;
@@ -2445,12 +2449,12 @@ struct ComplexGraph<57> {
         io.re(39, t1964);
         const V t1965 = t1961 + t576;
         io.im(39, t1965);
-        const V t1966 = c0 * t1960;
+        const V t1966 = c[-14] * t1960;
         const V t1967 = t458 - t1966;
-        const V t1968 = c0 * t1961;
+        const V t1968 = c[-14] * t1961;
         const V t1969 = t576 - t1968;
-        const V t1970 = c1 * t1962;
-        const V t1971 = c1 * t1963;
+        const V t1970 = c[-13] * t1962;
+        const V t1971 = c[-13] * t1963;
         const V t1972 = t1967 + t1971;
         io.re(1, t1972);
         const V t1973 = t1969 - t1970;
@@ -2468,12 +2472,12 @@ struct ComplexGraph<57> {
         io.re(42, t1980);
         const V t1981 = t1977 + t568;
         io.im(42, t1981);
-        const V t1982 = c0 * t1976;
+        const V t1982 = c[-14] * t1976;
         const V t1983 = t450 - t1982;
-        const V t1984 = c0 * t1977;
+        const V t1984 = c[-14] * t1977;
         const V t1985 = t568 - t1984;
-        const V t1986 = c1 * t1978;
-        const V t1987 = c1 * t1979;
+        const V t1986 = c[-13] * t1978;
+        const V t1987 = c[-13] * t1979;
         const V t1988 = t1983 + t1987;
         io.re(4, t1988);
         const V t1989 = t1985 - t1986;
@@ -2491,12 +2495,12 @@ struct ComplexGraph<57> {
         io.re(45, t1996);
         const V t1997 = t1993 + t582;
         io.im(45, t1997);
-        const V t1998 = c0 * t1992;
+        const V t1998 = c[-14] * t1992;
         const V t1999 = t464 - t1998;
-        const V t2000 = c0 * t1993;
+        const V t2000 = c[-14] * t1993;
         const V t2001 = t582 - t2000;
-        const V t2002 = c1 * t1994;
-        const V t2003 = c1 * t1995;
+        const V t2002 = c[-13] * t1994;
+        const V t2003 = c[-13] * t1995;
         const V t2004 = t1999 + t2003;
         io.re(7, t2004);
         const V t2005 = t2001 - t2002;
@@ -2514,12 +2518,12 @@ struct ComplexGraph<57> {
         io.re(48, t2012);
         const V t2013 = t2009 + t524;
         io.im(48, t2013);
-        const V t2014 = c0 * t2008;
+        const V t2014 = c[-14] * t2008;
         const V t2015 = t406 - t2014;
-        const V t2016 = c0 * t2009;
+        const V t2016 = c[-14] * t2009;
         const V t2017 = t524 - t2016;
-        const V t2018 = c1 * t2010;
-        const V t2019 = c1 * t2011;
+        const V t2018 = c[-13] * t2010;
+        const V t2019 = c[-13] * t2011;
         const V t2020 = t2015 + t2019;
         io.re(10, t2020);
         const V t2021 = t2017 - t2018;
@@ -2537,12 +2541,12 @@ struct ComplexGraph<57> {
         io.re(51, t2028);
         const V t2029 = t2025 + t525;
         io.im(51, t2029);
-        const V t2030 = c0 * t2024;
+        const V t2030 = c[-14] * t2024;
         const V t2031 = t407 - t2030;
-        const V t2032 = c0 * t2025;
+        const V t2032 = c[-14] * t2025;
         const V t2033 = t525 - t2032;
-        const V t2034 = c1 * t2026;
-        const V t2035 = c1 * t2027;
+        const V t2034 = c[-13] * t2026;
+        const V t2035 = c[-13] * t2027;
         const V t2036 = t2031 + t2035;
         io.re(13, t2036);
         const V t2037 = t2033 - t2034;
@@ -2560,12 +2564,12 @@ struct ComplexGraph<57> {
         io.re(54, t2044);
         const V t2045 = t2041 + t562;
         io.im(54, t2045);
-        const V t2046 = c0 * t2040;
+        const V t2046 = c[-14] * t2040;
         const V t2047 = t444 - t2046;
-        const V t2048 = c0 * t2041;
+        const V t2048 = c[-14] * t2041;
         const V t2049 = t562 - t2048;
-        const V t2050 = c1 * t2042;
-        const V t2051 = c1 * t2043;
+        const V t2050 = c[-13] * t2042;
+        const V t2051 = c[-13] * t2043;
         const V t2052 = t2047 + t2051;
         io.re(16, t2052);
         const V t2053 = t2049 - t2050;

@@ -2,31 +2,35 @@
 // Complex DFT of 64 points, twiddled, inner 8, outer 8.
 // 464 additions, 464 subtractions, 248 multiplications (376 with `scale`); 15 constants; 130 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct ComplexGraph<64> {
     static constexpr double inverseRoot = 0.125;  // 1/sqrt(64), for `scale`
-    static constexpr double c0 = 0.7071067811865476;  // cos 2 pi 1/8
-    static constexpr double c1 = 0.0980171403295606;  // sin 2 pi 1/64
-    static constexpr double c2 = 0.9951847266721969;  // cos 2 pi 1/64
-    static constexpr double c3 = 0.19509032201612828;  // sin 2 pi 2/64
-    static constexpr double c4 = 0.9807852804032304;  // cos 2 pi 2/64
-    static constexpr double c5 = 0.2902846772544624;  // sin 2 pi 3/64
-    static constexpr double c6 = 0.9569403357322088;  // cos 2 pi 3/64
-    static constexpr double c7 = 0.3826834323650898;  // sin 2 pi 4/64
-    static constexpr double c8 = 0.9238795325112867;  // cos 2 pi 4/64
-    static constexpr double c9 = 0.47139673682599764;  // sin 2 pi 5/64
-    static constexpr double c10 = 0.881921264348355;  // cos 2 pi 5/64
-    static constexpr double c11 = 0.5555702330196022;  // sin 2 pi 6/64
-    static constexpr double c12 = 0.8314696123025452;  // cos 2 pi 6/64
-    static constexpr double c13 = 0.6343932841636455;  // sin 2 pi 7/64
-    static constexpr double c14 = 0.773010453362737;  // cos 2 pi 7/64
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[-7]: cos 2 pi 1/8
+        0.3826834323650898,  // c[-6]: sin 2 pi 4/64
+        0.9238795325112867,  // c[-5]: cos 2 pi 4/64
+        0.19509032201612828,  // c[-4]: sin 2 pi 2/64
+        0.9807852804032304,  // c[-3]: cos 2 pi 2/64
+        0.5555702330196022,  // c[-2]: sin 2 pi 6/64
+        0.8314696123025452,  // c[-1]: cos 2 pi 6/64
+        0.0980171403295606,  // c[0]: sin 2 pi 1/64
+        0.9951847266721969,  // c[1]: cos 2 pi 1/64
+        0.2902846772544624,  // c[2]: sin 2 pi 3/64
+        0.9569403357322088,  // c[3]: cos 2 pi 3/64
+        0.47139673682599764,  // c[4]: sin 2 pi 5/64
+        0.881921264348355,  // c[5]: cos 2 pi 5/64
+        0.6343932841636455,  // c[6]: sin 2 pi 7/64
+        0.773010453362737,  // c[7]: cos 2 pi 7/64
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 7);
         // complex block of 2
         const V x0r = io.re(0);
         const V x32r = io.re(32);
@@ -84,12 +88,12 @@ struct ComplexGraph<64> {
         const V t30 = t18 - t23;
         const V t31 = t19 + t22;
         // complex block of 8
-        const V t32 = c0 * t6;
-        const V t33 = c0 * t7;
+        const V t32 = c[-7] * t6;
+        const V t33 = c[-7] * t7;
         const V t34 = t32 + t33;
         const V t35 = t33 - t32;
-        const V t36 = c0 * t14;
-        const V t37 = c0 * t15;
+        const V t36 = c[-7] * t14;
+        const V t37 = c[-7] * t15;
         const V t38 = t36 + t37;
         const V t39 = t37 - t36;
         // complex block of 2
@@ -169,12 +173,12 @@ struct ComplexGraph<64> {
         const V t86 = t74 - t79;
         const V t87 = t75 + t78;
         // complex block of 8
-        const V t88 = c0 * t62;
-        const V t89 = c0 * t63;
+        const V t88 = c[-7] * t62;
+        const V t89 = c[-7] * t63;
         const V t90 = t88 + t89;
         const V t91 = t89 - t88;
-        const V t92 = c0 * t70;
-        const V t93 = c0 * t71;
+        const V t92 = c[-7] * t70;
+        const V t93 = c[-7] * t71;
         const V t94 = t92 + t93;
         const V t95 = t93 - t92;
         // complex block of 2
@@ -254,12 +258,12 @@ struct ComplexGraph<64> {
         const V t142 = t130 - t135;
         const V t143 = t131 + t134;
         // complex block of 8
-        const V t144 = c0 * t118;
-        const V t145 = c0 * t119;
+        const V t144 = c[-7] * t118;
+        const V t145 = c[-7] * t119;
         const V t146 = t144 + t145;
         const V t147 = t145 - t144;
-        const V t148 = c0 * t126;
-        const V t149 = c0 * t127;
+        const V t148 = c[-7] * t126;
+        const V t149 = c[-7] * t127;
         const V t150 = t148 + t149;
         const V t151 = t149 - t148;
         // complex block of 2
@@ -339,12 +343,12 @@ struct ComplexGraph<64> {
         const V t198 = t186 - t191;
         const V t199 = t187 + t190;
         // complex block of 8
-        const V t200 = c0 * t174;
-        const V t201 = c0 * t175;
+        const V t200 = c[-7] * t174;
+        const V t201 = c[-7] * t175;
         const V t202 = t200 + t201;
         const V t203 = t201 - t200;
-        const V t204 = c0 * t182;
-        const V t205 = c0 * t183;
+        const V t204 = c[-7] * t182;
+        const V t205 = c[-7] * t183;
         const V t206 = t204 + t205;
         const V t207 = t205 - t204;
         // complex block of 2
@@ -424,12 +428,12 @@ struct ComplexGraph<64> {
         const V t254 = t242 - t247;
         const V t255 = t243 + t246;
         // complex block of 8
-        const V t256 = c0 * t230;
-        const V t257 = c0 * t231;
+        const V t256 = c[-7] * t230;
+        const V t257 = c[-7] * t231;
         const V t258 = t256 + t257;
         const V t259 = t257 - t256;
-        const V t260 = c0 * t238;
-        const V t261 = c0 * t239;
+        const V t260 = c[-7] * t238;
+        const V t261 = c[-7] * t239;
         const V t262 = t260 + t261;
         const V t263 = t261 - t260;
         // complex block of 2
@@ -509,12 +513,12 @@ struct ComplexGraph<64> {
         const V t310 = t298 - t303;
         const V t311 = t299 + t302;
         // complex block of 8
-        const V t312 = c0 * t286;
-        const V t313 = c0 * t287;
+        const V t312 = c[-7] * t286;
+        const V t313 = c[-7] * t287;
         const V t314 = t312 + t313;
         const V t315 = t313 - t312;
-        const V t316 = c0 * t294;
-        const V t317 = c0 * t295;
+        const V t316 = c[-7] * t294;
+        const V t317 = c[-7] * t295;
         const V t318 = t316 + t317;
         const V t319 = t317 - t316;
         // complex block of 2
@@ -594,12 +598,12 @@ struct ComplexGraph<64> {
         const V t366 = t354 - t359;
         const V t367 = t355 + t358;
         // complex block of 8
-        const V t368 = c0 * t342;
-        const V t369 = c0 * t343;
+        const V t368 = c[-7] * t342;
+        const V t369 = c[-7] * t343;
         const V t370 = t368 + t369;
         const V t371 = t369 - t368;
-        const V t372 = c0 * t350;
-        const V t373 = c0 * t351;
+        const V t372 = c[-7] * t350;
+        const V t373 = c[-7] * t351;
         const V t374 = t372 + t373;
         const V t375 = t373 - t372;
         // complex block of 2
@@ -679,12 +683,12 @@ struct ComplexGraph<64> {
         const V t422 = t410 - t415;
         const V t423 = t411 + t414;
         // complex block of 8
-        const V t424 = c0 * t398;
-        const V t425 = c0 * t399;
+        const V t424 = c[-7] * t398;
+        const V t425 = c[-7] * t399;
         const V t426 = t424 + t425;
         const V t427 = t425 - t424;
-        const V t428 = c0 * t406;
-        const V t429 = c0 * t407;
+        const V t428 = c[-7] * t406;
+        const V t429 = c[-7] * t407;
         const V t430 = t428 + t429;
         const V t431 = t429 - t428;
         // complex block of 2
@@ -756,12 +760,12 @@ struct ComplexGraph<64> {
         const V t479 = t467 + t470;
         io.im(48, t479);
         // complex block of 8
-        const V t480 = c0 * t454;
-        const V t481 = c0 * t455;
+        const V t480 = c[-7] * t454;
+        const V t481 = c[-7] * t455;
         const V t482 = t480 + t481;
         const V t483 = t481 - t480;
-        const V t484 = c0 * t462;
-        const V t485 = c0 * t463;
+        const V t484 = c[-7] * t462;
+        const V t485 = c[-7] * t463;
         const V t486 = t484 + t485;
         const V t487 = t485 - t484;
         // complex block of 2
@@ -793,47 +797,47 @@ struct ComplexGraph<64> {
         const V t503 = t491 + t494;
         io.im(56, t503);
         // complex block of 64
-        const V t504 = c1 * t105;
-        const V t505 = c2 * t104;
+        const V t504 = c[0] * t105;
+        const V t505 = c[1] * t104;
         const V t506 = t505 + t504;
-        const V t507 = c1 * t104;
-        const V t508 = c2 * t105;
+        const V t507 = c[0] * t104;
+        const V t508 = c[1] * t105;
         const V t509 = t508 - t507;
-        const V t510 = c3 * t161;
-        const V t511 = c4 * t160;
+        const V t510 = c[-4] * t161;
+        const V t511 = c[-3] * t160;
         const V t512 = t511 + t510;
-        const V t513 = c3 * t160;
-        const V t514 = c4 * t161;
+        const V t513 = c[-4] * t160;
+        const V t514 = c[-3] * t161;
         const V t515 = t514 - t513;
-        const V t516 = c5 * t217;
-        const V t517 = c6 * t216;
+        const V t516 = c[2] * t217;
+        const V t517 = c[3] * t216;
         const V t518 = t517 + t516;
-        const V t519 = c5 * t216;
-        const V t520 = c6 * t217;
+        const V t519 = c[2] * t216;
+        const V t520 = c[3] * t217;
         const V t521 = t520 - t519;
-        const V t522 = c7 * t273;
-        const V t523 = c8 * t272;
+        const V t522 = c[-6] * t273;
+        const V t523 = c[-5] * t272;
         const V t524 = t523 + t522;
-        const V t525 = c7 * t272;
-        const V t526 = c8 * t273;
+        const V t525 = c[-6] * t272;
+        const V t526 = c[-5] * t273;
         const V t527 = t526 - t525;
-        const V t528 = c9 * t329;
-        const V t529 = c10 * t328;
+        const V t528 = c[4] * t329;
+        const V t529 = c[5] * t328;
         const V t530 = t529 + t528;
-        const V t531 = c9 * t328;
-        const V t532 = c10 * t329;
+        const V t531 = c[4] * t328;
+        const V t532 = c[5] * t329;
         const V t533 = t532 - t531;
-        const V t534 = c11 * t385;
-        const V t535 = c12 * t384;
+        const V t534 = c[-2] * t385;
+        const V t535 = c[-1] * t384;
         const V t536 = t535 + t534;
-        const V t537 = c11 * t384;
-        const V t538 = c12 * t385;
+        const V t537 = c[-2] * t384;
+        const V t538 = c[-1] * t385;
         const V t539 = t538 - t537;
-        const V t540 = c13 * t441;
-        const V t541 = c14 * t440;
+        const V t540 = c[6] * t441;
+        const V t541 = c[7] * t440;
         const V t542 = t541 + t540;
-        const V t543 = c13 * t440;
-        const V t544 = c14 * t441;
+        const V t543 = c[6] * t440;
+        const V t544 = c[7] * t441;
         const V t545 = t544 - t543;
         // complex block of 2
         const V t546 = t48 + t524;
@@ -884,12 +888,12 @@ struct ComplexGraph<64> {
         const V t577 = t565 + t568;
         io.im(49, t577);
         // complex block of 8
-        const V t578 = c0 * t552;
-        const V t579 = c0 * t553;
+        const V t578 = c[-7] * t552;
+        const V t579 = c[-7] * t553;
         const V t580 = t578 + t579;
         const V t581 = t579 - t578;
-        const V t582 = c0 * t560;
-        const V t583 = c0 * t561;
+        const V t582 = c[-7] * t560;
+        const V t583 = c[-7] * t561;
         const V t584 = t582 + t583;
         const V t585 = t583 - t582;
         // complex block of 2
@@ -921,45 +925,45 @@ struct ComplexGraph<64> {
         const V t601 = t589 + t592;
         io.im(57, t601);
         // complex block of 64
-        const V t602 = c3 * t85;
-        const V t603 = c4 * t84;
+        const V t602 = c[-4] * t85;
+        const V t603 = c[-3] * t84;
         const V t604 = t603 + t602;
-        const V t605 = c3 * t84;
-        const V t606 = c4 * t85;
+        const V t605 = c[-4] * t84;
+        const V t606 = c[-3] * t85;
         const V t607 = t606 - t605;
-        const V t608 = c7 * t141;
-        const V t609 = c8 * t140;
+        const V t608 = c[-6] * t141;
+        const V t609 = c[-5] * t140;
         const V t610 = t609 + t608;
-        const V t611 = c7 * t140;
-        const V t612 = c8 * t141;
+        const V t611 = c[-6] * t140;
+        const V t612 = c[-5] * t141;
         const V t613 = t612 - t611;
-        const V t614 = c11 * t197;
-        const V t615 = c12 * t196;
+        const V t614 = c[-2] * t197;
+        const V t615 = c[-1] * t196;
         const V t616 = t615 + t614;
-        const V t617 = c11 * t196;
-        const V t618 = c12 * t197;
+        const V t617 = c[-2] * t196;
+        const V t618 = c[-1] * t197;
         const V t619 = t618 - t617;
-        const V t620 = c0 * t252;
-        const V t621 = c0 * t253;
+        const V t620 = c[-7] * t252;
+        const V t621 = c[-7] * t253;
         const V t622 = t620 + t621;
         const V t623 = t621 - t620;
-        const V t624 = c12 * t309;
-        const V t625 = c11 * t308;
+        const V t624 = c[-1] * t309;
+        const V t625 = c[-2] * t308;
         const V t626 = t625 + t624;
-        const V t627 = c12 * t308;
-        const V t628 = c11 * t309;
+        const V t627 = c[-1] * t308;
+        const V t628 = c[-2] * t309;
         const V t629 = t628 - t627;
-        const V t630 = c8 * t365;
-        const V t631 = c7 * t364;
+        const V t630 = c[-5] * t365;
+        const V t631 = c[-6] * t364;
         const V t632 = t631 + t630;
-        const V t633 = c8 * t364;
-        const V t634 = c7 * t365;
+        const V t633 = c[-5] * t364;
+        const V t634 = c[-6] * t365;
         const V t635 = t634 - t633;
-        const V t636 = c4 * t421;
-        const V t637 = c3 * t420;
+        const V t636 = c[-3] * t421;
+        const V t637 = c[-4] * t420;
         const V t638 = t637 + t636;
-        const V t639 = c4 * t420;
-        const V t640 = c3 * t421;
+        const V t639 = c[-3] * t420;
+        const V t640 = c[-4] * t421;
         const V t641 = t640 - t639;
         // complex block of 2
         const V t642 = t28 + t622;
@@ -1010,12 +1014,12 @@ struct ComplexGraph<64> {
         const V t673 = t661 + t664;
         io.im(50, t673);
         // complex block of 8
-        const V t674 = c0 * t648;
-        const V t675 = c0 * t649;
+        const V t674 = c[-7] * t648;
+        const V t675 = c[-7] * t649;
         const V t676 = t674 + t675;
         const V t677 = t675 - t674;
-        const V t678 = c0 * t656;
-        const V t679 = c0 * t657;
+        const V t678 = c[-7] * t656;
+        const V t679 = c[-7] * t657;
         const V t680 = t678 + t679;
         const V t681 = t679 - t678;
         // complex block of 2
@@ -1047,47 +1051,47 @@ struct ComplexGraph<64> {
         const V t697 = t685 + t688;
         io.im(58, t697);
         // complex block of 64
-        const V t698 = c5 * t109;
-        const V t699 = c6 * t108;
+        const V t698 = c[2] * t109;
+        const V t699 = c[3] * t108;
         const V t700 = t699 + t698;
-        const V t701 = c5 * t108;
-        const V t702 = c6 * t109;
+        const V t701 = c[2] * t108;
+        const V t702 = c[3] * t109;
         const V t703 = t702 - t701;
-        const V t704 = c11 * t165;
-        const V t705 = c12 * t164;
+        const V t704 = c[-2] * t165;
+        const V t705 = c[-1] * t164;
         const V t706 = t705 + t704;
-        const V t707 = c11 * t164;
-        const V t708 = c12 * t165;
+        const V t707 = c[-2] * t164;
+        const V t708 = c[-1] * t165;
         const V t709 = t708 - t707;
-        const V t710 = c14 * t221;
-        const V t711 = c13 * t220;
+        const V t710 = c[7] * t221;
+        const V t711 = c[6] * t220;
         const V t712 = t711 + t710;
-        const V t713 = c14 * t220;
-        const V t714 = c13 * t221;
+        const V t713 = c[7] * t220;
+        const V t714 = c[6] * t221;
         const V t715 = t714 - t713;
-        const V t716 = c8 * t277;
-        const V t717 = c7 * t276;
+        const V t716 = c[-5] * t277;
+        const V t717 = c[-6] * t276;
         const V t718 = t717 + t716;
-        const V t719 = c8 * t276;
-        const V t720 = c7 * t277;
+        const V t719 = c[-5] * t276;
+        const V t720 = c[-6] * t277;
         const V t721 = t720 - t719;
-        const V t722 = c2 * t333;
-        const V t723 = c1 * t332;
+        const V t722 = c[1] * t333;
+        const V t723 = c[0] * t332;
         const V t724 = t723 + t722;
-        const V t725 = c2 * t332;
-        const V t726 = c1 * t333;
+        const V t725 = c[1] * t332;
+        const V t726 = c[0] * t333;
         const V t727 = t726 - t725;
-        const V t728 = c4 * t389;
-        const V t729 = c3 * t388;
+        const V t728 = c[-3] * t389;
+        const V t729 = c[-4] * t388;
         const V t730 = t728 - t729;
-        const V t731 = c4 * t388;
-        const V t732 = c3 * t389;
+        const V t731 = c[-3] * t388;
+        const V t732 = c[-4] * t389;
         const V t733 = t732 + t731;
-        const V t734 = c10 * t445;
-        const V t735 = c9 * t444;
+        const V t734 = c[5] * t445;
+        const V t735 = c[4] * t444;
         const V t736 = t734 - t735;
-        const V t737 = c10 * t444;
-        const V t738 = c9 * t445;
+        const V t737 = c[5] * t444;
+        const V t738 = c[4] * t445;
         const V t739 = t738 + t737;
         // complex block of 2
         const V t740 = t52 + t718;
@@ -1138,12 +1142,12 @@ struct ComplexGraph<64> {
         const V t771 = t759 + t762;
         io.im(51, t771);
         // complex block of 8
-        const V t772 = c0 * t746;
-        const V t773 = c0 * t747;
+        const V t772 = c[-7] * t746;
+        const V t773 = c[-7] * t747;
         const V t774 = t772 + t773;
         const V t775 = t773 - t772;
-        const V t776 = c0 * t754;
-        const V t777 = c0 * t755;
+        const V t776 = c[-7] * t754;
+        const V t777 = c[-7] * t755;
         const V t778 = t776 + t777;
         const V t779 = t777 - t776;
         // complex block of 2
@@ -1175,37 +1179,37 @@ struct ComplexGraph<64> {
         const V t795 = t783 + t786;
         io.im(59, t795);
         // complex block of 64
-        const V t796 = c7 * t83;
-        const V t797 = c8 * t82;
+        const V t796 = c[-6] * t83;
+        const V t797 = c[-5] * t82;
         const V t798 = t797 + t796;
-        const V t799 = c7 * t82;
-        const V t800 = c8 * t83;
+        const V t799 = c[-6] * t82;
+        const V t800 = c[-5] * t83;
         const V t801 = t800 - t799;
-        const V t802 = c0 * t138;
-        const V t803 = c0 * t139;
+        const V t802 = c[-7] * t138;
+        const V t803 = c[-7] * t139;
         const V t804 = t802 + t803;
         const V t805 = t803 - t802;
-        const V t806 = c8 * t195;
-        const V t807 = c7 * t194;
+        const V t806 = c[-5] * t195;
+        const V t807 = c[-6] * t194;
         const V t808 = t807 + t806;
-        const V t809 = c8 * t194;
-        const V t810 = c7 * t195;
+        const V t809 = c[-5] * t194;
+        const V t810 = c[-6] * t195;
         const V t811 = t810 - t809;
-        const V t812 = c8 * t307;
-        const V t813 = c7 * t306;
+        const V t812 = c[-5] * t307;
+        const V t813 = c[-6] * t306;
         const V t814 = t812 - t813;
-        const V t815 = c8 * t306;
-        const V t816 = c7 * t307;
+        const V t815 = c[-5] * t306;
+        const V t816 = c[-6] * t307;
         const V t817 = t816 + t815;
-        const V t818 = c0 * t362;
-        const V t819 = c0 * t363;
+        const V t818 = c[-7] * t362;
+        const V t819 = c[-7] * t363;
         const V t820 = t818 + t819;
         const V t821 = t819 - t818;
-        const V t822 = c7 * t419;
-        const V t823 = c8 * t418;
+        const V t822 = c[-6] * t419;
+        const V t823 = c[-5] * t418;
         const V t824 = t822 - t823;
-        const V t825 = c7 * t418;
-        const V t826 = c8 * t419;
+        const V t825 = c[-6] * t418;
+        const V t826 = c[-5] * t419;
         const V t827 = t826 + t825;
         // complex block of 2
         const V t828 = t26 + t251;
@@ -1256,12 +1260,12 @@ struct ComplexGraph<64> {
         const V t859 = t847 + t850;
         io.im(52, t859);
         // complex block of 8
-        const V t860 = c0 * t834;
-        const V t861 = c0 * t835;
+        const V t860 = c[-7] * t834;
+        const V t861 = c[-7] * t835;
         const V t862 = t860 + t861;
         const V t863 = t861 - t860;
-        const V t864 = c0 * t842;
-        const V t865 = c0 * t843;
+        const V t864 = c[-7] * t842;
+        const V t865 = c[-7] * t843;
         const V t866 = t864 + t865;
         const V t867 = t865 - t864;
         // complex block of 2
@@ -1293,47 +1297,47 @@ struct ComplexGraph<64> {
         const V t883 = t871 + t874;
         io.im(60, t883);
         // complex block of 64
-        const V t884 = c9 * t107;
-        const V t885 = c10 * t106;
+        const V t884 = c[4] * t107;
+        const V t885 = c[5] * t106;
         const V t886 = t885 + t884;
-        const V t887 = c9 * t106;
-        const V t888 = c10 * t107;
+        const V t887 = c[4] * t106;
+        const V t888 = c[5] * t107;
         const V t889 = t888 - t887;
-        const V t890 = c12 * t163;
-        const V t891 = c11 * t162;
+        const V t890 = c[-1] * t163;
+        const V t891 = c[-2] * t162;
         const V t892 = t891 + t890;
-        const V t893 = c12 * t162;
-        const V t894 = c11 * t163;
+        const V t893 = c[-1] * t162;
+        const V t894 = c[-2] * t163;
         const V t895 = t894 - t893;
-        const V t896 = c2 * t219;
-        const V t897 = c1 * t218;
+        const V t896 = c[1] * t219;
+        const V t897 = c[0] * t218;
         const V t898 = t897 + t896;
-        const V t899 = c2 * t218;
-        const V t900 = c1 * t219;
+        const V t899 = c[1] * t218;
+        const V t900 = c[0] * t219;
         const V t901 = t900 - t899;
-        const V t902 = c8 * t275;
-        const V t903 = c7 * t274;
+        const V t902 = c[-5] * t275;
+        const V t903 = c[-6] * t274;
         const V t904 = t902 - t903;
-        const V t905 = c8 * t274;
-        const V t906 = c7 * t275;
+        const V t905 = c[-5] * t274;
+        const V t906 = c[-6] * t275;
         const V t907 = t906 + t905;
-        const V t908 = c13 * t331;
-        const V t909 = c14 * t330;
+        const V t908 = c[6] * t331;
+        const V t909 = c[7] * t330;
         const V t910 = t908 - t909;
-        const V t911 = c13 * t330;
-        const V t912 = c14 * t331;
+        const V t911 = c[6] * t330;
+        const V t912 = c[7] * t331;
         const V t913 = t912 + t911;
-        const V t914 = c3 * t387;
-        const V t915 = c4 * t386;
+        const V t914 = c[-4] * t387;
+        const V t915 = c[-3] * t386;
         const V t916 = t914 - t915;
-        const V t917 = c3 * t386;
-        const V t918 = c4 * t387;
+        const V t917 = c[-4] * t386;
+        const V t918 = c[-3] * t387;
         const V t919 = t918 + t917;
-        const V t920 = c5 * t443;
-        const V t921 = c6 * t442;
+        const V t920 = c[2] * t443;
+        const V t921 = c[3] * t442;
         const V t922 = t921 + t920;
-        const V t923 = c5 * t442;
-        const V t924 = c6 * t443;
+        const V t923 = c[2] * t442;
+        const V t924 = c[3] * t443;
         const V t925 = t923 - t924;
         // complex block of 2
         const V t926 = t50 + t904;
@@ -1384,12 +1388,12 @@ struct ComplexGraph<64> {
         const V t957 = t945 + t948;
         io.im(53, t957);
         // complex block of 8
-        const V t958 = c0 * t932;
-        const V t959 = c0 * t933;
+        const V t958 = c[-7] * t932;
+        const V t959 = c[-7] * t933;
         const V t960 = t958 + t959;
         const V t961 = t959 - t958;
-        const V t962 = c0 * t940;
-        const V t963 = c0 * t941;
+        const V t962 = c[-7] * t940;
+        const V t963 = c[-7] * t941;
         const V t964 = t962 + t963;
         const V t965 = t963 - t962;
         // complex block of 2
@@ -1421,45 +1425,45 @@ struct ComplexGraph<64> {
         const V t981 = t969 + t972;
         io.im(61, t981);
         // complex block of 64
-        const V t982 = c11 * t87;
-        const V t983 = c12 * t86;
+        const V t982 = c[-2] * t87;
+        const V t983 = c[-1] * t86;
         const V t984 = t983 + t982;
-        const V t985 = c11 * t86;
-        const V t986 = c12 * t87;
+        const V t985 = c[-2] * t86;
+        const V t986 = c[-1] * t87;
         const V t987 = t986 - t985;
-        const V t988 = c8 * t143;
-        const V t989 = c7 * t142;
+        const V t988 = c[-5] * t143;
+        const V t989 = c[-6] * t142;
         const V t990 = t989 + t988;
-        const V t991 = c8 * t142;
-        const V t992 = c7 * t143;
+        const V t991 = c[-5] * t142;
+        const V t992 = c[-6] * t143;
         const V t993 = t992 - t991;
-        const V t994 = c4 * t199;
-        const V t995 = c3 * t198;
+        const V t994 = c[-3] * t199;
+        const V t995 = c[-4] * t198;
         const V t996 = t994 - t995;
-        const V t997 = c4 * t198;
-        const V t998 = c3 * t199;
+        const V t997 = c[-3] * t198;
+        const V t998 = c[-4] * t199;
         const V t999 = t998 + t997;
-        const V t1000 = c0 * t254;
-        const V t1001 = c0 * t255;
+        const V t1000 = c[-7] * t254;
+        const V t1001 = c[-7] * t255;
         const V t1002 = t1000 + t1001;
         const V t1003 = t1001 - t1000;
-        const V t1004 = c3 * t311;
-        const V t1005 = c4 * t310;
+        const V t1004 = c[-4] * t311;
+        const V t1005 = c[-3] * t310;
         const V t1006 = t1004 - t1005;
-        const V t1007 = c3 * t310;
-        const V t1008 = c4 * t311;
+        const V t1007 = c[-4] * t310;
+        const V t1008 = c[-3] * t311;
         const V t1009 = t1008 + t1007;
-        const V t1010 = c7 * t367;
-        const V t1011 = c8 * t366;
+        const V t1010 = c[-6] * t367;
+        const V t1011 = c[-5] * t366;
         const V t1012 = t1011 + t1010;
-        const V t1013 = c7 * t366;
-        const V t1014 = c8 * t367;
+        const V t1013 = c[-6] * t366;
+        const V t1014 = c[-5] * t367;
         const V t1015 = t1013 - t1014;
-        const V t1016 = c12 * t423;
-        const V t1017 = c11 * t422;
+        const V t1016 = c[-1] * t423;
+        const V t1017 = c[-2] * t422;
         const V t1018 = t1017 + t1016;
-        const V t1019 = c12 * t422;
-        const V t1020 = c11 * t423;
+        const V t1019 = c[-1] * t422;
+        const V t1020 = c[-2] * t423;
         const V t1021 = t1019 - t1020;
         // complex block of 2
         const V t1022 = t30 + t1003;
@@ -1510,12 +1514,12 @@ struct ComplexGraph<64> {
         const V t1053 = t1041 + t1044;
         io.im(54, t1053);
         // complex block of 8
-        const V t1054 = c0 * t1028;
-        const V t1055 = c0 * t1029;
+        const V t1054 = c[-7] * t1028;
+        const V t1055 = c[-7] * t1029;
         const V t1056 = t1054 + t1055;
         const V t1057 = t1055 - t1054;
-        const V t1058 = c0 * t1036;
-        const V t1059 = c0 * t1037;
+        const V t1058 = c[-7] * t1036;
+        const V t1059 = c[-7] * t1037;
         const V t1060 = t1058 - t1059;
         const V t1061 = t1059 + t1058;
         // complex block of 2
@@ -1547,47 +1551,47 @@ struct ComplexGraph<64> {
         const V t1077 = t1065 + t1068;
         io.im(62, t1077);
         // complex block of 64
-        const V t1078 = c13 * t111;
-        const V t1079 = c14 * t110;
+        const V t1078 = c[6] * t111;
+        const V t1079 = c[7] * t110;
         const V t1080 = t1079 + t1078;
-        const V t1081 = c13 * t110;
-        const V t1082 = c14 * t111;
+        const V t1081 = c[6] * t110;
+        const V t1082 = c[7] * t111;
         const V t1083 = t1082 - t1081;
-        const V t1084 = c4 * t167;
-        const V t1085 = c3 * t166;
+        const V t1084 = c[-3] * t167;
+        const V t1085 = c[-4] * t166;
         const V t1086 = t1085 + t1084;
-        const V t1087 = c4 * t166;
-        const V t1088 = c3 * t167;
+        const V t1087 = c[-3] * t166;
+        const V t1088 = c[-4] * t167;
         const V t1089 = t1088 - t1087;
-        const V t1090 = c10 * t223;
-        const V t1091 = c9 * t222;
+        const V t1090 = c[5] * t223;
+        const V t1091 = c[4] * t222;
         const V t1092 = t1090 - t1091;
-        const V t1093 = c10 * t222;
-        const V t1094 = c9 * t223;
+        const V t1093 = c[5] * t222;
+        const V t1094 = c[4] * t223;
         const V t1095 = t1094 + t1093;
-        const V t1096 = c7 * t279;
-        const V t1097 = c8 * t278;
+        const V t1096 = c[-6] * t279;
+        const V t1097 = c[-5] * t278;
         const V t1098 = t1096 - t1097;
-        const V t1099 = c7 * t278;
-        const V t1100 = c8 * t279;
+        const V t1099 = c[-6] * t278;
+        const V t1100 = c[-5] * t279;
         const V t1101 = t1100 + t1099;
-        const V t1102 = c5 * t335;
-        const V t1103 = c6 * t334;
+        const V t1102 = c[2] * t335;
+        const V t1103 = c[3] * t334;
         const V t1104 = t1103 + t1102;
-        const V t1105 = c5 * t334;
-        const V t1106 = c6 * t335;
+        const V t1105 = c[2] * t334;
+        const V t1106 = c[3] * t335;
         const V t1107 = t1105 - t1106;
-        const V t1108 = c12 * t391;
-        const V t1109 = c11 * t390;
+        const V t1108 = c[-1] * t391;
+        const V t1109 = c[-2] * t390;
         const V t1110 = t1109 + t1108;
-        const V t1111 = c12 * t390;
-        const V t1112 = c11 * t391;
+        const V t1111 = c[-1] * t390;
+        const V t1112 = c[-2] * t391;
         const V t1113 = t1111 - t1112;
-        const V t1114 = c2 * t447;
-        const V t1115 = c1 * t446;
+        const V t1114 = c[1] * t447;
+        const V t1115 = c[0] * t446;
         const V t1116 = t1115 - t1114;
-        const V t1117 = c2 * t446;
-        const V t1118 = c1 * t447;
+        const V t1117 = c[1] * t446;
+        const V t1118 = c[0] * t447;
         const V t1119 = t1118 + t1117;
         // complex block of 2
         const V t1120 = t54 + t1098;
@@ -1638,12 +1642,12 @@ struct ComplexGraph<64> {
         const V t1151 = t1139 + t1142;
         io.im(55, t1151);
         // complex block of 8
-        const V t1152 = c0 * t1126;
-        const V t1153 = c0 * t1127;
+        const V t1152 = c[-7] * t1126;
+        const V t1153 = c[-7] * t1127;
         const V t1154 = t1152 + t1153;
         const V t1155 = t1153 - t1152;
-        const V t1156 = c0 * t1134;
-        const V t1157 = c0 * t1135;
+        const V t1156 = c[-7] * t1134;
+        const V t1157 = c[-7] * t1135;
         const V t1158 = t1156 - t1157;
         const V t1159 = t1157 + t1156;
         // complex block of 2

@@ -2,116 +2,120 @@
 // Hartley transform of 53 points, form I.
 // 446 additions, 446 subtractions, 450 multiplications (503 with `scale`); 100 constants; 60 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct HartleyGraph<53> {
     static constexpr double inverseRoot = 0.13736056394868904;  // 1/sqrt(53), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c1 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c2 = 0.08333333333333333;  // 1/12
-    static constexpr double c3 = 0.5279915321544383;  // -Q[1] of 13
-    static constexpr double c4 = 0.2869425954512852;  // P[1] of 13
-    static constexpr double c5 = 0.29376443202296976;  // -Q[2] of 13
-    static constexpr double c6 = 0.5242266395265821;  // P[2] of 13
-    static constexpr double c7 = 0.5751407294740031;  // -Q[3] of 13
-    static constexpr double c8 = 0.1741386011521359;  // -P[3] of 13
-    static constexpr double c9 = 0.42218506973345193;  // -Q[4] of 13
-    static constexpr double c10 = 0.42763404682657274;  // P[4] of 13
-    static constexpr double c11 = 0.280148395734785;  // Q[5] of 13
-    static constexpr double c12 = 0.5316276774946329;  // P[5] of 13
-    static constexpr double c13 = 0.3004626062886658;  // -beta of 13
-    static constexpr double c14 = 0.4330127018922193;  // sin 2 pi 1/3 times -cos 2 pi 1/3
-    static constexpr double c15 = 0.75;  // sin 2 pi 1/3 times sin 2 pi 1/3
-    static constexpr double c16 = 0.31378278210316923;  // -Q[1] of 13
-    static constexpr double c17 = 0.5124953431658732;  // P[1] of 13
-    static constexpr double c18 = 0.3071113711590828;  // Q[2] of 13
-    static constexpr double c19 = 0.5165207806234897;  // P[2] of 13
-    static constexpr double c20 = 0.5814344829416822;  // Q[4] of 13
-    static constexpr double c21 = 0.15180597207438773;  // P[4] of 13
-    static constexpr double c22 = 0.02319821121153658;  // Q[5] of 13
-    static constexpr double c23 = 0.6004772719326653;  // -P[5] of 13
-    static constexpr double c24 = 0.12053668025532305;  // sin 2 pi 1/52
-    static constexpr double c25 = 0.992708874098054;  // cos 2 pi 1/52
-    static constexpr double c26 = 0.3546048870425356;  // sin 2 pi 3/52
-    static constexpr double c27 = 0.9350162426854148;  // cos 2 pi 3/52
-    static constexpr double c28 = 0.5680647467311558;  // sin 2 pi 5/52
-    static constexpr double c29 = 0.8229838658936564;  // cos 2 pi 5/52
-    static constexpr double c30 = 0.7485107481711011;  // sin 2 pi 7/52
-    static constexpr double c31 = 0.6631226582407952;  // cos 2 pi 7/52
-    static constexpr double c32 = 0.8854560256532099;  // sin 2 pi 9/52
-    static constexpr double c33 = 0.46472317204376856;  // cos 2 pi 9/52
-    static constexpr double c34 = 0.970941817426052;  // sin 2 pi 11/52
-    static constexpr double c35 = 0.23931566428755777;  // cos 2 pi 11/52
-    static constexpr double c36 = 0.019230769230769232;  // 1/52
-    static constexpr double c37 = 0.2535110589592131;  // -P[1] of 53
-    static constexpr double c38 = 0.11888864474491956;  // -Q[1] of 53
-    static constexpr double c39 = 0.13160258300584013;  // -Q[2] of 53
-    static constexpr double c40 = 0.2471500091242084;  // P[2] of 53
-    static constexpr double c41 = 0.01920483471835668;  // -P[3] of 53
-    static constexpr double c42 = 0.27934484277921784;  // -Q[3] of 53
-    static constexpr double c43 = 0.2755686148630738;  // Q[4] of 53
-    static constexpr double c44 = 0.049641770378907886;  // P[4] of 53
-    static constexpr double c45 = 0.08550180730497182;  // -P[5] of 53
-    static constexpr double c46 = 0.26663047052332334;  // Q[5] of 53
-    static constexpr double c47 = 0.21010412063116707;  // Q[6] of 53
-    static constexpr double c48 = 0.18509085703434766;  // P[6] of 53
-    static constexpr double c49 = 0.02729324277461261;  // -P[7] of 53
-    static constexpr double c50 = 0.2786708556034366;  // Q[7] of 53
-    static constexpr double c51 = 0.27887234952845297;  // Q[8] of 53
-    static constexpr double c52 = 0.02515113381908794;  // P[8] of 53
-    static constexpr double c53 = 0.27926923264549397;  // -P[9] of 53
-    static constexpr double c54 = 0.02027467783966699;  // Q[9] of 53
-    static constexpr double c55 = 0.2421434442697633;  // Q[10] of 53
-    static constexpr double c56 = 0.14060198882334973;  // -P[10] of 53
-    static constexpr double c57 = 0.23326162380743898;  // -P[11] of 53
-    static constexpr double c58 = 0.15489151598012768;  // -Q[11] of 53
-    static constexpr double c59 = 0.1903832491584887;  // Q[12] of 53
-    static constexpr double c60 = 0.20532068893261132;  // P[12] of 53
-    static constexpr double c61 = 0.27729778231647617;  // P[13] of 53
-    static constexpr double c62 = 0.038836925551200704;  // Q[13] of 53
-    static constexpr double c63 = 0.2645541253996386;  // -Q[14] of 53
-    static constexpr double c64 = 0.09172503255893466;  // P[14] of 53
-    static constexpr double c65 = 0.10309300873453617;  // P[15] of 53
-    static constexpr double c66 = 0.2603347814141748;  // -Q[15] of 53
-    static constexpr double c67 = 0.04985858822323415;  // Q[16] of 53
-    static constexpr double c68 = 0.27552946855879373;  // -P[16] of 53
-    static constexpr double c69 = 0.062487064695808406;  // -P[17] of 53
-    static constexpr double c70 = 0.27294272954157833;  // -Q[17] of 53
-    static constexpr double c71 = 0.12218648440059575;  // Q[18] of 53
-    static constexpr double c72 = 0.2519381469601781;  // P[18] of 53
-    static constexpr double c73 = 0.0855629575860694;  // -P[19] of 53
-    static constexpr double c74 = 0.26661085340441376;  // Q[19] of 53
-    static constexpr double c75 = 0.279948840618166;  // Q[20] of 53
-    static constexpr double c76 = 0.005568976607062611;  // P[20] of 53
-    static constexpr double c77 = 0.2608612063201607;  // P[21] of 53
-    static constexpr double c78 = 0.10175361370042776;  // -Q[21] of 53
-    static constexpr double c79 = 0.21551686731931244;  // Q[22] of 53
-    static constexpr double c80 = 0.17875918651855408;  // P[22] of 53
-    static constexpr double c81 = 0.015387675100292094;  // -P[23] of 53
-    static constexpr double c82 = 0.2795810907749542;  // Q[23] of 53
-    static constexpr double c83 = 0.2758601234844355;  // -Q[24] of 53
-    static constexpr double c84 = 0.04799540743714245;  // P[24] of 53
-    static constexpr double c85 = 0.26811627900458906;  // P[25] of 53
-    static constexpr double c86 = 0.08072191645791539;  // -Q[25] of 53
-    static constexpr double c87 = 0.14000211325539458;  // beta of 53
-    static constexpr double c88 = 0.015496188988565054;  // P[1] of 13
-    static constexpr double c89 = 0.6007253775544544;  // -Q[1] of 13
-    static constexpr double c90 = 0.6008758031820526;  // -Q[2] of 13
-    static constexpr double c91 = 0.007705858903092426;  // P[2] of 13
-    static constexpr double c92 = 0.15924941320823024;  // -Q[4] of 13
-    static constexpr double c93 = 0.5794400189009605;  // -P[4] of 13
-    static constexpr double c94 = 0.3203288761978803;  // P[5] of 13
-    static constexpr double c95 = 0.5084294662830964;  // -Q[5] of 13
-    static constexpr double c96 = 0.5018097763375671;  // sin 2 pi 1/3 times -P[4] of 13
-    static constexpr double c97 = 0.1379140373760925;  // sin 2 pi 1/3 times -Q[4] of 13
-    static constexpr double c98 = 0.00667346956805653;  // sin 2 pi 1/3 times P[2] of 13
-    static constexpr double c99 = 0.520373710075036;  // sin 2 pi 1/3 times -Q[2] of 13
+    static constexpr double constants[] = {
+        0.5,  // c[-16]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-15]: sin 2 pi 1/3
+        0.5751407294740031,  // c[-14]: -Q[3] of 13
+        0.1741386011521359,  // c[-13]: -P[3] of 13
+        0.08333333333333333,  // c[-12]: 1/12
+        0.3004626062886658,  // c[-11]: -beta of 13
+        0.015496188988565054,  // c[-10]: P[1] of 13
+        0.6007253775544544,  // c[-9]: -Q[1] of 13
+        0.3203288761978803,  // c[-8]: P[5] of 13
+        0.5084294662830964,  // c[-7]: -Q[5] of 13
+        0.5279915321544383,  // c[-6]: -Q[1] of 13
+        0.2869425954512852,  // c[-5]: P[1] of 13
+        0.29376443202296976,  // c[-4]: -Q[2] of 13
+        0.5242266395265821,  // c[-3]: P[2] of 13
+        0.42218506973345193,  // c[-2]: -Q[4] of 13
+        0.42763404682657274,  // c[-1]: P[4] of 13
+        0.280148395734785,  // c[0]: Q[5] of 13
+        0.5316276774946329,  // c[1]: P[5] of 13
+        0.4330127018922193,  // c[2]: sin 2 pi 1/3 times -cos 2 pi 1/3
+        0.75,  // c[3]: sin 2 pi 1/3 times sin 2 pi 1/3
+        0.31378278210316923,  // c[4]: -Q[1] of 13
+        0.5124953431658732,  // c[5]: P[1] of 13
+        0.3071113711590828,  // c[6]: Q[2] of 13
+        0.5165207806234897,  // c[7]: P[2] of 13
+        0.5814344829416822,  // c[8]: Q[4] of 13
+        0.15180597207438773,  // c[9]: P[4] of 13
+        0.02319821121153658,  // c[10]: Q[5] of 13
+        0.6004772719326653,  // c[11]: -P[5] of 13
+        0.6008758031820526,  // c[12]: -Q[2] of 13
+        0.007705858903092426,  // c[13]: P[2] of 13
+        0.15924941320823024,  // c[14]: -Q[4] of 13
+        0.5794400189009605,  // c[15]: -P[4] of 13
+        0.5018097763375671,  // c[16]: sin 2 pi 1/3 times -P[4] of 13
+        0.1379140373760925,  // c[17]: sin 2 pi 1/3 times -Q[4] of 13
+        0.00667346956805653,  // c[18]: sin 2 pi 1/3 times P[2] of 13
+        0.520373710075036,  // c[19]: sin 2 pi 1/3 times -Q[2] of 13
+        0.12053668025532305,  // c[20]: sin 2 pi 1/52
+        0.992708874098054,  // c[21]: cos 2 pi 1/52
+        0.3546048870425356,  // c[22]: sin 2 pi 3/52
+        0.9350162426854148,  // c[23]: cos 2 pi 3/52
+        0.5680647467311558,  // c[24]: sin 2 pi 5/52
+        0.8229838658936564,  // c[25]: cos 2 pi 5/52
+        0.7485107481711011,  // c[26]: sin 2 pi 7/52
+        0.6631226582407952,  // c[27]: cos 2 pi 7/52
+        0.8854560256532099,  // c[28]: sin 2 pi 9/52
+        0.46472317204376856,  // c[29]: cos 2 pi 9/52
+        0.970941817426052,  // c[30]: sin 2 pi 11/52
+        0.23931566428755777,  // c[31]: cos 2 pi 11/52
+        0.2535110589592131,  // c[32]: -P[1] of 53
+        0.11888864474491956,  // c[33]: -Q[1] of 53
+        0.13160258300584013,  // c[34]: -Q[2] of 53
+        0.2471500091242084,  // c[35]: P[2] of 53
+        0.01920483471835668,  // c[36]: -P[3] of 53
+        0.27934484277921784,  // c[37]: -Q[3] of 53
+        0.2755686148630738,  // c[38]: Q[4] of 53
+        0.049641770378907886,  // c[39]: P[4] of 53
+        0.08550180730497182,  // c[40]: -P[5] of 53
+        0.26663047052332334,  // c[41]: Q[5] of 53
+        0.21010412063116707,  // c[42]: Q[6] of 53
+        0.18509085703434766,  // c[43]: P[6] of 53
+        0.02729324277461261,  // c[44]: -P[7] of 53
+        0.2786708556034366,  // c[45]: Q[7] of 53
+        0.27887234952845297,  // c[46]: Q[8] of 53
+        0.02515113381908794,  // c[47]: P[8] of 53
+        0.27926923264549397,  // c[48]: -P[9] of 53
+        0.02027467783966699,  // c[49]: Q[9] of 53
+        0.2421434442697633,  // c[50]: Q[10] of 53
+        0.14060198882334973,  // c[51]: -P[10] of 53
+        0.23326162380743898,  // c[52]: -P[11] of 53
+        0.15489151598012768,  // c[53]: -Q[11] of 53
+        0.1903832491584887,  // c[54]: Q[12] of 53
+        0.20532068893261132,  // c[55]: P[12] of 53
+        0.27729778231647617,  // c[56]: P[13] of 53
+        0.038836925551200704,  // c[57]: Q[13] of 53
+        0.2645541253996386,  // c[58]: -Q[14] of 53
+        0.09172503255893466,  // c[59]: P[14] of 53
+        0.10309300873453617,  // c[60]: P[15] of 53
+        0.2603347814141748,  // c[61]: -Q[15] of 53
+        0.04985858822323415,  // c[62]: Q[16] of 53
+        0.27552946855879373,  // c[63]: -P[16] of 53
+        0.062487064695808406,  // c[64]: -P[17] of 53
+        0.27294272954157833,  // c[65]: -Q[17] of 53
+        0.12218648440059575,  // c[66]: Q[18] of 53
+        0.2519381469601781,  // c[67]: P[18] of 53
+        0.0855629575860694,  // c[68]: -P[19] of 53
+        0.26661085340441376,  // c[69]: Q[19] of 53
+        0.279948840618166,  // c[70]: Q[20] of 53
+        0.005568976607062611,  // c[71]: P[20] of 53
+        0.2608612063201607,  // c[72]: P[21] of 53
+        0.10175361370042776,  // c[73]: -Q[21] of 53
+        0.21551686731931244,  // c[74]: Q[22] of 53
+        0.17875918651855408,  // c[75]: P[22] of 53
+        0.015387675100292094,  // c[76]: -P[23] of 53
+        0.2795810907749542,  // c[77]: Q[23] of 53
+        0.2758601234844355,  // c[78]: -Q[24] of 53
+        0.04799540743714245,  // c[79]: P[24] of 53
+        0.26811627900458906,  // c[80]: P[25] of 53
+        0.08072191645791539,  // c[81]: -Q[25] of 53
+        0.019230769230769232,  // c[82]: 1/52
+        0.14000211325539458,  // c[83]: beta of 53
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // input stage
         const V x1 = io.in(1);
         const V x52 = io.in(52);
@@ -221,30 +225,30 @@ struct HartleyGraph<53> {
         const V t52 = t20 + t10;
         const V t53 = t20 - t10;
         const V t54 = t52 + t6;
-        const V t55 = c0 * t52;
+        const V t55 = c[-16] * t52;
         const V t56 = t6 - t55;
-        const V t57 = c1 * t53;
+        const V t57 = c[-15] * t53;
         // real block of 3
         const V t58 = t18 + t12;
         const V t59 = t18 - t12;
         const V t60 = t58 + t48;
-        const V t61 = c0 * t58;
+        const V t61 = c[-16] * t58;
         const V t62 = t48 - t61;
-        const V t63 = c1 * t59;
+        const V t63 = c[-15] * t59;
         // real block of 3
         const V t64 = t46 + t16;
         const V t65 = t46 - t16;
         const V t66 = t64 + t24;
-        const V t67 = c0 * t64;
+        const V t67 = c[-16] * t64;
         const V t68 = t24 - t67;
-        const V t69 = c1 * t65;
+        const V t69 = c[-15] * t65;
         // real block of 3
         const V t70 = t30 + t28;
         const V t71 = t30 - t28;
         const V t72 = t70 + t32;
-        const V t73 = c0 * t70;
+        const V t73 = c[-16] * t70;
         const V t74 = t32 - t73;
-        const V t75 = c1 * t71;
+        const V t75 = c[-15] * t71;
         // real block of 2
         const V t76 = t54 + t66;
         const V t77 = t54 - t66;
@@ -276,39 +280,39 @@ struct HartleyGraph<53> {
         const V t97 = t85 - t88;
         // real block of 13, multiplier 2
         const V t98 = t0 + t80;
-        const V t99 = c2 * t80;
+        const V t99 = c[-12] * t80;
         const V t100 = t0 - t99;
-        const V t101 = c3 * t97;
-        const V t102 = c4 * t96;
+        const V t101 = c[-6] * t97;
+        const V t102 = c[-5] * t96;
         const V t103 = t102 + t101;
-        const V t104 = c3 * t96;
-        const V t105 = c4 * t97;
+        const V t104 = c[-6] * t96;
+        const V t105 = c[-5] * t97;
         const V t106 = t105 - t104;
-        const V t107 = c5 * t93;
-        const V t108 = c6 * t92;
+        const V t107 = c[-4] * t93;
+        const V t108 = c[-3] * t92;
         const V t109 = t108 - t107;
-        const V t110 = c5 * t92;
-        const V t111 = c6 * t93;
+        const V t110 = c[-4] * t92;
+        const V t111 = c[-3] * t93;
         const V t112 = t111 + t110;
-        const V t113 = c7 * t79;
-        const V t114 = c8 * t77;
+        const V t113 = c[-14] * t79;
+        const V t114 = c[-13] * t77;
         const V t115 = t113 - t114;
-        const V t116 = c7 * t77;
-        const V t117 = c8 * t79;
+        const V t116 = c[-14] * t77;
+        const V t117 = c[-13] * t79;
         const V t118 = t117 + t116;
-        const V t119 = c9 * t91;
-        const V t120 = c10 * t90;
+        const V t119 = c[-2] * t91;
+        const V t120 = c[-1] * t90;
         const V t121 = t120 - t119;
-        const V t122 = c9 * t90;
-        const V t123 = c10 * t91;
+        const V t122 = c[-2] * t90;
+        const V t123 = c[-1] * t91;
         const V t124 = t123 + t122;
-        const V t125 = c11 * t95;
-        const V t126 = c12 * t94;
+        const V t125 = c[0] * t95;
+        const V t126 = c[1] * t94;
         const V t127 = t126 + t125;
-        const V t128 = c11 * t94;
-        const V t129 = c12 * t95;
+        const V t128 = c[0] * t94;
+        const V t129 = c[1] * t95;
         const V t130 = t128 - t129;
-        const V t131 = c13 * t81;
+        const V t131 = c[-11] * t81;
         // spectrum block of 2
         const V t132 = t100 - t131;
         const V t133 = t100 + t131;
@@ -319,16 +323,16 @@ struct HartleyGraph<53> {
         const V t137 = t121 - t109;
         // spectrum block of 3, multiplier 2
         const V t138 = t135 + t132;
-        const V t139 = c0 * t135;
+        const V t139 = c[-16] * t135;
         const V t140 = t132 - t139;
-        const V t141 = c1 * t134;
+        const V t141 = c[-15] * t134;
         const V t142 = t140 - t141;
         const V t143 = t140 + t141;
         // spectrum block of 3, multiplier 2
         const V t144 = t137 + t133;
-        const V t145 = c0 * t137;
+        const V t145 = c[-16] * t137;
         const V t146 = t133 - t145;
-        const V t147 = c1 * t136;
+        const V t147 = c[-15] * t136;
         const V t148 = t146 + t147;
         const V t149 = t146 - t147;
         // complex block of 2
@@ -337,22 +341,22 @@ struct HartleyGraph<53> {
         const V t152 = t103 + t127;
         const V t153 = t106 - t130;
         // mirrored skew block of 6
-        const V t154 = c0 * t152;
-        const V t155 = c1 * t153;
+        const V t154 = c[-16] * t152;
+        const V t155 = c[-15] * t153;
         const V t156 = t155 + t154;
         // spectrum block of 3, multiplier 2
         const V t157 = t151 - t118;
-        const V t158 = c0 * t151;
+        const V t158 = c[-16] * t151;
         const V t159 = t118 + t158;
-        const V t160 = c1 * t150;
+        const V t160 = c[-15] * t150;
         const V t161 = t160 - t159;
         const V t162 = t159 + t160;
         // spectrum block of 3, multiplier 2
         const V t163 = t156 + t115;
-        const V t164 = c0 * t156;
+        const V t164 = c[-16] * t156;
         const V t165 = t115 - t164;
-        const V t166 = c14 * t153;
-        const V t167 = c15 * t152;
+        const V t166 = c[2] * t153;
+        const V t167 = c[3] * t152;
         const V t168 = t166 - t167;
         const V t169 = t165 + t168;
         const V t170 = t165 - t168;
@@ -360,30 +364,30 @@ struct HartleyGraph<53> {
         const V t171 = t22 + t40;
         const V t172 = t22 - t40;
         const V t173 = t171 + t26;
-        const V t174 = c0 * t171;
+        const V t174 = c[-16] * t171;
         const V t175 = t26 - t174;
-        const V t176 = c1 * t172;
+        const V t176 = c[-15] * t172;
         // real block of 3
         const V t177 = t34 + t2;
         const V t178 = t34 - t2;
         const V t179 = t177 + t14;
-        const V t180 = c0 * t177;
+        const V t180 = c[-16] * t177;
         const V t181 = t14 - t180;
-        const V t182 = c1 * t178;
+        const V t182 = c[-15] * t178;
         // real block of 3
         const V t183 = t42 + t8;
         const V t184 = t42 - t8;
         const V t185 = t183 + t36;
-        const V t186 = c0 * t183;
+        const V t186 = c[-16] * t183;
         const V t187 = t36 - t186;
-        const V t188 = c1 * t184;
+        const V t188 = c[-15] * t184;
         // real block of 3
         const V t189 = t4 + t50;
         const V t190 = t4 - t50;
         const V t191 = t189 + t38;
-        const V t192 = c0 * t189;
+        const V t192 = c[-16] * t189;
         const V t193 = t38 - t192;
-        const V t194 = c1 * t190;
+        const V t194 = c[-15] * t190;
         // real block of 2
         const V t195 = t173 + t185;
         const V t196 = t173 - t185;
@@ -415,39 +419,39 @@ struct HartleyGraph<53> {
         const V t216 = t204 - t207;
         // real block of 13, multiplier 2
         const V t217 = t44 + t199;
-        const V t218 = c2 * t199;
+        const V t218 = c[-12] * t199;
         const V t219 = t44 - t218;
-        const V t220 = c3 * t216;
-        const V t221 = c4 * t215;
+        const V t220 = c[-6] * t216;
+        const V t221 = c[-5] * t215;
         const V t222 = t221 + t220;
-        const V t223 = c3 * t215;
-        const V t224 = c4 * t216;
+        const V t223 = c[-6] * t215;
+        const V t224 = c[-5] * t216;
         const V t225 = t224 - t223;
-        const V t226 = c5 * t212;
-        const V t227 = c6 * t211;
+        const V t226 = c[-4] * t212;
+        const V t227 = c[-3] * t211;
         const V t228 = t227 - t226;
-        const V t229 = c5 * t211;
-        const V t230 = c6 * t212;
+        const V t229 = c[-4] * t211;
+        const V t230 = c[-3] * t212;
         const V t231 = t230 + t229;
-        const V t232 = c7 * t198;
-        const V t233 = c8 * t196;
+        const V t232 = c[-14] * t198;
+        const V t233 = c[-13] * t196;
         const V t234 = t232 - t233;
-        const V t235 = c7 * t196;
-        const V t236 = c8 * t198;
+        const V t235 = c[-14] * t196;
+        const V t236 = c[-13] * t198;
         const V t237 = t236 + t235;
-        const V t238 = c9 * t210;
-        const V t239 = c10 * t209;
+        const V t238 = c[-2] * t210;
+        const V t239 = c[-1] * t209;
         const V t240 = t239 - t238;
-        const V t241 = c9 * t209;
-        const V t242 = c10 * t210;
+        const V t241 = c[-2] * t209;
+        const V t242 = c[-1] * t210;
         const V t243 = t242 + t241;
-        const V t244 = c11 * t214;
-        const V t245 = c12 * t213;
+        const V t244 = c[0] * t214;
+        const V t245 = c[1] * t213;
         const V t246 = t245 + t244;
-        const V t247 = c11 * t213;
-        const V t248 = c12 * t214;
+        const V t247 = c[0] * t213;
+        const V t248 = c[1] * t214;
         const V t249 = t247 - t248;
-        const V t250 = c13 * t200;
+        const V t250 = c[-11] * t200;
         // spectrum block of 2
         const V t251 = t219 - t250;
         const V t252 = t219 + t250;
@@ -458,16 +462,16 @@ struct HartleyGraph<53> {
         const V t256 = t240 - t228;
         // spectrum block of 3, multiplier 2
         const V t257 = t254 + t251;
-        const V t258 = c0 * t254;
+        const V t258 = c[-16] * t254;
         const V t259 = t251 - t258;
-        const V t260 = c1 * t253;
+        const V t260 = c[-15] * t253;
         const V t261 = t259 - t260;
         const V t262 = t259 + t260;
         // spectrum block of 3, multiplier 2
         const V t263 = t256 + t252;
-        const V t264 = c0 * t256;
+        const V t264 = c[-16] * t256;
         const V t265 = t252 - t264;
-        const V t266 = c1 * t255;
+        const V t266 = c[-15] * t255;
         const V t267 = t265 + t266;
         const V t268 = t265 - t266;
         // complex block of 2
@@ -476,22 +480,22 @@ struct HartleyGraph<53> {
         const V t271 = t222 + t246;
         const V t272 = t225 - t249;
         // mirrored skew block of 6
-        const V t273 = c0 * t271;
-        const V t274 = c1 * t272;
+        const V t273 = c[-16] * t271;
+        const V t274 = c[-15] * t272;
         const V t275 = t274 + t273;
         // spectrum block of 3, multiplier 2
         const V t276 = t270 - t237;
-        const V t277 = c0 * t270;
+        const V t277 = c[-16] * t270;
         const V t278 = t237 + t277;
-        const V t279 = c1 * t269;
+        const V t279 = c[-15] * t269;
         const V t280 = t279 - t278;
         const V t281 = t278 + t279;
         // spectrum block of 3, multiplier 2
         const V t282 = t275 + t234;
-        const V t283 = c0 * t275;
+        const V t283 = c[-16] * t275;
         const V t284 = t234 - t283;
-        const V t285 = c14 * t272;
-        const V t286 = c15 * t271;
+        const V t285 = c[2] * t272;
+        const V t286 = c[3] * t271;
         const V t287 = t285 - t286;
         const V t288 = t284 + t287;
         const V t289 = t284 - t287;
@@ -532,30 +536,30 @@ struct HartleyGraph<53> {
         const V t316 = t21 + t11;
         const V t317 = t11 - t21;
         const V t318 = t316 + t7;
-        const V t319 = c0 * t316;
+        const V t319 = c[-16] * t316;
         const V t320 = t319 - t7;
-        const V t321 = c1 * t317;
+        const V t321 = c[-15] * t317;
         // real block of 3
         const V t322 = t19 - t13;
         const V t323 = t19 + t13;
         const V t324 = t322 - t49;
-        const V t325 = c0 * t322;
+        const V t325 = c[-16] * t322;
         const V t326 = t49 + t325;
-        const V t327 = c1 * t323;
+        const V t327 = c[-15] * t323;
         // real block of 3
         const V t328 = t47 - t17;
         const V t329 = t47 + t17;
         const V t330 = t328 + t25;
-        const V t331 = c0 * t328;
+        const V t331 = c[-16] * t328;
         const V t332 = t25 - t331;
-        const V t333 = c1 * t329;
+        const V t333 = c[-15] * t329;
         // real block of 3
         const V t334 = t31 + t29;
         const V t335 = t31 - t29;
         const V t336 = t334 - t33;
-        const V t337 = c0 * t334;
+        const V t337 = c[-16] * t334;
         const V t338 = t33 + t337;
-        const V t339 = c1 * t335;
+        const V t339 = c[-15] * t335;
         // real block of 2
         const V t340 = t330 - t318;
         const V t341 = t318 + t330;
@@ -587,39 +591,39 @@ struct HartleyGraph<53> {
         const V t361 = t349 - t352;
         // real block of 13
         const V t362 = t1 + t344;
-        const V t363 = c2 * t344;
+        const V t363 = c[-12] * t344;
         const V t364 = t1 - t363;
-        const V t365 = c16 * t361;
-        const V t366 = c17 * t360;
+        const V t365 = c[4] * t361;
+        const V t366 = c[5] * t360;
         const V t367 = t366 + t365;
-        const V t368 = c16 * t360;
-        const V t369 = c17 * t361;
+        const V t368 = c[4] * t360;
+        const V t369 = c[5] * t361;
         const V t370 = t369 - t368;
-        const V t371 = c18 * t357;
-        const V t372 = c19 * t356;
+        const V t371 = c[6] * t357;
+        const V t372 = c[7] * t356;
         const V t373 = t372 + t371;
-        const V t374 = c18 * t356;
-        const V t375 = c19 * t357;
+        const V t374 = c[6] * t356;
+        const V t375 = c[7] * t357;
         const V t376 = t374 - t375;
-        const V t377 = c8 * t343;
-        const V t378 = c7 * t341;
+        const V t377 = c[-13] * t343;
+        const V t378 = c[-14] * t341;
         const V t379 = t377 - t378;
-        const V t380 = c8 * t341;
-        const V t381 = c7 * t343;
+        const V t380 = c[-13] * t341;
+        const V t381 = c[-14] * t343;
         const V t382 = t381 + t380;
-        const V t383 = c20 * t355;
-        const V t384 = c21 * t354;
+        const V t383 = c[8] * t355;
+        const V t384 = c[9] * t354;
         const V t385 = t384 + t383;
-        const V t386 = c20 * t354;
-        const V t387 = c21 * t355;
+        const V t386 = c[8] * t354;
+        const V t387 = c[9] * t355;
         const V t388 = t386 - t387;
-        const V t389 = c22 * t359;
-        const V t390 = c23 * t358;
+        const V t389 = c[10] * t359;
+        const V t390 = c[11] * t358;
         const V t391 = t389 - t390;
-        const V t392 = c22 * t358;
-        const V t393 = c23 * t359;
+        const V t392 = c[10] * t358;
+        const V t393 = c[11] * t359;
         const V t394 = t393 + t392;
-        const V t395 = c13 * t345;
+        const V t395 = c[-11] * t345;
         // spectrum block of 2
         const V t396 = t364 + t395;
         const V t397 = t364 - t395;
@@ -630,16 +634,16 @@ struct HartleyGraph<53> {
         const V t401 = t385 - t373;
         // spectrum block of 3, multiplier 2
         const V t402 = t399 + t396;
-        const V t403 = c0 * t399;
+        const V t403 = c[-16] * t399;
         const V t404 = t396 - t403;
-        const V t405 = c1 * t398;
+        const V t405 = c[-15] * t398;
         const V t406 = t404 - t405;
         const V t407 = t404 + t405;
         // spectrum block of 3, multiplier 2
         const V t408 = t401 + t397;
-        const V t409 = c0 * t401;
+        const V t409 = c[-16] * t401;
         const V t410 = t397 - t409;
-        const V t411 = c1 * t400;
+        const V t411 = c[-15] * t400;
         const V t412 = t410 - t411;
         const V t413 = t410 + t411;
         // complex block of 2
@@ -648,22 +652,22 @@ struct HartleyGraph<53> {
         const V t416 = t367 + t391;
         const V t417 = t370 - t394;
         // mirrored skew block of 6
-        const V t418 = c0 * t416;
-        const V t419 = c1 * t417;
+        const V t418 = c[-16] * t416;
+        const V t419 = c[-15] * t417;
         const V t420 = t419 + t418;
         // spectrum block of 3, multiplier 2
         const V t421 = t415 + t382;
-        const V t422 = c0 * t415;
+        const V t422 = c[-16] * t415;
         const V t423 = t382 - t422;
-        const V t424 = c1 * t414;
+        const V t424 = c[-15] * t414;
         const V t425 = t423 + t424;
         const V t426 = t423 - t424;
         // spectrum block of 3, multiplier 2
         const V t427 = t420 + t379;
-        const V t428 = c0 * t420;
+        const V t428 = c[-16] * t420;
         const V t429 = t379 - t428;
-        const V t430 = c14 * t417;
-        const V t431 = c15 * t416;
+        const V t430 = c[2] * t417;
+        const V t431 = c[3] * t416;
         const V t432 = t430 - t431;
         const V t433 = t429 + t432;
         const V t434 = t429 - t432;
@@ -671,30 +675,30 @@ struct HartleyGraph<53> {
         const V t435 = t43 + t23;
         const V t436 = t23 - t43;
         const V t437 = t435 + t15;
-        const V t438 = c0 * t435;
+        const V t438 = c[-16] * t435;
         const V t439 = t438 - t15;
-        const V t440 = c1 * t436;
+        const V t440 = c[-15] * t436;
         // real block of 3
         const V t441 = t39 - t27;
         const V t442 = t39 + t27;
         const V t443 = t441 + t5;
-        const V t444 = c0 * t441;
+        const V t444 = c[-16] * t441;
         const V t445 = t5 - t444;
-        const V t446 = c1 * t442;
+        const V t446 = c[-15] * t442;
         // real block of 3
         const V t447 = t9 + t35;
         const V t448 = t35 - t9;
         const V t449 = t51 - t447;
-        const V t450 = c0 * t447;
+        const V t450 = c[-16] * t447;
         const V t451 = t450 + t51;
-        const V t452 = c1 * t448;
+        const V t452 = c[-15] * t448;
         // real block of 3
         const V t453 = t41 + t45;
         const V t454 = t45 - t41;
         const V t455 = t37 - t453;
-        const V t456 = c0 * t453;
+        const V t456 = c[-16] * t453;
         const V t457 = t456 + t37;
-        const V t458 = c1 * t454;
+        const V t458 = c[-15] * t454;
         // real block of 2
         const V t459 = t449 - t437;
         const V t460 = t437 + t449;
@@ -726,39 +730,39 @@ struct HartleyGraph<53> {
         const V t480 = t468 - t471;
         // real block of 13
         const V t481 = t3 + t463;
-        const V t482 = c2 * t463;
+        const V t482 = c[-12] * t463;
         const V t483 = t3 - t482;
-        const V t484 = c16 * t480;
-        const V t485 = c17 * t479;
+        const V t484 = c[4] * t480;
+        const V t485 = c[5] * t479;
         const V t486 = t485 + t484;
-        const V t487 = c16 * t479;
-        const V t488 = c17 * t480;
+        const V t487 = c[4] * t479;
+        const V t488 = c[5] * t480;
         const V t489 = t488 - t487;
-        const V t490 = c18 * t476;
-        const V t491 = c19 * t475;
+        const V t490 = c[6] * t476;
+        const V t491 = c[7] * t475;
         const V t492 = t491 + t490;
-        const V t493 = c18 * t475;
-        const V t494 = c19 * t476;
+        const V t493 = c[6] * t475;
+        const V t494 = c[7] * t476;
         const V t495 = t493 - t494;
-        const V t496 = c8 * t462;
-        const V t497 = c7 * t460;
+        const V t496 = c[-13] * t462;
+        const V t497 = c[-14] * t460;
         const V t498 = t496 - t497;
-        const V t499 = c8 * t460;
-        const V t500 = c7 * t462;
+        const V t499 = c[-13] * t460;
+        const V t500 = c[-14] * t462;
         const V t501 = t500 + t499;
-        const V t502 = c20 * t474;
-        const V t503 = c21 * t473;
+        const V t502 = c[8] * t474;
+        const V t503 = c[9] * t473;
         const V t504 = t503 + t502;
-        const V t505 = c20 * t473;
-        const V t506 = c21 * t474;
+        const V t505 = c[8] * t473;
+        const V t506 = c[9] * t474;
         const V t507 = t505 - t506;
-        const V t508 = c22 * t478;
-        const V t509 = c23 * t477;
+        const V t508 = c[10] * t478;
+        const V t509 = c[11] * t477;
         const V t510 = t508 - t509;
-        const V t511 = c22 * t477;
-        const V t512 = c23 * t478;
+        const V t511 = c[10] * t477;
+        const V t512 = c[11] * t478;
         const V t513 = t512 + t511;
-        const V t514 = c13 * t464;
+        const V t514 = c[-11] * t464;
         // spectrum block of 2
         const V t515 = t483 + t514;
         const V t516 = t483 - t514;
@@ -769,16 +773,16 @@ struct HartleyGraph<53> {
         const V t520 = t504 - t492;
         // spectrum block of 3, multiplier 2
         const V t521 = t518 + t515;
-        const V t522 = c0 * t518;
+        const V t522 = c[-16] * t518;
         const V t523 = t515 - t522;
-        const V t524 = c1 * t517;
+        const V t524 = c[-15] * t517;
         const V t525 = t523 - t524;
         const V t526 = t523 + t524;
         // spectrum block of 3, multiplier 2
         const V t527 = t520 + t516;
-        const V t528 = c0 * t520;
+        const V t528 = c[-16] * t520;
         const V t529 = t516 - t528;
-        const V t530 = c1 * t519;
+        const V t530 = c[-15] * t519;
         const V t531 = t529 - t530;
         const V t532 = t529 + t530;
         // complex block of 2
@@ -787,31 +791,31 @@ struct HartleyGraph<53> {
         const V t535 = t486 + t510;
         const V t536 = t489 - t513;
         // mirrored skew block of 6
-        const V t537 = c0 * t535;
-        const V t538 = c1 * t536;
+        const V t537 = c[-16] * t535;
+        const V t538 = c[-15] * t536;
         const V t539 = t538 + t537;
         // spectrum block of 3, multiplier 2
         const V t540 = t534 + t501;
-        const V t541 = c0 * t534;
+        const V t541 = c[-16] * t534;
         const V t542 = t501 - t541;
-        const V t543 = c1 * t533;
+        const V t543 = c[-15] * t533;
         const V t544 = t542 + t543;
         const V t545 = t542 - t543;
         // spectrum block of 3, multiplier 2
         const V t546 = t539 + t498;
-        const V t547 = c0 * t539;
+        const V t547 = c[-16] * t539;
         const V t548 = t498 - t547;
-        const V t549 = c14 * t536;
-        const V t550 = c15 * t535;
+        const V t549 = c[2] * t536;
+        const V t550 = c[3] * t535;
         const V t551 = t549 - t550;
         const V t552 = t548 + t551;
         const V t553 = t548 - t551;
         // skew block of 26
-        const V t554 = c24 * t546;
-        const V t555 = c25 * t531;
+        const V t554 = c[20] * t546;
+        const V t555 = c[21] * t531;
         const V t556 = t555 + t554;
-        const V t557 = c24 * t531;
-        const V t558 = c25 * t546;
+        const V t557 = c[20] * t531;
+        const V t558 = c[21] * t546;
         const V t559 = t558 - t557;
         // complex block of 2
         const V t560 = t412 + t556;
@@ -819,11 +823,11 @@ struct HartleyGraph<53> {
         const V t562 = t412 - t556;
         const V t563 = t427 - t559;
         // skew block of 26
-        const V t564 = c26 * t552;
-        const V t565 = c27 * t527;
+        const V t564 = c[22] * t552;
+        const V t565 = c[23] * t527;
         const V t566 = t565 + t564;
-        const V t567 = c26 * t527;
-        const V t568 = c27 * t552;
+        const V t567 = c[22] * t527;
+        const V t568 = c[23] * t552;
         const V t569 = t568 - t567;
         // complex block of 2
         const V t570 = t408 + t566;
@@ -831,11 +835,11 @@ struct HartleyGraph<53> {
         const V t572 = t408 - t566;
         const V t573 = t433 - t569;
         // skew block of 26
-        const V t574 = c28 * t545;
-        const V t575 = c29 * t525;
+        const V t574 = c[24] * t545;
+        const V t575 = c[25] * t525;
         const V t576 = t575 + t574;
-        const V t577 = c28 * t525;
-        const V t578 = c29 * t545;
+        const V t577 = c[24] * t525;
+        const V t578 = c[25] * t545;
         const V t579 = t578 - t577;
         // complex block of 2
         const V t580 = t406 + t576;
@@ -843,11 +847,11 @@ struct HartleyGraph<53> {
         const V t582 = t406 - t576;
         const V t583 = t426 - t579;
         // skew block of 26
-        const V t584 = c30 * t544;
-        const V t585 = c31 * t526;
+        const V t584 = c[26] * t544;
+        const V t585 = c[27] * t526;
         const V t586 = t585 - t584;
-        const V t587 = c30 * t526;
-        const V t588 = c31 * t544;
+        const V t587 = c[26] * t526;
+        const V t588 = c[27] * t544;
         const V t589 = t588 + t587;
         // complex block of 2
         const V t590 = t407 + t586;
@@ -855,11 +859,11 @@ struct HartleyGraph<53> {
         const V t592 = t407 - t586;
         const V t593 = t589 - t425;
         // skew block of 26
-        const V t594 = c32 * t553;
-        const V t595 = c33 * t532;
+        const V t594 = c[28] * t553;
+        const V t595 = c[29] * t532;
         const V t596 = t595 + t594;
-        const V t597 = c32 * t532;
-        const V t598 = c33 * t553;
+        const V t597 = c[28] * t532;
+        const V t598 = c[29] * t553;
         const V t599 = t598 - t597;
         // complex block of 2
         const V t600 = t413 + t596;
@@ -867,11 +871,11 @@ struct HartleyGraph<53> {
         const V t602 = t413 - t596;
         const V t603 = t434 - t599;
         // skew block of 26
-        const V t604 = c34 * t540;
-        const V t605 = c35 * t521;
+        const V t604 = c[30] * t540;
+        const V t605 = c[31] * t521;
         const V t606 = t605 - t604;
-        const V t607 = c34 * t521;
-        const V t608 = c35 * t540;
+        const V t607 = c[30] * t521;
+        const V t608 = c[31] * t540;
         const V t609 = t608 + t607;
         // complex block of 2
         const V t610 = t402 + t606;
@@ -879,174 +883,174 @@ struct HartleyGraph<53> {
         const V t612 = t402 - t606;
         const V t613 = t609 - t421;
         // spectrum block of 53
-        const V t614 = c36 * t290;
+        const V t614 = c[82] * t290;
         const V x0 = io.in(0);
         const V t615 = x0 - t614;
-        const V t616 = c37 * t561;
-        const V t617 = c38 * t560;
+        const V t616 = c[32] * t561;
+        const V t617 = c[33] * t560;
         const V t618 = t616 - t617;
-        const V t619 = c37 * t560;
-        const V t620 = c38 * t561;
+        const V t619 = c[32] * t560;
+        const V t620 = c[33] * t561;
         const V t621 = t620 + t619;
-        const V t622 = c39 * t315;
-        const V t623 = c40 * t314;
+        const V t622 = c[34] * t315;
+        const V t623 = c[35] * t314;
         const V t624 = t623 - t622;
-        const V t625 = c39 * t314;
-        const V t626 = c40 * t315;
+        const V t625 = c[34] * t314;
+        const V t626 = c[35] * t315;
         const V t627 = t626 + t625;
-        const V t628 = c41 * t571;
-        const V t629 = c42 * t570;
+        const V t628 = c[36] * t571;
+        const V t629 = c[37] * t570;
         const V t630 = t628 - t629;
-        const V t631 = c41 * t570;
-        const V t632 = c42 * t571;
+        const V t631 = c[36] * t570;
+        const V t632 = c[37] * t571;
         const V t633 = t632 + t631;
-        const V t634 = c43 * t293;
-        const V t635 = c44 * t292;
+        const V t634 = c[38] * t293;
+        const V t635 = c[39] * t292;
         const V t636 = t635 - t634;
-        const V t637 = c43 * t292;
-        const V t638 = c44 * t293;
+        const V t637 = c[38] * t292;
+        const V t638 = c[39] * t293;
         const V t639 = t638 + t637;
-        const V t640 = c45 * t581;
-        const V t641 = c46 * t580;
+        const V t640 = c[40] * t581;
+        const V t641 = c[41] * t580;
         const V t642 = t641 + t640;
-        const V t643 = c45 * t580;
-        const V t644 = c46 * t581;
+        const V t643 = c[40] * t580;
+        const V t644 = c[41] * t581;
         const V t645 = t644 - t643;
-        const V t646 = c47 * t311;
-        const V t647 = c48 * t310;
+        const V t646 = c[42] * t311;
+        const V t647 = c[43] * t310;
         const V t648 = t647 + t646;
-        const V t649 = c47 * t310;
-        const V t650 = c48 * t311;
+        const V t649 = c[42] * t310;
+        const V t650 = c[43] * t311;
         const V t651 = t649 - t650;
-        const V t652 = c49 * t591;
-        const V t653 = c50 * t590;
+        const V t652 = c[44] * t591;
+        const V t653 = c[45] * t590;
         const V t654 = t653 - t652;
-        const V t655 = c49 * t590;
-        const V t656 = c50 * t591;
+        const V t655 = c[44] * t590;
+        const V t656 = c[45] * t591;
         const V t657 = t656 + t655;
-        const V t658 = c51 * t297;
-        const V t659 = c52 * t296;
+        const V t658 = c[46] * t297;
+        const V t659 = c[47] * t296;
         const V t660 = t659 + t658;
-        const V t661 = c51 * t296;
-        const V t662 = c52 * t297;
+        const V t661 = c[46] * t296;
+        const V t662 = c[47] * t297;
         const V t663 = t661 - t662;
-        const V t664 = c53 * t601;
-        const V t665 = c54 * t600;
+        const V t664 = c[48] * t601;
+        const V t665 = c[49] * t600;
         const V t666 = t665 + t664;
-        const V t667 = c53 * t600;
-        const V t668 = c54 * t601;
+        const V t667 = c[48] * t600;
+        const V t668 = c[49] * t601;
         const V t669 = t668 - t667;
-        const V t670 = c55 * t307;
-        const V t671 = c56 * t306;
+        const V t670 = c[50] * t307;
+        const V t671 = c[51] * t306;
         const V t672 = t670 - t671;
-        const V t673 = c55 * t306;
-        const V t674 = c56 * t307;
+        const V t673 = c[50] * t306;
+        const V t674 = c[51] * t307;
         const V t675 = t674 + t673;
-        const V t676 = c57 * t611;
-        const V t677 = c58 * t610;
+        const V t676 = c[52] * t611;
+        const V t677 = c[53] * t610;
         const V t678 = t677 + t676;
-        const V t679 = c57 * t610;
-        const V t680 = c58 * t611;
+        const V t679 = c[52] * t610;
+        const V t680 = c[53] * t611;
         const V t681 = t680 - t679;
-        const V t682 = c59 * t301;
-        const V t683 = c60 * t300;
+        const V t682 = c[54] * t301;
+        const V t683 = c[55] * t300;
         const V t684 = t683 - t682;
-        const V t685 = c59 * t300;
-        const V t686 = c60 * t301;
+        const V t685 = c[54] * t300;
+        const V t686 = c[55] * t301;
         const V t687 = t686 + t685;
-        const V t688 = c61 * t481;
-        const V t689 = c62 * t362;
+        const V t688 = c[56] * t481;
+        const V t689 = c[57] * t362;
         const V t690 = t689 + t688;
-        const V t691 = c61 * t362;
-        const V t692 = c62 * t481;
+        const V t691 = c[56] * t362;
+        const V t692 = c[57] * t481;
         const V t693 = t691 - t692;
-        const V t694 = c63 * t303;
-        const V t695 = c64 * t302;
+        const V t694 = c[58] * t303;
+        const V t695 = c[59] * t302;
         const V t696 = t695 - t694;
-        const V t697 = c63 * t302;
-        const V t698 = c64 * t303;
+        const V t697 = c[58] * t302;
+        const V t698 = c[59] * t303;
         const V t699 = t698 + t697;
-        const V t700 = c65 * t613;
-        const V t701 = c66 * t612;
+        const V t700 = c[60] * t613;
+        const V t701 = c[61] * t612;
         const V t702 = t700 - t701;
-        const V t703 = c65 * t612;
-        const V t704 = c66 * t613;
+        const V t703 = c[60] * t612;
+        const V t704 = c[61] * t613;
         const V t705 = t704 + t703;
-        const V t706 = c67 * t305;
-        const V t707 = c68 * t304;
+        const V t706 = c[62] * t305;
+        const V t707 = c[63] * t304;
         const V t708 = t707 + t706;
-        const V t709 = c67 * t304;
-        const V t710 = c68 * t305;
+        const V t709 = c[62] * t304;
+        const V t710 = c[63] * t305;
         const V t711 = t709 - t710;
-        const V t712 = c69 * t603;
-        const V t713 = c70 * t602;
+        const V t712 = c[64] * t603;
+        const V t713 = c[65] * t602;
         const V t714 = t713 + t712;
-        const V t715 = c69 * t602;
-        const V t716 = c70 * t603;
+        const V t715 = c[64] * t602;
+        const V t716 = c[65] * t603;
         const V t717 = t716 - t715;
-        const V t718 = c71 * t299;
-        const V t719 = c72 * t298;
+        const V t718 = c[66] * t299;
+        const V t719 = c[67] * t298;
         const V t720 = t719 + t718;
-        const V t721 = c71 * t298;
-        const V t722 = c72 * t299;
+        const V t721 = c[66] * t298;
+        const V t722 = c[67] * t299;
         const V t723 = t721 - t722;
-        const V t724 = c73 * t593;
-        const V t725 = c74 * t592;
+        const V t724 = c[68] * t593;
+        const V t725 = c[69] * t592;
         const V t726 = t725 - t724;
-        const V t727 = c73 * t592;
-        const V t728 = c74 * t593;
+        const V t727 = c[68] * t592;
+        const V t728 = c[69] * t593;
         const V t729 = t728 + t727;
-        const V t730 = c75 * t309;
-        const V t731 = c76 * t308;
+        const V t730 = c[70] * t309;
+        const V t731 = c[71] * t308;
         const V t732 = t731 + t730;
-        const V t733 = c75 * t308;
-        const V t734 = c76 * t309;
+        const V t733 = c[70] * t308;
+        const V t734 = c[71] * t309;
         const V t735 = t733 - t734;
-        const V t736 = c77 * t583;
-        const V t737 = c78 * t582;
+        const V t736 = c[72] * t583;
+        const V t737 = c[73] * t582;
         const V t738 = t736 - t737;
-        const V t739 = c77 * t582;
-        const V t740 = c78 * t583;
+        const V t739 = c[72] * t582;
+        const V t740 = c[73] * t583;
         const V t741 = t740 + t739;
-        const V t742 = c79 * t295;
-        const V t743 = c80 * t294;
+        const V t742 = c[74] * t295;
+        const V t743 = c[75] * t294;
         const V t744 = t743 + t742;
-        const V t745 = c79 * t294;
-        const V t746 = c80 * t295;
+        const V t745 = c[74] * t294;
+        const V t746 = c[75] * t295;
         const V t747 = t745 - t746;
-        const V t748 = c81 * t573;
-        const V t749 = c82 * t572;
+        const V t748 = c[76] * t573;
+        const V t749 = c[77] * t572;
         const V t750 = t749 - t748;
-        const V t751 = c81 * t572;
-        const V t752 = c82 * t573;
+        const V t751 = c[76] * t572;
+        const V t752 = c[77] * t573;
         const V t753 = t752 + t751;
-        const V t754 = c83 * t313;
-        const V t755 = c84 * t312;
+        const V t754 = c[78] * t313;
+        const V t755 = c[79] * t312;
         const V t756 = t755 - t754;
-        const V t757 = c83 * t312;
-        const V t758 = c84 * t313;
+        const V t757 = c[78] * t312;
+        const V t758 = c[79] * t313;
         const V t759 = t758 + t757;
-        const V t760 = c85 * t563;
-        const V t761 = c86 * t562;
+        const V t760 = c[80] * t563;
+        const V t761 = c[81] * t562;
         const V t762 = t760 - t761;
-        const V t763 = c85 * t562;
-        const V t764 = c86 * t563;
+        const V t763 = c[80] * t562;
+        const V t764 = c[81] * t563;
         const V t765 = t764 + t763;
-        const V t766 = c87 * t291;
+        const V t766 = c[83] * t291;
         // real block of 3, multiplier 2
         const V t767 = t684 - t708;
         const V t768 = t708 + t684;
         const V t769 = t767 + t636;
-        const V t770 = c0 * t767;
+        const V t770 = c[-16] * t767;
         const V t771 = t636 - t770;
-        const V t772 = c1 * t768;
+        const V t772 = c[-15] * t768;
         // real block of 3, multiplier 2
         const V t773 = t756 + t660;
         const V t774 = t756 - t660;
         const V t775 = t773 + t732;
-        const V t776 = c0 * t773;
+        const V t776 = c[-16] * t773;
         const V t777 = t732 - t776;
-        const V t778 = c1 * t774;
+        const V t778 = c[-15] * t774;
         // real block of 2
         const V t779 = t769 + t775;
         const V t780 = t769 - t775;
@@ -1056,17 +1060,17 @@ struct HartleyGraph<53> {
         const V t783 = t771 - t777;
         const V t784 = t772 + t778;
         // skew block of 6
-        const V t785 = c0 * t687;
-        const V t786 = c1 * t663;
+        const V t785 = c[-16] * t687;
+        const V t786 = c[-15] * t663;
         const V t787 = t786 - t785;
-        const V t788 = c0 * t663;
-        const V t789 = c1 * t687;
+        const V t788 = c[-16] * t663;
+        const V t789 = c[-15] * t687;
         const V t790 = t789 + t788;
-        const V t791 = c1 * t759;
-        const V t792 = c0 * t711;
+        const V t791 = c[-15] * t759;
+        const V t792 = c[-16] * t711;
         const V t793 = t792 + t791;
-        const V t794 = c1 * t711;
-        const V t795 = c0 * t759;
+        const V t794 = c[-15] * t711;
+        const V t795 = c[-16] * t759;
         const V t796 = t795 - t794;
         // complex block of 3
         const V t797 = t787 + t793;
@@ -1075,50 +1079,50 @@ struct HartleyGraph<53> {
         const V t800 = t790 + t796;
         const V t801 = t797 + t639;
         const V t802 = t798 + t735;
-        const V t803 = c0 * t797;
+        const V t803 = c[-16] * t797;
         const V t804 = t639 - t803;
-        const V t805 = c0 * t798;
+        const V t805 = c[-16] * t798;
         const V t806 = t735 - t805;
-        const V t807 = c1 * t799;
-        const V t808 = c1 * t800;
+        const V t807 = c[-15] * t799;
+        const V t808 = c[-15] * t800;
         const V t809 = t804 - t808;
         const V t810 = t806 - t807;
         const V t811 = t804 + t808;
         const V t812 = t806 + t807;
         // spectrum block of 13, multiplier 4
-        const V t813 = c2 * t779;
+        const V t813 = c[-12] * t779;
         const V t814 = t615 - t813;
-        const V t815 = c88 * t802;
-        const V t816 = c89 * t801;
+        const V t815 = c[-10] * t802;
+        const V t816 = c[-9] * t801;
         const V t817 = t816 + t815;
-        const V t818 = c88 * t801;
-        const V t819 = c89 * t802;
+        const V t818 = c[-10] * t801;
+        const V t819 = c[-9] * t802;
         const V t820 = t818 - t819;
-        const V t821 = c90 * t784;
-        const V t822 = c91 * t783;
+        const V t821 = c[12] * t784;
+        const V t822 = c[13] * t783;
         const V t823 = t822 + t821;
-        const V t824 = c7 * t812;
-        const V t825 = c8 * t811;
+        const V t824 = c[-14] * t812;
+        const V t825 = c[-13] * t811;
         const V t826 = t825 + t824;
-        const V t827 = c7 * t811;
-        const V t828 = c8 * t812;
+        const V t827 = c[-14] * t811;
+        const V t828 = c[-13] * t812;
         const V t829 = t827 - t828;
-        const V t830 = c92 * t782;
-        const V t831 = c93 * t781;
+        const V t830 = c[14] * t782;
+        const V t831 = c[15] * t781;
         const V t832 = t830 - t831;
-        const V t833 = c94 * t810;
-        const V t834 = c95 * t809;
+        const V t833 = c[-8] * t810;
+        const V t834 = c[-7] * t809;
         const V t835 = t834 + t833;
-        const V t836 = c94 * t809;
-        const V t837 = c95 * t810;
+        const V t836 = c[-8] * t809;
+        const V t837 = c[-7] * t810;
         const V t838 = t836 - t837;
-        const V t839 = c13 * t780;
+        const V t839 = c[-11] * t780;
         // spectrum block of 3
         const V t840 = t832 + t814;
-        const V t841 = c0 * t832;
+        const V t841 = c[-16] * t832;
         const V t842 = t814 - t841;
-        const V t843 = c96 * t782;
-        const V t844 = c97 * t781;
+        const V t843 = c[16] * t782;
+        const V t844 = c[17] * t781;
         const V t845 = t843 + t844;
         const V t846 = t842 + t845;
         const V t847 = t842 - t845;
@@ -1129,22 +1133,22 @@ struct HartleyGraph<53> {
         const V t851 = t817 - t835;
         const V t852 = t829 - t848;
         const V t853 = t826 - t849;
-        const V t854 = c0 * t848;
+        const V t854 = c[-16] * t848;
         const V t855 = t854 + t829;
-        const V t856 = c0 * t849;
+        const V t856 = c[-16] * t849;
         const V t857 = t856 + t826;
-        const V t858 = c1 * t850;
-        const V t859 = c1 * t851;
+        const V t858 = c[-15] * t850;
+        const V t859 = c[-15] * t851;
         const V t860 = t855 + t859;
         const V t861 = t857 - t858;
         const V t862 = t855 - t859;
         const V t863 = t857 + t858;
         // spectrum block of 3
         const V t864 = t823 + t839;
-        const V t865 = c0 * t823;
+        const V t865 = c[-16] * t823;
         const V t866 = t839 - t865;
-        const V t867 = c98 * t784;
-        const V t868 = c99 * t783;
+        const V t867 = c[18] * t784;
+        const V t868 = c[19] * t783;
         const V t869 = t867 - t868;
         const V t870 = t866 + t869;
         const V t871 = t866 - t869;
@@ -1208,9 +1212,9 @@ struct HartleyGraph<53> {
         const V t909 = t901 + t907;
         const V t910 = t901 - t907;
         const V t911 = t909 + t895;
-        const V t912 = c0 * t909;
+        const V t912 = c[-16] * t909;
         const V t913 = t895 - t912;
-        const V t914 = c1 * t910;
+        const V t914 = c[-15] * t910;
         // complex block of 3
         const V t915 = t898 + t904;
         const V t916 = t900 + t906;
@@ -1218,12 +1222,12 @@ struct HartleyGraph<53> {
         const V t918 = t900 - t906;
         const V t919 = t915 + t892;
         const V t920 = t916 + t894;
-        const V t921 = c0 * t915;
+        const V t921 = c[-16] * t915;
         const V t922 = t892 - t921;
-        const V t923 = c0 * t916;
+        const V t923 = c[-16] * t916;
         const V t924 = t894 - t923;
-        const V t925 = c1 * t917;
-        const V t926 = c1 * t918;
+        const V t925 = c[-15] * t917;
+        const V t926 = c[-15] * t918;
         const V t927 = t922 + t926;
         const V t928 = t924 - t925;
         const V t929 = t922 - t926;
@@ -1232,9 +1236,9 @@ struct HartleyGraph<53> {
         const V t931 = t902 + t908;
         const V t932 = t902 - t908;
         const V t933 = t931 + t896;
-        const V t934 = c0 * t931;
+        const V t934 = c[-16] * t931;
         const V t935 = t896 - t934;
-        const V t936 = c1 * t932;
+        const V t936 = c[-15] * t932;
         // real block of 2
         const V t937 = t666 - t714;
         const V t938 = t714 + t666;
@@ -1266,9 +1270,9 @@ struct HartleyGraph<53> {
         const V t955 = t947 + t953;
         const V t956 = t947 - t953;
         const V t957 = t955 + t941;
-        const V t958 = c0 * t955;
+        const V t958 = c[-16] * t955;
         const V t959 = t941 - t958;
-        const V t960 = c1 * t956;
+        const V t960 = c[-15] * t956;
         // complex block of 3
         const V t961 = t944 + t950;
         const V t962 = t946 - t952;
@@ -1276,12 +1280,12 @@ struct HartleyGraph<53> {
         const V t964 = t946 + t952;
         const V t965 = t961 - t938;
         const V t966 = t962 + t940;
-        const V t967 = c0 * t961;
+        const V t967 = c[-16] * t961;
         const V t968 = t938 + t967;
-        const V t969 = c0 * t962;
+        const V t969 = c[-16] * t962;
         const V t970 = t940 - t969;
-        const V t971 = c1 * t963;
-        const V t972 = c1 * t964;
+        const V t971 = c[-15] * t963;
+        const V t972 = c[-15] * t964;
         const V t973 = t972 - t968;
         const V t974 = t970 - t971;
         const V t975 = t968 + t972;
@@ -1290,72 +1294,72 @@ struct HartleyGraph<53> {
         const V t977 = t948 + t954;
         const V t978 = t948 - t954;
         const V t979 = t977 + t942;
-        const V t980 = c0 * t977;
+        const V t980 = c[-16] * t977;
         const V t981 = t942 - t980;
-        const V t982 = c1 * t978;
+        const V t982 = c[-15] * t978;
         // complex block of 13, multiplier 4
         const V t983 = t693 + t911;
         const V t984 = t690 + t957;
-        const V t985 = c2 * t911;
+        const V t985 = c[-12] * t911;
         const V t986 = t693 - t985;
-        const V t987 = c2 * t957;
+        const V t987 = c[-12] * t957;
         const V t988 = t690 - t987;
-        const V t989 = c88 * t976;
-        const V t990 = c89 * t975;
+        const V t989 = c[-10] * t976;
+        const V t990 = c[-9] * t975;
         const V t991 = t990 + t989;
-        const V t992 = c88 * t975;
-        const V t993 = c89 * t976;
+        const V t992 = c[-10] * t975;
+        const V t993 = c[-9] * t976;
         const V t994 = t992 - t993;
-        const V t995 = c88 * t930;
-        const V t996 = c89 * t929;
+        const V t995 = c[-10] * t930;
+        const V t996 = c[-9] * t929;
         const V t997 = t995 - t996;
-        const V t998 = c88 * t929;
-        const V t999 = c89 * t930;
+        const V t998 = c[-10] * t929;
+        const V t999 = c[-9] * t930;
         const V t1000 = t999 + t998;
-        const V t1001 = c90 * t936;
-        const V t1002 = c91 * t935;
+        const V t1001 = c[12] * t936;
+        const V t1002 = c[13] * t935;
         const V t1003 = t1002 + t1001;
-        const V t1004 = c90 * t982;
-        const V t1005 = c91 * t981;
+        const V t1004 = c[12] * t982;
+        const V t1005 = c[13] * t981;
         const V t1006 = t1005 + t1004;
-        const V t1007 = c7 * t966;
-        const V t1008 = c8 * t965;
+        const V t1007 = c[-14] * t966;
+        const V t1008 = c[-13] * t965;
         const V t1009 = t1007 - t1008;
-        const V t1010 = c7 * t965;
-        const V t1011 = c8 * t966;
+        const V t1010 = c[-14] * t965;
+        const V t1011 = c[-13] * t966;
         const V t1012 = t1011 + t1010;
-        const V t1013 = c7 * t920;
-        const V t1014 = c8 * t919;
+        const V t1013 = c[-14] * t920;
+        const V t1014 = c[-13] * t919;
         const V t1015 = t1014 - t1013;
-        const V t1016 = c7 * t919;
-        const V t1017 = c8 * t920;
+        const V t1016 = c[-14] * t919;
+        const V t1017 = c[-13] * t920;
         const V t1018 = t1017 + t1016;
-        const V t1019 = c92 * t914;
-        const V t1020 = c93 * t913;
+        const V t1019 = c[14] * t914;
+        const V t1020 = c[15] * t913;
         const V t1021 = t1020 + t1019;
-        const V t1022 = c92 * t960;
-        const V t1023 = c93 * t959;
+        const V t1022 = c[14] * t960;
+        const V t1023 = c[15] * t959;
         const V t1024 = t1023 + t1022;
-        const V t1025 = c94 * t974;
-        const V t1026 = c95 * t973;
+        const V t1025 = c[-8] * t974;
+        const V t1026 = c[-7] * t973;
         const V t1027 = t1026 - t1025;
-        const V t1028 = c94 * t973;
-        const V t1029 = c95 * t974;
+        const V t1028 = c[-8] * t973;
+        const V t1029 = c[-7] * t974;
         const V t1030 = t1029 + t1028;
-        const V t1031 = c94 * t928;
-        const V t1032 = c95 * t927;
+        const V t1031 = c[-8] * t928;
+        const V t1032 = c[-7] * t927;
         const V t1033 = t1031 - t1032;
-        const V t1034 = c94 * t927;
-        const V t1035 = c95 * t928;
+        const V t1034 = c[-8] * t927;
+        const V t1035 = c[-7] * t928;
         const V t1036 = t1035 + t1034;
-        const V t1037 = c13 * t933;
-        const V t1038 = c13 * t979;
+        const V t1037 = c[-11] * t933;
+        const V t1038 = c[-11] * t979;
         // spectrum block of 3
         const V t1039 = t986 - t1021;
-        const V t1040 = c0 * t1021;
+        const V t1040 = c[-16] * t1021;
         const V t1041 = t1040 + t986;
-        const V t1042 = c96 * t914;
-        const V t1043 = c97 * t913;
+        const V t1042 = c[16] * t914;
+        const V t1043 = c[17] * t913;
         const V t1044 = t1042 - t1043;
         const V t1045 = t1041 - t1044;
         const V t1046 = t1041 + t1044;
@@ -1366,22 +1370,22 @@ struct HartleyGraph<53> {
         const V t1050 = t1027 + t991;
         const V t1051 = t1047 - t1012;
         const V t1052 = t1048 + t1009;
-        const V t1053 = c0 * t1047;
+        const V t1053 = c[-16] * t1047;
         const V t1054 = t1012 + t1053;
-        const V t1055 = c0 * t1048;
+        const V t1055 = c[-16] * t1048;
         const V t1056 = t1009 - t1055;
-        const V t1057 = c1 * t1049;
-        const V t1058 = c1 * t1050;
+        const V t1057 = c[-15] * t1049;
+        const V t1058 = c[-15] * t1050;
         const V t1059 = t1058 - t1054;
         const V t1060 = t1056 - t1057;
         const V t1061 = t1054 + t1058;
         const V t1062 = t1056 + t1057;
         // spectrum block of 3
         const V t1063 = t1003 + t1037;
-        const V t1064 = c0 * t1003;
+        const V t1064 = c[-16] * t1003;
         const V t1065 = t1037 - t1064;
-        const V t1066 = c98 * t936;
-        const V t1067 = c99 * t935;
+        const V t1066 = c[18] * t936;
+        const V t1067 = c[19] * t935;
         const V t1068 = t1066 - t1067;
         const V t1069 = t1065 + t1068;
         const V t1070 = t1065 - t1068;
@@ -1414,10 +1418,10 @@ struct HartleyGraph<53> {
         const V t1088 = t1084 + t1061;
         // spectrum block of 3
         const V t1089 = t988 - t1024;
-        const V t1090 = c0 * t1024;
+        const V t1090 = c[-16] * t1024;
         const V t1091 = t1090 + t988;
-        const V t1092 = c96 * t960;
-        const V t1093 = c97 * t959;
+        const V t1092 = c[16] * t960;
+        const V t1093 = c[17] * t959;
         const V t1094 = t1092 - t1093;
         const V t1095 = t1091 - t1094;
         const V t1096 = t1091 + t1094;
@@ -1428,22 +1432,22 @@ struct HartleyGraph<53> {
         const V t1100 = t1033 - t997;
         const V t1101 = t1018 - t1097;
         const V t1102 = t1098 + t1015;
-        const V t1103 = c0 * t1097;
+        const V t1103 = c[-16] * t1097;
         const V t1104 = t1103 + t1018;
-        const V t1105 = c0 * t1098;
+        const V t1105 = c[-16] * t1098;
         const V t1106 = t1015 - t1105;
-        const V t1107 = c1 * t1099;
-        const V t1108 = c1 * t1100;
+        const V t1107 = c[-15] * t1099;
+        const V t1108 = c[-15] * t1100;
         const V t1109 = t1104 + t1108;
         const V t1110 = t1106 - t1107;
         const V t1111 = t1104 - t1108;
         const V t1112 = t1106 + t1107;
         // spectrum block of 3
         const V t1113 = t1006 + t1038;
-        const V t1114 = c0 * t1006;
+        const V t1114 = c[-16] * t1006;
         const V t1115 = t1038 - t1114;
-        const V t1116 = c98 * t982;
-        const V t1117 = c99 * t981;
+        const V t1116 = c[18] * t982;
+        const V t1117 = c[19] * t981;
         const V t1118 = t1116 - t1117;
         const V t1119 = t1115 + t1118;
         const V t1120 = t1115 - t1118;
@@ -1478,16 +1482,16 @@ struct HartleyGraph<53> {
         const V t1139 = t672 + t696;
         const V t1140 = t672 - t696;
         const V t1141 = t1139 + t744;
-        const V t1142 = c0 * t1139;
+        const V t1142 = c[-16] * t1139;
         const V t1143 = t744 - t1142;
-        const V t1144 = c1 * t1140;
+        const V t1144 = c[-15] * t1140;
         // real block of 3, multiplier 2
         const V t1145 = t624 + t720;
         const V t1146 = t624 - t720;
         const V t1147 = t1145 + t648;
-        const V t1148 = c0 * t1145;
+        const V t1148 = c[-16] * t1145;
         const V t1149 = t648 - t1148;
-        const V t1150 = c1 * t1146;
+        const V t1150 = c[-15] * t1146;
         // real block of 2
         const V t1151 = t1141 + t1147;
         const V t1152 = t1141 - t1147;
@@ -1497,17 +1501,17 @@ struct HartleyGraph<53> {
         const V t1155 = t1143 - t1149;
         const V t1156 = t1144 - t1150;
         // skew block of 6
-        const V t1157 = c0 * t699;
-        const V t1158 = c1 * t723;
+        const V t1157 = c[-16] * t699;
+        const V t1158 = c[-15] * t723;
         const V t1159 = t1158 + t1157;
-        const V t1160 = c0 * t723;
-        const V t1161 = c1 * t699;
+        const V t1160 = c[-16] * t723;
+        const V t1161 = c[-15] * t699;
         const V t1162 = t1160 - t1161;
-        const V t1163 = c1 * t627;
-        const V t1164 = c0 * t675;
+        const V t1163 = c[-15] * t627;
+        const V t1164 = c[-16] * t675;
         const V t1165 = t1164 + t1163;
-        const V t1166 = c1 * t675;
-        const V t1167 = c0 * t627;
+        const V t1166 = c[-15] * t675;
+        const V t1167 = c[-16] * t627;
         const V t1168 = t1166 - t1167;
         // complex block of 3
         const V t1169 = t1159 + t1165;
@@ -1516,50 +1520,50 @@ struct HartleyGraph<53> {
         const V t1172 = t1162 - t1168;
         const V t1173 = t1169 + t747;
         const V t1174 = t1170 - t651;
-        const V t1175 = c0 * t1169;
+        const V t1175 = c[-16] * t1169;
         const V t1176 = t1175 - t747;
-        const V t1177 = c0 * t1170;
+        const V t1177 = c[-16] * t1170;
         const V t1178 = t651 + t1177;
-        const V t1179 = c1 * t1171;
-        const V t1180 = c1 * t1172;
+        const V t1179 = c[-15] * t1171;
+        const V t1180 = c[-15] * t1172;
         const V t1181 = t1176 + t1180;
         const V t1182 = t1178 + t1179;
         const V t1183 = t1176 - t1180;
         const V t1184 = t1179 - t1178;
         // spectrum block of 13, multiplier 4
-        const V t1185 = c2 * t1151;
+        const V t1185 = c[-12] * t1151;
         const V t1186 = t766 - t1185;
-        const V t1187 = c88 * t1174;
-        const V t1188 = c89 * t1173;
+        const V t1187 = c[-10] * t1174;
+        const V t1188 = c[-9] * t1173;
         const V t1189 = t1188 - t1187;
-        const V t1190 = c88 * t1173;
-        const V t1191 = c89 * t1174;
+        const V t1190 = c[-10] * t1173;
+        const V t1191 = c[-9] * t1174;
         const V t1192 = t1191 + t1190;
-        const V t1193 = c90 * t1156;
-        const V t1194 = c91 * t1155;
+        const V t1193 = c[12] * t1156;
+        const V t1194 = c[13] * t1155;
         const V t1195 = t1194 - t1193;
-        const V t1196 = c7 * t1184;
-        const V t1197 = c8 * t1183;
+        const V t1196 = c[-14] * t1184;
+        const V t1197 = c[-13] * t1183;
         const V t1198 = t1197 + t1196;
-        const V t1199 = c7 * t1183;
-        const V t1200 = c8 * t1184;
+        const V t1199 = c[-14] * t1183;
+        const V t1200 = c[-13] * t1184;
         const V t1201 = t1199 - t1200;
-        const V t1202 = c92 * t1154;
-        const V t1203 = c93 * t1153;
+        const V t1202 = c[14] * t1154;
+        const V t1203 = c[15] * t1153;
         const V t1204 = t1202 - t1203;
-        const V t1205 = c94 * t1182;
-        const V t1206 = c95 * t1181;
+        const V t1205 = c[-8] * t1182;
+        const V t1206 = c[-7] * t1181;
         const V t1207 = t1205 - t1206;
-        const V t1208 = c94 * t1181;
-        const V t1209 = c95 * t1182;
+        const V t1208 = c[-8] * t1181;
+        const V t1209 = c[-7] * t1182;
         const V t1210 = t1209 + t1208;
-        const V t1211 = c13 * t1152;
+        const V t1211 = c[-11] * t1152;
         // spectrum block of 3
         const V t1212 = t1204 + t1186;
-        const V t1213 = c0 * t1204;
+        const V t1213 = c[-16] * t1204;
         const V t1214 = t1186 - t1213;
-        const V t1215 = c96 * t1154;
-        const V t1216 = c97 * t1153;
+        const V t1215 = c[16] * t1154;
+        const V t1216 = c[17] * t1153;
         const V t1217 = t1215 + t1216;
         const V t1218 = t1214 + t1217;
         const V t1219 = t1214 - t1217;
@@ -1570,22 +1574,22 @@ struct HartleyGraph<53> {
         const V t1223 = t1207 - t1189;
         const V t1224 = t1220 + t1201;
         const V t1225 = t1221 + t1198;
-        const V t1226 = c0 * t1220;
+        const V t1226 = c[-16] * t1220;
         const V t1227 = t1201 - t1226;
-        const V t1228 = c0 * t1221;
+        const V t1228 = c[-16] * t1221;
         const V t1229 = t1198 - t1228;
-        const V t1230 = c1 * t1222;
-        const V t1231 = c1 * t1223;
+        const V t1230 = c[-15] * t1222;
+        const V t1231 = c[-15] * t1223;
         const V t1232 = t1227 + t1231;
         const V t1233 = t1229 + t1230;
         const V t1234 = t1227 - t1231;
         const V t1235 = t1229 - t1230;
         // spectrum block of 3
         const V t1236 = t1195 + t1211;
-        const V t1237 = c0 * t1195;
+        const V t1237 = c[-16] * t1195;
         const V t1238 = t1211 - t1237;
-        const V t1239 = c98 * t1156;
-        const V t1240 = c99 * t1155;
+        const V t1239 = c[18] * t1156;
+        const V t1240 = c[19] * t1155;
         const V t1241 = t1239 + t1240;
         const V t1242 = t1238 - t1241;
         const V t1243 = t1238 + t1241;

@@ -2,112 +2,116 @@
 // Forward DFT of 53 real points, Rader 4, 13.
 // 422 additions, 422 subtractions, 456 multiplications (509 with `scale`); 14 outputs negated; 96 constants; 58 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct RealForwardGraph<53> {
     static constexpr double inverseRoot = 0.13736056394868904;  // 1/sqrt(53), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c1 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c2 = 0.08333333333333333;  // 1/12
-    static constexpr double c3 = 0.6007253775544544;  // -Q[1] of 13
-    static constexpr double c4 = 0.015496188988565054;  // -P[1] of 13
-    static constexpr double c5 = 0.6008758031820526;  // -Q[2] of 13
-    static constexpr double c6 = 0.007705858903092426;  // P[2] of 13
-    static constexpr double c7 = 0.1741386011521359;  // Q[3] of 13
-    static constexpr double c8 = 0.5751407294740031;  // -P[3] of 13
-    static constexpr double c9 = 0.15924941320823024;  // -Q[4] of 13
-    static constexpr double c10 = 0.5794400189009605;  // -P[4] of 13
-    static constexpr double c11 = 0.5084294662830964;  // -Q[5] of 13
-    static constexpr double c12 = 0.3203288761978803;  // -P[5] of 13
-    static constexpr double c13 = 0.3004626062886658;  // beta of 13
-    static constexpr double c14 = 0.75;  // sin 2 pi 1/3 times sin 2 pi 1/3
-    static constexpr double c15 = 0.4330127018922193;  // sin 2 pi 1/3 times -cos 2 pi 1/3
-    static constexpr double c16 = 0.5018097763375671;  // sin 2 pi 1/3 times -P[4] of 13
-    static constexpr double c17 = 0.1379140373760925;  // sin 2 pi 1/3 times -Q[4] of 13
-    static constexpr double c18 = 0.00667346956805653;  // sin 2 pi 1/3 times P[2] of 13
-    static constexpr double c19 = 0.520373710075036;  // sin 2 pi 1/3 times -Q[2] of 13
-    static constexpr double c20 = 0.019230769230769232;  // 1/52
-    static constexpr double c21 = 0.11888864474491956;  // -Q[1] of 53
-    static constexpr double c22 = 0.2535110589592131;  // P[1] of 53
-    static constexpr double c23 = 0.13160258300584013;  // -Q[2] of 53
-    static constexpr double c24 = 0.2471500091242084;  // P[2] of 53
-    static constexpr double c25 = 0.27934484277921784;  // -Q[3] of 53
-    static constexpr double c26 = 0.01920483471835668;  // P[3] of 53
-    static constexpr double c27 = 0.2755686148630738;  // Q[4] of 53
-    static constexpr double c28 = 0.049641770378907886;  // P[4] of 53
-    static constexpr double c29 = 0.26663047052332334;  // Q[5] of 53
-    static constexpr double c30 = 0.08550180730497182;  // P[5] of 53
-    static constexpr double c31 = 0.21010412063116707;  // Q[6] of 53
-    static constexpr double c32 = 0.18509085703434766;  // P[6] of 53
-    static constexpr double c33 = 0.2786708556034366;  // Q[7] of 53
-    static constexpr double c34 = 0.02729324277461261;  // P[7] of 53
-    static constexpr double c35 = 0.27887234952845297;  // Q[8] of 53
-    static constexpr double c36 = 0.02515113381908794;  // P[8] of 53
-    static constexpr double c37 = 0.02027467783966699;  // Q[9] of 53
-    static constexpr double c38 = 0.27926923264549397;  // P[9] of 53
-    static constexpr double c39 = 0.2421434442697633;  // Q[10] of 53
-    static constexpr double c40 = 0.14060198882334973;  // -P[10] of 53
-    static constexpr double c41 = 0.15489151598012768;  // -Q[11] of 53
-    static constexpr double c42 = 0.23326162380743898;  // P[11] of 53
-    static constexpr double c43 = 0.1903832491584887;  // Q[12] of 53
-    static constexpr double c44 = 0.20532068893261132;  // P[12] of 53
-    static constexpr double c45 = 0.038836925551200704;  // Q[13] of 53
-    static constexpr double c46 = 0.27729778231647617;  // -P[13] of 53
-    static constexpr double c47 = 0.2645541253996386;  // -Q[14] of 53
-    static constexpr double c48 = 0.09172503255893466;  // P[14] of 53
-    static constexpr double c49 = 0.2603347814141748;  // -Q[15] of 53
-    static constexpr double c50 = 0.10309300873453617;  // -P[15] of 53
-    static constexpr double c51 = 0.04985858822323415;  // Q[16] of 53
-    static constexpr double c52 = 0.27552946855879373;  // -P[16] of 53
-    static constexpr double c53 = 0.27294272954157833;  // -Q[17] of 53
-    static constexpr double c54 = 0.062487064695808406;  // P[17] of 53
-    static constexpr double c55 = 0.12218648440059575;  // Q[18] of 53
-    static constexpr double c56 = 0.2519381469601781;  // P[18] of 53
-    static constexpr double c57 = 0.26661085340441376;  // Q[19] of 53
-    static constexpr double c58 = 0.0855629575860694;  // P[19] of 53
-    static constexpr double c59 = 0.279948840618166;  // Q[20] of 53
-    static constexpr double c60 = 0.005568976607062611;  // P[20] of 53
-    static constexpr double c61 = 0.10175361370042776;  // -Q[21] of 53
-    static constexpr double c62 = 0.2608612063201607;  // -P[21] of 53
-    static constexpr double c63 = 0.21551686731931244;  // Q[22] of 53
-    static constexpr double c64 = 0.17875918651855408;  // P[22] of 53
-    static constexpr double c65 = 0.2795810907749542;  // Q[23] of 53
-    static constexpr double c66 = 0.015387675100292094;  // P[23] of 53
-    static constexpr double c67 = 0.2758601234844355;  // -Q[24] of 53
-    static constexpr double c68 = 0.04799540743714245;  // P[24] of 53
-    static constexpr double c69 = 0.08072191645791539;  // -Q[25] of 53
-    static constexpr double c70 = 0.26811627900458906;  // -P[25] of 53
-    static constexpr double c71 = 0.14000211325539458;  // beta of 53
-    static constexpr double c72 = 0.2869425954512852;  // -P[1] of 13
-    static constexpr double c73 = 0.5279915321544383;  // -Q[1] of 13
-    static constexpr double c74 = 0.29376443202296976;  // -Q[2] of 13
-    static constexpr double c75 = 0.5242266395265821;  // P[2] of 13
-    static constexpr double c76 = 0.42218506973345193;  // -Q[4] of 13
-    static constexpr double c77 = 0.42763404682657274;  // P[4] of 13
-    static constexpr double c78 = 0.5316276774946329;  // -P[5] of 13
-    static constexpr double c79 = 0.280148395734785;  // Q[5] of 13
-    static constexpr double c80 = 0.37034194807495624;  // sin 2 pi 1/3 times P[4] of 13
-    static constexpr double c81 = 0.36562299548767413;  // sin 2 pi 1/3 times -Q[4] of 13
-    static constexpr double c82 = 0.45399358717056765;  // sin 2 pi 1/3 times P[2] of 13
-    static constexpr double c83 = 0.25440746086019866;  // sin 2 pi 1/3 times -Q[2] of 13
-    static constexpr double c84 = 0.12053668025532305;  // -sin 2 pi 51/52
-    static constexpr double c85 = 0.992708874098054;  // cos 2 pi 51/52
-    static constexpr double c86 = 0.3546048870425356;  // -sin 2 pi 49/52
-    static constexpr double c87 = 0.9350162426854148;  // cos 2 pi 49/52
-    static constexpr double c88 = 0.5680647467311558;  // -sin 2 pi 47/52
-    static constexpr double c89 = 0.8229838658936564;  // cos 2 pi 47/52
-    static constexpr double c90 = 0.7485107481711011;  // -sin 2 pi 45/52
-    static constexpr double c91 = 0.6631226582407952;  // cos 2 pi 45/52
-    static constexpr double c92 = 0.8854560256532099;  // -sin 2 pi 43/52
-    static constexpr double c93 = 0.46472317204376856;  // cos 2 pi 43/52
-    static constexpr double c94 = 0.970941817426052;  // -sin 2 pi 41/52
-    static constexpr double c95 = 0.23931566428755777;  // cos 2 pi 41/52
+    static constexpr double constants[] = {
+        0.5,  // c[-16]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-15]: sin 2 pi 1/3
+        0.1741386011521359,  // c[-14]: Q[3] of 13
+        0.5751407294740031,  // c[-13]: -P[3] of 13
+        0.08333333333333333,  // c[-12]: 1/12
+        0.6007253775544544,  // c[-11]: -Q[1] of 13
+        0.015496188988565054,  // c[-10]: -P[1] of 13
+        0.5084294662830964,  // c[-9]: -Q[5] of 13
+        0.3203288761978803,  // c[-8]: -P[5] of 13
+        0.3004626062886658,  // c[-7]: beta of 13
+        0.2869425954512852,  // c[-6]: -P[1] of 13
+        0.5279915321544383,  // c[-5]: -Q[1] of 13
+        0.5316276774946329,  // c[-4]: -P[5] of 13
+        0.280148395734785,  // c[-3]: Q[5] of 13
+        0.6008758031820526,  // c[-2]: -Q[2] of 13
+        0.007705858903092426,  // c[-1]: P[2] of 13
+        0.15924941320823024,  // c[0]: -Q[4] of 13
+        0.5794400189009605,  // c[1]: -P[4] of 13
+        0.29376443202296976,  // c[2]: -Q[2] of 13
+        0.5242266395265821,  // c[3]: P[2] of 13
+        0.42218506973345193,  // c[4]: -Q[4] of 13
+        0.42763404682657274,  // c[5]: P[4] of 13
+        0.37034194807495624,  // c[6]: sin 2 pi 1/3 times P[4] of 13
+        0.36562299548767413,  // c[7]: sin 2 pi 1/3 times -Q[4] of 13
+        0.45399358717056765,  // c[8]: sin 2 pi 1/3 times P[2] of 13
+        0.25440746086019866,  // c[9]: sin 2 pi 1/3 times -Q[2] of 13
+        0.75,  // c[10]: sin 2 pi 1/3 times sin 2 pi 1/3
+        0.4330127018922193,  // c[11]: sin 2 pi 1/3 times -cos 2 pi 1/3
+        0.5018097763375671,  // c[12]: sin 2 pi 1/3 times -P[4] of 13
+        0.1379140373760925,  // c[13]: sin 2 pi 1/3 times -Q[4] of 13
+        0.00667346956805653,  // c[14]: sin 2 pi 1/3 times P[2] of 13
+        0.520373710075036,  // c[15]: sin 2 pi 1/3 times -Q[2] of 13
+        0.11888864474491956,  // c[16]: -Q[1] of 53
+        0.2535110589592131,  // c[17]: P[1] of 53
+        0.13160258300584013,  // c[18]: -Q[2] of 53
+        0.2471500091242084,  // c[19]: P[2] of 53
+        0.27934484277921784,  // c[20]: -Q[3] of 53
+        0.01920483471835668,  // c[21]: P[3] of 53
+        0.2755686148630738,  // c[22]: Q[4] of 53
+        0.049641770378907886,  // c[23]: P[4] of 53
+        0.26663047052332334,  // c[24]: Q[5] of 53
+        0.08550180730497182,  // c[25]: P[5] of 53
+        0.21010412063116707,  // c[26]: Q[6] of 53
+        0.18509085703434766,  // c[27]: P[6] of 53
+        0.2786708556034366,  // c[28]: Q[7] of 53
+        0.02729324277461261,  // c[29]: P[7] of 53
+        0.27887234952845297,  // c[30]: Q[8] of 53
+        0.02515113381908794,  // c[31]: P[8] of 53
+        0.02027467783966699,  // c[32]: Q[9] of 53
+        0.27926923264549397,  // c[33]: P[9] of 53
+        0.2421434442697633,  // c[34]: Q[10] of 53
+        0.14060198882334973,  // c[35]: -P[10] of 53
+        0.15489151598012768,  // c[36]: -Q[11] of 53
+        0.23326162380743898,  // c[37]: P[11] of 53
+        0.1903832491584887,  // c[38]: Q[12] of 53
+        0.20532068893261132,  // c[39]: P[12] of 53
+        0.038836925551200704,  // c[40]: Q[13] of 53
+        0.27729778231647617,  // c[41]: -P[13] of 53
+        0.2645541253996386,  // c[42]: -Q[14] of 53
+        0.09172503255893466,  // c[43]: P[14] of 53
+        0.2603347814141748,  // c[44]: -Q[15] of 53
+        0.10309300873453617,  // c[45]: -P[15] of 53
+        0.04985858822323415,  // c[46]: Q[16] of 53
+        0.27552946855879373,  // c[47]: -P[16] of 53
+        0.27294272954157833,  // c[48]: -Q[17] of 53
+        0.062487064695808406,  // c[49]: P[17] of 53
+        0.12218648440059575,  // c[50]: Q[18] of 53
+        0.2519381469601781,  // c[51]: P[18] of 53
+        0.26661085340441376,  // c[52]: Q[19] of 53
+        0.0855629575860694,  // c[53]: P[19] of 53
+        0.279948840618166,  // c[54]: Q[20] of 53
+        0.005568976607062611,  // c[55]: P[20] of 53
+        0.10175361370042776,  // c[56]: -Q[21] of 53
+        0.2608612063201607,  // c[57]: -P[21] of 53
+        0.21551686731931244,  // c[58]: Q[22] of 53
+        0.17875918651855408,  // c[59]: P[22] of 53
+        0.2795810907749542,  // c[60]: Q[23] of 53
+        0.015387675100292094,  // c[61]: P[23] of 53
+        0.2758601234844355,  // c[62]: -Q[24] of 53
+        0.04799540743714245,  // c[63]: P[24] of 53
+        0.08072191645791539,  // c[64]: -Q[25] of 53
+        0.26811627900458906,  // c[65]: -P[25] of 53
+        0.12053668025532305,  // c[66]: -sin 2 pi 51/52
+        0.992708874098054,  // c[67]: cos 2 pi 51/52
+        0.3546048870425356,  // c[68]: -sin 2 pi 49/52
+        0.9350162426854148,  // c[69]: cos 2 pi 49/52
+        0.5680647467311558,  // c[70]: -sin 2 pi 47/52
+        0.8229838658936564,  // c[71]: cos 2 pi 47/52
+        0.7485107481711011,  // c[72]: -sin 2 pi 45/52
+        0.6631226582407952,  // c[73]: cos 2 pi 45/52
+        0.8854560256532099,  // c[74]: -sin 2 pi 43/52
+        0.46472317204376856,  // c[75]: cos 2 pi 43/52
+        0.970941817426052,  // c[76]: -sin 2 pi 41/52
+        0.23931566428755777,  // c[77]: cos 2 pi 41/52
+        0.019230769230769232,  // c[78]: 1/52
+        0.14000211325539458,  // c[79]: beta of 53
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // real block of 2
         const V x1 = io.in(1);
         const V x52 = io.in(52);
@@ -281,30 +285,30 @@ struct RealForwardGraph<53> {
         const V t78 = t22 + t58;
         const V t79 = t22 - t58;
         const V t80 = t78 + t10;
-        const V t81 = c0 * t78;
+        const V t81 = c[-16] * t78;
         const V t82 = t10 - t81;
-        const V t83 = c1 * t79;
+        const V t83 = c[-15] * t79;
         // real block of 3
         const V t84 = t70 + t46;
         const V t85 = t70 - t46;
         const V t86 = t84 + t52;
-        const V t87 = c0 * t84;
+        const V t87 = c[-16] * t84;
         const V t88 = t52 - t87;
-        const V t89 = c1 * t85;
+        const V t89 = c[-15] * t85;
         // real block of 3
         const V t90 = t64 + t28;
         const V t91 = t64 - t28;
         const V t92 = t90 + t76;
-        const V t93 = c0 * t90;
+        const V t93 = c[-16] * t90;
         const V t94 = t76 - t93;
-        const V t95 = c1 * t91;
+        const V t95 = c[-15] * t91;
         // real block of 3
         const V t96 = t16 + t40;
         const V t97 = t16 - t40;
         const V t98 = t96 + t34;
-        const V t99 = c0 * t96;
+        const V t99 = c[-16] * t96;
         const V t100 = t34 - t99;
-        const V t101 = c1 * t97;
+        const V t101 = c[-15] * t97;
         // real block of 2
         const V t102 = t80 + t92;
         const V t103 = t80 - t92;
@@ -336,39 +340,39 @@ struct RealForwardGraph<53> {
         const V t123 = t111 - t114;
         // real block of 13, multiplier 4
         const V t124 = t4 + t106;
-        const V t125 = c2 * t106;
+        const V t125 = c[-12] * t106;
         const V t126 = t4 - t125;
-        const V t127 = c3 * t123;
-        const V t128 = c4 * t122;
+        const V t127 = c[-11] * t123;
+        const V t128 = c[-10] * t122;
         const V t129 = t127 - t128;
-        const V t130 = c3 * t122;
-        const V t131 = c4 * t123;
+        const V t130 = c[-11] * t122;
+        const V t131 = c[-10] * t123;
         const V t132 = t131 + t130;
-        const V t133 = c5 * t119;
-        const V t134 = c6 * t118;
+        const V t133 = c[-2] * t119;
+        const V t134 = c[-1] * t118;
         const V t135 = t134 - t133;
-        const V t136 = c5 * t118;
-        const V t137 = c6 * t119;
+        const V t136 = c[-2] * t118;
+        const V t137 = c[-1] * t119;
         const V t138 = t137 + t136;
-        const V t139 = c7 * t105;
-        const V t140 = c8 * t103;
+        const V t139 = c[-14] * t105;
+        const V t140 = c[-13] * t103;
         const V t141 = t140 + t139;
-        const V t142 = c7 * t103;
-        const V t143 = c8 * t105;
+        const V t142 = c[-14] * t103;
+        const V t143 = c[-13] * t105;
         const V t144 = t142 - t143;
-        const V t145 = c9 * t117;
-        const V t146 = c10 * t116;
+        const V t145 = c[0] * t117;
+        const V t146 = c[1] * t116;
         const V t147 = t146 + t145;
-        const V t148 = c9 * t116;
-        const V t149 = c10 * t117;
+        const V t148 = c[0] * t116;
+        const V t149 = c[1] * t117;
         const V t150 = t149 - t148;
-        const V t151 = c11 * t121;
-        const V t152 = c12 * t120;
+        const V t151 = c[-9] * t121;
+        const V t152 = c[-8] * t120;
         const V t153 = t152 + t151;
-        const V t154 = c11 * t120;
-        const V t155 = c12 * t121;
+        const V t154 = c[-9] * t120;
+        const V t155 = c[-8] * t121;
         const V t156 = t155 - t154;
-        const V t157 = c13 * t107;
+        const V t157 = c[-7] * t107;
         // spectrum block of 2
         const V t158 = t126 + t157;
         const V t159 = t126 - t157;
@@ -379,16 +383,16 @@ struct RealForwardGraph<53> {
         const V t163 = t147 + t135;
         // spectrum block of 3, multiplier 2
         const V t164 = t161 + t158;
-        const V t165 = c0 * t161;
+        const V t165 = c[-16] * t161;
         const V t166 = t158 - t165;
-        const V t167 = c1 * t160;
+        const V t167 = c[-15] * t160;
         const V t168 = t166 - t167;
         const V t169 = t166 + t167;
         // spectrum block of 3, multiplier 2
         const V t170 = t159 - t163;
-        const V t171 = c0 * t163;
+        const V t171 = c[-16] * t163;
         const V t172 = t171 + t159;
-        const V t173 = c1 * t162;
+        const V t173 = c[-15] * t162;
         const V t174 = t172 - t173;
         const V t175 = t172 + t173;
         // complex block of 2
@@ -397,22 +401,22 @@ struct RealForwardGraph<53> {
         const V t178 = t153 - t129;
         const V t179 = t132 + t156;
         // mirrored skew block of 6
-        const V t180 = c0 * t178;
-        const V t181 = c1 * t179;
+        const V t180 = c[-16] * t178;
+        const V t181 = c[-15] * t179;
         const V t182 = t181 + t180;
         // spectrum block of 3, multiplier 2
         const V t183 = t177 + t144;
-        const V t184 = c0 * t177;
+        const V t184 = c[-16] * t177;
         const V t185 = t144 - t184;
-        const V t186 = c1 * t176;
+        const V t186 = c[-15] * t176;
         const V t187 = t185 - t186;
         const V t188 = t185 + t186;
         // spectrum block of 3, multiplier 2
         const V t189 = t182 + t141;
-        const V t190 = c0 * t182;
+        const V t190 = c[-16] * t182;
         const V t191 = t190 - t141;
-        const V t192 = c14 * t178;
-        const V t193 = c15 * t179;
+        const V t192 = c[10] * t178;
+        const V t193 = c[11] * t179;
         const V t194 = t192 - t193;
         const V t195 = t191 + t194;
         const V t196 = t191 - t194;
@@ -447,9 +451,9 @@ struct RealForwardGraph<53> {
         const V t215 = t207 + t213;
         const V t216 = t207 - t213;
         const V t217 = t215 + t201;
-        const V t218 = c0 * t215;
+        const V t218 = c[-16] * t215;
         const V t219 = t201 - t218;
-        const V t220 = c1 * t216;
+        const V t220 = c[-15] * t216;
         // complex block of 3
         const V t221 = t204 + t210;
         const V t222 = t206 + t212;
@@ -457,12 +461,12 @@ struct RealForwardGraph<53> {
         const V t224 = t206 - t212;
         const V t225 = t221 + t198;
         const V t226 = t222 + t200;
-        const V t227 = c0 * t221;
+        const V t227 = c[-16] * t221;
         const V t228 = t198 - t227;
-        const V t229 = c0 * t222;
+        const V t229 = c[-16] * t222;
         const V t230 = t200 - t229;
-        const V t231 = c1 * t223;
-        const V t232 = c1 * t224;
+        const V t231 = c[-15] * t223;
+        const V t232 = c[-15] * t224;
         const V t233 = t228 + t232;
         const V t234 = t230 - t231;
         const V t235 = t228 - t232;
@@ -471,9 +475,9 @@ struct RealForwardGraph<53> {
         const V t237 = t208 + t214;
         const V t238 = t208 - t214;
         const V t239 = t237 + t202;
-        const V t240 = c0 * t237;
+        const V t240 = c[-16] * t237;
         const V t241 = t202 - t240;
-        const V t242 = c1 * t238;
+        const V t242 = c[-15] * t238;
         // real block of 2
         const V t243 = t9 + t75;
         const V t244 = t75 - t9;
@@ -505,9 +509,9 @@ struct RealForwardGraph<53> {
         const V t261 = t253 + t259;
         const V t262 = t259 - t253;
         const V t263 = t261 + t247;
-        const V t264 = c0 * t261;
+        const V t264 = c[-16] * t261;
         const V t265 = t264 - t247;
-        const V t266 = c1 * t262;
+        const V t266 = c[-15] * t262;
         // complex block of 3
         const V t267 = t250 + t256;
         const V t268 = t252 + t258;
@@ -515,12 +519,12 @@ struct RealForwardGraph<53> {
         const V t270 = t252 - t258;
         const V t271 = t267 + t244;
         const V t272 = t268 + t246;
-        const V t273 = c0 * t267;
+        const V t273 = c[-16] * t267;
         const V t274 = t244 - t273;
-        const V t275 = c0 * t268;
+        const V t275 = c[-16] * t268;
         const V t276 = t246 - t275;
-        const V t277 = c1 * t269;
-        const V t278 = c1 * t270;
+        const V t277 = c[-15] * t269;
+        const V t278 = c[-15] * t270;
         const V t279 = t274 + t278;
         const V t280 = t276 - t277;
         const V t281 = t274 - t278;
@@ -529,72 +533,72 @@ struct RealForwardGraph<53> {
         const V t283 = t254 + t260;
         const V t284 = t254 - t260;
         const V t285 = t283 + t248;
-        const V t286 = c0 * t283;
+        const V t286 = c[-16] * t283;
         const V t287 = t248 - t286;
-        const V t288 = c1 * t284;
+        const V t288 = c[-15] * t284;
         // complex block of 13, multiplier 4
         const V t289 = t1 + t217;
         const V t290 = t3 + t263;
-        const V t291 = c2 * t217;
+        const V t291 = c[-12] * t217;
         const V t292 = t1 - t291;
-        const V t293 = c2 * t263;
+        const V t293 = c[-12] * t263;
         const V t294 = t293 - t3;
-        const V t295 = c4 * t282;
-        const V t296 = c3 * t281;
+        const V t295 = c[-10] * t282;
+        const V t296 = c[-11] * t281;
         const V t297 = t296 - t295;
-        const V t298 = c4 * t281;
-        const V t299 = c3 * t282;
+        const V t298 = c[-10] * t281;
+        const V t299 = c[-11] * t282;
         const V t300 = t299 + t298;
-        const V t301 = c4 * t236;
-        const V t302 = c3 * t235;
+        const V t301 = c[-10] * t236;
+        const V t302 = c[-11] * t235;
         const V t303 = t301 - t302;
-        const V t304 = c4 * t235;
-        const V t305 = c3 * t236;
+        const V t304 = c[-10] * t235;
+        const V t305 = c[-11] * t236;
         const V t306 = t305 + t304;
-        const V t307 = c5 * t242;
-        const V t308 = c6 * t241;
+        const V t307 = c[-2] * t242;
+        const V t308 = c[-1] * t241;
         const V t309 = t308 + t307;
-        const V t310 = c5 * t288;
-        const V t311 = c6 * t287;
+        const V t310 = c[-2] * t288;
+        const V t311 = c[-1] * t287;
         const V t312 = t311 + t310;
-        const V t313 = c8 * t272;
-        const V t314 = c7 * t271;
+        const V t313 = c[-13] * t272;
+        const V t314 = c[-14] * t271;
         const V t315 = t313 - t314;
-        const V t316 = c8 * t271;
-        const V t317 = c7 * t272;
+        const V t316 = c[-13] * t271;
+        const V t317 = c[-14] * t272;
         const V t318 = t317 + t316;
-        const V t319 = c8 * t226;
-        const V t320 = c7 * t225;
+        const V t319 = c[-13] * t226;
+        const V t320 = c[-14] * t225;
         const V t321 = t320 - t319;
-        const V t322 = c8 * t225;
-        const V t323 = c7 * t226;
+        const V t322 = c[-13] * t225;
+        const V t323 = c[-14] * t226;
         const V t324 = t323 + t322;
-        const V t325 = c9 * t220;
-        const V t326 = c10 * t219;
+        const V t325 = c[0] * t220;
+        const V t326 = c[1] * t219;
         const V t327 = t326 + t325;
-        const V t328 = c9 * t266;
-        const V t329 = c10 * t265;
+        const V t328 = c[0] * t266;
+        const V t329 = c[1] * t265;
         const V t330 = t329 + t328;
-        const V t331 = c12 * t280;
-        const V t332 = c11 * t279;
+        const V t331 = c[-8] * t280;
+        const V t332 = c[-9] * t279;
         const V t333 = t332 - t331;
-        const V t334 = c12 * t279;
-        const V t335 = c11 * t280;
+        const V t334 = c[-8] * t279;
+        const V t335 = c[-9] * t280;
         const V t336 = t335 + t334;
-        const V t337 = c12 * t234;
-        const V t338 = c11 * t233;
+        const V t337 = c[-8] * t234;
+        const V t338 = c[-9] * t233;
         const V t339 = t337 - t338;
-        const V t340 = c12 * t233;
-        const V t341 = c11 * t234;
+        const V t340 = c[-8] * t233;
+        const V t341 = c[-9] * t234;
         const V t342 = t341 + t340;
-        const V t343 = c13 * t239;
-        const V t344 = c13 * t285;
+        const V t343 = c[-7] * t239;
+        const V t344 = c[-7] * t285;
         // spectrum block of 3
         const V t345 = t292 - t327;
-        const V t346 = c0 * t327;
+        const V t346 = c[-16] * t327;
         const V t347 = t346 + t292;
-        const V t348 = c16 * t220;
-        const V t349 = c17 * t219;
+        const V t348 = c[12] * t220;
+        const V t349 = c[13] * t219;
         const V t350 = t348 - t349;
         const V t351 = t347 - t350;
         const V t352 = t347 + t350;
@@ -605,22 +609,22 @@ struct RealForwardGraph<53> {
         const V t356 = t333 - t297;
         const V t357 = t353 - t318;
         const V t358 = t354 + t315;
-        const V t359 = c0 * t353;
+        const V t359 = c[-16] * t353;
         const V t360 = t318 + t359;
-        const V t361 = c0 * t354;
+        const V t361 = c[-16] * t354;
         const V t362 = t315 - t361;
-        const V t363 = c1 * t355;
-        const V t364 = c1 * t356;
+        const V t363 = c[-15] * t355;
+        const V t364 = c[-15] * t356;
         const V t365 = t364 - t360;
         const V t366 = t362 - t363;
         const V t367 = t360 + t364;
         const V t368 = t362 + t363;
         // spectrum block of 3
         const V t369 = t309 + t343;
-        const V t370 = c0 * t309;
+        const V t370 = c[-16] * t309;
         const V t371 = t343 - t370;
-        const V t372 = c18 * t242;
-        const V t373 = c19 * t241;
+        const V t372 = c[14] * t242;
+        const V t373 = c[15] * t241;
         const V t374 = t372 - t373;
         const V t375 = t371 + t374;
         const V t376 = t371 - t374;
@@ -653,10 +657,10 @@ struct RealForwardGraph<53> {
         const V t394 = t390 + t367;
         // spectrum block of 3
         const V t395 = t294 - t330;
-        const V t396 = c0 * t330;
+        const V t396 = c[-16] * t330;
         const V t397 = t396 + t294;
-        const V t398 = c16 * t266;
-        const V t399 = c17 * t265;
+        const V t398 = c[12] * t266;
+        const V t399 = c[13] * t265;
         const V t400 = t398 - t399;
         const V t401 = t397 - t400;
         const V t402 = t397 + t400;
@@ -667,22 +671,22 @@ struct RealForwardGraph<53> {
         const V t406 = t339 - t303;
         const V t407 = t324 - t403;
         const V t408 = t404 + t321;
-        const V t409 = c0 * t403;
+        const V t409 = c[-16] * t403;
         const V t410 = t409 + t324;
-        const V t411 = c0 * t404;
+        const V t411 = c[-16] * t404;
         const V t412 = t321 - t411;
-        const V t413 = c1 * t405;
-        const V t414 = c1 * t406;
+        const V t413 = c[-15] * t405;
+        const V t414 = c[-15] * t406;
         const V t415 = t410 + t414;
         const V t416 = t412 - t413;
         const V t417 = t410 - t414;
         const V t418 = t412 + t413;
         // spectrum block of 3
         const V t419 = t312 + t344;
-        const V t420 = c0 * t312;
+        const V t420 = c[-16] * t312;
         const V t421 = t344 - t420;
-        const V t422 = c18 * t288;
-        const V t423 = c19 * t287;
+        const V t422 = c[14] * t288;
+        const V t423 = c[15] * t287;
         const V t424 = t422 - t423;
         const V t425 = t421 + t424;
         const V t426 = t421 - t424;
@@ -717,30 +721,30 @@ struct RealForwardGraph<53> {
         const V t445 = t23 + t59;
         const V t446 = t23 - t59;
         const V t447 = t445 + t11;
-        const V t448 = c0 * t445;
+        const V t448 = c[-16] * t445;
         const V t449 = t11 - t448;
-        const V t450 = c1 * t446;
+        const V t450 = c[-15] * t446;
         // real block of 3
         const V t451 = t71 + t47;
         const V t452 = t71 - t47;
         const V t453 = t451 + t53;
-        const V t454 = c0 * t451;
+        const V t454 = c[-16] * t451;
         const V t455 = t53 - t454;
-        const V t456 = c1 * t452;
+        const V t456 = c[-15] * t452;
         // real block of 3
         const V t457 = t65 + t29;
         const V t458 = t65 - t29;
         const V t459 = t457 + t77;
-        const V t460 = c0 * t457;
+        const V t460 = c[-16] * t457;
         const V t461 = t77 - t460;
-        const V t462 = c1 * t458;
+        const V t462 = c[-15] * t458;
         // real block of 3
         const V t463 = t17 + t41;
         const V t464 = t17 - t41;
         const V t465 = t463 + t35;
-        const V t466 = c0 * t463;
+        const V t466 = c[-16] * t463;
         const V t467 = t35 - t466;
-        const V t468 = c1 * t464;
+        const V t468 = c[-15] * t464;
         // real block of 2
         const V t469 = t447 + t459;
         const V t470 = t447 - t459;
@@ -772,39 +776,39 @@ struct RealForwardGraph<53> {
         const V t490 = t478 - t481;
         // real block of 13, multiplier 4
         const V t491 = t5 + t473;
-        const V t492 = c2 * t473;
+        const V t492 = c[-12] * t473;
         const V t493 = t5 - t492;
-        const V t494 = c3 * t490;
-        const V t495 = c4 * t489;
+        const V t494 = c[-11] * t490;
+        const V t495 = c[-10] * t489;
         const V t496 = t494 - t495;
-        const V t497 = c3 * t489;
-        const V t498 = c4 * t490;
+        const V t497 = c[-11] * t489;
+        const V t498 = c[-10] * t490;
         const V t499 = t498 + t497;
-        const V t500 = c5 * t486;
-        const V t501 = c6 * t485;
+        const V t500 = c[-2] * t486;
+        const V t501 = c[-1] * t485;
         const V t502 = t501 - t500;
-        const V t503 = c5 * t485;
-        const V t504 = c6 * t486;
+        const V t503 = c[-2] * t485;
+        const V t504 = c[-1] * t486;
         const V t505 = t504 + t503;
-        const V t506 = c7 * t472;
-        const V t507 = c8 * t470;
+        const V t506 = c[-14] * t472;
+        const V t507 = c[-13] * t470;
         const V t508 = t507 + t506;
-        const V t509 = c7 * t470;
-        const V t510 = c8 * t472;
+        const V t509 = c[-14] * t470;
+        const V t510 = c[-13] * t472;
         const V t511 = t509 - t510;
-        const V t512 = c9 * t484;
-        const V t513 = c10 * t483;
+        const V t512 = c[0] * t484;
+        const V t513 = c[1] * t483;
         const V t514 = t513 + t512;
-        const V t515 = c9 * t483;
-        const V t516 = c10 * t484;
+        const V t515 = c[0] * t483;
+        const V t516 = c[1] * t484;
         const V t517 = t516 - t515;
-        const V t518 = c11 * t488;
-        const V t519 = c12 * t487;
+        const V t518 = c[-9] * t488;
+        const V t519 = c[-8] * t487;
         const V t520 = t519 + t518;
-        const V t521 = c11 * t487;
-        const V t522 = c12 * t488;
+        const V t521 = c[-9] * t487;
+        const V t522 = c[-8] * t488;
         const V t523 = t522 - t521;
-        const V t524 = c13 * t474;
+        const V t524 = c[-7] * t474;
         // spectrum block of 2
         const V t525 = t493 + t524;
         const V t526 = t493 - t524;
@@ -815,16 +819,16 @@ struct RealForwardGraph<53> {
         const V t530 = t514 + t502;
         // spectrum block of 3, multiplier 2
         const V t531 = t528 + t525;
-        const V t532 = c0 * t528;
+        const V t532 = c[-16] * t528;
         const V t533 = t525 - t532;
-        const V t534 = c1 * t527;
+        const V t534 = c[-15] * t527;
         const V t535 = t533 - t534;
         const V t536 = t533 + t534;
         // spectrum block of 3, multiplier 2
         const V t537 = t526 - t530;
-        const V t538 = c0 * t530;
+        const V t538 = c[-16] * t530;
         const V t539 = t538 + t526;
-        const V t540 = c1 * t529;
+        const V t540 = c[-15] * t529;
         const V t541 = t539 - t540;
         const V t542 = t539 + t540;
         // complex block of 2
@@ -833,22 +837,22 @@ struct RealForwardGraph<53> {
         const V t545 = t520 - t496;
         const V t546 = t499 + t523;
         // mirrored skew block of 6
-        const V t547 = c0 * t545;
-        const V t548 = c1 * t546;
+        const V t547 = c[-16] * t545;
+        const V t548 = c[-15] * t546;
         const V t549 = t548 + t547;
         // spectrum block of 3, multiplier 2
         const V t550 = t544 + t511;
-        const V t551 = c0 * t544;
+        const V t551 = c[-16] * t544;
         const V t552 = t511 - t551;
-        const V t553 = c1 * t543;
+        const V t553 = c[-15] * t543;
         const V t554 = t552 - t553;
         const V t555 = t552 + t553;
         // spectrum block of 3, multiplier 2
         const V t556 = t549 + t508;
-        const V t557 = c0 * t549;
+        const V t557 = c[-16] * t549;
         const V t558 = t557 - t508;
-        const V t559 = c14 * t545;
-        const V t560 = c15 * t546;
+        const V t559 = c[10] * t545;
+        const V t560 = c[11] * t546;
         const V t561 = t559 - t560;
         const V t562 = t558 + t561;
         const V t563 = t558 - t561;
@@ -856,159 +860,159 @@ struct RealForwardGraph<53> {
         const V x0 = io.in(0);
         const V t564 = x0 + t124;
         io.re(0, t564);
-        const V t565 = c20 * t124;
+        const V t565 = c[78] * t124;
         const V t566 = t565 - x0;
-        const V t567 = c21 * t442;
-        const V t568 = c22 * t392;
+        const V t567 = c[16] * t442;
+        const V t568 = c[17] * t392;
         const V t569 = t568 + t567;
-        const V t570 = c21 * t392;
-        const V t571 = c22 * t442;
+        const V t570 = c[16] * t392;
+        const V t571 = c[17] * t442;
         const V t572 = t571 - t570;
-        const V t573 = c23 * t556;
-        const V t574 = c24 * t541;
+        const V t573 = c[18] * t556;
+        const V t574 = c[19] * t541;
         const V t575 = t574 - t573;
-        const V t576 = c23 * t541;
-        const V t577 = c24 * t556;
+        const V t576 = c[18] * t541;
+        const V t577 = c[19] * t556;
         const V t578 = t577 + t576;
-        const V t579 = c25 * t435;
-        const V t580 = c26 * t385;
+        const V t579 = c[20] * t435;
+        const V t580 = c[21] * t385;
         const V t581 = t580 - t579;
-        const V t582 = c25 * t385;
-        const V t583 = c26 * t435;
+        const V t582 = c[20] * t385;
+        const V t583 = c[21] * t435;
         const V t584 = t583 + t582;
-        const V t585 = c27 * t183;
-        const V t586 = c28 * t164;
+        const V t585 = c[22] * t183;
+        const V t586 = c[23] * t164;
         const V t587 = t586 - t585;
-        const V t588 = c27 * t164;
-        const V t589 = c28 * t183;
+        const V t588 = c[22] * t164;
+        const V t589 = c[23] * t183;
         const V t590 = t589 + t588;
-        const V t591 = c29 * t444;
-        const V t592 = c30 * t394;
+        const V t591 = c[24] * t444;
+        const V t592 = c[25] * t394;
         const V t593 = t592 - t591;
-        const V t594 = c29 * t394;
-        const V t595 = c30 * t444;
+        const V t594 = c[24] * t394;
+        const V t595 = c[25] * t444;
         const V t596 = t595 + t594;
-        const V t597 = c31 * t562;
-        const V t598 = c32 * t537;
+        const V t597 = c[26] * t562;
+        const V t598 = c[27] * t537;
         const V t599 = t598 - t597;
-        const V t600 = c31 * t537;
-        const V t601 = c32 * t562;
+        const V t600 = c[26] * t537;
+        const V t601 = c[27] * t562;
         const V t602 = t601 + t600;
-        const V t603 = c33 * t432;
-        const V t604 = c34 * t382;
+        const V t603 = c[28] * t432;
+        const V t604 = c[29] * t382;
         const V t605 = t604 + t603;
-        const V t606 = c33 * t382;
-        const V t607 = c34 * t432;
+        const V t606 = c[28] * t382;
+        const V t607 = c[29] * t432;
         const V t608 = t606 - t607;
-        const V t609 = c35 * t196;
-        const V t610 = c36 * t175;
+        const V t609 = c[30] * t196;
+        const V t610 = c[31] * t175;
         const V t611 = t610 + t609;
-        const V t612 = c35 * t175;
-        const V t613 = c36 * t196;
+        const V t612 = c[30] * t175;
+        const V t613 = c[31] * t196;
         const V t614 = t612 - t613;
-        const V t615 = c37 * t430;
-        const V t616 = c38 * t380;
+        const V t615 = c[32] * t430;
+        const V t616 = c[33] * t380;
         const V t617 = t616 - t615;
-        const V t618 = c37 * t380;
-        const V t619 = c38 * t430;
+        const V t618 = c[32] * t380;
+        const V t619 = c[33] * t430;
         const V t620 = t619 + t618;
-        const V t621 = c39 * t555;
-        const V t622 = c40 * t535;
+        const V t621 = c[34] * t555;
+        const V t622 = c[35] * t535;
         const V t623 = t622 + t621;
-        const V t624 = c39 * t535;
-        const V t625 = c40 * t555;
+        const V t624 = c[34] * t535;
+        const V t625 = c[35] * t555;
         const V t626 = t624 - t625;
-        const V t627 = c41 * t438;
-        const V t628 = c42 * t388;
+        const V t627 = c[36] * t438;
+        const V t628 = c[37] * t388;
         const V t629 = t628 - t627;
-        const V t630 = c41 * t388;
-        const V t631 = c42 * t438;
+        const V t630 = c[36] * t388;
+        const V t631 = c[37] * t438;
         const V t632 = t631 + t630;
-        const V t633 = c43 * t187;
-        const V t634 = c44 * t169;
+        const V t633 = c[38] * t187;
+        const V t634 = c[39] * t169;
         const V t635 = t634 - t633;
-        const V t636 = c43 * t169;
-        const V t637 = c44 * t187;
+        const V t636 = c[38] * t169;
+        const V t637 = c[39] * t187;
         const V t638 = t637 + t636;
-        const V t639 = c45 * t290;
-        const V t640 = c46 * t289;
+        const V t639 = c[40] * t290;
+        const V t640 = c[41] * t289;
         const V t641 = t639 - t640;
-        const V t642 = c45 * t289;
-        const V t643 = c46 * t290;
+        const V t642 = c[40] * t289;
+        const V t643 = c[41] * t290;
         const V t644 = t643 + t642;
-        const V t645 = c47 * t554;
-        const V t646 = c48 * t536;
+        const V t645 = c[42] * t554;
+        const V t646 = c[43] * t536;
         const V t647 = t646 - t645;
-        const V t648 = c47 * t536;
-        const V t649 = c48 * t554;
+        const V t648 = c[42] * t536;
+        const V t649 = c[43] * t554;
         const V t650 = t649 + t648;
-        const V t651 = c49 * t437;
-        const V t652 = c50 * t387;
+        const V t651 = c[44] * t437;
+        const V t652 = c[45] * t387;
         const V t653 = t652 + t651;
-        const V t654 = c49 * t387;
-        const V t655 = c50 * t437;
+        const V t654 = c[44] * t387;
+        const V t655 = c[45] * t437;
         const V t656 = t655 - t654;
-        const V t657 = c51 * t188;
-        const V t658 = c52 * t168;
+        const V t657 = c[46] * t188;
+        const V t658 = c[47] * t168;
         const V t659 = t657 - t658;
-        const V t660 = c51 * t168;
-        const V t661 = c52 * t188;
+        const V t660 = c[46] * t168;
+        const V t661 = c[47] * t188;
         const V t662 = t661 + t660;
-        const V t663 = c53 * t429;
-        const V t664 = c54 * t379;
+        const V t663 = c[48] * t429;
+        const V t664 = c[49] * t379;
         const V t665 = t664 + t663;
-        const V t666 = c53 * t379;
-        const V t667 = c54 * t429;
+        const V t666 = c[48] * t379;
+        const V t667 = c[49] * t429;
         const V t668 = t667 - t666;
-        const V t669 = c55 * t563;
-        const V t670 = c56 * t542;
+        const V t669 = c[50] * t563;
+        const V t670 = c[51] * t542;
         const V t671 = t670 - t669;
-        const V t672 = c55 * t542;
-        const V t673 = c56 * t563;
+        const V t672 = c[50] * t542;
+        const V t673 = c[51] * t563;
         const V t674 = t673 + t672;
-        const V t675 = c57 * t431;
-        const V t676 = c58 * t381;
+        const V t675 = c[52] * t431;
+        const V t676 = c[53] * t381;
         const V t677 = t676 + t675;
-        const V t678 = c57 * t381;
-        const V t679 = c58 * t431;
+        const V t678 = c[52] * t381;
+        const V t679 = c[53] * t431;
         const V t680 = t678 - t679;
-        const V t681 = c59 * t195;
-        const V t682 = c60 * t170;
+        const V t681 = c[54] * t195;
+        const V t682 = c[55] * t170;
         const V t683 = t682 + t681;
-        const V t684 = c59 * t170;
-        const V t685 = c60 * t195;
+        const V t684 = c[54] * t170;
+        const V t685 = c[55] * t195;
         const V t686 = t684 - t685;
-        const V t687 = c61 * t443;
-        const V t688 = c62 * t393;
+        const V t687 = c[56] * t443;
+        const V t688 = c[57] * t393;
         const V t689 = t687 - t688;
-        const V t690 = c61 * t393;
-        const V t691 = c62 * t443;
+        const V t690 = c[56] * t393;
+        const V t691 = c[57] * t443;
         const V t692 = t691 + t690;
-        const V t693 = c63 * t550;
-        const V t694 = c64 * t531;
+        const V t693 = c[58] * t550;
+        const V t694 = c[59] * t531;
         const V t695 = t694 + t693;
-        const V t696 = c63 * t531;
-        const V t697 = c64 * t550;
+        const V t696 = c[58] * t531;
+        const V t697 = c[59] * t550;
         const V t698 = t696 - t697;
-        const V t699 = c65 * t436;
-        const V t700 = c66 * t386;
+        const V t699 = c[60] * t436;
+        const V t700 = c[61] * t386;
         const V t701 = t700 + t699;
-        const V t702 = c65 * t386;
-        const V t703 = c66 * t436;
+        const V t702 = c[60] * t386;
+        const V t703 = c[61] * t436;
         const V t704 = t702 - t703;
-        const V t705 = c67 * t189;
-        const V t706 = c68 * t174;
+        const V t705 = c[62] * t189;
+        const V t706 = c[63] * t174;
         const V t707 = t706 + t705;
-        const V t708 = c67 * t174;
-        const V t709 = c68 * t189;
+        const V t708 = c[62] * t174;
+        const V t709 = c[63] * t189;
         const V t710 = t709 - t708;
-        const V t711 = c69 * t441;
-        const V t712 = c70 * t391;
+        const V t711 = c[64] * t441;
+        const V t712 = c[65] * t391;
         const V t713 = t711 - t712;
-        const V t714 = c69 * t391;
-        const V t715 = c70 * t441;
+        const V t714 = c[64] * t391;
+        const V t715 = c[65] * t441;
         const V t716 = t715 + t714;
-        const V t717 = c71 * t491;
+        const V t717 = c[79] * t491;
         // spectrum block of 2
         const V t718 = t717 - t566;
         const V t719 = t566 + t717;
@@ -1046,16 +1050,16 @@ struct RealForwardGraph<53> {
         const V t744 = t733 + t729;
         const V t745 = t733 - t729;
         const V t746 = t744 + t721;
-        const V t747 = c0 * t744;
+        const V t747 = c[-16] * t744;
         const V t748 = t721 - t747;
-        const V t749 = c1 * t745;
+        const V t749 = c[-15] * t745;
         // real block of 3, multiplier 2
         const V t750 = t741 + t725;
         const V t751 = t741 - t725;
         const V t752 = t750 + t737;
-        const V t753 = c0 * t750;
+        const V t753 = c[-16] * t750;
         const V t754 = t737 - t753;
-        const V t755 = c1 * t751;
+        const V t755 = c[-15] * t751;
         // real block of 2
         const V t756 = t746 + t752;
         const V t757 = t746 - t752;
@@ -1065,17 +1069,17 @@ struct RealForwardGraph<53> {
         const V t760 = t748 - t754;
         const V t761 = t749 - t755;
         // skew block of 6
-        const V t762 = c0 * t728;
-        const V t763 = c1 * t724;
+        const V t762 = c[-16] * t728;
+        const V t763 = c[-15] * t724;
         const V t764 = t763 - t762;
-        const V t765 = c0 * t724;
-        const V t766 = c1 * t728;
+        const V t765 = c[-16] * t724;
+        const V t766 = c[-15] * t728;
         const V t767 = t766 + t765;
-        const V t768 = c1 * t740;
-        const V t769 = c0 * t732;
+        const V t768 = c[-15] * t740;
+        const V t769 = c[-16] * t732;
         const V t770 = t769 - t768;
-        const V t771 = c1 * t732;
-        const V t772 = c0 * t740;
+        const V t771 = c[-15] * t732;
+        const V t772 = c[-16] * t740;
         const V t773 = t772 + t771;
         // complex block of 3
         const V t774 = t764 + t770;
@@ -1084,50 +1088,50 @@ struct RealForwardGraph<53> {
         const V t777 = t773 - t767;
         const V t778 = t774 + t720;
         const V t779 = t736 - t775;
-        const V t780 = c0 * t774;
+        const V t780 = c[-16] * t774;
         const V t781 = t720 - t780;
-        const V t782 = c0 * t775;
+        const V t782 = c[-16] * t775;
         const V t783 = t782 + t736;
-        const V t784 = c1 * t776;
-        const V t785 = c1 * t777;
+        const V t784 = c[-15] * t776;
+        const V t785 = c[-15] * t777;
         const V t786 = t781 + t785;
         const V t787 = t783 - t784;
         const V t788 = t781 - t785;
         const V t789 = t783 + t784;
         // spectrum block of 13, multiplier 2
-        const V t790 = c2 * t756;
+        const V t790 = c[-12] * t756;
         const V t791 = t790 - t718;
-        const V t792 = c72 * t779;
-        const V t793 = c73 * t778;
+        const V t792 = c[-6] * t779;
+        const V t793 = c[-5] * t778;
         const V t794 = t792 - t793;
-        const V t795 = c72 * t778;
-        const V t796 = c73 * t779;
+        const V t795 = c[-6] * t778;
+        const V t796 = c[-5] * t779;
         const V t797 = t796 + t795;
-        const V t798 = c74 * t761;
-        const V t799 = c75 * t760;
+        const V t798 = c[2] * t761;
+        const V t799 = c[3] * t760;
         const V t800 = t799 - t798;
-        const V t801 = c7 * t789;
-        const V t802 = c8 * t788;
+        const V t801 = c[-14] * t789;
+        const V t802 = c[-13] * t788;
         const V t803 = t801 - t802;
-        const V t804 = c7 * t788;
-        const V t805 = c8 * t789;
+        const V t804 = c[-14] * t788;
+        const V t805 = c[-13] * t789;
         const V t806 = t805 + t804;
-        const V t807 = c76 * t759;
-        const V t808 = c77 * t758;
+        const V t807 = c[4] * t759;
+        const V t808 = c[5] * t758;
         const V t809 = t808 + t807;
-        const V t810 = c78 * t787;
-        const V t811 = c79 * t786;
+        const V t810 = c[-4] * t787;
+        const V t811 = c[-3] * t786;
         const V t812 = t811 + t810;
-        const V t813 = c78 * t786;
-        const V t814 = c79 * t787;
+        const V t813 = c[-4] * t786;
+        const V t814 = c[-3] * t787;
         const V t815 = t814 - t813;
-        const V t816 = c13 * t757;
+        const V t816 = c[-7] * t757;
         // spectrum block of 3
         const V t817 = t809 - t791;
-        const V t818 = c0 * t809;
+        const V t818 = c[-16] * t809;
         const V t819 = t791 + t818;
-        const V t820 = c80 * t759;
-        const V t821 = c81 * t758;
+        const V t820 = c[6] * t759;
+        const V t821 = c[7] * t758;
         const V t822 = t820 - t821;
         const V t823 = t819 + t822;
         const V t824 = t822 - t819;
@@ -1138,22 +1142,22 @@ struct RealForwardGraph<53> {
         const V t828 = t812 - t794;
         const V t829 = t825 + t806;
         const V t830 = t826 + t803;
-        const V t831 = c0 * t825;
+        const V t831 = c[-16] * t825;
         const V t832 = t806 - t831;
-        const V t833 = c0 * t826;
+        const V t833 = c[-16] * t826;
         const V t834 = t803 - t833;
-        const V t835 = c1 * t827;
-        const V t836 = c1 * t828;
+        const V t835 = c[-15] * t827;
+        const V t836 = c[-15] * t828;
         const V t837 = t832 + t836;
         const V t838 = t834 + t835;
         const V t839 = t832 - t836;
         const V t840 = t834 - t835;
         // spectrum block of 3
         const V t841 = t800 - t816;
-        const V t842 = c0 * t800;
+        const V t842 = c[-16] * t800;
         const V t843 = t816 + t842;
-        const V t844 = c82 * t761;
-        const V t845 = c83 * t760;
+        const V t844 = c[8] * t761;
+        const V t845 = c[9] * t760;
         const V t846 = t844 + t845;
         const V t847 = t843 + t846;
         const V t848 = t846 - t843;
@@ -1203,16 +1207,16 @@ struct RealForwardGraph<53> {
         const V t868 = t735 + t731;
         const V t869 = t735 - t731;
         const V t870 = t868 + t723;
-        const V t871 = c0 * t868;
+        const V t871 = c[-16] * t868;
         const V t872 = t723 - t871;
-        const V t873 = c1 * t869;
+        const V t873 = c[-15] * t869;
         // real block of 3, multiplier 2
         const V t874 = t743 + t727;
         const V t875 = t743 - t727;
         const V t876 = t874 + t739;
-        const V t877 = c0 * t874;
+        const V t877 = c[-16] * t874;
         const V t878 = t739 - t877;
-        const V t879 = c1 * t875;
+        const V t879 = c[-15] * t875;
         // real block of 2
         const V t880 = t870 + t876;
         const V t881 = t870 - t876;
@@ -1222,17 +1226,17 @@ struct RealForwardGraph<53> {
         const V t884 = t872 - t878;
         const V t885 = t873 - t879;
         // skew block of 6
-        const V t886 = c0 * t730;
-        const V t887 = c1 * t726;
+        const V t886 = c[-16] * t730;
+        const V t887 = c[-15] * t726;
         const V t888 = t887 - t886;
-        const V t889 = c0 * t726;
-        const V t890 = c1 * t730;
+        const V t889 = c[-16] * t726;
+        const V t890 = c[-15] * t730;
         const V t891 = t890 + t889;
-        const V t892 = c1 * t742;
-        const V t893 = c0 * t734;
+        const V t892 = c[-15] * t742;
+        const V t893 = c[-16] * t734;
         const V t894 = t893 - t892;
-        const V t895 = c1 * t734;
-        const V t896 = c0 * t742;
+        const V t895 = c[-15] * t734;
+        const V t896 = c[-16] * t742;
         const V t897 = t896 + t895;
         // complex block of 3
         const V t898 = t888 + t894;
@@ -1241,50 +1245,50 @@ struct RealForwardGraph<53> {
         const V t901 = t897 - t891;
         const V t902 = t898 + t722;
         const V t903 = t738 - t899;
-        const V t904 = c0 * t898;
+        const V t904 = c[-16] * t898;
         const V t905 = t722 - t904;
-        const V t906 = c0 * t899;
+        const V t906 = c[-16] * t899;
         const V t907 = t906 + t738;
-        const V t908 = c1 * t900;
-        const V t909 = c1 * t901;
+        const V t908 = c[-15] * t900;
+        const V t909 = c[-15] * t901;
         const V t910 = t905 + t909;
         const V t911 = t907 - t908;
         const V t912 = t905 - t909;
         const V t913 = t907 + t908;
         // spectrum block of 13, multiplier 2
-        const V t914 = c2 * t880;
+        const V t914 = c[-12] * t880;
         const V t915 = t719 + t914;
-        const V t916 = c72 * t903;
-        const V t917 = c73 * t902;
+        const V t916 = c[-6] * t903;
+        const V t917 = c[-5] * t902;
         const V t918 = t916 - t917;
-        const V t919 = c72 * t902;
-        const V t920 = c73 * t903;
+        const V t919 = c[-6] * t902;
+        const V t920 = c[-5] * t903;
         const V t921 = t920 + t919;
-        const V t922 = c74 * t885;
-        const V t923 = c75 * t884;
+        const V t922 = c[2] * t885;
+        const V t923 = c[3] * t884;
         const V t924 = t923 - t922;
-        const V t925 = c7 * t913;
-        const V t926 = c8 * t912;
+        const V t925 = c[-14] * t913;
+        const V t926 = c[-13] * t912;
         const V t927 = t925 - t926;
-        const V t928 = c7 * t912;
-        const V t929 = c8 * t913;
+        const V t928 = c[-14] * t912;
+        const V t929 = c[-13] * t913;
         const V t930 = t929 + t928;
-        const V t931 = c76 * t883;
-        const V t932 = c77 * t882;
+        const V t931 = c[4] * t883;
+        const V t932 = c[5] * t882;
         const V t933 = t932 + t931;
-        const V t934 = c78 * t911;
-        const V t935 = c79 * t910;
+        const V t934 = c[-4] * t911;
+        const V t935 = c[-3] * t910;
         const V t936 = t935 + t934;
-        const V t937 = c78 * t910;
-        const V t938 = c79 * t911;
+        const V t937 = c[-4] * t910;
+        const V t938 = c[-3] * t911;
         const V t939 = t938 - t937;
-        const V t940 = c13 * t881;
+        const V t940 = c[-7] * t881;
         // spectrum block of 3
         const V t941 = t933 - t915;
-        const V t942 = c0 * t933;
+        const V t942 = c[-16] * t933;
         const V t943 = t915 + t942;
-        const V t944 = c80 * t883;
-        const V t945 = c81 * t882;
+        const V t944 = c[6] * t883;
+        const V t945 = c[7] * t882;
         const V t946 = t944 - t945;
         const V t947 = t943 + t946;
         const V t948 = t946 - t943;
@@ -1295,22 +1299,22 @@ struct RealForwardGraph<53> {
         const V t952 = t936 - t918;
         const V t953 = t949 + t930;
         const V t954 = t950 + t927;
-        const V t955 = c0 * t949;
+        const V t955 = c[-16] * t949;
         const V t956 = t930 - t955;
-        const V t957 = c0 * t950;
+        const V t957 = c[-16] * t950;
         const V t958 = t927 - t957;
-        const V t959 = c1 * t951;
-        const V t960 = c1 * t952;
+        const V t959 = c[-15] * t951;
+        const V t960 = c[-15] * t952;
         const V t961 = t956 + t960;
         const V t962 = t958 + t959;
         const V t963 = t956 - t960;
         const V t964 = t958 - t959;
         // spectrum block of 3
         const V t965 = t924 - t940;
-        const V t966 = c0 * t924;
+        const V t966 = c[-16] * t924;
         const V t967 = t940 + t966;
-        const V t968 = c82 * t885;
-        const V t969 = c83 * t884;
+        const V t968 = c[8] * t885;
+        const V t969 = c[9] * t884;
         const V t970 = t968 + t969;
         const V t971 = t967 + t970;
         const V t972 = t970 - t967;
@@ -1362,11 +1366,11 @@ struct RealForwardGraph<53> {
         const V t994 = t569 + t713;
         const V t995 = t572 + t716;
         // mirrored skew block of 26
-        const V t996 = c84 * t994;
-        const V t997 = c85 * t995;
+        const V t996 = c[66] * t994;
+        const V t997 = c[67] * t995;
         const V t998 = t997 + t996;
-        const V t999 = c84 * t995;
-        const V t1000 = c85 * t994;
+        const V t999 = c[66] * t995;
+        const V t1000 = c[67] * t994;
         const V t1001 = t999 - t1000;
         // complex block of 2
         const V t1002 = t701 - t581;
@@ -1374,11 +1378,11 @@ struct RealForwardGraph<53> {
         const V t1004 = t581 + t701;
         const V t1005 = t584 + t704;
         // mirrored skew block of 26
-        const V t1006 = c86 * t1004;
-        const V t1007 = c87 * t1005;
+        const V t1006 = c[68] * t1004;
+        const V t1007 = c[69] * t1005;
         const V t1008 = t1006 - t1007;
-        const V t1009 = c86 * t1005;
-        const V t1010 = c87 * t1004;
+        const V t1009 = c[68] * t1005;
+        const V t1010 = c[69] * t1004;
         const V t1011 = t1010 + t1009;
         // complex block of 2
         const V t1012 = t689 - t593;
@@ -1386,11 +1390,11 @@ struct RealForwardGraph<53> {
         const V t1014 = t593 + t689;
         const V t1015 = t596 + t692;
         // mirrored skew block of 26
-        const V t1016 = c88 * t1014;
-        const V t1017 = c89 * t1015;
+        const V t1016 = c[70] * t1014;
+        const V t1017 = c[71] * t1015;
         const V t1018 = t1017 + t1016;
-        const V t1019 = c88 * t1015;
-        const V t1020 = c89 * t1014;
+        const V t1019 = c[70] * t1015;
+        const V t1020 = c[71] * t1014;
         const V t1021 = t1019 - t1020;
         // complex block of 2
         const V t1022 = t677 - t605;
@@ -1398,11 +1402,11 @@ struct RealForwardGraph<53> {
         const V t1024 = t605 + t677;
         const V t1025 = t608 - t680;
         // mirrored skew block of 26
-        const V t1026 = c90 * t1024;
-        const V t1027 = c91 * t1025;
+        const V t1026 = c[72] * t1024;
+        const V t1027 = c[73] * t1025;
         const V t1028 = t1027 + t1026;
-        const V t1029 = c90 * t1025;
-        const V t1030 = c91 * t1024;
+        const V t1029 = c[72] * t1025;
+        const V t1030 = c[73] * t1024;
         const V t1031 = t1029 - t1030;
         // complex block of 2
         const V t1032 = t665 - t617;
@@ -1410,11 +1414,11 @@ struct RealForwardGraph<53> {
         const V t1034 = t617 + t665;
         const V t1035 = t620 - t668;
         // mirrored skew block of 26
-        const V t1036 = c92 * t1034;
-        const V t1037 = c93 * t1035;
+        const V t1036 = c[74] * t1034;
+        const V t1037 = c[75] * t1035;
         const V t1038 = t1037 + t1036;
-        const V t1039 = c92 * t1035;
-        const V t1040 = c93 * t1034;
+        const V t1039 = c[74] * t1035;
+        const V t1040 = c[75] * t1034;
         const V t1041 = t1039 - t1040;
         // complex block of 2
         const V t1042 = t629 + t653;
@@ -1422,26 +1426,26 @@ struct RealForwardGraph<53> {
         const V t1044 = t653 - t629;
         const V t1045 = t632 + t656;
         // mirrored skew block of 26
-        const V t1046 = c94 * t1044;
-        const V t1047 = c95 * t1045;
+        const V t1046 = c[76] * t1044;
+        const V t1047 = c[77] * t1045;
         const V t1048 = t1047 + t1046;
-        const V t1049 = c94 * t1045;
-        const V t1050 = c95 * t1044;
+        const V t1049 = c[76] * t1045;
+        const V t1050 = c[77] * t1044;
         const V t1051 = t1050 - t1049;
         // real block of 3, multiplier 2
         const V t1052 = t1013 + t1023;
         const V t1053 = t1013 - t1023;
         const V t1054 = t1052 + t1043;
-        const V t1055 = c0 * t1052;
+        const V t1055 = c[-16] * t1052;
         const V t1056 = t1043 - t1055;
-        const V t1057 = c1 * t1053;
+        const V t1057 = c[-15] * t1053;
         // real block of 3, multiplier 2
         const V t1058 = t993 + t1033;
         const V t1059 = t993 - t1033;
         const V t1060 = t1058 + t1003;
-        const V t1061 = c0 * t1058;
+        const V t1061 = c[-16] * t1058;
         const V t1062 = t1003 - t1061;
-        const V t1063 = c1 * t1059;
+        const V t1063 = c[-15] * t1059;
         // real block of 2
         const V t1064 = t1054 + t1060;
         const V t1065 = t1054 - t1060;
@@ -1451,17 +1455,17 @@ struct RealForwardGraph<53> {
         const V t1068 = t1056 - t1062;
         const V t1069 = t1057 - t1063;
         // skew block of 6
-        const V t1070 = c0 * t1022;
-        const V t1071 = c1 * t1032;
+        const V t1070 = c[-16] * t1022;
+        const V t1071 = c[-15] * t1032;
         const V t1072 = t1070 - t1071;
-        const V t1073 = c0 * t1032;
-        const V t1074 = c1 * t1022;
+        const V t1073 = c[-16] * t1032;
+        const V t1074 = c[-15] * t1022;
         const V t1075 = t1074 + t1073;
-        const V t1076 = c1 * t992;
-        const V t1077 = c0 * t1012;
+        const V t1076 = c[-15] * t992;
+        const V t1077 = c[-16] * t1012;
         const V t1078 = t1076 - t1077;
-        const V t1079 = c1 * t1012;
-        const V t1080 = c0 * t992;
+        const V t1079 = c[-15] * t1012;
+        const V t1080 = c[-16] * t992;
         const V t1081 = t1080 + t1079;
         // complex block of 3
         const V t1082 = t1072 + t1078;
@@ -1470,50 +1474,50 @@ struct RealForwardGraph<53> {
         const V t1085 = t1075 - t1081;
         const V t1086 = t1082 + t1042;
         const V t1087 = t1083 - t1002;
-        const V t1088 = c0 * t1082;
+        const V t1088 = c[-16] * t1082;
         const V t1089 = t1042 - t1088;
-        const V t1090 = c0 * t1083;
+        const V t1090 = c[-16] * t1083;
         const V t1091 = t1002 + t1090;
-        const V t1092 = c1 * t1084;
-        const V t1093 = c1 * t1085;
+        const V t1092 = c[-15] * t1084;
+        const V t1093 = c[-15] * t1085;
         const V t1094 = t1089 + t1093;
         const V t1095 = t1091 + t1092;
         const V t1096 = t1089 - t1093;
         const V t1097 = t1092 - t1091;
         // spectrum block of 13, multiplier 2
-        const V t1098 = c2 * t1064;
+        const V t1098 = c[-12] * t1064;
         const V t1099 = t644 - t1098;
-        const V t1100 = c72 * t1087;
-        const V t1101 = c73 * t1086;
+        const V t1100 = c[-6] * t1087;
+        const V t1101 = c[-5] * t1086;
         const V t1102 = t1100 - t1101;
-        const V t1103 = c72 * t1086;
-        const V t1104 = c73 * t1087;
+        const V t1103 = c[-6] * t1086;
+        const V t1104 = c[-5] * t1087;
         const V t1105 = t1104 + t1103;
-        const V t1106 = c74 * t1069;
-        const V t1107 = c75 * t1068;
+        const V t1106 = c[2] * t1069;
+        const V t1107 = c[3] * t1068;
         const V t1108 = t1107 - t1106;
-        const V t1109 = c7 * t1097;
-        const V t1110 = c8 * t1096;
+        const V t1109 = c[-14] * t1097;
+        const V t1110 = c[-13] * t1096;
         const V t1111 = t1109 - t1110;
-        const V t1112 = c7 * t1096;
-        const V t1113 = c8 * t1097;
+        const V t1112 = c[-14] * t1096;
+        const V t1113 = c[-13] * t1097;
         const V t1114 = t1113 + t1112;
-        const V t1115 = c76 * t1067;
-        const V t1116 = c77 * t1066;
+        const V t1115 = c[4] * t1067;
+        const V t1116 = c[5] * t1066;
         const V t1117 = t1116 + t1115;
-        const V t1118 = c78 * t1095;
-        const V t1119 = c79 * t1094;
+        const V t1118 = c[-4] * t1095;
+        const V t1119 = c[-3] * t1094;
         const V t1120 = t1119 - t1118;
-        const V t1121 = c78 * t1094;
-        const V t1122 = c79 * t1095;
+        const V t1121 = c[-4] * t1094;
+        const V t1122 = c[-3] * t1095;
         const V t1123 = t1122 + t1121;
-        const V t1124 = c13 * t1065;
+        const V t1124 = c[-7] * t1065;
         // spectrum block of 3
         const V t1125 = t1117 + t1099;
-        const V t1126 = c0 * t1117;
+        const V t1126 = c[-16] * t1117;
         const V t1127 = t1099 - t1126;
-        const V t1128 = c80 * t1067;
-        const V t1129 = c81 * t1066;
+        const V t1128 = c[6] * t1067;
+        const V t1129 = c[7] * t1066;
         const V t1130 = t1128 - t1129;
         const V t1131 = t1127 - t1130;
         const V t1132 = t1127 + t1130;
@@ -1524,22 +1528,22 @@ struct RealForwardGraph<53> {
         const V t1136 = t1120 - t1102;
         const V t1137 = t1133 + t1114;
         const V t1138 = t1134 + t1111;
-        const V t1139 = c0 * t1133;
+        const V t1139 = c[-16] * t1133;
         const V t1140 = t1114 - t1139;
-        const V t1141 = c0 * t1134;
+        const V t1141 = c[-16] * t1134;
         const V t1142 = t1111 - t1141;
-        const V t1143 = c1 * t1135;
-        const V t1144 = c1 * t1136;
+        const V t1143 = c[-15] * t1135;
+        const V t1144 = c[-15] * t1136;
         const V t1145 = t1140 + t1144;
         const V t1146 = t1142 - t1143;
         const V t1147 = t1140 - t1144;
         const V t1148 = t1142 + t1143;
         // spectrum block of 3
         const V t1149 = t1108 - t1124;
-        const V t1150 = c0 * t1108;
+        const V t1150 = c[-16] * t1108;
         const V t1151 = t1124 + t1150;
-        const V t1152 = c82 * t1069;
-        const V t1153 = c83 * t1068;
+        const V t1152 = c[8] * t1069;
+        const V t1153 = c[9] * t1068;
         const V t1154 = t1152 + t1153;
         const V t1155 = t1151 + t1154;
         const V t1156 = t1154 - t1151;
@@ -1589,16 +1593,16 @@ struct RealForwardGraph<53> {
         const V t1176 = t1018 + t1028;
         const V t1177 = t1018 - t1028;
         const V t1178 = t1176 - t1048;
-        const V t1179 = c0 * t1176;
+        const V t1179 = c[-16] * t1176;
         const V t1180 = t1048 + t1179;
-        const V t1181 = c1 * t1177;
+        const V t1181 = c[-15] * t1177;
         // real block of 3, multiplier 2
         const V t1182 = t998 + t1038;
         const V t1183 = t998 - t1038;
         const V t1184 = t1182 + t1008;
-        const V t1185 = c0 * t1182;
+        const V t1185 = c[-16] * t1182;
         const V t1186 = t1008 - t1185;
-        const V t1187 = c1 * t1183;
+        const V t1187 = c[-15] * t1183;
         // real block of 2
         const V t1188 = t1178 + t1184;
         const V t1189 = t1178 - t1184;
@@ -1608,17 +1612,17 @@ struct RealForwardGraph<53> {
         const V t1192 = t1180 + t1186;
         const V t1193 = t1181 - t1187;
         // skew block of 6
-        const V t1194 = c0 * t1031;
-        const V t1195 = c1 * t1041;
+        const V t1194 = c[-16] * t1031;
+        const V t1195 = c[-15] * t1041;
         const V t1196 = t1194 - t1195;
-        const V t1197 = c0 * t1041;
-        const V t1198 = c1 * t1031;
+        const V t1197 = c[-16] * t1041;
+        const V t1198 = c[-15] * t1031;
         const V t1199 = t1198 + t1197;
-        const V t1200 = c1 * t1001;
-        const V t1201 = c0 * t1021;
+        const V t1200 = c[-15] * t1001;
+        const V t1201 = c[-16] * t1021;
         const V t1202 = t1200 - t1201;
-        const V t1203 = c1 * t1021;
-        const V t1204 = c0 * t1001;
+        const V t1203 = c[-15] * t1021;
+        const V t1204 = c[-16] * t1001;
         const V t1205 = t1204 + t1203;
         // complex block of 3
         const V t1206 = t1196 + t1202;
@@ -1627,50 +1631,50 @@ struct RealForwardGraph<53> {
         const V t1209 = t1199 - t1205;
         const V t1210 = t1206 - t1051;
         const V t1211 = t1207 + t1011;
-        const V t1212 = c0 * t1206;
+        const V t1212 = c[-16] * t1206;
         const V t1213 = t1051 + t1212;
-        const V t1214 = c0 * t1207;
+        const V t1214 = c[-16] * t1207;
         const V t1215 = t1011 - t1214;
-        const V t1216 = c1 * t1208;
-        const V t1217 = c1 * t1209;
+        const V t1216 = c[-15] * t1208;
+        const V t1217 = c[-15] * t1209;
         const V t1218 = t1217 - t1213;
         const V t1219 = t1215 - t1216;
         const V t1220 = t1213 + t1217;
         const V t1221 = t1215 + t1216;
         // spectrum block of 13, multiplier 2
-        const V t1222 = c2 * t1188;
+        const V t1222 = c[-12] * t1188;
         const V t1223 = t641 - t1222;
-        const V t1224 = c72 * t1211;
-        const V t1225 = c73 * t1210;
+        const V t1224 = c[-6] * t1211;
+        const V t1225 = c[-5] * t1210;
         const V t1226 = t1224 - t1225;
-        const V t1227 = c72 * t1210;
-        const V t1228 = c73 * t1211;
+        const V t1227 = c[-6] * t1210;
+        const V t1228 = c[-5] * t1211;
         const V t1229 = t1228 + t1227;
-        const V t1230 = c74 * t1193;
-        const V t1231 = c75 * t1192;
+        const V t1230 = c[2] * t1193;
+        const V t1231 = c[3] * t1192;
         const V t1232 = t1231 + t1230;
-        const V t1233 = c7 * t1221;
-        const V t1234 = c8 * t1220;
+        const V t1233 = c[-14] * t1221;
+        const V t1234 = c[-13] * t1220;
         const V t1235 = t1234 + t1233;
-        const V t1236 = c7 * t1220;
-        const V t1237 = c8 * t1221;
+        const V t1236 = c[-14] * t1220;
+        const V t1237 = c[-13] * t1221;
         const V t1238 = t1237 - t1236;
-        const V t1239 = c76 * t1191;
-        const V t1240 = c77 * t1190;
+        const V t1239 = c[4] * t1191;
+        const V t1240 = c[5] * t1190;
         const V t1241 = t1240 + t1239;
-        const V t1242 = c78 * t1219;
-        const V t1243 = c79 * t1218;
+        const V t1242 = c[-4] * t1219;
+        const V t1243 = c[-3] * t1218;
         const V t1244 = t1243 + t1242;
-        const V t1245 = c78 * t1218;
-        const V t1246 = c79 * t1219;
+        const V t1245 = c[-4] * t1218;
+        const V t1246 = c[-3] * t1219;
         const V t1247 = t1246 - t1245;
-        const V t1248 = c13 * t1189;
+        const V t1248 = c[-7] * t1189;
         // spectrum block of 3
         const V t1249 = t1241 + t1223;
-        const V t1250 = c0 * t1241;
+        const V t1250 = c[-16] * t1241;
         const V t1251 = t1223 - t1250;
-        const V t1252 = c80 * t1191;
-        const V t1253 = c81 * t1190;
+        const V t1252 = c[6] * t1191;
+        const V t1253 = c[7] * t1190;
         const V t1254 = t1252 - t1253;
         const V t1255 = t1251 - t1254;
         const V t1256 = t1251 + t1254;
@@ -1681,22 +1685,22 @@ struct RealForwardGraph<53> {
         const V t1260 = t1244 - t1226;
         const V t1261 = t1257 + t1238;
         const V t1262 = t1258 + t1235;
-        const V t1263 = c0 * t1257;
+        const V t1263 = c[-16] * t1257;
         const V t1264 = t1238 - t1263;
-        const V t1265 = c0 * t1258;
+        const V t1265 = c[-16] * t1258;
         const V t1266 = t1235 - t1265;
-        const V t1267 = c1 * t1259;
-        const V t1268 = c1 * t1260;
+        const V t1267 = c[-15] * t1259;
+        const V t1268 = c[-15] * t1260;
         const V t1269 = t1264 + t1268;
         const V t1270 = t1266 + t1267;
         const V t1271 = t1264 - t1268;
         const V t1272 = t1266 - t1267;
         // spectrum block of 3
         const V t1273 = t1232 + t1248;
-        const V t1274 = c0 * t1232;
+        const V t1274 = c[-16] * t1232;
         const V t1275 = t1274 - t1248;
-        const V t1276 = c83 * t1192;
-        const V t1277 = c82 * t1193;
+        const V t1276 = c[9] * t1192;
+        const V t1277 = c[8] * t1193;
         const V t1278 = t1276 - t1277;
         const V t1279 = t1275 + t1278;
         const V t1280 = t1275 - t1278;

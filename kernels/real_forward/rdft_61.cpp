@@ -2,96 +2,100 @@
 // Forward DFT of 61 real points, Rader 3, 5, 4.
 // 403 additions, 359 subtractions, 415 multiplications (476 with `scale`); 14 outputs negated; 80 constants; 68 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct RealForwardGraph<61> {
     static constexpr double inverseRoot = 0.12803687993289598;  // 1/sqrt(61), for `scale`
-    static constexpr double c0 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c1 = 0.8660254037844386;  // -sin 2 pi 2/3
-    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 2/5
-    static constexpr double c3 = 0.30901699437494745;  // cos 2 pi 6/5
-    static constexpr double c4 = 0.5877852522924731;  // sin 2 pi 2/5
-    static constexpr double c5 = 0.9510565162951535;  // sin 2 pi 6/5
-    static constexpr double c6 = 0.016666666666666666;  // 1/60
-    static constexpr double c7 = 0.15497780918795065;  // -Q[1] of 61
-    static constexpr double c8 = 0.20918808865965802;  // P[1] of 61
-    static constexpr double c9 = 0.16101883855703142;  // Q[2] of 61
-    static constexpr double c10 = 0.20457446421174474;  // P[2] of 61
-    static constexpr double c11 = 0.10340917490170637;  // Q[3] of 61
-    static constexpr double c12 = 0.23892325195327072;  // P[3] of 61
-    static constexpr double c13 = 0.2578608473569129;  // Q[4] of 61
-    static constexpr double c14 = 0.035854723233524656;  // -P[4] of 61
-    static constexpr double c15 = 0.1053660297660444;  // -Q[5] of 61
-    static constexpr double c16 = 0.2380667501964918;  // P[5] of 61
-    static constexpr double c17 = 0.20515266792101527;  // Q[6] of 61
-    static constexpr double c18 = 0.1602815043062281;  // P[6] of 61
-    static constexpr double c19 = 0.09920884237904212;  // Q[7] of 61
-    static constexpr double c20 = 0.2406977012179139;  // -P[7] of 61
-    static constexpr double c21 = 0.07049354660050404;  // Q[8] of 61
-    static constexpr double c22 = 0.25061611613274265;  // P[8] of 61
-    static constexpr double c23 = 0.09068761161102994;  // Q[9] of 61
-    static constexpr double c24 = 0.24403592948183833;  // P[9] of 61
-    static constexpr double c25 = 0.23081456598926853;  // Q[10] of 61
-    static constexpr double c26 = 0.12042596856560207;  // P[10] of 61
-    static constexpr double c27 = 0.09855050326766758;  // Q[11] of 61
-    static constexpr double c28 = 0.24096799804842803;  // P[11] of 61
-    static constexpr double c29 = 0.17085954303793666;  // Q[12] of 61
-    static constexpr double c30 = 0.19643012582250524;  // -P[12] of 61
-    static constexpr double c31 = 0.047810579406671994;  // -Q[13] of 61
-    static constexpr double c32 = 0.25591390402746017;  // -P[13] of 61
-    static constexpr double c33 = 0.035146745480687275;  // Q[14] of 61
-    static constexpr double c34 = 0.25795829907156226;  // -P[14] of 61
-    static constexpr double c35 = 0.23576264945389142;  // -Q[15] of 61
-    static constexpr double c36 = 0.11042531820311542;  // -P[15] of 61
-    static constexpr double c37 = 0.07154712447968609;  // Q[16] of 61
-    static constexpr double c38 = 0.2503173720628796;  // P[16] of 61
-    static constexpr double c39 = 0.15440539602027134;  // Q[17] of 61
-    static constexpr double c40 = 0.20961095261841867;  // P[17] of 61
-    static constexpr double c41 = 0.22994320324173947;  // -Q[18] of 61
-    static constexpr double c42 = 0.12208153447883048;  // P[18] of 61
-    static constexpr double c43 = 0.22194087820108896;  // -Q[19] of 61
-    static constexpr double c44 = 0.13608829619444565;  // -P[19] of 61
-    static constexpr double c45 = 0.2602823006297202;  // Q[20] of 61
-    static constexpr double c46 = 0.005558934851007752;  // -P[20] of 61
-    static constexpr double c47 = 0.04709103298244708;  // Q[21] of 61
-    static constexpr double c48 = 0.256047285458026;  // P[21] of 61
-    static constexpr double c49 = 0.25902765669579647;  // Q[22] of 61
-    static constexpr double c50 = 0.02612376015167778;  // -P[22] of 61
-    static constexpr double c51 = 0.24362915936079071;  // -Q[23] of 61
-    static constexpr double c52 = 0.09177478132326014;  // -P[23] of 61
-    static constexpr double c53 = 0.0673035010610264;  // -Q[24] of 61
-    static constexpr double c54 = 0.2514915834033143;  // P[24] of 61
-    static constexpr double c55 = 0.1154342549547329;  // Q[25] of 61
-    static constexpr double c56 = 0.23335104576758062;  // -P[25] of 61
-    static constexpr double c57 = 0.1988310412655552;  // Q[26] of 61
-    static constexpr double c58 = 0.1680594978185787;  // -P[26] of 61
-    static constexpr double c59 = 0.0335460689418391;  // -Q[27] of 61
-    static constexpr double c60 = 0.25817133658934166;  // -P[27] of 61
-    static constexpr double c61 = 0.15195717683014903;  // -Q[28] of 61
-    static constexpr double c62 = 0.21139251213699267;  // P[28] of 61
-    static constexpr double c63 = 0.2314253610640195;  // Q[29] of 61
-    static constexpr double c64 = 0.1192479770652986;  // -P[29] of 61
-    static constexpr double c65 = 0.13017082793177756;  // beta of 61
-    static constexpr double c66 = 0.22541108450079606;  // -sin 2 pi 2/3 times Q[20] of 61
-    static constexpr double c67 = 0.004814178798955376;  // -sin 2 pi 2/3 times -P[20] of 61
-    static constexpr double c68 = 0.19989127771018625;  // -sin 2 pi 2/3 times Q[10] of 61
-    static constexpr double c69 = 0.10429194805315764;  // -sin 2 pi 2/3 times P[10] of 61
-    static constexpr double c70 = 0.10452846326765347;  // -sin 2 pi 59/60
-    static constexpr double c71 = 0.9945218953682733;  // cos 2 pi 59/60
-    static constexpr double c72 = 0.6691306063588582;  // -sin 2 pi 53/60
-    static constexpr double c73 = 0.7431448254773942;  // cos 2 pi 53/60
-    static constexpr double c74 = 0.9135454576426009;  // -sin 2 pi 49/60
-    static constexpr double c75 = 0.4067366430758002;  // cos 2 pi 49/60
-    static constexpr double c76 = 0.9781476007338057;  // -sin 2 pi 47/60
-    static constexpr double c77 = 0.20791169081775934;  // cos 2 pi 47/60
-    static constexpr double c78 = 0.4330127018922193;  // -sin 2 pi 2/3 times -cos 2 pi 2/3
-    static constexpr double c79 = 0.75;  // -sin 2 pi 2/3 times -sin 2 pi 2/3
+    static constexpr double constants[] = {
+        0.8090169943749475,  // c[-16]: -cos 2 pi 2/5
+        0.30901699437494745,  // c[-15]: cos 2 pi 6/5
+        0.5877852522924731,  // c[-14]: sin 2 pi 2/5
+        0.9510565162951535,  // c[-13]: sin 2 pi 6/5
+        0.5,  // c[-12]: -cos 2 pi 2/3
+        0.8660254037844386,  // c[-11]: -sin 2 pi 2/3
+        0.15497780918795065,  // c[-10]: -Q[1] of 61
+        0.20918808865965802,  // c[-9]: P[1] of 61
+        0.16101883855703142,  // c[-8]: Q[2] of 61
+        0.20457446421174474,  // c[-7]: P[2] of 61
+        0.10340917490170637,  // c[-6]: Q[3] of 61
+        0.23892325195327072,  // c[-5]: P[3] of 61
+        0.2578608473569129,  // c[-4]: Q[4] of 61
+        0.035854723233524656,  // c[-3]: -P[4] of 61
+        0.1053660297660444,  // c[-2]: -Q[5] of 61
+        0.2380667501964918,  // c[-1]: P[5] of 61
+        0.20515266792101527,  // c[0]: Q[6] of 61
+        0.1602815043062281,  // c[1]: P[6] of 61
+        0.09920884237904212,  // c[2]: Q[7] of 61
+        0.2406977012179139,  // c[3]: -P[7] of 61
+        0.07049354660050404,  // c[4]: Q[8] of 61
+        0.25061611613274265,  // c[5]: P[8] of 61
+        0.09068761161102994,  // c[6]: Q[9] of 61
+        0.24403592948183833,  // c[7]: P[9] of 61
+        0.09855050326766758,  // c[8]: Q[11] of 61
+        0.24096799804842803,  // c[9]: P[11] of 61
+        0.17085954303793666,  // c[10]: Q[12] of 61
+        0.19643012582250524,  // c[11]: -P[12] of 61
+        0.047810579406671994,  // c[12]: -Q[13] of 61
+        0.25591390402746017,  // c[13]: -P[13] of 61
+        0.035146745480687275,  // c[14]: Q[14] of 61
+        0.25795829907156226,  // c[15]: -P[14] of 61
+        0.23576264945389142,  // c[16]: -Q[15] of 61
+        0.11042531820311542,  // c[17]: -P[15] of 61
+        0.07154712447968609,  // c[18]: Q[16] of 61
+        0.2503173720628796,  // c[19]: P[16] of 61
+        0.15440539602027134,  // c[20]: Q[17] of 61
+        0.20961095261841867,  // c[21]: P[17] of 61
+        0.22994320324173947,  // c[22]: -Q[18] of 61
+        0.12208153447883048,  // c[23]: P[18] of 61
+        0.22194087820108896,  // c[24]: -Q[19] of 61
+        0.13608829619444565,  // c[25]: -P[19] of 61
+        0.04709103298244708,  // c[26]: Q[21] of 61
+        0.256047285458026,  // c[27]: P[21] of 61
+        0.25902765669579647,  // c[28]: Q[22] of 61
+        0.02612376015167778,  // c[29]: -P[22] of 61
+        0.24362915936079071,  // c[30]: -Q[23] of 61
+        0.09177478132326014,  // c[31]: -P[23] of 61
+        0.0673035010610264,  // c[32]: -Q[24] of 61
+        0.2514915834033143,  // c[33]: P[24] of 61
+        0.1154342549547329,  // c[34]: Q[25] of 61
+        0.23335104576758062,  // c[35]: -P[25] of 61
+        0.1988310412655552,  // c[36]: Q[26] of 61
+        0.1680594978185787,  // c[37]: -P[26] of 61
+        0.0335460689418391,  // c[38]: -Q[27] of 61
+        0.25817133658934166,  // c[39]: -P[27] of 61
+        0.15195717683014903,  // c[40]: -Q[28] of 61
+        0.21139251213699267,  // c[41]: P[28] of 61
+        0.2314253610640195,  // c[42]: Q[29] of 61
+        0.1192479770652986,  // c[43]: -P[29] of 61
+        0.10452846326765347,  // c[44]: -sin 2 pi 59/60
+        0.9945218953682733,  // c[45]: cos 2 pi 59/60
+        0.6691306063588582,  // c[46]: -sin 2 pi 53/60
+        0.7431448254773942,  // c[47]: cos 2 pi 53/60
+        0.9135454576426009,  // c[48]: -sin 2 pi 49/60
+        0.4067366430758002,  // c[49]: cos 2 pi 49/60
+        0.9781476007338057,  // c[50]: -sin 2 pi 47/60
+        0.20791169081775934,  // c[51]: cos 2 pi 47/60
+        0.016666666666666666,  // c[52]: 1/60
+        0.23081456598926853,  // c[53]: Q[10] of 61
+        0.12042596856560207,  // c[54]: P[10] of 61
+        0.2602823006297202,  // c[55]: Q[20] of 61
+        0.005558934851007752,  // c[56]: -P[20] of 61
+        0.13017082793177756,  // c[57]: beta of 61
+        0.22541108450079606,  // c[58]: -sin 2 pi 2/3 times Q[20] of 61
+        0.004814178798955376,  // c[59]: -sin 2 pi 2/3 times -P[20] of 61
+        0.19989127771018625,  // c[60]: -sin 2 pi 2/3 times Q[10] of 61
+        0.10429194805315764,  // c[61]: -sin 2 pi 2/3 times P[10] of 61
+        0.4330127018922193,  // c[62]: -sin 2 pi 2/3 times -cos 2 pi 2/3
+        0.75,  // c[63]: -sin 2 pi 2/3 times -sin 2 pi 2/3
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // real block of 3, multiplier 2
         const V x47 = io.in(47);
         const V x13 = io.in(13);
@@ -99,9 +103,9 @@ struct RealForwardGraph<61> {
         const V t1 = x47 - x13;
         const V x1 = io.in(1);
         const V t2 = t0 + x1;
-        const V t3 = c0 * t0;
+        const V t3 = c[-12] * t0;
         const V t4 = x1 - t3;
-        const V t5 = c1 * t1;
+        const V t5 = c[-11] * t1;
         // real block of 3, multiplier 2
         const V x57 = io.in(57);
         const V x56 = io.in(56);
@@ -109,9 +113,9 @@ struct RealForwardGraph<61> {
         const V t7 = x57 - x56;
         const V x9 = io.in(9);
         const V t8 = t6 + x9;
-        const V t9 = c0 * t6;
+        const V t9 = c[-12] * t6;
         const V t10 = x9 - t9;
-        const V t11 = c1 * t7;
+        const V t11 = c[-11] * t7;
         // real block of 3, multiplier 2
         const V x25 = io.in(25);
         const V x16 = io.in(16);
@@ -119,9 +123,9 @@ struct RealForwardGraph<61> {
         const V t13 = x25 - x16;
         const V x20 = io.in(20);
         const V t14 = t12 + x20;
-        const V t15 = c0 * t12;
+        const V t15 = c[-12] * t12;
         const V t16 = x20 - t15;
-        const V t17 = c1 * t13;
+        const V t17 = c[-11] * t13;
         // real block of 3, multiplier 2
         const V x42 = io.in(42);
         const V x22 = io.in(22);
@@ -129,9 +133,9 @@ struct RealForwardGraph<61> {
         const V t19 = x42 - x22;
         const V x58 = io.in(58);
         const V t20 = t18 + x58;
-        const V t21 = c0 * t18;
+        const V t21 = c[-12] * t18;
         const V t22 = x58 - t21;
-        const V t23 = c1 * t19;
+        const V t23 = c[-11] * t19;
         // real block of 3, multiplier 2
         const V x12 = io.in(12);
         const V x15 = io.in(15);
@@ -139,9 +143,9 @@ struct RealForwardGraph<61> {
         const V t25 = x12 - x15;
         const V x34 = io.in(34);
         const V t26 = t24 + x34;
-        const V t27 = c0 * t24;
+        const V t27 = c[-12] * t24;
         const V t28 = x34 - t27;
-        const V t29 = c1 * t25;
+        const V t29 = c[-11] * t25;
         // real block of 5, multiplier 2
         const V t30 = t8 + t26;
         const V t31 = t8 - t26;
@@ -149,19 +153,19 @@ struct RealForwardGraph<61> {
         const V t33 = t20 - t14;
         const V t34 = t30 + t32;
         const V t35 = t34 + t2;
-        const V t36 = c2 * t30;
+        const V t36 = c[-16] * t30;
         const V t37 = t2 - t36;
-        const V t38 = c3 * t32;
+        const V t38 = c[-15] * t32;
         const V t39 = t37 + t38;
-        const V t40 = c4 * t31;
-        const V t41 = c5 * t33;
+        const V t40 = c[-14] * t31;
+        const V t41 = c[-13] * t33;
         const V t42 = t40 + t41;
-        const V t43 = c3 * t30;
-        const V t44 = c2 * t32;
+        const V t43 = c[-15] * t30;
+        const V t44 = c[-16] * t32;
         const V t45 = t43 - t44;
         const V t46 = t45 + t2;
-        const V t47 = c5 * t31;
-        const V t48 = c4 * t33;
+        const V t47 = c[-13] * t31;
+        const V t48 = c[-14] * t33;
         const V t49 = t47 - t48;
         // complex block of 5, multiplier 2
         const V t50 = t10 + t28;
@@ -176,37 +180,37 @@ struct RealForwardGraph<61> {
         const V t59 = t51 + t55;
         const V t60 = t58 + t4;
         const V t61 = t59 + t5;
-        const V t62 = c3 * t50;
-        const V t63 = c2 * t54;
+        const V t62 = c[-15] * t50;
+        const V t63 = c[-16] * t54;
         const V t64 = t62 - t63;
         const V t65 = t64 + t4;
-        const V t66 = c3 * t51;
-        const V t67 = c2 * t55;
+        const V t66 = c[-15] * t51;
+        const V t67 = c[-16] * t55;
         const V t68 = t66 - t67;
         const V t69 = t68 + t5;
-        const V t70 = c5 * t52;
-        const V t71 = c4 * t56;
+        const V t70 = c[-13] * t52;
+        const V t71 = c[-14] * t56;
         const V t72 = t70 - t71;
-        const V t73 = c5 * t53;
-        const V t74 = c4 * t57;
+        const V t73 = c[-13] * t53;
+        const V t74 = c[-14] * t57;
         const V t75 = t73 - t74;
         const V t76 = t65 + t75;
         const V t77 = t69 - t72;
         const V t78 = t65 - t75;
         const V t79 = t69 + t72;
-        const V t80 = c2 * t50;
+        const V t80 = c[-16] * t50;
         const V t81 = t4 - t80;
-        const V t82 = c3 * t54;
+        const V t82 = c[-15] * t54;
         const V t83 = t81 + t82;
-        const V t84 = c2 * t51;
+        const V t84 = c[-16] * t51;
         const V t85 = t5 - t84;
-        const V t86 = c3 * t55;
+        const V t86 = c[-15] * t55;
         const V t87 = t85 + t86;
-        const V t88 = c4 * t52;
-        const V t89 = c5 * t56;
+        const V t88 = c[-14] * t52;
+        const V t89 = c[-13] * t56;
         const V t90 = t88 + t89;
-        const V t91 = c4 * t53;
-        const V t92 = c5 * t57;
+        const V t91 = c[-14] * t53;
+        const V t92 = c[-13] * t57;
         const V t93 = t91 + t92;
         const V t94 = t83 + t93;
         const V t95 = t87 - t90;
@@ -219,9 +223,9 @@ struct RealForwardGraph<61> {
         const V t99 = x29 - x21;
         const V x11 = io.in(11);
         const V t100 = t98 + x11;
-        const V t101 = c0 * t98;
+        const V t101 = c[-12] * t98;
         const V t102 = x11 - t101;
-        const V t103 = c1 * t99;
+        const V t103 = c[-11] * t99;
         // real block of 3, multiplier 2
         const V x17 = io.in(17);
         const V x6 = io.in(6);
@@ -229,9 +233,9 @@ struct RealForwardGraph<61> {
         const V t105 = x17 - x6;
         const V x38 = io.in(38);
         const V t106 = t104 + x38;
-        const V t107 = c0 * t104;
+        const V t107 = c[-12] * t104;
         const V t108 = x38 - t107;
-        const V t109 = c1 * t105;
+        const V t109 = c[-11] * t105;
         // real block of 3, multiplier 2
         const V x31 = io.in(31);
         const V x54 = io.in(54);
@@ -239,9 +243,9 @@ struct RealForwardGraph<61> {
         const V t111 = x31 - x54;
         const V x37 = io.in(37);
         const V t112 = t110 + x37;
-        const V t113 = c0 * t110;
+        const V t113 = c[-12] * t110;
         const V t114 = x37 - t113;
-        const V t115 = c1 * t111;
+        const V t115 = c[-11] * t111;
         // real block of 3, multiplier 2
         const V x35 = io.in(35);
         const V x59 = io.in(59);
@@ -249,9 +253,9 @@ struct RealForwardGraph<61> {
         const V t117 = x35 - x59;
         const V x28 = io.in(28);
         const V t118 = t116 + x28;
-        const V t119 = c0 * t116;
+        const V t119 = c[-12] * t116;
         const V t120 = x28 - t119;
-        const V t121 = c1 * t117;
+        const V t121 = c[-11] * t117;
         // real block of 3, multiplier 2
         const V x10 = io.in(10);
         const V x43 = io.in(43);
@@ -259,9 +263,9 @@ struct RealForwardGraph<61> {
         const V t123 = x10 - x43;
         const V x8 = io.in(8);
         const V t124 = t122 + x8;
-        const V t125 = c0 * t122;
+        const V t125 = c[-12] * t122;
         const V t126 = x8 - t125;
-        const V t127 = c1 * t123;
+        const V t127 = c[-11] * t123;
         // real block of 5, multiplier 2
         const V t128 = t106 + t124;
         const V t129 = t106 - t124;
@@ -269,19 +273,19 @@ struct RealForwardGraph<61> {
         const V t131 = t118 - t112;
         const V t132 = t128 + t130;
         const V t133 = t132 + t100;
-        const V t134 = c2 * t128;
+        const V t134 = c[-16] * t128;
         const V t135 = t100 - t134;
-        const V t136 = c3 * t130;
+        const V t136 = c[-15] * t130;
         const V t137 = t135 + t136;
-        const V t138 = c4 * t129;
-        const V t139 = c5 * t131;
+        const V t138 = c[-14] * t129;
+        const V t139 = c[-13] * t131;
         const V t140 = t138 + t139;
-        const V t141 = c3 * t128;
-        const V t142 = c2 * t130;
+        const V t141 = c[-15] * t128;
+        const V t142 = c[-16] * t130;
         const V t143 = t141 - t142;
         const V t144 = t143 + t100;
-        const V t145 = c5 * t129;
-        const V t146 = c4 * t131;
+        const V t145 = c[-13] * t129;
+        const V t146 = c[-14] * t131;
         const V t147 = t145 - t146;
         // complex block of 5, multiplier 2
         const V t148 = t108 + t126;
@@ -296,37 +300,37 @@ struct RealForwardGraph<61> {
         const V t157 = t149 + t153;
         const V t158 = t156 + t102;
         const V t159 = t157 + t103;
-        const V t160 = c3 * t148;
-        const V t161 = c2 * t152;
+        const V t160 = c[-15] * t148;
+        const V t161 = c[-16] * t152;
         const V t162 = t160 - t161;
         const V t163 = t162 + t102;
-        const V t164 = c3 * t149;
-        const V t165 = c2 * t153;
+        const V t164 = c[-15] * t149;
+        const V t165 = c[-16] * t153;
         const V t166 = t164 - t165;
         const V t167 = t166 + t103;
-        const V t168 = c5 * t150;
-        const V t169 = c4 * t154;
+        const V t168 = c[-13] * t150;
+        const V t169 = c[-14] * t154;
         const V t170 = t168 - t169;
-        const V t171 = c5 * t151;
-        const V t172 = c4 * t155;
+        const V t171 = c[-13] * t151;
+        const V t172 = c[-14] * t155;
         const V t173 = t171 - t172;
         const V t174 = t163 + t173;
         const V t175 = t167 - t170;
         const V t176 = t163 - t173;
         const V t177 = t167 + t170;
-        const V t178 = c2 * t148;
+        const V t178 = c[-16] * t148;
         const V t179 = t102 - t178;
-        const V t180 = c3 * t152;
+        const V t180 = c[-15] * t152;
         const V t181 = t179 + t180;
-        const V t182 = c2 * t149;
+        const V t182 = c[-16] * t149;
         const V t183 = t103 - t182;
-        const V t184 = c3 * t153;
+        const V t184 = c[-15] * t153;
         const V t185 = t183 + t184;
-        const V t186 = c4 * t150;
-        const V t187 = c5 * t154;
+        const V t186 = c[-14] * t150;
+        const V t187 = c[-13] * t154;
         const V t188 = t186 + t187;
-        const V t189 = c4 * t151;
-        const V t190 = c5 * t155;
+        const V t189 = c[-14] * t151;
+        const V t190 = c[-13] * t155;
         const V t191 = t189 + t190;
         const V t192 = t181 + t191;
         const V t193 = t185 - t188;
@@ -339,9 +343,9 @@ struct RealForwardGraph<61> {
         const V t197 = x14 - x48;
         const V x60 = io.in(60);
         const V t198 = t196 + x60;
-        const V t199 = c0 * t196;
+        const V t199 = c[-12] * t196;
         const V t200 = x60 - t199;
-        const V t201 = c1 * t197;
+        const V t201 = c[-11] * t197;
         // real block of 3, multiplier 2
         const V x4 = io.in(4);
         const V x5 = io.in(5);
@@ -349,9 +353,9 @@ struct RealForwardGraph<61> {
         const V t203 = x4 - x5;
         const V x52 = io.in(52);
         const V t204 = t202 + x52;
-        const V t205 = c0 * t202;
+        const V t205 = c[-12] * t202;
         const V t206 = x52 - t205;
-        const V t207 = c1 * t203;
+        const V t207 = c[-11] * t203;
         // real block of 3, multiplier 2
         const V x36 = io.in(36);
         const V x45 = io.in(45);
@@ -359,9 +363,9 @@ struct RealForwardGraph<61> {
         const V t209 = x36 - x45;
         const V x41 = io.in(41);
         const V t210 = t208 + x41;
-        const V t211 = c0 * t208;
+        const V t211 = c[-12] * t208;
         const V t212 = x41 - t211;
-        const V t213 = c1 * t209;
+        const V t213 = c[-11] * t209;
         // real block of 3, multiplier 2
         const V x19 = io.in(19);
         const V x39 = io.in(39);
@@ -369,9 +373,9 @@ struct RealForwardGraph<61> {
         const V t215 = x19 - x39;
         const V x3 = io.in(3);
         const V t216 = t214 + x3;
-        const V t217 = c0 * t214;
+        const V t217 = c[-12] * t214;
         const V t218 = x3 - t217;
-        const V t219 = c1 * t215;
+        const V t219 = c[-11] * t215;
         // real block of 3, multiplier 2
         const V x49 = io.in(49);
         const V x46 = io.in(46);
@@ -379,9 +383,9 @@ struct RealForwardGraph<61> {
         const V t221 = x49 - x46;
         const V x27 = io.in(27);
         const V t222 = t220 + x27;
-        const V t223 = c0 * t220;
+        const V t223 = c[-12] * t220;
         const V t224 = x27 - t223;
-        const V t225 = c1 * t221;
+        const V t225 = c[-11] * t221;
         // real block of 5, multiplier 2
         const V t226 = t204 + t222;
         const V t227 = t204 - t222;
@@ -389,19 +393,19 @@ struct RealForwardGraph<61> {
         const V t229 = t216 - t210;
         const V t230 = t226 + t228;
         const V t231 = t230 + t198;
-        const V t232 = c2 * t226;
+        const V t232 = c[-16] * t226;
         const V t233 = t198 - t232;
-        const V t234 = c3 * t228;
+        const V t234 = c[-15] * t228;
         const V t235 = t233 + t234;
-        const V t236 = c4 * t227;
-        const V t237 = c5 * t229;
+        const V t236 = c[-14] * t227;
+        const V t237 = c[-13] * t229;
         const V t238 = t236 + t237;
-        const V t239 = c3 * t226;
-        const V t240 = c2 * t228;
+        const V t239 = c[-15] * t226;
+        const V t240 = c[-16] * t228;
         const V t241 = t239 - t240;
         const V t242 = t241 + t198;
-        const V t243 = c5 * t227;
-        const V t244 = c4 * t229;
+        const V t243 = c[-13] * t227;
+        const V t244 = c[-14] * t229;
         const V t245 = t243 - t244;
         // complex block of 5, multiplier 2
         const V t246 = t206 + t224;
@@ -416,37 +420,37 @@ struct RealForwardGraph<61> {
         const V t255 = t247 + t251;
         const V t256 = t254 + t200;
         const V t257 = t255 + t201;
-        const V t258 = c3 * t246;
-        const V t259 = c2 * t250;
+        const V t258 = c[-15] * t246;
+        const V t259 = c[-16] * t250;
         const V t260 = t258 - t259;
         const V t261 = t260 + t200;
-        const V t262 = c3 * t247;
-        const V t263 = c2 * t251;
+        const V t262 = c[-15] * t247;
+        const V t263 = c[-16] * t251;
         const V t264 = t262 - t263;
         const V t265 = t264 + t201;
-        const V t266 = c5 * t248;
-        const V t267 = c4 * t252;
+        const V t266 = c[-13] * t248;
+        const V t267 = c[-14] * t252;
         const V t268 = t266 - t267;
-        const V t269 = c5 * t249;
-        const V t270 = c4 * t253;
+        const V t269 = c[-13] * t249;
+        const V t270 = c[-14] * t253;
         const V t271 = t269 - t270;
         const V t272 = t261 + t271;
         const V t273 = t265 - t268;
         const V t274 = t261 - t271;
         const V t275 = t265 + t268;
-        const V t276 = c2 * t246;
+        const V t276 = c[-16] * t246;
         const V t277 = t200 - t276;
-        const V t278 = c3 * t250;
+        const V t278 = c[-15] * t250;
         const V t279 = t277 + t278;
-        const V t280 = c2 * t247;
+        const V t280 = c[-16] * t247;
         const V t281 = t201 - t280;
-        const V t282 = c3 * t251;
+        const V t282 = c[-15] * t251;
         const V t283 = t281 + t282;
-        const V t284 = c4 * t248;
-        const V t285 = c5 * t252;
+        const V t284 = c[-14] * t248;
+        const V t285 = c[-13] * t252;
         const V t286 = t284 + t285;
-        const V t287 = c4 * t249;
-        const V t288 = c5 * t253;
+        const V t287 = c[-14] * t249;
+        const V t288 = c[-13] * t253;
         const V t289 = t287 + t288;
         const V t290 = t279 + t289;
         const V t291 = t283 - t286;
@@ -459,9 +463,9 @@ struct RealForwardGraph<61> {
         const V t295 = x32 - x40;
         const V x50 = io.in(50);
         const V t296 = t294 + x50;
-        const V t297 = c0 * t294;
+        const V t297 = c[-12] * t294;
         const V t298 = x50 - t297;
-        const V t299 = c1 * t295;
+        const V t299 = c[-11] * t295;
         // real block of 3, multiplier 2
         const V x44 = io.in(44);
         const V x55 = io.in(55);
@@ -469,9 +473,9 @@ struct RealForwardGraph<61> {
         const V t301 = x44 - x55;
         const V x23 = io.in(23);
         const V t302 = t300 + x23;
-        const V t303 = c0 * t300;
+        const V t303 = c[-12] * t300;
         const V t304 = x23 - t303;
-        const V t305 = c1 * t301;
+        const V t305 = c[-11] * t301;
         // real block of 3, multiplier 2
         const V x30 = io.in(30);
         const V x7 = io.in(7);
@@ -479,9 +483,9 @@ struct RealForwardGraph<61> {
         const V t307 = x30 - x7;
         const V x24 = io.in(24);
         const V t308 = t306 + x24;
-        const V t309 = c0 * t306;
+        const V t309 = c[-12] * t306;
         const V t310 = x24 - t309;
-        const V t311 = c1 * t307;
+        const V t311 = c[-11] * t307;
         // real block of 3, multiplier 2
         const V x26 = io.in(26);
         const V x2 = io.in(2);
@@ -489,9 +493,9 @@ struct RealForwardGraph<61> {
         const V t313 = x26 - x2;
         const V x33 = io.in(33);
         const V t314 = t312 + x33;
-        const V t315 = c0 * t312;
+        const V t315 = c[-12] * t312;
         const V t316 = x33 - t315;
-        const V t317 = c1 * t313;
+        const V t317 = c[-11] * t313;
         // real block of 3, multiplier 2
         const V x51 = io.in(51);
         const V x18 = io.in(18);
@@ -499,9 +503,9 @@ struct RealForwardGraph<61> {
         const V t319 = x51 - x18;
         const V x53 = io.in(53);
         const V t320 = t318 + x53;
-        const V t321 = c0 * t318;
+        const V t321 = c[-12] * t318;
         const V t322 = x53 - t321;
-        const V t323 = c1 * t319;
+        const V t323 = c[-11] * t319;
         // real block of 5, multiplier 2
         const V t324 = t302 + t320;
         const V t325 = t302 - t320;
@@ -509,19 +513,19 @@ struct RealForwardGraph<61> {
         const V t327 = t314 - t308;
         const V t328 = t324 + t326;
         const V t329 = t328 + t296;
-        const V t330 = c2 * t324;
+        const V t330 = c[-16] * t324;
         const V t331 = t296 - t330;
-        const V t332 = c3 * t326;
+        const V t332 = c[-15] * t326;
         const V t333 = t331 + t332;
-        const V t334 = c4 * t325;
-        const V t335 = c5 * t327;
+        const V t334 = c[-14] * t325;
+        const V t335 = c[-13] * t327;
         const V t336 = t334 + t335;
-        const V t337 = c3 * t324;
-        const V t338 = c2 * t326;
+        const V t337 = c[-15] * t324;
+        const V t338 = c[-16] * t326;
         const V t339 = t337 - t338;
         const V t340 = t339 + t296;
-        const V t341 = c5 * t325;
-        const V t342 = c4 * t327;
+        const V t341 = c[-13] * t325;
+        const V t342 = c[-14] * t327;
         const V t343 = t341 - t342;
         // complex block of 5, multiplier 2
         const V t344 = t304 + t322;
@@ -536,37 +540,37 @@ struct RealForwardGraph<61> {
         const V t353 = t345 + t349;
         const V t354 = t352 + t298;
         const V t355 = t353 + t299;
-        const V t356 = c3 * t344;
-        const V t357 = c2 * t348;
+        const V t356 = c[-15] * t344;
+        const V t357 = c[-16] * t348;
         const V t358 = t356 - t357;
         const V t359 = t358 + t298;
-        const V t360 = c3 * t345;
-        const V t361 = c2 * t349;
+        const V t360 = c[-15] * t345;
+        const V t361 = c[-16] * t349;
         const V t362 = t360 - t361;
         const V t363 = t362 + t299;
-        const V t364 = c5 * t346;
-        const V t365 = c4 * t350;
+        const V t364 = c[-13] * t346;
+        const V t365 = c[-14] * t350;
         const V t366 = t364 - t365;
-        const V t367 = c5 * t347;
-        const V t368 = c4 * t351;
+        const V t367 = c[-13] * t347;
+        const V t368 = c[-14] * t351;
         const V t369 = t367 - t368;
         const V t370 = t359 + t369;
         const V t371 = t363 - t366;
         const V t372 = t359 - t369;
         const V t373 = t363 + t366;
-        const V t374 = c2 * t344;
+        const V t374 = c[-16] * t344;
         const V t375 = t298 - t374;
-        const V t376 = c3 * t348;
+        const V t376 = c[-15] * t348;
         const V t377 = t375 + t376;
-        const V t378 = c2 * t345;
+        const V t378 = c[-16] * t345;
         const V t379 = t299 - t378;
-        const V t380 = c3 * t349;
+        const V t380 = c[-15] * t349;
         const V t381 = t379 + t380;
-        const V t382 = c4 * t346;
-        const V t383 = c5 * t350;
+        const V t382 = c[-14] * t346;
+        const V t383 = c[-13] * t350;
         const V t384 = t382 + t383;
-        const V t385 = c4 * t347;
-        const V t386 = c5 * t351;
+        const V t385 = c[-14] * t347;
+        const V t386 = c[-13] * t351;
         const V t387 = t385 + t386;
         const V t388 = t377 + t387;
         const V t389 = t381 - t384;
@@ -725,183 +729,183 @@ struct RealForwardGraph<61> {
         const V x0 = io.in(0);
         const V t510 = x0 + t396;
         io.re(0, t510);
-        const V t511 = c6 * t396;
+        const V t511 = c[52] * t396;
         const V t512 = x0 - t511;
-        const V t513 = c7 * t461;
-        const V t514 = c8 * t460;
+        const V t513 = c[-10] * t461;
+        const V t514 = c[-9] * t460;
         const V t515 = t514 + t513;
-        const V t516 = c7 * t460;
-        const V t517 = c8 * t461;
+        const V t516 = c[-10] * t460;
+        const V t517 = c[-9] * t461;
         const V t518 = t517 - t516;
-        const V t519 = c9 * t505;
-        const V t520 = c10 * t504;
+        const V t519 = c[-8] * t505;
+        const V t520 = c[-7] * t504;
         const V t521 = t520 + t519;
-        const V t522 = c9 * t504;
-        const V t523 = c10 * t505;
+        const V t522 = c[-8] * t504;
+        const V t523 = c[-7] * t505;
         const V t524 = t522 - t523;
-        const V t525 = c11 * t445;
-        const V t526 = c12 * t444;
+        const V t525 = c[-6] * t445;
+        const V t526 = c[-5] * t444;
         const V t527 = t526 + t525;
-        const V t528 = c11 * t444;
-        const V t529 = c12 * t445;
+        const V t528 = c[-6] * t444;
+        const V t529 = c[-5] * t445;
         const V t530 = t528 - t529;
-        const V t531 = c13 * t407;
-        const V t532 = c14 * t406;
+        const V t531 = c[-4] * t407;
+        const V t532 = c[-3] * t406;
         const V t533 = t531 - t532;
-        const V t534 = c13 * t406;
-        const V t535 = c14 * t407;
+        const V t534 = c[-4] * t406;
+        const V t535 = c[-3] * t407;
         const V t536 = t535 + t534;
-        const V t537 = c15 * t477;
-        const V t538 = c16 * t476;
+        const V t537 = c[-2] * t477;
+        const V t538 = c[-1] * t476;
         const V t539 = t538 + t537;
-        const V t540 = c15 * t476;
-        const V t541 = c16 * t477;
+        const V t540 = c[-2] * t476;
+        const V t541 = c[-1] * t477;
         const V t542 = t541 - t540;
-        const V t543 = c17 * t489;
-        const V t544 = c18 * t488;
+        const V t543 = c[0] * t489;
+        const V t544 = c[1] * t488;
         const V t545 = t544 + t543;
-        const V t546 = c17 * t488;
-        const V t547 = c18 * t489;
+        const V t546 = c[0] * t488;
+        const V t547 = c[1] * t489;
         const V t548 = t546 - t547;
-        const V t549 = c19 * t429;
-        const V t550 = c20 * t428;
+        const V t549 = c[2] * t429;
+        const V t550 = c[3] * t428;
         const V t551 = t549 - t550;
-        const V t552 = c19 * t428;
-        const V t553 = c20 * t429;
+        const V t552 = c[2] * t428;
+        const V t553 = c[3] * t429;
         const V t554 = t553 + t552;
-        const V t555 = c21 * t423;
-        const V t556 = c22 * t422;
+        const V t555 = c[4] * t423;
+        const V t556 = c[5] * t422;
         const V t557 = t556 - t555;
-        const V t558 = c21 * t422;
-        const V t559 = c22 * t423;
+        const V t558 = c[4] * t422;
+        const V t559 = c[5] * t423;
         const V t560 = t559 + t558;
-        const V t561 = c23 * t493;
-        const V t562 = c24 * t492;
+        const V t561 = c[6] * t493;
+        const V t562 = c[7] * t492;
         const V t563 = t562 - t561;
-        const V t564 = c23 * t492;
-        const V t565 = c24 * t493;
+        const V t564 = c[6] * t492;
+        const V t565 = c[7] * t493;
         const V t566 = t565 + t564;
-        const V t567 = c25 * t473;
-        const V t568 = c26 * t472;
+        const V t567 = c[53] * t473;
+        const V t568 = c[54] * t472;
         const V t569 = t568 + t567;
-        const V t570 = c27 * t413;
-        const V t571 = c28 * t412;
+        const V t570 = c[8] * t413;
+        const V t571 = c[9] * t412;
         const V t572 = t571 + t570;
-        const V t573 = c27 * t412;
-        const V t574 = c28 * t413;
+        const V t573 = c[8] * t412;
+        const V t574 = c[9] * t413;
         const V t575 = t573 - t574;
-        const V t576 = c29 * t439;
-        const V t577 = c30 * t438;
+        const V t576 = c[10] * t439;
+        const V t577 = c[11] * t438;
         const V t578 = t576 - t577;
-        const V t579 = c29 * t438;
-        const V t580 = c30 * t439;
+        const V t579 = c[10] * t438;
+        const V t580 = c[11] * t439;
         const V t581 = t580 + t579;
-        const V t582 = c31 * t509;
-        const V t583 = c32 * t508;
+        const V t582 = c[12] * t509;
+        const V t583 = c[13] * t508;
         const V t584 = t582 - t583;
-        const V t585 = c31 * t508;
-        const V t586 = c32 * t509;
+        const V t585 = c[12] * t508;
+        const V t586 = c[13] * t509;
         const V t587 = t586 + t585;
-        const V t588 = c33 * t457;
-        const V t589 = c34 * t456;
+        const V t588 = c[14] * t457;
+        const V t589 = c[15] * t456;
         const V t590 = t588 - t589;
-        const V t591 = c33 * t456;
-        const V t592 = c34 * t457;
+        const V t591 = c[14] * t456;
+        const V t592 = c[15] * t457;
         const V t593 = t592 + t591;
-        const V t594 = c35 * t395;
-        const V t595 = c36 * t393;
+        const V t594 = c[16] * t395;
+        const V t595 = c[17] * t393;
         const V t596 = t594 - t595;
-        const V t597 = c35 * t393;
-        const V t598 = c36 * t395;
+        const V t597 = c[16] * t393;
+        const V t598 = c[17] * t395;
         const V t599 = t598 + t597;
-        const V t600 = c37 * t455;
-        const V t601 = c38 * t454;
+        const V t600 = c[18] * t455;
+        const V t601 = c[19] * t454;
         const V t602 = t601 + t600;
-        const V t603 = c37 * t454;
-        const V t604 = c38 * t455;
+        const V t603 = c[18] * t454;
+        const V t604 = c[19] * t455;
         const V t605 = t603 - t604;
-        const V t606 = c39 * t507;
-        const V t607 = c40 * t506;
+        const V t606 = c[20] * t507;
+        const V t607 = c[21] * t506;
         const V t608 = t607 + t606;
-        const V t609 = c39 * t506;
-        const V t610 = c40 * t507;
+        const V t609 = c[20] * t506;
+        const V t610 = c[21] * t507;
         const V t611 = t609 - t610;
-        const V t612 = c41 * t441;
-        const V t613 = c42 * t440;
+        const V t612 = c[22] * t441;
+        const V t613 = c[23] * t440;
         const V t614 = t613 - t612;
-        const V t615 = c41 * t440;
-        const V t616 = c42 * t441;
+        const V t615 = c[22] * t440;
+        const V t616 = c[23] * t441;
         const V t617 = t616 + t615;
-        const V t618 = c43 * t411;
-        const V t619 = c44 * t410;
+        const V t618 = c[24] * t411;
+        const V t619 = c[25] * t410;
         const V t620 = t618 - t619;
-        const V t621 = c43 * t410;
-        const V t622 = c44 * t411;
+        const V t621 = c[24] * t410;
+        const V t622 = c[25] * t411;
         const V t623 = t622 + t621;
-        const V t624 = c45 * t471;
-        const V t625 = c46 * t470;
+        const V t624 = c[55] * t471;
+        const V t625 = c[56] * t470;
         const V t626 = t625 + t624;
-        const V t627 = c47 * t491;
-        const V t628 = c48 * t490;
+        const V t627 = c[26] * t491;
+        const V t628 = c[27] * t490;
         const V t629 = t628 + t627;
-        const V t630 = c47 * t490;
-        const V t631 = c48 * t491;
+        const V t630 = c[26] * t490;
+        const V t631 = c[27] * t491;
         const V t632 = t630 - t631;
-        const V t633 = c49 * t425;
-        const V t634 = c50 * t424;
+        const V t633 = c[28] * t425;
+        const V t634 = c[29] * t424;
         const V t635 = t633 - t634;
-        const V t636 = c49 * t424;
-        const V t637 = c50 * t425;
+        const V t636 = c[28] * t424;
+        const V t637 = c[29] * t425;
         const V t638 = t637 + t636;
-        const V t639 = c51 * t427;
-        const V t640 = c52 * t426;
+        const V t639 = c[30] * t427;
+        const V t640 = c[31] * t426;
         const V t641 = t639 - t640;
-        const V t642 = c51 * t426;
-        const V t643 = c52 * t427;
+        const V t642 = c[30] * t426;
+        const V t643 = c[31] * t427;
         const V t644 = t643 + t642;
-        const V t645 = c53 * t487;
-        const V t646 = c54 * t486;
+        const V t645 = c[32] * t487;
+        const V t646 = c[33] * t486;
         const V t647 = t646 + t645;
-        const V t648 = c53 * t486;
-        const V t649 = c54 * t487;
+        const V t648 = c[32] * t486;
+        const V t649 = c[33] * t487;
         const V t650 = t649 - t648;
-        const V t651 = c55 * t475;
-        const V t652 = c56 * t474;
+        const V t651 = c[34] * t475;
+        const V t652 = c[35] * t474;
         const V t653 = t651 - t652;
-        const V t654 = c55 * t474;
-        const V t655 = c56 * t475;
+        const V t654 = c[34] * t474;
+        const V t655 = c[35] * t475;
         const V t656 = t655 + t654;
-        const V t657 = c57 * t409;
-        const V t658 = c58 * t408;
+        const V t657 = c[36] * t409;
+        const V t658 = c[37] * t408;
         const V t659 = t657 - t658;
-        const V t660 = c57 * t408;
-        const V t661 = c58 * t409;
+        const V t660 = c[36] * t408;
+        const V t661 = c[37] * t409;
         const V t662 = t661 + t660;
-        const V t663 = c59 * t443;
-        const V t664 = c60 * t442;
+        const V t663 = c[38] * t443;
+        const V t664 = c[39] * t442;
         const V t665 = t663 - t664;
-        const V t666 = c59 * t442;
-        const V t667 = c60 * t443;
+        const V t666 = c[38] * t442;
+        const V t667 = c[39] * t443;
         const V t668 = t667 + t666;
-        const V t669 = c61 * t503;
-        const V t670 = c62 * t502;
+        const V t669 = c[40] * t503;
+        const V t670 = c[41] * t502;
         const V t671 = t670 - t669;
-        const V t672 = c61 * t502;
-        const V t673 = c62 * t503;
+        const V t672 = c[40] * t502;
+        const V t673 = c[41] * t503;
         const V t674 = t673 + t672;
-        const V t675 = c63 * t459;
-        const V t676 = c64 * t458;
+        const V t675 = c[42] * t459;
+        const V t676 = c[43] * t458;
         const V t677 = t675 - t676;
-        const V t678 = c63 * t458;
-        const V t679 = c64 * t459;
+        const V t678 = c[42] * t458;
+        const V t679 = c[43] * t459;
         const V t680 = t679 + t678;
-        const V t681 = c65 * t397;
+        const V t681 = c[57] * t397;
         // spectrum block of 3
         const V t682 = t512 - t626;
-        const V t683 = c0 * t626;
+        const V t683 = c[-12] * t626;
         const V t684 = t683 + t512;
-        const V t685 = c66 * t470;
-        const V t686 = c67 * t471;
+        const V t685 = c[58] * t470;
+        const V t686 = c[59] * t471;
         const V t687 = t685 - t686;
         const V t688 = t684 - t687;
         const V t689 = t684 + t687;
@@ -912,12 +916,12 @@ struct RealForwardGraph<61> {
         const V t693 = t659 - t590;
         const V t694 = t690 + t548;
         const V t695 = t691 + t545;
-        const V t696 = c0 * t690;
+        const V t696 = c[-12] * t690;
         const V t697 = t548 - t696;
-        const V t698 = c0 * t691;
+        const V t698 = c[-12] * t691;
         const V t699 = t545 - t698;
-        const V t700 = c1 * t692;
-        const V t701 = c1 * t693;
+        const V t700 = c[-11] * t692;
+        const V t701 = c[-11] * t693;
         const V t702 = t697 + t701;
         const V t703 = t699 - t700;
         const V t704 = t697 - t701;
@@ -929,12 +933,12 @@ struct RealForwardGraph<61> {
         const V t709 = t671 - t557;
         const V t710 = t706 + t581;
         const V t711 = t707 + t578;
-        const V t712 = c0 * t706;
+        const V t712 = c[-12] * t706;
         const V t713 = t581 - t712;
-        const V t714 = c0 * t707;
+        const V t714 = c[-12] * t707;
         const V t715 = t578 - t714;
-        const V t716 = c1 * t708;
-        const V t717 = c1 * t709;
+        const V t716 = c[-11] * t708;
+        const V t717 = c[-11] * t709;
         const V t718 = t713 + t717;
         const V t719 = t715 - t716;
         const V t720 = t713 - t717;
@@ -946,12 +950,12 @@ struct RealForwardGraph<61> {
         const V t725 = t635 - t521;
         const V t726 = t722 + t617;
         const V t727 = t723 + t614;
-        const V t728 = c0 * t722;
+        const V t728 = c[-12] * t722;
         const V t729 = t728 - t617;
-        const V t730 = c0 * t723;
+        const V t730 = c[-12] * t723;
         const V t731 = t614 - t730;
-        const V t732 = c1 * t724;
-        const V t733 = c1 * t725;
+        const V t732 = c[-11] * t724;
+        const V t733 = c[-11] * t725;
         const V t734 = t729 + t733;
         const V t735 = t731 - t732;
         const V t736 = t729 - t733;
@@ -963,64 +967,64 @@ struct RealForwardGraph<61> {
         const V t741 = t602 - t533;
         const V t742 = t738 + t650;
         const V t743 = t739 + t647;
-        const V t744 = c0 * t738;
+        const V t744 = c[-12] * t738;
         const V t745 = t650 - t744;
-        const V t746 = c0 * t739;
+        const V t746 = c[-12] * t739;
         const V t747 = t647 - t746;
-        const V t748 = c1 * t740;
-        const V t749 = c1 * t741;
+        const V t748 = c[-11] * t740;
+        const V t749 = c[-11] * t741;
         const V t750 = t745 + t749;
         const V t751 = t747 + t748;
         const V t752 = t745 - t749;
         const V t753 = t747 - t748;
         // spectrum block of 3
         const V t754 = t569 + t681;
-        const V t755 = c0 * t569;
+        const V t755 = c[-12] * t569;
         const V t756 = t681 - t755;
-        const V t757 = c68 * t472;
-        const V t758 = c69 * t473;
+        const V t757 = c[60] * t472;
+        const V t758 = c[61] * t473;
         const V t759 = t757 - t758;
         const V t760 = t756 + t759;
         const V t761 = t756 - t759;
         // spectrum block of 5
         const V t762 = t711 + t743;
         const V t763 = t762 + t682;
-        const V t764 = c3 * t711;
-        const V t765 = c2 * t743;
+        const V t764 = c[-15] * t711;
+        const V t765 = c[-16] * t743;
         const V t766 = t764 - t765;
         const V t767 = t766 + t682;
-        const V t768 = c5 * t710;
-        const V t769 = c4 * t742;
+        const V t768 = c[-13] * t710;
+        const V t769 = c[-14] * t742;
         const V t770 = t768 + t769;
         const V t771 = t770 - t767;
         const V t772 = t767 + t770;
-        const V t773 = c2 * t711;
+        const V t773 = c[-16] * t711;
         const V t774 = t682 - t773;
-        const V t775 = c3 * t743;
+        const V t775 = c[-15] * t743;
         const V t776 = t774 + t775;
-        const V t777 = c4 * t710;
-        const V t778 = c5 * t742;
+        const V t777 = c[-14] * t710;
+        const V t778 = c[-13] * t742;
         const V t779 = t777 - t778;
         const V t780 = t776 - t779;
         const V t781 = t776 + t779;
         // spectrum block of 5
         const V t782 = t727 + t695;
         const V t783 = t782 + t754;
-        const V t784 = c3 * t727;
-        const V t785 = c2 * t695;
+        const V t784 = c[-15] * t727;
+        const V t785 = c[-16] * t695;
         const V t786 = t784 - t785;
         const V t787 = t786 + t754;
-        const V t788 = c5 * t726;
-        const V t789 = c4 * t694;
+        const V t788 = c[-13] * t726;
+        const V t789 = c[-14] * t694;
         const V t790 = t788 - t789;
         const V t791 = t787 - t790;
         const V t792 = t787 + t790;
-        const V t793 = c2 * t727;
+        const V t793 = c[-16] * t727;
         const V t794 = t754 - t793;
-        const V t795 = c3 * t695;
+        const V t795 = c[-15] * t695;
         const V t796 = t794 + t795;
-        const V t797 = c4 * t726;
-        const V t798 = c5 * t694;
+        const V t797 = c[-14] * t726;
+        const V t798 = c[-13] * t694;
         const V t799 = t797 + t798;
         const V t800 = t796 - t799;
         const V t801 = t796 + t799;
@@ -1052,42 +1056,42 @@ struct RealForwardGraph<61> {
         // spectrum block of 5
         const V t812 = t719 + t751;
         const V t813 = t812 + t688;
-        const V t814 = c3 * t719;
-        const V t815 = c2 * t751;
+        const V t814 = c[-15] * t719;
+        const V t815 = c[-16] * t751;
         const V t816 = t814 - t815;
         const V t817 = t816 + t688;
-        const V t818 = c5 * t718;
-        const V t819 = c4 * t750;
+        const V t818 = c[-13] * t718;
+        const V t819 = c[-14] * t750;
         const V t820 = t818 + t819;
         const V t821 = t817 - t820;
         const V t822 = t817 + t820;
-        const V t823 = c2 * t719;
+        const V t823 = c[-16] * t719;
         const V t824 = t688 - t823;
-        const V t825 = c3 * t751;
+        const V t825 = c[-15] * t751;
         const V t826 = t824 + t825;
-        const V t827 = c4 * t718;
-        const V t828 = c5 * t750;
+        const V t827 = c[-14] * t718;
+        const V t828 = c[-13] * t750;
         const V t829 = t827 - t828;
         const V t830 = t826 - t829;
         const V t831 = t826 + t829;
         // spectrum block of 5
         const V t832 = t735 + t703;
         const V t833 = t832 + t760;
-        const V t834 = c3 * t735;
-        const V t835 = c2 * t703;
+        const V t834 = c[-15] * t735;
+        const V t835 = c[-16] * t703;
         const V t836 = t834 - t835;
         const V t837 = t836 + t760;
-        const V t838 = c5 * t734;
-        const V t839 = c4 * t702;
+        const V t838 = c[-13] * t734;
+        const V t839 = c[-14] * t702;
         const V t840 = t838 + t839;
         const V t841 = t837 + t840;
         const V t842 = t837 - t840;
-        const V t843 = c2 * t735;
+        const V t843 = c[-16] * t735;
         const V t844 = t760 - t843;
-        const V t845 = c3 * t703;
+        const V t845 = c[-15] * t703;
         const V t846 = t844 + t845;
-        const V t847 = c4 * t734;
-        const V t848 = c5 * t702;
+        const V t847 = c[-14] * t734;
+        const V t848 = c[-13] * t702;
         const V t849 = t848 - t847;
         const V t850 = t846 - t849;
         const V t851 = t846 + t849;
@@ -1119,42 +1123,42 @@ struct RealForwardGraph<61> {
         // spectrum block of 5
         const V t862 = t721 + t753;
         const V t863 = t862 + t689;
-        const V t864 = c3 * t721;
-        const V t865 = c2 * t753;
+        const V t864 = c[-15] * t721;
+        const V t865 = c[-16] * t753;
         const V t866 = t864 - t865;
         const V t867 = t866 + t689;
-        const V t868 = c5 * t720;
-        const V t869 = c4 * t752;
+        const V t868 = c[-13] * t720;
+        const V t869 = c[-14] * t752;
         const V t870 = t868 + t869;
         const V t871 = t867 - t870;
         const V t872 = t867 + t870;
-        const V t873 = c2 * t721;
+        const V t873 = c[-16] * t721;
         const V t874 = t689 - t873;
-        const V t875 = c3 * t753;
+        const V t875 = c[-15] * t753;
         const V t876 = t874 + t875;
-        const V t877 = c4 * t720;
-        const V t878 = c5 * t752;
+        const V t877 = c[-14] * t720;
+        const V t878 = c[-13] * t752;
         const V t879 = t877 - t878;
         const V t880 = t876 - t879;
         const V t881 = t876 + t879;
         // spectrum block of 5
         const V t882 = t737 + t705;
         const V t883 = t882 + t761;
-        const V t884 = c3 * t737;
-        const V t885 = c2 * t705;
+        const V t884 = c[-15] * t737;
+        const V t885 = c[-16] * t705;
         const V t886 = t884 - t885;
         const V t887 = t886 + t761;
-        const V t888 = c5 * t736;
-        const V t889 = c4 * t704;
+        const V t888 = c[-13] * t736;
+        const V t889 = c[-14] * t704;
         const V t890 = t888 + t889;
         const V t891 = t887 + t890;
         const V t892 = t887 - t890;
-        const V t893 = c2 * t737;
+        const V t893 = c[-16] * t737;
         const V t894 = t761 - t893;
-        const V t895 = c3 * t705;
+        const V t895 = c[-15] * t705;
         const V t896 = t894 + t895;
-        const V t897 = c4 * t736;
-        const V t898 = c5 * t704;
+        const V t897 = c[-14] * t736;
+        const V t898 = c[-13] * t704;
         const V t899 = t898 - t897;
         const V t900 = t896 - t899;
         const V t901 = t896 + t899;
@@ -1189,11 +1193,11 @@ struct RealForwardGraph<61> {
         const V t914 = t515 + t677;
         const V t915 = t518 - t680;
         // mirrored skew block of 30
-        const V t916 = c70 * t914;
-        const V t917 = c71 * t915;
+        const V t916 = c[44] * t914;
+        const V t917 = c[45] * t915;
         const V t918 = t917 + t916;
-        const V t919 = c70 * t915;
-        const V t920 = c71 * t914;
+        const V t919 = c[44] * t915;
+        const V t920 = c[45] * t914;
         const V t921 = t919 - t920;
         // complex block of 2
         const V t922 = t665 - t527;
@@ -1201,11 +1205,11 @@ struct RealForwardGraph<61> {
         const V t924 = t527 + t665;
         const V t925 = t530 + t668;
         // mirrored skew block of 30
-        const V t926 = c3 * t924;
-        const V t927 = c5 * t925;
+        const V t926 = c[-15] * t924;
+        const V t927 = c[-13] * t925;
         const V t928 = t927 + t926;
-        const V t929 = c3 * t925;
-        const V t930 = c5 * t924;
+        const V t929 = c[-15] * t925;
+        const V t930 = c[-13] * t924;
         const V t931 = t929 - t930;
         // complex block of 2
         const V t932 = t653 - t539;
@@ -1213,8 +1217,8 @@ struct RealForwardGraph<61> {
         const V t934 = t539 + t653;
         const V t935 = t542 - t656;
         // mirrored skew block of 30
-        const V t936 = c0 * t934;
-        const V t937 = c1 * t935;
+        const V t936 = c[-12] * t934;
+        const V t937 = c[-11] * t935;
         const V t938 = t937 + t936;
         // complex block of 2
         const V t939 = t641 - t551;
@@ -1222,11 +1226,11 @@ struct RealForwardGraph<61> {
         const V t941 = t551 + t641;
         const V t942 = t554 + t644;
         // mirrored skew block of 30
-        const V t943 = c72 * t941;
-        const V t944 = c73 * t942;
+        const V t943 = c[46] * t941;
+        const V t944 = c[47] * t942;
         const V t945 = t944 + t943;
-        const V t946 = c72 * t942;
-        const V t947 = c73 * t941;
+        const V t946 = c[46] * t942;
+        const V t947 = c[47] * t941;
         const V t948 = t946 - t947;
         // complex block of 2
         const V t949 = t629 - t563;
@@ -1234,11 +1238,11 @@ struct RealForwardGraph<61> {
         const V t951 = t563 + t629;
         const V t952 = t566 - t632;
         // mirrored skew block of 30
-        const V t953 = c2 * t951;
-        const V t954 = c4 * t952;
+        const V t953 = c[-16] * t951;
+        const V t954 = c[-14] * t952;
         const V t955 = t954 + t953;
-        const V t956 = c2 * t952;
-        const V t957 = c4 * t951;
+        const V t956 = c[-16] * t952;
+        const V t957 = c[-14] * t951;
         const V t958 = t956 - t957;
         // complex block of 2
         const V t959 = t620 - t572;
@@ -1246,11 +1250,11 @@ struct RealForwardGraph<61> {
         const V t961 = t572 + t620;
         const V t962 = t575 + t623;
         // mirrored skew block of 30
-        const V t963 = c74 * t961;
-        const V t964 = c75 * t962;
+        const V t963 = c[48] * t961;
+        const V t964 = c[49] * t962;
         const V t965 = t964 + t963;
-        const V t966 = c74 * t962;
-        const V t967 = c75 * t961;
+        const V t966 = c[48] * t962;
+        const V t967 = c[49] * t961;
         const V t968 = t966 - t967;
         // complex block of 2
         const V t969 = t608 - t584;
@@ -1258,17 +1262,17 @@ struct RealForwardGraph<61> {
         const V t971 = t584 + t608;
         const V t972 = t587 + t611;
         // mirrored skew block of 30
-        const V t973 = c76 * t971;
-        const V t974 = c77 * t972;
+        const V t973 = c[50] * t971;
+        const V t974 = c[51] * t972;
         const V t975 = t973 - t974;
-        const V t976 = c76 * t972;
-        const V t977 = c77 * t971;
+        const V t976 = c[50] * t972;
+        const V t977 = c[51] * t971;
         const V t978 = t977 + t976;
         // spectrum block of 3
         const V t979 = t933 - t599;
-        const V t980 = c0 * t933;
+        const V t980 = c[-12] * t933;
         const V t981 = t599 + t980;
-        const V t982 = c1 * t932;
+        const V t982 = c[-11] * t932;
         const V t983 = t982 - t981;
         const V t984 = t981 + t982;
         // complex block of 3
@@ -1278,12 +1282,12 @@ struct RealForwardGraph<61> {
         const V t988 = t913 - t960;
         const V t989 = t985 - t949;
         const V t990 = t986 + t950;
-        const V t991 = c0 * t985;
+        const V t991 = c[-12] * t985;
         const V t992 = t949 + t991;
-        const V t993 = c0 * t986;
+        const V t993 = c[-12] * t986;
         const V t994 = t950 - t993;
-        const V t995 = c1 * t987;
-        const V t996 = c1 * t988;
+        const V t995 = c[-11] * t987;
+        const V t996 = c[-11] * t988;
         const V t997 = t996 - t992;
         const V t998 = t994 - t995;
         const V t999 = t992 + t996;
@@ -1295,12 +1299,12 @@ struct RealForwardGraph<61> {
         const V t1004 = t940 - t970;
         const V t1005 = t1001 - t922;
         const V t1006 = t1002 + t923;
-        const V t1007 = c0 * t1001;
+        const V t1007 = c[-12] * t1001;
         const V t1008 = t922 + t1007;
-        const V t1009 = c0 * t1002;
+        const V t1009 = c[-12] * t1002;
         const V t1010 = t923 - t1009;
-        const V t1011 = c1 * t1003;
-        const V t1012 = c1 * t1004;
+        const V t1011 = c[-11] * t1003;
+        const V t1012 = c[-11] * t1004;
         const V t1013 = t1012 - t1008;
         const V t1014 = t1010 - t1011;
         const V t1015 = t1008 + t1012;
@@ -1309,23 +1313,23 @@ struct RealForwardGraph<61> {
         const V t1017 = t990 + t1006;
         const V t1018 = t1017 + t979;
         io.im(1, t1018);
-        const V t1019 = c3 * t990;
-        const V t1020 = c2 * t1006;
+        const V t1019 = c[-15] * t990;
+        const V t1020 = c[-16] * t1006;
         const V t1021 = t1019 - t1020;
         const V t1022 = t1021 + t979;
-        const V t1023 = c5 * t989;
-        const V t1024 = c4 * t1005;
+        const V t1023 = c[-13] * t989;
+        const V t1024 = c[-14] * t1005;
         const V t1025 = t1023 + t1024;
         const V t1026 = t1022 - t1025;
         io.minusIm(27, t1026);
         const V t1027 = t1022 + t1025;
         io.im(9, t1027);
-        const V t1028 = c2 * t990;
+        const V t1028 = c[-16] * t990;
         const V t1029 = t979 - t1028;
-        const V t1030 = c3 * t1006;
+        const V t1030 = c[-15] * t1006;
         const V t1031 = t1029 + t1030;
-        const V t1032 = c4 * t989;
-        const V t1033 = c5 * t1005;
+        const V t1032 = c[-14] * t989;
+        const V t1033 = c[-13] * t1005;
         const V t1034 = t1032 - t1033;
         const V t1035 = t1031 - t1034;
         io.minusIm(3, t1035);
@@ -1335,23 +1339,23 @@ struct RealForwardGraph<61> {
         const V t1037 = t998 + t1014;
         const V t1038 = t1037 + t983;
         io.im(13, t1038);
-        const V t1039 = c3 * t998;
-        const V t1040 = c2 * t1014;
+        const V t1039 = c[-15] * t998;
+        const V t1040 = c[-16] * t1014;
         const V t1041 = t1039 - t1040;
         const V t1042 = t1041 + t983;
-        const V t1043 = c5 * t997;
-        const V t1044 = c4 * t1013;
+        const V t1043 = c[-13] * t997;
+        const V t1044 = c[-14] * t1013;
         const V t1045 = t1043 + t1044;
         const V t1046 = t1042 - t1045;
         io.im(15, t1046);
         const V t1047 = t1042 + t1045;
         io.minusIm(5, t1047);
-        const V t1048 = c2 * t998;
+        const V t1048 = c[-16] * t998;
         const V t1049 = t983 - t1048;
-        const V t1050 = c3 * t1014;
+        const V t1050 = c[-15] * t1014;
         const V t1051 = t1049 + t1050;
-        const V t1052 = c4 * t997;
-        const V t1053 = c5 * t1013;
+        const V t1052 = c[-14] * t997;
+        const V t1053 = c[-13] * t1013;
         const V t1054 = t1052 - t1053;
         const V t1055 = t1051 - t1054;
         io.im(22, t1055);
@@ -1361,23 +1365,23 @@ struct RealForwardGraph<61> {
         const V t1057 = t1000 + t1016;
         const V t1058 = t1057 - t984;
         io.minusIm(14, t1058);
-        const V t1059 = c3 * t1000;
-        const V t1060 = c2 * t1016;
+        const V t1059 = c[-15] * t1000;
+        const V t1060 = c[-16] * t1016;
         const V t1061 = t1059 - t1060;
         const V t1062 = t1061 - t984;
-        const V t1063 = c5 * t999;
-        const V t1064 = c4 * t1015;
+        const V t1063 = c[-13] * t999;
+        const V t1064 = c[-14] * t1015;
         const V t1065 = t1063 + t1064;
         const V t1066 = t1062 + t1065;
         io.im(12, t1066);
         const V t1067 = t1062 - t1065;
         io.minusIm(4, t1067);
-        const V t1068 = c2 * t1000;
+        const V t1068 = c[-16] * t1000;
         const V t1069 = t984 + t1068;
-        const V t1070 = c3 * t1016;
+        const V t1070 = c[-15] * t1016;
         const V t1071 = t1070 - t1069;
-        const V t1072 = c4 * t999;
-        const V t1073 = c5 * t1015;
+        const V t1072 = c[-14] * t999;
+        const V t1073 = c[-13] * t1015;
         const V t1074 = t1073 - t1072;
         const V t1075 = t1071 - t1074;
         io.minusIm(19, t1075);
@@ -1385,10 +1389,10 @@ struct RealForwardGraph<61> {
         io.im(25, t1076);
         // spectrum block of 3
         const V t1077 = t938 + t596;
-        const V t1078 = c0 * t938;
+        const V t1078 = c[-12] * t938;
         const V t1079 = t596 - t1078;
-        const V t1080 = c78 * t935;
-        const V t1081 = c79 * t934;
+        const V t1080 = c[62] * t935;
+        const V t1081 = c[63] * t934;
         const V t1082 = t1080 - t1081;
         const V t1083 = t1079 + t1082;
         const V t1084 = t1079 - t1082;
@@ -1399,12 +1403,12 @@ struct RealForwardGraph<61> {
         const V t1088 = t918 - t965;
         const V t1089 = t1085 - t958;
         const V t1090 = t1086 + t955;
-        const V t1091 = c0 * t1085;
+        const V t1091 = c[-12] * t1085;
         const V t1092 = t958 + t1091;
-        const V t1093 = c0 * t1086;
+        const V t1093 = c[-12] * t1086;
         const V t1094 = t955 - t1093;
-        const V t1095 = c1 * t1087;
-        const V t1096 = c1 * t1088;
+        const V t1095 = c[-11] * t1087;
+        const V t1096 = c[-11] * t1088;
         const V t1097 = t1096 - t1092;
         const V t1098 = t1094 - t1095;
         const V t1099 = t1092 + t1096;
@@ -1416,12 +1420,12 @@ struct RealForwardGraph<61> {
         const V t1104 = t945 - t975;
         const V t1105 = t1101 - t931;
         const V t1106 = t1102 + t928;
-        const V t1107 = c0 * t1101;
+        const V t1107 = c[-12] * t1101;
         const V t1108 = t931 + t1107;
-        const V t1109 = c0 * t1102;
+        const V t1109 = c[-12] * t1102;
         const V t1110 = t928 - t1109;
-        const V t1111 = c1 * t1103;
-        const V t1112 = c1 * t1104;
+        const V t1111 = c[-11] * t1103;
+        const V t1112 = c[-11] * t1104;
         const V t1113 = t1112 - t1108;
         const V t1114 = t1110 - t1111;
         const V t1115 = t1108 + t1112;
@@ -1430,23 +1434,23 @@ struct RealForwardGraph<61> {
         const V t1117 = t1090 + t1106;
         const V t1118 = t1117 + t1077;
         io.minusIm(30, t1118);
-        const V t1119 = c3 * t1090;
-        const V t1120 = c2 * t1106;
+        const V t1119 = c[-15] * t1090;
+        const V t1120 = c[-16] * t1106;
         const V t1121 = t1119 - t1120;
         const V t1122 = t1121 + t1077;
-        const V t1123 = c5 * t1089;
-        const V t1124 = c4 * t1105;
+        const V t1123 = c[-13] * t1089;
+        const V t1124 = c[-14] * t1105;
         const V t1125 = t1123 + t1124;
         const V t1126 = t1122 - t1125;
         io.im(17, t1126);
         const V t1127 = t1122 + t1125;
         io.minusIm(26, t1127);
-        const V t1128 = c2 * t1090;
+        const V t1128 = c[-16] * t1090;
         const V t1129 = t1077 - t1128;
-        const V t1130 = c3 * t1106;
+        const V t1130 = c[-15] * t1106;
         const V t1131 = t1129 + t1130;
-        const V t1132 = c4 * t1089;
-        const V t1133 = c5 * t1105;
+        const V t1132 = c[-14] * t1089;
+        const V t1133 = c[-13] * t1105;
         const V t1134 = t1132 - t1133;
         const V t1135 = t1131 - t1134;
         io.im(29, t1135);
@@ -1456,23 +1460,23 @@ struct RealForwardGraph<61> {
         const V t1137 = t1098 + t1114;
         const V t1138 = t1137 + t1083;
         io.minusIm(24, t1138);
-        const V t1139 = c3 * t1098;
-        const V t1140 = c2 * t1114;
+        const V t1139 = c[-15] * t1098;
+        const V t1140 = c[-16] * t1114;
         const V t1141 = t1139 - t1140;
         const V t1142 = t1141 + t1083;
-        const V t1143 = c5 * t1097;
-        const V t1144 = c4 * t1113;
+        const V t1143 = c[-13] * t1097;
+        const V t1144 = c[-14] * t1113;
         const V t1145 = t1143 + t1144;
         const V t1146 = t1142 - t1145;
         io.minusIm(23, t1146);
         const V t1147 = t1142 + t1145;
         io.im(28, t1147);
-        const V t1148 = c2 * t1098;
+        const V t1148 = c[-16] * t1098;
         const V t1149 = t1083 - t1148;
-        const V t1150 = c3 * t1114;
+        const V t1150 = c[-15] * t1114;
         const V t1151 = t1149 + t1150;
-        const V t1152 = c4 * t1097;
-        const V t1153 = c5 * t1113;
+        const V t1152 = c[-14] * t1097;
+        const V t1153 = c[-13] * t1113;
         const V t1154 = t1152 - t1153;
         const V t1155 = t1151 - t1154;
         io.im(11, t1155);
@@ -1482,23 +1486,23 @@ struct RealForwardGraph<61> {
         const V t1157 = t1100 + t1116;
         const V t1158 = t1157 + t1084;
         io.minusIm(7, t1158);
-        const V t1159 = c3 * t1100;
-        const V t1160 = c2 * t1116;
+        const V t1159 = c[-15] * t1100;
+        const V t1160 = c[-16] * t1116;
         const V t1161 = t1159 - t1160;
         const V t1162 = t1161 + t1084;
-        const V t1163 = c5 * t1099;
-        const V t1164 = c4 * t1115;
+        const V t1163 = c[-13] * t1099;
+        const V t1164 = c[-14] * t1115;
         const V t1165 = t1163 + t1164;
         const V t1166 = t1162 + t1165;
         io.im(6, t1166);
         const V t1167 = t1162 - t1165;
         io.minusIm(2, t1167);
-        const V t1168 = c2 * t1100;
+        const V t1168 = c[-16] * t1100;
         const V t1169 = t1084 - t1168;
-        const V t1170 = c3 * t1116;
+        const V t1170 = c[-15] * t1116;
         const V t1171 = t1169 + t1170;
-        const V t1172 = c4 * t1099;
-        const V t1173 = c5 * t1115;
+        const V t1172 = c[-14] * t1099;
+        const V t1173 = c[-13] * t1115;
         const V t1174 = t1173 - t1172;
         const V t1175 = t1171 - t1174;
         io.im(21, t1175);

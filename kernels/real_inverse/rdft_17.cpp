@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 17.
 // Inverse DFT to 17 real points, Rader 16.
-// 58 additions, 58 subtractions, 68 multiplications (85 with `scale`); 21 constants; 20 values alive at most.
+// 58 additions, 58 subtractions, 68 multiplications (85 with `scale`); 21 constants; 33 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -9,25 +9,25 @@ template <>
 struct RealInverseGraph<17> {
     static constexpr double inverseRoot = 0.24253562503633297;  // 1/sqrt(17), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.7071067811865476;  // cos 2 pi 1/8
-    static constexpr double c2 = 0.3826834323650898;  // sin 2 pi 1/16
-    static constexpr double c3 = 0.9238795325112867;  // cos 2 pi 1/16
-    static constexpr double c4 = 1.4142135623730951;  // cos 2 pi 1/8 times 2
-    static constexpr double c5 = 0.0625;  // 1/16
-    static constexpr double c6 = 0.2906530375466148;  // P[1] of 17
-    static constexpr double c7 = 0.425612278682049;  // -Q[1] of 17
-    static constexpr double c8 = 0.347088927763506;  // -Q[2] of 17
-    static constexpr double c9 = 0.3809911760447736;  // P[2] of 17
-    static constexpr double c10 = 0.07814056923069293;  // -P[3] of 17
-    static constexpr double c11 = 0.5094301241979152;  // -Q[3] of 17
-    static constexpr double c12 = 0.40623178445333147;  // Q[4] of 17
-    static constexpr double c13 = 0.31717619283272513;  // P[4] of 17
-    static constexpr double c14 = 0.1165738748337385;  // P[5] of 17
-    static constexpr double c15 = 0.5020314050995693;  // Q[5] of 17
-    static constexpr double c16 = 0.5139020806887744;  // Q[6] of 17
-    static constexpr double c17 = 0.039110758925753275;  // P[6] of 17
-    static constexpr double c18 = 0.5103666946839882;  // -P[7] of 17
-    static constexpr double c19 = 0.07176933159324189;  // Q[7] of 17
+    static constexpr double c1 = 0.0625;  // 1/16
+    static constexpr double c2 = 0.31717619283272513;  // P[4] of 17
+    static constexpr double c3 = 0.40623178445333147;  // Q[4] of 17
+    static constexpr double c4 = 0.7071067811865476;  // cos 2 pi 1/8
+    static constexpr double c5 = 0.3809911760447736;  // P[2] of 17
+    static constexpr double c6 = 0.347088927763506;  // -Q[2] of 17
+    static constexpr double c7 = 0.039110758925753275;  // P[6] of 17
+    static constexpr double c8 = 0.5139020806887744;  // Q[6] of 17
+    static constexpr double c9 = 1.4142135623730951;  // cos 2 pi 1/8 times 2
+    static constexpr double c10 = 0.3826834323650898;  // sin 2 pi 1/16
+    static constexpr double c11 = 0.9238795325112867;  // cos 2 pi 1/16
+    static constexpr double c12 = 0.425612278682049;  // -Q[1] of 17
+    static constexpr double c13 = 0.2906530375466148;  // P[1] of 17
+    static constexpr double c14 = 0.07176933159324189;  // Q[7] of 17
+    static constexpr double c15 = 0.5103666946839882;  // -P[7] of 17
+    static constexpr double c16 = 0.5094301241979152;  // -Q[3] of 17
+    static constexpr double c17 = 0.07814056923069293;  // -P[3] of 17
+    static constexpr double c18 = 0.5020314050995693;  // Q[5] of 17
+    static constexpr double c19 = 0.1165738748337385;  // P[5] of 17
     static constexpr double c20 = 0.2576941016011038;  // beta of 17
 
     template <class Ports>
@@ -36,257 +36,302 @@ struct RealInverseGraph<17> {
         // doubled bins
         const V x1r = io.re(1);
         const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x3r = io.re(3);
-        const V t3 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t4 = c0 * x3i;
         const V x4r = io.re(4);
-        const V t5 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t6 = c0 * x4i;
+        const V t1 = c0 * x4r;
+        // real block of 2
+        const V t2 = t0 + t1;
+        const V t3 = t0 - t1;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t4 = c0 * x2r;
+        const V x8r = io.re(8);
+        const V t5 = c0 * x8r;
+        // real block of 2
+        const V t6 = t5 + t4;
+        const V t7 = t5 - t4;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t8 = c0 * x3r;
         const V x5r = io.re(5);
-        const V t7 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t8 = c0 * x5i;
+        const V t9 = c0 * x5r;
         const V x6r = io.re(6);
-        const V t9 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t10 = c0 * x6i;
+        const V t10 = c0 * x6r;
         const V x7r = io.re(7);
         const V t11 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t12 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t13 = c0 * x8r;
         // real block of 2
-        const V t14 = t0 + t5;
-        const V t15 = t0 - t5;
+        const V t12 = t8 + t9;
+        const V t13 = t8 - t9;
         // real block of 2
-        const V t16 = t3 + t7;
-        const V t17 = t3 - t7;
-        // real block of 2
-        const V t18 = t13 + t2;
-        const V t19 = t13 - t2;
-        // real block of 2
-        const V t20 = t11 + t9;
-        const V t21 = t11 - t9;
-        // real block of 2
-        const V t22 = t14 + t18;
-        const V t23 = t14 - t18;
-        // real block of 2
-        const V t24 = t16 + t20;
-        const V t25 = t16 - t20;
-        // real block of 2
-        const V t26 = t22 + t24;
-        const V t27 = t22 - t24;
+        const V t14 = t11 - t10;
         // skew block of 4
-        const V t28 = t17 - t21;
-        const V t29 = c1 * t28;
-        const V t30 = t17 + t21;
-        const V t31 = c1 * t30;
-        const V t32 = t31 - t19;
-        const V t33 = t15 + t29;
-        const V t34 = t19 + t31;
-        const V t35 = t15 - t29;
-        // skew block of 8
-        const V t36 = c2 * t8;
-        const V t37 = c3 * t4;
-        const V t38 = t37 - t36;
-        const V t39 = c2 * t4;
-        const V t40 = c3 * t8;
-        const V t41 = t40 + t39;
-        const V x8i = io.im(8);
-        const V t42 = c4 * x8i;
-        const V x2i = io.im(2);
-        const V t43 = c4 * x2i;
-        const V t44 = t43 - t42;
-        const V t45 = t43 + t42;
-        const V t46 = c3 * t10;
-        const V t47 = c2 * t12;
-        const V t48 = t46 - t47;
-        const V t49 = c3 * t12;
-        const V t50 = c2 * t10;
-        const V t51 = t50 + t49;
-        // complex block of 2
-        const V t52 = t1 + t44;
-        const V t53 = t6 + t45;
-        const V t54 = t1 - t44;
-        const V t55 = t6 - t45;
-        // complex block of 2
-        const V t56 = t38 + t48;
-        const V t57 = t51 - t41;
-        const V t58 = t38 - t48;
-        const V t59 = t41 + t51;
-        // complex block of 2
-        const V t60 = t52 + t56;
-        const V t61 = t53 + t57;
-        const V t62 = t52 - t56;
-        const V t63 = t53 - t57;
-        // complex block of 2
-        const V t64 = t54 - t59;
-        const V t65 = t55 - t58;
-        const V t66 = t54 + t59;
-        const V t67 = t55 + t58;
+        const V t15 = t13 - t14;
+        const V t16 = t13 + t14;
+        // real block of 2
+        const V t17 = t11 + t10;
+        // real block of 2
+        const V t18 = t2 + t6;
+        // real block of 2
+        const V t19 = t12 + t17;
+        // real block of 2
+        const V t20 = t18 + t19;
+        const V t21 = t18 - t19;
         // spectrum block of 17
-        const V t68 = c5 * t26;
+        const V t22 = c1 * t20;
+        // real block of 2
+        const V t23 = t2 - t6;
+        // spectrum block of 17
+        const V t24 = c2 * t23;
+        const V t25 = c3 * t23;
+        // real block of 2
+        const V t26 = t12 - t17;
+        // spectrum block of 17
+        const V t27 = c3 * t26;
+        const V t28 = c2 * t26;
+        // skew block of 4
+        const V t29 = c4 * t15;
+        const V t30 = t3 + t29;
+        const V t31 = t3 - t29;
+        // spectrum block of 17
+        const V t32 = c5 * t30;
+        const V t33 = c6 * t30;
+        const V t34 = c7 * t31;
+        const V t35 = c8 * t31;
+        // skew block of 4
+        const V t36 = c4 * t16;
+        const V t37 = t36 - t7;
+        const V t38 = t7 + t36;
+        // spectrum block of 17
+        const V t39 = c6 * t38;
+        const V t40 = c5 * t38;
+        const V t41 = c8 * t37;
+        const V t42 = c7 * t37;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t43 = c0 * x1i;
+        // skew block of 8
+        const V x2i = io.im(2);
+        const V t44 = c9 * x2i;
+        const V x8i = io.im(8);
+        const V t45 = c9 * x8i;
+        const V t46 = t44 - t45;
+        const V t47 = t44 + t45;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t48 = c0 * x3i;
+        const V x5i = io.im(5);
+        const V t49 = c0 * x5i;
+        // skew block of 8
+        const V t50 = c10 * t49;
+        const V t51 = c11 * t48;
+        const V t52 = t51 - t50;
+        const V t53 = c10 * t48;
+        const V t54 = c11 * t49;
+        const V t55 = t54 + t53;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t56 = c0 * x4i;
+        const V x6i = io.im(6);
+        const V t57 = c0 * x6i;
+        const V x7i = io.im(7);
+        const V t58 = c0 * x7i;
+        // skew block of 8
+        const V t59 = c11 * t57;
+        const V t60 = c10 * t58;
+        const V t61 = t59 - t60;
+        const V t62 = c11 * t58;
+        const V t63 = c10 * t57;
+        const V t64 = t63 + t62;
+        // complex block of 2
+        const V t65 = t43 + t46;
+        // complex block of 2
+        const V t66 = t52 + t61;
+        // complex block of 2
+        const V t67 = t65 + t66;
+        const V t68 = t65 - t66;
+        // spectrum block of 17
+        const V t69 = c12 * t67;
+        const V t70 = c13 * t67;
+        const V t71 = c14 * t68;
+        const V t72 = c15 * t68;
+        // complex block of 2
+        const V t73 = t56 + t47;
+        // complex block of 2
+        const V t74 = t64 - t55;
+        // complex block of 2
+        const V t75 = t73 + t74;
+        const V t76 = t73 - t74;
+        // spectrum block of 17
+        const V t77 = c13 * t75;
+        const V t78 = c12 * t75;
+        const V t79 = c15 * t76;
+        const V t80 = c14 * t76;
+        // complex block of 2
+        const V t81 = t43 - t46;
+        // complex block of 2
+        const V t82 = t55 + t64;
+        // complex block of 2
+        const V t83 = t81 - t82;
+        const V t84 = t81 + t82;
+        // spectrum block of 17
+        const V t85 = c16 * t84;
+        const V t86 = c17 * t84;
+        const V t87 = c18 * t83;
+        const V t88 = c19 * t83;
+        // complex block of 2
+        const V t89 = t56 - t47;
+        // complex block of 2
+        const V t90 = t52 - t61;
+        // complex block of 2
+        const V t91 = t89 - t90;
+        const V t92 = t89 + t90;
+        // spectrum block of 17
+        const V t93 = c17 * t92;
+        const V t94 = c16 * t92;
+        const V t95 = c19 * t91;
+        const V t96 = c18 * t91;
         const V x0r = io.re(0);
-        const V t69 = x0r - t68;
-        const V t70 = c6 * t61;
-        const V t71 = c7 * t60;
-        const V t72 = t71 + t70;
-        const V t73 = c6 * t60;
-        const V t74 = c7 * t61;
-        const V t75 = t73 - t74;
-        const V t76 = c8 * t34;
-        const V t77 = c9 * t33;
-        const V t78 = t77 - t76;
-        const V t79 = c8 * t33;
-        const V t80 = c9 * t34;
-        const V t81 = t80 + t79;
-        const V t82 = c10 * t67;
-        const V t83 = c11 * t66;
-        const V t84 = t83 + t82;
-        const V t85 = c10 * t66;
-        const V t86 = c11 * t67;
-        const V t87 = t86 - t85;
-        const V t88 = c12 * t25;
-        const V t89 = c13 * t23;
-        const V t90 = t89 + t88;
-        const V t91 = c12 * t23;
-        const V t92 = c13 * t25;
-        const V t93 = t91 - t92;
-        const V t94 = c14 * t65;
-        const V t95 = c15 * t64;
-        const V t96 = t95 - t94;
-        const V t97 = c14 * t64;
-        const V t98 = c15 * t65;
-        const V t99 = t98 + t97;
-        const V t100 = c16 * t32;
-        const V t101 = c17 * t35;
-        const V t102 = t101 + t100;
-        const V t103 = c16 * t35;
-        const V t104 = c17 * t32;
-        const V t105 = t103 - t104;
-        const V t106 = c18 * t63;
-        const V t107 = c19 * t62;
-        const V t108 = t107 - t106;
-        const V t109 = c18 * t62;
-        const V t110 = c19 * t63;
-        const V t111 = t110 + t109;
-        const V t112 = c20 * t27;
+        const V t97 = x0r - t22;
+        const V t98 = c20 * t21;
         // spectrum block of 2
-        const V t113 = t69 + t112;
-        const V t114 = t69 - t112;
+        const V t99 = t97 + t98;
+        const V t100 = t97 - t98;
+        // spectrum block of 17
+        const V t101 = t24 + t27;
+        const V t102 = t25 - t28;
         // spectrum block of 2
-        const V t115 = t113 + t90;
-        const V t116 = t113 - t90;
+        const V t103 = t99 + t101;
+        const V t104 = t99 - t101;
         // spectrum block of 2
-        const V t117 = t114 - t93;
-        const V t118 = t114 + t93;
+        const V t105 = t100 - t102;
+        const V t106 = t100 + t102;
+        // spectrum block of 17
+        const V t107 = t69 + t77;
+        const V t108 = t71 - t79;
         // complex block of 2
-        const V t119 = t75 + t111;
-        const V t120 = t108 - t72;
-        const V t121 = t75 - t111;
-        const V t122 = t72 + t108;
+        const V t109 = t108 - t107;
+        const V t110 = t107 + t108;
+        // spectrum block of 17
+        const V t111 = t70 - t78;
+        const V t112 = t80 + t72;
         // complex block of 2
-        const V t123 = t99 - t87;
-        const V t124 = t96 - t84;
-        const V t125 = t99 + t87;
-        const V t126 = t96 + t84;
+        const V t113 = t111 + t112;
+        const V t114 = t111 - t112;
+        // spectrum block of 17
+        const V t115 = t85 + t93;
+        const V t116 = t87 - t95;
         // complex block of 2
-        const V t127 = t119 + t123;
-        const V t128 = t120 + t124;
-        const V t129 = t119 - t123;
-        const V t130 = t120 - t124;
+        const V t117 = t116 - t115;
+        const V t118 = t116 + t115;
+        // spectrum block of 17
+        const V t119 = t94 - t86;
+        const V t120 = t96 + t88;
         // complex block of 2
-        const V t131 = t121 + t126;
-        const V t132 = t122 + t125;
-        const V t133 = t121 - t126;
-        const V t134 = t125 - t122;
-        // spectrum block of 16
-        const V t135 = c2 * t131;
-        const V t136 = c3 * t132;
-        const V t137 = t136 + t135;
-        const V t138 = c2 * t132;
-        const V t139 = c3 * t131;
-        const V t140 = t139 - t138;
-        const V t141 = c1 * t130;
-        const V t142 = c1 * t129;
-        const V t143 = t141 + t142;
-        const V t144 = t142 - t141;
-        const V t145 = c3 * t133;
-        const V t146 = c2 * t134;
-        const V t147 = t146 - t145;
-        const V t148 = c3 * t134;
-        const V t149 = c2 * t133;
-        const V t150 = t149 + t148;
+        const V t121 = t120 - t119;
+        const V t122 = t120 + t119;
+        // complex block of 2
+        const V t123 = t113 - t121;
+        const V t124 = t109 - t117;
+        // complex block of 2
+        const V t125 = t114 + t118;
+        const V t126 = t110 + t122;
+        const V t127 = t114 - t118;
+        const V t128 = t122 - t110;
+        // spectrum block of 17
+        const V t129 = t32 - t39;
+        const V t130 = t34 + t41;
         // mirrored skew block of 4
-        const V t151 = t78 - t102;
-        const V t152 = c1 * t151;
-        const V t153 = t105 - t81;
-        const V t154 = c1 * t153;
-        const V t155 = t78 + t102;
-        const V t156 = t152 - t154;
-        const V t157 = t81 + t105;
-        const V t158 = t152 + t154;
+        const V t131 = t129 - t130;
+        const V t132 = c4 * t131;
+        const V t133 = t129 + t130;
+        // spectrum block of 17
+        const V t134 = t40 + t33;
+        const V t135 = t35 - t42;
+        // mirrored skew block of 4
+        const V t136 = t135 - t134;
+        const V t137 = c4 * t136;
+        const V t138 = t134 + t135;
+        // complex block of 2
+        const V t139 = t113 + t121;
         // spectrum block of 2
-        const V t159 = t115 + t155;
-        const V t160 = t115 - t155;
+        const V t140 = t103 - t133;
         // spectrum block of 2
-        const V t161 = t159 + t128;
-        io.out(1, t161);
-        const V t162 = t159 - t128;
-        io.out(16, t162);
+        const V t141 = t140 - t139;
+        io.out(4, t141);
+        const V t142 = t140 + t139;
+        io.out(13, t142);
+        // complex block of 2
+        const V t143 = t109 + t117;
         // spectrum block of 2
-        const V t163 = t160 - t127;
-        io.out(4, t163);
-        const V t164 = t160 + t127;
-        io.out(13, t164);
+        const V t144 = t103 + t133;
         // spectrum block of 2
-        const V t165 = t117 + t156;
-        const V t166 = t117 - t156;
+        const V t145 = t144 + t143;
+        io.out(1, t145);
+        const V t146 = t144 - t143;
+        io.out(16, t146);
+        // spectrum block of 16
+        const V t147 = c10 * t125;
+        const V t148 = c11 * t126;
+        const V t149 = t148 + t147;
+        const V t150 = c10 * t126;
+        const V t151 = c11 * t125;
+        const V t152 = t151 - t150;
+        // mirrored skew block of 4
+        const V t153 = t132 - t137;
         // spectrum block of 2
-        const V t167 = t165 - t137;
-        io.out(6, t167);
-        const V t168 = t165 + t137;
-        io.out(11, t168);
+        const V t154 = t105 + t153;
+        const V t155 = t105 - t153;
         // spectrum block of 2
-        const V t169 = t166 - t140;
-        io.out(7, t169);
-        const V t170 = t166 + t140;
-        io.out(10, t170);
+        const V t156 = t154 - t149;
+        io.out(6, t156);
+        const V t157 = t154 + t149;
+        io.out(11, t157);
         // spectrum block of 2
-        const V t171 = t116 + t157;
-        const V t172 = t116 - t157;
+        const V t158 = t155 - t152;
+        io.out(7, t158);
+        const V t159 = t155 + t152;
+        io.out(10, t159);
+        // spectrum block of 16
+        const V t160 = c4 * t124;
+        const V t161 = c4 * t123;
+        const V t162 = t160 + t161;
+        const V t163 = t161 - t160;
         // spectrum block of 2
-        const V t173 = t171 - t144;
-        io.out(2, t173);
-        const V t174 = t171 + t144;
-        io.out(15, t174);
+        const V t164 = t104 + t138;
+        const V t165 = t104 - t138;
         // spectrum block of 2
-        const V t175 = t172 - t143;
-        io.out(8, t175);
-        const V t176 = t172 + t143;
-        io.out(9, t176);
+        const V t166 = t164 - t163;
+        io.out(2, t166);
+        const V t167 = t164 + t163;
+        io.out(15, t167);
         // spectrum block of 2
-        const V t177 = t118 - t158;
-        const V t178 = t118 + t158;
+        const V t168 = t165 - t162;
+        io.out(8, t168);
+        const V t169 = t165 + t162;
+        io.out(9, t169);
+        // spectrum block of 16
+        const V t170 = c11 * t127;
+        const V t171 = c10 * t128;
+        const V t172 = t171 - t170;
+        const V t173 = c11 * t128;
+        const V t174 = c10 * t127;
+        const V t175 = t174 + t173;
+        // mirrored skew block of 4
+        const V t176 = t132 + t137;
         // spectrum block of 2
-        const V t179 = t177 + t147;
+        const V t177 = t106 - t176;
+        const V t178 = t106 + t176;
+        // spectrum block of 2
+        const V t179 = t177 + t172;
         io.out(12, t179);
-        const V t180 = t177 - t147;
+        const V t180 = t177 - t172;
         io.out(5, t180);
         // spectrum block of 2
-        const V t181 = t178 - t150;
+        const V t181 = t178 - t175;
         io.out(14, t181);
-        const V t182 = t178 + t150;
+        const V t182 = t178 + t175;
         io.out(3, t182);
         // spectrum block of 17
-        const V t183 = x0r + t26;
+        const V t183 = x0r + t20;
         io.out(0, t183);
     }
 };

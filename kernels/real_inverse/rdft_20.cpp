@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 20.
 // Inverse DFT to 20 real points, prime-factor 5, 4.
-// 46 additions, 40 subtractions, 50 multiplications (70 with `scale`); 5 constants; 27 values alive at most.
+// 46 additions, 40 subtractions, 50 multiplications (70 with `scale`); 5 constants; 37 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -18,200 +18,234 @@ struct RealInverseGraph<20> {
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
         // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
         const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
+        const V t0 = c0 * x4r;
         const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
+        const V t1 = c0 * x8r;
         // spectrum block of 5, multiplier 4
-        const V t18 = t6 + t14;
+        const V t2 = t0 + t1;
+        const V t3 = c1 * t0;
+        const V t4 = c2 * t1;
+        const V t5 = t3 - t4;
+        const V t6 = c2 * t0;
         const V x0r = io.re(0);
-        const V t19 = t18 + x0r;
-        const V t20 = c1 * t6;
-        const V t21 = c2 * t14;
-        const V t22 = t20 - t21;
-        const V t23 = t22 + x0r;
-        const V t24 = c3 * t7;
-        const V t25 = c4 * t15;
-        const V t26 = t24 + t25;
-        const V t27 = t23 - t26;
-        const V t28 = t23 + t26;
-        const V t29 = c2 * t6;
-        const V t30 = x0r - t29;
-        const V t31 = c1 * t14;
-        const V t32 = t30 + t31;
-        const V t33 = c4 * t7;
-        const V t34 = c3 * t15;
-        const V t35 = t33 - t34;
-        const V t36 = t32 - t35;
-        const V t37 = t32 + t35;
+        const V t7 = x0r - t6;
+        const V t8 = c1 * t1;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t9 = c0 * x1r;
+        const V x9r = io.re(9);
+        const V t10 = c0 * x9r;
         // complex block of 5, multiplier 4
-        const V t38 = t17 + t1;
-        const V t39 = t16 + t0;
-        const V t40 = t17 - t1;
-        const V t41 = t16 - t0;
-        const V t42 = t5 + t13;
-        const V t43 = t4 + t12;
-        const V t44 = t13 - t5;
-        const V t45 = t4 - t12;
-        const V t46 = t38 - t42;
-        const V t47 = t39 + t43;
-        const V t48 = t46 + t9;
-        const V t49 = t47 + t8;
-        const V t50 = c1 * t38;
-        const V t51 = c2 * t42;
-        const V t52 = t50 + t51;
-        const V t53 = t52 + t9;
-        const V t54 = c1 * t39;
-        const V t55 = c2 * t43;
-        const V t56 = t54 - t55;
-        const V t57 = t56 + t8;
-        const V t58 = c3 * t40;
-        const V t59 = c4 * t44;
-        const V t60 = t58 - t59;
-        const V t61 = c3 * t41;
-        const V t62 = c4 * t45;
-        const V t63 = t61 - t62;
-        const V t64 = t53 + t63;
-        const V t65 = t57 - t60;
-        const V t66 = t53 - t63;
-        const V t67 = t57 + t60;
-        const V t68 = c2 * t38;
-        const V t69 = t9 - t68;
-        const V t70 = c1 * t42;
-        const V t71 = t69 - t70;
-        const V t72 = c2 * t39;
-        const V t73 = t8 - t72;
-        const V t74 = c1 * t43;
-        const V t75 = t73 + t74;
-        const V t76 = c4 * t40;
-        const V t77 = c3 * t44;
-        const V t78 = t76 + t77;
-        const V t79 = c4 * t41;
-        const V t80 = c3 * t45;
-        const V t81 = t79 + t80;
-        const V t82 = t71 + t81;
-        const V t83 = t75 - t78;
-        const V t84 = t71 - t81;
-        const V t85 = t75 + t78;
+        const V t11 = t10 + t9;
+        const V t12 = c1 * t11;
+        const V t13 = c2 * t11;
+        const V t14 = t10 - t9;
+        const V t15 = c3 * t14;
+        const V t16 = c4 * t14;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t17 = c0 * x1i;
+        const V x9i = io.im(9);
+        const V t18 = c0 * x9i;
+        // complex block of 5, multiplier 4
+        const V t19 = t18 + t17;
+        const V t20 = c1 * t19;
+        const V t21 = c2 * t19;
+        const V t22 = t18 - t17;
+        const V t23 = c3 * t22;
+        const V t24 = c4 * t22;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t25 = c0 * x2r;
+        const V x6r = io.re(6);
+        const V t26 = c0 * x6r;
         // spectrum block of 5, multiplier 4
-        const V t86 = t10 + t2;
+        const V t27 = t26 + t25;
+        const V t28 = c1 * t26;
+        const V t29 = c2 * t25;
+        const V t30 = t28 - t29;
+        const V t31 = c2 * t26;
         const V x10r = io.re(10);
-        const V t87 = t86 + x10r;
-        const V t88 = c1 * t10;
-        const V t89 = c2 * t2;
-        const V t90 = t88 - t89;
-        const V t91 = t90 + x10r;
-        const V t92 = c3 * t11;
-        const V t93 = c4 * t3;
-        const V t94 = t92 + t93;
-        const V t95 = t91 + t94;
-        const V t96 = t91 - t94;
-        const V t97 = c2 * t10;
-        const V t98 = x10r - t97;
-        const V t99 = c1 * t2;
-        const V t100 = t98 + t99;
-        const V t101 = c4 * t11;
-        const V t102 = c3 * t3;
-        const V t103 = t102 - t101;
-        const V t104 = t100 - t103;
-        const V t105 = t100 + t103;
+        const V t32 = x10r - t31;
+        const V t33 = c1 * t25;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t34 = c0 * x2i;
+        const V x6i = io.im(6);
+        const V t35 = c0 * x6i;
+        // spectrum block of 5, multiplier 4
+        const V t36 = c3 * t35;
+        const V t37 = c4 * t34;
+        const V t38 = t36 + t37;
+        const V t39 = c4 * t35;
+        const V t40 = c3 * t34;
+        const V t41 = t40 - t39;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t42 = c0 * x3r;
+        const V x7r = io.re(7);
+        const V t43 = c0 * x7r;
+        // complex block of 5, multiplier 4
+        const V t44 = t42 + t43;
+        const V t45 = c2 * t44;
+        const V t46 = c1 * t44;
+        const V t47 = t42 - t43;
+        const V t48 = c4 * t47;
+        const V t49 = c3 * t47;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t50 = c0 * x3i;
+        const V x7i = io.im(7);
+        const V t51 = c0 * x7i;
+        // complex block of 5, multiplier 4
+        const V t52 = t50 + t51;
+        const V t53 = c2 * t52;
+        const V t54 = c1 * t52;
+        const V t55 = t51 - t50;
+        const V t56 = c4 * t55;
+        const V t57 = c3 * t55;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t58 = c0 * x4i;
+        const V x8i = io.im(8);
+        const V t59 = c0 * x8i;
+        // spectrum block of 5, multiplier 4
+        const V t60 = c3 * t58;
+        const V t61 = c4 * t59;
+        const V t62 = t60 + t61;
+        const V t63 = c4 * t58;
+        const V t64 = c3 * t59;
+        const V t65 = t63 - t64;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t66 = c0 * x5r;
+        const V x5i = io.im(5);
+        const V t67 = c0 * x5i;
+        // spectrum block of 5, multiplier 4
+        const V t68 = t2 + x0r;
+        // spectrum block of 5, multiplier 4
+        const V t69 = t27 + x10r;
         // spectrum block of 2
-        const V t106 = t19 + t87;
-        const V t107 = t19 - t87;
+        const V t70 = t68 + t69;
+        const V t71 = t68 - t69;
+        // complex block of 5, multiplier 4
+        const V t72 = t19 - t52;
+        const V t73 = t72 + t67;
+        const V t74 = t11 + t44;
+        const V t75 = t74 + t66;
         // spectrum block of 2
-        const V t108 = t106 + t49;
-        io.out(0, t108);
-        const V t109 = t106 - t49;
-        io.out(10, t109);
+        const V t76 = t70 + t75;
+        io.out(0, t76);
+        const V t77 = t70 - t75;
+        io.out(10, t77);
         // spectrum block of 2
-        const V t110 = t107 - t48;
-        io.out(5, t110);
-        const V t111 = t107 + t48;
-        io.out(15, t111);
+        const V t78 = t71 - t73;
+        io.out(5, t78);
+        const V t79 = t71 + t73;
+        io.out(15, t79);
+        // spectrum block of 5, multiplier 4
+        const V t80 = t5 + x0r;
+        const V t81 = t80 - t62;
+        const V t82 = t80 + t62;
+        // complex block of 5, multiplier 4
+        const V t83 = t20 + t53;
+        const V t84 = t83 + t67;
+        const V t85 = t12 - t45;
+        const V t86 = t85 + t66;
+        const V t87 = t23 - t56;
+        const V t88 = t15 - t48;
+        // spectrum block of 5, multiplier 4
+        const V t89 = t30 + x10r;
+        const V t90 = t89 + t38;
+        const V t91 = t89 - t38;
+        // complex block of 5, multiplier 4
+        const V t92 = t84 + t88;
         // spectrum block of 2
-        const V t112 = t28 + t96;
-        const V t113 = t28 - t96;
+        const V t93 = t81 - t90;
         // spectrum block of 2
-        const V t114 = t112 + t67;
-        io.out(4, t114);
-        const V t115 = t112 - t67;
-        io.out(14, t115);
+        const V t94 = t93 - t92;
+        io.out(1, t94);
+        const V t95 = t93 + t92;
+        io.out(11, t95);
+        // complex block of 5, multiplier 4
+        const V t96 = t86 - t87;
         // spectrum block of 2
-        const V t116 = t113 - t66;
-        io.out(9, t116);
-        const V t117 = t113 + t66;
-        io.out(19, t117);
+        const V t97 = t81 + t90;
         // spectrum block of 2
-        const V t118 = t37 + t105;
-        const V t119 = t37 - t105;
+        const V t98 = t97 + t96;
+        io.out(16, t98);
+        const V t99 = t97 - t96;
+        io.out(6, t99);
+        // complex block of 5, multiplier 4
+        const V t100 = t84 - t88;
         // spectrum block of 2
-        const V t120 = t118 + t85;
-        io.out(8, t120);
-        const V t121 = t118 - t85;
-        io.out(18, t121);
+        const V t101 = t82 - t91;
         // spectrum block of 2
-        const V t122 = t119 - t84;
-        io.out(13, t122);
-        const V t123 = t119 + t84;
-        io.out(3, t123);
+        const V t102 = t101 - t100;
+        io.out(9, t102);
+        const V t103 = t101 + t100;
+        io.out(19, t103);
+        // complex block of 5, multiplier 4
+        const V t104 = t86 + t87;
         // spectrum block of 2
-        const V t124 = t36 + t104;
-        const V t125 = t36 - t104;
+        const V t105 = t82 + t91;
         // spectrum block of 2
-        const V t126 = t124 + t83;
+        const V t106 = t105 + t104;
+        io.out(4, t106);
+        const V t107 = t105 - t104;
+        io.out(14, t107);
+        // spectrum block of 5, multiplier 4
+        const V t108 = t7 + t8;
+        const V t109 = t108 - t65;
+        const V t110 = t108 + t65;
+        // complex block of 5, multiplier 4
+        const V t111 = t67 - t21;
+        const V t112 = t111 - t54;
+        const V t113 = t66 - t13;
+        const V t114 = t113 + t46;
+        const V t115 = t24 + t57;
+        const V t116 = t16 + t49;
+        // spectrum block of 5, multiplier 4
+        const V t117 = t32 + t33;
+        const V t118 = t117 - t41;
+        const V t119 = t117 + t41;
+        // complex block of 5, multiplier 4
+        const V t120 = t112 + t116;
+        // spectrum block of 2
+        const V t121 = t109 - t118;
+        // spectrum block of 2
+        const V t122 = t121 - t120;
+        io.out(17, t122);
+        const V t123 = t121 + t120;
+        io.out(7, t123);
+        // complex block of 5, multiplier 4
+        const V t124 = t114 - t115;
+        // spectrum block of 2
+        const V t125 = t109 + t118;
+        // spectrum block of 2
+        const V t126 = t125 + t124;
         io.out(12, t126);
-        const V t127 = t124 - t83;
+        const V t127 = t125 - t124;
         io.out(2, t127);
+        // complex block of 5, multiplier 4
+        const V t128 = t112 - t116;
         // spectrum block of 2
-        const V t128 = t125 - t82;
-        io.out(17, t128);
-        const V t129 = t125 + t82;
-        io.out(7, t129);
+        const V t129 = t110 - t119;
         // spectrum block of 2
-        const V t130 = t27 + t95;
-        const V t131 = t27 - t95;
+        const V t130 = t129 - t128;
+        io.out(13, t130);
+        const V t131 = t129 + t128;
+        io.out(3, t131);
+        // complex block of 5, multiplier 4
+        const V t132 = t114 + t115;
         // spectrum block of 2
-        const V t132 = t130 + t65;
-        io.out(16, t132);
-        const V t133 = t130 - t65;
-        io.out(6, t133);
+        const V t133 = t110 + t119;
         // spectrum block of 2
-        const V t134 = t131 - t64;
-        io.out(1, t134);
-        const V t135 = t131 + t64;
-        io.out(11, t135);
+        const V t134 = t133 + t132;
+        io.out(8, t134);
+        const V t135 = t133 - t132;
+        io.out(18, t135);
     }
 };
 

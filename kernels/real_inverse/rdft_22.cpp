@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 22.
 // Inverse DFT to 22 real points, prime-factor 11, 2.
-// 84 additions, 74 subtractions, 120 multiplications (142 with `scale`); 15 constants; 27 values alive at most.
+// 84 additions, 74 subtractions, 120 multiplications (142 with `scale`); 15 constants; 41 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -11,18 +11,18 @@ struct RealInverseGraph<22> {
     static constexpr double c0 = 2.0;  // 2
     static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 1/5
     static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 3/5
-    static constexpr double c3 = 0.9510565162951535;  // sin 2 pi 1/5
-    static constexpr double c4 = 0.5877852522924731;  // -sin 2 pi 3/5
-    static constexpr double c5 = 0.1;  // 1/10
-    static constexpr double c6 = 0.21879791731559586;  // P[1] of 11
-    static constexpr double c7 = 0.6262008235209833;  // -Q[1] of 11
-    static constexpr double c8 = 0.3770255864361907;  // -Q[2] of 11
-    static constexpr double c9 = 0.5457579199356125;  // P[2] of 11
-    static constexpr double c10 = 0.24831391555962465;  // -P[3] of 11
+    static constexpr double c3 = 0.1;  // 1/10
+    static constexpr double c4 = 0.5457579199356125;  // P[2] of 11
+    static constexpr double c5 = 0.3770255864361907;  // -Q[2] of 11
+    static constexpr double c6 = 0.9510565162951535;  // sin 2 pi 1/5
+    static constexpr double c7 = 0.5877852522924731;  // -sin 2 pi 3/5
+    static constexpr double c8 = 0.030342906933726127;  // -P[4] of 11
+    static constexpr double c9 = 0.6626305969383026;  // -Q[4] of 11
+    static constexpr double c10 = 0.33166247903553997;  // beta of 11
     static constexpr double c11 = 0.6150936508690751;  // -Q[3] of 11
-    static constexpr double c12 = 0.6626305969383026;  // -Q[4] of 11
-    static constexpr double c13 = 0.030342906933726127;  // -P[4] of 11
-    static constexpr double c14 = 0.33166247903553997;  // beta of 11
+    static constexpr double c12 = 0.24831391555962465;  // -P[3] of 11
+    static constexpr double c13 = 0.6262008235209833;  // -Q[1] of 11
+    static constexpr double c14 = 0.21879791731559586;  // P[1] of 11
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
@@ -30,355 +30,437 @@ struct RealInverseGraph<22> {
         // doubled bins
         const V x1r = io.re(1);
         const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
         const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
+        const V t1 = c0 * x7r;
+        // real block of 5
+        const V t2 = t1 + t0;
+        const V t3 = c1 * t2;
+        const V t4 = c2 * t2;
+        const V t5 = t1 - t0;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t6 = c0 * x3r;
+        const V x5r = io.re(5);
+        const V t7 = c0 * x5r;
+        // real block of 5
+        const V t8 = t7 + t6;
+        const V t9 = c2 * t8;
+        const V t10 = t7 - t6;
+        // doubled bins
         const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
+        const V t11 = c0 * x9r;
+        // real block of 5
+        const V t12 = t2 + t8;
+        const V t13 = t12 + t11;
+        // spectrum block of 11, multiplier 2
+        const V t14 = c3 * t13;
+        // real block of 5
+        const V t15 = t3 - t9;
+        const V t16 = t15 + t11;
+        // spectrum block of 11, multiplier 2
+        const V t17 = c4 * t16;
+        const V t18 = c5 * t16;
+        // real block of 5
+        const V t19 = c6 * t5;
+        const V t20 = c7 * t10;
+        const V t21 = t20 - t19;
+        // spectrum block of 11, multiplier 2
+        const V t22 = c5 * t21;
+        const V t23 = c4 * t21;
+        // real block of 5
+        const V t24 = t11 - t4;
+        const V t25 = c1 * t8;
+        const V t26 = t24 + t25;
+        // spectrum block of 11, multiplier 2
+        const V t27 = c8 * t26;
+        const V t28 = c9 * t26;
+        // real block of 5
+        const V t29 = c7 * t5;
+        const V t30 = c6 * t10;
+        const V t31 = t29 + t30;
+        // spectrum block of 11, multiplier 2
+        const V t32 = c9 * t31;
+        const V t33 = c8 * t31;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t34 = c0 * x1i;
+        const V x7i = io.im(7);
+        const V t35 = c0 * x7i;
+        // real block of 5
+        const V t36 = t35 - t34;
+        const V t37 = c1 * t36;
+        const V t38 = c2 * t36;
+        const V t39 = t35 + t34;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t40 = c0 * x3i;
+        const V x5i = io.im(5);
+        const V t41 = c0 * x5i;
+        // real block of 5
+        const V t42 = t41 + t40;
+        const V t43 = c2 * t42;
+        const V t44 = t40 - t41;
+        // doubled bins
         const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
+        const V t45 = c0 * x9i;
+        // real block of 5
+        const V t46 = t36 - t42;
+        const V t47 = t46 - t45;
+        // spectrum block of 11, multiplier 2
+        const V t48 = c10 * t47;
+        // real block of 5
+        const V t49 = t37 + t43;
+        const V t50 = t49 - t45;
+        // spectrum block of 11, multiplier 2
+        const V t51 = c11 * t50;
+        const V t52 = c12 * t50;
+        // real block of 5
+        const V t53 = c6 * t39;
+        const V t54 = c7 * t44;
+        const V t55 = t54 - t53;
+        // spectrum block of 11, multiplier 2
+        const V t56 = c12 * t55;
+        const V t57 = c11 * t55;
+        // real block of 5
+        const V t58 = t45 + t38;
+        const V t59 = c1 * t42;
+        const V t60 = t58 + t59;
+        // spectrum block of 11, multiplier 2
+        const V t61 = c13 * t60;
+        const V t62 = c14 * t60;
+        // real block of 5
+        const V t63 = c7 * t39;
+        const V t64 = c6 * t44;
+        const V t65 = t63 + t64;
+        // spectrum block of 11, multiplier 2
+        const V t66 = c14 * t65;
+        const V t67 = c13 * t65;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t68 = c0 * x2r;
+        const V x4r = io.re(4);
+        const V t69 = c0 * x4r;
         const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
+        const V t70 = c0 * x10r;
+        // real block of 5
+        const V t71 = t69 + t70;
+        const V t72 = c1 * t71;
+        const V t73 = c2 * t71;
+        const V t74 = t69 - t70;
+        // doubled bins
+        const V x6r = io.re(6);
+        const V t75 = c0 * x6r;
+        const V x8r = io.re(8);
+        const V t76 = c0 * x8r;
+        // real block of 5
+        const V t77 = t75 + t76;
+        const V t78 = c2 * t77;
+        const V t79 = t75 - t76;
+        const V t80 = t71 + t77;
+        const V t81 = t80 + t68;
+        // spectrum block of 11, multiplier 2
+        const V t82 = c3 * t81;
+        // real block of 5
+        const V t83 = t72 - t78;
+        const V t84 = t83 + t68;
+        // spectrum block of 11, multiplier 2
+        const V t85 = c4 * t84;
+        const V t86 = c5 * t84;
+        // real block of 5
+        const V t87 = c6 * t74;
+        const V t88 = c7 * t79;
+        const V t89 = t88 - t87;
+        // spectrum block of 11, multiplier 2
+        const V t90 = c5 * t89;
+        const V t91 = c4 * t89;
+        // real block of 5
+        const V t92 = t68 - t73;
+        const V t93 = c1 * t77;
+        const V t94 = t92 + t93;
+        // spectrum block of 11, multiplier 2
+        const V t95 = c8 * t94;
+        const V t96 = c9 * t94;
+        // real block of 5
+        const V t97 = c7 * t74;
+        const V t98 = c6 * t79;
+        const V t99 = t97 + t98;
+        // spectrum block of 11, multiplier 2
+        const V t100 = c9 * t99;
+        const V t101 = c8 * t99;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t102 = c0 * x2i;
+        const V x4i = io.im(4);
+        const V t103 = c0 * x4i;
         const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
+        const V t104 = c0 * x10i;
         // real block of 5
-        const V t20 = t6 + t18;
-        const V t21 = t6 - t18;
-        const V t22 = t10 + t14;
-        const V t23 = t10 - t14;
-        const V t24 = t20 + t22;
-        const V t25 = t24 + t2;
-        const V t26 = c1 * t20;
-        const V t27 = c2 * t22;
-        const V t28 = t26 - t27;
-        const V t29 = t28 + t2;
-        const V t30 = c3 * t21;
-        const V t31 = c4 * t23;
-        const V t32 = t31 - t30;
-        const V t33 = c2 * t20;
-        const V t34 = t2 - t33;
-        const V t35 = c1 * t22;
-        const V t36 = t34 + t35;
-        const V t37 = c4 * t21;
-        const V t38 = c3 * t23;
-        const V t39 = t37 + t38;
+        const V t105 = t104 - t103;
+        const V t106 = c1 * t105;
+        const V t107 = c2 * t105;
+        const V t108 = t103 + t104;
+        // doubled bins
+        const V x6i = io.im(6);
+        const V t109 = c0 * x6i;
+        const V x8i = io.im(8);
+        const V t110 = c0 * x8i;
         // real block of 5
-        const V t40 = t19 - t7;
-        const V t41 = t7 + t19;
-        const V t42 = t11 + t15;
-        const V t43 = t11 - t15;
-        const V t44 = t40 + t42;
-        const V t45 = t44 + t3;
-        const V t46 = c1 * t40;
-        const V t47 = c2 * t42;
-        const V t48 = t46 - t47;
-        const V t49 = t48 + t3;
-        const V t50 = c3 * t41;
-        const V t51 = c4 * t43;
-        const V t52 = t50 + t51;
-        const V t53 = c2 * t40;
-        const V t54 = t3 - t53;
-        const V t55 = c1 * t42;
-        const V t56 = t54 + t55;
-        const V t57 = c4 * t41;
-        const V t58 = c3 * t43;
-        const V t59 = t57 - t58;
-        // spectrum block of 11, multiplier 2
-        const V t60 = c5 * t25;
-        const V x0r = io.re(0);
-        const V t61 = x0r - t60;
-        const V t62 = c6 * t59;
-        const V t63 = c7 * t56;
-        const V t64 = t62 - t63;
-        const V t65 = c6 * t56;
-        const V t66 = c7 * t59;
-        const V t67 = t66 + t65;
-        const V t68 = c8 * t32;
-        const V t69 = c9 * t29;
-        const V t70 = t69 + t68;
-        const V t71 = c8 * t29;
-        const V t72 = c9 * t32;
-        const V t73 = t72 - t71;
-        const V t74 = c10 * t52;
-        const V t75 = c11 * t49;
-        const V t76 = t75 + t74;
-        const V t77 = c10 * t49;
-        const V t78 = c11 * t52;
-        const V t79 = t78 - t77;
-        const V t80 = c12 * t39;
-        const V t81 = c13 * t36;
-        const V t82 = t81 + t80;
-        const V t83 = c12 * t36;
-        const V t84 = c13 * t39;
-        const V t85 = t84 - t83;
-        const V t86 = c14 * t45;
-        // spectrum block of 2
-        const V t87 = t61 + t86;
-        const V t88 = t61 - t86;
-        // complex block of 2
-        const V t89 = t73 - t79;
-        const V t90 = t70 - t76;
-        const V t91 = t73 + t79;
-        const V t92 = t70 + t76;
-        // complex block of 2
-        const V t93 = t85 - t67;
-        const V t94 = t64 - t82;
-        const V t95 = t85 + t67;
-        const V t96 = t82 + t64;
-        // spectrum block of 5, multiplier 2
-        const V t97 = t90 + t94;
-        const V t98 = t97 + t87;
-        const V t99 = c1 * t90;
-        const V t100 = c2 * t94;
-        const V t101 = t99 - t100;
-        const V t102 = t101 + t87;
-        const V t103 = c3 * t89;
-        const V t104 = c4 * t93;
-        const V t105 = t103 + t104;
-        const V t106 = t102 - t105;
-        const V t107 = t102 + t105;
-        const V t108 = c2 * t90;
-        const V t109 = t87 - t108;
-        const V t110 = c1 * t94;
         const V t111 = t109 + t110;
-        const V t112 = c4 * t89;
-        const V t113 = c3 * t93;
-        const V t114 = t112 - t113;
-        const V t115 = t111 - t114;
-        const V t116 = t111 + t114;
-        // spectrum block of 5, multiplier 2
-        const V t117 = t92 - t96;
-        const V t118 = t117 + t88;
-        const V t119 = c1 * t92;
-        const V t120 = c2 * t96;
-        const V t121 = t119 + t120;
-        const V t122 = t121 + t88;
-        const V t123 = c3 * t91;
-        const V t124 = c4 * t95;
-        const V t125 = t123 + t124;
-        const V t126 = t122 - t125;
-        const V t127 = t122 + t125;
-        const V t128 = c2 * t92;
-        const V t129 = t88 - t128;
-        const V t130 = c1 * t96;
-        const V t131 = t129 - t130;
-        const V t132 = c4 * t91;
-        const V t133 = c3 * t95;
-        const V t134 = t132 - t133;
-        const V t135 = t131 - t134;
-        const V t136 = t131 + t134;
+        const V t112 = c2 * t111;
+        const V t113 = t109 - t110;
+        const V t114 = t105 + t111;
+        const V t115 = t114 + t102;
         // spectrum block of 11, multiplier 2
-        const V t137 = x0r + t25;
+        const V t116 = c10 * t115;
         // real block of 5
-        const V t138 = t12 + t0;
-        const V t139 = t12 - t0;
-        const V t140 = t8 + t4;
-        const V t141 = t8 - t4;
-        const V t142 = t138 + t140;
-        const V t143 = t142 + t16;
-        const V t144 = c1 * t138;
-        const V t145 = c2 * t140;
-        const V t146 = t144 - t145;
-        const V t147 = t146 + t16;
-        const V t148 = c3 * t139;
-        const V t149 = c4 * t141;
-        const V t150 = t149 - t148;
-        const V t151 = c2 * t138;
-        const V t152 = t16 - t151;
-        const V t153 = c1 * t140;
-        const V t154 = t152 + t153;
-        const V t155 = c4 * t139;
-        const V t156 = c3 * t141;
+        const V t117 = t106 - t112;
+        const V t118 = t117 + t102;
+        // spectrum block of 11, multiplier 2
+        const V t119 = c11 * t118;
+        const V t120 = c12 * t118;
+        // real block of 5
+        const V t121 = c6 * t108;
+        const V t122 = c7 * t113;
+        const V t123 = t121 + t122;
+        // spectrum block of 11, multiplier 2
+        const V t124 = c12 * t123;
+        const V t125 = c11 * t123;
+        // real block of 5
+        const V t126 = t102 - t107;
+        const V t127 = c1 * t111;
+        const V t128 = t126 + t127;
+        // spectrum block of 11, multiplier 2
+        const V t129 = c13 * t128;
+        const V t130 = c14 * t128;
+        // real block of 5
+        const V t131 = c7 * t108;
+        const V t132 = c6 * t113;
+        const V t133 = t131 - t132;
+        // spectrum block of 11, multiplier 2
+        const V t134 = c14 * t133;
+        const V t135 = c13 * t133;
+        const V x0r = io.re(0);
+        const V t136 = x0r - t82;
+        // spectrum block of 2
+        const V t137 = t136 + t116;
+        const V t138 = t136 - t116;
+        // spectrum block of 11, multiplier 2
+        const V t139 = t134 - t129;
+        const V t140 = t95 + t100;
+        // complex block of 2
+        const V t141 = t139 - t140;
+        const V t142 = t140 + t139;
+        // spectrum block of 11, multiplier 2
+        const V t143 = t85 + t90;
+        const V t144 = t119 + t124;
+        // complex block of 2
+        const V t145 = t143 - t144;
+        const V t146 = t143 + t144;
+        // spectrum block of 5, multiplier 2
+        const V t147 = t145 + t141;
+        const V t148 = c1 * t145;
+        const V t149 = c2 * t141;
+        const V t150 = t148 - t149;
+        const V t151 = c2 * t145;
+        const V t152 = t137 - t151;
+        const V t153 = c1 * t141;
+        // spectrum block of 5, multiplier 2
+        const V t154 = t146 - t142;
+        const V t155 = c1 * t146;
+        const V t156 = c2 * t142;
         const V t157 = t155 + t156;
-        // real block of 5
-        const V t158 = t13 - t1;
-        const V t159 = t13 + t1;
-        const V t160 = t9 + t5;
-        const V t161 = t5 - t9;
-        const V t162 = t158 - t160;
-        const V t163 = t162 - t17;
-        const V t164 = c1 * t158;
-        const V t165 = c2 * t160;
-        const V t166 = t164 + t165;
-        const V t167 = t166 - t17;
-        const V t168 = c3 * t159;
-        const V t169 = c4 * t161;
-        const V t170 = t169 - t168;
-        const V t171 = c2 * t158;
-        const V t172 = t17 + t171;
-        const V t173 = c1 * t160;
-        const V t174 = t172 + t173;
-        const V t175 = c4 * t159;
-        const V t176 = c3 * t161;
-        const V t177 = t175 + t176;
+        const V t158 = c2 * t146;
+        const V t159 = t138 - t158;
+        const V t160 = c1 * t142;
         // spectrum block of 11, multiplier 2
-        const V t178 = c5 * t143;
+        const V t161 = t135 + t130;
+        const V t162 = t101 - t96;
+        // complex block of 2
+        const V t163 = t162 - t161;
+        const V t164 = t162 + t161;
+        // spectrum block of 5, multiplier 2
+        const V t165 = c7 * t163;
+        const V t166 = c6 * t163;
+        // spectrum block of 5, multiplier 2
+        const V t167 = c7 * t164;
+        const V t168 = c6 * t164;
+        // spectrum block of 11, multiplier 2
+        const V t169 = t91 - t86;
+        const V t170 = t125 - t120;
+        // complex block of 2
+        const V t171 = t169 - t170;
+        const V t172 = t169 + t170;
+        // spectrum block of 5, multiplier 2
+        const V t173 = c6 * t171;
+        const V t174 = c7 * t171;
+        // spectrum block of 5, multiplier 2
+        const V t175 = c6 * t172;
+        const V t176 = c7 * t172;
+        // spectrum block of 11, multiplier 2
         const V x11r = io.re(11);
-        const V t179 = x11r - t178;
-        const V t180 = c6 * t177;
-        const V t181 = c7 * t174;
-        const V t182 = t181 - t180;
-        const V t183 = c6 * t174;
-        const V t184 = c7 * t177;
-        const V t185 = t184 + t183;
-        const V t186 = c8 * t150;
-        const V t187 = c9 * t147;
-        const V t188 = t187 + t186;
-        const V t189 = c8 * t147;
-        const V t190 = c9 * t150;
-        const V t191 = t190 - t189;
-        const V t192 = c10 * t170;
-        const V t193 = c11 * t167;
-        const V t194 = t193 + t192;
-        const V t195 = c10 * t167;
-        const V t196 = c11 * t170;
-        const V t197 = t196 - t195;
-        const V t198 = c12 * t157;
-        const V t199 = c13 * t154;
-        const V t200 = t199 + t198;
-        const V t201 = c12 * t154;
-        const V t202 = c13 * t157;
-        const V t203 = t202 - t201;
-        const V t204 = c14 * t163;
+        const V t177 = x11r - t14;
         // spectrum block of 2
-        const V t205 = t179 + t204;
-        const V t206 = t179 - t204;
-        // complex block of 2
-        const V t207 = t191 - t197;
-        const V t208 = t188 - t194;
-        const V t209 = t191 + t197;
-        const V t210 = t188 + t194;
-        // complex block of 2
-        const V t211 = t203 + t185;
-        const V t212 = t182 - t200;
-        const V t213 = t203 - t185;
-        const V t214 = t200 + t182;
-        // spectrum block of 5, multiplier 2
-        const V t215 = t208 + t212;
-        const V t216 = t215 + t205;
-        const V t217 = c1 * t208;
-        const V t218 = c2 * t212;
-        const V t219 = t217 - t218;
-        const V t220 = t219 + t205;
-        const V t221 = c3 * t207;
-        const V t222 = c4 * t211;
-        const V t223 = t221 + t222;
-        const V t224 = t220 - t223;
-        const V t225 = t220 + t223;
-        const V t226 = c2 * t208;
-        const V t227 = t205 - t226;
-        const V t228 = c1 * t212;
-        const V t229 = t227 + t228;
-        const V t230 = c4 * t207;
-        const V t231 = c3 * t211;
-        const V t232 = t230 - t231;
-        const V t233 = t229 - t232;
-        const V t234 = t229 + t232;
-        // spectrum block of 5, multiplier 2
-        const V t235 = t210 - t214;
-        const V t236 = t235 + t206;
-        const V t237 = c1 * t210;
-        const V t238 = c2 * t214;
-        const V t239 = t237 + t238;
-        const V t240 = t239 + t206;
-        const V t241 = c3 * t209;
-        const V t242 = c4 * t213;
-        const V t243 = t241 + t242;
-        const V t244 = t240 - t243;
-        const V t245 = t240 + t243;
-        const V t246 = c2 * t210;
-        const V t247 = t206 - t246;
-        const V t248 = c1 * t214;
-        const V t249 = t247 - t248;
-        const V t250 = c4 * t209;
-        const V t251 = c3 * t213;
-        const V t252 = t250 - t251;
-        const V t253 = t249 - t252;
-        const V t254 = t249 + t252;
+        const V t178 = t177 + t48;
+        const V t179 = t177 - t48;
         // spectrum block of 11, multiplier 2
-        const V t255 = x11r + t143;
+        const V t180 = t61 - t66;
+        const V t181 = t27 + t32;
+        // complex block of 2
+        const V t182 = t180 - t181;
+        const V t183 = t181 + t180;
+        // spectrum block of 11, multiplier 2
+        const V t184 = t17 + t22;
+        const V t185 = t51 + t56;
+        // complex block of 2
+        const V t186 = t184 - t185;
+        const V t187 = t184 + t185;
+        // spectrum block of 5, multiplier 2
+        const V t188 = t186 + t182;
+        const V t189 = c1 * t186;
+        const V t190 = c2 * t182;
+        const V t191 = t189 - t190;
+        const V t192 = c2 * t186;
+        const V t193 = t178 - t192;
+        const V t194 = c1 * t182;
+        // spectrum block of 5, multiplier 2
+        const V t195 = t187 - t183;
+        const V t196 = c1 * t187;
+        const V t197 = c2 * t183;
+        const V t198 = t196 + t197;
+        const V t199 = c2 * t187;
+        const V t200 = t179 - t199;
+        const V t201 = c1 * t183;
+        // spectrum block of 11, multiplier 2
+        const V t202 = t67 + t62;
+        const V t203 = t33 - t28;
+        // complex block of 2
+        const V t204 = t203 + t202;
+        const V t205 = t203 - t202;
+        // spectrum block of 5, multiplier 2
+        const V t206 = c7 * t204;
+        const V t207 = c6 * t204;
+        // spectrum block of 5, multiplier 2
+        const V t208 = c7 * t205;
+        const V t209 = c6 * t205;
+        // spectrum block of 11, multiplier 2
+        const V t210 = t23 - t18;
+        const V t211 = t57 - t52;
+        // complex block of 2
+        const V t212 = t210 - t211;
+        const V t213 = t210 + t211;
+        // spectrum block of 5, multiplier 2
+        const V t214 = c6 * t212;
+        const V t215 = c7 * t212;
+        // spectrum block of 5, multiplier 2
+        const V t216 = c6 * t213;
+        const V t217 = c7 * t213;
+        // spectrum block of 5, multiplier 2
+        const V t218 = t147 + t137;
+        // spectrum block of 5, multiplier 2
+        const V t219 = t188 + t178;
         // spectrum block of 2
-        const V t256 = t137 + t255;
-        io.out(0, t256);
-        const V t257 = t137 - t255;
-        io.out(11, t257);
+        const V t220 = t218 + t219;
+        io.out(2, t220);
+        const V t221 = t218 - t219;
+        io.out(13, t221);
+        // spectrum block of 5, multiplier 2
+        const V t222 = t150 + t137;
+        const V t223 = t173 + t165;
+        const V t224 = t222 - t223;
+        const V t225 = t222 + t223;
+        // spectrum block of 5, multiplier 2
+        const V t226 = t191 + t178;
+        const V t227 = t214 + t206;
+        const V t228 = t226 - t227;
+        const V t229 = t226 + t227;
         // spectrum block of 2
-        const V t258 = t98 + t216;
-        io.out(2, t258);
-        const V t259 = t98 - t216;
-        io.out(13, t259);
+        const V t230 = t224 + t228;
+        io.out(10, t230);
+        const V t231 = t224 - t228;
+        io.out(21, t231);
         // spectrum block of 2
-        const V t260 = t127 + t245;
-        io.out(4, t260);
-        const V t261 = t127 - t245;
-        io.out(15, t261);
+        const V t232 = t225 + t229;
+        io.out(18, t232);
+        const V t233 = t225 - t229;
+        io.out(7, t233);
+        // spectrum block of 5, multiplier 2
+        const V t234 = t152 + t153;
+        const V t235 = t174 - t166;
+        const V t236 = t234 - t235;
+        const V t237 = t234 + t235;
+        // spectrum block of 5, multiplier 2
+        const V t238 = t193 + t194;
+        const V t239 = t215 - t207;
+        const V t240 = t238 - t239;
+        const V t241 = t238 + t239;
         // spectrum block of 2
-        const V t262 = t115 + t233;
-        io.out(6, t262);
-        const V t263 = t115 - t233;
-        io.out(17, t263);
+        const V t242 = t236 + t240;
+        io.out(6, t242);
+        const V t243 = t236 - t240;
+        io.out(17, t243);
         // spectrum block of 2
-        const V t264 = t116 + t234;
-        io.out(8, t264);
-        const V t265 = t116 - t234;
-        io.out(19, t265);
+        const V t244 = t237 + t241;
+        io.out(8, t244);
+        const V t245 = t237 - t241;
+        io.out(19, t245);
+        // spectrum block of 5, multiplier 2
+        const V t246 = t154 + t138;
+        // spectrum block of 5, multiplier 2
+        const V t247 = t195 + t179;
         // spectrum block of 2
-        const V t266 = t106 + t224;
-        io.out(10, t266);
-        const V t267 = t106 - t224;
-        io.out(21, t267);
+        const V t248 = t246 + t247;
+        io.out(20, t248);
+        const V t249 = t246 - t247;
+        io.out(9, t249);
+        // spectrum block of 5, multiplier 2
+        const V t250 = t157 + t138;
+        const V t251 = t175 + t167;
+        const V t252 = t250 - t251;
+        const V t253 = t250 + t251;
+        // spectrum block of 5, multiplier 2
+        const V t254 = t198 + t179;
+        const V t255 = t216 + t208;
+        const V t256 = t254 - t255;
+        const V t257 = t254 + t255;
         // spectrum block of 2
-        const V t268 = t126 + t244;
-        io.out(12, t268);
-        const V t269 = t126 - t244;
-        io.out(1, t269);
+        const V t258 = t253 + t257;
+        io.out(4, t258);
+        const V t259 = t253 - t257;
+        io.out(15, t259);
         // spectrum block of 2
-        const V t270 = t136 + t254;
+        const V t260 = t252 + t256;
+        io.out(12, t260);
+        const V t261 = t252 - t256;
+        io.out(1, t261);
+        // spectrum block of 5, multiplier 2
+        const V t262 = t159 - t160;
+        const V t263 = t176 - t168;
+        const V t264 = t262 - t263;
+        const V t265 = t262 + t263;
+        // spectrum block of 5, multiplier 2
+        const V t266 = t200 - t201;
+        const V t267 = t217 - t209;
+        const V t268 = t266 - t267;
+        const V t269 = t266 + t267;
+        // spectrum block of 2
+        const V t270 = t265 + t269;
         io.out(14, t270);
-        const V t271 = t136 - t254;
+        const V t271 = t265 - t269;
         io.out(3, t271);
         // spectrum block of 2
-        const V t272 = t135 + t253;
+        const V t272 = t264 + t268;
         io.out(16, t272);
-        const V t273 = t135 - t253;
+        const V t273 = t264 - t268;
         io.out(5, t273);
+        // spectrum block of 11, multiplier 2
+        const V t274 = x0r + t81;
+        // spectrum block of 11, multiplier 2
+        const V t275 = x11r + t13;
         // spectrum block of 2
-        const V t274 = t107 + t225;
-        io.out(18, t274);
-        const V t275 = t107 - t225;
-        io.out(7, t275);
-        // spectrum block of 2
-        const V t276 = t118 + t236;
-        io.out(20, t276);
-        const V t277 = t118 - t236;
-        io.out(9, t277);
+        const V t276 = t274 + t275;
+        io.out(0, t276);
+        const V t277 = t274 - t275;
+        io.out(11, t277);
     }
 };
 

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 35.
 // Inverse DFT to 35 real points, prime-factor 5, 7.
-// 119 additions, 109 subtractions, 180 multiplications (215 with `scale`); 11 constants; 43 values alive at most.
+// 119 additions, 109 subtractions, 180 multiplications (215 with `scale`); 11 constants; 57 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -24,493 +24,575 @@ struct RealInverseGraph<35> {
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
         // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
         const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
+        const V t0 = c0 * x7r;
         // spectrum block of 5, multiplier 2
-        const V t34 = t12 + t26;
+        const V t1 = c1 * t0;
+        const V t2 = c2 * t0;
+        // doubled bins
+        const V x14r = io.re(14);
+        const V t3 = c0 * x14r;
+        // spectrum block of 5, multiplier 2
+        const V t4 = c2 * t3;
+        const V t5 = t0 + t3;
         const V x0r = io.re(0);
-        const V t35 = t34 + x0r;
-        const V t36 = c1 * t12;
-        const V t37 = c2 * t26;
-        const V t38 = t36 - t37;
-        const V t39 = t38 + x0r;
-        const V t40 = c3 * t13;
-        const V t41 = c4 * t27;
-        const V t42 = t40 + t41;
-        const V t43 = t39 - t42;
-        const V t44 = t39 + t42;
-        const V t45 = c2 * t12;
-        const V t46 = x0r - t45;
-        const V t47 = c1 * t26;
-        const V t48 = t46 + t47;
-        const V t49 = c4 * t13;
-        const V t50 = c3 * t27;
-        const V t51 = t49 - t50;
-        const V t52 = t48 - t51;
-        const V t53 = t48 + t51;
+        const V t6 = t5 + x0r;
+        const V t7 = t1 - t4;
+        const V t8 = t7 + x0r;
+        const V t9 = x0r - t2;
+        const V t10 = c1 * t3;
+        const V t11 = t9 + t10;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t12 = c0 * x1r;
+        const V x6r = io.re(6);
+        const V t13 = c0 * x6r;
         // complex block of 5, multiplier 2
-        const V t54 = t23 - t3;
-        const V t55 = t22 + t2;
-        const V t56 = t23 + t3;
-        const V t57 = t22 - t2;
-        const V t58 = t17 + t31;
-        const V t59 = t16 + t30;
-        const V t60 = t31 - t17;
-        const V t61 = t16 - t30;
-        const V t62 = t54 - t58;
-        const V t63 = t55 + t59;
-        const V t64 = t62 + t9;
-        const V t65 = t63 + t8;
-        const V t66 = c1 * t54;
-        const V t67 = c2 * t58;
-        const V t68 = t66 + t67;
-        const V t69 = t68 + t9;
-        const V t70 = c1 * t55;
-        const V t71 = c2 * t59;
+        const V t14 = t12 + t13;
+        const V t15 = t12 - t13;
+        // doubled bins
+        const V x8r = io.re(8);
+        const V t16 = c0 * x8r;
+        const V x13r = io.re(13);
+        const V t17 = c0 * x13r;
+        // complex block of 5, multiplier 2
+        const V t18 = t17 + t16;
+        const V t19 = t17 - t16;
+        // doubled bins
+        const V x15r = io.re(15);
+        const V t20 = c0 * x15r;
+        // complex block of 5, multiplier 2
+        const V t21 = t18 + t14;
+        const V t22 = t21 + t20;
+        const V t23 = c1 * t18;
+        const V t24 = c2 * t14;
+        const V t25 = t23 - t24;
+        const V t26 = t25 + t20;
+        const V t27 = c3 * t19;
+        const V t28 = c4 * t15;
+        const V t29 = t27 - t28;
+        const V t30 = c2 * t18;
+        const V t31 = t20 - t30;
+        const V t32 = c1 * t14;
+        const V t33 = t31 + t32;
+        const V t34 = c4 * t19;
+        const V t35 = c3 * t15;
+        const V t36 = t34 + t35;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t37 = c0 * x1i;
+        const V x6i = io.im(6);
+        const V t38 = c0 * x6i;
+        // complex block of 5, multiplier 2
+        const V t39 = t37 - t38;
+        const V t40 = t37 + t38;
+        // doubled bins
+        const V x8i = io.im(8);
+        const V t41 = c0 * x8i;
+        const V x13i = io.im(13);
+        const V t42 = c0 * x13i;
+        // complex block of 5, multiplier 2
+        const V t43 = t41 - t42;
+        const V t44 = t42 + t41;
+        // doubled bins
+        const V x15i = io.im(15);
+        const V t45 = c0 * x15i;
+        // complex block of 5, multiplier 2
+        const V t46 = t43 + t39;
+        const V t47 = c1 * t43;
+        const V t48 = c2 * t39;
+        const V t49 = t47 - t48;
+        const V t50 = c3 * t44;
+        const V t51 = c4 * t40;
+        const V t52 = t50 + t51;
+        const V t53 = c2 * t43;
+        const V t54 = t45 - t53;
+        const V t55 = c1 * t39;
+        const V t56 = c4 * t44;
+        const V t57 = c3 * t40;
+        const V t58 = t57 - t56;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t59 = c0 * x2r;
+        const V x12r = io.re(12);
+        const V t60 = c0 * x12r;
+        // complex block of 5, multiplier 2
+        const V t61 = t60 + t59;
+        const V t62 = t60 - t59;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t63 = c0 * x5r;
+        const V x9r = io.re(9);
+        const V t64 = c0 * x9r;
+        const V x16r = io.re(16);
+        const V t65 = c0 * x16r;
+        // complex block of 5, multiplier 2
+        const V t66 = t64 + t65;
+        const V t67 = t64 - t65;
+        const V t68 = t61 + t66;
+        const V t69 = t68 + t63;
+        const V t70 = c1 * t61;
+        const V t71 = c2 * t66;
         const V t72 = t70 - t71;
-        const V t73 = t72 + t8;
-        const V t74 = c3 * t56;
-        const V t75 = c4 * t60;
+        const V t73 = t72 + t63;
+        const V t74 = c3 * t62;
+        const V t75 = c4 * t67;
         const V t76 = t74 - t75;
-        const V t77 = c3 * t57;
-        const V t78 = c4 * t61;
-        const V t79 = t77 - t78;
-        const V t80 = t69 + t79;
-        const V t81 = t73 - t76;
-        const V t82 = t69 - t79;
-        const V t83 = t73 + t76;
-        const V t84 = c2 * t54;
-        const V t85 = t9 - t84;
-        const V t86 = c1 * t58;
-        const V t87 = t85 - t86;
-        const V t88 = c2 * t55;
-        const V t89 = t8 - t88;
-        const V t90 = c1 * t59;
+        const V t77 = c2 * t61;
+        const V t78 = t63 - t77;
+        const V t79 = c1 * t66;
+        const V t80 = t78 + t79;
+        const V t81 = c4 * t62;
+        const V t82 = c3 * t67;
+        const V t83 = t81 + t82;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t84 = c0 * x2i;
+        const V x12i = io.im(12);
+        const V t85 = c0 * x12i;
+        // complex block of 5, multiplier 2
+        const V t86 = t85 - t84;
+        const V t87 = t85 + t84;
+        // doubled bins
+        const V x5i = io.im(5);
+        const V t88 = c0 * x5i;
+        const V x9i = io.im(9);
+        const V t89 = c0 * x9i;
+        const V x16i = io.im(16);
+        const V t90 = c0 * x16i;
+        // complex block of 5, multiplier 2
         const V t91 = t89 + t90;
-        const V t92 = c4 * t56;
-        const V t93 = c3 * t60;
-        const V t94 = t92 + t93;
-        const V t95 = c4 * t57;
-        const V t96 = c3 * t61;
+        const V t92 = t90 - t89;
+        const V t93 = t86 - t91;
+        const V t94 = t93 + t88;
+        const V t95 = c1 * t86;
+        const V t96 = c2 * t91;
         const V t97 = t95 + t96;
-        const V t98 = t87 + t97;
-        const V t99 = t91 - t94;
-        const V t100 = t87 - t97;
-        const V t101 = t91 + t94;
+        const V t98 = t97 + t88;
+        const V t99 = c3 * t87;
+        const V t100 = c4 * t92;
+        const V t101 = t99 - t100;
+        const V t102 = c2 * t86;
+        const V t103 = t88 - t102;
+        const V t104 = c1 * t91;
+        const V t105 = t103 - t104;
+        const V t106 = c4 * t87;
+        const V t107 = c3 * t92;
+        const V t108 = t106 + t107;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t109 = c0 * x3r;
+        const V x17r = io.re(17);
+        const V t110 = c0 * x17r;
         // complex block of 5, multiplier 2
-        const V t102 = t33 + t5;
-        const V t103 = t32 + t4;
-        const V t104 = t33 - t5;
-        const V t105 = t32 - t4;
-        const V t106 = t7 + t21;
-        const V t107 = t6 + t20;
-        const V t108 = t21 - t7;
-        const V t109 = t6 - t20;
-        const V t110 = t102 - t106;
-        const V t111 = t103 + t107;
-        const V t112 = t110 + t19;
-        const V t113 = t111 + t18;
-        const V t114 = c1 * t102;
-        const V t115 = c2 * t106;
-        const V t116 = t114 + t115;
-        const V t117 = t116 + t19;
-        const V t118 = c1 * t103;
-        const V t119 = c2 * t107;
-        const V t120 = t118 - t119;
-        const V t121 = t120 + t18;
-        const V t122 = c3 * t104;
-        const V t123 = c4 * t108;
-        const V t124 = t122 - t123;
-        const V t125 = c3 * t105;
-        const V t126 = c4 * t109;
-        const V t127 = t125 - t126;
-        const V t128 = t117 + t127;
-        const V t129 = t121 - t124;
-        const V t130 = t117 - t127;
-        const V t131 = t121 + t124;
-        const V t132 = c2 * t102;
-        const V t133 = t19 - t132;
-        const V t134 = c1 * t106;
-        const V t135 = t133 - t134;
-        const V t136 = c2 * t103;
-        const V t137 = t18 - t136;
-        const V t138 = c1 * t107;
-        const V t139 = t137 + t138;
-        const V t140 = c4 * t104;
-        const V t141 = c3 * t108;
-        const V t142 = t140 + t141;
-        const V t143 = c4 * t105;
-        const V t144 = c3 * t109;
-        const V t145 = t143 + t144;
-        const V t146 = t135 + t145;
-        const V t147 = t139 - t142;
-        const V t148 = t135 - t145;
-        const V t149 = t139 + t142;
+        const V t111 = t110 + t109;
+        const V t112 = t110 - t109;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t113 = c0 * x4r;
+        const V x11r = io.re(11);
+        const V t114 = c0 * x11r;
         // complex block of 5, multiplier 2
-        const V t150 = t15 - t25;
-        const V t151 = t24 + t14;
-        const V t152 = t25 + t15;
-        const V t153 = t24 - t14;
-        const V t154 = t1 - t11;
-        const V t155 = t0 + t10;
-        const V t156 = t1 + t11;
-        const V t157 = t0 - t10;
-        const V t158 = t150 + t154;
-        const V t159 = t151 + t155;
-        const V t160 = t158 + t29;
-        const V t161 = t159 + t28;
-        const V t162 = c1 * t150;
-        const V t163 = c2 * t154;
-        const V t164 = t162 - t163;
-        const V t165 = t164 + t29;
-        const V t166 = c1 * t151;
-        const V t167 = c2 * t155;
-        const V t168 = t166 - t167;
-        const V t169 = t168 + t28;
-        const V t170 = c3 * t152;
-        const V t171 = c4 * t156;
-        const V t172 = t170 + t171;
-        const V t173 = c3 * t153;
-        const V t174 = c4 * t157;
-        const V t175 = t173 - t174;
-        const V t176 = t165 + t175;
-        const V t177 = t169 + t172;
-        const V t178 = t165 - t175;
-        const V t179 = t169 - t172;
-        const V t180 = c2 * t150;
-        const V t181 = t29 - t180;
-        const V t182 = c1 * t154;
-        const V t183 = t181 + t182;
-        const V t184 = c2 * t151;
-        const V t185 = t28 - t184;
-        const V t186 = c1 * t155;
-        const V t187 = t185 + t186;
-        const V t188 = c4 * t152;
-        const V t189 = c3 * t156;
-        const V t190 = t189 - t188;
-        const V t191 = c4 * t153;
-        const V t192 = c3 * t157;
-        const V t193 = t191 + t192;
-        const V t194 = t183 + t193;
-        const V t195 = t187 - t190;
-        const V t196 = t183 - t193;
-        const V t197 = t187 + t190;
+        const V t115 = t113 + t114;
+        const V t116 = t113 - t114;
+        // doubled bins
+        const V x10r = io.re(10);
+        const V t117 = c0 * x10r;
+        // complex block of 5, multiplier 2
+        const V t118 = t111 + t115;
+        const V t119 = t118 + t117;
+        const V t120 = c1 * t111;
+        const V t121 = c2 * t115;
+        const V t122 = t120 - t121;
+        const V t123 = t122 + t117;
+        const V t124 = c3 * t112;
+        const V t125 = c4 * t116;
+        const V t126 = t124 - t125;
+        const V t127 = c2 * t111;
+        const V t128 = t117 - t127;
+        const V t129 = c1 * t115;
+        const V t130 = t128 + t129;
+        const V t131 = c4 * t112;
+        const V t132 = c3 * t116;
+        const V t133 = t131 + t132;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t134 = c0 * x3i;
+        const V x17i = io.im(17);
+        const V t135 = c0 * x17i;
+        // complex block of 5, multiplier 2
+        const V t136 = t135 + t134;
+        const V t137 = t135 - t134;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t138 = c0 * x4i;
+        const V x11i = io.im(11);
+        const V t139 = c0 * x11i;
+        // complex block of 5, multiplier 2
+        const V t140 = t138 + t139;
+        const V t141 = t139 - t138;
+        // doubled bins
+        const V x10i = io.im(10);
+        const V t142 = c0 * x10i;
+        // complex block of 5, multiplier 2
+        const V t143 = t136 - t140;
+        const V t144 = t143 + t142;
+        const V t145 = c1 * t136;
+        const V t146 = c2 * t140;
+        const V t147 = t145 + t146;
+        const V t148 = t147 + t142;
+        const V t149 = c3 * t137;
+        const V t150 = c4 * t141;
+        const V t151 = t149 - t150;
+        const V t152 = c2 * t136;
+        const V t153 = t142 - t152;
+        const V t154 = c1 * t140;
+        const V t155 = t153 - t154;
+        const V t156 = c4 * t137;
+        const V t157 = c3 * t141;
+        const V t158 = t156 + t157;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t159 = c0 * x7i;
+        const V x14i = io.im(14);
+        const V t160 = c0 * x14i;
+        // spectrum block of 5, multiplier 2
+        const V t161 = c3 * t159;
+        const V t162 = c4 * t160;
+        const V t163 = t161 + t162;
+        const V t164 = c4 * t159;
+        const V t165 = c3 * t160;
+        const V t166 = t164 - t165;
+        const V t167 = t8 - t163;
+        // complex block of 5, multiplier 2
+        const V t168 = t73 - t101;
         // spectrum block of 7, multiplier 5
-        const V t198 = t65 + t113;
-        const V t199 = t198 + t161;
-        const V t200 = t199 + t35;
-        io.out(0, t200);
-        const V t201 = c5 * t65;
-        const V t202 = c6 * t113;
-        const V t203 = t201 - t202;
-        const V t204 = c7 * t161;
-        const V t205 = t203 - t204;
-        const V t206 = t205 + t35;
-        const V t207 = c8 * t64;
-        const V t208 = c9 * t112;
-        const V t209 = t207 + t208;
-        const V t210 = c10 * t160;
-        const V t211 = t209 + t210;
-        const V t212 = t206 - t211;
-        io.out(15, t212);
-        const V t213 = t206 + t211;
-        io.out(20, t213);
-        const V t214 = c6 * t65;
-        const V t215 = t35 - t214;
-        const V t216 = c7 * t113;
-        const V t217 = t215 - t216;
-        const V t218 = c5 * t161;
-        const V t219 = t217 + t218;
-        const V t220 = c9 * t64;
-        const V t221 = c10 * t112;
-        const V t222 = t220 - t221;
-        const V t223 = c8 * t160;
-        const V t224 = t222 - t223;
-        const V t225 = t219 - t224;
-        io.out(30, t225);
-        const V t226 = t219 + t224;
-        io.out(5, t226);
-        const V t227 = c7 * t65;
-        const V t228 = t35 - t227;
-        const V t229 = c5 * t113;
-        const V t230 = t228 + t229;
-        const V t231 = c6 * t161;
-        const V t232 = t230 - t231;
-        const V t233 = c10 * t64;
-        const V t234 = c8 * t112;
-        const V t235 = t233 - t234;
-        const V t236 = c9 * t160;
-        const V t237 = t235 + t236;
-        const V t238 = t232 - t237;
-        io.out(10, t238);
-        const V t239 = t232 + t237;
-        io.out(25, t239);
+        const V t169 = c5 * t168;
+        const V t170 = c6 * t168;
+        const V t171 = c7 * t168;
+        // complex block of 5, multiplier 2
+        const V t172 = t123 - t151;
         // spectrum block of 7, multiplier 5
-        const V t240 = t99 + t147;
-        const V t241 = t240 + t195;
-        const V t242 = t241 + t52;
-        io.out(7, t242);
-        const V t243 = c5 * t99;
-        const V t244 = c6 * t147;
-        const V t245 = t243 - t244;
-        const V t246 = c7 * t195;
+        const V t173 = c6 * t172;
+        const V t174 = t168 + t172;
+        const V t175 = t169 - t173;
+        const V t176 = t167 - t170;
+        const V t177 = c7 * t172;
+        const V t178 = t167 - t171;
+        const V t179 = c5 * t172;
+        // spectrum block of 5, multiplier 2
+        const V t180 = t8 + t163;
+        // complex block of 5, multiplier 2
+        const V t181 = t73 + t101;
+        // spectrum block of 7, multiplier 5
+        const V t182 = c5 * t181;
+        const V t183 = c6 * t181;
+        const V t184 = c7 * t181;
+        // complex block of 5, multiplier 2
+        const V t185 = t123 + t151;
+        // spectrum block of 7, multiplier 5
+        const V t186 = c6 * t185;
+        const V t187 = t181 + t185;
+        const V t188 = t182 - t186;
+        const V t189 = t180 - t183;
+        const V t190 = c7 * t185;
+        const V t191 = t180 - t184;
+        const V t192 = c5 * t185;
+        // complex block of 5, multiplier 2
+        const V t193 = t98 + t76;
+        // spectrum block of 7, multiplier 5
+        const V t194 = c8 * t193;
+        const V t195 = c9 * t193;
+        const V t196 = c10 * t193;
+        // complex block of 5, multiplier 2
+        const V t197 = t148 + t126;
+        // spectrum block of 7, multiplier 5
+        const V t198 = c9 * t197;
+        const V t199 = c10 * t197;
+        const V t200 = c8 * t197;
+        const V t201 = t194 + t198;
+        const V t202 = t195 - t199;
+        const V t203 = t196 - t200;
+        // complex block of 5, multiplier 2
+        const V t204 = t98 - t76;
+        // spectrum block of 7, multiplier 5
+        const V t205 = c8 * t204;
+        const V t206 = c9 * t204;
+        const V t207 = c10 * t204;
+        // complex block of 5, multiplier 2
+        const V t208 = t148 - t126;
+        // spectrum block of 7, multiplier 5
+        const V t209 = c9 * t208;
+        const V t210 = c10 * t208;
+        const V t211 = c8 * t208;
+        const V t212 = t205 + t209;
+        const V t213 = t206 - t210;
+        const V t214 = t207 - t211;
+        // complex block of 5, multiplier 2
+        const V t215 = t49 + t45;
+        const V t216 = t215 + t29;
+        const V t217 = t215 - t29;
+        // spectrum block of 7, multiplier 5
+        const V t218 = c10 * t217;
+        const V t219 = c8 * t217;
+        const V t220 = c9 * t217;
+        // spectrum block of 7, multiplier 5
+        const V t221 = c10 * t216;
+        const V t222 = c8 * t216;
+        const V t223 = c9 * t216;
+        // complex block of 5, multiplier 2
+        const V t224 = t26 + t52;
+        // spectrum block of 7, multiplier 5
+        const V t225 = c7 * t224;
+        const V t226 = c5 * t224;
+        const V t227 = c6 * t224;
+        // complex block of 5, multiplier 2
+        const V t228 = t26 - t52;
+        // spectrum block of 7, multiplier 5
+        const V t229 = c7 * t228;
+        const V t230 = c5 * t228;
+        const V t231 = c6 * t228;
+        const V t232 = t187 + t228;
+        const V t233 = t232 + t180;
+        io.out(14, t233);
+        const V t234 = t188 - t229;
+        const V t235 = t234 + t180;
+        const V t236 = t212 + t218;
+        const V t237 = t235 - t236;
+        io.out(29, t237);
+        const V t238 = t235 + t236;
+        io.out(34, t238);
+        const V t239 = t189 - t190;
+        const V t240 = t239 + t230;
+        const V t241 = t213 - t219;
+        const V t242 = t240 - t241;
+        io.out(9, t242);
+        const V t243 = t240 + t241;
+        io.out(19, t243);
+        const V t244 = t191 + t192;
+        const V t245 = t244 - t231;
+        const V t246 = t214 + t220;
         const V t247 = t245 - t246;
-        const V t248 = t247 + t52;
-        const V t249 = c8 * t98;
-        const V t250 = c9 * t146;
-        const V t251 = t249 + t250;
-        const V t252 = c10 * t194;
-        const V t253 = t251 + t252;
-        const V t254 = t248 - t253;
-        io.out(22, t254);
-        const V t255 = t248 + t253;
-        io.out(27, t255);
-        const V t256 = c6 * t99;
-        const V t257 = t52 - t256;
-        const V t258 = c7 * t147;
+        io.out(24, t247);
+        const V t248 = t245 + t246;
+        io.out(4, t248);
+        // spectrum block of 7, multiplier 5
+        const V t249 = t174 + t224;
+        const V t250 = t249 + t167;
+        io.out(21, t250);
+        const V t251 = t175 - t225;
+        const V t252 = t251 + t167;
+        const V t253 = t201 + t221;
+        const V t254 = t252 - t253;
+        io.out(1, t254);
+        const V t255 = t252 + t253;
+        io.out(6, t255);
+        const V t256 = t176 - t177;
+        const V t257 = t256 + t226;
+        const V t258 = t202 - t222;
         const V t259 = t257 - t258;
-        const V t260 = c5 * t195;
-        const V t261 = t259 + t260;
-        const V t262 = c9 * t98;
-        const V t263 = c10 * t146;
+        io.out(16, t259);
+        const V t260 = t257 + t258;
+        io.out(26, t260);
+        const V t261 = t178 + t179;
+        const V t262 = t261 - t227;
+        const V t263 = t203 + t223;
         const V t264 = t262 - t263;
-        const V t265 = c8 * t194;
-        const V t266 = t264 - t265;
-        const V t267 = t261 - t266;
-        io.out(2, t267);
-        const V t268 = t261 + t266;
-        io.out(12, t268);
-        const V t269 = c7 * t99;
-        const V t270 = t52 - t269;
-        const V t271 = c5 * t147;
-        const V t272 = t270 + t271;
-        const V t273 = c6 * t195;
-        const V t274 = t272 - t273;
-        const V t275 = c10 * t98;
-        const V t276 = c8 * t146;
-        const V t277 = t275 - t276;
-        const V t278 = c9 * t194;
-        const V t279 = t277 + t278;
-        const V t280 = t274 - t279;
-        io.out(17, t280);
-        const V t281 = t274 + t279;
-        io.out(32, t281);
+        io.out(31, t264);
+        const V t265 = t262 + t263;
+        io.out(11, t265);
+        // spectrum block of 5, multiplier 2
+        const V t266 = t11 - t166;
+        // complex block of 5, multiplier 2
+        const V t267 = t80 - t108;
         // spectrum block of 7, multiplier 5
-        const V t282 = t83 + t131;
-        const V t283 = t282 + t179;
-        const V t284 = t283 + t44;
-        io.out(14, t284);
-        const V t285 = c5 * t83;
-        const V t286 = c6 * t131;
-        const V t287 = t285 - t286;
-        const V t288 = c7 * t179;
-        const V t289 = t287 - t288;
-        const V t290 = t289 + t44;
-        const V t291 = c8 * t82;
-        const V t292 = c9 * t130;
-        const V t293 = t291 + t292;
-        const V t294 = c10 * t178;
-        const V t295 = t293 + t294;
-        const V t296 = t290 - t295;
-        io.out(29, t296);
-        const V t297 = t290 + t295;
-        io.out(34, t297);
-        const V t298 = c6 * t83;
-        const V t299 = t44 - t298;
-        const V t300 = c7 * t131;
-        const V t301 = t299 - t300;
-        const V t302 = c5 * t179;
-        const V t303 = t301 + t302;
-        const V t304 = c9 * t82;
-        const V t305 = c10 * t130;
-        const V t306 = t304 - t305;
-        const V t307 = c8 * t178;
-        const V t308 = t306 - t307;
-        const V t309 = t303 - t308;
-        io.out(9, t309);
-        const V t310 = t303 + t308;
-        io.out(19, t310);
-        const V t311 = c7 * t83;
-        const V t312 = t44 - t311;
-        const V t313 = c5 * t131;
-        const V t314 = t312 + t313;
-        const V t315 = c6 * t179;
-        const V t316 = t314 - t315;
-        const V t317 = c10 * t82;
-        const V t318 = c8 * t130;
-        const V t319 = t317 - t318;
-        const V t320 = c9 * t178;
-        const V t321 = t319 + t320;
-        const V t322 = t316 - t321;
-        io.out(24, t322);
-        const V t323 = t316 + t321;
-        io.out(4, t323);
+        const V t268 = c5 * t267;
+        const V t269 = c6 * t267;
+        const V t270 = c7 * t267;
+        // complex block of 5, multiplier 2
+        const V t271 = t130 - t158;
         // spectrum block of 7, multiplier 5
-        const V t324 = t81 + t129;
-        const V t325 = t324 + t177;
-        const V t326 = t325 + t43;
-        io.out(21, t326);
-        const V t327 = c5 * t81;
-        const V t328 = c6 * t129;
-        const V t329 = t327 - t328;
-        const V t330 = c7 * t177;
-        const V t331 = t329 - t330;
-        const V t332 = t331 + t43;
-        const V t333 = c8 * t80;
-        const V t334 = c9 * t128;
-        const V t335 = t333 + t334;
-        const V t336 = c10 * t176;
-        const V t337 = t335 + t336;
-        const V t338 = t332 - t337;
-        io.out(1, t338);
-        const V t339 = t332 + t337;
-        io.out(6, t339);
-        const V t340 = c6 * t81;
-        const V t341 = t43 - t340;
-        const V t342 = c7 * t129;
-        const V t343 = t341 - t342;
-        const V t344 = c5 * t177;
-        const V t345 = t343 + t344;
-        const V t346 = c9 * t80;
-        const V t347 = c10 * t128;
-        const V t348 = t346 - t347;
-        const V t349 = c8 * t176;
-        const V t350 = t348 - t349;
-        const V t351 = t345 - t350;
-        io.out(16, t351);
-        const V t352 = t345 + t350;
-        io.out(26, t352);
-        const V t353 = c7 * t81;
-        const V t354 = t43 - t353;
-        const V t355 = c5 * t129;
-        const V t356 = t354 + t355;
-        const V t357 = c6 * t177;
+        const V t272 = c6 * t271;
+        const V t273 = t267 + t271;
+        const V t274 = t268 - t272;
+        const V t275 = t266 - t269;
+        const V t276 = c7 * t271;
+        const V t277 = t266 - t270;
+        const V t278 = c5 * t271;
+        // spectrum block of 5, multiplier 2
+        const V t279 = t11 + t166;
+        // complex block of 5, multiplier 2
+        const V t280 = t80 + t108;
+        // spectrum block of 7, multiplier 5
+        const V t281 = c5 * t280;
+        const V t282 = c6 * t280;
+        const V t283 = c7 * t280;
+        // complex block of 5, multiplier 2
+        const V t284 = t130 + t158;
+        // spectrum block of 7, multiplier 5
+        const V t285 = c6 * t284;
+        const V t286 = t280 + t284;
+        const V t287 = t281 - t285;
+        const V t288 = t279 - t282;
+        const V t289 = c7 * t284;
+        const V t290 = t279 - t283;
+        const V t291 = c5 * t284;
+        // complex block of 5, multiplier 2
+        const V t292 = t105 + t83;
+        // spectrum block of 7, multiplier 5
+        const V t293 = c8 * t292;
+        const V t294 = c9 * t292;
+        const V t295 = c10 * t292;
+        // complex block of 5, multiplier 2
+        const V t296 = t155 + t133;
+        // spectrum block of 7, multiplier 5
+        const V t297 = c9 * t296;
+        const V t298 = c10 * t296;
+        const V t299 = c8 * t296;
+        const V t300 = t293 + t297;
+        const V t301 = t294 - t298;
+        const V t302 = t295 - t299;
+        // complex block of 5, multiplier 2
+        const V t303 = t105 - t83;
+        // spectrum block of 7, multiplier 5
+        const V t304 = c8 * t303;
+        const V t305 = c9 * t303;
+        const V t306 = c10 * t303;
+        // complex block of 5, multiplier 2
+        const V t307 = t155 - t133;
+        // spectrum block of 7, multiplier 5
+        const V t308 = c9 * t307;
+        const V t309 = c10 * t307;
+        const V t310 = c8 * t307;
+        const V t311 = t304 + t308;
+        const V t312 = t305 - t309;
+        const V t313 = t306 - t310;
+        // complex block of 5, multiplier 2
+        const V t314 = t54 + t55;
+        const V t315 = t314 + t36;
+        const V t316 = t314 - t36;
+        // spectrum block of 7, multiplier 5
+        const V t317 = c10 * t315;
+        const V t318 = c8 * t315;
+        const V t319 = c9 * t315;
+        // spectrum block of 7, multiplier 5
+        const V t320 = c10 * t316;
+        const V t321 = c8 * t316;
+        const V t322 = c9 * t316;
+        // complex block of 5, multiplier 2
+        const V t323 = t33 - t58;
+        // spectrum block of 7, multiplier 5
+        const V t324 = c7 * t323;
+        const V t325 = c5 * t323;
+        const V t326 = c6 * t323;
+        // complex block of 5, multiplier 2
+        const V t327 = t33 + t58;
+        // spectrum block of 7, multiplier 5
+        const V t328 = c7 * t327;
+        const V t329 = c5 * t327;
+        const V t330 = c6 * t327;
+        // spectrum block of 7, multiplier 5
+        const V t331 = t273 + t323;
+        const V t332 = t331 + t266;
+        io.out(7, t332);
+        const V t333 = t274 - t324;
+        const V t334 = t333 + t266;
+        const V t335 = t300 + t317;
+        const V t336 = t334 - t335;
+        io.out(22, t336);
+        const V t337 = t334 + t335;
+        io.out(27, t337);
+        const V t338 = t275 - t276;
+        const V t339 = t338 + t325;
+        const V t340 = t301 - t318;
+        const V t341 = t339 - t340;
+        io.out(2, t341);
+        const V t342 = t339 + t340;
+        io.out(12, t342);
+        const V t343 = t277 + t278;
+        const V t344 = t343 - t326;
+        const V t345 = t302 + t319;
+        const V t346 = t344 - t345;
+        io.out(17, t346);
+        const V t347 = t344 + t345;
+        io.out(32, t347);
+        // spectrum block of 7, multiplier 5
+        const V t348 = t286 + t327;
+        const V t349 = t348 + t279;
+        io.out(28, t349);
+        const V t350 = t287 - t328;
+        const V t351 = t350 + t279;
+        const V t352 = t311 + t320;
+        const V t353 = t351 - t352;
+        io.out(8, t353);
+        const V t354 = t351 + t352;
+        io.out(13, t354);
+        const V t355 = t288 - t289;
+        const V t356 = t355 + t329;
+        const V t357 = t312 - t321;
         const V t358 = t356 - t357;
-        const V t359 = c10 * t80;
-        const V t360 = c8 * t128;
-        const V t361 = t359 - t360;
-        const V t362 = c9 * t176;
-        const V t363 = t361 + t362;
-        const V t364 = t358 - t363;
-        io.out(31, t364);
-        const V t365 = t358 + t363;
-        io.out(11, t365);
+        io.out(23, t358);
+        const V t359 = t356 + t357;
+        io.out(33, t359);
+        const V t360 = t290 + t291;
+        const V t361 = t360 - t330;
+        const V t362 = t313 + t322;
+        const V t363 = t361 - t362;
+        io.out(3, t363);
+        const V t364 = t361 + t362;
+        io.out(18, t364);
+        // complex block of 5, multiplier 2
+        const V t365 = t46 + t45;
         // spectrum block of 7, multiplier 5
-        const V t366 = t101 + t149;
-        const V t367 = t366 + t197;
-        const V t368 = t367 + t53;
-        io.out(28, t368);
-        const V t369 = c5 * t101;
-        const V t370 = c6 * t149;
+        const V t366 = c10 * t365;
+        const V t367 = c8 * t365;
+        const V t368 = c9 * t365;
+        const V t369 = c5 * t69;
+        const V t370 = c6 * t119;
         const V t371 = t369 - t370;
-        const V t372 = c7 * t197;
+        const V t372 = c7 * t22;
         const V t373 = t371 - t372;
-        const V t374 = t373 + t53;
-        const V t375 = c8 * t100;
-        const V t376 = c9 * t148;
-        const V t377 = t375 + t376;
-        const V t378 = c10 * t196;
-        const V t379 = t377 + t378;
-        const V t380 = t374 - t379;
-        io.out(8, t380);
-        const V t381 = t374 + t379;
-        io.out(13, t381);
-        const V t382 = c6 * t101;
-        const V t383 = t53 - t382;
-        const V t384 = c7 * t149;
-        const V t385 = t383 - t384;
-        const V t386 = c5 * t197;
-        const V t387 = t385 + t386;
-        const V t388 = c9 * t100;
-        const V t389 = c10 * t148;
-        const V t390 = t388 - t389;
-        const V t391 = c8 * t196;
+        const V t374 = c8 * t94;
+        const V t375 = c9 * t144;
+        const V t376 = t374 + t375;
+        const V t377 = c6 * t69;
+        const V t378 = t6 - t377;
+        const V t379 = c7 * t119;
+        const V t380 = t378 - t379;
+        const V t381 = c5 * t22;
+        const V t382 = c9 * t94;
+        const V t383 = c10 * t144;
+        const V t384 = t382 - t383;
+        const V t385 = c7 * t69;
+        const V t386 = t6 - t385;
+        const V t387 = c5 * t119;
+        const V t388 = t386 + t387;
+        const V t389 = c6 * t22;
+        const V t390 = c10 * t94;
+        const V t391 = c8 * t144;
         const V t392 = t390 - t391;
-        const V t393 = t387 - t392;
-        io.out(23, t393);
-        const V t394 = t387 + t392;
-        io.out(33, t394);
-        const V t395 = c7 * t101;
-        const V t396 = t53 - t395;
-        const V t397 = c5 * t149;
-        const V t398 = t396 + t397;
-        const V t399 = c6 * t197;
-        const V t400 = t398 - t399;
-        const V t401 = c10 * t100;
-        const V t402 = c8 * t148;
+        const V t393 = t373 + t6;
+        const V t394 = t376 + t366;
+        const V t395 = t393 - t394;
+        io.out(15, t395);
+        const V t396 = t393 + t394;
+        io.out(20, t396);
+        const V t397 = t380 + t381;
+        const V t398 = t384 - t367;
+        const V t399 = t397 - t398;
+        io.out(30, t399);
+        const V t400 = t397 + t398;
+        io.out(5, t400);
+        const V t401 = t388 - t389;
+        const V t402 = t392 + t368;
         const V t403 = t401 - t402;
-        const V t404 = c9 * t196;
-        const V t405 = t403 + t404;
-        const V t406 = t400 - t405;
-        io.out(3, t406);
-        const V t407 = t400 + t405;
-        io.out(18, t407);
+        io.out(10, t403);
+        const V t404 = t401 + t402;
+        io.out(25, t404);
+        const V t405 = t69 + t119;
+        const V t406 = t405 + t22;
+        const V t407 = t406 + t6;
+        io.out(0, t407);
     }
 };
 

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 36.
 // Inverse DFT to 36 real points, prime-factor 4, 9.
-// 99 additions, 99 subtractions, 106 multiplications (142 with `scale`); 11 constants; 39 values alive at most.
+// 99 additions, 99 subtractions, 106 multiplications (142 with `scale`); 11 constants; 48 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -13,435 +13,542 @@ struct RealInverseGraph<36> {
     static constexpr double c2 = 0.8660254037844386;  // sin 2 pi 1/3
     static constexpr double c3 = 0.3420201433256687;  // -sin 2 pi 5/9
     static constexpr double c4 = 0.9396926207859084;  // -cos 2 pi 5/9
-    static constexpr double c5 = 0.6427876096865394;  // sin 2 pi 1/9
-    static constexpr double c6 = 0.766044443118978;  // cos 2 pi 1/9
-    static constexpr double c7 = 0.29619813272602386;  // sin 2 pi 1/3 times -sin 2 pi 5/9
-    static constexpr double c8 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 5/9
+    static constexpr double c5 = 0.29619813272602386;  // sin 2 pi 1/3 times -sin 2 pi 5/9
+    static constexpr double c6 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 5/9
+    static constexpr double c7 = 0.6427876096865394;  // sin 2 pi 1/9
+    static constexpr double c8 = 0.766044443118978;  // cos 2 pi 1/9
     static constexpr double c9 = 0.6634139481689384;  // sin 2 pi 1/3 times cos 2 pi 1/9
     static constexpr double c10 = 0.5566703992264194;  // sin 2 pi 1/3 times sin 2 pi 1/9
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
         // spectrum block of 2
         const V x0r = io.re(0);
         const V x18r = io.re(18);
-        const V t34 = x0r + x18r;
-        const V t35 = x0r - x18r;
+        const V t0 = x0r + x18r;
+        const V t1 = x0r - x18r;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t2 = c0 * x9r;
+        const V x9i = io.im(9);
+        const V t3 = c0 * x9i;
         // spectrum block of 2
-        const V t36 = t34 + t16;
-        const V t37 = t34 - t16;
+        const V t4 = t0 + t2;
+        const V t5 = t0 - t2;
         // spectrum block of 2
-        const V t38 = t35 - t17;
-        const V t39 = t35 + t17;
+        const V t6 = t1 - t3;
+        const V t7 = t1 + t3;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t8 = c0 * x1r;
+        const V x1i = io.im(1);
+        const V t9 = c0 * x1i;
+        const V x8r = io.re(8);
+        const V t10 = c0 * x8r;
+        const V x8i = io.im(8);
+        const V t11 = c0 * x8i;
+        const V x10r = io.re(10);
+        const V t12 = c0 * x10r;
+        const V x10i = io.im(10);
+        const V t13 = c0 * x10i;
+        const V x17r = io.re(17);
+        const V t14 = c0 * x17r;
+        const V x17i = io.im(17);
+        const V t15 = c0 * x17i;
         // complex block of 2
-        const V t40 = t7 - t27;
-        const V t41 = t6 + t26;
-        const V t42 = t7 + t27;
-        const V t43 = t6 - t26;
+        const V t16 = t11 - t13;
         // complex block of 2
-        const V t44 = t25 - t9;
-        const V t45 = t24 + t8;
-        const V t46 = t25 + t9;
-        const V t47 = t24 - t8;
+        const V t17 = t15 - t9;
         // complex block of 2
-        const V t48 = t40 + t44;
-        const V t49 = t41 + t45;
-        const V t50 = t40 - t44;
-        const V t51 = t41 - t45;
+        const V t18 = t16 + t17;
+        const V t19 = t16 - t17;
         // complex block of 2
-        const V t52 = t42 + t47;
-        const V t53 = t43 - t46;
-        const V t54 = t42 - t47;
-        const V t55 = t43 + t46;
+        const V t20 = t10 + t12;
         // complex block of 2
-        const V t56 = t15 - t19;
-        const V t57 = t14 + t18;
-        const V t58 = t15 + t19;
-        const V t59 = t14 - t18;
+        const V t21 = t14 + t8;
         // complex block of 2
-        const V t60 = t33 - t1;
-        const V t61 = t32 + t0;
-        const V t62 = t33 + t1;
-        const V t63 = t32 - t0;
+        const V t22 = t20 + t21;
+        const V t23 = t20 - t21;
         // complex block of 2
-        const V t64 = t56 + t60;
-        const V t65 = t57 + t61;
-        const V t66 = t56 - t60;
-        const V t67 = t57 - t61;
+        const V t24 = t11 + t13;
         // complex block of 2
-        const V t68 = t58 + t63;
-        const V t69 = t59 - t62;
-        const V t70 = t58 - t63;
-        const V t71 = t59 + t62;
+        const V t25 = t14 - t8;
         // complex block of 2
-        const V t72 = t23 - t11;
-        const V t73 = t22 + t10;
-        const V t74 = t23 + t11;
-        const V t75 = t22 - t10;
+        const V t26 = t24 + t25;
+        const V t27 = t24 - t25;
         // complex block of 2
-        const V t76 = t5 - t29;
-        const V t77 = t28 + t4;
-        const V t78 = t29 + t5;
-        const V t79 = t28 - t4;
+        const V t28 = t10 - t12;
         // complex block of 2
-        const V t80 = t72 + t76;
-        const V t81 = t73 + t77;
-        const V t82 = t72 - t76;
-        const V t83 = t73 - t77;
+        const V t29 = t15 + t9;
         // complex block of 2
-        const V t84 = t74 + t79;
-        const V t85 = t75 + t78;
-        const V t86 = t74 - t79;
-        const V t87 = t75 - t78;
+        const V t30 = t28 - t29;
+        const V t31 = t28 + t29;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t32 = c0 * x2r;
+        const V x2i = io.im(2);
+        const V t33 = c0 * x2i;
+        const V x7r = io.re(7);
+        const V t34 = c0 * x7r;
+        const V x7i = io.im(7);
+        const V t35 = c0 * x7i;
+        const V x11r = io.re(11);
+        const V t36 = c0 * x11r;
+        const V x11i = io.im(11);
+        const V t37 = c0 * x11i;
+        const V x16r = io.re(16);
+        const V t38 = c0 * x16r;
+        const V x16i = io.im(16);
+        const V t39 = c0 * x16i;
         // complex block of 2
-        const V t88 = t31 - t3;
-        const V t89 = t30 + t2;
-        const V t90 = t31 + t3;
-        const V t91 = t30 - t2;
+        const V t40 = t39 - t33;
         // complex block of 2
-        const V t92 = t13 - t21;
-        const V t93 = t20 + t12;
-        const V t94 = t21 + t13;
-        const V t95 = t20 - t12;
+        const V t41 = t35 - t37;
         // complex block of 2
-        const V t96 = t88 + t92;
-        const V t97 = t89 + t93;
-        const V t98 = t88 - t92;
-        const V t99 = t89 - t93;
+        const V t42 = t40 + t41;
+        const V t43 = t40 - t41;
         // complex block of 2
-        const V t100 = t90 + t95;
-        const V t101 = t91 + t94;
-        const V t102 = t90 - t95;
-        const V t103 = t91 - t94;
-        // spectrum block of 3
-        const V t104 = t81 + t36;
-        const V t105 = c1 * t81;
-        const V t106 = t36 - t105;
-        const V t107 = c2 * t80;
-        const V t108 = t106 - t107;
-        const V t109 = t106 + t107;
+        const V t44 = t38 + t32;
+        // complex block of 2
+        const V t45 = t36 + t34;
+        // complex block of 2
+        const V t46 = t44 + t45;
+        const V t47 = t44 - t45;
+        // complex block of 2
+        const V t48 = t39 + t33;
+        // complex block of 2
+        const V t49 = t36 - t34;
+        // complex block of 2
+        const V t50 = t48 + t49;
+        const V t51 = t48 - t49;
+        // complex block of 2
+        const V t52 = t38 - t32;
+        // complex block of 2
+        const V t53 = t37 + t35;
+        // complex block of 2
+        const V t54 = t52 + t53;
+        const V t55 = t52 - t53;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t56 = c0 * x4r;
+        const V x14r = io.re(14);
+        const V t57 = c0 * x14r;
+        // complex block of 2
+        const V t58 = t56 + t57;
+        const V t59 = t56 - t57;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t60 = c0 * x4i;
+        const V x14i = io.im(14);
+        const V t61 = c0 * x14i;
+        // complex block of 2
+        const V t62 = t60 - t61;
+        const V t63 = t60 + t61;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t64 = c0 * x5r;
+        const V x13r = io.re(13);
+        const V t65 = c0 * x13r;
+        // complex block of 2
+        const V t66 = t65 + t64;
+        const V t67 = t65 - t64;
+        // doubled bins
+        const V x5i = io.im(5);
+        const V t68 = c0 * x5i;
+        const V x13i = io.im(13);
+        const V t69 = c0 * x13i;
+        // complex block of 2
+        const V t70 = t69 - t68;
+        const V t71 = t69 + t68;
+        // complex block of 2
+        const V t72 = t62 + t70;
         // complex block of 3
-        const V t110 = t96 - t64;
-        const V t111 = t97 + t65;
-        const V t112 = t96 + t64;
-        const V t113 = t97 - t65;
-        const V t114 = t110 + t48;
-        const V t115 = t111 + t49;
-        const V t116 = c1 * t110;
-        const V t117 = t48 - t116;
-        const V t118 = c1 * t111;
-        const V t119 = t49 - t118;
-        const V t120 = c2 * t112;
-        const V t121 = c2 * t113;
-        const V t122 = t117 + t121;
-        const V t123 = t119 - t120;
-        const V t124 = t117 - t121;
-        const V t125 = t119 + t120;
-        // spectrum block of 9, multiplier 4
-        const V t126 = c3 * t122;
-        const V t127 = c4 * t123;
+        const V t73 = t42 - t18;
+        const V t74 = c1 * t73;
+        const V t75 = t72 - t74;
+        // complex block of 2
+        const V t76 = t58 + t66;
+        // complex block of 3
+        const V t77 = t46 + t22;
+        const V t78 = c1 * t77;
+        const V t79 = t76 - t78;
+        // complex block of 2
+        const V t80 = t62 - t70;
+        // complex block of 3
+        const V t81 = t43 - t19;
+        const V t82 = c1 * t81;
+        const V t83 = t80 - t82;
+        // complex block of 2
+        const V t84 = t58 - t66;
+        // complex block of 3
+        const V t85 = t47 + t23;
+        const V t86 = c1 * t85;
+        const V t87 = t84 - t86;
+        // complex block of 2
+        const V t88 = t63 + t67;
+        // complex block of 3
+        const V t89 = t50 - t26;
+        const V t90 = c1 * t89;
+        const V t91 = t88 - t90;
+        // complex block of 2
+        const V t92 = t59 - t71;
+        // complex block of 3
+        const V t93 = t54 + t30;
+        const V t94 = c1 * t93;
+        const V t95 = t92 - t94;
+        // complex block of 2
+        const V t96 = t63 - t67;
+        // complex block of 3
+        const V t97 = t51 - t27;
+        const V t98 = c1 * t97;
+        const V t99 = t96 - t98;
+        // complex block of 2
+        const V t100 = t59 + t71;
+        // complex block of 3
+        const V t101 = t55 + t31;
+        const V t102 = c1 * t101;
+        const V t103 = t100 - t102;
+        // complex block of 3
+        const V t104 = t42 + t18;
+        const V t105 = c2 * t104;
+        const V t106 = t46 - t22;
+        const V t107 = c2 * t106;
+        // complex block of 3
+        const V t108 = t50 + t26;
+        const V t109 = c2 * t108;
+        const V t110 = t54 - t30;
+        const V t111 = c2 * t110;
+        // complex block of 3
+        const V t112 = t43 + t19;
+        const V t113 = c2 * t112;
+        const V t114 = t47 - t23;
+        const V t115 = c2 * t114;
+        // complex block of 3
+        const V t116 = t51 + t27;
+        const V t117 = c2 * t116;
+        const V t118 = t55 - t31;
+        const V t119 = c2 * t118;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t120 = c0 * x3r;
+        const V x15r = io.re(15);
+        const V t121 = c0 * x15r;
+        // complex block of 2
+        const V t122 = t121 + t120;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t123 = c0 * x3i;
+        const V x15i = io.im(15);
+        const V t124 = c0 * x15i;
+        // complex block of 2
+        const V t125 = t124 + t123;
+        // doubled bins
+        const V x6r = io.re(6);
+        const V t126 = c0 * x6r;
+        const V x12r = io.re(12);
+        const V t127 = c0 * x12r;
+        // complex block of 2
         const V t128 = t127 + t126;
-        const V t129 = c5 * t124;
-        const V t130 = c6 * t125;
-        const V t131 = t130 + t129;
+        const V t129 = t127 - t126;
+        // doubled bins
+        const V x6i = io.im(6);
+        const V t130 = c0 * x6i;
+        const V x12i = io.im(12);
+        const V t131 = c0 * x12i;
+        // complex block of 2
+        const V t132 = t131 - t130;
+        // complex block of 2
+        const V t133 = t123 - t124;
+        // complex block of 2
+        const V t134 = t132 + t133;
+        const V t135 = t132 - t133;
+        // complex block of 2
+        const V t136 = t131 + t130;
+        // complex block of 2
+        const V t137 = t121 - t120;
+        // complex block of 2
+        const V t138 = t136 + t137;
+        const V t139 = t136 - t137;
+        // complex block of 2
+        const V t140 = t128 + t122;
         // spectrum block of 3
-        const V t132 = t115 + t104;
-        io.out(0, t132);
-        const V t133 = c1 * t115;
-        const V t134 = t104 - t133;
-        const V t135 = c2 * t114;
-        const V t136 = t134 - t135;
-        io.out(12, t136);
-        const V t137 = t134 + t135;
-        io.out(24, t137);
+        const V t141 = c1 * t140;
+        // complex block of 2
+        const V t142 = t128 - t122;
         // spectrum block of 3
-        const V t138 = t108 - t128;
-        io.out(4, t138);
-        const V t139 = c1 * t128;
-        const V t140 = t139 + t108;
-        const V t141 = c7 * t123;
-        const V t142 = c8 * t122;
-        const V t143 = t141 - t142;
-        const V t144 = t140 - t143;
-        io.out(16, t144);
-        const V t145 = t140 + t143;
-        io.out(28, t145);
+        const V t143 = c1 * t142;
+        // complex block of 2
+        const V t144 = t129 + t125;
         // spectrum block of 3
-        const V t146 = t131 + t109;
-        io.out(8, t146);
-        const V t147 = c1 * t131;
-        const V t148 = t109 - t147;
-        const V t149 = c9 * t124;
-        const V t150 = c10 * t125;
-        const V t151 = t149 - t150;
-        const V t152 = t148 - t151;
-        io.out(20, t152);
-        const V t153 = t148 + t151;
-        io.out(32, t153);
+        const V t145 = c1 * t144;
+        // complex block of 2
+        const V t146 = t129 - t125;
         // spectrum block of 3
-        const V t154 = t85 + t38;
-        const V t155 = c1 * t85;
-        const V t156 = t38 - t155;
-        const V t157 = c2 * t84;
-        const V t158 = t156 - t157;
-        const V t159 = t156 + t157;
+        const V t147 = c1 * t146;
+        // spectrum block of 3
+        const V t148 = t140 + t4;
         // complex block of 3
-        const V t160 = t100 - t68;
-        const V t161 = t101 + t69;
-        const V t162 = t100 + t68;
-        const V t163 = t101 - t69;
-        const V t164 = t160 + t52;
-        const V t165 = t161 + t53;
-        const V t166 = c1 * t160;
-        const V t167 = t52 - t166;
-        const V t168 = c1 * t161;
-        const V t169 = t53 - t168;
-        const V t170 = c2 * t162;
-        const V t171 = c2 * t163;
-        const V t172 = t167 + t171;
-        const V t173 = t169 - t170;
-        const V t174 = t167 - t171;
-        const V t175 = t169 + t170;
-        // spectrum block of 9, multiplier 4
-        const V t176 = c3 * t172;
-        const V t177 = c4 * t173;
-        const V t178 = t177 + t176;
-        const V t179 = c5 * t174;
-        const V t180 = c6 * t175;
-        const V t181 = t180 + t179;
+        const V t149 = t73 + t72;
         // spectrum block of 3
-        const V t182 = t165 + t154;
-        io.out(9, t182);
-        const V t183 = c1 * t165;
-        const V t184 = t154 - t183;
-        const V t185 = c2 * t164;
-        const V t186 = t184 - t185;
-        io.out(21, t186);
-        const V t187 = t184 + t185;
-        io.out(33, t187);
-        // spectrum block of 3
-        const V t188 = t158 - t178;
-        io.out(13, t188);
-        const V t189 = c1 * t178;
-        const V t190 = t189 + t158;
-        const V t191 = c7 * t173;
-        const V t192 = c8 * t172;
-        const V t193 = t191 - t192;
-        const V t194 = t190 - t193;
-        io.out(25, t194);
-        const V t195 = t190 + t193;
-        io.out(1, t195);
-        // spectrum block of 3
-        const V t196 = t181 + t159;
-        io.out(17, t196);
-        const V t197 = c1 * t181;
-        const V t198 = t159 - t197;
-        const V t199 = c9 * t174;
-        const V t200 = c10 * t175;
-        const V t201 = t199 - t200;
-        const V t202 = t198 - t201;
-        io.out(29, t202);
-        const V t203 = t198 + t201;
-        io.out(5, t203);
-        // spectrum block of 3
-        const V t204 = t83 + t37;
-        const V t205 = c1 * t83;
-        const V t206 = t37 - t205;
-        const V t207 = c2 * t82;
-        const V t208 = t206 - t207;
-        const V t209 = t206 + t207;
+        const V t150 = c2 * t149;
         // complex block of 3
-        const V t210 = t98 - t66;
-        const V t211 = t99 + t67;
-        const V t212 = t98 + t66;
-        const V t213 = t99 - t67;
-        const V t214 = t210 + t50;
-        const V t215 = t211 + t51;
-        const V t216 = c1 * t210;
-        const V t217 = t50 - t216;
-        const V t218 = c1 * t211;
-        const V t219 = t51 - t218;
-        const V t220 = c2 * t212;
-        const V t221 = c2 * t213;
-        const V t222 = t217 + t221;
-        const V t223 = t219 - t220;
-        const V t224 = t217 - t221;
-        const V t225 = t219 + t220;
-        // spectrum block of 9, multiplier 4
-        const V t226 = c3 * t222;
-        const V t227 = c4 * t223;
-        const V t228 = t227 + t226;
-        const V t229 = c5 * t224;
-        const V t230 = c6 * t225;
-        const V t231 = t230 + t229;
+        const V t151 = t77 + t76;
         // spectrum block of 3
-        const V t232 = t215 + t204;
-        io.out(18, t232);
-        const V t233 = c1 * t215;
-        const V t234 = t204 - t233;
-        const V t235 = c2 * t214;
-        const V t236 = t234 - t235;
-        io.out(30, t236);
-        const V t237 = t234 + t235;
-        io.out(6, t237);
+        const V t152 = c1 * t151;
+        const V t153 = t151 + t148;
+        io.out(0, t153);
+        const V t154 = t148 - t152;
+        const V t155 = t154 - t150;
+        io.out(12, t155);
+        const V t156 = t154 + t150;
+        io.out(24, t156);
         // spectrum block of 3
-        const V t238 = t208 - t228;
-        io.out(22, t238);
-        const V t239 = c1 * t228;
-        const V t240 = t239 + t208;
-        const V t241 = c7 * t223;
-        const V t242 = c8 * t222;
-        const V t243 = t241 - t242;
-        const V t244 = t240 - t243;
-        io.out(34, t244);
-        const V t245 = t240 + t243;
-        io.out(10, t245);
-        // spectrum block of 3
-        const V t246 = t231 + t209;
-        io.out(26, t246);
-        const V t247 = c1 * t231;
-        const V t248 = t209 - t247;
-        const V t249 = c9 * t224;
-        const V t250 = c10 * t225;
-        const V t251 = t249 - t250;
-        const V t252 = t248 - t251;
-        io.out(2, t252);
-        const V t253 = t248 + t251;
-        io.out(14, t253);
-        // spectrum block of 3
-        const V t254 = t87 + t39;
-        const V t255 = c1 * t87;
-        const V t256 = t39 - t255;
-        const V t257 = c2 * t86;
-        const V t258 = t256 - t257;
-        const V t259 = t256 + t257;
+        const V t157 = t4 - t141;
+        const V t158 = c2 * t134;
+        const V t159 = t157 - t158;
+        const V t160 = t157 + t158;
         // complex block of 3
-        const V t260 = t102 - t70;
-        const V t261 = t103 + t71;
-        const V t262 = t102 + t70;
-        const V t263 = t103 - t71;
-        const V t264 = t260 + t54;
-        const V t265 = t261 + t55;
-        const V t266 = c1 * t260;
-        const V t267 = t54 - t266;
-        const V t268 = c1 * t261;
-        const V t269 = t55 - t268;
-        const V t270 = c2 * t262;
-        const V t271 = c2 * t263;
-        const V t272 = t267 + t271;
-        const V t273 = t269 - t270;
-        const V t274 = t267 - t271;
-        const V t275 = t269 + t270;
+        const V t161 = t75 + t107;
         // spectrum block of 9, multiplier 4
-        const V t276 = c3 * t272;
-        const V t277 = c4 * t273;
-        const V t278 = t277 + t276;
-        const V t279 = c5 * t274;
-        const V t280 = c6 * t275;
-        const V t281 = t280 + t279;
+        const V t162 = c3 * t161;
+        // complex block of 3
+        const V t163 = t79 - t105;
+        // spectrum block of 9, multiplier 4
+        const V t164 = c4 * t163;
+        const V t165 = t164 + t162;
         // spectrum block of 3
-        const V t282 = t265 + t254;
-        io.out(27, t282);
-        const V t283 = c1 * t265;
-        const V t284 = t254 - t283;
-        const V t285 = c2 * t264;
-        const V t286 = t284 - t285;
-        io.out(3, t286);
-        const V t287 = t284 + t285;
-        io.out(15, t287);
+        const V t166 = c5 * t163;
+        const V t167 = c6 * t161;
+        // complex block of 3
+        const V t168 = t75 - t107;
+        // spectrum block of 9, multiplier 4
+        const V t169 = c7 * t168;
+        // complex block of 3
+        const V t170 = t79 + t105;
+        // spectrum block of 9, multiplier 4
+        const V t171 = c8 * t170;
+        const V t172 = t171 + t169;
         // spectrum block of 3
-        const V t288 = t258 - t278;
-        io.out(31, t288);
-        const V t289 = c1 * t278;
-        const V t290 = t289 + t258;
-        const V t291 = c7 * t273;
-        const V t292 = c8 * t272;
-        const V t293 = t291 - t292;
-        const V t294 = t290 - t293;
-        io.out(7, t294);
-        const V t295 = t290 + t293;
-        io.out(19, t295);
+        const V t173 = c9 * t168;
+        const V t174 = c10 * t170;
         // spectrum block of 3
-        const V t296 = t281 + t259;
-        io.out(35, t296);
-        const V t297 = c1 * t281;
-        const V t298 = t259 - t297;
-        const V t299 = c9 * t274;
-        const V t300 = c10 * t275;
-        const V t301 = t299 - t300;
-        const V t302 = t298 - t301;
+        const V t175 = t159 - t165;
+        io.out(4, t175);
+        const V t176 = c1 * t165;
+        const V t177 = t176 + t159;
+        const V t178 = t166 - t167;
+        const V t179 = t177 - t178;
+        io.out(16, t179);
+        const V t180 = t177 + t178;
+        io.out(28, t180);
+        // spectrum block of 3
+        const V t181 = t172 + t160;
+        io.out(8, t181);
+        const V t182 = c1 * t172;
+        const V t183 = t160 - t182;
+        const V t184 = t173 - t174;
+        const V t185 = t183 - t184;
+        io.out(20, t185);
+        const V t186 = t183 + t184;
+        io.out(32, t186);
+        // spectrum block of 3
+        const V t187 = t144 + t6;
+        // complex block of 3
+        const V t188 = t89 + t88;
+        // spectrum block of 3
+        const V t189 = c2 * t188;
+        // complex block of 3
+        const V t190 = t93 + t92;
+        // spectrum block of 3
+        const V t191 = c1 * t190;
+        const V t192 = t190 + t187;
+        io.out(9, t192);
+        const V t193 = t187 - t191;
+        const V t194 = t193 - t189;
+        io.out(21, t194);
+        const V t195 = t193 + t189;
+        io.out(33, t195);
+        // spectrum block of 3
+        const V t196 = t6 - t145;
+        const V t197 = c2 * t138;
+        const V t198 = t196 - t197;
+        const V t199 = t196 + t197;
+        // complex block of 3
+        const V t200 = t91 + t111;
+        // spectrum block of 9, multiplier 4
+        const V t201 = c3 * t200;
+        // complex block of 3
+        const V t202 = t95 - t109;
+        // spectrum block of 9, multiplier 4
+        const V t203 = c4 * t202;
+        const V t204 = t203 + t201;
+        // spectrum block of 3
+        const V t205 = c5 * t202;
+        const V t206 = c6 * t200;
+        // complex block of 3
+        const V t207 = t91 - t111;
+        // spectrum block of 9, multiplier 4
+        const V t208 = c7 * t207;
+        // complex block of 3
+        const V t209 = t95 + t109;
+        // spectrum block of 9, multiplier 4
+        const V t210 = c8 * t209;
+        const V t211 = t210 + t208;
+        // spectrum block of 3
+        const V t212 = c9 * t207;
+        const V t213 = c10 * t209;
+        // spectrum block of 3
+        const V t214 = t198 - t204;
+        io.out(13, t214);
+        const V t215 = c1 * t204;
+        const V t216 = t215 + t198;
+        const V t217 = t205 - t206;
+        const V t218 = t216 - t217;
+        io.out(25, t218);
+        const V t219 = t216 + t217;
+        io.out(1, t219);
+        // spectrum block of 3
+        const V t220 = t211 + t199;
+        io.out(17, t220);
+        const V t221 = c1 * t211;
+        const V t222 = t199 - t221;
+        const V t223 = t212 - t213;
+        const V t224 = t222 - t223;
+        io.out(29, t224);
+        const V t225 = t222 + t223;
+        io.out(5, t225);
+        // spectrum block of 3
+        const V t226 = t142 + t5;
+        // complex block of 3
+        const V t227 = t81 + t80;
+        // spectrum block of 3
+        const V t228 = c2 * t227;
+        // complex block of 3
+        const V t229 = t85 + t84;
+        // spectrum block of 3
+        const V t230 = c1 * t229;
+        const V t231 = t229 + t226;
+        io.out(18, t231);
+        const V t232 = t226 - t230;
+        const V t233 = t232 - t228;
+        io.out(30, t233);
+        const V t234 = t232 + t228;
+        io.out(6, t234);
+        // spectrum block of 3
+        const V t235 = t5 - t143;
+        const V t236 = c2 * t135;
+        const V t237 = t235 - t236;
+        const V t238 = t235 + t236;
+        // complex block of 3
+        const V t239 = t83 + t115;
+        // spectrum block of 9, multiplier 4
+        const V t240 = c3 * t239;
+        // complex block of 3
+        const V t241 = t87 - t113;
+        // spectrum block of 9, multiplier 4
+        const V t242 = c4 * t241;
+        const V t243 = t242 + t240;
+        // spectrum block of 3
+        const V t244 = c5 * t241;
+        const V t245 = c6 * t239;
+        // complex block of 3
+        const V t246 = t83 - t115;
+        // spectrum block of 9, multiplier 4
+        const V t247 = c7 * t246;
+        // complex block of 3
+        const V t248 = t87 + t113;
+        // spectrum block of 9, multiplier 4
+        const V t249 = c8 * t248;
+        const V t250 = t249 + t247;
+        // spectrum block of 3
+        const V t251 = c9 * t246;
+        const V t252 = c10 * t248;
+        // spectrum block of 3
+        const V t253 = t237 - t243;
+        io.out(22, t253);
+        const V t254 = c1 * t243;
+        const V t255 = t254 + t237;
+        const V t256 = t244 - t245;
+        const V t257 = t255 - t256;
+        io.out(34, t257);
+        const V t258 = t255 + t256;
+        io.out(10, t258);
+        // spectrum block of 3
+        const V t259 = t250 + t238;
+        io.out(26, t259);
+        const V t260 = c1 * t250;
+        const V t261 = t238 - t260;
+        const V t262 = t251 - t252;
+        const V t263 = t261 - t262;
+        io.out(2, t263);
+        const V t264 = t261 + t262;
+        io.out(14, t264);
+        // spectrum block of 3
+        const V t265 = t146 + t7;
+        // complex block of 3
+        const V t266 = t97 + t96;
+        // spectrum block of 3
+        const V t267 = c2 * t266;
+        // complex block of 3
+        const V t268 = t101 + t100;
+        // spectrum block of 3
+        const V t269 = c1 * t268;
+        const V t270 = t268 + t265;
+        io.out(27, t270);
+        const V t271 = t265 - t269;
+        const V t272 = t271 - t267;
+        io.out(3, t272);
+        const V t273 = t271 + t267;
+        io.out(15, t273);
+        // spectrum block of 3
+        const V t274 = t7 - t147;
+        const V t275 = c2 * t139;
+        const V t276 = t274 - t275;
+        const V t277 = t274 + t275;
+        // complex block of 3
+        const V t278 = t99 + t119;
+        // spectrum block of 9, multiplier 4
+        const V t279 = c3 * t278;
+        // complex block of 3
+        const V t280 = t103 - t117;
+        // spectrum block of 9, multiplier 4
+        const V t281 = c4 * t280;
+        const V t282 = t281 + t279;
+        // spectrum block of 3
+        const V t283 = c5 * t280;
+        const V t284 = c6 * t278;
+        // complex block of 3
+        const V t285 = t99 - t119;
+        // spectrum block of 9, multiplier 4
+        const V t286 = c7 * t285;
+        // complex block of 3
+        const V t287 = t103 + t117;
+        // spectrum block of 9, multiplier 4
+        const V t288 = c8 * t287;
+        const V t289 = t288 + t286;
+        // spectrum block of 3
+        const V t290 = c9 * t285;
+        const V t291 = c10 * t287;
+        // spectrum block of 3
+        const V t292 = t276 - t282;
+        io.out(31, t292);
+        const V t293 = c1 * t282;
+        const V t294 = t293 + t276;
+        const V t295 = t283 - t284;
+        const V t296 = t294 - t295;
+        io.out(7, t296);
+        const V t297 = t294 + t295;
+        io.out(19, t297);
+        // spectrum block of 3
+        const V t298 = t289 + t277;
+        io.out(35, t298);
+        const V t299 = c1 * t289;
+        const V t300 = t277 - t299;
+        const V t301 = t290 - t291;
+        const V t302 = t300 - t301;
         io.out(11, t302);
-        const V t303 = t298 + t301;
+        const V t303 = t300 + t301;
         io.out(23, t303);
     }
 };

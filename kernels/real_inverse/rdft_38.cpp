@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 38.
 // Inverse DFT to 38 real points, prime-factor 2, 19.
-// 183 additions, 183 subtractions, 256 multiplications (294 with `scale`); 31 constants; 42 values alive at most.
+// 183 additions, 183 subtractions, 256 multiplications (294 with `scale`); 31 constants; 53 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -11,808 +11,984 @@ struct RealInverseGraph<38> {
     static constexpr double c0 = 2.0;  // 2
     static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
     static constexpr double c2 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c3 = 0.6427876096865394;  // sin 2 pi 1/9
-    static constexpr double c4 = 0.766044443118978;  // cos 2 pi 1/9
-    static constexpr double c5 = 0.984807753012208;  // sin 2 pi 2/9
-    static constexpr double c6 = 0.17364817766693036;  // cos 2 pi 2/9
-    static constexpr double c7 = 0.05555555555555555;  // 1/18
-    static constexpr double c8 = 0.25181241707905544;  // P[1] of 19
-    static constexpr double c9 = 0.4137129534343489;  // -Q[1] of 19
-    static constexpr double c10 = 0.06545376435166843;  // Q[2] of 19
-    static constexpr double c11 = 0.4798788450919296;  // P[2] of 19
-    static constexpr double c12 = 0.28199561460730244;  // -P[3] of 19
-    static constexpr double c13 = 0.3937592850674352;  // -Q[3] of 19
-    static constexpr double c14 = 0.3056588037374879;  // -Q[4] of 19
-    static constexpr double c15 = 0.37568683358927524;  // P[4] of 19
-    static constexpr double c16 = 0.4195932163702218;  // -P[5] of 19
-    static constexpr double c17 = 0.24188723407956064;  // Q[5] of 19
-    static constexpr double c18 = 0.10231284930367265;  // -Q[6] of 19
-    static constexpr double c19 = 0.47339199623771827;  // P[6] of 19
-    static constexpr double c20 = 0.3873109834397322;  // P[7] of 19
-    static constexpr double c21 = 0.2907887606863707;  // -Q[7] of 19
-    static constexpr double c22 = 0.007654694426448971;  // -Q[8] of 19
-    static constexpr double c23 = 0.4842616099669739;  // -P[8] of 19
-    static constexpr double c24 = 0.2421610524189263;  // beta of 19
+    static constexpr double c3 = 0.984807753012208;  // sin 2 pi 2/9
+    static constexpr double c4 = 0.17364817766693036;  // cos 2 pi 2/9
+    static constexpr double c5 = 0.6427876096865394;  // sin 2 pi 1/9
+    static constexpr double c6 = 0.766044443118978;  // cos 2 pi 1/9
+    static constexpr double c7 = 0.10231284930367265;  // -Q[6] of 19
+    static constexpr double c8 = 0.28199561460730244;  // -P[3] of 19
+    static constexpr double c9 = 0.05555555555555555;  // 1/18
+    static constexpr double c10 = 0.2421610524189263;  // beta of 19
+    static constexpr double c11 = 0.25181241707905544;  // P[1] of 19
+    static constexpr double c12 = 0.4137129534343489;  // -Q[1] of 19
+    static constexpr double c13 = 0.007654694426448971;  // -Q[8] of 19
+    static constexpr double c14 = 0.4842616099669739;  // -P[8] of 19
+    static constexpr double c15 = 0.06545376435166843;  // Q[2] of 19
+    static constexpr double c16 = 0.4798788450919296;  // P[2] of 19
+    static constexpr double c17 = 0.3056588037374879;  // -Q[4] of 19
+    static constexpr double c18 = 0.37568683358927524;  // P[4] of 19
+    static constexpr double c19 = 0.4195932163702218;  // -P[5] of 19
+    static constexpr double c20 = 0.24188723407956064;  // Q[5] of 19
+    static constexpr double c21 = 0.3873109834397322;  // P[7] of 19
+    static constexpr double c22 = 0.2907887606863707;  // -Q[7] of 19
+    static constexpr double c23 = 0.3937592850674352;  // -Q[3] of 19
+    static constexpr double c24 = 0.47339199623771827;  // P[6] of 19
     static constexpr double c25 = 0.3420201433256687;  // -sin 2 pi 5/9
     static constexpr double c26 = 0.9396926207859084;  // -cos 2 pi 5/9
-    static constexpr double c27 = 0.1503837331804353;  // sin 2 pi 1/3 times cos 2 pi 2/9
-    static constexpr double c28 = 0.8528685319524432;  // sin 2 pi 1/3 times sin 2 pi 2/9
-    static constexpr double c29 = 0.29619813272602386;  // sin 2 pi 1/3 times -sin 2 pi 5/9
-    static constexpr double c30 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 5/9
+    static constexpr double c27 = 0.29619813272602386;  // sin 2 pi 1/3 times -sin 2 pi 5/9
+    static constexpr double c28 = 0.8137976813493737;  // sin 2 pi 1/3 times -cos 2 pi 5/9
+    static constexpr double c29 = 0.1503837331804353;  // sin 2 pi 1/3 times cos 2 pi 2/9
+    static constexpr double c30 = 0.8528685319524432;  // sin 2 pi 1/3 times sin 2 pi 2/9
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
-        const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
         // spectrum block of 2
         const V x0r = io.re(0);
         const V x19r = io.re(19);
-        const V t36 = x0r + x19r;
-        const V t37 = x0r - x19r;
+        const V t0 = x0r + x19r;
+        const V t1 = x0r - x19r;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t2 = c0 * x1r;
+        const V x18r = io.re(18);
+        const V t3 = c0 * x18r;
         // complex block of 2
-        const V t38 = t3 - t33;
-        const V t39 = t2 + t32;
-        const V t40 = t3 + t33;
-        const V t41 = t2 - t32;
+        const V t4 = t3 + t2;
+        const V t5 = t3 - t2;
+        // doubled bins
+        const V x7r = io.re(7);
+        const V t6 = c0 * x7r;
+        const V x12r = io.re(12);
+        const V t7 = c0 * x12r;
         // complex block of 2
-        const V t42 = t7 - t29;
-        const V t43 = t6 + t28;
-        const V t44 = t7 + t29;
-        const V t45 = t6 - t28;
+        const V t8 = t7 + t6;
+        const V t9 = t7 - t6;
+        // doubled bins
+        const V x8r = io.re(8);
+        const V t10 = c0 * x8r;
+        const V x11r = io.re(11);
+        const V t11 = c0 * x11r;
         // complex block of 2
-        const V t46 = t11 - t25;
-        const V t47 = t10 + t24;
-        const V t48 = t11 + t25;
-        const V t49 = t10 - t24;
-        // complex block of 2
-        const V t50 = t15 - t21;
-        const V t51 = t14 + t20;
-        const V t52 = t15 + t21;
-        const V t53 = t14 - t20;
-        // complex block of 2
-        const V t54 = t19 - t17;
-        const V t55 = t18 + t16;
-        const V t56 = t19 + t17;
-        const V t57 = t18 - t16;
-        // complex block of 2
-        const V t58 = t23 - t13;
-        const V t59 = t22 + t12;
-        const V t60 = t23 + t13;
-        const V t61 = t22 - t12;
-        // complex block of 2
-        const V t62 = t27 - t9;
-        const V t63 = t26 + t8;
-        const V t64 = t27 + t9;
-        const V t65 = t26 - t8;
-        // complex block of 2
-        const V t66 = t31 - t5;
-        const V t67 = t30 + t4;
-        const V t68 = t31 + t5;
-        const V t69 = t30 - t4;
-        // complex block of 2
-        const V t70 = t35 - t1;
-        const V t71 = t34 + t0;
-        const V t72 = t35 + t1;
-        const V t73 = t34 - t0;
+        const V t12 = t10 + t11;
         // real block of 3
-        const V t74 = t67 + t63;
-        const V t75 = t67 - t63;
-        const V t76 = t74 + t39;
-        const V t77 = c1 * t74;
-        const V t78 = t39 - t77;
-        const V t79 = c2 * t75;
+        const V t13 = t8 + t4;
+        const V t14 = c1 * t13;
+        const V t15 = t12 - t14;
+        // complex block of 2
+        const V t16 = t10 - t11;
         // real block of 3
-        const V t80 = t47 + t55;
-        const V t81 = t47 - t55;
-        const V t82 = t80 + t43;
-        const V t83 = c1 * t80;
-        const V t84 = t43 - t83;
-        const V t85 = c2 * t81;
+        const V t17 = t9 + t5;
+        const V t18 = c1 * t17;
+        const V t19 = t16 - t18;
         // real block of 3
-        const V t86 = t59 + t71;
-        const V t87 = t59 - t71;
-        const V t88 = t86 + t51;
-        const V t89 = c1 * t86;
-        const V t90 = t51 - t89;
-        const V t91 = c2 * t87;
-        // real block of 3
-        const V t92 = t82 + t88;
-        const V t93 = t82 - t88;
-        const V t94 = t92 + t76;
-        const V t95 = c1 * t92;
-        const V t96 = t76 - t95;
-        const V t97 = c2 * t93;
+        const V t20 = t8 - t4;
+        const V t21 = c2 * t20;
         // real block of 9
-        const V t98 = c3 * t85;
-        const V t99 = c4 * t84;
-        const V t100 = t99 - t98;
-        const V t101 = c3 * t84;
-        const V t102 = c4 * t85;
-        const V t103 = t102 + t101;
-        const V t104 = c5 * t91;
-        const V t105 = c6 * t90;
-        const V t106 = t105 - t104;
-        const V t107 = c5 * t90;
-        const V t108 = c6 * t91;
-        const V t109 = t108 + t107;
-        // complex block of 3
-        const V t110 = t100 + t106;
-        const V t111 = t103 + t109;
-        const V t112 = t100 - t106;
-        const V t113 = t109 - t103;
-        const V t114 = t110 + t78;
-        const V t115 = t111 + t79;
-        const V t116 = c1 * t110;
-        const V t117 = t78 - t116;
-        const V t118 = c1 * t111;
-        const V t119 = t118 - t79;
-        const V t120 = c2 * t112;
-        const V t121 = c2 * t113;
-        const V t122 = t117 + t121;
-        const V t123 = t119 - t120;
-        const V t124 = t117 - t121;
-        const V t125 = t119 + t120;
+        const V t22 = c3 * t21;
+        const V t23 = c4 * t21;
         // real block of 3
-        const V t126 = t62 - t66;
-        const V t127 = t66 + t62;
-        const V t128 = t126 + t38;
-        const V t129 = c1 * t126;
-        const V t130 = t38 - t129;
-        const V t131 = c2 * t127;
-        // real block of 3
-        const V t132 = t54 - t46;
-        const V t133 = t46 + t54;
-        const V t134 = t132 - t42;
-        const V t135 = c1 * t132;
-        const V t136 = t42 + t135;
-        const V t137 = c2 * t133;
-        // real block of 3
-        const V t138 = t58 + t70;
-        const V t139 = t58 - t70;
-        const V t140 = t138 + t50;
-        const V t141 = c1 * t138;
-        const V t142 = t50 - t141;
-        const V t143 = c2 * t139;
-        // real block of 3
-        const V t144 = t134 + t140;
-        const V t145 = t134 - t140;
-        const V t146 = t144 + t128;
-        const V t147 = c1 * t144;
-        const V t148 = t128 - t147;
-        const V t149 = c2 * t145;
+        const V t24 = t9 - t5;
+        const V t25 = c2 * t24;
         // real block of 9
-        const V t150 = c3 * t137;
-        const V t151 = c4 * t136;
-        const V t152 = t150 - t151;
-        const V t153 = c3 * t136;
-        const V t154 = c4 * t137;
-        const V t155 = t154 + t153;
-        const V t156 = c5 * t143;
-        const V t157 = c6 * t142;
-        const V t158 = t157 - t156;
-        const V t159 = c5 * t142;
-        const V t160 = c6 * t143;
-        const V t161 = t160 + t159;
-        // complex block of 3
-        const V t162 = t152 + t158;
-        const V t163 = t155 - t161;
-        const V t164 = t152 - t158;
-        const V t165 = t155 + t161;
-        const V t166 = t162 + t130;
-        const V t167 = t163 + t131;
-        const V t168 = c1 * t162;
-        const V t169 = t130 - t168;
-        const V t170 = c1 * t163;
-        const V t171 = t131 - t170;
-        const V t172 = c2 * t164;
-        const V t173 = c2 * t165;
-        const V t174 = t169 + t173;
-        const V t175 = t171 - t172;
-        const V t176 = t169 - t173;
-        const V t177 = t171 + t172;
+        const V t26 = c3 * t25;
+        const V t27 = c4 * t25;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t28 = c0 * x2r;
+        const V x17r = io.re(17);
+        const V t29 = c0 * x17r;
+        // complex block of 2
+        const V t30 = t28 + t29;
+        const V t31 = t28 - t29;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t32 = c0 * x3r;
+        const V x5r = io.re(5);
+        const V t33 = c0 * x5r;
+        const V x14r = io.re(14);
+        const V t34 = c0 * x14r;
+        const V x16r = io.re(16);
+        const V t35 = c0 * x16r;
+        // complex block of 2
+        const V t36 = t34 + t33;
+        // complex block of 2
+        const V t37 = t35 + t32;
+        // real block of 3
+        const V t38 = t37 + t36;
+        const V t39 = t37 - t36;
+        // complex block of 2
+        const V t40 = t34 - t33;
+        // complex block of 2
+        const V t41 = t35 - t32;
+        // real block of 3
+        const V t42 = t41 + t40;
+        const V t43 = t41 - t40;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t44 = c0 * x4r;
+        const V x6r = io.re(6);
+        const V t45 = c0 * x6r;
+        const V x13r = io.re(13);
+        const V t46 = c0 * x13r;
+        // complex block of 2
+        const V t47 = t45 + t46;
+        const V t48 = t45 - t46;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t49 = c0 * x9r;
+        const V x10r = io.re(10);
+        const V t50 = c0 * x10r;
+        // complex block of 2
+        const V t51 = t50 + t49;
+        const V t52 = t50 - t49;
+        // doubled bins
+        const V x15r = io.re(15);
+        const V t53 = c0 * x15r;
+        // complex block of 2
+        const V t54 = t44 + t53;
+        // real block of 3
+        const V t55 = t47 + t51;
+        const V t56 = c1 * t55;
+        const V t57 = t54 - t56;
+        // complex block of 2
+        const V t58 = t44 - t53;
+        // real block of 3
+        const V t59 = t48 + t52;
+        const V t60 = c1 * t59;
+        const V t61 = t58 - t60;
+        // real block of 3
+        const V t62 = t47 - t51;
+        const V t63 = c2 * t62;
+        // real block of 9
+        const V t64 = c5 * t63;
+        const V t65 = c6 * t63;
+        // real block of 3
+        const V t66 = t48 - t52;
+        const V t67 = c2 * t66;
+        // real block of 9
+        const V t68 = c5 * t67;
+        const V t69 = c6 * t67;
+        // real block of 3
+        const V t70 = t38 + t30;
+        // real block of 3
+        const V t71 = t55 + t54;
+        // real block of 3
+        const V t72 = t13 + t12;
+        // real block of 3
+        const V t73 = t71 + t72;
+        const V t74 = t71 - t72;
+        const V t75 = t73 + t70;
+        const V t76 = c1 * t73;
+        const V t77 = t70 - t76;
+        const V t78 = c2 * t74;
         // spectrum block of 19, multiplier 2
-        const V t178 = c7 * t94;
-        const V t179 = t36 - t178;
-        const V t180 = c8 * t175;
-        const V t181 = c9 * t174;
-        const V t182 = t180 - t181;
-        const V t183 = c8 * t174;
-        const V t184 = c9 * t175;
-        const V t185 = t184 + t183;
-        const V t186 = c10 * t115;
-        const V t187 = c11 * t114;
-        const V t188 = t187 + t186;
-        const V t189 = c10 * t114;
-        const V t190 = c11 * t115;
-        const V t191 = t189 - t190;
-        const V t192 = c12 * t149;
-        const V t193 = c13 * t148;
-        const V t194 = t192 - t193;
-        const V t195 = c12 * t148;
-        const V t196 = c13 * t149;
-        const V t197 = t196 + t195;
-        const V t198 = c14 * t125;
-        const V t199 = c15 * t124;
-        const V t200 = t199 - t198;
-        const V t201 = c14 * t124;
-        const V t202 = c15 * t125;
-        const V t203 = t202 + t201;
-        const V t204 = c16 * t177;
-        const V t205 = c17 * t176;
-        const V t206 = t205 + t204;
-        const V t207 = c16 * t176;
-        const V t208 = c17 * t177;
-        const V t209 = t208 - t207;
-        const V t210 = c18 * t97;
-        const V t211 = c19 * t96;
-        const V t212 = t211 - t210;
-        const V t213 = c18 * t96;
-        const V t214 = c19 * t97;
-        const V t215 = t214 + t213;
-        const V t216 = c20 * t167;
-        const V t217 = c21 * t166;
-        const V t218 = t216 - t217;
-        const V t219 = c20 * t166;
-        const V t220 = c21 * t167;
-        const V t221 = t220 + t219;
-        const V t222 = c22 * t123;
-        const V t223 = c23 * t122;
-        const V t224 = t222 - t223;
-        const V t225 = c22 * t122;
-        const V t226 = c23 * t123;
-        const V t227 = t226 + t225;
-        const V t228 = c24 * t146;
+        const V t79 = c7 * t78;
+        // real block of 3
+        const V t80 = c1 * t38;
+        const V t81 = t30 - t80;
+        const V t82 = c2 * t39;
+        // real block of 9
+        const V t83 = c6 * t57;
+        const V t84 = t83 - t64;
+        const V t85 = c4 * t15;
+        const V t86 = t85 - t22;
+        // complex block of 3
+        const V t87 = t84 + t86;
+        const V t88 = t84 - t86;
+        // real block of 9
+        const V t89 = c5 * t57;
+        const V t90 = t65 + t89;
+        const V t91 = c3 * t15;
+        const V t92 = t23 + t91;
+        // complex block of 3
+        const V t93 = t90 + t92;
+        const V t94 = t92 - t90;
+        const V t95 = t87 + t81;
+        const V t96 = t93 + t82;
+        const V t97 = c1 * t87;
+        const V t98 = t81 - t97;
+        const V t99 = c2 * t94;
+        const V t100 = t98 + t99;
+        const V t101 = t98 - t99;
+        const V t102 = c1 * t93;
+        const V t103 = t102 - t82;
+        const V t104 = c2 * t88;
+        const V t105 = t103 - t104;
+        const V t106 = t103 + t104;
+        // real block of 3
+        const V t107 = t42 + t31;
+        // real block of 3
+        const V t108 = t59 + t58;
+        // real block of 3
+        const V t109 = t17 + t16;
+        // real block of 3
+        const V t110 = t108 + t109;
+        const V t111 = t108 - t109;
+        const V t112 = t110 + t107;
+        const V t113 = c1 * t110;
+        const V t114 = t107 - t113;
+        const V t115 = c2 * t111;
+        // spectrum block of 19, multiplier 2
+        const V t116 = c7 * t115;
+        // real block of 3
+        const V t117 = c1 * t42;
+        const V t118 = t31 - t117;
+        const V t119 = c2 * t43;
+        // real block of 9
+        const V t120 = c6 * t61;
+        const V t121 = t120 - t68;
+        const V t122 = c4 * t19;
+        const V t123 = t122 - t26;
+        // complex block of 3
+        const V t124 = t121 + t123;
+        const V t125 = t121 - t123;
+        // real block of 9
+        const V t126 = c5 * t61;
+        const V t127 = t69 + t126;
+        const V t128 = c3 * t19;
+        const V t129 = t27 + t128;
+        // complex block of 3
+        const V t130 = t127 + t129;
+        const V t131 = t129 - t127;
+        const V t132 = t124 + t118;
+        const V t133 = t130 + t119;
+        const V t134 = c1 * t124;
+        const V t135 = t118 - t134;
+        const V t136 = c2 * t131;
+        const V t137 = t135 + t136;
+        const V t138 = t135 - t136;
+        const V t139 = c1 * t130;
+        const V t140 = t139 - t119;
+        const V t141 = c2 * t125;
+        const V t142 = t140 - t141;
+        const V t143 = t140 + t141;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t144 = c0 * x1i;
+        const V x18i = io.im(18);
+        const V t145 = c0 * x18i;
+        // complex block of 2
+        const V t146 = t145 - t144;
+        const V t147 = t145 + t144;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t148 = c0 * x7i;
+        const V x12i = io.im(12);
+        const V t149 = c0 * x12i;
+        // complex block of 2
+        const V t150 = t149 - t148;
+        const V t151 = t149 + t148;
+        // doubled bins
+        const V x8i = io.im(8);
+        const V t152 = c0 * x8i;
+        const V x11i = io.im(11);
+        const V t153 = c0 * x11i;
+        // complex block of 2
+        const V t154 = t152 - t153;
+        // real block of 3
+        const V t155 = t150 + t146;
+        const V t156 = c1 * t155;
+        const V t157 = t154 - t156;
+        // complex block of 2
+        const V t158 = t152 + t153;
+        // real block of 3
+        const V t159 = t151 + t147;
+        const V t160 = c1 * t159;
+        const V t161 = t158 - t160;
+        // real block of 3
+        const V t162 = t150 - t146;
+        const V t163 = c2 * t162;
+        // real block of 9
+        const V t164 = c3 * t163;
+        const V t165 = c4 * t163;
+        // real block of 3
+        const V t166 = t151 - t147;
+        const V t167 = c2 * t166;
+        // real block of 9
+        const V t168 = c3 * t167;
+        const V t169 = c4 * t167;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t170 = c0 * x2i;
+        const V x17i = io.im(17);
+        const V t171 = c0 * x17i;
+        // complex block of 2
+        const V t172 = t170 - t171;
+        const V t173 = t170 + t171;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t174 = c0 * x3i;
+        const V x5i = io.im(5);
+        const V t175 = c0 * x5i;
+        const V x14i = io.im(14);
+        const V t176 = c0 * x14i;
+        const V x16i = io.im(16);
+        const V t177 = c0 * x16i;
+        // complex block of 2
+        const V t178 = t176 - t175;
+        // complex block of 2
+        const V t179 = t177 - t174;
+        // real block of 3
+        const V t180 = t178 - t179;
+        const V t181 = t179 + t178;
+        // complex block of 2
+        const V t182 = t176 + t175;
+        // complex block of 2
+        const V t183 = t177 + t174;
+        // real block of 3
+        const V t184 = t182 - t183;
+        const V t185 = t183 + t182;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t186 = c0 * x4i;
+        const V x6i = io.im(6);
+        const V t187 = c0 * x6i;
+        const V x13i = io.im(13);
+        const V t188 = c0 * x13i;
+        // complex block of 2
+        const V t189 = t187 - t188;
+        const V t190 = t187 + t188;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t191 = c0 * x9i;
+        const V x10i = io.im(10);
+        const V t192 = c0 * x10i;
+        // complex block of 2
+        const V t193 = t192 - t191;
+        const V t194 = t192 + t191;
+        // doubled bins
+        const V x15i = io.im(15);
+        const V t195 = c0 * x15i;
+        // complex block of 2
+        const V t196 = t186 - t195;
+        // real block of 3
+        const V t197 = t193 - t189;
+        const V t198 = c1 * t197;
+        const V t199 = t196 + t198;
+        // complex block of 2
+        const V t200 = t186 + t195;
+        // real block of 3
+        const V t201 = t194 - t190;
+        const V t202 = c1 * t201;
+        const V t203 = t200 + t202;
+        // real block of 3
+        const V t204 = t189 + t193;
+        const V t205 = c2 * t204;
+        // real block of 9
+        const V t206 = c5 * t205;
+        const V t207 = c6 * t205;
+        // real block of 3
+        const V t208 = t190 + t194;
+        const V t209 = c2 * t208;
+        // real block of 9
+        const V t210 = c5 * t209;
+        const V t211 = c6 * t209;
+        // real block of 3
+        const V t212 = t180 + t172;
+        // real block of 3
+        const V t213 = t197 - t196;
+        // real block of 3
+        const V t214 = t155 + t154;
+        // real block of 3
+        const V t215 = t213 + t214;
+        const V t216 = t213 - t214;
+        const V t217 = t215 + t212;
+        const V t218 = c1 * t215;
+        const V t219 = t212 - t218;
+        const V t220 = c2 * t216;
+        // spectrum block of 19, multiplier 2
+        const V t221 = c8 * t220;
+        // real block of 3
+        const V t222 = c1 * t180;
+        const V t223 = t172 - t222;
+        const V t224 = c2 * t181;
+        // real block of 9
+        const V t225 = c6 * t199;
+        const V t226 = t206 - t225;
+        const V t227 = c4 * t157;
+        const V t228 = t227 - t164;
+        // complex block of 3
+        const V t229 = t226 + t228;
+        const V t230 = t226 - t228;
+        // real block of 9
+        const V t231 = c5 * t199;
+        const V t232 = t207 + t231;
+        const V t233 = c3 * t157;
+        const V t234 = t165 + t233;
+        // complex block of 3
+        const V t235 = t232 - t234;
+        const V t236 = t232 + t234;
+        const V t237 = t229 + t223;
+        const V t238 = t235 + t224;
+        const V t239 = c1 * t229;
+        const V t240 = t223 - t239;
+        const V t241 = c2 * t236;
+        const V t242 = t240 + t241;
+        const V t243 = t240 - t241;
+        const V t244 = c1 * t235;
+        const V t245 = t224 - t244;
+        const V t246 = c2 * t230;
+        const V t247 = t245 - t246;
+        const V t248 = t245 + t246;
+        // real block of 3
+        const V t249 = t184 + t173;
+        // real block of 3
+        const V t250 = t201 - t200;
+        // real block of 3
+        const V t251 = t159 + t158;
+        // real block of 3
+        const V t252 = t250 + t251;
+        const V t253 = t250 - t251;
+        const V t254 = t252 + t249;
+        const V t255 = c1 * t252;
+        const V t256 = t249 - t255;
+        const V t257 = c2 * t253;
+        // spectrum block of 19, multiplier 2
+        const V t258 = c8 * t257;
+        // real block of 3
+        const V t259 = c1 * t184;
+        const V t260 = t173 - t259;
+        const V t261 = c2 * t185;
+        // real block of 9
+        const V t262 = c6 * t203;
+        const V t263 = t210 - t262;
+        const V t264 = c4 * t161;
+        const V t265 = t264 - t168;
+        // complex block of 3
+        const V t266 = t263 + t265;
+        const V t267 = t263 - t265;
+        // real block of 9
+        const V t268 = c5 * t203;
+        const V t269 = t211 + t268;
+        const V t270 = c3 * t161;
+        const V t271 = t169 + t270;
+        // complex block of 3
+        const V t272 = t269 - t271;
+        const V t273 = t269 + t271;
+        const V t274 = t266 + t260;
+        const V t275 = t272 + t261;
+        const V t276 = c1 * t266;
+        const V t277 = t260 - t276;
+        const V t278 = c2 * t273;
+        const V t279 = t277 + t278;
+        const V t280 = t277 - t278;
+        const V t281 = c1 * t272;
+        const V t282 = t261 - t281;
+        const V t283 = c2 * t267;
+        const V t284 = t282 - t283;
+        const V t285 = t282 + t283;
+        // spectrum block of 19, multiplier 2
+        const V t286 = c9 * t75;
+        const V t287 = t0 - t286;
+        const V t288 = c10 * t217;
         // spectrum block of 2
-        const V t229 = t179 + t228;
-        const V t230 = t179 - t228;
-        // complex block of 2
-        const V t231 = t191 - t221;
-        const V t232 = t188 + t218;
-        const V t233 = t191 + t221;
-        const V t234 = t188 - t218;
-        // complex block of 2
-        const V t235 = t203 + t209;
-        const V t236 = t200 + t206;
-        const V t237 = t209 - t203;
-        const V t238 = t200 - t206;
-        // complex block of 2
-        const V t239 = t197 - t215;
-        const V t240 = t212 + t194;
-        const V t241 = t215 + t197;
-        const V t242 = t212 - t194;
-        // complex block of 2
-        const V t243 = t227 + t185;
-        const V t244 = t224 + t182;
-        const V t245 = t185 - t227;
-        const V t246 = t224 - t182;
-        // spectrum block of 3, multiplier 2
-        const V t247 = t240 + t229;
-        const V t248 = c1 * t240;
-        const V t249 = t229 - t248;
-        const V t250 = c2 * t239;
-        const V t251 = t249 - t250;
-        const V t252 = t249 + t250;
-        // complex block of 3, multiplier 2
-        const V t253 = t235 - t243;
-        const V t254 = t244 + t236;
-        const V t255 = t243 + t235;
-        const V t256 = t244 - t236;
-        const V t257 = t253 + t231;
-        const V t258 = t254 + t232;
-        const V t259 = c1 * t253;
-        const V t260 = t231 - t259;
-        const V t261 = c1 * t254;
-        const V t262 = t232 - t261;
-        const V t263 = c2 * t255;
-        const V t264 = c2 * t256;
-        const V t265 = t260 + t264;
-        const V t266 = t262 + t263;
-        const V t267 = t260 - t264;
-        const V t268 = t262 - t263;
-        // spectrum block of 9, multiplier 2
-        const V t269 = c5 * t267;
-        const V t270 = c6 * t268;
-        const V t271 = t270 - t269;
-        const V t272 = c25 * t265;
-        const V t273 = c26 * t266;
-        const V t274 = t273 + t272;
-        // spectrum block of 3, multiplier 2
-        const V t275 = t258 + t247;
-        io.out(2, t275);
-        const V t276 = c1 * t258;
-        const V t277 = t247 - t276;
-        const V t278 = c2 * t257;
-        const V t279 = t277 - t278;
-        io.out(14, t279);
-        const V t280 = t277 + t278;
-        io.out(22, t280);
-        // spectrum block of 3, multiplier 2
-        const V t281 = t271 + t252;
-        io.out(10, t281);
-        const V t282 = c1 * t271;
-        const V t283 = t252 - t282;
-        const V t284 = c27 * t267;
-        const V t285 = c28 * t268;
-        const V t286 = t284 + t285;
-        const V t287 = t283 - t286;
-        io.out(32, t287);
-        const V t288 = t283 + t286;
-        io.out(34, t288);
-        // spectrum block of 3, multiplier 2
-        const V t289 = t251 - t274;
-        io.out(12, t289);
-        const V t290 = c1 * t274;
-        const V t291 = t290 + t251;
-        const V t292 = c29 * t266;
-        const V t293 = c30 * t265;
-        const V t294 = t292 - t293;
-        const V t295 = t291 - t294;
-        io.out(8, t295);
-        const V t296 = t291 + t294;
-        io.out(18, t296);
-        // spectrum block of 3, multiplier 2
-        const V t297 = t242 + t230;
-        const V t298 = c1 * t242;
-        const V t299 = t230 - t298;
-        const V t300 = c2 * t241;
-        const V t301 = t299 + t300;
-        const V t302 = t299 - t300;
-        // complex block of 3, multiplier 2
-        const V t303 = t245 - t237;
-        const V t304 = t246 + t238;
-        const V t305 = t245 + t237;
-        const V t306 = t246 - t238;
-        const V t307 = t303 + t233;
-        const V t308 = t304 + t234;
-        const V t309 = c1 * t303;
-        const V t310 = t233 - t309;
-        const V t311 = c1 * t304;
-        const V t312 = t234 - t311;
-        const V t313 = c2 * t305;
-        const V t314 = c2 * t306;
-        const V t315 = t310 + t314;
-        const V t316 = t312 - t313;
-        const V t317 = t310 - t314;
-        const V t318 = t312 + t313;
-        // spectrum block of 9, multiplier 2
-        const V t319 = c5 * t317;
-        const V t320 = c6 * t318;
-        const V t321 = t320 - t319;
-        const V t322 = c25 * t315;
-        const V t323 = c26 * t316;
-        const V t324 = t323 + t322;
-        // spectrum block of 3, multiplier 2
-        const V t325 = t308 + t297;
-        io.out(36, t325);
-        const V t326 = c1 * t308;
-        const V t327 = t297 - t326;
-        const V t328 = c2 * t307;
-        const V t329 = t327 - t328;
-        io.out(24, t329);
-        const V t330 = t327 + t328;
-        io.out(16, t330);
-        // spectrum block of 3, multiplier 2
-        const V t331 = t321 + t302;
-        io.out(28, t331);
-        const V t332 = c1 * t321;
-        const V t333 = t302 - t332;
-        const V t334 = c27 * t317;
-        const V t335 = c28 * t318;
-        const V t336 = t334 + t335;
-        const V t337 = t333 - t336;
-        io.out(6, t337);
-        const V t338 = t333 + t336;
-        io.out(4, t338);
-        // spectrum block of 3, multiplier 2
-        const V t339 = t301 - t324;
-        io.out(26, t339);
-        const V t340 = c1 * t324;
-        const V t341 = t340 + t301;
-        const V t342 = c29 * t316;
-        const V t343 = c30 * t315;
-        const V t344 = t342 - t343;
-        const V t345 = t341 - t344;
-        io.out(30, t345);
-        const V t346 = t341 + t344;
-        io.out(20, t346);
+        const V t289 = t287 + t288;
+        const V t290 = t287 - t288;
         // spectrum block of 19, multiplier 2
-        const V t347 = t36 + t94;
-        io.out(0, t347);
-        // real block of 3
-        const V t348 = t69 + t65;
-        const V t349 = t69 - t65;
-        const V t350 = t348 + t41;
-        const V t351 = c1 * t348;
-        const V t352 = t41 - t351;
-        const V t353 = c2 * t349;
-        // real block of 3
-        const V t354 = t49 + t57;
-        const V t355 = t49 - t57;
-        const V t356 = t354 + t45;
-        const V t357 = c1 * t354;
-        const V t358 = t45 - t357;
-        const V t359 = c2 * t355;
-        // real block of 3
-        const V t360 = t61 + t73;
-        const V t361 = t61 - t73;
-        const V t362 = t360 + t53;
-        const V t363 = c1 * t360;
-        const V t364 = t53 - t363;
-        const V t365 = c2 * t361;
-        // real block of 3
-        const V t366 = t356 + t362;
-        const V t367 = t356 - t362;
-        const V t368 = t366 + t350;
-        const V t369 = c1 * t366;
-        const V t370 = t350 - t369;
-        const V t371 = c2 * t367;
-        // real block of 9
-        const V t372 = c3 * t359;
-        const V t373 = c4 * t358;
-        const V t374 = t373 - t372;
-        const V t375 = c3 * t358;
-        const V t376 = c4 * t359;
-        const V t377 = t376 + t375;
-        const V t378 = c5 * t365;
-        const V t379 = c6 * t364;
-        const V t380 = t379 - t378;
-        const V t381 = c5 * t364;
-        const V t382 = c6 * t365;
-        const V t383 = t382 + t381;
-        // complex block of 3
-        const V t384 = t374 + t380;
-        const V t385 = t377 + t383;
-        const V t386 = t374 - t380;
-        const V t387 = t383 - t377;
-        const V t388 = t384 + t352;
-        const V t389 = t385 + t353;
-        const V t390 = c1 * t384;
-        const V t391 = t352 - t390;
-        const V t392 = c1 * t385;
-        const V t393 = t392 - t353;
-        const V t394 = c2 * t386;
-        const V t395 = c2 * t387;
-        const V t396 = t391 + t395;
-        const V t397 = t393 - t394;
-        const V t398 = t391 - t395;
-        const V t399 = t393 + t394;
-        // real block of 3
-        const V t400 = t64 - t68;
-        const V t401 = t68 + t64;
-        const V t402 = t400 + t40;
-        const V t403 = c1 * t400;
-        const V t404 = t40 - t403;
-        const V t405 = c2 * t401;
-        // real block of 3
-        const V t406 = t56 - t48;
-        const V t407 = t48 + t56;
-        const V t408 = t406 - t44;
-        const V t409 = c1 * t406;
-        const V t410 = t44 + t409;
-        const V t411 = c2 * t407;
-        // real block of 3
-        const V t412 = t60 + t72;
-        const V t413 = t60 - t72;
-        const V t414 = t412 + t52;
-        const V t415 = c1 * t412;
-        const V t416 = t52 - t415;
-        const V t417 = c2 * t413;
-        // real block of 3
-        const V t418 = t408 + t414;
-        const V t419 = t408 - t414;
-        const V t420 = t418 + t402;
-        const V t421 = c1 * t418;
-        const V t422 = t402 - t421;
-        const V t423 = c2 * t419;
-        // real block of 9
-        const V t424 = c3 * t411;
-        const V t425 = c4 * t410;
-        const V t426 = t424 - t425;
-        const V t427 = c3 * t410;
-        const V t428 = c4 * t411;
-        const V t429 = t428 + t427;
-        const V t430 = c5 * t417;
-        const V t431 = c6 * t416;
-        const V t432 = t431 - t430;
-        const V t433 = c5 * t416;
-        const V t434 = c6 * t417;
-        const V t435 = t434 + t433;
-        // complex block of 3
-        const V t436 = t426 + t432;
-        const V t437 = t429 - t435;
-        const V t438 = t426 - t432;
-        const V t439 = t429 + t435;
-        const V t440 = t436 + t404;
-        const V t441 = t437 + t405;
-        const V t442 = c1 * t436;
-        const V t443 = t404 - t442;
-        const V t444 = c1 * t437;
-        const V t445 = t405 - t444;
-        const V t446 = c2 * t438;
-        const V t447 = c2 * t439;
-        const V t448 = t443 + t447;
-        const V t449 = t445 - t446;
-        const V t450 = t443 - t447;
-        const V t451 = t445 + t446;
+        const V t291 = c11 * t247;
+        const V t292 = c12 * t242;
+        const V t293 = t291 - t292;
+        const V t294 = c13 * t105;
+        const V t295 = c14 * t100;
+        const V t296 = t294 - t295;
+        // complex block of 2
+        const V t297 = t296 + t293;
+        const V t298 = t296 - t293;
         // spectrum block of 19, multiplier 2
-        const V t452 = c7 * t368;
-        const V t453 = t37 - t452;
-        const V t454 = c8 * t449;
-        const V t455 = c9 * t448;
-        const V t456 = t454 - t455;
-        const V t457 = c8 * t448;
-        const V t458 = c9 * t449;
-        const V t459 = t458 + t457;
-        const V t460 = c10 * t389;
-        const V t461 = c11 * t388;
-        const V t462 = t461 + t460;
-        const V t463 = c10 * t388;
-        const V t464 = c11 * t389;
-        const V t465 = t463 - t464;
-        const V t466 = c12 * t423;
-        const V t467 = c13 * t422;
-        const V t468 = t466 - t467;
-        const V t469 = c12 * t422;
-        const V t470 = c13 * t423;
-        const V t471 = t470 + t469;
-        const V t472 = c14 * t399;
-        const V t473 = c15 * t398;
-        const V t474 = t473 - t472;
-        const V t475 = c14 * t398;
-        const V t476 = c15 * t399;
-        const V t477 = t476 + t475;
-        const V t478 = c16 * t451;
-        const V t479 = c17 * t450;
-        const V t480 = t479 + t478;
-        const V t481 = c16 * t450;
-        const V t482 = c17 * t451;
-        const V t483 = t482 - t481;
-        const V t484 = c18 * t371;
-        const V t485 = c19 * t370;
-        const V t486 = t485 - t484;
-        const V t487 = c18 * t370;
-        const V t488 = c19 * t371;
-        const V t489 = t488 + t487;
-        const V t490 = c20 * t441;
-        const V t491 = c21 * t440;
-        const V t492 = t490 - t491;
-        const V t493 = c20 * t440;
-        const V t494 = c21 * t441;
+        const V t299 = c15 * t96;
+        const V t300 = c16 * t95;
+        const V t301 = t300 + t299;
+        const V t302 = c17 * t106;
+        const V t303 = c18 * t101;
+        const V t304 = t303 - t302;
+        const V t305 = c19 * t248;
+        const V t306 = c20 * t243;
+        const V t307 = t306 + t305;
+        // complex block of 2
+        const V t308 = t304 + t307;
+        const V t309 = t304 - t307;
+        // spectrum block of 19, multiplier 2
+        const V t310 = c21 * t238;
+        const V t311 = c22 * t237;
+        const V t312 = t310 - t311;
+        // complex block of 2
+        const V t313 = t301 + t312;
+        // complex block of 3, multiplier 2
+        const V t314 = t297 + t308;
+        const V t315 = c1 * t314;
+        const V t316 = t313 - t315;
+        // complex block of 2
+        const V t317 = t301 - t312;
+        // complex block of 3, multiplier 2
+        const V t318 = t298 + t309;
+        const V t319 = c1 * t318;
+        const V t320 = t317 - t319;
+        // complex block of 3, multiplier 2
+        const V t321 = t297 - t308;
+        const V t322 = c2 * t321;
+        // complex block of 3, multiplier 2
+        const V t323 = t298 - t309;
+        const V t324 = c2 * t323;
+        // spectrum block of 19, multiplier 2
+        const V t325 = c11 * t242;
+        const V t326 = c12 * t247;
+        const V t327 = t326 + t325;
+        const V t328 = c13 * t100;
+        const V t329 = c14 * t105;
+        const V t330 = t329 + t328;
+        // complex block of 2
+        const V t331 = t330 + t327;
+        const V t332 = t327 - t330;
+        // spectrum block of 19, multiplier 2
+        const V t333 = c15 * t95;
+        const V t334 = c16 * t96;
+        const V t335 = t333 - t334;
+        const V t336 = c17 * t101;
+        const V t337 = c18 * t106;
+        const V t338 = t337 + t336;
+        const V t339 = c19 * t243;
+        const V t340 = c20 * t248;
+        const V t341 = t340 - t339;
+        // complex block of 2
+        const V t342 = t338 + t341;
+        const V t343 = t341 - t338;
+        // spectrum block of 19, multiplier 2
+        const V t344 = c21 * t237;
+        const V t345 = c22 * t238;
+        const V t346 = t345 + t344;
+        // complex block of 2
+        const V t347 = t335 - t346;
+        // complex block of 3, multiplier 2
+        const V t348 = t342 - t331;
+        const V t349 = c1 * t348;
+        const V t350 = t347 - t349;
+        // complex block of 2
+        const V t351 = t335 + t346;
+        // complex block of 3, multiplier 2
+        const V t352 = t332 - t343;
+        const V t353 = c1 * t352;
+        const V t354 = t351 - t353;
+        // complex block of 3, multiplier 2
+        const V t355 = t331 + t342;
+        const V t356 = c2 * t355;
+        // complex block of 3, multiplier 2
+        const V t357 = t332 + t343;
+        const V t358 = c2 * t357;
+        // spectrum block of 19, multiplier 2
+        const V t359 = c23 * t219;
+        const V t360 = t221 - t359;
+        const V t361 = c24 * t77;
+        const V t362 = t361 - t79;
+        // complex block of 2
+        const V t363 = t362 + t360;
+        // spectrum block of 3, multiplier 2
+        const V t364 = c1 * t363;
+        // complex block of 2
+        const V t365 = t362 - t360;
+        // spectrum block of 3, multiplier 2
+        const V t366 = c1 * t365;
+        // spectrum block of 19, multiplier 2
+        const V t367 = c8 * t219;
+        const V t368 = c23 * t220;
+        const V t369 = t368 + t367;
+        const V t370 = c7 * t77;
+        const V t371 = c24 * t78;
+        const V t372 = t371 + t370;
+        // complex block of 2
+        const V t373 = t369 - t372;
+        // spectrum block of 3, multiplier 2
+        const V t374 = c2 * t373;
+        // complex block of 2
+        const V t375 = t372 + t369;
+        // spectrum block of 3, multiplier 2
+        const V t376 = c2 * t375;
+        // spectrum block of 3, multiplier 2
+        const V t377 = t363 + t289;
+        // complex block of 3, multiplier 2
+        const V t378 = t348 + t347;
+        // spectrum block of 3, multiplier 2
+        const V t379 = c2 * t378;
+        // complex block of 3, multiplier 2
+        const V t380 = t314 + t313;
+        // spectrum block of 3, multiplier 2
+        const V t381 = c1 * t380;
+        const V t382 = t380 + t377;
+        io.out(2, t382);
+        const V t383 = t377 - t381;
+        const V t384 = t383 - t379;
+        io.out(14, t384);
+        const V t385 = t383 + t379;
+        io.out(22, t385);
+        // spectrum block of 3, multiplier 2
+        const V t386 = t289 - t364;
+        const V t387 = t386 - t374;
+        const V t388 = t386 + t374;
+        // complex block of 3, multiplier 2
+        const V t389 = t350 + t322;
+        // spectrum block of 9, multiplier 2
+        const V t390 = c25 * t389;
+        // complex block of 3, multiplier 2
+        const V t391 = t316 + t356;
+        // spectrum block of 9, multiplier 2
+        const V t392 = c26 * t391;
+        const V t393 = t392 + t390;
+        // spectrum block of 3, multiplier 2
+        const V t394 = c27 * t391;
+        const V t395 = c28 * t389;
+        // complex block of 3, multiplier 2
+        const V t396 = t350 - t322;
+        // spectrum block of 9, multiplier 2
+        const V t397 = c3 * t396;
+        // complex block of 3, multiplier 2
+        const V t398 = t316 - t356;
+        // spectrum block of 9, multiplier 2
+        const V t399 = c4 * t398;
+        const V t400 = t399 - t397;
+        // spectrum block of 3, multiplier 2
+        const V t401 = c29 * t396;
+        const V t402 = c30 * t398;
+        const V t403 = t400 + t388;
+        io.out(10, t403);
+        const V t404 = c1 * t400;
+        const V t405 = t388 - t404;
+        const V t406 = t401 + t402;
+        const V t407 = t405 - t406;
+        io.out(32, t407);
+        const V t408 = t405 + t406;
+        io.out(34, t408);
+        // spectrum block of 3, multiplier 2
+        const V t409 = t387 - t393;
+        io.out(12, t409);
+        const V t410 = c1 * t393;
+        const V t411 = t410 + t387;
+        const V t412 = t394 - t395;
+        const V t413 = t411 - t412;
+        io.out(8, t413);
+        const V t414 = t411 + t412;
+        io.out(18, t414);
+        // spectrum block of 3, multiplier 2
+        const V t415 = t365 + t290;
+        // complex block of 3, multiplier 2
+        const V t416 = t352 + t351;
+        // spectrum block of 3, multiplier 2
+        const V t417 = c2 * t416;
+        // complex block of 3, multiplier 2
+        const V t418 = t318 + t317;
+        // spectrum block of 3, multiplier 2
+        const V t419 = c1 * t418;
+        const V t420 = t418 + t415;
+        io.out(36, t420);
+        const V t421 = t415 - t419;
+        const V t422 = t421 - t417;
+        io.out(24, t422);
+        const V t423 = t421 + t417;
+        io.out(16, t423);
+        // spectrum block of 3, multiplier 2
+        const V t424 = t290 - t366;
+        const V t425 = t424 + t376;
+        const V t426 = t424 - t376;
+        // complex block of 3, multiplier 2
+        const V t427 = t354 + t324;
+        // spectrum block of 9, multiplier 2
+        const V t428 = c25 * t427;
+        // complex block of 3, multiplier 2
+        const V t429 = t320 - t358;
+        // spectrum block of 9, multiplier 2
+        const V t430 = c26 * t429;
+        const V t431 = t430 + t428;
+        // spectrum block of 3, multiplier 2
+        const V t432 = c27 * t429;
+        const V t433 = c28 * t427;
+        // complex block of 3, multiplier 2
+        const V t434 = t354 - t324;
+        // spectrum block of 9, multiplier 2
+        const V t435 = c3 * t434;
+        // complex block of 3, multiplier 2
+        const V t436 = t320 + t358;
+        // spectrum block of 9, multiplier 2
+        const V t437 = c4 * t436;
+        const V t438 = t437 - t435;
+        // spectrum block of 3, multiplier 2
+        const V t439 = c29 * t434;
+        const V t440 = c30 * t436;
+        const V t441 = t438 + t426;
+        io.out(28, t441);
+        const V t442 = c1 * t438;
+        const V t443 = t426 - t442;
+        const V t444 = t439 + t440;
+        const V t445 = t443 - t444;
+        io.out(6, t445);
+        const V t446 = t443 + t444;
+        io.out(4, t446);
+        // spectrum block of 3, multiplier 2
+        const V t447 = t425 - t431;
+        io.out(26, t447);
+        const V t448 = c1 * t431;
+        const V t449 = t448 + t425;
+        const V t450 = t432 - t433;
+        const V t451 = t449 - t450;
+        io.out(30, t451);
+        const V t452 = t449 + t450;
+        io.out(20, t452);
+        // spectrum block of 19, multiplier 2
+        const V t453 = t0 + t75;
+        io.out(0, t453);
+        // spectrum block of 19, multiplier 2
+        const V t454 = c9 * t112;
+        const V t455 = t1 - t454;
+        const V t456 = c10 * t254;
+        // spectrum block of 2
+        const V t457 = t455 + t456;
+        const V t458 = t455 - t456;
+        // spectrum block of 19, multiplier 2
+        const V t459 = c11 * t284;
+        const V t460 = c12 * t279;
+        const V t461 = t459 - t460;
+        const V t462 = c13 * t142;
+        const V t463 = c14 * t137;
+        const V t464 = t462 - t463;
+        // complex block of 2
+        const V t465 = t464 + t461;
+        const V t466 = t464 - t461;
+        // spectrum block of 19, multiplier 2
+        const V t467 = c15 * t133;
+        const V t468 = c16 * t132;
+        const V t469 = t468 + t467;
+        const V t470 = c17 * t143;
+        const V t471 = c18 * t138;
+        const V t472 = t471 - t470;
+        const V t473 = c19 * t285;
+        const V t474 = c20 * t280;
+        const V t475 = t474 + t473;
+        // complex block of 2
+        const V t476 = t472 + t475;
+        const V t477 = t472 - t475;
+        // spectrum block of 19, multiplier 2
+        const V t478 = c21 * t275;
+        const V t479 = c22 * t274;
+        const V t480 = t478 - t479;
+        // complex block of 2
+        const V t481 = t469 + t480;
+        // complex block of 3, multiplier 2
+        const V t482 = t465 + t476;
+        const V t483 = c1 * t482;
+        const V t484 = t481 - t483;
+        // complex block of 2
+        const V t485 = t469 - t480;
+        // complex block of 3, multiplier 2
+        const V t486 = t466 + t477;
+        const V t487 = c1 * t486;
+        const V t488 = t485 - t487;
+        // complex block of 3, multiplier 2
+        const V t489 = t465 - t476;
+        const V t490 = c2 * t489;
+        // complex block of 3, multiplier 2
+        const V t491 = t466 - t477;
+        const V t492 = c2 * t491;
+        // spectrum block of 19, multiplier 2
+        const V t493 = c11 * t279;
+        const V t494 = c12 * t284;
         const V t495 = t494 + t493;
-        const V t496 = c22 * t397;
-        const V t497 = c23 * t396;
-        const V t498 = t496 - t497;
-        const V t499 = c22 * t396;
-        const V t500 = c23 * t397;
-        const V t501 = t500 + t499;
-        const V t502 = c24 * t420;
-        // spectrum block of 2
-        const V t503 = t453 + t502;
-        const V t504 = t453 - t502;
+        const V t496 = c13 * t137;
+        const V t497 = c14 * t142;
+        const V t498 = t497 + t496;
         // complex block of 2
-        const V t505 = t465 - t495;
-        const V t506 = t462 + t492;
-        const V t507 = t465 + t495;
-        const V t508 = t462 - t492;
+        const V t499 = t498 + t495;
+        const V t500 = t495 - t498;
+        // spectrum block of 19, multiplier 2
+        const V t501 = c15 * t132;
+        const V t502 = c16 * t133;
+        const V t503 = t501 - t502;
+        const V t504 = c17 * t138;
+        const V t505 = c18 * t143;
+        const V t506 = t505 + t504;
+        const V t507 = c19 * t280;
+        const V t508 = c20 * t285;
+        const V t509 = t508 - t507;
         // complex block of 2
-        const V t509 = t477 + t483;
-        const V t510 = t474 + t480;
-        const V t511 = t483 - t477;
-        const V t512 = t474 - t480;
+        const V t510 = t506 + t509;
+        const V t511 = t509 - t506;
+        // spectrum block of 19, multiplier 2
+        const V t512 = c21 * t274;
+        const V t513 = c22 * t275;
+        const V t514 = t513 + t512;
         // complex block of 2
-        const V t513 = t471 - t489;
-        const V t514 = t486 + t468;
-        const V t515 = t489 + t471;
-        const V t516 = t486 - t468;
-        // complex block of 2
-        const V t517 = t501 + t459;
-        const V t518 = t498 + t456;
-        const V t519 = t459 - t501;
-        const V t520 = t498 - t456;
-        // spectrum block of 3, multiplier 2
-        const V t521 = t514 + t503;
-        const V t522 = c1 * t514;
-        const V t523 = t503 - t522;
-        const V t524 = c2 * t513;
-        const V t525 = t523 - t524;
-        const V t526 = t523 + t524;
+        const V t515 = t503 - t514;
         // complex block of 3, multiplier 2
-        const V t527 = t509 - t517;
-        const V t528 = t518 + t510;
-        const V t529 = t517 + t509;
-        const V t530 = t518 - t510;
-        const V t531 = t527 + t505;
-        const V t532 = t528 + t506;
-        const V t533 = c1 * t527;
-        const V t534 = t505 - t533;
-        const V t535 = c1 * t528;
-        const V t536 = t506 - t535;
-        const V t537 = c2 * t529;
-        const V t538 = c2 * t530;
-        const V t539 = t534 + t538;
-        const V t540 = t536 + t537;
-        const V t541 = t534 - t538;
-        const V t542 = t536 - t537;
-        // spectrum block of 9, multiplier 2
-        const V t543 = c5 * t541;
-        const V t544 = c6 * t542;
-        const V t545 = t544 - t543;
-        const V t546 = c25 * t539;
-        const V t547 = c26 * t540;
-        const V t548 = t547 + t546;
-        // spectrum block of 3, multiplier 2
-        const V t549 = t532 + t521;
-        io.out(21, t549);
-        const V t550 = c1 * t532;
-        const V t551 = t521 - t550;
-        const V t552 = c2 * t531;
-        const V t553 = t551 - t552;
-        io.out(33, t553);
-        const V t554 = t551 + t552;
-        io.out(3, t554);
-        // spectrum block of 3, multiplier 2
-        const V t555 = t545 + t526;
-        io.out(29, t555);
-        const V t556 = c1 * t545;
-        const V t557 = t526 - t556;
-        const V t558 = c27 * t541;
-        const V t559 = c28 * t542;
-        const V t560 = t558 + t559;
-        const V t561 = t557 - t560;
-        io.out(13, t561);
-        const V t562 = t557 + t560;
-        io.out(15, t562);
-        // spectrum block of 3, multiplier 2
-        const V t563 = t525 - t548;
-        io.out(31, t563);
-        const V t564 = c1 * t548;
-        const V t565 = t564 + t525;
-        const V t566 = c29 * t540;
-        const V t567 = c30 * t539;
-        const V t568 = t566 - t567;
-        const V t569 = t565 - t568;
-        io.out(27, t569);
-        const V t570 = t565 + t568;
-        io.out(37, t570);
-        // spectrum block of 3, multiplier 2
-        const V t571 = t516 + t504;
-        const V t572 = c1 * t516;
-        const V t573 = t504 - t572;
-        const V t574 = c2 * t515;
-        const V t575 = t573 + t574;
-        const V t576 = t573 - t574;
+        const V t516 = t510 - t499;
+        const V t517 = c1 * t516;
+        const V t518 = t515 - t517;
+        // complex block of 2
+        const V t519 = t503 + t514;
         // complex block of 3, multiplier 2
-        const V t577 = t519 - t511;
-        const V t578 = t520 + t512;
-        const V t579 = t519 + t511;
-        const V t580 = t520 - t512;
-        const V t581 = t577 + t507;
-        const V t582 = t578 + t508;
-        const V t583 = c1 * t577;
-        const V t584 = t507 - t583;
-        const V t585 = c1 * t578;
-        const V t586 = t508 - t585;
-        const V t587 = c2 * t579;
-        const V t588 = c2 * t580;
-        const V t589 = t584 + t588;
-        const V t590 = t586 - t587;
-        const V t591 = t584 - t588;
-        const V t592 = t586 + t587;
+        const V t520 = t500 - t511;
+        const V t521 = c1 * t520;
+        const V t522 = t519 - t521;
+        // complex block of 3, multiplier 2
+        const V t523 = t499 + t510;
+        const V t524 = c2 * t523;
+        // complex block of 3, multiplier 2
+        const V t525 = t500 + t511;
+        const V t526 = c2 * t525;
+        // spectrum block of 19, multiplier 2
+        const V t527 = c23 * t256;
+        const V t528 = t258 - t527;
+        const V t529 = c24 * t114;
+        const V t530 = t529 - t116;
+        // complex block of 2
+        const V t531 = t530 + t528;
+        // spectrum block of 3, multiplier 2
+        const V t532 = c1 * t531;
+        // complex block of 2
+        const V t533 = t530 - t528;
+        // spectrum block of 3, multiplier 2
+        const V t534 = c1 * t533;
+        // spectrum block of 19, multiplier 2
+        const V t535 = c8 * t256;
+        const V t536 = c23 * t257;
+        const V t537 = t536 + t535;
+        const V t538 = c7 * t114;
+        const V t539 = c24 * t115;
+        const V t540 = t539 + t538;
+        // complex block of 2
+        const V t541 = t537 - t540;
+        // spectrum block of 3, multiplier 2
+        const V t542 = c2 * t541;
+        // complex block of 2
+        const V t543 = t540 + t537;
+        // spectrum block of 3, multiplier 2
+        const V t544 = c2 * t543;
+        // spectrum block of 3, multiplier 2
+        const V t545 = t531 + t457;
+        // complex block of 3, multiplier 2
+        const V t546 = t516 + t515;
+        // spectrum block of 3, multiplier 2
+        const V t547 = c2 * t546;
+        // complex block of 3, multiplier 2
+        const V t548 = t482 + t481;
+        // spectrum block of 3, multiplier 2
+        const V t549 = c1 * t548;
+        const V t550 = t548 + t545;
+        io.out(21, t550);
+        const V t551 = t545 - t549;
+        const V t552 = t551 - t547;
+        io.out(33, t552);
+        const V t553 = t551 + t547;
+        io.out(3, t553);
+        // spectrum block of 3, multiplier 2
+        const V t554 = t457 - t532;
+        const V t555 = t554 - t542;
+        const V t556 = t554 + t542;
+        // complex block of 3, multiplier 2
+        const V t557 = t518 + t490;
         // spectrum block of 9, multiplier 2
-        const V t593 = c5 * t591;
-        const V t594 = c6 * t592;
-        const V t595 = t594 - t593;
-        const V t596 = c25 * t589;
-        const V t597 = c26 * t590;
-        const V t598 = t597 + t596;
+        const V t558 = c25 * t557;
+        // complex block of 3, multiplier 2
+        const V t559 = t484 + t524;
+        // spectrum block of 9, multiplier 2
+        const V t560 = c26 * t559;
+        const V t561 = t560 + t558;
         // spectrum block of 3, multiplier 2
-        const V t599 = t582 + t571;
-        io.out(17, t599);
-        const V t600 = c1 * t582;
-        const V t601 = t571 - t600;
-        const V t602 = c2 * t581;
-        const V t603 = t601 - t602;
-        io.out(5, t603);
-        const V t604 = t601 + t602;
-        io.out(35, t604);
+        const V t562 = c27 * t559;
+        const V t563 = c28 * t557;
+        // complex block of 3, multiplier 2
+        const V t564 = t518 - t490;
+        // spectrum block of 9, multiplier 2
+        const V t565 = c3 * t564;
+        // complex block of 3, multiplier 2
+        const V t566 = t484 - t524;
+        // spectrum block of 9, multiplier 2
+        const V t567 = c4 * t566;
+        const V t568 = t567 - t565;
         // spectrum block of 3, multiplier 2
-        const V t605 = t595 + t576;
-        io.out(9, t605);
-        const V t606 = c1 * t595;
-        const V t607 = t576 - t606;
-        const V t608 = c27 * t591;
-        const V t609 = c28 * t592;
-        const V t610 = t608 + t609;
-        const V t611 = t607 - t610;
-        io.out(25, t611);
-        const V t612 = t607 + t610;
-        io.out(23, t612);
+        const V t569 = c29 * t564;
+        const V t570 = c30 * t566;
+        const V t571 = t568 + t556;
+        io.out(29, t571);
+        const V t572 = c1 * t568;
+        const V t573 = t556 - t572;
+        const V t574 = t569 + t570;
+        const V t575 = t573 - t574;
+        io.out(13, t575);
+        const V t576 = t573 + t574;
+        io.out(15, t576);
         // spectrum block of 3, multiplier 2
-        const V t613 = t575 - t598;
-        io.out(7, t613);
-        const V t614 = c1 * t598;
-        const V t615 = t614 + t575;
-        const V t616 = c29 * t590;
-        const V t617 = c30 * t589;
-        const V t618 = t616 - t617;
-        const V t619 = t615 - t618;
+        const V t577 = t555 - t561;
+        io.out(31, t577);
+        const V t578 = c1 * t561;
+        const V t579 = t578 + t555;
+        const V t580 = t562 - t563;
+        const V t581 = t579 - t580;
+        io.out(27, t581);
+        const V t582 = t579 + t580;
+        io.out(37, t582);
+        // spectrum block of 3, multiplier 2
+        const V t583 = t533 + t458;
+        // complex block of 3, multiplier 2
+        const V t584 = t520 + t519;
+        // spectrum block of 3, multiplier 2
+        const V t585 = c2 * t584;
+        // complex block of 3, multiplier 2
+        const V t586 = t486 + t485;
+        // spectrum block of 3, multiplier 2
+        const V t587 = c1 * t586;
+        const V t588 = t586 + t583;
+        io.out(17, t588);
+        const V t589 = t583 - t587;
+        const V t590 = t589 - t585;
+        io.out(5, t590);
+        const V t591 = t589 + t585;
+        io.out(35, t591);
+        // spectrum block of 3, multiplier 2
+        const V t592 = t458 - t534;
+        const V t593 = t592 + t544;
+        const V t594 = t592 - t544;
+        // complex block of 3, multiplier 2
+        const V t595 = t522 + t492;
+        // spectrum block of 9, multiplier 2
+        const V t596 = c25 * t595;
+        // complex block of 3, multiplier 2
+        const V t597 = t488 - t526;
+        // spectrum block of 9, multiplier 2
+        const V t598 = c26 * t597;
+        const V t599 = t598 + t596;
+        // spectrum block of 3, multiplier 2
+        const V t600 = c27 * t597;
+        const V t601 = c28 * t595;
+        // complex block of 3, multiplier 2
+        const V t602 = t522 - t492;
+        // spectrum block of 9, multiplier 2
+        const V t603 = c3 * t602;
+        // complex block of 3, multiplier 2
+        const V t604 = t488 + t526;
+        // spectrum block of 9, multiplier 2
+        const V t605 = c4 * t604;
+        const V t606 = t605 - t603;
+        // spectrum block of 3, multiplier 2
+        const V t607 = c29 * t602;
+        const V t608 = c30 * t604;
+        const V t609 = t606 + t594;
+        io.out(9, t609);
+        const V t610 = c1 * t606;
+        const V t611 = t594 - t610;
+        const V t612 = t607 + t608;
+        const V t613 = t611 - t612;
+        io.out(25, t613);
+        const V t614 = t611 + t612;
+        io.out(23, t614);
+        // spectrum block of 3, multiplier 2
+        const V t615 = t593 - t599;
+        io.out(7, t615);
+        const V t616 = c1 * t599;
+        const V t617 = t616 + t593;
+        const V t618 = t600 - t601;
+        const V t619 = t617 - t618;
         io.out(11, t619);
-        const V t620 = t615 + t618;
+        const V t620 = t617 + t618;
         io.out(1, t620);
         // spectrum block of 19, multiplier 2
-        const V t621 = t37 + t368;
+        const V t621 = t1 + t112;
         io.out(19, t621);
     }
 };

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 39.
 // Inverse DFT to 39 real points, prime-factor 13, 3.
-// 154 additions, 154 subtractions, 180 multiplications (219 with `scale`); 19 constants; 45 values alive at most.
+// 154 additions, 154 subtractions, 180 multiplications (219 with `scale`); 19 constants; 60 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -11,675 +11,825 @@ struct RealInverseGraph<39> {
     static constexpr double c0 = 2.0;  // 2
     static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
     static constexpr double c2 = 0.8660254037844386;  // -sin 2 pi 2/3
-    static constexpr double c3 = 0.08333333333333333;  // 1/12
-    static constexpr double c4 = 0.5279915321544383;  // P[1] of 13
-    static constexpr double c5 = 0.2869425954512852;  // -Q[1] of 13
-    static constexpr double c6 = 0.29376443202296976;  // Q[2] of 13
-    static constexpr double c7 = 0.5242266395265821;  // -P[2] of 13
-    static constexpr double c8 = 0.5751407294740031;  // -P[3] of 13
-    static constexpr double c9 = 0.1741386011521359;  // -Q[3] of 13
-    static constexpr double c10 = 0.42218506973345193;  // -Q[4] of 13
-    static constexpr double c11 = 0.42763404682657274;  // P[4] of 13
-    static constexpr double c12 = 0.280148395734785;  // -P[5] of 13
-    static constexpr double c13 = 0.5316276774946329;  // -Q[5] of 13
-    static constexpr double c14 = 0.3004626062886658;  // beta of 13
-    static constexpr double c15 = 0.37034194807495624;  // -sin 2 pi 2/3 times P[4] of 13
-    static constexpr double c16 = 0.36562299548767413;  // -sin 2 pi 2/3 times -Q[4] of 13
-    static constexpr double c17 = 0.45399358717056765;  // -sin 2 pi 2/3 times -P[2] of 13
-    static constexpr double c18 = 0.25440746086019866;  // -sin 2 pi 2/3 times Q[2] of 13
+    static constexpr double c3 = 0.42218506973345193;  // -Q[4] of 13
+    static constexpr double c4 = 0.29376443202296976;  // Q[2] of 13
+    static constexpr double c5 = 0.5242266395265821;  // -P[2] of 13
+    static constexpr double c6 = 0.42763404682657274;  // P[4] of 13
+    static constexpr double c7 = 0.37034194807495624;  // -sin 2 pi 2/3 times P[4] of 13
+    static constexpr double c8 = 0.36562299548767413;  // -sin 2 pi 2/3 times -Q[4] of 13
+    static constexpr double c9 = 0.45399358717056765;  // -sin 2 pi 2/3 times -P[2] of 13
+    static constexpr double c10 = 0.25440746086019866;  // -sin 2 pi 2/3 times Q[2] of 13
+    static constexpr double c11 = 0.08333333333333333;  // 1/12
+    static constexpr double c12 = 0.3004626062886658;  // beta of 13
+    static constexpr double c13 = 0.1741386011521359;  // -Q[3] of 13
+    static constexpr double c14 = 0.5751407294740031;  // -P[3] of 13
+    static constexpr double c15 = 0.5316276774946329;  // -Q[5] of 13
+    static constexpr double c16 = 0.280148395734785;  // -P[5] of 13
+    static constexpr double c17 = 0.2869425954512852;  // -Q[1] of 13
+    static constexpr double c18 = 0.5279915321544383;  // P[1] of 13
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
         // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
         const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
+        const V t0 = c0 * x3r;
         const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
+        const V t1 = c0 * x9r;
         const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
+        const V t2 = c0 * x12r;
+        // real block of 3, multiplier 2
+        const V t3 = t2 + t1;
+        const V t4 = t3 + t0;
+        const V t5 = c1 * t3;
+        const V t6 = t2 - t1;
+        const V t7 = c2 * t6;
+        // doubled bins
+        const V x6r = io.re(6);
+        const V t8 = c0 * x6r;
         const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
+        const V t9 = c0 * x15r;
         const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
-        const V x19r = io.re(19);
-        const V t36 = c0 * x19r;
-        const V x19i = io.im(19);
-        const V t37 = c0 * x19i;
+        const V t10 = c0 * x18r;
         // real block of 3, multiplier 2
-        const V t38 = t22 + t16;
-        const V t39 = t22 - t16;
-        const V t40 = t38 + t4;
-        const V t41 = c1 * t38;
-        const V t42 = t4 - t41;
-        const V t43 = c2 * t39;
+        const V t11 = t10 + t8;
+        const V t12 = t11 + t9;
+        const V t13 = c1 * t11;
+        const V t14 = t10 - t8;
+        const V t15 = c2 * t14;
         // real block of 3, multiplier 2
-        const V t44 = t34 + t10;
-        const V t45 = t34 - t10;
-        const V t46 = t44 + t28;
-        const V t47 = c1 * t44;
-        const V t48 = t28 - t47;
-        const V t49 = c2 * t45;
-        // real block of 2
-        const V t50 = t40 + t46;
-        const V t51 = t40 - t46;
+        const V t16 = t0 - t5;
+        // real block of 3, multiplier 2
+        const V t17 = t9 - t13;
         // complex block of 2
-        const V t52 = t42 + t48;
-        const V t53 = t43 + t49;
-        const V t54 = t42 - t48;
-        const V t55 = t43 - t49;
-        // skew block of 6
-        const V t56 = c1 * t17;
-        const V t57 = c2 * t11;
-        const V t58 = t57 - t56;
-        const V t59 = c1 * t11;
-        const V t60 = c2 * t17;
-        const V t61 = t60 + t59;
-        const V t62 = c2 * t35;
-        const V t63 = c1 * t23;
-        const V t64 = t63 - t62;
-        const V t65 = c2 * t23;
-        const V t66 = c1 * t35;
-        const V t67 = t66 + t65;
-        // complex block of 3
-        const V t68 = t58 + t64;
-        const V t69 = t61 + t67;
-        const V t70 = t58 - t64;
-        const V t71 = t67 - t61;
-        const V t72 = t68 + t5;
-        const V t73 = t29 - t69;
-        const V t74 = c1 * t68;
-        const V t75 = t5 - t74;
-        const V t76 = c1 * t69;
-        const V t77 = t76 + t29;
-        const V t78 = c2 * t70;
-        const V t79 = c2 * t71;
-        const V t80 = t75 + t79;
-        const V t81 = t77 - t78;
-        const V t82 = t75 - t79;
-        const V t83 = t77 + t78;
+        const V t18 = t16 + t17;
+        const V t19 = t16 - t17;
+        const V t20 = t7 + t15;
         // spectrum block of 13, multiplier 3
-        const V t84 = c3 * t50;
+        const V t21 = c3 * t20;
+        // complex block of 2
+        const V t22 = t7 - t15;
+        // spectrum block of 13, multiplier 3
+        const V t23 = c4 * t22;
+        const V t24 = c5 * t19;
+        const V t25 = t23 - t24;
+        const V t26 = c6 * t18;
+        const V t27 = t26 + t21;
+        // spectrum block of 3
+        const V t28 = c7 * t20;
+        const V t29 = c8 * t18;
+        // spectrum block of 3
+        const V t30 = c9 * t22;
+        const V t31 = c10 * t19;
+        // real block of 2
+        const V t32 = t4 + t12;
+        // spectrum block of 13, multiplier 3
+        const V t33 = c11 * t32;
         const V x0r = io.re(0);
-        const V t85 = x0r - t84;
-        const V t86 = c4 * t73;
-        const V t87 = c5 * t72;
-        const V t88 = t87 + t86;
-        const V t89 = c4 * t72;
-        const V t90 = c5 * t73;
-        const V t91 = t89 - t90;
-        const V t92 = c6 * t55;
-        const V t93 = c7 * t54;
-        const V t94 = t92 - t93;
-        const V t95 = c8 * t83;
-        const V t96 = c9 * t82;
-        const V t97 = t96 + t95;
-        const V t98 = c8 * t82;
-        const V t99 = c9 * t83;
-        const V t100 = t99 - t98;
-        const V t101 = c10 * t53;
-        const V t102 = c11 * t52;
-        const V t103 = t102 + t101;
-        const V t104 = c12 * t81;
-        const V t105 = c13 * t80;
-        const V t106 = t104 - t105;
-        const V t107 = c12 * t80;
-        const V t108 = c13 * t81;
-        const V t109 = t108 + t107;
-        const V t110 = c14 * t51;
-        // spectrum block of 3
-        const V t111 = t103 + t85;
-        const V t112 = c1 * t103;
-        const V t113 = t85 - t112;
-        const V t114 = c15 * t53;
-        const V t115 = c16 * t52;
-        const V t116 = t114 - t115;
-        const V t117 = t113 - t116;
-        const V t118 = t113 + t116;
-        // complex block of 3
-        const V t119 = t109 - t91;
-        const V t120 = t106 - t88;
-        const V t121 = t109 + t91;
-        const V t122 = t106 + t88;
-        const V t123 = t119 + t100;
-        const V t124 = t120 - t97;
-        const V t125 = c1 * t119;
-        const V t126 = t100 - t125;
-        const V t127 = c1 * t120;
-        const V t128 = t97 + t127;
-        const V t129 = c2 * t121;
-        const V t130 = c2 * t122;
-        const V t131 = t126 + t130;
-        const V t132 = t128 + t129;
-        const V t133 = t126 - t130;
-        const V t134 = t129 - t128;
-        // spectrum block of 3
-        const V t135 = t94 + t110;
-        const V t136 = c1 * t94;
-        const V t137 = t110 - t136;
-        const V t138 = c17 * t55;
-        const V t139 = c18 * t54;
-        const V t140 = t138 + t139;
-        const V t141 = t137 + t140;
-        const V t142 = t137 - t140;
-        // spectrum block of 2
-        const V t143 = t111 + t135;
-        const V t144 = t111 - t135;
-        // spectrum block of 2
-        const V t145 = t143 + t124;
-        const V t146 = t143 - t124;
-        // spectrum block of 2
-        const V t147 = t144 + t123;
-        const V t148 = t144 - t123;
-        // spectrum block of 2
-        const V t149 = t117 + t141;
-        const V t150 = t117 - t141;
-        // spectrum block of 2
-        const V t151 = t149 - t132;
-        const V t152 = t149 + t132;
-        // spectrum block of 2
-        const V t153 = t150 + t131;
-        const V t154 = t150 - t131;
-        // spectrum block of 2
-        const V t155 = t118 + t142;
-        const V t156 = t118 - t142;
-        // spectrum block of 2
-        const V t157 = t155 + t134;
-        const V t158 = t155 - t134;
-        // spectrum block of 2
-        const V t159 = t156 + t133;
-        const V t160 = t156 - t133;
+        const V t34 = x0r - t33;
+        // real block of 2
+        const V t35 = t4 - t12;
         // spectrum block of 13, multiplier 3
-        const V t161 = x0r + t50;
+        const V t36 = c12 * t35;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t37 = c0 * x1r;
+        const V x14r = io.re(14);
+        const V t38 = c0 * x14r;
         // real block of 2
-        const V t162 = t31 + t19;
-        const V t163 = t31 - t19;
+        const V t39 = t37 + t38;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t40 = c0 * x4r;
+        const V x17r = io.re(17);
+        const V t41 = c0 * x17r;
         // real block of 2
-        const V t164 = t3 + t21;
-        const V t165 = t21 - t3;
+        const V t42 = t41 + t40;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t43 = c0 * x5r;
+        const V x8r = io.re(8);
+        const V t44 = c0 * x8r;
         // real block of 2
-        const V t166 = t162 - t164;
-        const V t167 = t162 + t164;
+        const V t45 = t43 + t44;
+        // doubled bins
+        const V x7r = io.re(7);
+        const V t46 = c0 * x7r;
+        const V x19r = io.re(19);
+        const V t47 = c0 * x19r;
         // real block of 2
-        const V t168 = t7 - t33;
-        const V t169 = t33 + t7;
+        const V t48 = t46 + t47;
         // real block of 2
-        const V t170 = t13 + t37;
-        const V t171 = t13 - t37;
+        const V t49 = t41 - t40;
         // real block of 2
-        const V t172 = t168 + t170;
-        const V t173 = t168 - t170;
-        // real block of 2
-        const V t174 = t1 - t27;
-        const V t175 = t1 + t27;
-        // real block of 2
-        const V t176 = t9 + t15;
-        const V t177 = t15 - t9;
-        // real block of 2
-        const V t178 = t174 - t176;
-        const V t179 = t174 + t176;
-        // real block of 3
-        const V t180 = t172 + t178;
-        const V t181 = t172 - t178;
-        const V t182 = t180 + t166;
-        const V t183 = c1 * t180;
-        const V t184 = t166 - t183;
-        const V t185 = c2 * t181;
+        const V t50 = t37 - t38;
         // complex block of 3
-        const V t186 = t175 - t169;
-        const V t187 = t171 + t177;
-        const V t188 = t169 + t175;
-        const V t189 = t171 - t177;
-        const V t190 = t186 + t163;
-        const V t191 = t187 + t165;
-        const V t192 = c1 * t186;
-        const V t193 = t163 - t192;
-        const V t194 = c1 * t187;
-        const V t195 = t165 - t194;
-        const V t196 = c2 * t188;
-        const V t197 = c2 * t189;
-        const V t198 = t193 + t197;
-        const V t199 = t195 + t196;
-        const V t200 = t193 - t197;
-        const V t201 = t195 - t196;
-        // real block of 3
-        const V t202 = t173 + t179;
-        const V t203 = t173 - t179;
-        const V t204 = t202 + t167;
-        const V t205 = c1 * t202;
-        const V t206 = t167 - t205;
-        const V t207 = c2 * t203;
+        const V t51 = t49 + t50;
+        const V t52 = t49 - t50;
         // real block of 2
-        const V t208 = t30 + t18;
-        const V t209 = t30 - t18;
+        const V t53 = t46 - t47;
         // real block of 2
-        const V t210 = t2 + t20;
-        const V t211 = t2 - t20;
-        // real block of 2
-        const V t212 = t208 + t210;
-        const V t213 = t208 - t210;
-        // real block of 2
-        const V t214 = t32 + t6;
-        const V t215 = t32 - t6;
-        // real block of 2
-        const V t216 = t12 + t36;
-        const V t217 = t12 - t36;
-        // real block of 2
-        const V t218 = t214 + t216;
-        const V t219 = t214 - t216;
-        // real block of 2
-        const V t220 = t0 + t26;
-        const V t221 = t0 - t26;
-        // real block of 2
-        const V t222 = t8 + t14;
-        const V t223 = t8 - t14;
-        // real block of 2
-        const V t224 = t220 + t222;
-        const V t225 = t220 - t222;
-        // real block of 3
-        const V t226 = t218 + t224;
-        const V t227 = t218 - t224;
-        const V t228 = t226 + t212;
-        const V t229 = c1 * t226;
-        const V t230 = t212 - t229;
-        const V t231 = c2 * t227;
+        const V t54 = t43 - t44;
         // complex block of 3
-        const V t232 = t215 + t221;
-        const V t233 = t217 + t223;
-        const V t234 = t215 - t221;
-        const V t235 = t217 - t223;
-        const V t236 = t232 + t209;
-        const V t237 = t233 + t211;
-        const V t238 = c1 * t232;
-        const V t239 = t209 - t238;
-        const V t240 = c1 * t233;
-        const V t241 = t211 - t240;
-        const V t242 = c2 * t234;
-        const V t243 = c2 * t235;
-        const V t244 = t239 + t243;
-        const V t245 = t241 - t242;
-        const V t246 = t239 - t243;
-        const V t247 = t241 + t242;
+        const V t55 = t53 + t54;
+        const V t56 = t53 - t54;
+        // real block of 2
+        const V t57 = t42 + t48;
+        // real block of 2
+        const V t58 = t39 + t45;
         // real block of 3
-        const V t248 = t219 + t225;
-        const V t249 = t219 - t225;
-        const V t250 = t248 + t213;
-        const V t251 = c1 * t248;
-        const V t252 = t213 - t251;
-        const V t253 = c2 * t249;
+        const V t59 = t57 + t58;
+        // real block of 2
+        const V t60 = t42 - t48;
+        // real block of 2
+        const V t61 = t39 - t45;
+        // real block of 3
+        const V t62 = t60 + t61;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t63 = c0 * x2r;
+        const V x10r = io.re(10);
+        const V t64 = c0 * x10r;
+        const V x11r = io.re(11);
+        const V t65 = c0 * x11r;
+        const V x16r = io.re(16);
+        const V t66 = c0 * x16r;
+        // real block of 2
+        const V t67 = t66 + t64;
+        // real block of 2
+        const V t68 = t63 + t65;
+        // real block of 2
+        const V t69 = t67 + t68;
+        const V t70 = t67 - t68;
+        // real block of 2
+        const V t71 = t66 - t64;
+        // real block of 2
+        const V t72 = t63 - t65;
+        // doubled bins
+        const V x13r = io.re(13);
+        const V t73 = c0 * x13r;
+        // real block of 3
+        const V t74 = t57 - t58;
+        const V t75 = c2 * t74;
+        const V t76 = c1 * t59;
+        const V t77 = t69 - t76;
         // complex block of 13, multiplier 3
-        const V t254 = t25 + t182;
-        const V t255 = t24 + t228;
-        const V t256 = c3 * t182;
-        const V t257 = t25 - t256;
-        const V t258 = c3 * t228;
-        const V t259 = t24 - t258;
-        const V t260 = c4 * t247;
-        const V t261 = c5 * t246;
+        const V t78 = c3 * t75;
+        const V t79 = c6 * t77;
+        const V t80 = t79 - t78;
+        // spectrum block of 3
+        const V t81 = c7 * t75;
+        const V t82 = c8 * t77;
+        // real block of 3
+        const V t83 = t59 + t69;
+        // complex block of 13, multiplier 3
+        const V t84 = c11 * t83;
+        const V t85 = t73 - t84;
+        // complex block of 3
+        const V t86 = t51 + t71;
+        // complex block of 13, multiplier 3
+        const V t87 = c13 * t86;
+        const V t88 = c14 * t86;
+        // complex block of 3
+        const V t89 = t55 + t72;
+        // complex block of 13, multiplier 3
+        const V t90 = c14 * t89;
+        const V t91 = c13 * t89;
+        // complex block of 3
+        const V t92 = c1 * t51;
+        const V t93 = t71 - t92;
+        const V t94 = c2 * t56;
+        const V t95 = t93 + t94;
+        // complex block of 13, multiplier 3
+        const V t96 = c15 * t95;
+        const V t97 = c16 * t95;
+        // complex block of 3
+        const V t98 = t93 - t94;
+        // complex block of 13, multiplier 3
+        const V t99 = c17 * t98;
+        const V t100 = c18 * t98;
+        // complex block of 3
+        const V t101 = c1 * t55;
+        const V t102 = t72 - t101;
+        const V t103 = c2 * t52;
+        const V t104 = t102 - t103;
+        // complex block of 13, multiplier 3
+        const V t105 = c16 * t104;
+        const V t106 = c15 * t104;
+        // complex block of 3
+        const V t107 = t102 + t103;
+        // complex block of 13, multiplier 3
+        const V t108 = c18 * t107;
+        const V t109 = c17 * t107;
+        // real block of 3
+        const V t110 = t60 - t61;
+        const V t111 = c2 * t110;
+        const V t112 = c1 * t62;
+        const V t113 = t70 - t112;
+        // complex block of 13, multiplier 3
+        const V t114 = c4 * t111;
+        const V t115 = c5 * t113;
+        const V t116 = t115 + t114;
+        // spectrum block of 3
+        const V t117 = c10 * t113;
+        const V t118 = c9 * t111;
+        // real block of 3
+        const V t119 = t62 + t70;
+        // complex block of 13, multiplier 3
+        const V t120 = c12 * t119;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t121 = c0 * x1i;
+        const V x14i = io.im(14);
+        const V t122 = c0 * x14i;
+        // real block of 2
+        const V t123 = t121 + t122;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t124 = c0 * x4i;
+        const V x17i = io.im(17);
+        const V t125 = c0 * x17i;
+        // real block of 2
+        const V t126 = t125 + t124;
+        // doubled bins
+        const V x5i = io.im(5);
+        const V t127 = c0 * x5i;
+        const V x8i = io.im(8);
+        const V t128 = c0 * x8i;
+        // real block of 2
+        const V t129 = t128 - t127;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t130 = c0 * x7i;
+        const V x19i = io.im(19);
+        const V t131 = c0 * x19i;
+        // real block of 2
+        const V t132 = t130 - t131;
+        // real block of 2
+        const V t133 = t124 - t125;
+        // real block of 2
+        const V t134 = t130 + t131;
+        // real block of 2
+        const V t135 = t133 + t134;
+        const V t136 = t133 - t134;
+        // real block of 2
+        const V t137 = t121 - t122;
+        // real block of 2
+        const V t138 = t127 + t128;
+        // real block of 2
+        const V t139 = t137 - t138;
+        const V t140 = t137 + t138;
+        // complex block of 3
+        const V t141 = t123 - t126;
+        const V t142 = c1 * t141;
+        const V t143 = t132 + t129;
+        const V t144 = c1 * t143;
+        const V t145 = t126 + t123;
+        const V t146 = t132 - t129;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t147 = c0 * x2i;
+        const V x11i = io.im(11);
+        const V t148 = c0 * x11i;
+        // real block of 2
+        const V t149 = t147 + t148;
+        const V t150 = t148 - t147;
+        // doubled bins
+        const V x10i = io.im(10);
+        const V t151 = c0 * x10i;
+        const V x16i = io.im(16);
+        const V t152 = c0 * x16i;
+        // real block of 2
+        const V t153 = t152 + t151;
+        const V t154 = t152 - t151;
+        // real block of 2
+        const V t155 = t153 - t149;
+        // real block of 3
+        const V t156 = t135 + t139;
+        const V t157 = t156 + t155;
+        const V t158 = c1 * t156;
+        const V t159 = t155 - t158;
+        // complex block of 13, multiplier 3
+        const V t160 = c6 * t159;
+        const V t161 = c11 * t157;
+        // real block of 2
+        const V t162 = t153 + t149;
+        // real block of 3
+        const V t163 = t136 + t140;
+        const V t164 = t163 + t162;
+        const V t165 = c1 * t163;
+        const V t166 = t162 - t165;
+        // complex block of 13, multiplier 3
+        const V t167 = c5 * t166;
+        const V t168 = c12 * t164;
+        // real block of 3
+        const V t169 = t135 - t139;
+        const V t170 = c2 * t169;
+        // complex block of 13, multiplier 3
+        const V t171 = c3 * t170;
+        // spectrum block of 3
+        const V t172 = c7 * t170;
+        // complex block of 3
+        const V t173 = t141 + t154;
+        // complex block of 13, multiplier 3
+        const V t174 = c13 * t173;
+        const V t175 = c14 * t173;
+        // complex block of 3
+        const V t176 = t143 + t150;
+        // complex block of 13, multiplier 3
+        const V t177 = c14 * t176;
+        const V t178 = c13 * t176;
+        const V t179 = t177 - t174;
+        const V t180 = t178 + t175;
+        // complex block of 3
+        const V t181 = t154 - t142;
+        const V t182 = c2 * t146;
+        const V t183 = t181 + t182;
+        const V t184 = t181 - t182;
+        const V t185 = t150 - t144;
+        const V t186 = c2 * t145;
+        const V t187 = t185 + t186;
+        const V t188 = t185 - t186;
+        // complex block of 13, multiplier 3
+        const V t189 = c18 * t188;
+        const V t190 = c17 * t184;
+        const V t191 = t189 - t190;
+        const V t192 = c18 * t184;
+        const V t193 = c17 * t188;
+        const V t194 = t193 + t192;
+        const V t195 = c16 * t187;
+        const V t196 = c15 * t183;
+        const V t197 = t196 + t195;
+        const V t198 = c16 * t183;
+        const V t199 = c15 * t187;
+        const V t200 = t199 - t198;
+        // real block of 3
+        const V t201 = t136 - t140;
+        const V t202 = c2 * t201;
+        // complex block of 13, multiplier 3
+        const V t203 = c4 * t202;
+        // spectrum block of 3
+        const V t204 = c9 * t202;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t205 = c0 * x3i;
+        const V x6i = io.im(6);
+        const V t206 = c0 * x6i;
+        // skew block of 6
+        const V t207 = c2 * t206;
+        const V t208 = c1 * t206;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t209 = c0 * x9i;
+        // skew block of 6
+        const V t210 = c1 * t209;
+        const V t211 = c2 * t209;
+        // doubled bins
+        const V x12i = io.im(12);
+        const V t212 = c0 * x12i;
+        // skew block of 6
+        const V t213 = c1 * t212;
+        const V t214 = c2 * t212;
+        // doubled bins
+        const V x18i = io.im(18);
+        const V t215 = c0 * x18i;
+        // skew block of 6
+        const V t216 = c2 * t215;
+        const V t217 = c1 * t215;
+        const V t218 = t207 - t210;
+        const V t219 = t213 - t216;
+        // complex block of 3
+        const V t220 = t218 + t219;
+        // skew block of 6
+        const V t221 = t211 + t208;
+        const V t222 = t217 + t214;
+        // complex block of 3
+        const V t223 = t221 + t222;
+        // doubled bins
+        const V x15i = io.im(15);
+        const V t224 = c0 * x15i;
+        // complex block of 3
+        const V t225 = t218 - t219;
+        const V t226 = c2 * t225;
+        const V t227 = c1 * t223;
+        const V t228 = t227 + t224;
+        const V t229 = t228 - t226;
+        // spectrum block of 13, multiplier 3
+        const V t230 = c16 * t229;
+        const V t231 = c15 * t229;
+        // complex block of 3
+        const V t232 = t228 + t226;
+        const V t233 = t222 - t221;
+        const V t234 = c2 * t233;
+        const V t235 = c1 * t220;
+        const V t236 = t205 - t235;
+        const V t237 = t236 + t234;
+        // spectrum block of 13, multiplier 3
+        const V t238 = c15 * t237;
+        const V t239 = c16 * t237;
+        // complex block of 3
+        const V t240 = t236 - t234;
+        const V t241 = t220 + t205;
+        // spectrum block of 13, multiplier 3
+        const V t242 = c17 * t241;
+        const V t243 = c18 * t241;
+        // complex block of 3
+        const V t244 = t224 - t223;
+        // spectrum block of 13, multiplier 3
+        const V t245 = c18 * t244;
+        const V t246 = c17 * t244;
+        const V t247 = t242 + t245;
+        const V t248 = t243 - t246;
+        // doubled bins
+        const V x13i = io.im(13);
+        const V t249 = c0 * x13i;
+        // spectrum block of 13, multiplier 3
+        const V t250 = c14 * t232;
+        const V t251 = c13 * t240;
+        const V t252 = t251 + t250;
+        const V t253 = t230 - t238;
+        // complex block of 3
+        const V t254 = t253 - t247;
+        const V t255 = t253 + t247;
+        const V t256 = t254 - t252;
+        const V t257 = c1 * t254;
+        const V t258 = t252 + t257;
+        const V t259 = c2 * t255;
+        // spectrum block of 13, multiplier 3
+        const V t260 = c14 * t240;
+        const V t261 = c13 * t232;
         const V t262 = t261 - t260;
-        const V t263 = c4 * t246;
-        const V t264 = c5 * t247;
-        const V t265 = t264 + t263;
-        const V t266 = c4 * t201;
-        const V t267 = c5 * t200;
-        const V t268 = t266 - t267;
-        const V t269 = c4 * t200;
-        const V t270 = c5 * t201;
-        const V t271 = t270 + t269;
-        const V t272 = c6 * t207;
-        const V t273 = c7 * t206;
-        const V t274 = t273 + t272;
-        const V t275 = c6 * t253;
-        const V t276 = c7 * t252;
-        const V t277 = t276 + t275;
-        const V t278 = c8 * t237;
-        const V t279 = c9 * t236;
-        const V t280 = t279 - t278;
-        const V t281 = c8 * t236;
-        const V t282 = c9 * t237;
-        const V t283 = t282 + t281;
-        const V t284 = c8 * t191;
-        const V t285 = c9 * t190;
-        const V t286 = t284 - t285;
-        const V t287 = c8 * t190;
-        const V t288 = c9 * t191;
-        const V t289 = t288 + t287;
-        const V t290 = c10 * t185;
-        const V t291 = c11 * t184;
-        const V t292 = t291 - t290;
-        const V t293 = c10 * t231;
-        const V t294 = c11 * t230;
-        const V t295 = t294 - t293;
-        const V t296 = c12 * t245;
-        const V t297 = c13 * t244;
-        const V t298 = t297 + t296;
-        const V t299 = c12 * t244;
-        const V t300 = c13 * t245;
-        const V t301 = t299 - t300;
-        const V t302 = c12 * t199;
-        const V t303 = c13 * t198;
-        const V t304 = t303 + t302;
-        const V t305 = c12 * t198;
-        const V t306 = c13 * t199;
-        const V t307 = t306 - t305;
-        const V t308 = c14 * t204;
-        const V t309 = c14 * t250;
-        // spectrum block of 3
-        const V t310 = t292 + t257;
-        const V t311 = c1 * t292;
-        const V t312 = t257 - t311;
-        const V t313 = c15 * t185;
-        const V t314 = c16 * t184;
-        const V t315 = t313 + t314;
-        const V t316 = t312 + t315;
-        const V t317 = t312 - t315;
+        const V t263 = t231 + t239;
         // complex block of 3
-        const V t318 = t265 - t301;
-        const V t319 = t298 + t262;
-        const V t320 = t301 + t265;
-        const V t321 = t298 - t262;
-        const V t322 = t318 + t283;
-        const V t323 = t319 + t280;
-        const V t324 = c1 * t318;
-        const V t325 = t283 - t324;
-        const V t326 = c1 * t319;
-        const V t327 = t280 - t326;
-        const V t328 = c2 * t320;
-        const V t329 = c2 * t321;
-        const V t330 = t325 + t329;
-        const V t331 = t327 + t328;
-        const V t332 = t325 - t329;
-        const V t333 = t327 - t328;
+        const V t264 = t263 - t248;
+        const V t265 = t263 + t248;
+        const V t266 = t264 + t262;
+        const V t267 = c1 * t264;
+        const V t268 = t262 - t267;
+        const V t269 = c2 * t265;
         // spectrum block of 3
-        const V t334 = t308 - t274;
-        const V t335 = c1 * t274;
-        const V t336 = t335 + t308;
-        const V t337 = c18 * t206;
-        const V t338 = c17 * t207;
-        const V t339 = t337 - t338;
-        const V t340 = t336 + t339;
-        const V t341 = t336 - t339;
-        // spectrum block of 2
-        const V t342 = t310 + t334;
-        const V t343 = t310 - t334;
-        // spectrum block of 2
-        const V t344 = t342 + t323;
-        const V t345 = t342 - t323;
-        // spectrum block of 2
-        const V t346 = t343 + t322;
-        const V t347 = t343 - t322;
-        // spectrum block of 2
-        const V t348 = t316 + t340;
-        const V t349 = t316 - t340;
-        // spectrum block of 2
-        const V t350 = t348 + t331;
-        const V t351 = t348 - t331;
-        // spectrum block of 2
-        const V t352 = t349 + t330;
-        const V t353 = t349 - t330;
-        // spectrum block of 2
-        const V t354 = t317 + t341;
-        const V t355 = t317 - t341;
-        // spectrum block of 2
-        const V t356 = t354 + t333;
-        const V t357 = t354 - t333;
-        // spectrum block of 2
-        const V t358 = t355 + t332;
-        const V t359 = t355 - t332;
+        const V t270 = t27 + t34;
         // spectrum block of 3
-        const V t360 = t295 + t259;
-        const V t361 = c1 * t295;
-        const V t362 = t259 - t361;
-        const V t363 = c15 * t231;
-        const V t364 = c16 * t230;
-        const V t365 = t363 + t364;
-        const V t366 = t362 + t365;
-        const V t367 = t362 - t365;
+        const V t271 = t25 + t36;
+        // spectrum block of 2
+        const V t272 = t270 + t271;
+        const V t273 = t270 - t271;
+        // spectrum block of 3
+        const V t274 = c1 * t27;
+        const V t275 = t34 - t274;
+        const V t276 = t28 - t29;
+        // spectrum block of 3
+        const V t277 = c1 * t25;
+        const V t278 = t36 - t277;
+        const V t279 = t30 + t31;
+        // spectrum block of 3
+        const V t280 = t275 - t276;
+        // spectrum block of 3
+        const V t281 = t278 + t279;
+        // spectrum block of 2
+        const V t282 = t280 + t281;
+        const V t283 = t280 - t281;
+        // spectrum block of 3
+        const V t284 = t275 + t276;
+        // spectrum block of 3
+        const V t285 = t278 - t279;
+        // spectrum block of 2
+        const V t286 = t284 + t285;
+        const V t287 = t284 - t285;
+        // complex block of 13, multiplier 3
+        const V t288 = t249 - t161;
+        const V t289 = t160 - t171;
+        // spectrum block of 3
+        const V t290 = t289 + t288;
+        const V t291 = c1 * t289;
+        // complex block of 13, multiplier 3
+        const V t292 = t167 + t203;
+        // spectrum block of 3
+        const V t293 = t168 - t292;
+        const V t294 = c1 * t292;
+        // spectrum block of 3
+        const V t295 = c8 * t159;
+        const V t296 = t172 + t295;
+        // spectrum block of 3
+        const V t297 = c10 * t166;
+        const V t298 = t297 - t204;
+        // spectrum block of 3
+        const V t299 = t288 - t291;
+        const V t300 = t299 + t296;
+        const V t301 = t299 - t296;
+        // spectrum block of 3
+        const V t302 = t294 + t168;
+        const V t303 = t302 + t298;
+        const V t304 = t302 - t298;
+        // spectrum block of 2
+        const V t305 = t290 + t293;
+        const V t306 = t290 - t293;
+        // complex block of 13, multiplier 3
+        const V t307 = t99 - t108;
+        const V t308 = t96 + t105;
         // complex block of 3
-        const V t368 = t307 + t271;
-        const V t369 = t268 - t304;
-        const V t370 = t271 - t307;
-        const V t371 = t304 + t268;
-        const V t372 = t368 + t289;
-        const V t373 = t369 + t286;
-        const V t374 = c1 * t368;
-        const V t375 = t374 - t289;
-        const V t376 = c1 * t369;
-        const V t377 = t286 - t376;
-        const V t378 = c2 * t370;
-        const V t379 = c2 * t371;
-        const V t380 = t375 - t379;
-        const V t381 = t377 - t378;
-        const V t382 = t375 + t379;
-        const V t383 = t377 + t378;
+        const V t309 = t308 + t307;
+        const V t310 = t308 - t307;
+        // complex block of 13, multiplier 3
+        const V t311 = t87 - t90;
+        // complex block of 3
+        const V t312 = t309 + t311;
+        const V t313 = c1 * t309;
+        const V t314 = t311 - t313;
+        const V t315 = c2 * t310;
+        // complex block of 13, multiplier 3
+        const V t316 = t109 + t100;
+        const V t317 = t97 - t106;
+        // complex block of 3
+        const V t318 = t316 - t317;
+        const V t319 = t317 + t316;
+        // complex block of 13, multiplier 3
+        const V t320 = t91 + t88;
+        // complex block of 3
+        const V t321 = t318 + t320;
+        const V t322 = c1 * t318;
+        const V t323 = t320 - t322;
+        const V t324 = c2 * t319;
         // spectrum block of 3
-        const V t384 = t309 - t277;
-        const V t385 = c1 * t277;
-        const V t386 = t385 + t309;
-        const V t387 = c18 * t252;
-        const V t388 = c17 * t253;
-        const V t389 = t387 - t388;
-        const V t390 = t386 + t389;
-        const V t391 = t386 - t389;
+        const V t325 = t80 + t85;
+        // spectrum block of 3
+        const V t326 = t120 - t116;
         // spectrum block of 2
-        const V t392 = t360 + t384;
-        const V t393 = t360 - t384;
+        const V t327 = t325 + t326;
+        const V t328 = t325 - t326;
+        // complex block of 3
+        const V t329 = t200 + t194;
+        const V t330 = t329 + t180;
+        const V t331 = c1 * t329;
+        const V t332 = t191 - t197;
+        const V t333 = t332 + t179;
+        const V t334 = c1 * t332;
+        const V t335 = t194 - t200;
+        const V t336 = c2 * t335;
+        const V t337 = t197 + t191;
+        const V t338 = c2 * t337;
+        const V t339 = t331 - t180;
+        const V t340 = t339 - t338;
+        const V t341 = t339 + t338;
+        const V t342 = t179 - t334;
+        const V t343 = t342 - t336;
+        const V t344 = t342 + t336;
         // spectrum block of 2
-        const V t394 = t392 + t373;
-        const V t395 = t392 - t373;
+        const V t345 = t327 + t333;
+        const V t346 = t327 - t333;
         // spectrum block of 2
-        const V t396 = t393 - t372;
-        const V t397 = t393 + t372;
+        const V t347 = t328 - t330;
+        const V t348 = t328 + t330;
+        // spectrum block of 3
+        const V t349 = c1 * t80;
+        const V t350 = t85 - t349;
+        const V t351 = t81 + t82;
+        // spectrum block of 3
+        const V t352 = c1 * t116;
+        const V t353 = t352 + t120;
+        const V t354 = t117 - t118;
+        // spectrum block of 3
+        const V t355 = t350 + t351;
+        // spectrum block of 3
+        const V t356 = t353 + t354;
         // spectrum block of 2
-        const V t398 = t366 + t390;
-        const V t399 = t366 - t390;
+        const V t357 = t355 + t356;
+        const V t358 = t355 - t356;
+        // spectrum block of 3
+        const V t359 = t350 - t351;
+        // spectrum block of 3
+        const V t360 = t353 - t354;
         // spectrum block of 2
-        const V t400 = t398 + t381;
-        const V t401 = t398 - t381;
+        const V t361 = t359 + t360;
+        const V t362 = t359 - t360;
+        // complex block of 3
+        const V t363 = t268 + t259;
         // spectrum block of 2
-        const V t402 = t399 + t380;
-        const V t403 = t399 - t380;
+        const V t364 = t283 + t363;
+        const V t365 = t283 - t363;
+        // complex block of 3
+        const V t366 = t323 + t315;
         // spectrum block of 2
-        const V t404 = t367 + t391;
-        const V t405 = t367 - t391;
+        const V t367 = t300 - t303;
         // spectrum block of 2
-        const V t406 = t404 + t383;
-        const V t407 = t404 - t383;
+        const V t368 = t367 + t366;
+        const V t369 = t367 - t366;
         // spectrum block of 2
-        const V t408 = t405 + t382;
-        const V t409 = t405 - t382;
+        const V t370 = t358 + t340;
         // spectrum block of 3
-        const V t410 = t255 + t161;
-        io.out(0, t410);
-        const V t411 = c1 * t255;
-        const V t412 = t161 - t411;
-        const V t413 = c2 * t254;
-        const V t414 = t412 - t413;
-        io.out(13, t414);
-        const V t415 = t412 + t413;
-        io.out(26, t415);
+        const V t371 = c1 * t370;
+        // spectrum block of 2
+        const V t372 = t358 - t340;
         // spectrum block of 3
-        const V t416 = t394 + t145;
-        io.out(3, t416);
-        const V t417 = c1 * t394;
-        const V t418 = t145 - t417;
-        const V t419 = c2 * t344;
-        const V t420 = t418 - t419;
-        io.out(16, t420);
-        const V t421 = t418 + t419;
-        io.out(29, t421);
+        const V t373 = c1 * t372;
         // spectrum block of 3
-        const V t422 = t408 + t159;
-        io.out(6, t422);
-        const V t423 = c1 * t408;
-        const V t424 = t159 - t423;
-        const V t425 = c2 * t358;
-        const V t426 = t424 - t425;
-        io.out(19, t426);
-        const V t427 = t424 + t425;
-        io.out(32, t427);
+        const V t374 = t370 + t364;
+        io.out(18, t374);
+        const V t375 = t364 - t371;
+        const V t376 = c2 * t368;
+        const V t377 = t375 - t376;
+        io.out(31, t377);
+        const V t378 = t375 + t376;
+        io.out(5, t378);
         // spectrum block of 3
-        const V t428 = t406 + t157;
-        io.out(9, t428);
-        const V t429 = c1 * t406;
-        const V t430 = t157 - t429;
-        const V t431 = c2 * t356;
-        const V t432 = t430 - t431;
-        io.out(22, t432);
-        const V t433 = t430 + t431;
-        io.out(35, t433);
+        const V t379 = t372 + t365;
+        io.out(21, t379);
+        const V t380 = t365 - t373;
+        const V t381 = c2 * t369;
+        const V t382 = t380 - t381;
+        io.out(34, t382);
+        const V t383 = t380 + t381;
+        io.out(8, t383);
+        // complex block of 3
+        const V t384 = t258 + t269;
+        // spectrum block of 2
+        const V t385 = t282 - t384;
+        const V t386 = t282 + t384;
+        // complex block of 3
+        const V t387 = t314 + t324;
+        // spectrum block of 2
+        const V t388 = t300 + t303;
+        // spectrum block of 2
+        const V t389 = t388 + t387;
+        const V t390 = t388 - t387;
+        // spectrum block of 2
+        const V t391 = t357 + t343;
         // spectrum block of 3
-        const V t434 = t401 + t152;
-        io.out(12, t434);
-        const V t435 = c1 * t401;
-        const V t436 = t152 - t435;
-        const V t437 = c2 * t351;
-        const V t438 = t436 - t437;
-        io.out(25, t438);
-        const V t439 = t436 + t437;
-        io.out(38, t439);
+        const V t392 = c1 * t391;
+        // spectrum block of 2
+        const V t393 = t357 - t343;
         // spectrum block of 3
-        const V t440 = t396 + t147;
-        io.out(15, t440);
-        const V t441 = c1 * t396;
-        const V t442 = t147 - t441;
-        const V t443 = c2 * t346;
-        const V t444 = t442 - t443;
-        io.out(28, t444);
-        const V t445 = t442 + t443;
-        io.out(2, t445);
+        const V t394 = c1 * t393;
+        const V t395 = t393 + t386;
+        io.out(12, t395);
+        const V t396 = t386 - t394;
+        const V t397 = c2 * t390;
+        const V t398 = t396 - t397;
+        io.out(25, t398);
+        const V t399 = t396 + t397;
+        io.out(38, t399);
         // spectrum block of 3
-        const V t446 = t402 + t153;
-        io.out(18, t446);
-        const V t447 = c1 * t402;
-        const V t448 = t153 - t447;
-        const V t449 = c2 * t352;
-        const V t450 = t448 - t449;
-        io.out(31, t450);
-        const V t451 = t448 + t449;
-        io.out(5, t451);
+        const V t400 = t391 + t385;
+        io.out(27, t400);
+        const V t401 = t385 - t392;
+        const V t402 = c2 * t389;
+        const V t403 = t401 - t402;
+        io.out(1, t403);
+        const V t404 = t401 + t402;
+        io.out(14, t404);
+        // complex block of 3
+        const V t405 = t268 - t259;
+        // spectrum block of 2
+        const V t406 = t287 + t405;
+        const V t407 = t287 - t405;
+        // complex block of 3
+        const V t408 = t323 - t315;
+        // spectrum block of 2
+        const V t409 = t301 - t304;
+        // spectrum block of 2
+        const V t410 = t409 + t408;
+        const V t411 = t409 - t408;
+        // spectrum block of 2
+        const V t412 = t362 + t341;
         // spectrum block of 3
-        const V t452 = t403 + t154;
-        io.out(21, t452);
-        const V t453 = c1 * t403;
-        const V t454 = t154 - t453;
-        const V t455 = c2 * t353;
-        const V t456 = t454 - t455;
-        io.out(34, t456);
-        const V t457 = t454 + t455;
-        io.out(8, t457);
+        const V t413 = c1 * t412;
+        // spectrum block of 2
+        const V t414 = t362 - t341;
         // spectrum block of 3
-        const V t458 = t397 + t148;
-        io.out(24, t458);
-        const V t459 = c1 * t397;
-        const V t460 = t148 - t459;
-        const V t461 = c2 * t347;
-        const V t462 = t460 - t461;
-        io.out(37, t462);
-        const V t463 = t460 + t461;
-        io.out(11, t463);
+        const V t415 = c1 * t414;
         // spectrum block of 3
-        const V t464 = t400 + t151;
-        io.out(27, t464);
-        const V t465 = c1 * t400;
-        const V t466 = t151 - t465;
-        const V t467 = c2 * t350;
-        const V t468 = t466 - t467;
-        io.out(1, t468);
-        const V t469 = t466 + t467;
-        io.out(14, t469);
+        const V t416 = t412 + t406;
+        io.out(6, t416);
+        const V t417 = t406 - t413;
+        const V t418 = c2 * t410;
+        const V t419 = t417 - t418;
+        io.out(19, t419);
+        const V t420 = t417 + t418;
+        io.out(32, t420);
         // spectrum block of 3
-        const V t470 = t407 + t158;
-        io.out(30, t470);
-        const V t471 = c1 * t407;
-        const V t472 = t158 - t471;
-        const V t473 = c2 * t357;
-        const V t474 = t472 - t473;
-        io.out(4, t474);
-        const V t475 = t472 + t473;
-        io.out(17, t475);
+        const V t421 = t414 + t407;
+        io.out(33, t421);
+        const V t422 = t407 - t415;
+        const V t423 = c2 * t411;
+        const V t424 = t422 - t423;
+        io.out(7, t424);
+        const V t425 = t422 + t423;
+        io.out(20, t425);
+        // complex block of 3
+        const V t426 = t269 - t258;
+        // spectrum block of 2
+        const V t427 = t286 + t426;
+        const V t428 = t286 - t426;
+        // complex block of 3
+        const V t429 = t314 - t324;
+        // spectrum block of 2
+        const V t430 = t301 + t304;
+        // spectrum block of 2
+        const V t431 = t430 + t429;
+        const V t432 = t430 - t429;
+        // spectrum block of 2
+        const V t433 = t361 + t344;
         // spectrum block of 3
-        const V t476 = t409 + t160;
-        io.out(33, t476);
-        const V t477 = c1 * t409;
-        const V t478 = t160 - t477;
-        const V t479 = c2 * t359;
-        const V t480 = t478 - t479;
-        io.out(7, t480);
-        const V t481 = t478 + t479;
-        io.out(20, t481);
+        const V t434 = c1 * t433;
+        // spectrum block of 2
+        const V t435 = t361 - t344;
         // spectrum block of 3
-        const V t482 = t395 + t146;
-        io.out(36, t482);
-        const V t483 = c1 * t395;
-        const V t484 = t146 - t483;
-        const V t485 = c2 * t345;
-        const V t486 = t484 - t485;
-        io.out(10, t486);
-        const V t487 = t484 + t485;
-        io.out(23, t487);
+        const V t436 = c1 * t435;
+        // spectrum block of 3
+        const V t437 = t433 + t427;
+        io.out(9, t437);
+        const V t438 = t427 - t434;
+        const V t439 = c2 * t431;
+        const V t440 = t438 - t439;
+        io.out(22, t440);
+        const V t441 = t438 + t439;
+        io.out(35, t441);
+        // spectrum block of 3
+        const V t442 = t435 + t428;
+        io.out(30, t442);
+        const V t443 = t428 - t436;
+        const V t444 = c2 * t432;
+        const V t445 = t443 - t444;
+        io.out(4, t445);
+        const V t446 = t443 + t444;
+        io.out(17, t446);
+        // spectrum block of 2
+        const V t447 = t272 + t256;
+        // spectrum block of 3
+        const V t448 = c1 * t345;
+        const V t449 = t447 - t448;
+        // spectrum block of 2
+        const V t450 = t305 + t312;
+        // spectrum block of 3
+        const V t451 = c2 * t450;
+        const V t452 = t345 + t447;
+        io.out(3, t452);
+        const V t453 = t449 - t451;
+        io.out(16, t453);
+        const V t454 = t449 + t451;
+        io.out(29, t454);
+        // spectrum block of 2
+        const V t455 = t272 - t256;
+        // spectrum block of 3
+        const V t456 = c1 * t346;
+        const V t457 = t455 - t456;
+        // spectrum block of 2
+        const V t458 = t305 - t312;
+        // spectrum block of 3
+        const V t459 = c2 * t458;
+        const V t460 = t346 + t455;
+        io.out(36, t460);
+        const V t461 = t457 - t459;
+        io.out(10, t461);
+        const V t462 = t457 + t459;
+        io.out(23, t462);
+        // spectrum block of 2
+        const V t463 = t273 + t266;
+        // spectrum block of 3
+        const V t464 = c1 * t347;
+        const V t465 = t463 - t464;
+        // spectrum block of 2
+        const V t466 = t306 + t321;
+        // spectrum block of 3
+        const V t467 = c2 * t466;
+        const V t468 = t347 + t463;
+        io.out(15, t468);
+        const V t469 = t465 - t467;
+        io.out(28, t469);
+        const V t470 = t465 + t467;
+        io.out(2, t470);
+        // spectrum block of 2
+        const V t471 = t273 - t266;
+        // spectrum block of 3
+        const V t472 = c1 * t348;
+        const V t473 = t471 - t472;
+        // spectrum block of 2
+        const V t474 = t306 - t321;
+        // spectrum block of 3
+        const V t475 = c2 * t474;
+        const V t476 = t348 + t471;
+        io.out(24, t476);
+        const V t477 = t473 - t475;
+        io.out(37, t477);
+        const V t478 = t473 + t475;
+        io.out(11, t478);
+        // spectrum block of 13, multiplier 3
+        const V t479 = x0r + t32;
+        // complex block of 13, multiplier 3
+        const V t480 = t249 + t157;
+        // spectrum block of 3
+        const V t481 = c2 * t480;
+        // complex block of 13, multiplier 3
+        const V t482 = t73 + t83;
+        // spectrum block of 3
+        const V t483 = c1 * t482;
+        const V t484 = t482 + t479;
+        io.out(0, t484);
+        const V t485 = t479 - t483;
+        const V t486 = t485 - t481;
+        io.out(13, t486);
+        const V t487 = t485 + t481;
+        io.out(26, t487);
     }
 };
 

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 42.
 // Inverse DFT to 42 real points, prime-factor 2, 3, 7.
-// 133 additions, 133 subtractions, 176 multiplications (218 with `scale`); 9 constants; 45 values alive at most.
+// 133 additions, 133 subtractions, 176 multiplications (218 with `scale`); 9 constants; 64 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -21,558 +21,661 @@ struct RealInverseGraph<42> {
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
-        const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
-        const V x19r = io.re(19);
-        const V t36 = c0 * x19r;
-        const V x19i = io.im(19);
-        const V t37 = c0 * x19i;
-        const V x20r = io.re(20);
-        const V t38 = c0 * x20r;
-        const V x20i = io.im(20);
-        const V t39 = c0 * x20i;
         // spectrum block of 2
         const V x0r = io.re(0);
         const V x21r = io.re(21);
-        const V t40 = x0r + x21r;
-        const V t41 = x0r - x21r;
+        const V t0 = x0r + x21r;
+        const V t1 = x0r - x21r;
+        // doubled bins
+        const V x7r = io.re(7);
+        const V t2 = c0 * x7r;
+        const V x14r = io.re(14);
+        const V t3 = c0 * x14r;
         // complex block of 2
-        const V t42 = t3 - t37;
-        const V t43 = t2 + t36;
-        const V t44 = t3 + t37;
-        const V t45 = t2 - t36;
-        // complex block of 2
-        const V t46 = t7 - t33;
-        const V t47 = t6 + t32;
-        const V t48 = t7 + t33;
-        const V t49 = t6 - t32;
-        // complex block of 2
-        const V t50 = t11 - t29;
-        const V t51 = t10 + t28;
-        const V t52 = t11 + t29;
-        const V t53 = t10 - t28;
-        // complex block of 2
-        const V t54 = t15 - t25;
-        const V t55 = t14 + t24;
-        const V t56 = t15 + t25;
-        const V t57 = t14 - t24;
-        // complex block of 2
-        const V t58 = t19 - t21;
-        const V t59 = t18 + t20;
-        const V t60 = t19 + t21;
-        const V t61 = t18 - t20;
-        // complex block of 2
-        const V t62 = t23 - t17;
-        const V t63 = t22 + t16;
-        const V t64 = t23 + t17;
-        const V t65 = t22 - t16;
-        // complex block of 2
-        const V t66 = t27 - t13;
-        const V t67 = t26 + t12;
-        const V t68 = t27 + t13;
-        const V t69 = t26 - t12;
-        // complex block of 2
-        const V t70 = t31 - t9;
-        const V t71 = t30 + t8;
-        const V t72 = t31 + t9;
-        const V t73 = t30 - t8;
-        // complex block of 2
-        const V t74 = t35 - t5;
-        const V t75 = t34 + t4;
-        const V t76 = t35 + t5;
-        const V t77 = t34 - t4;
-        // complex block of 2
-        const V t78 = t39 - t1;
-        const V t79 = t38 + t0;
-        const V t80 = t39 + t1;
-        const V t81 = t38 - t0;
+        const V t4 = t3 + t2;
+        const V t5 = t3 - t2;
         // spectrum block of 3, multiplier 2
-        const V t82 = t67 + t40;
-        const V t83 = c1 * t67;
-        const V t84 = t40 - t83;
-        const V t85 = c2 * t66;
+        const V t6 = t4 + t0;
+        const V t7 = c1 * t4;
+        const V t8 = t0 - t7;
+        // spectrum block of 3, multiplier 2
+        const V t9 = t5 + t1;
+        const V t10 = c1 * t5;
+        const V t11 = t1 - t10;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t12 = c0 * x1r;
+        const V x20r = io.re(20);
+        const V t13 = c0 * x20r;
+        // complex block of 2
+        const V t14 = t13 + t12;
+        const V t15 = t13 - t12;
+        // doubled bins
+        const V x6r = io.re(6);
+        const V t16 = c0 * x6r;
+        const V x8r = io.re(8);
+        const V t17 = c0 * x8r;
+        const V x13r = io.re(13);
+        const V t18 = c0 * x13r;
+        // complex block of 2
+        const V t19 = t17 + t18;
+        const V t20 = t17 - t18;
+        // doubled bins
+        const V x15r = io.re(15);
+        const V t21 = c0 * x15r;
+        // complex block of 2
+        const V t22 = t16 + t21;
+        // complex block of 3, multiplier 2
+        const V t23 = t14 + t19;
+        const V t24 = c1 * t23;
+        const V t25 = t23 + t22;
+        const V t26 = t22 - t24;
+        // complex block of 2
+        const V t27 = t16 - t21;
+        // complex block of 3, multiplier 2
+        const V t28 = t15 + t20;
+        const V t29 = c1 * t28;
+        const V t30 = t28 + t27;
+        const V t31 = t27 - t29;
+        // complex block of 3, multiplier 2
+        const V t32 = t14 - t19;
+        const V t33 = c2 * t32;
+        // complex block of 3, multiplier 2
+        const V t34 = t15 - t20;
+        const V t35 = c2 * t34;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t36 = c0 * x1i;
+        const V x20i = io.im(20);
+        const V t37 = c0 * x20i;
+        // complex block of 2
+        const V t38 = t37 - t36;
+        const V t39 = t37 + t36;
+        // doubled bins
+        const V x6i = io.im(6);
+        const V t40 = c0 * x6i;
+        const V x8i = io.im(8);
+        const V t41 = c0 * x8i;
+        const V x13i = io.im(13);
+        const V t42 = c0 * x13i;
+        // complex block of 2
+        const V t43 = t41 - t42;
+        const V t44 = t41 + t42;
+        // doubled bins
+        const V x15i = io.im(15);
+        const V t45 = c0 * x15i;
+        // complex block of 2
+        const V t46 = t40 - t45;
+        // complex block of 3, multiplier 2
+        const V t47 = t38 - t43;
+        const V t48 = c1 * t47;
+        const V t49 = t47 + t46;
+        const V t50 = t46 - t48;
+        // complex block of 2
+        const V t51 = t40 + t45;
+        // complex block of 3, multiplier 2
+        const V t52 = t39 - t44;
+        const V t53 = c1 * t52;
+        const V t54 = t52 + t51;
+        const V t55 = t51 - t53;
+        // complex block of 3, multiplier 2
+        const V t56 = t38 + t43;
+        const V t57 = c2 * t56;
+        // complex block of 3, multiplier 2
+        const V t58 = t39 + t44;
+        const V t59 = c2 * t58;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t60 = c0 * x2r;
+        const V x19r = io.re(19);
+        const V t61 = c0 * x19r;
+        // complex block of 2
+        const V t62 = t60 + t61;
+        const V t63 = t60 - t61;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t64 = c0 * x5r;
+        const V x16r = io.re(16);
+        const V t65 = c0 * x16r;
+        // complex block of 2
+        const V t66 = t65 + t64;
+        const V t67 = t65 - t64;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t68 = c0 * x9r;
+        const V x12r = io.re(12);
+        const V t69 = c0 * x12r;
+        // complex block of 2
+        const V t70 = t69 + t68;
+        // complex block of 3, multiplier 2
+        const V t71 = t66 + t62;
+        const V t72 = c1 * t71;
+        const V t73 = t71 + t70;
+        const V t74 = t70 - t72;
+        // complex block of 2
+        const V t75 = t69 - t68;
+        // complex block of 3, multiplier 2
+        const V t76 = t67 + t63;
+        const V t77 = c1 * t76;
+        const V t78 = t76 + t75;
+        const V t79 = t75 - t77;
+        // complex block of 3, multiplier 2
+        const V t80 = t66 - t62;
+        const V t81 = c2 * t80;
+        // complex block of 3, multiplier 2
+        const V t82 = t67 - t63;
+        const V t83 = c2 * t82;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t84 = c0 * x2i;
+        const V x19i = io.im(19);
+        const V t85 = c0 * x19i;
+        // complex block of 2
         const V t86 = t84 - t85;
         const V t87 = t84 + t85;
+        // doubled bins
+        const V x5i = io.im(5);
+        const V t88 = c0 * x5i;
+        const V x16i = io.im(16);
+        const V t89 = c0 * x16i;
+        // complex block of 2
+        const V t90 = t89 - t88;
+        const V t91 = t89 + t88;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t92 = c0 * x9i;
+        const V x12i = io.im(12);
+        const V t93 = c0 * x12i;
+        // complex block of 2
+        const V t94 = t93 - t92;
         // complex block of 3, multiplier 2
-        const V t88 = t78 - t54;
-        const V t89 = t79 + t55;
-        const V t90 = t78 + t54;
-        const V t91 = t79 - t55;
-        const V t92 = t88 + t50;
-        const V t93 = t89 + t51;
-        const V t94 = c1 * t88;
-        const V t95 = t50 - t94;
-        const V t96 = c1 * t89;
-        const V t97 = t51 - t96;
-        const V t98 = c2 * t90;
-        const V t99 = c2 * t91;
-        const V t100 = t95 + t99;
-        const V t101 = t97 - t98;
-        const V t102 = t95 - t99;
-        const V t103 = t97 + t98;
+        const V t95 = t90 + t86;
+        const V t96 = c1 * t95;
+        const V t97 = t94 - t95;
+        const V t98 = t96 + t94;
+        // complex block of 2
+        const V t99 = t93 + t92;
         // complex block of 3, multiplier 2
-        const V t104 = t70 + t42;
-        const V t105 = t71 + t43;
-        const V t106 = t42 - t70;
-        const V t107 = t71 - t43;
-        const V t108 = t62 - t104;
-        const V t109 = t105 + t63;
-        const V t110 = c1 * t104;
-        const V t111 = t110 + t62;
-        const V t112 = c1 * t105;
-        const V t113 = t63 - t112;
-        const V t114 = c2 * t106;
-        const V t115 = c2 * t107;
-        const V t116 = t111 + t115;
-        const V t117 = t113 - t114;
-        const V t118 = t111 - t115;
-        const V t119 = t113 + t114;
+        const V t100 = t91 + t87;
+        const V t101 = c1 * t100;
+        const V t102 = t99 - t100;
+        const V t103 = t101 + t99;
         // complex block of 3, multiplier 2
-        const V t120 = t46 - t58;
-        const V t121 = t59 + t47;
-        const V t122 = t58 + t46;
-        const V t123 = t59 - t47;
-        const V t124 = t120 + t74;
-        const V t125 = t121 + t75;
-        const V t126 = c1 * t120;
-        const V t127 = t74 - t126;
-        const V t128 = c1 * t121;
-        const V t129 = t75 - t128;
-        const V t130 = c2 * t122;
-        const V t131 = c2 * t123;
-        const V t132 = t127 + t131;
-        const V t133 = t129 + t130;
-        const V t134 = t127 - t131;
-        const V t135 = t129 - t130;
-        // spectrum block of 7, multiplier 6
-        const V t136 = t93 + t109;
-        const V t137 = t136 + t125;
-        const V t138 = t137 + t82;
-        io.out(0, t138);
-        const V t139 = c3 * t93;
-        const V t140 = c4 * t109;
-        const V t141 = t139 - t140;
-        const V t142 = c5 * t125;
-        const V t143 = t141 - t142;
-        const V t144 = t143 + t82;
-        const V t145 = c6 * t92;
-        const V t146 = c7 * t108;
-        const V t147 = t145 + t146;
-        const V t148 = c8 * t124;
-        const V t149 = t147 + t148;
-        const V t150 = t144 - t149;
-        io.out(36, t150);
-        const V t151 = t144 + t149;
-        io.out(6, t151);
-        const V t152 = c4 * t93;
-        const V t153 = t82 - t152;
-        const V t154 = c5 * t109;
-        const V t155 = t153 - t154;
-        const V t156 = c3 * t125;
-        const V t157 = t155 + t156;
-        const V t158 = c7 * t92;
-        const V t159 = c8 * t108;
-        const V t160 = t158 - t159;
-        const V t161 = c6 * t124;
-        const V t162 = t160 - t161;
-        const V t163 = t157 - t162;
-        io.out(30, t163);
-        const V t164 = t157 + t162;
-        io.out(12, t164);
-        const V t165 = c5 * t93;
-        const V t166 = t82 - t165;
-        const V t167 = c3 * t109;
-        const V t168 = t166 + t167;
-        const V t169 = c4 * t125;
-        const V t170 = t168 - t169;
-        const V t171 = c8 * t92;
-        const V t172 = c6 * t108;
-        const V t173 = t171 - t172;
-        const V t174 = c7 * t124;
-        const V t175 = t173 + t174;
-        const V t176 = t170 - t175;
-        io.out(24, t176);
-        const V t177 = t170 + t175;
-        io.out(18, t177);
-        // spectrum block of 7, multiplier 6
-        const V t178 = t103 + t119;
-        const V t179 = t178 + t135;
-        const V t180 = t179 + t87;
-        io.out(14, t180);
-        const V t181 = c3 * t103;
-        const V t182 = c4 * t119;
-        const V t183 = t181 - t182;
-        const V t184 = c5 * t135;
-        const V t185 = t183 - t184;
-        const V t186 = t185 + t87;
-        const V t187 = c6 * t102;
-        const V t188 = c7 * t118;
-        const V t189 = t187 + t188;
-        const V t190 = c8 * t134;
-        const V t191 = t189 + t190;
-        const V t192 = t186 - t191;
-        io.out(8, t192);
-        const V t193 = t186 + t191;
-        io.out(20, t193);
-        const V t194 = c4 * t103;
-        const V t195 = t87 - t194;
-        const V t196 = c5 * t119;
-        const V t197 = t195 - t196;
-        const V t198 = c3 * t135;
-        const V t199 = t197 + t198;
-        const V t200 = c7 * t102;
-        const V t201 = c8 * t118;
-        const V t202 = t200 - t201;
-        const V t203 = c6 * t134;
-        const V t204 = t202 - t203;
-        const V t205 = t199 - t204;
-        io.out(2, t205);
-        const V t206 = t199 + t204;
-        io.out(26, t206);
-        const V t207 = c5 * t103;
-        const V t208 = t87 - t207;
-        const V t209 = c3 * t119;
-        const V t210 = t208 + t209;
-        const V t211 = c4 * t135;
-        const V t212 = t210 - t211;
-        const V t213 = c8 * t102;
-        const V t214 = c6 * t118;
-        const V t215 = t213 - t214;
-        const V t216 = c7 * t134;
-        const V t217 = t215 + t216;
-        const V t218 = t212 - t217;
-        io.out(38, t218);
-        const V t219 = t212 + t217;
-        io.out(32, t219);
-        // spectrum block of 7, multiplier 6
-        const V t220 = t101 + t117;
-        const V t221 = t220 + t133;
-        const V t222 = t221 + t86;
-        io.out(28, t222);
-        const V t223 = c3 * t101;
-        const V t224 = c4 * t117;
-        const V t225 = t223 - t224;
-        const V t226 = c5 * t133;
-        const V t227 = t225 - t226;
-        const V t228 = t227 + t86;
-        const V t229 = c6 * t100;
-        const V t230 = c7 * t116;
-        const V t231 = t229 + t230;
-        const V t232 = c8 * t132;
-        const V t233 = t231 + t232;
-        const V t234 = t228 - t233;
-        io.out(22, t234);
-        const V t235 = t228 + t233;
-        io.out(34, t235);
-        const V t236 = c4 * t101;
-        const V t237 = t86 - t236;
-        const V t238 = c5 * t117;
-        const V t239 = t237 - t238;
-        const V t240 = c3 * t133;
-        const V t241 = t239 + t240;
-        const V t242 = c7 * t100;
-        const V t243 = c8 * t116;
-        const V t244 = t242 - t243;
-        const V t245 = c6 * t132;
-        const V t246 = t244 - t245;
-        const V t247 = t241 - t246;
-        io.out(16, t247);
-        const V t248 = t241 + t246;
-        io.out(40, t248);
-        const V t249 = c5 * t101;
-        const V t250 = t86 - t249;
-        const V t251 = c3 * t117;
-        const V t252 = t250 + t251;
-        const V t253 = c4 * t133;
-        const V t254 = t252 - t253;
-        const V t255 = c8 * t100;
-        const V t256 = c6 * t116;
-        const V t257 = t255 - t256;
-        const V t258 = c7 * t132;
-        const V t259 = t257 + t258;
-        const V t260 = t254 - t259;
-        io.out(10, t260);
-        const V t261 = t254 + t259;
-        io.out(4, t261);
+        const V t104 = t86 - t90;
+        const V t105 = c2 * t104;
+        // complex block of 3, multiplier 2
+        const V t106 = t87 - t91;
+        const V t107 = c2 * t106;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t108 = c0 * x3r;
+        const V x4r = io.re(4);
+        const V t109 = c0 * x4r;
+        const V x17r = io.re(17);
+        const V t110 = c0 * x17r;
+        // complex block of 2
+        const V t111 = t109 + t110;
+        const V t112 = t109 - t110;
+        // doubled bins
+        const V x10r = io.re(10);
+        const V t113 = c0 * x10r;
+        const V x11r = io.re(11);
+        const V t114 = c0 * x11r;
+        // complex block of 2
+        const V t115 = t113 + t114;
+        const V t116 = t113 - t114;
+        // doubled bins
+        const V x18r = io.re(18);
+        const V t117 = c0 * x18r;
+        // complex block of 2
+        const V t118 = t117 + t108;
+        // complex block of 3, multiplier 2
+        const V t119 = t115 + t111;
+        const V t120 = c1 * t119;
+        const V t121 = t119 + t118;
+        const V t122 = t118 - t120;
+        // complex block of 2
+        const V t123 = t117 - t108;
+        // complex block of 3, multiplier 2
+        const V t124 = t116 + t112;
+        const V t125 = c1 * t124;
+        const V t126 = t124 + t123;
+        const V t127 = t123 - t125;
+        // complex block of 3, multiplier 2
+        const V t128 = t115 - t111;
+        const V t129 = c2 * t128;
+        // complex block of 3, multiplier 2
+        const V t130 = t116 - t112;
+        const V t131 = c2 * t130;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t132 = c0 * x3i;
+        const V x18i = io.im(18);
+        const V t133 = c0 * x18i;
+        // complex block of 2
+        const V t134 = t133 - t132;
+        const V t135 = t133 + t132;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t136 = c0 * x4i;
+        const V x17i = io.im(17);
+        const V t137 = c0 * x17i;
+        // complex block of 2
+        const V t138 = t136 - t137;
+        const V t139 = t136 + t137;
+        // doubled bins
+        const V x10i = io.im(10);
+        const V t140 = c0 * x10i;
+        const V x11i = io.im(11);
+        const V t141 = c0 * x11i;
+        // complex block of 2
+        const V t142 = t140 - t141;
+        const V t143 = t140 + t141;
+        // complex block of 3, multiplier 2
+        const V t144 = t138 - t142;
+        const V t145 = c1 * t144;
+        const V t146 = t142 + t138;
+        const V t147 = c2 * t146;
+        // complex block of 3, multiplier 2
+        const V t148 = t139 - t143;
+        const V t149 = c1 * t148;
+        const V t150 = t143 + t139;
+        const V t151 = c2 * t150;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t152 = c0 * x7i;
+        const V x14i = io.im(14);
+        const V t153 = c0 * x14i;
+        // complex block of 2
+        const V t154 = t153 - t152;
         // spectrum block of 3, multiplier 2
-        const V t262 = t69 + t41;
-        const V t263 = c1 * t69;
-        const V t264 = t41 - t263;
-        const V t265 = c2 * t68;
-        const V t266 = t264 - t265;
-        const V t267 = t264 + t265;
+        const V t155 = c2 * t154;
+        // complex block of 2
+        const V t156 = t153 + t152;
+        // spectrum block of 3, multiplier 2
+        const V t157 = c2 * t156;
+        // spectrum block of 3, multiplier 2
+        const V t158 = t8 - t155;
         // complex block of 3, multiplier 2
-        const V t268 = t80 - t56;
-        const V t269 = t81 + t57;
-        const V t270 = t80 + t56;
-        const V t271 = t81 - t57;
-        const V t272 = t268 + t52;
-        const V t273 = t269 + t53;
-        const V t274 = c1 * t268;
-        const V t275 = t52 - t274;
-        const V t276 = c1 * t269;
-        const V t277 = t53 - t276;
-        const V t278 = c2 * t270;
-        const V t279 = c2 * t271;
-        const V t280 = t275 + t279;
-        const V t281 = t277 - t278;
-        const V t282 = t275 - t279;
-        const V t283 = t277 + t278;
-        // complex block of 3, multiplier 2
-        const V t284 = t72 + t44;
-        const V t285 = t73 + t45;
-        const V t286 = t44 - t72;
-        const V t287 = t73 - t45;
-        const V t288 = t64 - t284;
-        const V t289 = t285 + t65;
-        const V t290 = c1 * t284;
-        const V t291 = t290 + t64;
-        const V t292 = c1 * t285;
-        const V t293 = t65 - t292;
-        const V t294 = c2 * t286;
-        const V t295 = c2 * t287;
-        const V t296 = t291 + t295;
-        const V t297 = t293 - t294;
-        const V t298 = t291 - t295;
-        const V t299 = t293 + t294;
-        // complex block of 3, multiplier 2
-        const V t300 = t48 - t60;
-        const V t301 = t61 + t49;
-        const V t302 = t60 + t48;
-        const V t303 = t61 - t49;
-        const V t304 = t300 + t76;
-        const V t305 = t301 + t77;
-        const V t306 = c1 * t300;
-        const V t307 = t76 - t306;
-        const V t308 = c1 * t301;
-        const V t309 = t77 - t308;
-        const V t310 = c2 * t302;
-        const V t311 = c2 * t303;
-        const V t312 = t307 + t311;
-        const V t313 = t309 + t310;
-        const V t314 = t307 - t311;
-        const V t315 = t309 - t310;
+        const V t159 = t26 - t57;
         // spectrum block of 7, multiplier 6
-        const V t316 = t273 + t289;
-        const V t317 = t316 + t305;
-        const V t318 = t317 + t262;
-        io.out(21, t318);
-        const V t319 = c3 * t273;
-        const V t320 = c4 * t289;
-        const V t321 = t319 - t320;
-        const V t322 = c5 * t305;
-        const V t323 = t321 - t322;
-        const V t324 = t323 + t262;
-        const V t325 = c6 * t272;
-        const V t326 = c7 * t288;
-        const V t327 = t325 + t326;
-        const V t328 = c8 * t304;
-        const V t329 = t327 + t328;
-        const V t330 = t324 - t329;
-        io.out(15, t330);
-        const V t331 = t324 + t329;
-        io.out(27, t331);
-        const V t332 = c4 * t273;
-        const V t333 = t262 - t332;
-        const V t334 = c5 * t289;
-        const V t335 = t333 - t334;
-        const V t336 = c3 * t305;
-        const V t337 = t335 + t336;
-        const V t338 = c7 * t272;
-        const V t339 = c8 * t288;
-        const V t340 = t338 - t339;
-        const V t341 = c6 * t304;
-        const V t342 = t340 - t341;
-        const V t343 = t337 - t342;
-        io.out(9, t343);
-        const V t344 = t337 + t342;
-        io.out(33, t344);
-        const V t345 = c5 * t273;
-        const V t346 = t262 - t345;
-        const V t347 = c3 * t289;
-        const V t348 = t346 + t347;
-        const V t349 = c4 * t305;
-        const V t350 = t348 - t349;
-        const V t351 = c8 * t272;
-        const V t352 = c6 * t288;
-        const V t353 = t351 - t352;
-        const V t354 = c7 * t304;
-        const V t355 = t353 + t354;
-        const V t356 = t350 - t355;
-        io.out(3, t356);
-        const V t357 = t350 + t355;
-        io.out(39, t357);
+        const V t160 = c3 * t159;
+        const V t161 = c4 * t159;
+        const V t162 = c5 * t159;
+        // complex block of 3, multiplier 2
+        const V t163 = t74 - t105;
         // spectrum block of 7, multiplier 6
-        const V t358 = t283 + t299;
-        const V t359 = t358 + t315;
-        const V t360 = t359 + t267;
-        io.out(35, t360);
-        const V t361 = c3 * t283;
-        const V t362 = c4 * t299;
-        const V t363 = t361 - t362;
-        const V t364 = c5 * t315;
-        const V t365 = t363 - t364;
-        const V t366 = t365 + t267;
-        const V t367 = c6 * t282;
-        const V t368 = c7 * t298;
-        const V t369 = t367 + t368;
-        const V t370 = c8 * t314;
-        const V t371 = t369 + t370;
-        const V t372 = t366 - t371;
-        io.out(29, t372);
-        const V t373 = t366 + t371;
-        io.out(41, t373);
-        const V t374 = c4 * t283;
-        const V t375 = t267 - t374;
-        const V t376 = c5 * t299;
-        const V t377 = t375 - t376;
-        const V t378 = c3 * t315;
-        const V t379 = t377 + t378;
-        const V t380 = c7 * t282;
-        const V t381 = c8 * t298;
-        const V t382 = t380 - t381;
-        const V t383 = c6 * t314;
-        const V t384 = t382 - t383;
-        const V t385 = t379 - t384;
-        io.out(23, t385);
-        const V t386 = t379 + t384;
-        io.out(5, t386);
-        const V t387 = c5 * t283;
-        const V t388 = t267 - t387;
-        const V t389 = c3 * t299;
-        const V t390 = t388 + t389;
-        const V t391 = c4 * t315;
+        const V t164 = c4 * t163;
+        const V t165 = t159 + t163;
+        const V t166 = t160 - t164;
+        const V t167 = t158 - t161;
+        const V t168 = c5 * t163;
+        const V t169 = t158 - t162;
+        const V t170 = c3 * t163;
+        // spectrum block of 3, multiplier 2
+        const V t171 = t8 + t155;
+        // complex block of 3, multiplier 2
+        const V t172 = t26 + t57;
+        // spectrum block of 7, multiplier 6
+        const V t173 = c3 * t172;
+        const V t174 = c4 * t172;
+        const V t175 = c5 * t172;
+        // complex block of 3, multiplier 2
+        const V t176 = t74 + t105;
+        // spectrum block of 7, multiplier 6
+        const V t177 = c4 * t176;
+        const V t178 = t172 + t176;
+        const V t179 = t173 - t177;
+        const V t180 = t171 - t174;
+        const V t181 = c5 * t176;
+        const V t182 = t171 - t175;
+        const V t183 = c3 * t176;
+        // complex block of 3, multiplier 2
+        const V t184 = t50 + t33;
+        // spectrum block of 7, multiplier 6
+        const V t185 = c6 * t184;
+        const V t186 = c7 * t184;
+        const V t187 = c8 * t184;
+        // complex block of 3, multiplier 2
+        const V t188 = t98 + t81;
+        // spectrum block of 7, multiplier 6
+        const V t189 = c7 * t188;
+        const V t190 = c8 * t188;
+        const V t191 = c6 * t188;
+        const V t192 = t185 + t189;
+        const V t193 = t186 - t190;
+        const V t194 = t187 - t191;
+        // complex block of 3, multiplier 2
+        const V t195 = t50 - t33;
+        // spectrum block of 7, multiplier 6
+        const V t196 = c6 * t195;
+        const V t197 = c7 * t195;
+        const V t198 = c8 * t195;
+        // complex block of 3, multiplier 2
+        const V t199 = t98 - t81;
+        // spectrum block of 7, multiplier 6
+        const V t200 = c7 * t199;
+        const V t201 = c8 * t199;
+        const V t202 = c6 * t199;
+        const V t203 = t196 + t200;
+        const V t204 = t197 - t201;
+        const V t205 = t198 - t202;
+        // complex block of 3, multiplier 2
+        const V t206 = t134 - t145;
+        const V t207 = t206 + t129;
+        const V t208 = t206 - t129;
+        // spectrum block of 7, multiplier 6
+        const V t209 = c8 * t208;
+        const V t210 = c6 * t208;
+        const V t211 = c7 * t208;
+        // spectrum block of 7, multiplier 6
+        const V t212 = c8 * t207;
+        const V t213 = c6 * t207;
+        const V t214 = c7 * t207;
+        // complex block of 3, multiplier 2
+        const V t215 = t122 + t147;
+        // spectrum block of 7, multiplier 6
+        const V t216 = c5 * t215;
+        const V t217 = c3 * t215;
+        const V t218 = c4 * t215;
+        // complex block of 3, multiplier 2
+        const V t219 = t122 - t147;
+        // spectrum block of 7, multiplier 6
+        const V t220 = c5 * t219;
+        const V t221 = c3 * t219;
+        const V t222 = c4 * t219;
+        const V t223 = t178 + t219;
+        const V t224 = t223 + t171;
+        io.out(14, t224);
+        const V t225 = t179 - t220;
+        const V t226 = t225 + t171;
+        const V t227 = t203 + t209;
+        const V t228 = t226 - t227;
+        io.out(8, t228);
+        const V t229 = t226 + t227;
+        io.out(20, t229);
+        const V t230 = t180 - t181;
+        const V t231 = t230 + t221;
+        const V t232 = t204 - t210;
+        const V t233 = t231 - t232;
+        io.out(2, t233);
+        const V t234 = t231 + t232;
+        io.out(26, t234);
+        const V t235 = t182 + t183;
+        const V t236 = t235 - t222;
+        const V t237 = t205 + t211;
+        const V t238 = t236 - t237;
+        io.out(38, t238);
+        const V t239 = t236 + t237;
+        io.out(32, t239);
+        // spectrum block of 7, multiplier 6
+        const V t240 = t165 + t215;
+        const V t241 = t240 + t158;
+        io.out(28, t241);
+        const V t242 = t166 - t216;
+        const V t243 = t242 + t158;
+        const V t244 = t192 + t212;
+        const V t245 = t243 - t244;
+        io.out(22, t245);
+        const V t246 = t243 + t244;
+        io.out(34, t246);
+        const V t247 = t167 - t168;
+        const V t248 = t247 + t217;
+        const V t249 = t193 - t213;
+        const V t250 = t248 - t249;
+        io.out(16, t250);
+        const V t251 = t248 + t249;
+        io.out(40, t251);
+        const V t252 = t169 + t170;
+        const V t253 = t252 - t218;
+        const V t254 = t194 + t214;
+        const V t255 = t253 - t254;
+        io.out(10, t255);
+        const V t256 = t253 + t254;
+        io.out(4, t256);
+        // complex block of 3, multiplier 2
+        const V t257 = t144 + t134;
+        // spectrum block of 7, multiplier 6
+        const V t258 = c8 * t257;
+        const V t259 = c6 * t257;
+        const V t260 = c7 * t257;
+        const V t261 = c3 * t25;
+        const V t262 = c4 * t73;
+        const V t263 = t261 - t262;
+        const V t264 = c5 * t121;
+        const V t265 = t263 - t264;
+        const V t266 = c6 * t49;
+        const V t267 = c7 * t97;
+        const V t268 = t266 + t267;
+        const V t269 = c4 * t25;
+        const V t270 = t6 - t269;
+        const V t271 = c5 * t73;
+        const V t272 = t270 - t271;
+        const V t273 = c3 * t121;
+        const V t274 = c7 * t49;
+        const V t275 = c8 * t97;
+        const V t276 = t274 - t275;
+        const V t277 = c5 * t25;
+        const V t278 = t6 - t277;
+        const V t279 = c3 * t73;
+        const V t280 = t278 + t279;
+        const V t281 = c4 * t121;
+        const V t282 = c8 * t49;
+        const V t283 = c6 * t97;
+        const V t284 = t282 - t283;
+        const V t285 = t265 + t6;
+        const V t286 = t268 + t258;
+        const V t287 = t285 - t286;
+        io.out(36, t287);
+        const V t288 = t285 + t286;
+        io.out(6, t288);
+        const V t289 = t272 + t273;
+        const V t290 = t276 - t259;
+        const V t291 = t289 - t290;
+        io.out(30, t291);
+        const V t292 = t289 + t290;
+        io.out(12, t292);
+        const V t293 = t280 - t281;
+        const V t294 = t284 + t260;
+        const V t295 = t293 - t294;
+        io.out(24, t295);
+        const V t296 = t293 + t294;
+        io.out(18, t296);
+        const V t297 = t25 + t73;
+        const V t298 = t297 + t121;
+        const V t299 = t298 + t6;
+        io.out(0, t299);
+        // spectrum block of 3, multiplier 2
+        const V t300 = t11 - t157;
+        // complex block of 3, multiplier 2
+        const V t301 = t31 - t59;
+        // spectrum block of 7, multiplier 6
+        const V t302 = c3 * t301;
+        const V t303 = c4 * t301;
+        const V t304 = c5 * t301;
+        // complex block of 3, multiplier 2
+        const V t305 = t79 - t107;
+        // spectrum block of 7, multiplier 6
+        const V t306 = c4 * t305;
+        const V t307 = t301 + t305;
+        const V t308 = t302 - t306;
+        const V t309 = t300 - t303;
+        const V t310 = c5 * t305;
+        const V t311 = t300 - t304;
+        const V t312 = c3 * t305;
+        // spectrum block of 3, multiplier 2
+        const V t313 = t11 + t157;
+        // complex block of 3, multiplier 2
+        const V t314 = t31 + t59;
+        // spectrum block of 7, multiplier 6
+        const V t315 = c3 * t314;
+        const V t316 = c4 * t314;
+        const V t317 = c5 * t314;
+        // complex block of 3, multiplier 2
+        const V t318 = t79 + t107;
+        // spectrum block of 7, multiplier 6
+        const V t319 = c4 * t318;
+        const V t320 = t314 + t318;
+        const V t321 = t315 - t319;
+        const V t322 = t313 - t316;
+        const V t323 = c5 * t318;
+        const V t324 = t313 - t317;
+        const V t325 = c3 * t318;
+        // complex block of 3, multiplier 2
+        const V t326 = t55 + t35;
+        // spectrum block of 7, multiplier 6
+        const V t327 = c6 * t326;
+        const V t328 = c7 * t326;
+        const V t329 = c8 * t326;
+        // complex block of 3, multiplier 2
+        const V t330 = t103 + t83;
+        // spectrum block of 7, multiplier 6
+        const V t331 = c7 * t330;
+        const V t332 = c8 * t330;
+        const V t333 = c6 * t330;
+        const V t334 = t327 + t331;
+        const V t335 = t328 - t332;
+        const V t336 = t329 - t333;
+        // complex block of 3, multiplier 2
+        const V t337 = t55 - t35;
+        // spectrum block of 7, multiplier 6
+        const V t338 = c6 * t337;
+        const V t339 = c7 * t337;
+        const V t340 = c8 * t337;
+        // complex block of 3, multiplier 2
+        const V t341 = t103 - t83;
+        // spectrum block of 7, multiplier 6
+        const V t342 = c7 * t341;
+        const V t343 = c8 * t341;
+        const V t344 = c6 * t341;
+        const V t345 = t338 + t342;
+        const V t346 = t339 - t343;
+        const V t347 = t340 - t344;
+        // complex block of 3, multiplier 2
+        const V t348 = t135 - t149;
+        const V t349 = t348 + t131;
+        const V t350 = t348 - t131;
+        // spectrum block of 7, multiplier 6
+        const V t351 = c8 * t350;
+        const V t352 = c6 * t350;
+        const V t353 = c7 * t350;
+        // spectrum block of 7, multiplier 6
+        const V t354 = c8 * t349;
+        const V t355 = c6 * t349;
+        const V t356 = c7 * t349;
+        // complex block of 3, multiplier 2
+        const V t357 = t127 + t151;
+        // spectrum block of 7, multiplier 6
+        const V t358 = c5 * t357;
+        const V t359 = c3 * t357;
+        const V t360 = c4 * t357;
+        // complex block of 3, multiplier 2
+        const V t361 = t127 - t151;
+        // spectrum block of 7, multiplier 6
+        const V t362 = c5 * t361;
+        const V t363 = c3 * t361;
+        const V t364 = c4 * t361;
+        const V t365 = t320 + t361;
+        const V t366 = t365 + t313;
+        io.out(35, t366);
+        const V t367 = t321 - t362;
+        const V t368 = t367 + t313;
+        const V t369 = t345 + t351;
+        const V t370 = t368 - t369;
+        io.out(29, t370);
+        const V t371 = t368 + t369;
+        io.out(41, t371);
+        const V t372 = t322 - t323;
+        const V t373 = t372 + t363;
+        const V t374 = t346 - t352;
+        const V t375 = t373 - t374;
+        io.out(23, t375);
+        const V t376 = t373 + t374;
+        io.out(5, t376);
+        const V t377 = t324 + t325;
+        const V t378 = t377 - t364;
+        const V t379 = t347 + t353;
+        const V t380 = t378 - t379;
+        io.out(17, t380);
+        const V t381 = t378 + t379;
+        io.out(11, t381);
+        // spectrum block of 7, multiplier 6
+        const V t382 = t307 + t357;
+        const V t383 = t382 + t300;
+        io.out(7, t383);
+        const V t384 = t308 - t358;
+        const V t385 = t384 + t300;
+        const V t386 = t334 + t354;
+        const V t387 = t385 - t386;
+        io.out(1, t387);
+        const V t388 = t385 + t386;
+        io.out(13, t388);
+        const V t389 = t309 - t310;
+        const V t390 = t389 + t359;
+        const V t391 = t335 - t355;
         const V t392 = t390 - t391;
-        const V t393 = c8 * t282;
-        const V t394 = c6 * t298;
-        const V t395 = t393 - t394;
-        const V t396 = c7 * t314;
-        const V t397 = t395 + t396;
-        const V t398 = t392 - t397;
-        io.out(17, t398);
-        const V t399 = t392 + t397;
-        io.out(11, t399);
+        io.out(37, t392);
+        const V t393 = t390 + t391;
+        io.out(19, t393);
+        const V t394 = t311 + t312;
+        const V t395 = t394 - t360;
+        const V t396 = t336 + t356;
+        const V t397 = t395 - t396;
+        io.out(31, t397);
+        const V t398 = t395 + t396;
+        io.out(25, t398);
+        // complex block of 3, multiplier 2
+        const V t399 = t148 + t135;
         // spectrum block of 7, multiplier 6
-        const V t400 = t281 + t297;
-        const V t401 = t400 + t313;
-        const V t402 = t401 + t266;
-        io.out(7, t402);
-        const V t403 = c3 * t281;
-        const V t404 = c4 * t297;
+        const V t400 = c8 * t399;
+        const V t401 = c6 * t399;
+        const V t402 = c7 * t399;
+        const V t403 = c3 * t30;
+        const V t404 = c4 * t78;
         const V t405 = t403 - t404;
-        const V t406 = c5 * t313;
+        const V t406 = c5 * t126;
         const V t407 = t405 - t406;
-        const V t408 = t407 + t266;
-        const V t409 = c6 * t280;
-        const V t410 = c7 * t296;
-        const V t411 = t409 + t410;
-        const V t412 = c8 * t312;
-        const V t413 = t411 + t412;
-        const V t414 = t408 - t413;
-        io.out(1, t414);
-        const V t415 = t408 + t413;
-        io.out(13, t415);
-        const V t416 = c4 * t281;
-        const V t417 = t266 - t416;
-        const V t418 = c5 * t297;
-        const V t419 = t417 - t418;
-        const V t420 = c3 * t313;
-        const V t421 = t419 + t420;
-        const V t422 = c7 * t280;
-        const V t423 = c8 * t296;
-        const V t424 = t422 - t423;
-        const V t425 = c6 * t312;
+        const V t408 = c6 * t54;
+        const V t409 = c7 * t102;
+        const V t410 = t408 + t409;
+        const V t411 = c4 * t30;
+        const V t412 = t9 - t411;
+        const V t413 = c5 * t78;
+        const V t414 = t412 - t413;
+        const V t415 = c3 * t126;
+        const V t416 = c7 * t54;
+        const V t417 = c8 * t102;
+        const V t418 = t416 - t417;
+        const V t419 = c5 * t30;
+        const V t420 = t9 - t419;
+        const V t421 = c3 * t78;
+        const V t422 = t420 + t421;
+        const V t423 = c4 * t126;
+        const V t424 = c8 * t54;
+        const V t425 = c6 * t102;
         const V t426 = t424 - t425;
-        const V t427 = t421 - t426;
-        io.out(37, t427);
-        const V t428 = t421 + t426;
-        io.out(19, t428);
-        const V t429 = c5 * t281;
-        const V t430 = t266 - t429;
-        const V t431 = c3 * t297;
-        const V t432 = t430 + t431;
-        const V t433 = c4 * t313;
-        const V t434 = t432 - t433;
-        const V t435 = c8 * t280;
-        const V t436 = c6 * t296;
+        const V t427 = t407 + t9;
+        const V t428 = t410 + t400;
+        const V t429 = t427 - t428;
+        io.out(15, t429);
+        const V t430 = t427 + t428;
+        io.out(27, t430);
+        const V t431 = t414 + t415;
+        const V t432 = t418 - t401;
+        const V t433 = t431 - t432;
+        io.out(9, t433);
+        const V t434 = t431 + t432;
+        io.out(33, t434);
+        const V t435 = t422 - t423;
+        const V t436 = t426 + t402;
         const V t437 = t435 - t436;
-        const V t438 = c7 * t312;
-        const V t439 = t437 + t438;
-        const V t440 = t434 - t439;
-        io.out(31, t440);
-        const V t441 = t434 + t439;
-        io.out(25, t441);
+        io.out(3, t437);
+        const V t438 = t435 + t436;
+        io.out(39, t438);
+        const V t439 = t30 + t78;
+        const V t440 = t439 + t126;
+        const V t441 = t440 + t9;
+        io.out(21, t441);
     }
 };
 

@@ -1,1795 +1,2212 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 53.
 // Inverse DFT to 53 real points, Rader 13, 4.
-// 420 additions, 420 subtractions, 502 multiplications (555 with `scale`); 101 constants; 60 values alive at most.
+// 420 additions, 420 subtractions, 502 multiplications (555 with `scale`); 101 constants; 84 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct RealInverseGraph<53> {
     static constexpr double inverseRoot = 0.13736056394868904;  // 1/sqrt(53), for `scale`
-    static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c2 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c3 = 0.08333333333333333;  // 1/12
-    static constexpr double c4 = 0.5279915321544383;  // -Q[1] of 13
-    static constexpr double c5 = 0.2869425954512852;  // P[1] of 13
-    static constexpr double c6 = 0.29376443202296976;  // -Q[2] of 13
-    static constexpr double c7 = 0.5242266395265821;  // P[2] of 13
-    static constexpr double c8 = 0.5751407294740031;  // -Q[3] of 13
-    static constexpr double c9 = 0.1741386011521359;  // -P[3] of 13
-    static constexpr double c10 = 0.42218506973345193;  // -Q[4] of 13
-    static constexpr double c11 = 0.42763404682657274;  // P[4] of 13
-    static constexpr double c12 = 0.280148395734785;  // Q[5] of 13
-    static constexpr double c13 = 0.5316276774946329;  // P[5] of 13
-    static constexpr double c14 = 0.3004626062886658;  // -beta of 13
-    static constexpr double c15 = 0.4330127018922193;  // sin 2 pi 1/3 times -cos 2 pi 1/3
-    static constexpr double c16 = 0.75;  // sin 2 pi 1/3 times sin 2 pi 1/3
-    static constexpr double c17 = 0.31378278210316923;  // -Q[1] of 13
-    static constexpr double c18 = 0.5124953431658732;  // P[1] of 13
-    static constexpr double c19 = 0.3071113711590828;  // Q[2] of 13
-    static constexpr double c20 = 0.5165207806234897;  // P[2] of 13
-    static constexpr double c21 = 0.5814344829416822;  // Q[4] of 13
-    static constexpr double c22 = 0.15180597207438773;  // P[4] of 13
-    static constexpr double c23 = 0.02319821121153658;  // Q[5] of 13
-    static constexpr double c24 = 0.6004772719326653;  // -P[5] of 13
-    static constexpr double c25 = 0.12053668025532305;  // sin 2 pi 1/52
-    static constexpr double c26 = 0.992708874098054;  // cos 2 pi 1/52
-    static constexpr double c27 = 0.3546048870425356;  // sin 2 pi 3/52
-    static constexpr double c28 = 0.9350162426854148;  // cos 2 pi 3/52
-    static constexpr double c29 = 0.5680647467311558;  // sin 2 pi 5/52
-    static constexpr double c30 = 0.8229838658936564;  // cos 2 pi 5/52
-    static constexpr double c31 = 0.7485107481711011;  // sin 2 pi 7/52
-    static constexpr double c32 = 0.6631226582407952;  // cos 2 pi 7/52
-    static constexpr double c33 = 0.8854560256532099;  // sin 2 pi 9/52
-    static constexpr double c34 = 0.46472317204376856;  // cos 2 pi 9/52
-    static constexpr double c35 = 0.970941817426052;  // sin 2 pi 11/52
-    static constexpr double c36 = 0.23931566428755777;  // cos 2 pi 11/52
-    static constexpr double c37 = 0.019230769230769232;  // 1/52
-    static constexpr double c38 = 0.2535110589592131;  // -P[1] of 53
-    static constexpr double c39 = 0.11888864474491956;  // -Q[1] of 53
-    static constexpr double c40 = 0.13160258300584013;  // -Q[2] of 53
-    static constexpr double c41 = 0.2471500091242084;  // P[2] of 53
-    static constexpr double c42 = 0.01920483471835668;  // -P[3] of 53
-    static constexpr double c43 = 0.27934484277921784;  // -Q[3] of 53
-    static constexpr double c44 = 0.2755686148630738;  // Q[4] of 53
-    static constexpr double c45 = 0.049641770378907886;  // P[4] of 53
-    static constexpr double c46 = 0.08550180730497182;  // -P[5] of 53
-    static constexpr double c47 = 0.26663047052332334;  // Q[5] of 53
-    static constexpr double c48 = 0.21010412063116707;  // Q[6] of 53
-    static constexpr double c49 = 0.18509085703434766;  // P[6] of 53
-    static constexpr double c50 = 0.02729324277461261;  // -P[7] of 53
-    static constexpr double c51 = 0.2786708556034366;  // Q[7] of 53
-    static constexpr double c52 = 0.27887234952845297;  // Q[8] of 53
-    static constexpr double c53 = 0.02515113381908794;  // P[8] of 53
-    static constexpr double c54 = 0.27926923264549397;  // -P[9] of 53
-    static constexpr double c55 = 0.02027467783966699;  // Q[9] of 53
-    static constexpr double c56 = 0.2421434442697633;  // Q[10] of 53
-    static constexpr double c57 = 0.14060198882334973;  // -P[10] of 53
-    static constexpr double c58 = 0.23326162380743898;  // -P[11] of 53
-    static constexpr double c59 = 0.15489151598012768;  // -Q[11] of 53
-    static constexpr double c60 = 0.1903832491584887;  // Q[12] of 53
-    static constexpr double c61 = 0.20532068893261132;  // P[12] of 53
-    static constexpr double c62 = 0.27729778231647617;  // P[13] of 53
-    static constexpr double c63 = 0.038836925551200704;  // Q[13] of 53
-    static constexpr double c64 = 0.2645541253996386;  // -Q[14] of 53
-    static constexpr double c65 = 0.09172503255893466;  // P[14] of 53
-    static constexpr double c66 = 0.10309300873453617;  // P[15] of 53
-    static constexpr double c67 = 0.2603347814141748;  // -Q[15] of 53
-    static constexpr double c68 = 0.04985858822323415;  // Q[16] of 53
-    static constexpr double c69 = 0.27552946855879373;  // -P[16] of 53
-    static constexpr double c70 = 0.062487064695808406;  // -P[17] of 53
-    static constexpr double c71 = 0.27294272954157833;  // -Q[17] of 53
-    static constexpr double c72 = 0.12218648440059575;  // Q[18] of 53
-    static constexpr double c73 = 0.2519381469601781;  // P[18] of 53
-    static constexpr double c74 = 0.0855629575860694;  // -P[19] of 53
-    static constexpr double c75 = 0.26661085340441376;  // Q[19] of 53
-    static constexpr double c76 = 0.279948840618166;  // Q[20] of 53
-    static constexpr double c77 = 0.005568976607062611;  // P[20] of 53
-    static constexpr double c78 = 0.2608612063201607;  // P[21] of 53
-    static constexpr double c79 = 0.10175361370042776;  // -Q[21] of 53
-    static constexpr double c80 = 0.21551686731931244;  // Q[22] of 53
-    static constexpr double c81 = 0.17875918651855408;  // P[22] of 53
-    static constexpr double c82 = 0.015387675100292094;  // -P[23] of 53
-    static constexpr double c83 = 0.2795810907749542;  // Q[23] of 53
-    static constexpr double c84 = 0.2758601234844355;  // -Q[24] of 53
-    static constexpr double c85 = 0.04799540743714245;  // P[24] of 53
-    static constexpr double c86 = 0.26811627900458906;  // P[25] of 53
-    static constexpr double c87 = 0.08072191645791539;  // -Q[25] of 53
-    static constexpr double c88 = 0.14000211325539458;  // beta of 53
-    static constexpr double c89 = 0.015496188988565054;  // P[1] of 13
-    static constexpr double c90 = 0.6007253775544544;  // -Q[1] of 13
-    static constexpr double c91 = 0.6008758031820526;  // -Q[2] of 13
-    static constexpr double c92 = 0.007705858903092426;  // P[2] of 13
-    static constexpr double c93 = 0.15924941320823024;  // -Q[4] of 13
-    static constexpr double c94 = 0.5794400189009605;  // -P[4] of 13
-    static constexpr double c95 = 0.3203288761978803;  // P[5] of 13
-    static constexpr double c96 = 0.5084294662830964;  // -Q[5] of 13
-    static constexpr double c97 = 0.5018097763375671;  // sin 2 pi 1/3 times -P[4] of 13
-    static constexpr double c98 = 0.1379140373760925;  // sin 2 pi 1/3 times -Q[4] of 13
-    static constexpr double c99 = 0.00667346956805653;  // sin 2 pi 1/3 times P[2] of 13
-    static constexpr double c100 = 0.520373710075036;  // sin 2 pi 1/3 times -Q[2] of 13
+    static constexpr double constants[] = {
+        0.5,  // c[-16]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-15]: sin 2 pi 1/3
+        2.0,  // c[-14]: 2
+        0.1741386011521359,  // c[-13]: -P[3] of 13
+        0.5751407294740031,  // c[-12]: -Q[3] of 13
+        0.08333333333333333,  // c[-11]: 1/12
+        0.3004626062886658,  // c[-10]: -beta of 13
+        0.6007253775544544,  // c[-9]: -Q[1] of 13
+        0.015496188988565054,  // c[-8]: P[1] of 13
+        0.5084294662830964,  // c[-7]: -Q[5] of 13
+        0.3203288761978803,  // c[-6]: P[5] of 13
+        0.5242266395265821,  // c[-5]: P[2] of 13
+        0.29376443202296976,  // c[-4]: -Q[2] of 13
+        0.42763404682657274,  // c[-3]: P[4] of 13
+        0.42218506973345193,  // c[-2]: -Q[4] of 13
+        0.5279915321544383,  // c[-1]: -Q[1] of 13
+        0.2869425954512852,  // c[0]: P[1] of 13
+        0.280148395734785,  // c[1]: Q[5] of 13
+        0.5316276774946329,  // c[2]: P[5] of 13
+        0.75,  // c[3]: sin 2 pi 1/3 times sin 2 pi 1/3
+        0.4330127018922193,  // c[4]: sin 2 pi 1/3 times -cos 2 pi 1/3
+        0.5165207806234897,  // c[5]: P[2] of 13
+        0.3071113711590828,  // c[6]: Q[2] of 13
+        0.15180597207438773,  // c[7]: P[4] of 13
+        0.5814344829416822,  // c[8]: Q[4] of 13
+        0.31378278210316923,  // c[9]: -Q[1] of 13
+        0.5124953431658732,  // c[10]: P[1] of 13
+        0.02319821121153658,  // c[11]: Q[5] of 13
+        0.6004772719326653,  // c[12]: -P[5] of 13
+        0.15924941320823024,  // c[13]: -Q[4] of 13
+        0.6008758031820526,  // c[14]: -Q[2] of 13
+        0.007705858903092426,  // c[15]: P[2] of 13
+        0.5794400189009605,  // c[16]: -P[4] of 13
+        0.5018097763375671,  // c[17]: sin 2 pi 1/3 times -P[4] of 13
+        0.1379140373760925,  // c[18]: sin 2 pi 1/3 times -Q[4] of 13
+        0.00667346956805653,  // c[19]: sin 2 pi 1/3 times P[2] of 13
+        0.520373710075036,  // c[20]: sin 2 pi 1/3 times -Q[2] of 13
+        0.27552946855879373,  // c[21]: -P[16] of 53
+        0.14060198882334973,  // c[22]: -P[10] of 53
+        0.2421434442697633,  // c[23]: Q[10] of 53
+        0.04985858822323415,  // c[24]: Q[16] of 53
+        0.20532068893261132,  // c[25]: P[12] of 53
+        0.09172503255893466,  // c[26]: P[14] of 53
+        0.1903832491584887,  // c[27]: Q[12] of 53
+        0.2645541253996386,  // c[28]: -Q[14] of 53
+        0.04799540743714245,  // c[29]: P[24] of 53
+        0.2471500091242084,  // c[30]: P[2] of 53
+        0.13160258300584013,  // c[31]: -Q[2] of 53
+        0.2758601234844355,  // c[32]: -Q[24] of 53
+        0.02515113381908794,  // c[33]: P[8] of 53
+        0.27887234952845297,  // c[34]: Q[8] of 53
+        0.2519381469601781,  // c[35]: P[18] of 53
+        0.12218648440059575,  // c[36]: Q[18] of 53
+        0.049641770378907886,  // c[37]: P[4] of 53
+        0.2755686148630738,  // c[38]: Q[4] of 53
+        0.17875918651855408,  // c[39]: P[22] of 53
+        0.21551686731931244,  // c[40]: Q[22] of 53
+        0.005568976607062611,  // c[41]: P[20] of 53
+        0.279948840618166,  // c[42]: Q[20] of 53
+        0.18509085703434766,  // c[43]: P[6] of 53
+        0.21010412063116707,  // c[44]: Q[6] of 53
+        0.038836925551200704,  // c[45]: Q[13] of 53
+        0.27729778231647617,  // c[46]: P[13] of 53
+        0.23931566428755777,  // c[47]: cos 2 pi 11/52
+        0.970941817426052,  // c[48]: sin 2 pi 11/52
+        0.15489151598012768,  // c[49]: -Q[11] of 53
+        0.23326162380743898,  // c[50]: -P[11] of 53
+        0.2603347814141748,  // c[51]: -Q[15] of 53
+        0.10309300873453617,  // c[52]: P[15] of 53
+        0.8229838658936564,  // c[53]: cos 2 pi 5/52
+        0.5680647467311558,  // c[54]: sin 2 pi 5/52
+        0.992708874098054,  // c[55]: cos 2 pi 1/52
+        0.12053668025532305,  // c[56]: sin 2 pi 1/52
+        0.6631226582407952,  // c[57]: cos 2 pi 7/52
+        0.7485107481711011,  // c[58]: sin 2 pi 7/52
+        0.46472317204376856,  // c[59]: cos 2 pi 9/52
+        0.8854560256532099,  // c[60]: sin 2 pi 9/52
+        0.9350162426854148,  // c[61]: cos 2 pi 3/52
+        0.3546048870425356,  // c[62]: sin 2 pi 3/52
+        0.27934484277921784,  // c[63]: -Q[3] of 53
+        0.01920483471835668,  // c[64]: -P[3] of 53
+        0.2795810907749542,  // c[65]: Q[23] of 53
+        0.015387675100292094,  // c[66]: -P[23] of 53
+        0.2786708556034366,  // c[67]: Q[7] of 53
+        0.02729324277461261,  // c[68]: -P[7] of 53
+        0.26661085340441376,  // c[69]: Q[19] of 53
+        0.0855629575860694,  // c[70]: -P[19] of 53
+        0.27926923264549397,  // c[71]: -P[9] of 53
+        0.02027467783966699,  // c[72]: Q[9] of 53
+        0.062487064695808406,  // c[73]: -P[17] of 53
+        0.27294272954157833,  // c[74]: -Q[17] of 53
+        0.2535110589592131,  // c[75]: -P[1] of 53
+        0.11888864474491956,  // c[76]: -Q[1] of 53
+        0.08550180730497182,  // c[77]: -P[5] of 53
+        0.26663047052332334,  // c[78]: Q[5] of 53
+        0.2608612063201607,  // c[79]: P[21] of 53
+        0.10175361370042776,  // c[80]: -Q[21] of 53
+        0.26811627900458906,  // c[81]: P[25] of 53
+        0.08072191645791539,  // c[82]: -Q[25] of 53
+        0.019230769230769232,  // c[83]: 1/52
+        0.14000211325539458,  // c[84]: beta of 53
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // doubled bins
         const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
+        const V t0 = c[-14] * x1r;
         const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
+        const V t1 = c[-14] * x2r;
         const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
-        const V x19r = io.re(19);
-        const V t36 = c0 * x19r;
-        const V x19i = io.im(19);
-        const V t37 = c0 * x19i;
-        const V x20r = io.re(20);
-        const V t38 = c0 * x20r;
-        const V x20i = io.im(20);
-        const V t39 = c0 * x20i;
-        const V x21r = io.re(21);
-        const V t40 = c0 * x21r;
-        const V x21i = io.im(21);
-        const V t41 = c0 * x21i;
-        const V x22r = io.re(22);
-        const V t42 = c0 * x22r;
-        const V x22i = io.im(22);
-        const V t43 = c0 * x22i;
-        const V x23r = io.re(23);
-        const V t44 = c0 * x23r;
-        const V x23i = io.im(23);
-        const V t45 = c0 * x23i;
-        const V x24r = io.re(24);
-        const V t46 = c0 * x24r;
-        const V x24i = io.im(24);
-        const V t47 = c0 * x24i;
-        const V x25r = io.re(25);
-        const V t48 = c0 * x25r;
-        const V x25i = io.im(25);
-        const V t49 = c0 * x25i;
+        const V t2 = c[-14] * x18r;
+        // real block of 3
+        const V t3 = t2 + t1;
+        // doubled bins
+        const V x8r = io.re(8);
+        const V t4 = c[-14] * x8r;
+        // real block of 3
+        const V t5 = t2 - t1;
+        const V t6 = c[-15] * t5;
+        const V t7 = t3 + t4;
+        const V t8 = c[-16] * t3;
+        const V t9 = t4 - t8;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t10 = c[-14] * x3r;
         const V x26r = io.re(26);
-        const V t50 = c0 * x26r;
-        const V x26i = io.im(26);
-        const V t51 = c0 * x26i;
+        const V t11 = c[-14] * x26r;
         // real block of 3
-        const V t52 = t20 + t10;
-        const V t53 = t20 - t10;
-        const V t54 = t52 + t6;
-        const V t55 = c1 * t52;
-        const V t56 = t6 - t55;
-        const V t57 = c2 * t53;
+        const V t12 = t10 + t11;
+        // doubled bins
+        const V x20r = io.re(20);
+        const V t13 = c[-14] * x20r;
         // real block of 3
-        const V t58 = t18 + t12;
-        const V t59 = t18 - t12;
-        const V t60 = t58 + t48;
-        const V t61 = c1 * t58;
-        const V t62 = t48 - t61;
-        const V t63 = c2 * t59;
+        const V t14 = t10 - t11;
+        const V t15 = c[-15] * t14;
+        const V t16 = t12 + t13;
+        const V t17 = c[-16] * t12;
+        const V t18 = t13 - t17;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t19 = c[-14] * x5r;
+        const V x22r = io.re(22);
+        const V t20 = c[-14] * x22r;
         // real block of 3
-        const V t64 = t46 + t16;
-        const V t65 = t46 - t16;
-        const V t66 = t64 + t24;
-        const V t67 = c1 * t64;
-        const V t68 = t24 - t67;
-        const V t69 = c2 * t65;
+        const V t21 = t20 + t19;
+        // doubled bins
+        const V x19r = io.re(19);
+        const V t22 = c[-14] * x19r;
         // real block of 3
-        const V t70 = t30 + t28;
-        const V t71 = t30 - t28;
-        const V t72 = t70 + t32;
-        const V t73 = c1 * t70;
-        const V t74 = t32 - t73;
-        const V t75 = c2 * t71;
+        const V t23 = t20 - t19;
+        const V t24 = c[-15] * t23;
+        const V t25 = t21 + t22;
+        const V t26 = c[-16] * t21;
+        const V t27 = t22 - t26;
+        // doubled bins
+        const V x12r = io.re(12);
+        const V t28 = c[-14] * x12r;
+        const V x21r = io.re(21);
+        const V t29 = c[-14] * x21r;
+        // real block of 3
+        const V t30 = t28 + t29;
+        // doubled bins
+        const V x14r = io.re(14);
+        const V t31 = c[-14] * x14r;
+        // real block of 3
+        const V t32 = t28 - t29;
+        const V t33 = c[-15] * t32;
+        const V t34 = t30 + t31;
+        const V t35 = c[-16] * t30;
+        const V t36 = t31 - t35;
         // real block of 2
-        const V t76 = t54 + t66;
-        const V t77 = t54 - t66;
+        const V t37 = t34 + t25;
         // real block of 2
-        const V t78 = t60 + t72;
-        const V t79 = t60 - t72;
+        const V t38 = t7 + t16;
         // real block of 2
-        const V t80 = t76 + t78;
-        const V t81 = t76 - t78;
-        // complex block of 2
-        const V t82 = t56 + t68;
-        const V t83 = t57 + t69;
-        const V t84 = t56 - t68;
-        const V t85 = t69 - t57;
-        // complex block of 2
-        const V t86 = t62 + t74;
-        const V t87 = t63 + t75;
-        const V t88 = t62 - t74;
-        const V t89 = t75 - t63;
-        // complex block of 2
-        const V t90 = t82 + t86;
-        const V t91 = t83 + t87;
-        const V t92 = t82 - t86;
-        const V t93 = t87 - t83;
-        // complex block of 2
-        const V t94 = t84 - t89;
-        const V t95 = t85 + t88;
-        const V t96 = t84 + t89;
-        const V t97 = t85 - t88;
+        const V t39 = t37 + t38;
+        const V t40 = t37 - t38;
         // real block of 13, multiplier 2
-        const V t98 = t0 + t80;
-        const V t99 = c3 * t80;
-        const V t100 = t0 - t99;
-        const V t101 = c4 * t97;
-        const V t102 = c5 * t96;
-        const V t103 = t102 + t101;
-        const V t104 = c4 * t96;
-        const V t105 = c5 * t97;
-        const V t106 = t105 - t104;
-        const V t107 = c6 * t93;
-        const V t108 = c7 * t92;
-        const V t109 = t108 - t107;
-        const V t110 = c6 * t92;
-        const V t111 = c7 * t93;
-        const V t112 = t111 + t110;
-        const V t113 = c8 * t79;
-        const V t114 = c9 * t77;
-        const V t115 = t113 - t114;
-        const V t116 = c8 * t77;
-        const V t117 = c9 * t79;
-        const V t118 = t117 + t116;
-        const V t119 = c10 * t91;
-        const V t120 = c11 * t90;
-        const V t121 = t120 - t119;
-        const V t122 = c10 * t90;
-        const V t123 = c11 * t91;
-        const V t124 = t123 + t122;
-        const V t125 = c12 * t95;
-        const V t126 = c13 * t94;
-        const V t127 = t126 + t125;
-        const V t128 = c12 * t94;
-        const V t129 = c13 * t95;
-        const V t130 = t128 - t129;
-        const V t131 = c14 * t81;
-        // spectrum block of 2
-        const V t132 = t100 - t131;
-        const V t133 = t100 + t131;
+        const V t41 = c[-11] * t39;
+        const V t42 = c[-10] * t40;
+        // real block of 2
+        const V t43 = t34 - t25;
+        // real block of 13, multiplier 2
+        const V t44 = c[-13] * t43;
+        const V t45 = c[-12] * t43;
+        // real block of 2
+        const V t46 = t7 - t16;
+        // real block of 13, multiplier 2
+        const V t47 = c[-12] * t46;
+        const V t48 = c[-13] * t46;
         // complex block of 2
-        const V t134 = t112 - t124;
-        const V t135 = t121 + t109;
-        const V t136 = t124 + t112;
-        const V t137 = t121 - t109;
-        // spectrum block of 3, multiplier 2
-        const V t138 = t135 + t132;
-        const V t139 = c1 * t135;
-        const V t140 = t132 - t139;
-        const V t141 = c2 * t134;
-        const V t142 = t140 - t141;
-        const V t143 = t140 + t141;
-        // spectrum block of 3, multiplier 2
-        const V t144 = t137 + t133;
-        const V t145 = c1 * t137;
-        const V t146 = t133 - t145;
-        const V t147 = c2 * t136;
-        const V t148 = t146 + t147;
-        const V t149 = t146 - t147;
+        const V t49 = t36 + t27;
         // complex block of 2
-        const V t150 = t127 - t103;
-        const V t151 = t106 + t130;
-        const V t152 = t103 + t127;
-        const V t153 = t106 - t130;
-        // mirrored skew block of 6
-        const V t154 = c1 * t152;
-        const V t155 = c2 * t153;
-        const V t156 = t155 + t154;
-        // spectrum block of 3, multiplier 2
-        const V t157 = t151 - t118;
-        const V t158 = c1 * t151;
-        const V t159 = t118 + t158;
-        const V t160 = c2 * t150;
-        const V t161 = t160 - t159;
-        const V t162 = t159 + t160;
-        // spectrum block of 3, multiplier 2
-        const V t163 = t156 + t115;
-        const V t164 = c1 * t156;
-        const V t165 = t115 - t164;
-        const V t166 = c15 * t153;
-        const V t167 = c16 * t152;
+        const V t50 = t9 + t18;
+        // complex block of 2
+        const V t51 = t49 + t50;
+        const V t52 = t49 - t50;
+        // real block of 13, multiplier 2
+        const V t53 = c[-5] * t52;
+        const V t54 = c[-4] * t52;
+        const V t55 = c[-3] * t51;
+        const V t56 = c[-2] * t51;
+        // complex block of 2
+        const V t57 = t33 + t24;
+        // complex block of 2
+        const V t58 = t6 + t15;
+        // complex block of 2
+        const V t59 = t57 + t58;
+        const V t60 = t58 - t57;
+        // real block of 13, multiplier 2
+        const V t61 = c[-4] * t60;
+        const V t62 = c[-5] * t60;
+        const V t63 = c[-2] * t59;
+        const V t64 = c[-3] * t59;
+        // complex block of 2
+        const V t65 = t36 - t27;
+        // complex block of 2
+        const V t66 = t15 - t6;
+        // complex block of 2
+        const V t67 = t65 - t66;
+        const V t68 = t65 + t66;
+        // complex block of 2
+        const V t69 = t24 - t33;
+        // complex block of 2
+        const V t70 = t9 - t18;
+        // complex block of 2
+        const V t71 = t69 + t70;
+        const V t72 = t69 - t70;
+        // real block of 13, multiplier 2
+        const V t73 = c[-1] * t72;
+        const V t74 = c[0] * t68;
+        const V t75 = t74 + t73;
+        const V t76 = c[-1] * t68;
+        const V t77 = c[0] * t72;
+        const V t78 = t77 - t76;
+        const V t79 = c[1] * t71;
+        const V t80 = c[2] * t67;
+        const V t81 = t80 + t79;
+        const V t82 = c[1] * t67;
+        const V t83 = c[2] * t71;
+        const V t84 = t82 - t83;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t85 = c[-14] * x4r;
+        const V x6r = io.re(6);
+        const V t86 = c[-14] * x6r;
+        const V x11r = io.re(11);
+        const V t87 = c[-14] * x11r;
+        // real block of 3
+        const V t88 = t87 + t86;
+        const V t89 = t87 - t86;
+        const V t90 = c[-15] * t89;
+        const V t91 = t88 + t85;
+        const V t92 = c[-16] * t88;
+        const V t93 = t85 - t92;
+        // doubled bins
+        const V x7r = io.re(7);
+        const V t94 = c[-14] * x7r;
+        const V x10r = io.re(10);
+        const V t95 = c[-14] * x10r;
+        // real block of 3
+        const V t96 = t95 + t94;
+        // doubled bins
+        const V x25r = io.re(25);
+        const V t97 = c[-14] * x25r;
+        // real block of 3
+        const V t98 = t95 - t94;
+        const V t99 = c[-15] * t98;
+        const V t100 = t96 + t97;
+        const V t101 = c[-16] * t96;
+        const V t102 = t97 - t101;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t103 = c[-14] * x9r;
+        const V x24r = io.re(24);
+        const V t104 = c[-14] * x24r;
+        // real block of 3
+        const V t105 = t104 + t103;
+        // doubled bins
+        const V x13r = io.re(13);
+        const V t106 = c[-14] * x13r;
+        // real block of 3
+        const V t107 = t104 - t103;
+        const V t108 = c[-15] * t107;
+        const V t109 = t105 + t106;
+        const V t110 = c[-16] * t105;
+        const V t111 = t106 - t110;
+        // doubled bins
+        const V x15r = io.re(15);
+        const V t112 = c[-14] * x15r;
+        const V x16r = io.re(16);
+        const V t113 = c[-14] * x16r;
+        // real block of 3
+        const V t114 = t113 + t112;
+        // doubled bins
+        const V x17r = io.re(17);
+        const V t115 = c[-14] * x17r;
+        // real block of 3
+        const V t116 = t113 - t112;
+        const V t117 = c[-15] * t116;
+        const V t118 = t114 + t115;
+        const V t119 = c[-16] * t114;
+        const V t120 = t115 - t119;
+        // real block of 2
+        const V t121 = t91 + t109;
+        // real block of 2
+        const V t122 = t100 + t118;
+        // real block of 2
+        const V t123 = t121 + t122;
+        const V t124 = t121 - t122;
+        // real block of 13, multiplier 2
+        const V t125 = c[-11] * t123;
+        const V t126 = c[-10] * t124;
+        // real block of 2
+        const V t127 = t91 - t109;
+        // real block of 13, multiplier 2
+        const V t128 = c[-13] * t127;
+        const V t129 = c[-12] * t127;
+        // real block of 2
+        const V t130 = t100 - t118;
+        // real block of 13, multiplier 2
+        const V t131 = c[-12] * t130;
+        const V t132 = c[-13] * t130;
+        // complex block of 2
+        const V t133 = t93 + t111;
+        // complex block of 2
+        const V t134 = t102 + t120;
+        // complex block of 2
+        const V t135 = t133 + t134;
+        const V t136 = t133 - t134;
+        // real block of 13, multiplier 2
+        const V t137 = c[-5] * t136;
+        const V t138 = c[-4] * t136;
+        const V t139 = c[-3] * t135;
+        const V t140 = c[-2] * t135;
+        // complex block of 2
+        const V t141 = t90 + t108;
+        // complex block of 2
+        const V t142 = t99 + t117;
+        // complex block of 2
+        const V t143 = t141 + t142;
+        const V t144 = t142 - t141;
+        // real block of 13, multiplier 2
+        const V t145 = c[-4] * t144;
+        const V t146 = c[-5] * t144;
+        const V t147 = c[-2] * t143;
+        const V t148 = c[-3] * t143;
+        // complex block of 2
+        const V t149 = t93 - t111;
+        // complex block of 2
+        const V t150 = t117 - t99;
+        // complex block of 2
+        const V t151 = t149 - t150;
+        const V t152 = t149 + t150;
+        // complex block of 2
+        const V t153 = t108 - t90;
+        // complex block of 2
+        const V t154 = t102 - t120;
+        // complex block of 2
+        const V t155 = t153 + t154;
+        const V t156 = t153 - t154;
+        // real block of 13, multiplier 2
+        const V t157 = c[-1] * t156;
+        const V t158 = c[0] * t152;
+        const V t159 = t158 + t157;
+        const V t160 = c[-1] * t152;
+        const V t161 = c[0] * t156;
+        const V t162 = t161 - t160;
+        const V t163 = c[1] * t155;
+        const V t164 = c[2] * t151;
+        const V t165 = t164 + t163;
+        const V t166 = c[1] * t151;
+        const V t167 = c[2] * t155;
         const V t168 = t166 - t167;
-        const V t169 = t165 + t168;
-        const V t170 = t165 - t168;
-        // real block of 3
-        const V t171 = t22 + t40;
-        const V t172 = t22 - t40;
-        const V t173 = t171 + t26;
-        const V t174 = c1 * t171;
-        const V t175 = t26 - t174;
-        const V t176 = c2 * t172;
-        // real block of 3
-        const V t177 = t34 + t2;
-        const V t178 = t34 - t2;
-        const V t179 = t177 + t14;
-        const V t180 = c1 * t177;
-        const V t181 = t14 - t180;
-        const V t182 = c2 * t178;
-        // real block of 3
-        const V t183 = t42 + t8;
-        const V t184 = t42 - t8;
-        const V t185 = t183 + t36;
-        const V t186 = c1 * t183;
-        const V t187 = t36 - t186;
-        const V t188 = c2 * t184;
-        // real block of 3
-        const V t189 = t4 + t50;
-        const V t190 = t4 - t50;
-        const V t191 = t189 + t38;
-        const V t192 = c1 * t189;
-        const V t193 = t38 - t192;
-        const V t194 = c2 * t190;
-        // real block of 2
-        const V t195 = t173 + t185;
-        const V t196 = t173 - t185;
-        // real block of 2
-        const V t197 = t179 + t191;
-        const V t198 = t179 - t191;
-        // real block of 2
-        const V t199 = t195 + t197;
-        const V t200 = t195 - t197;
-        // complex block of 2
-        const V t201 = t175 + t187;
-        const V t202 = t176 + t188;
-        const V t203 = t175 - t187;
-        const V t204 = t188 - t176;
-        // complex block of 2
-        const V t205 = t181 + t193;
-        const V t206 = t182 + t194;
-        const V t207 = t181 - t193;
-        const V t208 = t194 - t182;
-        // complex block of 2
-        const V t209 = t201 + t205;
-        const V t210 = t202 + t206;
-        const V t211 = t201 - t205;
-        const V t212 = t206 - t202;
-        // complex block of 2
-        const V t213 = t203 - t208;
-        const V t214 = t204 + t207;
-        const V t215 = t203 + t208;
-        const V t216 = t204 - t207;
+        // doubled bins
+        const V x23r = io.re(23);
+        const V t169 = c[-14] * x23r;
         // real block of 13, multiplier 2
-        const V t217 = t44 + t199;
-        const V t218 = c3 * t199;
-        const V t219 = t44 - t218;
-        const V t220 = c4 * t216;
-        const V t221 = c5 * t215;
-        const V t222 = t221 + t220;
-        const V t223 = c4 * t215;
-        const V t224 = c5 * t216;
-        const V t225 = t224 - t223;
-        const V t226 = c6 * t212;
-        const V t227 = c7 * t211;
-        const V t228 = t227 - t226;
-        const V t229 = c6 * t211;
-        const V t230 = c7 * t212;
-        const V t231 = t230 + t229;
-        const V t232 = c8 * t198;
-        const V t233 = c9 * t196;
-        const V t234 = t232 - t233;
-        const V t235 = c8 * t196;
-        const V t236 = c9 * t198;
-        const V t237 = t236 + t235;
-        const V t238 = c10 * t210;
-        const V t239 = c11 * t209;
-        const V t240 = t239 - t238;
-        const V t241 = c10 * t209;
-        const V t242 = c11 * t210;
-        const V t243 = t242 + t241;
-        const V t244 = c12 * t214;
-        const V t245 = c13 * t213;
-        const V t246 = t245 + t244;
-        const V t247 = c12 * t213;
-        const V t248 = c13 * t214;
-        const V t249 = t247 - t248;
-        const V t250 = c14 * t200;
-        // spectrum block of 2
-        const V t251 = t219 - t250;
-        const V t252 = t219 + t250;
-        // complex block of 2
-        const V t253 = t231 - t243;
-        const V t254 = t240 + t228;
-        const V t255 = t243 + t231;
-        const V t256 = t240 - t228;
-        // spectrum block of 3, multiplier 2
-        const V t257 = t254 + t251;
-        const V t258 = c1 * t254;
-        const V t259 = t251 - t258;
-        const V t260 = c2 * t253;
-        const V t261 = t259 - t260;
-        const V t262 = t259 + t260;
-        // spectrum block of 3, multiplier 2
-        const V t263 = t256 + t252;
-        const V t264 = c1 * t256;
-        const V t265 = t252 - t264;
-        const V t266 = c2 * t255;
-        const V t267 = t265 + t266;
-        const V t268 = t265 - t266;
-        // complex block of 2
-        const V t269 = t246 - t222;
-        const V t270 = t225 + t249;
-        const V t271 = t222 + t246;
-        const V t272 = t225 - t249;
-        // mirrored skew block of 6
-        const V t273 = c1 * t271;
-        const V t274 = c2 * t272;
-        const V t275 = t274 + t273;
-        // spectrum block of 3, multiplier 2
-        const V t276 = t270 - t237;
-        const V t277 = c1 * t270;
-        const V t278 = t237 + t277;
-        const V t279 = c2 * t269;
-        const V t280 = t279 - t278;
-        const V t281 = t278 + t279;
-        // spectrum block of 3, multiplier 2
-        const V t282 = t275 + t234;
-        const V t283 = c1 * t275;
-        const V t284 = t234 - t283;
-        const V t285 = c15 * t272;
-        const V t286 = c16 * t271;
-        const V t287 = t285 - t286;
-        const V t288 = t284 + t287;
-        const V t289 = t284 - t287;
+        const V t170 = t0 + t123;
+        // real block of 13, multiplier 2
+        const V t171 = t169 + t39;
         // real block of 2
-        const V t290 = t98 + t217;
-        const V t291 = t98 - t217;
-        // complex block of 2
-        const V t292 = t138 + t257;
-        const V t293 = t157 + t276;
-        const V t294 = t138 - t257;
-        const V t295 = t157 - t276;
-        // complex block of 2
-        const V t296 = t149 + t268;
-        const V t297 = t170 + t289;
-        const V t298 = t149 - t268;
-        const V t299 = t289 - t170;
-        // complex block of 2
-        const V t300 = t143 + t262;
-        const V t301 = t161 + t280;
-        const V t302 = t143 - t262;
-        const V t303 = t161 - t280;
-        // complex block of 2
-        const V t304 = t142 + t261;
-        const V t305 = t162 + t281;
-        const V t306 = t142 - t261;
-        const V t307 = t162 - t281;
-        // complex block of 2
-        const V t308 = t144 + t263;
-        const V t309 = t169 + t288;
-        const V t310 = t144 - t263;
-        const V t311 = t288 - t169;
-        // complex block of 2
-        const V t312 = t148 + t267;
-        const V t313 = t163 + t282;
-        const V t314 = t148 - t267;
-        const V t315 = t282 - t163;
-        // real block of 3
-        const V t316 = t21 + t11;
-        const V t317 = t11 - t21;
-        const V t318 = t316 + t7;
-        const V t319 = c1 * t316;
-        const V t320 = t319 - t7;
-        const V t321 = c2 * t317;
-        // real block of 3
-        const V t322 = t19 - t13;
-        const V t323 = t19 + t13;
-        const V t324 = t322 - t49;
-        const V t325 = c1 * t322;
-        const V t326 = t49 + t325;
-        const V t327 = c2 * t323;
-        // real block of 3
-        const V t328 = t47 - t17;
-        const V t329 = t47 + t17;
-        const V t330 = t328 + t25;
-        const V t331 = c1 * t328;
-        const V t332 = t25 - t331;
-        const V t333 = c2 * t329;
-        // real block of 3
-        const V t334 = t31 + t29;
-        const V t335 = t31 - t29;
-        const V t336 = t334 - t33;
-        const V t337 = c1 * t334;
-        const V t338 = t33 + t337;
-        const V t339 = c2 * t335;
-        // real block of 2
-        const V t340 = t330 - t318;
-        const V t341 = t318 + t330;
-        // real block of 2
-        const V t342 = t324 + t336;
-        const V t343 = t324 - t336;
-        // real block of 2
-        const V t344 = t340 + t342;
-        const V t345 = t340 - t342;
-        // complex block of 2
-        const V t346 = t320 + t332;
-        const V t347 = t321 + t333;
-        const V t348 = t320 - t332;
-        const V t349 = t333 - t321;
-        // complex block of 2
-        const V t350 = t326 + t338;
-        const V t351 = t327 + t339;
-        const V t352 = t338 - t326;
-        const V t353 = t339 - t327;
-        // complex block of 2
-        const V t354 = t346 - t350;
-        const V t355 = t347 + t351;
-        const V t356 = t346 + t350;
-        const V t357 = t351 - t347;
-        // complex block of 2
-        const V t358 = t348 - t353;
-        const V t359 = t349 + t352;
-        const V t360 = t348 + t353;
-        const V t361 = t349 - t352;
-        // real block of 13
-        const V t362 = t1 + t344;
-        const V t363 = c3 * t344;
-        const V t364 = t1 - t363;
-        const V t365 = c17 * t361;
-        const V t366 = c18 * t360;
-        const V t367 = t366 + t365;
-        const V t368 = c17 * t360;
-        const V t369 = c18 * t361;
-        const V t370 = t369 - t368;
-        const V t371 = c19 * t357;
-        const V t372 = c20 * t356;
-        const V t373 = t372 + t371;
-        const V t374 = c19 * t356;
-        const V t375 = c20 * t357;
-        const V t376 = t374 - t375;
-        const V t377 = c9 * t343;
-        const V t378 = c8 * t341;
-        const V t379 = t377 - t378;
-        const V t380 = c9 * t341;
-        const V t381 = c8 * t343;
-        const V t382 = t381 + t380;
-        const V t383 = c21 * t355;
-        const V t384 = c22 * t354;
-        const V t385 = t384 + t383;
-        const V t386 = c21 * t354;
-        const V t387 = c22 * t355;
-        const V t388 = t386 - t387;
-        const V t389 = c23 * t359;
-        const V t390 = c24 * t358;
-        const V t391 = t389 - t390;
-        const V t392 = c23 * t358;
-        const V t393 = c24 * t359;
-        const V t394 = t393 + t392;
-        const V t395 = c14 * t345;
-        // spectrum block of 2
-        const V t396 = t364 + t395;
-        const V t397 = t364 - t395;
-        // complex block of 2
-        const V t398 = t388 - t376;
-        const V t399 = t385 + t373;
-        const V t400 = t388 + t376;
-        const V t401 = t385 - t373;
-        // spectrum block of 3, multiplier 2
-        const V t402 = t399 + t396;
-        const V t403 = c1 * t399;
-        const V t404 = t396 - t403;
-        const V t405 = c2 * t398;
-        const V t406 = t404 - t405;
-        const V t407 = t404 + t405;
-        // spectrum block of 3, multiplier 2
-        const V t408 = t401 + t397;
-        const V t409 = c1 * t401;
-        const V t410 = t397 - t409;
-        const V t411 = c2 * t400;
-        const V t412 = t410 - t411;
-        const V t413 = t410 + t411;
-        // complex block of 2
-        const V t414 = t391 - t367;
-        const V t415 = t370 + t394;
-        const V t416 = t367 + t391;
-        const V t417 = t370 - t394;
-        // mirrored skew block of 6
-        const V t418 = c1 * t416;
-        const V t419 = c2 * t417;
-        const V t420 = t419 + t418;
-        // spectrum block of 3, multiplier 2
-        const V t421 = t415 + t382;
-        const V t422 = c1 * t415;
-        const V t423 = t382 - t422;
-        const V t424 = c2 * t414;
-        const V t425 = t423 + t424;
-        const V t426 = t423 - t424;
-        // spectrum block of 3, multiplier 2
-        const V t427 = t420 + t379;
-        const V t428 = c1 * t420;
-        const V t429 = t379 - t428;
-        const V t430 = c15 * t417;
-        const V t431 = c16 * t416;
-        const V t432 = t430 - t431;
-        const V t433 = t429 + t432;
-        const V t434 = t429 - t432;
-        // real block of 3
-        const V t435 = t43 + t23;
-        const V t436 = t23 - t43;
-        const V t437 = t435 + t15;
-        const V t438 = c1 * t435;
-        const V t439 = t438 - t15;
-        const V t440 = c2 * t436;
-        // real block of 3
-        const V t441 = t39 - t27;
-        const V t442 = t39 + t27;
-        const V t443 = t441 + t5;
-        const V t444 = c1 * t441;
-        const V t445 = t5 - t444;
-        const V t446 = c2 * t442;
-        // real block of 3
-        const V t447 = t9 + t35;
-        const V t448 = t35 - t9;
-        const V t449 = t51 - t447;
-        const V t450 = c1 * t447;
-        const V t451 = t450 + t51;
-        const V t452 = c2 * t448;
-        // real block of 3
-        const V t453 = t41 + t45;
-        const V t454 = t45 - t41;
-        const V t455 = t37 - t453;
-        const V t456 = c1 * t453;
-        const V t457 = t456 + t37;
-        const V t458 = c2 * t454;
-        // real block of 2
-        const V t459 = t449 - t437;
-        const V t460 = t437 + t449;
-        // real block of 2
-        const V t461 = t443 + t455;
-        const V t462 = t443 - t455;
-        // real block of 2
-        const V t463 = t459 + t461;
-        const V t464 = t459 - t461;
-        // complex block of 2
-        const V t465 = t439 + t451;
-        const V t466 = t440 + t452;
-        const V t467 = t439 - t451;
-        const V t468 = t452 - t440;
-        // complex block of 2
-        const V t469 = t445 + t457;
-        const V t470 = t446 + t458;
-        const V t471 = t445 - t457;
-        const V t472 = t458 - t446;
-        // complex block of 2
-        const V t473 = t465 + t469;
-        const V t474 = t466 + t470;
-        const V t475 = t465 - t469;
-        const V t476 = t470 - t466;
-        // complex block of 2
-        const V t477 = t467 - t472;
-        const V t478 = t468 + t471;
-        const V t479 = t467 + t472;
-        const V t480 = t468 - t471;
-        // real block of 13
-        const V t481 = t3 + t463;
-        const V t482 = c3 * t463;
-        const V t483 = t3 - t482;
-        const V t484 = c17 * t480;
-        const V t485 = c18 * t479;
-        const V t486 = t485 + t484;
-        const V t487 = c17 * t479;
-        const V t488 = c18 * t480;
-        const V t489 = t488 - t487;
-        const V t490 = c19 * t476;
-        const V t491 = c20 * t475;
-        const V t492 = t491 + t490;
-        const V t493 = c19 * t475;
-        const V t494 = c20 * t476;
-        const V t495 = t493 - t494;
-        const V t496 = c9 * t462;
-        const V t497 = c8 * t460;
-        const V t498 = t496 - t497;
-        const V t499 = c9 * t460;
-        const V t500 = c8 * t462;
-        const V t501 = t500 + t499;
-        const V t502 = c21 * t474;
-        const V t503 = c22 * t473;
-        const V t504 = t503 + t502;
-        const V t505 = c21 * t473;
-        const V t506 = c22 * t474;
-        const V t507 = t505 - t506;
-        const V t508 = c23 * t478;
-        const V t509 = c24 * t477;
-        const V t510 = t508 - t509;
-        const V t511 = c23 * t477;
-        const V t512 = c24 * t478;
-        const V t513 = t512 + t511;
-        const V t514 = c14 * t464;
-        // spectrum block of 2
-        const V t515 = t483 + t514;
-        const V t516 = t483 - t514;
-        // complex block of 2
-        const V t517 = t507 - t495;
-        const V t518 = t504 + t492;
-        const V t519 = t507 + t495;
-        const V t520 = t504 - t492;
-        // spectrum block of 3, multiplier 2
-        const V t521 = t518 + t515;
-        const V t522 = c1 * t518;
-        const V t523 = t515 - t522;
-        const V t524 = c2 * t517;
-        const V t525 = t523 - t524;
-        const V t526 = t523 + t524;
-        // spectrum block of 3, multiplier 2
-        const V t527 = t520 + t516;
-        const V t528 = c1 * t520;
-        const V t529 = t516 - t528;
-        const V t530 = c2 * t519;
-        const V t531 = t529 - t530;
-        const V t532 = t529 + t530;
-        // complex block of 2
-        const V t533 = t510 - t486;
-        const V t534 = t489 + t513;
-        const V t535 = t486 + t510;
-        const V t536 = t489 - t513;
-        // mirrored skew block of 6
-        const V t537 = c1 * t535;
-        const V t538 = c2 * t536;
-        const V t539 = t538 + t537;
-        // spectrum block of 3, multiplier 2
-        const V t540 = t534 + t501;
-        const V t541 = c1 * t534;
-        const V t542 = t501 - t541;
-        const V t543 = c2 * t533;
-        const V t544 = t542 + t543;
-        const V t545 = t542 - t543;
-        // spectrum block of 3, multiplier 2
-        const V t546 = t539 + t498;
-        const V t547 = c1 * t539;
-        const V t548 = t498 - t547;
-        const V t549 = c15 * t536;
-        const V t550 = c16 * t535;
-        const V t551 = t549 - t550;
-        const V t552 = t548 + t551;
-        const V t553 = t548 - t551;
-        // skew block of 26
-        const V t554 = c25 * t546;
-        const V t555 = c26 * t531;
-        const V t556 = t555 + t554;
-        const V t557 = c25 * t531;
-        const V t558 = c26 * t546;
-        const V t559 = t558 - t557;
-        // complex block of 2
-        const V t560 = t412 + t556;
-        const V t561 = t427 + t559;
-        const V t562 = t412 - t556;
-        const V t563 = t427 - t559;
-        // skew block of 26
-        const V t564 = c27 * t552;
-        const V t565 = c28 * t527;
-        const V t566 = t565 + t564;
-        const V t567 = c27 * t527;
-        const V t568 = c28 * t552;
-        const V t569 = t568 - t567;
-        // complex block of 2
-        const V t570 = t408 + t566;
-        const V t571 = t433 + t569;
-        const V t572 = t408 - t566;
-        const V t573 = t433 - t569;
-        // skew block of 26
-        const V t574 = c29 * t545;
-        const V t575 = c30 * t525;
-        const V t576 = t575 + t574;
-        const V t577 = c29 * t525;
-        const V t578 = c30 * t545;
-        const V t579 = t578 - t577;
-        // complex block of 2
-        const V t580 = t406 + t576;
-        const V t581 = t426 + t579;
-        const V t582 = t406 - t576;
-        const V t583 = t426 - t579;
-        // skew block of 26
-        const V t584 = c31 * t544;
-        const V t585 = c32 * t526;
-        const V t586 = t585 - t584;
-        const V t587 = c31 * t526;
-        const V t588 = c32 * t544;
-        const V t589 = t588 + t587;
-        // complex block of 2
-        const V t590 = t407 + t586;
-        const V t591 = t425 + t589;
-        const V t592 = t407 - t586;
-        const V t593 = t589 - t425;
-        // skew block of 26
-        const V t594 = c33 * t553;
-        const V t595 = c34 * t532;
-        const V t596 = t595 + t594;
-        const V t597 = c33 * t532;
-        const V t598 = c34 * t553;
-        const V t599 = t598 - t597;
-        // complex block of 2
-        const V t600 = t413 + t596;
-        const V t601 = t434 + t599;
-        const V t602 = t413 - t596;
-        const V t603 = t434 - t599;
-        // skew block of 26
-        const V t604 = c35 * t540;
-        const V t605 = c36 * t521;
-        const V t606 = t605 - t604;
-        const V t607 = c35 * t521;
-        const V t608 = c36 * t540;
-        const V t609 = t608 + t607;
-        // complex block of 2
-        const V t610 = t402 + t606;
-        const V t611 = t421 + t609;
-        const V t612 = t402 - t606;
-        const V t613 = t609 - t421;
+        const V t172 = t170 + t171;
+        const V t173 = t170 - t171;
         // spectrum block of 53
-        const V t614 = c37 * t290;
+        const V t174 = c[83] * t172;
+        // real block of 13, multiplier 2
+        const V t175 = t0 - t125;
+        // spectrum block of 2
+        const V t176 = t175 - t126;
+        const V t177 = t175 + t126;
+        // real block of 13, multiplier 2
+        const V t178 = t137 - t145;
+        const V t179 = t139 - t147;
+        // complex block of 2
+        const V t180 = t179 + t178;
+        const V t181 = t179 - t178;
+        // spectrum block of 3, multiplier 2
+        const V t182 = t180 + t176;
+        const V t183 = c[-16] * t180;
+        const V t184 = t176 - t183;
+        // spectrum block of 3, multiplier 2
+        const V t185 = t181 + t177;
+        const V t186 = c[-16] * t181;
+        const V t187 = t177 - t186;
+        // real block of 13, multiplier 2
+        const V t188 = t146 + t138;
+        const V t189 = t148 + t140;
+        // complex block of 2
+        const V t190 = t188 - t189;
+        const V t191 = t189 + t188;
+        // spectrum block of 3, multiplier 2
+        const V t192 = c[-15] * t190;
+        // spectrum block of 3, multiplier 2
+        const V t193 = c[-15] * t191;
+        // real block of 13, multiplier 2
+        const V t194 = t131 - t128;
+        // complex block of 2
+        const V t195 = t159 + t165;
+        // mirrored skew block of 6
+        const V t196 = c[-16] * t195;
+        // spectrum block of 3, multiplier 2
+        const V t197 = c[3] * t195;
+        // complex block of 2
+        const V t198 = t162 - t168;
+        // mirrored skew block of 6
+        const V t199 = c[-15] * t198;
+        // spectrum block of 3, multiplier 2
+        const V t200 = c[4] * t198;
+        // mirrored skew block of 6
+        const V t201 = t199 + t196;
+        // spectrum block of 3, multiplier 2
+        const V t202 = t201 + t194;
+        const V t203 = c[-16] * t201;
+        const V t204 = t200 - t197;
+        // real block of 13, multiplier 2
+        const V t205 = t132 + t129;
+        // complex block of 2
+        const V t206 = t165 - t159;
+        // spectrum block of 3, multiplier 2
+        const V t207 = c[-15] * t206;
+        // complex block of 2
+        const V t208 = t162 + t168;
+        // spectrum block of 3, multiplier 2
+        const V t209 = c[-16] * t208;
+        const V t210 = t208 - t205;
+        const V t211 = t205 + t209;
+        const V t212 = t207 - t211;
+        const V t213 = t211 + t207;
+        // real block of 13, multiplier 2
+        const V t214 = t169 - t41;
+        // spectrum block of 2
+        const V t215 = t214 - t42;
+        const V t216 = t214 + t42;
+        // real block of 13, multiplier 2
+        const V t217 = t53 - t61;
+        const V t218 = t55 - t63;
+        // complex block of 2
+        const V t219 = t218 + t217;
+        const V t220 = t218 - t217;
+        // spectrum block of 3, multiplier 2
+        const V t221 = t219 + t215;
+        const V t222 = c[-16] * t219;
+        const V t223 = t215 - t222;
+        // spectrum block of 3, multiplier 2
+        const V t224 = t220 + t216;
+        const V t225 = c[-16] * t220;
+        const V t226 = t216 - t225;
+        // real block of 13, multiplier 2
+        const V t227 = t62 + t54;
+        const V t228 = t64 + t56;
+        // complex block of 2
+        const V t229 = t227 - t228;
+        const V t230 = t228 + t227;
+        // spectrum block of 3, multiplier 2
+        const V t231 = c[-15] * t229;
+        // spectrum block of 3, multiplier 2
+        const V t232 = c[-15] * t230;
+        // real block of 13, multiplier 2
+        const V t233 = t47 - t44;
+        // complex block of 2
+        const V t234 = t75 + t81;
+        // mirrored skew block of 6
+        const V t235 = c[-16] * t234;
+        // spectrum block of 3, multiplier 2
+        const V t236 = c[3] * t234;
+        // complex block of 2
+        const V t237 = t78 - t84;
+        // mirrored skew block of 6
+        const V t238 = c[-15] * t237;
+        // spectrum block of 3, multiplier 2
+        const V t239 = c[4] * t237;
+        // mirrored skew block of 6
+        const V t240 = t238 + t235;
+        // spectrum block of 3, multiplier 2
+        const V t241 = t240 + t233;
+        const V t242 = c[-16] * t240;
+        const V t243 = t239 - t236;
+        // real block of 13, multiplier 2
+        const V t244 = t48 + t45;
+        // complex block of 2
+        const V t245 = t81 - t75;
+        // spectrum block of 3, multiplier 2
+        const V t246 = c[-15] * t245;
+        // complex block of 2
+        const V t247 = t78 + t84;
+        // spectrum block of 3, multiplier 2
+        const V t248 = c[-16] * t247;
+        const V t249 = t247 - t244;
+        const V t250 = t244 + t248;
+        const V t251 = t246 - t250;
+        const V t252 = t250 + t246;
+        // spectrum block of 3, multiplier 2
+        const V t253 = t184 - t192;
+        // spectrum block of 3, multiplier 2
+        const V t254 = t223 - t231;
+        // complex block of 2
+        const V t255 = t253 + t254;
+        const V t256 = t253 - t254;
+        const V t257 = t213 + t252;
+        // spectrum block of 53
+        const V t258 = c[21] * t257;
+        // complex block of 2
+        const V t259 = t213 - t252;
+        // spectrum block of 53
+        const V t260 = c[22] * t259;
+        const V t261 = c[23] * t259;
+        const V t262 = c[22] * t256;
+        const V t263 = c[23] * t256;
+        const V t264 = t260 + t263;
+        const V t265 = c[24] * t257;
+        const V t266 = c[21] * t255;
+        const V t267 = c[24] * t255;
+        const V t268 = t267 - t258;
+        // spectrum block of 3, multiplier 2
+        const V t269 = t184 + t192;
+        // spectrum block of 3, multiplier 2
+        const V t270 = t223 + t231;
+        // complex block of 2
+        const V t271 = t269 + t270;
+        const V t272 = t269 - t270;
+        const V t273 = t212 + t251;
+        // spectrum block of 53
+        const V t274 = c[25] * t273;
+        // complex block of 2
+        const V t275 = t212 - t251;
+        // spectrum block of 53
+        const V t276 = c[26] * t275;
+        const V t277 = c[27] * t273;
+        const V t278 = c[25] * t271;
+        const V t279 = c[27] * t271;
+        const V t280 = t274 + t279;
+        const V t281 = c[28] * t275;
+        const V t282 = c[26] * t272;
+        const V t283 = c[28] * t272;
+        const V t284 = t276 + t283;
+        // spectrum block of 3, multiplier 2
+        const V t285 = t187 + t193;
+        // spectrum block of 3, multiplier 2
+        const V t286 = t226 + t232;
+        // complex block of 2
+        const V t287 = t285 + t286;
+        const V t288 = t285 - t286;
+        const V t289 = t202 + t241;
+        // spectrum block of 53
+        const V t290 = c[29] * t289;
+        // complex block of 2
+        const V t291 = t241 - t202;
+        // spectrum block of 53
+        const V t292 = c[30] * t291;
+        const V t293 = c[31] * t291;
+        const V t294 = c[30] * t288;
+        const V t295 = c[31] * t288;
+        const V t296 = t292 + t295;
+        const V t297 = c[32] * t289;
+        const V t298 = c[29] * t287;
+        const V t299 = c[32] * t287;
+        const V t300 = t290 + t299;
+        // spectrum block of 3, multiplier 2
+        const V t301 = t187 - t193;
+        // spectrum block of 3, multiplier 2
+        const V t302 = t226 - t232;
+        // complex block of 2
+        const V t303 = t301 + t302;
+        const V t304 = t301 - t302;
+        // spectrum block of 53
+        const V t305 = c[33] * t303;
+        const V t306 = c[34] * t303;
+        const V t307 = c[35] * t304;
+        const V t308 = c[36] * t304;
+        // spectrum block of 3, multiplier 2
+        const V t309 = t194 - t203;
+        const V t310 = t309 - t204;
+        // spectrum block of 3, multiplier 2
+        const V t311 = t233 - t242;
+        const V t312 = t311 - t243;
+        // spectrum block of 3, multiplier 2
+        const V t313 = t309 + t204;
+        // spectrum block of 3, multiplier 2
+        const V t314 = t311 + t243;
+        // complex block of 2
+        const V t315 = t310 + t312;
+        // spectrum block of 53
+        const V t316 = c[33] * t315;
+        // complex block of 2
+        const V t317 = t312 - t310;
+        // spectrum block of 53
+        const V t318 = c[35] * t317;
+        // complex block of 2
+        const V t319 = t182 + t221;
+        // spectrum block of 53
+        const V t320 = c[37] * t319;
+        const V t321 = c[38] * t319;
+        // complex block of 2
+        const V t322 = t210 + t249;
+        // spectrum block of 53
+        const V t323 = c[38] * t322;
+        const V t324 = c[37] * t322;
+        // complex block of 2
+        const V t325 = t182 - t221;
+        // spectrum block of 53
+        const V t326 = c[39] * t325;
+        const V t327 = c[40] * t325;
+        // complex block of 2
+        const V t328 = t210 - t249;
+        // spectrum block of 53
+        const V t329 = c[40] * t328;
+        const V t330 = c[39] * t328;
+        // complex block of 2
+        const V t331 = t185 + t224;
+        // spectrum block of 53
+        const V t332 = c[41] * t331;
+        const V t333 = c[42] * t331;
+        // complex block of 2
+        const V t334 = t185 - t224;
+        // spectrum block of 53
+        const V t335 = c[43] * t334;
+        const V t336 = c[44] * t334;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t337 = c[-14] * x1i;
+        const V x2i = io.im(2);
+        const V t338 = c[-14] * x2i;
+        const V x3i = io.im(3);
+        const V t339 = c[-14] * x3i;
+        const V x14i = io.im(14);
+        const V t340 = c[-14] * x14i;
+        const V x20i = io.im(20);
+        const V t341 = c[-14] * x20i;
+        // real block of 3
+        const V t342 = t341 - t340;
+        const V t343 = t341 + t340;
+        const V t344 = c[-15] * t343;
+        const V t345 = t342 + t339;
+        const V t346 = c[-16] * t342;
+        const V t347 = t339 - t346;
+        // doubled bins
+        const V x5i = io.im(5);
+        const V t348 = c[-14] * x5i;
+        const V x18i = io.im(18);
+        const V t349 = c[-14] * x18i;
+        // real block of 3
+        const V t350 = t348 + t349;
+        // doubled bins
+        const V x26i = io.im(26);
+        const V t351 = c[-14] * x26i;
+        // real block of 3
+        const V t352 = t349 - t348;
+        const V t353 = c[-15] * t352;
+        const V t354 = t351 - t350;
+        const V t355 = c[-16] * t350;
+        const V t356 = t355 + t351;
+        // doubled bins
+        const V x8i = io.im(8);
+        const V t357 = c[-14] * x8i;
+        const V x12i = io.im(12);
+        const V t358 = c[-14] * x12i;
+        const V x22i = io.im(22);
+        const V t359 = c[-14] * x22i;
+        // real block of 3
+        const V t360 = t359 + t358;
+        const V t361 = t358 - t359;
+        const V t362 = c[-15] * t361;
+        const V t363 = t360 + t357;
+        const V t364 = c[-16] * t360;
+        const V t365 = t364 - t357;
+        // doubled bins
+        const V x19i = io.im(19);
+        const V t366 = c[-14] * x19i;
+        const V x21i = io.im(21);
+        const V t367 = c[-14] * x21i;
+        const V x23i = io.im(23);
+        const V t368 = c[-14] * x23i;
+        // real block of 3
+        const V t369 = t367 + t368;
+        const V t370 = t368 - t367;
+        const V t371 = c[-15] * t370;
+        const V t372 = t366 - t369;
+        const V t373 = c[-16] * t369;
+        const V t374 = t373 + t366;
+        // real block of 2
+        const V t375 = t354 - t363;
+        // real block of 2
+        const V t376 = t345 + t372;
+        // real block of 2
+        const V t377 = t375 + t376;
+        const V t378 = t375 - t376;
+        // real block of 13
+        const V t379 = c[-11] * t377;
+        const V t380 = c[-10] * t378;
+        // real block of 2
+        const V t381 = t363 + t354;
+        // real block of 13
+        const V t382 = c[-12] * t381;
+        const V t383 = c[-13] * t381;
+        // real block of 2
+        const V t384 = t345 - t372;
+        // real block of 13
+        const V t385 = c[-13] * t384;
+        const V t386 = c[-12] * t384;
+        // complex block of 2
+        const V t387 = t365 + t356;
+        // complex block of 2
+        const V t388 = t347 + t374;
+        // complex block of 2
+        const V t389 = t387 + t388;
+        const V t390 = t387 - t388;
+        // real block of 13
+        const V t391 = c[5] * t390;
+        const V t392 = c[6] * t390;
+        const V t393 = c[7] * t389;
+        const V t394 = c[8] * t389;
+        // complex block of 2
+        const V t395 = t362 + t353;
+        // complex block of 2
+        const V t396 = t344 + t371;
+        // complex block of 2
+        const V t397 = t395 + t396;
+        const V t398 = t396 - t395;
+        // real block of 13
+        const V t399 = c[6] * t398;
+        const V t400 = c[5] * t398;
+        const V t401 = c[8] * t397;
+        const V t402 = c[7] * t397;
+        // complex block of 2
+        const V t403 = t365 - t356;
+        // complex block of 2
+        const V t404 = t371 - t344;
+        // complex block of 2
+        const V t405 = t403 - t404;
+        const V t406 = t403 + t404;
+        // complex block of 2
+        const V t407 = t353 - t362;
+        // complex block of 2
+        const V t408 = t347 - t374;
+        // complex block of 2
+        const V t409 = t407 + t408;
+        const V t410 = t407 - t408;
+        // real block of 13
+        const V t411 = c[9] * t410;
+        const V t412 = c[10] * t406;
+        const V t413 = t412 + t411;
+        const V t414 = c[9] * t406;
+        const V t415 = c[10] * t410;
+        const V t416 = t415 - t414;
+        const V t417 = c[11] * t409;
+        const V t418 = c[12] * t405;
+        const V t419 = t417 - t418;
+        const V t420 = c[11] * t405;
+        const V t421 = c[12] * t409;
+        const V t422 = t421 + t420;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t423 = c[-14] * x4i;
+        const V x6i = io.im(6);
+        const V t424 = c[-14] * x6i;
+        const V x11i = io.im(11);
+        const V t425 = c[-14] * x11i;
+        // real block of 3
+        const V t426 = t425 + t424;
+        const V t427 = c[-16] * t426;
+        const V t428 = t424 - t425;
+        const V t429 = c[-15] * t428;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t430 = c[-14] * x7i;
+        const V x10i = io.im(10);
+        const V t431 = c[-14] * x10i;
+        // real block of 3
+        const V t432 = t431 - t430;
+        const V t433 = c[-16] * t432;
+        const V t434 = t431 + t430;
+        const V t435 = c[-15] * t434;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t436 = c[-14] * x9i;
+        const V x24i = io.im(24);
+        const V t437 = c[-14] * x24i;
+        // real block of 3
+        const V t438 = t437 - t436;
+        const V t439 = c[-16] * t438;
+        const V t440 = t437 + t436;
+        const V t441 = c[-15] * t440;
+        // doubled bins
+        const V x13i = io.im(13);
+        const V t442 = c[-14] * x13i;
+        const V x15i = io.im(15);
+        const V t443 = c[-14] * x15i;
+        const V x16i = io.im(16);
+        const V t444 = c[-14] * x16i;
+        // real block of 3
+        const V t445 = t444 + t443;
+        const V t446 = c[-16] * t445;
+        const V t447 = t444 - t443;
+        const V t448 = c[-15] * t447;
+        // doubled bins
+        const V x17i = io.im(17);
+        const V t449 = c[-14] * x17i;
+        const V x25i = io.im(25);
+        const V t450 = c[-14] * x25i;
+        // real block of 3
+        const V t451 = t426 + t423;
+        // real block of 3
+        const V t452 = t438 + t442;
+        // real block of 2
+        const V t453 = t452 - t451;
+        // real block of 3
+        const V t454 = t432 - t450;
+        // real block of 3
+        const V t455 = t445 - t449;
+        // real block of 2
+        const V t456 = t454 + t455;
+        // real block of 2
+        const V t457 = t451 + t452;
+        // real block of 2
+        const V t458 = t454 - t455;
+        // real block of 2
+        const V t459 = t453 + t456;
+        const V t460 = t453 - t456;
+        // real block of 3
+        const V t461 = t427 - t423;
+        // real block of 3
+        const V t462 = t442 - t439;
+        // complex block of 2
+        const V t463 = t461 + t462;
+        const V t464 = t461 - t462;
+        // real block of 3
+        const V t465 = t450 + t433;
+        // real block of 3
+        const V t466 = t449 + t446;
+        // complex block of 2
+        const V t467 = t465 + t466;
+        const V t468 = t466 - t465;
+        // complex block of 2
+        const V t469 = t441 - t429;
+        // complex block of 2
+        const V t470 = t448 - t435;
+        // complex block of 2
+        const V t471 = t463 - t467;
+        const V t472 = t463 + t467;
+        // complex block of 2
+        const V t473 = t464 - t470;
+        // real block of 13
+        const V t474 = c[12] * t473;
+        const V t475 = c[11] * t473;
+        // complex block of 2
+        const V t476 = t469 + t468;
+        // real block of 13
+        const V t477 = c[11] * t476;
+        const V t478 = c[12] * t476;
+        // complex block of 2
+        const V t479 = t464 + t470;
+        // real block of 13
+        const V t480 = c[10] * t479;
+        const V t481 = c[9] * t479;
+        // complex block of 2
+        const V t482 = t469 - t468;
+        // real block of 13
+        const V t483 = c[9] * t482;
+        const V t484 = c[10] * t482;
+        // complex block of 2
+        const V t485 = t429 + t441;
+        // complex block of 2
+        const V t486 = t435 + t448;
+        // complex block of 2
+        const V t487 = t485 + t486;
+        const V t488 = t486 - t485;
+        // real block of 13
+        const V t489 = c[6] * t488;
+        const V t490 = c[8] * t487;
+        const V t491 = t337 + t459;
+        // spectrum block of 53
+        const V t492 = c[45] * t491;
+        const V t493 = c[46] * t491;
+        // real block of 13
+        const V t494 = c[-11] * t459;
+        const V t495 = t337 - t494;
+        const V t496 = c[-10] * t460;
+        // spectrum block of 2
+        const V t497 = t495 + t496;
+        const V t498 = t495 - t496;
+        // real block of 13
+        const V t499 = t480 + t483;
+        const V t500 = t477 - t474;
+        // complex block of 2
+        const V t501 = t500 - t499;
+        const V t502 = t499 + t500;
+        // real block of 13
+        const V t503 = t484 - t481;
+        const V t504 = t478 + t475;
+        // complex block of 2
+        const V t505 = t503 + t504;
+        const V t506 = t503 - t504;
+        // real block of 13
+        const V t507 = c[-13] * t457;
+        const V t508 = c[-12] * t458;
+        const V t509 = t508 + t507;
+        // mirrored skew block of 6
+        const V t510 = c[-16] * t502;
+        const V t511 = c[-15] * t506;
+        const V t512 = t511 + t510;
+        // spectrum block of 3, multiplier 2
+        const V t513 = t505 + t509;
+        const V t514 = c[-16] * t505;
+        const V t515 = c[-15] * t501;
+        // spectrum block of 3, multiplier 2
+        const V t516 = c[4] * t506;
+        const V t517 = c[3] * t502;
+        // real block of 13
+        const V t518 = c[5] * t472;
+        const V t519 = t518 + t489;
+        const V t520 = c[7] * t471;
+        const V t521 = t520 + t490;
+        // complex block of 2
+        const V t522 = t521 + t519;
+        // spectrum block of 3, multiplier 2
+        const V t523 = c[-16] * t522;
+        // complex block of 2
+        const V t524 = t521 - t519;
+        // spectrum block of 3, multiplier 2
+        const V t525 = c[-16] * t524;
+        // real block of 13
+        const V t526 = c[6] * t472;
+        const V t527 = c[5] * t488;
+        const V t528 = t526 - t527;
+        const V t529 = c[8] * t471;
+        const V t530 = c[7] * t487;
+        const V t531 = t529 - t530;
+        // complex block of 2
+        const V t532 = t531 - t528;
+        const V t533 = t531 + t528;
+        // real block of 13
+        const V t534 = c[-13] * t458;
+        const V t535 = c[-12] * t457;
+        const V t536 = t534 - t535;
+        // real block of 13
+        const V t537 = t338 - t379;
+        // spectrum block of 2
+        const V t538 = t537 + t380;
+        const V t539 = t537 - t380;
+        // real block of 13
+        const V t540 = t391 + t399;
+        const V t541 = t393 + t401;
+        // complex block of 2
+        const V t542 = t541 + t540;
+        const V t543 = t541 - t540;
+        // spectrum block of 3, multiplier 2
+        const V t544 = t542 + t538;
+        // skew block of 26
+        const V t545 = c[47] * t544;
+        const V t546 = c[48] * t544;
+        // spectrum block of 3, multiplier 2
+        const V t547 = c[-16] * t542;
+        const V t548 = t538 - t547;
+        // spectrum block of 3, multiplier 2
+        const V t549 = t543 + t539;
+        const V t550 = c[-16] * t543;
+        const V t551 = t539 - t550;
+        // real block of 13
+        const V t552 = t392 - t400;
+        const V t553 = t394 - t402;
+        // complex block of 2
+        const V t554 = t553 - t552;
+        const V t555 = t553 + t552;
+        // spectrum block of 3, multiplier 2
+        const V t556 = c[-15] * t554;
+        // spectrum block of 3, multiplier 2
+        const V t557 = c[-15] * t555;
+        // real block of 13
+        const V t558 = t385 - t382;
+        // complex block of 2
+        const V t559 = t413 + t419;
+        // mirrored skew block of 6
+        const V t560 = c[-16] * t559;
+        // spectrum block of 3, multiplier 2
+        const V t561 = c[3] * t559;
+        // complex block of 2
+        const V t562 = t416 - t422;
+        // mirrored skew block of 6
+        const V t563 = c[-15] * t562;
+        // spectrum block of 3, multiplier 2
+        const V t564 = c[4] * t562;
+        // mirrored skew block of 6
+        const V t565 = t563 + t560;
+        // spectrum block of 3, multiplier 2
+        const V t566 = t565 + t558;
+        const V t567 = c[-16] * t565;
+        const V t568 = t564 - t561;
+        // real block of 13
+        const V t569 = t386 + t383;
+        // complex block of 2
+        const V t570 = t416 + t422;
+        // spectrum block of 3, multiplier 2
+        const V t571 = t570 + t569;
+        const V t572 = c[-16] * t570;
+        // complex block of 2
+        const V t573 = t419 - t413;
+        // spectrum block of 3, multiplier 2
+        const V t574 = c[-15] * t573;
+        const V t575 = t569 - t572;
+        const V t576 = t575 - t574;
+        // skew block of 26
+        const V t577 = c[48] * t571;
+        const V t578 = c[47] * t571;
+        // spectrum block of 3, multiplier 2
+        const V t579 = t522 + t497;
+        // skew block of 26
+        const V t580 = t545 - t577;
+        // complex block of 2
+        const V t581 = t579 + t580;
+        const V t582 = t579 - t580;
+        // spectrum block of 53
+        const V t583 = c[49] * t581;
+        const V t584 = c[50] * t581;
+        const V t585 = c[51] * t582;
+        const V t586 = c[52] * t582;
+        // spectrum block of 3, multiplier 2
+        const V t587 = t497 - t523;
+        const V t588 = c[-15] * t532;
+        const V t589 = t587 - t588;
+        // spectrum block of 3, multiplier 2
+        const V t590 = t509 - t514;
+        const V t591 = t590 - t515;
+        // spectrum block of 3, multiplier 2
+        const V t592 = t548 - t556;
+        // skew block of 26
+        const V t593 = c[53] * t592;
+        const V t594 = c[54] * t592;
+        const V t595 = c[54] * t576;
+        const V t596 = c[53] * t576;
+        // spectrum block of 3, multiplier 2
+        const V t597 = t587 + t588;
+        // spectrum block of 3, multiplier 2
+        const V t598 = t590 + t515;
+        // skew block of 26
+        const V t599 = t593 + t595;
+        // complex block of 2
+        const V t600 = t589 + t599;
+        const V t601 = t589 - t599;
+        // skew block of 26
+        const V t602 = t596 - t594;
+        // complex block of 2
+        const V t603 = t591 + t602;
+        const V t604 = t591 - t602;
+        // spectrum block of 3, multiplier 2
+        const V t605 = t524 + t498;
+        const V t606 = t498 - t525;
+        const V t607 = c[-15] * t533;
+        const V t608 = t606 - t607;
+        // spectrum block of 3, multiplier 2
+        const V t609 = t512 + t536;
+        // spectrum block of 3, multiplier 2
+        const V t610 = t551 - t557;
+        // skew block of 26
+        const V t611 = c[55] * t610;
+        const V t612 = c[56] * t610;
+        const V t613 = c[56] * t566;
+        const V t614 = c[55] * t566;
+        // spectrum block of 3, multiplier 2
+        const V t615 = t606 + t607;
+        // skew block of 26
+        const V t616 = t611 + t613;
+        // complex block of 2
+        const V t617 = t608 + t616;
+        const V t618 = t608 - t616;
+        // skew block of 26
+        const V t619 = t614 - t612;
+        // complex block of 2
+        const V t620 = t609 + t619;
+        const V t621 = t609 - t619;
+        // spectrum block of 3, multiplier 2
+        const V t622 = c[-16] * t512;
+        const V t623 = t536 - t622;
+        const V t624 = t516 - t517;
+        const V t625 = t623 + t624;
+        const V t626 = t623 - t624;
+        // spectrum block of 3, multiplier 2
+        const V t627 = t548 + t556;
+        // skew block of 26
+        const V t628 = c[57] * t627;
+        const V t629 = c[58] * t627;
+        // spectrum block of 3, multiplier 2
+        const V t630 = t575 + t574;
+        // skew block of 26
+        const V t631 = c[58] * t630;
+        const V t632 = c[57] * t630;
+        const V t633 = t628 - t631;
+        const V t634 = t632 + t629;
+        // spectrum block of 3, multiplier 2
+        const V t635 = t551 + t557;
+        // skew block of 26
+        const V t636 = c[59] * t635;
+        const V t637 = c[60] * t635;
+        // spectrum block of 3, multiplier 2
+        const V t638 = t558 - t567;
+        const V t639 = t638 + t568;
+        const V t640 = t638 - t568;
+        // skew block of 26
+        const V t641 = c[61] * t549;
+        const V t642 = c[62] * t549;
+        const V t643 = c[62] * t639;
+        const V t644 = t641 + t643;
+        const V t645 = c[61] * t639;
+        const V t646 = t645 - t642;
+        const V t647 = c[60] * t640;
+        const V t648 = c[59] * t640;
+        const V t649 = t578 + t546;
+        // complex block of 2
+        const V t650 = t513 + t649;
+        const V t651 = t649 - t513;
+        // spectrum block of 53
+        const V t652 = c[50] * t650;
+        const V t653 = c[49] * t650;
+        const V t654 = c[52] * t651;
+        const V t655 = c[51] * t651;
+        // real block of 13
+        const V t656 = t338 + t377;
+        // spectrum block of 53
+        const V t657 = c[46] * t656;
+        const V t658 = c[45] * t656;
+        // complex block of 2
+        const V t659 = t313 + t314;
+        // spectrum block of 53
+        const V t660 = c[42] * t659;
+        const V t661 = c[41] * t659;
+        const V t662 = c[34] * t315;
+        const V t663 = t305 + t662;
+        const V t664 = t298 - t297;
+        const V t665 = t332 + t660;
+        // real block of 3, multiplier 2
+        const V t666 = t664 + t663;
+        const V t667 = t666 + t665;
+        const V t668 = c[-16] * t666;
+        // spectrum block of 53
+        const V t669 = t333 - t661;
+        // real block of 3, multiplier 2
+        const V t670 = t664 - t663;
+        const V t671 = c[-15] * t670;
+        // spectrum block of 53
         const V x0r = io.re(0);
-        const V t615 = x0r - t614;
-        const V t616 = c38 * t561;
-        const V t617 = c39 * t560;
-        const V t618 = t616 - t617;
-        const V t619 = c38 * t560;
-        const V t620 = c39 * t561;
-        const V t621 = t620 + t619;
-        const V t622 = c40 * t315;
-        const V t623 = c41 * t314;
-        const V t624 = t623 - t622;
-        const V t625 = c40 * t314;
-        const V t626 = c41 * t315;
-        const V t627 = t626 + t625;
-        const V t628 = c42 * t571;
-        const V t629 = c43 * t570;
-        const V t630 = t628 - t629;
-        const V t631 = c42 * t570;
-        const V t632 = c43 * t571;
-        const V t633 = t632 + t631;
-        const V t634 = c44 * t293;
-        const V t635 = c45 * t292;
-        const V t636 = t635 - t634;
-        const V t637 = c44 * t292;
-        const V t638 = c45 * t293;
-        const V t639 = t638 + t637;
-        const V t640 = c46 * t581;
-        const V t641 = c47 * t580;
-        const V t642 = t641 + t640;
-        const V t643 = c46 * t580;
-        const V t644 = c47 * t581;
-        const V t645 = t644 - t643;
-        const V t646 = c48 * t311;
-        const V t647 = c49 * t310;
-        const V t648 = t647 + t646;
-        const V t649 = c48 * t310;
-        const V t650 = c49 * t311;
-        const V t651 = t649 - t650;
-        const V t652 = c50 * t591;
-        const V t653 = c51 * t590;
-        const V t654 = t653 - t652;
-        const V t655 = c50 * t590;
-        const V t656 = c51 * t591;
-        const V t657 = t656 + t655;
-        const V t658 = c52 * t297;
-        const V t659 = c53 * t296;
-        const V t660 = t659 + t658;
-        const V t661 = c52 * t296;
-        const V t662 = c53 * t297;
-        const V t663 = t661 - t662;
-        const V t664 = c54 * t601;
-        const V t665 = c55 * t600;
-        const V t666 = t665 + t664;
-        const V t667 = c54 * t600;
-        const V t668 = c55 * t601;
-        const V t669 = t668 - t667;
-        const V t670 = c56 * t307;
-        const V t671 = c57 * t306;
-        const V t672 = t670 - t671;
-        const V t673 = c56 * t306;
-        const V t674 = c57 * t307;
-        const V t675 = t674 + t673;
-        const V t676 = c58 * t611;
-        const V t677 = c59 * t610;
-        const V t678 = t677 + t676;
-        const V t679 = c58 * t610;
-        const V t680 = c59 * t611;
-        const V t681 = t680 - t679;
-        const V t682 = c60 * t301;
-        const V t683 = c61 * t300;
-        const V t684 = t683 - t682;
-        const V t685 = c60 * t300;
-        const V t686 = c61 * t301;
-        const V t687 = t686 + t685;
-        const V t688 = c62 * t481;
-        const V t689 = c63 * t362;
+        const V t672 = x0r - t174;
+        const V t673 = t320 - t323;
+        const V t674 = t278 - t277;
+        const V t675 = t266 + t265;
+        // real block of 3, multiplier 2
+        const V t676 = t674 - t675;
+        const V t677 = t675 + t674;
+        const V t678 = t676 + t673;
+        const V t679 = c[-16] * t676;
+        const V t680 = t673 - t679;
+        const V t681 = c[-15] * t677;
+        // spectrum block of 53
+        const V t682 = t324 + t321;
+        const V t683 = t306 - t316;
+        // skew block of 6
+        const V t684 = c[-15] * t683;
+        const V t685 = c[-16] * t683;
+        const V t686 = c[-16] * t280;
+        const V t687 = c[-15] * t280;
+        const V t688 = c[-15] * t300;
+        const V t689 = c[-16] * t268;
         const V t690 = t689 + t688;
-        const V t691 = c62 * t362;
-        const V t692 = c63 * t481;
-        const V t693 = t691 - t692;
-        const V t694 = c64 * t303;
-        const V t695 = c65 * t302;
-        const V t696 = t695 - t694;
-        const V t697 = c64 * t302;
-        const V t698 = c65 * t303;
-        const V t699 = t698 + t697;
-        const V t700 = c66 * t613;
-        const V t701 = c67 * t612;
-        const V t702 = t700 - t701;
-        const V t703 = c66 * t612;
-        const V t704 = c67 * t613;
-        const V t705 = t704 + t703;
-        const V t706 = c68 * t305;
-        const V t707 = c69 * t304;
+        const V t691 = c[-15] * t268;
+        const V t692 = c[-16] * t300;
+        const V t693 = t692 - t691;
+        const V t694 = t684 - t686;
+        // complex block of 3
+        const V t695 = t694 + t690;
+        const V t696 = t694 - t690;
+        // skew block of 6
+        const V t697 = t687 + t685;
+        // complex block of 3
+        const V t698 = t693 - t697;
+        const V t699 = t697 + t693;
+        // real block of 3, multiplier 2
+        const V t700 = t665 - t668;
+        // complex block of 2
+        const V t701 = t680 + t700;
+        const V t702 = t680 - t700;
+        const V t703 = t671 - t681;
+        // spectrum block of 13, multiplier 4
+        const V t704 = c[13] * t703;
+        // complex block of 2
+        const V t705 = t681 + t671;
+        // spectrum block of 13, multiplier 4
+        const V t706 = c[14] * t705;
+        const V t707 = c[15] * t702;
         const V t708 = t707 + t706;
-        const V t709 = c68 * t304;
-        const V t710 = c69 * t305;
-        const V t711 = t709 - t710;
-        const V t712 = c70 * t603;
-        const V t713 = c71 * t602;
-        const V t714 = t713 + t712;
-        const V t715 = c70 * t602;
-        const V t716 = c71 * t603;
-        const V t717 = t716 - t715;
-        const V t718 = c72 * t299;
-        const V t719 = c73 * t298;
-        const V t720 = t719 + t718;
-        const V t721 = c72 * t298;
-        const V t722 = c73 * t299;
-        const V t723 = t721 - t722;
-        const V t724 = c74 * t593;
-        const V t725 = c75 * t592;
-        const V t726 = t725 - t724;
-        const V t727 = c74 * t592;
-        const V t728 = c75 * t593;
-        const V t729 = t728 + t727;
-        const V t730 = c76 * t309;
-        const V t731 = c77 * t308;
-        const V t732 = t731 + t730;
-        const V t733 = c76 * t308;
-        const V t734 = c77 * t309;
-        const V t735 = t733 - t734;
-        const V t736 = c78 * t583;
-        const V t737 = c79 * t582;
+        const V t709 = c[16] * t701;
+        const V t710 = t704 - t709;
+        // spectrum block of 3
+        const V t711 = c[17] * t703;
+        const V t712 = c[18] * t701;
+        // spectrum block of 3
+        const V t713 = c[19] * t705;
+        const V t714 = c[20] * t702;
+        // real block of 2
+        const V t715 = t678 + t667;
+        // spectrum block of 13, multiplier 4
+        const V t716 = c[-11] * t715;
+        const V t717 = t672 - t716;
+        // real block of 2
+        const V t718 = t678 - t667;
+        // spectrum block of 13, multiplier 4
+        const V t719 = c[-10] * t718;
+        // complex block of 3
+        const V t720 = t695 + t682;
+        // spectrum block of 13, multiplier 4
+        const V t721 = c[-9] * t720;
+        const V t722 = c[-8] * t720;
+        // complex block of 3
+        const V t723 = t698 + t669;
+        // spectrum block of 13, multiplier 4
+        const V t724 = c[-8] * t723;
+        const V t725 = c[-9] * t723;
+        const V t726 = t721 + t724;
+        const V t727 = t722 - t725;
+        // complex block of 3
+        const V t728 = c[-16] * t695;
+        const V t729 = t682 - t728;
+        const V t730 = c[-15] * t699;
+        const V t731 = t729 - t730;
+        // spectrum block of 13, multiplier 4
+        const V t732 = c[-7] * t731;
+        const V t733 = c[-6] * t731;
+        // complex block of 3
+        const V t734 = t729 + t730;
+        const V t735 = c[-16] * t698;
+        const V t736 = t669 - t735;
+        const V t737 = c[-15] * t696;
         const V t738 = t736 - t737;
-        const V t739 = c78 * t582;
-        const V t740 = c79 * t583;
-        const V t741 = t740 + t739;
-        const V t742 = c80 * t295;
-        const V t743 = c81 * t294;
-        const V t744 = t743 + t742;
-        const V t745 = c80 * t294;
-        const V t746 = c81 * t295;
-        const V t747 = t745 - t746;
-        const V t748 = c82 * t573;
-        const V t749 = c83 * t572;
-        const V t750 = t749 - t748;
-        const V t751 = c82 * t572;
-        const V t752 = c83 * t573;
-        const V t753 = t752 + t751;
-        const V t754 = c84 * t313;
-        const V t755 = c85 * t312;
-        const V t756 = t755 - t754;
-        const V t757 = c84 * t312;
-        const V t758 = c85 * t313;
-        const V t759 = t758 + t757;
-        const V t760 = c86 * t563;
-        const V t761 = c87 * t562;
-        const V t762 = t760 - t761;
-        const V t763 = c86 * t562;
-        const V t764 = c87 * t563;
-        const V t765 = t764 + t763;
-        const V t766 = c88 * t291;
-        // real block of 3, multiplier 2
-        const V t767 = t684 - t708;
-        const V t768 = t708 + t684;
-        const V t769 = t767 + t636;
-        const V t770 = c1 * t767;
-        const V t771 = t636 - t770;
-        const V t772 = c2 * t768;
-        // real block of 3, multiplier 2
-        const V t773 = t756 + t660;
-        const V t774 = t756 - t660;
-        const V t775 = t773 + t732;
-        const V t776 = c1 * t773;
-        const V t777 = t732 - t776;
-        const V t778 = c2 * t774;
-        // real block of 2
-        const V t779 = t769 + t775;
-        const V t780 = t769 - t775;
+        // spectrum block of 13, multiplier 4
+        const V t739 = c[-6] * t738;
+        const V t740 = c[-7] * t738;
+        // complex block of 3
+        const V t741 = t736 + t737;
         // complex block of 2
-        const V t781 = t771 + t777;
-        const V t782 = t778 - t772;
-        const V t783 = t771 - t777;
-        const V t784 = t772 + t778;
+        const V t742 = t314 - t313;
+        // spectrum block of 53
+        const V t743 = c[44] * t742;
+        const V t744 = c[43] * t742;
+        const V t745 = t294 - t293;
+        const V t746 = c[36] * t317;
+        const V t747 = t307 + t746;
+        const V t748 = t335 + t743;
+        // real block of 3, multiplier 2
+        const V t749 = t745 + t747;
+        const V t750 = t749 + t748;
+        const V t751 = c[-16] * t749;
+        // spectrum block of 53
+        const V t752 = t336 - t744;
+        // real block of 3, multiplier 2
+        const V t753 = t745 - t747;
+        const V t754 = c[-15] * t753;
+        // spectrum block of 53
+        const V t755 = t261 - t262;
+        const V t756 = t282 - t281;
+        // real block of 3, multiplier 2
+        const V t757 = t755 + t756;
+        const V t758 = t755 - t756;
+        // spectrum block of 53
+        const V t759 = t326 + t329;
+        // real block of 3, multiplier 2
+        const V t760 = t757 + t759;
+        const V t761 = c[-16] * t757;
+        const V t762 = t759 - t761;
+        const V t763 = c[-15] * t758;
+        // spectrum block of 53
+        const V t764 = t308 - t318;
         // skew block of 6
-        const V t785 = c1 * t687;
-        const V t786 = c2 * t663;
-        const V t787 = t786 - t785;
-        const V t788 = c1 * t663;
-        const V t789 = c2 * t687;
-        const V t790 = t789 + t788;
-        const V t791 = c2 * t759;
-        const V t792 = c1 * t711;
-        const V t793 = t792 + t791;
-        const V t794 = c2 * t711;
-        const V t795 = c1 * t759;
-        const V t796 = t795 - t794;
+        const V t765 = c[-15] * t764;
+        const V t766 = c[-16] * t764;
+        const V t767 = c[-16] * t284;
+        const V t768 = c[-15] * t284;
+        const V t769 = c[-15] * t296;
+        const V t770 = c[-16] * t264;
+        const V t771 = t770 + t769;
+        const V t772 = c[-15] * t264;
+        const V t773 = c[-16] * t296;
+        const V t774 = t772 - t773;
+        const V t775 = t765 + t767;
         // complex block of 3
-        const V t797 = t787 + t793;
-        const V t798 = t796 - t790;
-        const V t799 = t787 - t793;
-        const V t800 = t790 + t796;
-        const V t801 = t797 + t639;
-        const V t802 = t798 + t735;
-        const V t803 = c1 * t797;
-        const V t804 = t639 - t803;
-        const V t805 = c1 * t798;
-        const V t806 = t735 - t805;
-        const V t807 = c2 * t799;
-        const V t808 = c2 * t800;
-        const V t809 = t804 - t808;
-        const V t810 = t806 - t807;
-        const V t811 = t804 + t808;
-        const V t812 = t806 + t807;
+        const V t776 = t775 + t771;
+        const V t777 = t771 - t775;
+        // skew block of 6
+        const V t778 = t766 - t768;
+        // complex block of 3
+        const V t779 = t778 + t774;
+        const V t780 = t778 - t774;
+        // spectrum block of 53
+        const V t781 = t327 - t330;
+        const V t782 = c[84] * t173;
+        // real block of 3, multiplier 2
+        const V t783 = t748 - t751;
+        // complex block of 2
+        const V t784 = t762 + t783;
+        const V t785 = t762 - t783;
+        const V t786 = t763 + t754;
         // spectrum block of 13, multiplier 4
-        const V t813 = c3 * t779;
-        const V t814 = t615 - t813;
-        const V t815 = c89 * t802;
-        const V t816 = c90 * t801;
-        const V t817 = t816 + t815;
-        const V t818 = c89 * t801;
-        const V t819 = c90 * t802;
-        const V t820 = t818 - t819;
-        const V t821 = c91 * t784;
-        const V t822 = c92 * t783;
-        const V t823 = t822 + t821;
-        const V t824 = c8 * t812;
-        const V t825 = c9 * t811;
-        const V t826 = t825 + t824;
-        const V t827 = c8 * t811;
-        const V t828 = c9 * t812;
-        const V t829 = t827 - t828;
-        const V t830 = c93 * t782;
-        const V t831 = c94 * t781;
-        const V t832 = t830 - t831;
-        const V t833 = c95 * t810;
-        const V t834 = c96 * t809;
-        const V t835 = t834 + t833;
-        const V t836 = c95 * t809;
-        const V t837 = c96 * t810;
-        const V t838 = t836 - t837;
-        const V t839 = c14 * t780;
-        // spectrum block of 3
-        const V t840 = t832 + t814;
-        const V t841 = c1 * t832;
-        const V t842 = t814 - t841;
-        const V t843 = c97 * t782;
-        const V t844 = c98 * t781;
-        const V t845 = t843 + t844;
-        const V t846 = t842 + t845;
-        const V t847 = t842 - t845;
-        // complex block of 3
-        const V t848 = t838 + t820;
-        const V t849 = t835 + t817;
-        const V t850 = t820 - t838;
-        const V t851 = t817 - t835;
-        const V t852 = t829 - t848;
-        const V t853 = t826 - t849;
-        const V t854 = c1 * t848;
-        const V t855 = t854 + t829;
-        const V t856 = c1 * t849;
-        const V t857 = t856 + t826;
-        const V t858 = c2 * t850;
-        const V t859 = c2 * t851;
-        const V t860 = t855 + t859;
-        const V t861 = t857 - t858;
-        const V t862 = t855 - t859;
-        const V t863 = t857 + t858;
-        // spectrum block of 3
-        const V t864 = t823 + t839;
-        const V t865 = c1 * t823;
-        const V t866 = t839 - t865;
-        const V t867 = c99 * t784;
-        const V t868 = c100 * t783;
-        const V t869 = t867 - t868;
-        const V t870 = t866 + t869;
-        const V t871 = t866 - t869;
-        // spectrum block of 2
-        const V t872 = t840 + t864;
-        const V t873 = t840 - t864;
-        // spectrum block of 2
-        const V t874 = t872 + t853;
-        const V t875 = t872 - t853;
-        // spectrum block of 2
-        const V t876 = t873 + t852;
-        const V t877 = t873 - t852;
-        // spectrum block of 2
-        const V t878 = t846 + t870;
-        const V t879 = t846 - t870;
-        // spectrum block of 2
-        const V t880 = t878 + t861;
-        const V t881 = t878 - t861;
-        // spectrum block of 2
-        const V t882 = t879 + t860;
-        const V t883 = t879 - t860;
-        // spectrum block of 2
-        const V t884 = t847 + t871;
-        const V t885 = t847 - t871;
-        // spectrum block of 2
-        const V t886 = t884 + t863;
-        const V t887 = t884 - t863;
-        // spectrum block of 2
-        const V t888 = t885 + t862;
-        const V t889 = t885 - t862;
+        const V t787 = c[13] * t786;
+        // complex block of 2
+        const V t788 = t763 - t754;
         // spectrum block of 13, multiplier 4
-        const V t890 = t615 + t779;
+        const V t789 = c[14] * t788;
+        const V t790 = c[15] * t785;
+        const V t791 = t790 - t789;
+        const V t792 = c[16] * t784;
+        const V t793 = t787 - t792;
+        // spectrum block of 3
+        const V t794 = c[17] * t786;
+        const V t795 = c[18] * t784;
+        // spectrum block of 3
+        const V t796 = c[19] * t788;
+        const V t797 = c[20] * t785;
         // real block of 2
-        const V t891 = t717 + t669;
-        const V t892 = t717 - t669;
+        const V t798 = t760 + t750;
+        // spectrum block of 13, multiplier 4
+        const V t799 = c[-11] * t798;
+        const V t800 = t782 - t799;
         // real block of 2
-        const V t893 = t657 + t729;
-        const V t894 = t657 - t729;
-        // real block of 2
-        const V t895 = t891 + t893;
-        const V t896 = t891 - t893;
-        // real block of 2
-        const V t897 = t765 - t621;
-        const V t898 = t765 + t621;
-        // real block of 2
-        const V t899 = t645 + t741;
-        const V t900 = t645 - t741;
-        // real block of 2
-        const V t901 = t897 + t899;
-        const V t902 = t897 - t899;
-        // real block of 2
-        const V t903 = t633 + t753;
-        const V t904 = t633 - t753;
-        // real block of 2
-        const V t905 = t681 + t705;
-        const V t906 = t705 - t681;
-        // real block of 2
-        const V t907 = t903 - t905;
-        const V t908 = t903 + t905;
-        // real block of 3
-        const V t909 = t901 + t907;
-        const V t910 = t901 - t907;
-        const V t911 = t909 + t895;
-        const V t912 = c1 * t909;
-        const V t913 = t895 - t912;
-        const V t914 = c2 * t910;
+        const V t801 = t760 - t750;
+        // spectrum block of 13, multiplier 4
+        const V t802 = c[-10] * t801;
         // complex block of 3
-        const V t915 = t898 + t904;
-        const V t916 = t900 + t906;
-        const V t917 = t898 - t904;
-        const V t918 = t900 - t906;
-        const V t919 = t915 + t892;
-        const V t920 = t916 + t894;
-        const V t921 = c1 * t915;
-        const V t922 = t892 - t921;
-        const V t923 = c1 * t916;
-        const V t924 = t894 - t923;
-        const V t925 = c2 * t917;
-        const V t926 = c2 * t918;
-        const V t927 = t922 + t926;
-        const V t928 = t924 - t925;
-        const V t929 = t922 - t926;
-        const V t930 = t924 + t925;
-        // real block of 3
-        const V t931 = t902 + t908;
-        const V t932 = t902 - t908;
-        const V t933 = t931 + t896;
-        const V t934 = c1 * t931;
-        const V t935 = t896 - t934;
-        const V t936 = c2 * t932;
-        // real block of 2
-        const V t937 = t666 - t714;
-        const V t938 = t714 + t666;
-        // real block of 2
-        const V t939 = t654 + t726;
-        const V t940 = t654 - t726;
-        // real block of 2
-        const V t941 = t937 + t939;
-        const V t942 = t937 - t939;
-        // real block of 2
-        const V t943 = t762 + t618;
-        const V t944 = t762 - t618;
-        // real block of 2
-        const V t945 = t642 + t738;
-        const V t946 = t642 - t738;
-        // real block of 2
-        const V t947 = t943 + t945;
-        const V t948 = t943 - t945;
-        // real block of 2
-        const V t949 = t630 + t750;
-        const V t950 = t630 - t750;
-        // real block of 2
-        const V t951 = t702 - t678;
-        const V t952 = t678 + t702;
-        // real block of 2
-        const V t953 = t949 + t951;
-        const V t954 = t949 - t951;
-        // real block of 3
-        const V t955 = t947 + t953;
-        const V t956 = t947 - t953;
-        const V t957 = t955 + t941;
-        const V t958 = c1 * t955;
-        const V t959 = t941 - t958;
-        const V t960 = c2 * t956;
+        const V t803 = t776 + t781;
+        // spectrum block of 13, multiplier 4
+        const V t804 = c[-9] * t803;
+        const V t805 = c[-8] * t803;
         // complex block of 3
-        const V t961 = t944 + t950;
-        const V t962 = t946 - t952;
-        const V t963 = t944 - t950;
-        const V t964 = t946 + t952;
-        const V t965 = t961 - t938;
-        const V t966 = t962 + t940;
-        const V t967 = c1 * t961;
-        const V t968 = t938 + t967;
-        const V t969 = c1 * t962;
-        const V t970 = t940 - t969;
-        const V t971 = c2 * t963;
-        const V t972 = c2 * t964;
-        const V t973 = t972 - t968;
-        const V t974 = t970 - t971;
-        const V t975 = t968 + t972;
-        const V t976 = t970 + t971;
+        const V t806 = t779 - t752;
+        // spectrum block of 13, multiplier 4
+        const V t807 = c[-8] * t806;
+        const V t808 = c[-9] * t806;
+        const V t809 = t804 - t807;
+        const V t810 = t808 + t805;
+        // complex block of 3
+        const V t811 = c[-16] * t776;
+        const V t812 = t811 - t781;
+        const V t813 = c[-15] * t780;
+        const V t814 = t812 + t813;
+        // spectrum block of 13, multiplier 4
+        const V t815 = c[-7] * t814;
+        const V t816 = c[-6] * t814;
+        // complex block of 3
+        const V t817 = t812 - t813;
+        const V t818 = c[-16] * t779;
+        const V t819 = t752 + t818;
+        const V t820 = c[-15] * t777;
+        const V t821 = t819 + t820;
+        // spectrum block of 13, multiplier 4
+        const V t822 = c[-6] * t821;
+        const V t823 = c[-7] * t821;
+        // complex block of 3
+        const V t824 = t820 - t819;
+        // complex block of 2
+        const V t825 = t605 + t644;
+        // spectrum block of 53
+        const V t826 = c[63] * t825;
+        const V t827 = c[64] * t825;
+        // complex block of 2
+        const V t828 = t625 + t646;
+        // spectrum block of 53
+        const V t829 = c[64] * t828;
+        const V t830 = c[63] * t828;
+        // complex block of 2
+        const V t831 = t605 - t644;
+        // spectrum block of 53
+        const V t832 = c[65] * t831;
+        const V t833 = c[66] * t831;
+        // complex block of 2
+        const V t834 = t625 - t646;
+        // spectrum block of 53
+        const V t835 = c[66] * t834;
+        const V t836 = c[65] * t834;
+        const V t837 = t829 - t826;
+        const V t838 = t832 - t835;
+        // real block of 2
+        const V t839 = t837 + t838;
+        const V t840 = t837 - t838;
+        // spectrum block of 53
+        const V t841 = t830 + t827;
+        const V t842 = t836 + t833;
+        // real block of 2
+        const V t843 = t841 + t842;
+        const V t844 = t841 - t842;
+        // complex block of 2
+        const V t845 = t597 + t633;
+        // spectrum block of 53
+        const V t846 = c[67] * t845;
+        const V t847 = c[68] * t845;
+        // complex block of 2
+        const V t848 = t598 + t634;
+        // spectrum block of 53
+        const V t849 = c[68] * t848;
+        const V t850 = c[67] * t848;
+        // complex block of 2
+        const V t851 = t597 - t633;
+        // spectrum block of 53
+        const V t852 = c[69] * t851;
+        const V t853 = c[70] * t851;
+        // complex block of 2
+        const V t854 = t634 - t598;
+        // spectrum block of 53
+        const V t855 = c[70] * t854;
+        const V t856 = c[69] * t854;
+        const V t857 = t846 - t849;
+        const V t858 = t852 - t855;
+        // real block of 2
+        const V t859 = t857 - t858;
+        // spectrum block of 53
+        const V t860 = t850 + t847;
+        const V t861 = t856 + t853;
+        // real block of 2
+        const V t862 = t860 - t861;
+        // skew block of 26
+        const V t863 = t636 + t647;
+        // complex block of 2
+        const V t864 = t615 + t863;
+        const V t865 = t615 - t863;
+        // skew block of 26
+        const V t866 = t648 - t637;
+        // complex block of 2
+        const V t867 = t626 + t866;
+        const V t868 = t626 - t866;
+        // spectrum block of 53
+        const V t869 = c[71] * t867;
+        const V t870 = c[72] * t864;
+        const V t871 = t870 + t869;
+        const V t872 = c[71] * t864;
+        const V t873 = c[72] * t867;
+        const V t874 = t873 - t872;
+        const V t875 = c[73] * t868;
+        const V t876 = c[74] * t865;
+        const V t877 = t876 + t875;
+        const V t878 = c[73] * t865;
+        const V t879 = c[74] * t868;
+        const V t880 = t879 - t878;
+        const V t881 = c[75] * t620;
+        const V t882 = c[76] * t617;
+        const V t883 = t881 - t882;
+        const V t884 = c[77] * t603;
+        const V t885 = c[78] * t600;
+        const V t886 = t885 + t884;
+        const V t887 = t583 + t652;
+        const V t888 = t654 - t585;
+        // real block of 2
+        const V t889 = t887 + t888;
+        // spectrum block of 53
+        const V t890 = c[79] * t604;
+        const V t891 = c[80] * t601;
+        const V t892 = t890 - t891;
+        const V t893 = c[81] * t621;
+        const V t894 = c[82] * t618;
+        const V t895 = t893 - t894;
+        // real block of 2
+        const V t896 = t895 + t883;
+        // real block of 2
+        const V t897 = t886 + t892;
+        // real block of 2
+        const V t898 = t896 + t897;
+        const V t899 = t896 - t897;
+        // real block of 2
+        const V t900 = t895 - t883;
+        // real block of 2
+        const V t901 = t886 - t892;
+        // complex block of 3
+        const V t902 = t901 - t889;
+        // real block of 2
+        const V t903 = t888 - t887;
+        // spectrum block of 53
+        const V t904 = c[75] * t617;
+        const V t905 = c[76] * t620;
+        const V t906 = t905 + t904;
+        const V t907 = c[77] * t600;
+        const V t908 = c[78] * t603;
+        const V t909 = t908 - t907;
+        const V t910 = t653 - t584;
+        const V t911 = t655 + t586;
+        // real block of 2
+        const V t912 = t911 - t910;
+        // spectrum block of 53
+        const V t913 = c[79] * t601;
+        const V t914 = c[80] * t604;
+        const V t915 = t914 + t913;
+        const V t916 = c[81] * t618;
+        const V t917 = c[82] * t621;
+        const V t918 = t917 + t916;
+        // real block of 2
+        const V t919 = t918 - t906;
+        // real block of 2
+        const V t920 = t909 + t915;
+        // real block of 2
+        const V t921 = t919 + t920;
+        const V t922 = t919 - t920;
+        // real block of 2
+        const V t923 = t918 + t906;
+        // real block of 2
+        const V t924 = t909 - t915;
+        // complex block of 3
+        const V t925 = t924 + t912;
+        // real block of 2
+        const V t926 = t910 + t911;
+        // real block of 2
+        const V t927 = t880 + t874;
+        // real block of 2
+        const V t928 = t860 + t861;
+        // real block of 2
+        const V t929 = t927 + t928;
+        const V t930 = t927 - t928;
+        // real block of 2
+        const V t931 = t843 - t926;
         // real block of 3
-        const V t977 = t948 + t954;
-        const V t978 = t948 - t954;
-        const V t979 = t977 + t942;
-        const V t980 = c1 * t977;
-        const V t981 = t942 - t980;
-        const V t982 = c2 * t978;
+        const V t932 = t921 + t931;
+        const V t933 = t921 - t931;
+        // real block of 2
+        const V t934 = t843 + t926;
+        // real block of 3
+        const V t935 = t922 + t934;
+        const V t936 = t922 - t934;
+        // real block of 3
+        const V t937 = t932 + t929;
+        const V t938 = c[-16] * t932;
+        const V t939 = t929 - t938;
+        const V t940 = c[-15] * t933;
         // complex block of 13, multiplier 4
-        const V t983 = t693 + t911;
-        const V t984 = t690 + t957;
-        const V t985 = c3 * t911;
-        const V t986 = t693 - t985;
-        const V t987 = c3 * t957;
-        const V t988 = t690 - t987;
-        const V t989 = c89 * t976;
-        const V t990 = c90 * t975;
-        const V t991 = t990 + t989;
-        const V t992 = c89 * t975;
-        const V t993 = c90 * t976;
-        const V t994 = t992 - t993;
-        const V t995 = c89 * t930;
-        const V t996 = c90 * t929;
-        const V t997 = t995 - t996;
-        const V t998 = c89 * t929;
-        const V t999 = c90 * t930;
-        const V t1000 = t999 + t998;
-        const V t1001 = c91 * t936;
-        const V t1002 = c92 * t935;
-        const V t1003 = t1002 + t1001;
-        const V t1004 = c91 * t982;
-        const V t1005 = c92 * t981;
-        const V t1006 = t1005 + t1004;
-        const V t1007 = c8 * t966;
-        const V t1008 = c9 * t965;
-        const V t1009 = t1007 - t1008;
-        const V t1010 = c8 * t965;
-        const V t1011 = c9 * t966;
-        const V t1012 = t1011 + t1010;
-        const V t1013 = c8 * t920;
-        const V t1014 = c9 * t919;
-        const V t1015 = t1014 - t1013;
-        const V t1016 = c8 * t919;
-        const V t1017 = c9 * t920;
-        const V t1018 = t1017 + t1016;
-        const V t1019 = c93 * t914;
-        const V t1020 = c94 * t913;
-        const V t1021 = t1020 + t1019;
-        const V t1022 = c93 * t960;
-        const V t1023 = c94 * t959;
-        const V t1024 = t1023 + t1022;
-        const V t1025 = c95 * t974;
-        const V t1026 = c96 * t973;
-        const V t1027 = t1026 - t1025;
-        const V t1028 = c95 * t973;
-        const V t1029 = c96 * t974;
-        const V t1030 = t1029 + t1028;
-        const V t1031 = c95 * t928;
-        const V t1032 = c96 * t927;
-        const V t1033 = t1031 - t1032;
-        const V t1034 = c95 * t927;
-        const V t1035 = c96 * t928;
-        const V t1036 = t1035 + t1034;
-        const V t1037 = c14 * t933;
-        const V t1038 = c14 * t979;
-        // spectrum block of 3
-        const V t1039 = t986 - t1021;
-        const V t1040 = c1 * t1021;
-        const V t1041 = t1040 + t986;
-        const V t1042 = c97 * t914;
-        const V t1043 = c98 * t913;
-        const V t1044 = t1042 - t1043;
-        const V t1045 = t1041 - t1044;
-        const V t1046 = t1041 + t1044;
-        // complex block of 3
-        const V t1047 = t1030 - t994;
-        const V t1048 = t1027 - t991;
-        const V t1049 = t1030 + t994;
-        const V t1050 = t1027 + t991;
-        const V t1051 = t1047 - t1012;
-        const V t1052 = t1048 + t1009;
-        const V t1053 = c1 * t1047;
-        const V t1054 = t1012 + t1053;
-        const V t1055 = c1 * t1048;
-        const V t1056 = t1009 - t1055;
-        const V t1057 = c2 * t1049;
-        const V t1058 = c2 * t1050;
-        const V t1059 = t1058 - t1054;
-        const V t1060 = t1056 - t1057;
-        const V t1061 = t1054 + t1058;
-        const V t1062 = t1056 + t1057;
-        // spectrum block of 3
-        const V t1063 = t1003 + t1037;
-        const V t1064 = c1 * t1003;
-        const V t1065 = t1037 - t1064;
-        const V t1066 = c99 * t936;
-        const V t1067 = c100 * t935;
-        const V t1068 = t1066 - t1067;
-        const V t1069 = t1065 + t1068;
-        const V t1070 = t1065 - t1068;
-        // spectrum block of 2
-        const V t1071 = t1039 + t1063;
-        const V t1072 = t1039 - t1063;
-        // spectrum block of 2
-        const V t1073 = t1071 + t1052;
-        const V t1074 = t1071 - t1052;
-        // spectrum block of 2
-        const V t1075 = t1072 + t1051;
-        const V t1076 = t1072 - t1051;
-        // spectrum block of 2
-        const V t1077 = t1045 + t1069;
-        const V t1078 = t1045 - t1069;
-        // spectrum block of 2
-        const V t1079 = t1077 + t1060;
-        const V t1080 = t1077 - t1060;
-        // spectrum block of 2
-        const V t1081 = t1078 + t1059;
-        const V t1082 = t1078 - t1059;
-        // spectrum block of 2
-        const V t1083 = t1046 + t1070;
-        const V t1084 = t1046 - t1070;
-        // spectrum block of 2
-        const V t1085 = t1083 + t1062;
-        const V t1086 = t1083 - t1062;
-        // spectrum block of 2
-        const V t1087 = t1084 - t1061;
-        const V t1088 = t1084 + t1061;
-        // spectrum block of 3
-        const V t1089 = t988 - t1024;
-        const V t1090 = c1 * t1024;
-        const V t1091 = t1090 + t988;
-        const V t1092 = c97 * t960;
-        const V t1093 = c98 * t959;
-        const V t1094 = t1092 - t1093;
-        const V t1095 = t1091 - t1094;
-        const V t1096 = t1091 + t1094;
-        // complex block of 3
-        const V t1097 = t1036 + t1000;
-        const V t1098 = t1033 + t997;
-        const V t1099 = t1000 - t1036;
-        const V t1100 = t1033 - t997;
-        const V t1101 = t1018 - t1097;
-        const V t1102 = t1098 + t1015;
-        const V t1103 = c1 * t1097;
-        const V t1104 = t1103 + t1018;
-        const V t1105 = c1 * t1098;
-        const V t1106 = t1015 - t1105;
-        const V t1107 = c2 * t1099;
-        const V t1108 = c2 * t1100;
-        const V t1109 = t1104 + t1108;
-        const V t1110 = t1106 - t1107;
-        const V t1111 = t1104 - t1108;
-        const V t1112 = t1106 + t1107;
-        // spectrum block of 3
-        const V t1113 = t1006 + t1038;
-        const V t1114 = c1 * t1006;
-        const V t1115 = t1038 - t1114;
-        const V t1116 = c99 * t982;
-        const V t1117 = c100 * t981;
-        const V t1118 = t1116 - t1117;
-        const V t1119 = t1115 + t1118;
-        const V t1120 = t1115 - t1118;
-        // spectrum block of 2
-        const V t1121 = t1089 + t1113;
-        const V t1122 = t1089 - t1113;
-        // spectrum block of 2
-        const V t1123 = t1121 + t1102;
-        const V t1124 = t1121 - t1102;
-        // spectrum block of 2
-        const V t1125 = t1122 + t1101;
-        const V t1126 = t1122 - t1101;
-        // spectrum block of 2
-        const V t1127 = t1095 + t1119;
-        const V t1128 = t1095 - t1119;
-        // spectrum block of 2
-        const V t1129 = t1127 + t1110;
-        const V t1130 = t1127 - t1110;
-        // spectrum block of 2
-        const V t1131 = t1128 + t1109;
-        const V t1132 = t1128 - t1109;
-        // spectrum block of 2
-        const V t1133 = t1096 + t1120;
-        const V t1134 = t1096 - t1120;
-        // spectrum block of 2
-        const V t1135 = t1133 + t1112;
-        const V t1136 = t1133 - t1112;
-        // spectrum block of 2
-        const V t1137 = t1134 + t1111;
-        const V t1138 = t1134 - t1111;
-        // real block of 3, multiplier 2
-        const V t1139 = t672 + t696;
-        const V t1140 = t672 - t696;
-        const V t1141 = t1139 + t744;
-        const V t1142 = c1 * t1139;
-        const V t1143 = t744 - t1142;
-        const V t1144 = c2 * t1140;
-        // real block of 3, multiplier 2
-        const V t1145 = t624 + t720;
-        const V t1146 = t624 - t720;
-        const V t1147 = t1145 + t648;
-        const V t1148 = c1 * t1145;
-        const V t1149 = t648 - t1148;
-        const V t1150 = c2 * t1146;
+        const V t941 = c[13] * t940;
+        // real block of 3
+        const V t942 = t935 + t930;
+        const V t943 = c[-16] * t935;
+        const V t944 = t930 - t943;
+        const V t945 = c[-15] * t936;
+        // complex block of 13, multiplier 4
+        const V t946 = c[14] * t945;
         // real block of 2
-        const V t1151 = t1141 + t1147;
-        const V t1152 = t1141 - t1147;
-        // complex block of 2
-        const V t1153 = t1143 + t1149;
-        const V t1154 = t1144 + t1150;
-        const V t1155 = t1143 - t1149;
-        const V t1156 = t1144 - t1150;
-        // skew block of 6
-        const V t1157 = c1 * t699;
-        const V t1158 = c2 * t723;
-        const V t1159 = t1158 + t1157;
-        const V t1160 = c1 * t723;
-        const V t1161 = c2 * t699;
-        const V t1162 = t1160 - t1161;
-        const V t1163 = c2 * t627;
-        const V t1164 = c1 * t675;
-        const V t1165 = t1164 + t1163;
-        const V t1166 = c2 * t675;
-        const V t1167 = c1 * t627;
-        const V t1168 = t1166 - t1167;
+        const V t947 = t880 - t874;
         // complex block of 3
-        const V t1169 = t1159 + t1165;
-        const V t1170 = t1162 + t1168;
-        const V t1171 = t1165 - t1159;
-        const V t1172 = t1162 - t1168;
-        const V t1173 = t1169 + t747;
-        const V t1174 = t1170 - t651;
-        const V t1175 = c1 * t1169;
-        const V t1176 = t1175 - t747;
-        const V t1177 = c1 * t1170;
-        const V t1178 = t651 + t1177;
-        const V t1179 = c2 * t1171;
-        const V t1180 = c2 * t1172;
-        const V t1181 = t1176 + t1180;
-        const V t1182 = t1178 + t1179;
-        const V t1183 = t1176 - t1180;
-        const V t1184 = t1179 - t1178;
-        // spectrum block of 13, multiplier 4
-        const V t1185 = c3 * t1151;
-        const V t1186 = t766 - t1185;
-        const V t1187 = c89 * t1174;
-        const V t1188 = c90 * t1173;
-        const V t1189 = t1188 - t1187;
-        const V t1190 = c89 * t1173;
-        const V t1191 = c90 * t1174;
-        const V t1192 = t1191 + t1190;
-        const V t1193 = c91 * t1156;
-        const V t1194 = c92 * t1155;
-        const V t1195 = t1194 - t1193;
-        const V t1196 = c8 * t1184;
-        const V t1197 = c9 * t1183;
-        const V t1198 = t1197 + t1196;
-        const V t1199 = c8 * t1183;
-        const V t1200 = c9 * t1184;
-        const V t1201 = t1199 - t1200;
-        const V t1202 = c93 * t1154;
-        const V t1203 = c94 * t1153;
-        const V t1204 = t1202 - t1203;
-        const V t1205 = c95 * t1182;
-        const V t1206 = c96 * t1181;
-        const V t1207 = t1205 - t1206;
-        const V t1208 = c95 * t1181;
-        const V t1209 = c96 * t1182;
-        const V t1210 = t1209 + t1208;
-        const V t1211 = c14 * t1152;
-        // spectrum block of 3
-        const V t1212 = t1204 + t1186;
-        const V t1213 = c1 * t1204;
-        const V t1214 = t1186 - t1213;
-        const V t1215 = c97 * t1154;
-        const V t1216 = c98 * t1153;
-        const V t1217 = t1215 + t1216;
-        const V t1218 = t1214 + t1217;
-        const V t1219 = t1214 - t1217;
+        const V t948 = t923 + t844;
+        const V t949 = c[-16] * t948;
+        const V t950 = t924 - t912;
+        const V t951 = c[-15] * t950;
+        const V t952 = t948 + t947;
+        const V t953 = t947 - t949;
+        const V t954 = t953 + t951;
+        const V t955 = t953 - t951;
+        const V t956 = t923 - t844;
+        const V t957 = c[-15] * t956;
+        const V t958 = c[-16] * t925;
+        const V t959 = t862 - t958;
+        const V t960 = t959 - t957;
+        // complex block of 13, multiplier 4
+        const V t961 = c[-6] * t960;
+        const V t962 = c[-7] * t960;
         // complex block of 3
-        const V t1220 = t1192 - t1210;
-        const V t1221 = t1207 + t1189;
-        const V t1222 = t1210 + t1192;
-        const V t1223 = t1207 - t1189;
-        const V t1224 = t1220 + t1201;
-        const V t1225 = t1221 + t1198;
-        const V t1226 = c1 * t1220;
-        const V t1227 = t1201 - t1226;
-        const V t1228 = c1 * t1221;
-        const V t1229 = t1198 - t1228;
-        const V t1230 = c2 * t1222;
-        const V t1231 = c2 * t1223;
-        const V t1232 = t1227 + t1231;
-        const V t1233 = t1229 + t1230;
-        const V t1234 = t1227 - t1231;
-        const V t1235 = t1229 - t1230;
-        // spectrum block of 3
-        const V t1236 = t1195 + t1211;
-        const V t1237 = c1 * t1195;
-        const V t1238 = t1211 - t1237;
-        const V t1239 = c99 * t1156;
-        const V t1240 = c100 * t1155;
-        const V t1241 = t1239 + t1240;
-        const V t1242 = t1238 - t1241;
-        const V t1243 = t1238 + t1241;
-        // spectrum block of 2
-        const V t1244 = t1212 + t1236;
-        const V t1245 = t1212 - t1236;
-        // spectrum block of 2
-        const V t1246 = t1244 + t1225;
-        const V t1247 = t1244 - t1225;
-        // spectrum block of 2
-        const V t1248 = t1245 + t1224;
-        const V t1249 = t1245 - t1224;
-        // spectrum block of 2
-        const V t1250 = t1218 + t1242;
-        const V t1251 = t1218 - t1242;
-        // spectrum block of 2
-        const V t1252 = t1250 + t1233;
-        const V t1253 = t1250 - t1233;
-        // spectrum block of 2
-        const V t1254 = t1251 + t1232;
-        const V t1255 = t1251 - t1232;
-        // spectrum block of 2
-        const V t1256 = t1219 + t1243;
-        const V t1257 = t1219 - t1243;
-        // spectrum block of 2
-        const V t1258 = t1256 + t1235;
-        const V t1259 = t1256 - t1235;
-        // spectrum block of 2
-        const V t1260 = t1257 + t1234;
-        const V t1261 = t1257 - t1234;
+        const V t963 = t959 + t957;
+        // complex block of 13, multiplier 4
+        const V t964 = c[-8] * t963;
+        const V t965 = c[-9] * t963;
+        // complex block of 3
+        const V t966 = t925 + t862;
+        // complex block of 13, multiplier 4
+        const V t967 = c[-12] * t966;
+        const V t968 = c[-13] * t966;
+        // real block of 2
+        const V t969 = t871 - t877;
+        // real block of 2
+        const V t970 = t857 + t858;
+        // real block of 2
+        const V t971 = t969 + t970;
+        const V t972 = t969 - t970;
+        // real block of 2
+        const V t973 = t839 + t903;
+        // real block of 3
+        const V t974 = t898 + t973;
+        const V t975 = t898 - t973;
+        // real block of 2
+        const V t976 = t839 - t903;
+        // real block of 3
+        const V t977 = t899 + t976;
+        const V t978 = t899 - t976;
+        // real block of 3
+        const V t979 = t974 + t971;
+        const V t980 = c[-16] * t974;
+        const V t981 = t971 - t980;
+        const V t982 = c[-15] * t975;
+        // complex block of 13, multiplier 4
+        const V t983 = c[13] * t982;
+        // real block of 3
+        const V t984 = t977 + t972;
+        const V t985 = c[-16] * t977;
+        const V t986 = t972 - t985;
+        const V t987 = c[-15] * t978;
+        // complex block of 13, multiplier 4
+        const V t988 = c[14] * t987;
+        // real block of 2
+        const V t989 = t877 + t871;
+        // complex block of 3
+        const V t990 = t900 + t840;
+        const V t991 = c[-16] * t990;
+        const V t992 = t901 + t889;
+        const V t993 = c[-15] * t992;
+        const V t994 = t990 - t989;
+        const V t995 = t989 + t991;
+        const V t996 = t993 - t995;
+        const V t997 = t995 + t993;
+        const V t998 = t900 - t840;
+        const V t999 = c[-15] * t998;
+        const V t1000 = c[-16] * t902;
+        const V t1001 = t859 - t1000;
+        const V t1002 = t1001 - t999;
+        // complex block of 13, multiplier 4
+        const V t1003 = c[-6] * t1002;
+        const V t1004 = c[-7] * t1002;
+        // complex block of 3
+        const V t1005 = t1001 + t999;
+        // complex block of 13, multiplier 4
+        const V t1006 = c[-8] * t1005;
+        const V t1007 = c[-9] * t1005;
+        // complex block of 3
+        const V t1008 = t902 + t859;
+        // complex block of 13, multiplier 4
+        const V t1009 = c[-12] * t1008;
+        const V t1010 = c[-13] * t1008;
+        // spectrum block of 53
+        const V t1011 = t492 + t657;
+        const V t1012 = t493 - t658;
         // spectrum block of 13, multiplier 4
-        const V t1262 = t766 + t1151;
+        const V t1013 = c[-12] * t741;
+        const V t1014 = c[-13] * t734;
+        const V t1015 = t1014 + t1013;
+        const V t1016 = t732 + t739;
+        // complex block of 3
+        const V t1017 = t1016 + t726;
+        const V t1018 = t726 - t1016;
+        const V t1019 = t1015 - t1017;
+        const V t1020 = c[-16] * t1017;
+        const V t1021 = t1020 + t1015;
+        const V t1022 = c[-15] * t1018;
+        // spectrum block of 13, multiplier 4
+        const V t1023 = c[-12] * t734;
+        const V t1024 = c[-13] * t741;
+        const V t1025 = t1023 - t1024;
+        const V t1026 = t733 - t740;
+        // complex block of 3
+        const V t1027 = t1026 + t727;
+        const V t1028 = t727 - t1026;
+        const V t1029 = t1025 - t1027;
+        const V t1030 = c[-16] * t1027;
+        const V t1031 = t1030 + t1025;
+        const V t1032 = c[-15] * t1028;
+        // spectrum block of 3
+        const V t1033 = t710 + t717;
+        // spectrum block of 3
+        const V t1034 = t708 + t719;
         // spectrum block of 2
-        const V t1263 = t890 + t1262;
-        const V t1264 = t890 - t1262;
+        const V t1035 = t1033 + t1034;
+        const V t1036 = t1033 - t1034;
+        // spectrum block of 3
+        const V t1037 = c[-16] * t710;
+        const V t1038 = t717 - t1037;
+        const V t1039 = t711 + t712;
+        // spectrum block of 3
+        const V t1040 = c[-16] * t708;
+        const V t1041 = t719 - t1040;
+        const V t1042 = t713 - t714;
+        // spectrum block of 3
+        const V t1043 = t1038 + t1039;
+        // spectrum block of 3
+        const V t1044 = t1041 + t1042;
         // spectrum block of 2
-        const V t1265 = t1263 + t984;
-        io.out(1, t1265);
-        const V t1266 = t1263 - t984;
-        io.out(52, t1266);
+        const V t1045 = t1043 + t1044;
+        const V t1046 = t1043 - t1044;
+        // spectrum block of 3
+        const V t1047 = t1038 - t1039;
+        // spectrum block of 3
+        const V t1048 = t1041 - t1042;
         // spectrum block of 2
-        const V t1267 = t1264 - t983;
-        io.out(23, t1267);
-        const V t1268 = t1264 + t983;
-        io.out(30, t1268);
+        const V t1049 = t1047 + t1048;
+        const V t1050 = t1047 - t1048;
+        // complex block of 13, multiplier 4
+        const V t1051 = c[-11] * t937;
+        const V t1052 = t1012 - t1051;
+        const V t1053 = c[16] * t939;
+        const V t1054 = t1053 + t941;
+        // spectrum block of 3
+        const V t1055 = t1052 - t1054;
+        const V t1056 = c[-16] * t1054;
+        const V t1057 = t1056 + t1052;
+        // complex block of 13, multiplier 4
+        const V t1058 = c[-11] * t979;
+        const V t1059 = t1011 - t1058;
+        const V t1060 = c[16] * t981;
+        const V t1061 = t1060 + t983;
+        // spectrum block of 3
+        const V t1062 = t1059 - t1061;
+        const V t1063 = c[-16] * t1061;
+        const V t1064 = t1063 + t1059;
+        // complex block of 13, multiplier 4
+        const V t1065 = c[-9] * t997;
+        const V t1066 = t1065 + t1006;
+        const V t1067 = c[-7] * t996;
+        const V t1068 = t1067 - t1003;
+        // complex block of 3
+        const V t1069 = t1068 - t1066;
+        const V t1070 = c[-16] * t1069;
+        const V t1071 = t1068 + t1066;
+        const V t1072 = c[-15] * t1071;
+        // complex block of 13, multiplier 4
+        const V t1073 = c[-8] * t997;
+        const V t1074 = t1073 - t1007;
+        const V t1075 = c[-6] * t996;
+        const V t1076 = t1004 + t1075;
+        // complex block of 3
+        const V t1077 = t1076 - t1074;
+        const V t1078 = c[-16] * t1077;
+        const V t1079 = t1076 + t1074;
+        const V t1080 = c[-15] * t1079;
+        // complex block of 13, multiplier 4
+        const V t1081 = c[-9] * t955;
+        const V t1082 = t964 - t1081;
+        const V t1083 = c[-7] * t954;
+        const V t1084 = t961 - t1083;
+        // complex block of 3
+        const V t1085 = t1084 + t1082;
+        const V t1086 = c[-16] * t1085;
+        const V t1087 = t1084 - t1082;
+        const V t1088 = c[-15] * t1087;
+        // complex block of 13, multiplier 4
+        const V t1089 = c[-8] * t955;
+        const V t1090 = t965 + t1089;
+        const V t1091 = c[-6] * t954;
+        const V t1092 = t962 + t1091;
+        // complex block of 3
+        const V t1093 = t1092 + t1090;
+        const V t1094 = c[-16] * t1093;
+        const V t1095 = t1090 - t1092;
+        const V t1096 = c[-15] * t1095;
+        // complex block of 13, multiplier 4
+        const V t1097 = c[15] * t944;
+        const V t1098 = t1097 + t946;
+        const V t1099 = c[-10] * t942;
+        // spectrum block of 3
+        const V t1100 = t1098 + t1099;
+        const V t1101 = c[-16] * t1098;
+        const V t1102 = t1099 - t1101;
+        // complex block of 13, multiplier 4
+        const V t1103 = c[15] * t986;
+        const V t1104 = t1103 + t988;
+        const V t1105 = c[-10] * t984;
+        // spectrum block of 3
+        const V t1106 = t1104 + t1105;
+        const V t1107 = c[-16] * t1104;
+        const V t1108 = t1105 - t1107;
+        // complex block of 13, multiplier 4
+        const V t1109 = c[-13] * t994;
+        const V t1110 = t1009 - t1109;
+        const V t1111 = c[-12] * t994;
+        const V t1112 = t1010 + t1111;
+        const V t1113 = c[-13] * t952;
+        const V t1114 = t1113 - t967;
+        const V t1115 = c[-12] * t952;
+        const V t1116 = t968 + t1115;
+        // spectrum block of 3
+        const V t1117 = c[17] * t940;
+        const V t1118 = c[18] * t939;
+        const V t1119 = t1117 - t1118;
+        // spectrum block of 3
+        const V t1120 = c[19] * t945;
+        const V t1121 = c[20] * t944;
+        const V t1122 = t1120 - t1121;
+        // spectrum block of 3
+        const V t1123 = c[17] * t982;
+        const V t1124 = c[18] * t981;
+        const V t1125 = t1123 - t1124;
+        // spectrum block of 3
+        const V t1126 = c[19] * t987;
+        const V t1127 = c[20] * t986;
+        const V t1128 = t1126 - t1127;
+        // spectrum block of 13, multiplier 4
+        const V t1129 = c[-12] * t824;
+        const V t1130 = c[-13] * t817;
+        const V t1131 = t1130 + t1129;
+        const V t1132 = t822 - t815;
+        // complex block of 3
+        const V t1133 = t1132 + t809;
+        const V t1134 = t1132 - t809;
+        const V t1135 = t1133 + t1131;
+        const V t1136 = c[-16] * t1133;
+        const V t1137 = t1131 - t1136;
+        const V t1138 = c[-15] * t1134;
+        // spectrum block of 13, multiplier 4
+        const V t1139 = c[-12] * t817;
+        const V t1140 = c[-13] * t824;
+        const V t1141 = t1139 - t1140;
+        const V t1142 = t823 + t816;
+        // complex block of 3
+        const V t1143 = t810 - t1142;
+        const V t1144 = t1142 + t810;
+        const V t1145 = t1143 + t1141;
+        const V t1146 = c[-16] * t1143;
+        const V t1147 = t1141 - t1146;
+        const V t1148 = c[-15] * t1144;
+        // spectrum block of 3
+        const V t1149 = t793 + t800;
+        // spectrum block of 3
+        const V t1150 = t791 + t802;
         // spectrum block of 2
-        const V t1269 = t874 + t1246;
-        const V t1270 = t874 - t1246;
+        const V t1151 = t1149 + t1150;
+        const V t1152 = t1149 - t1150;
+        // spectrum block of 3
+        const V t1153 = c[-16] * t793;
+        const V t1154 = t800 - t1153;
+        const V t1155 = t794 + t795;
+        // spectrum block of 3
+        const V t1156 = c[-16] * t791;
+        const V t1157 = t802 - t1156;
+        const V t1158 = t796 + t797;
+        // spectrum block of 3
+        const V t1159 = t1154 + t1155;
+        // spectrum block of 3
+        const V t1160 = t1157 - t1158;
         // spectrum block of 2
-        const V t1271 = t1269 + t1123;
-        io.out(10, t1271);
-        const V t1272 = t1269 - t1123;
-        io.out(43, t1272);
+        const V t1161 = t1159 + t1160;
+        const V t1162 = t1159 - t1160;
+        // spectrum block of 3
+        const V t1163 = t1154 - t1155;
+        // spectrum block of 3
+        const V t1164 = t1157 + t1158;
         // spectrum block of 2
-        const V t1273 = t1270 - t1073;
-        io.out(18, t1273);
-        const V t1274 = t1270 + t1073;
-        io.out(35, t1274);
+        const V t1165 = t1163 + t1164;
+        const V t1166 = t1163 - t1164;
+        // complex block of 3
+        const V t1167 = t1031 + t1022;
         // spectrum block of 2
-        const V t1275 = t888 + t1260;
-        const V t1276 = t888 - t1260;
+        const V t1168 = t1046 + t1167;
+        const V t1169 = t1046 - t1167;
+        // complex block of 3
+        const V t1170 = t1021 - t1032;
         // spectrum block of 2
-        const V t1277 = t1275 + t1137;
+        const V t1171 = t1045 + t1170;
+        const V t1172 = t1045 - t1170;
+        // complex block of 3
+        const V t1173 = t1031 - t1022;
+        // spectrum block of 2
+        const V t1174 = t1050 + t1173;
+        const V t1175 = t1050 - t1173;
+        // complex block of 3
+        const V t1176 = t1021 + t1032;
+        // spectrum block of 2
+        const V t1177 = t1049 + t1176;
+        const V t1178 = t1049 - t1176;
+        // spectrum block of 3
+        const V t1179 = t1057 - t1119;
+        // spectrum block of 3
+        const V t1180 = t1102 + t1122;
+        // spectrum block of 2
+        const V t1181 = t1179 + t1180;
+        const V t1182 = t1179 - t1180;
+        // spectrum block of 3
+        const V t1183 = t1057 + t1119;
+        // spectrum block of 3
+        const V t1184 = t1102 - t1122;
+        // spectrum block of 2
+        const V t1185 = t1183 + t1184;
+        const V t1186 = t1183 - t1184;
+        // complex block of 3
+        const V t1187 = t1112 + t1078;
+        const V t1188 = t1072 - t1187;
+        const V t1189 = t1187 + t1072;
+        const V t1190 = t1110 - t1070;
+        const V t1191 = t1190 - t1080;
+        const V t1192 = t1190 + t1080;
+        // spectrum block of 3
+        const V t1193 = t1064 - t1125;
+        // spectrum block of 3
+        const V t1194 = t1108 + t1128;
+        // spectrum block of 2
+        const V t1195 = t1193 + t1194;
+        const V t1196 = t1193 - t1194;
+        // spectrum block of 3
+        const V t1197 = t1064 + t1125;
+        // spectrum block of 3
+        const V t1198 = t1108 - t1128;
+        // spectrum block of 2
+        const V t1199 = t1197 + t1198;
+        const V t1200 = t1197 - t1198;
+        // complex block of 3
+        const V t1201 = t1094 + t1116;
+        const V t1202 = t1201 + t1088;
+        const V t1203 = t1201 - t1088;
+        const V t1204 = t1114 - t1086;
+        const V t1205 = t1204 - t1096;
+        const V t1206 = t1204 + t1096;
+        // complex block of 3
+        const V t1207 = t1147 + t1138;
+        // spectrum block of 2
+        const V t1208 = t1162 + t1207;
+        const V t1209 = t1162 - t1207;
+        // complex block of 3
+        const V t1210 = t1137 + t1148;
+        // spectrum block of 2
+        const V t1211 = t1161 + t1210;
+        const V t1212 = t1161 - t1210;
+        // complex block of 3
+        const V t1213 = t1147 - t1138;
+        // spectrum block of 2
+        const V t1214 = t1166 + t1213;
+        const V t1215 = t1166 - t1213;
+        // complex block of 3
+        const V t1216 = t1137 - t1148;
+        // spectrum block of 2
+        const V t1217 = t1165 + t1216;
+        const V t1218 = t1165 - t1216;
+        // spectrum block of 2
+        const V t1219 = t1181 + t1191;
+        // spectrum block of 2
+        const V t1220 = t1171 - t1211;
+        // spectrum block of 2
+        const V t1221 = t1220 - t1219;
+        io.out(8, t1221);
+        const V t1222 = t1220 + t1219;
+        io.out(45, t1222);
+        // spectrum block of 2
+        const V t1223 = t1181 - t1191;
+        // spectrum block of 2
+        const V t1224 = t1172 - t1212;
+        // spectrum block of 2
+        const V t1225 = t1224 - t1223;
+        io.out(33, t1225);
+        const V t1226 = t1224 + t1223;
+        io.out(20, t1226);
+        // spectrum block of 2
+        const V t1227 = t1182 + t1188;
+        // spectrum block of 2
+        const V t1228 = t1168 - t1208;
+        // spectrum block of 2
+        const V t1229 = t1228 - t1227;
+        io.out(14, t1229);
+        const V t1230 = t1228 + t1227;
+        io.out(39, t1230);
+        // spectrum block of 2
+        const V t1231 = t1182 - t1188;
+        // spectrum block of 2
+        const V t1232 = t1169 - t1209;
+        // spectrum block of 2
+        const V t1233 = t1232 - t1231;
+        io.out(34, t1233);
+        const V t1234 = t1232 + t1231;
+        io.out(19, t1234);
+        // spectrum block of 2
+        const V t1235 = t1185 + t1192;
+        // spectrum block of 2
+        const V t1236 = t1177 - t1217;
+        // spectrum block of 2
+        const V t1237 = t1236 - t1235;
+        io.out(51, t1237);
+        const V t1238 = t1236 + t1235;
+        io.out(2, t1238);
+        // spectrum block of 2
+        const V t1239 = t1185 - t1192;
+        // spectrum block of 2
+        const V t1240 = t1178 - t1218;
+        // spectrum block of 2
+        const V t1241 = t1240 - t1239;
+        io.out(27, t1241);
+        const V t1242 = t1240 + t1239;
+        io.out(26, t1242);
+        // spectrum block of 2
+        const V t1243 = t1186 - t1189;
+        // spectrum block of 2
+        const V t1244 = t1174 - t1214;
+        // spectrum block of 2
+        const V t1245 = t1244 - t1243;
+        io.out(21, t1245);
+        const V t1246 = t1244 + t1243;
+        io.out(32, t1246);
+        // spectrum block of 2
+        const V t1247 = t1186 + t1189;
+        // spectrum block of 2
+        const V t1248 = t1175 - t1215;
+        // spectrum block of 2
+        const V t1249 = t1248 - t1247;
+        io.out(5, t1249);
+        const V t1250 = t1248 + t1247;
+        io.out(48, t1250);
+        // spectrum block of 2
+        const V t1251 = t1195 + t1205;
+        // spectrum block of 2
+        const V t1252 = t1171 + t1211;
+        // spectrum block of 2
+        const V t1253 = t1252 + t1251;
+        io.out(28, t1253);
+        const V t1254 = t1252 - t1251;
+        io.out(25, t1254);
+        // spectrum block of 2
+        const V t1255 = t1195 - t1205;
+        // spectrum block of 2
+        const V t1256 = t1172 + t1212;
+        // spectrum block of 2
+        const V t1257 = t1256 + t1255;
+        io.out(36, t1257);
+        const V t1258 = t1256 - t1255;
+        io.out(17, t1258);
+        // spectrum block of 2
+        const V t1259 = t1196 + t1202;
+        // spectrum block of 2
+        const V t1260 = t1168 + t1208;
+        // spectrum block of 2
+        const V t1261 = t1260 + t1259;
+        io.out(49, t1261);
+        const V t1262 = t1260 - t1259;
+        io.out(4, t1262);
+        // spectrum block of 2
+        const V t1263 = t1196 - t1202;
+        // spectrum block of 2
+        const V t1264 = t1169 + t1209;
+        // spectrum block of 2
+        const V t1265 = t1264 + t1263;
+        io.out(13, t1265);
+        const V t1266 = t1264 - t1263;
+        io.out(40, t1266);
+        // spectrum block of 2
+        const V t1267 = t1199 + t1206;
+        // spectrum block of 2
+        const V t1268 = t1177 + t1217;
+        // spectrum block of 2
+        const V t1269 = t1268 + t1267;
+        io.out(46, t1269);
+        const V t1270 = t1268 - t1267;
+        io.out(7, t1270);
+        // spectrum block of 2
+        const V t1271 = t1199 - t1206;
+        // spectrum block of 2
+        const V t1272 = t1178 + t1218;
+        // spectrum block of 2
+        const V t1273 = t1272 + t1271;
+        io.out(15, t1273);
+        const V t1274 = t1272 - t1271;
+        io.out(38, t1274);
+        // spectrum block of 2
+        const V t1275 = t1200 + t1203;
+        // spectrum block of 2
+        const V t1276 = t1174 + t1214;
+        // spectrum block of 2
+        const V t1277 = t1276 + t1275;
         io.out(47, t1277);
-        const V t1278 = t1275 - t1137;
+        const V t1278 = t1276 - t1275;
         io.out(6, t1278);
         // spectrum block of 2
-        const V t1279 = t1276 - t1087;
-        io.out(21, t1279);
-        const V t1280 = t1276 + t1087;
-        io.out(32, t1280);
+        const V t1279 = t1200 - t1203;
         // spectrum block of 2
-        const V t1281 = t886 + t1258;
-        const V t1282 = t886 - t1258;
+        const V t1280 = t1175 + t1215;
         // spectrum block of 2
-        const V t1283 = t1281 + t1135;
-        io.out(46, t1283);
-        const V t1284 = t1281 - t1135;
-        io.out(7, t1284);
+        const V t1281 = t1280 + t1279;
+        io.out(44, t1281);
+        const V t1282 = t1280 - t1279;
+        io.out(9, t1282);
         // spectrum block of 2
-        const V t1285 = t1282 - t1085;
-        io.out(51, t1285);
-        const V t1286 = t1282 + t1085;
-        io.out(2, t1286);
+        const V t1283 = t1035 + t1019;
         // spectrum block of 2
-        const V t1287 = t881 + t1253;
-        const V t1288 = t881 - t1253;
+        const V t1284 = t1151 + t1135;
         // spectrum block of 2
-        const V t1289 = t1287 + t1130;
-        io.out(36, t1289);
-        const V t1290 = t1287 - t1130;
-        io.out(17, t1290);
+        const V t1285 = t1283 + t1284;
+        const V t1286 = t1283 - t1284;
         // spectrum block of 2
-        const V t1291 = t1288 - t1080;
-        io.out(33, t1291);
-        const V t1292 = t1288 + t1080;
-        io.out(20, t1292);
+        const V t1287 = t1035 - t1019;
         // spectrum block of 2
-        const V t1293 = t876 + t1248;
-        const V t1294 = t876 - t1248;
+        const V t1288 = t1151 - t1135;
         // spectrum block of 2
-        const V t1295 = t1293 + t1125;
-        io.out(42, t1295);
-        const V t1296 = t1293 - t1125;
-        io.out(11, t1296);
+        const V t1289 = t1287 + t1288;
+        const V t1290 = t1287 - t1288;
+        // complex block of 3
+        const V t1291 = t1069 + t1110;
         // spectrum block of 2
-        const V t1297 = t1294 - t1075;
-        io.out(12, t1297);
-        const V t1298 = t1294 + t1075;
-        io.out(41, t1298);
+        const V t1292 = t1055 + t1100;
         // spectrum block of 2
-        const V t1299 = t882 + t1254;
-        const V t1300 = t882 - t1254;
+        const V t1293 = t1292 + t1291;
+        const V t1294 = t1292 - t1291;
+        // complex block of 3
+        const V t1295 = t1085 + t1114;
         // spectrum block of 2
-        const V t1301 = t1299 + t1131;
-        io.out(49, t1301);
-        const V t1302 = t1299 - t1131;
-        io.out(4, t1302);
+        const V t1296 = t1062 + t1106;
         // spectrum block of 2
-        const V t1303 = t1300 - t1081;
-        io.out(14, t1303);
-        const V t1304 = t1300 + t1081;
-        io.out(39, t1304);
+        const V t1297 = t1296 + t1295;
+        const V t1298 = t1296 - t1295;
         // spectrum block of 2
-        const V t1305 = t883 + t1255;
-        const V t1306 = t883 - t1255;
+        const V t1299 = t1285 + t1297;
+        io.out(10, t1299);
+        const V t1300 = t1285 - t1297;
+        io.out(43, t1300);
         // spectrum block of 2
-        const V t1307 = t1305 + t1132;
-        io.out(13, t1307);
-        const V t1308 = t1305 - t1132;
-        io.out(40, t1308);
+        const V t1301 = t1286 - t1293;
+        io.out(18, t1301);
+        const V t1302 = t1286 + t1293;
+        io.out(35, t1302);
         // spectrum block of 2
-        const V t1309 = t1306 - t1082;
-        io.out(34, t1309);
-        const V t1310 = t1306 + t1082;
-        io.out(19, t1310);
+        const V t1303 = t1289 + t1298;
+        io.out(16, t1303);
+        const V t1304 = t1289 - t1298;
+        io.out(37, t1304);
         // spectrum block of 2
-        const V t1311 = t877 + t1249;
-        const V t1312 = t877 - t1249;
+        const V t1305 = t1290 - t1294;
+        io.out(50, t1305);
+        const V t1306 = t1290 + t1294;
+        io.out(3, t1306);
         // spectrum block of 2
-        const V t1313 = t1311 + t1126;
-        io.out(24, t1313);
-        const V t1314 = t1311 - t1126;
-        io.out(29, t1314);
+        const V t1307 = t1036 + t1029;
         // spectrum block of 2
-        const V t1315 = t1312 - t1076;
-        io.out(22, t1315);
-        const V t1316 = t1312 + t1076;
-        io.out(31, t1316);
+        const V t1308 = t1152 + t1145;
         // spectrum block of 2
-        const V t1317 = t880 + t1252;
-        const V t1318 = t880 - t1252;
+        const V t1309 = t1307 + t1308;
+        const V t1310 = t1307 - t1308;
         // spectrum block of 2
-        const V t1319 = t1317 + t1129;
-        io.out(28, t1319);
-        const V t1320 = t1317 - t1129;
-        io.out(25, t1320);
+        const V t1311 = t1036 - t1029;
         // spectrum block of 2
-        const V t1321 = t1318 - t1079;
-        io.out(8, t1321);
-        const V t1322 = t1318 + t1079;
-        io.out(45, t1322);
+        const V t1312 = t1152 - t1145;
         // spectrum block of 2
-        const V t1323 = t887 + t1259;
-        const V t1324 = t887 - t1259;
+        const V t1313 = t1311 + t1312;
+        const V t1314 = t1311 - t1312;
+        // complex block of 3
+        const V t1315 = t1077 - t1112;
         // spectrum block of 2
-        const V t1325 = t1323 + t1136;
-        io.out(15, t1325);
-        const V t1326 = t1323 - t1136;
-        io.out(38, t1326);
+        const V t1316 = t1055 - t1100;
         // spectrum block of 2
-        const V t1327 = t1324 - t1086;
-        io.out(27, t1327);
-        const V t1328 = t1324 + t1086;
-        io.out(26, t1328);
+        const V t1317 = t1316 + t1315;
+        const V t1318 = t1316 - t1315;
+        // complex block of 3
+        const V t1319 = t1116 - t1093;
         // spectrum block of 2
-        const V t1329 = t889 + t1261;
-        const V t1330 = t889 - t1261;
+        const V t1320 = t1062 - t1106;
         // spectrum block of 2
-        const V t1331 = t1329 + t1138;
-        io.out(44, t1331);
-        const V t1332 = t1329 - t1138;
-        io.out(9, t1332);
+        const V t1321 = t1320 + t1319;
+        const V t1322 = t1320 - t1319;
         // spectrum block of 2
-        const V t1333 = t1330 - t1088;
-        io.out(5, t1333);
-        const V t1334 = t1330 + t1088;
-        io.out(48, t1334);
+        const V t1323 = t1309 + t1321;
+        io.out(42, t1323);
+        const V t1324 = t1309 - t1321;
+        io.out(11, t1324);
         // spectrum block of 2
-        const V t1335 = t875 + t1247;
-        const V t1336 = t875 - t1247;
+        const V t1325 = t1310 - t1317;
+        io.out(12, t1325);
+        const V t1326 = t1310 + t1317;
+        io.out(41, t1326);
         // spectrum block of 2
-        const V t1337 = t1335 + t1124;
-        io.out(16, t1337);
-        const V t1338 = t1335 - t1124;
-        io.out(37, t1338);
+        const V t1327 = t1313 + t1322;
+        io.out(24, t1327);
+        const V t1328 = t1313 - t1322;
+        io.out(29, t1328);
         // spectrum block of 2
-        const V t1339 = t1336 - t1074;
-        io.out(50, t1339);
-        const V t1340 = t1336 + t1074;
-        io.out(3, t1340);
+        const V t1329 = t1314 - t1318;
+        io.out(22, t1329);
+        const V t1330 = t1314 + t1318;
+        io.out(31, t1330);
+        // spectrum block of 13, multiplier 4
+        const V t1331 = t672 + t715;
+        // spectrum block of 13, multiplier 4
+        const V t1332 = t782 + t798;
+        // spectrum block of 2
+        const V t1333 = t1331 + t1332;
+        const V t1334 = t1331 - t1332;
+        // complex block of 13, multiplier 4
+        const V t1335 = t1012 + t937;
+        const V t1336 = t1011 + t979;
+        // spectrum block of 2
+        const V t1337 = t1333 + t1336;
+        io.out(1, t1337);
+        const V t1338 = t1333 - t1336;
+        io.out(52, t1338);
+        // spectrum block of 2
+        const V t1339 = t1334 - t1335;
+        io.out(23, t1339);
+        const V t1340 = t1334 + t1335;
+        io.out(30, t1340);
         // spectrum block of 53
-        const V t1341 = x0r + t290;
+        const V t1341 = x0r + t172;
         io.out(0, t1341);
     }
 };

@@ -1,1559 +1,1926 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 61.
 // Inverse DFT to 61 real points, Rader 4, 3, 5.
-// 404 additions, 358 subtractions, 478 multiplications (539 with `scale`); 75 constants; 68 values alive at most.
+// 404 additions, 358 subtractions, 478 multiplications (539 with `scale`); 75 constants; 111 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct RealInverseGraph<61> {
     static constexpr double inverseRoot = 0.12803687993289598;  // 1/sqrt(61), for `scale`
-    static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.30901699437494745;  // cos 2 pi 1/5
-    static constexpr double c2 = 0.8090169943749475;  // -cos 2 pi 3/5
-    static constexpr double c3 = 0.9510565162951535;  // sin 2 pi 1/5
-    static constexpr double c4 = 0.5877852522924731;  // -sin 2 pi 3/5
-    static constexpr double c5 = 0.5;  // -cos 2 pi 1/3
-    static constexpr double c6 = 0.8660254037844386;  // sin 2 pi 1/3
-    static constexpr double c7 = 0.10452846326765347;  // sin 2 pi 1/60
-    static constexpr double c8 = 0.9945218953682733;  // cos 2 pi 1/60
-    static constexpr double c9 = 0.6691306063588582;  // sin 2 pi 7/60
-    static constexpr double c10 = 0.7431448254773942;  // cos 2 pi 7/60
-    static constexpr double c11 = 0.9135454576426009;  // sin 2 pi 11/60
-    static constexpr double c12 = 0.4067366430758002;  // cos 2 pi 11/60
-    static constexpr double c13 = 0.9781476007338057;  // sin 2 pi 13/60
-    static constexpr double c14 = 0.20791169081775934;  // cos 2 pi 13/60
-    static constexpr double c15 = 0.016666666666666666;  // 1/60
-    static constexpr double c16 = 0.20918808865965802;  // -P[1] of 61
-    static constexpr double c17 = 0.15497780918795065;  // -Q[1] of 61
-    static constexpr double c18 = 0.16101883855703142;  // Q[2] of 61
-    static constexpr double c19 = 0.20457446421174474;  // P[2] of 61
-    static constexpr double c20 = 0.23892325195327072;  // -P[3] of 61
-    static constexpr double c21 = 0.10340917490170637;  // Q[3] of 61
-    static constexpr double c22 = 0.2578608473569129;  // Q[4] of 61
-    static constexpr double c23 = 0.035854723233524656;  // -P[4] of 61
-    static constexpr double c24 = 0.2380667501964918;  // -P[5] of 61
-    static constexpr double c25 = 0.1053660297660444;  // -Q[5] of 61
-    static constexpr double c26 = 0.20515266792101527;  // Q[6] of 61
-    static constexpr double c27 = 0.1602815043062281;  // P[6] of 61
-    static constexpr double c28 = 0.2406977012179139;  // P[7] of 61
-    static constexpr double c29 = 0.09920884237904212;  // Q[7] of 61
-    static constexpr double c30 = 0.07049354660050404;  // Q[8] of 61
-    static constexpr double c31 = 0.25061611613274265;  // P[8] of 61
-    static constexpr double c32 = 0.24403592948183833;  // -P[9] of 61
-    static constexpr double c33 = 0.09068761161102994;  // Q[9] of 61
-    static constexpr double c34 = 0.23081456598926853;  // Q[10] of 61
-    static constexpr double c35 = 0.12042596856560207;  // P[10] of 61
-    static constexpr double c36 = 0.24096799804842803;  // -P[11] of 61
-    static constexpr double c37 = 0.09855050326766758;  // Q[11] of 61
-    static constexpr double c38 = 0.17085954303793666;  // Q[12] of 61
-    static constexpr double c39 = 0.19643012582250524;  // -P[12] of 61
-    static constexpr double c40 = 0.25591390402746017;  // P[13] of 61
-    static constexpr double c41 = 0.047810579406671994;  // -Q[13] of 61
-    static constexpr double c42 = 0.035146745480687275;  // Q[14] of 61
-    static constexpr double c43 = 0.25795829907156226;  // -P[14] of 61
-    static constexpr double c44 = 0.11042531820311542;  // P[15] of 61
-    static constexpr double c45 = 0.23576264945389142;  // -Q[15] of 61
-    static constexpr double c46 = 0.07154712447968609;  // Q[16] of 61
-    static constexpr double c47 = 0.2503173720628796;  // P[16] of 61
-    static constexpr double c48 = 0.20961095261841867;  // -P[17] of 61
-    static constexpr double c49 = 0.15440539602027134;  // Q[17] of 61
-    static constexpr double c50 = 0.22994320324173947;  // -Q[18] of 61
-    static constexpr double c51 = 0.12208153447883048;  // P[18] of 61
-    static constexpr double c52 = 0.13608829619444565;  // P[19] of 61
-    static constexpr double c53 = 0.22194087820108896;  // -Q[19] of 61
-    static constexpr double c54 = 0.2602823006297202;  // Q[20] of 61
-    static constexpr double c55 = 0.005558934851007752;  // -P[20] of 61
-    static constexpr double c56 = 0.256047285458026;  // -P[21] of 61
-    static constexpr double c57 = 0.04709103298244708;  // Q[21] of 61
-    static constexpr double c58 = 0.25902765669579647;  // Q[22] of 61
-    static constexpr double c59 = 0.02612376015167778;  // -P[22] of 61
-    static constexpr double c60 = 0.09177478132326014;  // P[23] of 61
-    static constexpr double c61 = 0.24362915936079071;  // -Q[23] of 61
-    static constexpr double c62 = 0.0673035010610264;  // -Q[24] of 61
-    static constexpr double c63 = 0.2514915834033143;  // P[24] of 61
-    static constexpr double c64 = 0.23335104576758062;  // P[25] of 61
-    static constexpr double c65 = 0.1154342549547329;  // Q[25] of 61
-    static constexpr double c66 = 0.1988310412655552;  // Q[26] of 61
-    static constexpr double c67 = 0.1680594978185787;  // -P[26] of 61
-    static constexpr double c68 = 0.25817133658934166;  // P[27] of 61
-    static constexpr double c69 = 0.0335460689418391;  // -Q[27] of 61
-    static constexpr double c70 = 0.15195717683014903;  // -Q[28] of 61
-    static constexpr double c71 = 0.21139251213699267;  // P[28] of 61
-    static constexpr double c72 = 0.1192479770652986;  // P[29] of 61
-    static constexpr double c73 = 0.2314253610640195;  // Q[29] of 61
-    static constexpr double c74 = 0.13017082793177756;  // beta of 61
+    static constexpr double constants[] = {
+        2.0,  // c[-16]: 2
+        0.30901699437494745,  // c[-15]: cos 2 pi 1/5
+        0.8090169943749475,  // c[-14]: -cos 2 pi 3/5
+        0.9510565162951535,  // c[-13]: sin 2 pi 1/5
+        0.5877852522924731,  // c[-12]: -sin 2 pi 3/5
+        0.5,  // c[-11]: -cos 2 pi 1/3
+        0.8660254037844386,  // c[-10]: sin 2 pi 1/3
+        0.005558934851007752,  // c[-9]: -P[20] of 61
+        0.12042596856560207,  // c[-8]: P[10] of 61
+        0.20457446421174474,  // c[-7]: P[2] of 61
+        0.21139251213699267,  // c[-6]: P[28] of 61
+        0.25061611613274265,  // c[-5]: P[8] of 61
+        0.02612376015167778,  // c[-4]: -P[22] of 61
+        0.19643012582250524,  // c[-3]: -P[12] of 61
+        0.12208153447883048,  // c[-2]: P[18] of 61
+        0.25795829907156226,  // c[-1]: -P[14] of 61
+        0.2503173720628796,  // c[0]: P[16] of 61
+        0.035854723233524656,  // c[1]: -P[4] of 61
+        0.1680594978185787,  // c[2]: -P[26] of 61
+        0.2514915834033143,  // c[3]: P[24] of 61
+        0.1602815043062281,  // c[4]: P[6] of 61
+        0.2602823006297202,  // c[5]: Q[20] of 61
+        0.23081456598926853,  // c[6]: Q[10] of 61
+        0.15195717683014903,  // c[7]: -Q[28] of 61
+        0.16101883855703142,  // c[8]: Q[2] of 61
+        0.07049354660050404,  // c[9]: Q[8] of 61
+        0.25902765669579647,  // c[10]: Q[22] of 61
+        0.17085954303793666,  // c[11]: Q[12] of 61
+        0.22994320324173947,  // c[12]: -Q[18] of 61
+        0.07154712447968609,  // c[13]: Q[16] of 61
+        0.035146745480687275,  // c[14]: Q[14] of 61
+        0.2578608473569129,  // c[15]: Q[4] of 61
+        0.1988310412655552,  // c[16]: Q[26] of 61
+        0.20515266792101527,  // c[17]: Q[6] of 61
+        0.0673035010610264,  // c[18]: -Q[24] of 61
+        0.23576264945389142,  // c[19]: -Q[15] of 61
+        0.11042531820311542,  // c[20]: P[15] of 61
+        0.6691306063588582,  // c[21]: sin 2 pi 7/60
+        0.7431448254773942,  // c[22]: cos 2 pi 7/60
+        0.9781476007338057,  // c[23]: sin 2 pi 13/60
+        0.20791169081775934,  // c[24]: cos 2 pi 13/60
+        0.9135454576426009,  // c[25]: sin 2 pi 11/60
+        0.4067366430758002,  // c[26]: cos 2 pi 11/60
+        0.10452846326765347,  // c[27]: sin 2 pi 1/60
+        0.9945218953682733,  // c[28]: cos 2 pi 1/60
+        0.20918808865965802,  // c[29]: -P[1] of 61
+        0.15497780918795065,  // c[30]: -Q[1] of 61
+        0.1192479770652986,  // c[31]: P[29] of 61
+        0.2314253610640195,  // c[32]: Q[29] of 61
+        0.24096799804842803,  // c[33]: -P[11] of 61
+        0.09855050326766758,  // c[34]: Q[11] of 61
+        0.13608829619444565,  // c[35]: P[19] of 61
+        0.22194087820108896,  // c[36]: -Q[19] of 61
+        0.2406977012179139,  // c[37]: P[7] of 61
+        0.09920884237904212,  // c[38]: Q[7] of 61
+        0.09177478132326014,  // c[39]: P[23] of 61
+        0.24362915936079071,  // c[40]: -Q[23] of 61
+        0.25591390402746017,  // c[41]: P[13] of 61
+        0.047810579406671994,  // c[42]: -Q[13] of 61
+        0.20961095261841867,  // c[43]: -P[17] of 61
+        0.15440539602027134,  // c[44]: Q[17] of 61
+        0.23892325195327072,  // c[45]: -P[3] of 61
+        0.10340917490170637,  // c[46]: Q[3] of 61
+        0.25817133658934166,  // c[47]: P[27] of 61
+        0.0335460689418391,  // c[48]: -Q[27] of 61
+        0.2380667501964918,  // c[49]: -P[5] of 61
+        0.1053660297660444,  // c[50]: -Q[5] of 61
+        0.23335104576758062,  // c[51]: P[25] of 61
+        0.1154342549547329,  // c[52]: Q[25] of 61
+        0.24403592948183833,  // c[53]: -P[9] of 61
+        0.09068761161102994,  // c[54]: Q[9] of 61
+        0.256047285458026,  // c[55]: -P[21] of 61
+        0.04709103298244708,  // c[56]: Q[21] of 61
+        0.016666666666666666,  // c[57]: 1/60
+        0.13017082793177756,  // c[58]: beta of 61
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // doubled bins
         const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
+        const V t0 = c[-16] * x1r;
         const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
-        const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
-        const V x19r = io.re(19);
-        const V t36 = c0 * x19r;
-        const V x19i = io.im(19);
-        const V t37 = c0 * x19i;
+        const V t1 = c[-16] * x3r;
         const V x20r = io.re(20);
-        const V t38 = c0 * x20r;
-        const V x20i = io.im(20);
-        const V t39 = c0 * x20i;
-        const V x21r = io.re(21);
-        const V t40 = c0 * x21r;
-        const V x21i = io.im(21);
-        const V t41 = c0 * x21i;
-        const V x22r = io.re(22);
-        const V t42 = c0 * x22r;
-        const V x22i = io.im(22);
-        const V t43 = c0 * x22i;
-        const V x23r = io.re(23);
-        const V t44 = c0 * x23r;
-        const V x23i = io.im(23);
-        const V t45 = c0 * x23i;
-        const V x24r = io.re(24);
-        const V t46 = c0 * x24r;
-        const V x24i = io.im(24);
-        const V t47 = c0 * x24i;
-        const V x25r = io.re(25);
-        const V t48 = c0 * x25r;
-        const V x25i = io.im(25);
-        const V t49 = c0 * x25i;
-        const V x26r = io.re(26);
-        const V t50 = c0 * x26r;
-        const V x26i = io.im(26);
-        const V t51 = c0 * x26i;
+        const V t2 = c[-16] * x20r;
+        // real block of 5
+        const V t3 = t1 + t2;
+        const V t4 = t1 - t2;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t5 = c[-16] * x9r;
         const V x27r = io.re(27);
-        const V t52 = c0 * x27r;
-        const V x27i = io.im(27);
-        const V t53 = c0 * x27i;
-        const V x28r = io.re(28);
-        const V t54 = c0 * x28r;
-        const V x28i = io.im(28);
-        const V t55 = c0 * x28i;
-        const V x29r = io.re(29);
-        const V t56 = c0 * x29r;
-        const V x29i = io.im(29);
-        const V t57 = c0 * x29i;
+        const V t6 = c[-16] * x27r;
+        // real block of 5
+        const V t7 = t6 + t5;
+        const V t8 = t6 - t5;
+        const V t9 = t3 + t7;
+        const V t10 = c[-15] * t3;
+        const V t11 = c[-14] * t7;
+        const V t12 = t10 - t11;
+        const V t13 = c[-13] * t4;
+        const V t14 = c[-12] * t8;
+        const V t15 = t14 - t13;
+        const V t16 = c[-14] * t3;
+        const V t17 = t0 - t16;
+        const V t18 = c[-15] * t7;
+        const V t19 = c[-12] * t4;
+        const V t20 = c[-13] * t8;
+        const V t21 = t19 + t20;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t22 = c[-16] * x2r;
+        const V x7r = io.re(7);
+        const V t23 = c[-16] * x7r;
+        // real block of 5
+        const V t24 = t22 + t23;
+        const V t25 = t22 - t23;
+        // doubled bins
+        const V x6r = io.re(6);
+        const V t26 = c[-16] * x6r;
+        const V x18r = io.re(18);
+        const V t27 = c[-16] * x18r;
+        // real block of 5
+        const V t28 = t27 + t26;
+        const V t29 = t27 - t26;
+        // doubled bins
+        const V x10r = io.re(10);
+        const V t30 = c[-16] * x10r;
+        const V x17r = io.re(17);
+        const V t31 = c[-16] * x17r;
+        // real block of 5
+        const V t32 = t30 + t31;
+        const V t33 = t30 - t31;
+        // doubled bins
+        const V x21r = io.re(21);
+        const V t34 = c[-16] * x21r;
+        const V x26r = io.re(26);
+        const V t35 = c[-16] * x26r;
         const V x30r = io.re(30);
-        const V t58 = c0 * x30r;
-        const V x30i = io.im(30);
-        const V t59 = c0 * x30i;
+        const V t36 = c[-16] * x30r;
         // real block of 5
-        const V t60 = t4 + t38;
-        const V t61 = t4 - t38;
-        const V t62 = t52 + t16;
-        const V t63 = t52 - t16;
-        const V t64 = t60 + t62;
-        const V t65 = t64 + t0;
-        const V t66 = c1 * t60;
-        const V t67 = c2 * t62;
+        const V t37 = t35 + t36;
+        const V t38 = t35 - t36;
+        // doubled bins
+        const V x29r = io.re(29);
+        const V t39 = c[-16] * x29r;
+        // real block of 5
+        const V t40 = t37 + t32;
+        const V t41 = t40 + t39;
+        const V t42 = c[-15] * t37;
+        const V t43 = c[-14] * t32;
+        const V t44 = t42 - t43;
+        const V t45 = t44 + t39;
+        const V t46 = c[-13] * t38;
+        const V t47 = c[-12] * t33;
+        const V t48 = t47 - t46;
+        // real block of 5
+        const V t49 = c[-13] * t25;
+        const V t50 = c[-12] * t29;
+        const V t51 = t50 - t49;
+        // complex block of 3
+        const V t52 = t51 + t48;
+        // real block of 5
+        const V t53 = c[-14] * t37;
+        const V t54 = t39 - t53;
+        const V t55 = c[-15] * t32;
+        const V t56 = t54 + t55;
+        const V t57 = c[-12] * t38;
+        const V t58 = c[-13] * t33;
+        const V t59 = t57 + t58;
+        // real block of 5
+        const V t60 = c[-12] * t25;
+        const V t61 = c[-13] * t29;
+        const V t62 = t60 + t61;
+        // complex block of 3
+        const V t63 = t62 + t59;
+        // real block of 5
+        const V t64 = t24 + t28;
+        const V t65 = t64 + t34;
+        const V t66 = c[-15] * t24;
+        const V t67 = c[-14] * t28;
         const V t68 = t66 - t67;
-        const V t69 = t68 + t0;
-        const V t70 = c3 * t61;
-        const V t71 = c4 * t63;
-        const V t72 = t71 - t70;
-        const V t73 = c2 * t60;
-        const V t74 = t0 - t73;
-        const V t75 = c1 * t62;
-        const V t76 = t74 + t75;
-        const V t77 = c4 * t61;
-        const V t78 = c3 * t63;
-        const V t79 = t77 + t78;
+        const V t69 = t68 + t34;
+        const V t70 = c[-14] * t24;
+        const V t71 = t34 - t70;
+        const V t72 = c[-15] * t28;
+        const V t73 = t71 + t72;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t74 = c[-16] * x4r;
+        const V x12r = io.re(12);
+        const V t75 = c[-16] * x12r;
         // real block of 5
-        const V t80 = t50 + t58;
-        const V t81 = t50 - t58;
-        const V t82 = t18 + t32;
-        const V t83 = t18 - t32;
-        const V t84 = t80 + t82;
-        const V t85 = t84 + t56;
-        const V t86 = c1 * t80;
-        const V t87 = c2 * t82;
-        const V t88 = t86 - t87;
-        const V t89 = t88 + t56;
-        const V t90 = c3 * t81;
-        const V t91 = c4 * t83;
-        const V t92 = t91 - t90;
-        const V t93 = c2 * t80;
-        const V t94 = t56 - t93;
-        const V t95 = c1 * t82;
-        const V t96 = t94 + t95;
-        const V t97 = c4 * t81;
-        const V t98 = c3 * t83;
-        const V t99 = t97 + t98;
+        const V t76 = t75 + t74;
+        const V t77 = t75 - t74;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t78 = c[-16] * x5r;
+        const V x15r = io.re(15);
+        const V t79 = c[-16] * x15r;
         // real block of 5
-        const V t100 = t42 + t30;
-        const V t101 = t42 - t30;
-        const V t102 = t28 + t8;
-        const V t103 = t28 - t8;
-        const V t104 = t100 + t102;
-        const V t105 = t104 + t24;
-        const V t106 = c1 * t100;
-        const V t107 = c2 * t102;
-        const V t108 = t106 - t107;
-        const V t109 = t108 + t24;
-        const V t110 = c3 * t101;
-        const V t111 = c4 * t103;
-        const V t112 = t111 - t110;
-        const V t113 = c2 * t100;
-        const V t114 = t24 - t113;
-        const V t115 = c1 * t102;
-        const V t116 = t114 + t115;
-        const V t117 = c4 * t101;
-        const V t118 = c3 * t103;
-        const V t119 = t117 + t118;
+        const V t80 = t79 + t78;
+        const V t81 = t79 - t78;
+        // doubled bins
+        const V x13r = io.re(13);
+        const V t82 = c[-16] * x13r;
+        const V x14r = io.re(14);
+        const V t83 = c[-16] * x14r;
+        const V x16r = io.re(16);
+        const V t84 = c[-16] * x16r;
+        const V x22r = io.re(22);
+        const V t85 = c[-16] * x22r;
         // real block of 5
-        const V t120 = t54 + t46;
-        const V t121 = t54 - t46;
-        const V t122 = t14 + t44;
-        const V t123 = t14 - t44;
-        const V t124 = t120 + t122;
-        const V t125 = t124 + t20;
-        const V t126 = c1 * t120;
-        const V t127 = c2 * t122;
-        const V t128 = t126 - t127;
-        const V t129 = t128 + t20;
-        const V t130 = c3 * t121;
-        const V t131 = c4 * t123;
-        const V t132 = t131 - t130;
-        const V t133 = c2 * t120;
-        const V t134 = t20 - t133;
-        const V t135 = c1 * t122;
-        const V t136 = t134 + t135;
-        const V t137 = c4 * t121;
-        const V t138 = c3 * t123;
-        const V t139 = t137 + t138;
+        const V t86 = t85 + t84;
+        const V t87 = t85 - t84;
+        // doubled bins
+        const V x19r = io.re(19);
+        const V t88 = c[-16] * x19r;
+        const V x25r = io.re(25);
+        const V t89 = c[-16] * x25r;
         // real block of 5
-        const V t140 = t36 + t48;
-        const V t141 = t36 - t48;
-        const V t142 = t22 + t6;
-        const V t143 = t22 - t6;
-        const V t144 = t140 + t142;
-        const V t145 = t144 + t26;
-        const V t146 = c1 * t140;
-        const V t147 = c2 * t142;
-        const V t148 = t146 - t147;
-        const V t149 = t148 + t26;
-        const V t150 = c3 * t141;
-        const V t151 = c4 * t143;
-        const V t152 = t151 - t150;
-        const V t153 = c2 * t140;
-        const V t154 = t26 - t153;
-        const V t155 = c1 * t142;
-        const V t156 = t154 + t155;
-        const V t157 = c4 * t141;
-        const V t158 = c3 * t143;
-        const V t159 = t157 + t158;
+        const V t90 = t88 + t89;
+        const V t91 = t88 - t89;
         // real block of 5
-        const V t160 = t2 + t12;
-        const V t161 = t2 - t12;
-        const V t162 = t34 + t10;
-        const V t163 = t34 - t10;
-        const V t164 = t160 + t162;
-        const V t165 = t164 + t40;
-        const V t166 = c1 * t160;
-        const V t167 = c2 * t162;
-        const V t168 = t166 - t167;
-        const V t169 = t168 + t40;
-        const V t170 = c3 * t161;
-        const V t171 = c4 * t163;
-        const V t172 = t171 - t170;
-        const V t173 = c2 * t160;
-        const V t174 = t40 - t173;
-        const V t175 = c1 * t162;
-        const V t176 = t174 + t175;
-        const V t177 = c4 * t161;
-        const V t178 = c3 * t163;
-        const V t179 = t177 + t178;
+        const V t92 = t86 + t80;
+        const V t93 = t92 + t82;
+        const V t94 = c[-15] * t86;
+        const V t95 = c[-14] * t80;
+        const V t96 = t94 - t95;
+        const V t97 = t96 + t82;
+        const V t98 = c[-13] * t87;
+        const V t99 = c[-12] * t81;
+        const V t100 = t99 - t98;
+        // real block of 5
+        const V t101 = c[-13] * t91;
+        const V t102 = c[-12] * t77;
+        const V t103 = t102 - t101;
+        // complex block of 3
+        const V t104 = t100 + t103;
+        // real block of 5
+        const V t105 = c[-14] * t86;
+        const V t106 = t82 - t105;
+        const V t107 = c[-15] * t80;
+        const V t108 = t106 + t107;
+        const V t109 = c[-12] * t87;
+        const V t110 = c[-13] * t81;
+        const V t111 = t109 + t110;
+        // real block of 5
+        const V t112 = c[-12] * t91;
+        const V t113 = c[-13] * t77;
+        const V t114 = t112 + t113;
+        // complex block of 3
+        const V t115 = t111 + t114;
+        // real block of 5
+        const V t116 = t90 + t76;
+        const V t117 = t116 + t83;
+        const V t118 = c[-15] * t90;
+        const V t119 = c[-14] * t76;
+        const V t120 = t118 - t119;
+        const V t121 = t120 + t83;
+        const V t122 = c[-14] * t90;
+        const V t123 = t83 - t122;
+        const V t124 = c[-15] * t76;
+        const V t125 = t123 + t124;
+        // doubled bins
+        const V x8r = io.re(8);
+        const V t126 = c[-16] * x8r;
+        const V x23r = io.re(23);
+        const V t127 = c[-16] * x23r;
+        // real block of 5
+        const V t128 = t126 + t127;
+        const V t129 = t126 - t127;
+        // doubled bins
+        const V x11r = io.re(11);
+        const V t130 = c[-16] * x11r;
+        const V x24r = io.re(24);
+        const V t131 = c[-16] * x24r;
+        const V x28r = io.re(28);
+        const V t132 = c[-16] * x28r;
+        // real block of 5
+        const V t133 = t132 + t131;
+        const V t134 = t132 - t131;
+        const V t135 = t133 + t128;
+        const V t136 = c[-15] * t133;
+        const V t137 = c[-14] * t128;
+        const V t138 = t136 - t137;
+        const V t139 = c[-13] * t134;
+        const V t140 = c[-12] * t129;
+        const V t141 = t140 - t139;
+        const V t142 = c[-14] * t133;
+        const V t143 = t130 - t142;
+        const V t144 = c[-15] * t128;
+        const V t145 = c[-12] * t134;
+        const V t146 = c[-13] * t129;
+        const V t147 = t145 + t146;
+        // real block of 5
+        const V t148 = t9 + t0;
         // real block of 3
-        const V t180 = t105 + t145;
-        const V t181 = t105 - t145;
-        const V t182 = t180 + t65;
-        const V t183 = c5 * t180;
-        const V t184 = t65 - t183;
-        const V t185 = c6 * t181;
+        const V t149 = t93 + t117;
+        const V t150 = c[-11] * t149;
+        const V t151 = t149 + t148;
+        const V t152 = t148 - t150;
+        // real block of 5
+        const V t153 = t135 + t130;
         // real block of 3
-        const V t186 = t165 + t85;
-        const V t187 = t165 - t85;
-        const V t188 = t186 + t125;
-        const V t189 = c5 * t186;
-        const V t190 = t125 - t189;
-        const V t191 = c6 * t187;
+        const V t154 = t65 + t41;
+        const V t155 = c[-11] * t154;
+        const V t156 = t154 + t153;
+        const V t157 = t153 - t155;
         // real block of 2
-        const V t192 = t182 + t188;
-        const V t193 = t182 - t188;
-        // complex block of 2
-        const V t194 = t184 + t190;
-        const V t195 = t185 + t191;
-        const V t196 = t184 - t190;
-        const V t197 = t191 - t185;
-        // complex block of 3
-        const V t198 = t109 + t149;
-        const V t199 = t112 + t152;
-        const V t200 = t109 - t149;
-        const V t201 = t112 - t152;
-        const V t202 = t198 + t69;
-        const V t203 = t199 + t72;
-        const V t204 = c5 * t198;
-        const V t205 = t69 - t204;
-        const V t206 = c5 * t199;
-        const V t207 = t72 - t206;
-        const V t208 = c6 * t200;
-        const V t209 = c6 * t201;
-        const V t210 = t205 + t209;
-        const V t211 = t207 - t208;
-        const V t212 = t205 - t209;
-        const V t213 = t207 + t208;
-        // complex block of 3
-        const V t214 = t169 + t89;
-        const V t215 = t172 + t92;
-        const V t216 = t169 - t89;
-        const V t217 = t172 - t92;
-        const V t218 = t214 + t129;
-        const V t219 = t215 + t132;
-        const V t220 = c5 * t214;
-        const V t221 = t129 - t220;
-        const V t222 = c5 * t215;
-        const V t223 = t132 - t222;
-        const V t224 = c6 * t216;
-        const V t225 = c6 * t217;
-        const V t226 = t221 + t225;
-        const V t227 = t223 - t224;
-        const V t228 = t221 - t225;
-        const V t229 = t223 + t224;
-        // complex block of 2
-        const V t230 = t202 + t218;
-        const V t231 = t203 + t219;
-        const V t232 = t202 - t218;
-        const V t233 = t203 - t219;
-        // complex block of 2
-        const V t234 = t210 + t226;
-        const V t235 = t211 + t227;
-        const V t236 = t210 - t226;
-        const V t237 = t211 - t227;
-        // complex block of 2
-        const V t238 = t212 + t228;
-        const V t239 = t213 + t229;
-        const V t240 = t212 - t228;
-        const V t241 = t213 - t229;
-        // complex block of 3
-        const V t242 = t116 + t156;
-        const V t243 = t119 + t159;
-        const V t244 = t116 - t156;
-        const V t245 = t159 - t119;
-        const V t246 = t242 + t76;
-        const V t247 = t243 + t79;
-        const V t248 = c5 * t242;
-        const V t249 = t76 - t248;
-        const V t250 = c5 * t243;
-        const V t251 = t250 - t79;
-        const V t252 = c6 * t244;
-        const V t253 = c6 * t245;
-        const V t254 = t249 + t253;
-        const V t255 = t251 - t252;
-        const V t256 = t249 - t253;
-        const V t257 = t251 + t252;
-        // complex block of 3
-        const V t258 = t176 + t96;
-        const V t259 = t179 + t99;
-        const V t260 = t176 - t96;
-        const V t261 = t99 - t179;
-        const V t262 = t258 + t136;
-        const V t263 = t259 + t139;
-        const V t264 = c5 * t258;
-        const V t265 = t136 - t264;
-        const V t266 = c5 * t259;
-        const V t267 = t266 - t139;
-        const V t268 = c6 * t260;
-        const V t269 = c6 * t261;
-        const V t270 = t265 + t269;
-        const V t271 = t267 - t268;
-        const V t272 = t265 - t269;
-        const V t273 = t267 + t268;
-        // complex block of 2
-        const V t274 = t246 + t262;
-        const V t275 = t247 + t263;
-        const V t276 = t246 - t262;
-        const V t277 = t263 - t247;
-        // complex block of 2
-        const V t278 = t254 + t270;
-        const V t279 = t255 + t271;
-        const V t280 = t254 - t270;
-        const V t281 = t255 - t271;
-        // complex block of 2
-        const V t282 = t256 + t272;
-        const V t283 = t257 + t273;
-        const V t284 = t256 - t272;
-        const V t285 = t257 - t273;
-        // real block of 3, multiplier 2
-        const V t286 = t25 - t27;
-        const V t287 = t25 + t27;
-        const V t288 = t286 + t1;
-        const V t289 = c5 * t286;
-        const V t290 = t1 - t289;
-        const V t291 = c6 * t287;
-        // real block of 3, multiplier 2
-        const V t292 = t43 - t37;
-        const V t293 = t43 + t37;
-        const V t294 = t292 - t5;
-        const V t295 = c5 * t292;
-        const V t296 = t5 + t295;
-        const V t297 = c6 * t293;
-        // real block of 3, multiplier 2
-        const V t298 = t9 + t7;
-        const V t299 = t7 - t9;
-        const V t300 = t17 - t298;
-        const V t301 = c5 * t298;
-        const V t302 = t301 + t17;
-        const V t303 = c6 * t299;
-        // real block of 3, multiplier 2
-        const V t304 = t29 + t23;
-        const V t305 = t29 - t23;
-        const V t306 = t304 - t53;
-        const V t307 = c5 * t304;
-        const V t308 = t53 + t307;
-        const V t309 = c6 * t305;
-        // real block of 3, multiplier 2
-        const V t310 = t31 + t49;
-        const V t311 = t31 - t49;
-        const V t312 = t310 + t39;
-        const V t313 = c5 * t310;
-        const V t314 = t39 - t313;
-        const V t315 = c6 * t311;
-        // real block of 5, multiplier 3
-        const V t316 = t294 + t312;
-        const V t317 = t294 - t312;
-        const V t318 = t306 + t300;
-        const V t319 = t306 - t300;
-        const V t320 = t316 + t318;
-        const V t321 = t320 + t288;
-        const V t322 = c2 * t316;
-        const V t323 = t288 - t322;
-        const V t324 = c1 * t318;
-        const V t325 = t323 + t324;
-        const V t326 = c4 * t317;
-        const V t327 = c3 * t319;
-        const V t328 = t326 + t327;
-        const V t329 = c1 * t316;
-        const V t330 = c2 * t318;
-        const V t331 = t329 - t330;
-        const V t332 = t331 + t288;
-        const V t333 = c3 * t317;
-        const V t334 = c4 * t319;
-        const V t335 = t334 - t333;
-        // complex block of 5, multiplier 3
-        const V t336 = t314 - t296;
-        const V t337 = t297 + t315;
-        const V t338 = t296 + t314;
-        const V t339 = t297 - t315;
-        const V t340 = t302 - t308;
-        const V t341 = t309 + t303;
-        const V t342 = t308 + t302;
-        const V t343 = t309 - t303;
-        const V t344 = t336 + t340;
-        const V t345 = t337 + t341;
-        const V t346 = t344 + t290;
-        const V t347 = t345 + t291;
-        const V t348 = c1 * t336;
-        const V t349 = c2 * t340;
-        const V t350 = t348 - t349;
-        const V t351 = t350 + t290;
-        const V t352 = c1 * t337;
-        const V t353 = c2 * t341;
-        const V t354 = t352 - t353;
-        const V t355 = t354 + t291;
-        const V t356 = c3 * t338;
-        const V t357 = c4 * t342;
-        const V t358 = t357 - t356;
-        const V t359 = c3 * t339;
-        const V t360 = c4 * t343;
-        const V t361 = t359 - t360;
-        const V t362 = t351 + t361;
-        const V t363 = t355 - t358;
-        const V t364 = t351 - t361;
-        const V t365 = t355 + t358;
-        const V t366 = c2 * t336;
-        const V t367 = t290 - t366;
-        const V t368 = c1 * t340;
-        const V t369 = t367 + t368;
-        const V t370 = c2 * t337;
-        const V t371 = t291 - t370;
-        const V t372 = c1 * t341;
-        const V t373 = t371 + t372;
-        const V t374 = c4 * t338;
-        const V t375 = c3 * t342;
-        const V t376 = t374 + t375;
-        const V t377 = c4 * t339;
-        const V t378 = c3 * t343;
-        const V t379 = t377 + t378;
-        const V t380 = t369 + t379;
-        const V t381 = t373 + t376;
-        const V t382 = t369 - t379;
-        const V t383 = t373 - t376;
-        // real block of 3, multiplier 2
-        const V t384 = t51 - t55;
-        const V t385 = t51 + t55;
-        const V t386 = t384 + t3;
-        const V t387 = c5 * t384;
-        const V t388 = t3 - t387;
-        const V t389 = c6 * t385;
-        // real block of 3, multiplier 2
-        const V t390 = t45 - t33;
-        const V t391 = t33 + t45;
-        const V t392 = t390 - t11;
-        const V t393 = c5 * t390;
-        const V t394 = t11 + t393;
-        const V t395 = c6 * t391;
-        // real block of 3, multiplier 2
-        const V t396 = t19 + t15;
-        const V t397 = t15 - t19;
-        const V t398 = t35 - t396;
-        const V t399 = c5 * t396;
-        const V t400 = t399 + t35;
-        const V t401 = c6 * t397;
-        // real block of 3, multiplier 2
-        const V t402 = t59 + t47;
-        const V t403 = t59 - t47;
-        const V t404 = t402 + t13;
-        const V t405 = c5 * t402;
-        const V t406 = t13 - t405;
-        const V t407 = c6 * t403;
-        // real block of 3, multiplier 2
-        const V t408 = t57 + t21;
-        const V t409 = t21 - t57;
-        const V t410 = t408 + t41;
-        const V t411 = c5 * t408;
-        const V t412 = t411 - t41;
-        const V t413 = c6 * t409;
-        // real block of 5, multiplier 3
-        const V t414 = t392 - t410;
-        const V t415 = t392 + t410;
-        const V t416 = t404 + t398;
-        const V t417 = t404 - t398;
-        const V t418 = t414 + t416;
-        const V t419 = t418 + t386;
-        const V t420 = c2 * t414;
-        const V t421 = t386 - t420;
-        const V t422 = c1 * t416;
-        const V t423 = t421 + t422;
-        const V t424 = c4 * t415;
-        const V t425 = c3 * t417;
-        const V t426 = t424 + t425;
-        const V t427 = c1 * t414;
-        const V t428 = c2 * t416;
-        const V t429 = t427 - t428;
-        const V t430 = t429 + t386;
-        const V t431 = c3 * t415;
-        const V t432 = c4 * t417;
-        const V t433 = t432 - t431;
-        // complex block of 5, multiplier 3
-        const V t434 = t412 - t394;
-        const V t435 = t413 - t395;
-        const V t436 = t394 + t412;
-        const V t437 = t395 + t413;
-        const V t438 = t406 + t400;
-        const V t439 = t407 + t401;
-        const V t440 = t406 - t400;
-        const V t441 = t407 - t401;
-        const V t442 = t434 + t438;
-        const V t443 = t435 + t439;
-        const V t444 = t442 + t388;
-        const V t445 = t443 + t389;
-        const V t446 = c1 * t434;
-        const V t447 = c2 * t438;
-        const V t448 = t446 - t447;
-        const V t449 = t448 + t388;
-        const V t450 = c1 * t435;
-        const V t451 = c2 * t439;
-        const V t452 = t450 - t451;
-        const V t453 = t452 + t389;
-        const V t454 = c3 * t436;
-        const V t455 = c4 * t440;
-        const V t456 = t454 + t455;
-        const V t457 = c3 * t437;
-        const V t458 = c4 * t441;
-        const V t459 = t457 + t458;
-        const V t460 = t449 - t459;
-        const V t461 = t453 + t456;
-        const V t462 = t449 + t459;
-        const V t463 = t453 - t456;
-        const V t464 = c2 * t434;
-        const V t465 = t388 - t464;
-        const V t466 = c1 * t438;
-        const V t467 = t465 + t466;
-        const V t468 = c2 * t435;
-        const V t469 = t389 - t468;
-        const V t470 = c1 * t439;
-        const V t471 = t469 + t470;
-        const V t472 = c4 * t436;
-        const V t473 = c3 * t440;
-        const V t474 = t473 - t472;
-        const V t475 = c4 * t437;
-        const V t476 = c3 * t441;
-        const V t477 = t476 - t475;
-        const V t478 = t467 + t477;
-        const V t479 = t471 - t474;
-        const V t480 = t467 - t477;
-        const V t481 = t471 + t474;
-        // skew block of 30
-        const V t482 = c7 * t481;
-        const V t483 = c8 * t480;
-        const V t484 = t483 + t482;
-        const V t485 = c7 * t480;
-        const V t486 = c8 * t481;
-        const V t487 = t486 - t485;
-        // complex block of 2
-        const V t488 = t382 + t484;
-        const V t489 = t383 + t487;
-        const V t490 = t382 - t484;
-        const V t491 = t383 - t487;
-        // skew block of 30
-        const V t492 = c1 * t433;
-        const V t493 = c3 * t430;
-        const V t494 = t493 - t492;
-        const V t495 = c1 * t430;
-        const V t496 = c3 * t433;
-        const V t497 = t496 + t495;
-        // complex block of 2
-        const V t498 = t332 + t494;
-        const V t499 = t335 + t497;
-        const V t500 = t332 - t494;
-        const V t501 = t497 - t335;
-        // skew block of 30
-        const V t502 = c5 * t445;
-        const V t503 = c6 * t444;
-        const V t504 = t503 - t502;
-        const V t505 = c5 * t444;
-        const V t506 = c6 * t445;
-        const V t507 = t506 + t505;
-        // complex block of 2
-        const V t508 = t346 + t504;
-        const V t509 = t347 + t507;
-        const V t510 = t346 - t504;
-        const V t511 = t507 - t347;
-        // skew block of 30
-        const V t512 = c9 * t461;
-        const V t513 = c10 * t460;
-        const V t514 = t513 + t512;
-        const V t515 = c9 * t460;
-        const V t516 = c10 * t461;
-        const V t517 = t516 - t515;
-        // complex block of 2
-        const V t518 = t362 + t514;
-        const V t519 = t363 + t517;
-        const V t520 = t362 - t514;
-        const V t521 = t363 - t517;
-        // skew block of 30
-        const V t522 = c2 * t426;
-        const V t523 = c4 * t423;
-        const V t524 = t523 - t522;
-        const V t525 = c2 * t423;
-        const V t526 = c4 * t426;
-        const V t527 = t526 + t525;
-        // complex block of 2
-        const V t528 = t325 + t524;
-        const V t529 = t328 + t527;
-        const V t530 = t325 - t524;
-        const V t531 = t527 - t328;
-        // skew block of 30
-        const V t532 = c11 * t479;
-        const V t533 = c12 * t478;
-        const V t534 = t533 - t532;
-        const V t535 = c11 * t478;
-        const V t536 = c12 * t479;
-        const V t537 = t536 + t535;
-        // complex block of 2
-        const V t538 = t380 + t534;
-        const V t539 = t381 + t537;
-        const V t540 = t380 - t534;
-        const V t541 = t537 - t381;
-        // skew block of 30
-        const V t542 = c13 * t463;
-        const V t543 = c14 * t462;
-        const V t544 = t543 + t542;
-        const V t545 = c13 * t462;
-        const V t546 = c14 * t463;
-        const V t547 = t546 - t545;
-        // complex block of 2
-        const V t548 = t364 + t544;
-        const V t549 = t365 + t547;
-        const V t550 = t364 - t544;
-        const V t551 = t365 - t547;
+        const V t158 = t151 + t156;
         // spectrum block of 61
-        const V t552 = c15 * t192;
+        const V t159 = c[57] * t158;
+        // real block of 2
+        const V t160 = t151 - t156;
+        // complex block of 2
+        const V t161 = t152 + t157;
+        // spectrum block of 61
+        const V t162 = c[-9] * t161;
+        // complex block of 2
+        const V t163 = t152 - t157;
+        // spectrum block of 61
+        const V t164 = c[-8] * t163;
+        // real block of 5
+        const V t165 = t12 + t0;
+        // complex block of 3
+        const V t166 = t97 + t121;
+        const V t167 = c[-11] * t166;
+        const V t168 = t166 + t165;
+        const V t169 = t165 - t167;
+        // real block of 5
+        const V t170 = t138 + t130;
+        // complex block of 3
+        const V t171 = t69 + t45;
+        const V t172 = c[-11] * t171;
+        const V t173 = t171 + t170;
+        const V t174 = t170 - t172;
+        // complex block of 3
+        const V t175 = t100 - t103;
+        const V t176 = c[-10] * t175;
+        // complex block of 3
+        const V t177 = t51 - t48;
+        const V t178 = c[-10] * t177;
+        // complex block of 3
+        const V t179 = t169 + t176;
+        // complex block of 3
+        const V t180 = t174 + t178;
+        // complex block of 2
+        const V t181 = t179 + t180;
+        const V t182 = t179 - t180;
+        // spectrum block of 61
+        const V t183 = c[-7] * t182;
+        const V t184 = c[-6] * t181;
+        // complex block of 3
+        const V t185 = t169 - t176;
+        // complex block of 3
+        const V t186 = t174 - t178;
+        // complex block of 2
+        const V t187 = t185 + t186;
+        const V t188 = t185 - t186;
+        // spectrum block of 61
+        const V t189 = c[-5] * t187;
+        const V t190 = c[-4] * t188;
+        // complex block of 2
+        const V t191 = t168 + t173;
+        // spectrum block of 61
+        const V t192 = c[-3] * t191;
+        // complex block of 2
+        const V t193 = t168 - t173;
+        // spectrum block of 61
+        const V t194 = c[-2] * t193;
+        // real block of 5
+        const V t195 = t17 + t18;
+        // complex block of 3
+        const V t196 = t108 + t125;
+        const V t197 = c[-11] * t196;
+        const V t198 = t196 + t195;
+        const V t199 = t195 - t197;
+        // real block of 5
+        const V t200 = t143 + t144;
+        // complex block of 3
+        const V t201 = t73 + t56;
+        const V t202 = c[-11] * t201;
+        const V t203 = t201 + t200;
+        const V t204 = t200 - t202;
+        // complex block of 3
+        const V t205 = t114 - t111;
+        const V t206 = c[-10] * t205;
+        // complex block of 3
+        const V t207 = t59 - t62;
+        const V t208 = c[-10] * t207;
+        // complex block of 3
+        const V t209 = t199 + t206;
+        // complex block of 3
+        const V t210 = t204 + t208;
+        // complex block of 2
+        const V t211 = t209 + t210;
+        const V t212 = t209 - t210;
+        // spectrum block of 61
+        const V t213 = c[-1] * t212;
+        const V t214 = c[0] * t211;
+        // complex block of 3
+        const V t215 = t199 - t206;
+        // complex block of 3
+        const V t216 = t204 - t208;
+        // complex block of 2
+        const V t217 = t215 + t216;
+        const V t218 = t215 - t216;
+        // spectrum block of 61
+        const V t219 = c[1] * t217;
+        const V t220 = c[2] * t218;
+        // complex block of 2
+        const V t221 = t198 + t203;
+        // spectrum block of 61
+        const V t222 = c[3] * t221;
+        // complex block of 2
+        const V t223 = t198 - t203;
+        // spectrum block of 61
+        const V t224 = c[4] * t223;
+        // real block of 3
+        const V t225 = t93 - t117;
+        const V t226 = c[-10] * t225;
+        // real block of 3
+        const V t227 = t65 - t41;
+        const V t228 = c[-10] * t227;
+        // complex block of 2
+        const V t229 = t226 + t228;
+        // spectrum block of 61
+        const V t230 = c[5] * t229;
+        const V t231 = c[-9] * t229;
+        // complex block of 2
+        const V t232 = t228 - t226;
+        // spectrum block of 61
+        const V t233 = c[6] * t232;
+        const V t234 = c[-8] * t232;
+        // complex block of 3
+        const V t235 = t97 - t121;
+        const V t236 = c[-10] * t235;
+        const V t237 = c[-11] * t104;
+        const V t238 = t15 - t237;
+        const V t239 = t238 - t236;
+        const V t240 = t238 + t236;
+        // complex block of 3
+        const V t241 = t69 - t45;
+        const V t242 = c[-10] * t241;
+        const V t243 = c[-11] * t52;
+        const V t244 = t141 - t243;
+        const V t245 = t244 - t242;
+        const V t246 = t244 + t242;
+        // complex block of 2
+        const V t247 = t239 + t245;
+        // spectrum block of 61
+        const V t248 = c[7] * t247;
+        const V t249 = c[-6] * t247;
+        // complex block of 2
+        const V t250 = t239 - t245;
+        // spectrum block of 61
+        const V t251 = c[8] * t250;
+        const V t252 = c[-7] * t250;
+        // complex block of 2
+        const V t253 = t240 + t246;
+        // spectrum block of 61
+        const V t254 = c[9] * t253;
+        const V t255 = c[-5] * t253;
+        // complex block of 2
+        const V t256 = t240 - t246;
+        // spectrum block of 61
+        const V t257 = c[10] * t256;
+        const V t258 = c[-4] * t256;
+        // complex block of 3
+        const V t259 = t104 + t15;
+        // complex block of 3
+        const V t260 = t52 + t141;
+        // complex block of 2
+        const V t261 = t259 + t260;
+        const V t262 = t259 - t260;
+        // spectrum block of 61
+        const V t263 = c[11] * t261;
+        const V t264 = c[-3] * t261;
+        const V t265 = c[12] * t262;
+        const V t266 = c[-2] * t262;
+        // complex block of 3
+        const V t267 = t108 - t125;
+        const V t268 = c[-10] * t267;
+        const V t269 = c[-11] * t115;
+        const V t270 = t269 - t21;
+        const V t271 = t270 - t268;
+        const V t272 = t270 + t268;
+        // complex block of 3
+        const V t273 = t73 - t56;
+        const V t274 = c[-10] * t273;
+        const V t275 = c[-11] * t63;
+        const V t276 = t275 - t147;
+        const V t277 = t276 - t274;
+        const V t278 = t276 + t274;
+        // complex block of 2
+        const V t279 = t271 + t277;
+        // spectrum block of 61
+        const V t280 = c[13] * t279;
+        const V t281 = c[0] * t279;
+        // complex block of 2
+        const V t282 = t271 - t277;
+        // spectrum block of 61
+        const V t283 = c[14] * t282;
+        const V t284 = c[-1] * t282;
+        // complex block of 2
+        const V t285 = t272 + t278;
+        // spectrum block of 61
+        const V t286 = c[15] * t285;
+        const V t287 = c[1] * t285;
+        // complex block of 2
+        const V t288 = t272 - t278;
+        // spectrum block of 61
+        const V t289 = c[16] * t288;
+        const V t290 = c[2] * t288;
+        // complex block of 3
+        const V t291 = t115 + t21;
+        // complex block of 3
+        const V t292 = t63 + t147;
+        // complex block of 2
+        const V t293 = t291 + t292;
+        const V t294 = t292 - t291;
+        // spectrum block of 61
+        const V t295 = c[17] * t294;
+        const V t296 = c[4] * t294;
+        const V t297 = c[18] * t293;
+        const V t298 = c[3] * t293;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t299 = c[-16] * x1i;
+        const V x13i = io.im(13);
+        const V t300 = c[-16] * x13i;
+        const V x14i = io.im(14);
+        const V t301 = c[-16] * x14i;
+        // real block of 3, multiplier 2
+        const V t302 = t300 - t301;
+        const V t303 = t300 + t301;
+        const V t304 = c[-10] * t303;
+        const V t305 = t302 + t299;
+        const V t306 = c[-11] * t302;
+        const V t307 = t299 - t306;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t308 = c[-16] * x2i;
+        const V x26i = io.im(26);
+        const V t309 = c[-16] * x26i;
+        const V x28i = io.im(28);
+        const V t310 = c[-16] * x28i;
+        // real block of 3, multiplier 2
+        const V t311 = t309 - t310;
+        const V t312 = t309 + t310;
+        const V t313 = c[-10] * t312;
+        const V t314 = t311 + t308;
+        const V t315 = c[-11] * t311;
+        const V t316 = t308 - t315;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t317 = c[-16] * x3i;
+        const V x16i = io.im(16);
+        const V t318 = c[-16] * x16i;
+        const V x25i = io.im(25);
+        const V t319 = c[-16] * x25i;
+        // real block of 3, multiplier 2
+        const V t320 = t318 + t319;
+        const V t321 = t318 - t319;
+        // doubled bins
+        const V x19i = io.im(19);
+        const V t322 = c[-16] * x19i;
+        const V x22i = io.im(22);
+        const V t323 = c[-16] * x22i;
+        // real block of 3, multiplier 2
+        const V t324 = t323 - t322;
+        const V t325 = t323 + t322;
+        // doubled bins
+        const V x20i = io.im(20);
+        const V t326 = c[-16] * x20i;
+        // real block of 3, multiplier 2
+        const V t327 = t324 - t317;
+        // real block of 3, multiplier 2
+        const V t328 = t320 + t326;
+        // real block of 5, multiplier 3
+        const V t329 = t327 + t328;
+        // real block of 3, multiplier 2
+        const V t330 = c[-11] * t324;
+        const V t331 = t317 + t330;
+        // real block of 3, multiplier 2
+        const V t332 = c[-11] * t320;
+        const V t333 = t326 - t332;
+        // complex block of 5, multiplier 3
+        const V t334 = t333 - t331;
+        // real block of 3, multiplier 2
+        const V t335 = c[-10] * t325;
+        // real block of 3, multiplier 2
+        const V t336 = c[-10] * t321;
+        // complex block of 5, multiplier 3
+        const V t337 = t335 + t336;
+        const V t338 = t335 - t336;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t339 = c[-16] * x4i;
+        const V x5i = io.im(5);
+        const V t340 = c[-16] * x5i;
+        // real block of 3, multiplier 2
+        const V t341 = t340 + t339;
+        const V t342 = t339 - t340;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t343 = c[-16] * x9i;
+        const V x12i = io.im(12);
+        const V t344 = c[-16] * x12i;
+        const V x15i = io.im(15);
+        const V t345 = c[-16] * x15i;
+        // real block of 3, multiplier 2
+        const V t346 = t345 + t344;
+        const V t347 = t345 - t344;
+        // doubled bins
+        const V x27i = io.im(27);
+        const V t348 = c[-16] * x27i;
+        // real block of 3, multiplier 2
+        const V t349 = t343 - t341;
+        // real block of 3, multiplier 2
+        const V t350 = t346 - t348;
+        // real block of 5, multiplier 3
+        const V t351 = t350 + t349;
+        // real block of 3, multiplier 2
+        const V t352 = c[-11] * t341;
+        const V t353 = t352 + t343;
+        // real block of 3, multiplier 2
+        const V t354 = c[-11] * t346;
+        const V t355 = t348 + t354;
+        // complex block of 5, multiplier 3
+        const V t356 = t353 - t355;
+        // real block of 3, multiplier 2
+        const V t357 = c[-10] * t342;
+        // real block of 3, multiplier 2
+        const V t358 = c[-10] * t347;
+        // complex block of 5, multiplier 3
+        const V t359 = t358 + t357;
+        const V t360 = t358 - t357;
+        // doubled bins
+        const V x6i = io.im(6);
+        const V t361 = c[-16] * x6i;
+        const V x11i = io.im(11);
+        const V t362 = c[-16] * x11i;
+        const V x29i = io.im(29);
+        const V t363 = c[-16] * x29i;
+        // real block of 3, multiplier 2
+        const V t364 = t363 + t362;
+        const V t365 = c[-11] * t364;
+        const V t366 = t362 - t363;
+        // doubled bins
+        const V x17i = io.im(17);
+        const V t367 = c[-16] * x17i;
+        const V x23i = io.im(23);
+        const V t368 = c[-16] * x23i;
+        // real block of 3, multiplier 2
+        const V t369 = t368 - t367;
+        const V t370 = c[-11] * t369;
+        const V t371 = t367 + t368;
+        // doubled bins
+        const V x21i = io.im(21);
+        const V t372 = c[-16] * x21i;
+        // real block of 3, multiplier 2
+        const V t373 = t369 - t361;
+        // real block of 3, multiplier 2
+        const V t374 = t364 + t372;
+        // real block of 5, multiplier 3
+        const V t375 = t373 - t374;
+        const V t376 = t373 + t374;
+        const V t377 = c[-14] * t375;
+        const V t378 = c[-15] * t375;
+        // real block of 3, multiplier 2
+        const V t379 = t361 + t370;
+        // real block of 3, multiplier 2
+        const V t380 = t365 - t372;
+        // complex block of 5, multiplier 3
+        const V t381 = t380 - t379;
+        const V t382 = t379 + t380;
+        const V t383 = c[-15] * t381;
+        const V t384 = c[-14] * t381;
+        // real block of 3, multiplier 2
+        const V t385 = c[-10] * t371;
+        // real block of 3, multiplier 2
+        const V t386 = c[-10] * t366;
+        // complex block of 5, multiplier 3
+        const V t387 = t386 - t385;
+        const V t388 = t385 + t386;
+        const V t389 = c[-15] * t387;
+        const V t390 = c[-13] * t388;
+        const V t391 = c[-14] * t387;
+        const V t392 = c[-12] * t388;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t393 = c[-16] * x7i;
+        const V x8i = io.im(8);
+        const V t394 = c[-16] * x8i;
+        const V x10i = io.im(10);
+        const V t395 = c[-16] * x10i;
+        // real block of 3, multiplier 2
+        const V t396 = t395 + t394;
+        const V t397 = c[-11] * t396;
+        const V t398 = t394 - t395;
+        // doubled bins
+        const V x18i = io.im(18);
+        const V t399 = c[-16] * x18i;
+        const V x24i = io.im(24);
+        const V t400 = c[-16] * x24i;
+        const V x30i = io.im(30);
+        const V t401 = c[-16] * x30i;
+        // real block of 3, multiplier 2
+        const V t402 = t401 + t400;
+        const V t403 = c[-11] * t402;
+        const V t404 = t401 - t400;
+        // real block of 3, multiplier 2
+        const V t405 = t399 - t396;
+        // real block of 3, multiplier 2
+        const V t406 = t402 + t393;
+        // real block of 5, multiplier 3
+        const V t407 = t406 + t405;
+        const V t408 = t406 - t405;
+        const V t409 = c[-14] * t407;
+        // real block of 3, multiplier 2
+        const V t410 = t397 + t399;
+        // real block of 3, multiplier 2
+        const V t411 = t393 - t403;
+        // complex block of 5, multiplier 3
+        const V t412 = t411 + t410;
+        const V t413 = t411 - t410;
+        const V t414 = c[-14] * t412;
+        // real block of 3, multiplier 2
+        const V t415 = c[-10] * t398;
+        // real block of 3, multiplier 2
+        const V t416 = c[-10] * t404;
+        // complex block of 5, multiplier 3
+        const V t417 = t416 + t415;
+        const V t418 = t416 - t415;
+        const V t419 = c[-14] * t417;
+        const V t420 = c[-12] * t418;
+        const V t421 = c[-15] * t417;
+        const V t422 = c[-13] * t418;
+        // real block of 5, multiplier 3
+        const V t423 = t327 - t328;
+        const V t424 = c[-12] * t423;
+        const V t425 = c[-13] * t423;
+        const V t426 = t350 - t349;
+        const V t427 = c[-13] * t426;
+        const V t428 = c[-12] * t426;
+        const V t429 = c[-14] * t329;
+        const V t430 = t305 - t429;
+        const V t431 = c[-15] * t351;
+        const V t432 = c[-15] * t329;
+        const V t433 = c[-14] * t351;
+        const V t434 = t432 - t433;
+        // real block of 5, multiplier 3
+        const V t435 = t314 - t377;
+        const V t436 = c[-15] * t407;
+        const V t437 = t435 + t436;
+        // skew block of 30
+        const V t438 = c[-12] * t437;
+        const V t439 = c[-14] * t437;
+        // real block of 5, multiplier 3
+        const V t440 = c[-12] * t376;
+        const V t441 = c[-13] * t408;
+        const V t442 = t440 + t441;
+        // skew block of 30
+        const V t443 = c[-14] * t442;
+        const V t444 = c[-12] * t442;
+        // real block of 5, multiplier 3
+        const V t445 = t378 - t409;
+        const V t446 = t445 + t314;
+        // skew block of 30
+        const V t447 = c[-13] * t446;
+        const V t448 = c[-15] * t446;
+        // real block of 5, multiplier 3
+        const V t449 = c[-13] * t376;
+        const V t450 = c[-12] * t408;
+        const V t451 = t450 - t449;
+        // skew block of 30
+        const V t452 = c[-15] * t451;
+        const V t453 = c[-13] * t451;
+        // real block of 5, multiplier 3
+        const V t454 = t430 + t431;
+        // skew block of 30
+        const V t455 = t438 - t443;
+        // complex block of 2
+        const V t456 = t454 + t455;
+        const V t457 = t454 - t455;
+        // real block of 5, multiplier 3
+        const V t458 = t424 + t427;
+        // skew block of 30
+        const V t459 = t444 + t439;
+        // complex block of 2
+        const V t460 = t458 + t459;
+        const V t461 = t459 - t458;
+        // real block of 5, multiplier 3
+        const V t462 = t434 + t305;
+        // skew block of 30
+        const V t463 = t447 - t452;
+        // complex block of 2
+        const V t464 = t462 + t463;
+        const V t465 = t462 - t463;
+        // real block of 5, multiplier 3
+        const V t466 = t428 - t425;
+        // skew block of 30
+        const V t467 = t453 + t448;
+        // complex block of 2
+        const V t468 = t466 + t467;
+        const V t469 = t467 - t466;
+        // real block of 5, multiplier 3
+        const V t470 = t329 + t351;
+        const V t471 = t470 + t305;
+        // spectrum block of 61
+        const V t472 = c[19] * t471;
+        const V t473 = c[20] * t471;
+        // complex block of 5, multiplier 3
+        const V t474 = t331 + t333;
+        const V t475 = c[-13] * t474;
+        const V t476 = c[-12] * t474;
+        const V t477 = t355 + t353;
+        const V t478 = c[-12] * t477;
+        const V t479 = c[-13] * t477;
+        const V t480 = t478 - t475;
+        const V t481 = t476 + t479;
+        const V t482 = c[-15] * t334;
+        const V t483 = c[-14] * t356;
+        const V t484 = t482 - t483;
+        const V t485 = t484 + t307;
+        const V t486 = c[-15] * t337;
+        const V t487 = c[-14] * t359;
+        const V t488 = t486 - t487;
+        const V t489 = t488 + t304;
+        const V t490 = c[-13] * t338;
+        const V t491 = c[-12] * t360;
+        const V t492 = t490 - t491;
+        const V t493 = c[-14] * t334;
+        const V t494 = t307 - t493;
+        const V t495 = c[-15] * t356;
+        const V t496 = t494 + t495;
+        const V t497 = c[-14] * t337;
+        const V t498 = t304 - t497;
+        const V t499 = c[-15] * t359;
+        const V t500 = t498 + t499;
+        const V t501 = c[-12] * t338;
+        const V t502 = c[-13] * t360;
+        const V t503 = t501 + t502;
+        // complex block of 5, multiplier 3
+        const V t504 = t383 - t414;
+        const V t505 = t504 + t316;
+        const V t506 = t390 + t420;
+        const V t507 = t505 - t506;
+        const V t508 = t505 + t506;
+        const V t509 = t389 - t419;
+        const V t510 = t509 + t313;
+        const V t511 = c[-13] * t382;
+        const V t512 = c[-12] * t413;
+        const V t513 = t511 + t512;
+        const V t514 = t510 + t513;
+        const V t515 = t510 - t513;
+        const V t516 = t316 - t384;
+        const V t517 = c[-15] * t412;
+        const V t518 = t516 + t517;
+        const V t519 = t422 - t392;
+        const V t520 = t518 + t519;
+        const V t521 = t518 - t519;
+        const V t522 = t313 - t391;
+        const V t523 = t522 + t421;
+        const V t524 = c[-12] * t382;
+        const V t525 = c[-13] * t413;
+        const V t526 = t525 - t524;
+        const V t527 = t523 - t526;
+        const V t528 = t523 + t526;
+        // complex block of 5, multiplier 3
+        const V t529 = t485 + t492;
+        // skew block of 30
+        const V t530 = c[21] * t514;
+        const V t531 = c[22] * t507;
+        const V t532 = t531 + t530;
+        // complex block of 2
+        const V t533 = t529 + t532;
+        const V t534 = t529 - t532;
+        // complex block of 5, multiplier 3
+        const V t535 = t489 - t480;
+        // skew block of 30
+        const V t536 = c[21] * t507;
+        const V t537 = c[22] * t514;
+        const V t538 = t537 - t536;
+        // complex block of 2
+        const V t539 = t535 + t538;
+        const V t540 = t535 - t538;
+        // complex block of 5, multiplier 3
+        const V t541 = t485 - t492;
+        // skew block of 30
+        const V t542 = c[23] * t515;
+        const V t543 = c[24] * t508;
+        const V t544 = t543 + t542;
+        // complex block of 2
+        const V t545 = t541 + t544;
+        const V t546 = t541 - t544;
+        // complex block of 5, multiplier 3
+        const V t547 = t489 + t480;
+        // skew block of 30
+        const V t548 = c[23] * t508;
+        const V t549 = c[24] * t515;
+        const V t550 = t549 - t548;
+        // complex block of 2
+        const V t551 = t547 + t550;
+        const V t552 = t547 - t550;
+        // complex block of 5, multiplier 3
+        const V t553 = t496 + t503;
+        // skew block of 30
+        const V t554 = c[25] * t527;
+        const V t555 = c[26] * t520;
+        const V t556 = t555 - t554;
+        // complex block of 2
+        const V t557 = t553 + t556;
+        const V t558 = t553 - t556;
+        // complex block of 5, multiplier 3
+        const V t559 = t500 + t481;
+        // skew block of 30
+        const V t560 = c[25] * t520;
+        const V t561 = c[26] * t527;
+        const V t562 = t561 + t560;
+        // complex block of 2
+        const V t563 = t559 + t562;
+        const V t564 = t562 - t559;
+        // complex block of 5, multiplier 3
+        const V t565 = t496 - t503;
+        // skew block of 30
+        const V t566 = c[27] * t528;
+        const V t567 = c[28] * t521;
+        const V t568 = t567 + t566;
+        // complex block of 2
+        const V t569 = t565 + t568;
+        const V t570 = t565 - t568;
+        // complex block of 5, multiplier 3
+        const V t571 = t500 - t481;
+        // skew block of 30
+        const V t572 = c[27] * t521;
+        const V t573 = c[28] * t528;
+        const V t574 = t573 - t572;
+        // complex block of 2
+        const V t575 = t571 + t574;
+        const V t576 = t571 - t574;
+        // complex block of 5, multiplier 3
+        const V t577 = t334 + t356;
+        const V t578 = t577 + t307;
+        const V t579 = t337 + t359;
+        const V t580 = t579 + t304;
+        // complex block of 5, multiplier 3
+        const V t581 = t381 + t412;
+        const V t582 = t581 + t316;
+        // skew block of 30
+        const V t583 = c[-10] * t582;
+        const V t584 = c[-11] * t582;
+        // complex block of 5, multiplier 3
+        const V t585 = t387 + t417;
+        const V t586 = t585 + t313;
+        // skew block of 30
+        const V t587 = c[-11] * t586;
+        const V t588 = c[-10] * t586;
+        const V t589 = t583 - t587;
+        // complex block of 2
+        const V t590 = t578 + t589;
+        const V t591 = t578 - t589;
+        // skew block of 30
+        const V t592 = t588 + t584;
+        // complex block of 2
+        const V t593 = t580 + t592;
+        const V t594 = t592 - t580;
+        // real block of 5, multiplier 3
+        const V t595 = t375 + t407;
+        const V t596 = t595 + t314;
+        // spectrum block of 61
+        const V t597 = c[20] * t596;
+        const V t598 = c[19] * t596;
         const V x0r = io.re(0);
-        const V t553 = x0r - t552;
-        const V t554 = c16 * t489;
-        const V t555 = c17 * t488;
-        const V t556 = t554 - t555;
-        const V t557 = c16 * t488;
-        const V t558 = c17 * t489;
-        const V t559 = t558 + t557;
-        const V t560 = c18 * t237;
-        const V t561 = c19 * t236;
-        const V t562 = t561 - t560;
-        const V t563 = c18 * t236;
-        const V t564 = c19 * t237;
-        const V t565 = t564 + t563;
-        const V t566 = c20 * t499;
-        const V t567 = c21 * t498;
-        const V t568 = t567 - t566;
-        const V t569 = c20 * t498;
-        const V t570 = c21 * t499;
-        const V t571 = t570 + t569;
-        const V t572 = c22 * t283;
-        const V t573 = c23 * t282;
-        const V t574 = t573 + t572;
-        const V t575 = c22 * t282;
-        const V t576 = c23 * t283;
-        const V t577 = t575 - t576;
-        const V t578 = c24 * t509;
-        const V t579 = c25 * t508;
-        const V t580 = t579 + t578;
-        const V t581 = c24 * t508;
-        const V t582 = c25 * t509;
-        const V t583 = t582 - t581;
-        const V t584 = c26 * t277;
-        const V t585 = c27 * t276;
-        const V t586 = t585 + t584;
-        const V t587 = c26 * t276;
-        const V t588 = c27 * t277;
-        const V t589 = t587 - t588;
-        const V t590 = c28 * t519;
-        const V t591 = c29 * t518;
-        const V t592 = t591 - t590;
-        const V t593 = c28 * t518;
-        const V t594 = c29 * t519;
-        const V t595 = t594 + t593;
-        const V t596 = c30 * t239;
-        const V t597 = c31 * t238;
-        const V t598 = t597 + t596;
-        const V t599 = c30 * t238;
-        const V t600 = c31 * t239;
-        const V t601 = t599 - t600;
-        const V t602 = c32 * t529;
-        const V t603 = c33 * t528;
-        const V t604 = t603 - t602;
-        const V t605 = c32 * t528;
-        const V t606 = c33 * t529;
-        const V t607 = t606 + t605;
-        const V t608 = c34 * t197;
-        const V t609 = c35 * t196;
-        const V t610 = t609 + t608;
-        const V t611 = c34 * t196;
-        const V t612 = c35 * t197;
-        const V t613 = t611 - t612;
-        const V t614 = c36 * t539;
-        const V t615 = c37 * t538;
-        const V t616 = t615 - t614;
-        const V t617 = c36 * t538;
-        const V t618 = c37 * t539;
+        const V t599 = x0r - t159;
+        const V t600 = c[58] * t160;
+        // spectrum block of 2
+        const V t601 = t599 + t600;
+        const V t602 = t599 - t600;
+        // spectrum block of 61
+        const V t603 = t597 - t472;
+        const V t604 = t598 + t473;
+        // spectrum block of 2
+        const V t605 = t601 + t603;
+        const V t606 = t601 - t603;
+        // spectrum block of 2
+        const V t607 = t602 + t604;
+        const V t608 = t602 - t604;
+        // spectrum block of 61
+        const V t609 = c[29] * t575;
+        const V t610 = c[30] * t569;
+        const V t611 = t609 - t610;
+        const V t612 = c[31] * t576;
+        const V t613 = c[32] * t570;
+        const V t614 = t613 + t612;
+        // complex block of 2
+        const V t615 = t614 + t611;
+        const V t616 = t614 - t611;
+        // spectrum block of 61
+        const V t617 = c[29] * t569;
+        const V t618 = c[30] * t575;
         const V t619 = t618 + t617;
-        const V t620 = c38 * t231;
-        const V t621 = c39 * t230;
-        const V t622 = t621 + t620;
-        const V t623 = c38 * t230;
-        const V t624 = c39 * t231;
-        const V t625 = t623 - t624;
-        const V t626 = c40 * t549;
-        const V t627 = c41 * t548;
-        const V t628 = t627 + t626;
-        const V t629 = c40 * t548;
-        const V t630 = c41 * t549;
-        const V t631 = t629 - t630;
-        const V t632 = c42 * t281;
-        const V t633 = c43 * t280;
-        const V t634 = t633 + t632;
-        const V t635 = c42 * t280;
-        const V t636 = c43 * t281;
-        const V t637 = t635 - t636;
-        const V t638 = c44 * t419;
-        const V t639 = c45 * t321;
+        const V t620 = c[31] * t570;
+        const V t621 = c[32] * t576;
+        const V t622 = t620 - t621;
+        // complex block of 2
+        const V t623 = t622 + t619;
+        const V t624 = t619 - t622;
+        // spectrum block of 61
+        const V t625 = t219 + t286;
+        const V t626 = t289 - t220;
+        // complex block of 2
+        const V t627 = t626 - t625;
+        const V t628 = t625 + t626;
+        // spectrum block of 61
+        const V t629 = c[15] * t217;
+        const V t630 = t629 - t287;
+        const V t631 = c[16] * t218;
+        const V t632 = t290 + t631;
+        // complex block of 2
+        const V t633 = t630 - t632;
+        const V t634 = t630 + t632;
+        // spectrum block of 61
+        const V t635 = c[33] * t563;
+        const V t636 = c[34] * t557;
+        const V t637 = t636 - t635;
+        const V t638 = c[35] * t564;
+        const V t639 = c[36] * t558;
         const V t640 = t638 - t639;
-        const V t641 = c44 * t321;
-        const V t642 = c45 * t419;
-        const V t643 = t642 + t641;
-        const V t644 = c46 * t279;
-        const V t645 = c47 * t278;
-        const V t646 = t645 + t644;
-        const V t647 = c46 * t278;
-        const V t648 = c47 * t279;
-        const V t649 = t647 - t648;
-        const V t650 = c48 * t551;
-        const V t651 = c49 * t550;
-        const V t652 = t651 - t650;
-        const V t653 = c48 * t550;
-        const V t654 = c49 * t551;
-        const V t655 = t654 + t653;
-        const V t656 = c50 * t233;
-        const V t657 = c51 * t232;
-        const V t658 = t657 - t656;
-        const V t659 = c50 * t232;
-        const V t660 = c51 * t233;
-        const V t661 = t660 + t659;
-        const V t662 = c52 * t541;
-        const V t663 = c53 * t540;
-        const V t664 = t662 - t663;
-        const V t665 = c52 * t540;
-        const V t666 = c53 * t541;
-        const V t667 = t666 + t665;
-        const V t668 = c54 * t195;
-        const V t669 = c55 * t194;
-        const V t670 = t668 - t669;
-        const V t671 = c54 * t194;
-        const V t672 = c55 * t195;
-        const V t673 = t672 + t671;
-        const V t674 = c56 * t531;
-        const V t675 = c57 * t530;
-        const V t676 = t675 - t674;
-        const V t677 = c56 * t530;
-        const V t678 = c57 * t531;
-        const V t679 = t678 + t677;
-        const V t680 = c58 * t241;
-        const V t681 = c59 * t240;
-        const V t682 = t681 + t680;
-        const V t683 = c58 * t240;
-        const V t684 = c59 * t241;
+        // complex block of 2
+        const V t641 = t640 + t637;
+        const V t642 = t640 - t637;
+        // spectrum block of 61
+        const V t643 = c[33] * t557;
+        const V t644 = c[34] * t563;
+        const V t645 = t644 + t643;
+        const V t646 = c[35] * t558;
+        const V t647 = c[36] * t564;
+        const V t648 = t647 + t646;
+        // complex block of 2
+        const V t649 = t648 + t645;
+        const V t650 = t648 - t645;
+        // spectrum block of 61
+        const V t651 = t213 + t283;
+        const V t652 = t214 + t280;
+        // complex block of 2
+        const V t653 = t652 - t651;
+        const V t654 = t652 + t651;
+        // spectrum block of 61
+        const V t655 = c[14] * t212;
+        const V t656 = t655 - t284;
+        const V t657 = c[13] * t211;
+        const V t658 = t657 - t281;
+        // complex block of 2
+        const V t659 = t658 - t656;
+        const V t660 = t658 + t656;
+        // complex block of 2
+        const V t661 = t633 + t649;
+        // complex block of 2
+        const V t662 = t659 - t623;
+        // complex block of 3, multiplier 2
+        const V t663 = t661 - t662;
+        const V t664 = t662 + t661;
+        const V t665 = c[-11] * t663;
+        const V t666 = c[-10] * t664;
+        // complex block of 2
+        const V t667 = t627 + t641;
+        // complex block of 2
+        const V t668 = t653 + t615;
+        // complex block of 3, multiplier 2
+        const V t669 = t668 + t667;
+        const V t670 = t668 - t667;
+        const V t671 = c[-11] * t669;
+        // complex block of 2
+        const V t672 = t633 - t649;
+        // complex block of 2
+        const V t673 = t659 + t623;
+        // complex block of 3, multiplier 2
+        const V t674 = t672 - t673;
+        const V t675 = t673 + t672;
+        const V t676 = c[-11] * t674;
+        const V t677 = c[-10] * t675;
+        // complex block of 2
+        const V t678 = t627 - t641;
+        // complex block of 2
+        const V t679 = t653 - t615;
+        // complex block of 3, multiplier 2
+        const V t680 = t679 + t678;
+        const V t681 = t679 - t678;
+        const V t682 = c[-11] * t680;
+        // complex block of 2
+        const V t683 = t634 - t642;
+        // complex block of 2
+        const V t684 = t660 - t616;
+        // complex block of 3, multiplier 2
         const V t685 = t683 - t684;
-        const V t686 = c60 * t521;
-        const V t687 = c61 * t520;
-        const V t688 = t686 - t687;
-        const V t689 = c60 * t520;
-        const V t690 = c61 * t521;
+        const V t686 = t684 + t683;
+        const V t687 = c[-11] * t685;
+        const V t688 = c[-10] * t686;
+        // complex block of 2
+        const V t689 = t650 - t628;
+        // complex block of 2
+        const V t690 = t654 + t624;
+        // complex block of 3, multiplier 2
         const V t691 = t690 + t689;
-        const V t692 = c62 * t275;
-        const V t693 = c63 * t274;
-        const V t694 = t693 - t692;
-        const V t695 = c62 * t274;
-        const V t696 = c63 * t275;
-        const V t697 = t696 + t695;
-        const V t698 = c64 * t511;
-        const V t699 = c65 * t510;
-        const V t700 = t699 + t698;
-        const V t701 = c64 * t510;
-        const V t702 = c65 * t511;
-        const V t703 = t701 - t702;
-        const V t704 = c66 * t285;
-        const V t705 = c67 * t284;
-        const V t706 = t704 - t705;
-        const V t707 = c66 * t284;
-        const V t708 = c67 * t285;
-        const V t709 = t708 + t707;
-        const V t710 = c68 * t501;
-        const V t711 = c69 * t500;
-        const V t712 = t710 - t711;
-        const V t713 = c68 * t500;
-        const V t714 = c69 * t501;
-        const V t715 = t714 + t713;
-        const V t716 = c70 * t235;
-        const V t717 = c71 * t234;
-        const V t718 = t717 - t716;
-        const V t719 = c70 * t234;
-        const V t720 = c71 * t235;
-        const V t721 = t720 + t719;
-        const V t722 = c72 * t491;
-        const V t723 = c73 * t490;
-        const V t724 = t723 + t722;
-        const V t725 = c72 * t490;
-        const V t726 = c73 * t491;
-        const V t727 = t725 - t726;
-        const V t728 = c74 * t193;
-        // spectrum block of 2
-        const V t729 = t553 + t728;
-        const V t730 = t553 - t728;
-        // spectrum block of 2
-        const V t731 = t729 + t640;
-        const V t732 = t729 - t640;
-        // spectrum block of 2
-        const V t733 = t730 + t643;
-        const V t734 = t730 - t643;
+        const V t692 = t690 - t689;
+        const V t693 = c[-11] * t691;
         // complex block of 2
-        const V t735 = t577 - t709;
-        const V t736 = t706 - t574;
-        const V t737 = t577 + t709;
-        const V t738 = t574 + t706;
+        const V t694 = t634 + t642;
         // complex block of 2
-        const V t739 = t667 + t619;
-        const V t740 = t664 + t616;
-        const V t741 = t667 - t619;
-        const V t742 = t664 - t616;
+        const V t695 = t660 + t616;
+        // complex block of 3, multiplier 2
+        const V t696 = t694 - t695;
+        const V t697 = t695 + t694;
+        const V t698 = c[-11] * t696;
+        const V t699 = c[-10] * t697;
         // complex block of 2
-        const V t743 = t735 + t739;
-        const V t744 = t736 + t740;
-        const V t745 = t735 - t739;
-        const V t746 = t736 - t740;
+        const V t700 = t628 + t650;
         // complex block of 2
-        const V t747 = t737 - t742;
-        const V t748 = t741 - t738;
-        const V t749 = t737 + t742;
-        const V t750 = t738 + t741;
+        const V t701 = t654 - t624;
+        // complex block of 3, multiplier 2
+        const V t702 = t701 - t700;
+        const V t703 = t701 + t700;
+        const V t704 = c[-11] * t702;
+        // spectrum block of 61
+        const V t705 = t183 - t251;
+        const V t706 = t184 - t248;
         // complex block of 2
-        const V t751 = t601 - t685;
-        const V t752 = t598 - t682;
-        const V t753 = t601 + t685;
-        const V t754 = t598 + t682;
+        const V t707 = t706 + t705;
+        const V t708 = t706 - t705;
+        // spectrum block of 61
+        const V t709 = c[8] * t182;
+        const V t710 = t252 + t709;
+        const V t711 = c[7] * t181;
+        const V t712 = t249 + t711;
         // complex block of 2
-        const V t755 = t691 - t595;
-        const V t756 = t688 + t592;
-        const V t757 = t691 + t595;
-        const V t758 = t688 - t592;
+        const V t713 = t712 + t710;
+        const V t714 = t710 - t712;
+        // spectrum block of 61
+        const V t715 = c[37] * t539;
+        const V t716 = c[38] * t533;
+        const V t717 = t716 - t715;
+        const V t718 = c[39] * t540;
+        const V t719 = c[40] * t534;
+        const V t720 = t718 - t719;
         // complex block of 2
-        const V t759 = t751 + t755;
-        const V t760 = t752 + t756;
-        const V t761 = t751 - t755;
-        const V t762 = t752 - t756;
+        const V t721 = t720 + t717;
+        const V t722 = t720 - t717;
+        // spectrum block of 61
+        const V t723 = c[37] * t533;
+        const V t724 = c[38] * t539;
+        const V t725 = t724 + t723;
+        const V t726 = c[39] * t534;
+        const V t727 = c[40] * t540;
+        const V t728 = t727 + t726;
         // complex block of 2
-        const V t763 = t753 - t758;
-        const V t764 = t754 + t757;
-        const V t765 = t753 + t758;
-        const V t766 = t754 - t757;
+        const V t729 = t728 - t725;
+        const V t730 = t728 + t725;
+        // spectrum block of 61
+        const V t731 = t189 + t254;
+        const V t732 = t190 + t257;
         // complex block of 2
-        const V t767 = t625 + t661;
-        const V t768 = t658 - t622;
-        const V t769 = t625 - t661;
-        const V t770 = t622 + t658;
+        const V t733 = t731 - t732;
+        const V t734 = t731 + t732;
+        // spectrum block of 61
+        const V t735 = c[9] * t187;
+        const V t736 = t735 - t255;
+        const V t737 = c[10] * t188;
+        const V t738 = t737 - t258;
         // complex block of 2
-        const V t771 = t715 + t571;
-        const V t772 = t712 + t568;
-        const V t773 = t715 - t571;
-        const V t774 = t712 - t568;
+        const V t739 = t736 - t738;
+        const V t740 = t736 + t738;
+        // spectrum block of 61
+        const V t741 = c[41] * t551;
+        const V t742 = c[42] * t545;
+        const V t743 = t742 + t741;
+        const V t744 = c[43] * t552;
+        const V t745 = c[44] * t546;
+        const V t746 = t745 - t744;
         // complex block of 2
-        const V t775 = t767 + t771;
-        const V t776 = t768 + t772;
-        const V t777 = t767 - t771;
-        const V t778 = t768 - t772;
+        const V t747 = t746 - t743;
+        const V t748 = t746 + t743;
+        // spectrum block of 61
+        const V t749 = c[41] * t545;
+        const V t750 = c[42] * t551;
+        const V t751 = t749 - t750;
+        const V t752 = c[43] * t546;
+        const V t753 = c[44] * t552;
+        const V t754 = t753 + t752;
         // complex block of 2
-        const V t779 = t769 - t774;
-        const V t780 = t773 - t770;
-        const V t781 = t769 + t774;
-        const V t782 = t770 + t773;
+        const V t755 = t754 + t751;
+        const V t756 = t754 - t751;
         // complex block of 2
-        const V t783 = t649 - t637;
-        const V t784 = t646 - t634;
-        const V t785 = t649 + t637;
-        const V t786 = t646 + t634;
+        const V t757 = t739 + t729;
         // complex block of 2
-        const V t787 = t727 + t559;
-        const V t788 = t724 + t556;
-        const V t789 = t559 - t727;
-        const V t790 = t724 - t556;
+        const V t758 = t755 - t713;
+        // complex block of 3, multiplier 2
+        const V t759 = t758 + t757;
+        const V t760 = t757 - t758;
+        const V t761 = c[-11] * t759;
+        const V t762 = c[-10] * t760;
         // complex block of 2
-        const V t791 = t783 - t787;
-        const V t792 = t784 + t788;
-        const V t793 = t783 + t787;
-        const V t794 = t784 - t788;
+        const V t763 = t733 + t721;
         // complex block of 2
-        const V t795 = t785 - t790;
-        const V t796 = t786 + t789;
-        const V t797 = t785 + t790;
-        const V t798 = t786 - t789;
+        const V t764 = t707 + t747;
+        // complex block of 3, multiplier 2
+        const V t765 = t764 + t763;
+        const V t766 = t764 - t763;
+        const V t767 = c[-11] * t765;
         // complex block of 2
-        const V t799 = t673 - t613;
-        const V t800 = t670 + t610;
-        const V t801 = t673 + t613;
-        const V t802 = t670 - t610;
+        const V t768 = t739 - t729;
         // complex block of 2
-        const V t803 = t583 - t703;
-        const V t804 = t700 - t580;
-        const V t805 = t703 + t583;
-        const V t806 = t700 + t580;
+        const V t769 = t713 + t755;
+        // complex block of 3, multiplier 2
+        const V t770 = t769 - t768;
+        const V t771 = t769 + t768;
+        const V t772 = c[-11] * t770;
+        const V t773 = c[-10] * t771;
         // complex block of 2
-        const V t807 = t799 + t803;
-        const V t808 = t800 + t804;
-        const V t809 = t799 - t803;
-        const V t810 = t800 - t804;
+        const V t774 = t733 - t721;
         // complex block of 2
-        const V t811 = t801 - t806;
-        const V t812 = t802 - t805;
-        const V t813 = t801 + t806;
-        const V t814 = t802 + t805;
+        const V t775 = t707 - t747;
+        // complex block of 3, multiplier 2
+        const V t776 = t775 + t774;
+        const V t777 = t775 - t774;
+        const V t778 = c[-11] * t776;
         // complex block of 2
-        const V t815 = t697 + t589;
-        const V t816 = t694 + t586;
-        const V t817 = t589 - t697;
-        const V t818 = t694 - t586;
+        const V t779 = t740 - t722;
         // complex block of 2
-        const V t819 = t679 - t607;
-        const V t820 = t676 + t604;
-        const V t821 = t679 + t607;
-        const V t822 = t676 - t604;
+        const V t780 = t714 - t748;
+        // complex block of 3, multiplier 2
+        const V t781 = t780 + t779;
+        const V t782 = t779 - t780;
+        const V t783 = c[-11] * t781;
+        const V t784 = c[-10] * t782;
         // complex block of 2
-        const V t823 = t819 - t815;
-        const V t824 = t816 + t820;
-        const V t825 = t815 + t819;
-        const V t826 = t816 - t820;
+        const V t785 = t734 + t730;
         // complex block of 2
-        const V t827 = t817 - t822;
-        const V t828 = t818 + t821;
-        const V t829 = t817 + t822;
-        const V t830 = t818 - t821;
+        const V t786 = t708 + t756;
+        // complex block of 3, multiplier 2
+        const V t787 = t786 + t785;
+        const V t788 = t786 - t785;
+        const V t789 = c[-11] * t787;
         // complex block of 2
-        const V t831 = t721 + t565;
-        const V t832 = t718 + t562;
-        const V t833 = t565 - t721;
-        const V t834 = t718 - t562;
+        const V t790 = t740 + t722;
         // complex block of 2
-        const V t835 = t655 + t631;
-        const V t836 = t652 - t628;
-        const V t837 = t655 - t631;
-        const V t838 = t652 + t628;
+        const V t791 = t714 + t748;
+        // complex block of 3, multiplier 2
+        const V t792 = t791 + t790;
+        const V t793 = t790 - t791;
+        const V t794 = c[-11] * t792;
+        const V t795 = c[-10] * t793;
         // complex block of 2
-        const V t839 = t835 - t831;
-        const V t840 = t832 + t836;
-        const V t841 = t831 + t835;
-        const V t842 = t832 - t836;
+        const V t796 = t734 - t730;
         // complex block of 2
-        const V t843 = t833 - t838;
-        const V t844 = t834 + t837;
-        const V t845 = t833 + t838;
-        const V t846 = t834 - t837;
+        const V t797 = t708 - t756;
+        // complex block of 3, multiplier 2
+        const V t798 = t797 + t796;
+        const V t799 = t797 - t796;
+        const V t800 = c[-11] * t798;
+        // spectrum block of 61
+        const V t801 = c[45] * t468;
+        const V t802 = c[46] * t464;
+        const V t803 = t802 - t801;
+        const V t804 = c[45] * t464;
+        const V t805 = c[46] * t468;
+        const V t806 = t805 + t804;
+        const V t807 = t192 + t263;
+        const V t808 = t194 - t265;
+        // complex block of 2
+        const V t809 = t808 - t807;
+        const V t810 = t807 + t808;
+        // spectrum block of 61
+        const V t811 = c[11] * t191;
+        const V t812 = t811 - t264;
+        const V t813 = c[12] * t193;
+        const V t814 = t266 + t813;
+        const V t815 = c[47] * t469;
+        const V t816 = c[48] * t465;
+        const V t817 = t815 - t816;
+        const V t818 = c[47] * t465;
+        const V t819 = c[48] * t469;
+        const V t820 = t819 + t818;
+        // complex block of 2
+        const V t821 = t812 + t814;
+        // complex block of 2
+        const V t822 = t820 + t806;
+        // complex block of 2
+        const V t823 = t821 + t822;
+        const V t824 = t821 - t822;
+        // complex block of 2
+        const V t825 = t812 - t814;
+        // complex block of 2
+        const V t826 = t817 - t803;
+        // complex block of 2
+        const V t827 = t825 - t826;
+        const V t828 = t825 + t826;
+        // complex block of 2
+        const V t829 = t817 + t803;
+        // complex block of 2
+        const V t830 = t809 + t829;
+        const V t831 = t809 - t829;
+        // complex block of 2
+        const V t832 = t820 - t806;
+        // complex block of 2
+        const V t833 = t832 - t810;
+        const V t834 = t810 + t832;
+        // spectrum block of 61
+        const V t835 = c[49] * t593;
+        const V t836 = c[50] * t590;
+        const V t837 = t836 + t835;
+        const V t838 = c[51] * t594;
+        const V t839 = c[52] * t591;
+        const V t840 = t839 + t838;
+        // complex block of 2
+        const V t841 = t840 - t837;
+        const V t842 = t840 + t837;
+        // spectrum block of 61
+        const V t843 = c[49] * t590;
+        const V t844 = c[50] * t593;
+        const V t845 = t844 - t843;
+        const V t846 = c[51] * t591;
+        const V t847 = c[52] * t594;
+        const V t848 = t846 - t847;
+        // complex block of 2
+        const V t849 = t845 - t848;
+        const V t850 = t848 + t845;
+        // spectrum block of 61
+        const V t851 = t164 + t233;
+        const V t852 = t230 - t162;
+        // complex block of 2
+        const V t853 = t852 + t851;
+        const V t854 = t852 - t851;
+        // spectrum block of 61
+        const V t855 = c[6] * t163;
+        const V t856 = t855 - t234;
+        const V t857 = c[5] * t161;
+        const V t858 = t231 + t857;
+        // complex block of 2
+        const V t859 = t858 - t856;
+        const V t860 = t858 + t856;
+        // complex block of 2
+        const V t861 = t859 + t849;
         // spectrum block of 3, multiplier 2
-        const V t847 = t808 + t731;
-        const V t848 = c5 * t808;
-        const V t849 = t731 - t848;
-        const V t850 = c6 * t807;
-        const V t851 = t849 - t850;
-        const V t852 = t849 + t850;
-        // complex block of 3, multiplier 2
-        const V t853 = t839 + t759;
-        const V t854 = t840 + t760;
-        const V t855 = t759 - t839;
-        const V t856 = t840 - t760;
-        const V t857 = t775 - t853;
-        const V t858 = t854 + t776;
-        const V t859 = c5 * t853;
-        const V t860 = t859 + t775;
-        const V t861 = c5 * t854;
-        const V t862 = t776 - t861;
-        const V t863 = c6 * t855;
-        const V t864 = c6 * t856;
-        const V t865 = t860 + t864;
-        const V t866 = t862 - t863;
-        const V t867 = t860 - t864;
-        const V t868 = t862 + t863;
-        // complex block of 3, multiplier 2
-        const V t869 = t743 - t791;
-        const V t870 = t792 + t744;
-        const V t871 = t791 + t743;
-        const V t872 = t792 - t744;
-        const V t873 = t869 + t823;
-        const V t874 = t870 + t824;
-        const V t875 = c5 * t869;
-        const V t876 = t823 - t875;
-        const V t877 = c5 * t870;
-        const V t878 = t824 - t877;
-        const V t879 = c6 * t871;
-        const V t880 = c6 * t872;
-        const V t881 = t876 + t880;
-        const V t882 = t878 + t879;
-        const V t883 = t876 - t880;
-        const V t884 = t878 - t879;
-        // spectrum block of 5, multiplier 2
-        const V t885 = t858 + t874;
-        const V t886 = t885 + t847;
-        io.out(1, t886);
-        const V t887 = c1 * t858;
-        const V t888 = c2 * t874;
-        const V t889 = t887 - t888;
-        const V t890 = t889 + t847;
-        const V t891 = c3 * t857;
-        const V t892 = c4 * t873;
-        const V t893 = t891 + t892;
-        const V t894 = t890 - t893;
-        io.out(20, t894);
-        const V t895 = t890 + t893;
-        io.out(58, t895);
-        const V t896 = c2 * t858;
-        const V t897 = t847 - t896;
-        const V t898 = c1 * t874;
-        const V t899 = t897 + t898;
-        const V t900 = c4 * t857;
-        const V t901 = c3 * t873;
-        const V t902 = t900 - t901;
-        const V t903 = t899 - t902;
-        io.out(34, t903);
-        const V t904 = t899 + t902;
-        io.out(9, t904);
-        // spectrum block of 5, multiplier 2
-        const V t905 = t868 + t884;
-        const V t906 = t905 + t852;
-        io.out(13, t906);
-        const V t907 = c1 * t868;
-        const V t908 = c2 * t884;
-        const V t909 = t907 - t908;
-        const V t910 = t909 + t852;
-        const V t911 = c3 * t867;
-        const V t912 = c4 * t883;
-        const V t913 = t911 + t912;
-        const V t914 = t910 - t913;
-        io.out(16, t914);
-        const V t915 = t910 + t913;
-        io.out(22, t915);
-        const V t916 = c2 * t868;
-        const V t917 = t852 - t916;
-        const V t918 = c1 * t884;
-        const V t919 = t917 + t918;
-        const V t920 = c4 * t867;
-        const V t921 = c3 * t883;
-        const V t922 = t920 - t921;
-        const V t923 = t919 - t922;
-        io.out(15, t923);
-        const V t924 = t919 + t922;
-        io.out(56, t924);
-        // spectrum block of 5, multiplier 2
-        const V t925 = t866 + t882;
-        const V t926 = t925 + t851;
-        io.out(47, t926);
-        const V t927 = c1 * t866;
-        const V t928 = c2 * t882;
-        const V t929 = t927 - t928;
-        const V t930 = t929 + t851;
-        const V t931 = c3 * t865;
-        const V t932 = c4 * t881;
-        const V t933 = t931 + t932;
-        const V t934 = t930 - t933;
-        io.out(25, t934);
-        const V t935 = t930 + t933;
-        io.out(42, t935);
-        const V t936 = c2 * t866;
-        const V t937 = t851 - t936;
-        const V t938 = c1 * t882;
-        const V t939 = t937 + t938;
-        const V t940 = c4 * t865;
-        const V t941 = c3 * t881;
-        const V t942 = t940 - t941;
-        const V t943 = t939 - t942;
-        io.out(12, t943);
-        const V t944 = t939 + t942;
-        io.out(57, t944);
+        const V t862 = c[-10] * t861;
+        // complex block of 2
+        const V t863 = t853 + t841;
         // spectrum block of 3, multiplier 2
-        const V t945 = t812 + t733;
-        const V t946 = c5 * t812;
-        const V t947 = t733 - t946;
-        const V t948 = c6 * t811;
-        const V t949 = t947 - t948;
-        const V t950 = t947 + t948;
-        // complex block of 3, multiplier 2
-        const V t951 = t843 + t763;
-        const V t952 = t844 + t764;
-        const V t953 = t763 - t843;
-        const V t954 = t844 - t764;
-        const V t955 = t779 - t951;
-        const V t956 = t952 + t780;
-        const V t957 = c5 * t951;
-        const V t958 = t957 + t779;
-        const V t959 = c5 * t952;
-        const V t960 = t780 - t959;
-        const V t961 = c6 * t953;
-        const V t962 = c6 * t954;
-        const V t963 = t958 + t962;
-        const V t964 = t960 - t961;
-        const V t965 = t958 - t962;
-        const V t966 = t960 + t961;
-        // complex block of 3, multiplier 2
-        const V t967 = t747 - t795;
-        const V t968 = t796 + t748;
-        const V t969 = t795 + t747;
-        const V t970 = t796 - t748;
-        const V t971 = t967 + t827;
-        const V t972 = t968 + t828;
-        const V t973 = c5 * t967;
-        const V t974 = t827 - t973;
-        const V t975 = c5 * t968;
-        const V t976 = t828 - t975;
-        const V t977 = c6 * t969;
-        const V t978 = c6 * t970;
-        const V t979 = t974 + t978;
-        const V t980 = t976 + t977;
-        const V t981 = t974 - t978;
-        const V t982 = t976 - t977;
-        // spectrum block of 5, multiplier 2
-        const V t983 = t956 + t972;
-        const V t984 = t983 + t945;
-        io.out(50, t984);
-        const V t985 = c1 * t956;
-        const V t986 = c2 * t972;
-        const V t987 = t985 - t986;
-        const V t988 = t987 + t945;
-        const V t989 = c3 * t955;
-        const V t990 = c4 * t971;
-        const V t991 = t989 + t990;
-        const V t992 = t988 - t991;
-        io.out(24, t992);
-        const V t993 = t988 + t991;
-        io.out(33, t993);
-        const V t994 = c2 * t956;
-        const V t995 = t945 - t994;
-        const V t996 = c1 * t972;
-        const V t997 = t995 + t996;
-        const V t998 = c4 * t955;
-        const V t999 = c3 * t971;
-        const V t1000 = t998 - t999;
-        const V t1001 = t997 - t1000;
-        io.out(53, t1001);
-        const V t1002 = t997 + t1000;
-        io.out(23, t1002);
-        // spectrum block of 5, multiplier 2
-        const V t1003 = t966 + t982;
-        const V t1004 = t1003 + t950;
-        io.out(40, t1004);
-        const V t1005 = c1 * t966;
-        const V t1006 = c2 * t982;
-        const V t1007 = t1005 - t1006;
-        const V t1008 = t1007 + t950;
-        const V t1009 = c3 * t965;
-        const V t1010 = c4 * t981;
-        const V t1011 = t1009 + t1010;
-        const V t1012 = t1008 - t1011;
-        io.out(7, t1012);
-        const V t1013 = t1008 + t1011;
-        io.out(2, t1013);
-        const V t1014 = c2 * t966;
-        const V t1015 = t950 - t1014;
-        const V t1016 = c1 * t982;
-        const V t1017 = t1015 + t1016;
-        const V t1018 = c4 * t965;
-        const V t1019 = c3 * t981;
-        const V t1020 = t1018 - t1019;
-        const V t1021 = t1017 - t1020;
-        io.out(18, t1021);
-        const V t1022 = t1017 + t1020;
-        io.out(55, t1022);
-        // spectrum block of 5, multiplier 2
-        const V t1023 = t964 + t980;
-        const V t1024 = t1023 + t949;
-        io.out(32, t1024);
-        const V t1025 = c1 * t964;
-        const V t1026 = c2 * t980;
-        const V t1027 = t1025 - t1026;
-        const V t1028 = t1027 + t949;
-        const V t1029 = c3 * t963;
-        const V t1030 = c4 * t979;
-        const V t1031 = t1029 + t1030;
-        const V t1032 = t1028 - t1031;
-        io.out(30, t1032);
-        const V t1033 = t1028 + t1031;
-        io.out(26, t1033);
-        const V t1034 = c2 * t964;
-        const V t1035 = t949 - t1034;
-        const V t1036 = c1 * t980;
-        const V t1037 = t1035 + t1036;
-        const V t1038 = c4 * t963;
-        const V t1039 = c3 * t979;
-        const V t1040 = t1038 - t1039;
-        const V t1041 = t1037 - t1040;
-        io.out(51, t1041);
-        const V t1042 = t1037 + t1040;
-        io.out(44, t1042);
+        const V t864 = c[-11] * t863;
+        // complex block of 2
+        const V t865 = t859 - t849;
         // spectrum block of 3, multiplier 2
-        const V t1043 = t810 + t732;
-        const V t1044 = c5 * t810;
-        const V t1045 = t732 - t1044;
-        const V t1046 = c6 * t809;
-        const V t1047 = t1045 - t1046;
-        const V t1048 = t1045 + t1046;
+        const V t866 = c[-10] * t865;
+        // complex block of 2
+        const V t867 = t853 - t841;
+        // spectrum block of 3, multiplier 2
+        const V t868 = c[-11] * t867;
+        // complex block of 2
+        const V t869 = t860 - t842;
+        // spectrum block of 3, multiplier 2
+        const V t870 = c[-10] * t869;
+        // complex block of 2
+        const V t871 = t854 - t850;
+        // spectrum block of 3, multiplier 2
+        const V t872 = c[-11] * t871;
+        // complex block of 2
+        const V t873 = t860 + t842;
+        // spectrum block of 3, multiplier 2
+        const V t874 = c[-10] * t873;
+        // complex block of 2
+        const V t875 = t854 + t850;
+        // spectrum block of 3, multiplier 2
+        const V t876 = c[-11] * t875;
+        // spectrum block of 61
+        const V t877 = t224 + t295;
+        const V t878 = t222 - t297;
+        // complex block of 2
+        const V t879 = t878 + t877;
+        const V t880 = t878 - t877;
+        // spectrum block of 61
+        const V t881 = c[17] * t223;
+        const V t882 = t881 - t296;
+        const V t883 = c[53] * t460;
+        const V t884 = c[54] * t456;
+        const V t885 = t884 - t883;
+        const V t886 = c[53] * t456;
+        const V t887 = c[54] * t460;
+        const V t888 = t887 + t886;
+        const V t889 = c[55] * t461;
+        const V t890 = c[56] * t457;
+        const V t891 = t890 - t889;
+        const V t892 = c[55] * t457;
+        const V t893 = c[56] * t461;
+        const V t894 = t893 + t892;
+        const V t895 = c[18] * t221;
+        const V t896 = t298 + t895;
+        // complex block of 2
+        const V t897 = t896 + t882;
+        // complex block of 2
+        const V t898 = t894 - t888;
+        // complex block of 2
+        const V t899 = t898 - t897;
+        const V t900 = t897 + t898;
+        // complex block of 2
+        const V t901 = t882 - t896;
+        // complex block of 2
+        const V t902 = t891 - t885;
+        // complex block of 2
+        const V t903 = t901 - t902;
+        const V t904 = t901 + t902;
+        // complex block of 2
+        const V t905 = t891 + t885;
+        // complex block of 2
+        const V t906 = t879 + t905;
+        const V t907 = t879 - t905;
+        // complex block of 2
+        const V t908 = t894 + t888;
+        // complex block of 2
+        const V t909 = t880 + t908;
+        const V t910 = t880 - t908;
+        // spectrum block of 3, multiplier 2
+        const V t911 = t863 + t605;
         // complex block of 3, multiplier 2
-        const V t1049 = t841 - t761;
-        const V t1050 = t842 + t762;
-        const V t1051 = t841 + t761;
-        const V t1052 = t842 - t762;
-        const V t1053 = t1049 + t777;
-        const V t1054 = t1050 + t778;
-        const V t1055 = c5 * t1049;
-        const V t1056 = t777 - t1055;
-        const V t1057 = c5 * t1050;
-        const V t1058 = t778 - t1057;
-        const V t1059 = c6 * t1051;
-        const V t1060 = c6 * t1052;
-        const V t1061 = t1056 + t1060;
-        const V t1062 = t1058 - t1059;
-        const V t1063 = t1056 - t1060;
-        const V t1064 = t1058 + t1059;
-        // complex block of 3, multiplier 2
-        const V t1065 = t745 - t793;
-        const V t1066 = t794 + t746;
-        const V t1067 = t793 + t745;
-        const V t1068 = t794 - t746;
-        const V t1069 = t1065 - t825;
-        const V t1070 = t1066 + t826;
-        const V t1071 = c5 * t1065;
-        const V t1072 = t825 + t1071;
-        const V t1073 = c5 * t1066;
-        const V t1074 = t826 - t1073;
-        const V t1075 = c6 * t1067;
-        const V t1076 = c6 * t1068;
-        const V t1077 = t1076 - t1072;
-        const V t1078 = t1074 + t1075;
-        const V t1079 = t1072 + t1076;
-        const V t1080 = t1074 - t1075;
+        const V t912 = t765 + t830;
         // spectrum block of 5, multiplier 2
-        const V t1081 = t1054 + t1070;
-        const V t1082 = t1081 + t1043;
-        io.out(60, t1082);
-        const V t1083 = c1 * t1054;
-        const V t1084 = c2 * t1070;
-        const V t1085 = t1083 - t1084;
-        const V t1086 = t1085 + t1043;
-        const V t1087 = c3 * t1053;
-        const V t1088 = c4 * t1069;
-        const V t1089 = t1087 + t1088;
-        const V t1090 = t1086 - t1089;
-        io.out(41, t1090);
-        const V t1091 = t1086 + t1089;
-        io.out(3, t1091);
-        const V t1092 = c2 * t1054;
-        const V t1093 = t1043 - t1092;
-        const V t1094 = c1 * t1070;
-        const V t1095 = t1093 + t1094;
-        const V t1096 = c4 * t1053;
-        const V t1097 = c3 * t1069;
+        const V t913 = c[-15] * t912;
+        const V t914 = c[-14] * t912;
+        // complex block of 3, multiplier 2
+        const V t915 = t669 + t906;
+        // spectrum block of 5, multiplier 2
+        const V t916 = c[-14] * t915;
+        const V t917 = t912 + t915;
+        const V t918 = t913 - t916;
+        const V t919 = t911 - t914;
+        const V t920 = c[-15] * t915;
+        // complex block of 3, multiplier 2
+        const V t921 = t823 - t759;
+        // spectrum block of 5, multiplier 2
+        const V t922 = c[-13] * t921;
+        const V t923 = c[-12] * t921;
+        // complex block of 3, multiplier 2
+        const V t924 = t663 + t899;
+        // spectrum block of 5, multiplier 2
+        const V t925 = c[-12] * t924;
+        const V t926 = c[-13] * t924;
+        const V t927 = t917 + t911;
+        io.out(1, t927);
+        const V t928 = t918 + t911;
+        const V t929 = t922 + t925;
+        const V t930 = t928 - t929;
+        io.out(20, t930);
+        const V t931 = t928 + t929;
+        io.out(58, t931);
+        const V t932 = t919 + t920;
+        const V t933 = t923 - t926;
+        const V t934 = t932 - t933;
+        io.out(34, t934);
+        const V t935 = t932 + t933;
+        io.out(9, t935);
+        // spectrum block of 3, multiplier 2
+        const V t936 = t605 - t864;
+        const V t937 = t936 - t862;
+        const V t938 = t936 + t862;
+        // complex block of 3, multiplier 2
+        const V t939 = t761 + t823;
+        const V t940 = c[-10] * t766;
+        const V t941 = t939 + t940;
+        const V t942 = t939 - t940;
+        // spectrum block of 5, multiplier 2
+        const V t943 = c[-13] * t942;
+        const V t944 = c[-12] * t942;
+        // spectrum block of 5, multiplier 2
+        const V t945 = c[-13] * t941;
+        const V t946 = c[-12] * t941;
+        // complex block of 3, multiplier 2
+        const V t947 = t830 - t767;
+        const V t948 = t947 - t762;
+        const V t949 = t947 + t762;
+        // spectrum block of 5, multiplier 2
+        const V t950 = c[-15] * t949;
+        const V t951 = c[-14] * t949;
+        // spectrum block of 5, multiplier 2
+        const V t952 = c[-15] * t948;
+        const V t953 = c[-14] * t948;
+        // complex block of 3, multiplier 2
+        const V t954 = t899 - t665;
+        const V t955 = c[-10] * t670;
+        const V t956 = t954 + t955;
+        const V t957 = t954 - t955;
+        // spectrum block of 5, multiplier 2
+        const V t958 = c[-12] * t957;
+        const V t959 = c[-13] * t957;
+        // spectrum block of 5, multiplier 2
+        const V t960 = c[-12] * t956;
+        const V t961 = c[-13] * t956;
+        // complex block of 3, multiplier 2
+        const V t962 = t906 - t671;
+        const V t963 = t962 + t666;
+        const V t964 = t962 - t666;
+        // spectrum block of 5, multiplier 2
+        const V t965 = c[-14] * t964;
+        const V t966 = c[-15] * t964;
+        // spectrum block of 5, multiplier 2
+        const V t967 = c[-14] * t963;
+        const V t968 = c[-15] * t963;
+        // spectrum block of 5, multiplier 2
+        const V t969 = t949 + t964;
+        const V t970 = t969 + t938;
+        io.out(13, t970);
+        const V t971 = t950 - t965;
+        const V t972 = t971 + t938;
+        const V t973 = t943 + t958;
+        const V t974 = t972 - t973;
+        io.out(16, t974);
+        const V t975 = t972 + t973;
+        io.out(22, t975);
+        const V t976 = t938 - t951;
+        const V t977 = t976 + t966;
+        const V t978 = t944 - t959;
+        const V t979 = t977 - t978;
+        io.out(15, t979);
+        const V t980 = t977 + t978;
+        io.out(56, t980);
+        // spectrum block of 5, multiplier 2
+        const V t981 = t948 + t963;
+        const V t982 = t981 + t937;
+        io.out(47, t982);
+        const V t983 = t952 - t967;
+        const V t984 = t983 + t937;
+        const V t985 = t945 + t960;
+        const V t986 = t984 - t985;
+        io.out(25, t986);
+        const V t987 = t984 + t985;
+        io.out(42, t987);
+        const V t988 = t937 - t953;
+        const V t989 = t988 + t968;
+        const V t990 = t946 - t961;
+        const V t991 = t989 - t990;
+        io.out(12, t991);
+        const V t992 = t989 + t990;
+        io.out(57, t992);
+        // spectrum block of 3, multiplier 2
+        const V t993 = t871 + t607;
+        // complex block of 3, multiplier 2
+        const V t994 = t787 + t833;
+        // spectrum block of 5, multiplier 2
+        const V t995 = c[-15] * t994;
+        const V t996 = c[-14] * t994;
+        // complex block of 3, multiplier 2
+        const V t997 = t691 + t909;
+        // spectrum block of 5, multiplier 2
+        const V t998 = c[-14] * t997;
+        const V t999 = t994 + t997;
+        const V t1000 = t995 - t998;
+        const V t1001 = t993 - t996;
+        const V t1002 = c[-15] * t997;
+        // complex block of 3, multiplier 2
+        const V t1003 = t827 - t781;
+        // spectrum block of 5, multiplier 2
+        const V t1004 = c[-13] * t1003;
+        const V t1005 = c[-12] * t1003;
+        // complex block of 3, multiplier 2
+        const V t1006 = t685 + t903;
+        // spectrum block of 5, multiplier 2
+        const V t1007 = c[-12] * t1006;
+        const V t1008 = c[-13] * t1006;
+        const V t1009 = t999 + t993;
+        io.out(50, t1009);
+        const V t1010 = t1000 + t993;
+        const V t1011 = t1004 + t1007;
+        const V t1012 = t1010 - t1011;
+        io.out(24, t1012);
+        const V t1013 = t1010 + t1011;
+        io.out(33, t1013);
+        const V t1014 = t1001 + t1002;
+        const V t1015 = t1005 - t1008;
+        const V t1016 = t1014 - t1015;
+        io.out(53, t1016);
+        const V t1017 = t1014 + t1015;
+        io.out(23, t1017);
+        // spectrum block of 3, multiplier 2
+        const V t1018 = t607 - t872;
+        const V t1019 = t1018 - t870;
+        const V t1020 = t1018 + t870;
+        // complex block of 3, multiplier 2
+        const V t1021 = t783 + t827;
+        const V t1022 = c[-10] * t788;
+        const V t1023 = t1021 + t1022;
+        const V t1024 = t1021 - t1022;
+        // spectrum block of 5, multiplier 2
+        const V t1025 = c[-13] * t1024;
+        const V t1026 = c[-12] * t1024;
+        // spectrum block of 5, multiplier 2
+        const V t1027 = c[-13] * t1023;
+        const V t1028 = c[-12] * t1023;
+        // complex block of 3, multiplier 2
+        const V t1029 = t833 - t789;
+        const V t1030 = t1029 - t784;
+        const V t1031 = t1029 + t784;
+        // spectrum block of 5, multiplier 2
+        const V t1032 = c[-15] * t1031;
+        const V t1033 = c[-14] * t1031;
+        // spectrum block of 5, multiplier 2
+        const V t1034 = c[-15] * t1030;
+        const V t1035 = c[-14] * t1030;
+        // complex block of 3, multiplier 2
+        const V t1036 = t903 - t687;
+        const V t1037 = c[-10] * t692;
+        const V t1038 = t1036 + t1037;
+        const V t1039 = t1036 - t1037;
+        // spectrum block of 5, multiplier 2
+        const V t1040 = c[-12] * t1039;
+        const V t1041 = c[-13] * t1039;
+        // spectrum block of 5, multiplier 2
+        const V t1042 = c[-12] * t1038;
+        const V t1043 = c[-13] * t1038;
+        // complex block of 3, multiplier 2
+        const V t1044 = t909 - t693;
+        const V t1045 = t1044 + t688;
+        const V t1046 = t1044 - t688;
+        // spectrum block of 5, multiplier 2
+        const V t1047 = c[-14] * t1046;
+        const V t1048 = c[-15] * t1046;
+        // spectrum block of 5, multiplier 2
+        const V t1049 = c[-14] * t1045;
+        const V t1050 = c[-15] * t1045;
+        // spectrum block of 5, multiplier 2
+        const V t1051 = t1031 + t1046;
+        const V t1052 = t1051 + t1020;
+        io.out(40, t1052);
+        const V t1053 = t1032 - t1047;
+        const V t1054 = t1053 + t1020;
+        const V t1055 = t1025 + t1040;
+        const V t1056 = t1054 - t1055;
+        io.out(7, t1056);
+        const V t1057 = t1054 + t1055;
+        io.out(2, t1057);
+        const V t1058 = t1020 - t1033;
+        const V t1059 = t1058 + t1048;
+        const V t1060 = t1026 - t1041;
+        const V t1061 = t1059 - t1060;
+        io.out(18, t1061);
+        const V t1062 = t1059 + t1060;
+        io.out(55, t1062);
+        // spectrum block of 5, multiplier 2
+        const V t1063 = t1030 + t1045;
+        const V t1064 = t1063 + t1019;
+        io.out(32, t1064);
+        const V t1065 = t1034 - t1049;
+        const V t1066 = t1065 + t1019;
+        const V t1067 = t1027 + t1042;
+        const V t1068 = t1066 - t1067;
+        io.out(30, t1068);
+        const V t1069 = t1066 + t1067;
+        io.out(26, t1069);
+        const V t1070 = t1019 - t1035;
+        const V t1071 = t1070 + t1050;
+        const V t1072 = t1028 - t1043;
+        const V t1073 = t1071 - t1072;
+        io.out(51, t1073);
+        const V t1074 = t1071 + t1072;
+        io.out(44, t1074);
+        // spectrum block of 3, multiplier 2
+        const V t1075 = t867 + t606;
+        // complex block of 3, multiplier 2
+        const V t1076 = t776 + t831;
+        // spectrum block of 5, multiplier 2
+        const V t1077 = c[-15] * t1076;
+        const V t1078 = c[-14] * t1076;
+        // complex block of 3, multiplier 2
+        const V t1079 = t680 + t907;
+        // spectrum block of 5, multiplier 2
+        const V t1080 = c[-14] * t1079;
+        const V t1081 = t1076 + t1079;
+        const V t1082 = t1077 - t1080;
+        const V t1083 = t1075 - t1078;
+        const V t1084 = c[-15] * t1079;
+        // complex block of 3, multiplier 2
+        const V t1085 = t770 + t824;
+        // spectrum block of 5, multiplier 2
+        const V t1086 = c[-13] * t1085;
+        const V t1087 = c[-12] * t1085;
+        // complex block of 3, multiplier 2
+        const V t1088 = t674 - t900;
+        // spectrum block of 5, multiplier 2
+        const V t1089 = c[-12] * t1088;
+        const V t1090 = c[-13] * t1088;
+        const V t1091 = t1081 + t1075;
+        io.out(60, t1091);
+        const V t1092 = t1082 + t1075;
+        const V t1093 = t1086 + t1089;
+        const V t1094 = t1092 - t1093;
+        io.out(41, t1094);
+        const V t1095 = t1092 + t1093;
+        io.out(3, t1095);
+        const V t1096 = t1083 + t1084;
+        const V t1097 = t1087 - t1090;
         const V t1098 = t1096 - t1097;
-        const V t1099 = t1095 - t1098;
-        io.out(27, t1099);
-        const V t1100 = t1095 + t1098;
-        io.out(52, t1100);
-        // spectrum block of 5, multiplier 2
-        const V t1101 = t1064 + t1080;
-        const V t1102 = t1101 + t1048;
-        io.out(48, t1102);
-        const V t1103 = c1 * t1064;
-        const V t1104 = c2 * t1080;
-        const V t1105 = t1103 - t1104;
-        const V t1106 = t1105 + t1048;
-        const V t1107 = c3 * t1063;
-        const V t1108 = c4 * t1079;
-        const V t1109 = t1107 - t1108;
-        const V t1110 = t1106 - t1109;
-        io.out(45, t1110);
-        const V t1111 = t1106 + t1109;
-        io.out(39, t1111);
-        const V t1112 = c2 * t1064;
-        const V t1113 = t1048 - t1112;
-        const V t1114 = c1 * t1080;
-        const V t1115 = t1113 + t1114;
-        const V t1116 = c4 * t1063;
-        const V t1117 = c3 * t1079;
-        const V t1118 = t1116 + t1117;
-        const V t1119 = t1115 - t1118;
-        io.out(46, t1119);
-        const V t1120 = t1115 + t1118;
-        io.out(5, t1120);
-        // spectrum block of 5, multiplier 2
-        const V t1121 = t1062 + t1078;
-        const V t1122 = t1121 + t1047;
-        io.out(14, t1122);
-        const V t1123 = c1 * t1062;
-        const V t1124 = c2 * t1078;
-        const V t1125 = t1123 - t1124;
-        const V t1126 = t1125 + t1047;
-        const V t1127 = c3 * t1061;
-        const V t1128 = c4 * t1077;
-        const V t1129 = t1127 + t1128;
-        const V t1130 = t1126 - t1129;
-        io.out(36, t1130);
-        const V t1131 = t1126 + t1129;
-        io.out(19, t1131);
-        const V t1132 = c2 * t1062;
-        const V t1133 = t1047 - t1132;
-        const V t1134 = c1 * t1078;
-        const V t1135 = t1133 + t1134;
-        const V t1136 = c4 * t1061;
-        const V t1137 = c3 * t1077;
-        const V t1138 = t1136 - t1137;
-        const V t1139 = t1135 - t1138;
-        io.out(49, t1139);
-        const V t1140 = t1135 + t1138;
-        io.out(4, t1140);
+        io.out(27, t1098);
+        const V t1099 = t1096 + t1097;
+        io.out(52, t1099);
         // spectrum block of 3, multiplier 2
-        const V t1141 = t814 + t734;
-        const V t1142 = c5 * t814;
-        const V t1143 = t734 - t1142;
-        const V t1144 = c6 * t813;
-        const V t1145 = t1143 - t1144;
-        const V t1146 = t1143 + t1144;
+        const V t1100 = t606 - t868;
+        const V t1101 = t1100 - t866;
+        const V t1102 = t1100 + t866;
         // complex block of 3, multiplier 2
-        const V t1147 = t845 + t765;
-        const V t1148 = t846 + t766;
-        const V t1149 = t765 - t845;
-        const V t1150 = t846 - t766;
-        const V t1151 = t781 - t1147;
-        const V t1152 = t1148 - t782;
-        const V t1153 = c5 * t1147;
-        const V t1154 = t1153 + t781;
-        const V t1155 = c5 * t1148;
-        const V t1156 = t782 + t1155;
-        const V t1157 = c6 * t1149;
-        const V t1158 = c6 * t1150;
-        const V t1159 = t1154 + t1158;
-        const V t1160 = t1156 + t1157;
-        const V t1161 = t1154 - t1158;
-        const V t1162 = t1157 - t1156;
-        // complex block of 3, multiplier 2
-        const V t1163 = t749 - t797;
-        const V t1164 = t798 - t750;
-        const V t1165 = t797 + t749;
-        const V t1166 = t798 + t750;
-        const V t1167 = t1163 + t829;
-        const V t1168 = t1164 + t830;
-        const V t1169 = c5 * t1163;
-        const V t1170 = t829 - t1169;
-        const V t1171 = c5 * t1164;
-        const V t1172 = t830 - t1171;
-        const V t1173 = c6 * t1165;
-        const V t1174 = c6 * t1166;
-        const V t1175 = t1170 + t1174;
-        const V t1176 = t1172 + t1173;
-        const V t1177 = t1170 - t1174;
-        const V t1178 = t1172 - t1173;
+        const V t1103 = t824 - t772;
+        const V t1104 = c[-10] * t777;
+        const V t1105 = t1103 + t1104;
+        const V t1106 = t1103 - t1104;
         // spectrum block of 5, multiplier 2
-        const V t1179 = t1152 + t1168;
-        const V t1180 = t1179 + t1141;
-        io.out(11, t1180);
-        const V t1181 = c1 * t1152;
-        const V t1182 = c2 * t1168;
-        const V t1183 = t1181 - t1182;
-        const V t1184 = t1183 + t1141;
-        const V t1185 = c3 * t1151;
-        const V t1186 = c4 * t1167;
+        const V t1107 = c[-13] * t1106;
+        const V t1108 = c[-12] * t1106;
+        // spectrum block of 5, multiplier 2
+        const V t1109 = c[-13] * t1105;
+        const V t1110 = c[-12] * t1105;
+        // complex block of 3, multiplier 2
+        const V t1111 = t831 - t778;
+        const V t1112 = t1111 - t773;
+        const V t1113 = t1111 + t773;
+        // spectrum block of 5, multiplier 2
+        const V t1114 = c[-15] * t1113;
+        const V t1115 = c[-14] * t1113;
+        // spectrum block of 5, multiplier 2
+        const V t1116 = c[-15] * t1112;
+        const V t1117 = c[-14] * t1112;
+        // complex block of 3, multiplier 2
+        const V t1118 = t900 + t676;
+        const V t1119 = c[-10] * t681;
+        const V t1120 = t1119 - t1118;
+        const V t1121 = t1118 + t1119;
+        // spectrum block of 5, multiplier 2
+        const V t1122 = c[-12] * t1121;
+        const V t1123 = c[-13] * t1121;
+        // spectrum block of 5, multiplier 2
+        const V t1124 = c[-12] * t1120;
+        const V t1125 = c[-13] * t1120;
+        // complex block of 3, multiplier 2
+        const V t1126 = t907 - t682;
+        const V t1127 = t1126 + t677;
+        const V t1128 = t1126 - t677;
+        // spectrum block of 5, multiplier 2
+        const V t1129 = c[-14] * t1128;
+        const V t1130 = c[-15] * t1128;
+        // spectrum block of 5, multiplier 2
+        const V t1131 = c[-14] * t1127;
+        const V t1132 = c[-15] * t1127;
+        // spectrum block of 5, multiplier 2
+        const V t1133 = t1113 + t1128;
+        const V t1134 = t1133 + t1102;
+        io.out(48, t1134);
+        const V t1135 = t1114 - t1129;
+        const V t1136 = t1135 + t1102;
+        const V t1137 = t1107 - t1122;
+        const V t1138 = t1136 - t1137;
+        io.out(45, t1138);
+        const V t1139 = t1136 + t1137;
+        io.out(39, t1139);
+        const V t1140 = t1102 - t1115;
+        const V t1141 = t1140 + t1130;
+        const V t1142 = t1108 + t1123;
+        const V t1143 = t1141 - t1142;
+        io.out(46, t1143);
+        const V t1144 = t1141 + t1142;
+        io.out(5, t1144);
+        // spectrum block of 5, multiplier 2
+        const V t1145 = t1112 + t1127;
+        const V t1146 = t1145 + t1101;
+        io.out(14, t1146);
+        const V t1147 = t1116 - t1131;
+        const V t1148 = t1147 + t1101;
+        const V t1149 = t1109 + t1124;
+        const V t1150 = t1148 - t1149;
+        io.out(36, t1150);
+        const V t1151 = t1148 + t1149;
+        io.out(19, t1151);
+        const V t1152 = t1101 - t1117;
+        const V t1153 = t1152 + t1132;
+        const V t1154 = t1110 - t1125;
+        const V t1155 = t1153 - t1154;
+        io.out(49, t1155);
+        const V t1156 = t1153 + t1154;
+        io.out(4, t1156);
+        // spectrum block of 3, multiplier 2
+        const V t1157 = t875 + t608;
+        // complex block of 3, multiplier 2
+        const V t1158 = t798 - t834;
+        // spectrum block of 5, multiplier 2
+        const V t1159 = c[-15] * t1158;
+        const V t1160 = c[-14] * t1158;
+        // complex block of 3, multiplier 2
+        const V t1161 = t702 + t910;
+        // spectrum block of 5, multiplier 2
+        const V t1162 = c[-14] * t1161;
+        const V t1163 = t1158 + t1161;
+        const V t1164 = t1159 - t1162;
+        const V t1165 = t1157 - t1160;
+        const V t1166 = c[-15] * t1161;
+        // complex block of 3, multiplier 2
+        const V t1167 = t828 - t792;
+        // spectrum block of 5, multiplier 2
+        const V t1168 = c[-13] * t1167;
+        const V t1169 = c[-12] * t1167;
+        // complex block of 3, multiplier 2
+        const V t1170 = t696 + t904;
+        // spectrum block of 5, multiplier 2
+        const V t1171 = c[-12] * t1170;
+        const V t1172 = c[-13] * t1170;
+        const V t1173 = t1163 + t1157;
+        io.out(11, t1173);
+        const V t1174 = t1164 + t1157;
+        const V t1175 = t1168 + t1171;
+        const V t1176 = t1174 - t1175;
+        io.out(37, t1176);
+        const V t1177 = t1174 + t1175;
+        io.out(28, t1177);
+        const V t1178 = t1165 + t1166;
+        const V t1179 = t1169 - t1172;
+        const V t1180 = t1178 - t1179;
+        io.out(8, t1180);
+        const V t1181 = t1178 + t1179;
+        io.out(38, t1181);
+        // spectrum block of 3, multiplier 2
+        const V t1182 = t608 - t876;
+        const V t1183 = t1182 - t874;
+        const V t1184 = t1182 + t874;
+        // complex block of 3, multiplier 2
+        const V t1185 = t794 + t828;
+        const V t1186 = c[-10] * t799;
         const V t1187 = t1185 + t1186;
-        const V t1188 = t1184 - t1187;
-        io.out(37, t1188);
-        const V t1189 = t1184 + t1187;
-        io.out(28, t1189);
-        const V t1190 = c2 * t1152;
-        const V t1191 = t1141 - t1190;
-        const V t1192 = c1 * t1168;
-        const V t1193 = t1191 + t1192;
-        const V t1194 = c4 * t1151;
-        const V t1195 = c3 * t1167;
-        const V t1196 = t1194 - t1195;
-        const V t1197 = t1193 - t1196;
-        io.out(8, t1197);
-        const V t1198 = t1193 + t1196;
-        io.out(38, t1198);
+        const V t1188 = t1185 - t1186;
         // spectrum block of 5, multiplier 2
-        const V t1199 = t1162 + t1178;
-        const V t1200 = t1199 + t1146;
-        io.out(21, t1200);
-        const V t1201 = c1 * t1162;
-        const V t1202 = c2 * t1178;
-        const V t1203 = t1201 - t1202;
-        const V t1204 = t1203 + t1146;
-        const V t1205 = c3 * t1161;
-        const V t1206 = c4 * t1177;
-        const V t1207 = t1205 + t1206;
-        const V t1208 = t1204 - t1207;
-        io.out(54, t1208);
-        const V t1209 = t1204 + t1207;
-        io.out(59, t1209);
-        const V t1210 = c2 * t1162;
-        const V t1211 = t1146 - t1210;
-        const V t1212 = c1 * t1178;
-        const V t1213 = t1211 + t1212;
-        const V t1214 = c4 * t1161;
-        const V t1215 = c3 * t1177;
-        const V t1216 = t1214 - t1215;
-        const V t1217 = t1213 - t1216;
-        io.out(43, t1217);
-        const V t1218 = t1213 + t1216;
-        io.out(6, t1218);
+        const V t1189 = c[-13] * t1188;
+        const V t1190 = c[-12] * t1188;
         // spectrum block of 5, multiplier 2
-        const V t1219 = t1176 - t1160;
-        const V t1220 = t1219 + t1145;
-        io.out(29, t1220);
-        const V t1221 = c1 * t1160;
-        const V t1222 = t1145 - t1221;
-        const V t1223 = c2 * t1176;
-        const V t1224 = t1222 - t1223;
-        const V t1225 = c3 * t1159;
-        const V t1226 = c4 * t1175;
-        const V t1227 = t1225 + t1226;
-        const V t1228 = t1224 - t1227;
-        io.out(31, t1228);
-        const V t1229 = t1224 + t1227;
-        io.out(35, t1229);
-        const V t1230 = c2 * t1160;
-        const V t1231 = c1 * t1176;
-        const V t1232 = t1230 + t1231;
-        const V t1233 = t1232 + t1145;
-        const V t1234 = c4 * t1159;
-        const V t1235 = c3 * t1175;
-        const V t1236 = t1234 - t1235;
-        const V t1237 = t1233 - t1236;
+        const V t1191 = c[-13] * t1187;
+        const V t1192 = c[-12] * t1187;
+        // complex block of 3, multiplier 2
+        const V t1193 = t834 + t800;
+        const V t1194 = t1193 + t795;
+        const V t1195 = t795 - t1193;
+        // spectrum block of 5, multiplier 2
+        const V t1196 = c[-15] * t1195;
+        const V t1197 = c[-14] * t1195;
+        // spectrum block of 5, multiplier 2
+        const V t1198 = c[-15] * t1194;
+        const V t1199 = c[-14] * t1194;
+        // complex block of 3, multiplier 2
+        const V t1200 = t904 - t698;
+        const V t1201 = c[-10] * t703;
+        const V t1202 = t1200 + t1201;
+        const V t1203 = t1200 - t1201;
+        // spectrum block of 5, multiplier 2
+        const V t1204 = c[-12] * t1203;
+        const V t1205 = c[-13] * t1203;
+        // spectrum block of 5, multiplier 2
+        const V t1206 = c[-12] * t1202;
+        const V t1207 = c[-13] * t1202;
+        // complex block of 3, multiplier 2
+        const V t1208 = t910 - t704;
+        const V t1209 = t1208 + t699;
+        const V t1210 = t1208 - t699;
+        // spectrum block of 5, multiplier 2
+        const V t1211 = c[-14] * t1210;
+        const V t1212 = c[-15] * t1210;
+        // spectrum block of 5, multiplier 2
+        const V t1213 = c[-14] * t1209;
+        const V t1214 = c[-15] * t1209;
+        // spectrum block of 5, multiplier 2
+        const V t1215 = t1195 + t1210;
+        const V t1216 = t1215 + t1184;
+        io.out(21, t1216);
+        const V t1217 = t1196 - t1211;
+        const V t1218 = t1217 + t1184;
+        const V t1219 = t1189 + t1204;
+        const V t1220 = t1218 - t1219;
+        io.out(54, t1220);
+        const V t1221 = t1218 + t1219;
+        io.out(59, t1221);
+        const V t1222 = t1184 - t1197;
+        const V t1223 = t1222 + t1212;
+        const V t1224 = t1190 - t1205;
+        const V t1225 = t1223 - t1224;
+        io.out(43, t1225);
+        const V t1226 = t1223 + t1224;
+        io.out(6, t1226);
+        // spectrum block of 5, multiplier 2
+        const V t1227 = t1209 - t1194;
+        const V t1228 = t1227 + t1183;
+        io.out(29, t1228);
+        const V t1229 = t1183 - t1198;
+        const V t1230 = t1229 - t1213;
+        const V t1231 = t1191 + t1206;
+        const V t1232 = t1230 - t1231;
+        io.out(31, t1232);
+        const V t1233 = t1230 + t1231;
+        io.out(35, t1233);
+        const V t1234 = t1199 + t1214;
+        const V t1235 = t1234 + t1183;
+        const V t1236 = t1192 - t1207;
+        const V t1237 = t1235 - t1236;
         io.out(10, t1237);
-        const V t1238 = t1233 + t1236;
+        const V t1238 = t1235 + t1236;
         io.out(17, t1238);
         // spectrum block of 61
-        const V t1239 = x0r + t192;
+        const V t1239 = x0r + t158;
         io.out(0, t1239);
     }
 };

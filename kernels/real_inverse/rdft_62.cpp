@@ -1,1424 +1,1806 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 62.
 // Inverse DFT to 62 real points, prime-factor 31, 2.
-// 365 additions, 329 subtractions, 448 multiplications (510 with `scale`); 37 constants; 69 values alive at most.
+// 365 additions, 329 subtractions, 448 multiplications (510 with `scale`); 37 constants; 120 values alive at most.
 #include "frame/kernel_body.h"
+#include "frame/near_constants.h"
 
 namespace zulg {
 
 template <>
 struct RealInverseGraph<62> {
     static constexpr double inverseRoot = 0.1270001270001905;  // 1/sqrt(62), for `scale`
-    static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.5;  // -cos 2 pi 2/3
-    static constexpr double c2 = 0.8660254037844386;  // -sin 2 pi 2/3
-    static constexpr double c3 = 0.8090169943749475;  // -cos 2 pi 3/5
-    static constexpr double c4 = 0.30901699437494745;  // cos 2 pi 9/5
-    static constexpr double c5 = 0.5877852522924731;  // -sin 2 pi 3/5
-    static constexpr double c6 = 0.9510565162951535;  // -sin 2 pi 9/5
-    static constexpr double c7 = 0.03333333333333333;  // 1/30
-    static constexpr double c8 = 0.15196895108646355;  // P[1] of 31
-    static constexpr double c9 = 0.3386491040641593;  // -Q[1] of 31
-    static constexpr double c10 = 0.21884316352804659;  // Q[2] of 31
-    static constexpr double c11 = 0.29980901846811486;  // -P[2] of 31
-    static constexpr double c12 = 0.37067181273221134;  // P[3] of 31
-    static constexpr double c13 = 0.019498333867134416;  // -Q[3] of 31
-    static constexpr double c14 = 0.05839901633481273;  // Q[4] of 31
-    static constexpr double c15 = 0.3665614991633792;  // P[4] of 31
-    static constexpr double c16 = 0.26685240283098827;  // -P[5] of 31
-    static constexpr double c17 = 0.2580069240952765;  // -Q[5] of 31
-    static constexpr double c18 = 0.2226025627892778;  // Q[6] of 31
-    static constexpr double c19 = 0.2970284107916672;  // P[6] of 31
-    static constexpr double c20 = 0.24280988331200667;  // P[7] of 31
-    static constexpr double c21 = 0.28075102554360776;  // -Q[7] of 31
-    static constexpr double c22 = 0.1073724670043011;  // -Q[8] of 31
-    static constexpr double c23 = 0.35531525594489755;  // P[8] of 31
-    static constexpr double c24 = 0.37108682864596165;  // -P[9] of 31
-    static constexpr double c25 = 0.008505491359144196;  // -Q[9] of 31
-    static constexpr double c26 = 0.1449304326594425;  // Q[10] of 31
-    static constexpr double c27 = 0.3417205692768941;  // P[10] of 31
-    static constexpr double c28 = 0.06530829340975558;  // -P[11] of 31
-    static constexpr double c29 = 0.36539376648991023;  // Q[11] of 31
-    static constexpr double c30 = 0.10130252550848418;  // Q[12] of 31
-    static constexpr double c31 = 0.35709323166839874;  // -P[12] of 31
-    static constexpr double c32 = 0.1674782402040115;  // P[13] of 31
-    static constexpr double c33 = 0.3312534027537607;  // Q[13] of 31
-    static constexpr double c34 = 0.27566627690567064;  // Q[14] of 31
-    static constexpr double c35 = 0.2485676599132395;  // P[14] of 31
-    static constexpr double c36 = 0.1855921454276674;  // -beta of 31
+    static constexpr double constants[] = {
+        2.0,  // c[-16]: 2
+        0.5877852522924731,  // c[-15]: -sin 2 pi 3/5
+        0.9510565162951535,  // c[-14]: -sin 2 pi 9/5
+        0.8090169943749475,  // c[-13]: -cos 2 pi 3/5
+        0.30901699437494745,  // c[-12]: cos 2 pi 9/5
+        0.5,  // c[-11]: -cos 2 pi 2/3
+        0.8660254037844386,  // c[-10]: -sin 2 pi 2/3
+        0.2226025627892778,  // c[-9]: Q[6] of 31
+        0.2970284107916672,  // c[-8]: P[6] of 31
+        0.10130252550848418,  // c[-7]: Q[12] of 31
+        0.35709323166839874,  // c[-6]: -P[12] of 31
+        0.1073724670043011,  // c[-5]: -Q[8] of 31
+        0.35531525594489755,  // c[-4]: P[8] of 31
+        0.21884316352804659,  // c[-3]: Q[2] of 31
+        0.29980901846811486,  // c[-2]: -P[2] of 31
+        0.05839901633481273,  // c[-1]: Q[4] of 31
+        0.3665614991633792,  // c[0]: P[4] of 31
+        0.27566627690567064,  // c[1]: Q[14] of 31
+        0.2485676599132395,  // c[2]: P[14] of 31
+        0.3417205692768941,  // c[3]: P[10] of 31
+        0.1449304326594425,  // c[4]: Q[10] of 31
+        0.37108682864596165,  // c[5]: -P[9] of 31
+        0.008505491359144196,  // c[6]: -Q[9] of 31
+        0.37067181273221134,  // c[7]: P[3] of 31
+        0.019498333867134416,  // c[8]: -Q[3] of 31
+        0.24280988331200667,  // c[9]: P[7] of 31
+        0.28075102554360776,  // c[10]: -Q[7] of 31
+        0.1674782402040115,  // c[11]: P[13] of 31
+        0.3312534027537607,  // c[12]: Q[13] of 31
+        0.06530829340975558,  // c[13]: -P[11] of 31
+        0.36539376648991023,  // c[14]: Q[11] of 31
+        0.15196895108646355,  // c[15]: P[1] of 31
+        0.3386491040641593,  // c[16]: -Q[1] of 31
+        0.2580069240952765,  // c[17]: -Q[5] of 31
+        0.26685240283098827,  // c[18]: -P[5] of 31
+        0.03333333333333333,  // c[19]: 1/30
+        0.1855921454276674,  // c[20]: -beta of 31
+    };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
+        const double* const c = inRegister(constants + 16);
         // doubled bins
         const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
+        const V t0 = c[-16] * x1r;
         const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
-        const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
-        const V x19r = io.re(19);
-        const V t36 = c0 * x19r;
-        const V x19i = io.im(19);
-        const V t37 = c0 * x19i;
-        const V x20r = io.re(20);
-        const V t38 = c0 * x20r;
-        const V x20i = io.im(20);
-        const V t39 = c0 * x20i;
-        const V x21r = io.re(21);
-        const V t40 = c0 * x21r;
-        const V x21i = io.im(21);
-        const V t41 = c0 * x21i;
-        const V x22r = io.re(22);
-        const V t42 = c0 * x22r;
-        const V x22i = io.im(22);
-        const V t43 = c0 * x22i;
-        const V x23r = io.re(23);
-        const V t44 = c0 * x23r;
-        const V x23i = io.im(23);
-        const V t45 = c0 * x23i;
-        const V x24r = io.re(24);
-        const V t46 = c0 * x24r;
-        const V x24i = io.im(24);
-        const V t47 = c0 * x24i;
+        const V t1 = c[-16] * x5r;
         const V x25r = io.re(25);
-        const V t48 = c0 * x25r;
-        const V x25i = io.im(25);
-        const V t49 = c0 * x25i;
-        const V x26r = io.re(26);
-        const V t50 = c0 * x26r;
-        const V x26i = io.im(26);
-        const V t51 = c0 * x26i;
+        const V t2 = c[-16] * x25r;
+        // real block of 3, multiplier 2
+        const V t3 = t1 + t2;
+        const V t4 = t1 - t2;
+        // doubled bins
+        const V x7r = io.re(7);
+        const V t5 = c[-16] * x7r;
+        const V x11r = io.re(11);
+        const V t6 = c[-16] * x11r;
+        // real block of 3, multiplier 2
+        const V t7 = t6 + t5;
+        const V t8 = t6 - t5;
+        // doubled bins
         const V x27r = io.re(27);
-        const V t52 = c0 * x27r;
-        const V x27i = io.im(27);
-        const V t53 = c0 * x27i;
-        const V x28r = io.re(28);
-        const V t54 = c0 * x28r;
-        const V x28i = io.im(28);
-        const V t55 = c0 * x28i;
+        const V t9 = c[-16] * x27r;
+        // real block of 3, multiplier 2
+        const V t10 = t3 + t0;
+        // real block of 3, multiplier 2
+        const V t11 = t7 + t9;
+        // real block of 5, multiplier 3
+        const V t12 = t11 + t10;
+        // real block of 3, multiplier 2
+        const V t13 = c[-11] * t3;
+        const V t14 = t0 - t13;
+        // real block of 3, multiplier 2
+        const V t15 = c[-11] * t7;
+        const V t16 = t9 - t15;
+        // complex block of 5, multiplier 3
+        const V t17 = t16 + t14;
+        // real block of 3, multiplier 2
+        const V t18 = c[-10] * t4;
+        // real block of 3, multiplier 2
+        const V t19 = c[-10] * t8;
+        // complex block of 5, multiplier 3
+        const V t20 = t19 + t18;
+        const V t21 = t19 - t18;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t22 = c[-16] * x3r;
+        const V x13r = io.re(13);
+        const V t23 = c[-16] * x13r;
+        // real block of 3, multiplier 2
+        const V t24 = t23 + t22;
+        const V t25 = t23 - t22;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t26 = c[-16] * x9r;
+        const V x17r = io.re(17);
+        const V t27 = c[-16] * x17r;
+        // real block of 3, multiplier 2
+        const V t28 = t26 + t27;
+        const V t29 = t26 - t27;
+        // doubled bins
+        const V x15r = io.re(15);
+        const V t30 = c[-16] * x15r;
+        const V x23r = io.re(23);
+        const V t31 = c[-16] * x23r;
+        // real block of 3, multiplier 2
+        const V t32 = t28 + t31;
+        // real block of 3, multiplier 2
+        const V t33 = t24 + t30;
+        // real block of 5, multiplier 3
+        const V t34 = t32 + t33;
+        // real block of 3, multiplier 2
+        const V t35 = c[-11] * t28;
+        const V t36 = t31 - t35;
+        // real block of 3, multiplier 2
+        const V t37 = c[-11] * t24;
+        const V t38 = t30 - t37;
+        // complex block of 5, multiplier 3
+        const V t39 = t36 + t38;
+        // real block of 3, multiplier 2
+        const V t40 = c[-10] * t29;
+        // real block of 3, multiplier 2
+        const V t41 = c[-10] * t25;
+        // complex block of 5, multiplier 3
+        const V t42 = t40 + t41;
+        const V t43 = t40 - t41;
+        // doubled bins
+        const V x19r = io.re(19);
+        const V t44 = c[-16] * x19r;
+        const V x21r = io.re(21);
+        const V t45 = c[-16] * x21r;
+        // real block of 3, multiplier 2
+        const V t46 = t45 + t44;
+        // doubled bins
         const V x29r = io.re(29);
-        const V t56 = c0 * x29r;
+        const V t47 = c[-16] * x29r;
+        // real block of 3, multiplier 2
+        const V t48 = t45 - t44;
+        const V t49 = c[-10] * t48;
+        const V t50 = t46 + t47;
+        const V t51 = c[-11] * t46;
+        const V t52 = t47 - t51;
+        // real block of 5, multiplier 3
+        const V t53 = t32 - t33;
+        const V t54 = c[-15] * t53;
+        const V t55 = c[-14] * t53;
+        const V t56 = t11 - t10;
+        const V t57 = c[-14] * t56;
+        const V t58 = c[-15] * t56;
+        const V t59 = t54 + t57;
+        // spectrum block of 31, multiplier 2
+        const V t60 = c[-9] * t59;
+        const V t61 = c[-8] * t59;
+        // real block of 5, multiplier 3
+        const V t62 = t58 - t55;
+        // spectrum block of 31, multiplier 2
+        const V t63 = c[-7] * t62;
+        const V t64 = c[-6] * t62;
+        // real block of 5, multiplier 3
+        const V t65 = t34 + t12;
+        const V t66 = t65 + t50;
+        // spectrum block of 31, multiplier 2
+        const V t67 = c[19] * t66;
+        // real block of 5, multiplier 3
+        const V t68 = c[-13] * t34;
+        const V t69 = t50 - t68;
+        const V t70 = c[-12] * t12;
+        const V t71 = t69 + t70;
+        // spectrum block of 31, multiplier 2
+        const V t72 = c[-8] * t71;
+        const V t73 = c[-9] * t71;
+        // real block of 5, multiplier 3
+        const V t74 = c[-12] * t34;
+        const V t75 = c[-13] * t12;
+        const V t76 = t74 - t75;
+        const V t77 = t76 + t50;
+        // spectrum block of 31, multiplier 2
+        const V t78 = c[-6] * t77;
+        const V t79 = c[-7] * t77;
+        // complex block of 5, multiplier 3
+        const V t80 = t36 - t38;
+        const V t81 = c[-14] * t80;
+        const V t82 = c[-15] * t80;
+        const V t83 = t16 - t14;
+        const V t84 = c[-15] * t83;
+        const V t85 = c[-14] * t83;
+        const V t86 = t81 - t84;
+        const V t87 = t82 + t85;
+        const V t88 = c[-12] * t42;
+        const V t89 = c[-13] * t20;
+        const V t90 = t88 - t89;
+        const V t91 = t90 + t49;
+        const V t92 = c[-13] * t42;
+        const V t93 = t49 - t92;
+        const V t94 = c[-12] * t20;
+        const V t95 = t93 + t94;
+        const V t96 = t91 - t86;
+        // spectrum block of 31, multiplier 2
+        const V t97 = c[-5] * t96;
+        const V t98 = c[-4] * t96;
+        // complex block of 5, multiplier 3
+        const V t99 = t91 + t86;
+        // spectrum block of 31, multiplier 2
+        const V t100 = c[-3] * t99;
+        const V t101 = c[-2] * t99;
+        // complex block of 5, multiplier 3
+        const V t102 = t95 - t87;
+        // spectrum block of 31, multiplier 2
+        const V t103 = c[-1] * t102;
+        const V t104 = c[0] * t102;
+        // complex block of 5, multiplier 3
+        const V t105 = t95 + t87;
+        // spectrum block of 31, multiplier 2
+        const V t106 = c[1] * t105;
+        const V t107 = c[2] * t105;
+        // complex block of 5, multiplier 3
+        const V t108 = t39 + t17;
+        const V t109 = t108 + t52;
+        // spectrum block of 31, multiplier 2
+        const V t110 = c[3] * t109;
+        const V t111 = c[4] * t109;
+        // complex block of 5, multiplier 3
+        const V t112 = t42 + t20;
+        const V t113 = t112 + t49;
+        // spectrum block of 31, multiplier 2
+        const V t114 = c[4] * t113;
+        const V t115 = c[3] * t113;
+        // complex block of 5, multiplier 3
+        const V t116 = c[-12] * t39;
+        const V t117 = c[-13] * t17;
+        const V t118 = t116 - t117;
+        const V t119 = t118 + t52;
+        const V t120 = c[-14] * t43;
+        const V t121 = c[-15] * t21;
+        const V t122 = t120 - t121;
+        const V t123 = t119 + t122;
+        // spectrum block of 31, multiplier 2
+        const V t124 = c[-4] * t123;
+        const V t125 = c[-5] * t123;
+        // complex block of 5, multiplier 3
+        const V t126 = t119 - t122;
+        // spectrum block of 31, multiplier 2
+        const V t127 = c[-2] * t126;
+        const V t128 = c[-3] * t126;
+        // complex block of 5, multiplier 3
+        const V t129 = c[-13] * t39;
+        const V t130 = t52 - t129;
+        const V t131 = c[-12] * t17;
+        const V t132 = t130 + t131;
+        const V t133 = c[-15] * t43;
+        const V t134 = c[-14] * t21;
+        const V t135 = t133 + t134;
+        const V t136 = t132 + t135;
+        // spectrum block of 31, multiplier 2
+        const V t137 = c[0] * t136;
+        const V t138 = c[-1] * t136;
+        // complex block of 5, multiplier 3
+        const V t139 = t132 - t135;
+        // spectrum block of 31, multiplier 2
+        const V t140 = c[2] * t139;
+        const V t141 = c[1] * t139;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t142 = c[-16] * x1i;
+        const V x5i = io.im(5);
+        const V t143 = c[-16] * x5i;
+        const V x25i = io.im(25);
+        const V t144 = c[-16] * x25i;
+        // real block of 3, multiplier 2
+        const V t145 = t143 + t144;
+        const V t146 = t143 - t144;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t147 = c[-16] * x7i;
+        const V x11i = io.im(11);
+        const V t148 = c[-16] * x11i;
+        // real block of 3, multiplier 2
+        const V t149 = t147 - t148;
+        const V t150 = t148 + t147;
+        // doubled bins
+        const V x27i = io.im(27);
+        const V t151 = c[-16] * x27i;
+        // real block of 3, multiplier 2
+        const V t152 = t145 + t142;
+        // real block of 3, multiplier 2
+        const V t153 = t149 - t151;
+        // real block of 5, multiplier 3
+        const V t154 = t153 + t152;
+        // real block of 3, multiplier 2
+        const V t155 = c[-11] * t145;
+        const V t156 = t142 - t155;
+        // real block of 3, multiplier 2
+        const V t157 = c[-11] * t149;
+        const V t158 = t151 + t157;
+        // complex block of 5, multiplier 3
+        const V t159 = t156 - t158;
+        // real block of 3, multiplier 2
+        const V t160 = c[-10] * t146;
+        // real block of 3, multiplier 2
+        const V t161 = c[-10] * t150;
+        // complex block of 5, multiplier 3
+        const V t162 = t160 - t161;
+        const V t163 = t161 + t160;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t164 = c[-16] * x3i;
+        const V x13i = io.im(13);
+        const V t165 = c[-16] * x13i;
+        // real block of 3, multiplier 2
+        const V t166 = t165 + t164;
+        const V t167 = t164 - t165;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t168 = c[-16] * x9i;
+        const V x17i = io.im(17);
+        const V t169 = c[-16] * x17i;
+        // real block of 3, multiplier 2
+        const V t170 = t168 - t169;
+        const V t171 = t168 + t169;
+        // doubled bins
+        const V x15i = io.im(15);
+        const V t172 = c[-16] * x15i;
+        const V x23i = io.im(23);
+        const V t173 = c[-16] * x23i;
+        // real block of 3, multiplier 2
+        const V t174 = t170 - t173;
+        // real block of 3, multiplier 2
+        const V t175 = t166 + t172;
+        // real block of 5, multiplier 3
+        const V t176 = t174 - t175;
+        // real block of 3, multiplier 2
+        const V t177 = c[-11] * t170;
+        const V t178 = t173 + t177;
+        // real block of 3, multiplier 2
+        const V t179 = c[-11] * t166;
+        const V t180 = t179 - t172;
+        // complex block of 5, multiplier 3
+        const V t181 = t180 - t178;
+        // real block of 3, multiplier 2
+        const V t182 = c[-10] * t171;
+        // real block of 3, multiplier 2
+        const V t183 = c[-10] * t167;
+        // complex block of 5, multiplier 3
+        const V t184 = t182 + t183;
+        const V t185 = t182 - t183;
+        // doubled bins
+        const V x19i = io.im(19);
+        const V t186 = c[-16] * x19i;
+        const V x21i = io.im(21);
+        const V t187 = c[-16] * x21i;
+        // real block of 3, multiplier 2
+        const V t188 = t186 - t187;
+        // doubled bins
         const V x29i = io.im(29);
-        const V t57 = c0 * x29i;
-        const V x30r = io.re(30);
-        const V t58 = c0 * x30r;
-        const V x30i = io.im(30);
-        const V t59 = c0 * x30i;
+        const V t189 = c[-16] * x29i;
         // real block of 3, multiplier 2
-        const V t60 = t18 + t22;
-        const V t61 = t18 - t22;
-        const V t62 = t60 + t2;
-        const V t63 = c1 * t60;
-        const V t64 = t2 - t63;
-        const V t65 = c2 * t61;
-        // real block of 3, multiplier 2
-        const V t66 = t42 + t26;
-        const V t67 = t42 - t26;
-        const V t68 = t66 + t14;
-        const V t69 = c1 * t66;
-        const V t70 = t14 - t69;
-        const V t71 = c2 * t67;
-        // real block of 3, multiplier 2
-        const V t72 = t50 + t10;
-        const V t73 = t50 - t10;
-        const V t74 = t72 + t58;
-        const V t75 = c1 * t72;
-        const V t76 = t58 - t75;
-        const V t77 = c2 * t73;
-        // real block of 3, multiplier 2
-        const V t78 = t38 + t46;
-        const V t79 = t38 - t46;
-        const V t80 = t78 + t6;
-        const V t81 = c1 * t78;
-        const V t82 = t6 - t81;
-        const V t83 = c2 * t79;
-        // real block of 3, multiplier 2
-        const V t84 = t34 + t54;
-        const V t85 = t34 - t54;
-        const V t86 = t84 + t30;
-        const V t87 = c1 * t84;
-        const V t88 = t30 - t87;
-        const V t89 = c2 * t85;
+        const V t190 = t187 + t186;
+        const V t191 = c[-10] * t190;
+        const V t192 = t188 - t189;
+        const V t193 = c[-11] * t188;
+        const V t194 = t189 + t193;
         // real block of 5, multiplier 3
-        const V t90 = t68 + t86;
-        const V t91 = t68 - t86;
-        const V t92 = t80 + t74;
-        const V t93 = t80 - t74;
-        const V t94 = t90 + t92;
-        const V t95 = t94 + t62;
-        const V t96 = c3 * t90;
-        const V t97 = t62 - t96;
-        const V t98 = c4 * t92;
-        const V t99 = t97 + t98;
-        const V t100 = c5 * t91;
-        const V t101 = c6 * t93;
-        const V t102 = t100 + t101;
-        const V t103 = c4 * t90;
-        const V t104 = c3 * t92;
-        const V t105 = t103 - t104;
-        const V t106 = t105 + t62;
-        const V t107 = c6 * t91;
-        const V t108 = c5 * t93;
-        const V t109 = t108 - t107;
-        // complex block of 5, multiplier 3
-        const V t110 = t70 + t88;
-        const V t111 = t71 + t89;
-        const V t112 = t70 - t88;
-        const V t113 = t71 - t89;
-        const V t114 = t82 + t76;
-        const V t115 = t83 + t77;
-        const V t116 = t82 - t76;
-        const V t117 = t83 - t77;
-        const V t118 = t110 + t114;
-        const V t119 = t111 + t115;
-        const V t120 = t118 + t64;
-        const V t121 = t119 + t65;
-        const V t122 = c4 * t110;
-        const V t123 = c3 * t114;
-        const V t124 = t122 - t123;
-        const V t125 = t124 + t64;
-        const V t126 = c4 * t111;
-        const V t127 = c3 * t115;
-        const V t128 = t126 - t127;
-        const V t129 = t128 + t65;
-        const V t130 = c6 * t112;
-        const V t131 = c5 * t116;
-        const V t132 = t130 - t131;
-        const V t133 = c6 * t113;
-        const V t134 = c5 * t117;
-        const V t135 = t133 - t134;
-        const V t136 = t125 + t135;
-        const V t137 = t129 - t132;
-        const V t138 = t125 - t135;
-        const V t139 = t129 + t132;
-        const V t140 = c3 * t110;
-        const V t141 = t64 - t140;
-        const V t142 = c4 * t114;
-        const V t143 = t141 + t142;
-        const V t144 = c3 * t111;
-        const V t145 = t65 - t144;
-        const V t146 = c4 * t115;
-        const V t147 = t145 + t146;
-        const V t148 = c5 * t112;
-        const V t149 = c6 * t116;
-        const V t150 = t148 + t149;
-        const V t151 = c5 * t113;
-        const V t152 = c6 * t117;
-        const V t153 = t151 + t152;
-        const V t154 = t143 + t153;
-        const V t155 = t147 - t150;
-        const V t156 = t143 - t153;
-        const V t157 = t147 + t150;
-        // real block of 3, multiplier 2
-        const V t158 = t19 - t23;
-        const V t159 = t19 + t23;
-        const V t160 = t158 + t3;
-        const V t161 = c1 * t158;
-        const V t162 = t3 - t161;
-        const V t163 = c2 * t159;
-        // real block of 3, multiplier 2
-        const V t164 = t27 - t43;
-        const V t165 = t43 + t27;
-        const V t166 = t164 + t15;
-        const V t167 = c1 * t164;
-        const V t168 = t15 - t167;
-        const V t169 = c2 * t165;
-        // real block of 3, multiplier 2
-        const V t170 = t51 + t11;
-        const V t171 = t11 - t51;
-        const V t172 = t170 + t59;
-        const V t173 = c1 * t170;
-        const V t174 = t173 - t59;
-        const V t175 = c2 * t171;
-        // real block of 3, multiplier 2
-        const V t176 = t39 - t47;
-        const V t177 = t39 + t47;
-        const V t178 = t176 + t7;
-        const V t179 = c1 * t176;
-        const V t180 = t7 - t179;
-        const V t181 = c2 * t177;
-        // real block of 3, multiplier 2
-        const V t182 = t35 + t55;
-        const V t183 = t35 - t55;
-        const V t184 = t182 + t31;
-        const V t185 = c1 * t182;
-        const V t186 = t31 - t185;
-        const V t187 = c2 * t183;
-        // real block of 5, multiplier 3
-        const V t188 = t166 + t184;
-        const V t189 = t166 - t184;
-        const V t190 = t178 - t172;
-        const V t191 = t178 + t172;
-        const V t192 = t188 + t190;
-        const V t193 = t192 + t160;
-        const V t194 = c3 * t188;
-        const V t195 = t160 - t194;
-        const V t196 = c4 * t190;
-        const V t197 = t195 + t196;
-        const V t198 = c5 * t189;
-        const V t199 = c6 * t191;
-        const V t200 = t198 + t199;
-        const V t201 = c4 * t188;
-        const V t202 = c3 * t190;
-        const V t203 = t201 - t202;
-        const V t204 = t203 + t160;
-        const V t205 = c6 * t189;
-        const V t206 = c5 * t191;
-        const V t207 = t206 - t205;
-        // complex block of 5, multiplier 3
-        const V t208 = t168 + t186;
-        const V t209 = t187 - t169;
-        const V t210 = t168 - t186;
-        const V t211 = t169 + t187;
-        const V t212 = t180 + t174;
-        const V t213 = t181 + t175;
-        const V t214 = t180 - t174;
-        const V t215 = t181 - t175;
-        const V t216 = t208 + t212;
-        const V t217 = t209 + t213;
-        const V t218 = t216 + t162;
-        const V t219 = t217 + t163;
-        const V t220 = c4 * t208;
-        const V t221 = c3 * t212;
-        const V t222 = t220 - t221;
-        const V t223 = t222 + t162;
-        const V t224 = c4 * t209;
-        const V t225 = c3 * t213;
-        const V t226 = t224 - t225;
-        const V t227 = t226 + t163;
-        const V t228 = c6 * t210;
-        const V t229 = c5 * t214;
-        const V t230 = t228 - t229;
-        const V t231 = c6 * t211;
-        const V t232 = c5 * t215;
-        const V t233 = t231 + t232;
-        const V t234 = t223 - t233;
-        const V t235 = t227 - t230;
-        const V t236 = t223 + t233;
-        const V t237 = t227 + t230;
-        const V t238 = c3 * t208;
-        const V t239 = t162 - t238;
-        const V t240 = c4 * t212;
-        const V t241 = t239 + t240;
-        const V t242 = c3 * t209;
-        const V t243 = t163 - t242;
-        const V t244 = c4 * t213;
-        const V t245 = t243 + t244;
-        const V t246 = c5 * t210;
-        const V t247 = c6 * t214;
-        const V t248 = t246 + t247;
-        const V t249 = c5 * t211;
-        const V t250 = c6 * t215;
-        const V t251 = t250 - t249;
-        const V t252 = t241 + t251;
-        const V t253 = t245 - t248;
-        const V t254 = t241 - t251;
-        const V t255 = t245 + t248;
+        const V t195 = t174 + t175;
+        const V t196 = c[-15] * t195;
+        const V t197 = c[-14] * t195;
+        const V t198 = t153 - t152;
+        const V t199 = c[-14] * t198;
+        const V t200 = c[-15] * t198;
+        const V t201 = t196 + t199;
         // spectrum block of 31, multiplier 2
-        const V t256 = c7 * t95;
-        const V x0r = io.re(0);
-        const V t257 = x0r - t256;
-        const V t258 = c8 * t255;
-        const V t259 = c9 * t254;
-        const V t260 = t259 + t258;
-        const V t261 = c8 * t254;
-        const V t262 = c9 * t255;
-        const V t263 = t261 - t262;
-        const V t264 = c10 * t139;
-        const V t265 = c11 * t138;
-        const V t266 = t264 - t265;
-        const V t267 = c10 * t138;
-        const V t268 = c11 * t139;
-        const V t269 = t268 + t267;
-        const V t270 = c12 * t207;
-        const V t271 = c13 * t204;
-        const V t272 = t270 - t271;
-        const V t273 = c12 * t204;
-        const V t274 = c13 * t207;
-        const V t275 = t274 + t273;
-        const V t276 = c14 * t155;
-        const V t277 = c15 * t154;
-        const V t278 = t277 - t276;
-        const V t279 = c14 * t154;
-        const V t280 = c15 * t155;
-        const V t281 = t280 + t279;
-        const V t282 = c16 * t219;
-        const V t283 = c17 * t218;
-        const V t284 = t283 + t282;
-        const V t285 = c16 * t218;
-        const V t286 = c17 * t219;
-        const V t287 = t286 - t285;
-        const V t288 = c18 * t102;
-        const V t289 = c19 * t99;
-        const V t290 = t289 - t288;
-        const V t291 = c18 * t99;
-        const V t292 = c19 * t102;
-        const V t293 = t292 + t291;
-        const V t294 = c20 * t235;
-        const V t295 = c21 * t234;
+        const V t202 = c[5] * t201;
+        const V t203 = c[6] * t201;
+        // real block of 5, multiplier 3
+        const V t204 = t200 - t197;
+        // spectrum block of 31, multiplier 2
+        const V t205 = c[7] * t204;
+        const V t206 = c[8] * t204;
+        // real block of 5, multiplier 3
+        const V t207 = t176 + t154;
+        const V t208 = t207 + t192;
+        // spectrum block of 31, multiplier 2
+        const V t209 = c[20] * t208;
+        // real block of 5, multiplier 3
+        const V t210 = c[-13] * t176;
+        const V t211 = t192 - t210;
+        const V t212 = c[-12] * t154;
+        const V t213 = t211 + t212;
+        // spectrum block of 31, multiplier 2
+        const V t214 = c[6] * t213;
+        const V t215 = c[5] * t213;
+        // real block of 5, multiplier 3
+        const V t216 = c[-12] * t176;
+        const V t217 = c[-13] * t154;
+        const V t218 = t216 - t217;
+        const V t219 = t218 + t192;
+        // spectrum block of 31, multiplier 2
+        const V t220 = c[8] * t219;
+        const V t221 = c[7] * t219;
+        // complex block of 5, multiplier 3
+        const V t222 = t178 + t180;
+        const V t223 = c[-14] * t222;
+        const V t224 = c[-15] * t222;
+        const V t225 = t158 + t156;
+        const V t226 = c[-15] * t225;
+        const V t227 = c[-14] * t225;
+        const V t228 = t226 - t223;
+        const V t229 = t224 + t227;
+        const V t230 = c[-12] * t184;
+        const V t231 = c[-13] * t162;
+        const V t232 = t230 - t231;
+        const V t233 = t232 - t191;
+        const V t234 = c[-13] * t184;
+        const V t235 = t191 + t234;
+        const V t236 = c[-12] * t162;
+        const V t237 = t236 - t235;
+        const V t238 = t233 - t228;
+        // spectrum block of 31, multiplier 2
+        const V t239 = c[9] * t238;
+        const V t240 = c[10] * t238;
+        // complex block of 5, multiplier 3
+        const V t241 = t233 + t228;
+        // spectrum block of 31, multiplier 2
+        const V t242 = c[11] * t241;
+        const V t243 = c[12] * t241;
+        // complex block of 5, multiplier 3
+        const V t244 = t237 + t229;
+        // spectrum block of 31, multiplier 2
+        const V t245 = c[13] * t244;
+        const V t246 = c[14] * t244;
+        // complex block of 5, multiplier 3
+        const V t247 = t237 - t229;
+        // spectrum block of 31, multiplier 2
+        const V t248 = c[15] * t247;
+        const V t249 = c[16] * t247;
+        // complex block of 5, multiplier 3
+        const V t250 = t181 + t159;
+        const V t251 = t250 - t194;
+        // spectrum block of 31, multiplier 2
+        const V t252 = c[17] * t251;
+        const V t253 = c[18] * t251;
+        // complex block of 5, multiplier 3
+        const V t254 = t184 + t162;
+        const V t255 = t254 - t191;
+        // spectrum block of 31, multiplier 2
+        const V t256 = c[18] * t255;
+        const V t257 = c[17] * t255;
+        // complex block of 5, multiplier 3
+        const V t258 = c[-12] * t181;
+        const V t259 = c[-13] * t159;
+        const V t260 = t258 - t259;
+        const V t261 = t260 - t194;
+        const V t262 = c[-14] * t185;
+        const V t263 = c[-15] * t163;
+        const V t264 = t262 + t263;
+        const V t265 = t261 + t264;
+        // spectrum block of 31, multiplier 2
+        const V t266 = c[10] * t265;
+        const V t267 = c[9] * t265;
+        // complex block of 5, multiplier 3
+        const V t268 = t261 - t264;
+        // spectrum block of 31, multiplier 2
+        const V t269 = c[12] * t268;
+        const V t270 = c[11] * t268;
+        // complex block of 5, multiplier 3
+        const V t271 = c[-13] * t181;
+        const V t272 = t194 + t271;
+        const V t273 = c[-12] * t159;
+        const V t274 = t273 - t272;
+        const V t275 = c[-15] * t185;
+        const V t276 = c[-14] * t163;
+        const V t277 = t275 - t276;
+        const V t278 = t274 + t277;
+        // spectrum block of 31, multiplier 2
+        const V t279 = c[14] * t278;
+        const V t280 = c[13] * t278;
+        // complex block of 5, multiplier 3
+        const V t281 = t274 - t277;
+        // spectrum block of 31, multiplier 2
+        const V t282 = c[16] * t281;
+        const V t283 = c[15] * t281;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t284 = c[-16] * x2r;
+        const V x10r = io.re(10);
+        const V t285 = c[-16] * x10r;
+        const V x12r = io.re(12);
+        const V t286 = c[-16] * x12r;
+        // real block of 3, multiplier 2
+        const V t287 = t285 + t286;
+        const V t288 = t285 - t286;
+        const V t289 = c[-10] * t288;
+        const V t290 = t287 + t284;
+        const V t291 = c[-11] * t287;
+        const V t292 = t284 - t291;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t293 = c[-16] * x4r;
+        const V x6r = io.re(6);
+        const V t294 = c[-16] * x6r;
+        const V x26r = io.re(26);
+        const V t295 = c[-16] * x26r;
+        // real block of 3, multiplier 2
         const V t296 = t295 + t294;
-        const V t297 = c20 * t234;
-        const V t298 = c21 * t235;
-        const V t299 = t297 - t298;
-        const V t300 = c22 * t137;
-        const V t301 = c23 * t136;
-        const V t302 = t301 - t300;
-        const V t303 = c22 * t136;
-        const V t304 = c23 * t137;
+        const V t297 = t295 - t294;
+        // doubled bins
+        const V x20r = io.re(20);
+        const V t298 = c[-16] * x20r;
+        const V x24r = io.re(24);
+        const V t299 = c[-16] * x24r;
+        // real block of 3, multiplier 2
+        const V t300 = t298 + t299;
+        const V t301 = t298 - t299;
+        // doubled bins
+        const V x30r = io.re(30);
+        const V t302 = c[-16] * x30r;
+        // real block of 3, multiplier 2
+        const V t303 = t296 + t302;
+        // real block of 3, multiplier 2
+        const V t304 = t300 + t293;
+        // real block of 5, multiplier 3
         const V t305 = t304 + t303;
-        const V t306 = c24 * t200;
-        const V t307 = c25 * t197;
-        const V t308 = t307 + t306;
-        const V t309 = c24 * t197;
-        const V t310 = c25 * t200;
-        const V t311 = t310 - t309;
-        const V t312 = c26 * t121;
-        const V t313 = c27 * t120;
-        const V t314 = t313 - t312;
-        const V t315 = c26 * t120;
-        const V t316 = c27 * t121;
-        const V t317 = t316 + t315;
-        const V t318 = c28 * t253;
-        const V t319 = c29 * t252;
-        const V t320 = t319 - t318;
-        const V t321 = c28 * t252;
-        const V t322 = c29 * t253;
-        const V t323 = t322 + t321;
-        const V t324 = c30 * t109;
-        const V t325 = c31 * t106;
-        const V t326 = t325 + t324;
-        const V t327 = c30 * t106;
-        const V t328 = c31 * t109;
-        const V t329 = t327 - t328;
-        const V t330 = c32 * t237;
-        const V t331 = c33 * t236;
-        const V t332 = t331 - t330;
-        const V t333 = c32 * t236;
-        const V t334 = c33 * t237;
-        const V t335 = t334 + t333;
-        const V t336 = c34 * t157;
-        const V t337 = c35 * t156;
-        const V t338 = t337 + t336;
-        const V t339 = c34 * t156;
-        const V t340 = c35 * t157;
-        const V t341 = t339 - t340;
-        const V t342 = c36 * t193;
-        // spectrum block of 2
-        const V t343 = t257 - t342;
-        const V t344 = t257 + t342;
-        // complex block of 2
-        const V t345 = t269 - t335;
-        const V t346 = t266 + t332;
-        const V t347 = t269 + t335;
-        const V t348 = t266 - t332;
-        // complex block of 2
-        const V t349 = t281 + t323;
-        const V t350 = t278 + t320;
-        const V t351 = t281 - t323;
-        const V t352 = t278 - t320;
-        // complex block of 2
-        const V t353 = t293 - t311;
-        const V t354 = t290 - t308;
-        const V t355 = t293 + t311;
-        const V t356 = t290 + t308;
-        // complex block of 2
-        const V t357 = t305 + t299;
-        const V t358 = t302 - t296;
-        const V t359 = t299 - t305;
-        const V t360 = t302 + t296;
-        // complex block of 2
-        const V t361 = t317 - t287;
-        const V t362 = t314 - t284;
-        const V t363 = t317 + t287;
-        const V t364 = t314 + t284;
-        // complex block of 2
-        const V t365 = t329 - t275;
-        const V t366 = t272 - t326;
-        const V t367 = t329 + t275;
-        const V t368 = t326 + t272;
-        // complex block of 2
-        const V t369 = t341 - t263;
-        const V t370 = t338 - t260;
-        const V t371 = t341 + t263;
-        const V t372 = t338 + t260;
-        // spectrum block of 3
-        const V t373 = t362 + t343;
-        const V t374 = c1 * t362;
-        const V t375 = t343 - t374;
-        const V t376 = c2 * t361;
-        const V t377 = t375 - t376;
-        const V t378 = t375 + t376;
-        // complex block of 3
-        const V t379 = t369 + t349;
-        const V t380 = t370 + t350;
-        const V t381 = t349 - t369;
-        const V t382 = t370 - t350;
-        const V t383 = t353 - t379;
-        const V t384 = t380 + t354;
-        const V t385 = c1 * t379;
-        const V t386 = t385 + t353;
-        const V t387 = c1 * t380;
-        const V t388 = t354 - t387;
-        const V t389 = c2 * t381;
-        const V t390 = c2 * t382;
-        const V t391 = t386 + t390;
-        const V t392 = t388 - t389;
-        const V t393 = t386 - t390;
-        const V t394 = t388 + t389;
-        // complex block of 3
-        const V t395 = t357 + t345;
-        const V t396 = t358 + t346;
-        const V t397 = t357 - t345;
-        const V t398 = t358 - t346;
-        const V t399 = t395 + t365;
-        const V t400 = t396 + t366;
-        const V t401 = c1 * t395;
-        const V t402 = t365 - t401;
-        const V t403 = c1 * t396;
-        const V t404 = t366 - t403;
-        const V t405 = c2 * t397;
-        const V t406 = c2 * t398;
-        const V t407 = t402 + t406;
-        const V t408 = t404 - t405;
-        const V t409 = t402 - t406;
-        const V t410 = t404 + t405;
-        // spectrum block of 5
-        const V t411 = t384 + t400;
-        const V t412 = t411 + t373;
-        const V t413 = c4 * t384;
-        const V t414 = c3 * t400;
-        const V t415 = t413 - t414;
-        const V t416 = t415 + t373;
-        const V t417 = c6 * t383;
-        const V t418 = c5 * t399;
+        // real block of 3, multiplier 2
+        const V t306 = c[-11] * t296;
+        const V t307 = t302 - t306;
+        // real block of 3, multiplier 2
+        const V t308 = c[-11] * t300;
+        const V t309 = t293 - t308;
+        // complex block of 5, multiplier 3
+        const V t310 = t309 + t307;
+        // real block of 3, multiplier 2
+        const V t311 = c[-10] * t297;
+        // real block of 3, multiplier 2
+        const V t312 = c[-10] * t301;
+        // complex block of 5, multiplier 3
+        const V t313 = t312 + t311;
+        const V t314 = t312 - t311;
+        // doubled bins
+        const V x8r = io.re(8);
+        const V t315 = c[-16] * x8r;
+        const V x14r = io.re(14);
+        const V t316 = c[-16] * x14r;
+        const V x22r = io.re(22);
+        const V t317 = c[-16] * x22r;
+        // real block of 3, multiplier 2
+        const V t318 = t317 + t316;
+        const V t319 = t317 - t316;
+        // doubled bins
+        const V x16r = io.re(16);
+        const V t320 = c[-16] * x16r;
+        const V x18r = io.re(18);
+        const V t321 = c[-16] * x18r;
+        const V x28r = io.re(28);
+        const V t322 = c[-16] * x28r;
+        // real block of 3, multiplier 2
+        const V t323 = t321 + t322;
+        const V t324 = t321 - t322;
+        // real block of 3, multiplier 2
+        const V t325 = t318 + t315;
+        // real block of 3, multiplier 2
+        const V t326 = t323 + t320;
+        // real block of 5, multiplier 3
+        const V t327 = t325 + t326;
+        // real block of 3, multiplier 2
+        const V t328 = c[-11] * t318;
+        const V t329 = t315 - t328;
+        // real block of 3, multiplier 2
+        const V t330 = c[-11] * t323;
+        const V t331 = t320 - t330;
+        // complex block of 5, multiplier 3
+        const V t332 = t329 + t331;
+        // real block of 3, multiplier 2
+        const V t333 = c[-10] * t319;
+        // real block of 3, multiplier 2
+        const V t334 = c[-10] * t324;
+        // complex block of 5, multiplier 3
+        const V t335 = t333 + t334;
+        const V t336 = t333 - t334;
+        // real block of 5, multiplier 3
+        const V t337 = t325 - t326;
+        const V t338 = c[-15] * t337;
+        const V t339 = c[-14] * t337;
+        const V t340 = t304 - t303;
+        const V t341 = c[-14] * t340;
+        const V t342 = c[-15] * t340;
+        const V t343 = t338 + t341;
+        // spectrum block of 31, multiplier 2
+        const V t344 = c[-9] * t343;
+        const V t345 = c[-8] * t343;
+        // real block of 5, multiplier 3
+        const V t346 = t342 - t339;
+        // spectrum block of 31, multiplier 2
+        const V t347 = c[-7] * t346;
+        const V t348 = c[-6] * t346;
+        // real block of 5, multiplier 3
+        const V t349 = t327 + t305;
+        const V t350 = t349 + t290;
+        // spectrum block of 31, multiplier 2
+        const V t351 = c[19] * t350;
+        // real block of 5, multiplier 3
+        const V t352 = c[-13] * t327;
+        const V t353 = t290 - t352;
+        const V t354 = c[-12] * t305;
+        const V t355 = t353 + t354;
+        // spectrum block of 31, multiplier 2
+        const V t356 = c[-8] * t355;
+        const V t357 = c[-9] * t355;
+        // real block of 5, multiplier 3
+        const V t358 = c[-12] * t327;
+        const V t359 = c[-13] * t305;
+        const V t360 = t358 - t359;
+        const V t361 = t360 + t290;
+        // spectrum block of 31, multiplier 2
+        const V t362 = c[-6] * t361;
+        const V t363 = c[-7] * t361;
+        // complex block of 5, multiplier 3
+        const V t364 = t329 - t331;
+        const V t365 = c[-14] * t364;
+        const V t366 = c[-15] * t364;
+        const V t367 = t309 - t307;
+        const V t368 = c[-15] * t367;
+        const V t369 = c[-14] * t367;
+        const V t370 = t365 - t368;
+        const V t371 = t366 + t369;
+        const V t372 = c[-12] * t335;
+        const V t373 = c[-13] * t313;
+        const V t374 = t372 - t373;
+        const V t375 = t374 + t289;
+        const V t376 = c[-13] * t335;
+        const V t377 = t289 - t376;
+        const V t378 = c[-12] * t313;
+        const V t379 = t377 + t378;
+        const V t380 = t375 - t370;
+        // spectrum block of 31, multiplier 2
+        const V t381 = c[-5] * t380;
+        const V t382 = c[-4] * t380;
+        // complex block of 5, multiplier 3
+        const V t383 = t375 + t370;
+        // spectrum block of 31, multiplier 2
+        const V t384 = c[-3] * t383;
+        const V t385 = c[-2] * t383;
+        // complex block of 5, multiplier 3
+        const V t386 = t379 - t371;
+        // spectrum block of 31, multiplier 2
+        const V t387 = c[-1] * t386;
+        const V t388 = c[0] * t386;
+        // complex block of 5, multiplier 3
+        const V t389 = t379 + t371;
+        // spectrum block of 31, multiplier 2
+        const V t390 = c[1] * t389;
+        const V t391 = c[2] * t389;
+        // complex block of 5, multiplier 3
+        const V t392 = t332 + t310;
+        const V t393 = t392 + t292;
+        // spectrum block of 31, multiplier 2
+        const V t394 = c[3] * t393;
+        const V t395 = c[4] * t393;
+        // complex block of 5, multiplier 3
+        const V t396 = t335 + t313;
+        const V t397 = t396 + t289;
+        // spectrum block of 31, multiplier 2
+        const V t398 = c[4] * t397;
+        const V t399 = c[3] * t397;
+        // complex block of 5, multiplier 3
+        const V t400 = c[-12] * t332;
+        const V t401 = c[-13] * t310;
+        const V t402 = t400 - t401;
+        const V t403 = t402 + t292;
+        const V t404 = c[-14] * t336;
+        const V t405 = c[-15] * t314;
+        const V t406 = t404 - t405;
+        const V t407 = t403 + t406;
+        // spectrum block of 31, multiplier 2
+        const V t408 = c[-4] * t407;
+        const V t409 = c[-5] * t407;
+        // complex block of 5, multiplier 3
+        const V t410 = t403 - t406;
+        // spectrum block of 31, multiplier 2
+        const V t411 = c[-2] * t410;
+        const V t412 = c[-3] * t410;
+        // complex block of 5, multiplier 3
+        const V t413 = c[-13] * t332;
+        const V t414 = t292 - t413;
+        const V t415 = c[-12] * t310;
+        const V t416 = t414 + t415;
+        const V t417 = c[-15] * t336;
+        const V t418 = c[-14] * t314;
         const V t419 = t417 + t418;
-        const V t420 = t416 - t419;
-        const V t421 = t416 + t419;
-        const V t422 = c3 * t384;
-        const V t423 = t373 - t422;
-        const V t424 = c4 * t400;
-        const V t425 = t423 + t424;
-        const V t426 = c5 * t383;
-        const V t427 = c6 * t399;
-        const V t428 = t426 - t427;
-        const V t429 = t425 - t428;
-        const V t430 = t425 + t428;
-        // spectrum block of 5
-        const V t431 = t392 + t408;
-        const V t432 = t431 + t377;
-        const V t433 = c4 * t392;
-        const V t434 = c3 * t408;
-        const V t435 = t433 - t434;
-        const V t436 = t435 + t377;
-        const V t437 = c6 * t391;
-        const V t438 = c5 * t407;
-        const V t439 = t437 + t438;
-        const V t440 = t436 - t439;
-        const V t441 = t436 + t439;
-        const V t442 = c3 * t392;
-        const V t443 = t377 - t442;
-        const V t444 = c4 * t408;
-        const V t445 = t443 + t444;
-        const V t446 = c5 * t391;
-        const V t447 = c6 * t407;
-        const V t448 = t446 - t447;
-        const V t449 = t445 - t448;
-        const V t450 = t445 + t448;
-        // spectrum block of 5
-        const V t451 = t394 + t410;
-        const V t452 = t451 + t378;
-        const V t453 = c4 * t394;
-        const V t454 = c3 * t410;
-        const V t455 = t453 - t454;
-        const V t456 = t455 + t378;
-        const V t457 = c6 * t393;
-        const V t458 = c5 * t409;
-        const V t459 = t457 + t458;
-        const V t460 = t456 - t459;
-        const V t461 = t456 + t459;
-        const V t462 = c3 * t394;
-        const V t463 = t378 - t462;
-        const V t464 = c4 * t410;
+        const V t420 = t416 + t419;
+        // spectrum block of 31, multiplier 2
+        const V t421 = c[0] * t420;
+        const V t422 = c[-1] * t420;
+        // complex block of 5, multiplier 3
+        const V t423 = t416 - t419;
+        // spectrum block of 31, multiplier 2
+        const V t424 = c[2] * t423;
+        const V t425 = c[1] * t423;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t426 = c[-16] * x2i;
+        const V x10i = io.im(10);
+        const V t427 = c[-16] * x10i;
+        const V x12i = io.im(12);
+        const V t428 = c[-16] * x12i;
+        // real block of 3, multiplier 2
+        const V t429 = t427 - t428;
+        const V t430 = t427 + t428;
+        const V t431 = c[-10] * t430;
+        const V t432 = t429 + t426;
+        const V t433 = c[-11] * t429;
+        const V t434 = t426 - t433;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t435 = c[-16] * x4i;
+        const V x6i = io.im(6);
+        const V t436 = c[-16] * x6i;
+        const V x26i = io.im(26);
+        const V t437 = c[-16] * x26i;
+        // real block of 3, multiplier 2
+        const V t438 = t437 + t436;
+        const V t439 = t436 - t437;
+        // doubled bins
+        const V x20i = io.im(20);
+        const V t440 = c[-16] * x20i;
+        const V x24i = io.im(24);
+        const V t441 = c[-16] * x24i;
+        // real block of 3, multiplier 2
+        const V t442 = t440 - t441;
+        const V t443 = t440 + t441;
+        // doubled bins
+        const V x30i = io.im(30);
+        const V t444 = c[-16] * x30i;
+        // real block of 3, multiplier 2
+        const V t445 = t438 + t444;
+        // real block of 3, multiplier 2
+        const V t446 = t442 + t435;
+        // real block of 5, multiplier 3
+        const V t447 = t446 - t445;
+        // real block of 3, multiplier 2
+        const V t448 = c[-11] * t438;
+        const V t449 = t448 - t444;
+        // real block of 3, multiplier 2
+        const V t450 = c[-11] * t442;
+        const V t451 = t435 - t450;
+        // complex block of 5, multiplier 3
+        const V t452 = t451 + t449;
+        // real block of 3, multiplier 2
+        const V t453 = c[-10] * t439;
+        // real block of 3, multiplier 2
+        const V t454 = c[-10] * t443;
+        // complex block of 5, multiplier 3
+        const V t455 = t454 + t453;
+        const V t456 = t454 - t453;
+        // doubled bins
+        const V x8i = io.im(8);
+        const V t457 = c[-16] * x8i;
+        const V x14i = io.im(14);
+        const V t458 = c[-16] * x14i;
+        const V x22i = io.im(22);
+        const V t459 = c[-16] * x22i;
+        // real block of 3, multiplier 2
+        const V t460 = t458 - t459;
+        const V t461 = t459 + t458;
+        // doubled bins
+        const V x16i = io.im(16);
+        const V t462 = c[-16] * x16i;
+        const V x18i = io.im(18);
+        const V t463 = c[-16] * x18i;
+        const V x28i = io.im(28);
+        const V t464 = c[-16] * x28i;
+        // real block of 3, multiplier 2
         const V t465 = t463 + t464;
-        const V t466 = c5 * t393;
-        const V t467 = c6 * t409;
-        const V t468 = t466 - t467;
-        const V t469 = t465 - t468;
-        const V t470 = t465 + t468;
-        // spectrum block of 3
-        const V t471 = t364 + t344;
-        const V t472 = c1 * t364;
-        const V t473 = t344 - t472;
-        const V t474 = c2 * t363;
-        const V t475 = t473 - t474;
-        const V t476 = t473 + t474;
-        // complex block of 3
-        const V t477 = t371 + t351;
-        const V t478 = t372 + t352;
-        const V t479 = t351 - t371;
-        const V t480 = t372 - t352;
-        const V t481 = t355 - t477;
-        const V t482 = t478 + t356;
-        const V t483 = c1 * t477;
-        const V t484 = t483 + t355;
-        const V t485 = c1 * t478;
-        const V t486 = t356 - t485;
-        const V t487 = c2 * t479;
-        const V t488 = c2 * t480;
-        const V t489 = t484 + t488;
-        const V t490 = t486 - t487;
-        const V t491 = t484 - t488;
-        const V t492 = t486 + t487;
-        // complex block of 3
-        const V t493 = t347 - t359;
-        const V t494 = t360 + t348;
-        const V t495 = t359 + t347;
-        const V t496 = t360 - t348;
-        const V t497 = t493 + t367;
-        const V t498 = t494 - t368;
-        const V t499 = c1 * t493;
-        const V t500 = t367 - t499;
-        const V t501 = c1 * t494;
-        const V t502 = t368 + t501;
-        const V t503 = c2 * t495;
-        const V t504 = c2 * t496;
-        const V t505 = t500 + t504;
-        const V t506 = t503 - t502;
-        const V t507 = t500 - t504;
-        const V t508 = t502 + t503;
-        // spectrum block of 5
-        const V t509 = t482 + t498;
-        const V t510 = t509 + t471;
-        const V t511 = c4 * t482;
-        const V t512 = c3 * t498;
-        const V t513 = t511 - t512;
-        const V t514 = t513 + t471;
-        const V t515 = c6 * t481;
-        const V t516 = c5 * t497;
-        const V t517 = t515 + t516;
-        const V t518 = t514 - t517;
-        const V t519 = t514 + t517;
-        const V t520 = c3 * t482;
-        const V t521 = t471 - t520;
-        const V t522 = c4 * t498;
-        const V t523 = t521 + t522;
-        const V t524 = c5 * t481;
-        const V t525 = c6 * t497;
-        const V t526 = t524 - t525;
-        const V t527 = t523 - t526;
-        const V t528 = t523 + t526;
-        // spectrum block of 5
-        const V t529 = t490 + t506;
-        const V t530 = t529 + t475;
-        const V t531 = c4 * t490;
-        const V t532 = c3 * t506;
-        const V t533 = t531 - t532;
-        const V t534 = t533 + t475;
-        const V t535 = c6 * t489;
-        const V t536 = c5 * t505;
-        const V t537 = t535 + t536;
-        const V t538 = t534 - t537;
-        const V t539 = t534 + t537;
-        const V t540 = c3 * t490;
-        const V t541 = t475 - t540;
-        const V t542 = c4 * t506;
-        const V t543 = t541 + t542;
-        const V t544 = c5 * t489;
-        const V t545 = c6 * t505;
-        const V t546 = t544 - t545;
-        const V t547 = t543 - t546;
-        const V t548 = t543 + t546;
-        // spectrum block of 5
-        const V t549 = t492 - t508;
-        const V t550 = t549 + t476;
-        const V t551 = c4 * t492;
-        const V t552 = c3 * t508;
-        const V t553 = t551 + t552;
-        const V t554 = t553 + t476;
-        const V t555 = c6 * t491;
-        const V t556 = c5 * t507;
-        const V t557 = t555 + t556;
-        const V t558 = t554 - t557;
-        const V t559 = t554 + t557;
-        const V t560 = c3 * t492;
-        const V t561 = t476 - t560;
-        const V t562 = c4 * t508;
-        const V t563 = t561 - t562;
-        const V t564 = c5 * t491;
-        const V t565 = c6 * t507;
-        const V t566 = t564 - t565;
-        const V t567 = t563 - t566;
-        const V t568 = t563 + t566;
-        // spectrum block of 31, multiplier 2
-        const V t569 = x0r + t95;
+        const V t466 = t463 - t464;
         // real block of 3, multiplier 2
-        const V t570 = t40 + t36;
-        const V t571 = t40 - t36;
-        const V t572 = t570 + t56;
-        const V t573 = c1 * t570;
-        const V t574 = t56 - t573;
-        const V t575 = c2 * t571;
+        const V t467 = t460 + t457;
         // real block of 3, multiplier 2
-        const V t576 = t16 + t32;
-        const V t577 = t16 - t32;
-        const V t578 = t576 + t44;
-        const V t579 = c1 * t576;
-        const V t580 = t44 - t579;
-        const V t581 = c2 * t577;
-        // real block of 3, multiplier 2
-        const V t582 = t8 + t48;
-        const V t583 = t8 - t48;
-        const V t584 = t582 + t0;
-        const V t585 = c1 * t582;
-        const V t586 = t0 - t585;
-        const V t587 = c2 * t583;
-        // real block of 3, multiplier 2
-        const V t588 = t20 + t12;
-        const V t589 = t20 - t12;
-        const V t590 = t588 + t52;
-        const V t591 = c1 * t588;
-        const V t592 = t52 - t591;
-        const V t593 = c2 * t589;
-        // real block of 3, multiplier 2
-        const V t594 = t24 + t4;
-        const V t595 = t24 - t4;
-        const V t596 = t594 + t28;
-        const V t597 = c1 * t594;
-        const V t598 = t28 - t597;
-        const V t599 = c2 * t595;
+        const V t468 = t465 + t462;
         // real block of 5, multiplier 3
-        const V t600 = t578 + t596;
-        const V t601 = t578 - t596;
-        const V t602 = t590 + t584;
-        const V t603 = t590 - t584;
-        const V t604 = t600 + t602;
-        const V t605 = t604 + t572;
-        const V t606 = c3 * t600;
-        const V t607 = t572 - t606;
-        const V t608 = c4 * t602;
-        const V t609 = t607 + t608;
-        const V t610 = c5 * t601;
-        const V t611 = c6 * t603;
-        const V t612 = t610 + t611;
-        const V t613 = c4 * t600;
-        const V t614 = c3 * t602;
+        const V t469 = t467 + t468;
+        // real block of 3, multiplier 2
+        const V t470 = c[-11] * t460;
+        const V t471 = t457 - t470;
+        // real block of 3, multiplier 2
+        const V t472 = c[-11] * t465;
+        const V t473 = t462 - t472;
+        // complex block of 5, multiplier 3
+        const V t474 = t471 + t473;
+        // real block of 3, multiplier 2
+        const V t475 = c[-10] * t461;
+        // real block of 3, multiplier 2
+        const V t476 = c[-10] * t466;
+        // complex block of 5, multiplier 3
+        const V t477 = t476 - t475;
+        const V t478 = t475 + t476;
+        // real block of 5, multiplier 3
+        const V t479 = t467 - t468;
+        const V t480 = c[-15] * t479;
+        const V t481 = c[-14] * t479;
+        const V t482 = t446 + t445;
+        const V t483 = c[-14] * t482;
+        const V t484 = c[-15] * t482;
+        const V t485 = t480 + t483;
+        // spectrum block of 31, multiplier 2
+        const V t486 = c[5] * t485;
+        const V t487 = c[6] * t485;
+        // real block of 5, multiplier 3
+        const V t488 = t484 - t481;
+        // spectrum block of 31, multiplier 2
+        const V t489 = c[7] * t488;
+        const V t490 = c[8] * t488;
+        // real block of 5, multiplier 3
+        const V t491 = t469 + t447;
+        const V t492 = t491 + t432;
+        // spectrum block of 31, multiplier 2
+        const V t493 = c[20] * t492;
+        // real block of 5, multiplier 3
+        const V t494 = c[-13] * t469;
+        const V t495 = t432 - t494;
+        const V t496 = c[-12] * t447;
+        const V t497 = t495 + t496;
+        // spectrum block of 31, multiplier 2
+        const V t498 = c[6] * t497;
+        const V t499 = c[5] * t497;
+        // real block of 5, multiplier 3
+        const V t500 = c[-12] * t469;
+        const V t501 = c[-13] * t447;
+        const V t502 = t500 - t501;
+        const V t503 = t502 + t432;
+        // spectrum block of 31, multiplier 2
+        const V t504 = c[8] * t503;
+        const V t505 = c[7] * t503;
+        // complex block of 5, multiplier 3
+        const V t506 = t471 - t473;
+        const V t507 = c[-14] * t506;
+        const V t508 = c[-15] * t506;
+        const V t509 = t451 - t449;
+        const V t510 = c[-15] * t509;
+        const V t511 = c[-14] * t509;
+        const V t512 = t507 - t510;
+        const V t513 = t508 + t511;
+        const V t514 = c[-12] * t477;
+        const V t515 = c[-13] * t455;
+        const V t516 = t514 - t515;
+        const V t517 = t516 + t431;
+        const V t518 = c[-13] * t477;
+        const V t519 = t431 - t518;
+        const V t520 = c[-12] * t455;
+        const V t521 = t519 + t520;
+        const V t522 = t517 - t512;
+        // spectrum block of 31, multiplier 2
+        const V t523 = c[9] * t522;
+        const V t524 = c[10] * t522;
+        // complex block of 5, multiplier 3
+        const V t525 = t517 + t512;
+        // spectrum block of 31, multiplier 2
+        const V t526 = c[11] * t525;
+        const V t527 = c[12] * t525;
+        // complex block of 5, multiplier 3
+        const V t528 = t521 - t513;
+        // spectrum block of 31, multiplier 2
+        const V t529 = c[13] * t528;
+        const V t530 = c[14] * t528;
+        // complex block of 5, multiplier 3
+        const V t531 = t521 + t513;
+        // spectrum block of 31, multiplier 2
+        const V t532 = c[15] * t531;
+        const V t533 = c[16] * t531;
+        // complex block of 5, multiplier 3
+        const V t534 = t474 + t452;
+        const V t535 = t534 + t434;
+        // spectrum block of 31, multiplier 2
+        const V t536 = c[17] * t535;
+        const V t537 = c[18] * t535;
+        // complex block of 5, multiplier 3
+        const V t538 = t477 + t455;
+        const V t539 = t538 + t431;
+        // spectrum block of 31, multiplier 2
+        const V t540 = c[18] * t539;
+        const V t541 = c[17] * t539;
+        // complex block of 5, multiplier 3
+        const V t542 = c[-12] * t474;
+        const V t543 = c[-13] * t452;
+        const V t544 = t542 - t543;
+        const V t545 = t544 + t434;
+        const V t546 = c[-14] * t478;
+        const V t547 = c[-15] * t456;
+        const V t548 = t546 + t547;
+        const V t549 = t545 - t548;
+        // spectrum block of 31, multiplier 2
+        const V t550 = c[10] * t549;
+        const V t551 = c[9] * t549;
+        // complex block of 5, multiplier 3
+        const V t552 = t545 + t548;
+        // spectrum block of 31, multiplier 2
+        const V t553 = c[12] * t552;
+        const V t554 = c[11] * t552;
+        // complex block of 5, multiplier 3
+        const V t555 = c[-13] * t474;
+        const V t556 = t434 - t555;
+        const V t557 = c[-12] * t452;
+        const V t558 = t556 + t557;
+        const V t559 = c[-15] * t478;
+        const V t560 = c[-14] * t456;
+        const V t561 = t560 - t559;
+        const V t562 = t558 + t561;
+        // spectrum block of 31, multiplier 2
+        const V t563 = c[14] * t562;
+        const V t564 = c[13] * t562;
+        // complex block of 5, multiplier 3
+        const V t565 = t558 - t561;
+        // spectrum block of 31, multiplier 2
+        const V t566 = c[16] * t565;
+        const V t567 = c[15] * t565;
+        const V x0r = io.re(0);
+        const V t568 = x0r - t351;
+        // spectrum block of 2
+        const V t569 = t568 - t493;
+        const V t570 = t568 + t493;
+        // spectrum block of 31, multiplier 2
+        const V t571 = t536 + t540;
+        const V t572 = t394 - t398;
+        // complex block of 2
+        const V t573 = t572 - t571;
+        const V t574 = t572 + t571;
+        // spectrum block of 3
+        const V t575 = c[-11] * t573;
+        // spectrum block of 3
+        const V t576 = c[-11] * t574;
+        // spectrum block of 31, multiplier 2
+        const V t577 = t541 - t537;
+        const V t578 = t399 + t395;
+        // complex block of 2
+        const V t579 = t578 - t577;
+        const V t580 = t578 + t577;
+        // spectrum block of 3
+        const V t581 = t573 + t569;
+        const V t582 = t569 - t575;
+        const V t583 = c[-10] * t579;
+        const V t584 = t582 - t583;
+        const V t585 = t582 + t583;
+        // spectrum block of 3
+        const V t586 = t574 + t570;
+        const V t587 = t570 - t576;
+        const V t588 = c[-10] * t580;
+        const V t589 = t587 - t588;
+        const V t590 = t587 + t588;
+        // spectrum block of 31, multiplier 2
+        const V t591 = t566 + t532;
+        const V t592 = t424 + t390;
+        // complex block of 2
+        const V t593 = t592 - t591;
+        const V t594 = t592 + t591;
+        // spectrum block of 31, multiplier 2
+        const V t595 = t421 - t387;
+        const V t596 = t563 - t529;
+        // complex block of 2
+        const V t597 = t595 + t596;
+        const V t598 = t595 - t596;
+        // complex block of 3
+        const V t599 = t593 + t597;
+        // complex block of 3
+        const V t600 = t594 + t598;
+        // spectrum block of 31, multiplier 2
+        const V t601 = t567 - t533;
+        const V t602 = t425 - t391;
+        // complex block of 2
+        const V t603 = t602 - t601;
+        const V t604 = t602 + t601;
+        // spectrum block of 31, multiplier 2
+        const V t605 = t388 + t422;
+        const V t606 = t530 + t564;
+        // complex block of 2
+        const V t607 = t605 + t606;
+        const V t608 = t605 - t606;
+        // complex block of 3
+        const V t609 = t603 + t607;
+        const V t610 = t607 - t603;
+        // complex block of 3
+        const V t611 = t604 + t608;
+        const V t612 = t608 - t604;
+        // spectrum block of 31, multiplier 2
+        const V t613 = t356 - t344;
+        const V t614 = t498 + t486;
+        // complex block of 2
         const V t615 = t613 - t614;
-        const V t616 = t615 + t572;
-        const V t617 = c6 * t601;
-        const V t618 = c5 * t603;
-        const V t619 = t618 - t617;
-        // complex block of 5, multiplier 3
-        const V t620 = t580 + t598;
-        const V t621 = t581 + t599;
-        const V t622 = t580 - t598;
-        const V t623 = t581 - t599;
-        const V t624 = t592 + t586;
-        const V t625 = t593 + t587;
-        const V t626 = t592 - t586;
-        const V t627 = t593 - t587;
-        const V t628 = t620 + t624;
-        const V t629 = t621 + t625;
-        const V t630 = t628 + t574;
-        const V t631 = t629 + t575;
-        const V t632 = c4 * t620;
-        const V t633 = c3 * t624;
-        const V t634 = t632 - t633;
-        const V t635 = t634 + t574;
-        const V t636 = c4 * t621;
-        const V t637 = c3 * t625;
-        const V t638 = t636 - t637;
-        const V t639 = t638 + t575;
-        const V t640 = c6 * t622;
-        const V t641 = c5 * t626;
-        const V t642 = t640 - t641;
-        const V t643 = c6 * t623;
-        const V t644 = c5 * t627;
+        const V t616 = t613 + t614;
+        // spectrum block of 31, multiplier 2
+        const V t617 = t345 + t357;
+        const V t618 = t487 - t499;
+        // complex block of 2
+        const V t619 = t617 - t618;
+        const V t620 = t617 + t618;
+        // complex block of 3
+        const V t621 = t593 - t597;
+        const V t622 = c[-10] * t621;
+        const V t623 = t619 - t609;
+        const V t624 = t599 + t615;
+        // spectrum block of 5
+        const V t625 = c[-12] * t624;
+        const V t626 = c[-13] * t624;
+        // complex block of 3
+        const V t627 = c[-11] * t609;
+        const V t628 = t627 + t619;
+        const V t629 = c[-11] * t599;
+        const V t630 = t615 - t629;
+        const V t631 = c[-10] * t610;
+        const V t632 = t630 - t631;
+        const V t633 = t630 + t631;
+        // complex block of 3
+        const V t634 = t594 - t598;
+        const V t635 = c[-10] * t634;
+        const V t636 = t620 - t611;
+        const V t637 = t600 + t616;
+        // spectrum block of 5
+        const V t638 = c[-12] * t637;
+        const V t639 = c[-13] * t637;
+        // complex block of 3
+        const V t640 = c[-11] * t611;
+        const V t641 = t640 + t620;
+        const V t642 = c[-11] * t600;
+        const V t643 = t616 - t642;
+        const V t644 = c[-10] * t612;
         const V t645 = t643 - t644;
-        const V t646 = t635 + t645;
-        const V t647 = t639 - t642;
-        const V t648 = t635 - t645;
-        const V t649 = t639 + t642;
-        const V t650 = c3 * t620;
-        const V t651 = t574 - t650;
-        const V t652 = c4 * t624;
-        const V t653 = t651 + t652;
-        const V t654 = c3 * t621;
-        const V t655 = t575 - t654;
-        const V t656 = c4 * t625;
-        const V t657 = t655 + t656;
-        const V t658 = c5 * t622;
-        const V t659 = c6 * t626;
-        const V t660 = t658 + t659;
-        const V t661 = c5 * t623;
-        const V t662 = c6 * t627;
-        const V t663 = t661 + t662;
-        const V t664 = t653 + t663;
-        const V t665 = t657 - t660;
-        const V t666 = t653 - t663;
-        const V t667 = t657 + t660;
-        // real block of 3, multiplier 2
-        const V t668 = t37 - t41;
-        const V t669 = t41 + t37;
-        const V t670 = t668 - t57;
-        const V t671 = c1 * t668;
-        const V t672 = t57 + t671;
-        const V t673 = c2 * t669;
-        // real block of 3, multiplier 2
-        const V t674 = t17 - t33;
-        const V t675 = t17 + t33;
-        const V t676 = t674 - t45;
-        const V t677 = c1 * t674;
-        const V t678 = t45 + t677;
-        const V t679 = c2 * t675;
-        // real block of 3, multiplier 2
-        const V t680 = t9 + t49;
-        const V t681 = t9 - t49;
-        const V t682 = t680 + t1;
-        const V t683 = c1 * t680;
-        const V t684 = t1 - t683;
-        const V t685 = c2 * t681;
-        // real block of 3, multiplier 2
-        const V t686 = t13 - t21;
-        const V t687 = t21 + t13;
-        const V t688 = t686 - t53;
-        const V t689 = c1 * t686;
-        const V t690 = t53 + t689;
-        const V t691 = c2 * t687;
-        // real block of 3, multiplier 2
-        const V t692 = t25 + t5;
-        const V t693 = t5 - t25;
-        const V t694 = t692 + t29;
-        const V t695 = c1 * t692;
-        const V t696 = t695 - t29;
-        const V t697 = c2 * t693;
-        // real block of 5, multiplier 3
-        const V t698 = t676 - t694;
-        const V t699 = t676 + t694;
-        const V t700 = t688 + t682;
-        const V t701 = t688 - t682;
-        const V t702 = t698 + t700;
-        const V t703 = t702 + t670;
-        const V t704 = c3 * t698;
-        const V t705 = t670 - t704;
-        const V t706 = c4 * t700;
-        const V t707 = t705 + t706;
-        const V t708 = c5 * t699;
-        const V t709 = c6 * t701;
-        const V t710 = t708 + t709;
-        const V t711 = c4 * t698;
-        const V t712 = c3 * t700;
-        const V t713 = t711 - t712;
-        const V t714 = t713 + t670;
-        const V t715 = c6 * t699;
-        const V t716 = c5 * t701;
-        const V t717 = t716 - t715;
-        // complex block of 5, multiplier 3
-        const V t718 = t696 - t678;
-        const V t719 = t679 + t697;
-        const V t720 = t678 + t696;
-        const V t721 = t679 - t697;
-        const V t722 = t684 - t690;
-        const V t723 = t685 - t691;
-        const V t724 = t690 + t684;
-        const V t725 = t691 + t685;
-        const V t726 = t718 + t722;
-        const V t727 = t719 + t723;
-        const V t728 = t726 - t672;
-        const V t729 = t727 - t673;
-        const V t730 = c4 * t718;
-        const V t731 = c3 * t722;
-        const V t732 = t730 - t731;
-        const V t733 = t732 - t672;
-        const V t734 = c4 * t719;
-        const V t735 = c3 * t723;
-        const V t736 = t734 - t735;
-        const V t737 = t736 - t673;
-        const V t738 = c6 * t720;
-        const V t739 = c5 * t724;
-        const V t740 = t739 - t738;
-        const V t741 = c6 * t721;
-        const V t742 = c5 * t725;
-        const V t743 = t741 + t742;
-        const V t744 = t733 + t743;
-        const V t745 = t737 - t740;
-        const V t746 = t733 - t743;
-        const V t747 = t737 + t740;
-        const V t748 = c3 * t718;
-        const V t749 = t672 + t748;
-        const V t750 = c4 * t722;
-        const V t751 = t750 - t749;
-        const V t752 = c3 * t719;
-        const V t753 = t673 + t752;
-        const V t754 = c4 * t723;
-        const V t755 = t754 - t753;
-        const V t756 = c5 * t720;
-        const V t757 = c6 * t724;
-        const V t758 = t756 + t757;
-        const V t759 = c5 * t721;
-        const V t760 = c6 * t725;
-        const V t761 = t759 - t760;
-        const V t762 = t751 + t761;
-        const V t763 = t755 + t758;
-        const V t764 = t751 - t761;
-        const V t765 = t755 - t758;
+        const V t646 = t643 + t644;
         // spectrum block of 31, multiplier 2
-        const V t766 = c7 * t605;
+        const V t647 = t384 - t411;
+        const V t648 = t553 - t526;
+        // complex block of 2
+        const V t649 = t647 + t648;
+        const V t650 = t647 - t648;
+        // spectrum block of 31, multiplier 2
+        const V t651 = t550 + t523;
+        const V t652 = t408 - t381;
+        // complex block of 2
+        const V t653 = t652 - t651;
+        const V t654 = t652 + t651;
+        // complex block of 3
+        const V t655 = t653 + t649;
+        // complex block of 3
+        const V t656 = t654 + t650;
+        // spectrum block of 31, multiplier 2
+        const V t657 = t385 + t412;
+        const V t658 = t527 + t554;
+        // complex block of 2
+        const V t659 = t657 - t658;
+        const V t660 = t657 + t658;
+        // spectrum block of 31, multiplier 2
+        const V t661 = t551 - t524;
+        const V t662 = t382 + t409;
+        // complex block of 2
+        const V t663 = t662 + t661;
+        const V t664 = t661 - t662;
+        // complex block of 3
+        const V t665 = t663 + t659;
+        const V t666 = t663 - t659;
+        // complex block of 3
+        const V t667 = t660 - t664;
+        const V t668 = t664 + t660;
+        // spectrum block of 31, multiplier 2
+        const V t669 = t489 - t504;
+        const V t670 = t362 + t347;
+        // complex block of 2
+        const V t671 = t669 - t670;
+        const V t672 = t670 + t669;
+        // spectrum block of 31, multiplier 2
+        const V t673 = t490 + t505;
+        const V t674 = t363 - t348;
+        // complex block of 2
+        const V t675 = t674 - t673;
+        const V t676 = t674 + t673;
+        // complex block of 3
+        const V t677 = t653 - t649;
+        const V t678 = c[-10] * t677;
+        const V t679 = t665 + t675;
+        const V t680 = t655 + t671;
+        // spectrum block of 5
+        const V t681 = c[-13] * t680;
+        // complex block of 3
+        const V t682 = c[-11] * t665;
+        const V t683 = t675 - t682;
+        const V t684 = c[-11] * t655;
+        const V t685 = t671 - t684;
+        const V t686 = c[-10] * t666;
+        const V t687 = t685 - t686;
+        const V t688 = t685 + t686;
+        // complex block of 3
+        const V t689 = t654 - t650;
+        const V t690 = c[-10] * t689;
+        const V t691 = t667 + t676;
+        const V t692 = t656 - t672;
+        // spectrum block of 5
+        const V t693 = c[-13] * t692;
+        // complex block of 3
+        const V t694 = c[-11] * t667;
+        const V t695 = t676 - t694;
+        const V t696 = c[-11] * t656;
+        const V t697 = t672 + t696;
+        const V t698 = c[-10] * t668;
+        const V t699 = t698 - t697;
+        const V t700 = t697 + t698;
+        // spectrum block of 31, multiplier 2
         const V x31r = io.re(31);
-        const V t767 = x31r - t766;
-        const V t768 = c8 * t765;
-        const V t769 = c9 * t764;
-        const V t770 = t769 + t768;
-        const V t771 = c8 * t764;
-        const V t772 = c9 * t765;
-        const V t773 = t771 - t772;
-        const V t774 = c10 * t649;
-        const V t775 = c11 * t648;
-        const V t776 = t774 - t775;
-        const V t777 = c10 * t648;
-        const V t778 = c11 * t649;
-        const V t779 = t778 + t777;
-        const V t780 = c12 * t717;
-        const V t781 = c13 * t714;
-        const V t782 = t780 - t781;
-        const V t783 = c12 * t714;
-        const V t784 = c13 * t717;
-        const V t785 = t784 + t783;
-        const V t786 = c14 * t665;
-        const V t787 = c15 * t664;
-        const V t788 = t787 - t786;
-        const V t789 = c14 * t664;
-        const V t790 = c15 * t665;
-        const V t791 = t790 + t789;
-        const V t792 = c16 * t729;
-        const V t793 = c17 * t728;
-        const V t794 = t793 + t792;
-        const V t795 = c16 * t728;
-        const V t796 = c17 * t729;
-        const V t797 = t796 - t795;
-        const V t798 = c18 * t612;
-        const V t799 = c19 * t609;
-        const V t800 = t799 - t798;
-        const V t801 = c18 * t609;
-        const V t802 = c19 * t612;
-        const V t803 = t802 + t801;
-        const V t804 = c20 * t745;
-        const V t805 = c21 * t744;
-        const V t806 = t805 + t804;
-        const V t807 = c20 * t744;
-        const V t808 = c21 * t745;
-        const V t809 = t807 - t808;
-        const V t810 = c22 * t647;
-        const V t811 = c23 * t646;
-        const V t812 = t811 - t810;
-        const V t813 = c22 * t646;
-        const V t814 = c23 * t647;
-        const V t815 = t814 + t813;
-        const V t816 = c24 * t710;
-        const V t817 = c25 * t707;
-        const V t818 = t817 + t816;
-        const V t819 = c24 * t707;
-        const V t820 = c25 * t710;
-        const V t821 = t820 - t819;
-        const V t822 = c26 * t631;
-        const V t823 = c27 * t630;
-        const V t824 = t823 - t822;
-        const V t825 = c26 * t630;
-        const V t826 = c27 * t631;
-        const V t827 = t826 + t825;
-        const V t828 = c28 * t763;
-        const V t829 = c29 * t762;
-        const V t830 = t829 - t828;
-        const V t831 = c28 * t762;
-        const V t832 = c29 * t763;
-        const V t833 = t832 + t831;
-        const V t834 = c30 * t619;
-        const V t835 = c31 * t616;
-        const V t836 = t835 + t834;
-        const V t837 = c30 * t616;
-        const V t838 = c31 * t619;
-        const V t839 = t837 - t838;
-        const V t840 = c32 * t747;
-        const V t841 = c33 * t746;
-        const V t842 = t841 - t840;
-        const V t843 = c32 * t746;
-        const V t844 = c33 * t747;
-        const V t845 = t844 + t843;
-        const V t846 = c34 * t667;
-        const V t847 = c35 * t666;
-        const V t848 = t847 + t846;
-        const V t849 = c34 * t666;
-        const V t850 = c35 * t667;
-        const V t851 = t849 - t850;
-        const V t852 = c36 * t703;
+        const V t701 = x31r - t67;
         // spectrum block of 2
-        const V t853 = t767 - t852;
-        const V t854 = t767 + t852;
-        // complex block of 2
-        const V t855 = t779 - t845;
-        const V t856 = t776 + t842;
-        const V t857 = t779 + t845;
-        const V t858 = t776 - t842;
-        // complex block of 2
-        const V t859 = t791 + t833;
-        const V t860 = t788 + t830;
-        const V t861 = t791 - t833;
-        const V t862 = t788 - t830;
-        // complex block of 2
-        const V t863 = t803 - t821;
-        const V t864 = t800 - t818;
-        const V t865 = t803 + t821;
-        const V t866 = t800 + t818;
-        // complex block of 2
-        const V t867 = t815 + t809;
-        const V t868 = t812 - t806;
-        const V t869 = t809 - t815;
-        const V t870 = t812 + t806;
-        // complex block of 2
-        const V t871 = t827 - t797;
-        const V t872 = t824 - t794;
-        const V t873 = t827 + t797;
-        const V t874 = t824 + t794;
-        // complex block of 2
-        const V t875 = t839 - t785;
-        const V t876 = t782 - t836;
-        const V t877 = t839 + t785;
-        const V t878 = t836 + t782;
-        // complex block of 2
-        const V t879 = t851 - t773;
-        const V t880 = t848 - t770;
-        const V t881 = t851 + t773;
-        const V t882 = t848 + t770;
-        // spectrum block of 3
-        const V t883 = t872 + t853;
-        const V t884 = c1 * t872;
-        const V t885 = t853 - t884;
-        const V t886 = c2 * t871;
-        const V t887 = t885 - t886;
-        const V t888 = t885 + t886;
-        // complex block of 3
-        const V t889 = t879 + t859;
-        const V t890 = t880 + t860;
-        const V t891 = t859 - t879;
-        const V t892 = t880 - t860;
-        const V t893 = t863 - t889;
-        const V t894 = t890 + t864;
-        const V t895 = c1 * t889;
-        const V t896 = t895 + t863;
-        const V t897 = c1 * t890;
-        const V t898 = t864 - t897;
-        const V t899 = c2 * t891;
-        const V t900 = c2 * t892;
-        const V t901 = t896 + t900;
-        const V t902 = t898 - t899;
-        const V t903 = t896 - t900;
-        const V t904 = t898 + t899;
-        // complex block of 3
-        const V t905 = t867 + t855;
-        const V t906 = t868 + t856;
-        const V t907 = t867 - t855;
-        const V t908 = t868 - t856;
-        const V t909 = t905 + t875;
-        const V t910 = t906 + t876;
-        const V t911 = c1 * t905;
-        const V t912 = t875 - t911;
-        const V t913 = c1 * t906;
-        const V t914 = t876 - t913;
-        const V t915 = c2 * t907;
-        const V t916 = c2 * t908;
-        const V t917 = t912 + t916;
-        const V t918 = t914 - t915;
-        const V t919 = t912 - t916;
-        const V t920 = t914 + t915;
-        // spectrum block of 5
-        const V t921 = t894 + t910;
-        const V t922 = t921 + t883;
-        const V t923 = c4 * t894;
-        const V t924 = c3 * t910;
-        const V t925 = t923 - t924;
-        const V t926 = t925 + t883;
-        const V t927 = c6 * t893;
-        const V t928 = c5 * t909;
-        const V t929 = t927 + t928;
-        const V t930 = t926 - t929;
-        const V t931 = t926 + t929;
-        const V t932 = c3 * t894;
-        const V t933 = t883 - t932;
-        const V t934 = c4 * t910;
-        const V t935 = t933 + t934;
-        const V t936 = c5 * t893;
-        const V t937 = c6 * t909;
-        const V t938 = t936 - t937;
-        const V t939 = t935 - t938;
-        const V t940 = t935 + t938;
-        // spectrum block of 5
-        const V t941 = t902 + t918;
-        const V t942 = t941 + t887;
-        const V t943 = c4 * t902;
-        const V t944 = c3 * t918;
-        const V t945 = t943 - t944;
-        const V t946 = t945 + t887;
-        const V t947 = c6 * t901;
-        const V t948 = c5 * t917;
-        const V t949 = t947 + t948;
-        const V t950 = t946 - t949;
-        const V t951 = t946 + t949;
-        const V t952 = c3 * t902;
-        const V t953 = t887 - t952;
-        const V t954 = c4 * t918;
-        const V t955 = t953 + t954;
-        const V t956 = c5 * t901;
-        const V t957 = c6 * t917;
-        const V t958 = t956 - t957;
-        const V t959 = t955 - t958;
-        const V t960 = t955 + t958;
-        // spectrum block of 5
-        const V t961 = t904 + t920;
-        const V t962 = t961 + t888;
-        const V t963 = c4 * t904;
-        const V t964 = c3 * t920;
-        const V t965 = t963 - t964;
-        const V t966 = t965 + t888;
-        const V t967 = c6 * t903;
-        const V t968 = c5 * t919;
-        const V t969 = t967 + t968;
-        const V t970 = t966 - t969;
-        const V t971 = t966 + t969;
-        const V t972 = c3 * t904;
-        const V t973 = t888 - t972;
-        const V t974 = c4 * t920;
-        const V t975 = t973 + t974;
-        const V t976 = c5 * t903;
-        const V t977 = c6 * t919;
-        const V t978 = t976 - t977;
-        const V t979 = t975 - t978;
-        const V t980 = t975 + t978;
-        // spectrum block of 3
-        const V t981 = t874 + t854;
-        const V t982 = c1 * t874;
-        const V t983 = t854 - t982;
-        const V t984 = c2 * t873;
-        const V t985 = t983 - t984;
-        const V t986 = t983 + t984;
-        // complex block of 3
-        const V t987 = t881 + t861;
-        const V t988 = t882 + t862;
-        const V t989 = t861 - t881;
-        const V t990 = t882 - t862;
-        const V t991 = t865 - t987;
-        const V t992 = t988 + t866;
-        const V t993 = c1 * t987;
-        const V t994 = t993 + t865;
-        const V t995 = c1 * t988;
-        const V t996 = t866 - t995;
-        const V t997 = c2 * t989;
-        const V t998 = c2 * t990;
-        const V t999 = t994 + t998;
-        const V t1000 = t996 - t997;
-        const V t1001 = t994 - t998;
-        const V t1002 = t996 + t997;
-        // complex block of 3
-        const V t1003 = t857 - t869;
-        const V t1004 = t870 + t858;
-        const V t1005 = t869 + t857;
-        const V t1006 = t870 - t858;
-        const V t1007 = t1003 + t877;
-        const V t1008 = t1004 - t878;
-        const V t1009 = c1 * t1003;
-        const V t1010 = t877 - t1009;
-        const V t1011 = c1 * t1004;
-        const V t1012 = t878 + t1011;
-        const V t1013 = c2 * t1005;
-        const V t1014 = c2 * t1006;
-        const V t1015 = t1010 + t1014;
-        const V t1016 = t1013 - t1012;
-        const V t1017 = t1010 - t1014;
-        const V t1018 = t1012 + t1013;
-        // spectrum block of 5
-        const V t1019 = t992 + t1008;
-        const V t1020 = t1019 + t981;
-        const V t1021 = c4 * t992;
-        const V t1022 = c3 * t1008;
-        const V t1023 = t1021 - t1022;
-        const V t1024 = t1023 + t981;
-        const V t1025 = c6 * t991;
-        const V t1026 = c5 * t1007;
-        const V t1027 = t1025 + t1026;
-        const V t1028 = t1024 - t1027;
-        const V t1029 = t1024 + t1027;
-        const V t1030 = c3 * t992;
-        const V t1031 = t981 - t1030;
-        const V t1032 = c4 * t1008;
-        const V t1033 = t1031 + t1032;
-        const V t1034 = c5 * t991;
-        const V t1035 = c6 * t1007;
-        const V t1036 = t1034 - t1035;
-        const V t1037 = t1033 - t1036;
-        const V t1038 = t1033 + t1036;
-        // spectrum block of 5
-        const V t1039 = t1000 + t1016;
-        const V t1040 = t1039 + t985;
-        const V t1041 = c4 * t1000;
-        const V t1042 = c3 * t1016;
-        const V t1043 = t1041 - t1042;
-        const V t1044 = t1043 + t985;
-        const V t1045 = c6 * t999;
-        const V t1046 = c5 * t1015;
-        const V t1047 = t1045 + t1046;
-        const V t1048 = t1044 - t1047;
-        const V t1049 = t1044 + t1047;
-        const V t1050 = c3 * t1000;
-        const V t1051 = t985 - t1050;
-        const V t1052 = c4 * t1016;
-        const V t1053 = t1051 + t1052;
-        const V t1054 = c5 * t999;
-        const V t1055 = c6 * t1015;
-        const V t1056 = t1054 - t1055;
-        const V t1057 = t1053 - t1056;
-        const V t1058 = t1053 + t1056;
-        // spectrum block of 5
-        const V t1059 = t1002 - t1018;
-        const V t1060 = t1059 + t986;
-        const V t1061 = c4 * t1002;
-        const V t1062 = c3 * t1018;
-        const V t1063 = t1061 + t1062;
-        const V t1064 = t1063 + t986;
-        const V t1065 = c6 * t1001;
-        const V t1066 = c5 * t1017;
-        const V t1067 = t1065 + t1066;
-        const V t1068 = t1064 - t1067;
-        const V t1069 = t1064 + t1067;
-        const V t1070 = c3 * t1002;
-        const V t1071 = t986 - t1070;
-        const V t1072 = c4 * t1018;
-        const V t1073 = t1071 - t1072;
-        const V t1074 = c5 * t1001;
-        const V t1075 = c6 * t1017;
-        const V t1076 = t1074 - t1075;
-        const V t1077 = t1073 - t1076;
-        const V t1078 = t1073 + t1076;
+        const V t702 = t701 - t209;
+        const V t703 = t701 + t209;
         // spectrum block of 31, multiplier 2
-        const V t1079 = x31r + t605;
+        const V t704 = t252 + t256;
+        const V t705 = t110 - t114;
+        // complex block of 2
+        const V t706 = t705 - t704;
+        const V t707 = t705 + t704;
+        // spectrum block of 3
+        const V t708 = c[-11] * t706;
+        // spectrum block of 3
+        const V t709 = c[-11] * t707;
+        // spectrum block of 31, multiplier 2
+        const V t710 = t257 - t253;
+        const V t711 = t115 + t111;
+        // complex block of 2
+        const V t712 = t711 - t710;
+        const V t713 = t711 + t710;
+        // spectrum block of 3
+        const V t714 = t706 + t702;
+        const V t715 = t702 - t708;
+        const V t716 = c[-10] * t712;
+        const V t717 = t715 - t716;
+        const V t718 = t715 + t716;
+        // spectrum block of 3
+        const V t719 = t707 + t703;
+        const V t720 = t703 - t709;
+        const V t721 = c[-10] * t713;
+        const V t722 = t720 - t721;
+        const V t723 = t720 + t721;
+        // spectrum block of 31, multiplier 2
+        const V t724 = t282 + t248;
+        const V t725 = t140 + t106;
+        // complex block of 2
+        const V t726 = t725 - t724;
+        const V t727 = t725 + t724;
+        // spectrum block of 31, multiplier 2
+        const V t728 = t137 - t103;
+        const V t729 = t279 - t245;
+        // complex block of 2
+        const V t730 = t728 + t729;
+        const V t731 = t728 - t729;
+        // complex block of 3
+        const V t732 = t726 + t730;
+        // complex block of 3
+        const V t733 = t727 + t731;
+        // spectrum block of 31, multiplier 2
+        const V t734 = t283 - t249;
+        const V t735 = t141 - t107;
+        // complex block of 2
+        const V t736 = t735 - t734;
+        const V t737 = t735 + t734;
+        // spectrum block of 31, multiplier 2
+        const V t738 = t104 + t138;
+        const V t739 = t246 + t280;
+        // complex block of 2
+        const V t740 = t738 + t739;
+        const V t741 = t738 - t739;
+        // complex block of 3
+        const V t742 = t736 + t740;
+        const V t743 = t740 - t736;
+        // complex block of 3
+        const V t744 = t737 + t741;
+        const V t745 = t741 - t737;
+        // spectrum block of 31, multiplier 2
+        const V t746 = t72 - t60;
+        const V t747 = t214 + t202;
+        // complex block of 2
+        const V t748 = t746 - t747;
+        const V t749 = t746 + t747;
+        // spectrum block of 31, multiplier 2
+        const V t750 = t61 + t73;
+        const V t751 = t203 - t215;
+        // complex block of 2
+        const V t752 = t750 - t751;
+        const V t753 = t750 + t751;
+        // complex block of 3
+        const V t754 = t726 - t730;
+        const V t755 = c[-10] * t754;
+        const V t756 = t752 - t742;
+        const V t757 = t732 + t748;
+        // spectrum block of 5
+        const V t758 = c[-12] * t757;
+        const V t759 = c[-13] * t757;
+        // complex block of 3
+        const V t760 = c[-11] * t742;
+        const V t761 = t760 + t752;
+        const V t762 = c[-11] * t732;
+        const V t763 = t748 - t762;
+        const V t764 = c[-10] * t743;
+        const V t765 = t763 - t764;
+        const V t766 = t763 + t764;
+        // complex block of 3
+        const V t767 = t727 - t731;
+        const V t768 = c[-10] * t767;
+        const V t769 = t753 - t744;
+        const V t770 = t733 + t749;
+        // spectrum block of 5
+        const V t771 = c[-12] * t770;
+        const V t772 = c[-13] * t770;
+        // complex block of 3
+        const V t773 = c[-11] * t744;
+        const V t774 = t773 + t753;
+        const V t775 = c[-11] * t733;
+        const V t776 = t749 - t775;
+        const V t777 = c[-10] * t745;
+        const V t778 = t776 - t777;
+        const V t779 = t776 + t777;
+        // spectrum block of 31, multiplier 2
+        const V t780 = t100 - t127;
+        const V t781 = t269 - t242;
+        // complex block of 2
+        const V t782 = t780 + t781;
+        const V t783 = t780 - t781;
+        // spectrum block of 31, multiplier 2
+        const V t784 = t266 + t239;
+        const V t785 = t124 - t97;
+        // complex block of 2
+        const V t786 = t785 - t784;
+        const V t787 = t785 + t784;
+        // complex block of 3
+        const V t788 = t786 + t782;
+        // complex block of 3
+        const V t789 = t787 + t783;
+        // spectrum block of 31, multiplier 2
+        const V t790 = t101 + t128;
+        const V t791 = t243 + t270;
+        // complex block of 2
+        const V t792 = t790 - t791;
+        const V t793 = t790 + t791;
+        // spectrum block of 31, multiplier 2
+        const V t794 = t267 - t240;
+        const V t795 = t98 + t125;
+        // complex block of 2
+        const V t796 = t795 + t794;
+        const V t797 = t794 - t795;
+        // complex block of 3
+        const V t798 = t796 + t792;
+        const V t799 = t796 - t792;
+        // complex block of 3
+        const V t800 = t793 - t797;
+        const V t801 = t797 + t793;
+        // spectrum block of 31, multiplier 2
+        const V t802 = t205 - t220;
+        const V t803 = t78 + t63;
+        // complex block of 2
+        const V t804 = t802 - t803;
+        const V t805 = t803 + t802;
+        // spectrum block of 31, multiplier 2
+        const V t806 = t206 + t221;
+        const V t807 = t79 - t64;
+        // complex block of 2
+        const V t808 = t807 - t806;
+        const V t809 = t807 + t806;
+        // complex block of 3
+        const V t810 = t786 - t782;
+        const V t811 = c[-10] * t810;
+        const V t812 = t798 + t808;
+        const V t813 = t788 + t804;
+        // spectrum block of 5
+        const V t814 = c[-13] * t813;
+        // complex block of 3
+        const V t815 = c[-11] * t798;
+        const V t816 = t808 - t815;
+        const V t817 = c[-11] * t788;
+        const V t818 = t804 - t817;
+        const V t819 = c[-10] * t799;
+        const V t820 = t818 - t819;
+        const V t821 = t818 + t819;
+        // complex block of 3
+        const V t822 = t787 - t783;
+        const V t823 = c[-10] * t822;
+        const V t824 = t800 + t809;
+        const V t825 = t789 - t805;
+        // spectrum block of 5
+        const V t826 = c[-13] * t825;
+        // complex block of 3
+        const V t827 = c[-11] * t800;
+        const V t828 = t809 - t827;
+        const V t829 = c[-11] * t789;
+        const V t830 = t805 + t829;
+        const V t831 = c[-10] * t801;
+        const V t832 = t831 - t830;
+        const V t833 = t830 + t831;
+        // complex block of 3
+        const V t834 = t628 + t622;
+        // spectrum block of 5
+        const V t835 = c[-14] * t834;
+        const V t836 = c[-15] * t834;
+        // complex block of 3
+        const V t837 = t683 + t678;
+        // spectrum block of 5
+        const V t838 = c[-15] * t837;
+        const V t839 = c[-14] * t837;
+        const V t840 = t835 + t838;
+        const V t841 = t836 - t839;
+        const V t842 = c[-12] * t632;
+        const V t843 = c[-13] * t687;
+        const V t844 = t842 - t843;
+        const V t845 = t844 + t584;
+        const V t846 = c[-13] * t632;
+        const V t847 = t584 - t846;
+        const V t848 = c[-12] * t687;
+        const V t849 = t847 + t848;
+        // complex block of 3
+        const V t850 = t761 + t755;
+        // spectrum block of 5
+        const V t851 = c[-14] * t850;
+        const V t852 = c[-15] * t850;
+        // complex block of 3
+        const V t853 = t816 + t811;
+        // spectrum block of 5
+        const V t854 = c[-15] * t853;
+        const V t855 = c[-14] * t853;
+        const V t856 = t851 + t854;
+        const V t857 = t852 - t855;
+        const V t858 = c[-12] * t765;
+        const V t859 = c[-13] * t820;
+        const V t860 = t858 - t859;
+        const V t861 = t860 + t717;
+        const V t862 = c[-13] * t765;
+        const V t863 = t717 - t862;
+        const V t864 = c[-12] * t820;
+        const V t865 = t863 + t864;
+        // spectrum block of 5
+        const V t866 = t845 - t840;
+        // spectrum block of 5
+        const V t867 = t861 - t856;
         // spectrum block of 2
-        const V t1080 = t569 + t1079;
-        io.out(0, t1080);
-        const V t1081 = t569 - t1079;
-        io.out(31, t1081);
+        const V t868 = t866 + t867;
+        io.out(20, t868);
+        const V t869 = t866 - t867;
+        io.out(51, t869);
+        // spectrum block of 5
+        const V t870 = t845 + t840;
+        // spectrum block of 5
+        const V t871 = t861 + t856;
         // spectrum block of 2
-        const V t1082 = t412 + t922;
-        io.out(2, t1082);
-        const V t1083 = t412 - t922;
-        io.out(33, t1083);
+        const V t872 = t870 + t871;
+        io.out(36, t872);
+        const V t873 = t870 - t871;
+        io.out(5, t873);
+        // spectrum block of 5
+        const V t874 = t849 - t841;
+        // spectrum block of 5
+        const V t875 = t865 - t857;
         // spectrum block of 2
-        const V t1084 = t420 + t930;
-        io.out(4, t1084);
-        const V t1085 = t420 - t930;
-        io.out(35, t1085);
+        const V t876 = t874 + t875;
+        io.out(40, t876);
+        const V t877 = t874 - t875;
+        io.out(9, t877);
+        // spectrum block of 5
+        const V t878 = t849 + t841;
+        // spectrum block of 5
+        const V t879 = t865 + t857;
         // spectrum block of 2
-        const V t1086 = t559 + t1069;
-        io.out(6, t1086);
-        const V t1087 = t559 - t1069;
-        io.out(37, t1087);
+        const V t880 = t878 + t879;
+        io.out(18, t880);
+        const V t881 = t878 - t879;
+        io.out(49, t881);
+        // complex block of 3
+        const V t882 = t628 - t622;
+        // spectrum block of 5
+        const V t883 = c[-14] * t882;
+        const V t884 = c[-15] * t882;
+        // complex block of 3
+        const V t885 = t683 - t678;
+        // spectrum block of 5
+        const V t886 = c[-15] * t885;
+        const V t887 = c[-14] * t885;
+        const V t888 = t883 + t886;
+        const V t889 = t884 - t887;
+        const V t890 = c[-12] * t633;
+        const V t891 = c[-13] * t688;
+        const V t892 = t890 - t891;
+        const V t893 = t892 + t585;
+        const V t894 = c[-13] * t633;
+        const V t895 = t585 - t894;
+        const V t896 = c[-12] * t688;
+        const V t897 = t895 + t896;
+        // complex block of 3
+        const V t898 = t761 - t755;
+        // spectrum block of 5
+        const V t899 = c[-14] * t898;
+        const V t900 = c[-15] * t898;
+        // complex block of 3
+        const V t901 = t816 - t811;
+        // spectrum block of 5
+        const V t902 = c[-15] * t901;
+        const V t903 = c[-14] * t901;
+        const V t904 = t899 + t902;
+        const V t905 = t900 - t903;
+        const V t906 = c[-12] * t766;
+        const V t907 = c[-13] * t821;
+        const V t908 = t906 - t907;
+        const V t909 = t908 + t718;
+        const V t910 = c[-13] * t766;
+        const V t911 = t718 - t910;
+        const V t912 = c[-12] * t821;
+        const V t913 = t911 + t912;
+        // spectrum block of 5
+        const V t914 = t893 - t888;
+        // spectrum block of 5
+        const V t915 = t909 - t904;
         // spectrum block of 2
-        const V t1088 = t429 + t939;
-        io.out(8, t1088);
-        const V t1089 = t429 - t939;
-        io.out(39, t1089);
+        const V t916 = t914 + t915;
+        io.out(38, t916);
+        const V t917 = t914 - t915;
+        io.out(7, t917);
+        // spectrum block of 5
+        const V t918 = t893 + t888;
+        // spectrum block of 5
+        const V t919 = t909 + t904;
         // spectrum block of 2
-        const V t1090 = t432 + t942;
-        io.out(10, t1090);
-        const V t1091 = t432 - t942;
-        io.out(41, t1091);
+        const V t920 = t918 + t919;
+        io.out(56, t920);
+        const V t921 = t918 - t919;
+        io.out(25, t921);
+        // spectrum block of 5
+        const V t922 = t897 - t889;
+        // spectrum block of 5
+        const V t923 = t913 - t905;
         // spectrum block of 2
-        const V t1092 = t550 + t1060;
-        io.out(12, t1092);
-        const V t1093 = t550 - t1060;
-        io.out(43, t1093);
+        const V t924 = t922 + t923;
+        io.out(14, t924);
+        const V t925 = t922 - t923;
+        io.out(45, t925);
+        // spectrum block of 5
+        const V t926 = t897 + t889;
+        // spectrum block of 5
+        const V t927 = t913 + t905;
         // spectrum block of 2
-        const V t1094 = t469 + t979;
-        io.out(14, t1094);
-        const V t1095 = t469 - t979;
-        io.out(45, t1095);
+        const V t928 = t926 + t927;
+        io.out(28, t928);
+        const V t929 = t926 - t927;
+        io.out(59, t929);
+        // spectrum block of 5
+        const V t930 = t624 + t680;
+        const V t931 = t930 + t581;
+        // spectrum block of 5
+        const V t932 = t757 + t813;
+        const V t933 = t932 + t714;
         // spectrum block of 2
-        const V t1096 = t430 + t940;
-        io.out(16, t1096);
-        const V t1097 = t430 - t940;
-        io.out(47, t1097);
+        const V t934 = t931 + t933;
+        io.out(2, t934);
+        const V t935 = t931 - t933;
+        io.out(33, t935);
+        // spectrum block of 5
+        const V t936 = t625 - t681;
+        const V t937 = t936 + t581;
+        const V t938 = c[-14] * t623;
+        const V t939 = c[-15] * t679;
+        const V t940 = t938 + t939;
+        // spectrum block of 5
+        const V t941 = t758 - t814;
+        const V t942 = t941 + t714;
+        const V t943 = c[-14] * t756;
+        const V t944 = c[-15] * t812;
+        const V t945 = t943 + t944;
+        // spectrum block of 5
+        const V t946 = t937 - t940;
+        // spectrum block of 5
+        const V t947 = t942 - t945;
         // spectrum block of 2
-        const V t1098 = t450 + t960;
-        io.out(18, t1098);
-        const V t1099 = t450 - t960;
-        io.out(49, t1099);
+        const V t948 = t946 + t947;
+        io.out(4, t948);
+        const V t949 = t946 - t947;
+        io.out(35, t949);
+        // spectrum block of 5
+        const V t950 = t937 + t940;
+        // spectrum block of 5
+        const V t951 = t942 + t945;
         // spectrum block of 2
-        const V t1100 = t440 + t950;
-        io.out(20, t1100);
-        const V t1101 = t440 - t950;
-        io.out(51, t1101);
+        const V t952 = t950 + t951;
+        io.out(32, t952);
+        const V t953 = t950 - t951;
+        io.out(1, t953);
+        // spectrum block of 5
+        const V t954 = t581 - t626;
+        const V t955 = c[-12] * t680;
+        const V t956 = t954 + t955;
+        const V t957 = c[-15] * t623;
+        const V t958 = c[-14] * t679;
+        const V t959 = t957 - t958;
+        // spectrum block of 5
+        const V t960 = t714 - t759;
+        const V t961 = c[-12] * t813;
+        const V t962 = t960 + t961;
+        const V t963 = c[-15] * t756;
+        const V t964 = c[-14] * t812;
+        const V t965 = t963 - t964;
+        // spectrum block of 5
+        const V t966 = t956 - t959;
+        // spectrum block of 5
+        const V t967 = t962 - t965;
         // spectrum block of 2
-        const V t1102 = t547 + t1057;
-        io.out(22, t1102);
-        const V t1103 = t547 - t1057;
-        io.out(53, t1103);
+        const V t968 = t966 + t967;
+        io.out(8, t968);
+        const V t969 = t966 - t967;
+        io.out(39, t969);
+        // spectrum block of 5
+        const V t970 = t956 + t959;
+        // spectrum block of 5
+        const V t971 = t962 + t965;
         // spectrum block of 2
-        const V t1104 = t558 + t1068;
-        io.out(24, t1104);
-        const V t1105 = t558 - t1068;
-        io.out(55, t1105);
+        const V t972 = t970 + t971;
+        io.out(16, t972);
+        const V t973 = t970 - t971;
+        io.out(47, t973);
+        // spectrum block of 5
+        const V t974 = t632 + t687;
+        const V t975 = t974 + t584;
+        // spectrum block of 5
+        const V t976 = t765 + t820;
+        const V t977 = t976 + t717;
         // spectrum block of 2
-        const V t1106 = t539 + t1049;
-        io.out(26, t1106);
-        const V t1107 = t539 - t1049;
-        io.out(57, t1107);
+        const V t978 = t975 + t977;
+        io.out(10, t978);
+        const V t979 = t975 - t977;
+        io.out(41, t979);
+        // spectrum block of 5
+        const V t980 = t633 + t688;
+        const V t981 = t980 + t585;
+        // spectrum block of 5
+        const V t982 = t766 + t821;
+        const V t983 = t982 + t718;
         // spectrum block of 2
-        const V t1108 = t470 + t980;
-        io.out(28, t1108);
-        const V t1109 = t470 - t980;
-        io.out(59, t1109);
+        const V t984 = t981 + t983;
+        io.out(50, t984);
+        const V t985 = t981 - t983;
+        io.out(19, t985);
+        // complex block of 3
+        const V t986 = t641 + t635;
+        // spectrum block of 5
+        const V t987 = c[-14] * t986;
+        const V t988 = c[-15] * t986;
+        // complex block of 3
+        const V t989 = t695 + t690;
+        // spectrum block of 5
+        const V t990 = c[-15] * t989;
+        const V t991 = c[-14] * t989;
+        const V t992 = t987 + t990;
+        const V t993 = t988 - t991;
+        const V t994 = c[-12] * t645;
+        const V t995 = c[-13] * t699;
+        const V t996 = t994 - t995;
+        const V t997 = t996 + t589;
+        const V t998 = c[-13] * t645;
+        const V t999 = t589 - t998;
+        const V t1000 = c[-12] * t699;
+        const V t1001 = t999 + t1000;
+        // complex block of 3
+        const V t1002 = t774 + t768;
+        // spectrum block of 5
+        const V t1003 = c[-14] * t1002;
+        const V t1004 = c[-15] * t1002;
+        // complex block of 3
+        const V t1005 = t828 + t823;
+        // spectrum block of 5
+        const V t1006 = c[-15] * t1005;
+        const V t1007 = c[-14] * t1005;
+        const V t1008 = t1003 + t1006;
+        const V t1009 = t1004 - t1007;
+        const V t1010 = c[-12] * t778;
+        const V t1011 = c[-13] * t832;
+        const V t1012 = t1010 - t1011;
+        const V t1013 = t1012 + t722;
+        const V t1014 = c[-13] * t778;
+        const V t1015 = t722 - t1014;
+        const V t1016 = c[-12] * t832;
+        const V t1017 = t1015 + t1016;
+        // spectrum block of 5
+        const V t1018 = t997 - t992;
+        // spectrum block of 5
+        const V t1019 = t1013 - t1008;
         // spectrum block of 2
-        const V t1110 = t519 + t1029;
-        io.out(30, t1110);
-        const V t1111 = t519 - t1029;
-        io.out(61, t1111);
+        const V t1020 = t1018 + t1019;
+        io.out(42, t1020);
+        const V t1021 = t1018 - t1019;
+        io.out(11, t1021);
+        // spectrum block of 5
+        const V t1022 = t997 + t992;
+        // spectrum block of 5
+        const V t1023 = t1013 + t1008;
         // spectrum block of 2
-        const V t1112 = t421 + t931;
-        io.out(32, t1112);
-        const V t1113 = t421 - t931;
-        io.out(1, t1113);
+        const V t1024 = t1022 + t1023;
+        io.out(26, t1024);
+        const V t1025 = t1022 - t1023;
+        io.out(57, t1025);
+        // spectrum block of 5
+        const V t1026 = t1001 - t993;
+        // spectrum block of 5
+        const V t1027 = t1017 - t1009;
         // spectrum block of 2
-        const V t1114 = t568 + t1078;
-        io.out(34, t1114);
-        const V t1115 = t568 - t1078;
-        io.out(3, t1115);
+        const V t1028 = t1026 + t1027;
+        io.out(22, t1028);
+        const V t1029 = t1026 - t1027;
+        io.out(53, t1029);
+        // spectrum block of 5
+        const V t1030 = t1001 + t993;
+        // spectrum block of 5
+        const V t1031 = t1017 + t1009;
         // spectrum block of 2
-        const V t1116 = t441 + t951;
-        io.out(36, t1116);
-        const V t1117 = t441 - t951;
-        io.out(5, t1117);
+        const V t1032 = t1030 + t1031;
+        io.out(44, t1032);
+        const V t1033 = t1030 - t1031;
+        io.out(13, t1033);
+        // complex block of 3
+        const V t1034 = t641 - t635;
+        // spectrum block of 5
+        const V t1035 = c[-14] * t1034;
+        const V t1036 = c[-15] * t1034;
+        // complex block of 3
+        const V t1037 = t695 - t690;
+        // spectrum block of 5
+        const V t1038 = c[-15] * t1037;
+        const V t1039 = c[-14] * t1037;
+        const V t1040 = t1035 + t1038;
+        const V t1041 = t1036 - t1039;
+        const V t1042 = c[-12] * t646;
+        const V t1043 = c[-13] * t700;
+        const V t1044 = t1042 + t1043;
+        const V t1045 = t1044 + t590;
+        const V t1046 = c[-13] * t646;
+        const V t1047 = t590 - t1046;
+        const V t1048 = c[-12] * t700;
+        const V t1049 = t1047 - t1048;
+        // complex block of 3
+        const V t1050 = t774 - t768;
+        // spectrum block of 5
+        const V t1051 = c[-14] * t1050;
+        const V t1052 = c[-15] * t1050;
+        // complex block of 3
+        const V t1053 = t828 - t823;
+        // spectrum block of 5
+        const V t1054 = c[-15] * t1053;
+        const V t1055 = c[-14] * t1053;
+        const V t1056 = t1051 + t1054;
+        const V t1057 = t1052 - t1055;
+        const V t1058 = c[-12] * t779;
+        const V t1059 = c[-13] * t833;
+        const V t1060 = t1058 + t1059;
+        const V t1061 = t1060 + t723;
+        const V t1062 = c[-13] * t779;
+        const V t1063 = t723 - t1062;
+        const V t1064 = c[-12] * t833;
+        const V t1065 = t1063 - t1064;
+        // spectrum block of 5
+        const V t1066 = t1045 - t1040;
+        // spectrum block of 5
+        const V t1067 = t1061 - t1056;
         // spectrum block of 2
-        const V t1118 = t460 + t970;
-        io.out(38, t1118);
-        const V t1119 = t460 - t970;
-        io.out(7, t1119);
+        const V t1068 = t1066 + t1067;
+        io.out(24, t1068);
+        const V t1069 = t1066 - t1067;
+        io.out(55, t1069);
+        // spectrum block of 5
+        const V t1070 = t1045 + t1040;
+        // spectrum block of 5
+        const V t1071 = t1061 + t1056;
         // spectrum block of 2
-        const V t1120 = t449 + t959;
-        io.out(40, t1120);
-        const V t1121 = t449 - t959;
-        io.out(9, t1121);
+        const V t1072 = t1070 + t1071;
+        io.out(6, t1072);
+        const V t1073 = t1070 - t1071;
+        io.out(37, t1073);
+        // spectrum block of 5
+        const V t1074 = t1049 - t1041;
+        // spectrum block of 5
+        const V t1075 = t1065 - t1057;
         // spectrum block of 2
-        const V t1122 = t538 + t1048;
-        io.out(42, t1122);
-        const V t1123 = t538 - t1048;
-        io.out(11, t1123);
+        const V t1076 = t1074 + t1075;
+        io.out(48, t1076);
+        const V t1077 = t1074 - t1075;
+        io.out(17, t1077);
+        // spectrum block of 5
+        const V t1078 = t1049 + t1041;
+        // spectrum block of 5
+        const V t1079 = t1065 + t1057;
         // spectrum block of 2
-        const V t1124 = t548 + t1058;
-        io.out(44, t1124);
-        const V t1125 = t548 - t1058;
-        io.out(13, t1125);
+        const V t1080 = t1078 + t1079;
+        io.out(34, t1080);
+        const V t1081 = t1078 - t1079;
+        io.out(3, t1081);
+        // spectrum block of 5
+        const V t1082 = t637 + t692;
+        const V t1083 = t1082 + t586;
+        // spectrum block of 5
+        const V t1084 = t770 + t825;
+        const V t1085 = t1084 + t719;
         // spectrum block of 2
-        const V t1126 = t528 + t1038;
-        io.out(46, t1126);
-        const V t1127 = t528 - t1038;
-        io.out(15, t1127);
+        const V t1086 = t1083 + t1085;
+        io.out(60, t1086);
+        const V t1087 = t1083 - t1085;
+        io.out(29, t1087);
+        // spectrum block of 5
+        const V t1088 = t638 - t693;
+        const V t1089 = t1088 + t586;
+        const V t1090 = c[-14] * t636;
+        const V t1091 = c[-15] * t691;
+        const V t1092 = t1090 + t1091;
+        // spectrum block of 5
+        const V t1093 = t771 - t826;
+        const V t1094 = t1093 + t719;
+        const V t1095 = c[-14] * t769;
+        const V t1096 = c[-15] * t824;
+        const V t1097 = t1095 + t1096;
+        // spectrum block of 5
+        const V t1098 = t1089 - t1092;
+        // spectrum block of 5
+        const V t1099 = t1094 - t1097;
         // spectrum block of 2
-        const V t1128 = t567 + t1077;
-        io.out(48, t1128);
-        const V t1129 = t567 - t1077;
-        io.out(17, t1129);
+        const V t1100 = t1098 + t1099;
+        io.out(58, t1100);
+        const V t1101 = t1098 - t1099;
+        io.out(27, t1101);
+        // spectrum block of 5
+        const V t1102 = t1089 + t1092;
+        // spectrum block of 5
+        const V t1103 = t1094 + t1097;
         // spectrum block of 2
-        const V t1130 = t452 + t962;
-        io.out(50, t1130);
-        const V t1131 = t452 - t962;
-        io.out(19, t1131);
+        const V t1104 = t1102 + t1103;
+        io.out(30, t1104);
+        const V t1105 = t1102 - t1103;
+        io.out(61, t1105);
+        // spectrum block of 5
+        const V t1106 = t586 - t639;
+        const V t1107 = c[-12] * t692;
+        const V t1108 = t1106 + t1107;
+        const V t1109 = c[-15] * t636;
+        const V t1110 = c[-14] * t691;
+        const V t1111 = t1109 - t1110;
+        // spectrum block of 5
+        const V t1112 = t719 - t772;
+        const V t1113 = c[-12] * t825;
+        const V t1114 = t1112 + t1113;
+        const V t1115 = c[-15] * t769;
+        const V t1116 = c[-14] * t824;
+        const V t1117 = t1115 - t1116;
+        // spectrum block of 5
+        const V t1118 = t1108 - t1111;
+        // spectrum block of 5
+        const V t1119 = t1114 - t1117;
         // spectrum block of 2
-        const V t1132 = t530 + t1040;
-        io.out(52, t1132);
-        const V t1133 = t530 - t1040;
-        io.out(21, t1133);
+        const V t1120 = t1118 + t1119;
+        io.out(54, t1120);
+        const V t1121 = t1118 - t1119;
+        io.out(23, t1121);
+        // spectrum block of 5
+        const V t1122 = t1108 + t1111;
+        // spectrum block of 5
+        const V t1123 = t1114 + t1117;
         // spectrum block of 2
-        const V t1134 = t527 + t1037;
-        io.out(54, t1134);
-        const V t1135 = t527 - t1037;
-        io.out(23, t1135);
+        const V t1124 = t1122 + t1123;
+        io.out(46, t1124);
+        const V t1125 = t1122 - t1123;
+        io.out(15, t1125);
+        // spectrum block of 5
+        const V t1126 = t645 + t699;
+        const V t1127 = t1126 + t589;
+        // spectrum block of 5
+        const V t1128 = t778 + t832;
+        const V t1129 = t1128 + t722;
         // spectrum block of 2
-        const V t1136 = t461 + t971;
-        io.out(56, t1136);
-        const V t1137 = t461 - t971;
-        io.out(25, t1137);
+        const V t1130 = t1127 + t1129;
+        io.out(52, t1130);
+        const V t1131 = t1127 - t1129;
+        io.out(21, t1131);
+        // spectrum block of 5
+        const V t1132 = t646 - t700;
+        const V t1133 = t1132 + t590;
+        // spectrum block of 5
+        const V t1134 = t779 - t833;
+        const V t1135 = t1134 + t723;
         // spectrum block of 2
-        const V t1138 = t518 + t1028;
-        io.out(58, t1138);
-        const V t1139 = t518 - t1028;
-        io.out(27, t1139);
+        const V t1136 = t1133 + t1135;
+        io.out(12, t1136);
+        const V t1137 = t1133 - t1135;
+        io.out(43, t1137);
+        // spectrum block of 31, multiplier 2
+        const V t1138 = x0r + t350;
+        // spectrum block of 31, multiplier 2
+        const V t1139 = x31r + t66;
         // spectrum block of 2
-        const V t1140 = t510 + t1020;
-        io.out(60, t1140);
-        const V t1141 = t510 - t1020;
-        io.out(29, t1141);
+        const V t1140 = t1138 + t1139;
+        io.out(0, t1140);
+        const V t1141 = t1138 - t1139;
+        io.out(31, t1141);
     }
 };
 

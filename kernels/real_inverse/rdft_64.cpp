@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 64.
 // Inverse DFT to 64 real points, twiddled 16, 4.
-// 200 additions, 200 subtractions, 196 multiplications (260 with `scale`); 16 constants; 66 values alive at most.
+// 200 additions, 200 subtractions, 196 multiplications (260 with `scale`); 16 constants; 81 values alive at most.
 #include "frame/kernel_body.h"
 
 namespace zulg {
@@ -9,873 +9,1083 @@ template <>
 struct RealInverseGraph<64> {
     static constexpr double inverseRoot = 0.125;  // 1/sqrt(64), for `scale`
     static constexpr double c0 = 2.0;  // 2
-    static constexpr double c1 = 0.3826834323650898;  // -sin 2 pi 15/16
-    static constexpr double c2 = 0.9238795325112867;  // cos 2 pi 15/16
-    static constexpr double c3 = 0.7071067811865476;  // cos 2 pi 1/8
-    static constexpr double c4 = 0.0980171403295606;  // -sin 2 pi 63/64
-    static constexpr double c5 = 0.9951847266721969;  // cos 2 pi 63/64
-    static constexpr double c6 = 0.19509032201612828;  // -sin 2 pi 62/64
-    static constexpr double c7 = 0.9807852804032304;  // cos 2 pi 62/64
-    static constexpr double c8 = 0.2902846772544624;  // -sin 2 pi 61/64
-    static constexpr double c9 = 0.9569403357322088;  // cos 2 pi 61/64
-    static constexpr double c10 = 0.47139673682599764;  // -sin 2 pi 59/64
-    static constexpr double c11 = 0.881921264348355;  // cos 2 pi 59/64
-    static constexpr double c12 = 0.5555702330196022;  // -sin 2 pi 58/64
-    static constexpr double c13 = 0.8314696123025452;  // cos 2 pi 58/64
-    static constexpr double c14 = 0.6343932841636455;  // -sin 2 pi 57/64
-    static constexpr double c15 = 0.773010453362737;  // cos 2 pi 57/64
+    static constexpr double c1 = 0.7071067811865476;  // cos 2 pi 1/8
+    static constexpr double c2 = 0.19509032201612828;  // -sin 2 pi 62/64
+    static constexpr double c3 = 0.9807852804032304;  // cos 2 pi 62/64
+    static constexpr double c4 = 0.5555702330196022;  // -sin 2 pi 58/64
+    static constexpr double c5 = 0.8314696123025452;  // cos 2 pi 58/64
+    static constexpr double c6 = 0.3826834323650898;  // -sin 2 pi 15/16
+    static constexpr double c7 = 0.9238795325112867;  // cos 2 pi 15/16
+    static constexpr double c8 = 0.0980171403295606;  // -sin 2 pi 63/64
+    static constexpr double c9 = 0.9951847266721969;  // cos 2 pi 63/64
+    static constexpr double c10 = 0.773010453362737;  // cos 2 pi 57/64
+    static constexpr double c11 = 0.6343932841636455;  // -sin 2 pi 57/64
+    static constexpr double c12 = 0.47139673682599764;  // -sin 2 pi 59/64
+    static constexpr double c13 = 0.881921264348355;  // cos 2 pi 59/64
+    static constexpr double c14 = 0.9569403357322088;  // cos 2 pi 61/64
+    static constexpr double c15 = 0.2902846772544624;  // -sin 2 pi 61/64
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = c0 * x1r;
-        const V x1i = io.im(1);
-        const V t1 = c0 * x1i;
-        const V x2r = io.re(2);
-        const V t2 = c0 * x2r;
-        const V x2i = io.im(2);
-        const V t3 = c0 * x2i;
-        const V x3r = io.re(3);
-        const V t4 = c0 * x3r;
-        const V x3i = io.im(3);
-        const V t5 = c0 * x3i;
-        const V x4r = io.re(4);
-        const V t6 = c0 * x4r;
-        const V x4i = io.im(4);
-        const V t7 = c0 * x4i;
-        const V x5r = io.re(5);
-        const V t8 = c0 * x5r;
-        const V x5i = io.im(5);
-        const V t9 = c0 * x5i;
-        const V x6r = io.re(6);
-        const V t10 = c0 * x6r;
-        const V x6i = io.im(6);
-        const V t11 = c0 * x6i;
-        const V x7r = io.re(7);
-        const V t12 = c0 * x7r;
-        const V x7i = io.im(7);
-        const V t13 = c0 * x7i;
-        const V x8r = io.re(8);
-        const V t14 = c0 * x8r;
-        const V x8i = io.im(8);
-        const V t15 = c0 * x8i;
-        const V x9r = io.re(9);
-        const V t16 = c0 * x9r;
-        const V x9i = io.im(9);
-        const V t17 = c0 * x9i;
-        const V x10r = io.re(10);
-        const V t18 = c0 * x10r;
-        const V x10i = io.im(10);
-        const V t19 = c0 * x10i;
-        const V x11r = io.re(11);
-        const V t20 = c0 * x11r;
-        const V x11i = io.im(11);
-        const V t21 = c0 * x11i;
-        const V x12r = io.re(12);
-        const V t22 = c0 * x12r;
-        const V x12i = io.im(12);
-        const V t23 = c0 * x12i;
-        const V x13r = io.re(13);
-        const V t24 = c0 * x13r;
-        const V x13i = io.im(13);
-        const V t25 = c0 * x13i;
-        const V x14r = io.re(14);
-        const V t26 = c0 * x14r;
-        const V x14i = io.im(14);
-        const V t27 = c0 * x14i;
-        const V x15r = io.re(15);
-        const V t28 = c0 * x15r;
-        const V x15i = io.im(15);
-        const V t29 = c0 * x15i;
-        const V x16r = io.re(16);
-        const V t30 = c0 * x16r;
-        const V x16i = io.im(16);
-        const V t31 = c0 * x16i;
-        const V x17r = io.re(17);
-        const V t32 = c0 * x17r;
-        const V x17i = io.im(17);
-        const V t33 = c0 * x17i;
-        const V x18r = io.re(18);
-        const V t34 = c0 * x18r;
-        const V x18i = io.im(18);
-        const V t35 = c0 * x18i;
-        const V x19r = io.re(19);
-        const V t36 = c0 * x19r;
-        const V x19i = io.im(19);
-        const V t37 = c0 * x19i;
-        const V x20r = io.re(20);
-        const V t38 = c0 * x20r;
-        const V x20i = io.im(20);
-        const V t39 = c0 * x20i;
-        const V x21r = io.re(21);
-        const V t40 = c0 * x21r;
-        const V x21i = io.im(21);
-        const V t41 = c0 * x21i;
-        const V x22r = io.re(22);
-        const V t42 = c0 * x22r;
-        const V x22i = io.im(22);
-        const V t43 = c0 * x22i;
-        const V x23r = io.re(23);
-        const V t44 = c0 * x23r;
-        const V x23i = io.im(23);
-        const V t45 = c0 * x23i;
-        const V x24r = io.re(24);
-        const V t46 = c0 * x24r;
-        const V x24i = io.im(24);
-        const V t47 = c0 * x24i;
-        const V x25r = io.re(25);
-        const V t48 = c0 * x25r;
-        const V x25i = io.im(25);
-        const V t49 = c0 * x25i;
-        const V x26r = io.re(26);
-        const V t50 = c0 * x26r;
-        const V x26i = io.im(26);
-        const V t51 = c0 * x26i;
-        const V x27r = io.re(27);
-        const V t52 = c0 * x27r;
-        const V x27i = io.im(27);
-        const V t53 = c0 * x27i;
-        const V x28r = io.re(28);
-        const V t54 = c0 * x28r;
-        const V x28i = io.im(28);
-        const V t55 = c0 * x28i;
-        const V x29r = io.re(29);
-        const V t56 = c0 * x29r;
-        const V x29i = io.im(29);
-        const V t57 = c0 * x29i;
-        const V x30r = io.re(30);
-        const V t58 = c0 * x30r;
-        const V x30i = io.im(30);
-        const V t59 = c0 * x30i;
-        const V x31r = io.re(31);
-        const V t60 = c0 * x31r;
-        const V x31i = io.im(31);
-        const V t61 = c0 * x31i;
         // spectrum block of 2
         const V x0r = io.re(0);
         const V x32r = io.re(32);
-        const V t62 = x0r + x32r;
-        const V t63 = x0r - x32r;
-        // spectrum block of 2
-        const V t64 = t62 + t30;
-        const V t65 = t62 - t30;
-        // spectrum block of 2
-        const V t66 = t63 - t31;
-        const V t67 = t63 + t31;
-        // complex block of 2
-        const V t68 = t7 - t55;
-        const V t69 = t6 + t54;
-        const V t70 = t7 + t55;
-        const V t71 = t6 - t54;
-        // complex block of 2
-        const V t72 = t39 - t23;
-        const V t73 = t38 + t22;
-        const V t74 = t39 + t23;
-        const V t75 = t38 - t22;
-        // complex block of 2
-        const V t76 = t68 + t72;
-        const V t77 = t69 + t73;
-        const V t78 = t68 - t72;
-        const V t79 = t69 - t73;
-        // complex block of 2
-        const V t80 = t70 + t75;
-        const V t81 = t71 - t74;
-        const V t82 = t70 - t75;
-        const V t83 = t71 + t74;
-        // spectrum block of 16
-        const V t84 = c1 * t80;
-        const V t85 = c2 * t81;
-        const V t86 = t85 - t84;
-        const V t87 = c1 * t81;
-        const V t88 = c2 * t80;
-        const V t89 = t88 + t87;
-        const V t90 = c3 * t79;
-        const V t91 = c3 * t78;
-        const V t92 = t90 + t91;
-        const V t93 = t91 - t90;
-        const V t94 = c2 * t82;
-        const V t95 = c1 * t83;
-        const V t96 = t95 - t94;
-        const V t97 = c2 * t83;
-        const V t98 = c1 * t82;
-        const V t99 = t98 + t97;
+        const V t0 = x0r + x32r;
+        const V t1 = x0r - x32r;
+        // doubled bins
+        const V x8r = io.re(8);
+        const V t2 = c0 * x8r;
+        const V x24r = io.re(24);
+        const V t3 = c0 * x24r;
         // mirrored skew block of 4
-        const V t100 = t14 - t46;
-        const V t101 = c3 * t100;
-        const V t102 = t15 + t47;
-        const V t103 = c3 * t102;
-        const V t104 = t14 + t46;
-        const V t105 = t101 - t103;
-        const V t106 = t15 - t47;
-        const V t107 = t101 + t103;
+        const V t4 = t2 - t3;
+        // doubled bins
+        const V x8i = io.im(8);
+        const V t5 = c0 * x8i;
+        const V x24i = io.im(24);
+        const V t6 = c0 * x24i;
+        // mirrored skew block of 4
+        const V t7 = t5 + t6;
+        // doubled bins
+        const V x16r = io.re(16);
+        const V t8 = c0 * x16r;
+        const V x16i = io.im(16);
+        const V t9 = c0 * x16i;
         // spectrum block of 2
-        const V t108 = t64 + t104;
-        const V t109 = t64 - t104;
+        const V t10 = t0 + t8;
+        // mirrored skew block of 4
+        const V t11 = t2 + t3;
         // spectrum block of 2
-        const V t110 = t108 + t77;
-        const V t111 = t108 - t77;
+        const V t12 = t10 + t11;
+        const V t13 = t10 - t11;
         // spectrum block of 2
-        const V t112 = t109 - t76;
-        const V t113 = t109 + t76;
+        const V t14 = t0 - t8;
+        // mirrored skew block of 4
+        const V t15 = t5 - t6;
         // spectrum block of 2
-        const V t114 = t66 + t105;
-        const V t115 = t66 - t105;
+        const V t16 = t14 - t15;
+        const V t17 = t14 + t15;
         // spectrum block of 2
-        const V t116 = t114 + t86;
-        const V t117 = t114 - t86;
-        // spectrum block of 2
-        const V t118 = t115 - t89;
-        const V t119 = t115 + t89;
-        // spectrum block of 2
-        const V t120 = t65 - t106;
-        const V t121 = t65 + t106;
-        // spectrum block of 2
-        const V t122 = t120 - t93;
-        const V t123 = t120 + t93;
-        // spectrum block of 2
-        const V t124 = t121 - t92;
-        const V t125 = t121 + t92;
-        // spectrum block of 2
-        const V t126 = t67 - t107;
-        const V t127 = t67 + t107;
-        // spectrum block of 2
-        const V t128 = t126 + t96;
-        const V t129 = t126 - t96;
-        // spectrum block of 2
-        const V t130 = t127 - t99;
-        const V t131 = t127 + t99;
+        const V t18 = t1 - t9;
+        const V t19 = t1 + t9;
+        // mirrored skew block of 4
+        const V t20 = c1 * t4;
+        const V t21 = c1 * t7;
+        const V t22 = t20 - t21;
+        const V t23 = t20 + t21;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t24 = c0 * x1r;
+        const V x31r = io.re(31);
+        const V t25 = c0 * x31r;
         // complex block of 2
-        const V t132 = t1 - t61;
-        const V t133 = t0 + t60;
-        const V t134 = t1 + t61;
-        const V t135 = t0 - t60;
+        const V t26 = t24 + t25;
+        // doubled bins
+        const V x1i = io.im(1);
+        const V t27 = c0 * x1i;
+        const V x31i = io.im(31);
+        const V t28 = c0 * x31i;
         // complex block of 2
-        const V t136 = t9 - t53;
-        const V t137 = t8 + t52;
-        const V t138 = t9 + t53;
-        const V t139 = t8 - t52;
+        const V t29 = t27 - t28;
+        // doubled bins
+        const V x7r = io.re(7);
+        const V t30 = c0 * x7r;
+        const V x25r = io.re(25);
+        const V t31 = c0 * x25r;
         // complex block of 2
-        const V t140 = t17 - t45;
-        const V t141 = t16 + t44;
-        const V t142 = t17 + t45;
-        const V t143 = t16 - t44;
+        const V t32 = t31 + t30;
+        const V t33 = t31 - t30;
+        // doubled bins
+        const V x7i = io.im(7);
+        const V t34 = c0 * x7i;
+        const V x25i = io.im(25);
+        const V t35 = c0 * x25i;
         // complex block of 2
-        const V t144 = t25 - t37;
-        const V t145 = t24 + t36;
-        const V t146 = t25 + t37;
-        const V t147 = t24 - t36;
+        const V t36 = t35 - t34;
+        const V t37 = t35 + t34;
+        // doubled bins
+        const V x9r = io.re(9);
+        const V t38 = c0 * x9r;
+        const V x23r = io.re(23);
+        const V t39 = c0 * x23r;
         // complex block of 2
-        const V t148 = t33 - t29;
-        const V t149 = t32 + t28;
-        const V t150 = t33 + t29;
-        const V t151 = t32 - t28;
+        const V t40 = t38 + t39;
+        const V t41 = t38 - t39;
+        // doubled bins
+        const V x9i = io.im(9);
+        const V t42 = c0 * x9i;
+        const V x23i = io.im(23);
+        const V t43 = c0 * x23i;
         // complex block of 2
-        const V t152 = t41 - t21;
-        const V t153 = t40 + t20;
-        const V t154 = t41 + t21;
-        const V t155 = t40 - t20;
+        const V t44 = t42 - t43;
+        const V t45 = t42 + t43;
+        // doubled bins
+        const V x15r = io.re(15);
+        const V t46 = c0 * x15r;
+        const V x17r = io.re(17);
+        const V t47 = c0 * x17r;
         // complex block of 2
-        const V t156 = t49 - t13;
-        const V t157 = t48 + t12;
-        const V t158 = t49 + t13;
-        const V t159 = t48 - t12;
+        const V t48 = t47 + t46;
+        // doubled bins
+        const V x15i = io.im(15);
+        const V t49 = c0 * x15i;
+        const V x17i = io.im(17);
+        const V t50 = c0 * x17i;
         // complex block of 2
-        const V t160 = t57 - t5;
-        const V t161 = t56 + t4;
-        const V t162 = t57 + t5;
-        const V t163 = t56 - t4;
+        const V t51 = t50 - t49;
         // complex block of 2
-        const V t164 = t132 + t148;
-        const V t165 = t133 + t149;
-        const V t166 = t132 - t148;
-        const V t167 = t133 - t149;
+        const V t52 = t27 + t28;
         // complex block of 2
-        const V t168 = t136 + t152;
-        const V t169 = t137 + t153;
-        const V t170 = t136 - t152;
-        const V t171 = t137 - t153;
+        const V t53 = t47 - t46;
         // complex block of 2
-        const V t172 = t140 + t156;
-        const V t173 = t141 + t157;
-        const V t174 = t140 - t156;
-        const V t175 = t141 - t157;
+        const V t54 = t52 + t53;
+        const V t55 = t52 - t53;
         // complex block of 2
-        const V t176 = t144 + t160;
-        const V t177 = t145 + t161;
-        const V t178 = t144 - t160;
-        const V t179 = t145 - t161;
+        const V t56 = t24 - t25;
         // complex block of 2
-        const V t180 = t164 + t172;
-        const V t181 = t165 + t173;
-        const V t182 = t164 - t172;
-        const V t183 = t165 - t173;
+        const V t57 = t50 + t49;
         // complex block of 2
-        const V t184 = t168 + t176;
-        const V t185 = t169 + t177;
-        const V t186 = t168 - t176;
-        const V t187 = t169 - t177;
+        const V t58 = t56 - t57;
+        const V t59 = t56 + t57;
         // complex block of 2
-        const V t188 = t180 + t184;
-        const V t189 = t181 + t185;
-        const V t190 = t180 - t184;
-        const V t191 = t181 - t185;
+        const V t60 = t29 + t51;
         // complex block of 2
-        const V t192 = t182 + t187;
-        const V t193 = t183 - t186;
-        const V t194 = t182 - t187;
-        const V t195 = t183 + t186;
-        // complex block of 8
-        const V t196 = c3 * t170;
-        const V t197 = c3 * t171;
-        const V t198 = t196 + t197;
-        const V t199 = t197 - t196;
-        const V t200 = c3 * t178;
-        const V t201 = c3 * t179;
-        const V t202 = t200 + t201;
-        const V t203 = t201 - t200;
+        const V t61 = t44 + t36;
         // complex block of 2
-        const V t204 = t166 + t175;
-        const V t205 = t167 - t174;
-        const V t206 = t166 - t175;
-        const V t207 = t167 + t174;
+        const V t62 = t60 + t61;
+        const V t63 = t60 - t61;
         // complex block of 2
-        const V t208 = t198 + t203;
-        const V t209 = t199 - t202;
-        const V t210 = t198 - t203;
-        const V t211 = t199 + t202;
+        const V t64 = t26 + t48;
         // complex block of 2
-        const V t212 = t204 + t208;
-        const V t213 = t205 + t209;
-        const V t214 = t204 - t208;
-        const V t215 = t205 - t209;
+        const V t65 = t40 + t32;
         // complex block of 2
-        const V t216 = t206 + t211;
-        const V t217 = t207 - t210;
-        const V t218 = t206 - t211;
-        const V t219 = t207 + t210;
+        const V t66 = t64 + t65;
+        const V t67 = t64 - t65;
+        // complex block of 2
+        const V t68 = t29 - t51;
+        // complex block of 2
+        const V t69 = t40 - t32;
+        // complex block of 2
+        const V t70 = t68 + t69;
+        const V t71 = t68 - t69;
+        // complex block of 2
+        const V t72 = t26 - t48;
+        // complex block of 2
+        const V t73 = t44 - t36;
+        // complex block of 2
+        const V t74 = t72 - t73;
+        const V t75 = t72 + t73;
         // complex block of 16
-        const V t220 = c1 * t139;
-        const V t221 = c2 * t138;
-        const V t222 = t221 + t220;
-        const V t223 = c1 * t138;
-        const V t224 = c2 * t139;
-        const V t225 = t224 - t223;
-        const V t226 = c3 * t142;
-        const V t227 = c3 * t143;
-        const V t228 = t226 + t227;
-        const V t229 = t227 - t226;
-        const V t230 = c2 * t147;
-        const V t231 = c1 * t146;
-        const V t232 = t231 + t230;
-        const V t233 = c2 * t146;
-        const V t234 = c1 * t147;
-        const V t235 = t234 - t233;
-        const V t236 = c2 * t155;
-        const V t237 = c1 * t154;
-        const V t238 = t236 - t237;
-        const V t239 = c2 * t154;
-        const V t240 = c1 * t155;
-        const V t241 = t240 + t239;
-        const V t242 = c3 * t158;
-        const V t243 = c3 * t159;
-        const V t244 = t242 + t243;
-        const V t245 = t243 - t242;
-        const V t246 = c1 * t163;
-        const V t247 = c2 * t162;
-        const V t248 = t246 - t247;
-        const V t249 = c1 * t162;
-        const V t250 = c2 * t163;
-        const V t251 = t250 + t249;
+        const V t76 = c1 * t45;
+        const V t77 = c1 * t41;
+        const V t78 = t76 + t77;
+        const V t79 = t77 - t76;
+        const V t80 = c1 * t37;
+        const V t81 = c1 * t33;
+        const V t82 = t80 + t81;
+        const V t83 = t81 - t80;
         // complex block of 2
-        const V t252 = t134 + t151;
-        const V t253 = t135 - t150;
-        const V t254 = t134 - t151;
-        const V t255 = t135 + t150;
+        const V t84 = t78 + t83;
+        const V t85 = t79 - t82;
+        const V t86 = t78 - t83;
+        const V t87 = t79 + t82;
+        // doubled bins
+        const V x2r = io.re(2);
+        const V t88 = c0 * x2r;
+        const V x30r = io.re(30);
+        const V t89 = c0 * x30r;
         // complex block of 2
-        const V t256 = t222 + t238;
-        const V t257 = t225 - t241;
-        const V t258 = t222 - t238;
-        const V t259 = t225 + t241;
+        const V t90 = t88 + t89;
+        const V t91 = t88 - t89;
+        // doubled bins
+        const V x2i = io.im(2);
+        const V t92 = c0 * x2i;
+        const V x30i = io.im(30);
+        const V t93 = c0 * x30i;
         // complex block of 2
-        const V t260 = t228 + t245;
-        const V t261 = t229 - t244;
-        const V t262 = t228 - t245;
-        const V t263 = t229 + t244;
+        const V t94 = t92 - t93;
+        const V t95 = t92 + t93;
+        // doubled bins
+        const V x6r = io.re(6);
+        const V t96 = c0 * x6r;
+        const V x26r = io.re(26);
+        const V t97 = c0 * x26r;
         // complex block of 2
-        const V t264 = t232 + t248;
-        const V t265 = t235 - t251;
-        const V t266 = t232 - t248;
-        const V t267 = t235 + t251;
+        const V t98 = t96 + t97;
+        const V t99 = t96 - t97;
+        // doubled bins
+        const V x6i = io.im(6);
+        const V t100 = c0 * x6i;
+        const V x26i = io.im(26);
+        const V t101 = c0 * x26i;
         // complex block of 2
-        const V t268 = t252 + t260;
-        const V t269 = t253 + t261;
-        const V t270 = t252 - t260;
-        const V t271 = t253 - t261;
+        const V t102 = t100 - t101;
+        const V t103 = t100 + t101;
+        // doubled bins
+        const V x10r = io.re(10);
+        const V t104 = c0 * x10r;
+        const V x22r = io.re(22);
+        const V t105 = c0 * x22r;
         // complex block of 2
-        const V t272 = t256 + t264;
-        const V t273 = t257 + t265;
-        const V t274 = t256 - t264;
-        const V t275 = t257 - t265;
+        const V t106 = t104 + t105;
+        const V t107 = t104 - t105;
+        // doubled bins
+        const V x10i = io.im(10);
+        const V t108 = c0 * x10i;
+        const V x22i = io.im(22);
+        const V t109 = c0 * x22i;
         // complex block of 2
-        const V t276 = t268 + t272;
-        const V t277 = t269 + t273;
-        const V t278 = t268 - t272;
-        const V t279 = t269 - t273;
+        const V t110 = t108 - t109;
+        const V t111 = t108 + t109;
+        // doubled bins
+        const V x14r = io.re(14);
+        const V t112 = c0 * x14r;
+        const V x18r = io.re(18);
+        const V t113 = c0 * x18r;
         // complex block of 2
-        const V t280 = t270 + t275;
-        const V t281 = t271 - t274;
-        const V t282 = t270 - t275;
-        const V t283 = t271 + t274;
+        const V t114 = t112 + t113;
+        const V t115 = t112 - t113;
+        // doubled bins
+        const V x14i = io.im(14);
+        const V t116 = c0 * x14i;
+        const V x18i = io.im(18);
+        const V t117 = c0 * x18i;
+        // complex block of 2
+        const V t118 = t116 - t117;
+        const V t119 = t116 + t117;
+        // mirrored skew block of 16
+        const V t120 = c2 * t95;
+        const V t121 = c3 * t91;
+        const V t122 = t121 - t120;
+        const V t123 = c3 * t119;
+        const V t124 = c2 * t115;
+        const V t125 = t124 - t123;
+        // complex block of 2
+        const V t126 = t122 + t125;
+        const V t127 = t122 - t125;
+        // mirrored skew block of 16
+        const V t128 = c2 * t91;
+        const V t129 = c3 * t95;
+        const V t130 = t129 + t128;
+        const V t131 = c3 * t115;
+        const V t132 = c2 * t119;
+        const V t133 = t132 + t131;
+        // complex block of 2
+        const V t134 = t130 - t133;
+        const V t135 = t130 + t133;
+        // mirrored skew block of 16
+        const V t136 = c4 * t103;
+        const V t137 = c5 * t99;
+        const V t138 = t137 - t136;
+        const V t139 = c5 * t111;
+        const V t140 = c4 * t107;
+        const V t141 = t140 - t139;
+        // complex block of 2
+        const V t142 = t141 + t138;
+        const V t143 = t141 - t138;
+        // mirrored skew block of 16
+        const V t144 = c4 * t99;
+        const V t145 = c5 * t103;
+        const V t146 = t145 + t144;
+        const V t147 = c5 * t107;
+        const V t148 = c4 * t111;
+        const V t149 = t148 + t147;
+        // complex block of 2
+        const V t150 = t149 - t146;
+        const V t151 = t149 + t146;
+        // complex block of 2
+        const V t152 = t94 - t118;
+        // complex block of 2
+        const V t153 = t110 - t102;
+        // complex block of 2
+        const V t154 = t152 - t153;
+        // complex block of 2
+        const V t155 = t90 + t114;
+        // complex block of 2
+        const V t156 = t106 + t98;
+        // complex block of 2
+        const V t157 = t155 - t156;
+        // complex block of 2
+        const V t158 = t94 + t118;
+        // complex block of 2
+        const V t159 = t106 - t98;
+        // complex block of 2
+        const V t160 = t158 + t159;
+        const V t161 = t158 - t159;
+        // complex block of 2
+        const V t162 = t90 - t114;
+        // complex block of 2
+        const V t163 = t110 + t102;
+        // complex block of 2
+        const V t164 = t162 - t163;
+        const V t165 = t162 + t163;
+        // doubled bins
+        const V x3r = io.re(3);
+        const V t166 = c0 * x3r;
+        const V x29r = io.re(29);
+        const V t167 = c0 * x29r;
+        // complex block of 2
+        const V t168 = t167 + t166;
+        const V t169 = t167 - t166;
+        // complex block of 16
+        const V t170 = c6 * t169;
+        const V t171 = c7 * t169;
+        // doubled bins
+        const V x3i = io.im(3);
+        const V t172 = c0 * x3i;
+        const V x29i = io.im(29);
+        const V t173 = c0 * x29i;
+        // complex block of 2
+        const V t174 = t173 - t172;
+        const V t175 = t173 + t172;
+        // complex block of 16
+        const V t176 = c7 * t175;
+        const V t177 = c6 * t175;
+        // doubled bins
+        const V x5r = io.re(5);
+        const V t178 = c0 * x5r;
+        const V x27r = io.re(27);
+        const V t179 = c0 * x27r;
+        // complex block of 2
+        const V t180 = t178 + t179;
+        const V t181 = t178 - t179;
+        // complex block of 16
+        const V t182 = c6 * t181;
+        const V t183 = c7 * t181;
+        // doubled bins
+        const V x5i = io.im(5);
+        const V t184 = c0 * x5i;
+        const V x27i = io.im(27);
+        const V t185 = c0 * x27i;
+        // complex block of 2
+        const V t186 = t184 - t185;
+        const V t187 = t184 + t185;
+        // complex block of 16
+        const V t188 = c7 * t187;
+        const V t189 = c6 * t187;
+        // doubled bins
+        const V x11r = io.re(11);
+        const V t190 = c0 * x11r;
+        const V x21r = io.re(21);
+        const V t191 = c0 * x21r;
+        // complex block of 2
+        const V t192 = t191 + t190;
+        const V t193 = t191 - t190;
+        // complex block of 16
+        const V t194 = c7 * t193;
+        const V t195 = c6 * t193;
+        // doubled bins
+        const V x11i = io.im(11);
+        const V t196 = c0 * x11i;
+        const V x21i = io.im(21);
+        const V t197 = c0 * x21i;
+        // complex block of 2
+        const V t198 = t197 - t196;
+        const V t199 = t197 + t196;
+        // complex block of 16
+        const V t200 = c6 * t199;
+        const V t201 = c7 * t199;
+        // doubled bins
+        const V x13r = io.re(13);
+        const V t202 = c0 * x13r;
+        const V x19r = io.re(19);
+        const V t203 = c0 * x19r;
+        // complex block of 2
+        const V t204 = t202 + t203;
+        const V t205 = t202 - t203;
+        // complex block of 16
+        const V t206 = c7 * t205;
+        const V t207 = c6 * t205;
+        // doubled bins
+        const V x13i = io.im(13);
+        const V t208 = c0 * x13i;
+        const V x19i = io.im(19);
+        const V t209 = c0 * x19i;
+        // complex block of 2
+        const V t210 = t208 - t209;
+        const V t211 = t208 + t209;
+        // complex block of 16
+        const V t212 = c6 * t211;
+        const V t213 = c7 * t211;
+        // complex block of 2
+        const V t214 = t186 + t198;
+        // complex block of 2
+        const V t215 = t210 + t174;
+        // complex block of 2
+        const V t216 = t214 + t215;
+        const V t217 = t214 - t215;
+        // complex block of 2
+        const V t218 = t180 + t192;
+        // complex block of 2
+        const V t219 = t204 + t168;
+        // complex block of 2
+        const V t220 = t218 + t219;
+        const V t221 = t218 - t219;
+        // complex block of 2
+        const V t222 = t186 - t198;
         // complex block of 8
-        const V t284 = c3 * t258;
-        const V t285 = c3 * t259;
-        const V t286 = t284 + t285;
-        const V t287 = t285 - t284;
-        const V t288 = c3 * t266;
-        const V t289 = c3 * t267;
-        const V t290 = t288 + t289;
+        const V t223 = c1 * t222;
+        // complex block of 2
+        const V t224 = t180 - t192;
+        // complex block of 8
+        const V t225 = c1 * t224;
+        const V t226 = t223 + t225;
+        const V t227 = t225 - t223;
+        // complex block of 2
+        const V t228 = t210 - t174;
+        // complex block of 8
+        const V t229 = c1 * t228;
+        // complex block of 2
+        const V t230 = t204 - t168;
+        // complex block of 8
+        const V t231 = c1 * t230;
+        const V t232 = t229 + t231;
+        const V t233 = t231 - t229;
+        // complex block of 16
+        const V t234 = t188 + t182;
+        const V t235 = t194 - t200;
+        // complex block of 2
+        const V t236 = t234 - t235;
+        const V t237 = t234 + t235;
+        // complex block of 8
+        const V t238 = c1 * t236;
+        // complex block of 16
+        const V t239 = t183 - t189;
+        const V t240 = t195 + t201;
+        // complex block of 2
+        const V t241 = t239 + t240;
+        const V t242 = t239 - t240;
+        // complex block of 8
+        const V t243 = c1 * t241;
+        // complex block of 16
+        const V t244 = t212 + t206;
+        const V t245 = t170 - t176;
+        // complex block of 2
+        const V t246 = t244 - t245;
+        const V t247 = t244 + t245;
+        // complex block of 8
+        const V t248 = c1 * t246;
+        // complex block of 16
+        const V t249 = t207 - t213;
+        const V t250 = t171 + t177;
+        // complex block of 2
+        const V t251 = t249 + t250;
+        const V t252 = t249 - t250;
+        // complex block of 8
+        const V t253 = c1 * t251;
+        // doubled bins
+        const V x4r = io.re(4);
+        const V t254 = c0 * x4r;
+        const V x28r = io.re(28);
+        const V t255 = c0 * x28r;
+        // complex block of 2
+        const V t256 = t254 + t255;
+        const V t257 = t254 - t255;
+        // doubled bins
+        const V x4i = io.im(4);
+        const V t258 = c0 * x4i;
+        const V x28i = io.im(28);
+        const V t259 = c0 * x28i;
+        // complex block of 2
+        const V t260 = t258 - t259;
+        const V t261 = t258 + t259;
+        // doubled bins
+        const V x12r = io.re(12);
+        const V t262 = c0 * x12r;
+        const V x20r = io.re(20);
+        const V t263 = c0 * x20r;
+        // complex block of 2
+        const V t264 = t263 + t262;
+        const V t265 = t263 - t262;
+        // doubled bins
+        const V x12i = io.im(12);
+        const V t266 = c0 * x12i;
+        const V x20i = io.im(20);
+        const V t267 = c0 * x20i;
+        // complex block of 2
+        const V t268 = t267 - t266;
+        const V t269 = t267 + t266;
+        // complex block of 2
+        const V t270 = t260 + t268;
+        const V t271 = t256 + t264;
+        const V t272 = t260 - t268;
+        // spectrum block of 16
+        const V t273 = c1 * t272;
+        // complex block of 2
+        const V t274 = t256 - t264;
+        // spectrum block of 16
+        const V t275 = c1 * t274;
+        // complex block of 2
+        const V t276 = t261 + t265;
+        // spectrum block of 16
+        const V t277 = c6 * t276;
+        const V t278 = c7 * t276;
+        // complex block of 2
+        const V t279 = t257 - t269;
+        // spectrum block of 16
+        const V t280 = c7 * t279;
+        const V t281 = c6 * t279;
+        // complex block of 2
+        const V t282 = t261 - t265;
+        // spectrum block of 16
+        const V t283 = c7 * t282;
+        const V t284 = c6 * t282;
+        // complex block of 2
+        const V t285 = t257 + t269;
+        // spectrum block of 16
+        const V t286 = c6 * t285;
+        const V t287 = c7 * t285;
+        const V t288 = t280 - t277;
+        // spectrum block of 2
+        const V t289 = t18 + t22;
+        // spectrum block of 2
+        const V t290 = t289 + t288;
         const V t291 = t289 - t288;
         // complex block of 2
-        const V t292 = t254 + t263;
-        const V t293 = t255 - t262;
-        const V t294 = t254 - t263;
-        const V t295 = t255 + t262;
+        const V t292 = t54 + t84;
         // complex block of 2
-        const V t296 = t286 + t291;
-        const V t297 = t287 - t290;
-        const V t298 = t286 - t291;
-        const V t299 = t287 + t290;
+        const V t293 = t237 + t247;
         // complex block of 2
-        const V t300 = t292 + t296;
-        const V t301 = t293 + t297;
-        const V t302 = t292 - t296;
-        const V t303 = t293 - t297;
-        // complex block of 2
-        const V t304 = t294 + t299;
-        const V t305 = t295 - t298;
-        const V t306 = t294 - t299;
-        const V t307 = t295 + t298;
+        const V t294 = t292 + t293;
+        const V t295 = t292 - t293;
         // spectrum block of 64
-        const V t308 = c4 * t276;
-        const V t309 = c5 * t277;
-        const V t310 = t309 - t308;
-        const V t311 = c4 * t277;
-        const V t312 = c5 * t276;
-        const V t313 = t312 + t311;
-        const V t314 = c6 * t212;
-        const V t315 = c7 * t213;
+        const V t296 = c8 * t294;
+        const V t297 = c9 * t294;
+        const V t298 = c10 * t295;
+        const V t299 = c11 * t295;
+        // complex block of 2
+        const V t300 = t58 + t85;
+        // complex block of 2
+        const V t301 = t242 + t252;
+        // complex block of 2
+        const V t302 = t300 + t301;
+        const V t303 = t300 - t301;
+        // spectrum block of 64
+        const V t304 = c9 * t302;
+        const V t305 = c8 * t302;
+        const V t306 = c11 * t303;
+        const V t307 = c10 * t303;
+        // complex block of 2
+        const V t308 = t134 + t150;
+        const V t309 = t126 + t142;
+        // spectrum block of 64
+        const V t310 = t304 - t296;
+        // spectrum block of 2
+        const V t311 = t290 + t309;
+        // spectrum block of 2
+        const V t312 = t311 + t310;
+        io.out(1, t312);
+        const V t313 = t311 - t310;
+        io.out(33, t313);
+        // spectrum block of 64
+        const V t314 = t297 + t305;
+        // spectrum block of 2
+        const V t315 = t290 - t309;
+        // spectrum block of 2
         const V t316 = t315 - t314;
-        const V t317 = c6 * t213;
-        const V t318 = c7 * t212;
-        const V t319 = t318 + t317;
-        const V t320 = c8 * t300;
-        const V t321 = c9 * t301;
-        const V t322 = t321 - t320;
-        const V t323 = c8 * t301;
-        const V t324 = c9 * t300;
-        const V t325 = t324 + t323;
-        const V t326 = c1 * t192;
-        const V t327 = c2 * t193;
+        io.out(17, t316);
+        const V t317 = t315 + t314;
+        io.out(49, t317);
+        // spectrum block of 64
+        const V t318 = t306 - t298;
+        // spectrum block of 2
+        const V t319 = t291 - t308;
+        // spectrum block of 2
+        const V t320 = t319 + t318;
+        io.out(9, t320);
+        const V t321 = t319 - t318;
+        io.out(41, t321);
+        // spectrum block of 64
+        const V t322 = t299 + t307;
+        // spectrum block of 2
+        const V t323 = t291 + t308;
+        // spectrum block of 2
+        const V t324 = t323 - t322;
+        io.out(25, t324);
+        const V t325 = t323 + t322;
+        io.out(57, t325);
+        // spectrum block of 16
+        const V t326 = t278 + t281;
+        // spectrum block of 2
+        const V t327 = t18 - t22;
+        // spectrum block of 2
         const V t328 = t327 - t326;
-        const V t329 = c1 * t193;
-        const V t330 = c2 * t192;
-        const V t331 = t330 + t329;
-        const V t332 = c10 * t280;
-        const V t333 = c11 * t281;
-        const V t334 = t333 - t332;
-        const V t335 = c10 * t281;
-        const V t336 = c11 * t280;
-        const V t337 = t336 + t335;
-        const V t338 = c12 * t216;
-        const V t339 = c13 * t217;
-        const V t340 = t339 - t338;
-        const V t341 = c12 * t217;
-        const V t342 = c13 * t216;
-        const V t343 = t342 + t341;
-        const V t344 = c14 * t304;
-        const V t345 = c15 * t305;
-        const V t346 = t345 - t344;
-        const V t347 = c14 * t305;
-        const V t348 = c15 * t304;
-        const V t349 = t348 + t347;
-        const V t350 = c3 * t191;
-        const V t351 = c3 * t190;
-        const V t352 = t350 + t351;
-        const V t353 = t351 - t350;
-        const V t354 = c15 * t278;
-        const V t355 = c14 * t279;
-        const V t356 = t355 - t354;
-        const V t357 = c15 * t279;
-        const V t358 = c14 * t278;
-        const V t359 = t358 + t357;
-        const V t360 = c13 * t214;
-        const V t361 = c12 * t215;
-        const V t362 = t361 - t360;
-        const V t363 = c13 * t215;
-        const V t364 = c12 * t214;
-        const V t365 = t364 + t363;
-        const V t366 = c11 * t302;
-        const V t367 = c10 * t303;
-        const V t368 = t367 - t366;
-        const V t369 = c11 * t303;
-        const V t370 = c10 * t302;
-        const V t371 = t370 + t369;
-        const V t372 = c2 * t194;
-        const V t373 = c1 * t195;
-        const V t374 = t373 - t372;
-        const V t375 = c2 * t195;
-        const V t376 = c1 * t194;
-        const V t377 = t376 + t375;
-        const V t378 = c9 * t282;
-        const V t379 = c8 * t283;
-        const V t380 = t379 - t378;
-        const V t381 = c9 * t283;
-        const V t382 = c8 * t282;
-        const V t383 = t382 + t381;
-        const V t384 = c7 * t218;
-        const V t385 = c6 * t219;
-        const V t386 = t385 - t384;
-        const V t387 = c7 * t219;
-        const V t388 = c6 * t218;
-        const V t389 = t388 + t387;
-        const V t390 = c5 * t306;
-        const V t391 = c4 * t307;
-        const V t392 = t391 - t390;
-        const V t393 = c5 * t307;
-        const V t394 = c4 * t306;
-        const V t395 = t394 + t393;
+        const V t329 = t327 + t326;
         // complex block of 2
-        const V t396 = t3 - t59;
-        const V t397 = t2 + t58;
-        const V t398 = t3 + t59;
-        const V t399 = t2 - t58;
-        // mirrored skew block of 16
-        const V t400 = c6 * t398;
-        const V t401 = c7 * t399;
-        const V t402 = t401 - t400;
-        const V t403 = c6 * t399;
-        const V t404 = c7 * t398;
-        const V t405 = t404 + t403;
+        const V t330 = t54 - t84;
         // complex block of 2
-        const V t406 = t11 - t51;
-        const V t407 = t10 + t50;
-        const V t408 = t11 + t51;
-        const V t409 = t10 - t50;
-        // mirrored skew block of 16
-        const V t410 = c12 * t408;
-        const V t411 = c13 * t409;
-        const V t412 = t411 - t410;
-        const V t413 = c12 * t409;
-        const V t414 = c13 * t408;
-        const V t415 = t414 + t413;
+        const V t331 = t242 - t252;
         // complex block of 2
-        const V t416 = t19 - t43;
-        const V t417 = t18 + t42;
-        const V t418 = t19 + t43;
-        const V t419 = t18 - t42;
-        // mirrored skew block of 16
-        const V t420 = c13 * t418;
-        const V t421 = c12 * t419;
-        const V t422 = t421 - t420;
-        const V t423 = c13 * t419;
-        const V t424 = c12 * t418;
-        const V t425 = t424 + t423;
+        const V t332 = t330 + t331;
+        const V t333 = t330 - t331;
+        // spectrum block of 64
+        const V t334 = c12 * t332;
+        const V t335 = c13 * t332;
+        const V t336 = c14 * t333;
+        const V t337 = c15 * t333;
         // complex block of 2
-        const V t426 = t27 - t35;
-        const V t427 = t26 + t34;
-        const V t428 = t27 + t35;
-        const V t429 = t26 - t34;
-        // mirrored skew block of 16
-        const V t430 = c7 * t428;
-        const V t431 = c6 * t429;
-        const V t432 = t431 - t430;
-        const V t433 = c7 * t429;
-        const V t434 = c6 * t428;
-        const V t435 = t434 + t433;
+        const V t338 = t58 - t85;
         // complex block of 2
-        const V t436 = t396 - t426;
-        const V t437 = t397 + t427;
-        const V t438 = t396 + t426;
-        const V t439 = t397 - t427;
+        const V t339 = t237 - t247;
         // complex block of 2
-        const V t440 = t416 - t406;
-        const V t441 = t417 + t407;
-        const V t442 = t416 + t406;
-        const V t443 = t417 - t407;
+        const V t340 = t338 - t339;
+        const V t341 = t338 + t339;
+        // spectrum block of 64
+        const V t342 = c13 * t340;
+        const V t343 = c12 * t340;
+        const V t344 = c15 * t341;
+        const V t345 = c14 * t341;
         // complex block of 2
-        const V t444 = t436 + t440;
-        const V t445 = t437 + t441;
-        const V t446 = t436 - t440;
-        const V t447 = t437 - t441;
-        // complex block of 2
-        const V t448 = t438 + t443;
-        const V t449 = t439 - t442;
-        const V t450 = t438 - t443;
-        const V t451 = t439 + t442;
+        const V t346 = t134 - t150;
         // mirrored skew block of 8
-        const V t452 = c1 * t448;
-        const V t453 = c2 * t449;
-        const V t454 = t453 - t452;
-        const V t455 = c1 * t449;
-        const V t456 = c2 * t448;
-        const V t457 = t456 + t455;
-        const V t458 = c3 * t447;
-        const V t459 = c3 * t446;
-        const V t460 = t458 + t459;
-        const V t461 = t459 - t458;
-        const V t462 = c2 * t450;
-        const V t463 = c1 * t451;
-        const V t464 = t463 - t462;
-        const V t465 = c2 * t451;
-        const V t466 = c1 * t450;
-        const V t467 = t466 + t465;
+        const V t347 = c1 * t346;
         // complex block of 2
-        const V t468 = t405 - t435;
-        const V t469 = t402 + t432;
-        const V t470 = t405 + t435;
-        const V t471 = t402 - t432;
-        // complex block of 2
-        const V t472 = t425 - t415;
-        const V t473 = t422 + t412;
-        const V t474 = t425 + t415;
-        const V t475 = t422 - t412;
-        // complex block of 2
-        const V t476 = t468 + t472;
-        const V t477 = t469 + t473;
-        const V t478 = t468 - t472;
-        const V t479 = t469 - t473;
-        // complex block of 2
-        const V t480 = t470 + t475;
-        const V t481 = t471 - t474;
-        const V t482 = t470 - t475;
-        const V t483 = t471 + t474;
+        const V t348 = t126 - t142;
         // mirrored skew block of 8
-        const V t484 = c1 * t480;
-        const V t485 = c2 * t481;
-        const V t486 = t485 - t484;
-        const V t487 = c1 * t481;
-        const V t488 = c2 * t480;
-        const V t489 = t488 + t487;
-        const V t490 = c3 * t479;
-        const V t491 = c3 * t478;
-        const V t492 = t490 + t491;
-        const V t493 = t491 - t490;
-        const V t494 = c2 * t482;
-        const V t495 = c1 * t483;
-        const V t496 = t495 - t494;
-        const V t497 = c2 * t483;
-        const V t498 = c1 * t482;
-        const V t499 = t498 + t497;
+        const V t349 = c1 * t348;
+        const V t350 = t349 + t347;
+        const V t351 = t347 - t349;
+        // spectrum block of 64
+        const V t352 = t342 - t334;
         // spectrum block of 2
-        const V t500 = t110 + t445;
-        const V t501 = t110 - t445;
+        const V t353 = t328 - t351;
         // spectrum block of 2
-        const V t502 = t500 + t189;
-        io.out(0, t502);
-        const V t503 = t500 - t189;
-        io.out(32, t503);
+        const V t354 = t353 + t352;
+        io.out(5, t354);
+        const V t355 = t353 - t352;
+        io.out(37, t355);
+        // spectrum block of 64
+        const V t356 = t335 + t343;
         // spectrum block of 2
-        const V t504 = t501 - t188;
-        io.out(16, t504);
-        const V t505 = t501 + t188;
-        io.out(48, t505);
+        const V t357 = t328 + t351;
         // spectrum block of 2
-        const V t506 = t116 + t477;
-        const V t507 = t116 - t477;
+        const V t358 = t357 - t356;
+        io.out(21, t358);
+        const V t359 = t357 + t356;
+        io.out(53, t359);
+        // spectrum block of 64
+        const V t360 = t344 - t336;
         // spectrum block of 2
-        const V t508 = t506 + t310;
-        io.out(1, t508);
-        const V t509 = t506 - t310;
-        io.out(33, t509);
+        const V t361 = t329 - t350;
         // spectrum block of 2
-        const V t510 = t507 - t313;
-        io.out(17, t510);
-        const V t511 = t507 + t313;
-        io.out(49, t511);
+        const V t362 = t361 + t360;
+        io.out(13, t362);
+        const V t363 = t361 - t360;
+        io.out(45, t363);
+        // spectrum block of 64
+        const V t364 = t337 + t345;
         // spectrum block of 2
-        const V t512 = t122 + t454;
-        const V t513 = t122 - t454;
+        const V t365 = t329 + t350;
         // spectrum block of 2
-        const V t514 = t512 + t316;
-        io.out(2, t514);
-        const V t515 = t512 - t316;
-        io.out(34, t515);
+        const V t366 = t365 - t364;
+        io.out(29, t366);
+        const V t367 = t365 + t364;
+        io.out(61, t367);
+        // spectrum block of 16
+        const V t368 = t275 + t273;
         // spectrum block of 2
-        const V t516 = t513 - t319;
-        io.out(18, t516);
-        const V t517 = t513 + t319;
-        io.out(50, t517);
+        const V t369 = t17 - t368;
+        const V t370 = t17 + t368;
+        // complex block of 2
+        const V t371 = t226 - t233;
+        // complex block of 2
+        const V t372 = t75 - t371;
+        const V t373 = t75 + t371;
+        // spectrum block of 64
+        const V t374 = c5 * t372;
+        const V t375 = c4 * t372;
+        const V t376 = c2 * t373;
+        const V t377 = c3 * t373;
+        // complex block of 2
+        const V t378 = t227 + t232;
+        // complex block of 2
+        const V t379 = t71 + t378;
+        const V t380 = t71 - t378;
+        // spectrum block of 64
+        const V t381 = c4 * t379;
+        const V t382 = c5 * t379;
+        const V t383 = c3 * t380;
+        const V t384 = c2 * t380;
+        // mirrored skew block of 8
+        const V t385 = c7 * t161;
+        const V t386 = c6 * t165;
+        const V t387 = t386 - t385;
+        const V t388 = c7 * t165;
+        const V t389 = c6 * t161;
+        const V t390 = t389 + t388;
+        // spectrum block of 64
+        const V t391 = t374 - t381;
         // spectrum block of 2
-        const V t518 = t128 + t486;
-        const V t519 = t128 - t486;
+        const V t392 = t369 + t387;
         // spectrum block of 2
-        const V t520 = t518 + t322;
-        io.out(3, t520);
-        const V t521 = t518 - t322;
-        io.out(35, t521);
+        const V t393 = t392 + t391;
+        io.out(6, t393);
+        const V t394 = t392 - t391;
+        io.out(38, t394);
+        // spectrum block of 64
+        const V t395 = t382 + t375;
         // spectrum block of 2
-        const V t522 = t519 - t325;
-        io.out(19, t522);
-        const V t523 = t519 + t325;
-        io.out(51, t523);
+        const V t396 = t369 - t387;
         // spectrum block of 2
-        const V t524 = t112 - t461;
-        const V t525 = t112 + t461;
+        const V t397 = t396 - t395;
+        io.out(22, t397);
+        const V t398 = t396 + t395;
+        io.out(54, t398);
+        // spectrum block of 64
+        const V t399 = t376 - t383;
         // spectrum block of 2
-        const V t526 = t524 + t328;
-        io.out(4, t526);
-        const V t527 = t524 - t328;
-        io.out(36, t527);
+        const V t400 = t370 - t390;
         // spectrum block of 2
-        const V t528 = t525 - t331;
-        io.out(20, t528);
-        const V t529 = t525 + t331;
-        io.out(52, t529);
+        const V t401 = t400 + t399;
+        io.out(14, t401);
+        const V t402 = t400 - t399;
+        io.out(46, t402);
+        // spectrum block of 64
+        const V t403 = t384 + t377;
         // spectrum block of 2
-        const V t530 = t118 - t493;
-        const V t531 = t118 + t493;
+        const V t404 = t370 + t390;
         // spectrum block of 2
-        const V t532 = t530 + t334;
-        io.out(5, t532);
-        const V t533 = t530 - t334;
-        io.out(37, t533);
+        const V t405 = t404 - t403;
+        io.out(30, t405);
+        const V t406 = t404 + t403;
+        io.out(62, t406);
+        // spectrum block of 16
+        const V t407 = t273 - t275;
         // spectrum block of 2
-        const V t534 = t531 - t337;
-        io.out(21, t534);
-        const V t535 = t531 + t337;
-        io.out(53, t535);
+        const V t408 = t16 - t407;
+        const V t409 = t16 + t407;
+        // complex block of 2
+        const V t410 = t226 + t233;
+        // complex block of 2
+        const V t411 = t70 + t410;
+        const V t412 = t70 - t410;
+        // spectrum block of 64
+        const V t413 = c2 * t411;
+        const V t414 = c3 * t411;
+        const V t415 = c5 * t412;
+        const V t416 = c4 * t412;
+        // complex block of 2
+        const V t417 = t227 - t232;
+        // complex block of 2
+        const V t418 = t74 + t417;
+        const V t419 = t74 - t417;
+        // spectrum block of 64
+        const V t420 = c3 * t418;
+        const V t421 = c2 * t418;
+        const V t422 = c4 * t419;
+        const V t423 = c5 * t419;
+        // mirrored skew block of 8
+        const V t424 = c6 * t160;
+        const V t425 = c7 * t164;
+        const V t426 = t425 - t424;
+        const V t427 = c6 * t164;
+        const V t428 = c7 * t160;
+        const V t429 = t428 + t427;
+        // spectrum block of 64
+        const V t430 = t420 - t413;
         // spectrum block of 2
-        const V t536 = t124 + t464;
-        const V t537 = t124 - t464;
+        const V t431 = t408 + t426;
         // spectrum block of 2
-        const V t538 = t536 + t340;
-        io.out(6, t538);
-        const V t539 = t536 - t340;
-        io.out(38, t539);
+        const V t432 = t431 + t430;
+        io.out(2, t432);
+        const V t433 = t431 - t430;
+        io.out(34, t433);
+        // spectrum block of 64
+        const V t434 = t414 + t421;
         // spectrum block of 2
-        const V t540 = t537 - t343;
-        io.out(22, t540);
-        const V t541 = t537 + t343;
-        io.out(54, t541);
+        const V t435 = t408 - t426;
         // spectrum block of 2
-        const V t542 = t130 + t496;
-        const V t543 = t130 - t496;
+        const V t436 = t435 - t434;
+        io.out(18, t436);
+        const V t437 = t435 + t434;
+        io.out(50, t437);
+        // spectrum block of 64
+        const V t438 = t422 - t415;
         // spectrum block of 2
-        const V t544 = t542 + t346;
-        io.out(7, t544);
-        const V t545 = t542 - t346;
-        io.out(39, t545);
+        const V t439 = t409 - t429;
         // spectrum block of 2
-        const V t546 = t543 - t349;
-        io.out(23, t546);
-        const V t547 = t543 + t349;
-        io.out(55, t547);
+        const V t440 = t439 + t438;
+        io.out(10, t440);
+        const V t441 = t439 - t438;
+        io.out(42, t441);
+        // spectrum block of 64
+        const V t442 = t416 + t423;
         // spectrum block of 2
-        const V t548 = t111 - t444;
-        const V t549 = t111 + t444;
+        const V t443 = t409 + t429;
         // spectrum block of 2
-        const V t550 = t548 - t353;
-        io.out(8, t550);
-        const V t551 = t548 + t353;
-        io.out(40, t551);
+        const V t444 = t443 - t442;
+        io.out(26, t444);
+        const V t445 = t443 + t442;
+        io.out(58, t445);
+        // spectrum block of 16
+        const V t446 = t286 - t283;
         // spectrum block of 2
-        const V t552 = t549 - t352;
-        io.out(24, t552);
-        const V t553 = t549 + t352;
-        io.out(56, t553);
+        const V t447 = t19 - t23;
         // spectrum block of 2
-        const V t554 = t117 - t476;
-        const V t555 = t117 + t476;
+        const V t448 = t447 + t446;
+        const V t449 = t447 - t446;
+        // spectrum block of 16
+        const V t450 = t284 + t287;
         // spectrum block of 2
-        const V t556 = t554 + t356;
-        io.out(9, t556);
-        const V t557 = t554 - t356;
-        io.out(41, t557);
+        const V t451 = t19 + t23;
         // spectrum block of 2
-        const V t558 = t555 - t359;
-        io.out(25, t558);
-        const V t559 = t555 + t359;
-        io.out(57, t559);
+        const V t452 = t451 - t450;
+        const V t453 = t451 + t450;
+        // complex block of 8
+        const V t454 = t238 + t243;
+        const V t455 = t253 - t248;
+        // complex block of 2
+        const V t456 = t454 + t455;
+        const V t457 = t454 - t455;
+        // complex block of 2
+        const V t458 = t55 + t87;
+        const V t459 = t59 + t86;
+        // complex block of 2
+        const V t460 = t458 + t456;
+        const V t461 = t458 - t456;
+        // complex block of 2
+        const V t462 = t459 - t457;
+        const V t463 = t459 + t457;
+        // complex block of 8
+        const V t464 = t243 - t238;
+        const V t465 = t248 + t253;
+        // complex block of 2
+        const V t466 = t464 - t465;
+        const V t467 = t464 + t465;
+        // complex block of 2
+        const V t468 = t59 - t86;
+        const V t469 = t55 - t87;
+        // complex block of 2
+        const V t470 = t468 + t466;
+        const V t471 = t468 - t466;
+        // complex block of 2
+        const V t472 = t469 + t467;
+        const V t473 = t469 - t467;
+        // complex block of 2
+        const V t474 = t135 + t143;
+        // mirrored skew block of 8
+        const V t475 = c6 * t474;
+        const V t476 = c7 * t474;
+        // complex block of 2
+        const V t477 = t127 - t151;
+        // mirrored skew block of 8
+        const V t478 = c7 * t477;
+        const V t479 = c6 * t477;
+        const V t480 = t478 - t475;
+        const V t481 = t476 + t479;
+        // complex block of 2
+        const V t482 = t135 - t143;
+        // mirrored skew block of 8
+        const V t483 = c7 * t482;
+        const V t484 = c6 * t482;
+        // complex block of 2
+        const V t485 = t127 + t151;
+        // mirrored skew block of 8
+        const V t486 = c6 * t485;
+        const V t487 = c7 * t485;
+        const V t488 = t486 - t483;
+        const V t489 = t484 + t487;
+        // spectrum block of 64
+        const V t490 = c15 * t460;
+        const V t491 = c14 * t470;
+        const V t492 = t491 - t490;
         // spectrum block of 2
-        const V t560 = t123 - t457;
-        const V t561 = t123 + t457;
+        const V t493 = t448 + t480;
         // spectrum block of 2
-        const V t562 = t560 + t362;
-        io.out(10, t562);
-        const V t563 = t560 - t362;
-        io.out(42, t563);
+        const V t494 = t493 + t492;
+        io.out(3, t494);
+        const V t495 = t493 - t492;
+        io.out(35, t495);
+        // spectrum block of 64
+        const V t496 = c15 * t470;
+        const V t497 = c14 * t460;
+        const V t498 = t497 + t496;
         // spectrum block of 2
-        const V t564 = t561 - t365;
-        io.out(26, t564);
-        const V t565 = t561 + t365;
-        io.out(58, t565);
+        const V t499 = t448 - t480;
         // spectrum block of 2
-        const V t566 = t129 - t489;
-        const V t567 = t129 + t489;
+        const V t500 = t499 - t498;
+        io.out(19, t500);
+        const V t501 = t499 + t498;
+        io.out(51, t501);
+        // spectrum block of 64
+        const V t502 = c11 * t472;
+        const V t503 = c10 * t462;
+        const V t504 = t503 - t502;
         // spectrum block of 2
-        const V t568 = t566 + t368;
-        io.out(11, t568);
-        const V t569 = t566 - t368;
-        io.out(43, t569);
+        const V t505 = t452 + t488;
         // spectrum block of 2
-        const V t570 = t567 - t371;
-        io.out(27, t570);
-        const V t571 = t567 + t371;
-        io.out(59, t571);
+        const V t506 = t505 + t504;
+        io.out(7, t506);
+        const V t507 = t505 - t504;
+        io.out(39, t507);
+        // spectrum block of 64
+        const V t508 = c11 * t462;
+        const V t509 = c10 * t472;
+        const V t510 = t509 + t508;
         // spectrum block of 2
-        const V t572 = t113 - t460;
-        const V t573 = t113 + t460;
+        const V t511 = t452 - t488;
         // spectrum block of 2
-        const V t574 = t572 + t374;
-        io.out(12, t574);
-        const V t575 = t572 - t374;
-        io.out(44, t575);
+        const V t512 = t511 - t510;
+        io.out(23, t512);
+        const V t513 = t511 + t510;
+        io.out(55, t513);
+        // spectrum block of 64
+        const V t514 = c13 * t461;
+        const V t515 = c12 * t471;
+        const V t516 = t515 - t514;
         // spectrum block of 2
-        const V t576 = t573 - t377;
-        io.out(28, t576);
-        const V t577 = t573 + t377;
-        io.out(60, t577);
+        const V t517 = t449 - t481;
         // spectrum block of 2
-        const V t578 = t119 - t492;
-        const V t579 = t119 + t492;
+        const V t518 = t517 + t516;
+        io.out(11, t518);
+        const V t519 = t517 - t516;
+        io.out(43, t519);
+        // spectrum block of 64
+        const V t520 = c13 * t471;
+        const V t521 = c12 * t461;
+        const V t522 = t521 + t520;
         // spectrum block of 2
-        const V t580 = t578 + t380;
-        io.out(13, t580);
-        const V t581 = t578 - t380;
-        io.out(45, t581);
+        const V t523 = t449 + t481;
         // spectrum block of 2
-        const V t582 = t579 - t383;
-        io.out(29, t582);
-        const V t583 = t579 + t383;
-        io.out(61, t583);
+        const V t524 = t523 - t522;
+        io.out(27, t524);
+        const V t525 = t523 + t522;
+        io.out(59, t525);
+        // spectrum block of 64
+        const V t526 = c9 * t473;
+        const V t527 = c8 * t463;
+        const V t528 = t527 - t526;
         // spectrum block of 2
-        const V t584 = t125 - t467;
-        const V t585 = t125 + t467;
+        const V t529 = t453 - t489;
         // spectrum block of 2
-        const V t586 = t584 + t386;
-        io.out(14, t586);
-        const V t587 = t584 - t386;
-        io.out(46, t587);
+        const V t530 = t529 + t528;
+        io.out(15, t530);
+        const V t531 = t529 - t528;
+        io.out(47, t531);
+        // spectrum block of 64
+        const V t532 = c9 * t463;
+        const V t533 = c8 * t473;
+        const V t534 = t533 + t532;
         // spectrum block of 2
-        const V t588 = t585 - t389;
-        io.out(30, t588);
-        const V t589 = t585 + t389;
-        io.out(62, t589);
+        const V t535 = t453 + t489;
         // spectrum block of 2
-        const V t590 = t131 - t499;
-        const V t591 = t131 + t499;
+        const V t536 = t535 - t534;
+        io.out(31, t536);
+        const V t537 = t535 + t534;
+        io.out(63, t537);
         // spectrum block of 2
-        const V t592 = t590 + t392;
-        io.out(15, t592);
-        const V t593 = t590 - t392;
-        io.out(47, t593);
+        const V t538 = t12 + t271;
+        // complex block of 2
+        const V t539 = t155 + t156;
         // spectrum block of 2
-        const V t594 = t591 - t395;
-        io.out(31, t594);
-        const V t595 = t591 + t395;
-        io.out(63, t595);
+        const V t540 = t538 + t539;
+        const V t541 = t538 - t539;
+        // complex block of 2
+        const V t542 = t62 + t216;
+        const V t543 = t66 + t220;
+        // spectrum block of 2
+        const V t544 = t540 + t543;
+        io.out(0, t544);
+        const V t545 = t540 - t543;
+        io.out(32, t545);
+        // spectrum block of 2
+        const V t546 = t541 - t542;
+        io.out(16, t546);
+        const V t547 = t541 + t542;
+        io.out(48, t547);
+        // spectrum block of 2
+        const V t548 = t12 - t271;
+        // complex block of 2
+        const V t549 = t152 + t153;
+        // spectrum block of 2
+        const V t550 = t548 - t549;
+        const V t551 = t548 + t549;
+        // complex block of 2
+        const V t552 = t62 - t216;
+        // spectrum block of 64
+        const V t553 = c1 * t552;
+        // complex block of 2
+        const V t554 = t66 - t220;
+        // spectrum block of 64
+        const V t555 = c1 * t554;
+        const V t556 = t555 + t553;
+        // spectrum block of 2
+        const V t557 = t551 - t556;
+        io.out(24, t557);
+        const V t558 = t551 + t556;
+        io.out(56, t558);
+        // spectrum block of 64
+        const V t559 = t553 - t555;
+        // spectrum block of 2
+        const V t560 = t550 - t559;
+        io.out(8, t560);
+        const V t561 = t550 + t559;
+        io.out(40, t561);
+        // spectrum block of 2
+        const V t562 = t13 - t270;
+        const V t563 = t13 + t270;
+        // complex block of 2
+        const V t564 = t63 + t221;
+        // spectrum block of 64
+        const V t565 = c6 * t564;
+        const V t566 = c7 * t564;
+        // complex block of 2
+        const V t567 = t67 - t217;
+        // spectrum block of 64
+        const V t568 = c7 * t567;
+        const V t569 = c6 * t567;
+        // complex block of 2
+        const V t570 = t63 - t221;
+        // spectrum block of 64
+        const V t571 = c7 * t570;
+        const V t572 = c6 * t570;
+        // complex block of 2
+        const V t573 = t67 + t217;
+        // spectrum block of 64
+        const V t574 = c6 * t573;
+        const V t575 = c7 * t573;
+        // mirrored skew block of 8
+        const V t576 = c1 * t157;
+        const V t577 = c1 * t154;
+        const V t578 = t576 + t577;
+        const V t579 = t577 - t576;
+        // spectrum block of 64
+        const V t580 = t568 - t565;
+        // spectrum block of 2
+        const V t581 = t562 - t579;
+        // spectrum block of 2
+        const V t582 = t581 + t580;
+        io.out(4, t582);
+        const V t583 = t581 - t580;
+        io.out(36, t583);
+        // spectrum block of 64
+        const V t584 = t566 + t569;
+        // spectrum block of 2
+        const V t585 = t562 + t579;
+        // spectrum block of 2
+        const V t586 = t585 - t584;
+        io.out(20, t586);
+        const V t587 = t585 + t584;
+        io.out(52, t587);
+        // spectrum block of 64
+        const V t588 = t574 - t571;
+        // spectrum block of 2
+        const V t589 = t563 - t578;
+        // spectrum block of 2
+        const V t590 = t589 + t588;
+        io.out(12, t590);
+        const V t591 = t589 - t588;
+        io.out(44, t591);
+        // spectrum block of 64
+        const V t592 = t572 + t575;
+        // spectrum block of 2
+        const V t593 = t563 + t578;
+        // spectrum block of 2
+        const V t594 = t593 - t592;
+        io.out(28, t594);
+        const V t595 = t593 + t592;
+        io.out(60, t595);
     }
 };
 

@@ -12,10 +12,8 @@ using namespace gen;
 
 class ScheduleTest : public testing::TestWithParam<GraphEntry> {};
 
-TEST_P(ScheduleTest, HoldsEveryStepOnceAndInAPossibleOrder) {
-    const auto built = GetParam().build();
-    const Graph& graph = *built;
-    const Schedule schedule = blockByBlock(graph);
+// Every needed load and operation once, operands first; every store once, behind its value and behind the last load.
+void expectPossible(const Graph& graph, const Schedule& schedule) {
     std::vector<bool> done(graph.nodes().size(), false), stored(graph.outputs().size(), false);
     const auto isDone = [&](int node) { return done[static_cast<std::size_t>(node)]; };
     bool storing = false;
@@ -44,6 +42,12 @@ TEST_P(ScheduleTest, HoldsEveryStepOnceAndInAPossibleOrder) {
     EXPECT_GT(schedule.mostAlive, 0);
 }
 
+TEST_P(ScheduleTest, HoldsEveryStepOnceAndInAPossibleOrder) {
+    const auto graph = GetParam().build();
+    expectPossible(*graph, blockByBlock(*graph));
+    expectPossible(*graph, byBisection(*graph));
+}
+
 INSTANTIATE_TEST_SUITE_P(All, ScheduleTest, testing::ValuesIn(allGraphs()),
                          [](const testing::TestParamInfo<GraphEntry>& test) {
                              return test.param.family->word + std::to_string(test.param.length);
@@ -54,6 +58,35 @@ TEST(Schedule, CountsTheValuesThatWait) {
     const Value a = graph.load(0), b = graph.load(1), c = graph.load(2);
     graph.store(0, (a + b) + c);
     EXPECT_EQ(blockByBlock(graph).mostAlive, 2);  // a, b; the sum, c
+}
+
+// Two sums of their own, then a chain that joins nothing: each part is finished before the next one begins.
+TEST(Schedule, BisectionTakesPartsThatDoNotTouchOneAfterTheOther) {
+    Graph graph;
+    const Value a = graph.load(0), b = graph.load(1), c = graph.load(2), d = graph.load(3);
+    const Value ab = a + b, cd = c + d;
+    graph.store(0, ab + a);
+    graph.store(1, cd + c);
+    std::vector<int> operations;
+    for (const Step& step : byBisection(graph).steps) {
+        if (step.kind == Step::Kind::Operation) operations.push_back(step.number);
+    }
+    EXPECT_EQ(operations, (std::vector{ab.node, ab.node + 2, cd.node, cd.node + 2}));
+}
+
+// Eight products, then a tree of their sums: early and late half of the tree, and so few values wait.
+TEST(Schedule, BisectionKeepsATreeTogether) {
+    Graph graph;
+    std::vector<Value> level;
+    for (int i = 0; i < 8; ++i) level.push_back(cosine(1, 8) * graph.load(i));
+    while (level.size() > 1) {
+        std::vector<Value> next;
+        for (std::size_t i = 0; i < level.size(); i += 2) next.push_back(level[i] + level[i + 1]);
+        level = next;
+    }
+    graph.store(0, level[0]);
+    EXPECT_EQ(blockByBlock(graph).mostAlive, 8);
+    EXPECT_LE(byBisection(graph).mostAlive, 5);
 }
 
 TEST(Schedule, StoresAnInputThatIsAnOutput) {

@@ -36,13 +36,14 @@ else()
     list(APPEND library_compile_flags
         -mfpmath=sse -mno-sse3        # scalar code for any x86-64
         -fcf-protection=full)
-    set(companion_link_flags
+    set(common_link_flags
         -nostartfiles                 # nothing but the load entry runs when the library is loaded
         -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks: fails quietly without entries.S's note
         -Wl,-z,relro,-z,now,-z,noexecstack
         -Wl,--no-undefined,--build-id=none
         -Wl,--strip-all)
-    set(library_link_flags ${companion_link_flags} -Wl,-init=zulgLoad)
+    set(library_link_flags ${common_link_flags} -Wl,-init=zulgLoad)
+    set(companion_link_flags ${common_link_flags})
     set(library_link_libraries ${CMAKE_DL_LIBS})
     set(library_platform_sources frame/shared_library_elf.cpp frame/load_elf.cpp)
     set(library_file_prefix "lib")

@@ -13,57 +13,6 @@
 namespace gen {
 namespace {
 
-std::unique_ptr<Graph> buildComplex(int length) {
-    auto graph = std::make_unique<Graph>();
-    Signal x;
-    for (int n = 0; n < length; ++n) x.push_back({graph->load(2 * n), graph->load(2 * n + 1)});
-    x = complexBlock(x, 1);
-    for (int k = 0; k < length; ++k) {
-        graph->store(2 * k, x[static_cast<std::size_t>(k)].re);
-        graph->store(2 * k + 1, x[static_cast<std::size_t>(k)].im);
-    }
-    return merged(std::move(graph));
-}
-
-std::unique_ptr<Graph> buildRealForward(int length) {
-    auto graph = std::make_unique<Graph>();
-    RealSignal x;
-    for (int n = 0; n < length; ++n) x.push_back(graph->load(n));
-    const HalfSpectrum bins = realBlock(x, 1);
-    for (int k = 0; k <= bins.half(); ++k) {
-        graph->store(2 * k, bins.real(k));
-        if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
-    }
-    return turned(merged(std::move(graph)), realForwardTurns(length));
-}
-
-// Each interior bin stands for itself and its conjugate: its parts are doubled first.
-std::unique_ptr<Graph> buildRealInverse(int length) {
-    auto graph = std::make_unique<Graph>();
-    const Titled title(*graph, "doubled bins");
-    const Coefficient two{2, "2"};
-    HalfSpectrum bins(length);
-    for (int k = 0; k <= bins.half(); ++k) {
-        if (bins.isReal(k)) {
-            bins.setReal(k, graph->load(2 * k));
-        } else {
-            bins.set(k, {two * graph->load(2 * k), two * graph->load(2 * k + 1)});
-        }
-    }
-    const RealSignal y = spectrumBlock(bins, 1);
-    for (int n = 0; n < length; ++n) graph->store(n, y[static_cast<std::size_t>(n)]);
-    return merged(std::move(graph));
-}
-
-std::unique_ptr<Graph> buildHartley(int length) {
-    auto graph = std::make_unique<Graph>();
-    RealSignal x;
-    for (int n = 0; n < length; ++n) x.push_back(graph->load(n));
-    const RealSignal y = hartley(x);
-    for (int k = 0; k < length; ++k) graph->store(k, y[static_cast<std::size_t>(k)]);
-    return merged(std::move(graph));
-}
-
 // Loads `count` numbers from an input on.
 RealSignal loadReals(Graph& graph, int first, int count) {
     RealSignal x;
@@ -86,6 +35,45 @@ void storePairs(Graph& graph, const Signal& y) {
         graph.store(static_cast<int>(2 * k), graph.withoutMinus(y[k].re));
         graph.store(static_cast<int>(2 * k + 1), graph.withoutMinus(y[k].im));
     }
+}
+
+std::unique_ptr<Graph> buildComplex(int length) {
+    auto graph = std::make_unique<Graph>();
+    storePairs(*graph, complexBlock(loadPairs(*graph, 0, length), 1));
+    return merged(std::move(graph));
+}
+
+std::unique_ptr<Graph> buildRealForward(int length) {
+    auto graph = std::make_unique<Graph>();
+    const HalfSpectrum bins = realBlock(loadReals(*graph, 0, length), 1);
+    for (int k = 0; k <= bins.half(); ++k) {
+        graph->store(2 * k, bins.real(k));
+        if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
+    }
+    return turned(merged(std::move(graph)), realForwardTurns(length));
+}
+
+// Each interior bin stands for itself and its conjugate: its parts are doubled first.
+std::unique_ptr<Graph> buildRealInverse(int length) {
+    auto graph = std::make_unique<Graph>();
+    const Titled title(*graph, "doubled bins");
+    const Coefficient two{2, "2"};
+    HalfSpectrum bins(length);
+    for (int k = 0; k <= bins.half(); ++k) {
+        if (bins.isReal(k)) {
+            bins.setReal(k, graph->load(2 * k));
+        } else {
+            bins.set(k, {two * graph->load(2 * k), two * graph->load(2 * k + 1)});
+        }
+    }
+    storeReals(*graph, spectrumBlock(bins, 1));
+    return merged(std::move(graph));
+}
+
+std::unique_ptr<Graph> buildHartley(int length) {
+    auto graph = std::make_unique<Graph>();
+    storeReals(*graph, hartley(loadReals(*graph, 0, length)));
+    return merged(std::move(graph));
 }
 
 std::unique_ptr<Graph> buildWht(int length) {

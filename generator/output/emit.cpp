@@ -22,7 +22,7 @@ std::string literal(double x) {
 
 // Whether the constants of a kernel stand in a table that a register points at. In a long kernel the bytes of code are
 // the time, since the processor's cache of decoded instructions does not hold it: a short displacement in place of an
-// address saves 3 bytes a product, 4 to 30 % of the time. A short kernel loses up to 8 %.
+// address saves 3 bytes a product. A short kernel gains nothing or loses.
 bool isLong(const GraphEntry& entry, const Graph& graph) {
     const Counts counts = graph.counts();
     const int steps = counts.additions + counts.subtractions + counts.multiplications;
@@ -32,7 +32,7 @@ bool isLong(const GraphEntry& entry, const Graph& graph) {
 // Names the constants and values of one graph in the order in which the schedule meets them.
 class Names {
 public:
-    Names(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
+    Names(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) : table(isLong(entry, graph)) {
         int operations = 0;
         for (const Step& step : schedule.steps) {
             if (step.kind == Step::Kind::Store) continue;
@@ -45,17 +45,18 @@ public:
             if (node.kind != Kind::Mul) continue;
             if (uses[node.b]++ == 0) constantOrder.push_back(node.b);
         }
-        if (!isLong(entry, graph)) {
-            for (int number : constantOrder) constants.emplace(number, "c" + to_string(constants.size()));
-        } else {
+        if (table) {
             nameByPlace();
+        } else {
+            for (int number : constantOrder) constants.emplace(number, "c" + to_string(constants.size()));
         }
     }
 
     const std::string& value(int node) const { return values.at(node); }
     const std::string& constant(int number) const { return constants.at(number); }
     const std::vector<int>& constantsInOrder() const { return constantOrder; }
-    // Which constant of a kernel c points at.
+    // Whether the constants stand in a table, and which of them c then points at.
+    bool hasTable() const { return table; }
     std::size_t origin() const { return std::min(constantOrder.size() / 2, reach); }
 
 private:
@@ -69,6 +70,7 @@ private:
     }
 
     static constexpr std::size_t reach = 16;  // doubles in 128 bytes
+    bool table;
     std::map<int, int> uses;
     std::map<int, std::string> values, constants;
     std::vector<int> constantOrder;
@@ -114,7 +116,7 @@ std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule
 
 // The constants of a kernel are doubles; those of a body have the width that its ports give them.
 std::string constantsText(const GraphEntry& entry, const Graph& graph, const Names& names) {
-    const bool isBody = entry.family->isBody(), isTable = isLong(entry, graph);
+    const bool isBody = entry.family->isBody(), isTable = names.hasTable();
     std::string text = isTable ? "    static constexpr double constants[] = {\n" : "";
     for (int number : names.constantsInOrder()) {
         const Constant& constant = graph.constants()[static_cast<std::size_t>(number)];
@@ -186,7 +188,7 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
                 name + " {\n";
     } else {
         text += "#include \"frame/kernel_body.h\"\n";
-        if (isLong(entry, graph)) text += "#include \"frame/near_constants.h\"\n";
+        if (names.hasTable()) text += "#include \"frame/near_constants.h\"\n";
         text += "\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
                 " {\n    static constexpr double inverseRoot = " + literal(storedInverseRoot(entry.length)) +
                 ";  // 1/sqrt(" + to_string(entry.length) + "), for `scale`\n" + constants + "\n";
@@ -197,7 +199,7 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
         "        using V = typename Ports::Value;\n";
     if (family.isBody()) {
         text += constants;
-    } else if (isLong(entry, graph)) {
+    } else if (names.hasTable()) {
         text += "        const double* const c = inRegister(constants + " + to_string(names.origin()) + ");\n";
     }
     text += stepsText(entry, graph, schedule, names) +

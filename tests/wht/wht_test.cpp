@@ -13,6 +13,7 @@
 #include "tests/fake_core.h"
 #include "tests/memory.h"
 #include "tests/reference.h"
+#include "tests/transforms/kernel_fixture.h"
 
 #ifdef _WIN32
 #include <process.h>
@@ -22,8 +23,6 @@
 
 namespace test {
 namespace {
-
-constexpr int allFlags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
 
 template <class Element>
 using WhtKernel = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);

@@ -7,9 +7,33 @@
 #include "dct4/bodies/output_4.h"
 #include "dct4/bodies/output_8.h"
 #include "dct4/fold.h"
+#include "dct4/lines.h"
 
 namespace zulg {
 namespace {
+
+// The r skew transforms of one length, one after the other.
+template <int points, class Element>
+Status foldAll(const FoldStage& stage, Element* transforms, const Element* x) {
+    const std::ptrdiff_t r = stage.count;
+    for (std::ptrdiff_t p = 0; p < r; ++p) {
+        Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t>{
+            {}, x + p, x + (stage.mirrorBase - p), stage.inputStep, {transforms + p, 2 * r, r}});
+    }
+    return StatusOk;
+}
+
+// By splits, a group at a time. The only radix that leaves skew transforms so long is 32, which is a whole number of
+// groups.
+template <class Element>
+Status foldBySplits(const FoldStage& stage, Element* transforms, const Element* x) {
+    const SkewSplit& split = firstOf<SkewSplit>(stage.children);
+    const std::ptrdiff_t r = stage.count, group = lineLength<Element>;
+    for (std::ptrdiff_t p = 0; p < r; p += group) {
+        runSplit<Element>(split, {x + p, x + (stage.mirrorBase - p - (group - 1))}, {transforms + p, 2 * r, r});
+    }
+    return StatusOk;
+}
 
 template <int radix, class Element>
 Status outputAll(const OutputStage& stage, Element* y, const Element* transforms) {
@@ -18,8 +42,43 @@ Status outputAll(const OutputStage& stage, Element* y, const Element* transforms
     Element* const lowest = y;
     Element* const highest = y + stage.mirrorBase - radix * stride;
     for (std::ptrdiff_t m = 0; m < stage.rows; ++m) {
-        Dct4Output<radix>::run(OutputPorts<Element, radix>{
-            {{}, transforms + 2 * radix * m}, entries + 2 * radix * m, lowest + m, highest - m, stride});
+        Dct4Output<radix>::run(OutputPorts<Element, radix, std::ptrdiff_t>{
+            {}, transforms + 2 * radix * m, entries + 2 * radix * m, lowest + m, highest - m, stride});
+    }
+    return StatusOk;
+}
+
+// The outputs of a row stand at a stride of a power of two, too far apart for the cache from 2 KB on. There rows write
+// to a block in which the outputs of neighbouring rows make a line, and the lines of a block are put in place while the
+// rows of the next one run.
+template <class Element>
+[[maybe_unused]] bool isFarApart(const OutputStage& stage) {
+    const bool fillsTheResult = stage.rows * stage.rowLength == stage.length;  // no output is written twice
+    return fillsTheResult && stage.blockStride * static_cast<std::ptrdiff_t>(sizeof(Element)) >= 2048;
+}
+
+template <int radix, class Element>
+Status outputByLines(const OutputStage& stage, Element* y, const Element* transforms) {
+    constexpr std::ptrdiff_t length = lineLength<Element>, linesPerRow = 2 * radix / length;
+    const std::ptrdiff_t stride = stage.blockStride;
+    const Element* const entries = static_cast<const Element*>(stage.table.get());
+    Element* const highest = y + stage.mirrorBase - radix * stride;
+    alignas(lineBytes) Element blocks[2][2 * radix * length];
+    for (std::ptrdiff_t m = 0; m < stage.rows + length; ++m) {
+        const std::ptrdiff_t inBlock = m % length, start = m - inBlock, before = start - length;
+        if (m < stage.rows) {
+            Element* const block = blocks[start / length % 2];
+            Dct4Output<radix>::run(OutputPorts<Element, radix, FixedStep<length>>{
+                {}, transforms + 2 * radix * m, entries + 2 * radix * m, block + inBlock,
+                block + (2 * radix * length - 1 - inBlock), {}});
+        }
+        if (before < 0) continue;
+        const Element* const block = blocks[before / length % 2];
+        for (std::ptrdiff_t b = inBlock * linesPerRow; b < (inBlock + 1) * linesPerRow; ++b) {
+            Element* const rising = y + before + b * stride;
+            Element* const falling = highest - before - (length - 1) - (2 * radix - 1 - b) * stride;
+            copyLine(b < radix ? rising : falling, block + length * b);
+        }
     }
     return StatusOk;
 }
@@ -28,14 +87,16 @@ Status outputAll(const OutputStage& stage, Element* y, const Element* transforms
 
 template <class Element>
 Status firstPass(const FoldStage& stage, Element* transforms, const Element* x) {
-    if (stage.kind == 7) {
-        const SkewSplit& split = firstOf<SkewSplit>(stage.children);
-        for (std::int32_t p = 0; p < stage.count; ++p) {
-            runSplit(split, transforms, x, p, p, stage.mirrorBase - 2 * p);
-        }
-        return StatusOk;
+    switch (stage.kind) {
+        case 1: return foldAll<2>(stage, transforms, x);
+        case 2: return foldAll<4>(stage, transforms, x);
+        case 3: return foldAll<8>(stage, transforms, x);
+        case 4: return foldAll<16>(stage, transforms, x);
+        case 5: return foldAll<32>(stage, transforms, x);
+        case 6: return foldAll<64>(stage, transforms, x);
+        case 7: return foldBySplits(stage, transforms, x);
+        default: return StatusPlanKindError;
     }
-    return foldByKind(stage.kind, {x, x + stage.mirrorBase, 1, stage.inputStep}, transforms, stage.count);
 }
 
 template <class Element>
@@ -46,7 +107,11 @@ Status secondPass(const OutputStage& stage, Element* y, const Element* transform
         case 3: return outputAll<4>(stage, y, transforms);
         case 4: return outputAll<8>(stage, y, transforms);
         case 5: return outputAll<16>(stage, y, transforms);
-        case 6: return outputAll<32>(stage, y, transforms);
+        case 6:
+            if constexpr (linesAreCopied) {
+                if (isFarApart<Element>(stage)) return outputByLines<32>(stage, y, transforms);
+            }
+            return outputAll<32>(stage, y, transforms);
         default: return StatusPlanKindError;
     }
 }

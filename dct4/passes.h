@@ -1,7 +1,8 @@
-// The passes of a plan. Each switches once on its record's kind and then runs its loop; a kind out of range is refused
-// with StatusPlanKindError, which those who run a pass do not look at.
+// The passes of a plan. Each switches on its record's kind before it does anything; a kind out of range is refused with
+// StatusPlanKindError, which those who run a pass do not look at.
 #pragma once
 
+#include "dct4/ports.h"
 #include "dct4/records.h"
 
 namespace zulg {
@@ -14,17 +15,19 @@ Status firstPass(const FoldStage& stage, Element* transforms, const Element* x);
 template <class Element>
 Status secondPass(const OutputStage& stage, Element* y, const Element* transforms);
 
-// The same two for one skew transform of a SkewSplit. `position` and `mirrorOffset` tell which one: its values stand at
-// position + ..., and their mirrors at position + mirrorOffset - ...; it becomes number `position` of the destination.
+// Where a group of neighbouring sequences to be folded stands: as many as a line holds, the first of them from
+// `forward` on and the others behind it, the mirror of the last of them from `mirrored` back and the others behind it.
 template <class Element>
-Status splitFirstPass(const FoldStep& step, Element* parts, const Element* x, std::int32_t position,
-                      std::int32_t mirrorOffset);
-template <class Element>
-Status splitSecondPass(const CombineStage& stage, Element* destination, const Element* parts, std::int32_t position);
+struct GroupSource {
+    using Place = typename InMemory<Element>::Type;
 
-// Both for a SkewSplit that is active; nothing for one that is not.
+    const Place* forward;
+    const Place* mirrored;
+};
+
+// The skew transforms of a group, by a SkewSplit, to the bins of the first of them and its neighbours; nothing for a
+// split that is not active.
 template <class Element>
-void runSplit(const SkewSplit& split, Element* destination, const Element* x, std::int32_t position,
-              std::int32_t foldPosition, std::int32_t mirrorOffset);
+Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const SkewBins<Element>& bins);
 
 }  // namespace zulg

@@ -1,8 +1,12 @@
 // Ports of the DCT-IV bodies. Values are held in double; fixed constants have the width of the element, and what is
 // stored is rounded to it.
+//
+// A Step is a distance between elements: a number, or a type that holds one, for places in a buffer whose shape is
+// known when the body is compiled.
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 
 #include "dct4/bodies.h"
 #include "frame/ports.h"
@@ -17,91 +21,80 @@ struct Dct4Ports {
     static constexpr Value fixed(double constant) { return static_cast<Element>(constant); }
 };
 
-// Several skew transforms side by side: with R of them, bin k of number q has its real part at 2 R k + q and its
-// imaginary part R further on.
+template <std::ptrdiff_t step>
+using FixedStep = std::integral_constant<std::ptrdiff_t, step>;
+
+// One skew transform in the layout that holds R of them side by side: from one bin to the next are 2R elements (or
+// minus that many, for the part of a longer transform that is written backwards), from the real part of a bin to its
+// imaginary part are R.
 template <class Element>
 struct SkewBins {
     using Place = typename InMemory<Element>::Type;
 
-    Place* first;          // the real part of bin 0 of one of them
-    std::ptrdiff_t count;  // R
+    Place* first;  // the real part of bin 0
+    std::ptrdiff_t step, toImaginary;
 
-    ZULG_INLINE void re(std::ptrdiff_t k, double value) const { first[2 * count * k] = static_cast<Element>(value); }
-    ZULG_INLINE void im(std::ptrdiff_t k, double value) const {
-        first[2 * count * k + count] = static_cast<Element>(value);
-    }
+    ZULG_INLINE Place* re(std::ptrdiff_t k) const { return first + step * k; }
+    ZULG_INLINE Place* im(std::ptrdiff_t k) const { return first + step * k + toImaginary; }
+    // The same of the transform `c` further on.
+    ZULG_INLINE SkewBins next(std::ptrdiff_t c) const { return {first + c, step, toImaginary}; }
 };
 
 // A folded sequence of M values: M/2 going forward from one place, M/2 going back from its mirror, which the body takes
 // with their signs turned.
-template <class Element, int points>
+template <class Element, int points, class Step>
 struct FoldPorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
 
     const Place* forward;
     const Place* mirrored;
-    std::ptrdiff_t step;
+    Step step;
     SkewBins<Element> bins;
 
     ZULG_INLINE double in(int s) const { return s < points / 2 ? forward[step * s] : mirrored[-step * s]; }
-    ZULG_INLINE void re(int k, double value) const { bins.re(k, value); }
-    ZULG_INLINE void im(int k, double value) const { bins.im(k, value); }
-    ZULG_INLINE void minusIm(int k, double value) const { bins.im(k, -value); }
+    ZULG_INLINE void re(int k, double value) const { *bins.re(k) = static_cast<Element>(value); }
+    ZULG_INLINE void im(int k, double value) const { *bins.im(k) = static_cast<Element>(value); }
+    ZULG_INLINE void minusIm(int k, double value) const { *bins.im(k) = static_cast<Element>(-value); }
 };
 
-// A row of r bins, which the layout of skew transforms keeps together.
-template <class Element, int radix>
-struct RowPorts : Dct4Ports<Element> {
+// A row of r bins, which the layout of skew transforms keeps together, to 2r outputs.
+template <class Element, int radix, class Step>
+struct OutputPorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
 
     const Place* row;
+    const Place* entries;
+    Place* up;    // rising output 0, the others at `step` behind it
+    Place* down;  // falling output 0, the others at `step` before it
+    Step step;
 
     ZULG_INLINE double re(int c) const { return row[c]; }
     ZULG_INLINE double im(int c) const { return row[radix + c]; }
-};
-
-template <class Element, int radix>
-struct OutputPorts : RowPorts<Element, radix> {
-    using Place = typename InMemory<Element>::Type;
-
-    const Place* entries;
-    Place* up;    // rising output 0, the others at `stride` behind it
-    Place* down;  // falling output 0, the others at `stride` before it
-    std::ptrdiff_t stride;
-
     ZULG_INLINE double table(int i) const { return entries[i]; }
-    ZULG_INLINE void rising(int b, double value) const { up[stride * b] = static_cast<Element>(value); }
-    ZULG_INLINE void falling(int b, double value) const { down[-stride * b] = static_cast<Element>(value); }
+    ZULG_INLINE void rising(int b, double value) const { up[step * b] = static_cast<Element>(value); }
+    ZULG_INLINE void falling(int b, double value) const { down[-step * b] = static_cast<Element>(value); }
 };
 
-template <class Element, int radix>
-struct CombinePorts : RowPorts<Element, radix> {
+// A row of r bins in place: the lower half of them rises from one bin, the upper half falls from the mirror of it.
+template <class Element, int radix, class Step, class ToImaginary>
+struct CombinePorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
-    using RowPorts<Element, radix>::re, RowPorts<Element, radix>::im;
 
     const Place* entries;       // of the only step, or of the inner one
     const Place* outerEntries;  // of the outer step
-    SkewBins<Element> low;      // where bin 0 of this row goes
-    SkewBins<Element> high;     // where its mirror goes
-    std::ptrdiff_t stride;      // bins from one output to the next
+    Place* low;
+    Place* high;
+    Step step;
+    ToImaginary toImaginary;
 
+    ZULG_INLINE Place* at(int c) const { return c < radix / 2 ? low + step * c : high - step * c; }
+    ZULG_INLINE double re(int c) const { return *at(c); }
+    ZULG_INLINE double im(int c) const { return at(c)[toImaginary]; }
     ZULG_INLINE double table(int i) const { return entries[i]; }
     ZULG_INLINE double inner(int i) const { return entries[i]; }
     ZULG_INLINE double outer(int i) const { return outerEntries[i]; }
-    ZULG_INLINE void re(int e, double value) const {
-        if (e < radix / 2) {
-            low.re(stride * e, value);
-        } else {
-            high.re(-stride * e, value);
-        }
-    }
-    ZULG_INLINE void im(int e, double value) const {
-        if (e < radix / 2) {
-            low.im(stride * e, value);
-        } else {
-            high.im(-stride * e, value);
-        }
-    }
+    ZULG_INLINE void re(int e, double value) const { *at(e) = static_cast<Element>(value); }
+    ZULG_INLINE void im(int e, double value) const { at(e)[toImaginary] = static_cast<Element>(value); }
 };
 
 template <class Element>

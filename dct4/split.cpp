@@ -1,3 +1,10 @@
+// Fold and combine for a group of neighbouring transforms at once: as many as a line holds, so that each line of source
+// and destination is fetched once for all of them. The parts of a split stand where its results go, at the bins that
+// their row of the combine pass fills.
+//
+// A body that touches more lines of one distance than the cache keeps works on copies of them in the split's scratch
+// vector, which has room for them: only lengths M from 512 have bodies of 32 points, only those from 1024 have rows of
+// 32 bins, and only 2048 has bodies of 64 points.
 #include <type_traits>
 
 #include "dct4/bodies/combine_16.h"
@@ -6,10 +13,85 @@
 #include "dct4/bodies/combine_4.h"
 #include "dct4/bodies/combine_8.h"
 #include "dct4/fold.h"
+#include "dct4/lines.h"
 #include "dct4/passes.h"
 
 namespace zulg {
 namespace {
+
+// `count` lines side by side: of places at one stride, the first half rising from one place, the second half falling to
+// another. In that order the last of the falling ones comes first, as it does there.
+template <int count, class Element>
+struct Lines {
+    static constexpr std::ptrdiff_t length = lineLength<Element>;
+    using Step = FixedStep<length>;
+    using Place = typename InMemory<Element>::Type;
+
+    Element* first;
+
+    // Where a body finds the places low + stride c and high - stride c of number p of the group.
+    Element* low(std::ptrdiff_t p) const { return first + p; }
+    Element* high(std::ptrdiff_t p) const { return first + length * (count / 2 + count - 1) + p; }
+
+    void take(const Place* from, const Place* fromHigh, std::ptrdiff_t stride) const {
+        for (std::ptrdiff_t i = 0; i < count / 2; ++i) {
+            copyLine(first + length * i, from + stride * i);
+            copyLine(first + length * (count / 2 + i), fromHigh - stride * (count - 1 - i));
+        }
+    }
+    void put(Place* to, Place* toHigh, std::ptrdiff_t stride) const {
+        for (std::ptrdiff_t i = 0; i < count / 2; ++i) {
+            copyLine(to + stride * i, first + length * i);
+            copyLine(toHigh - stride * (count - 1 - i), first + length * (count / 2 + i));
+        }
+    }
+};
+
+// Whether a body of `count` places, half of them rising and half of them falling, works on copies.
+constexpr bool takesCopies(int count) { return linesAreCopied && count / 2 > linesOfOneDistance; }
+
+template <int points, class Element>
+void foldGroup(const SkewSplit& split, const FoldStep& step, const GroupSource<Element>& from,
+               const SkewBins<Element>& bins) {
+    constexpr std::ptrdiff_t length = lineLength<Element>, last = length - 1;
+    if constexpr (takesCopies(points)) {
+        using Copies = Lines<points, Element>;
+        const Copies copies{static_cast<Element*>(split.scratch.get())};
+        copies.take(from.forward, from.mirrored, step.inputStep);
+        for (std::ptrdiff_t p = 0; p < length; ++p) {
+            Dct4Fold<points>::run(FoldPorts<Element, points, typename Copies::Step>{
+                {}, copies.low(p), copies.high(last - p), {}, bins.next(p)});
+        }
+    } else {
+        for (std::ptrdiff_t p = 0; p < length; ++p) {
+            Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t>{
+                {}, from.forward + p, from.mirrored + (last - p), step.inputStep, bins.next(p)});
+        }
+    }
+}
+
+template <class Element>
+void foldDeeper(const SkewSplit&, const FoldStep& step, const GroupSource<Element>& from,
+                const SkewBins<Element>& bins) {
+    runSplit(firstOf<SkewSplit>(step.children), from, bins);
+}
+
+// By the kind of a FoldStep; null for a kind out of range.
+template <class Element>
+using FoldPart = void(const SkewSplit&, const FoldStep&, const GroupSource<Element>&, const SkewBins<Element>&);
+template <class Element>
+FoldPart<Element>* foldOfKind(std::int32_t kind) {
+    switch (kind) {
+        case 1: return foldGroup<2>;
+        case 2: return foldGroup<4>;
+        case 3: return foldGroup<8>;
+        case 4: return foldGroup<16>;
+        case 5: return foldGroup<32>;
+        case 6: return foldGroup<64>;
+        case 7: return foldDeeper<Element>;
+        default: return nullptr;
+    }
+}
 
 // How the table of a combine stage is laid out: entries of a row in the only or inner step, and in the outer step, each
 // step in a section of its own.
@@ -30,66 +112,78 @@ struct CombineTable {
 };
 
 template <int radix, class Element>
-Status combineAll(const CombineStage& stage, Element* destination, const Element* parts, std::int32_t position) {
+void combineGroup(const SkewSplit& split, const CombineStage& stage, const SkewBins<Element>& bins) {
     using Table = CombineTable<radix, Element>;
+    constexpr std::ptrdiff_t length = lineLength<Element>;
     const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
-    const std::ptrdiff_t count = stage.outputStep, bin = 2 * count;
-    Element* const low = destination + position;
-    Element* const high = low + bin * stage.mirrorBase;
+    const std::ptrdiff_t stride = stage.blockStride * bins.step;
     for (std::ptrdiff_t k = 0; k < stage.rows; ++k) {
-        Dct4Combine<radix>::run(CombinePorts<Element, radix>{{{}, parts + 2 * radix * k},
-                                                             table.inner + Table::innerEntries * k,
-                                                             table.outer + Table::outerEntries * k,
-                                                             {low + bin * k, count},
-                                                             {high - bin * k, count},
-                                                             stage.blockStride});
+        const Element* const inner = table.inner + Table::innerEntries * k;
+        const Element* const outer = table.outer + Table::outerEntries * k;
+        Element* const low = bins.re(k);
+        Element* const high = bins.re(stage.mirrorBase - k);
+        if constexpr (takesCopies(radix)) {
+            using Copies = Lines<radix, Element>;
+            const Copies real{static_cast<Element*>(split.scratch.get())};
+            const Copies imaginary{real.first + radix * length};
+            real.take(low, high, stride);
+            imaginary.take(low + bins.toImaginary, high + bins.toImaginary, stride);
+            for (std::ptrdiff_t p = 0; p < length; ++p) {
+                Dct4Combine<radix>::run(
+                    CombinePorts<Element, radix, typename Copies::Step, FixedStep<radix * length>>{
+                        {}, inner, outer, real.low(p), real.high(p), {}, {}});
+            }
+            real.put(low, high, stride);
+            imaginary.put(low + bins.toImaginary, high + bins.toImaginary, stride);
+        } else {
+            for (std::ptrdiff_t p = 0; p < length; ++p) {
+                Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, std::ptrdiff_t>{
+                    {}, inner, outer, low + p, high + p, stride, bins.toImaginary});
+            }
+        }
     }
-    return StatusOk;
+}
+
+// By the kind of a CombineStage; null for a kind out of range.
+template <class Element>
+using CombinePass = void(const SkewSplit&, const CombineStage&, const SkewBins<Element>&);
+template <class Element>
+CombinePass<Element>* combineOfKind(std::int32_t kind) {
+    switch (kind) {
+        case 1: return combineGroup<2>;
+        case 2: return combineGroup<4>;
+        case 3: return combineGroup<8>;
+        case 4: return combineGroup<16>;
+        case 5: return combineGroup<32>;
+        default: return nullptr;
+    }
 }
 
 }  // namespace
 
 template <class Element>
-void runSplit(const SkewSplit& split, Element* destination, const Element* x, std::int32_t position,
-              std::int32_t foldPosition, std::int32_t mirrorOffset) {
-    if (split.active != 1) return;
-    Element* const parts = static_cast<Element*>(split.scratch.get());
-    splitFirstPass(firstOf<FoldStep>(split.pre), parts, x, foldPosition, mirrorOffset);
-    splitSecondPass(firstOf<CombineStage>(split.post), destination, parts, position);
-}
+Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const SkewBins<Element>& bins) {
+    if (split.active != 1) return StatusOk;
+    const auto& step = firstOf<FoldStep>(split.pre);
+    const auto& stage = firstOf<CombineStage>(split.post);
+    // Both are looked up first: a refusal leaves the destination as it is.
+    const auto fold = foldOfKind<Element>(step.kind);
+    const auto combine = combineOfKind<Element>(stage.kind);
+    if (fold == nullptr || combine == nullptr) return StatusPlanKindError;
 
-template <class Element>
-Status splitFirstPass(const FoldStep& step, Element* parts, const Element* x, std::int32_t position,
-                      std::int32_t mirrorOffset) {
-    if (step.kind == 7) {
-        const SkewSplit& split = firstOf<SkewSplit>(step.children);
-        for (std::int32_t c = 0; c < step.count; ++c) {
-            const std::int32_t shift = step.subStep * c;
-            runSplit(split, parts, x, c, position + shift, mirrorOffset - 2 * shift);
-        }
-        return StatusOk;
+    // Part c goes to the bins k + c M', in the upper half of the parts to the mirrored ones, M - 1 - k - c M'.
+    for (std::ptrdiff_t c = 0; c < step.count; ++c) {
+        const std::ptrdiff_t shift = step.subStep * c, bin = step.skewLength * c;
+        const bool isMirrored = c >= step.count / 2;
+        fold(split, step, {from.forward + shift, from.mirrored - shift},
+             {bins.re(isMirrored ? split.skewLength - 1 - bin : bin), isMirrored ? -bins.step : bins.step,
+              bins.toImaginary});
     }
-    const Element* const forward = x + position;
-    return foldByKind(step.kind, {forward, forward + mirrorOffset, step.subStep, step.inputStep}, parts, step.count);
+    combine(split, stage, bins);
+    return StatusOk;
 }
 
-template <class Element>
-Status splitSecondPass(const CombineStage& stage, Element* destination, const Element* parts, std::int32_t position) {
-    switch (stage.kind) {
-        case 1: return combineAll<2>(stage, destination, parts, position);
-        case 2: return combineAll<4>(stage, destination, parts, position);
-        case 3: return combineAll<8>(stage, destination, parts, position);
-        case 4: return combineAll<16>(stage, destination, parts, position);
-        case 5: return combineAll<32>(stage, destination, parts, position);
-        default: return StatusPlanKindError;
-    }
-}
-
-template void runSplit<float>(const SkewSplit&, float*, const float*, std::int32_t, std::int32_t, std::int32_t);
-template void runSplit<double>(const SkewSplit&, double*, const double*, std::int32_t, std::int32_t, std::int32_t);
-template Status splitFirstPass<float>(const FoldStep&, float*, const float*, std::int32_t, std::int32_t);
-template Status splitFirstPass<double>(const FoldStep&, double*, const double*, std::int32_t, std::int32_t);
-template Status splitSecondPass<float>(const CombineStage&, float*, const float*, std::int32_t);
-template Status splitSecondPass<double>(const CombineStage&, double*, const double*, std::int32_t);
+template Status runSplit<float>(const SkewSplit&, const GroupSource<float>&, const SkewBins<float>&);
+template Status runSplit<double>(const SkewSplit&, const GroupSource<double>&, const SkewBins<double>&);
 
 }  // namespace zulg

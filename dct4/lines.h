@@ -1,0 +1,43 @@
+// Lines: as many neighbouring elements as a line of the processor's cache holds. Long transforms move whole lines, since
+// elements that a body needs at once stand at distances of a power of two, where only a few lines fit into the cache at
+// a time: an element taken alone would fetch its line anew for each of its neighbours.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "frame/platform.h"
+
+namespace zulg {
+
+constexpr std::ptrdiff_t lineBytes = 64;
+template <class Element>
+constexpr std::ptrdiff_t lineLength = lineBytes / sizeof(Element);
+
+// Whether lines are copied to where their distance does no harm. The x87 computes too slowly to wait for them, and
+// would copy them in words of half an element.
+#ifdef __x86_64__
+constexpr bool linesAreCopied = true;
+#else
+constexpr bool linesAreCopied = false;
+#endif
+
+// The lines of one distance that the first cache keeps at a time.
+constexpr int linesOfOneDistance = 8;
+
+// What moves in one instruction. Bits move, never values.
+typedef std::uint64_t LineWord __attribute__((vector_size(16), aligned(1), may_alias));
+
+// A line need not start where a line of the cache does.
+ZULG_INLINE void copyLine(void* to, const void* from) {
+    const LineWord* const in = static_cast<const LineWord*>(from);
+    LineWord* const out = static_cast<LineWord*>(to);
+    const LineWord a = in[0], b = in[1], c = in[2], d = in[3];
+    out[0] = a;
+    out[1] = b;
+    out[2] = c;
+    out[3] = d;
+}
+static_assert(lineBytes == 4 * sizeof(LineWord));
+
+}  // namespace zulg

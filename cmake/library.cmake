@@ -20,6 +20,8 @@ if(WIN32)
         -march=pentium -mfpmath=387   # the processor class of this target: no vector registers
         -mincoming-stack-boundary=2   # Windows callers align the stack to 4 bytes
         -fcf-protection=none)
+    set(long_kernel_compile_flags ${kernel_compile_flags})
+    set(long_kernel_launcher "")
     set(common_link_flags
         -nostdlib                     # the stock start files: 70 KB, some 20 imports, and initializers
         -Wl,--no-insert-timestamp     # the same bytes from each build
@@ -36,6 +38,11 @@ else()
     list(APPEND library_compile_flags
         -mfpmath=sse -mno-sse3        # scalar code for any x86-64
         -fcf-protection=full)
+    # Long kernels: an access by the frame pointer takes a byte less than one by the stack pointer; fewer values are kept
+    # in memory; and the launcher uses the registers that are left to it for shorter displacements.
+    set(long_kernel_compile_flags ${kernel_compile_flags} -fno-omit-frame-pointer -flive-range-shrinkage
+        -ffixed-rbx -ffixed-r8 -ffixed-r9 -ffixed-r10 -ffixed-r11 -ffixed-r12 -ffixed-r13 -ffixed-r14 -ffixed-r15)
+    set(long_kernel_launcher ${CMAKE_CURRENT_LIST_DIR}/short_displacements.py)
     set(common_link_flags
         -nostartfiles                 # nothing but the load entry runs when the library is loaded
         -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks: fails quietly without entries.S's note

@@ -38,7 +38,13 @@ std::string graphText(const gen::GraphEntry& entry) {
 // Path and text of every generated file.
 std::map<std::string, std::string> allFiles() {
     std::map<std::string, std::string> files;
-    for (const gen::GraphEntry& entry : gen::allGraphs()) files[entry.file()] = graphText(entry);
+    std::vector<std::string> longKernels;
+    for (const gen::GraphEntry& entry : gen::allGraphs()) {
+        const auto graph = entry.build();
+        files[entry.file()] = gen::emitGraph(entry, *graph, entry.schedule(*graph));
+        if (gen::isLong(entry, *graph)) longKernels.push_back(entry.file());
+    }
+    files["kernels/long.cmake"] = gen::emitLongKernels(longKernels);
     files["frame/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
     return files;

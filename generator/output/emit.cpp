@@ -20,15 +20,6 @@ std::string literal(double x) {
     return digits.find_first_of(".e") == std::string::npos ? digits + ".0" : digits;
 }
 
-// Whether the constants of a kernel stand in a table that a register points at. In a long kernel the bytes of code are
-// the time, since the processor's cache of decoded instructions does not hold it: a short displacement in place of an
-// address saves 3 bytes a product. A short kernel gains nothing or loses.
-bool isLong(const GraphEntry& entry, const Graph& graph) {
-    const Counts counts = graph.counts();
-    const int steps = counts.additions + counts.subtractions + counts.multiplications;
-    return !entry.family->isBody() && steps + static_cast<int>(graph.outputs().size()) >= 1200;
-}
-
 // Names the constants and values of one graph in the order in which the schedule meets them.
 class Names {
 public:
@@ -207,6 +198,23 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
             "};\n\n";
     if (!family.isBody()) text += instantiations(entry) + "\n";
     return text + "}  // namespace zulg\n";
+}
+
+// The processor's cache of decoded instructions holds about 16 KB of code, and where it ends the bytes of code are the
+// time: a constant near a register saves 3 bytes a product over one with an address of its own, a short displacement in
+// the frame 4. A short kernel gains nothing or loses.
+bool isLong(const GraphEntry& entry, const Graph& graph) {
+    const Counts counts = graph.counts();
+    const int steps = counts.additions + counts.subtractions + counts.multiplications;
+    return !entry.family->isBody() && steps + static_cast<int>(graph.outputs().size()) >= 1200;
+}
+
+std::string emitLongKernels(const std::vector<std::string>& files) {
+    std::string text =
+        "# Written by `generate write`; do not edit. The rule: generator/output/emit.cpp, isLong.\n"
+        "set(long_kernel_sources";
+    for (const std::string& file : files) text += "\n    " + file;
+    return text + ")\n";
 }
 
 std::string emitSlots(const std::vector<Export>& exports) {

@@ -12,6 +12,13 @@ namespace gen {
 // The file of one graph: the graph as straight-line text and, where it has kernels, their instantiations.
 std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule);
 
+// Whether a kernel has so many steps that the bytes of its code are its time. Such a one keeps its constants near a
+// register, and the build shortens its displacements.
+bool isLong(const GraphEntry& entry, const Graph& graph);
+
+// kernels/long.cmake, from the files of the long kernels.
+std::string emitLongKernels(const std::vector<std::string>& files);
+
 // frame/slots.inc and include/zulgenpx_routines.h.
 std::string emitSlots(const std::vector<Export>& exports);
 std::string emitRoutines(const std::vector<Export>& exports);

@@ -81,11 +81,8 @@ Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
     using Graph = typename Parts<family>::template Graph<length>;
     using Factor = Scale<Element, length, Graph>;
 
-    if (pSrc == nullptr) return StatusNullPointer;
-    if (pDst == nullptr) return StatusNullPointer;
-
-    return withScale<Parts<family>, Factor>(
-        flag, [=](Element scale) __attribute__((always_inline)) {
+    return withScale<typename Parts<family>::Flags, Factor>(
+        pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
             const typename Parts<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
             Graph::run(io);
             io.finish();

@@ -14,9 +14,7 @@ struct WhtRoot {
 
 template <int order, class Element, class Run>
 ZULG_INLINE Status whtChecked(const Element* pSrc, const Element* pDst, std::int32_t flag, const Run& run) {
-    if (pSrc == nullptr) return StatusNullPointer;
-    if (pDst == nullptr) return StatusNullPointer;
-    return withScale<InvolutionFlags, Scale<Element, 1 << order, WhtRoot<order>>>(flag, run);
+    return withScale<InvolutionFlags, Scale<Element, 1 << order, WhtRoot<order>>>(pSrc, pDst, flag, run);
 }
 
 }  // namespace zulg

@@ -14,8 +14,10 @@ from binary import Library
 
 
 def masked(instruction):
-    """Mnemonic and operands, every place in memory that a pointer leads to taken as one; constants keep their address."""
+    """Mnemonic and operands, every place in memory that a pointer leads to taken as one; constants keep their address,
+    and so does the table of scale factors, whatever register holds the place in it."""
     operands = re.sub(r"-?(0x[0-9a-f]+)?\(%rip\)\s*#\s*(0x)?([0-9a-f]+).*", r"constant \3", instruction.operands)
+    operands = re.sub(r"(0x[0-9a-f]+)\(,%[a-z]+,\d\)", r"table \1", operands)
     operands = re.sub(r"(-?0x[0-9a-f]+)?\(%[a-z0-9,%]+\)", "memory", operands)
     return instruction.mnemonic, operands
 

@@ -12,7 +12,7 @@ set(library_compile_flags
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)  # the same bytes from any folder
 
 # Kernels: smaller code is faster code here. More memory operands and fewer instructions than at -O2, and the size of
-# the instruction cache is the cliff for the long ones. -O2 would also move the early returns behind a backward jump.
+# the instruction cache is the cliff for the long ones.
 set(kernel_compile_flags -Os)
 
 if(WIN32)
@@ -20,6 +20,7 @@ if(WIN32)
         -march=pentium -mfpmath=387   # the processor class of this target: no vector registers
         -mincoming-stack-boundary=2   # Windows callers align the stack to 4 bytes
         -fcf-protection=none)
+    set(fast_kernel_compile_flags ${kernel_compile_flags})
     set(long_kernel_compile_flags ${kernel_compile_flags})
     set(long_kernel_launcher "")
     set(common_link_flags
@@ -38,6 +39,8 @@ else()
     list(APPEND library_compile_flags
         -mfpmath=sse -mno-sse3        # scalar code for any x86-64
         -fcf-protection=full)
+    # Kernels that are faster when compiled for speed: registers are cleared before a conversion that would wait for them.
+    set(fast_kernel_compile_flags -O2 -fno-schedule-insns2 -fno-tree-pre -flive-range-shrinkage)
     # Long kernels: an access by the frame pointer takes a byte less than one by the stack pointer; fewer values are kept
     # in memory; and the launcher uses the registers that are left to it for shorter displacements.
     set(long_kernel_compile_flags ${kernel_compile_flags} -fno-omit-frame-pointer -flive-range-shrinkage

@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "output/emit.h"
+#include "rules/tables.h"
 
 namespace {
 
@@ -38,13 +39,17 @@ std::string graphText(const gen::GraphEntry& entry) {
 // Path and text of every generated file.
 std::map<std::string, std::string> allFiles() {
     std::map<std::string, std::string> files;
-    std::vector<std::string> longKernels;
+    std::vector<std::string> longKernels, fastKernels;
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
         const auto graph = entry.build();
         files[entry.file()] = gen::emitGraph(entry, *graph, entry.schedule(*graph));
-        if (gen::isLong(entry, *graph)) longKernels.push_back(entry.file());
+        if (gen::isLong(entry, *graph)) {
+            longKernels.push_back(entry.file());
+        } else if (gen::isCompiledForSpeed(entry.family->word, entry.length)) {
+            fastKernels.push_back(entry.file());
+        }
     }
-    files["kernels/long.cmake"] = gen::emitLongKernels(longKernels);
+    files["kernels/groups.cmake"] = gen::emitGroups(longKernels, fastKernels);
     files["frame/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
     return files;

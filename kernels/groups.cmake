@@ -1,4 +1,5 @@
-# Written by `generate write`; do not edit. The rule: generator/output/emit.cpp, isLong.
+# Written by `generate write`; do not edit. The rules: isLong in generator/output/emit.cpp, and
+# isCompiledForSpeed in generator/rules/tables.cpp.
 set(long_kernel_sources
     kernels/complex/dft_37.cpp
     kernels/complex/dft_38.cpp
@@ -39,3 +40,41 @@ set(long_kernel_sources
     kernels/hartley/dht_59.cpp
     kernels/hartley/dht_61.cpp
     kernels/hartley/dht_62.cpp)
+set(fast_kernel_sources
+    kernels/real_forward/rdft_3.cpp
+    kernels/real_forward/rdft_5.cpp
+    kernels/real_forward/rdft_6.cpp
+    kernels/real_forward/rdft_8.cpp
+    kernels/real_forward/rdft_10.cpp
+    kernels/real_forward/rdft_14.cpp
+    kernels/real_forward/rdft_15.cpp
+    kernels/real_forward/rdft_19.cpp
+    kernels/real_forward/rdft_20.cpp
+    kernels/real_forward/rdft_21.cpp
+    kernels/real_forward/rdft_24.cpp
+    kernels/real_forward/rdft_29.cpp
+    kernels/real_forward/rdft_30.cpp
+    kernels/real_forward/rdft_32.cpp
+    kernels/real_forward/rdft_34.cpp
+    kernels/real_forward/rdft_37.cpp
+    kernels/real_forward/rdft_41.cpp
+    kernels/real_forward/rdft_54.cpp
+    kernels/real_forward/rdft_58.cpp
+    kernels/real_forward/rdft_60.cpp
+    kernels/real_forward/rdft_62.cpp
+    kernels/real_inverse/rdft_13.cpp
+    kernels/real_inverse/rdft_16.cpp
+    kernels/real_inverse/rdft_21.cpp
+    kernels/real_inverse/rdft_27.cpp
+    kernels/real_inverse/rdft_29.cpp
+    kernels/real_inverse/rdft_32.cpp
+    kernels/real_inverse/rdft_51.cpp
+    kernels/hartley/dht_12.cpp
+    kernels/hartley/dht_13.cpp
+    kernels/hartley/dht_21.cpp
+    kernels/hartley/dht_26.cpp
+    kernels/hartley/dht_27.cpp
+    kernels/hartley/dht_32.cpp
+    kernels/hartley/dht_42.cpp
+    kernels/hartley/dht_46.cpp
+    kernels/hartley/dht_56.cpp)

@@ -209,12 +209,18 @@ bool isLong(const GraphEntry& entry, const Graph& graph) {
     return !entry.family->isBody() && steps + static_cast<int>(graph.outputs().size()) >= 1200;
 }
 
-std::string emitLongKernels(const std::vector<std::string>& files) {
+std::string emitGroups(const std::vector<std::string>& longKernels, const std::vector<std::string>& fastKernels) {
     std::string text =
-        "# Written by `generate write`; do not edit. The rule: generator/output/emit.cpp, isLong.\n"
-        "set(long_kernel_sources";
-    for (const std::string& file : files) text += "\n    " + file;
-    return text + ")\n";
+        "# Written by `generate write`; do not edit. The rules: isLong in generator/output/emit.cpp, and\n"
+        "# isCompiledForSpeed in generator/rules/tables.cpp.\n";
+    const auto set = [&](const std::string& name, const std::vector<std::string>& files) {
+        text += "set(" + name;
+        for (const std::string& file : files) text += "\n    " + file;
+        text += ")\n";
+    };
+    set("long_kernel_sources", longKernels);
+    set("fast_kernel_sources", fastKernels);
+    return text;
 }
 
 std::string emitSlots(const std::vector<Export>& exports) {

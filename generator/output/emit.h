@@ -16,8 +16,8 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
 // register, and the build shortens its displacements.
 bool isLong(const GraphEntry& entry, const Graph& graph);
 
-// kernels/long.cmake, from the files of the long kernels.
-std::string emitLongKernels(const std::vector<std::string>& files);
+// kernels/groups.cmake: the files of the kernels that are compiled in another way.
+std::string emitGroups(const std::vector<std::string>& longKernels, const std::vector<std::string>& fastKernels);
 
 // frame/slots.inc and include/zulgenpx_routines.h.
 std::string emitSlots(const std::vector<Export>& exports);

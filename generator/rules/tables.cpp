@@ -289,6 +289,16 @@ bool isBisected(const std::string& family, int length) {
     return found != lengths.end() && found->second.contains(length);
 }
 
+bool isCompiledForSpeed(const std::string& family, int length) {
+    static const std::map<std::string, std::set<int>> lengths = {
+        {"real_forward", {3, 5, 6, 8, 10, 14, 15, 19, 20, 21, 24, 29, 30, 32, 34, 37, 41, 54, 58, 60, 62}},
+        {"real_inverse", {13, 16, 21, 27, 29, 32, 51}},
+        {"hartley", {12, 13, 21, 26, 27, 32, 42, 46, 56}},
+    };
+    const auto found = lengths.find(family);
+    return found != lengths.end() && found->second.contains(length);
+}
+
 std::vector<int> realForwardTurns(int length) {
     switch (length) {
         case 13: return {40, 126};

@@ -176,10 +176,12 @@ def main(arguments):
     if arguments == ["--text"]:
         sys.stdout.write(rewritten(sys.stdin.read()))
         return 0
-    made = arguments[arguments.index("-o") + 1]
+    output = arguments.index("-o") + 1
+    made = arguments[output]
     text = made + ".s"
-    to_text = [{"-c": "-S", made: text}.get(argument, argument) for argument in arguments]
-    to_text[to_text.index("-MT") + 1] = made  # dependencies are those of what is made
+    to_text = list(arguments)
+    to_text[arguments.index("-c")] = "-S"
+    to_text[output] = text
     try:
         subprocess.run(to_text, check=True)
         with open(text, encoding="utf-8") as file:

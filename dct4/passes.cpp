@@ -52,9 +52,9 @@ Status outputAll(const OutputStage& stage, Element* y, const Element* transforms
 // to a block in which the outputs of neighbouring rows make a line, and the lines of a block are put in place while the
 // rows of the next one run.
 template <class Element>
-[[maybe_unused]] bool isFarApart(const OutputStage& stage) {
+bool isFarApart(const OutputStage& stage) {
     const bool fillsTheResult = stage.rows * stage.rowLength == stage.length;  // no output is written twice
-    return fillsTheResult && stage.blockStride * static_cast<std::ptrdiff_t>(sizeof(Element)) >= 2048;
+    return linesAreCopied && fillsTheResult && stage.blockStride * static_cast<std::ptrdiff_t>(sizeof(Element)) >= 2048;
 }
 
 template <int radix, class Element>
@@ -108,10 +108,8 @@ Status secondPass(const OutputStage& stage, Element* y, const Element* transform
         case 4: return outputAll<8>(stage, y, transforms);
         case 5: return outputAll<16>(stage, y, transforms);
         case 6:
-            if constexpr (linesAreCopied) {
-                if (isFarApart<Element>(stage)) return outputByLines<32>(stage, y, transforms);
-            }
-            return outputAll<32>(stage, y, transforms);
+            return isFarApart<Element>(stage) ? outputByLines<32>(stage, y, transforms)
+                                              : outputAll<32>(stage, y, transforms);
         default: return StatusPlanKindError;
     }
 }

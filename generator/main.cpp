@@ -31,9 +31,8 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
     throw std::runtime_error("no graph " + family + " " + length);
 }
 
-std::string graphText(const gen::GraphEntry& entry) {
-    const auto graph = entry.build();
-    return gen::emitGraph(entry, *graph, entry.schedule(*graph));
+std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
+    return gen::emitGraph(entry, graph, entry.schedule(graph));
 }
 
 // Path and text of every generated file.
@@ -42,7 +41,7 @@ std::map<std::string, std::string> allFiles() {
     std::vector<std::string> longKernels, fastKernels;
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
         const auto graph = entry.build();
-        files[entry.file()] = gen::emitGraph(entry, *graph, entry.schedule(*graph));
+        files[entry.file()] = graphText(entry, *graph);
         if (gen::isLong(entry, *graph)) {
             longKernels.push_back(entry.file());
         } else if (gen::isCompiledForSpeed(entry.family->word, entry.length)) {
@@ -135,7 +134,7 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 3 && (verb == "show" || verb == "list" || verb == "dot")) {
         const gen::GraphEntry& entry = find(words[1], words[2]);
         const auto graph = entry.build();
-        std::cout << (verb == "show" ? graphText(entry) : verb == "list" ? graph->text() : graph->dot());
+        std::cout << (verb == "show" ? graphText(entry, *graph) : verb == "list" ? graph->text() : graph->dot());
         return 0;
     }
     std::cerr << usage;

@@ -1,6 +1,6 @@
-// Lines: as many neighbouring elements as a line of the processor's cache holds. Long transforms move whole lines, since
-// elements that a body needs at once stand at distances of a power of two, where only a few lines fit into the cache at
-// a time: an element taken alone would fetch its line anew for each of its neighbours.
+// Lines: as many neighbouring elements as a line of the processor's cache holds. Long transforms move whole lines,
+// since elements that a body needs at once stand at distances of a power of two, where only a few lines fit into the
+// cache at a time: an element taken alone would fetch its line anew for each of its neighbours.
 #pragma once
 
 #include <cstddef>
@@ -39,5 +39,12 @@ ZULG_INLINE void copyLine(void* to, const void* from) {
     out[3] = d;
 }
 static_assert(lineBytes == 4 * sizeof(LineWord));
+
+// The lines of real and of imaginary parts of one bin.
+template <class To, class From>
+ZULG_INLINE void copyBin(To* to, std::ptrdiff_t toImaginary, const From* from, std::ptrdiff_t fromImaginary) {
+    copyLine(to, from);
+    copyLine(to + toImaginary, from + fromImaginary);
+}
 
 }  // namespace zulg

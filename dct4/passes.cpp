@@ -28,22 +28,33 @@ Status foldAll(const FoldStage& stage, Element* transforms, const Element* x) {
 template <class Element>
 Status foldBySplits(const FoldStage& stage, Element* transforms, const Element* x) {
     const SkewSplit& split = firstOf<SkewSplit>(stage.children);
-    const std::ptrdiff_t r = stage.count, group = lineLength<Element>;
-    for (std::ptrdiff_t p = 0; p < r; p += group) {
-        runSplit<Element>(split, {x + p, x + (stage.mirrorBase - p - (group - 1))}, {transforms + p, 2 * r, r});
+    const std::ptrdiff_t group = lineLength<Element>;
+    for (std::ptrdiff_t p = 0; p < stage.count; p += group) {
+        runSplit<Element>(split, {x + p, x + (stage.mirrorBase - p - (group - 1))},
+                          {transforms + stage.skewLength * p, 2 * group, group});
     }
     return StatusOk;
 }
 
-template <int radix, class Element>
+// How many bins of a row stand together, as the first pass leaves them.
+template <int radix, bool grouped, class Element>
+constexpr int binsTogether = grouped ? static_cast<int>(lineLength<Element>) : radix;
+
+template <int radix, bool grouped = false, class Element>
 Status outputAll(const OutputStage& stage, Element* y, const Element* transforms) {
+    constexpr int side = binsTogether<radix, grouped, Element>;
     const std::ptrdiff_t stride = stage.blockStride;
     const Element* entries = static_cast<const Element*>(stage.table.get());
     Element* const lowest = y;
     Element* const highest = y + stage.mirrorBase - radix * stride;
     for (std::ptrdiff_t m = 0; m < stage.rows; ++m) {
-        Dct4Output<radix>::run(OutputPorts<Element, radix, std::ptrdiff_t>{
-            {}, transforms + 2 * radix * m, entries + 2 * radix * m, lowest + m, highest - m, stride});
+        Dct4Output<radix>::run(OutputPorts<Element, side, std::ptrdiff_t>{{},
+                                                                          transforms + 2 * side * m,
+                                                                          2 * side * stage.rows,
+                                                                          entries + 2 * radix * m,
+                                                                          lowest + m,
+                                                                          highest - m,
+                                                                          stride});
     }
     return StatusOk;
 }
@@ -60,6 +71,7 @@ bool isFarApart(const OutputStage& stage) {
 template <int radix, class Element>
 Status outputByLines(const OutputStage& stage, Element* y, const Element* transforms) {
     constexpr std::ptrdiff_t length = lineLength<Element>, linesPerRow = 2 * radix / length;
+    constexpr int side = binsTogether<radix, true, Element>;
     const std::ptrdiff_t stride = stage.blockStride;
     const Element* const entries = static_cast<const Element*>(stage.table.get());
     Element* const highest = y + stage.mirrorBase - radix * stride;
@@ -68,9 +80,14 @@ Status outputByLines(const OutputStage& stage, Element* y, const Element* transf
         const std::ptrdiff_t inBlock = m % length, start = m - inBlock, before = start - length;
         if (m < stage.rows) {
             Element* const block = blocks[start / length % 2];
-            Dct4Output<radix>::run(OutputPorts<Element, radix, FixedStep<length>>{
-                {}, transforms + 2 * radix * m, entries + 2 * radix * m, block + inBlock,
-                block + (2 * radix * length - 1 - inBlock), {}});
+            Dct4Output<radix>::run(
+                OutputPorts<Element, side, FixedStep<length>>{{},
+                                                              transforms + 2 * side * m,
+                                                              2 * side * stage.rows,
+                                                              entries + 2 * radix * m,
+                                                              block + inBlock,
+                                                              block + (2 * radix * length - 1 - inBlock),
+                                                              {}});
         }
         if (before < 0) continue;
         const Element* const block = blocks[before / length % 2];
@@ -100,7 +117,7 @@ Status firstPass(const FoldStage& stage, Element* transforms, const Element* x) 
 }
 
 template <class Element>
-Status secondPass(const OutputStage& stage, Element* y, const Element* transforms) {
+Status secondPass(const OutputStage& stage, Element* y, const Element* transforms, bool isGrouped) {
     switch (stage.kind) {
         case 1: return outputAll<1>(stage, y, transforms);
         case 2: return outputAll<2>(stage, y, transforms);
@@ -108,15 +125,16 @@ Status secondPass(const OutputStage& stage, Element* y, const Element* transform
         case 4: return outputAll<8>(stage, y, transforms);
         case 5: return outputAll<16>(stage, y, transforms);
         case 6:
+            if (!isGrouped) return outputAll<32>(stage, y, transforms);
             return isFarApart<Element>(stage) ? outputByLines<32>(stage, y, transforms)
-                                              : outputAll<32>(stage, y, transforms);
+                                              : outputAll<32, true>(stage, y, transforms);
         default: return StatusPlanKindError;
     }
 }
 
 template Status firstPass<float>(const FoldStage&, float*, const float*);
 template Status firstPass<double>(const FoldStage&, double*, const double*);
-template Status secondPass<float>(const OutputStage&, float*, const float*);
-template Status secondPass<double>(const OutputStage&, double*, const double*);
+template Status secondPass<float>(const OutputStage&, float*, const float*, bool);
+template Status secondPass<double>(const OutputStage&, double*, const double*, bool);
 
 }  // namespace zulg

@@ -3,17 +3,23 @@
 #pragma once
 
 #include "dct4/ports.h"
+#include "dct4/radix.h"
 #include "dct4/records.h"
 
 namespace zulg {
 
-// First pass: the r skew transforms of length M, from x into the layout of r transforms.
+// The first pass leaves its r skew transforms side by side, all r in one or, where splits make them, in groups of as
+// many as a line holds, one group behind the other. A group is dense in memory: the combine pass of a split goes over
+// it again and again, and a quarter of every line would fill a quarter of the cache.
+constexpr bool isGrouped(const FoldStage& stage) { return stage.kind == splitFold; }
+
+// First pass: the r skew transforms of length M, from x.
 template <class Element>
 Status firstPass(const FoldStage& stage, Element* transforms, const Element* x);
 
-// Second pass: row by row, from the layout of r transforms to the result.
+// Second pass: row by row, from the skew transforms to the result.
 template <class Element>
-Status secondPass(const OutputStage& stage, Element* y, const Element* transforms);
+Status secondPass(const OutputStage& stage, Element* y, const Element* transforms, bool isGrouped);
 
 // Where a group of neighbouring sequences to be folded stands: as many as a line holds, the first of them from
 // `forward` on and the others behind it, the mirror of the last of them from `mirrored` back and the others behind it.

@@ -24,9 +24,8 @@ struct Dct4Ports {
 template <std::ptrdiff_t step>
 using FixedStep = std::integral_constant<std::ptrdiff_t, step>;
 
-// One skew transform in the layout that holds R of them side by side: from one bin to the next are 2R elements (or
-// minus that many, for the part of a longer transform that is written backwards), from the real part of a bin to its
-// imaginary part are R.
+// One of R skew transforms that stand side by side: from one bin to the next are 2R elements (or minus that many, for
+// the part of a longer transform that is written backwards), from the real part of a bin to its imaginary part are R.
 template <class Element>
 struct SkewBins {
     using Place = typename InMemory<Element>::Type;
@@ -57,19 +56,20 @@ struct FoldPorts : Dct4Ports<Element> {
     ZULG_INLINE void minusIm(int k, double value) const { *bins.im(k) = static_cast<Element>(-value); }
 };
 
-// A row of r bins, which the layout of skew transforms keeps together, to 2r outputs.
-template <class Element, int radix, class Step>
+// A row of r bins to 2r outputs. `side` of them stand together, their real parts and then their imaginary parts.
+template <class Element, int side, class Step>
 struct OutputPorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
 
     const Place* row;
+    std::ptrdiff_t pitch;  // from the first `side` bins to the next
     const Place* entries;
     Place* up;    // rising output 0, the others at `step` behind it
     Place* down;  // falling output 0, the others at `step` before it
     Step step;
 
-    ZULG_INLINE double re(int c) const { return row[c]; }
-    ZULG_INLINE double im(int c) const { return row[radix + c]; }
+    ZULG_INLINE double re(int c) const { return row[pitch * (c / side) + c % side]; }
+    ZULG_INLINE double im(int c) const { return row[pitch * (c / side) + side + c % side]; }
     ZULG_INLINE double table(int i) const { return entries[i]; }
     ZULG_INLINE void rising(int b, double value) const { up[step * b] = static_cast<Element>(value); }
     ZULG_INLINE void falling(int b, double value) const { down[-step * b] = static_cast<Element>(value); }

@@ -28,8 +28,9 @@ void runPlan(const DctPlan& plan, const Element* pSrc, Element* pDst) {
         case 5: return runDirect<32>(pSrc, pDst);
     }
     Element* const transforms = static_cast<Element*>(plan.scratch.get());
-    firstPass(firstOf<FoldStage>(plan.pre), transforms, pSrc);
-    secondPass(firstOf<OutputStage>(plan.post), pDst, transforms);
+    const FoldStage& fold = firstOf<FoldStage>(plan.pre);
+    firstPass(fold, transforms, pSrc);
+    secondPass(firstOf<OutputStage>(plan.post), pDst, transforms, isGrouped(fold));
 }
 
 template void runPlan<float>(const DctPlan&, const float*, float*);

@@ -2,9 +2,7 @@
 // and destination is fetched once for all of them. The parts of a split stand where its results go, at the bins that
 // their row of the combine pass fills.
 //
-// A body that touches more lines of one distance than the cache keeps works on copies of them in the split's scratch
-// vector, which has room for them: only lengths M from 512 have bodies of 32 points, only those from 1024 have rows of
-// 32 bins, and only 2048 has bodies of 64 points.
+// A body that touches more lines of one distance than the cache keeps works on copies of them.
 #include <type_traits>
 
 #include "dct4/bodies/combine_16.h"
@@ -19,53 +17,43 @@
 namespace zulg {
 namespace {
 
-// `count` lines side by side: of places at one stride, the first half rising from one place, the second half falling to
-// another. In that order the last of the falling ones comes first, as it does there.
-template <int count, class Element>
-struct Lines {
-    static constexpr std::ptrdiff_t length = lineLength<Element>;
-    using Step = FixedStep<length>;
-    using Place = typename InMemory<Element>::Type;
+// Whether a body of `count` places, half of them rising and half of them falling, works on copies.
+constexpr bool takesCopies(int count) { return linesAreCopied && count / 2 > linesOfOneDistance; }
+
+// Copies of the lines that a fold body takes for a group, in the order of its inputs. They stand in the split's scratch
+// vector, which has room for them: only lengths M from 512 have bodies of 32 points, only 2048 has bodies of 64.
+template <int points, class Element>
+struct InputLines {
+    static constexpr std::ptrdiff_t length = lineLength<Element>, half = points / 2;
 
     Element* first;
 
-    // Where a body finds the places low + stride c and high - stride c of number p of the group.
-    Element* low(std::ptrdiff_t p) const { return first + p; }
-    Element* high(std::ptrdiff_t p) const { return first + length * (count / 2 + count - 1) + p; }
+    InputLines(Element* room, const GroupSource<Element>& from, std::ptrdiff_t step) : first(room) {
+        for (std::ptrdiff_t i = 0; i < half; ++i) {
+            copyLine(first + length * i, from.forward + step * i);
+            copyLine(first + length * (half + i), from.mirrored - step * (points - 1 - i));
+        }
+    }
 
-    void take(const Place* from, const Place* fromHigh, std::ptrdiff_t stride) const {
-        for (std::ptrdiff_t i = 0; i < count / 2; ++i) {
-            copyLine(first + length * i, from + stride * i);
-            copyLine(first + length * (count / 2 + i), fromHigh - stride * (count - 1 - i));
-        }
-    }
-    void put(Place* to, Place* toHigh, std::ptrdiff_t stride) const {
-        for (std::ptrdiff_t i = 0; i < count / 2; ++i) {
-            copyLine(to + stride * i, first + length * i);
-            copyLine(toHigh - stride * (count - 1 - i), first + length * (count / 2 + i));
-        }
-    }
+    // Where number p of the group finds its inputs. The last of the mirrored ones comes first, as it does there.
+    const Element* forward(std::ptrdiff_t p) const { return first + p; }
+    const Element* mirrored(std::ptrdiff_t p) const { return first + length * (half + points) - 1 - p; }
 };
-
-// Whether a body of `count` places, half of them rising and half of them falling, works on copies.
-constexpr bool takesCopies(int count) { return linesAreCopied && count / 2 > linesOfOneDistance; }
 
 template <int points, class Element>
 void foldGroup(const SkewSplit& split, const FoldStep& step, const GroupSource<Element>& from,
                const SkewBins<Element>& bins) {
-    constexpr std::ptrdiff_t length = lineLength<Element>, last = length - 1;
+    constexpr std::ptrdiff_t length = lineLength<Element>;
     if constexpr (takesCopies(points)) {
-        using Copies = Lines<points, Element>;
-        const Copies copies{static_cast<Element*>(split.scratch.get())};
-        copies.take(from.forward, from.mirrored, step.inputStep);
+        const InputLines<points, Element> lines(static_cast<Element*>(split.scratch.get()), from, step.inputStep);
         for (std::ptrdiff_t p = 0; p < length; ++p) {
-            Dct4Fold<points>::run(FoldPorts<Element, points, typename Copies::Step>{
-                {}, copies.low(p), copies.high(last - p), {}, bins.next(p)});
+            Dct4Fold<points>::run(FoldPorts<Element, points, FixedStep<length>>{
+                {}, lines.forward(p), lines.mirrored(p), {}, bins.next(p)});
         }
     } else {
         for (std::ptrdiff_t p = 0; p < length; ++p) {
             Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t>{
-                {}, from.forward + p, from.mirrored + (last - p), step.inputStep, bins.next(p)});
+                {}, from.forward + p, from.mirrored + (length - 1 - p), step.inputStep, bins.next(p)});
         }
     }
 }
@@ -111,10 +99,10 @@ struct CombineTable {
           outer(outerIsFirst ? entries : entries + innerEntries * rows) {}
 };
 
+// Row after row where the bins stand.
 template <int radix, class Element>
-void combineGroup(const SkewSplit& split, const CombineStage& stage, const SkewBins<Element>& bins) {
+void combineInPlace(const CombineStage& stage, const SkewBins<Element>& bins) {
     using Table = CombineTable<radix, Element>;
-    constexpr std::ptrdiff_t length = lineLength<Element>;
     const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
     const std::ptrdiff_t stride = stage.blockStride * bins.step;
     for (std::ptrdiff_t k = 0; k < stage.rows; ++k) {
@@ -122,39 +110,79 @@ void combineGroup(const SkewSplit& split, const CombineStage& stage, const SkewB
         const Element* const outer = table.outer + Table::outerEntries * k;
         Element* const low = bins.re(k);
         Element* const high = bins.re(stage.mirrorBase - k);
-        if constexpr (takesCopies(radix)) {
-            using Copies = Lines<radix, Element>;
-            const Copies real{static_cast<Element*>(split.scratch.get())};
-            const Copies imaginary{real.first + radix * length};
-            real.take(low, high, stride);
-            imaginary.take(low + bins.toImaginary, high + bins.toImaginary, stride);
-            for (std::ptrdiff_t p = 0; p < length; ++p) {
-                Dct4Combine<radix>::run(
-                    CombinePorts<Element, radix, typename Copies::Step, FixedStep<radix * length>>{
-                        {}, inner, outer, real.low(p), real.high(p), {}, {}});
+        for (std::ptrdiff_t p = 0; p < lineLength<Element>; ++p) {
+            Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, std::ptrdiff_t>{
+                {}, inner, outer, low + p, high + p, stride, bins.toImaginary});
+        }
+    }
+}
+
+// A row on copies, and between its bodies the row before it is put back and the row behind it is fetched, a few bins at
+// a time: a word is never read as a whole right after its halves were written, and no body waits for lines.
+template <int radix, class Element>
+void combineOnCopies(const CombineStage& stage, const SkewBins<Element>& bins) {
+    using Table = CombineTable<radix, Element>;
+    using Place = typename InMemory<Element>::Type;
+    constexpr std::ptrdiff_t length = lineLength<Element>, half = radix / 2;
+    constexpr std::ptrdiff_t binsAtOnce = 4, bodiesPerMove = length * binsAtOnce / radix;
+    const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
+    const std::ptrdiff_t stride = stage.blockStride * bins.step;
+    // In the order of addresses: the rising places of row 0, then the falling ones, the last of which comes first.
+    Place* const low = bins.re(0);
+    Place* const high = bins.re(stage.mirrorBase) - stride * (radix - 1);
+    alignas(lineBytes) Element blocks[2][2 * radix * length];
+    for (std::ptrdiff_t i = 0; i < half; ++i) {
+        copyBin(blocks[0] + 2 * length * i, length, low + stride * i, bins.toImaginary);
+        copyBin(blocks[0] + 2 * length * (half + i), length, high + stride * i, bins.toImaginary);
+    }
+    for (std::ptrdiff_t k = 0; k <= stage.rows; ++k) {
+        Element* const block = blocks[k % 2];
+        for (std::ptrdiff_t p = 0; p < length; ++p) {
+            if (k < stage.rows) {
+                Dct4Combine<radix>::run(CombinePorts<Element, radix, FixedStep<2 * length>, FixedStep<length>>{
+                    {},
+                    table.inner + Table::innerEntries * k,
+                    table.outer + Table::outerEntries * k,
+                    block + p,
+                    block + 2 * length * (half + radix - 1) + p,
+                    {},
+                    {}});
             }
-            real.put(low, high, stride);
-            imaginary.put(low + bins.toImaginary, high + bins.toImaginary, stride);
-        } else {
-            for (std::ptrdiff_t p = 0; p < length; ++p) {
-                Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, std::ptrdiff_t>{
-                    {}, inner, outer, low + p, high + p, stride, bins.toImaginary});
+            if (p % bodiesPerMove != 0) continue;
+            const std::ptrdiff_t from = p / bodiesPerMove * binsAtOnce;
+            const bool isHigh = from >= half;
+            const std::ptrdiff_t step = isHigh ? -bins.step : bins.step;
+            Place* at = (isHigh ? high + stride * (from - half) : low + stride * from) + step * k;
+            Element* copy = blocks[(k + 1) % 2] + 2 * length * from;
+            for (std::ptrdiff_t i = 0; i < binsAtOnce; ++i, at += stride, copy += 2 * length) {
+                if (k > 0) copyBin(at - step, bins.toImaginary, copy, length);
+                if (k + 1 < stage.rows) copyBin(copy, length, at + step, bins.toImaginary);
             }
         }
     }
 }
 
-// By the kind of a CombineStage; null for a kind out of range.
 template <class Element>
-using CombinePass = void(const SkewSplit&, const CombineStage&, const SkewBins<Element>&);
+using CombinePass = void(const CombineStage&, const SkewBins<Element>&);
+
+template <int radix, class Element>
+constexpr CombinePass<Element>* combineGroup() {
+    if constexpr (takesCopies(radix)) {
+        return combineOnCopies<radix>;
+    } else {
+        return combineInPlace<radix>;
+    }
+}
+
+// By the kind of a CombineStage; null for a kind out of range.
 template <class Element>
 CombinePass<Element>* combineOfKind(std::int32_t kind) {
     switch (kind) {
-        case 1: return combineGroup<2>;
-        case 2: return combineGroup<4>;
-        case 3: return combineGroup<8>;
-        case 4: return combineGroup<16>;
-        case 5: return combineGroup<32>;
+        case 1: return combineGroup<2, Element>();
+        case 2: return combineGroup<4, Element>();
+        case 3: return combineGroup<8, Element>();
+        case 4: return combineGroup<16, Element>();
+        case 5: return combineGroup<32, Element>();
         default: return nullptr;
     }
 }
@@ -179,7 +207,7 @@ Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const 
              {bins.re(isMirrored ? split.skewLength - 1 - bin : bin), isMirrored ? -bins.step : bins.step,
               bins.toImaginary});
     }
-    combine(split, stage, bins);
+    combine(stage, bins);
     return StatusOk;
 }
 

@@ -25,6 +25,11 @@ constexpr bool linesAreCopied = false;
 // The lines of one distance that the first cache keeps at a time.
 constexpr int linesOfOneDistance = 8;
 
+// Elements between the copies in a block: at distances of a power of two, some of them would share the lower bits of
+// their address with what the compiler keeps in the frame, and a load that follows such a store waits for it.
+template <class Element>
+constexpr std::ptrdiff_t lineGap = 16 / sizeof(Element);
+
 // What moves in one instruction. Bits move, never values.
 typedef std::uint64_t LineWord __attribute__((vector_size(16), aligned(1), may_alias));
 

@@ -70,31 +70,33 @@ bool isFarApart(const OutputStage& stage) {
 
 template <int radix, class Element>
 Status outputByLines(const OutputStage& stage, Element* y, const Element* transforms) {
-    constexpr std::ptrdiff_t length = lineLength<Element>, linesPerRow = 2 * radix / length;
+    constexpr std::ptrdiff_t length = lineLength<Element>, pitch = length + lineGap<Element>;
+    constexpr std::ptrdiff_t linesPerRow = 2 * radix / length;
     constexpr int side = binsTogether<radix, true, Element>;
+    using Ports = OutputPorts<Element, side, FixedStep<pitch>>;
     const std::ptrdiff_t stride = stage.blockStride;
     const Element* const entries = static_cast<const Element*>(stage.table.get());
     Element* const highest = y + stage.mirrorBase - radix * stride;
-    alignas(lineBytes) Element blocks[2][2 * radix * length];
+    alignas(lineBytes) Element blocks[2][2 * radix * pitch];
     for (std::ptrdiff_t m = 0; m < stage.rows + length; ++m) {
         const std::ptrdiff_t inBlock = m % length, start = m - inBlock, before = start - length;
         if (m < stage.rows) {
             Element* const block = blocks[start / length % 2];
-            Dct4Output<radix>::run(
-                OutputPorts<Element, side, FixedStep<length>>{{},
-                                                              transforms + 2 * side * m,
-                                                              2 * side * stage.rows,
-                                                              entries + 2 * radix * m,
-                                                              block + inBlock,
-                                                              block + (2 * radix * length - 1 - inBlock),
-                                                              {}});
+            const Ports ports{{},
+                              transforms + 2 * side * m,
+                              2 * side * stage.rows,
+                              entries + 2 * radix * m,
+                              block + inBlock,
+                              block + pitch * (2 * radix - 1) + length - 1 - inBlock,
+                              {}};
+            Dct4Output<radix>::run(ports);
         }
         if (before < 0) continue;
         const Element* const block = blocks[before / length % 2];
         for (std::ptrdiff_t b = inBlock * linesPerRow; b < (inBlock + 1) * linesPerRow; ++b) {
             Element* const rising = y + before + b * stride;
             Element* const falling = highest - before - (length - 1) - (2 * radix - 1 - b) * stride;
-            copyLine(b < radix ? rising : falling, block + length * b);
+            copyLine(b < radix ? rising : falling, block + pitch * b);
         }
     }
     return StatusOk;

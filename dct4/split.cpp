@@ -123,28 +123,28 @@ template <int radix, class Element>
 void combineOnCopies(const CombineStage& stage, const SkewBins<Element>& bins) {
     using Table = CombineTable<radix, Element>;
     using Place = typename InMemory<Element>::Type;
-    constexpr std::ptrdiff_t length = lineLength<Element>, half = radix / 2;
+    constexpr std::ptrdiff_t length = lineLength<Element>, pitch = 2 * length + lineGap<Element>, half = radix / 2;
     constexpr std::ptrdiff_t binsAtOnce = 4, bodiesPerMove = length * binsAtOnce / radix;
     const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
     const std::ptrdiff_t stride = stage.blockStride * bins.step;
     // In the order of addresses: the rising places of row 0, then the falling ones, the last of which comes first.
     Place* const low = bins.re(0);
     Place* const high = bins.re(stage.mirrorBase) - stride * (radix - 1);
-    alignas(lineBytes) Element blocks[2][2 * radix * length];
+    alignas(lineBytes) Element blocks[2][radix * pitch];
     for (std::ptrdiff_t i = 0; i < half; ++i) {
-        copyBin(blocks[0] + 2 * length * i, length, low + stride * i, bins.toImaginary);
-        copyBin(blocks[0] + 2 * length * (half + i), length, high + stride * i, bins.toImaginary);
+        copyBin(blocks[0] + pitch * i, length, low + stride * i, bins.toImaginary);
+        copyBin(blocks[0] + pitch * (half + i), length, high + stride * i, bins.toImaginary);
     }
     for (std::ptrdiff_t k = 0; k <= stage.rows; ++k) {
         Element* const block = blocks[k % 2];
         for (std::ptrdiff_t p = 0; p < length; ++p) {
             if (k < stage.rows) {
-                Dct4Combine<radix>::run(CombinePorts<Element, radix, FixedStep<2 * length>, FixedStep<length>>{
+                Dct4Combine<radix>::run(CombinePorts<Element, radix, FixedStep<pitch>, FixedStep<length>>{
                     {},
                     table.inner + Table::innerEntries * k,
                     table.outer + Table::outerEntries * k,
                     block + p,
-                    block + 2 * length * (half + radix - 1) + p,
+                    block + pitch * (half + radix - 1) + p,
                     {},
                     {}});
             }
@@ -153,8 +153,8 @@ void combineOnCopies(const CombineStage& stage, const SkewBins<Element>& bins) {
             const bool isHigh = from >= half;
             const std::ptrdiff_t step = isHigh ? -bins.step : bins.step;
             Place* at = (isHigh ? high + stride * (from - half) : low + stride * from) + step * k;
-            Element* copy = blocks[(k + 1) % 2] + 2 * length * from;
-            for (std::ptrdiff_t i = 0; i < binsAtOnce; ++i, at += stride, copy += 2 * length) {
+            Element* copy = blocks[(k + 1) % 2] + pitch * from;
+            for (std::ptrdiff_t i = 0; i < binsAtOnce; ++i, at += stride, copy += pitch) {
                 if (k > 0) copyBin(at - step, bins.toImaginary, copy, length);
                 if (k + 1 < stage.rows) copyBin(copy, length, at + step, bins.toImaginary);
             }

@@ -75,13 +75,14 @@ struct OutputPorts : Dct4Ports<Element> {
     ZULG_INLINE void falling(int b, double value) const { down[-step * b] = static_cast<Element>(value); }
 };
 
-// A row of r bins in place: the lower half of them rises from one bin, the upper half falls from the mirror of it.
-template <class Element, int radix, class Step, class ToImaginary>
+// A row of r bins in place: the lower half of them rises from one bin, the upper half falls from the mirror of it. An
+// Entry is an element of the plan's table, or a double where the row has been widened.
+template <class Element, int radix, class Step, class ToImaginary, class Entry = Element>
 struct CombinePorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
 
-    const Place* entries;       // of the only step, or of the inner one
-    const Place* outerEntries;  // of the outer step
+    const Entry* entries;       // of the only step, or of the inner one
+    const Entry* outerEntries;  // of the outer step
     Place* low;
     Place* high;
     Step step;

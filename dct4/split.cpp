@@ -114,7 +114,9 @@ ZULG_INLINE void combineRow(const CombineStage& stage, std::ptrdiff_t k, const E
 // Whether the table entries of a row are widened to double once for all of a group. On x86-64 that takes 2.5 % off a
 // transform of 4096 singles; longer bodies lose, and the x87 widens for nothing when it loads.
 template <int radix, class Element>
-constexpr bool widensEntries = linesAreCopied&& radix <= 8 && std::is_same_v<Element, float>;
+constexpr bool widensEntries() {
+    return linesAreCopied && radix <= 8 && std::is_same_v<Element, float>;
+}
 
 // Row after row where the bins stand.
 template <int radix, class Element>
@@ -124,7 +126,7 @@ void combineInPlace(const CombineStage& stage, const SkewBins<Element>& bins) {
     for (std::ptrdiff_t k = 0; k < stage.rows; ++k) {
         const Element* const inner = table.inner + Table::innerEntries * k;
         const Element* const outer = table.outer + Table::outerEntries * k;
-        if constexpr (widensEntries<radix, Element>) {
+        if constexpr (widensEntries<radix, Element>()) {
             static_assert(!Table::hasTwoSteps);
             double wide[Table::innerEntries];
             for (std::ptrdiff_t i = 0; i < Table::innerEntries; ++i) wide[i] = inner[i];

@@ -173,6 +173,28 @@ TYPED_TEST(Dct4Test, AnImpulseAtZeroGivesTheFirstColumn) {
     }
 }
 
+// The bodies and rows of 32 inside a second level of SkewSplit, in its rising and its falling parts, come first at
+// 2^20; at 2^21 the folds of 64 points do. All bins of an input with few values.
+TYPED_TEST(Dct4Test, ComputesTheDefinitionWithEveryBodyInTheSecondLevel) {
+    for (int length = 1 << 18; length <= 1 << 21; length *= 2) {
+        std::vector<TypeParam> x(static_cast<std::size_t>(length));
+        const int places[] = {5, length / 3, length - 2};
+        for (int place : places) x[static_cast<std::size_t>(place)] = static_cast<TypeParam>(place % 7 + 1);
+        const auto y = Planned<TypeParam>(length).run(x);
+        const long long period = 8LL * length;
+        double worst = 0;
+        for (int k = 0; k < length; ++k) {
+            Wide due = 0;
+            for (int place : places) {
+                const auto j = static_cast<int>((2LL * place + 1) * (2LL * k + 1) % period);
+                due += x[static_cast<std::size_t>(place)] * cosTurn(j, static_cast<int>(period));
+            }
+            worst = std::max(worst, static_cast<double>(std::abs(y[static_cast<std::size_t>(k)] - due)));
+        }
+        EXPECT_LT(worst, 100 * this->unit) << length;
+    }
+}
+
 TYPED_TEST(Dct4Test, LengthTwoHasNoFactor) {
     const auto y = Planned<TypeParam>(2).run({1, 0});
     EXPECT_NEAR(y[0], std::cos(3.141592653589793 / 8), this->unit);

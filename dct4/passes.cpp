@@ -119,7 +119,7 @@ Status firstPass(const FoldStage& stage, Element* transforms, const Element* x) 
 }
 
 template <class Element>
-Status secondPass(const OutputStage& stage, Element* y, const Element* transforms, bool isGrouped) {
+Status secondPass(const OutputStage& stage, Element* y, const Element* transforms, bool grouped) {
     switch (stage.kind) {
         case 1: return outputAll<1>(stage, y, transforms);
         case 2: return outputAll<2>(stage, y, transforms);
@@ -127,7 +127,7 @@ Status secondPass(const OutputStage& stage, Element* y, const Element* transform
         case 4: return outputAll<8>(stage, y, transforms);
         case 5: return outputAll<16>(stage, y, transforms);
         case 6:
-            if (!isGrouped) return outputAll<32>(stage, y, transforms);
+            if (!grouped) return outputAll<32>(stage, y, transforms);
             return isFarApart<Element>(stage) ? outputByLines<32>(stage, y, transforms)
                                               : outputAll<32, true>(stage, y, transforms);
         default: return StatusPlanKindError;

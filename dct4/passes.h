@@ -9,8 +9,8 @@
 namespace zulg {
 
 // The first pass leaves its r skew transforms side by side, all r in one or, where splits make them, in groups of as
-// many as a line holds, one group behind the other. A group is dense in memory: the combine pass of a split goes over
-// it again and again, and a quarter of every line would fill a quarter of the cache.
+// many as a line holds, one group behind the other. A group is dense in memory: bodies come back to its lines for each
+// of the group, and lines that stand apart by the width of a row would fall into a fraction of the cache.
 constexpr bool isGrouped(const FoldStage& stage) { return stage.kind == splitFold; }
 
 // First pass: the r skew transforms of length M, from x.
@@ -19,7 +19,7 @@ Status firstPass(const FoldStage& stage, Element* transforms, const Element* x);
 
 // Second pass: row by row, from the skew transforms to the result.
 template <class Element>
-Status secondPass(const OutputStage& stage, Element* y, const Element* transforms, bool isGrouped);
+Status secondPass(const OutputStage& stage, Element* y, const Element* transforms, bool grouped);
 
 // Where a group of neighbouring sequences to be folded stands: as many as a line holds, the first of them from
 // `forward` on and the others behind it, the mirror of the last of them from `mirrored` back and the others behind it.

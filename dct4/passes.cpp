@@ -17,7 +17,7 @@ template <int points, class Element>
 Status foldAll(const FoldStage& stage, Element* transforms, const Element* x) {
     const std::ptrdiff_t r = stage.count;
     for (std::ptrdiff_t p = 0; p < r; ++p) {
-        Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t>{
+        Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t, SkewBins<Element>>{
             {}, x + p, x + (stage.mirrorBase - p), stage.inputStep, {transforms + p, 2 * r, r}});
     }
     return StatusOk;
@@ -31,7 +31,7 @@ Status foldBySplits(const FoldStage& stage, Element* transforms, const Element* 
     const std::ptrdiff_t group = lineLength<Element>;
     for (std::ptrdiff_t p = 0; p < stage.count; p += group) {
         runSplit<Element>(split, {x + p, x + (stage.mirrorBase - p - (group - 1))},
-                          {transforms + stage.skewLength * p, 2 * group, group});
+                          {transforms + stage.skewLength * p, 2 * group, {}});
     }
     return StatusOk;
 }

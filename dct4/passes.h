@@ -2,6 +2,7 @@
 // StatusPlanKindError, which those who run a pass do not look at.
 #pragma once
 
+#include "dct4/lines.h"
 #include "dct4/ports.h"
 #include "dct4/radix.h"
 #include "dct4/records.h"
@@ -29,11 +30,18 @@ struct GroupSource {
 
     const Place* forward;
     const Place* mirrored;
+
+    // The group `shift` further on.
+    GroupSource next(std::ptrdiff_t shift) const { return {forward + shift, mirrored - shift}; }
 };
+
+// The bins of the first of a group: from one to the next are two lines, forward or back.
+template <class Element>
+using GroupBins = SkewBins<Element, std::ptrdiff_t, FixedStep<lineLength<Element>>>;
 
 // The skew transforms of a group, by a SkewSplit, to the bins of the first of them and its neighbours; nothing for a
 // split that is not active.
 template <class Element>
-Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const SkewBins<Element>& bins);
+Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const GroupBins<Element>& bins);
 
 }  // namespace zulg

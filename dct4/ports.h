@@ -26,34 +26,37 @@ using FixedStep = std::integral_constant<std::ptrdiff_t, step>;
 
 // One of R skew transforms that stand side by side: from one bin to the next are 2R elements (or minus that many, for
 // the part of a longer transform that is written backwards), from the real part of a bin to its imaginary part are R.
-template <class Element>
+template <class Element, class Step = std::ptrdiff_t, class ToImaginary = std::ptrdiff_t>
 struct SkewBins {
     using Place = typename InMemory<Element>::Type;
 
     Place* first;  // the real part of bin 0
-    std::ptrdiff_t step, toImaginary;
+    Step step;
+    ToImaginary toImaginary;
 
     ZULG_INLINE Place* re(std::ptrdiff_t k) const { return first + step * k; }
     ZULG_INLINE Place* im(std::ptrdiff_t k) const { return first + step * k + toImaginary; }
+    ZULG_INLINE void setRe(std::ptrdiff_t k, double value) const { *re(k) = static_cast<Element>(value); }
+    ZULG_INLINE void setIm(std::ptrdiff_t k, double value) const { *im(k) = static_cast<Element>(value); }
     // The same of the transform `c` further on.
     ZULG_INLINE SkewBins next(std::ptrdiff_t c) const { return {first + c, step, toImaginary}; }
 };
 
 // A folded sequence of M values: M/2 going forward from one place, M/2 going back from its mirror, which the body takes
-// with their signs turned.
-template <class Element, int points, class Step>
+// with their signs turned. Bins are SkewBins, of elements or of the double they are held in.
+template <class Element, int points, class Step, class Bins>
 struct FoldPorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
 
     const Place* forward;
     const Place* mirrored;
     Step step;
-    SkewBins<Element> bins;
+    Bins bins;
 
     ZULG_INLINE double in(int s) const { return s < points / 2 ? forward[step * s] : mirrored[-step * s]; }
-    ZULG_INLINE void re(int k, double value) const { *bins.re(k) = static_cast<Element>(value); }
-    ZULG_INLINE void im(int k, double value) const { *bins.im(k) = static_cast<Element>(value); }
-    ZULG_INLINE void minusIm(int k, double value) const { *bins.im(k) = static_cast<Element>(-value); }
+    ZULG_INLINE void re(int k, double value) const { bins.setRe(k, value); }
+    ZULG_INLINE void im(int k, double value) const { bins.setIm(k, value); }
+    ZULG_INLINE void minusIm(int k, double value) const { bins.setIm(k, -value); }
 };
 
 // A row of r bins to 2r outputs. `side` of them stand together, their real parts and then their imaginary parts.
@@ -96,6 +99,17 @@ struct CombinePorts : Dct4Ports<Element> {
     ZULG_INLINE double outer(int i) const { return outerEntries[i]; }
     ZULG_INLINE void re(int e, double value) const { *at(e) = static_cast<Element>(value); }
     ZULG_INLINE void im(int e, double value) const { at(e)[toImaginary] = static_cast<Element>(value); }
+};
+
+// The same with the bins read from a vector of their own, one behind the other.
+template <class Element, int radix, class Source, class Step, class ToImaginary>
+struct CombineFromPorts : CombinePorts<Element, radix, Step, ToImaginary, double> {
+    Source source;
+
+    using CombinePorts<Element, radix, Step, ToImaginary, double>::re;
+    using CombinePorts<Element, radix, Step, ToImaginary, double>::im;
+    ZULG_INLINE double re(int c) const { return *source.re(c); }
+    ZULG_INLINE double im(int c) const { return *source.im(c); }
 };
 
 template <class Element>

@@ -1,6 +1,6 @@
 // Fold and combine for a group of neighbouring transforms at once: as many as a line holds, so that each line of source
-// and destination is fetched once for all of them. The parts of a split stand where its results go, at the bins that
-// their row of the combine pass fills.
+// and destination is fetched once for all of them. The parts of a split stand in the frame, in double, or where its
+// results go, at the bins that their row of the combine pass fills.
 //
 // A body that touches more lines of one distance than the cache keeps works on copies of them.
 #include <type_traits>
@@ -40,19 +40,18 @@ struct InputLines {
     const Element* mirrored(std::ptrdiff_t p) const { return first + length * (half + points) - 1 - p; }
 };
 
-template <int points, class Element>
-void foldGroup(const SkewSplit& split, const FoldStep& step, const GroupSource<Element>& from,
-               const SkewBins<Element>& bins) {
+template <int points, class Element, class Bins>
+void foldGroup(const SkewSplit& split, const FoldStep& step, const GroupSource<Element>& from, const Bins& bins) {
     constexpr std::ptrdiff_t length = lineLength<Element>;
     if constexpr (takesCopies(points)) {
         const InputLines<points, Element> lines(static_cast<Element*>(split.scratch.get()), from, step.inputStep);
         for (std::ptrdiff_t p = 0; p < length; ++p) {
-            Dct4Fold<points>::run(FoldPorts<Element, points, FixedStep<length>>{
+            Dct4Fold<points>::run(FoldPorts<Element, points, FixedStep<length>, Bins>{
                 {}, lines.forward(p), lines.mirrored(p), {}, bins.next(p)});
         }
     } else {
         for (std::ptrdiff_t p = 0; p < length; ++p) {
-            Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t>{
+            Dct4Fold<points>::run(FoldPorts<Element, points, std::ptrdiff_t, Bins>{
                 {}, from.forward + p, from.mirrored + (length - 1 - p), step.inputStep, bins.next(p)});
         }
     }
@@ -60,13 +59,13 @@ void foldGroup(const SkewSplit& split, const FoldStep& step, const GroupSource<E
 
 template <class Element>
 void foldDeeper(const SkewSplit&, const FoldStep& step, const GroupSource<Element>& from,
-                const SkewBins<Element>& bins) {
+                const GroupBins<Element>& bins) {
     runSplit(firstOf<SkewSplit>(step.children), from, bins);
 }
 
 // By the kind of a FoldStep; null for a kind out of range.
 template <class Element>
-using FoldPart = void(const SkewSplit&, const FoldStep&, const GroupSource<Element>&, const SkewBins<Element>&);
+using FoldPart = void(const SkewSplit&, const FoldStep&, const GroupSource<Element>&, const GroupBins<Element>&);
 template <class Element>
 FoldPart<Element>* foldOfKind(std::int32_t kind) {
     switch (kind) {
@@ -99,40 +98,24 @@ struct CombineTable {
           outer(outerIsFirst ? entries : entries + innerEntries * rows) {}
 };
 
-template <int radix, class Entry, class Element>
-ZULG_INLINE void combineRow(const CombineStage& stage, std::ptrdiff_t k, const Entry* inner, const Entry* outer,
-                            const SkewBins<Element>& bins) {
-    const std::ptrdiff_t stride = stage.blockStride * bins.step;
-    Element* const low = bins.re(k);
-    Element* const high = bins.re(stage.mirrorBase - k);
-    for (std::ptrdiff_t p = 0; p < lineLength<Element>; ++p) {
-        Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, std::ptrdiff_t, Entry>{
-            {}, inner, outer, low + p, high + p, stride, bins.toImaginary});
-    }
-}
-
-// Whether the table entries of a row are widened to double once for all of a group. On x86-64 that takes 2.5 % off a
-// transform of 4096 singles; longer bodies lose, and the x87 widens for nothing when it loads.
-template <int radix, class Element>
-constexpr bool widensEntries() {
-    return linesAreCopied && radix <= 8 && std::is_same_v<Element, float>;
-}
-
 // Row after row where the bins stand.
 template <int radix, class Element>
-void combineInPlace(const CombineStage& stage, const SkewBins<Element>& bins) {
+void combineInPlace(const CombineStage& stage, const GroupBins<Element>& bins) {
     using Table = CombineTable<radix, Element>;
     const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
+    const std::ptrdiff_t stride = stage.blockStride * bins.step;
     for (std::ptrdiff_t k = 0; k < stage.rows; ++k) {
-        const Element* const inner = table.inner + Table::innerEntries * k;
-        const Element* const outer = table.outer + Table::outerEntries * k;
-        if constexpr (widensEntries<radix, Element>()) {
-            static_assert(!Table::hasTwoSteps);
-            double wide[Table::innerEntries];
-            for (std::ptrdiff_t i = 0; i < Table::innerEntries; ++i) wide[i] = inner[i];
-            combineRow<radix, double>(stage, k, wide, nullptr, bins);
-        } else {
-            combineRow<radix>(stage, k, inner, outer, bins);
+        Element* const low = bins.re(k);
+        Element* const high = bins.re(stage.mirrorBase - k);
+        for (std::ptrdiff_t p = 0; p < lineLength<Element>; ++p) {
+            Dct4Combine<radix>::run(CombinePorts<Element, radix, std::ptrdiff_t, decltype(bins.toImaginary)>{
+                {},
+                table.inner + Table::innerEntries * k,
+                table.outer + Table::outerEntries * k,
+                low + p,
+                high + p,
+                stride,
+                {}});
         }
     }
 }
@@ -140,7 +123,7 @@ void combineInPlace(const CombineStage& stage, const SkewBins<Element>& bins) {
 // A row on copies, and between its bodies the row before it is put back and the row behind it is fetched, a few bins at
 // a time: a word is never read as a whole right after its halves were written, and no body waits for lines.
 template <int radix, class Element>
-void combineOnCopies(const CombineStage& stage, const SkewBins<Element>& bins) {
+void combineOnCopies(const CombineStage& stage, const GroupBins<Element>& bins) {
     using Table = CombineTable<radix, Element>;
     using Place = typename InMemory<Element>::Type;
     constexpr std::ptrdiff_t length = lineLength<Element>, pitch = 2 * length + lineGap<Element>, half = radix / 2;
@@ -183,7 +166,7 @@ void combineOnCopies(const CombineStage& stage, const SkewBins<Element>& bins) {
 }
 
 template <class Element>
-using CombinePass = void(const CombineStage&, const SkewBins<Element>&);
+using CombinePass = void(const CombineStage&, const GroupBins<Element>&);
 
 template <int radix, class Element>
 constexpr CombinePass<Element>* combineGroup() {
@@ -207,13 +190,72 @@ CombinePass<Element>* combineOfKind(std::int32_t kind) {
     }
 }
 
+// Whether a split that is one level deep and short enough keeps the parts of a group in the frame, where they need not
+// be narrowed: of five conversions of an element two fall away, each of which takes the time of an addition and of a
+// multiplication, 8 % of a transform of 4096 or 8192 points. Doubles gain nothing by it, and the x87 converts for
+// nothing.
+template <class Element>
+constexpr bool partsStayInFrame() {
+    return linesAreCopied && std::is_same_v<Element, float>;
+}
+
+// The combine pass finds a row's bins one behind the other. All places but those of the source are at distances that
+// the compiler knows; `direction` is 1, or -1 where the bins are written backwards.
+template <int points, int radix, int direction, class Element>
+void splitInFrame(const SkewSplit& split, const GroupSource<Element>& from, const GroupBins<Element>& bins) {
+    using Table = CombineTable<radix, Element>;
+    constexpr std::ptrdiff_t length = lineLength<Element>, binStep = direction * 2 * length;
+    constexpr std::ptrdiff_t rows = points / 2, highest = points * radix - 1;
+    constexpr std::ptrdiff_t oneLine = lineBytes / sizeof(double), pitch = 2 * length * radix + oneLine;
+    using Part = SkewBins<double, FixedStep<pitch>, FixedStep<length>>;
+    using Row = SkewBins<double, FixedStep<2 * length>, FixedStep<length>>;
+    using Ports = CombineFromPorts<Element, radix, Row, FixedStep<binStep * points>, FixedStep<length>>;
+    const auto& step = firstOf<FoldStep>(split.pre);
+    const auto& stage = firstOf<CombineStage>(split.post);
+    alignas(lineBytes) double parts[rows * pitch];
+    for (std::ptrdiff_t c = 0; c < radix; ++c) {
+        foldGroup<points>(split, step, from.next(step.subStep * c), Part{parts + 2 * length * c, {}, {}});
+    }
+    const Table table(static_cast<const Element*>(stage.table.get()), rows);
+    for (std::ptrdiff_t k = 0; k < rows; ++k) {
+        double entries[Table::innerEntries + Table::outerEntries];
+        double* const outer = entries + Table::innerEntries;
+        for (std::ptrdiff_t i = 0; i < Table::innerEntries; ++i) entries[i] = table.inner[Table::innerEntries * k + i];
+        for (std::ptrdiff_t i = 0; i < Table::outerEntries; ++i) outer[i] = table.outer[Table::outerEntries * k + i];
+        for (std::ptrdiff_t p = 0; p < length; ++p) {
+            Element* const first = bins.first + p;
+            Dct4Combine<radix>::run(
+                Ports{{{}, entries, outer, first + binStep * k, first + binStep * (highest - k), {}, {}},
+                      {parts + pitch * k + p, {}, {}}});
+        }
+    }
+}
+
+// By the kinds of a FoldStep and of a CombineStage, for the lengths M of 128, 256 and 512; null for any others.
+template <class Element>
+using WholeSplit = void(const SkewSplit&, const GroupSource<Element>&, const GroupBins<Element>&);
+template <int direction, class Element>
+WholeSplit<Element>* splitOfKinds(std::int32_t fold, std::int32_t combine) {
+    if constexpr (partsStayInFrame<Element>()) {
+        if (fold == 4 && combine == 3) return splitInFrame<16, 8, direction>;
+        if (fold == 4 && combine == 4) return splitInFrame<16, 16, direction>;
+        if (fold == 5 && combine == 4) return splitInFrame<32, 16, direction>;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 template <class Element>
-Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const SkewBins<Element>& bins) {
+Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const GroupBins<Element>& bins) {
     if (split.active != 1) return StatusOk;
     const auto& step = firstOf<FoldStep>(split.pre);
     const auto& stage = firstOf<CombineStage>(split.post);
+    const auto kinds = bins.step > 0 ? splitOfKinds<1, Element> : splitOfKinds<-1, Element>;
+    if (const auto whole = kinds(step.kind, stage.kind)) {
+        whole(split, from, bins);
+        return StatusOk;
+    }
     // Both are looked up first: a refusal leaves the destination as it is.
     const auto fold = foldOfKind<Element>(step.kind);
     const auto combine = combineOfKind<Element>(stage.kind);
@@ -221,17 +263,16 @@ Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const 
 
     // Part c goes to the bins k + c M', in the upper half of the parts to the mirrored ones, M - 1 - k - c M'.
     for (std::ptrdiff_t c = 0; c < step.count; ++c) {
-        const std::ptrdiff_t shift = step.subStep * c, bin = step.skewLength * c;
+        const std::ptrdiff_t bin = step.skewLength * c;
         const bool isMirrored = c >= step.count / 2;
-        fold(split, step, {from.forward + shift, from.mirrored - shift},
-             {bins.re(isMirrored ? split.skewLength - 1 - bin : bin), isMirrored ? -bins.step : bins.step,
-              bins.toImaginary});
+        fold(split, step, from.next(step.subStep * c),
+             {bins.re(isMirrored ? split.skewLength - 1 - bin : bin), isMirrored ? -bins.step : bins.step, {}});
     }
     combine(stage, bins);
     return StatusOk;
 }
 
-template Status runSplit<float>(const SkewSplit&, const GroupSource<float>&, const SkewBins<float>&);
-template Status runSplit<double>(const SkewSplit&, const GroupSource<double>&, const SkewBins<double>&);
+template Status runSplit<float>(const SkewSplit&, const GroupSource<float>&, const GroupBins<float>&);
+template Status runSplit<double>(const SkewSplit&, const GroupSource<double>&, const GroupBins<double>&);
 
 }  // namespace zulg

@@ -1,6 +1,9 @@
 // The DCT-IV through the boundary: values, accuracy, arrays, lengths that are accepted by accident, statuses, and what
 // is asked of the core library.
 #include <gtest/gtest.h>
+#ifndef _WIN32
+#include <pthread.h>
+#endif
 
 #include <algorithm>
 #include <cmath>
@@ -494,6 +497,42 @@ TYPED_TEST(Dct4Test, ThreadsWithPlansOfTheirOwnDoNotMeet) {
     for (std::thread& thread : threads) thread.join();
     EXPECT_EQ(wrong, std::vector<int>(4));
 }
+
+#ifndef _WIN32
+// Bytes of a stack that a thread has left untouched when it ran a plan: all of them were set before.
+template <class Element>
+std::ptrdiff_t stackLeftBy(int length) {
+    struct Run {
+        Planned<Element> planned;
+        std::vector<Element> x, y;
+    };
+    constexpr std::uint8_t untouched = 0xA5;
+    std::vector<std::uint8_t> stack(1 << 18, untouched);
+    const auto count = static_cast<std::size_t>(length);
+    Run run{Planned<Element>(length), std::vector<Element>(count), std::vector<Element>(count)};
+    const auto start = [](void* argument) -> void* {
+        auto& of = *static_cast<Run*>(argument);
+        routines<Element>().run(of.x.data(), of.y.data(), of.planned.plan);
+        return nullptr;
+    };
+    pthread_attr_t attributes;
+    pthread_t thread;
+    EXPECT_EQ(pthread_attr_init(&attributes), 0);
+    EXPECT_EQ(pthread_attr_setstack(&attributes, stack.data(), stack.size()), 0);
+    EXPECT_EQ(pthread_create(&thread, &attributes, start, &run), 0);
+    EXPECT_EQ(pthread_join(thread, nullptr), 0);
+    pthread_attr_destroy(&attributes);
+    return std::find_if(stack.begin(), stack.end(), [](std::uint8_t b) { return b != untouched; }) - stack.begin();
+}
+
+// A thread and the loader take stack too: what a run of 2 points leaves is theirs.
+TYPED_TEST(Dct4Test, TakesNoMoreStackThanTheHeaderSays) {
+    const std::ptrdiff_t most = (this->isSingle ? 72 : 16) << 10, leftByTwo = stackLeftBy<TypeParam>(2);
+    for (int length = 64; length <= 1 << 19; length *= 2) {
+        EXPECT_LE(leftByTwo - stackLeftBy<TypeParam>(length), most) << length;
+    }
+}
+#endif
 
 }  // namespace
 }  // namespace test

@@ -3,6 +3,7 @@
 // results go, at the bins that their row of the combine pass fills.
 //
 // A body that touches more lines of one distance than the cache keeps works on copies of them.
+#include <algorithm>
 #include <type_traits>
 
 #include "dct4/bodies/combine_16.h"
@@ -80,6 +81,14 @@ FoldPart<Element>* foldOfKind(std::int32_t kind) {
     }
 }
 
+// Where part c goes: to the bins k + c M', in the upper half of the parts to the mirrored ones, M - 1 - k - c M'.
+template <class Element>
+GroupBins<Element> partBins(const FoldStep& step, const GroupBins<Element>& bins, std::ptrdiff_t c) {
+    const std::ptrdiff_t bin = step.skewLength * c;
+    if (c < step.count / 2) return {bins.re(bin), bins.step, {}};
+    return {bins.re(step.parentSkewLength - 1 - bin), -bins.step, {}};
+}
+
 // How the table of a combine stage is laid out: entries of a row in the only or inner step, and in the outer step, each
 // step in a section of its own.
 template <int radix, class Element>
@@ -97,6 +106,43 @@ struct CombineTable {
         : inner(outerIsFirst ? entries + outerEntries * rows : entries),
           outer(outerIsFirst ? entries : entries + innerEntries * rows) {}
 };
+
+// The entries of row k as bodies on x86-64 take them: singles are widened once for all of a group, which takes 2 to 4 %
+// off a transform of 32768. The x87 widens for nothing when it loads.
+template <int radix, class Element>
+class RowEntries {
+public:
+    using Table = CombineTable<radix, Element>;
+
+    RowEntries(const Table& table, std::ptrdiff_t k) {
+        for (std::ptrdiff_t i = 0; i < Table::innerEntries; ++i) all[i] = table.inner[Table::innerEntries * k + i];
+        double* const behind = all + Table::innerEntries;
+        for (std::ptrdiff_t i = 0; i < Table::outerEntries; ++i) behind[i] = table.outer[Table::outerEntries * k + i];
+    }
+    const double* inner() const { return all; }
+    const double* outer() const { return all + Table::innerEntries; }
+
+private:
+    double all[Table::innerEntries + Table::outerEntries];
+};
+template <int radix>
+class RowEntries<radix, double> {
+public:
+    using Table = CombineTable<radix, double>;
+
+    RowEntries(const Table& table, std::ptrdiff_t k)
+        : first(table.inner + Table::innerEntries * k), second(table.outer + Table::outerEntries * k) {}
+    const double* inner() const { return first; }
+    const double* outer() const { return second; }
+
+private:
+    const double* first;
+    const double* second;
+};
+
+// To be said before each body that takes them: otherwise the compiler fetches all entries of a row at once, to keep
+// most of them in another place of the frame, which takes 3 % of a pass.
+inline void leaveInPlace(const double* entries) { asm volatile("" : : "r"(entries) : "memory"); }
 
 // Row after row where the bins stand.
 template <int radix, class Element>
@@ -120,49 +166,73 @@ void combineInPlace(const CombineStage& stage, const GroupBins<Element>& bins) {
     }
 }
 
-// A row on copies, and between its bodies the row before it is put back and the row behind it is fetched, a few bins at
-// a time: a word is never read as a whole right after its halves were written, and no body waits for lines.
+// Parts of a group in the frame, in double: the bins that a row of the combine pass takes stand one behind the other,
+// and a line lies between rows.
 template <int radix, class Element>
-void combineOnCopies(const CombineStage& stage, const GroupBins<Element>& bins) {
-    using Table = CombineTable<radix, Element>;
+struct FrameParts {
+    static constexpr std::ptrdiff_t length = lineLength<Element>;
+    static constexpr std::ptrdiff_t pitch =
+        2 * length * radix + lineBytes / static_cast<std::ptrdiff_t>(sizeof(double));
+
+    using Part = SkewBins<double, FixedStep<pitch>, FixedStep<length>>;
+    using Row = SkewBins<double, FixedStep<2 * length>, FixedStep<length>>;
+
+    double* first;
+
+    Part part(std::ptrdiff_t c) const { return {first + 2 * length * c, {}, {}}; }
+    Row row(std::ptrdiff_t k) const { return {first + pitch * k, {}, {}}; }
+};
+
+// A row on copies, and between its bodies the row before it is put back and the row behind it is fetched, a few bins at
+// a time: a word is never read as a whole right after its halves were written, and no body waits for lines. Rows whose
+// parts are in the frame are only put back.
+template <int radix, int rowsInFrame, class Element>
+void combineRows(const CombineStage& stage, const GroupBins<Element>& bins, const FrameParts<radix, Element>& parts) {
     using Place = typename InMemory<Element>::Type;
+    using Row = typename FrameParts<radix, Element>::Row;
     constexpr std::ptrdiff_t length = lineLength<Element>, pitch = 2 * length + lineGap<Element>, half = radix / 2;
     constexpr std::ptrdiff_t binsAtOnce = 4, bodiesPerMove = length * binsAtOnce / radix;
-    const Table table(static_cast<const Element*>(stage.table.get()), stage.rows);
+    using Copies = CombinePorts<Element, radix, FixedStep<pitch>, FixedStep<length>, double>;
+    using FromFrame = CombineFromPorts<Element, radix, Row, FixedStep<pitch>, FixedStep<length>>;
+    const CombineTable<radix, Element> table(static_cast<const Element*>(stage.table.get()), stage.rows);
     const std::ptrdiff_t stride = stage.blockStride * bins.step;
     // In the order of addresses: the rising places of row 0, then the falling ones, the last of which comes first.
     Place* const low = bins.re(0);
     Place* const high = bins.re(stage.mirrorBase) - stride * (radix - 1);
     alignas(lineBytes) Element blocks[2][radix * pitch];
-    for (std::ptrdiff_t i = 0; i < half; ++i) {
+    for (std::ptrdiff_t i = 0; i < half && rowsInFrame == 0; ++i) {
         copyBin(blocks[0] + pitch * i, length, low + stride * i, bins.toImaginary);
         copyBin(blocks[0] + pitch * (half + i), length, high + stride * i, bins.toImaginary);
     }
     for (std::ptrdiff_t k = 0; k <= stage.rows; ++k) {
         Element* const block = blocks[k % 2];
+        const RowEntries<radix, Element> entries(table, std::min<std::ptrdiff_t>(k, stage.rows - 1));
         for (std::ptrdiff_t p = 0; p < length; ++p) {
-            if (k < stage.rows) {
-                Dct4Combine<radix>::run(CombinePorts<Element, radix, FixedStep<pitch>, FixedStep<length>>{
-                    {},
-                    table.inner + Table::innerEntries * k,
-                    table.outer + Table::outerEntries * k,
-                    block + p,
-                    block + pitch * (half + radix - 1) + p,
-                    {},
-                    {}});
+            const Copies copies{
+                {}, entries.inner(), entries.outer(), block + p, block + pitch * (half + radix - 1) + p, {}, {}};
+            leaveInPlace(entries.inner());
+            if (k < rowsInFrame) {
+                Dct4Combine<radix>::run(FromFrame{copies, parts.row(k).next(p)});
+            } else if (k < stage.rows) {
+                Dct4Combine<radix>::run(copies);
             }
             if (p % bodiesPerMove != 0) continue;
             const std::ptrdiff_t from = p / bodiesPerMove * binsAtOnce;
-            const bool isHigh = from >= half;
+            const bool isHigh = from >= half, isFetched = k + 1 >= rowsInFrame && k + 1 < stage.rows;
             const std::ptrdiff_t step = isHigh ? -bins.step : bins.step;
             Place* at = (isHigh ? high + stride * (from - half) : low + stride * from) + step * k;
             Element* copy = blocks[(k + 1) % 2] + pitch * from;
             for (std::ptrdiff_t i = 0; i < binsAtOnce; ++i, at += stride, copy += pitch) {
                 if (k > 0) copyBin(at - step, bins.toImaginary, copy, length);
-                if (k + 1 < stage.rows) copyBin(copy, length, at + step, bins.toImaginary);
+                if (isFetched) copyBin(copy, length, at + step, bins.toImaginary);
             }
         }
     }
+}
+
+template <int radix, class Element>
+void combineOnCopies(const CombineStage& stage, const GroupBins<Element>& bins) {
+    combineRows<radix, 0, Element>(stage, bins, {});
 }
 
 template <class Element>
@@ -190,48 +260,83 @@ CombinePass<Element>* combineOfKind(std::int32_t kind) {
     }
 }
 
-// Whether a split that is one level deep and short enough keeps the parts of a group in the frame, where they need not
-// be narrowed: of five conversions of an element two fall away, each of which takes the time of an addition and of a
-// multiplication, 8 % of a transform of 4096 or 8192 points. Doubles gain nothing by it, and the x87 converts for
+// Whether a split that is one level deep keeps the parts of a group in the frame, where they need not be narrowed. Two
+// of five conversions of an element fall away, each of which takes the time of an addition and of a multiplication:
+// 5 to 8 % of a transform of 4096 to 32768 points, 3 % at 65536. Doubles gain nothing by it, and the x87 converts for
 // nothing.
 template <class Element>
 constexpr bool partsStayInFrame() {
     return linesAreCopied && std::is_same_v<Element, float>;
 }
 
-// The combine pass finds a row's bins one behind the other. All places but those of the source are at distances that
-// the compiler knows; `direction` is 1, or -1 where the bins are written backwards.
+// All places but those of the source are at distances that the compiler knows; `direction` is 1, or -1 where the bins
+// are written backwards.
 template <int points, int radix, int direction, class Element>
 void splitInFrame(const SkewSplit& split, const GroupSource<Element>& from, const GroupBins<Element>& bins) {
-    using Table = CombineTable<radix, Element>;
+    using Parts = FrameParts<radix, Element>;
     constexpr std::ptrdiff_t length = lineLength<Element>, binStep = direction * 2 * length;
     constexpr std::ptrdiff_t rows = points / 2, highest = points * radix - 1;
-    constexpr std::ptrdiff_t oneLine = lineBytes / sizeof(double), pitch = 2 * length * radix + oneLine;
-    using Part = SkewBins<double, FixedStep<pitch>, FixedStep<length>>;
-    using Row = SkewBins<double, FixedStep<2 * length>, FixedStep<length>>;
-    using Ports = CombineFromPorts<Element, radix, Row, FixedStep<binStep * points>, FixedStep<length>>;
+    using Ports = CombineFromPorts<Element, radix, typename Parts::Row, FixedStep<binStep * points>, FixedStep<length>>;
     const auto& step = firstOf<FoldStep>(split.pre);
     const auto& stage = firstOf<CombineStage>(split.post);
-    alignas(lineBytes) double parts[rows * pitch];
+    alignas(lineBytes) double room[rows * Parts::pitch];
+    const Parts parts{room};
     for (std::ptrdiff_t c = 0; c < radix; ++c) {
-        foldGroup<points>(split, step, from.next(step.subStep * c), Part{parts + 2 * length * c, {}, {}});
+        foldGroup<points>(split, step, from.next(step.subStep * c), parts.part(c));
     }
-    const Table table(static_cast<const Element*>(stage.table.get()), rows);
+    const CombineTable<radix, Element> table(static_cast<const Element*>(stage.table.get()), rows);
     for (std::ptrdiff_t k = 0; k < rows; ++k) {
-        double entries[Table::innerEntries + Table::outerEntries];
-        double* const outer = entries + Table::innerEntries;
-        for (std::ptrdiff_t i = 0; i < Table::innerEntries; ++i) entries[i] = table.inner[Table::innerEntries * k + i];
-        for (std::ptrdiff_t i = 0; i < Table::outerEntries; ++i) outer[i] = table.outer[Table::outerEntries * k + i];
+        const RowEntries<radix, Element> entries(table, k);
         for (std::ptrdiff_t p = 0; p < length; ++p) {
+            leaveInPlace(entries.inner());
             Element* const first = bins.first + p;
-            Dct4Combine<radix>::run(
-                Ports{{{}, entries, outer, first + binStep * k, first + binStep * (highest - k), {}, {}},
-                      {parts + pitch * k + p, {}, {}}});
+            Dct4Combine<radix>::run(Ports{
+                {{}, entries.inner(), entries.outer(), first + binStep * k, first + binStep * (highest - k), {}, {}},
+                parts.row(k).next(p)});
         }
     }
 }
 
-// By the kinds of a FoldStep and of a CombineStage, for the lengths M of 128, 256 and 512; null for any others.
+// The bins of a part in two places: the first `count` in the frame.
+template <int count, class InFrame, class InMemory>
+struct DividedBins {
+    InFrame inFrame;
+    InMemory inMemory;
+
+    ZULG_INLINE void setRe(int k, double value) const {
+        if (k < count) {
+            inFrame.setRe(k, value);
+        } else {
+            inMemory.setRe(k, value);
+        }
+    }
+    ZULG_INLINE void setIm(int k, double value) const {
+        if (k < count) {
+            inFrame.setIm(k, value);
+        } else {
+            inMemory.setIm(k, value);
+        }
+    }
+    ZULG_INLINE DividedBins next(std::ptrdiff_t c) const { return {inFrame.next(c), inMemory.next(c)}; }
+};
+
+// The same where the combine pass works on copies, for 1024 points a transform or more: of longer ones only the first
+// rows are in the frame, since a caller's stack may not be large.
+template <int points, int radix, class Element>
+void splitPartlyInFrame(const SkewSplit& split, const GroupSource<Element>& from, const GroupBins<Element>& bins) {
+    using Parts = FrameParts<radix, Element>;
+    constexpr int rowsInFrame = 16;
+    const auto& step = firstOf<FoldStep>(split.pre);
+    alignas(lineBytes) double room[rowsInFrame * Parts::pitch];
+    const Parts parts{room};
+    for (std::ptrdiff_t c = 0; c < radix; ++c) {
+        using Bins = DividedBins<rowsInFrame, typename Parts::Part, GroupBins<Element>>;
+        foldGroup<points>(split, step, from.next(step.subStep * c), Bins{parts.part(c), partBins(step, bins, c)});
+    }
+    combineRows<radix, rowsInFrame>(firstOf<CombineStage>(split.post), bins, parts);
+}
+
+// By the kinds of a FoldStep and of a CombineStage, for the lengths M of 128 to 2048; null for any others.
 template <class Element>
 using WholeSplit = void(const SkewSplit&, const GroupSource<Element>&, const GroupBins<Element>&);
 template <int direction, class Element>
@@ -240,6 +345,8 @@ WholeSplit<Element>* splitOfKinds(std::int32_t fold, std::int32_t combine) {
         if (fold == 4 && combine == 3) return splitInFrame<16, 8, direction>;
         if (fold == 4 && combine == 4) return splitInFrame<16, 16, direction>;
         if (fold == 5 && combine == 4) return splitInFrame<32, 16, direction>;
+        if (fold == 5 && combine == 5) return splitPartlyInFrame<32, 32>;
+        if (fold == 6 && combine == 5) return splitPartlyInFrame<64, 32>;
     }
     return nullptr;
 }
@@ -261,12 +368,8 @@ Status runSplit(const SkewSplit& split, const GroupSource<Element>& from, const 
     const auto combine = combineOfKind<Element>(stage.kind);
     if (fold == nullptr || combine == nullptr) return StatusPlanKindError;
 
-    // Part c goes to the bins k + c M', in the upper half of the parts to the mirrored ones, M - 1 - k - c M'.
     for (std::ptrdiff_t c = 0; c < step.count; ++c) {
-        const std::ptrdiff_t bin = step.skewLength * c;
-        const bool isMirrored = c >= step.count / 2;
-        fold(split, step, from.next(step.subStep * c),
-             {bins.re(isMirrored ? split.skewLength - 1 - bin : bin), isMirrored ? -bins.step : bins.step, {}});
+        fold(split, step, from.next(step.subStep * c), partBins(step, bins, c));
     }
     combine(stage, bins);
     return StatusOk;

@@ -233,9 +233,9 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    DCT4       StatusNullPointer, StatusPlanKindError if the plan is of no known kind; the destination is then untouched
 
    A run takes up to 16 KB of stack, and in 32f on x86-64 up to 24 KB at 4096 points, 40 KB at 8192, 72 KB at 16384 and
-  144 KB beyond.
+   144 KB beyond.
 
-  Accuracy, as the root of summed squared errors over summed squared results: 64f below 1.8 (16 points), 2.8 (1024) and
+   Accuracy, as the root of summed squared errors over summed squared results: 64f below 1.8 (16 points), 2.8 (1024) and
    3.6 (65536) times 2^-53; 32f below 1.0, 1.6 and 1.9 times 2^-24, as values are held in double inside a pass.
 
    Source: fold and skew transforms, decimated in time: P. Duhamel and H. Hollmann (1984), M. Vetterli and

@@ -297,27 +297,27 @@ void splitInFrame(const SkewSplit& split, const GroupSource<Element>& from, cons
     }
 }
 
-// The bins of a part in two places: the first `count` in the frame.
-template <int count, class InFrame, class InMemory>
+// The bins of a part in two places: the first `count` in the frame, the others where the split's results go.
+template <int count, class InFrame, class InDestination>
 struct DividedBins {
     InFrame inFrame;
-    InMemory inMemory;
+    InDestination inDestination;
 
     ZULG_INLINE void setRe(int k, double value) const {
         if (k < count) {
             inFrame.setRe(k, value);
         } else {
-            inMemory.setRe(k, value);
+            inDestination.setRe(k, value);
         }
     }
     ZULG_INLINE void setIm(int k, double value) const {
         if (k < count) {
             inFrame.setIm(k, value);
         } else {
-            inMemory.setIm(k, value);
+            inDestination.setIm(k, value);
         }
     }
-    ZULG_INLINE DividedBins next(std::ptrdiff_t c) const { return {inFrame.next(c), inMemory.next(c)}; }
+    ZULG_INLINE DividedBins next(std::ptrdiff_t c) const { return {inFrame.next(c), inDestination.next(c)}; }
 };
 
 // The same where the combine pass works on copies, for 1024 points a transform or more: of longer ones only the first

@@ -21,7 +21,6 @@ if(WIN32)
         -mincoming-stack-boundary=2   # Windows callers align the stack to 4 bytes
         -fcf-protection=none)
     set(fast_kernel_compile_flags ${kernel_compile_flags})
-    set(split_compile_flags ${kernel_compile_flags})
     set(long_kernel_compile_flags ${kernel_compile_flags})
     set(long_kernel_launcher "")
     set(common_link_flags
@@ -42,9 +41,6 @@ else()
         -fcf-protection=full)
     # Kernels that are faster when compiled for speed: registers are cleared before a conversion that would wait for them.
     set(fast_kernel_compile_flags -O2 -fno-schedule-insns2 -fno-tree-pre -flive-range-shrinkage)
-    # Splits of the DCT-IV: at -O2 singles gain 2 to 5 %, and doubles lose without the other flag. Their frames go far
-    # beyond the page that guards a stack, so each page is touched in turn.
-    set(split_compile_flags -O2 -fno-gcse -fstack-clash-protection)
     # Long kernels: an access by the frame pointer takes a byte less than one by the stack pointer; fewer values are kept
     # in memory; and the launcher uses the registers that are left to it for shorter displacements.
     set(long_kernel_compile_flags ${kernel_compile_flags} -fno-omit-frame-pointer -flive-range-shrinkage

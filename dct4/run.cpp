@@ -5,7 +5,8 @@
 #include "dct4/bodies/direct_32.h"
 #include "dct4/bodies/direct_4.h"
 #include "dct4/bodies/direct_8.h"
-#include "dct4/passes.h"
+#include "dct4/fold.h"
+#include "dct4/output.h"
 #include "dct4/ports.h"
 
 namespace zulg {
@@ -28,9 +29,8 @@ void runPlan(const DctPlan& plan, const Element* pSrc, Element* pDst) {
         case 5: return runDirect<32>(pSrc, pDst);
     }
     Element* const transforms = static_cast<Element*>(plan.scratch.get());
-    const FoldStage& fold = firstOf<FoldStage>(plan.pre);
-    firstPass(fold, transforms, pSrc);
-    secondPass(firstOf<OutputStage>(plan.post), pDst, transforms, isGrouped(fold));
+    foldPass(firstOf<FoldStage>(plan.pre), transforms, pSrc);
+    outputPass(firstOf<OutputStage>(plan.post), pDst, transforms);
 }
 
 template void runPlan<float>(const DctPlan&, const float*, float*);

@@ -1,140 +1,19 @@
 // The DCT-IV through the boundary: values, accuracy, arrays, lengths that are accepted by accident, statuses, and what
 // is asked of the core library.
 #include <gtest/gtest.h>
-#ifndef _WIN32
-#include <pthread.h>
-#endif
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <random>
 #include <thread>
 #include <utility>
 
-#include "dct4/records.h"
-#include "tests/exports.h"
-#include "tests/fake_core.h"
+#include "tests/dct4/dct4_fixture.h"
 #include "tests/memory.h"
-#include "tests/reference.h"
 
 namespace test {
 namespace {
 
-template <class Element>
-struct Routines {
-    static std::string name(const char* stem) { return std::string(stem) + (sizeof(Element) == 4 ? "_32f" : "_64f"); }
-
-    using Plan = zulg::DctPlan;
-    ZulgStatus(ZULG_CALL* getSize)(std::int32_t, std::int32_t*) = exported<decltype(getSize)>(name("zulgDCT4GetSize"));
-    ZulgStatus(ZULG_CALL* init)(Plan**, std::int32_t, std::uint8_t*) = exported<decltype(init)>(name("zulgDCT4Init"));
-    ZulgStatus(ZULG_CALL* initAlloc)(Plan**, std::int32_t) = exported<decltype(initAlloc)>(name("zulgDCT4InitAlloc"));
-    ZulgStatus(ZULG_CALL* free)(Plan*) = exported<decltype(free)>(name("zulgDCT4Free"));
-    ZulgStatus(ZULG_CALL* run)(const Element*, Element*, Plan*) = exported<decltype(run)>(name("zulgDCT4"));
-};
-
-template <class Element>
-const Routines<Element>& routines() {
-    static const Routines<Element> found;
-    return found;
-}
-
-// A plan in a block of exactly the reported size, at an address that is a multiple of 32.
-template <class Element>
-class Planned {
-public:
-    explicit Planned(std::int32_t length) {
-        std::int32_t bytes = 0;
-        EXPECT_EQ(routines<Element>().getSize(length, &bytes), StatusOk) << length;
-        memory.resize(static_cast<std::size_t>(bytes) + 32);
-        const auto first = reinterpret_cast<std::uintptr_t>(memory.data());
-        EXPECT_EQ(routines<Element>().init(&plan, length, memory.data() + (32 - first % 32) % 32), StatusOk) << length;
-    }
-
-    std::vector<Element> run(const std::vector<Element>& source) {
-        std::vector<Element> result(source.size(), std::numeric_limits<Element>::quiet_NaN());
-        EXPECT_EQ(routines<Element>().run(source.data(), result.data(), plan), StatusOk);
-        return result;
-    }
-
-    zulg::DctPlan* plan = nullptr;
-
-private:
-    std::vector<std::uint8_t> memory;
-};
-
-// The record in a list of one.
-template <class Record>
-Record& recordIn(const zulg::PlanListNode* list) {
-    return reinterpret_cast<Record&>(*list->value.get());
-}
-
-// cos(2 pi j/(8N)) for all j: every factor of the definition is one of them.
-class Cosines {
-public:
-    explicit Cosines(int length) : period(8 * length) {
-        for (int j = 0; j < period; ++j) values.push_back(cosTurn(j, period));
-    }
-    // y[k] of the definition.
-    template <class Element>
-    Wide bin(const std::vector<Element>& x, int k) const {
-        Wide sum = 0;
-        for (std::size_t from = 0; from < x.size(); from += 64) {
-            Wide part = 0;
-            for (std::size_t n = from; n < std::min(x.size(), from + 64); ++n) {
-                const auto j = static_cast<long long>(2 * n + 1) * (2 * k + 1) % period;
-                part += x[n] * values[static_cast<std::size_t>(j)];
-            }
-            sum += part;
-        }
-        return sum;
-    }
-
-private:
-    int period;
-    Values values;
-};
-
-template <class Element>
-class Dct4Test : public testing::Test {
-protected:
-    static void SetUpTestSuite() { substitutedCore(); }
-    void SetUp() override { core = {}; }
-
-    FakeCore& core = substitutedCore();
-    const Routines<Element>& dct4 = routines<Element>();
-    static constexpr bool isSingle = sizeof(Element) == 4;
-    const double unit = std::ldexp(1.0, isSingle ? -24 : -53);
-    std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
-
-    std::vector<Element> randomElements(int count) {
-        std::normal_distribution<double> normal;
-        std::vector<Element> x;
-        for (int i = 0; i < count; ++i) x.push_back(static_cast<Element>(normal(random)));
-        return x;
-    }
-
-    // Relative L2 error over all bins, or over some of them where the length is great.
-    double relativeError(int length, int rounds) {
-        const Cosines cosines(length);
-        Planned<Element> planned(length);
-        Wide errors = 0, squares = 0;
-        for (int round = 0; round < rounds; ++round) {
-            const auto x = randomElements(length);
-            const auto y = planned.run(x);
-            const int step = std::max(1, length / 512) | 1;
-            for (int k = round % step; k < length; k += step) {
-                const Wide due = cosines.bin(x, k), error = y[static_cast<std::size_t>(k)] - due;
-                errors += error * error;
-                squares += due * due;
-            }
-        }
-        return static_cast<double>(std::sqrt(errors / squares));
-    }
-};
-
-using Elements = testing::Types<float, double>;
 TYPED_TEST_SUITE(Dct4Test, Elements);
 
 // Every length up to one with two levels of SkewSplit.
@@ -388,54 +267,6 @@ TYPED_TEST(Dct4Test, APlanOfUnknownKindIsRefused) {
     }
 }
 
-// A stage makes the same check, but nobody looks at its result: the pass does nothing and the status is StatusOk.
-TYPED_TEST(Dct4Test, TheStatusOfAStageIsDropped) {
-    const std::vector<TypeParam> x(64, 1), sevens(64, 7);
-    {
-        Planned<TypeParam> planned(64);
-        recordIn<zulg::OutputStage>(planned.plan->post).kind = 0;
-        std::vector<TypeParam> y = sevens;
-        EXPECT_EQ(this->dct4.run(x.data(), y.data(), planned.plan), StatusOk);
-        EXPECT_EQ(y, sevens);
-    }
-    {
-        Planned<TypeParam> planned(64);
-        const auto before = planned.run(x);
-        recordIn<zulg::FoldStage>(planned.plan->pre).kind = 8;
-        const std::vector<TypeParam> zeros(64);
-        EXPECT_EQ(planned.run(zeros), before) << "the second pass works on what the last first pass left";
-    }
-}
-
-TYPED_TEST(Dct4Test, TheStatusOfASplitsStagesIsDropped) {
-    const std::vector<TypeParam> x(4096, 1), zeros(4096);
-    Planned<TypeParam> planned(4096);
-    const auto before = planned.run(x);
-    const auto& fold = recordIn<zulg::FoldStage>(planned.plan->pre);
-    const auto& split = recordIn<zulg::SkewSplit>(fold.children);
-    auto& combine = recordIn<zulg::CombineStage>(split.post);
-    auto& step = recordIn<zulg::FoldStep>(split.pre);
-    const std::int32_t combineKind = std::exchange(combine.kind, 6);
-    EXPECT_EQ(planned.run(zeros), before) << "a refused combine pass leaves the transforms of the run before";
-    const std::int32_t stepKind = std::exchange(step.kind, 0);
-    EXPECT_EQ(planned.run(zeros), before);
-    combine.kind = combineKind;
-    EXPECT_EQ(planned.run(zeros), before) << "a refused first pass leaves them, too";
-    step.kind = stepKind;
-    EXPECT_EQ(planned.run(zeros), zeros);
-}
-
-TYPED_TEST(Dct4Test, ASplitThatIsNotActiveDoesNothing) {
-    const std::vector<TypeParam> x(4096, 1), zeros(4096);
-    for (int active : {0, 2, -1}) {
-        Planned<TypeParam> planned(4096);
-        const auto before = planned.run(x);
-        const auto& fold = recordIn<zulg::FoldStage>(planned.plan->pre);
-        recordIn<zulg::SkewSplit>(fold.children).active = active;
-        EXPECT_EQ(planned.run(zeros), before) << active;
-    }
-}
-
 TYPED_TEST(Dct4Test, RefusedLengthsLeaveSizeAndPlanAsTheyWere) {
     std::vector<std::uint8_t> block(1 << 20);
     for (int length : {0, 1, 3, 5, 6, 7, 12, 1000, -1, -2, -64, 48, 63, 66}) {
@@ -497,44 +328,6 @@ TYPED_TEST(Dct4Test, ThreadsWithPlansOfTheirOwnDoNotMeet) {
     for (std::thread& thread : threads) thread.join();
     EXPECT_EQ(wrong, std::vector<int>(4));
 }
-
-#ifndef _WIN32
-// Bytes of a stack that a thread has left untouched when it ran a plan: all of them were set before.
-template <class Element>
-std::ptrdiff_t stackLeftBy(int length) {
-    struct Run {
-        Planned<Element> planned;
-        std::vector<Element> x, y;
-    };
-    constexpr std::uint8_t untouched = 0xA5;
-    std::vector<std::uint8_t> stack(1 << 18, untouched);
-    const auto count = static_cast<std::size_t>(length);
-    Run run{Planned<Element>(length), std::vector<Element>(count), std::vector<Element>(count)};
-    const auto start = [](void* argument) -> void* {
-        auto& of = *static_cast<Run*>(argument);
-        routines<Element>().run(of.x.data(), of.y.data(), of.planned.plan);
-        return nullptr;
-    };
-    pthread_attr_t attributes;
-    pthread_t thread;
-    EXPECT_EQ(pthread_attr_init(&attributes), 0);
-    EXPECT_EQ(pthread_attr_setstack(&attributes, stack.data(), stack.size()), 0);
-    EXPECT_EQ(pthread_create(&thread, &attributes, start, &run), 0);
-    EXPECT_EQ(pthread_join(thread, nullptr), 0);
-    pthread_attr_destroy(&attributes);
-    return std::find_if(stack.begin(), stack.end(), [](std::uint8_t b) { return b != untouched; }) - stack.begin();
-}
-
-// A thread and the loader take stack too: what a run of 2 points leaves is theirs.
-TYPED_TEST(Dct4Test, TakesNoMoreStackThanTheHeaderSays) {
-    const std::ptrdiff_t leftByTwo = stackLeftBy<TypeParam>(2);
-    for (int length = 64; length <= 1 << 21; length *= 2) {
-        const bool isLong = this->isSingle && length >= 4096;
-        const int kilobytes = !isLong ? 16 : length == 4096 ? 24 : length == 8192 ? 40 : length == 16384 ? 72 : 144;
-        EXPECT_LE(leftByTwo - stackLeftBy<TypeParam>(length), kilobytes << 10) << length;
-    }
-}
-#endif
 
 }  // namespace
 }  // namespace test

@@ -2,6 +2,7 @@
 
 hardening.py LIBRARY OBJDUMP
 """
+import re
 import struct
 import subprocess
 import sys
@@ -38,6 +39,22 @@ def check_no_initializers(library):
     for name, _, size, _ in library.sections:
         expect(not size or not name.startswith((".ctors", ".dtors", ".init_array", ".fini_array", ".CRT", ".tls")),
                f"section {name}: something besides the load entry waits to be run at load time")
+
+
+def check_frames(library):
+    """No frame is larger than the page that guards a stack, so that no routine can step over it."""
+    bits = 32 if library.is_pe else 64
+    for instruction in library.code.values():
+        line = f"{instruction.mnemonic} {instruction.operands}"
+        if not re.match(r"((sub|add)[lq]? .*|lea .*\(%[er]sp\)),%[er]sp$", line):  # other moves go back up
+            continue
+        amount = re.match(r"\w+ \$?(-?0x[0-9a-f]+)[,(]", line)
+        expect(amount, f"{instruction.address:#x}: takes an amount of stack that is no constant: {line}")
+        if amount:
+            change = int(amount.group(1), 16)
+            change -= 1 << bits if change >= 1 << (bits - 1) else 0
+            taken = change if line.startswith("sub") else -change
+            expect(taken <= 4096, f"{instruction.address:#x}: takes {taken} bytes of stack at once")
 
 
 def pe_relocations(library, address, size):
@@ -135,6 +152,7 @@ def check_elf(library):
 def main():
     library = Library(*sys.argv[1:])
     check_no_initializers(library)
+    check_frames(library)
     if library.is_pe:
         check_pe(library)
     else:

@@ -1,0 +1,45 @@
+#include "dct4/output.h"
+
+#include "dct4/bodies/output_1.h"
+#include "dct4/bodies/output_16.h"
+#include "dct4/bodies/output_2.h"
+#include "dct4/bodies/output_32.h"
+#include "dct4/bodies/output_4.h"
+#include "dct4/bodies/output_8.h"
+#include "dct4/ports.h"
+
+namespace zulg {
+namespace {
+
+// Not inlined: each radix has a frame of its own.
+template <int radix, class Element>
+[[gnu::noinline]] Status outputEach(const OutputStage& stage, Element* y, const Element* transforms) {
+    const std::ptrdiff_t stride = stage.blockStride;
+    const Element* const entries = static_cast<const Element*>(stage.table.get());
+    Element* const highest = y + stage.mirrorBase - radix * stride;
+    for (std::ptrdiff_t m = 0; m < stage.rows; ++m) {
+        Dct4Output<radix>::run(OutputPorts<Element, radix>{
+            {}, transforms + 2 * radix * m, entries + 2 * radix * m, y + m, highest - m, stride});
+    }
+    return StatusOk;
+}
+
+}  // namespace
+
+template <class Element>
+Status outputPass(const OutputStage& stage, Element* y, const Element* transforms) {
+    switch (stage.kind) {
+        case 1: return outputEach<1>(stage, y, transforms);
+        case 2: return outputEach<2>(stage, y, transforms);
+        case 3: return outputEach<4>(stage, y, transforms);
+        case 4: return outputEach<8>(stage, y, transforms);
+        case 5: return outputEach<16>(stage, y, transforms);
+        case 6: return outputEach<32>(stage, y, transforms);
+        default: return StatusPlanKindError;
+    }
+}
+
+template Status outputPass<float>(const OutputStage&, float*, const float*);
+template Status outputPass<double>(const OutputStage&, double*, const double*);
+
+}  // namespace zulg

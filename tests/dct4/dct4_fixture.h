@@ -1,0 +1,135 @@
+// What the suites over the exported DCT-IV share: its routines, plans in blocks of their own, random input, and the
+// definition.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "dct4/records.h"
+#include "tests/exports.h"
+#include "tests/fake_core.h"
+#include "tests/reference.h"
+
+namespace test {
+
+template <class Element>
+struct Routines {
+    static std::string name(const char* stem) { return std::string(stem) + (sizeof(Element) == 4 ? "_32f" : "_64f"); }
+
+    using Plan = zulg::DctPlan;
+    ZulgStatus(ZULG_CALL* getSize)(std::int32_t, std::int32_t*) = exported<decltype(getSize)>(name("zulgDCT4GetSize"));
+    ZulgStatus(ZULG_CALL* init)(Plan**, std::int32_t, std::uint8_t*) = exported<decltype(init)>(name("zulgDCT4Init"));
+    ZulgStatus(ZULG_CALL* initAlloc)(Plan**, std::int32_t) = exported<decltype(initAlloc)>(name("zulgDCT4InitAlloc"));
+    ZulgStatus(ZULG_CALL* free)(Plan*) = exported<decltype(free)>(name("zulgDCT4Free"));
+    ZulgStatus(ZULG_CALL* run)(const Element*, Element*, Plan*) = exported<decltype(run)>(name("zulgDCT4"));
+};
+
+template <class Element>
+const Routines<Element>& routines() {
+    static const Routines<Element> found;
+    return found;
+}
+
+// A plan in a block of exactly the reported size, at an address that is a multiple of 32.
+template <class Element>
+class Planned {
+public:
+    explicit Planned(std::int32_t length) {
+        std::int32_t bytes = 0;
+        EXPECT_EQ(routines<Element>().getSize(length, &bytes), StatusOk) << length;
+        memory.resize(static_cast<std::size_t>(bytes) + 32);
+        const auto first = reinterpret_cast<std::uintptr_t>(memory.data());
+        EXPECT_EQ(routines<Element>().init(&plan, length, memory.data() + (32 - first % 32) % 32), StatusOk) << length;
+    }
+
+    std::vector<Element> run(const std::vector<Element>& source) {
+        std::vector<Element> result(source.size(), std::numeric_limits<Element>::quiet_NaN());
+        EXPECT_EQ(routines<Element>().run(source.data(), result.data(), plan), StatusOk);
+        return result;
+    }
+
+    zulg::DctPlan* plan = nullptr;
+
+private:
+    std::vector<std::uint8_t> memory;
+};
+
+// The record in a list of one.
+template <class Record>
+Record& recordIn(const zulg::PlanListNode* list) {
+    return reinterpret_cast<Record&>(*list->value.get());
+}
+
+// cos(2 pi j/(8N)) for all j: every factor of the definition is one of them.
+class Cosines {
+public:
+    explicit Cosines(int length) : period(8 * length) {
+        for (int j = 0; j < period; ++j) values.push_back(cosTurn(j, period));
+    }
+    // y[k] of the definition.
+    template <class Element>
+    Wide bin(const std::vector<Element>& x, int k) const {
+        Wide sum = 0;
+        for (std::size_t from = 0; from < x.size(); from += 64) {
+            Wide part = 0;
+            for (std::size_t n = from; n < std::min(x.size(), from + 64); ++n) {
+                const auto j = static_cast<long long>(2 * n + 1) * (2 * k + 1) % period;
+                part += x[n] * values[static_cast<std::size_t>(j)];
+            }
+            sum += part;
+        }
+        return sum;
+    }
+
+private:
+    int period;
+    Values values;
+};
+
+template <class Element>
+class Dct4Test : public testing::Test {
+protected:
+    static void SetUpTestSuite() { substitutedCore(); }
+    void SetUp() override { core = {}; }
+
+    FakeCore& core = substitutedCore();
+    const Routines<Element>& dct4 = routines<Element>();
+    static constexpr bool isSingle = sizeof(Element) == 4;
+    const double unit = std::ldexp(1.0, isSingle ? -24 : -53);
+    std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
+
+    std::vector<Element> randomElements(int count) {
+        std::normal_distribution<double> normal;
+        std::vector<Element> x;
+        for (int i = 0; i < count; ++i) x.push_back(static_cast<Element>(normal(random)));
+        return x;
+    }
+
+    // Relative L2 error over all bins, or over some of them where the length is great.
+    double relativeError(int length, int rounds) {
+        const Cosines cosines(length);
+        Planned<Element> planned(length);
+        Wide errors = 0, squares = 0;
+        for (int round = 0; round < rounds; ++round) {
+            const auto x = randomElements(length);
+            const auto y = planned.run(x);
+            const int step = std::max(1, length / 512) | 1;
+            for (int k = round % step; k < length; k += step) {
+                const Wide due = cosines.bin(x, k), error = y[static_cast<std::size_t>(k)] - due;
+                errors += error * error;
+                squares += due * due;
+            }
+        }
+        return static_cast<double>(std::sqrt(errors / squares));
+    }
+};
+
+using Elements = testing::Types<float, double>;
+
+}  // namespace test

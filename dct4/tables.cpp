@@ -1,11 +1,13 @@
-// Every entry is the cosine or sine of pi times a fraction, by its own call of the mathematics library. In a plan of
-// single values the fraction itself is rounded to single first; that shows only where it is no short binary fraction,
-// at the lengths 2^k + 1. The tables lie in the order in which the passes read them.
+// Every entry is the cosine or sine of pi times a fraction, by its own call of the mathematics library. Fraction and
+// product are each rounded once, to double, whatever the caller's control word says. In a plan of single values the
+// fraction is rounded to single as well; that shows only where it is no short binary fraction, at the lengths 2^k + 1.
+// Entries are in the order in which the passes read them.
 #include "dct4/tables.h"
 
 #include <cmath>
 
 #include "dct4/radix.h"
+#include "dct4/rounded_once.h"
 #include "dct4/size.h"
 
 namespace zulg {
@@ -17,12 +19,12 @@ constexpr double pi = 3.141592653589793;
 // Not inlined: the call passes the fraction through memory, which rounds it to the element where registers are wider.
 template <class Element>
 [[gnu::noinline]] Element cospi(Element x) {
-    return static_cast<Element>(std::cos(static_cast<double>(x) * pi));
+    return static_cast<Element>(std::cos(productRoundedOnce(x, pi)));
 }
 
 template <class Element>
 [[gnu::noinline]] Element sinpi(Element x) {
-    return static_cast<Element>(std::sin(static_cast<double>(x) * pi));
+    return static_cast<Element>(std::sin(productRoundedOnce(x, pi)));
 }
 
 // The input of an output body that has place `place` in its row. Even places rise, each is followed by its mirror; in
@@ -75,7 +77,7 @@ double angleEntry(const AngleSource& source, std::int32_t row, std::int32_t inde
     const std::int32_t i = wrapSum(wrapProduct(source.rowStride, row), index);
     const std::int32_t h = i / 2, q = h / source.radix, p = h % source.radix;
     const std::int32_t a = wrapProduct(wrapSum(wrapProduct(4, q), 2), wrapSum(wrapProduct(2, p), 1));
-    const auto f = static_cast<Element>(static_cast<double>(a) / source.denominator);
+    const auto f = static_cast<Element>(quotientRoundedOnce(a, source.denominator));
     return i % 2 != 0 ? sinpi<Element>(f) : cospi<Element>(f);
 }
 

@@ -6,6 +6,7 @@
 
 #include "dct4/radix.h"
 #include "dct4/tables.h"
+#include "tests/plan/exact.h"
 #include "tests/plan/plan_fixture.h"
 
 namespace test {
@@ -21,20 +22,13 @@ Number rounded(Wide x) {
     return stored;
 }
 
-// The cosine and the sine of pi times a fraction. The fraction is rounded to the element, its product with pi to
-// double, both as the target rounds; the rest is exact but for the last step.
+// The cosine and the sine of pi times a fraction. The fraction is rounded to double and to the element, its product
+// with pi to double; the rest is exact but for the last step.
 template <class Element>
 struct Angle {
     explicit Angle(double numerator, double denominator = 1) {
-        if (sizeof(Element) == sizeof(double)) {
-            volatile double quotient = numerator / denominator;
-            x = static_cast<Element>(quotient);
-        } else {
-            x = rounded<Element>(static_cast<Wide>(numerator) / static_cast<Wide>(denominator));
-        }
-        const double f = static_cast<double>(x), pi = 3.141592653589793;
-        volatile double product = f * pi;
-        argument = product;
+        x = rounded<Element>(roundedOnce(Exact{numerator} / denominator));
+        argument = roundedOnce(Exact{x} * 3.141592653589793);
     }
     Element cosine() const { return rounded<Element>(std::cos(argument)); }
     Element sine() const { return rounded<Element>(std::sin(argument)); }

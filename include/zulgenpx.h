@@ -6,6 +6,10 @@
    changed. Nothing is allocated, but by large Walsh-Hadamard orders called without a buffer and by plans made with
    InitAlloc; that memory comes from the core library zulcore, which stands beside this one.
 
+   A call takes this much stack, on every target and at both element types: a complex DFT at most 2 KB, a real DFT or a
+   Hartley transform 1 KB, a Walsh-Hadamard transform 2 KB, a DCT-IV of any length 12 KB, building and freeing a plan
+   2 KB. What zulcore takes for memory, and the C library for the sines of a plan, comes on top.
+
    Data is contiguous and needs no alignment: any address will do. Not-a-number and infinity go
    through the arithmetic as they will; the status is StatusOk all the same. */
 #ifndef ZULGENPX_H
@@ -232,8 +236,7 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    Free       StatusNullPointer
    DCT4       StatusNullPointer, StatusPlanKindError if the plan is of no known kind; the destination is then untouched
 
-   A run takes up to 16 KB of stack, and in 32f on x86-64 up to 24 KB at 4096 points, 40 KB at 8192, 72 KB at 16384 and
-   144 KB beyond.
+   A run takes at most 12 KB of stack, whatever the length.
 
    Accuracy, as the root of summed squared errors over summed squared results: 64f below 1.8 (16 points), 2.8 (1024) and
    3.6 (65536) times 2^-53; 32f below 1.0, 1.6 and 1.9 times 2^-24, as values are held in double inside a pass.

@@ -1,7 +1,10 @@
-// The stack that a call takes.
+// The stack that the routines take, against what the header says of each family. The run of a DCT-IV is held where its
+// other promises are.
 #include <gtest/gtest.h>
 
+#include "tests/fake_core.h"
 #include "tests/stack_depth.h"
+#include "tests/transforms/transform.h"
 
 namespace test {
 namespace {
@@ -21,6 +24,88 @@ TEST(StackDepth, IsThatOfTheDeepestByteWritten) {
         EXPECT_LE(depth, bytes + empty + 256);
     }
     EXPECT_EQ(stackDepth([] {}), empty) << "the paint of an earlier call is seen";
+}
+
+// What is measured holds the measuring routine's own frame as well, so that a bound that is held here is true.
+void expectAtMost(std::ptrdiff_t bound, std::ptrdiff_t depth, const std::string& name) {
+    EXPECT_LE(depth, bound) << name;
+}
+
+template <class Element>
+void expectBoundOfKernel(const Transform& transform) {
+    const auto elements = static_cast<std::size_t>(std::max(transform.sourceElements, transform.destinationElements));
+    const std::vector<Element> source(elements, Element{1});
+    std::vector<Element> destination(elements);
+    const std::ptrdiff_t bound = transform.family.ends_with("CToC") ? 2048 : 1024;
+    const auto kernel = exported<Kernel<Element>>(transform.kernelName());
+    expectAtMost(bound, stackDepth([&] { kernel(source.data(), destination.data(), NoDivByAny); }),
+                 transform.kernelName());
+    const auto dispatcher = exported<Dispatcher<Element>>(transform.dispatcherName());
+    const int length = transform.length;
+    expectAtMost(bound, stackDepth([&] { dispatcher(source.data(), destination.data(), length, NoDivByAny); }),
+                 transform.dispatcherName() + ", length " + std::to_string(length));
+}
+
+// Memory comes from the counting core library in all tests: what that takes of the stack is the same on every system.
+class Stack : public testing::Test {
+protected:
+    static void SetUpTestSuite() { substitutedCore(); }
+};
+
+TEST_F(Stack, OfKernelsAndTheirDispatchers) {
+    for (const Transform& transform : allTransforms()) {
+        if (transform.isSingle()) {
+            expectBoundOfKernel<float>(transform);
+        } else {
+            expectBoundOfKernel<double>(transform);
+        }
+    }
+}
+
+template <class Element>
+class StackOfElement : public Stack {
+protected:
+    static std::string suffix() { return sizeof(Element) == 4 ? "_32f" : "_64f"; }
+};
+using Elements = testing::Types<float, double>;
+TYPED_TEST_SUITE(StackOfElement, Elements);
+
+TYPED_TEST(StackOfElement, OfWalshHadamard) {
+    using WhtKernel = ZulgStatus(ZULG_CALL*)(const TypeParam*, TypeParam*, std::int32_t flag, TypeParam*);
+    using WhtDispatcher =
+        ZulgStatus(ZULG_CALL*)(const TypeParam*, TypeParam*, std::int32_t order, std::int32_t flag, TypeParam*);
+    std::vector<TypeParam> source(1 << 13), destination(1 << 13), buffer((1 << 13) + 1024);
+    const auto dispatcher = exported<WhtDispatcher>("zulgWHT" + this->suffix());
+    for (int order = 1; order <= 13; ++order) {
+        const std::string name = "zulgWHT_" + std::to_string(order) + this->suffix();
+        const auto kernel = exported<WhtKernel>(name);
+        const auto depth = stackDepth([&] { kernel(source.data(), destination.data(), NoDivByAny, buffer.data()); });
+        expectAtMost(2048, depth, name);
+        const auto dispatched =
+            stackDepth([&] { dispatcher(source.data(), destination.data(), order, NoDivByAny, nullptr); });
+        expectAtMost(2048, dispatched, name + " by its dispatcher, without a buffer");
+    }
+}
+
+TYPED_TEST(StackOfElement, OfPlans) {
+    using GetSize = ZulgStatus(ZULG_CALL*)(std::int32_t, std::int32_t*);
+    using Init = ZulgStatus(ZULG_CALL*)(void**, std::int32_t, std::uint8_t*);
+    using Free = ZulgStatus(ZULG_CALL*)(void*);
+    using InitAlloc = ZulgStatus(ZULG_CALL*)(void**, std::int32_t);
+    const auto getSize = exported<GetSize>("zulgDCT4GetSize" + this->suffix());
+    const auto init = exported<Init>("zulgDCT4Init" + this->suffix());
+    const auto initAlloc = exported<InitAlloc>("zulgDCT4InitAlloc" + this->suffix());
+    const auto free = exported<Free>("zulgDCT4Free" + this->suffix());
+    for (std::int32_t length = 2; length <= 1 << 22; length *= 2) {
+        const std::string name = "length " + std::to_string(length);
+        std::int32_t bytes = 0;
+        expectAtMost(2048, stackDepth([&] { getSize(length, &bytes); }), "GetSize, " + name);
+        std::vector<std::uint8_t> block(static_cast<std::size_t>(bytes) + 32);
+        void* plan = nullptr;
+        expectAtMost(2048, stackDepth([&] { init(&plan, length, block.data()); }), "Init, " + name);
+        expectAtMost(2048, stackDepth([&] { initAlloc(&plan, length); }), "InitAlloc, " + name);
+        expectAtMost(2048, stackDepth([&] { free(plan); }), "Free, " + name);
+    }
 }
 
 }  // namespace

@@ -11,10 +11,11 @@ ComplexValue quarterTurns(ComplexValue x, int quarters) {
     return x;
 }
 
-// exp(-2 pi i/8) x. Both parts take sqrt(1/2) first; the two products are then added and subtracted.
-ComplexValue eighthTurn(ComplexValue x) {
-    const ComplexValue y = cosine(1, 8) * x;
-    return {y.re + y.im, y.im - y.re};
+// exp(-2 pi i/8) x.
+ComplexValue eighthTurn(ComplexValue x, EighthTurn order) {
+    const auto sums = [](ComplexValue y) { return ComplexValue{y.re + y.im, y.im - y.re}; };
+    const Coefficient root = cosine(1, 8);
+    return order == EighthTurn::SumsFirst ? root * sums(x) : sums(root * x);
 }
 
 // exp(-2 pi i e/n) x with four products: re = cos re + sin im, im = cos im - sin re.
@@ -31,10 +32,10 @@ Signal exchanged(const Signal& x) {
     return result;
 }
 
-ComplexValue twiddled(ComplexValue x, int e, int n) {
+ComplexValue twiddled(ComplexValue x, int e, int n, EighthTurn order) {
     e = modulo(e, n);
     if (4 * e % n == 0) return quarterTurns(x, 4 * e / n);
-    if (8 * e % n == 0) return quarterTurns(eighthTurn(x), 8 * e / n / 2);
+    if (8 * e % n == 0) return quarterTurns(eighthTurn(x, order), 8 * e / n / 2);
     return generalTurn(x, e, n);
 }
 

@@ -26,7 +26,11 @@ Signal exchanged(const Signal& x);
 // -i (a + ib) = b - ia: no step, the parts change places and a sign goes into what follows.
 inline ComplexValue timesMinusI(ComplexValue x) { return {x.im, -x.re}; }
 
+// An eighth turn of a + ib has the parts R (a + b) and R (b - a), R = sqrt(1/2). Either the products R a and R b come
+// first, or the sum and the difference of a and b. The steps are as many; the results are rounded in another order.
+enum class EighthTurn { ProductsFirst, SumsFirst };
+
 // exp(-2 pi i e/n) x, in one of four forms chosen by e alone: none, quarter turn, eighth turn, general.
-ComplexValue twiddled(ComplexValue x, int e, int n);
+ComplexValue twiddled(ComplexValue x, int e, int n, EighthTurn order = EighthTurn::ProductsFirst);
 
 }  // namespace gen

@@ -91,7 +91,8 @@ HalfSpectrum primeFactor(const RealSignal& x, int a, const Recipe& recipe) {
 }
 
 // N = r s within a prime power, r inside: column b reads x[s m + b]; row c takes W_N^(a b c); X[c + r d] is output d of
-// row c. Row r/2 of even r is real before its twiddles, and with them a skew block.
+// row c. Row r/2 of even r is real before its twiddles, and with them a skew block. An eighth turn adds first, where
+// the one of a complex block multiplies first.
 HalfSpectrum twiddledConstruction(const RealSignal& x, int a, int r, int s) {
     const int length = r * s;
     std::vector<HalfSpectrum> columns;
@@ -105,8 +106,10 @@ HalfSpectrum twiddledConstruction(const RealSignal& x, int a, int r, int s) {
     for (int d = 0; d <= firstRow.half(); ++d) bins.take(r * d, firstRow, d);
     for (int c = 1; 2 * c < r; ++c) {
         Signal row = complexRow(columns, c);
-        for (int b = 0; b < s; ++b)
-            row[static_cast<size_t>(b)] = twiddled(row[static_cast<size_t>(b)], a * b * c, length);
+        for (int b = 0; b < s; ++b) {
+            ComplexValue& value = row[static_cast<size_t>(b)];
+            value = twiddled(value, a * b * c, length, EighthTurn::SumsFirst);
+        }
         row = complexBlock(row, modulo(a, s));
         for (int d = 0; d < s; ++d) bins.set(c + r * d, row[static_cast<size_t>(d)]);
     }

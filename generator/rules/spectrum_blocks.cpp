@@ -86,8 +86,8 @@ RealSignal primeFactor(const HalfSpectrum& bins, int a, const Recipe& recipe) {
 }
 
 // N = f g within a prime power, f first: row c holds the bins c + g d. Row 0 is a half spectrum of length f, the middle
-// row of even g a mirrored skew block, the others inverse complex blocks and twiddles W_N^(-a b c). Then, for each
-// place b, a spectrum block of g gives y[f m + b].
+// row of even g a mirrored skew block, the others inverse complex blocks and twiddles W_N^(-a b c), of which an eighth
+// turn adds first. Then, for each place b, a spectrum block of g gives y[f m + b].
 RealSignal twiddledConstruction(const HalfSpectrum& bins, int a, int f, int g) {
     const int length = f * g;
     Rows rows;
@@ -98,8 +98,10 @@ RealSignal twiddledConstruction(const HalfSpectrum& bins, int a, int f, int g) {
         Signal row;
         for (int d = 0; d < f; ++d) row.push_back(bins.at(c + g * d));
         row = inverseComplexBlock(row, modulo(a, f));
-        for (int b = 0; b < f; ++b)
-            row[static_cast<size_t>(b)] = twiddled(row[static_cast<size_t>(b)], -a * b * c, length);
+        for (int b = 0; b < f; ++b) {
+            ComplexValue& value = row[static_cast<size_t>(b)];
+            value = twiddled(value, -a * b * c, length, EighthTurn::SumsFirst);
+        }
         rows.complex.push_back(row);
     }
     if (g % 2 == 0) {

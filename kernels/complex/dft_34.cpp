@@ -8,9 +8,9 @@ namespace zulg {
 template <>
 struct ComplexGraph<34> {
     static constexpr double inverseRoot = 0.17149858514250882;  // 1/sqrt(34), for `scale`
-    static constexpr double c0 = 0.7071067811865476;  // cos 2 pi 1/8
-    static constexpr double c1 = 0.3826834323650898;  // sin 2 pi 1/16
-    static constexpr double c2 = 0.9238795325112867;  // cos 2 pi 1/16
+    static constexpr double c0 = 0.3826834323650898;  // sin 2 pi 1/16
+    static constexpr double c1 = 0.9238795325112867;  // cos 2 pi 1/16
+    static constexpr double c2 = 0.7071067811865476;  // cos 2 pi 1/8
     static constexpr double c3 = 0.0625;  // 1/16
     static constexpr double c4 = 0.2576941016011038;  // beta of 17
     static constexpr double c5 = 0.09543059459065593;  // P[1] of 17
@@ -46,108 +46,108 @@ struct ComplexGraph<34> {
         const V t4 = x18r + x1r;
         const V t5 = x18r - x1r;
         // complex block of 2
-        const V x16r = io.re(16);
-        const V x33r = io.re(33);
-        const V t6 = x16r + x33r;
-        const V t7 = x16r - x33r;
-        // real block of 2
-        const V t8 = t4 + t6;
-        const V t9 = t4 - t6;
-        // real block of 16
-        const V t10 = c0 * t9;
-        // real block of 2
-        const V t11 = t5 + t7;
-        const V t12 = t5 - t7;
-        // real block of 16
-        const V t13 = c0 * t12;
-        // complex block of 2
-        const V x2r = io.re(2);
-        const V x19r = io.re(19);
-        const V t14 = x2r + x19r;
-        const V t15 = x2r - x19r;
-        // complex block of 2
-        const V x32r = io.re(32);
-        const V x15r = io.re(15);
-        const V t16 = x32r + x15r;
-        const V t17 = x32r - x15r;
-        // real block of 2
-        const V t18 = t14 + t16;
-        const V t19 = t14 - t16;
-        // real block of 2
-        const V t20 = t15 + t17;
-        const V t21 = t15 - t17;
-        // complex block of 2
-        const V x20r = io.re(20);
-        const V x3r = io.re(3);
-        const V t22 = x20r + x3r;
-        const V t23 = x20r - x3r;
-        // complex block of 2
-        const V x22r = io.re(22);
-        const V x5r = io.re(5);
-        const V t24 = x22r + x5r;
-        const V t25 = x22r - x5r;
-        // complex block of 2
-        const V x12r = io.re(12);
-        const V x29r = io.re(29);
-        const V t26 = x12r + x29r;
-        const V t27 = x12r - x29r;
-        // complex block of 2
-        const V x14r = io.re(14);
-        const V x31r = io.re(31);
-        const V t28 = x14r + x31r;
-        const V t29 = x14r - x31r;
-        // real block of 2
-        const V t30 = t22 + t28;
-        // real block of 2
-        const V t31 = t24 + t26;
-        // real block of 2
-        const V t32 = t30 - t31;
-        // real block of 2
-        const V t33 = t22 - t28;
-        // real block of 16
-        const V t34 = c1 * t33;
-        const V t35 = c2 * t33;
-        // real block of 2
-        const V t36 = t24 - t26;
-        // real block of 16
-        const V t37 = c2 * t36;
-        const V t38 = c1 * t36;
-        // real block of 2
-        const V t39 = t23 + t29;
-        // real block of 2
-        const V t40 = t25 + t27;
-        // real block of 2
-        const V t41 = t39 - t40;
-        // real block of 2
-        const V t42 = t23 - t29;
-        // real block of 16
-        const V t43 = c1 * t42;
-        const V t44 = c2 * t42;
-        // real block of 2
-        const V t45 = t25 - t27;
-        // real block of 16
-        const V t46 = c2 * t45;
-        const V t47 = c1 * t45;
-        // complex block of 2
         const V x4r = io.re(4);
         const V x21r = io.re(21);
-        const V t48 = x4r + x21r;
-        const V t49 = x4r - x21r;
+        const V t6 = x4r + x21r;
+        const V t7 = x4r - x21r;
         // complex block of 2
         const V x30r = io.re(30);
         const V x13r = io.re(13);
-        const V t50 = x30r + x13r;
-        const V t51 = x30r - x13r;
+        const V t8 = x30r + x13r;
+        const V t9 = x30r - x13r;
+        // complex block of 2
+        const V x16r = io.re(16);
+        const V x33r = io.re(33);
+        const V t10 = x16r + x33r;
+        const V t11 = x16r - x33r;
         // real block of 2
-        const V t52 = t50 + t48;
-        const V t53 = t50 - t48;
-        // real block of 16
-        const V t54 = c0 * t53;
+        const V t12 = t4 + t10;
+        const V t13 = t4 - t10;
         // real block of 2
-        const V t55 = t51 + t49;
-        const V t56 = t51 - t49;
+        const V t14 = t8 - t6;
         // real block of 16
-        const V t57 = c0 * t56;
+        const V t15 = t13 - t14;
+        const V t16 = t14 + t13;
+        // real block of 2
+        const V t17 = t8 + t6;
+        // real block of 2
+        const V t18 = t5 + t11;
+        const V t19 = t5 - t11;
+        // real block of 2
+        const V t20 = t9 - t7;
+        // real block of 16
+        const V t21 = t19 - t20;
+        const V t22 = t20 + t19;
+        // real block of 2
+        const V t23 = t9 + t7;
+        // complex block of 2
+        const V x2r = io.re(2);
+        const V x19r = io.re(19);
+        const V t24 = x2r + x19r;
+        const V t25 = x2r - x19r;
+        // complex block of 2
+        const V x32r = io.re(32);
+        const V x15r = io.re(15);
+        const V t26 = x32r + x15r;
+        const V t27 = x32r - x15r;
+        // real block of 2
+        const V t28 = t24 + t26;
+        const V t29 = t24 - t26;
+        // real block of 2
+        const V t30 = t25 + t27;
+        const V t31 = t25 - t27;
+        // complex block of 2
+        const V x20r = io.re(20);
+        const V x3r = io.re(3);
+        const V t32 = x20r + x3r;
+        const V t33 = x20r - x3r;
+        // complex block of 2
+        const V x22r = io.re(22);
+        const V x5r = io.re(5);
+        const V t34 = x22r + x5r;
+        const V t35 = x22r - x5r;
+        // complex block of 2
+        const V x12r = io.re(12);
+        const V x29r = io.re(29);
+        const V t36 = x12r + x29r;
+        const V t37 = x12r - x29r;
+        // complex block of 2
+        const V x14r = io.re(14);
+        const V x31r = io.re(31);
+        const V t38 = x14r + x31r;
+        const V t39 = x14r - x31r;
+        // real block of 2
+        const V t40 = t32 + t38;
+        // real block of 2
+        const V t41 = t34 + t36;
+        // real block of 2
+        const V t42 = t40 - t41;
+        // real block of 2
+        const V t43 = t32 - t38;
+        // real block of 16
+        const V t44 = c0 * t43;
+        const V t45 = c1 * t43;
+        // real block of 2
+        const V t46 = t34 - t36;
+        // real block of 16
+        const V t47 = c1 * t46;
+        const V t48 = c0 * t46;
+        // real block of 2
+        const V t49 = t33 + t39;
+        // real block of 2
+        const V t50 = t35 + t37;
+        // real block of 2
+        const V t51 = t49 - t50;
+        // real block of 2
+        const V t52 = t33 - t39;
+        // real block of 16
+        const V t53 = c0 * t52;
+        const V t54 = c1 * t52;
+        // real block of 2
+        const V t55 = t35 - t37;
+        // real block of 16
+        const V t56 = c1 * t55;
+        const V t57 = c0 * t55;
         // complex block of 2
         const V x6r = io.re(6);
         const V x23r = io.re(23);
@@ -177,13 +177,13 @@ struct ComplexGraph<34> {
         // real block of 2
         const V t69 = t58 - t64;
         // real block of 16
-        const V t70 = c2 * t69;
-        const V t71 = c1 * t69;
+        const V t70 = c1 * t69;
+        const V t71 = c0 * t69;
         // real block of 2
         const V t72 = t62 - t60;
         // real block of 16
-        const V t73 = c1 * t72;
-        const V t74 = c2 * t72;
+        const V t73 = c0 * t72;
+        const V t74 = c1 * t72;
         // real block of 2
         const V t75 = t59 + t65;
         // real block of 2
@@ -193,13 +193,13 @@ struct ComplexGraph<34> {
         // real block of 2
         const V t78 = t59 - t65;
         // real block of 16
-        const V t79 = c2 * t78;
-        const V t80 = c1 * t78;
+        const V t79 = c1 * t78;
+        const V t80 = c0 * t78;
         // real block of 2
         const V t81 = t63 - t61;
         // real block of 16
-        const V t82 = c1 * t81;
-        const V t83 = c2 * t81;
+        const V t82 = c0 * t81;
+        const V t83 = c1 * t81;
         // complex block of 2
         const V x8r = io.re(8);
         const V x25r = io.re(25);
@@ -217,15 +217,15 @@ struct ComplexGraph<34> {
         const V t90 = t87 + t85;
         const V t91 = t87 - t85;
         // real block of 2
-        const V t92 = t18 + t88;
+        const V t92 = t28 + t88;
         // real block of 2
-        const V t93 = t8 + t52;
+        const V t93 = t12 + t17;
         // real block of 2
         const V t94 = t92 + t93;
         // real block of 2
         const V t95 = t66 + t67;
         // real block of 2
-        const V t96 = t30 + t31;
+        const V t96 = t40 + t41;
         // real block of 2
         const V t97 = t95 + t96;
         // real block of 2
@@ -236,38 +236,38 @@ struct ComplexGraph<34> {
         const V t100 = t94 + t97;
         const V t101 = t94 - t97;
         // real block of 2
-        const V t102 = t18 - t88;
+        const V t102 = t28 - t88;
         // skew block of 4
-        const V t103 = t68 - t32;
-        const V t104 = c0 * t103;
+        const V t103 = t68 - t42;
+        const V t104 = c2 * t103;
         const V t105 = t102 + t104;
         const V t106 = t102 - t104;
         // real block of 2
-        const V t107 = t8 - t52;
+        const V t107 = t12 - t17;
         // skew block of 4
-        const V t108 = t68 + t32;
-        const V t109 = c0 * t108;
+        const V t108 = t68 + t42;
+        const V t109 = c2 * t108;
         const V t110 = t109 - t107;
         const V t111 = t107 + t109;
         // real block of 16
         const V t112 = t70 - t73;
-        const V t113 = t34 - t37;
+        const V t113 = t44 - t47;
         // complex block of 2
         const V t114 = t112 + t113;
         const V t115 = t112 - t113;
         // real block of 16
         const V t116 = t74 + t71;
-        const V t117 = t38 + t35;
+        const V t117 = t48 + t45;
         // complex block of 2
         const V t118 = t116 + t117;
         const V t119 = t117 - t116;
         // real block of 16
-        const V t120 = t10 - t54;
+        const V t120 = c2 * t15;
         // complex block of 2
-        const V t121 = t19 + t120;
-        const V t122 = t19 - t120;
+        const V t121 = t29 + t120;
+        const V t122 = t29 - t120;
         // real block of 16
-        const V t123 = t54 + t10;
+        const V t123 = c2 * t16;
         // complex block of 2
         const V t124 = t89 + t123;
         const V t125 = t123 - t89;
@@ -282,15 +282,15 @@ struct ComplexGraph<34> {
         const V t132 = t122 - t119;
         const V t133 = t125 + t115;
         // real block of 2
-        const V t134 = t20 + t90;
+        const V t134 = t30 + t90;
         // real block of 2
-        const V t135 = t11 + t55;
+        const V t135 = t18 + t23;
         // real block of 2
         const V t136 = t134 + t135;
         // real block of 2
         const V t137 = t75 + t76;
         // real block of 2
-        const V t138 = t39 + t40;
+        const V t138 = t49 + t50;
         // real block of 2
         const V t139 = t137 + t138;
         // real block of 2
@@ -301,38 +301,38 @@ struct ComplexGraph<34> {
         const V t142 = t136 + t139;
         const V t143 = t136 - t139;
         // real block of 2
-        const V t144 = t20 - t90;
+        const V t144 = t30 - t90;
         // skew block of 4
-        const V t145 = t77 - t41;
-        const V t146 = c0 * t145;
+        const V t145 = t77 - t51;
+        const V t146 = c2 * t145;
         const V t147 = t144 + t146;
         const V t148 = t144 - t146;
         // real block of 2
-        const V t149 = t11 - t55;
+        const V t149 = t18 - t23;
         // skew block of 4
-        const V t150 = t77 + t41;
-        const V t151 = c0 * t150;
+        const V t150 = t77 + t51;
+        const V t151 = c2 * t150;
         const V t152 = t151 - t149;
         const V t153 = t149 + t151;
         // real block of 16
         const V t154 = t79 - t82;
-        const V t155 = t43 - t46;
+        const V t155 = t53 - t56;
         // complex block of 2
         const V t156 = t154 + t155;
         const V t157 = t154 - t155;
         // real block of 16
         const V t158 = t83 + t80;
-        const V t159 = t47 + t44;
+        const V t159 = t57 + t54;
         // complex block of 2
         const V t160 = t158 + t159;
         const V t161 = t159 - t158;
         // real block of 16
-        const V t162 = t13 - t57;
+        const V t162 = c2 * t21;
         // complex block of 2
-        const V t163 = t21 + t162;
-        const V t164 = t21 - t162;
+        const V t163 = t31 + t162;
+        const V t164 = t31 - t162;
         // real block of 16
-        const V t165 = t57 + t13;
+        const V t165 = c2 * t22;
         // complex block of 2
         const V t166 = t91 + t165;
         const V t167 = t165 - t91;
@@ -352,108 +352,108 @@ struct ComplexGraph<34> {
         const V t176 = x18i + x1i;
         const V t177 = x18i - x1i;
         // complex block of 2
-        const V x16i = io.im(16);
-        const V x33i = io.im(33);
-        const V t178 = x16i + x33i;
-        const V t179 = x16i - x33i;
-        // real block of 2
-        const V t180 = t176 + t178;
-        const V t181 = t176 - t178;
-        // real block of 16
-        const V t182 = c0 * t181;
-        // real block of 2
-        const V t183 = t177 + t179;
-        const V t184 = t177 - t179;
-        // real block of 16
-        const V t185 = c0 * t184;
-        // complex block of 2
-        const V x2i = io.im(2);
-        const V x19i = io.im(19);
-        const V t186 = x2i + x19i;
-        const V t187 = x2i - x19i;
-        // complex block of 2
-        const V x32i = io.im(32);
-        const V x15i = io.im(15);
-        const V t188 = x32i + x15i;
-        const V t189 = x32i - x15i;
-        // real block of 2
-        const V t190 = t186 + t188;
-        const V t191 = t186 - t188;
-        // real block of 2
-        const V t192 = t187 + t189;
-        const V t193 = t187 - t189;
-        // complex block of 2
-        const V x20i = io.im(20);
-        const V x3i = io.im(3);
-        const V t194 = x20i + x3i;
-        const V t195 = x20i - x3i;
-        // complex block of 2
-        const V x22i = io.im(22);
-        const V x5i = io.im(5);
-        const V t196 = x22i + x5i;
-        const V t197 = x22i - x5i;
-        // complex block of 2
-        const V x12i = io.im(12);
-        const V x29i = io.im(29);
-        const V t198 = x12i + x29i;
-        const V t199 = x12i - x29i;
-        // complex block of 2
-        const V x14i = io.im(14);
-        const V x31i = io.im(31);
-        const V t200 = x14i + x31i;
-        const V t201 = x14i - x31i;
-        // real block of 2
-        const V t202 = t194 + t200;
-        // real block of 2
-        const V t203 = t196 + t198;
-        // real block of 2
-        const V t204 = t202 - t203;
-        // real block of 2
-        const V t205 = t194 - t200;
-        // real block of 16
-        const V t206 = c1 * t205;
-        const V t207 = c2 * t205;
-        // real block of 2
-        const V t208 = t196 - t198;
-        // real block of 16
-        const V t209 = c2 * t208;
-        const V t210 = c1 * t208;
-        // real block of 2
-        const V t211 = t195 + t201;
-        // real block of 2
-        const V t212 = t197 + t199;
-        // real block of 2
-        const V t213 = t211 - t212;
-        // real block of 2
-        const V t214 = t195 - t201;
-        // real block of 16
-        const V t215 = c1 * t214;
-        const V t216 = c2 * t214;
-        // real block of 2
-        const V t217 = t197 - t199;
-        // real block of 16
-        const V t218 = c2 * t217;
-        const V t219 = c1 * t217;
-        // complex block of 2
         const V x4i = io.im(4);
         const V x21i = io.im(21);
-        const V t220 = x4i + x21i;
-        const V t221 = x4i - x21i;
+        const V t178 = x4i + x21i;
+        const V t179 = x4i - x21i;
         // complex block of 2
         const V x30i = io.im(30);
         const V x13i = io.im(13);
-        const V t222 = x30i + x13i;
-        const V t223 = x30i - x13i;
+        const V t180 = x30i + x13i;
+        const V t181 = x30i - x13i;
+        // complex block of 2
+        const V x16i = io.im(16);
+        const V x33i = io.im(33);
+        const V t182 = x16i + x33i;
+        const V t183 = x16i - x33i;
         // real block of 2
-        const V t224 = t222 + t220;
-        const V t225 = t222 - t220;
-        // real block of 16
-        const V t226 = c0 * t225;
+        const V t184 = t176 + t182;
+        const V t185 = t176 - t182;
         // real block of 2
-        const V t227 = t223 + t221;
-        const V t228 = t223 - t221;
+        const V t186 = t180 - t178;
         // real block of 16
-        const V t229 = c0 * t228;
+        const V t187 = t185 - t186;
+        const V t188 = t186 + t185;
+        // real block of 2
+        const V t189 = t180 + t178;
+        // real block of 2
+        const V t190 = t177 + t183;
+        const V t191 = t177 - t183;
+        // real block of 2
+        const V t192 = t181 - t179;
+        // real block of 16
+        const V t193 = t191 - t192;
+        const V t194 = t192 + t191;
+        // real block of 2
+        const V t195 = t181 + t179;
+        // complex block of 2
+        const V x2i = io.im(2);
+        const V x19i = io.im(19);
+        const V t196 = x2i + x19i;
+        const V t197 = x2i - x19i;
+        // complex block of 2
+        const V x32i = io.im(32);
+        const V x15i = io.im(15);
+        const V t198 = x32i + x15i;
+        const V t199 = x32i - x15i;
+        // real block of 2
+        const V t200 = t196 + t198;
+        const V t201 = t196 - t198;
+        // real block of 2
+        const V t202 = t197 + t199;
+        const V t203 = t197 - t199;
+        // complex block of 2
+        const V x20i = io.im(20);
+        const V x3i = io.im(3);
+        const V t204 = x20i + x3i;
+        const V t205 = x20i - x3i;
+        // complex block of 2
+        const V x22i = io.im(22);
+        const V x5i = io.im(5);
+        const V t206 = x22i + x5i;
+        const V t207 = x22i - x5i;
+        // complex block of 2
+        const V x12i = io.im(12);
+        const V x29i = io.im(29);
+        const V t208 = x12i + x29i;
+        const V t209 = x12i - x29i;
+        // complex block of 2
+        const V x14i = io.im(14);
+        const V x31i = io.im(31);
+        const V t210 = x14i + x31i;
+        const V t211 = x14i - x31i;
+        // real block of 2
+        const V t212 = t204 + t210;
+        // real block of 2
+        const V t213 = t206 + t208;
+        // real block of 2
+        const V t214 = t212 - t213;
+        // real block of 2
+        const V t215 = t204 - t210;
+        // real block of 16
+        const V t216 = c0 * t215;
+        const V t217 = c1 * t215;
+        // real block of 2
+        const V t218 = t206 - t208;
+        // real block of 16
+        const V t219 = c1 * t218;
+        const V t220 = c0 * t218;
+        // real block of 2
+        const V t221 = t205 + t211;
+        // real block of 2
+        const V t222 = t207 + t209;
+        // real block of 2
+        const V t223 = t221 - t222;
+        // real block of 2
+        const V t224 = t205 - t211;
+        // real block of 16
+        const V t225 = c0 * t224;
+        const V t226 = c1 * t224;
+        // real block of 2
+        const V t227 = t207 - t209;
+        // real block of 16
+        const V t228 = c1 * t227;
+        const V t229 = c0 * t227;
         // complex block of 2
         const V x6i = io.im(6);
         const V x23i = io.im(23);
@@ -483,13 +483,13 @@ struct ComplexGraph<34> {
         // real block of 2
         const V t241 = t230 - t236;
         // real block of 16
-        const V t242 = c2 * t241;
-        const V t243 = c1 * t241;
+        const V t242 = c1 * t241;
+        const V t243 = c0 * t241;
         // real block of 2
         const V t244 = t234 - t232;
         // real block of 16
-        const V t245 = c1 * t244;
-        const V t246 = c2 * t244;
+        const V t245 = c0 * t244;
+        const V t246 = c1 * t244;
         // real block of 2
         const V t247 = t231 + t237;
         // real block of 2
@@ -499,13 +499,13 @@ struct ComplexGraph<34> {
         // real block of 2
         const V t250 = t231 - t237;
         // real block of 16
-        const V t251 = c2 * t250;
-        const V t252 = c1 * t250;
+        const V t251 = c1 * t250;
+        const V t252 = c0 * t250;
         // real block of 2
         const V t253 = t235 - t233;
         // real block of 16
-        const V t254 = c1 * t253;
-        const V t255 = c2 * t253;
+        const V t254 = c0 * t253;
+        const V t255 = c1 * t253;
         // complex block of 2
         const V x8i = io.im(8);
         const V x25i = io.im(25);
@@ -523,15 +523,15 @@ struct ComplexGraph<34> {
         const V t262 = t259 + t257;
         const V t263 = t259 - t257;
         // real block of 2
-        const V t264 = t190 + t260;
+        const V t264 = t200 + t260;
         // real block of 2
-        const V t265 = t180 + t224;
+        const V t265 = t184 + t189;
         // real block of 2
         const V t266 = t264 + t265;
         // real block of 2
         const V t267 = t238 + t239;
         // real block of 2
-        const V t268 = t202 + t203;
+        const V t268 = t212 + t213;
         // real block of 2
         const V t269 = t267 + t268;
         // real block of 2
@@ -542,38 +542,38 @@ struct ComplexGraph<34> {
         const V t272 = t266 + t269;
         const V t273 = t266 - t269;
         // real block of 2
-        const V t274 = t190 - t260;
+        const V t274 = t200 - t260;
         // skew block of 4
-        const V t275 = t240 - t204;
-        const V t276 = c0 * t275;
+        const V t275 = t240 - t214;
+        const V t276 = c2 * t275;
         const V t277 = t274 + t276;
         const V t278 = t274 - t276;
         // real block of 2
-        const V t279 = t180 - t224;
+        const V t279 = t184 - t189;
         // skew block of 4
-        const V t280 = t240 + t204;
-        const V t281 = c0 * t280;
+        const V t280 = t240 + t214;
+        const V t281 = c2 * t280;
         const V t282 = t281 - t279;
         const V t283 = t279 + t281;
         // real block of 16
         const V t284 = t242 - t245;
-        const V t285 = t206 - t209;
+        const V t285 = t216 - t219;
         // complex block of 2
         const V t286 = t284 + t285;
         const V t287 = t284 - t285;
         // real block of 16
         const V t288 = t246 + t243;
-        const V t289 = t210 + t207;
+        const V t289 = t220 + t217;
         // complex block of 2
         const V t290 = t288 + t289;
         const V t291 = t289 - t288;
         // real block of 16
-        const V t292 = t182 - t226;
+        const V t292 = c2 * t187;
         // complex block of 2
-        const V t293 = t191 + t292;
-        const V t294 = t191 - t292;
+        const V t293 = t201 + t292;
+        const V t294 = t201 - t292;
         // real block of 16
-        const V t295 = t226 + t182;
+        const V t295 = c2 * t188;
         // complex block of 2
         const V t296 = t261 + t295;
         const V t297 = t295 - t261;
@@ -588,15 +588,15 @@ struct ComplexGraph<34> {
         const V t304 = t294 - t291;
         const V t305 = t297 + t287;
         // real block of 2
-        const V t306 = t192 + t262;
+        const V t306 = t202 + t262;
         // real block of 2
-        const V t307 = t183 + t227;
+        const V t307 = t190 + t195;
         // real block of 2
         const V t308 = t306 + t307;
         // real block of 2
         const V t309 = t247 + t248;
         // real block of 2
-        const V t310 = t211 + t212;
+        const V t310 = t221 + t222;
         // real block of 2
         const V t311 = t309 + t310;
         // real block of 2
@@ -607,38 +607,38 @@ struct ComplexGraph<34> {
         const V t314 = t308 + t311;
         const V t315 = t308 - t311;
         // real block of 2
-        const V t316 = t192 - t262;
+        const V t316 = t202 - t262;
         // skew block of 4
-        const V t317 = t249 - t213;
-        const V t318 = c0 * t317;
+        const V t317 = t249 - t223;
+        const V t318 = c2 * t317;
         const V t319 = t316 + t318;
         const V t320 = t316 - t318;
         // real block of 2
-        const V t321 = t183 - t227;
+        const V t321 = t190 - t195;
         // skew block of 4
-        const V t322 = t249 + t213;
-        const V t323 = c0 * t322;
+        const V t322 = t249 + t223;
+        const V t323 = c2 * t322;
         const V t324 = t323 - t321;
         const V t325 = t321 + t323;
         // real block of 16
         const V t326 = t251 - t254;
-        const V t327 = t215 - t218;
+        const V t327 = t225 - t228;
         // complex block of 2
         const V t328 = t326 + t327;
         const V t329 = t326 - t327;
         // real block of 16
         const V t330 = t255 + t252;
-        const V t331 = t219 + t216;
+        const V t331 = t229 + t226;
         // complex block of 2
         const V t332 = t330 + t331;
         const V t333 = t331 - t330;
         // real block of 16
-        const V t334 = t185 - t229;
+        const V t334 = c2 * t193;
         // complex block of 2
-        const V t335 = t193 + t334;
-        const V t336 = t193 - t334;
+        const V t335 = t203 + t334;
+        const V t336 = t203 - t334;
         // real block of 16
-        const V t337 = t229 + t185;
+        const V t337 = c2 * t194;
         // complex block of 2
         const V t338 = t263 + t337;
         const V t339 = t337 - t263;
@@ -723,7 +723,7 @@ struct ComplexGraph<34> {
         const V t398 = t397 - t396;
         // mirrored skew block of 4
         const V t399 = t395 - t398;
-        const V t400 = c0 * t399;
+        const V t400 = c2 * t399;
         const V t401 = t395 + t398;
         // complex block of 17, multiplier 2
         const V t402 = c13 * t105;
@@ -734,7 +734,7 @@ struct ComplexGraph<34> {
         const V t407 = t406 + t405;
         // mirrored skew block of 4
         const V t408 = t404 - t407;
-        const V t409 = c0 * t408;
+        const V t409 = c2 * t408;
         const V t410 = t404 + t407;
         // complex block of 17, multiplier 2
         const V t411 = c17 * t99;
@@ -767,19 +767,19 @@ struct ComplexGraph<34> {
         const V t427 = t426 - t410;
         const V t428 = t426 + t410;
         // spectrum block of 16
-        const V t429 = c0 * t384;
-        const V t430 = c0 * t381;
-        const V t431 = t429 + t430;
-        const V t432 = t430 - t429;
+        const V t429 = t384 + t381;
+        const V t430 = c2 * t429;
+        const V t431 = t381 - t384;
+        const V t432 = c2 * t431;
         // spectrum block of 2
         const V t433 = t427 - t432;
         io.re(4, t433);
         const V t434 = t427 + t432;
         io.re(30, t434);
         // spectrum block of 2
-        const V t435 = t428 - t431;
+        const V t435 = t428 - t430;
         io.re(16, t435);
-        const V t436 = t428 + t431;
+        const V t436 = t428 + t430;
         io.re(18, t436);
         // spectrum block of 2
         const V t437 = t354 - t416;
@@ -789,11 +789,11 @@ struct ComplexGraph<34> {
         const V t439 = t437 + t438;
         const V t440 = t437 - t438;
         // spectrum block of 16
-        const V t441 = c1 * t387;
-        const V t442 = c2 * t391;
+        const V t441 = c0 * t387;
+        const V t442 = c1 * t391;
         const V t443 = t442 - t441;
-        const V t444 = c1 * t391;
-        const V t445 = c2 * t387;
+        const V t444 = c0 * t391;
+        const V t445 = c1 * t387;
         const V t446 = t445 + t444;
         // spectrum block of 2
         const V t447 = t439 + t443;
@@ -813,11 +813,11 @@ struct ComplexGraph<34> {
         const V t453 = t451 - t452;
         const V t454 = t451 + t452;
         // spectrum block of 16
-        const V t455 = c2 * t388;
-        const V t456 = c1 * t392;
+        const V t455 = c1 * t388;
+        const V t456 = c0 * t392;
         const V t457 = t456 - t455;
-        const V t458 = c2 * t392;
-        const V t459 = c1 * t388;
+        const V t458 = c1 * t392;
+        const V t459 = c0 * t388;
         const V t460 = t459 + t458;
         // spectrum block of 2
         const V t461 = t453 + t457;
@@ -896,7 +896,7 @@ struct ComplexGraph<34> {
         const V t513 = t512 - t511;
         // mirrored skew block of 4
         const V t514 = t510 - t513;
-        const V t515 = c0 * t514;
+        const V t515 = c2 * t514;
         const V t516 = t510 + t513;
         // complex block of 17, multiplier 2
         const V t517 = c13 * t277;
@@ -907,7 +907,7 @@ struct ComplexGraph<34> {
         const V t522 = t521 + t520;
         // mirrored skew block of 4
         const V t523 = t519 - t522;
-        const V t524 = c0 * t523;
+        const V t524 = c2 * t523;
         const V t525 = t519 + t522;
         // complex block of 17, multiplier 2
         const V t526 = c17 * t271;
@@ -940,19 +940,19 @@ struct ComplexGraph<34> {
         const V t542 = t541 - t525;
         const V t543 = t541 + t525;
         // spectrum block of 16
-        const V t544 = c0 * t499;
-        const V t545 = c0 * t496;
-        const V t546 = t545 - t544;
-        const V t547 = t545 + t544;
+        const V t544 = t496 - t499;
+        const V t545 = c2 * t544;
+        const V t546 = t496 + t499;
+        const V t547 = c2 * t546;
         // spectrum block of 2
         const V t548 = t542 - t547;
         io.im(4, t548);
         const V t549 = t542 + t547;
         io.im(30, t549);
         // spectrum block of 2
-        const V t550 = t543 - t546;
+        const V t550 = t543 - t545;
         io.im(16, t550);
-        const V t551 = t543 + t546;
+        const V t551 = t543 + t545;
         io.im(18, t551);
         // spectrum block of 2
         const V t552 = t469 - t531;
@@ -962,11 +962,11 @@ struct ComplexGraph<34> {
         const V t554 = t552 + t553;
         const V t555 = t552 - t553;
         // spectrum block of 16
-        const V t556 = c1 * t502;
-        const V t557 = c2 * t506;
+        const V t556 = c0 * t502;
+        const V t557 = c1 * t506;
         const V t558 = t557 - t556;
-        const V t559 = c1 * t506;
-        const V t560 = c2 * t502;
+        const V t559 = c0 * t506;
+        const V t560 = c1 * t502;
         const V t561 = t560 + t559;
         // spectrum block of 2
         const V t562 = t554 + t558;
@@ -986,11 +986,11 @@ struct ComplexGraph<34> {
         const V t568 = t566 - t567;
         const V t569 = t566 + t567;
         // spectrum block of 16
-        const V t570 = c2 * t503;
-        const V t571 = c1 * t507;
+        const V t570 = c1 * t503;
+        const V t571 = c0 * t507;
         const V t572 = t571 - t570;
-        const V t573 = c2 * t507;
-        const V t574 = c1 * t503;
+        const V t573 = c1 * t507;
+        const V t574 = c0 * t503;
         const V t575 = t574 + t573;
         // spectrum block of 2
         const V t576 = t568 + t572;
@@ -1073,7 +1073,7 @@ struct ComplexGraph<34> {
         const V t630 = t629 - t628;
         // mirrored skew block of 4
         const V t631 = t627 - t630;
-        const V t632 = c0 * t631;
+        const V t632 = c2 * t631;
         const V t633 = t627 + t630;
         // complex block of 17, multiplier 2
         const V t634 = c13 * t147;
@@ -1084,7 +1084,7 @@ struct ComplexGraph<34> {
         const V t639 = t638 + t637;
         // mirrored skew block of 4
         const V t640 = t636 - t639;
-        const V t641 = c0 * t640;
+        const V t641 = c2 * t640;
         const V t642 = t636 + t639;
         // complex block of 17, multiplier 2
         const V t643 = c17 * t141;
@@ -1117,19 +1117,19 @@ struct ComplexGraph<34> {
         const V t659 = t658 - t642;
         const V t660 = t658 + t642;
         // spectrum block of 16
-        const V t661 = c0 * t616;
-        const V t662 = c0 * t613;
-        const V t663 = t661 + t662;
-        const V t664 = t662 - t661;
+        const V t661 = t616 + t613;
+        const V t662 = c2 * t661;
+        const V t663 = t613 - t616;
+        const V t664 = c2 * t663;
         // spectrum block of 2
         const V t665 = t659 - t664;
         io.re(21, t665);
         const V t666 = t659 + t664;
         io.re(13, t666);
         // spectrum block of 2
-        const V t667 = t660 - t663;
+        const V t667 = t660 - t662;
         io.re(33, t667);
-        const V t668 = t660 + t663;
+        const V t668 = t660 + t662;
         io.re(1, t668);
         // spectrum block of 2
         const V t669 = t586 - t648;
@@ -1139,11 +1139,11 @@ struct ComplexGraph<34> {
         const V t671 = t669 + t670;
         const V t672 = t669 - t670;
         // spectrum block of 16
-        const V t673 = c1 * t619;
-        const V t674 = c2 * t623;
+        const V t673 = c0 * t619;
+        const V t674 = c1 * t623;
         const V t675 = t674 - t673;
-        const V t676 = c1 * t623;
-        const V t677 = c2 * t619;
+        const V t676 = c0 * t623;
+        const V t677 = c1 * t619;
         const V t678 = t677 + t676;
         // spectrum block of 2
         const V t679 = t671 + t675;
@@ -1163,11 +1163,11 @@ struct ComplexGraph<34> {
         const V t685 = t683 - t684;
         const V t686 = t683 + t684;
         // spectrum block of 16
-        const V t687 = c2 * t620;
-        const V t688 = c1 * t624;
+        const V t687 = c1 * t620;
+        const V t688 = c0 * t624;
         const V t689 = t688 - t687;
-        const V t690 = c2 * t624;
-        const V t691 = c1 * t620;
+        const V t690 = c1 * t624;
+        const V t691 = c0 * t620;
         const V t692 = t691 + t690;
         // spectrum block of 2
         const V t693 = t685 + t689;
@@ -1246,7 +1246,7 @@ struct ComplexGraph<34> {
         const V t745 = t744 - t743;
         // mirrored skew block of 4
         const V t746 = t742 - t745;
-        const V t747 = c0 * t746;
+        const V t747 = c2 * t746;
         const V t748 = t742 + t745;
         // complex block of 17, multiplier 2
         const V t749 = c13 * t319;
@@ -1257,7 +1257,7 @@ struct ComplexGraph<34> {
         const V t754 = t753 + t752;
         // mirrored skew block of 4
         const V t755 = t751 - t754;
-        const V t756 = c0 * t755;
+        const V t756 = c2 * t755;
         const V t757 = t751 + t754;
         // complex block of 17, multiplier 2
         const V t758 = c17 * t313;
@@ -1290,19 +1290,19 @@ struct ComplexGraph<34> {
         const V t774 = t773 - t757;
         const V t775 = t773 + t757;
         // spectrum block of 16
-        const V t776 = c0 * t731;
-        const V t777 = c0 * t728;
-        const V t778 = t777 - t776;
-        const V t779 = t777 + t776;
+        const V t776 = t728 - t731;
+        const V t777 = c2 * t776;
+        const V t778 = t728 + t731;
+        const V t779 = c2 * t778;
         // spectrum block of 2
         const V t780 = t774 - t779;
         io.im(21, t780);
         const V t781 = t774 + t779;
         io.im(13, t781);
         // spectrum block of 2
-        const V t782 = t775 - t778;
+        const V t782 = t775 - t777;
         io.im(33, t782);
-        const V t783 = t775 + t778;
+        const V t783 = t775 + t777;
         io.im(1, t783);
         // spectrum block of 2
         const V t784 = t701 - t763;
@@ -1312,11 +1312,11 @@ struct ComplexGraph<34> {
         const V t786 = t784 + t785;
         const V t787 = t784 - t785;
         // spectrum block of 16
-        const V t788 = c1 * t734;
-        const V t789 = c2 * t738;
+        const V t788 = c0 * t734;
+        const V t789 = c1 * t738;
         const V t790 = t789 - t788;
-        const V t791 = c1 * t738;
-        const V t792 = c2 * t734;
+        const V t791 = c0 * t738;
+        const V t792 = c1 * t734;
         const V t793 = t792 + t791;
         // spectrum block of 2
         const V t794 = t786 + t790;
@@ -1336,11 +1336,11 @@ struct ComplexGraph<34> {
         const V t800 = t798 - t799;
         const V t801 = t798 + t799;
         // spectrum block of 16
-        const V t802 = c2 * t735;
-        const V t803 = c1 * t739;
+        const V t802 = c1 * t735;
+        const V t803 = c0 * t739;
         const V t804 = t803 - t802;
-        const V t805 = c2 * t739;
-        const V t806 = c1 * t735;
+        const V t805 = c1 * t739;
+        const V t806 = c0 * t735;
         const V t807 = t806 + t805;
         // spectrum block of 2
         const V t808 = t800 + t804;

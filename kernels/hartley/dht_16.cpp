@@ -85,10 +85,10 @@ struct HartleyGraph<16> {
         const V t33 = c0 * t7;
         const V t34 = c1 * t9;
         const V t35 = t34 + t33;
-        const V t36 = c2 * t13;
-        const V t37 = c2 * t15;
-        const V t38 = t36 - t37;
-        const V t39 = t37 + t36;
+        const V t36 = t13 - t15;
+        const V t37 = t15 + t13;
+        const V t38 = c2 * t36;
+        const V t39 = c2 * t37;
         const V t40 = c1 * t21;
         const V t41 = c0 * t19;
         const V t42 = t41 - t40;

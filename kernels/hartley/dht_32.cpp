@@ -200,10 +200,10 @@ struct HartleyGraph<32> {
         const V t123 = c5 * t105;
         const V t124 = c6 * t104;
         const V t125 = t124 + t123;
-        const V t126 = c0 * t79;
-        const V t127 = c0 * t78;
-        const V t128 = t126 + t127;
-        const V t129 = t127 - t126;
+        const V t126 = t79 + t78;
+        const V t127 = t78 - t79;
+        const V t128 = c0 * t126;
+        const V t129 = c0 * t127;
         const V t130 = c6 * t102;
         const V t131 = c5 * t103;
         const V t132 = t131 - t130;

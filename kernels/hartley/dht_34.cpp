@@ -383,12 +383,10 @@ struct HartleyGraph<34> {
         const V t225 = t223 - t215;
         const V t226 = t211 + t219;
         const V t227 = t215 + t223;
+        const V t228 = t211 - t219;
         // spectrum block of 16
-        const V t228 = c0 * t227;
-        // complex block of 2
-        const V t229 = t211 - t219;
-        // spectrum block of 16
-        const V t230 = c0 * t229;
+        const V t229 = t228 - t227;
+        const V t230 = t227 + t228;
         // complex block of 2
         const V t231 = t216 + t220;
         // spectrum block of 16
@@ -468,12 +466,10 @@ struct HartleyGraph<34> {
         const V t280 = t270 - t278;
         const V t281 = t266 + t274;
         const V t282 = t270 + t278;
+        const V t283 = t266 - t274;
         // spectrum block of 16
-        const V t283 = c0 * t282;
-        // complex block of 2
-        const V t284 = t266 - t274;
-        // spectrum block of 16
-        const V t285 = c0 * t284;
+        const V t284 = t283 + t282;
+        const V t285 = t282 - t283;
         // complex block of 2
         const V t286 = t275 - t271;
         // spectrum block of 16
@@ -559,14 +555,14 @@ struct HartleyGraph<34> {
         const V t333 = t325 - t329;
         io.out(31, t333);
         // spectrum block of 16
-        const V t334 = t230 - t228;
+        const V t334 = c0 * t229;
         // spectrum block of 2
         const V t335 = t206 + t254;
         // spectrum block of 2
         const V t336 = t335 - t334;
         const V t337 = t335 + t334;
         // spectrum block of 16
-        const V t338 = t285 + t283;
+        const V t338 = c0 * t284;
         // spectrum block of 2
         const V t339 = t261 + t309;
         // spectrum block of 2
@@ -583,14 +579,14 @@ struct HartleyGraph<34> {
         const V t345 = t337 - t341;
         io.out(33, t345);
         // spectrum block of 16
-        const V t346 = t228 + t230;
+        const V t346 = c0 * t230;
         // spectrum block of 2
         const V t347 = t206 - t254;
         // spectrum block of 2
         const V t348 = t347 + t346;
         const V t349 = t347 - t346;
         // spectrum block of 16
-        const V t350 = t283 - t285;
+        const V t350 = c0 * t285;
         // spectrum block of 2
         const V t351 = t261 - t309;
         // spectrum block of 2

@@ -341,12 +341,10 @@ struct HartleyGraph<48> {
         const V t184 = t172 + t180;
         const V t185 = t173 + t181;
         const V t186 = t172 - t180;
+        const V t187 = t173 - t181;
         // spectrum block of 16, multiplier 3
-        const V t187 = c0 * t186;
-        // complex block of 2
-        const V t188 = t173 - t181;
-        // spectrum block of 16, multiplier 3
-        const V t189 = c0 * t188;
+        const V t188 = t187 + t186;
+        const V t189 = t186 - t187;
         // complex block of 2
         const V t190 = t174 - t183;
         // spectrum block of 16, multiplier 3
@@ -453,7 +451,7 @@ struct HartleyGraph<48> {
         const V t250 = t247 + t248;
         io.out(25, t250);
         // spectrum block of 16, multiplier 3
-        const V t251 = t189 + t187;
+        const V t251 = c0 * t188;
         // spectrum block of 2
         const V t252 = t16 - t251;
         const V t253 = t16 + t251;
@@ -492,7 +490,7 @@ struct HartleyGraph<48> {
         const V t272 = t269 + t270;
         io.out(34, t272);
         // spectrum block of 16, multiplier 3
-        const V t273 = t187 - t189;
+        const V t273 = c0 * t189;
         // spectrum block of 2
         const V t274 = t17 - t273;
         const V t275 = t17 + t273;

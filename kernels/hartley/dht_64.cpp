@@ -483,12 +483,10 @@ struct HartleyGraph<64> {
         const V t270 = t258 + t266;
         const V t271 = t259 + t267;
         const V t272 = t258 - t266;
+        const V t273 = t259 - t267;
         // spectrum block of 16
-        const V t273 = c0 * t272;
-        // complex block of 2
-        const V t274 = t259 - t267;
-        // spectrum block of 16
-        const V t275 = c0 * t274;
+        const V t274 = t273 + t272;
+        const V t275 = t272 - t273;
         // complex block of 2
         const V t276 = t260 + t269;
         // spectrum block of 16
@@ -656,7 +654,7 @@ struct HartleyGraph<64> {
         const V t367 = t365 + t364;
         io.out(3, t367);
         // spectrum block of 16
-        const V t368 = t275 + t273;
+        const V t368 = c0 * t274;
         // spectrum block of 2
         const V t369 = t17 - t368;
         const V t370 = t17 + t368;
@@ -724,7 +722,7 @@ struct HartleyGraph<64> {
         const V t406 = t404 + t403;
         io.out(2, t406);
         // spectrum block of 16
-        const V t407 = t273 - t275;
+        const V t407 = c0 * t275;
         // spectrum block of 2
         const V t408 = t16 - t407;
         const V t409 = t16 + t407;
@@ -976,20 +974,18 @@ struct HartleyGraph<64> {
         const V t551 = t548 + t549;
         // complex block of 2
         const V t552 = t62 - t216;
+        const V t553 = t66 - t220;
         // spectrum block of 64
-        const V t553 = c0 * t552;
-        // complex block of 2
-        const V t554 = t66 - t220;
-        // spectrum block of 64
-        const V t555 = c0 * t554;
-        const V t556 = t555 + t553;
+        const V t554 = t553 + t552;
+        const V t555 = t552 - t553;
+        const V t556 = c0 * t554;
         // spectrum block of 2
         const V t557 = t551 - t556;
         io.out(40, t557);
         const V t558 = t551 + t556;
         io.out(8, t558);
         // spectrum block of 64
-        const V t559 = t553 - t555;
+        const V t559 = c0 * t555;
         // spectrum block of 2
         const V t560 = t550 - t559;
         io.out(56, t560);

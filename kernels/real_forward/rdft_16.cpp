@@ -60,8 +60,8 @@ struct RealForwardGraph<16> {
         // real block of 2
         const V t19 = t15 + t17;
         // real block of 16
-        const V t20 = c2 * t16;
-        const V t21 = c2 * t18;
+        const V t20 = t16 - t18;
+        const V t21 = t18 + t16;
         // real block of 2
         const V x3 = io.in(3);
         const V x11 = io.in(11);
@@ -126,12 +126,12 @@ struct RealForwardGraph<16> {
         const V t54 = t52 + t53;
         const V t55 = t53 - t52;
         // real block of 16
-        const V t56 = t20 - t21;
+        const V t56 = c2 * t20;
         // complex block of 2
         const V t57 = t2 + t56;
         const V t58 = t2 - t56;
         // real block of 16
-        const V t59 = t21 + t20;
+        const V t59 = c2 * t21;
         // complex block of 2
         const V t60 = t3 + t59;
         const V t61 = t59 - t3;

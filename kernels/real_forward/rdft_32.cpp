@@ -238,10 +238,10 @@ struct RealForwardGraph<32> {
         const V t131 = c3 * t31;
         const V t132 = c4 * t33;
         const V t133 = t132 + t131;
-        const V t134 = c0 * t53;
-        const V t135 = c0 * t55;
-        const V t136 = t134 - t135;
-        const V t137 = t135 + t134;
+        const V t134 = t53 - t55;
+        const V t135 = t55 + t53;
+        const V t136 = c0 * t134;
+        const V t137 = c0 * t135;
         const V t138 = c4 * t77;
         const V t139 = c3 * t75;
         const V t140 = t139 - t138;

@@ -134,23 +134,25 @@ struct RealInverseGraph<16> {
         const V t60 = t56 + t53;
         io.out(13, t60);
         // spectrum block of 16
-        const V t61 = c1 * t21;
-        const V t62 = c1 * t18;
-        const V t63 = t61 + t62;
-        const V t64 = t62 - t61;
+        const V t61 = t21 + t18;
+        const V t62 = c1 * t61;
         // spectrum block of 2
-        const V t65 = t5 - t39;
-        const V t66 = t5 + t39;
+        const V t63 = t5 + t39;
         // spectrum block of 2
-        const V t67 = t65 - t64;
-        io.out(2, t67);
-        const V t68 = t65 + t64;
-        io.out(10, t68);
+        const V t64 = t63 - t62;
+        io.out(6, t64);
+        const V t65 = t63 + t62;
+        io.out(14, t65);
+        // spectrum block of 16
+        const V t66 = t18 - t21;
+        const V t67 = c1 * t66;
         // spectrum block of 2
-        const V t69 = t66 - t63;
-        io.out(6, t69);
-        const V t70 = t66 + t63;
-        io.out(14, t70);
+        const V t68 = t5 - t39;
+        // spectrum block of 2
+        const V t69 = t68 - t67;
+        io.out(2, t69);
+        const V t70 = t68 + t67;
+        io.out(10, t70);
         // spectrum block of 16
         const V t71 = c3 * t25;
         const V t72 = c2 * t29;

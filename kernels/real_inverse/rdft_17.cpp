@@ -291,23 +291,25 @@ struct RealInverseGraph<17> {
         const V t159 = t155 + t152;
         io.out(10, t159);
         // spectrum block of 16
-        const V t160 = c4 * t124;
-        const V t161 = c4 * t123;
-        const V t162 = t160 + t161;
-        const V t163 = t161 - t160;
+        const V t160 = t124 + t123;
+        const V t161 = c4 * t160;
         // spectrum block of 2
-        const V t164 = t104 + t138;
-        const V t165 = t104 - t138;
+        const V t162 = t104 - t138;
         // spectrum block of 2
-        const V t166 = t164 - t163;
-        io.out(2, t166);
-        const V t167 = t164 + t163;
-        io.out(15, t167);
+        const V t163 = t162 - t161;
+        io.out(8, t163);
+        const V t164 = t162 + t161;
+        io.out(9, t164);
+        // spectrum block of 16
+        const V t165 = t123 - t124;
+        const V t166 = c4 * t165;
         // spectrum block of 2
-        const V t168 = t165 - t162;
-        io.out(8, t168);
-        const V t169 = t165 + t162;
-        io.out(9, t169);
+        const V t167 = t104 + t138;
+        // spectrum block of 2
+        const V t168 = t167 - t166;
+        io.out(2, t168);
+        const V t169 = t167 + t166;
+        io.out(15, t169);
         // spectrum block of 16
         const V t170 = c11 * t127;
         const V t171 = c10 * t128;

@@ -356,20 +356,18 @@ struct RealInverseGraph<32> {
         const V t183 = t180 + t181;
         // complex block of 2
         const V t184 = t18 - t68;
+        const V t185 = t22 - t72;
         // spectrum block of 32
-        const V t185 = c1 * t184;
-        // complex block of 2
-        const V t186 = t22 - t72;
-        // spectrum block of 32
-        const V t187 = c1 * t186;
-        const V t188 = t187 + t185;
+        const V t186 = t185 + t184;
+        const V t187 = t184 - t185;
+        const V t188 = c1 * t186;
         // spectrum block of 2
         const V t189 = t183 - t188;
         io.out(12, t189);
         const V t190 = t183 + t188;
         io.out(28, t190);
         // spectrum block of 32
-        const V t191 = t185 - t187;
+        const V t191 = c1 * t187;
         // spectrum block of 2
         const V t192 = t182 - t191;
         io.out(4, t192);

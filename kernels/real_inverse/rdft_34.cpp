@@ -389,12 +389,10 @@ struct RealInverseGraph<34> {
         const V t221 = t219 - t211;
         const V t222 = t207 + t215;
         const V t223 = t211 + t219;
+        const V t224 = t207 - t215;
         // spectrum block of 16
-        const V t224 = c5 * t223;
-        // complex block of 2
-        const V t225 = t207 - t215;
-        // spectrum block of 16
-        const V t226 = c5 * t225;
+        const V t225 = t224 - t223;
+        const V t226 = t223 + t224;
         // complex block of 2
         const V t227 = t212 + t216;
         // spectrum block of 16
@@ -474,12 +472,10 @@ struct RealInverseGraph<34> {
         const V t276 = t266 - t274;
         const V t277 = t262 + t270;
         const V t278 = t266 + t274;
+        const V t279 = t262 - t270;
         // spectrum block of 16
-        const V t279 = c5 * t278;
-        // complex block of 2
-        const V t280 = t262 - t270;
-        // spectrum block of 16
-        const V t281 = c5 * t280;
+        const V t280 = t279 + t278;
+        const V t281 = t278 - t279;
         // complex block of 2
         const V t282 = t271 - t267;
         // spectrum block of 16
@@ -565,14 +561,14 @@ struct RealInverseGraph<34> {
         const V t329 = t321 - t325;
         io.out(3, t329);
         // spectrum block of 16
-        const V t330 = t226 - t224;
+        const V t330 = c5 * t225;
         // spectrum block of 2
         const V t331 = t202 + t250;
         // spectrum block of 2
         const V t332 = t331 - t330;
         const V t333 = t331 + t330;
         // spectrum block of 16
-        const V t334 = t281 + t279;
+        const V t334 = c5 * t280;
         // spectrum block of 2
         const V t335 = t257 + t305;
         // spectrum block of 2
@@ -589,14 +585,14 @@ struct RealInverseGraph<34> {
         const V t341 = t333 - t337;
         io.out(1, t341);
         // spectrum block of 16
-        const V t342 = t224 + t226;
+        const V t342 = c5 * t226;
         // spectrum block of 2
         const V t343 = t202 - t250;
         // spectrum block of 2
         const V t344 = t343 + t342;
         const V t345 = t343 - t342;
         // spectrum block of 16
-        const V t346 = t279 - t281;
+        const V t346 = c5 * t281;
         // spectrum block of 2
         const V t347 = t257 - t305;
         // spectrum block of 2

@@ -357,12 +357,10 @@ struct RealInverseGraph<48> {
         const V t184 = t174 + t182;
         const V t185 = t170 + t178;
         const V t186 = t174 - t182;
+        const V t187 = t170 - t178;
         // spectrum block of 16, multiplier 3
-        const V t187 = c1 * t186;
-        // complex block of 2
-        const V t188 = t170 - t178;
-        // spectrum block of 16, multiplier 3
-        const V t189 = c1 * t188;
+        const V t188 = t187 + t186;
+        const V t189 = t186 - t187;
         // complex block of 2
         const V t190 = t175 - t179;
         // spectrum block of 16, multiplier 3
@@ -469,7 +467,7 @@ struct RealInverseGraph<48> {
         const V t250 = t247 + t248;
         io.out(23, t250);
         // spectrum block of 16, multiplier 3
-        const V t251 = t189 + t187;
+        const V t251 = c1 * t188;
         // spectrum block of 2
         const V t252 = t16 - t251;
         const V t253 = t16 + t251;
@@ -508,7 +506,7 @@ struct RealInverseGraph<48> {
         const V t272 = t269 + t270;
         io.out(14, t272);
         // spectrum block of 16, multiplier 3
-        const V t273 = t187 - t189;
+        const V t273 = c1 * t189;
         // spectrum block of 2
         const V t274 = t17 - t273;
         const V t275 = t17 + t273;

@@ -661,19 +661,19 @@ struct RealInverseGraph<51> {
         const V t390 = t389 - t373;
         const V t391 = t389 + t373;
         // spectrum block of 16
-        const V t392 = c6 * t347;
-        const V t393 = c6 * t344;
-        const V t394 = t392 + t393;
-        const V t395 = t393 - t392;
+        const V t392 = t347 + t344;
+        const V t393 = c6 * t392;
+        const V t394 = t344 - t347;
+        const V t395 = c6 * t394;
         // spectrum block of 2
         const V t396 = t390 - t395;
         io.out(6, t396);
         const V t397 = t390 + t395;
         io.out(45, t397);
         // spectrum block of 2
-        const V t398 = t391 - t394;
+        const V t398 = t391 - t393;
         io.out(24, t398);
-        const V t399 = t391 + t394;
+        const V t399 = t391 + t393;
         io.out(27, t399);
         // spectrum block of 2
         const V t400 = t317 + t379;
@@ -870,20 +870,18 @@ struct RealInverseGraph<51> {
         const V t515 = t512 + t513;
         // complex block of 2
         const V t516 = t480 + t500;
+        const V t517 = t476 - t496;
         // spectrum block of 16
-        const V t517 = c6 * t516;
-        // complex block of 2
-        const V t518 = t476 - t496;
-        // spectrum block of 16
-        const V t519 = c6 * t518;
-        const V t520 = t519 + t517;
+        const V t518 = t517 + t516;
+        const V t519 = t516 - t517;
+        const V t520 = c6 * t518;
         // spectrum block of 2
         const V t521 = t515 - t520;
         io.out(41, t521);
         const V t522 = t515 + t520;
         io.out(44, t522);
         // spectrum block of 16
-        const V t523 = t517 - t519;
+        const V t523 = c6 * t519;
         // spectrum block of 2
         const V t524 = t514 - t523;
         io.out(23, t524);
@@ -1100,20 +1098,18 @@ struct RealInverseGraph<51> {
         const V t647 = t644 + t645;
         // complex block of 2
         const V t648 = t612 + t632;
+        const V t649 = t608 - t628;
         // spectrum block of 16
-        const V t649 = c6 * t648;
-        // complex block of 2
-        const V t650 = t608 - t628;
-        // spectrum block of 16
-        const V t651 = c6 * t650;
-        const V t652 = t651 + t649;
+        const V t650 = t649 + t648;
+        const V t651 = t648 - t649;
+        const V t652 = c6 * t650;
         // spectrum block of 2
         const V t653 = t647 - t652;
         io.out(7, t653);
         const V t654 = t647 + t652;
         io.out(10, t654);
         // spectrum block of 16
-        const V t655 = t649 - t651;
+        const V t655 = c6 * t651;
         // spectrum block of 2
         const V t656 = t646 - t655;
         io.out(40, t656);

@@ -510,12 +510,10 @@ struct RealInverseGraph<64> {
         const V t270 = t260 + t268;
         const V t271 = t256 + t264;
         const V t272 = t260 - t268;
+        const V t273 = t256 - t264;
         // spectrum block of 16
-        const V t273 = c1 * t272;
-        // complex block of 2
-        const V t274 = t256 - t264;
-        // spectrum block of 16
-        const V t275 = c1 * t274;
+        const V t274 = t273 + t272;
+        const V t275 = t272 - t273;
         // complex block of 2
         const V t276 = t261 + t265;
         // spectrum block of 16
@@ -683,7 +681,7 @@ struct RealInverseGraph<64> {
         const V t367 = t365 + t364;
         io.out(61, t367);
         // spectrum block of 16
-        const V t368 = t275 + t273;
+        const V t368 = c1 * t274;
         // spectrum block of 2
         const V t369 = t17 - t368;
         const V t370 = t17 + t368;
@@ -751,7 +749,7 @@ struct RealInverseGraph<64> {
         const V t406 = t404 + t403;
         io.out(62, t406);
         // spectrum block of 16
-        const V t407 = t273 - t275;
+        const V t407 = c1 * t275;
         // spectrum block of 2
         const V t408 = t16 - t407;
         const V t409 = t16 + t407;
@@ -1003,20 +1001,18 @@ struct RealInverseGraph<64> {
         const V t551 = t548 + t549;
         // complex block of 2
         const V t552 = t62 - t216;
+        const V t553 = t66 - t220;
         // spectrum block of 64
-        const V t553 = c1 * t552;
-        // complex block of 2
-        const V t554 = t66 - t220;
-        // spectrum block of 64
-        const V t555 = c1 * t554;
-        const V t556 = t555 + t553;
+        const V t554 = t553 + t552;
+        const V t555 = t552 - t553;
+        const V t556 = c1 * t554;
         // spectrum block of 2
         const V t557 = t551 - t556;
         io.out(24, t557);
         const V t558 = t551 + t556;
         io.out(56, t558);
         // spectrum block of 64
-        const V t559 = t553 - t555;
+        const V t559 = c1 * t555;
         // spectrum block of 2
         const V t560 = t550 - t559;
         io.out(8, t560);

@@ -287,6 +287,46 @@ TEST(Rader, ARotatedBlockHoldsOtherConstants) {
     EXPECT_NE(constantsOf(33), constantsOf(22));
 }
 
+// Pairs of values a, b of which a graph holds both R (a + b) and R (a - b) or R (b - a), with R = sqrt(1/2).
+int pairsAddedFirst(const std::string& family, int length) {
+    const auto graph = graphOf(family, length).build();
+    const std::vector<bool> needed = graph->alive();
+    const double root = gen::nearest(gen::cosTurn(1, 8));
+    std::set<std::pair<int, int>> sums, differences;
+    for (std::size_t i = 0; i < needed.size(); ++i) {
+        const gen::Node& node = graph->nodes()[i];
+        if (!needed[i] || node.kind != gen::Kind::Mul) continue;
+        if (graph->constants()[static_cast<std::size_t>(node.b)].stored != root) continue;
+        const gen::Node& factor = graph->nodes()[static_cast<std::size_t>(node.a)];
+        if (factor.kind == gen::Kind::Add) sums.insert(std::minmax(factor.a, factor.b));
+        if (factor.kind == gen::Kind::Sub) differences.insert(std::minmax(factor.a, factor.b));
+    }
+    return static_cast<int>(std::ranges::count_if(sums, [&](auto pair) { return differences.contains(pair); }));
+}
+
+// One eighth turn at 16, at 32 and at 64. Forward, each skew block of 4 is such a pair as well: one at 8, two at 16.
+TEST(EighthTurns, OfRealColumnsAddFirst) {
+    EXPECT_EQ(pairsAddedFirst("real_forward", 8), 1);
+    EXPECT_EQ(pairsAddedFirst("real_forward", 16), 1 + 1);
+    EXPECT_EQ(pairsAddedFirst("real_forward", 32), 4 * 1 + 1 + 1);  // columns of 8, the skew block, the turn
+    EXPECT_EQ(pairsAddedFirst("real_forward", 64), 4 * 2 + 1 + 1);  // columns of 16
+    EXPECT_EQ(pairsAddedFirst("real_forward", 48), 3 * 2);
+    EXPECT_EQ(pairsAddedFirst("hartley", 16), 1 + 1);
+}
+
+TEST(EighthTurns, ToRealColumnsAddFirst) {
+    EXPECT_EQ(pairsAddedFirst("real_inverse", 8), 0);
+    EXPECT_EQ(pairsAddedFirst("real_inverse", 16), 1);
+    EXPECT_EQ(pairsAddedFirst("real_inverse", 32), 1);
+    EXPECT_EQ(pairsAddedFirst("real_inverse", 64), 1 + 1);  // row 0 is a block of 16
+    EXPECT_EQ(pairsAddedFirst("hartley", 64), 1 + 1);
+}
+
+TEST(EighthTurns, OfComplexColumnsMultiplyFirst) {
+    for (int length : {8, 16}) EXPECT_EQ(pairsAddedFirst("complex", length), 0) << length;
+    EXPECT_EQ(pairsAddedFirst("complex", 17), 2 * (1 + 1) + 2 * 1);  // real blocks of 16, two each way
+}
+
 // The smallest graphs, whole: what the rules say is what stands.
 TEST(Listing, OfTwoPoints) {
     const std::string text = graphOf("complex", 2).build()->text();

@@ -77,28 +77,30 @@ TEST_F(GraphTest, DrawsEveryNode) {
     }
 }
 
+class Twiddle : public testing::TestWithParam<EighthTurn> {};
+
 // Steps that a twiddle of exponent e over 16 takes: additions and subtractions, multiplications.
-std::pair<int, int> twiddleCost(int e) {
+std::pair<int, int> twiddleCost(int e, EighthTurn order) {
     Graph graph;
-    const ComplexValue turned = twiddled({graph.load(0), graph.load(1)}, e, 16);
+    const ComplexValue turned = twiddled({graph.load(0), graph.load(1)}, e, 16, order);
     graph.store(0, turned.re);
     graph.store(1, turned.im);
     const Counts counts = graph.counts();
     return {counts.additions + counts.subtractions, counts.multiplications};
 }
 
-TEST(Twiddle, TheExponentAloneChoosesTheForm) {
+TEST_P(Twiddle, TheExponentAloneChoosesTheForm) {
     for (int e = -16; e <= 32; ++e) {
         const std::pair<int, int> due = e % 4 == 0 ? std::pair{0, 0} : e % 2 == 0 ? std::pair{2, 2} : std::pair{2, 4};
-        EXPECT_EQ(twiddleCost(e), due) << e;
+        EXPECT_EQ(twiddleCost(e, GetParam()), due) << e;
     }
 }
 
-TEST(Twiddle, TurnsByItsAngle) {
+TEST_P(Twiddle, TurnsByItsAngle) {
     for (int n : {4, 8, 9, 16, 64}) {
         for (int e = -n; e <= n; ++e) {
             Graph graph;
-            const ComplexValue turned = twiddled({graph.load(0), graph.load(1)}, e, n);
+            const ComplexValue turned = twiddled({graph.load(0), graph.load(1)}, e, n, GetParam());
             graph.store(0, turned.re);
             graph.store(1, turned.im);
             const std::vector<Exact> inputs = {3, 4}, found = evaluate<Exact>(graph, inputs);
@@ -107,6 +109,23 @@ TEST(Twiddle, TurnsByItsAngle) {
             EXPECT_LT(abs(found[1] - (4 * c - 3 * s)), Exact("1e-45")) << e << "/" << n;
         }
     }
+}
+
+INSTANTIATE_TEST_SUITE_P(BothOrders, Twiddle, testing::Values(EighthTurn::ProductsFirst, EighthTurn::SumsFirst),
+                         [](const testing::TestParamInfo<EighthTurn>& test) {
+                             return test.param == EighthTurn::SumsFirst ? "SumsFirst" : "ProductsFirst";
+                         });
+
+TEST_F(GraphTest, AnEighthTurnMultipliesFirstUnlessItIsToAddFirst) {
+    const ComplexValue productsFirst = twiddled({a, b}, 1, 8);
+    const Coefficient root = cosine(1, 8);
+    const Value productA = root * a, productB = root * b;
+    expectNode(productsFirst.re, Kind::Add, productA, productB, false);
+    expectNode(productsFirst.im, Kind::Sub, productB, productA, false);
+
+    const ComplexValue sumsFirst = twiddled({a, b}, 1, 8, EighthTurn::SumsFirst);
+    EXPECT_EQ(sumsFirst.re.node, (root * (a + b)).node);
+    EXPECT_EQ(sumsFirst.im.node, (root * (b - a)).node);
 }
 
 }  // namespace

@@ -19,18 +19,21 @@ inline ComplexValue operator*(const Coefficient& factor, ComplexValue x) { retur
 
 inline ComplexValue conjugate(ComplexValue x) { return {x.re, -x.im}; }
 
-// The parts in each other's place. The inverse transform is the forward one between two exchanges.
+// i conj x: the two parts exchanged. The inverse transform is the forward one with its inputs and its outputs
+// exchanged.
 inline ComplexValue exchanged(ComplexValue x) { return {x.im, x.re}; }
 Signal exchanged(const Signal& x);
 
-// -i (a + ib) = b - ia: no step, the parts change places and a sign goes into what follows.
+// -i (a + ib) = b - ia. This takes no step: the parts are exchanged, and the new imaginary part carries its sign to the
+// steps that use it.
 inline ComplexValue timesMinusI(ComplexValue x) { return {x.im, -x.re}; }
 
 // An eighth turn of a + ib has the parts R (a + b) and R (b - a), R = sqrt(1/2). Either the products R a and R b come
 // first, or the sum and the difference of a and b. The steps are as many; the results are rounded in another order.
 enum class EighthTurn { ProductsFirst, SumsFirst };
 
-// exp(-2 pi i e/n) x, in one of four forms chosen by e alone: none, quarter turn, eighth turn, general.
+// exp(-2 pi i e/n) x, in one of four forms that e/n decides: x itself, quarter turns, an eighth turn, or a
+// general turn.
 ComplexValue twiddled(ComplexValue x, int e, int n, EighthTurn order = EighthTurn::ProductsFirst);
 
 }  // namespace gen

@@ -1,9 +1,10 @@
 // The data-flow graph of one transform: loads, additions, subtractions, products with a constant and, where a factor
-// comes from a table, of two values.
+// comes from a table, products of two values.
 //
-// A node is a number into one vector, and a node never refers to a later one. Inserting is finding: a step whose equal
-// stands already is that step. Signs ride on values and never stand in a node, so that every constant is positive and
-// no negation is ever inserted: (-a) + b is b - a, and (-a) + (-b) is minus the sum. The graph has no other algebra.
+// Nodes are numbered by their index in one vector, and a node never refers to a later one. Inserting a step that the
+// graph already has gives the node of that step. Values carry the signs and nodes have none, so that every constant is
+// positive and no negation is ever inserted: (-a) + b is b - a, and (-a) + (-b) is minus the sum. The graph has no
+// other algebra.
 #pragma once
 
 #include <map>
@@ -18,14 +19,14 @@ namespace gen {
 
 class Graph;
 
-// A node of a graph as it is handed around while a graph is built, with the sign that it is meant to have.
+// What rules pass around while they build a graph: a node, and the sign with which it is used.
 struct Value {
     Graph* graph;
     int node;
     bool minus;
 };
 
-// A factor of a product: its value with its sign, and where it comes from, such as "cos 2 pi 3/16".
+// A factor of a product: its value with its sign, and its formula, such as "cos 2 pi 3/16".
 struct Coefficient {
     Exact value;
     std::string origin;
@@ -52,7 +53,7 @@ struct Node {
 };
 
 struct Output {
-    int place;  // which output it is; places may be left out
+    int place;  // the number of the output; not every number need occur
     int node;
     bool minus;
 };
@@ -73,18 +74,18 @@ public:
     Value product(const Coefficient& factor, Value x);
     Value product(Value a, Value b);
 
-    // Minus a difference, as the difference the other way round; any other value as it is. The step that stood for the
-    // value dies unless something else uses it.
+    // For minus a difference the reversed difference, since -(a - b) = b - a; any other value is returned as it is. The
+    // old step is neither counted nor emitted any more unless something else uses it.
     Value withoutMinus(Value x);
 
-    // Gives the output at `place` its value. Outputs keep the order in which they are stored.
+    // Gives output number `place` its value. Outputs keep the order in which they are stored.
     void store(int place, Value value) { allOutputs.push_back({place, value.node, value.minus}); }
 
-    // Nodes inserted from here on belong to the block of this title; returns the title that stood before.
+    // Nodes that are inserted from now on belong to a new block of this title. Returns the number of the block before.
     int beginBlock(const std::string& title);
     void continueBlock(int title) { currentTitle = title; }
 
-    // Takes over the blocks of another graph, so that its nodes can be copied into the block each of them has.
+    // Takes over the blocks of another graph, so that each of its nodes can be copied into its own block.
     void takeBlocksOf(const Graph& other) { titles = other.titles; }
 
     const std::vector<Node>& nodes() const { return allNodes; }
@@ -97,11 +98,11 @@ public:
     std::vector<bool> alive() const;
     Counts counts() const;
 
-    // One node to a line, in order of insertion, and a GraphViz drawing.
+    // The graph with one node to a line, in order of insertion, and as a GraphViz drawing.
     std::string text() const;
     std::string dot() const;
 
-    // Inserts a node of another graph, given what the nodes before it have become here.
+    // Inserts a node of another graph. `copies` holds the values that the other graph's earlier nodes have in this one.
     Value copy(const Graph& other, const Node& node, const std::vector<Value>& copies);
 
 private:
@@ -118,7 +119,7 @@ private:
     int inputCount = 0;
 };
 
-// Names the block that the nodes inserted during its life belong to.
+// Nodes that are inserted while one of these lives belong to the block of its title.
 class Titled {
 public:
     Titled(Graph& owner, const std::string& title) : graph(owner), previous(owner.beginBlock(title)) {}
@@ -137,7 +138,7 @@ inline Value operator-(Value a, Value b) { return a.graph->sum(a, -b); }
 inline Value operator*(const Coefficient& factor, Value x) { return x.graph->product(factor, x); }
 inline Value operator*(Value a, Value b) { return a.graph->product(a, b); }
 
-// The graph as its own interpreter: the outputs for these inputs, in the arithmetic of T; 0 at places left out.
+// Interprets the graph: its outputs for these inputs, in the arithmetic of T. A number that no output has gives 0.
 template <class T>
 std::vector<T> evaluate(const Graph& graph, std::span<const T> inputs) {
     std::vector<T> value;

@@ -5,7 +5,7 @@
 namespace gen {
 namespace {
 
-// One pass over a graph: copies what the outputs need into a new one, rewriting on the way.
+// One pass over a graph, which copies what the outputs need into a new graph and rewrites it on the way.
 class Pass {
 public:
     explicit Pass(const Graph& source) : old(source), uses(countUses(source)), copies(source.nodes().size()) {}
@@ -46,7 +46,7 @@ private:
         return node(number).kind == Kind::Mul && uses[static_cast<std::size_t>(number)] == 1;
     }
 
-    // outer times the constant of an inner product, times what that takes.
+    // (outer d) * x, where the inner product is d * x.
     Value mergedProduct(const Constant& outer, const Node& inner) {
         const Constant& factor = constant(inner.b);
         return Coefficient{outer.exact * factor.exact, outer.origin + " times " + factor.origin} * copyOf(inner.a);

@@ -5,7 +5,8 @@
 namespace gen {
 namespace {
 
-// Lays steps down one by one: loads come with their first use, stores are held back until the last load is done.
+// Writes the steps of a schedule. A load comes right before the first step that uses it; stores wait until all loads
+// are written.
 class Writer {
 public:
     explicit Writer(const Graph& source)
@@ -26,7 +27,9 @@ public:
         finish(number);
     }
 
-    // A load that is an output by itself or feeds nothing else.
+    // Writes the step of this node if it is a load that is not written yet, and does nothing otherwise. It is
+    // called for the operands of each operation, and for the outputs, since a load that is an output need not be an
+    // operand.
     void loadIfNeeded(int number) {
         if (graph.nodes()[static_cast<std::size_t>(number)].kind != Kind::Load ||
             done[static_cast<std::size_t>(number)]) {
@@ -82,7 +85,7 @@ private:
     Schedule schedule;
 };
 
-// The nodes of a graph in the order of recursive bisection; loads are among them.
+// The nodes of a graph, loads included, in the order of recursive bisection.
 class Bisection {
 public:
     explicit Bisection(const Graph& source) : graph(source), part(source.nodes().size(), -1) {
@@ -111,7 +114,7 @@ private:
 
     bool isIn(int number, int label) const { return part[static_cast<std::size_t>(number)] == label; }
 
-    // `nodes` rise.
+    // Appends these nodes to the order. Their numbers rise.
     void cut(const std::vector<int>& nodes) {
         if (nodes.size() == 1) return order.push_back(nodes[0]);
         const std::vector<std::vector<int>> components = componentsOf(nodes);
@@ -148,7 +151,8 @@ private:
         return components;
     }
 
-    // Layer by layer from both ends in turn, until the two fronts meet.
+    // The early half and the late half of connected nodes. Layers are taken alternately from the inputs and from the
+    // outputs until no node is left.
     std::pair<std::vector<int>, std::vector<int>> halvesOf(const std::vector<int>& nodes) {
         const int open = ++labels, early = ++labels, late = ++labels;
         for (int node : nodes) part[static_cast<std::size_t>(node)] = open;
@@ -177,7 +181,7 @@ private:
 
     const Graph& graph;
     std::vector<std::vector<int>> consumers;
-    std::vector<int> part;  // of each node, the label of the set it was put into last
+    std::vector<int> part;  // for each node, the label of the set it was put into last
     int labels = 0;
 };
 

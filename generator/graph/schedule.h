@@ -1,7 +1,7 @@
 // The order in which a kernel goes through its graph: loads, steps and stores, one after the other.
 //
-// What comes out holds every operand before its use, every load before the first store, and no dead node. There is one
-// order for a graph, whatever width, direction or layout it is seen through.
+// In a schedule every operand comes before its use and every load before the first store. A node that no output needs
+// has no step. A graph has one order, which serves all widths, directions and layouts.
 #pragma once
 
 #include <vector>
@@ -22,12 +22,13 @@ struct Schedule {
 };
 
 // Block by block as constructed: the steps in their order of insertion, each load right before its first use, each
-// store as soon as its value and the last load are there.
+// store as soon as its value is computed and all loads are done.
 Schedule blockByBlock(const Graph& graph);
 
-// Recursive bisection: parts that do not touch each other one after the other; a part that hangs together is cut in
-// half between its inputs and its outputs, and each half is taken in the same way. Few values wait whatever the number
-// of registers. The idea: M. Frigo, A fast Fourier transform compiler, PLDI 1999.
+// Recursive bisection. Components of the graph that are not connected come one after the other. A connected component
+// is cut in two halves between its inputs and its outputs, and each half is ordered in the same way. So few values wait
+// at a time, whatever the number of registers is. The idea is that of M. Frigo, A fast Fourier transform compiler, PLDI
+// 1999.
 Schedule byBisection(const Graph& graph);
 
 }  // namespace gen

@@ -1,5 +1,5 @@
-// Turns of single differences: a - b formed as b - a. Its consumers take over the sign, exchanging additions and
-// subtractions; nothing else changes.
+// Reverses single differences: a - b is formed as b - a. The steps that use it take over the sign, so that additions
+// and subtractions are exchanged there. Nothing else changes.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace gen {
 
-// `nodes` by their numbers in this graph, all of them differences.
+// `nodes` are the numbers of nodes of this graph, all of them differences.
 std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<int>& nodes);
 
 }  // namespace gen

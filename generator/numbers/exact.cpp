@@ -6,8 +6,8 @@
 namespace gen {
 namespace {
 
-// An angle of 2 pi k/n as: an angle 2 pi j/(8 n) with 0 <= j <= n, inside the first octant, and what became of cosine
-// and sine on the way there.
+// The angle 2 pi k/n, reduced to the first octant: to 2 pi eighths/(8 n) with 0 <= eighths <= n. The flags tell how the
+// cosine and sine of the whole angle follow from those of the reduced one.
 struct Octant {
     int eighths;
     bool exchanged, minusCos, minusSin;

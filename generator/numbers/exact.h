@@ -1,7 +1,7 @@
-// Numbers in 50 decimal digits, and the one place where they become doubles.
+// Numbers of 50 decimal digits, and the one routine that rounds them to doubles.
 //
-// Every constant of a kernel is made here from integers, kept at full width while products of constants are formed,
-// and rounded once, when it is written.
+// Every constant of a kernel is made here from integers and stays at full width while products of constants are formed.
+// The double in the kernel is that number, rounded once.
 #pragma once
 
 #include <boost/multiprecision/cpp_bin_float.hpp>

@@ -13,7 +13,7 @@
 namespace gen {
 namespace {
 
-// Loads `count` numbers from an input on.
+// Loads `count` numbers, beginning with input number `first`.
 RealSignal loadReals(Graph& graph, int first, int count) {
     RealSignal x;
     for (int n = 0; n < count; ++n) x.push_back(graph.load(first + n));
@@ -53,7 +53,7 @@ std::unique_ptr<Graph> buildRealForward(int length) {
     return turned(merged(std::move(graph)), realForwardTurns(length));
 }
 
-// Each interior bin stands for itself and its conjugate: its parts are doubled first.
+// Each interior bin stands for itself and its conjugate, so that its parts are doubled first.
 std::unique_ptr<Graph> buildRealInverse(int length) {
     auto graph = std::make_unique<Graph>();
     const Titled title(*graph, "doubled bins");
@@ -95,7 +95,7 @@ std::unique_ptr<Graph> buildDct4Output(int radix) {
     return graph;
 }
 
-// Twiddles of a row of a combine pass.
+// How many twiddles a row of a combine pass has.
 int combineTwiddles(int radix) { return radix > 8 ? radix / 4 - 1 + radix / 4 * 3 : radix - 1; }
 
 std::unique_ptr<Graph> buildDct4Combine(int radix) {
@@ -111,7 +111,7 @@ std::unique_ptr<Graph> buildDct4Direct(int length) {
     return graph;
 }
 
-// Numbers that go by themselves, and parts of complex numbers, real part first.
+// The port of a real number, and that of a part of a complex number: even indices are real parts, odd ones imaginary.
 Port realPort(const std::string& port, int index) { return {"x" + std::to_string(index), port, index}; }
 Port complexPort(int index) {
     const std::string number = std::to_string(index / 2);
@@ -122,8 +122,8 @@ Port realInput(int, int index) { return realPort("in", index); }
 Port realOutput(int, int index) { return realPort("out", index); }
 Port complexPlace(int, int index) { return complexPort(index); }
 
-// A row's bins, then the entries of its table; of a combine row with two steps, those of the inner and of the outer
-// one.
+// The inputs of a row are its bins and then the entries of its table. A combine row with two steps has the entries of
+// the inner step before those of the outer one.
 Port tablePort(const std::string& port, const std::string& letter, int index) {
     return {letter + std::to_string(index), port, index};
 }
@@ -233,7 +233,7 @@ const std::vector<GraphFamily> families = {
      .suffixTail = "",
      .input = realInput,
      .output = complexPlace,
-     .allowsNegation = true,  // the two points of length 2 are its outputs
+     .allowsNegation = true,  // at length 2 the second output is an input with its sign changed
      .lengths = [] { return powersOfTwo(2, 64); },
      .recipe = [](int) { return std::string("decimation in time"); },
      .build = buildDct4Fold},

@@ -1,4 +1,4 @@
-// The list of everything that is generated and exported. The only place where the name of a family is spelled.
+// The list of everything that is generated and exported. Nothing else in the generator spells an exported name.
 #pragma once
 
 #include <memory>
@@ -16,19 +16,19 @@ struct Port {
     int number;
 };
 
-// One family of graphs, one for each length. Either each is seen through the kernels of several exported families, or
-// it is a body: a text that hand-written loops include and run through ports of their own.
+// A family of graphs, which has one graph for each length. Either the kernels of one or more exported families run the
+// graph, or it is a body: a text that hand-written loops include and run through ports of their own.
 struct GraphFamily {
     std::string word;                       // "complex", as the command line and the tables say it
     std::string graphTemplate;              // "ComplexGraph"
     std::string folder, filePrefix;         // of <folder>/<filePrefix><length>.cpp, or .h for a body
-    std::string rule;                       // the file in which to change it
-    std::string title;                      // "Complex DFT of %d points", the length in place of %d
+    std::string rule;                       // the file to edit for a change
+    std::string title;                      // "Complex DFT of %d points", where %d is the length
     std::vector<std::string> exported;      // "DFTFwd_CToC", ...; none for a body
     std::string suffixTail;                 // of the element suffix: "fc" for complex elements, "f" for real ones
-    Port (*input)(int length, int index);   // where the graph's inputs
-    Port (*output)(int length, int index);  // and outputs are
-    bool allowsNegation;                    // whether an output may be stored with its sign turned
+    Port (*input)(int length, int index);   // of each input of the graph
+    Port (*output)(int length, int index);  // of each output
+    bool allowsNegation;                    // whether an output may be stored with its sign changed
 
     std::vector<int> (*lengths)();
     std::string (*recipe)(int length);
@@ -51,7 +51,7 @@ struct GraphEntry {
     Schedule schedule(const Graph& graph) const;
 };
 
-// One exported routine, with its slot: the routine as the library's own sources name it, and the size of its arguments.
+// One exported routine: its exported name, its name in the library's own sources, and the size of its arguments.
 struct Export {
     std::string name;
     std::string routine;

@@ -46,12 +46,13 @@ public:
     const std::string& value(int node) const { return values.at(node); }
     const std::string& constant(int number) const { return constants.at(number); }
     const std::vector<int>& constantsInOrder() const { return constantOrder; }
-    // Whether the constants stand in a table, and which of them c then points at.
+    // Whether the constants are in a table, and the index of the one that c then points at.
     bool hasTable() const { return table; }
     std::size_t origin() const { return std::min(constantOrder.size() / 2, reach); }
 
 private:
-    // A kernel holds its constants in a table, those used most within reach of a short displacement from c.
+    // Names the constants of a table by their distance from c. They are sorted by use, so that those used most are
+    // within reach of a short displacement from c.
     void nameByPlace() {
         std::ranges::stable_sort(constantOrder, std::greater(), [&](int number) { return uses[number]; });
         for (std::size_t i = 0; i < constantOrder.size(); ++i) {
@@ -120,7 +121,7 @@ std::string constantsText(const GraphEntry& entry, const Graph& graph, const Nam
     return text + (isTable ? "    };\n" : "");
 }
 
-// The title of the next operation at or behind a step: a load is written where its first use is.
+// The title of the block of step i. A load belongs to the block of the next operation; -1 if no operation comes next.
 int titleAt(const Graph& graph, const std::vector<Step>& steps, std::size_t i) {
     while (i < steps.size() && steps[i].kind == Step::Kind::Load) ++i;
     if (i == steps.size() || steps[i].kind == Step::Kind::Store) return -1;
@@ -200,9 +201,10 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
     return text + "}  // namespace zulg\n";
 }
 
-// The processor's cache of decoded instructions holds about 16 KB of code, and where it ends the bytes of code are the
-// time: a constant near a register saves 3 bytes a product over one with an address of its own, a short displacement in
-// the frame 4. A short kernel gains nothing or loses.
+// The processor's cache of decoded instructions holds about 16 KB of code. A kernel that is larger takes the longer the
+// more bytes its code has. A constant near a register saves 3 bytes in each product over a constant with an address of
+// its own. A short displacement saves 4 bytes in each access to the stack frame. A short kernel gains nothing by
+// either, or loses.
 bool isLong(const GraphEntry& entry, const Graph& graph) {
     const Counts counts = graph.counts();
     const int steps = counts.additions + counts.subtractions + counts.multiplications;

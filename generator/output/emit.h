@@ -1,4 +1,4 @@
-// From a graph and its order to text: the kernel files, the table of slots and the list of routines of the header.
+// Writes what is generated as text: the kernel files, the table of slots and the list of routines of the header.
 #pragma once
 
 #include <string>
@@ -12,11 +12,11 @@ namespace gen {
 // The file of one graph: the graph as straight-line text and, where it has kernels, their instantiations.
 std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule);
 
-// Whether a kernel has so many steps that the bytes of its code are its time. Such a one keeps its constants near a
-// register, and the build shortens its displacements.
+// Whether a kernel has so many steps that its time depends on the bytes of its code. Such a kernel has its constants
+// near a register, and the build shortens its displacements.
 bool isLong(const GraphEntry& entry, const Graph& graph);
 
-// kernels/groups.cmake: the files of the kernels that are compiled in another way.
+// kernels/groups.cmake: the files of the kernels that are compiled with flags of their own.
 std::string emitGroups(const std::vector<std::string>& longKernels, const std::vector<std::string>& fastKernels);
 
 // frame/slots.inc and include/zulgenpx_routines.h.

@@ -1,7 +1,7 @@
 // The memory of a plan: one block, given out from the bottom up. The first machine word of the block is the cursor, the
 // address of the next free byte; the address of the block is all that a record needs to hold. The arena does not know
-// where the block ends: that it is long enough comes from the size computation alone. Releasing is arithmetic on the
-// cursor and nothing else; only the sum counts.
+// where the block ends: only the size computation makes sure that it is long enough. Releasing is arithmetic on the
+// cursor and nothing else, so that the order of releases does not matter.
 #pragma once
 
 #include <cstddef>
@@ -12,14 +12,14 @@
 
 namespace zulg {
 
-// Stands for the block and is never defined. It may lie at any address.
+// The type of the block, which is never defined. A block may be at any address.
 struct PlanArena;
 
 constexpr std::int32_t roundUp32(std::int32_t n) { return wrapSum(n, 31) & ~31; }
 
-// Where the first record goes: a multiple of 32, at least 33 bytes in. On a 32-bit target the remainder is that of the
-// address taken as a signed number, so that above the 2 GiB line the distance goes up to 95. With wide addresses it
-// stays within 64.
+// The address of the first record: a multiple of 32, at least 33 bytes after the start of the block. On a 32-bit target
+// the address is divided as a signed number, so that above 2 GiB the distance is up to 95 bytes. With 64-bit addresses
+// it is at most 64.
 constexpr std::uint32_t firstRecordAddress(std::uint32_t block) {
     const std::int32_t remainder = static_cast<std::int32_t>(block) % 32;
     return block + 64 - static_cast<std::uint32_t>(remainder);
@@ -40,14 +40,14 @@ inline PlanArena* arenaInit(std::uint8_t* block) {
     return arena;
 }
 
-// The old cursor. Never fails, never clears.
+// Returns the old cursor. It cannot fail, and it does not clear the memory.
 inline void* arenaAlloc(PlanArena* arena, std::int32_t n) {
     const std::uintptr_t cursor = arenaCursor(arena);
     arenaSetCursor(arena, cursor + static_cast<std::uintptr_t>(static_cast<std::intptr_t>(roundUp32(n))));
     return reinterpret_cast<void*>(cursor);
 }
 
-// The object is named for the reader; it is not looked at.
+// The object is named for the reader and is ignored.
 inline void arenaRelease(PlanArena* arena, const void*, std::int32_t n) {
     arenaSetCursor(arena, arenaCursor(arena) - static_cast<std::uintptr_t>(static_cast<std::intptr_t>(roundUp32(n))));
 }

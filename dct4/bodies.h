@@ -14,8 +14,8 @@ struct Dct4Fold;
 template <int radix>
 struct Dct4Output;
 
-// A row of a combine pass: io.re(c), io.im(c), io.table(i), or io.inner(i) and io.outer(i) from radix 16 on; io.re(e,
-// value), io.im(e, value).
+// A row of a combine pass: io.re(c), io.im(c); io.table(i), or from radix 16 on io.inner(i) and io.outer(i);
+// io.re(e, value), io.im(e, value).
 template <int radix>
 struct Dct4Combine;
 

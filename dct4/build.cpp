@@ -1,6 +1,6 @@
 // The order in which records are drawn is fixed: at each level the table of the second pass comes before the tree
 // below, and the scratch vector last. Each record is complete and in its lists before its build can fail, since a
-// failed build is taken down from the top, with no clean-up on the way.
+// failed build is released from the root and no step on the way cleans up.
 #include "dct4/build.h"
 
 #include "dct4/radix.h"
@@ -69,7 +69,7 @@ Status makeSplit(Parent& parent, const PlanType& type) {
     return buildSplit(split->head, type);
 }
 
-// Of a FoldStage and of a FoldStep.
+// Builds a FoldStage or a FoldStep.
 template <class Record>
 Status buildFold(PlanHead& head, const PlanType& type) {
     auto& fold = recordOf<Record>(head);
@@ -82,7 +82,7 @@ Status buildFold(PlanHead& head, const PlanType& type) {
     return StatusOk;
 }
 
-// The second pass of a plan and the source of its table.
+// Makes the second pass of a plan and the source of its table.
 Status makeOutput(DctPlan& plan, const PlanType& type) {
     PlanArena* const arena = plan.head.arena;
     const std::int32_t N = plan.length, r = plan.radix;
@@ -131,7 +131,7 @@ Status makeFoldStage(DctPlan& plan, const PlanType& type) {
     return buildFold<FoldStage>(stage->head, type);
 }
 
-// The second pass of a split and the source of its table.
+// Makes the second pass of a split and the source of its table.
 Status makeCombine(SkewSplit& split, const PlanType& type) {
     PlanArena* const arena = split.head.arena;
     const std::int32_t M = split.skewLength, r = split.radix;

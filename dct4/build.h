@@ -1,4 +1,4 @@
-// Grows the tree of a plan. One text and one code serve both element types; what differs comes as an argument.
+// Builds the tree of a plan. The same code serves both element types; what differs between them is an argument.
 #pragma once
 
 #include "dct4/records.h"
@@ -23,8 +23,8 @@ inline constexpr PlanType planType = {sizeof(Element),           releasePlan<Ele
 // Draws the root record and its empty lists. The arena must be fresh.
 DctPlan* drawPlan(PlanArena* arena, std::int32_t length, const PlanType& type);
 
-// Builds all below a root, whose length is set and whose lists are empty. On StatusSizeError what was drawn stands, for
-// releasePlan to walk.
+// Builds everything below a root, whose length is set and whose lists are empty. After StatusSizeError the records that
+// were drawn are still in the lists, and releasePlan releases them.
 Status buildPlan(PlanHead& plan, const PlanType& type);
 
 }  // namespace zulg

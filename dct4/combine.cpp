@@ -12,8 +12,8 @@
 namespace zulg {
 namespace {
 
-// How the table of a combine stage is laid out: the entries of all rows for the only or the inner step make one
-// section, those for the outer step another.
+// The layout of the table of a combine stage. One section holds the entries of all rows for the inner step, or for the
+// only step. The other section holds those for the outer step.
 template <int radix, class Element>
 struct CombineTable {
     static constexpr bool hasTwoSteps = radix > 8;
@@ -30,7 +30,7 @@ struct CombineTable {
           outer(outerIsFirst ? entries : entries + innerEntries * rows) {}
 };
 
-// Not inlined, for the same reason as the fold loops: each radix has a frame of its own.
+// Not inlined, so that each radix has a stack frame of its own, of the size that it needs.
 template <int radix, class Element>
 [[gnu::noinline]] Status combineEach(const CombineStage& stage, Element* transforms, const Element* parts,
                                      std::ptrdiff_t position) {

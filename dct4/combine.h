@@ -5,9 +5,9 @@
 
 namespace zulg {
 
-// Row by row, from the r' transforms of M' points in S to the one of M points that is number `position` in
-// `transforms`. A `kind` out of range is refused with StatusPlanKindError, which nobody looks at, and leaves
-// `transforms` as they are.
+// Combines the r' transforms of M' points in S, which is `parts`, row by row into one transform of M points: number
+// `position` in `transforms`. A `kind` out of range returns StatusPlanKindError, which the callers ignore, and leaves
+// `transforms` unchanged.
 template <class Element>
 Status combinePass(const CombineStage& stage, Element* transforms, const Element* parts, std::ptrdiff_t position);
 

@@ -1,4 +1,4 @@
-// The five routines of the family behind its exports, for both element types.
+// The five routines that the exports of the family lead to, for both element types.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ using Dct4InitRoutine = Status(ZULG_CALL*)(DctPlan** pPlan, std::int32_t length,
 using Dct4InitAllocRoutine = Status(ZULG_CALL*)(DctPlan** pPlan, std::int32_t length);
 using Dct4FreeRoutine = Status(ZULG_CALL*)(DctPlan* plan);
 
-// The bytes that Init needs. The size is written with StatusOk only; the pointer to it is not checked.
+// Gives the bytes that Init needs. The size is written with StatusOk only; the pointer to it is not checked.
 template <class Element>
 Status ZULG_CALL dct4GetSize(std::int32_t length, std::int32_t* pSize);
 
@@ -23,7 +23,7 @@ Status ZULG_CALL dct4GetSize(std::int32_t length, std::int32_t* pSize);
 template <class Element>
 Status ZULG_CALL dct4Init(DctPlan** pPlan, std::int32_t length, std::uint8_t* pBuffer);
 
-// The same in a block of the core library, for dct4Free to give back.
+// Builds a plan in a block of the core library, which dct4Free gives back.
 template <class Element>
 Status ZULG_CALL dct4InitAlloc(DctPlan** pPlan, std::int32_t length);
 

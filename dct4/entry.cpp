@@ -10,7 +10,7 @@ namespace zulg {
 
 namespace {
 
-// Returns the cursor to where it stood before the root was drawn, if the plan is a finished one.
+// Releases the plan and its root. The cursor of a finished plan is then where it was before the root was drawn.
 template <class Element>
 void takeDown(DctPlan& plan) {
     releasePlan<Element>(plan.head);
@@ -46,7 +46,7 @@ Status ZULG_CALL dct4InitAlloc(DctPlan** pPlan, std::int32_t length) {
     std::int32_t bytes;
     Status status = dct4GetSize<Element>(length, &bytes);
     if (status != StatusOk) return status;
-    // A refused block is Init's to report, and null is passed on to zulFree as it stands.
+    // If the block is refused, Init reports the null pointer, and zulFree gets it too.
     void* const block = zulMalloc(static_cast<std::uint32_t>(bytes));
     status = dct4Init<Element>(pPlan, length, static_cast<std::uint8_t*>(block));
     if (status != StatusOk) zulFree(block);

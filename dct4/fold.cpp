@@ -12,8 +12,8 @@
 namespace zulg {
 namespace {
 
-// What a pass goes over: `count` sequences, each of which begins `shift` elements after the one before. The values of
-// one sequence are `inputStep` apart.
+// The sequences of a pass. There are `count` of them, and each begins `shift` elements after the one before. The values
+// of one sequence are `inputStep` apart.
 template <class Element>
 struct Sequences {
     FoldSource<Element> first;
@@ -23,7 +23,8 @@ struct Sequences {
     Element* transforms;
 };
 
-// Not inlined: the bodies need room in the frame, which the levels of a plan would otherwise all take at once.
+// Not inlined: otherwise the routines that recur would have the stack frame of the largest body, once for each level of
+// a plan.
 template <int points, class Element>
 [[gnu::noinline]] Status foldEach(const Sequences<Element>& all) {
     const std::ptrdiff_t shift = all.shift, step = all.inputStep, count = all.count;
@@ -36,7 +37,7 @@ template <int points, class Element>
     return StatusOk;
 }
 
-// Sequences that are too long for one body, one after the other.
+// Transforms sequences that are too long for one body, one after the other.
 template <class Element>
 Status splitEach(const SkewSplit& split, const Sequences<Element>& all) {
     for (std::ptrdiff_t q = 0; q < all.count; ++q) {

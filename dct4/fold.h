@@ -7,8 +7,8 @@
 
 namespace zulg {
 
-// Where a folded sequence is in the source: its first half rises from one place, its second half is read with its sign
-// turned and falls, counted from the place that mirrors the first.
+// Where a folded sequence of M values is in the source. With i the distance between its values, value s is
+// forward[i s] in the first half and -mirrored[-i s] in the second half. The body changes that sign.
 template <class Element>
 struct FoldSource {
     using Place = typename InMemory<Element>::Type;
@@ -20,13 +20,13 @@ struct FoldSource {
     ZULG_INLINE FoldSource next(std::ptrdiff_t shift) const { return {forward + shift, mirrored - shift}; }
 };
 
-// The pass of a whole transform: r sequences of M values, from x to T. A `kind` out of range is refused with
-// StatusPlanKindError, which nobody looks at, and leaves T as it is.
+// The pass of a whole transform: r sequences of M values, from x to T. A `kind` out of range returns
+// StatusPlanKindError, which the callers ignore, and leaves T unchanged.
 template <class Element>
 Status foldPass(const FoldStage& stage, Element* transforms, const Element* x);
 
-// The pass of a split: r' sequences of M' values, every r'-th value of one longer sequence each, from the source to S.
-// A `kind` out of range leaves S as it is.
+// The pass of a split: r' sequences of M' values, from the source to S. Each has every r'-th value of one longer
+// sequence. A `kind` out of range leaves S unchanged.
 template <class Element>
 Status foldPass(const FoldStep& step, Element* transforms, const FoldSource<Element>& from);
 

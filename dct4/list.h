@@ -1,5 +1,5 @@
-// Lists of records, singly linked, in the arena of the plan. A list is its first node, which always exists: an empty
-// one is a node without a value, and the first element goes into it.
+// Lists of records, singly linked, in the arena of the plan. A list has at least one node, its head. The head of an
+// empty list has no value, and the first element is stored in it.
 #pragma once
 
 #include "dct4/arena.h"
@@ -21,16 +21,16 @@ constexpr std::int32_t listBytes(std::int32_t k) { return wrapProduct(roundUp32(
 
 PlanListNode* listInit(PlanListNode* node, PlanArena* arena);
 
-// Stores the value in the last node if that one has none, else in a new node behind it. Returns the value.
+// Stores the value in the last node if that has none, else in a new node after it. Returns the value.
 PlanHead* listAppend(PlanListNode* head, PlanHead* value);
 
 // Element i, or null.
 PlanHead* listNth(const PlanListNode* head, std::int32_t i);
 
-// Releases all nodes but the head, whose `next` then leads nowhere.
+// Releases all nodes but the head. The head is not changed, so that its `next` must not be followed any more.
 void listReleaseTail(PlanListNode* head);
 
-// Lets each record give back what it owns, then releases the record. The list stays.
+// Lets each record give back what it owns, then releases the record. The list itself is not changed.
 void listReleaseValues(PlanListNode* head);
 
 }  // namespace zulg

@@ -11,7 +11,7 @@
 namespace zulg {
 namespace {
 
-// Not inlined: each radix has a frame of its own.
+// Not inlined, so that each radix has a stack frame of its own, of the size that it needs.
 template <int radix, class Element>
 [[gnu::noinline]] Status outputEach(const OutputStage& stage, Element* y, const Element* transforms) {
     const std::ptrdiff_t stride = stage.blockStride;

@@ -5,8 +5,8 @@
 
 namespace zulg {
 
-// Row by row, from the skew transforms in T to the result. A `kind` out of range is refused with StatusPlanKindError,
-// which nobody looks at, and leaves the result as it is.
+// Computes the result row by row from the skew transforms in T. A `kind` out of range returns StatusPlanKindError,
+// which the caller ignores, and leaves the result unchanged.
 template <class Element>
 Status outputPass(const OutputStage& stage, Element* y, const Element* transforms);
 

@@ -1,7 +1,7 @@
 // How records of a plan refer to each other and to routines: in one 32-bit word on every target, so that records have
 // one layout and the sizes of plans, which callers see, are the same everywhere. Where pointers are 4 bytes wide the
-// word is the pointer. Where they are wider it is a distance: of another place in the plan from the word itself, of a
-// routine from a fixed routine of this library. A plan and the library are both smaller than 2 GiB.
+// word is the pointer. Where they are wider the word is a distance: that of an address in the plan counts from the word
+// itself, that of a routine from a fixed routine of this library. Neither a plan nor the library reaches 2 GiB.
 #pragma once
 
 #include <cstdint>
@@ -18,8 +18,8 @@ constexpr std::uintptr_t placeAtDistance(std::uint32_t word, std::uintptr_t from
     return from + static_cast<std::uintptr_t>(static_cast<std::intptr_t>(static_cast<std::int32_t>(word)));
 }
 
-// A pointer to something in the same plan, or null, which is the word 0: nothing in a plan refers to itself. What it
-// leads to may be changed through a constant reference, as through a constant pointer.
+// A pointer to something in the same plan, or null. The word 0 is null, since no word in a plan refers to itself. The
+// target may be changed through a constant reference, as through a constant pointer.
 template <class Target>
 class PlanRef {
 public:
@@ -41,11 +41,11 @@ private:
     std::uint32_t word;
 };
 
-// The routine that distances of routines count from.
+// Distances of routines count from this one.
 struct PlanHead;
 void releaseNothing(PlanHead& record);
 
-// A routine of this library. Who calls it knows its type.
+// A routine of this library. The caller knows its type.
 class PlanOperation {
 public:
     template <class Routine>

@@ -17,7 +17,7 @@ struct Dct4Ports {
     static constexpr Value fixed(double constant) { return static_cast<Element>(constant); }
 };
 
-// One of R skew transforms that are side by side: for each bin come the R real parts, then the R imaginary parts.
+// One of R skew transforms that are side by side. Each bin has its R real parts first, then its R imaginary parts.
 template <class Element>
 struct SkewBins {
     using Place = typename InMemory<Element>::Type;
@@ -29,8 +29,8 @@ struct SkewBins {
     ZULG_INLINE Place* im(std::ptrdiff_t k) const { return re(k) + transforms; }
 };
 
-// A folded sequence of M values: M/2 going forward from one place, M/2 going back from its mirror, which the body takes
-// with their signs turned.
+// A folded sequence of `points` values. The first half is read upwards from `forward` and the second half downwards
+// from `mirrored`; the body changes the signs of the second half.
 template <class Element, int points>
 struct FoldPorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;
@@ -53,8 +53,8 @@ struct OutputPorts : Dct4Ports<Element> {
 
     const Place* row;
     const Place* entries;
-    Place* up;    // rising output 0, each next one `step` after it
-    Place* down;  // falling output 0, each next one `step` before it
+    Place* up;    // rising output 0; each further one is `step` later
+    Place* down;  // falling output 0; each further one is `step` earlier
     std::ptrdiff_t step;
 
     ZULG_INLINE double re(int p) const { return row[p]; }
@@ -64,8 +64,8 @@ struct OutputPorts : Dct4Ports<Element> {
     ZULG_INLINE void falling(int b, double value) const { down[-step * b] = static_cast<Element>(value); }
 };
 
-// A row of r' bins, one of each part, to r' bins of the whole: the lower half of them rises from one bin, the upper
-// half falls from the mirror of it.
+// A row of r' bins, one of each short transform, to r' bins of the long one. The lower half of these rises from one
+// bin; the upper half falls from the mirror of that bin.
 template <class Element, int radix>
 struct CombinePorts : Dct4Ports<Element> {
     using Place = typename InMemory<Element>::Type;

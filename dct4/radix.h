@@ -7,7 +7,8 @@
 
 namespace zulg {
 
-// The radix for n, which is half a length. StatusSizeError, with the radix unchanged, where there is none.
+// Picks the radix for n, which is half a length. Where there is none, returns StatusSizeError and leaves the radix
+// unchanged.
 Status pickRadix(std::int32_t* pRadix, std::int32_t n);
 
 // 1 for n = first, 2 for its double, up to `codes`; `otherwise` for anything else.
@@ -18,8 +19,8 @@ constexpr std::int32_t doublingCode(std::int32_t n, std::int32_t first, std::int
     return otherwise;
 }
 
-constexpr std::int32_t compositePlan = 6;  // DctPlan.kind: split in two passes, in place of a direct kernel
-constexpr std::int32_t splitFold = 7;      // FoldStage.kind, FoldStep.kind: by a SkewSplit, in place of one body
+constexpr std::int32_t compositePlan = 6;  // DctPlan.kind: two passes instead of a direct kernel
+constexpr std::int32_t splitFold = 7;      // FoldStage.kind, FoldStep.kind: a SkewSplit instead of one body
 
 constexpr std::int32_t planKind(std::int32_t length) { return doublingCode(length, 2, 5, compositePlan); }
 constexpr std::int32_t foldKind(std::int32_t skewLength) { return doublingCode(skewLength, 2, 6, splitFold); }

@@ -6,8 +6,8 @@
 //     SkewSplit  owns RowAngleSource, CombineStage, FoldStep          M = r' M'
 //     FoldStep   owns a deeper SkewSplit if M' is above 64            r' skew transforms of length M'
 //
-// Tables and scratch vectors hold elements of the plan's type, which the plan does not know: whoever runs or builds it
-// does.
+// Tables and scratch vectors hold elements of the plan's type. No record states that type: the routines that build or
+// run a plan know it.
 #pragma once
 
 #include <cstddef>
@@ -20,9 +20,9 @@
 
 namespace zulg {
 
-// What `free` holds: gives back what the record owns, not the record.
+// The type of the routine in `free`, which gives back what the record owns, but not the record itself.
 using ReleaseOperation = void(PlanHead& record);
-// What `init` holds for plan, stages and splits: fills in the record and what lies below it.
+// The type of the routine in `init` of plans, stages and splits, which fills in the record and builds all below it.
 struct PlanType;
 using BuildOperation = Status(PlanHead& record, const PlanType& type);
 
@@ -153,19 +153,19 @@ static_assert(sizeof(SkewSplit) == 64 && offsetof(SkewSplit, active) == 32 && of
 static_assert(sizeof(CombineStage) == 68 && offsetof(CombineStage, kind) == 24 && offsetof(CombineStage, source) == 64);
 static_assert(sizeof(FoldStep) == 64 && offsetof(FoldStep, kind) == 28 && offsetof(FoldStep, outputStep) == 60);
 
-// A record by its head, which stands first in it.
+// The record of a head, which is the record's first member.
 template <class Record>
 Record& recordOf(PlanHead& head) {
     return reinterpret_cast<Record&>(head);
 }
 
-// The first record of a list, which must have one. At run time lists have at most one record each.
+// The first record of a list, which must have one. A run reads only lists of at most one record.
 template <class Record>
 const Record& firstOf(const PlanListNode* list) {
     return reinterpret_cast<const Record&>(*listNth(list, 0));
 }
 
-// Room for a record or a list, at the charge of its size. Nothing is cleared.
+// Draw a record, whose memory is not cleared, and an empty list. Each is charged its size.
 template <class Record>
 Record* drawRecord(PlanArena* arena) {
     return static_cast<Record*>(arenaAlloc(arena, sizeof(Record)));

@@ -7,7 +7,7 @@ namespace zulg {
 
 namespace {
 
-// A list that is a second view: its nodes, not its records.
+// Releases a list that is a second view: its nodes, but not its records.
 void releaseView(PlanArena* arena, PlanListNode* list) {
     listReleaseTail(list);
     arenaRelease(arena, list, sizeof(PlanListNode));

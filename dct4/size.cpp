@@ -1,7 +1,7 @@
-// The decision which lengths are accepted is this recursion and nothing else: it lets through what its truncating
-// divisions let through, among them 2^k + 1. Sums wrap at 32 bits and are refused where one turns negative; a sum that
-// wraps twice passes. A little more is counted than a build draws: the lists of each level as if no first element
-// went into the head.
+// This recursion alone decides which lengths are accepted. Its divisions truncate, so that 2^k + 1 is accepted as well
+// as 2^k. Sums wrap around at 32 bits. A length is refused where a sum becomes negative; a sum that wraps twice is
+// accepted. The size is a little more than what a build draws: it counts a node for each element of a list, whereas a
+// build stores the first element in the head.
 #include "dct4/size.h"
 
 #include "dct4/radix.h"
@@ -16,7 +16,8 @@ constexpr std::int32_t charge = roundUp32(sizeof(Record));
 
 constexpr std::int32_t headBytes = charge<PlanListNode>;
 
-// What each level with two passes has: a list of two for the second pass and the angle source, of one for each view.
+// What each level with two passes has besides its stages: the heads of three lists, five nodes, and the angle source.
+// `owned` has three of the nodes, and each of the two views has one.
 template <class AngleRecord>
 constexpr std::int32_t levelBytes = wrapSum(3 * headBytes, listBytes(2), charge<AngleRecord>, listBytes(1),
                                             listBytes(2));
@@ -66,7 +67,8 @@ std::int32_t combineTableBytes(std::int32_t rows, std::int32_t radix, std::int32
 
 std::int32_t planBytes(std::int32_t length, std::int32_t width) {
     const std::int32_t top = topBytes(length, width);
-    // Looked at before the room for cursor and alignment is added: a small negative number would turn positive by it.
+    // This check comes before the bytes for cursor and alignment are added, which would make a small negative number
+    // positive.
     if (top < 0) return top;
     return wrapSum(top, 2 * roundUp32(1));
 }

@@ -5,10 +5,10 @@
 
 namespace zulg {
 
-// The bytes to ask for, or a negative number if the length is refused. `width` is that of an element in bytes.
+// The bytes of a plan, or a negative number if the length is refused. `width` is that of an element in bytes.
 std::int32_t planBytes(std::int32_t length, std::int32_t width);
 
-// Of the two kinds of table; the build and the teardown ask too. `rows` and `radix` are those of the stage.
+// The bytes of a table of either kind; build and release use these too. `rows` and `radix` are those of the stage.
 std::int32_t outputTableBytes(std::int32_t rows, std::int32_t radix, std::int32_t width);
 std::int32_t combineTableBytes(std::int32_t rows, std::int32_t radix, std::int32_t width);
 

@@ -1,7 +1,7 @@
-// Every entry is the cosine or sine of pi times a fraction, by its own call of the mathematics library. Fraction and
-// product are each rounded once, to double, whatever the caller's control word says. In a plan of single values the
-// fraction is rounded to single as well; that shows only where it is no short binary fraction, at the lengths 2^k + 1.
-// Entries are in the order in which the passes read them.
+// Every entry is the cosine or sine of pi times a fraction, computed by its own call of the mathematics library. Fraction
+// and product are each rounded once, to double, whatever the caller's control word says. In a plan of single values the
+// fraction is rounded to single as well. That matters only at the lengths 2^k + 1, since elsewhere the fraction is a
+// short binary one. The tables are in the order in which the passes read them.
 #include "dct4/tables.h"
 
 #include <cmath>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr double pi = 3.141592653589793;
 
-// Not inlined: the call passes the fraction through memory, which rounds it to the element where registers are wider.
+// Not inlined: the call passes the fraction through memory. This rounds it to the element where registers are wider.
 template <class Element>
 [[gnu::noinline]] Element cospi(Element x) {
     return static_cast<Element>(std::cos(productRoundedOnce(x, pi)));
@@ -27,8 +27,9 @@ template <class Element>
     return static_cast<Element>(std::sin(productRoundedOnce(x, pi)));
 }
 
-// The input of an output body that has place `place` in its row. Even places rise, each is followed by its mirror; in
-// the body of radix 32, p = a + 4b + 16c rises with c first, then b, then a.
+// The input of an output body whose entry is number `place` in its row. Inputs come in pairs of p and its mirror
+// radix - 1 - p. From pair to pair p rises by 1, except in the body of radix 32: there p = a + 4b + 16c, and c rises
+// first, then b, then a.
 std::int32_t inputAtPlace(std::int32_t place, std::int32_t radix) {
     const std::int32_t i = place / 2;
     const std::int32_t p = radix == 32 ? i % 2 * 16 + i / 2 % 4 * 4 + i / 8 : i;
@@ -48,7 +49,7 @@ double rowAngleOf(const CombineStage& stage, std::int32_t row) {
     return source.head.init.as<RowAngleOperation>()(source, row, 0);
 }
 
-// For each row the twiddles of a DFT of `inner` points over t: 2tc/inner, c from 1 up.
+// For each row, which has the angle t, the twiddles of a DFT of `inner` points: 2tc/inner, c from 1 to inner - 1.
 template <class Element>
 Element* storeInner(Element* at, const CombineStage& stage, std::int32_t inner) {
     for (std::int32_t row = 0; row < stage.rows; ++row) {
@@ -58,7 +59,7 @@ Element* storeInner(Element* at, const CombineStage& stage, std::int32_t inner) 
     return at;
 }
 
-// For each row and each of the sub-rows t + j, those of the outer DFT of 4 points: 2(t + j)c/radix, c from 1 to 3.
+// For each row and each of its sub-rows j, the twiddles of the outer DFT of 4 points: 2(t + j)c/radix, c from 1 to 3.
 template <class Element>
 Element* storeOuter(Element* at, const CombineStage& stage, std::int32_t inner) {
     for (std::int32_t row = 0; row < stage.rows; ++row) {
@@ -101,8 +102,8 @@ void buildOutputTable(OutputStage& stage) {
     }
 }
 
-// Up to radix 8 one DFT, above it two levels: inner ones of a quarter of the radix, then outer ones of 4 points. The
-// combine bodies of radix 32 of the two element types read the two sections in opposite order.
+// Up to radix 8 a combine row is one DFT. Above that it has two levels: inner DFTs of a quarter of the radix, then
+// outer ones of 4 points. The tables of radix 32 of the two element types have their two sections in opposite order.
 template <class Element>
 void buildCombineTable(CombineStage& stage) {
     auto at = static_cast<Element*>(

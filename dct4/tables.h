@@ -1,16 +1,17 @@
-// The twiddle tables, made of pairs: the cosine and the sine of one angle. A stage's sizes and source must be set.
+// The twiddle tables. Their entries are pairs: the cosine and the sine of one angle. The sizes and the source of a
+// stage must be set before its table is built.
 #pragma once
 
 #include "dct4/records.h"
 
 namespace zulg {
 
-// What `init` of an AngleSource holds: the entry at an index of a row, rounded to the element type.
+// The routine in `init` of an AngleSource. It gives the entry at an index of a row, rounded to the element type.
 template <class Element>
 double angleEntry(const AngleSource& source, std::int32_t row, std::int32_t index);
 using AngleOperation = double(const AngleSource& source, std::int32_t row, std::int32_t index);
 
-// What `init` of a RowAngleSource holds: t of a row, not rounded. The second number is not looked at.
+// The routine in `init` of a RowAngleSource. It gives t of a row, not rounded, and ignores the last argument.
 double rowAngle(const RowAngleSource& source, std::int32_t row, std::int32_t);
 using RowAngleOperation = double(const RowAngleSource& source, std::int32_t row, std::int32_t);
 

@@ -1,5 +1,6 @@
-// Sums and products of 32-bit signed numbers that wrap. Sizes of absurd lengths do wrap, and which lengths are accepted
-// hangs on it; in signed arithmetic that would be undefined, so it is done unsigned and converted.
+// Sums, products and differences of 32-bit signed numbers that wrap around. The sizes of very long lengths do wrap, and
+// that decides which of these lengths are accepted. Since signed arithmetic must not overflow, the numbers are added
+// and multiplied as unsigned ones and the result is converted.
 #pragma once
 
 #include <cstdint>

@@ -6,7 +6,7 @@
 
 namespace zulg {
 
-// 1/sqrt(2^order): a power of two, or one times the root of a half.
+// 1/sqrt(2^order): a power of two, or a power of two times sqrt(1/2).
 template <int order>
 struct WhtRoot {
     static constexpr double inverseRoot = (order % 2 == 0 ? 1.0 : 0.7071067811865475) / (1 << order / 2);

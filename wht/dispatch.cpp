@@ -1,4 +1,4 @@
-// By order at run time: the dispatcher, and the size of the buffer.
+// The routines that take the order as an argument: the dispatcher, and the size of the buffer.
 #include <array>
 #include <utility>
 
@@ -21,7 +21,7 @@ constexpr auto bufferTable = []<int... index>(std::integer_sequence<int, index..
 }
 (orders);
 
-// An order below the lowest becomes a number above the highest.
+// An order below the lowest becomes an index above the highest.
 std::uint32_t indexOf(std::int32_t order) { return static_cast<std::uint32_t>(order) - lowestOrder; }
 
 }  // namespace

@@ -1,12 +1,12 @@
-// Orders 8 to 13: passes of blocks through a buffer, the caller's or one for the time of the call.
+// Orders 8 to 13: passes of blocks through a buffer. It is the caller's, or is allocated for the time of the call.
 #include "frame/core_library.h"
 #include "wht/checks.h"
 #include "wht/passes.h"
 
 namespace zulg {
 
-// A refused allocation is not looked for: the family has no status for it, and a caller that wants no such risk passes
-// a buffer.
+// A refused allocation is not checked for: the family has no status for it. A caller avoids the risk by passing a
+// buffer.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer) {
     return whtChecked<order>(

@@ -1,14 +1,17 @@
 // How the blocks of a large order go over its arrays. The element and the type that a block works in are arguments, so
 // that the very loops that ship can also be run on a type that counts.
 //
-//     orders 8 to 11   first pass: source to buffer, blocks of neighbours; second pass: buffer to destination, blocks
-//     at
-//                      a stride
-//     orders 12, 13    for each outer block the same two passes, from the source through the scratch area into the main
-//                      area; then a last pass over the whole main area
+//     orders 8 to 11   first pass:  source to buffer, blocks of neighbours
+//                      second pass: buffer to destination, blocks at a stride
 //
-// The stages of the first pass have the lower strides, so that all stages together come in rising stride. Only the pass
-// that writes the destination scales. Between passes values are rounded to the element.
+//     orders 12, 13    for each outer block, the same two passes:
+//                      first pass:  source to scratch area, blocks of neighbours
+//                      second pass: scratch area to main area, blocks at a stride
+//                      then once, over all outer blocks:
+//                      last pass:   main area to destination, blocks at a stride
+//
+// The stages of an earlier pass have lower strides than those of a later one, so that all stages come in rising stride.
+// Only the pass that writes the destination scales. Between passes values are rounded to the element.
 #pragma once
 
 #include "frame/ports.h"
@@ -20,7 +23,7 @@
 
 namespace zulg {
 
-// One block: point n is element n * stride, on both sides.
+// The ports of one block. Point n is element n * stride, in the source and in the destination.
 template <class Element, class Working, int stride>
 struct WhtPorts {
     using Value = Working;
@@ -42,7 +45,7 @@ struct WhtScaledPorts : WhtPorts<Element, Working, stride> {
     }
 };
 
-// `blocks` blocks of `points` neighbours each.
+// A pass over `blocks` blocks of `points` neighbours each.
 template <int blocks, int points, class Working, class Element>
 ZULG_INLINE void passOfNeighbours(const Element* from, Element* to) {
     for (int i = 0; i < blocks * points; i += points) {
@@ -50,7 +53,7 @@ ZULG_INLINE void passOfNeighbours(const Element* from, Element* to) {
     }
 }
 
-// `stride` blocks of `points` each, `stride` elements apart.
+// A pass over `stride` blocks of `points` points, which are `stride` elements apart.
 template <int stride, int points, class Working, class Element>
 ZULG_INLINE void passAtStride(const Element* from, Element* to) {
     for (int j = 0; j < stride; ++j) WhtBlock<points>::run(WhtPorts<Element, Working, stride>{from + j, to + j});
@@ -63,8 +66,7 @@ ZULG_INLINE void scaledPassAtStride(const Element* from, Element* to, Working sc
     }
 }
 
-// The points of the blocks of a two-pass order: 2^order is their product. An outer block of order 12 or 13 is passed as
-// a transform of order 8 or 10 is.
+// The points of a block in the first and in the second pass. Their product is 2^order.
 template <int order>
 struct WhtSplit;
 template <>
@@ -84,6 +86,7 @@ struct WhtSplit<11> {
     static constexpr int first = 64, second = 32;
 };
 
+// The order whose two passes an outer block takes, and the points of a block in the last pass.
 template <int order>
 struct WhtOuter;
 template <>

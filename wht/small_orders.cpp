@@ -11,7 +11,7 @@
 
 namespace zulg {
 
-// The buffer is part of the signature of all orders and is not looked at here.
+// The buffer is part of the signature of all orders and is ignored here.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element*) {
     return whtChecked<order>(

@@ -1,4 +1,4 @@
-// The routines of the Walsh-Hadamard family behind the boundary.
+// The routines that the exports of the Walsh-Hadamard family lead to.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,8 @@ template <class Element>
 using WhtDispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
                                               Element* pBuffer);
 
-// 2^order points. Orders up to 7 do not look at pBuffer; from 8 on it is whtBufferElements(order) elements, or null.
+// Transforms 2^order points. Orders up to 7 ignore pBuffer. From 8 on it has whtBufferElements(order) elements, or is
+// null.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
 
@@ -27,7 +28,7 @@ Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t or
 template <class Element>
 Status ZULG_CALL whtGetBufferSize(std::int32_t order, std::int32_t* pSize);
 
-// The main area holds all points; orders 12 and 13 have a scratch area of one outer block behind it.
+// The main area holds all points; orders 12 and 13 have a scratch area of one outer block after it.
 constexpr int whtScratchElements(int order) { return order == 12 ? 256 : order == 13 ? 1024 : 0; }
 constexpr int whtBufferElements(int order) { return order < 8 ? 0 : (1 << order) + whtScratchElements(order); }
 

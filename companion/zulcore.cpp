@@ -1,5 +1,5 @@
 // zulcore, the small core library beside zulgenpx: memory for those routines that are called without a buffer.
-// It is a library of its own and is imported by name, so that another one of that name may stand in its place.
+// It is a library of its own and is imported by name, so that another library of that name can replace it.
 #include <cstdint>
 #include <cstdlib>
 
@@ -20,7 +20,7 @@ constexpr std::size_t alignment = 64;  // a cache line
 
 extern "C" {
 
-// A block of `bytes` bytes, aligned to 64, or null. No bytes give a block as well.
+// Gives a block of `bytes` bytes, aligned to 64, or null. 0 bytes give a block as well.
 ZULG_EXPORT void* ZULG_CALL zulMalloc(std::uint32_t bytes) {
 #ifdef _WIN32
     return _aligned_malloc(bytes, alignment);

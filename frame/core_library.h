@@ -1,4 +1,4 @@
-// What the library takes from its companion core library, zulcore: memory.
+// The memory routines that the library imports from zulcore, its core library.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +12,8 @@
 #endif
 
 extern "C" {
-// A block of that many bytes, aligned to 64, or null.
+// Gives a block of that many bytes, aligned to 64, or null.
 ZULG_IMPORT void* ZULG_CALL zulMalloc(std::uint32_t bytes);
-// Of such a block; null is allowed.
+// Takes such a block back; null is allowed.
 ZULG_IMPORT void ZULG_CALL zulFree(void* block);
 }

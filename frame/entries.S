@@ -1,5 +1,5 @@
-/* The exported entries: one indirect jump each, through the slot of that name. An entry changes no argument and leaves
-   the return address in place; the routine behind it does the returning. */
+/* The exported entries. Each is one indirect jump through the slot of its name. An entry changes no argument and leaves
+   the return address on the stack, so that the routine it jumps to returns to the caller. */
 
 #ifdef __i386__
 
@@ -22,7 +22,7 @@ _\name:
     .globl \name
     .type \name, @function
 \name:
-    endbr64                                 /* landing mark for indirect branches; no work */
+    endbr64                                 /* allows indirect branches to come here; does nothing else */
     jmp *zulgSlots + 8 * slot(%rip)
     .size \name, . - \name
     .set slot, slot + 1

@@ -29,14 +29,14 @@ using KernelRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std
 template <class Element>
 using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
-// Tells the bytes that an order or a length needs.
+// Gives the bytes that an order or a length needs.
 using SizeRoutine = Status(ZULG_CALL*)(std::int32_t order, std::int32_t* pSize);
 
 // A complex kernel sees its arrays as pairs of elements.
 template <Family family, int length, class Element>
 Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag);
 
-// The kernel of an argument `length`.
+// Calls the kernel of the given length.
 template <Family family, class Element>
 Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 

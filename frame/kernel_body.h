@@ -8,7 +8,7 @@
 
 namespace zulg {
 
-// The text of a graph, specialised for each length: `run`, and 1/sqrt(length) as a double.
+// The text of a graph, specialised for each length. It has `run`, and 1/sqrt(length) as a double.
 template <int length>
 struct ComplexGraph;
 template <int length>

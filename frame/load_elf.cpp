@@ -1,6 +1,6 @@
-// What the dynamic linker calls when an ELF library has been loaded: named to it by -Wl,-init, as the load entry is
-// named to Windows by --entry. So it needs no start files, and .init_array stays empty, where a forgotten initializer
-// shows.
+// The dynamic linker calls zulgLoad after it has loaded the ELF library: -Wl,-init names the routine, as --entry names
+// the load entry on Windows. So no start files are needed and .init_array stays empty, and a test can see there that no
+// static waits for an initializer.
 #include "frame/load_entry.h"
 
 extern "C" void zulgLoad();

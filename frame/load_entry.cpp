@@ -1,5 +1,5 @@
-// The library's load entry. It starts the allocator hook and does nothing else: nothing here or elsewhere in the
-// library waits for an initializer to run, and at the end nothing is undone.
+// The library's load entry. It starts the allocator hook and does nothing else: nothing in the library waits for an
+// initializer to run, and nothing is undone when the library is unloaded.
 #include "frame/load_entry.h"
 
 #include "frame/allocator_hook.h"

@@ -1,4 +1,4 @@
-// The load entry, in the form in which Windows calls it; on ELF platforms load_elf.cpp does.
+// The load entry. Windows calls it in this form; on ELF platforms load_elf.cpp calls it.
 #pragma once
 
 #include <cstdint>

@@ -1,12 +1,12 @@
-// For long kernels, whose constants stand in a table.
+// For long kernels, whose constants are in a table.
 #pragma once
 
 #include "frame/platform.h"
 
 namespace zulg {
 
-// The same pointer, kept in a register: what is read through it takes a short displacement where an address of its own
-// would take four bytes.
+// Returns the same pointer, kept in a register. An instruction that reads a constant through it holds a displacement,
+// which is one byte near the pointer, instead of an address of four bytes.
 ZULG_INLINE const double* inRegister(const double* table) {
     asm("" : "+r"(table));
     return table;

@@ -7,8 +7,9 @@
 
 namespace zulg {
 
-// What the flags mean: forward families divide by N at one flag, inverse ones at the other, transforms that are their
-// own inverse at both. `Flags` is the same type for all families of a direction, and so is what depends on it.
+// Which flags divide by N: DivFwdByN in forward families, DivInvByN in inverse ones, and both where a transform is its
+// own inverse. `Flags` is the same type for all families of a direction, so that all kernels of one graph in that
+// direction share a table of factors.
 struct ForwardFlags {
     using Flags = ForwardFlags;
     static constexpr bool isDivided(std::int32_t flag) { return flag == DivFwdByN; }
@@ -22,8 +23,8 @@ struct InvolutionFlags {
     static constexpr bool isDivided(std::int32_t) { return true; }
 };
 
-// The stored factors of one length: of the width of the data, 1/N exact and rounded once, 1/sqrt(N) the double of the
-// graph rounded on.
+// The stored factors of one length, in the type of the data. 1/N is rounded once. 1/sqrt(N) is the double that the
+// graph states, rounded to that type.
 template <class Element, int length, class Graph>
 struct Scale {
     static constexpr Element one = 1;
@@ -31,26 +32,29 @@ struct Scale {
     static constexpr Element inverseRoot = static_cast<Element>(Graph::inverseRoot);
 };
 
-// The factors by flag. A flag is a single bit, so that half of it is a place in a short table.
+// The factors by flag. The flags are 1, 2, 4 and 8, so that half of a flag is an index into a table of five factors.
 template <class Flags, class Factor>
 struct FactorsByFlag {
     using Element = std::remove_const_t<decltype(Factor::one)>;
 
-    static constexpr Element divided(std::int32_t flag) { return Flags::isDivided(flag) ? Factor::inverse : Factor::one; }
+    static constexpr Element divided(std::int32_t flag) {
+        return Flags::isDivided(flag) ? Factor::inverse : Factor::one;
+    }
     static constexpr Element factors[] = {divided(DivFwdByN), divided(DivInvByN), Factor::inverseRoot, {}, Factor::one};
     static_assert(DivFwdByN == 1 && DivInvByN == 2 && DivBySqrtN == 4 && NoDivByAny == 8);
 
     static constexpr std::uint32_t flags = 1 << DivFwdByN | 1 << DivInvByN | 1 << DivBySqrtN | 1 << NoDivByAny;
 };
 
-// A status that is in its register before what comes next: a refusal is then a jump forward to the one return, and no
-// code of its own behind the kernel, which would jump back.
+// Puts a status into its register before the test that follows. A refusal is then a forward jump to the single return.
+// Without the empty asm the compiler places the code of a refusal after the kernel, from where it jumps backwards to
+// the return. The test of the machine code forbids backward jumps, since they would be loops.
 ZULG_INLINE Status settled(Status status) {
     asm volatile("" : "+r"(status));
     return status;
 }
 
-// Checks the arguments in their order and calls run(scale) with the factor of the flag, which is looked up.
+// Checks the arguments in their order, then calls run(scale) with the factor of the flag.
 template <class Flags, class Factor, class Run>
 ZULG_INLINE Status withScale(const void* pSrc, const void* pDst, std::int32_t flag, const Run& run) {
     using Factors = FactorsByFlag<Flags, Factor>;

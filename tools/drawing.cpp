@@ -93,7 +93,7 @@ std::string Drawing::png() const {
     image.width = static_cast<png_uint_32>(width);
     image.height = static_cast<png_uint_32>(height);
     image.format = PNG_FORMAT_RGB;
-    // Through memory, so that the file is written and checked where all files are.
+    // The bytes go through memory, so that the file is written and checked where all files are.
     std::string bytes(PNG_IMAGE_PNG_SIZE_MAX(image), '\0');
     png_alloc_size_t size = bytes.size();
     if (png_image_write_to_memory(&image, bytes.data(), &size, 0, points.data(), 0, nullptr) == 0) {

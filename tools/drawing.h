@@ -14,7 +14,7 @@ class Drawing {
 public:
     Drawing(int width, int height, Colour background);
 
-    // Both cut off what falls outside.
+    // `fill` and `text` cut off what falls outside.
     void fill(int left, int top, int width, int height, Colour colour);
     // `left` and `top` are those of the first letter. Letters that are not in the set are left blank.
     void text(int left, int top, std::string_view letters, Colour colour);

@@ -54,7 +54,7 @@ int inTheirOrder(int place, int) { return place; }
 
 double signedFrequency(int bin, int length) { return double(bin <= length / 2 ? bin : bin - length) / length; }
 
-// Row k of the natural order: with the bits of k mirrored it is the Gray code of its number of sign changes.
+// Row k of the natural order: k with its bits mirrored is the Gray code of the number of sign changes in the row.
 unsigned mirrored(unsigned bits, int length) {
     unsigned result = 0;
     for (int rest = length; rest > 1; rest /= 2, bits /= 2) result = 2 * result + bits % 2;
@@ -82,10 +82,10 @@ double hartleyMagnitude(ConstBins bins, int bin) {
     return std::abs(std::complex(here + there, here - there)) / 2;
 }
 
-// Of a pair of routines that share out the scale between them.
+// For a forward and an inverse routine, which restore the input at the same flag, unless that is NoDivByAny.
 std::int32_t flagOfInverse(std::int32_t flag) { return flag == NoDivByAny ? DivInvByN : flag; }
 
-// Of a routine that is its own inverse and divides by N both at DivFwdByN and at DivInvByN.
+// For a routine that is its own inverse and divides by N both at DivFwdByN and at DivInvByN.
 std::int32_t flagOfInvolution(std::int32_t flag) {
     if (flag == NoDivByAny) return DivInvByN;
     return flag == DivBySqrtN ? DivBySqrtN : NoDivByAny;
@@ -109,7 +109,7 @@ constexpr Family families[] = {
         .wide = {nullptr, nullptr, plain<Zulg64fc, zulgDFTFwd_CToC_64fc>, plain<Zulg64fc, zulgDFTInv_CToC_64fc>},
     },
     {
-        // A CCS array is the array of the bins from 0 to the middle, real and imaginary parts in turn.
+        // A CCS array holds the bins from 0 to the middle: the real part and the imaginary part of each.
         .name = "real",
         .sizes = Sizes::Lengths,
         .takesFlag = true,

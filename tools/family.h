@@ -11,23 +11,23 @@
 
 namespace spectrum {
 
-// A frame of this many samples keeps a run below some 150 MB. No family is run at more, whatever the library has.
+// A frame of this many samples keeps a run below some 150 MB. No family is run at more, whatever the library accepts.
 inline constexpr int longestFrame = 1 << 20;
 
-// What a routine is called with beside its arrays.
+// What a routine is called with besides its arrays.
 struct Call {
     std::int32_t size;  // the length, or the order where the family counts in orders
     std::int32_t flag;
     void* workspace;  // a buffer or a plan; null where the routine takes neither
 };
 
-// The routines of one precision. Arrays are plain numbers: those of a complex value stand side by side, and the row of
-// the family says which values are complex. Statuses are the library's own, and so is their order: a size that does not
-// exist outranks a null pointer, and that a wrong flag.
+// The routines of one precision. Arrays are plain numbers: a complex value is two neighbours, and the row of the family
+// says which values are complex. Statuses are the library's own, and so is their order: a size that does not exist
+// outranks a null pointer, and a null pointer outranks a wrong flag.
 template <typename T>
 struct Routines {
-    // Both null for routines that need nothing but their arrays. The block has that many bytes, is aligned to 64 and
-    // stays where it is as long as the workspace is in use.
+    // Both are null for routines that need nothing but their arrays. The block has that many bytes, is aligned to 64
+    // and is not moved as long as the workspace is in use.
     ZulgStatus (*workspaceBytes)(std::int32_t size, std::int32_t* bytes);
     ZulgStatus (*makeWorkspace)(std::int32_t size, void* block, void** workspace);
     ZulgStatus (*forward)(const T* points, T* bins, const Call& call);
@@ -45,13 +45,13 @@ struct Family {
     bool takesFlag;
     int numbersInPoint, numbersInBin;  // 2 where they are complex
     int (*binCount)(int length);
-    // Where a bin stands: its frequency in cycles per sample, or its sequency, the sign changes of its pattern.
+    // The position of a bin: its frequency in cycles per sample, or its sequency, the sign changes of its pattern.
     Axis axis;
     double (*position)(int bin, int length);
-    // A picture shows so many bins, in the order in which their positions rise evenly.
+    // A picture shows this many bins, in the order in which their positions rise evenly.
     int (*shownCount)(int length);
     int (*shownBin)(int place, int length);
-    // All bins are at hand, since some families form one magnitude of several.
+    // Gets all bins, since some families form a magnitude from several of them.
     double (*magnitude)(ConstBins bins, int bin);
     // The scale flag with which the inverse restores what the forward transform with `flag` was given.
     std::int32_t (*restoringFlag)(std::int32_t flag);

@@ -1,5 +1,5 @@
-// The frames of an input. Samples that the last full frame has already covered do not make another frame: the zero
-// filled one exists only for samples that no other frame holds.
+// The frames of an input. Samples that the last full frame covers do not make another frame: a frame that is filled up
+// with zeros exists only for samples that no other frame holds.
 #include "frames.h"
 
 #include <algorithm>

@@ -19,7 +19,8 @@ public:
     std::span<const double> samples() const { return frame; }
     std::int64_t samplesRead() const { return count; }
 
-    // Goes on to the next frame; false when there is none. The last one is filled up with zeros when it is partial.
+    // Goes on to the next frame; returns false when there is none. A last frame that is partial is filled up with
+    // zeros.
     bool next();
 
 private:

@@ -1,5 +1,5 @@
-// Decides what an input is. The content decides and not the name, so that a misnamed file still gets read or gets
-// the right message.
+// Decides what an input is. The content decides and not the name, so that a misnamed file is still read, or refused
+// with the right message.
 #include "input.h"
 
 #include <algorithm>
@@ -33,7 +33,8 @@ std::unique_ptr<Source> openInput(const std::string& path, int channel) {
     if (path != "-" && std::filesystem::is_directory(status)) {
         throw UserError("cannot read " + printable(path) + ": it is a folder");
     }
-    // What is no regular file, such as a pipe, can be read only once: it is not looked into beforehand.
+    // An input that is no regular file, such as a pipe, can be read only once. So its start is not read here, and it
+    // counts as text.
     if (path != "-" && (!std::filesystem::exists(status) || std::filesystem::is_regular_file(status))) {
         if (!looksLikeText(path)) return openSound(path, channel);
     }

@@ -15,11 +15,12 @@ class Source {
 public:
     virtual ~Source() = default;
 
-    // Fills `out` from the front and tells how far; short only at the end of the input. Throws UserError.
+    // Fills `out` from the front and returns how many samples it has filled in. These are fewer than asked for only at
+    // the end of the input. Throws UserError.
     virtual std::size_t read(std::span<double> out) = 0;
 
     std::string name;                   // for messages
-    bool isSound = false;               // else plain numbers, whose rate is 1
+    bool isSound = false;               // otherwise plain numbers, whose rate is 1
     double rate = 1;                    // samples in one second
     std::optional<std::int64_t> total;  // samples, when known from the start
 };

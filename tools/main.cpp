@@ -1,5 +1,5 @@
 // zulspectrum: short-time spectra of sound files and of numbers, with the transforms of the library beside it.
-// This file is the run itself, from the command to the report; run with --help for what it can do.
+// This file is the run itself, from the command to the report. --help tells what it can do.
 #include <unistd.h>
 
 #include <cstdio>
@@ -66,7 +66,7 @@ private:
     RelativeError error;
 };
 
-// Gives each frame to the sink, if there is one, and to the check, if that is asked for; tells the number of frames.
+// Gives each frame to the sink, if there is one, and to the check, if that is asked for. Returns the number of frames.
 std::int64_t runFrames(Frames& frames, Transform& transform, const Options& options, Sink* sink, Check& check,
                        Progress& progress) {
     const std::vector<double> weights = windowWeights(options.window, options.length);
@@ -91,12 +91,12 @@ void run(const Options& options) {
     Transform transform(options);
     refuseBadTargets(options);
     const std::unique_ptr<Source> source = openInput(options.input, options.channel);
-    // A spectrum that runs over the same terminal is progress enough.
+    // A spectrum that is printed on the same terminal shows the progress already.
     const bool toTerminal = options.writesSpectrum && options.output == "-" && isatty(STDOUT_FILENO) == 1;
     std::optional<Progress> progress(std::in_place, !toTerminal && isatty(STDERR_FILENO) == 1, source->total);
     Frames frames(*source, options.length, options.hop);
 
-    // Opened only now: an input that gives nothing leaves an earlier output as it was.
+    // The file is opened only now, so that an input without a frame leaves an earlier output as it was.
     const Heading heading{options, source->name, source->isSound, source->rate};
     std::optional<OutputFile> file;
     std::unique_ptr<Sink> sink;
@@ -106,7 +106,7 @@ void run(const Options& options) {
     const std::int64_t count = runFrames(frames, transform, options, sink.get(), check, *progress);
     if (sink) sink->finish();
     if (file) file->close();
-    progress.reset();  // its line goes before the report comes
+    progress.reset();  // removes its line before the report is printed
     if (options.check) check.report(options, *source, frames.samplesRead(), count);
 }
 

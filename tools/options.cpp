@@ -1,5 +1,5 @@
-// The command line, read with CLI11. What the words of the options mean is all here; a wrong one ends in one line of
-// text, whether CLI11 or this file finds it.
+// The command line, read with CLI11. Only this file knows the words of the options and their meaning. A wrong word ends
+// the run with a message of one line, whether CLI11 or this file finds it.
 #include "options.h"
 
 #include <CLI/CLI.hpp>
@@ -31,7 +31,7 @@ constexpr const char* footer =
     "Families: complex is the DFT of all N bins; real is the DFT of real values, of the bins 0 to N/2, and the bins\n"
     "above them mirror these; hartley is the Hartley transform, N real bins. Its magnitudes, of the bins k and N-k,\n"
     "are those of the complex family but for the scale. wht is the Walsh-Hadamard transform of 2^O points, with\n"
-    "--order O or --length of that many; its bins come in natural order, and in the place of a frequency each has a\n"
+    "--order O or --length of that many; its bins come in natural order, and instead of a frequency each has a\n"
     "sequency: how often its pattern of +1 and -1 changes sign. dct4 is the DCT-IV, N real bins, where N is a power\n"
     "of two; the frequency of bin k is (k + 1/2)/(2N) cycles per sample.\n"
     "\n"
@@ -61,7 +61,7 @@ constexpr const char* footer =
 
 constexpr const char* layoutFooter =
     "R3 stands for the real part of bin 3, I3 for its imaginary part, 0 for a slot that holds zero. The numbers of\n"
-    "the slots stand in the line above.";
+    "the slots are in the line above.";
 
 std::string versionText() {
     const LibVersion& library = *zulgenGetLibVersion();
@@ -102,7 +102,7 @@ const Family& familyOf(const std::string& word) {
 // 2^order, or 0 where that is no int. The library is asked about the order itself.
 int lengthOfOrder(int order) { return order >= 0 && order < std::numeric_limits<int>::digits ? 1 << order : 0; }
 
-// 0, which is no order of any family, where the length is not 2^order.
+// The order of a length, or 0, which is no order of any family, where the length is not 2^order.
 int orderOfLength(int length) {
     const unsigned bits = static_cast<unsigned>(std::max(length, 0));
     return std::has_single_bit(bits) ? std::countr_zero(bits) : 0;
@@ -111,7 +111,8 @@ int orderOfLength(int length) {
 void expectFittingOptions(const Words& words, const Family& family) {
     const std::string name(family.name);
     if (words.orderGiven && family.sizes != Sizes::Orders) {
-        throw UserError("--order " + std::to_string(words.order) + ": the " + name + " family has no orders; say --length");
+        throw UserError("--order " + std::to_string(words.order) + ": the " + name +
+                        " family has no orders; say --length");
     }
     if (words.orderGiven && words.lengthGiven) {
         throw UserError("--order " + std::to_string(words.order) + " beside --length " + std::to_string(words.length) +
@@ -137,7 +138,7 @@ Format formatOf(const Words& words) {
     return found->second;
 }
 
-// The words that are one thing in one family and another in the next.
+// Makes the options from the words. Some words mean different things in different families.
 Options optionsOf(const Words& words) {
     const Family& family = familyOf(words.family);
     expectFittingOptions(words, family);

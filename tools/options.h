@@ -18,9 +18,9 @@ enum class Precision { Single, Double };
 struct Options {
     std::string input, output;  // "-" for the standard streams
     const Family* family;
-    int length, hop;    // the length is 0 where the order is out of reach
+    int length, hop;    // the length is 0 where 2^order is no int
     std::int32_t size;  // what the library is asked for: the length, or the order where the family counts in orders
-    bool byOrder;       // --order says it, and not --length
+    bool byOrder;       // the size comes from --order, not from --length
     std::int32_t flag;
     int channel;
     Window window;
@@ -35,7 +35,7 @@ struct LayoutOptions {
     int length;
 };
 
-// Nothing is left to be done after --help and --version.
+// Nothing remains to be done after --help and --version.
 using Command = std::variant<std::monostate, LayoutOptions, Options>;
 
 // Throws UserError.

@@ -17,7 +17,7 @@ public:
     OutputFile& operator=(const OutputFile&) = delete;
 
     void write(std::string_view bytes);
-    // To be called when all is written; a file that is not closed here counts as given up.
+    // To be called when all is written. A file that is not closed with this is unfinished, and its errors are ignored.
     void close();
 
 private:

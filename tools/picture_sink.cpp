@@ -1,6 +1,6 @@
-// The spectrogram: time to the right, frequency or sequency upward, level as colour. Frames are gathered into columns
-// of a bounded number, each the mean power of its frames; with every doubling of a long input neighbours are merged.
-// Bins are gathered into rows in the same way where there are more of them than pixels.
+// The spectrogram: time to the right, frequency or sequency upward, level as colour. A column shows the mean power of
+// its frames. The number of columns is bounded: when it is reached, neighbours are merged, and each column has twice as
+// many frames from then on. Bins share a row in the same way where there are more of them than pixels.
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -17,7 +17,7 @@ constexpr int pixelsDown = 512;
 constexpr double shownDecibels = 80;
 constexpr Colour background{20, 20, 26}, ink{214, 214, 222}, frameLine{96, 96, 108};
 
-// Of one axis: from one tick to the next, in round numbers, with at most `most` steps.
+// The distance from one tick of an axis to the next: a round number that makes at most `most` steps.
 double roundStep(double range, int most) {
     const double least = range / most;
     const double decade = std::pow(10.0, std::floor(std::log10(least)));
@@ -119,7 +119,7 @@ private:
     }
 
     void drawBinAxis(Drawing& drawing) const {
-        // Positions rise evenly from place to place, and stand in the middle of theirs.
+        // Positions rise evenly from one shown bin to the next. The tick of a position is at the middle of its bin.
         const bool ofSound = heading.isSound && heading.showsFrequency();
         const bool inKilohertz = ofSound && heading.position(binAt(places - 1)) >= 1000;
         const double unit = inKilohertz ? 1000 : 1;

@@ -1,5 +1,5 @@
-// The progress line. Rewritten in place with a carriage return, a few times in a second at most.
-// The clock is looked at only now and then, since one frame takes less time than that look.
+// The progress line. A carriage return lets the next line overwrite it, a few times in a second at most.
+// The clock is read only now and then, since reading it takes longer than a frame.
 #include "progress.h"
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// A line on standard error that tells how far a long run is, for people at a terminal. Silent for the first second;
-// the line is taken away at the end.
+// A line on standard error that tells how far a long run is, for people at a terminal. It appears after the first
+// second and is removed at the end.
 #pragma once
 
 #include <chrono>

@@ -1,5 +1,5 @@
-// Where spectra go, frame by frame: as text, as CSV, or into a picture.
-// What is common to all frames comes once, when the sink is made.
+// Where spectra go, frame by frame: text, CSV, or a picture.
+// What is common to all frames is given once, when the sink is made.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ namespace spectrum {
 struct Heading {
     const Options& options;
     std::string inputName;
-    bool isSound;  // times are in seconds and frequencies in Hz, else in samples and cycles per sample
+    bool isSound;  // times are in seconds and frequencies in Hz; otherwise in samples and cycles per sample
     double rate;
 
     double time(std::int64_t frame) const { return static_cast<double>(frame) * options.hop / rate; }

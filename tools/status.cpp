@@ -1,5 +1,5 @@
-// The words for each status. A status that is not listed is told by its number, so that a newer library still gets
-// a usable message.
+// The words for each status. The message about a status that is not listed gives its number, so that it is of use with
+// a newer library too.
 #include "status.h"
 
 namespace spectrum {

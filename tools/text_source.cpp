@@ -1,5 +1,5 @@
-// Real numbers out of text, from a file or from standard input. Read byte by byte out of a block, with the line
-// counted, since a wrong word is told with its line.
+// Real numbers from text, in a file or on standard input. Bytes are taken one by one from a block and lines are
+// counted, since the message about a wrong word names its line.
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -72,7 +72,7 @@ private:
     double numberOfWord() const {
         const char* start = word.data();
         const char* const end = start + word.size();
-        // std::from_chars knows a minus only.
+        // std::from_chars accepts a minus sign but no plus sign.
         if (word.size() > 1 && word[0] == '+' && word[1] != '-') ++start;
         double number = 0;
         const auto [rest, error] = std::from_chars(start, end, number);

@@ -1,6 +1,6 @@
-// Runs the routines of a family and turns their statuses into errors.
-// Which sizes exist is never listed here: the library is asked. A size that is too long for a frame, or accepted by
-// the library though it is none of the family's, is not even asked for.
+// Runs the routines of a family and turns their statuses into errors. Which sizes exist is never listed here: the
+// library is asked. It is not asked about a size that is too long for a frame, nor about one that it accepts although
+// the family has no such size.
 #include "transform.h"
 
 #include <bit>
@@ -35,7 +35,7 @@ bool canBeFramed(const Family& family, int size) {
     return size >= 1 && size <= longest && (family.sizes != Sizes::PowersOfTwo || isPowerOfTwo(size));
 }
 
-// Asks with null pointers, since these come second to a size that does not exist.
+// Asks with null pointers, since the library refuses a size before it checks the pointers.
 bool exists(const Family& family, int size, Ways ways) {
     const auto& routines = family.wide;
     const Call call{size, NoDivByAny, nullptr};
@@ -74,7 +74,7 @@ std::string whyMissing(const Options& options) {
     return "no transform of this length";
 }
 
-// Tells the options back, so that it can stand in front of what relies on them.
+// Returns the options, so that an initializer can check them before it uses them.
 const Options& checked(const Options& options) {
     const Family& family = *options.family;
     if (exists(family, options.size, Ways::There)) return options;
@@ -96,7 +96,7 @@ std::variant<Prepared<float>, Prepared<double>> preparedFor(const Options& optio
     return Prepared<double>(options);
 }
 
-// Complex values from and to plain numbers: both parts side by side, or the real part alone.
+// Converts complex values to plain numbers and back: both parts of each value, or the real part alone.
 template <typename T>
 void flatten(ConstBins values, int numbersInValue, std::vector<T>& numbers) {
     auto number = numbers.begin();
@@ -126,7 +126,7 @@ Prepared<T>::Prepared(const Options& options)
       points(static_cast<std::size_t>(options.length * family.numbersInPoint)),
       bins(static_cast<std::size_t>(family.binCount(options.length) * family.numbersInBin)) {
     if (routines.workspaceBytes) makeWorkspace();
-    // Silence through it once: the flag is the library's to refuse.
+    // Transforms silence once, so that the library can refuse the flag.
     const ZulgStatus status = routines.forward(points.data(), bins.data(), call);
     if (status == StatusFlagError) throw UserError("--flag " + std::to_string(call.flag) + ": " + statusText(status));
     expectOk(status);

@@ -16,7 +16,7 @@ namespace spectrum {
 
 using Bins = std::vector<std::complex<double>>;
 
-// The routines of a family with all that they are called with.
+// The routines of a family, and all that they are called with.
 template <typename T>
 class Prepared {
 public:
@@ -45,7 +45,7 @@ public:
     explicit Transform(const Options& options);
 
     void forward(std::span<const double> samples, Bins& bins);
-    // With the scale that restores what forward was given.
+    // Has the scale that restores what forward was given.
     void inverse(const Bins& bins, Bins& points);
 
 private:

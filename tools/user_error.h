@@ -13,7 +13,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// File names and words from files may hold anything; what is shown of them must stay one short line.
+// File names and words from files may hold anything, but a message must be one short line.
 inline std::string printable(std::string_view text, std::size_t most = 200) {
     std::string shown(text.substr(0, most));
     for (char& letter : shown) {

@@ -12,7 +12,7 @@ int main(void) {
     if (zulgDCT4GetSize_64f(N, &bytes) != StatusOk) return 1;
     uint8_t* const memory = malloc((size_t)bytes + alignment - 1);
     if (memory == NULL) return 1;
-    uint8_t* const block = memory + (alignment - (uintptr_t)memory % alignment) % alignment; /* stays where it is */
+    uint8_t* const block = memory + (alignment - (uintptr_t)memory % alignment) % alignment; /* must not be moved */
 
     ZulgDCT4Plan_64f* plan;
     ZulgStatus status = zulgDCT4Init_64f(&plan, N, block);
@@ -25,7 +25,7 @@ int main(void) {
     for (int n = 0; n < N; ++n) x[n] = 3 * cos(3.141592653589793 * (n + 0.5) * (5 + 0.5) / N);
     status = zulgDCT4_64f(x, spectrum, plan);
     if (status == StatusOk) status = zulgDCT4_64f(spectrum, again, plan); /* a plan runs any number of times */
-    free(memory); /* the block is all there is: nothing else is to be freed */
+    free(memory); /* the plan is in the block: nothing else is to be freed */
     if (status != StatusOk) return 1;
 
     double largest = 0;

@@ -4,9 +4,9 @@
 //
 // Frames of 2N samples overlap by half. A frame is weighted with a sine window and cut in quarters a, b, c, d, which
 // are folded to the N values (-c' - d, a - b'), where ' is reversal: their DCT-IV is the spectrum of the frame. The way
-// back unfolds to (a - b', b - a', c + d', d + c') and weights once more. What is folded over has opposite signs in two
-// neighbouring frames, so that it vanishes when they are added up, and sin^2 + cos^2 = 1 leaves the samples.
-// (J. P. Princen, A. W. Johnson and A. B. Bradley, 1987.)
+// back unfolds to (a - b', b - a', c + d', d + c') and weights once more. The reversed quarters have opposite signs in
+// two neighbouring frames, so that they vanish when the frames are added up. Since sin^2 + cos^2 = 1, the samples
+// remain. (J. P. Princen, A. W. Johnson and A. B. Bradley, 1987.)
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -69,12 +69,12 @@ private:
 using SingleMdct = Mdct<float, ZulgDCT4Plan_32f, zulgDCT4InitAlloc_32f, zulgDCT4_32f, zulgDCT4Free_32f>;
 using DoubleMdct = Mdct<double, ZulgDCT4Plan_64f, zulgDCT4InitAlloc_64f, zulgDCT4_64f, zulgDCT4Free_64f>;
 
-// Analyses and restores the samples; tells how exactly, and where the energy is.
+// Transforms and restores the samples, and prints how large the errors are and where the energy is.
 template <typename AnyMdct>
 bool runOver(const std::vector<double>& samples, int N, int rate, double bound) {
     using T = typename AnyMdct::Number;
     const std::size_t count = samples.size(), frames = (count + N - 1) / N + 1;
-    // Half a frame of silence in front and behind, so that two frames cover each sample.
+    // Half a frame of silence before and after the samples, so that two frames cover each of them.
     std::vector<T> x((frames + 1) * N), restored(x.size());
     for (std::size_t n = 0; n < count; ++n) x[N + n] = T(samples[n]);
     std::vector<double> energy(N);

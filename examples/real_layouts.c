@@ -11,7 +11,7 @@ static double distance(const double* a, const double* b, int count) {
 }
 
 int main(void) {
-    /* The signal, and what its bins 0 to 4 are: real and imaginary parts in turn. */
+    /* The signal, and its bins 0 to 4: the real and the imaginary part of each. */
     double x[8], back[3][8], ccs[ZULG_CCS_LENGTH(8)], pack[ZULG_PACK_LENGTH(8)], perm[ZULG_PERM_LENGTH(8)];
     const double bins[ZULG_CCS_LENGTH(8)] = {3, 0, 1, 0, 0, 2, 0, 0, 5, 0};
     for (int n = 0; n < 8; ++n) {
@@ -26,7 +26,7 @@ int main(void) {
     for (int i = 0; i < 8; ++i) printf("%4d %6.3f %6.3f %6.3f\n", i, ccs[i], pack[i], perm[i]);
     for (int i = 8; i < ZULG_CCS_LENGTH(8); ++i) printf("%4d %6.3f\n", i, ccs[i]);
 
-    /* With the length as an argument, as all routines can be called. */
+    /* Here the length is an argument. Every routine with a length in its name can be called in this way too. */
     if (zulgDFTInv_CCSToR_64f(ccs, back[0], 8, DivFwdByN) != StatusOk) return 1;
     if (zulgDFTInv_PackToR_64f(pack, back[1], 8, DivFwdByN) != StatusOk) return 1;
     if (zulgDFTInv_PermToR_64f(perm, back[2], 8, DivFwdByN) != StatusOk) return 1;

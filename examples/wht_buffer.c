@@ -6,7 +6,7 @@
 
 enum { order = 12, count = 1 << order };
 
-/* Row k of the matrix at column j: -1 where the numbers share an odd count of bits. */
+/* Row k of the matrix at column j: -1 where k and j have an odd number of set bits in common. */
 static int pattern(int k, int j) {
     int sign = 1;
     for (int both = k & j; both != 0; both &= both - 1) sign = -sign;

@@ -44,7 +44,7 @@ void addContests(std::vector<Contest>& all) {
     for (int order = 1; order <= 13; ++order) all.push_back(contest<Element>(Transform::WalshHadamard, 1 << order));
     for (const int length : {4, 8, 12, 15, 16, 30, 31, 32, 48, 53, 60, 64})
         all.push_back(batchContest<Element>(Transform::ComplexForward, length));
-    // Longer ones take so much time that a difference of a nanosecond is lost in it.
+    // Longer ones take so much time that a difference of a nanosecond is not seen.
     for (int length = 2; length <= 24; ++length)
         all.push_back(dispatchContest<Element>(Transform::ComplexForward, length));
 }

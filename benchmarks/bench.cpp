@@ -54,7 +54,7 @@ Options readOptions(int argc, char** argv) {
     return options;
 }
 
-// Root of summed squares of the difference, over that of the first.
+// The root of the summed squares of the difference, over that of the first result.
 double distance(const Result& first, const Result& other) {
     double difference = 0, whole = 0;
     for (std::size_t i = 0; i < first.size(); ++i) {
@@ -64,7 +64,7 @@ double distance(const Result& first, const Result& other) {
     return std::sqrt(difference / whole);
 }
 
-// Whether all compute the same transform: then they differ by rounding alone, and rounding is not what is judged here.
+// Whether all compute the same transform. If so, they differ by rounding alone, which is not judged here.
 bool isSameForAll(const Contest& contest) {
     std::optional<Result> first;
     bool isSame = true;
@@ -104,7 +104,7 @@ void registerHot(const Contest& contest) {
                                      });
 }
 
-// FFTW remembers what it has planned, so that `first_` tells its story only in a process that has timed nothing else.
+// FFTW remembers what it has planned, so that `first_` is right only in a process that has timed nothing else.
 void registerCold(const Contest& contest) {
     for (const Participant& participant : contest.participants) {
         const std::string name = contest.name + "/" + participant.name;

@@ -15,7 +15,8 @@ using Clock = std::chrono::steady_clock;
 
 double secondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
-// Larger than the last cache of any machine that this is meant for. Written, so that every line has to leave.
+// The memory is larger than the last cache of any machine that this is meant for. It is written, so that it replaces
+// every line of the caches.
 void emptyCaches() {
     static std::vector<long> memory(std::size_t{96} << 20 >> 3);
     for (long& value : memory) ++value;

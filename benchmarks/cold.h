@@ -10,14 +10,14 @@
 
 namespace bench {
 
-// Every call behind a walk through more memory than all caches hold.
+// Times calls, each after a walk through more memory than all caches hold.
 void timeCold(benchmark::State& state, const Participant& participant, const std::function<void()>& fill);
 
-// From nothing to the first result, each in a process of its own: plans are made and forgotten, and no page of the
-// code has been touched.
+// Times the way from nothing to the first result, each time in a process of its own: the plan is made anew, and no page
+// of the code has been touched.
 void timeFirst(benchmark::State& state, const Participant& participant, const std::function<void()>& fill);
 
-// Load and unload, again and again.
+// Times loading and unloading.
 void timeLoading(benchmark::State& state, const std::string& path);
 
 }  // namespace bench

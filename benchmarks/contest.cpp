@@ -27,7 +27,7 @@ const char* name(Transform transform) {
     return "";
 }
 
-// How many numbers stand before and behind a transform.
+// How many numbers the source and the destination of a transform have.
 struct Counts {
     int source, destination;
 };

@@ -1,5 +1,5 @@
-// A contest: one transform of one size, and all who compute it, on the same arrays. What a participant is asked for is
-// one call, source to destination; it is timed as it stands, and its result is held against that of the first.
+// A contest: one transform of one size, and all who compute it, on the same arrays. A participant makes one call from
+// source to destination. That call is timed, and its result is compared with that of the first participant.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -45,8 +45,8 @@ struct Prepared {
     std::function<void(benchmark::State&)> loop;
 };
 
-// Copies of each loop, at different places in a page. Code that nearly fills the cache of decoded instructions is fast
-// or slow by where its caller stands: a process times one copy, and the best process counts.
+// Copies of each loop, at different addresses within a page. The time of code that nearly fills the cache of decoded
+// instructions depends on the address of its caller. So a process times one copy, and the best process counts.
 constexpr int copies = 5;
 int& chosenCopy();
 
@@ -80,9 +80,9 @@ struct Contest {
     std::vector<Participant> participants;
 };
 
-// All contests in which our library takes part. Each transform of each size, hot, on the same data; `batch_` is 1024 of
-// them to a call, each on data of its own; `dispatch_` is our routine of a fixed length beside the one that takes the
-// length as an argument.
+// All contests in which our library takes part. There is one for each transform of each size, with caches that are
+// warm. A contest with the prefix `batch_` has 1024 transforms in a call, each on data of its own. One with `dispatch_`
+// compares our routine of a fixed length with the one that takes the length as an argument.
 std::vector<Contest> allContests();
 
 // A contest of one element type while participants are added.
@@ -90,7 +90,7 @@ template <class Element>
 struct Field {
     Field(const std::string& prefix, Transform transform, int size, int count = 1);
 
-    // What stands in the destination, times a factor.
+    // What is in the destination, times a factor.
     std::function<Result()> destination(double factor = 1) const;
 
     Transform transform;

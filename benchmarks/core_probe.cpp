@@ -43,7 +43,7 @@ double nanoseconds(Work work) {
     return best;
 }
 
-// Reading the time takes time itself: what two readings in a row are apart.
+// The time between two readings in a row, since reading the clock takes time itself.
 double ofReading() {
     static const double value = nanoseconds([] {});
     return value;

@@ -1,6 +1,6 @@
-// What the core does at this moment, from chains of instructions of known length: its clock, which no counter need
-// tell and which may change between two measurements, and the number of additions per cycle it really gives us, which
-// falls when another thread shares the core.
+// What the core does at this moment, measured with chains of instructions of known length. One figure is its clock,
+// which may change between two measurements. The other is the number of additions in a cycle that we get, which falls
+// when another thread shares the core.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -14,8 +14,8 @@ struct CoreProbe {
 
 CoreProbe probeCore();
 
-// Leaves in the record of one repetition: `clock`, the mean before and after; `drift`, how much it changed, as a part
-// of one; `width`, the lower of the two.
+// Puts into the record of one repetition: `clock`, the mean of before and after; `drift`, the change of the clock as a
+// fraction of it; `width`, the lower of the two.
 void report(benchmark::State& state, const CoreProbe& before, const CoreProbe& after);
 
 }  // namespace bench

@@ -1,5 +1,5 @@
-// Times every transform of the library in cycles of the core, with nothing but the time stamp counter: for the 32-bit
-// DLL, where neither Google Benchmark nor the peers are packaged. Prints one line for each: name, cycles.
+// Times every transform of the library in cycles of the core, with the time stamp counter alone. It is for the 32-bit
+// DLL, since neither Google Benchmark nor the peers are packaged there. Prints one line for each: name, cycles.
 //
 //     cycles [PATTERN]    a regular expression on the exported name
 //
@@ -31,7 +31,7 @@ double cyclesPerTick() {
     return turns * products * cyclesOfProduct / static_cast<double>(best);
 }
 
-// Median over samples of about a tenth of a millisecond: what an interrupt meets is left out.
+// The median over samples of about a tenth of a millisecond, so that the few samples with an interrupt do not count.
 template <class Call>
 double cyclesOf(Call call) {
     constexpr int samples = 31;

@@ -1,3 +1,3 @@
-/* A library with next to nothing in it: what loading costs before there is anything to load. */
+/* A library with next to nothing in it, to time what loading any library costs. */
 int emptyLibrary(void);
 int emptyLibrary(void) { return 0; }

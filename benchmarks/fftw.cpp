@@ -9,7 +9,7 @@ namespace bench {
 namespace {
 
 // Keeps FFTW from codelets with vector instructions. Its public header leaves this flag out, but every release of
-// version 3 knows it; `requireScalar` looks at what comes of it.
+// version 3 knows it; `requireScalar` checks the plans that are made with it.
 constexpr unsigned withoutVectors = 1U << 17;
 
 struct Planning {
@@ -58,7 +58,7 @@ fftw_r2r_kind realKind(Transform transform) {
     }
 }
 
-// Ours keep their source, so FFTW keeps it too.
+// Our routines do not change their source, so FFTW must not change it either.
 template <class Element>
 typename Fftw<Element>::Plan makePlan(Transform transform, int size, int count, const Arrays<Element>& arrays,
                                       unsigned flags) {
@@ -105,8 +105,8 @@ Result packed(const Result& half) {
     return values;
 }
 
-// Our packed source in FFTW's order. The order of numbers that a transform reads is not what its time depends on, so
-// that only the check asks for this.
+// Puts our packed source into FFTW's order. The time of a transform does not depend on the order of its numbers, so
+// that only the check does this.
 template <class Element>
 void unpack(const Arrays<Element>& arrays) {
     const Result ours(arrays.source, arrays.source + arrays.sourceCount);

@@ -30,7 +30,7 @@ def repeated(count, *parts):
 
 
 def skew(size):
-    """One skew transform: a body, or the parts it is split into and the rows that combine them."""
+    """One skew transform: a body, or the shorter transforms it is split into and the rows that combine them."""
     if size in FOLD:
         return FOLD[size] + (size, size)
     r = radix(size // 2)
@@ -53,7 +53,7 @@ def walsh_hadamard(size):
 
 
 def counts(tree, family, size):
-    """(sums, products, loads, stores) of one transform, or None where they are not told."""
+    """(sums, products, loads, stores) of one transform, or None where they are not known."""
     if family in ("dct4", "wht"):
         return dct4(size) if family == "dct4" else walsh_hadamard(size)
     if family not in FOLDERS:

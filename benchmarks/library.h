@@ -1,5 +1,5 @@
-// Our library as any program can reach it: by path and exported name. Several builds of it can take part in one
-// run, each under a name of its own.
+// Our library as any program can reach it: by path and exported name. Several builds of it can take part in one run,
+// each with a name of its own.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 namespace bench {
 
 struct Library {
-    std::string name;  // how its participants are called
+    std::string name;  // of its participants
     void* handle;
 
     void* address(const std::string& exportedName) const;  // null if there is none
@@ -21,7 +21,7 @@ struct Library {
     }
 };
 
-// Ends the program where there is none.
+// Ends the program if there is none.
 Library openLibrary(const std::string& name, const std::string& path);
 
 // All that take part; the first is that of this build. Filled before contests are made.

@@ -1,8 +1,8 @@
 """Reads the records of several runs of the benchmark programs and settles on one figure for each participant.
 
-In one process the figure is the median over its repetitions. Where code and data lie in physical memory is settled when
-a process starts, and a long kernel's time depends on it: so several processes are timed, and the best of their medians
-counts, for ours and for the peers alike. `spread` tells how far the worst of them is behind the best.
+In one process the figure is the median over its repetitions. The addresses of code and data in physical memory are
+settled when a process starts, and the time of a long kernel depends on them. So several processes are timed, and the
+best of their medians counts, for ours and for the peers alike. `spread` tells how much slower the worst of them is.
 """
 import collections
 import json
@@ -28,7 +28,7 @@ def repetitions(path):
             raise SystemExit(f"{path}: {run['name']}: {run.get('error_message')}")
         if run.get("drift", 0) > LARGEST_DRIFT or run.get("width", 2) < LEAST_WIDTH:
             continue
-        # Time of our thread alone, but for what was timed by hand.
+        # The time of our thread alone, except where a benchmark takes the time itself.
         time = run["real_time"] if "manual_time" in run["run_name"] else run["cpu_time"]
         nanoseconds = time * NANOSECONDS[run["time_unit"]]
         name = re.sub(r"/(manual_time|iterations:\d+)", "", run["run_name"])

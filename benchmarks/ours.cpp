@@ -57,7 +57,7 @@ void addDispatcher(Field<Element>& field, const Library& library) {
     field.contest.participants.push_back({library.name + "_dispatcher", prepare, field.destination()});
 }
 
-// The order is the binary logarithm of the size; the caller's own buffer, so that nothing is allocated on the way.
+// The order is the binary logarithm of the size. The call gets a buffer, so that it allocates nothing.
 template <class Element>
 void addWalshHadamard(Field<Element>& field, const Library& library) {
     int order = 0;

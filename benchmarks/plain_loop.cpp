@@ -1,5 +1,5 @@
-// The Walsh-Hadamard transform as anybody writes it: in place, stage by stage, no scale. Compiled as the rest, without
-// vectorization.
+// The Walsh-Hadamard transform as anybody writes it: in place, stage by stage, no scale. As the rest, it is compiled
+// without vectorization.
 #include <cstring>
 
 #include "benchmarks/contest.h"
@@ -20,8 +20,9 @@ template <class Element>
 
 }  // namespace
 
-// Once with the copy that a separate destination needs; once bare, over and over in place. Without a scale the values
-// then leave the range of numbers; infinities and not-a-numbers take SSE no longer than others.
+// One participant includes the copy that a separate destination needs. The other runs over and over in place, where the
+// values leave the range of numbers, since there is no scale. Infinities and not-a-numbers take SSE no longer than
+// other values.
 template <class Element>
 void addPlainLoop(Field<Element>& field) {
     if (field.transform != Transform::WalshHadamard) return;

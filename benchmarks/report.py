@@ -3,7 +3,7 @@
 report.py RECORDS RESULTS COMMAND
 
 RECORDS holds *.json of the program bench and x87.* of the program cycles; RESULTS/DATE-MACHINE.md, .json and *.svg are
-written. COMMAND is what the reader is told to have been typed.
+written. COMMAND is the command line that the report shows.
 """
 import collections
 import datetime

@@ -1,7 +1,7 @@
 // KissFFT and GSL as participants.
 //
 // KissFFT: the packaged library is single; double comes from the C++ header of the same package, compiled here. Its
-// real transforms know even lengths only. GSL works in place: the copy that keeps the source is part of its time.
+// real transforms accept even lengths only. GSL works in place: the copy that keeps the source is part of its time.
 #include <gsl/gsl_fft_complex.h>
 #include <gsl/gsl_fft_complex_float.h>
 #include <gsl/gsl_fft_halfcomplex.h>

@@ -43,7 +43,7 @@ def ratio(item, peer):
 
 def family_table(items):
     present = {name for item in items for name in item.figures}
-    builds = sorted(present - {"zulgenpx", *dict(PEERS)})  # further ones of our library
+    builds = sorted(present - {"zulgenpx", *dict(PEERS)})  # further builds of our library
     peers = [(name, name) for name in builds] + [peer for peer in PEERS if peer[0] in present]
     has_cycles = bool(items[0].ours.cycles)
     has_floor, has_bytes = any(item.floor for item in items), any(item.code_bytes for item in items)

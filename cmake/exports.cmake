@@ -3,10 +3,11 @@
 file(READ ${CMAKE_SOURCE_DIR}/frame/slots.inc slots_text)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/frame/slots.inc)
 string(REGEX MATCHALL "SLOT\\(zulg[^\n]+" slot_lines "${slots_text}")
-list(APPEND slot_lines "SLOT(zulgenGetLibVersion, the last, 0)")  # behind the slots: it has none
+list(APPEND slot_lines "SLOT(zulgenGetLibVersion, the last, 0)")  # after the slots, since it has none
 
-# One .def makes the DLL, the other the import libraries for consumers, and it ships: there a name carries the bytes of
-# its arguments, as a caller's compiler writes it, and dlltool -k takes them off again in the name that is looked up.
+# One .def makes the DLL. The other makes the import libraries for consumers, and it ships. In that one a name ends in
+# the bytes of its arguments, as a caller's compiler writes it, and dlltool -k removes this ending from the name that is
+# looked up.
 set(def_text "LIBRARY \"zulgenpx-7.0.dll\"\nEXPORTS\n")
 string(CONCAT import_text
     "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are undecorated:\n"
@@ -19,7 +20,7 @@ foreach(line IN LISTS slot_lines)
     set(name ${CMAKE_MATCH_1})
     set(bytes ${CMAKE_MATCH_2})
     math(EXPR ordinal "${ordinal} + 1")
-    # The version call is compiled, so that its own symbol is decorated; the entries carry their plain names.
+    # The version call is compiled, so that its symbol is decorated. The symbols of the entries are plain names.
     if(name STREQUAL "zulgenGetLibVersion")
         string(APPEND def_text "    ${name} = ${name}@0 @${ordinal}\n")
     else()
@@ -33,9 +34,9 @@ file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx.def CONTENT "${def_text}" @ON
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx_import.def CONTENT "${import_text}" @ONLY)
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx.map CONTENT "${map_text}" @ONLY)
 
-# link_consumer(TARGET): links a program with the library as its users do. On Windows through an import library, of
-# which there are two: the GNU format and the Microsoft one. The one that the linker writes beside the DLL is of no use,
-# since it knows no decorated names; it is not installed.
+# link_consumer(TARGET): links a program with the library as its users do. On Windows this is through an import library.
+# There are two, in the GNU format and in the Microsoft one. The import library that the linker writes beside the DLL
+# has no decorated names, so that nothing links with it and it is not installed.
 if(WIN32)
     find_program(LLVM_DLLTOOL llvm-dlltool REQUIRED)
     set(import_def ${CMAKE_BINARY_DIR}/zulgenpx_import.def)
@@ -70,7 +71,7 @@ else()
     set(exports_link_flags -Wl,--version-script=${CMAKE_BINARY_DIR}/zulgenpx.map)
 endif()
 
-# With what a test builds consumers of either import library.
+# The tools with which a test builds consumers of either import library.
 if(WIN32)
     find_program(CLANG clang REQUIRED)
     find_program(LLD_LINK lld-link REQUIRED)

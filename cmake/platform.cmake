@@ -6,8 +6,8 @@ else()
     set(host_tools ON)
 endif()
 
-# Test programs of the other target carry their runtime with them: nothing is installed where they run. They may use
-# the upper half of the address space, where addresses are negative to those who take them as signed.
+# Test programs of the other target are linked with their runtime, since nothing is installed where they run. They may
+# use the upper half of the address space, where an address that is taken as a signed number is negative.
 if(WIN32)
     set(test_link_flags -static -Wl,--large-address-aware)
 else()

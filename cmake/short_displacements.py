@@ -5,12 +5,12 @@
     short_displacements.py --text                   rewrites assembler text from standard input
 
 A displacement of one byte reaches 128 bytes to either side of a register, a longer one takes four. The compiler has one
-register for the frame, one for the source, one for the destination and one for the constants, and leaves the others
-idle. Here idle ones are pointed at windows of 256 bytes beside those, and accesses go by the window they fall into: the
-same instructions in the same order, in up to 15 % fewer bytes.
+register for the stack frame, one for the source, one for the destination and one for the constants, and leaves the
+others idle. Here idle registers are pointed at windows of 256 bytes beside those, and accesses go by the window that
+they fall into. The instructions and their order are the same, in up to 15 % fewer bytes.
 
-Touched is only what is understood: blocks without labels and jumps, and in them accesses by one register and a number,
-while that register keeps its value. What no rule covers stays as the compiler wrote it.
+Only what is understood is changed: accesses by one register and a number, in a block without labels and jumps, while
+that register keeps its value. What no rule covers is left as the compiler wrote it.
 """
 import collections
 import os
@@ -22,7 +22,7 @@ import sys
 PLAIN = ("rsi", "rdi", "rcx", "rdx")
 PREFIXED = ("r8", "r9", "r10", "r11")
 REACH = 128
-LEAST_BLOCK = 100  # instructions; in a short block nothing is gained
+LEAST_BLOCK = 100  # instructions; a shorter block gains nothing
 LEAST_GAIN = 12    # bytes; each window is one more instruction, of up to 7 bytes
 WINDOW_BYTES = 7
 
@@ -33,13 +33,13 @@ LEAVES_BLOCK = re.compile(r"j|loop|call")
 ACCESS = re.compile(r"(?<![\w.:+*-])(-?\d+)?\(%(r[a-z0-9]+)\)")
 REGISTER = re.compile(r"%([a-z][a-z0-9]*)")
 NEEDS_PREFIX = re.compile(r"xmm(?:[89]|1\d)$|r(?:[89]|1\d)$")
-# Instructions that change more registers than the one they name last, or another.
+# Instructions that change further registers besides the one they name last, or change another one.
 STACK_CHANGES = re.compile(r"push|pop|leave|ret")
 HIDDEN_CHANGES = re.compile(r"xchg|xadd|cmpxchg|clt|cqt|rep|stos|lods|cpuid|movs[bwlq]$|i?(?:mul|div)[bwlq]$")
 
 
 def whole_register(name):
-    """The 64-bit register that a name stands for a part of; other names as they are."""
+    """The 64-bit register of which a name is a part; other names are returned as they are."""
     if re.fullmatch(r"r\d+[dwb]", name):
         return name[:-1]
     match = re.fullmatch(r"[re]?([abcd])[xlh]|[re]?(si|di|bp|sp)l?", name)
@@ -73,7 +73,7 @@ class Step:
             self.displacement, self.base = int(accesses[0][0] or 0), accesses[0][1]
 
     def saving(self, register):
-        """Bytes, if the access goes by a window's register."""
+        """The bytes that are saved if the access goes by a window's register."""
         return 3 - (register in PREFIXED and not self.needs_prefix) + (self.base == "rsp")
 
     def by(self, register, displacement):
@@ -144,7 +144,7 @@ def has_loop(lines):
 
 
 def routine_shortened(lines):
-    """A register that is idle in a block may still carry something past it: to the lines behind, or round a loop."""
+    """An idle register of a block may still hold a value for what comes after it, or for the next round of a loop."""
     result, block, loops = [], [], has_loop(lines)
     for i, line in enumerate(lines + [""]):
         match = INSTRUCTION.match(line)

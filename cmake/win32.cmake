@@ -1,4 +1,4 @@
-# Toolchain for 32-bit Windows. The posix variant of the compiler, since the tests' threads need std::mutex.
+# Toolchain for 32-bit Windows. It is the posix variant of the compiler, since the tests' threads need std::mutex.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_C_COMPILER i686-w64-mingw32-gcc-posix)
@@ -9,5 +9,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-# A real Win32 loader runs the tests.
+# Tests run in wine, whose loader reads the DLL as that of Windows does.
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine)

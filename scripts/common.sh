@@ -1,11 +1,11 @@
-# Shared by the scripts beside this file; sourced, never run. Knows the tree, who we are, and what to install.
+# Shared by the scripts beside this file, which source it. It knows the tree, how to become root, and what to install.
 # After sourcing, `tree` is the checkout and the working folder.
 set -euo pipefail
 tree=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 cd "$tree"
 
-# The i386 Debian root in which Windows programs run. It stands outside the tree: it is shared by all checkouts,
-# and `git clean` must never meet it.
+# The i386 Debian root in which Windows programs run. It is outside the tree, since all checkouts share it and `git
+# clean` must not delete it.
 win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
 
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3

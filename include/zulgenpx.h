@@ -10,8 +10,12 @@
    Hartley transform 1 KB, a Walsh-Hadamard transform 2 KB, a DCT-IV of any length 12 KB, building and freeing a plan
    2 KB. What zulcore takes for memory, and the C library for the sines of a plan, comes on top.
 
-   Data is contiguous and needs no alignment: any address will do. Not-a-number and infinity go
-   through the arithmetic as they will; the status is StatusOk all the same. */
+   Data is contiguous. Arrays and buffers need no alignment: any address will do. Source and destination may be the same
+   array, and they may overlap in any other way, by any number of bytes and in either direction; of the source, only what
+   the destination covers is changed. The buffer of a Walsh-Hadamard transform and the block of a plan must overlap
+   neither of them.
+
+   Not-a-number and infinity go through the arithmetic as they will; the status is StatusOk all the same. */
 #ifndef ZULGENPX_H
 #define ZULGENPX_H
 
@@ -98,7 +102,7 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    pDst    N complex elements, all of them written, nothing beyond them
    flag    one of the four scale flags
 
-   pDst may equal pSrc, and the two may overlap in any other way: all input is read before the first output is written.
+   All input is read before the first output is written, so that pDst may equal pSrc or overlap it in any way.
 
    Accuracy, as the root of summed squared errors over summed squared results: in double precision below 2 * 2^-53, or
    4 * 2^-53 where N has a prime factor from 11 up; in single precision below 0.45 * 2^-24 (2 points, one rounded sum: 0.47), since all arithmetic is done in double and
@@ -143,8 +147,8 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
 
    Forward CCS stores its zeros whatever the input and the flag. Inverse CCS reads slots 0 and 2 .. N only: N+1 elements
    suffice, and what stands in the slots of the zeros is of no effect. All layouts of one length give the same bits.
-   pDst may equal pSrc (forward CCS then needs its N+2 or N+1 elements); other overlaps are not supported. A result that
-   is zero may be a negative zero.
+   All input is read before the first output is written, so that pDst may equal pSrc or overlap it in any way; a forward
+   CCS routine writes its N+2 or N+1 elements all the same. A result that is zero may be a negative zero.
 
    Accuracy: below 3 * 2^-53 in double, below 0.45 * 2^-24 in single precision (2 points, one rounded sum: 0.47).
 
@@ -159,7 +163,7 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
      and the same with _64f
 
    pSrc    N reals, read only
-   pDst    N reals, all of them written; may equal pSrc, no other overlap
+   pDst    N reals, all of them written, after all input is read: it may equal pSrc or overlap it in any way
    flag    1 and 2 both divide by N, 4 by sqrt(N); the transform is its own inverse up to that factor
 
    With X the DFT of the same input, out[k] = Re X[k] - Im X[k].
@@ -177,9 +181,9 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
      and the same with _64f
 
    pSrc     N reals, read only
-   pDst     N reals, all of them written; may equal pSrc, no other overlap
+   pDst     N reals, all of them written, after all input is read: it may equal pSrc or overlap it in any way
    flag     1 and 2 both divide by N, 4 by sqrt(N); the transform is its own inverse up to that factor
-   pBuffer  orders 1 to 7 do not look at it. Orders 8 to 13 work through it, and any address of an element will do:
+   pBuffer  is ignored by orders 1 to 7. Orders 8 to 13 work through it; it must not overlap pSrc or pDst:
 
               order            8     9    10    11     12     13
               bytes, 32f    1024  2048  4096  8192  17408  36864     twice as many in 64f
@@ -220,7 +224,7 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
      and the same with _64f
 
    pSrc    N reals, read only
-   pDst    N reals, all of them written; may equal pSrc, no other overlap
+   pDst    N reals, all of them written, after all input is read: it may equal pSrc or overlap it in any way
    plan    of that length and that element type; may be run any number of times
 
    Twice gives N/2 times the input. Sizes are the same on every target:

@@ -51,26 +51,6 @@ TEST_P(ComplexTest, AConstantGivesTheExactSumTimesTheStoredScale) {
     });
 }
 
-TEST_P(ComplexTest, AnyOverlapIsHarmless) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        const auto due = run(transform, source, DivBySqrtN);
-        const auto size = source.size() * sizeof(Element);
-        for (std::ptrdiff_t shift :
-             {std::ptrdiff_t{-1}, std::ptrdiff_t{1}, std::ptrdiff_t{3}, std::ptrdiff_t{sizeof(Element)},
-              -3 * std::ptrdiff_t{sizeof(Element)}, static_cast<std::ptrdiff_t>(size / 2)}) {
-            std::vector<std::byte> memory(4 * size + 64);
-            std::byte* const from = memory.data() + size + 32;
-            std::byte* const to = from + shift;
-            std::memcpy(from, source.data(), size);
-            exported<Kernel<Element>>(transform.kernelName())(reinterpret_cast<const Element*>(from),
-                                                              reinterpret_cast<Element*>(to), DivBySqrtN);
-            EXPECT_EQ(std::memcmp(to, due.data(), size), 0) << "shift by " << shift << " bytes";
-        }
-    });
-}
-
 TEST_P(ComplexTest, AnImpulseAtOneTurnsOnceRound) {
     withElement([&](auto element) {
         using Element = decltype(element);

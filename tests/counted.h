@@ -1,4 +1,4 @@
-// A number that counts what is done with it: the text of a body, run on it, tells its own operations.
+// A number that counts the operations on it, so that a body that runs on such numbers counts its own operations.
 #pragma once
 
 namespace test {

@@ -12,7 +12,7 @@ public:
     GuardedPages(const GuardedPages&) = delete;
     GuardedPages& operator=(const GuardedPages&) = delete;
 
-    // The first `bytes` behind the front guard, and the last `bytes` before the rear guard.
+    // Where the memory begins after the front guard, and where its last `bytes` before the rear guard begin.
     std::byte* atFront() const { return inner; }
     std::byte* atRear(std::size_t bytes) const { return inner + innerBytes - bytes; }
 

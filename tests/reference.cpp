@@ -6,7 +6,7 @@ namespace test {
 
 Wide cosTurn(int k, int n) {
     constexpr Wide pi = 3.14159265358979323846264338327950288L;
-    // Reduced to the first quadrant in integers; a quarter turn is exact.
+    // The angle is reduced in integers, and a quarter turn is exact.
     k = ((k % n) + n) % n;
     if (2 * k > n) k = n - k;
     if (4 * k == n) return 0;

@@ -18,7 +18,7 @@ Values complexTransform(const Values& x, int sign);
 // The bins 0 .. N/2 of real x, as pairs.
 Values realTransform(const Values& x);
 
-// The N real values whose spectrum has these bins 0 .. N/2, times N; imaginary parts of real bins are not looked at.
+// The N real values whose spectrum has these bins 0 .. N/2, times N. Imaginary parts of real bins are ignored.
 Values inverseRealTransform(const Values& bins, int length);
 
 // sum over j of x[j] (cos + sin)(2 pi j k/N) for each k.

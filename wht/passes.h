@@ -1,5 +1,5 @@
 // How the blocks of a large order go over its arrays. The element and the type that a block works in are arguments, so
-// that the very loops that ship can also be run on a type that counts.
+// that the loops that ship can also be run on a type that counts.
 //
 //     orders 8 to 11   first pass:  source to buffer, blocks of neighbours
 //                      second pass: buffer to destination, blocks at a stride

@@ -25,13 +25,13 @@ TEST(Version, TheRecordHoldsItsNumbers) {
     EXPECT_EQ(call(), version) << "another address at the second call";
 }
 
-TEST(Exports, AnUnknownNameIsNotThere) {
+TEST(Exports, OtherNamesAreNotExported) {
     EXPECT_EQ(exportedAddress("zulgDFTFwd_CToC_1_32fc"), nullptr);
     EXPECT_EQ(exportedAddress("zulgDFTFwd_CToC_65_32fc"), nullptr);
     EXPECT_EQ(exportedAddress("zulgSlots"), nullptr);
 }
 
-// One of each dispatcher: the transforms of one length.
+// The transforms of one length, one for each dispatcher.
 std::vector<Transform> ofLength(int length) {
     std::vector<Transform> chosen;
     for (const Transform& transform : allTransforms()) {
@@ -42,7 +42,7 @@ std::vector<Transform> ofLength(int length) {
 
 class DispatcherTest : public testing::TestWithParam<Transform> {
 protected:
-    // Status of a call; the arrays are not looked at where a status other than StatusOk is due.
+    // The status of a call. The arrays are ignored where a status other than StatusOk is due.
     ZulgStatus call(const void* from, void* to, int length, int flag) {
         const std::string name = GetParam().dispatcherName();
         return GetParam().isSingle() ? exported<Dispatcher<float>>(name)(static_cast<const float*>(from),

@@ -1,6 +1,6 @@
 /* A program that links with the installed library. It names every exported routine, so that the linker finds each one
-   and the loader as well, and calls a few with arguments of different size. It ends with the code 42, which no loader
-   and no fault gives. With FREESTANDING it needs no library but the system's ExitProcess. */
+   and the loader as well, and calls a few with arguments of different size. It ends with the code 42, which neither a
+   loader nor a fault gives. With FREESTANDING it needs no library but the system's ExitProcess. */
 #include "zulgenpx.h"
 
 typedef void (*Routine)(void);

@@ -1,5 +1,5 @@
-"""Installs the library into a folder of the build, and links programs with what stands there alone, as its users do:
-on Windows with both import libraries, and with both once more, made anew from the installed .def.
+"""Installs the library into a folder of the build, and links programs with what is there alone, as its users do. On
+Windows it links with both import libraries, and then with both made anew from the installed .def.
 
 consumers.py --source TREE --build FOLDER --cmake CMAKE --cc COMPILER [tools of Windows]
 """
@@ -49,7 +49,7 @@ class Installation:
         return program
 
     def clang(self, name, library):
-        """No header and no library of another vendor: ExitProcess comes from an import library made here."""
+        """Needs no header and no library of another vendor: ExitProcess comes from an import library made here."""
         args, program = self.args, self.path("bin", name)
         system, compiled = self.path("system"), self.path("consumer.obj")
         with open(system + ".def", "w", encoding="ascii") as file:
@@ -83,7 +83,7 @@ def main():
         due |= {"lib/libzulgenpx-7.0.so"}
     missing, linkers_own = due - installation.files(), "lib/libzulgenpx-7.0.dll.a"
     if missing or linkers_own in installation.files():
-        print(f"not installed: {sorted(missing)}; {linkers_own} must not be")
+        print(f"not installed: {sorted(missing)}; must not be installed: {linkers_own}")
         return 1
 
     if args.emulator:

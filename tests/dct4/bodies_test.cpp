@@ -1,5 +1,5 @@
-// The bodies of the DCT-IV, the very text that ships, run on a type that counts: their operations, and where they read
-// and write.
+// The bodies of the DCT-IV, in the text that ships, run on a type that counts. The tests check their operations, and
+// what they read and write.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -33,7 +33,7 @@
 namespace test {
 namespace {
 
-// Every port of every body: notes what is read and written.
+// Has every port of every body and notes what is read and written.
 struct CountingPorts {
     using Value = Counted;
     static constexpr double fixed(double constant) { return constant; }
@@ -89,7 +89,7 @@ void expectFold(Done due) {
 }
 
 TEST(Dct4Bodies, FoldsHoldTheCountsOfTheirTable) {
-    expectFold<2>({0, 0, 1});  // its outputs are its inputs, of which the mirrored one has its sign turned
+    expectFold<2>({0, 0, 1});  // its outputs are its inputs, the mirrored one with its sign changed
     expectFold<4>({6, 2, 0});
     expectFold<8>({24, 12, 0});
     expectFold<16>({68, 32, 0});

@@ -55,8 +55,9 @@ TYPED_TEST(Dct4Test, AnImpulseAtZeroGivesTheFirstColumn) {
     }
 }
 
-// The bodies and rows of 32 inside a second level of SkewSplit, in its rising and its falling parts, come first at
-// 2^20; at 2^21 the folds of 64 points do. All bins of an input with few values.
+// In a second level of SkewSplit, the folds of 32 points and the combine rows of radix 32 are first used at 2^20, for
+// rising and for falling bins. The folds of 64 points are first used there at 2^21. All bins are checked, of an input
+// with few values.
 TYPED_TEST(Dct4Test, ComputesTheDefinitionWithEveryBodyInTheSecondLevel) {
     for (int length = 1 << 18; length <= 1 << 21; length *= 2) {
         std::vector<TypeParam> x(static_cast<std::size_t>(length));
@@ -181,7 +182,7 @@ TYPED_TEST(Dct4Test, LengthNineReadsAndWritesWhatItsPassesSay) {
     for (int k : {2, 3, 6, 7, 10, 11}) EXPECT_EQ(y[static_cast<std::size_t>(k)], untouched) << k;
     for (int k : {0, 1, 4, 5, 8, 9}) EXPECT_NE(y[static_cast<std::size_t>(k)], untouched) << k;
 
-    // The two passes, literally.
+    // The two passes, computed from their formulas.
     const int N = 9, r = 2, M = 4, rows = 2;
     using Pair = std::pair<Wide, Wide>;
     std::vector<std::vector<Pair>> C;
@@ -219,7 +220,7 @@ TYPED_TEST(Dct4Test, LengthNineReadsAndWritesWhatItsPassesSay) {
                     16 * this->unit)
             << k;
     }
-    // x[9] takes part.
+    // x[9] has an effect.
     std::vector<TypeParam> other(12, untouched);
     x[9] += 1;
     EXPECT_EQ(this->dct4.run(x.data(), other.data(), planned.plan), StatusOk);
@@ -309,8 +310,8 @@ TYPED_TEST(Dct4Test, ARefusedBlockShowsAsANullPointer) {
     EXPECT_EQ(this->core.released, nullptr);
 }
 
-// Plans are independent; those up to 32 points are never written when run and may be shared.
-TYPED_TEST(Dct4Test, ThreadsWithPlansOfTheirOwnDoNotMeet) {
+// Plans are independent. Those of up to 32 points are not written by a run and may be shared.
+TYPED_TEST(Dct4Test, ThreadsWithPlansOfTheirOwnDoNotDisturbEachOther) {
     const auto x = this->randomElements(4096), small = this->randomElements(32);
     Planned<TypeParam> shared(32), model(4096);
     const auto due = model.run(x), dueSmall = shared.run(small);

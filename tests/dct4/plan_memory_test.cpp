@@ -1,6 +1,5 @@
-// What a run leaves in the memory of its plan: T holds the skew transforms of the first pass, S of each split holds
-// what the last run of its passes left. A pass whose record has a kind out of range is left out, and nothing is
-// reported.
+// What a run leaves in the memory of its plan: T holds the skew transforms of the first pass, and S of each split holds
+// what the last run of its passes left. A pass whose record has a kind out of range is left out without a report.
 #include <cstring>
 #include <utility>
 
@@ -115,7 +114,8 @@ TYPED_TEST(PlanMemoryTest, TheTransformsOfTheFirstPassAreInT) {
         Planned<TypeParam> planned(length);
         const Records<TypeParam> records(*planned.plan);
         const int r = records.plan.radix;
-        // The last transform is where a run of splits could leave something else, the first is where it starts.
+        // At the long lengths only the first and the last transform are checked: a run of splits begins with the first
+        // and ends with the last.
         const int step = length <= 16384 ? 1 : r - 1;
         const auto x = this->randomElements(length);
         planned.run(x);
@@ -139,7 +139,7 @@ TYPED_TEST(PlanMemoryTest, ThePartsOfTheLastTransformAreInS) {
     }
 }
 
-// What is in a plan is in the width of its elements, so that it can be taken out, doubled, and put back without loss.
+// The vectors of a plan hold elements, so that they can be copied, doubled and put back without loss.
 TYPED_TEST(PlanMemoryTest, ARefusedFirstPassLeavesT) {
     for (int length : {64, 2048, 4096, 131072}) {
         Planned<TypeParam> planned(length);
@@ -202,7 +202,7 @@ TYPED_TEST(PlanMemoryTest, ASplitThatIsNotActiveLeavesTAndS) {
     }
 }
 
-// The combine pass then takes S as it is for every transform: each of them becomes the last one of the run before.
+// The combine pass then takes S as it is for every transform, so that each becomes the last one of the run before.
 TYPED_TEST(PlanMemoryTest, ARefusedFoldOfASplitLeavesS) {
     for (int length : {4096, 8192, 32768, 131072}) {
         Planned<TypeParam> planned(length);

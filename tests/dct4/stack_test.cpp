@@ -14,7 +14,7 @@ template <class Element>
 class Dct4StackTest : public Dct4Test<Element> {};
 TYPED_TEST_SUITE(Dct4StackTest, Elements);
 
-// The header promises it for every length; the levels of a plan end at three here, and one more takes 200 bytes.
+// The header promises this for every length. The plans here have up to three levels; one more level takes 200 bytes.
 constexpr int longest = 1 << 22;
 constexpr std::ptrdiff_t promised = 12 * 1024;
 
@@ -32,7 +32,7 @@ TYPED_TEST(Dct4StackTest, ARunTakesNoMoreThanTheHeaderSays) {
 }
 
 #ifndef _WIN32
-// A page that may not be touched is below the stack of 32 KB.
+// A page that cannot be accessed is below the stack of 32 KB.
 TYPED_TEST(Dct4StackTest, AThreadWithASmallStackRunsEveryLength) {
     constexpr std::size_t bytes = 32 * 1024;
     const GuardedPages stack(bytes);

@@ -1,5 +1,5 @@
 /* A companion library for the allocator hook. The build makes variants of it: -Dt_free_dll=renamed takes a name away,
-   -Dfree_word=0 leaves a zero where the word is expected. As it stands it is complete and may be taken. */
+   -Dfree_word=0 leaves a zero where the word is expected. Without such an option it is complete and is accepted. */
 #include "libtmalloc.h"
 
 #include <stdint.h>

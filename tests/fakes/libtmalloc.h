@@ -1,5 +1,5 @@
-/* What the substituted companion libraries write down, so that a test sees which routine was called, and how. They give
-   out no memory: each routine answers with an address of its own. */
+/* What the companion libraries of the tests record, so that a test sees which routine was called, and how. They give
+   out no memory: each routine returns an address of its own. */
 #ifndef LIBTMALLOC_H
 #define LIBTMALLOC_H
 

@@ -1,4 +1,4 @@
-// In the place of the frame's dynamic loading.
+// Replaces the library's dynamic loading.
 #include "tests/fakes/recorded_loading.h"
 
 #include "frame/shared_library.h"

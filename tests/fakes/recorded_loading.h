@@ -1,5 +1,5 @@
-// Stands in for the platform's dynamic loading where a test must see the order of events: it writes down each call and
-// answers with what the test put there.
+// Replaces the platform's dynamic loading where a test must see the order of events. It records each call and gives the
+// answers that the test has set.
 #pragma once
 
 #include <functional>

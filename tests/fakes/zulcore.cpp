@@ -1,4 +1,4 @@
-// A core library for tests: in the place of the real one it counts calls, notes sizes, and refuses when it is told to.
+// A core library that replaces the real one in tests. It counts calls, notes sizes, and refuses when it is told to.
 #include "tests/fakes/zulcore.h"
 
 #include <cstdlib>

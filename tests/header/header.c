@@ -1,4 +1,4 @@
-/* The public header compiles by itself, and a second time, as strict C11. */
+/* The public header compiles by itself as strict C11, also when it is included twice. */
 #include "zulgenpx.h"
 #include "zulgenpx.h"
 

@@ -1,4 +1,4 @@
-// The public header compiles by itself, and a second time, as strict C++17.
+// The public header compiles by itself as strict C++17.
 #include "zulgenpx.h"
 
 static_assert(sizeof(LibVersion) == 20 + 3 * sizeof(void*) || sizeof(LibVersion) == 24 + 3 * sizeof(void*));

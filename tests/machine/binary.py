@@ -1,4 +1,4 @@
-"""Reads the built library, ELF or PE: exported names, the code of each routine as the slot table reaches it.
+"""Reads the built library, ELF or PE: its exported names, and the code of each routine that the slot table leads to.
 
 Uses objdump of the target for the disassembly and nothing else; the files' own tables are read here.
 """
@@ -39,7 +39,8 @@ class Library:
     def _read_pe(self):
         data = self.data
         header = struct.unpack_from("<I", data, 0x3C)[0]
-        count, optional_size = struct.unpack_from("<H", data, header + 6)[0], struct.unpack_from("<H", data, header + 20)[0]
+        count = struct.unpack_from("<H", data, header + 6)[0]
+        optional_size = struct.unpack_from("<H", data, header + 20)[0]
         optional = header + 24
         self.image_base = struct.unpack_from("<I", data, optional + 28)[0]
         for i in range(count):

@@ -1,4 +1,4 @@
-"""Holds the exported names, entries and slots of the built library, and its version resource, against what is promised.
+"""Compares the exported names, entries and slots of the built library, and its version resource, with what is promised.
 
 boundary.py LIBRARY OBJDUMP EXPECTED_EXPORTS
 """
@@ -47,7 +47,7 @@ def check_slots(library):
     routines = [library.word(slot) for slot in slots if slot]
     expect(len(set(routines)) == len(routines), "two slots lead to one routine")
     section = library.section_of(slots[0])
-    expect(section == (".rdata" if library.is_pe else ".data.rel.ro"), f"the slot table stands in {section}")
+    expect(section == (".rdata" if library.is_pe else ".data.rel.ro"), f"the slot table is in {section}")
 
 
 def check_version_resource(library):

@@ -1,9 +1,9 @@
-"""Short displacements: the launcher that compiles the long kernels must leave every instruction and every address alone.
+"""Short displacements: the launcher that compiles the long kernels must not change an instruction or an address.
 
 displacements.py BUILD_FOLDER LAUNCHER
 
-Its output is taken back to plain accesses here, without any of its own rules, and must then be its input, line by line:
-of small texts that hold what it must not fall for, and of kernels as they are built.
+The tests turn its output back into plain accesses, without any of its own rules. The result must be its input, line by
+line. They do so with small texts that have what it must leave alone, and with kernels as they are built.
 """
 import os
 import re
@@ -22,7 +22,7 @@ def rewritten(text):
 
 
 def taken_back(before, after):
-    """`after` without its windows. Fails where a window's register is changed, or its base is, before its last use."""
+    """`after` without its windows. Fails if the register or the base of a window is changed before its last use."""
     windows, lines, old = {}, [], before.split("\n")
     for line in after.split("\n"):
         window = re.fullmatch(r"\tleaq\t(-?\d+)\(%(\w+)\), %(\w+)", line)
@@ -69,12 +69,12 @@ class SmallTexts(unittest.TestCase):
     def test_a_register_used_in_the_block_is_not_idle(self):
         self.check(routine("\tmovl\t%esi, %eax", *far("rcx")), ["rdi"])
 
-    def test_a_register_used_behind_the_block_is_not_idle(self):
+    def test_a_register_used_after_the_block_is_not_idle(self):
         self.check(routine(*far("rax"), "\tje\t.L2", "\tmovb\t%sil, (%rdi)", ".L2:"), ["rcx"])
 
     def test_a_register_carried_round_a_loop_is_not_idle(self):
-        self.check(routine("\txorl\t%esi, %esi", ".L2:", "\taddl\t$1, %esi", "\tjs\t.L3", *far("rax"), "\tjne\t.L2", ".L3:"),
-                   ["rdi"])
+        self.check(routine("\txorl\t%esi, %esi", ".L2:", "\taddl\t$1, %esi", "\tjs\t.L3", *far("rax"), "\tjne\t.L2",
+                           ".L3:"), ["rdi"])
         self.check(routine("\tmovl\t%esi, %edx", "\tjs\t.L3", *far("rax"), ".L3:"), ["rsi"])
 
     def test_a_base_that_changes_has_a_window_for_each_value(self):
@@ -90,10 +90,11 @@ class SmallTexts(unittest.TestCase):
 
 
 class Kernels(unittest.TestCase):
-    def test_only_the_way_to_memory_is_another(self):
+    def test_only_the_addressing_is_changed(self):
         for kernel in KERNELS:
             made = f"CMakeFiles/long_kernels.dir/kernels/{kernel}.cpp.o"
-            commands = subprocess.run(["ninja", "-t", "commands", made], cwd=BUILD, capture_output=True, text=True, check=True)
+            commands = subprocess.run(["ninja", "-t", "commands", made], cwd=BUILD, capture_output=True, text=True,
+                                      check=True)
             command = shlex.split(commands.stdout.splitlines()[-1])
             command = command[command.index(LAUNCHER) + 1:]
             with self.subTest(kernel), tempfile.TemporaryDirectory() as folder:

@@ -1,4 +1,4 @@
-"""Holds what the built library asks of its surroundings, and the marks that harden it, against what is promised.
+"""Compares what the built library asks of its surroundings, and the marks that harden it, with what is promised.
 
 hardening.py LIBRARY OBJDUMP
 """
@@ -38,15 +38,15 @@ def slots(library):
 def check_no_initializers(library):
     for name, _, size, _ in library.sections:
         expect(not size or not name.startswith((".ctors", ".dtors", ".init_array", ".fini_array", ".CRT", ".tls")),
-               f"section {name}: something besides the load entry waits to be run at load time")
+               f"section {name}: the load entry is not the only routine that is run at load time")
 
 
 def check_frames(library):
-    """No frame is larger than the page that guards a stack, so that no routine can step over it."""
+    """No stack frame is larger than the page that guards a stack, so that no routine can step over that page."""
     bits = 32 if library.is_pe else 64
     for instruction in library.code.values():
         line = f"{instruction.mnemonic} {instruction.operands}"
-        if not re.match(r"((sub|add)[lq]? .*|lea .*\(%[er]sp\)),%[er]sp$", line):  # other moves go back up
+        if not re.match(r"((sub|add)[lq]? .*|lea .*\(%[er]sp\)),%[er]sp$", line):  # other changes give stack back
             continue
         amount = re.match(r"\w+ \$?(-?0x[0-9a-f]+)[,(]", line)
         expect(amount, f"{instruction.address:#x}: takes an amount of stack that is no constant: {line}")
@@ -95,7 +95,7 @@ def check_pe(library):
         expect(not (executable and writable), f"{name} is writable and executable")
         if name == library.section_of(slots(library)[0]):
             expect(not writable and not executable, "the slot table is not in read-only data")
-    # Marks of branch targets are of no use to this target's loader.
+    # This target's loader ignores marks of branch targets.
     start, size = next((start, size) for name, start, size, _ in library.sections if name == ".text")
     expect(b"\xf3\x0f\x1e\xfb" not in library.bytes(start, size), "branch-target marks")
 
@@ -114,7 +114,8 @@ def check_elf(library):
 
     expect(set(tag("NEEDED")) == set(elf_imports), f"needs {tag('NEEDED')}")
     expect(library.imports == set().union(*elf_imports.values()), f"imports {library.imports}")
-    expect(not tag("RPATH") and set(tag("RUNPATH")) <= {"$ORIGIN"}, "looks for others in a folder not its own")
+    expect(not tag("RPATH") and set(tag("RUNPATH")) <= {"$ORIGIN"},
+           "looks for other libraries in a folder that is not its own")
 
     rows = [line.split() for line in segments.splitlines() if line.startswith("  ")]
     by_kind = {}
@@ -140,13 +141,14 @@ def check_elf(library):
     landing = b"\xf3\x0f\x1e\xfa"
     for slot in slots(library):
         routine = library.word(slot)
-        expect(library.bytes(routine, 4) == landing, f"{routine:#x}: in a slot, and no branch target")
+        expect(library.bytes(routine, 4) == landing, f"{routine:#x}: is in a slot and is no branch target")
 
     # The load entry is the one routine that the loader calls.
     entry = [int(value, 16) for value in tag("INIT")]
-    expect(len(entry) == 1 and library.bytes(entry[0], 4) == landing, "no load entry, or no branch target")
+    expect(len(entry) == 1 and library.bytes(entry[0], 4) == landing,
+           "there is no load entry, or it is no branch target")
     for name in ("FINI", "INIT_ARRAY", "FINI_ARRAY", "PREINIT_ARRAY"):
-        expect(not tag(name), f"{name}: something besides the load entry waits to be run")
+        expect(not tag(name), f"{name}: the load entry is not the only routine that the loader runs")
 
 
 def main():

@@ -1,9 +1,9 @@
 """Compares the arithmetic of the three layouts of each forward real kernel in machine code.
 
-On x87: the same floating-point instructions on the same registers, in the same order. Only the places in memory may
-differ, since a layout is other store addresses and nothing else: these registers are wider than a double, and a spill at
-another point would show in the results. Elsewhere every step rounds to double wherever it stands, so that a compiler
-may order steps by their neighbours: there each kind of arithmetic must occur equally often.
+On x87 the three have the same floating-point instructions on the same registers, in the same order. Only addresses may
+differ, since layouts differ in their store addresses alone. These registers are wider than a double, so that a spill at
+another point would change results. On other targets every step rounds to double, wherever it comes in the order, and a
+compiler may choose the order. There each kind of arithmetic must occur equally often.
 
 layouts.py LIBRARY OBJDUMP
 """
@@ -14,8 +14,8 @@ from binary import Library
 
 
 def masked(instruction):
-    """Mnemonic and operands, every place in memory that a pointer leads to taken as one; constants keep their address,
-    and so does the table of scale factors, whatever register holds the place in it."""
+    """Mnemonic and operands, where each access through a pointer is written as `memory`. Constants keep their address,
+    and so does the table of scale factors, whatever register holds the index into it."""
     operands = re.sub(r"-?(0x[0-9a-f]+)?\(%rip\)\s*#\s*(0x)?([0-9a-f]+).*", r"constant \3", instruction.operands)
     operands = re.sub(r"(0x[0-9a-f]+)\(,%[a-z]+,\d\)", r"table \1", operands)
     operands = re.sub(r"(-?0x[0-9a-f]+)?\(%[a-z0-9,%]+\)", "memory", operands)

@@ -18,7 +18,7 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         again = os.path.join(folder, name)
         command = link.replace(f"-o {name} ", f"-o {shlex.quote(again)} ")
-        # The import library is made by the same command; it must not be written over.
+        # The same command makes the import library, which must not be overwritten.
         command = command.replace("--out-implib,", f"--out-implib,{folder}/")
         subprocess.run(command, shell=True, cwd=build, check=True)
         with open(library, "rb") as first, open(again, "rb") as second:

@@ -43,7 +43,7 @@ TEST(PlanRef, IsAPlainPointerWherePointersAreFourBytes) {
 }
 
 TEST(PlanRef, ReachesTwoGiBEitherWay) {
-    // Of addresses only: such places need not exist.
+    // These are numbers only: there need be no memory at such addresses.
     const std::uint64_t from = 0x7F0012345678;
     for (const std::int64_t distance : {std::int64_t{0x7FFFFFFF}, -std::int64_t{0x80000000}, std::int64_t{-1}}) {
         const auto to = static_cast<std::uintptr_t>(from + static_cast<std::uint64_t>(distance));
@@ -104,7 +104,7 @@ TEST(Arena, AllocAndReleaseMoveTheCursorAndNothingElse) {
     EXPECT_EQ(block.cursorOffset(), 160);
     arenaRelease(arena, first, 0);
     EXPECT_EQ(block.cursorOffset(), 160);
-    arenaRelease(arena, first, 1);  // which object is named is of no effect
+    arenaRelease(arena, first, 1);  // the object that is named has no effect
     EXPECT_EQ(block.cursorOffset(), 128);
     arenaRelease(arena, nullptr, 96);
     EXPECT_EQ(block.cursorOffset(), 32);  // nothing stops it at the first record
@@ -153,7 +153,7 @@ protected:
     std::ptrdiff_t start = block.cursorOffset();
 };
 
-TEST_F(List, EmptyHasOneNodeAndReadsAsNothing) {
+TEST_F(List, AnEmptyOneHasOneNodeAndNoElements) {
     EXPECT_EQ(listNth(head, 0), nullptr);
     EXPECT_EQ(head->value.get(), nullptr);
     EXPECT_EQ(head->next.get(), nullptr);
@@ -182,7 +182,7 @@ TEST_F(List, NthReadsInOrderAndNothingOutside) {
     EXPECT_EQ(listNth(nullptr, 1), nullptr);
 }
 
-TEST_F(List, NothingAppendedIsOverwrittenByTheNext) {
+TEST_F(List, ANullValueIsOverwrittenByTheNext) {
     listAppend(head, &a->head);
     EXPECT_EQ(listAppend(head, nullptr), nullptr);
     EXPECT_EQ(block.cursorOffset(), start + 32);
@@ -218,7 +218,7 @@ TEST_F(List, ReleaseValuesFreesEachRecordAndItsOwnSize) {
 }
 
 TEST_F(List, ReleaseValuesGoesThroughTheArenaOfTheNode) {
-    // In the same memory, since references reach 2 GiB.
+    // The other arena is in the same block, since references reach no further than 2 GiB.
     PlanArena* const other = arenaInit(block.data() + 2048);
     listAppend(head, &a->head), listAppend(head, &c->head);
     head->next->arena = other;
@@ -242,7 +242,7 @@ std::int32_t radixOf(std::int32_t n) {
     return status == StatusOk ? radix : status;
 }
 
-TEST(PickRadix, TellingNumbers) {
+TEST(PickRadix, OfChosenNumbers) {
     constexpr std::array<std::array<std::int32_t, 2>, 32> expected = {{
         {512, 32}, {544, 32}, {1024, 32}, {1 << 30, 32}, {480, 16}, {496, 16}, {528, 16},   {256, 16},
         {128, 16}, {144, 16}, {520, 8},   {136, 8},      {112, 8},  {64, 8},   {48, 8},     {32, 8},

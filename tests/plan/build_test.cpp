@@ -1,4 +1,4 @@
-// What a build leaves in the block: records, shapes, places, and where the cursor stands.
+// What a build leaves in the block: records, shapes, addresses, and the cursor.
 #include "dct4/build.h"
 
 #include "tests/plan/describe.h"
@@ -14,7 +14,7 @@ const Record& recordAt(const PlanListNode* list, std::int32_t i) {
     return reinterpret_cast<const Record&>(*listNth(list, i));
 }
 
-// Fields stand one behind the other, a word each, as in a build with pointers of four bytes.
+// Fields follow one another and have one word each, as in a build with pointers of four bytes.
 void expectWords(std::size_t first, std::size_t size, std::initializer_list<std::size_t> offsets) {
     std::size_t word = first;
     for (const std::size_t offset : offsets) EXPECT_EQ(offset, 4 * word++);
@@ -81,7 +81,7 @@ TYPED_TEST(PlanBuild, RadixOfADirectPlanIsLeftAlone) {
     EXPECT_EQ(plan->kind, 5);
 }
 
-TYPED_TEST(PlanBuild, SixtyFour) {
+TYPED_TEST(PlanBuild, InFullWithoutASplit) {
     BuiltPlan<TypeParam> built(64);
     EXPECT_EQ(describe(*built.plan),
               perType<TypeParam>(
@@ -236,7 +236,7 @@ TYPED_TEST(PlanBuild, Shapes) {
 }
 
 // The size counts list nodes that are never drawn: 96 bytes at the top and 160 for each split.
-TYPED_TEST(PlanBuild, CursorStandsBelowTheSizeByNodesNeverDrawn) {
+TYPED_TEST(PlanBuild, CursorEndsBelowTheSizeByNodesNeverDrawn) {
     for (const std::int32_t length : builtLengths()) {
         BuiltPlan<TypeParam> built(length);
         std::ptrdiff_t neverDrawn = 0;
@@ -261,7 +261,7 @@ TYPED_TEST(PlanBuild, FirstRecordByRemainderOfTheBlock) {
     }
 }
 
-// The `init` fields hold what built each record, or gives the values of a table.
+// The `init` field of a record holds the routine that built it. That of a source holds the one that gives the values.
 TYPED_TEST(PlanBuild, OperationsOfSourcesGiveValues) {
     BuiltPlan<TypeParam> built(4096);
     const auto& source = recordAt<AngleSource>(built.plan->owned, 0);
@@ -274,7 +274,7 @@ TYPED_TEST(PlanBuild, OperationsOfSourcesGiveValues) {
     EXPECT_EQ(rows.head.free.template as<ReleaseOperation>(), &releaseNothing);
 }
 
-TYPED_TEST(PlanBuild, PlanOperations) {
+TYPED_TEST(PlanBuild, OperationsOfPlanAndStages) {
     BuiltPlan<TypeParam> built(64);
     EXPECT_EQ(built.plan->head.init.template as<BuildOperation>(), &buildPlan);
     EXPECT_EQ(built.plan->head.free.template as<ReleaseOperation>(), &releasePlan<TypeParam>);

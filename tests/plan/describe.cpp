@@ -64,7 +64,7 @@ private:
         if (step.kind == 7) split(depth + 2, *reinterpret_cast<const SkewSplit*>(listNth(step.owned, 0)));
     }
 
-    // `lists` in the order of the record; each is named by where its elements lie.
+    // `lists` are in the order of the record. Each is described by its offset and those of its elements.
     void line(int depth, const char* name, const PlanHead& head, std::initializer_list<const PlanListNode*> lists) {
         if (depth > 0) out << "\n";
         out << std::string(static_cast<std::size_t>(2 * depth), ' ') << name << " @" << offset(&head) << " size "

@@ -1,4 +1,5 @@
-// A plan in words: its tree, one record to a line, with where things lie in the block and every number of the record.
+// A plan in words: its tree, one record to a line, with the offset of each record, list and vector and with all
+// numbers.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
-// Every length there is, all 2^32 of them: the size that the library reports, or its refusal, against a model that goes
-// from the bottom of the tree up, adds without a limit and wraps each sum by itself. A program of its own, since it
-// takes a while.
+// Every length there is, all 2^32 of them. The size that the library reports, or its refusal, is compared with a model
+// that goes from the bottom of the tree up, adds without a limit and wraps each sum by itself. This is a program of its
+// own, since it takes a while.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -19,11 +19,12 @@ namespace {
 
 constexpr std::int64_t refused = -6;
 
-// As a 32-bit number would hold it.
+// x as a 32-bit number would hold it.
 constexpr std::int64_t wrapped(std::uint64_t x) { return static_cast<std::int32_t>(static_cast<std::uint32_t>(x)); }
 constexpr std::uint64_t rounded(std::uint64_t bytes) { return (bytes % (std::uint64_t{1} << 32) + 31) / 32 * 32; }
 
-// The exponent of the radix for half a length: no higher than half is divisible, nor than its magnitude allows.
+// The exponent of the radix for half a length: the greatest for which 2^exponent divides `half` and `half` is at least
+// `least[exponent]`.
 int radixExponent(std::int64_t half) {
     if (half < 4 || half % 2 != 0) return 0;
     static constexpr std::array<std::int64_t, 6> least = {0, 4, 16, 32, 128, 512};

@@ -1,5 +1,5 @@
-// Stand in the place of the core library's allocator and of the routine that runs a plan; linked into the tests of
-// plans only. Both record how they were called.
+// Fakes of the core library's allocator and of the routine that runs a plan, linked into the tests of plans only. Both
+// record how they were called.
 #pragma once
 
 #include <cstdint>

@@ -23,7 +23,7 @@ protected:
     std::uint8_t* memory;
 };
 
-TEST_P(HighMemory, FirstRecordStandsUpTo95BytesIn) {
+TEST_P(HighMemory, FirstRecordIsUpTo95BytesIn) {
     if (reinterpret_cast<std::uintptr_t>(memory) < 0x80000000u) GTEST_SKIP() << "no memory above 2 GiB here";
     const std::size_t remainder = GetParam();
     std::uint8_t* const block = memory + 4096 + remainder;
@@ -32,7 +32,7 @@ TEST_P(HighMemory, FirstRecordStandsUpTo95BytesIn) {
     const auto root = reinterpret_cast<std::uint8_t*>(plan);
     EXPECT_EQ(root - block, static_cast<std::ptrdiff_t>(remainder == 0 ? 64 : 96 - remainder));
 
-    // From the root on it is the plan that it is anywhere, within 31 bytes more than the reported size.
+    // From the root on the plan is the same as at any other address. It ends up to 31 bytes after the reported size.
     const auto arena = reinterpret_cast<const zulg::PlanArena*>(block);
     EXPECT_EQ(zulg::arenaCursor(arena) - reinterpret_cast<std::uintptr_t>(root), 34816u - 64);
     EXPECT_EQ(reinterpret_cast<const zulg::PlanArena*>(plan->head.arena.get()), arena);

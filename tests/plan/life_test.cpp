@@ -1,4 +1,4 @@
-// The five routines: their checks, what a refusal leaves alone, the core library's allocator, the teardown.
+// The five routines: their checks, what a refusal leaves alone, the calls of the core library, the release.
 #include "dct4/release.h"
 #include "tests/plan/fakes.h"
 #include "tests/plan/plan_fixture.h"
@@ -71,7 +71,7 @@ TYPED_TEST(PlanLife, RefusedInitLeavesThePlanAndReleasesWhatWasNeverDrawn) {
     EXPECT_TRUE(core.freed.empty());
 }
 
-// Every number of a small range is accepted by Init exactly if by GetSize.
+// Init accepts exactly those lengths that GetSize accepts.
 TYPED_TEST(PlanLife, InitAndGetSizeAgree) {
     GuardedBlock block(1 << 17);
     for (std::int32_t length = -70; length <= 2200; ++length) {
@@ -83,7 +83,7 @@ TYPED_TEST(PlanLife, InitAndGetSizeAgree) {
     EXPECT_TRUE(block.guardsStand());
 }
 
-TYPED_TEST(PlanLife, InitAllocChecks) {
+TYPED_TEST(PlanLife, InitAllocChecksPointerAndLength) {
     EXPECT_EQ(dct4InitAlloc<TypeParam>(nullptr, 64), StatusNullPointer);
     EXPECT_EQ(dct4InitAlloc<TypeParam>(nullptr, 12), StatusNullPointer);
     DctPlan* plan = untouched;
@@ -121,7 +121,7 @@ TYPED_TEST(PlanLife, RefusedMemoryIsANullPointer) {
     EXPECT_EQ(core.freed, std::vector<void*>{nullptr});
 }
 
-TYPED_TEST(PlanLife, FreeOfNothing) {
+TYPED_TEST(PlanLife, FreeRefusesANullPointer) {
     EXPECT_EQ(dct4Free<TypeParam>(nullptr), StatusNullPointer);
     EXPECT_TRUE(core.freed.empty());
 }

@@ -28,7 +28,7 @@ public:
     std::uint8_t* data() const { return start; }
     std::uintptr_t address() const { return reinterpret_cast<std::uintptr_t>(start); }
     std::uintptr_t cursor() const { return zulg::arenaCursor(reinterpret_cast<const zulg::PlanArena*>(start)); }
-    // How far into the block something lies; negative if before it.
+    // The distance from the start of the block, which is negative before it.
     std::ptrdiff_t offset(std::uintptr_t place) const { return static_cast<std::ptrdiff_t>(place - address()); }
     std::ptrdiff_t offset(const void* place) const { return offset(reinterpret_cast<std::uintptr_t>(place)); }
     std::ptrdiff_t cursorOffset() const { return offset(cursor()); }
@@ -83,7 +83,7 @@ Value perType(Value single, Value twice) {
     return sizeof(Element) == sizeof(float) ? single : twice;
 }
 
-// The lengths of the tests that build: powers of two, and what passes beside them.
+// The lengths of the tests that build: powers of two, and the lengths 2^k + 1 that are accepted too.
 inline std::vector<std::int32_t> builtLengths() {
     std::vector<std::int32_t> lengths;
     for (int k = 1; k <= 17; ++k) lengths.push_back(1 << k);

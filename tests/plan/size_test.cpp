@@ -36,9 +36,11 @@ TYPED_TEST(PlanSize, RefusalLeavesTheSize) {
     }
 }
 
-TYPED_TEST(PlanSize, RefusalLooksAtNoSize) { EXPECT_EQ(zulg::dct4GetSize<TypeParam>(12, nullptr), StatusSizeError); }
+TYPED_TEST(PlanSize, RefusalIgnoresThePointer) {
+    EXPECT_EQ(zulg::dct4GetSize<TypeParam>(12, nullptr), StatusSizeError);
+}
 
-TYPED_TEST(PlanSize, OneMoreThanAPowerOfTwoPassesFromNineOn) {
+TYPED_TEST(PlanSize, OneMoreThanAPowerOfTwoIsAcceptedFromNineOn) {
     EXPECT_EQ(reportedSize<TypeParam>(3), StatusSizeError);
     EXPECT_EQ(reportedSize<TypeParam>(5), StatusSizeError);
     for (int k = 3; k <= perType<TypeParam>(27, 26); ++k) {
@@ -47,7 +49,7 @@ TYPED_TEST(PlanSize, OneMoreThanAPowerOfTwoPassesFromNineOn) {
         EXPECT_EQ(reportedSize<TypeParam>((1 << k) + 2), StatusSizeError) << k;
         EXPECT_EQ(reportedSize<TypeParam>((1 << k) + 3), StatusSizeError) << k;
     }
-    // 2^30 wraps once more and passes again.
+    // At 2^30 the sums wrap once more, and the length is accepted again.
     EXPECT_GT(reportedSize<TypeParam>((1 << 30) + 1), 0);
 }
 

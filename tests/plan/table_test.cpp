@@ -1,4 +1,4 @@
-// The twiddle tables, against a model in long double that knows the formulas and the printed orders, not the code.
+// The twiddle tables, compared with a model in long double. It knows their formulas and orders, but not the code.
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -15,7 +15,7 @@ namespace {
 using namespace zulg;
 using Wide = long double;
 
-// Through memory: on some targets registers are wider, and a cast alone may stay in one.
+// The value goes through memory: on some targets registers are wider, and the result of a cast may stay in one.
 template <class Number>
 Number rounded(Wide x) {
     volatile Number stored = static_cast<Number>(x);
@@ -55,7 +55,7 @@ std::int64_t ulpsBetween(Element a, Element b) {
     return std::abs(ordinal(a) - ordinal(b));
 }
 
-// Holds a table against pairs in rising order and remembers the worst.
+// Compares a table with pairs, from its first entry on, and remembers the largest difference.
 template <class Element>
 class Reader {
 public:
@@ -68,7 +68,8 @@ public:
         entries += 2;
     }
 
-    // One unit: the mathematics library of a target need not round correctly. In single values that hardly shows.
+    // One unit is allowed, since the mathematics library of a target need not round correctly. In single values few
+    // entries differ.
     void close(const void* end) const {
         EXPECT_LE(worst, 1);
         EXPECT_LE(different, sizeof(Element) == sizeof(float) ? 1 + entries / 1000 : entries);
@@ -197,7 +198,7 @@ TYPED_TEST(Tables, OfEveryCombineRadix) {
     }
 }
 
-TYPED_TEST(Tables, SixtyFourBegins) {
+TYPED_TEST(Tables, FirstEntriesAtSixtyFour) {
     BuiltPlan<TypeParam> built(64);
     const auto* table = static_cast<const TypeParam*>(firstOf<OutputStage>(built.plan->post).table.get());
     const double expected[] = {0.999925, 0.012272, 0.983105, 0.18304, 0.999322, 0.036807};
@@ -223,10 +224,10 @@ void expectFractions(std::int32_t length, std::ptrdiff_t firstPair, const std::v
     }
 }
 
-TYPED_TEST(Tables, CombineTablesBegin) {
+TYPED_TEST(Tables, FirstEntriesOfCombineTables) {
     expectFractions<TypeParam>(4096, 0, {1 / 128.0, 1 / 64.0, 3 / 128.0, 1 / 32.0, 5 / 128.0, 3 / 64.0, 7 / 128.0});
     expectFractions<TypeParam>(8192, 0, {1 / 64.0, 1 / 32.0, 3 / 64.0});
-    // Section B stands behind 8 rows of 3 pairs.
+    // The outer section comes after 8 rows of 3 pairs.
     expectFractions<TypeParam>(8192, 8 * 3, {1 / 256.0, 1 / 128.0, 3 / 256.0, 33 / 256.0});
 }
 
@@ -237,8 +238,8 @@ TEST(TablesOfRadix32, HaveTheirSectionsInOppositeOrder) {
     expectFractions<double>(32768, 16 * 7, {1 / 1024.0, 1 / 512.0, 3 / 1024.0});
 }
 
-// For powers of two every fraction is a single value as it stands. At 2^k + 1 it is not, and the entries of a table of
-// single values are those of the rounded fraction: units of the last place away from those of the exact one.
+// For powers of two every fraction is exact in single. At 2^k + 1 it is not, and the entries of a table of single
+// values are those of the rounded fraction, which differ from those of the exact one by units of the last place.
 TEST(TablesOfSingleValues, RoundTheFractionFirst) {
     for (const std::int32_t N : {1025, 4097, 65537}) {
         SCOPED_TRACE(N);
@@ -269,7 +270,7 @@ TEST(TablesOfSingleValues, PowersOfTwoHaveFractionsThatAreSingleValues) {
     }
 }
 
-// The operation of a source, by its steps: the index runs on over rows, halves and remainders truncate.
+// The operation of a source, step by step: an index beyond its row continues in the next row, and divisions truncate.
 TYPED_TEST(Tables, AngleEntryByItsSteps) {
     AngleSource source;
     source.rowLength = 16, source.denominator = 512, source.rows = 4, source.radix = 8, source.rowStride = 16;

@@ -1,5 +1,5 @@
 # Tests of the example mdct from the outside: python3 mdct_test.py PATH-OF-THE-EXAMPLE
-# What it shows of sounds that are made here: errors, and where a tone stands.
+# They check what it prints about sounds that are made here: the errors, and the frequency of a tone.
 import math
 import os
 import random
@@ -44,7 +44,7 @@ class Mdct(unittest.TestCase):
                 self.assertTrue(0 < figures["largest"] < largest, figures)
                 self.assertTrue(0 < figures["relative"] < relative, figures)
 
-    def test_a_tone_stands_in_its_bin(self):
+    def test_a_tone_is_in_its_bin(self):
         for n, k in ((64, 10), (1024, 333)):
             samples = [round(20000 * math.cos(math.pi * (i + 0.5) * (k + 0.5) / n)) for i in range(20 * n)]
             for figures in self.run_on(samples, *([] if n == 1024 else [n])):

@@ -1,5 +1,5 @@
-// What is said of sizes that do not exist, exist in one direction only, or must not be asked for: asked of families
-// made up for this, so that it does not depend on the sizes of the library.
+// The messages about sizes that do not exist, that exist in one direction only, or that the library must not be asked
+// about. The families are made up for this, so that the tests do not depend on the sizes of the library.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 namespace spectrum {
 namespace {
 
-// There and back: the numbers themselves.
+// The transform in both directions: it gives the numbers themselves.
 template <typename T>
 ZulgStatus copied(bool exists, const T* from, T* to, const Call& call) {
     if (!exists) return StatusSizeError;
@@ -30,7 +30,7 @@ ZulgStatus backBut6And9(const T* bins, T* points, const Call& call) {
     return copied(call.size != 6 && call.size != 9, bins, points, call);
 }
 
-// Takes each size from 4 to 64, and tells when it is asked for one that is no power of two.
+// Accepts each size from 4 to 64, and fails the test when it is asked for one that is no power of two.
 template <typename T>
 ZulgStatus anyFrom4To64(const T* from, T* to, const Call& call) {
     EXPECT_EQ(call.size & (call.size - 1), 0) << call.size;
@@ -62,7 +62,7 @@ constexpr Family powers = familyOf(Sizes::PowersOfTwo, {nullptr, nullptr, anyFro
                                    {nullptr, nullptr, anyFrom4To64<double>, anyFrom4To64<double>});
 constexpr Family orders = familyOf(Sizes::Orders, lengths.single, lengths.wide);
 
-// Empty where there is such a transform.
+// The message, which is empty where there is such a transform.
 std::string refusal(Options options) {
     options.precision = Precision::Double;
     try {
@@ -92,7 +92,7 @@ std::string refusalOfOrder(int order, int length, bool byOrder) {
     return refusal(options);
 }
 
-TEST(MissingLength, isToldWithThoseThatExist) {
+TEST(MissingLength, IsReportedWithTheLengthsThatExist) {
     for (bool check : {false, true}) {
         for (int length : {-1, 0, 2, 10, 13, 64, 65, longestFrame, longestFrame + 1}) {
             EXPECT_EQ(refusal(length, check), "--length " + std::to_string(length) +
@@ -102,7 +102,7 @@ TEST(MissingLength, isToldWithThoseThatExist) {
     }
 }
 
-TEST(MissingLength, mattersBackwardOnlyToTheCheck) {
+TEST(MissingLength, OfTheInverseMattersOnlyToTheCheck) {
     for (int length : {6, 9}) {
         EXPECT_EQ(refusal(length, false), "");
         EXPECT_EQ(refusal(length, true), "--check at --length " + std::to_string(length) +
@@ -111,12 +111,12 @@ TEST(MissingLength, mattersBackwardOnlyToTheCheck) {
     }
 }
 
-TEST(MissingLength, outranksABadFlag) {
+TEST(MissingLength, OutranksABadFlag) {
     EXPECT_EQ(refusal(2, true, 3).find("--length 2: "), 0u);
     EXPECT_EQ(refusal(6, true, 3).find("--flag 3: "), 0u);
 }
 
-TEST(LengthThatIsNoPowerOfTwo, isNeverAskedForWherePowersAreDue) {
+TEST(LengthThatIsNoPowerOfTwo, IsNeverAskedForInAFamilyOfPowers) {
     for (int length : {-8, 0, 3, 5, 9, 17, 33, 63, 65, longestFrame + 1}) {
         EXPECT_EQ(
             refusal(length, true, NoDivByAny, powers),
@@ -130,12 +130,12 @@ TEST(LengthThatIsNoPowerOfTwo, isNeverAskedForWherePowersAreDue) {
     for (int length : {4, 8, 16, 32, 64}) EXPECT_EQ(refusal(length, true, NoDivByAny, powers), "");
 }
 
-TEST(LengthThatIsTooLongForAFrame, isNotAskedForEither) {
+TEST(LengthThatIsTooLongForAFrame, IsNeverAskedFor) {
     EXPECT_EQ(refusal(2 * longestFrame, false, NoDivByAny, powers),
               "--length 2097152: too long for one frame; the echo family has the powers of two 4-64");
 }
 
-TEST(MissingOrder, isToldInTheWordsThatAskForIt) {
+TEST(MissingOrder, IsReportedInTheWordsThatAskForIt) {
     EXPECT_EQ(refusalOfOrder(3, 8, true), "");
     EXPECT_EQ(refusalOfOrder(12, 4096, false), "");
     for (int order : {-1, 0, 2, 13, 20, 21, 31, 1000}) {

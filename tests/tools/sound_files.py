@@ -32,7 +32,7 @@ def flac(samples, rate=8000, block=256):
     info = struct.pack(">HH", block, block) + bytes(6)
     info += struct.pack(">Q", rate << 44 | 0 << 41 | 15 << 36 | len(samples)) + bytes(16)
     data = b"fLaC" + bytes([0x80]) + len(info).to_bytes(3, "big") + info
-    block_code = block.bit_length() - 1  # 8 stands for 256 samples
+    block_code = block.bit_length() - 1  # 8 is the code of 256 samples
     for number, first in enumerate(range(0, len(samples), block)):
         head = bytes([0xFF, 0xF8, block_code << 4, 4 << 1, number])  # rate of the file, one channel, 16 bits
         assert number < 128 and 8 <= block_code <= 15

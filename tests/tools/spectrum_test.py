@@ -1,5 +1,5 @@
 # Tests of zulspectrum from the outside: python3 spectrum_test.py PATH-OF-THE-TOOL
-# Spectra are compared with sums of their own; nothing but the standard library is used.
+# Spectra are compared with sums that are computed here; nothing but the standard library is used.
 import cmath
 import csv
 import ctypes
@@ -31,7 +31,7 @@ FLAGS = {  # name, number: scale forward
     ("ortho", "4"): lambda n: 1 / math.sqrt(n),
     ("none", "8"): lambda n: 1,
 }
-# Of a picture: the rim around the plot.
+# The margins around the plot of a picture.
 LEFT, TOP, RIGHT, BOTTOM = 72, 40, 112, 44
 
 
@@ -59,7 +59,7 @@ def hartley(frame):
     return [bin.real - bin.imag for bin in dft(frame)]
 
 
-FAMILIES = {  # of lengths 2 to 64; name: the routines there and back, and the bins of a frame without any scale
+FAMILIES = {  # of lengths 2 to 64; name: the forward and the inverse routine, and the bins of a frame without scale
     "complex": ("zulgDFTFwd_CToC_64fc", "zulgDFTInv_CToC_64fc", dft),
     "real": ("zulgDFTFwd_RToCCS_64f", "zulgDFTInv_CCSToR_64f", lambda frame: dft(frame)[:len(frame) // 2 + 1]),
     "hartley": ("zulgHartley_64f", "zulgHartley_64f", hartley),
@@ -85,7 +85,7 @@ def walsh_hadamard(frame):
 
 
 def dct4_cosine(k, n):
-    """The k-th of the cosines that the DCT-IV of n points knows. Angles go around after 8 n quarter steps."""
+    """The cosine of bin k in the DCT-IV of n points. The angles, in units of pi/(4 n), repeat after 8 n of them."""
     return [math.cos(math.pi * ((2 * i + 1) * (2 * k + 1) % (8 * n)) / (4 * n)) for i in range(n)]
 
 
@@ -98,7 +98,7 @@ def library():
 
 
 def transformed(routine, values, length):
-    """What a routine of the library gives, without scale; nothing when it has no such length."""
+    """What a routine of the library gives, without scale; None when it has no such length."""
     given, result = (ctypes.c_double * 130)(*values), (ctypes.c_double * 130)()
     status = getattr(library(), routine)(given, result, length, 8)
     assert status in (0, -6), (routine, length, status)
@@ -248,7 +248,7 @@ class Spectra(ToolTest):
 
 
     def test_hartley_bins(self):
-        # 1 + 2 cos + 3 sin, once around: the parts of both frequencies, added at bin 1, subtracted at bin 5.
+        # 1 + 2 cos + 3 sin of one period: half of 2 and of 3 are added at bin 1 and subtracted at bin 5.
         samples = [1 + 2 * math.cos(math.pi * i / 3) + 3 * math.sin(math.pi * i / 3) for i in range(6)]
         rows = self.table("-", "--length", 6, "--family", "hartley", given=numbers(samples))
         both = math.sqrt(13) / 2
@@ -258,7 +258,7 @@ class Spectra(ToolTest):
             self.assertAlmostEqual(float(row["magnitude"]), magnitude, delta=1e-14)
         self.assertEqual([float(row["frequency"]) * 6 for row in rows], [0, 1, 2, 3, -2, -1])
 
-    def test_hartley_middle_is_exact(self):
+    def test_hartley_magnitude_is_exact_at_bin_0_and_in_the_middle(self):
         rows = self.table("-", "--length", 4, "--family", "hartley", "--flag", "none", given=b"1 2 3 4.1")
         for k in (0, 2):
             self.assertEqual(float(rows[k]["magnitude"]), abs(float(rows[k]["re"])))
@@ -336,7 +336,7 @@ class WalshHadamard(ToolTest):
         text = self.ok(*self.ARGUMENTS, "--order", 2, given=given).decode()
         self.assertIn("family wht, length 4, flag backward,", text)
         self.assertRegex(text, "# bin +sequency +re +im +magnitude\n")
-        # The sequency counts in frames: a rate does not change it.
+        # A sequency counts sign changes in a frame, so that the sample rate does not change it.
         path = self.path("four.wav", sound_files.wav([[1, 2, 3, 4]], rate=16000))
         self.assertEqual([row["sequency"] for row in self.table(path, "--family", "wht", "--order", 2)],
                          ["0", "3", "1", "2"])
@@ -348,7 +348,7 @@ class WalshHadamard(ToolTest):
                     for line in lines if re.match("# +bin| ", line)}
             self.assertEqual(len({end[-5:] for end in ends}), 1)
 
-    def test_default_is_that_of_the_length(self):
+    def test_default_is_the_default_length(self):
         self.assertEqual(len(self.table(*self.ARGUMENTS, given=b"1 " * 64)), 64)
 
     def test_refusals(self):
@@ -376,7 +376,7 @@ class Dct4(ToolTest):
     ARGUMENTS = "-", "--family", "dct4"
     LONGEST = 2 ** 20
 
-    def test_powers_of_two(self):
+    def test_every_power_of_two_gives_its_bins(self):
         source, n = random.Random(8), 2
         while n <= 2 ** 16:
             samples = [source.uniform(-1, 1) for _ in range(n)]
@@ -417,7 +417,7 @@ class Dct4(ToolTest):
                          says=["--length %d: not a power of two" % n, "the powers of two 2-%d" % self.LONGEST])
         self.refused(*self.ARGUMENTS, "--length", 1, given=b"1 1", says="--length 1: no transform of this length")
 
-    def test_lengths_beyond_reason(self):
+    def test_lengths_too_long_for_a_frame(self):
         for n in (2 * self.LONGEST, 2 ** 26, 2 ** 27, 2 ** 29, 2 ** 30):
             self.refused(*self.ARGUMENTS, "--length", n, given=b"1 " * 100,
                          says=["--length %d: too long for one frame" % n, "2-%d" % self.LONGEST])
@@ -535,7 +535,7 @@ class Sounds(ToolTest):
         flac = self.path("a.flac", sound_files.flac(samples))
         self.assertEqual(self.table(flac), self.table(wav))
 
-    def test_kind_is_told_by_content(self):
+    def test_content_decides_the_kind(self):
         path = self.path("tone.txt", sound_files.wav([[1000] * 64]))
         self.assertEqual(float(self.table(path)[0]["re"]), 64 * 1000 / 32768)
 
@@ -557,9 +557,9 @@ class Sounds(ToolTest):
 
 class Pictures(ToolTest):
     def plot(self, data, columns, bins):
-        """The plot without its rim, checked for its size, and the pixels of one column and of one bin."""
+        """The plot without its margins, checked for its size, and the pixels of one column and of one bin."""
         rows = sound_files.png_rows(data)
-        bins = bins if bins <= 512 else 512  # neighbours share a row; of the lengths here, the same number in each
+        bins = bins if bins <= 512 else 512  # neighbours share a row, the same number in each row at the lengths here
         across, down = -(-768 // columns), 512 // bins
         self.assertEqual((len(rows[0]), len(rows)), (LEFT + columns * across + RIGHT, TOP + bins * down + BOTTOM))
         return [row[LEFT:LEFT + columns * across] for row in rows[TOP:TOP + bins * down]], across, down
@@ -608,8 +608,8 @@ class Pictures(ToolTest):
         self.assertEqual([y for y in range(512) if brightness(rows[y]) > brightness(rows[0]) + 100],
                          [511 - 300, 511 - 100])
 
-    def test_words_and_numbers_of_the_axis(self):
-        """The marks stand left of the plot; their distances tell what is numbered."""
+    def test_words_and_marks_of_the_axis(self):
+        """The marks are left of the plot; their distances tell what is numbered."""
         def marks(*arguments):
             rows = sound_files.png_rows(self.ok("-", "--format", "png", *arguments, given=b"1 " * 1024))
             light = [y for y in range(TOP - 8, len(rows) - BOTTOM + 8) if brightness(rows[y][LEFT - 5]) > 1500]
@@ -668,7 +668,7 @@ def layout_rule(n):
 
 class Layouts(ToolTest):
     def layouts(self, n):
-        """What each slot holds, by layout, read as a person does: the number of a slot stands above."""
+        """What each slot holds, by layout, read as a person does: the number of a slot is above it."""
         found = {"CCS": {}, "Pack": {}, "Perm": {}}
         for line in self.ok("layout", n).decode().split("\n"):
             self.assertLessEqual(len(line), 80)
@@ -698,7 +698,7 @@ class Layouts(ToolTest):
             self.assertEqual([sorted(layout) for layout in rule.values()],
                              [list(range(count)) for count in (n // 2 * 2 + 2, n, n)])
 
-    def test_library_fills_the_slots_that_are_told(self):
+    def test_library_fills_the_slots_as_the_layout_says(self):
         source, compared = random.Random(4), 0
         for n in LENGTHS:
             samples = [source.uniform(-1, 1) for _ in range(n)]
@@ -727,7 +727,7 @@ class Layouts(ToolTest):
         with open("/dev/full", "wb") as full:
             self.refused("layout", "8", stdout=full, says="cannot write standard output")
 
-    def test_files_of_that_name(self):
+    def test_files_of_the_name_layout(self):
         folder = self.folder.name
         self.path("layout", b"1 2 3 4")
         done = run("./layout", "--length", 4, "--output", "layout", cwd=folder)
@@ -749,8 +749,8 @@ class Options(ToolTest):
         text = self.ok("--help").decode()
         for family in ALL_FAMILIES:
             self.assertIn(family + " is the ", text)
-        for word in ("--length", "--order", "--family", "--flag", "--hop", "--window", "--channel", "--precision", "--format",
-                     "--output", "--check", "--version", "filled up with zeros", "layout"):
+        for word in ("--length", "--order", "--family", "--flag", "--hop", "--window", "--channel", "--precision",
+                     "--format", "--output", "--check", "--version", "filled up with zeros", "layout"):
             self.assertIn(word, text)
 
         class Version(ctypes.Structure):
@@ -836,7 +836,7 @@ class Errors(ToolTest):
         for content in (bytes(range(256)) * 8, b"\x7fELF" + bytes(200), b"RIFF\x10\0\0\0WAVEjunk" + bytes(8)):
             self.refused(self.path("strange.wav", content), says=["strange.wav", "neither a sound file"])
 
-    def test_wrong_numbers_are_told_with_their_line(self):
+    def test_wrong_numbers_are_reported_with_their_line(self):
         path = self.path("numbers.txt", b"1 2\n# three\n\n3 4, five 6\n")
         self.refused(path, "--length", 2, says=["numbers.txt, line 4: 'five' is not a number"])
         for word in ("0x10", "1.5.2", "nan", "inf", "--1", "+-1", "1e", "+", "\x01\x02", "x" * 2000, "1;2", "é"):
@@ -857,7 +857,7 @@ class Errors(ToolTest):
         path = self.path("mono.wav", sound_files.wav([[1] * 100]))
         self.refused(path, "--channel", 2, says=["--channel 2", "mono.wav has 1 channel"])
 
-    def test_damaged_sound_does_not_pass(self):
+    def test_damaged_sound_is_refused(self):
         data = sound_files.flac([round(9000 * math.sin(i)) for i in range(2048)])
         self.refused(self.path("cut.flac", data[:len(data) // 2]), says=["cut.flac", "cannot be read beyond sample"])
 

@@ -1,12 +1,12 @@
-// The words for the statuses of the library. A run of the tool can only provoke some of them, so that they are asked
-// for here.
+// The words for the statuses of the library. A run of the tool can provoke only some of them, so that they are tested
+// here.
 #include "tools/status.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-TEST(StatusText, tellsEachStatusInItsOwnWords) {
+TEST(StatusText, HasWordsOfItsOwnForEachStatus) {
     std::set<std::string> texts;
     for (ZulgStatus status : {StatusOk, StatusPlanKindError, StatusSizeError, StatusNullPointer, StatusFlagError}) {
         const std::string text = spectrum::statusText(status);
@@ -16,6 +16,6 @@ TEST(StatusText, tellsEachStatusInItsOwnWords) {
     }
 }
 
-TEST(StatusText, givesTheNumberOfAnUnknownStatus) {
+TEST(StatusText, GivesTheNumberOfAnUnknownStatus) {
     EXPECT_NE(spectrum::statusText(-77).find("-77"), std::string::npos);
 }

@@ -1,4 +1,4 @@
-// Complex kernels: what their definition makes exact, and how the two directions belong together.
+// Complex kernels: what their definition makes exact, and how the two directions fit together.
 #include <cmath>
 #include <limits>
 
@@ -9,8 +9,8 @@ namespace {
 
 using ComplexTest = KernelTest;
 
-// Through Rader's construction x[0] reaches the outputs but one through the DC bin of the inverse transform, and a sum
-// of constants through 1/M: right to rounding, not exact.
+// In Rader's construction x[0] reaches all outputs but one through bin 0 of the inverse transform, and a sum of equal
+// values is multiplied by 1/M. So the results are right up to rounding, but not exact.
 bool isExactOnConstants(const Transform& transform) { return largestPrimeFactor(transform.length) < 11; }
 
 TEST_P(ComplexTest, AnImpulseAtZeroGivesTheStoredScale) {
@@ -51,7 +51,7 @@ TEST_P(ComplexTest, AConstantGivesTheExactSumTimesTheStoredScale) {
     });
 }
 
-TEST_P(ComplexTest, AnImpulseAtOneTurnsOnceRound) {
+TEST_P(ComplexTest, AnImpulseAtOneGivesOnePeriodOfTheExponential) {
     withElement([&](auto element) {
         using Element = decltype(element);
         std::vector<Element> source(static_cast<std::size_t>(transform.sourceElements));
@@ -132,7 +132,7 @@ TEST_P(ComplexTest, TheOtherDirectionIsThisOneWithPartsExchanged) {
             auto found = exchanged(source);
             ASSERT_EQ(other(found.data(), found.data(), matching), StatusOk);
             found = exchanged(found);
-            // The steps are the same; registers wider than a double may be spilled at other places.
+            // The steps are the same, but registers wider than a double may be spilled at other points.
             if (sizeof(void*) == 8) {
                 EXPECT_TRUE(sameBits(found, due)) << "flag " << flag;
             }

@@ -1,4 +1,4 @@
-// Hartley kernels: their own inverse, and the real transform in another dress.
+// Hartley kernels: they are their own inverse, and their results follow from those of the real transform.
 #include <cmath>
 
 #include "tests/transforms/kernel_fixture.h"

@@ -11,7 +11,8 @@
 namespace test {
 namespace {
 
-// Pooled relative error in units of the last place of the element: root of squared errors over squared references.
+// The pooled relative error in units of the last place of the element: the root of the summed squared errors over the
+// summed squared references.
 class Error {
 public:
     template <class Element>
@@ -59,7 +60,7 @@ TEST_P(KernelTest, HoldsItsAccuracyWhereRegistersRoundToDouble) {
     withElement([&](auto element) {
         using Element = decltype(element);
         const auto inDoubles = [](const Transform& kernel, const std::vector<Element>& source, int flag) {
-            const DoublePrecisionRegisters precision;  // what many a Windows program runs with
+            const DoublePrecisionRegisters precision;  // the setting of many Windows programs
             return run(kernel, source, flag);
         };
         EXPECT_LE(pooledError<Element>(transform, NoDivByAny, random, inDoubles), transform.bound());

@@ -1,4 +1,4 @@
-// Real kernels: the three layouts, their zeros and the slots that nobody reads, and how the directions belong together.
+// Real kernels: the three layouts, their zeros, the slots that are never read, and how the two directions fit together.
 #include <cmath>
 #include <limits>
 
@@ -82,7 +82,7 @@ TEST_P(RealForwardTest, KeepsTheZerosOfCCSWhateverTheInput) {
     });
 }
 
-// Slots at which a zero result is a negative zero: those stored behind a negation.
+// How many results are negative zeros. A result that is zero is one if it is stored after a negation.
 template <class Element>
 int negativeZeros(const std::vector<Element>& packed) {
     int count = 0;
@@ -90,7 +90,7 @@ int negativeZeros(const std::vector<Element>& packed) {
     return count;
 }
 
-TEST_P(RealForwardTest, AZeroResultBehindANegationIsNegative) {
+TEST_P(RealForwardTest, AZeroResultAfterANegationIsNegative) {
     withElement([&](auto element) {
         using Element = decltype(element);
         const std::vector<Element> zeros(static_cast<std::size_t>(transform.length));
@@ -197,7 +197,7 @@ TEST_P(RealInverseTest, GivesTheValuesOfTheOtherLayouts) {
 INSTANTIATE_TEST_SUITE_P(All, RealForwardTest, testing::ValuesIn(realForwardTransforms()), testName);
 INSTANTIATE_TEST_SUITE_P(All, RealInverseTest, testing::ValuesIn(realInverseTransforms()), testName);
 
-// The array of a layout as its slots read, for the first lengths.
+// What each slot of a layout holds, as text: R1, I1 or 0.
 std::string drawn(Layout layout, int length) {
     const LayoutSlots slots{layout, length};
     std::vector<double> x, packed(static_cast<std::size_t>(slots.elements()));

@@ -1,4 +1,4 @@
-// What the tests know of one exported transform of one length: enough to call it and to say what is right.
+// What the tests know of one exported transform of one length: enough to call it and to judge its result.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -61,14 +61,15 @@ std::vector<Transform> allTransforms();
 
 const char* layoutName(Layout layout);
 
-// Of the outputs of the forward real transform of a length, how many are stored behind a negation.
+// Of the outputs of the forward real transform of a length, how many are stored after a negation.
 int expectedNegations(int length);
 
 // For value-parameterised tests: readable names.
 std::ostream& operator<<(std::ostream& out, const Transform& transform);
 std::string testName(const testing::TestParamInfo<Transform>& test);
 
-// 1/N and 1/sqrt(N) as they are stored: exact and rounded once; the double quotient of the double root, rounded on.
+// 1/N and 1/sqrt(N) as they are stored. 1/N is rounded once. 1/sqrt(N) is the double quotient of 1 and the double root,
+// rounded to the element.
 template <class Element>
 Element storedInverse(int length);
 template <class Element>
@@ -84,7 +85,7 @@ Element storedScale(const Transform& transform, int flag) {
 }
 
 // Normally distributed, at a scale drawn anew from one octave: the relative error of even a correctly rounded result
-// depends on where it lies between two powers of two, and no length is to be judged by that. The seed is part of each
+// depends on its position between two powers of two, and no length is to be judged by that. The seed is part of each
 // failure's trace.
 template <class Element>
 std::vector<Element> randomElements(int count, std::mt19937& random) {

@@ -1,4 +1,4 @@
-// The loops and blocks of the large orders, the very text that ships, run on a type that counts.
+// The loops and blocks of the large orders, in the text that ships, run on a type that counts.
 #include "wht/passes.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-// A child process of the tests: calls a large order without a buffer while the core library refuses. The transform
-// follows a failed allocation all the same, and the first store of its first pass faults near address 0. Exit code 42
-// tells that it did; 0 that the call came back.
+// A child process of the tests: calls a large order without a buffer while the core library refuses. The transform runs
+// all the same, and the first store of its first pass faults near address 0. Exit code 42 means that it did, 0 that the
+// call returned.
 #include <cstdint>
 #include <cstdlib>
 #include <vector>

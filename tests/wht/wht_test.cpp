@@ -41,7 +41,7 @@ WhtKernel<Element> kernelOf(int order) {
     return exported<WhtKernel<Element>>("zulgWHT_" + std::to_string(order) + suffix<Element>());
 }
 
-// Elements of the buffer of each order: a main area, and behind it a scratch area at 12 and 13.
+// The elements of the buffer of each order: a main area, and after it a scratch area at 12 and 13.
 int bufferElements(int order) {
     if (order < 8) return 0;
     return (1 << order) + (order == 12 ? 256 : order == 13 ? 1024 : 0);
@@ -56,8 +56,8 @@ double storedFactor(int order, int flag, bool isSingle) {
     return isSingle ? single : inverse;
 }
 
-// By stages in falling stride: the other way round than the routines, and the same rows. The definition itself is
-// checked on single rows below.
+// The transform by stages in falling stride. The routines have rising strides, which give the same rows. A test below
+// checks single rows against the definition.
 Values walshHadamard(Values x) {
     for (std::size_t stride = x.size() / 2; stride > 0; stride /= 2) {
         for (std::size_t j = 0; j < x.size(); ++j) {
@@ -116,7 +116,7 @@ TYPED_TEST(WhtTest, ScaleAtSqrtNIsTheStoredOne) {
               static_cast<TypeParam>(this->isSingle ? 0.7071067690849304 : 0.7071067811865475));
 }
 
-// Every row of the matrix up to order 8, some rows above: an impulse at j gives scale times column j.
+// An impulse at j gives scale times column j. Every column is checked up to order 6, and more than 60 of them above.
 TYPED_TEST(WhtTest, RowsAreInNaturalOrder) {
     for (int order = 1; order <= 13; ++order) {
         const int count = 1 << order;
@@ -341,7 +341,7 @@ TYPED_TEST(WhtTest, ABufferNeedsNoAlignmentAtAll) {
     }
 }
 
-TYPED_TEST(WhtTest, SmallOrdersDoNotLookAtTheBuffer) {
+TYPED_TEST(WhtTest, SmallOrdersIgnoreTheBuffer) {
     for (int order = 1; order <= 7; ++order) {
         const auto source = this->randomElements(order);
         std::vector<TypeParam> found(source.size());

@@ -1,7 +1,7 @@
-# From frame/slots.inc to what the linker needs to export exactly those names: the .def of the DLL, with ordinals and
+# From boundary/slots.inc to what the linker needs to export exactly those names: the .def of the DLL, with ordinals and
 # undecorated names, and the version script of the ELF library.
-file(READ ${CMAKE_SOURCE_DIR}/frame/slots.inc slots_text)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/frame/slots.inc)
+file(READ ${CMAKE_SOURCE_DIR}/boundary/slots.inc slots_text)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/boundary/slots.inc)
 string(REGEX MATCHALL "SLOT\\(zulg[^\n]+" slot_lines "${slots_text}")
 list(APPEND slot_lines "SLOT(zulgenGetLibVersion, the last, 0)")  # after the slots, since it has none
 

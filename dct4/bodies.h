@@ -2,7 +2,7 @@
 // know where its values are.
 #pragma once
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 namespace zulg {
 

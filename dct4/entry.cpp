@@ -4,7 +4,7 @@
 #include "dct4/release.h"
 #include "dct4/run.h"
 #include "dct4/size.h"
-#include "frame/core_library.h"
+#include "kernel/core_library.h"
 
 namespace zulg {
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "dct4/bodies.h"
-#include "frame/ports.h"
+#include "kernel/ports.h"
 
 namespace zulg {
 

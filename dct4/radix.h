@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/kernel.h"
+#include "kernel/kernel.h"
 
 namespace zulg {
 

@@ -16,7 +16,7 @@
 #include "dct4/arena.h"
 #include "dct4/list.h"
 #include "dct4/plan_ref.h"
-#include "frame/kernel.h"
+#include "kernel/kernel.h"
 
 namespace zulg {
 

@@ -49,7 +49,7 @@ std::map<std::string, std::string> allFiles() {
         }
     }
     files["kernels/groups.cmake"] = gen::emitGroups(longKernels, fastKernels);
-    files["frame/slots.inc"] = gen::emitSlots(gen::allExports());
+    files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
     return files;
 }

@@ -2,7 +2,7 @@
 // runs one through ports that know the arrays, the stride and whether to scale.
 #pragma once
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // What every kernel of the family does first: the checks in their order, and the factor that the flag selects.
 #pragma once
 
-#include "frame/scale.h"
+#include "kernel/scale.h"
 #include "wht/wht.h"
 
 namespace zulg {

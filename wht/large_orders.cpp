@@ -1,5 +1,5 @@
 // Orders 8 to 13: passes of blocks through a buffer. It is the caller's, or is allocated for the time of the call.
-#include "frame/core_library.h"
+#include "kernel/core_library.h"
 #include "wht/checks.h"
 #include "wht/passes.h"
 

@@ -14,7 +14,7 @@
 // Only the pass that writes the destination scales. Between passes values are rounded to the element.
 #pragma once
 
-#include "frame/ports.h"
+#include "kernel/ports.h"
 #include "wht/bodies/wht_16.h"
 #include "wht/bodies/wht_32.h"
 #include "wht/bodies/wht_64.h"

@@ -1,5 +1,5 @@
 // Orders 1 to 7: one straight-line block from source to destination.
-#include "frame/ports.h"
+#include "kernel/ports.h"
 #include "wht/bodies/wht_128.h"
 #include "wht/bodies/wht_16.h"
 #include "wht/bodies/wht_2.h"

@@ -179,8 +179,8 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
         text += "#pragma once\n\n#include \"" + family.folder + ".h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " +
                 name + " {\n";
     } else {
-        text += "#include \"frame/kernel_body.h\"\n";
-        if (names.hasTable()) text += "#include \"frame/near_constants.h\"\n";
+        text += "#include \"kernel/kernel_body.h\"\n";
+        if (names.hasTable()) text += "#include \"kernel/near_constants.h\"\n";
         text += "\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
                 " {\n    static constexpr double inverseRoot = " + literal(storedInverseRoot(entry.length)) +
                 ";  // 1/sqrt(" + to_string(entry.length) + "), for `scale`\n" + constants + "\n";

@@ -19,7 +19,7 @@ bool isLong(const GraphEntry& entry, const Graph& graph);
 // kernels/groups.cmake: the files of the kernels that are compiled with flags of their own.
 std::string emitGroups(const std::vector<std::string>& longKernels, const std::vector<std::string>& fastKernels);
 
-// frame/slots.inc and include/zulgenpx_routines.h.
+// boundary/slots.inc and include/zulgenpx_routines.h.
 std::string emitSlots(const std::vector<Export>& exports);
 std::string emitRoutines(const std::vector<Export>& exports);
 

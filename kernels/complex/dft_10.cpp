@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 10.
 // Complex DFT of 10 points, prime-factor, order 2, 5.
 // 46 additions, 38 subtractions, 32 multiplications (52 with `scale`); 4 constants; 33 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

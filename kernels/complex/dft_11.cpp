@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 11.
 // Complex DFT of 11 points, Rader block.
 // 86 additions, 70 subtractions, 100 multiplications (122 with `scale`); 14 constants; 24 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

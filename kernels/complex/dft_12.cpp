@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 12.
 // Complex DFT of 12 points, prime-factor, order 4, 3.
 // 48 additions, 48 subtractions, 16 multiplications (40 with `scale`); 2 constants; 26 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 13.
 // Complex DFT of 13 points, Rader block.
 // 88 additions, 88 subtractions, 72 multiplications (98 with `scale`); 18 constants; 30 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

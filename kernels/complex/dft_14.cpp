@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 14.
 // Complex DFT of 14 points, prime-factor, order 2, 7.
 // 74 additions, 74 subtractions, 72 multiplications (100 with `scale`); 6 constants; 33 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 15.
 // Complex DFT of 15 points, prime-factor, order 3, 5.
 // 84 additions, 72 subtractions, 68 multiplications (98 with `scale`); 6 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

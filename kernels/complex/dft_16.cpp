@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 16.
 // Complex DFT of 16 points, twiddled, inner 2, outer 8.
 // 74 additions, 74 subtractions, 28 multiplications (60 with `scale`); 3 constants; 40 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

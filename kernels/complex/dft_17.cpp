@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 17.
 // Complex DFT of 17 points, Rader block.
 // 132 additions, 132 subtractions, 108 multiplications (142 with `scale`); 19 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

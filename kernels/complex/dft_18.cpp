@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 18.
 // Complex DFT of 18 points, prime-factor, order 2, 9.
 // 98 additions, 98 subtractions, 80 multiplications (116 with `scale`); 8 constants; 43 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

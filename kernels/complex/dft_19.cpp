@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 19.
 // Complex DFT of 19 points, Rader block.
 // 182 additions, 182 subtractions, 220 multiplications (258 with `scale`); 28 constants; 39 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

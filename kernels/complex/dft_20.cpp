@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 20.
 // Complex DFT of 20 points, prime-factor, order 4, 5.
 // 112 additions, 96 subtractions, 64 multiplications (104 with `scale`); 4 constants; 45 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

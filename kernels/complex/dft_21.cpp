@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 21.
 // Complex DFT of 21 points, prime-factor, order 3, 7.
 // 132 additions, 132 subtractions, 136 multiplications (178 with `scale`); 8 constants; 47 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

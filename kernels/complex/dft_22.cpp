@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 22.
 // Complex DFT of 22 points, prime-factor, order 2, 11.
 // 194 additions, 162 subtractions, 200 multiplications (244 with `scale`); 14 constants; 48 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

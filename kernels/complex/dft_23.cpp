@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 23.
 // Complex DFT of 23 points, Rader block.
 // 336 additions, 308 subtractions, 484 multiplications (530 with `scale`); 46 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

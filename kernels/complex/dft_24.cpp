@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 24.
 // Complex DFT of 24 points, prime-factor, order 8, 3.
 // 126 additions, 126 subtractions, 44 multiplications (92 with `scale`); 3 constants; 50 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

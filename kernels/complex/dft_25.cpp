@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 25.
 // Complex DFT of 25 points, twiddled, inner 5, outer 5.
 // 195 additions, 157 subtractions, 224 multiplications (274 with `scale`); 20 constants; 58 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

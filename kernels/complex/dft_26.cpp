@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 26.
 // Complex DFT of 26 points, prime-factor, order 13, 2.
 // 202 additions, 202 subtractions, 144 multiplications (196 with `scale`); 18 constants; 96 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

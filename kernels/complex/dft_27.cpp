@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 27.
 // Complex DFT of 27 points, twiddled, inner 9, outer 3.
 // 190 additions, 190 subtractions, 220 multiplications (274 with `scale`); 26 constants; 56 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 28.
 // Complex DFT of 28 points, prime-factor, order 7, 4.
 // 176 additions, 176 subtractions, 144 multiplications (200 with `scale`); 6 constants; 68 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 29.
 // Complex DFT of 29 points, Rader block.
 // 332 additions, 324 subtractions, 396 multiplications (454 with `scale`); 34 constants; 68 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 3.
 // Complex DFT of 3 points, direct symmetric form.
 // 6 additions, 6 subtractions, 4 multiplications (10 with `scale`); 2 constants; 7 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

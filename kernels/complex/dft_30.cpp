@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 30.
 // Complex DFT of 30 points, prime-factor, order 5, 3, 2.
 // 198 additions, 174 subtractions, 136 multiplications (196 with `scale`); 6 constants; 74 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 31.
 // Complex DFT of 31 points, Rader block.
 // 367 additions, 325 subtractions, 384 multiplications (446 with `scale`); 40 constants; 66 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 32.
 // Complex DFT of 32 points, twiddled, inner 8, outer 4.
 // 188 additions, 188 subtractions, 88 multiplications (152 with `scale`); 7 constants; 66 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

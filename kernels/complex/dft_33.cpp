@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 33.
 // Complex DFT of 33 points, prime-factor, order 3, 11.
 // 318 additions, 282 subtractions, 344 multiplications (410 with `scale`); 16 constants; 70 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 34.
 // Complex DFT of 34 points, prime-factor, order 2, 17.
 // 298 additions, 298 subtractions, 216 multiplications (284 with `scale`); 19 constants; 83 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 35.
 // Complex DFT of 35 points, prime-factor, order 5, 7.
 // 276 additions, 248 subtractions, 292 multiplications (362 with `scale`); 10 constants; 78 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

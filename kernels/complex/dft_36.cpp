@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 36.
 // Complex DFT of 36 points, prime-factor, order 9, 4.
 // 232 additions, 232 subtractions, 160 multiplications (232 with `scale`); 8 constants; 74 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

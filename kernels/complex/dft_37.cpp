@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 37.
 // Complex DFT of 37 points, Rader block.
 // 432 additions, 432 subtractions, 444 multiplications (518 with `scale`); 46 constants; 75 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

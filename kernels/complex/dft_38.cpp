@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 38.
 // Complex DFT of 38 points, prime-factor, order 19, 2.
 // 402 additions, 402 subtractions, 440 multiplications (516 with `scale`); 28 constants; 144 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 39.
 // Complex DFT of 39 points, prime-factor, order 3, 13.
 // 342 additions, 342 subtractions, 268 multiplications (346 with `scale`); 18 constants; 82 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 4.
 // Complex DFT of 4 points, twiddled, inner 2, outer 2.
 // 8 additions, 8 subtractions, 0 multiplications (8 with `scale`); 0 constants; 10 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 40.
 // Complex DFT of 40 points, prime-factor, order 5, 8.
 // 274 additions, 242 subtractions, 148 multiplications (228 with `scale`); 5 constants; 88 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

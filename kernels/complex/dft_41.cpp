@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 41.
 // Complex DFT of 41 points, Rader block.
 // 499 additions, 461 subtractions, 452 multiplications (534 with `scale`); 45 constants; 88 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

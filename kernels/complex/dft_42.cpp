@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 42.
 // Complex DFT of 42 points, prime-factor, order 7, 3, 2.
 // 306 additions, 306 subtractions, 272 multiplications (356 with `scale`); 8 constants; 106 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

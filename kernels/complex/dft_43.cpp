@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 43.
 // Complex DFT of 43 points, Rader block.
 // 574 additions, 574 subtractions, 708 multiplications (794 with `scale`); 50 constants; 91 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 44.
 // Complex DFT of 44 points, prime-factor, order 11, 4.
 // 424 additions, 376 subtractions, 400 multiplications (488 with `scale`); 14 constants; 129 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 45.
 // Complex DFT of 45 points, prime-factor, order 9, 5.
 // 362 additions, 326 subtractions, 344 multiplications (434 with `scale`); 12 constants; 95 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

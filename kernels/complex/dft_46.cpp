@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 46.
 // Complex DFT of 46 points, prime-factor, order 23, 2.
 // 726 additions, 654 subtractions, 968 multiplications (1060 with `scale`); 46 constants; 146 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 47.
 // Complex DFT of 47 points, Rader block.
 // 1319 additions, 1293 subtractions, 2116 multiplications (2210 with `scale`); 92 constants; 105 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 48.
 // Complex DFT of 48 points, prime-factor, order 3, 16.
 // 318 additions, 318 subtractions, 148 multiplications (244 with `scale`); 5 constants; 129 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 49.
 // Complex DFT of 49 points, twiddled, inner 7, outer 7.
 // 453 additions, 459 subtractions, 648 multiplications (746 with `scale`); 40 constants; 110 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 5.
 // Complex DFT of 5 points, direct symmetric form.
 // 18 additions, 14 subtractions, 16 multiplications (26 with `scale`); 4 constants; 15 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 50.
 // Complex DFT of 50 points, prime-factor, order 25, 2.
 // 438 additions, 366 subtractions, 448 multiplications (548 with `scale`); 20 constants; 108 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 51.
 // Complex DFT of 51 points, prime-factor, order 3, 17.
 // 498 additions, 498 subtractions, 392 multiplications (494 with `scale`); 21 constants; 104 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 52.
 // Complex DFT of 52 points, prime-factor, order 4, 13.
 // 456 additions, 456 subtractions, 288 multiplications (392 with `scale`); 18 constants; 108 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 53.
 // Complex DFT of 53 points, Rader block.
 // 880 additions, 880 subtractions, 852 multiplications (958 with `scale`); 72 constants; 110 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

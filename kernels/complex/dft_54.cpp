@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 54.
 // Complex DFT of 54 points, prime-factor, order 27, 2.
 // 434 additions, 434 subtractions, 440 multiplications (548 with `scale`); 26 constants; 135 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 55.
 // Complex DFT of 55 points, prime-factor, order 11, 5.
 // 628 additions, 504 subtractions, 676 multiplications (786 with `scale`); 14 constants; 115 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 56.
 // Complex DFT of 56 points, prime-factor, order 7, 8.
 // 422 additions, 422 subtractions, 316 multiplications (428 with `scale`); 7 constants; 124 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 57.
 // Complex DFT of 57 points, prime-factor, order 19, 3.
 // 660 additions, 660 subtractions, 736 multiplications (850 with `scale`); 28 constants; 117 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

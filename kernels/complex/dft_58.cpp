@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 58.
 // Complex DFT of 58 points, prime-factor, order 29, 2.
 // 722 additions, 706 subtractions, 792 multiplications (908 with `scale`); 34 constants; 254 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 59.
 // Complex DFT of 59 points, Rader block.
 // 1404 additions, 1392 subtractions, 1908 multiplications (2026 with `scale`); 92 constants; 227 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

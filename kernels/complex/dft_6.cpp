@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 6.
 // Complex DFT of 6 points, prime-factor, order 3, 2.
 // 18 additions, 18 subtractions, 8 multiplications (20 with `scale`); 2 constants; 14 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 60.
 // Complex DFT of 60 points, prime-factor, order 3, 5, 4.
 // 456 additions, 408 subtractions, 272 multiplications (392 with `scale`); 6 constants; 128 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

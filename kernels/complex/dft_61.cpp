@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 61.
 // Complex DFT of 61 points, Rader block.
 // 856 additions, 760 subtractions, 780 multiplications (902 with `scale`); 66 constants; 128 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

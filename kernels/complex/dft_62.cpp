@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 62.
 // Complex DFT of 62 points, prime-factor, order 31, 2.
 // 796 additions, 712 subtractions, 768 multiplications (892 with `scale`); 40 constants; 240 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 63.
 // Complex DFT of 63 points, prime-factor, order 7, 9.
 // 550 additions, 550 subtractions, 604 multiplications (730 with `scale`); 14 constants; 138 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 64.
 // Complex DFT of 64 points, twiddled, inner 8, outer 8.
 // 464 additions, 464 subtractions, 248 multiplications (376 with `scale`); 15 constants; 130 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 7.
 // Complex DFT of 7 points, direct symmetric form.
 // 30 additions, 30 subtractions, 36 multiplications (50 with `scale`); 6 constants; 19 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 8.
 // Complex DFT of 8 points, twiddled, inner 2, outer 4.
 // 26 additions, 26 subtractions, 4 multiplications (20 with `scale`); 1 constants; 19 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

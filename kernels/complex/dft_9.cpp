@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 9.
 // Complex DFT of 9 points, twiddled, inner 3, outer 3.
 // 40 additions, 40 subtractions, 40 multiplications (58 with `scale`); 8 constants; 20 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 10.
 // Hartley transform of 10 points, form I.
 // 23 additions, 19 subtractions, 16 multiplications (26 with `scale`); 4 constants; 13 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 11.
 // Hartley transform of 11 points, form F.
 // 36 additions, 34 subtractions, 50 multiplications (61 with `scale`); 10 constants; 42 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

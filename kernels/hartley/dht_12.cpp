@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 12.
 // Hartley transform of 12 points, form I.
 // 24 additions, 24 subtractions, 8 multiplications (20 with `scale`); 2 constants; 17 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 13.
 // Hartley transform of 13 points, form I.
 // 46 additions, 46 subtractions, 44 multiplications (57 with `scale`); 18 constants; 21 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 14.
 // Hartley transform of 14 points, form I.
 // 37 additions, 37 subtractions, 36 multiplications (50 with `scale`); 6 constants; 17 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

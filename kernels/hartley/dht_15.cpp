@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 15.
 // Hartley transform of 15 points, form I.
 // 42 additions, 36 subtractions, 34 multiplications (49 with `scale`); 6 constants; 18 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 16.
 // Hartley transform of 16 points, form F.
 // 36 additions, 36 subtractions, 12 multiplications (28 with `scale`); 3 constants; 17 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

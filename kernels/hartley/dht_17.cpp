@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 17.
 // Hartley transform of 17 points, form F.
 // 66 additions, 66 subtractions, 54 multiplications (71 with `scale`); 19 constants; 18 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 18.
 // Hartley transform of 18 points, form I.
 // 49 additions, 49 subtractions, 36 multiplications (54 with `scale`); 10 constants; 21 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 19.
 // Hartley transform of 19 points, form F.
 // 91 additions, 91 subtractions, 108 multiplications (127 with `scale`); 36 constants; 22 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

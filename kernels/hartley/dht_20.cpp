@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 20.
 // Hartley transform of 20 points, form I.
 // 55 additions, 49 subtractions, 32 multiplications (52 with `scale`); 4 constants; 27 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 21.
 // Hartley transform of 21 points, form F.
 // 69 additions, 63 subtractions, 68 multiplications (89 with `scale`); 8 constants; 28 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 22.
 // Hartley transform of 22 points, form F.
 // 85 additions, 77 subtractions, 100 multiplications (122 with `scale`); 10 constants; 82 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 23.
 // Hartley transform of 23 points, form I.
 // 152 additions, 154 subtractions, 242 multiplications (265 with `scale`); 32 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

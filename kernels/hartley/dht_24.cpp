@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 24.
 // Hartley transform of 24 points, form F.
 // 63 additions, 63 subtractions, 22 multiplications (46 with `scale`); 3 constants; 31 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

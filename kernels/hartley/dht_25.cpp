@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 25.
 // Hartley transform of 25 points, form I.
 // 97 additions, 79 subtractions, 112 multiplications (137 with `scale`); 16 constants; 33 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 26.
 // Hartley transform of 26 points, form F.
 // 103 additions, 103 subtractions, 82 multiplications (108 with `scale`); 16 constants; 41 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

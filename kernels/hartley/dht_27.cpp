@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 27.
 // Hartley transform of 27 points, form I.
 // 95 additions, 95 subtractions, 100 multiplications (127 with `scale`); 36 constants; 36 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 28.
 // Hartley transform of 28 points, form I.
 // 88 additions, 88 subtractions, 72 multiplications (100 with `scale`); 6 constants; 31 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 29.
 // Hartley transform of 29 points, form F.
 // 170 additions, 164 subtractions, 210 multiplications (239 with `scale`); 34 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 3.
 // Hartley transform of 3 points, form F.
 // 3 additions, 3 subtractions, 2 multiplications (5 with `scale`); 2 constants; 4 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 30.
 // Hartley transform of 30 points, form I.
 // 99 additions, 87 subtractions, 68 multiplications (98 with `scale`); 6 constants; 34 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 31.
 // Hartley transform of 31 points, form I.
 // 185 additions, 161 subtractions, 194 multiplications (225 with `scale`); 36 constants; 38 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

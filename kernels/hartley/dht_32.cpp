@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 32.
 // Hartley transform of 32 points, form I.
 // 93 additions, 93 subtractions, 42 multiplications (74 with `scale`); 7 constants; 34 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

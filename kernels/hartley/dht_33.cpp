@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 33.
 // Hartley transform of 33 points, form I.
 // 162 additions, 138 subtractions, 172 multiplications (205 with `scale`); 16 constants; 37 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

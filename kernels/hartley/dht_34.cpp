@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 34.
 // Hartley transform of 34 points, form I.
 // 149 additions, 149 subtractions, 108 multiplications (142 with `scale`); 19 constants; 64 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

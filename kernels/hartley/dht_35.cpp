@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 35.
 // Hartley transform of 35 points, form I.
 // 136 additions, 126 subtractions, 146 multiplications (181 with `scale`); 10 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

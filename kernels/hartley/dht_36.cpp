@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 36.
 // Hartley transform of 36 points, form I.
 // 116 additions, 116 subtractions, 72 multiplications (108 with `scale`); 10 constants; 39 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

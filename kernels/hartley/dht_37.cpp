@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 37.
 // Hartley transform of 37 points, form I.
 // 219 additions, 219 subtractions, 236 multiplications (273 with `scale`); 52 constants; 67 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

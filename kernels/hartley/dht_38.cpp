@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 38.
 // Hartley transform of 38 points, form F.
 // 201 additions, 201 subtractions, 216 multiplications (254 with `scale`); 36 constants; 73 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

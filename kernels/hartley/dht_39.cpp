@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 39.
 // Hartley transform of 39 points, form F.
 // 174 additions, 174 subtractions, 149 multiplications (188 with `scale`); 16 constants; 41 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

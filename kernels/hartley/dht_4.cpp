@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 4.
 // Hartley transform of 4 points, form F.
 // 4 additions, 4 subtractions, 0 multiplications (4 with `scale`); 0 constants; 5 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 40.
 // Hartley transform of 40 points, form I.
 // 134 additions, 124 subtractions, 74 multiplications (114 with `scale`); 5 constants; 53 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

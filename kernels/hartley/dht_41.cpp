@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 41.
 // Hartley transform of 41 points, form F.
 // 252 additions, 232 subtractions, 242 multiplications (283 with `scale`); 49 constants; 48 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

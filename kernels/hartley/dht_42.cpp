@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 42.
 // Hartley transform of 42 points, form I.
 // 153 additions, 153 subtractions, 136 multiplications (178 with `scale`); 8 constants; 64 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 43.
 // Hartley transform of 43 points, form I.
 // 279 additions, 295 subtractions, 352 multiplications (395 with `scale`); 54 constants; 49 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 44.
 // Hartley transform of 44 points, form I.
 // 216 additions, 184 subtractions, 200 multiplications (244 with `scale`); 14 constants; 48 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

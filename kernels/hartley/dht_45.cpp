@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 45.
 // Hartley transform of 45 points, form I.
 // 178 additions, 166 subtractions, 162 multiplications (207 with `scale`); 14 constants; 53 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 46.
 // Hartley transform of 46 points, form I.
 // 326 additions, 332 subtractions, 484 multiplications (530 with `scale`); 32 constants; 119 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

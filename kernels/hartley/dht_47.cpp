@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 47.
 // Hartley transform of 47 points, form F.
 // 655 additions, 651 subtractions, 1058 multiplications (1105 with `scale`); 112 constants; 59 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

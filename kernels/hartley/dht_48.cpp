@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 48.
 // Hartley transform of 48 points, form I.
 // 158 additions, 158 subtractions, 72 multiplications (120 with `scale`); 5 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 49.
 // Hartley transform of 49 points, form F.
 // 228 additions, 228 subtractions, 324 multiplications (373 with `scale`); 30 constants; 60 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 5.
 // Hartley transform of 5 points, form F.
 // 9 additions, 7 subtractions, 8 multiplications (13 with `scale`); 4 constants; 8 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

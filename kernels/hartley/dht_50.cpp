@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 50.
 // Hartley transform of 50 points, form F.
 // 219 additions, 183 subtractions, 224 multiplications (274 with `scale`); 16 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

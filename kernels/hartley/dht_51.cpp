@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 51.
 // Hartley transform of 51 points, form I.
 // 249 additions, 249 subtractions, 196 multiplications (247 with `scale`); 21 constants; 54 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 52.
 // Hartley transform of 52 points, form F.
 // 232 additions, 232 subtractions, 164 multiplications (216 with `scale`); 16 constants; 54 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

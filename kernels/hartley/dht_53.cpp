@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 53.
 // Hartley transform of 53 points, form I.
 // 446 additions, 446 subtractions, 450 multiplications (503 with `scale`); 100 constants; 60 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 54.
 // Hartley transform of 54 points, form I.
 // 217 additions, 217 subtractions, 200 multiplications (254 with `scale`); 36 constants; 71 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

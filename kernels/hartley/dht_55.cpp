@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 55.
 // Hartley transform of 55 points, form I.
 // 301 additions, 265 subtractions, 338 multiplications (393 with `scale`); 14 constants; 63 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

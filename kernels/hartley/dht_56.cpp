@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 56.
 // Hartley transform of 56 points, form I.
 // 211 additions, 211 subtractions, 158 multiplications (214 with `scale`); 7 constants; 77 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 57.
 // Hartley transform of 57 points, form F.
 // 330 additions, 330 subtractions, 362 multiplications (419 with `scale`); 36 constants; 61 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 58.
 // Hartley transform of 58 points, form F.
 // 371 additions, 355 subtractions, 420 multiplications (478 with `scale`); 34 constants; 65 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

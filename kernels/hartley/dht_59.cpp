@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 59.
 // Hartley transform of 59 points, form F.
 // 707 additions, 691 subtractions, 954 multiplications (1013 with `scale`); 116 constants; 71 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 60.
 // Hartley transform of 60 points, form I.
 // 228 additions, 204 subtractions, 136 multiplications (196 with `scale`); 6 constants; 63 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

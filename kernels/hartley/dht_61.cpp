@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 61.
 // Hartley transform of 61 points, form F.
 // 433 additions, 389 subtractions, 415 multiplications (476 with `scale`); 80 constants; 68 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 62.
 // Hartley transform of 62 points, form I.
 // 395 additions, 359 subtractions, 388 multiplications (450 with `scale`); 36 constants; 120 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 63.
 // Hartley transform of 63 points, form F.
 // 275 additions, 275 subtractions, 302 multiplications (365 with `scale`); 14 constants; 70 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 64.
 // Hartley transform of 64 points, form I.
 // 231 additions, 231 subtractions, 134 multiplications (198 with `scale`); 15 constants; 81 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 7.
 // Hartley transform of 7 points, form F.
 // 15 additions, 15 subtractions, 18 multiplications (25 with `scale`); 6 constants; 13 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

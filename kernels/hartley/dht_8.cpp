@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 8.
 // Hartley transform of 8 points, form F.
 // 13 additions, 13 subtractions, 2 multiplications (10 with `scale`); 1 constants; 9 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 9.
 // Hartley transform of 9 points, form F.
 // 20 additions, 20 subtractions, 20 multiplications (29 with `scale`); 6 constants; 13 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 10.
 // Forward DFT of 10 real points, prime-factor 5, 2.
 // 19 additions, 15 subtractions, 16 multiplications (26 with `scale`); 3 outputs negated; 4 constants; 14 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 11.
 // Forward DFT of 11 real points, direct.
 // 29 additions, 31 subtractions, 50 multiplications (61 with `scale`); 1 outputs negated; 10 constants; 16 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

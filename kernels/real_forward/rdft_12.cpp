@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 12.
 // Forward DFT of 12 real points, prime-factor 4, 3.
 // 19 additions, 19 subtractions, 8 multiplications (20 with `scale`); 3 outputs negated; 2 constants; 13 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

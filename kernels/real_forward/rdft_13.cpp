@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 13.
 // Forward DFT of 13 real points, Rader 3, 4.
 // 39 additions, 39 subtractions, 41 multiplications (54 with `scale`); 2 outputs negated; 16 constants; 14 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

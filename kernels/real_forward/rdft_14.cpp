@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 14.
 // Forward DFT of 14 real points, prime-factor 2, 7.
 // 31 additions, 31 subtractions, 36 multiplications (50 with `scale`); 3 outputs negated; 6 constants; 23 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 15.
 // Forward DFT of 15 real points, prime-factor 3, 5.
 // 35 additions, 29 subtractions, 34 multiplications (49 with `scale`); 3 outputs negated; 6 constants; 17 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

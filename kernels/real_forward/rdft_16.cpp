@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 16.
 // Forward DFT of 16 real points, twiddled 4, 4.
 // 29 additions, 29 subtractions, 12 multiplications (28 with `scale`); 6 outputs negated; 3 constants; 23 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

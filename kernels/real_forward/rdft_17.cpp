@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 17.
 // Forward DFT of 17 real points, Rader 16.
 // 58 additions, 58 subtractions, 54 multiplications (71 with `scale`); 5 outputs negated; 19 constants; 18 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 18.
 // Forward DFT of 18 real points, prime-factor 2, 9.
 // 41 additions, 41 subtractions, 40 multiplications (58 with `scale`); 4 outputs negated; 6 constants; 19 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

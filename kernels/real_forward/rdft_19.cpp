@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 19.
 // Forward DFT of 19 real points, Rader 9, 2.
 // 82 additions, 82 subtractions, 108 multiplications (127 with `scale`); 4 outputs negated; 36 constants; 22 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 2.
 // Forward DFT of 2 real points, base.
 // 1 additions, 1 subtractions, 0 multiplications (2 with `scale`); 0 constants; 3 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 20.
 // Forward DFT of 20 real points, prime-factor 5, 4.
 // 47 additions, 39 subtractions, 32 multiplications (52 with `scale`); 5 outputs negated; 4 constants; 24 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

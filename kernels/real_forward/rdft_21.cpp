@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 21.
 // Forward DFT of 21 real points, prime-factor 7, 3.
 // 53 additions, 59 subtractions, 68 multiplications (89 with `scale`); 6 outputs negated; 8 constants; 28 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 22.
 // Forward DFT of 22 real points, prime-factor 2, 11.
 // 75 additions, 67 subtractions, 100 multiplications (122 with `scale`); 5 outputs negated; 10 constants; 27 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

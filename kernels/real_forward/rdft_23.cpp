@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 23.
 // Forward DFT of 23 real points, Rader 2, 11.
 // 160 additions, 140 subtractions, 242 multiplications (265 with `scale`); 4 outputs negated; 46 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 24.
 // Forward DFT of 24 real points, prime-factor 3, 8.
 // 52 additions, 52 subtractions, 22 multiplications (46 with `scale`); 5 outputs negated; 3 constants; 33 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 25.
 // Forward DFT of 25 real points, twiddled 5, 5.
 // 85 additions, 67 subtractions, 112 multiplications (137 with `scale`); 6 outputs negated; 16 constants; 29 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 26.
 // Forward DFT of 26 real points, prime-factor 13, 2.
 // 91 additions, 91 subtractions, 82 multiplications (108 with `scale`); 7 outputs negated; 16 constants; 41 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 27.
 // Forward DFT of 27 real points, twiddled 9, 3.
 // 82 additions, 82 subtractions, 110 multiplications (137 with `scale`); 8 outputs negated; 14 constants; 29 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 28.
 // Forward DFT of 28 real points, prime-factor 4, 7.
 // 77 additions, 73 subtractions, 72 multiplications (100 with `scale`); 7 outputs negated; 6 constants; 31 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 29.
 // Forward DFT of 29 real points, Rader 7, 4.
 // 156 additions, 150 subtractions, 210 multiplications (239 with `scale`); 8 outputs negated; 34 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 3.
 // Forward DFT of 3 real points, direct.
 // 2 additions, 2 subtractions, 2 multiplications (5 with `scale`); 1 outputs negated; 2 constants; 4 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

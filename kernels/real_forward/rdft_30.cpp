@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 30.
 // Forward DFT of 30 real points, prime-factor 5, 3, 2.
 // 85 additions, 73 subtractions, 68 multiplications (98 with `scale`); 9 outputs negated; 6 constants; 34 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

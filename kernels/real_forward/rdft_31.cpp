@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 31.
 // Forward DFT of 31 real points, Rader 3, 2, 5.
 // 167 additions, 149 subtractions, 192 multiplications (223 with `scale`); 6 outputs negated; 40 constants; 38 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

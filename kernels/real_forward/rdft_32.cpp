@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 32.
 // Forward DFT of 32 real points, twiddled 8, 4.
 // 79 additions, 79 subtractions, 44 multiplications (76 with `scale`); 10 outputs negated; 7 constants; 34 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 33.
 // Forward DFT of 33 real points, prime-factor 11, 3.
 // 119 additions, 125 subtractions, 172 multiplications (205 with `scale`); 8 outputs negated; 12 constants; 46 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 34.
 // Forward DFT of 34 real points, prime-factor 2, 17.
 // 133 additions, 133 subtractions, 108 multiplications (142 with `scale`); 8 outputs negated; 19 constants; 36 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 35.
 // Forward DFT of 35 real points, prime-factor 7, 5.
 // 121 additions, 107 subtractions, 146 multiplications (181 with `scale`); 8 outputs negated; 10 constants; 42 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

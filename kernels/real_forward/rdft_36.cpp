@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 36.
 // Forward DFT of 36 real points, prime-factor 9, 4.
 // 99 additions, 99 subtractions, 80 multiplications (116 with `scale`); 10 outputs negated; 6 constants; 38 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 37.
 // Forward DFT of 37 real points, Rader 4, 9.
 // 200 additions, 200 subtractions, 228 multiplications (265 with `scale`); 8 outputs negated; 52 constants; 39 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 38.
 // Forward DFT of 38 real points, prime-factor 19, 2.
 // 183 additions, 183 subtractions, 216 multiplications (254 with `scale`); 12 outputs negated; 36 constants; 73 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 39.
 // Forward DFT of 39 real points, prime-factor 13, 3.
 // 155 additions, 155 subtractions, 149 multiplications (188 with `scale`); 11 outputs negated; 16 constants; 41 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

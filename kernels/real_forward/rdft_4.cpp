@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 4.
 // Forward DFT of 4 real points, twiddled 2, 2.
 // 3 additions, 3 subtractions, 0 multiplications (4 with `scale`); 1 outputs negated; 0 constants; 4 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

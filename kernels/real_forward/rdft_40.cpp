@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 40.
 // Forward DFT of 40 real points, prime-factor 8, 5.
 // 117 additions, 103 subtractions, 74 multiplications (114 with `scale`); 11 outputs negated; 5 constants; 42 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

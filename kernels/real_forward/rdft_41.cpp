@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 41.
 // Forward DFT of 41 real points, Rader 5, 8.
 // 231 additions, 213 subtractions, 242 multiplications (283 with `scale`); 9 outputs negated; 49 constants; 48 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 42.
 // Forward DFT of 42 real points, prime-factor 7, 3, 2.
 // 133 additions, 133 subtractions, 136 multiplications (178 with `scale`); 10 outputs negated; 8 constants; 49 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 43.
 // Forward DFT of 43 real points, Rader 2, 7, 3.
 // 264 additions, 268 subtractions, 352 multiplications (395 with `scale`); 9 outputs negated; 54 constants; 49 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

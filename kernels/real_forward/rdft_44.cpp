@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 44.
 // Forward DFT of 44 real points, prime-factor 11, 4.
 // 159 additions, 167 subtractions, 200 multiplications (244 with `scale`); 11 outputs negated; 10 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

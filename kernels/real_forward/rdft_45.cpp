@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 45.
 // Forward DFT of 45 real points, prime-factor 5, 9.
 // 159 additions, 141 subtractions, 172 multiplications (217 with `scale`); 11 outputs negated; 12 constants; 49 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

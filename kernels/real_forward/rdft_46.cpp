@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 46.
 // Forward DFT of 46 real points, prime-factor 2, 23.
 // 341 additions, 305 subtractions, 484 multiplications (530 with `scale`); 11 outputs negated; 46 constants; 59 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

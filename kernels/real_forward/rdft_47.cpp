@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 47.
 // Forward DFT of 47 real points, Rader 23, 2.
 // 632 additions, 628 subtractions, 1058 multiplications (1105 with `scale`); 9 outputs negated; 112 constants; 59 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

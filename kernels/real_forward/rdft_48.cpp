@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 48.
 // Forward DFT of 48 real points, prime-factor 16, 3.
 // 133 additions, 133 subtractions, 68 multiplications (116 with `scale`); 14 outputs negated; 5 constants; 50 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

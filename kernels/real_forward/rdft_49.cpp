@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 49.
 // Forward DFT of 49 real points, twiddled 7, 7.
 // 204 additions, 204 subtractions, 324 multiplications (373 with `scale`); 11 outputs negated; 30 constants; 56 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

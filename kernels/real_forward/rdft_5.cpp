@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 5.
 // Forward DFT of 5 real points, direct.
 // 7 additions, 5 subtractions, 8 multiplications (13 with `scale`); 1 outputs negated; 4 constants; 7 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 50.
 // Forward DFT of 50 real points, prime-factor 25, 2.
 // 193 additions, 161 subtractions, 224 multiplications (274 with `scale`); 18 outputs negated; 16 constants; 58 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

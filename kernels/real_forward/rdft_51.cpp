@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 51.
 // Forward DFT of 51 real points, prime-factor 17, 3.
 // 224 additions, 224 subtractions, 196 multiplications (247 with `scale`); 16 outputs negated; 21 constants; 53 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 52.
 // Forward DFT of 52 real points, prime-factor 13, 4.
 // 207 additions, 207 subtractions, 164 multiplications (216 with `scale`); 14 outputs negated; 16 constants; 54 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

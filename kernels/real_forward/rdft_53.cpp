@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 53.
 // Forward DFT of 53 real points, Rader 4, 13.
 // 422 additions, 422 subtractions, 456 multiplications (509 with `scale`); 14 outputs negated; 96 constants; 58 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 54.
 // Forward DFT of 54 real points, prime-factor 2, 27.
 // 191 additions, 191 subtractions, 220 multiplications (274 with `scale`); 13 outputs negated; 14 constants; 56 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

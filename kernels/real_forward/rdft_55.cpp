@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 55.
 // Forward DFT of 55 real points, prime-factor 11, 5.
 // 241 additions, 231 subtractions, 338 multiplications (393 with `scale`); 14 outputs negated; 14 constants; 68 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 56.
 // Forward DFT of 56 real points, prime-factor 7, 8.
 // 184 additions, 184 subtractions, 158 multiplications (214 with `scale`); 14 outputs negated; 7 constants; 63 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

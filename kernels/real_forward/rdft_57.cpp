@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 57.
 // Forward DFT of 57 real points, prime-factor 19, 3.
 // 302 additions, 302 subtractions, 362 multiplications (419 with `scale`); 16 outputs negated; 36 constants; 61 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

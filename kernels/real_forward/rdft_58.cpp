@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 58.
 // Forward DFT of 58 real points, prime-factor 2, 29.
 // 343 additions, 327 subtractions, 420 multiplications (478 with `scale`); 14 outputs negated; 34 constants; 65 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

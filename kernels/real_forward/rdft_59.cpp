@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 59.
 // Forward DFT of 59 real points, Rader 29, 2.
 // 678 additions, 662 subtractions, 954 multiplications (1013 with `scale`); 10 outputs negated; 116 constants; 71 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

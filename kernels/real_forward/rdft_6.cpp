@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 6.
 // Forward DFT of 6 real points, prime-factor 3, 2.
 // 7 additions, 7 subtractions, 4 multiplications (10 with `scale`); 1 outputs negated; 2 constants; 7 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 60.
 // Forward DFT of 60 real points, prime-factor 3, 5, 4.
 // 199 additions, 175 subtractions, 136 multiplications (196 with `scale`); 18 outputs negated; 6 constants; 68 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 61.
 // Forward DFT of 61 real points, Rader 3, 5, 4.
 // 403 additions, 359 subtractions, 415 multiplications (476 with `scale`); 14 outputs negated; 80 constants; 68 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

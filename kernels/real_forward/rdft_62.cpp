@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 62.
 // Forward DFT of 62 real points, prime-factor 31, 2.
 // 363 additions, 331 subtractions, 384 multiplications (446 with `scale`); 21 outputs negated; 40 constants; 69 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

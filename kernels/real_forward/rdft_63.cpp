@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 63.
 // Forward DFT of 63 real points, prime-factor 7, 9.
 // 244 additions, 244 subtractions, 302 multiplications (365 with `scale`); 18 outputs negated; 14 constants; 70 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 64.
 // Forward DFT of 64 real points, twiddled 16, 4.
 // 199 additions, 199 subtractions, 132 multiplications (196 with `scale`); 19 outputs negated; 15 constants; 66 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

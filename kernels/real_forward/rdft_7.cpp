@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 7.
 // Forward DFT of 7 real points, direct.
 // 12 additions, 12 subtractions, 18 multiplications (25 with `scale`); 1 outputs negated; 6 constants; 10 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 8.
 // Forward DFT of 8 real points, twiddled 2, 4.
 // 10 additions, 10 subtractions, 2 multiplications (10 with `scale`); 3 outputs negated; 1 constants; 9 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

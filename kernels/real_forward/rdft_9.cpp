@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 9.
 // Forward DFT of 9 real points, twiddled 3, 3.
 // 16 additions, 16 subtractions, 20 multiplications (29 with `scale`); 3 outputs negated; 6 constants; 10 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 10.
 // Inverse DFT to 10 real points, prime-factor 2, 5.
 // 19 additions, 15 subtractions, 24 multiplications (34 with `scale`); 5 constants; 13 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

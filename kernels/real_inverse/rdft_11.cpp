@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 11.
 // Inverse DFT to 11 real points, Rader 2, 5.
 // 38 additions, 30 subtractions, 60 multiplications (71 with `scale`); 15 constants; 22 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 12.
 // Inverse DFT to 12 real points, prime-factor 3, 4.
 // 19 additions, 19 subtractions, 16 multiplications (28 with `scale`); 4 constants; 13 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 13.
 // Inverse DFT to 13 real points, Rader 3, 4.
 // 40 additions, 40 subtractions, 56 multiplications (69 with `scale`); 19 constants; 18 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 14.
 // Inverse DFT to 14 real points, prime-factor 2, 7.
 // 31 additions, 31 subtractions, 48 multiplications (62 with `scale`); 7 constants; 17 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

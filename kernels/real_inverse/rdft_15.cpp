@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 15.
 // Inverse DFT to 15 real points, prime-factor 3, 5.
 // 35 additions, 29 subtractions, 47 multiplications (62 with `scale`); 8 constants; 18 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 16.
 // Inverse DFT to 16 real points, twiddled 4, 4.
 // 29 additions, 29 subtractions, 26 multiplications (42 with `scale`); 4 constants; 19 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

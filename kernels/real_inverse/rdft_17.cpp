@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 17.
 // Inverse DFT to 17 real points, Rader 16.
 // 58 additions, 58 subtractions, 68 multiplications (85 with `scale`); 21 constants; 33 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 18.
 // Inverse DFT to 18 real points, prime-factor 2, 9.
 // 41 additions, 41 subtractions, 52 multiplications (70 with `scale`); 11 constants; 21 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 19.
 // Inverse DFT to 19 real points, Rader 2, 9.
 // 82 additions, 82 subtractions, 128 multiplications (147 with `scale`); 31 constants; 23 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 20.
 // Inverse DFT to 20 real points, prime-factor 5, 4.
 // 46 additions, 40 subtractions, 50 multiplications (70 with `scale`); 5 constants; 37 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 21.
 // Inverse DFT to 21 real points, prime-factor 3, 7.
 // 56 additions, 56 subtractions, 87 multiplications (108 with `scale`); 10 constants; 37 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

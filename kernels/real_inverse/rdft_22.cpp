@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 22.
 // Inverse DFT to 22 real points, prime-factor 11, 2.
 // 84 additions, 74 subtractions, 120 multiplications (142 with `scale`); 15 constants; 41 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 23.
 // Inverse DFT to 23 real points, Rader 11, 2.
 // 141 additions, 143 subtractions, 264 multiplications (287 with `scale`); 33 constants; 35 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

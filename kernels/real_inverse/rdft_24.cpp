@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 24.
 // Inverse DFT to 24 real points, prime-factor 8, 3.
 // 52 additions, 52 subtractions, 44 multiplications (68 with `scale`); 4 constants; 29 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 25.
 // Inverse DFT to 25 real points, twiddled 5, 5.
 // 85 additions, 67 subtractions, 136 multiplications (161 with `scale`); 17 constants; 33 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

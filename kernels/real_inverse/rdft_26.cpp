@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 26.
 // Inverse DFT to 26 real points, prime-factor 2, 13.
 // 93 additions, 93 subtractions, 112 multiplications (138 with `scale`); 19 constants; 31 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

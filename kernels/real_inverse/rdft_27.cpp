@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 27.
 // Inverse DFT to 27 real points, twiddled 9, 3.
 // 82 additions, 82 subtractions, 125 multiplications (152 with `scale`); 38 constants; 36 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 28.
 // Inverse DFT to 28 real points, prime-factor 4, 7.
 // 75 additions, 75 subtractions, 98 multiplications (126 with `scale`); 7 constants; 44 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

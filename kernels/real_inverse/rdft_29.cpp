@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 29.
 // Inverse DFT to 29 real points, Rader 7, 4.
 // 152 additions, 154 subtractions, 238 multiplications (267 with `scale`); 35 constants; 42 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 3.
 // Inverse DFT to 3 real points, direct.
 // 2 additions, 2 subtractions, 3 multiplications (6 with `scale`); 3 constants; 3 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 30.
 // Inverse DFT to 30 real points, prime-factor 3, 5, 2.
 // 85 additions, 73 subtractions, 94 multiplications (124 with `scale`); 8 constants; 34 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

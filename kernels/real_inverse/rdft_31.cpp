@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 31.
 // Inverse DFT to 31 real points, Rader 2, 3, 5.
 // 170 additions, 146 subtractions, 224 multiplications (255 with `scale`); 37 constants; 38 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 32.
 // Inverse DFT to 32 real points, twiddled 8, 4.
 // 78 additions, 78 subtractions, 72 multiplications (104 with `scale`); 8 constants; 43 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

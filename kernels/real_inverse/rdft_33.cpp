@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 33.
 // Inverse DFT to 33 real points, prime-factor 3, 11.
 // 146 additions, 122 subtractions, 203 multiplications (236 with `scale`); 18 constants; 37 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 34.
 // Inverse DFT to 34 real points, prime-factor 17, 2.
 // 133 additions, 133 subtractions, 136 multiplications (170 with `scale`); 21 constants; 64 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

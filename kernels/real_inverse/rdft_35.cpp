@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 35.
 // Inverse DFT to 35 real points, prime-factor 5, 7.
 // 119 additions, 109 subtractions, 180 multiplications (215 with `scale`); 11 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 36.
 // Inverse DFT to 36 real points, prime-factor 4, 9.
 // 99 additions, 99 subtractions, 106 multiplications (142 with `scale`); 11 constants; 48 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

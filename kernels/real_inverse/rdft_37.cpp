@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 37.
 // Inverse DFT to 37 real points, Rader 9, 4.
 // 201 additions, 201 subtractions, 272 multiplications (309 with `scale`); 53 constants; 67 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 38.
 // Inverse DFT to 38 real points, prime-factor 2, 19.
 // 183 additions, 183 subtractions, 256 multiplications (294 with `scale`); 31 constants; 53 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

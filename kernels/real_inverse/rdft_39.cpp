@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 39.
 // Inverse DFT to 39 real points, prime-factor 13, 3.
 // 154 additions, 154 subtractions, 180 multiplications (219 with `scale`); 19 constants; 60 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

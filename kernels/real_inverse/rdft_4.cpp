@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 4.
 // Inverse DFT to 4 real points, twiddled 2, 2.
 // 3 additions, 3 subtractions, 2 multiplications (6 with `scale`); 1 constants; 5 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 40.
 // Inverse DFT to 40 real points, prime-factor 5, 8.
 // 115 additions, 105 subtractions, 112 multiplications (152 with `scale`); 6 constants; 53 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 41.
 // Inverse DFT to 41 real points, Rader 5, 8.
 // 227 additions, 217 subtractions, 282 multiplications (323 with `scale`); 50 constants; 50 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

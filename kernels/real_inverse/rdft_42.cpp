@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 42.
 // Inverse DFT to 42 real points, prime-factor 2, 3, 7.
 // 133 additions, 133 subtractions, 176 multiplications (218 with `scale`); 9 constants; 64 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 43.
 // Inverse DFT to 43 real points, Rader 3, 2, 7.
 // 258 additions, 274 subtractions, 394 multiplications (437 with `scale`); 55 constants; 49 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

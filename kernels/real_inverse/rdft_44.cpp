@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 44.
 // Inverse DFT to 44 real points, prime-factor 4, 11.
 // 195 additions, 163 subtractions, 242 multiplications (286 with `scale`); 15 constants; 67 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

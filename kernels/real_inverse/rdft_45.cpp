@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 45.
 // Inverse DFT to 45 real points, prime-factor 5, 9.
 // 156 additions, 144 subtractions, 206 multiplications (251 with `scale`); 15 constants; 53 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 46.
 // Inverse DFT to 46 real points, prime-factor 23, 2.
 // 304 additions, 310 subtractions, 528 multiplications (574 with `scale`); 33 constants; 110 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 47.
 // Inverse DFT to 47 real points, Rader 23, 2.
 // 634 additions, 626 subtractions, 1104 multiplications (1151 with `scale`); 113 constants; 61 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

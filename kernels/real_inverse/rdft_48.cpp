@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 48.
 // Inverse DFT to 48 real points, prime-factor 16, 3.
 // 135 additions, 135 subtractions, 118 multiplications (166 with `scale`); 6 constants; 57 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

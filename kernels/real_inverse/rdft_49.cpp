@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 49.
 // Inverse DFT to 49 real points, twiddled 7, 7.
 // 204 additions, 204 subtractions, 372 multiplications (421 with `scale`); 31 constants; 66 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

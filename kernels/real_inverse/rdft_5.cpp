@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 5.
 // Inverse DFT to 5 real points, direct.
 // 7 additions, 5 subtractions, 12 multiplications (17 with `scale`); 5 constants; 8 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

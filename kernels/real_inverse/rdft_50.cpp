@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 50.
 // Inverse DFT to 50 real points, prime-factor 25, 2.
 // 187 additions, 167 subtractions, 272 multiplications (322 with `scale`); 17 constants; 61 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

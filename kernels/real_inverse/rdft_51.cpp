@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 51.
 // Inverse DFT to 51 real points, prime-factor 3, 17.
 // 224 additions, 224 subtractions, 245 multiplications (296 with `scale`); 23 constants; 63 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

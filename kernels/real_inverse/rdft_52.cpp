@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 52.
 // Inverse DFT to 52 real points, prime-factor 13, 4.
 // 207 additions, 207 subtractions, 210 multiplications (262 with `scale`); 19 constants; 86 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

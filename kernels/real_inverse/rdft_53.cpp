@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 53.
 // Inverse DFT to 53 real points, Rader 13, 4.
 // 420 additions, 420 subtractions, 502 multiplications (555 with `scale`); 101 constants; 84 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 54.
 // Inverse DFT to 54 real points, prime-factor 27, 2.
 // 191 additions, 191 subtractions, 250 multiplications (304 with `scale`); 38 constants; 71 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

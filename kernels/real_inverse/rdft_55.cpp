@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 55.
 // Inverse DFT to 55 real points, prime-factor 5, 11.
 // 274 additions, 238 subtractions, 392 multiplications (447 with `scale`); 15 constants; 63 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

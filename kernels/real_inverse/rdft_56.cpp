@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 56.
 // Inverse DFT to 56 real points, prime-factor 8, 7.
 // 184 additions, 184 subtractions, 212 multiplications (268 with `scale`); 8 constants; 77 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

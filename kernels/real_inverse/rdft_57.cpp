@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 57.
 // Inverse DFT to 57 real points, prime-factor 3, 19.
 // 302 additions, 302 subtractions, 423 multiplications (480 with `scale`); 32 constants; 61 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

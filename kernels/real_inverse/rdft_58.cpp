@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 58.
 // Inverse DFT to 58 real points, prime-factor 29, 2.
 // 335 additions, 335 subtractions, 476 multiplications (534 with `scale`); 35 constants; 106 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 59.
 // Inverse DFT to 59 real points, Rader 2, 29.
 // 669 additions, 671 subtractions, 1012 multiplications (1071 with `scale`); 117 constants; 73 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

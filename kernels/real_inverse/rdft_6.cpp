@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 6.
 // Inverse DFT to 6 real points, prime-factor 2, 3.
 // 7 additions, 7 subtractions, 8 multiplications (14 with `scale`); 3 constants; 8 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

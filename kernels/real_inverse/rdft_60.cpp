@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 60.
 // Inverse DFT to 60 real points, prime-factor 4, 3, 5.
 // 199 additions, 175 subtractions, 194 multiplications (254 with `scale`); 7 constants; 85 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 61.
 // Inverse DFT to 61 real points, Rader 4, 3, 5.
 // 404 additions, 358 subtractions, 478 multiplications (539 with `scale`); 75 constants; 111 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

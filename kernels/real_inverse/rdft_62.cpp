@@ -1,8 +1,8 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 62.
 // Inverse DFT to 62 real points, prime-factor 31, 2.
 // 365 additions, 329 subtractions, 448 multiplications (510 with `scale`); 37 constants; 120 values alive at most.
-#include "frame/kernel_body.h"
-#include "frame/near_constants.h"
+#include "kernel/kernel_body.h"
+#include "kernel/near_constants.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 63.
 // Inverse DFT to 63 real points, prime-factor 9, 7.
 // 244 additions, 244 subtractions, 361 multiplications (424 with `scale`); 20 constants; 99 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 64.
 // Inverse DFT to 64 real points, twiddled 16, 4.
 // 200 additions, 200 subtractions, 196 multiplications (260 with `scale`); 16 constants; 81 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 7.
 // Inverse DFT to 7 real points, direct.
 // 12 additions, 12 subtractions, 24 multiplications (31 with `scale`); 7 constants; 10 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 8.
 // Inverse DFT to 8 real points, twiddled 4, 2.
 // 10 additions, 10 subtractions, 8 multiplications (16 with `scale`); 2 constants; 10 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

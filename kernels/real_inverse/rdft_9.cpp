@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 9.
 // Inverse DFT to 9 real points, twiddled 3, 3.
 // 16 additions, 16 subtractions, 25 multiplications (34 with `scale`); 12 constants; 12 values alive at most.
-#include "frame/kernel_body.h"
+#include "kernel/kernel_body.h"
 
 namespace zulg {
 

@@ -7,7 +7,7 @@ typedef void (*Routine)(void);
 
 #define SLOT(name, routine, bytes) (Routine) name,
 static const Routine routines[] = {
-#include "frame/slots.inc"
+#include "boundary/slots.inc"
     (Routine)zulgenGetLibVersion,
 };
 #undef SLOT

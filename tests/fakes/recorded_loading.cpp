@@ -1,7 +1,7 @@
 // Replaces the library's dynamic loading.
 #include "tests/fakes/recorded_loading.h"
 
-#include "frame/shared_library.h"
+#include "boundary/shared_library.h"
 
 namespace test {
 

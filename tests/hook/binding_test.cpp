@@ -6,8 +6,8 @@
 #include <cstring>
 #include <limits>
 
-#include "frame/allocator_hook.h"
-#include "frame/load_entry.h"
+#include "boundary/allocator_hook.h"
+#include "boundary/load_entry.h"
 #include "tests/fakes/recorded_loading.h"
 #include "tests/hook/slots.h"
 

@@ -2,8 +2,8 @@
 // that are in the library.
 #include <gtest/gtest.h>
 
-#include "frame/allocator_hook.h"
-#include "frame/load_entry.h"
+#include "boundary/allocator_hook.h"
+#include "boundary/load_entry.h"
 #include "tests/fakes/libtmalloc.h"
 #include "tests/hook/loading.h"
 #include "tests/hook/slots.h"

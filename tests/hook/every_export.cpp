@@ -21,7 +21,7 @@ struct Export {
 
 #define SLOT(name, routine, bytes) {#name, bytes},
 const Export exports[] = {
-#include "frame/slots.inc"
+#include "boundary/slots.inc"
 };
 #undef SLOT
 

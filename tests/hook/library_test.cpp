@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "frame/allocator_hook.h"
+#include "boundary/allocator_hook.h"
 #include "tests/fakes/libtmalloc.h"
 #include "tests/hook/every_export.h"
 #include "tests/hook/loading.h"

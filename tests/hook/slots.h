@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <ostream>
 
-#include "frame/allocator_hook.h"
+#include "boundary/allocator_hook.h"
 
 namespace zulg {
 

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 namespace zulg {
 

@@ -4,9 +4,12 @@
 #include <array>
 #include <utility>
 
-#include "frame/kernel.h"
+#include "kernel/kernel.h"
 
 namespace zulg {
+
+template <class Element>
+using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
 // Index 0 is the shortest length.
 template <Family family, class Element>

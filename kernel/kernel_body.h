@@ -2,9 +2,9 @@
 // Included by the files of kernels/, each of which defines one graph and instantiates its kernels.
 #pragma once
 
-#include "frame/kernel.h"
-#include "frame/ports.h"
-#include "frame/scale.h"
+#include "kernel/kernel.h"
+#include "kernel/ports.h"
+#include "kernel/scale.h"
 
 namespace zulg {
 

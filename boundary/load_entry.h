@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 inline constexpr std::uint32_t processAttach = 1;
 

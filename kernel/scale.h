@@ -3,7 +3,7 @@
 
 #include <type_traits>
 
-#include "frame/kernel.h"
+#include "kernel/kernel.h"
 
 namespace zulg {
 

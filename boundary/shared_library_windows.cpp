@@ -1,5 +1,5 @@
 // Dynamic loading on Windows.
-#include "frame/shared_library.h"
+#include "boundary/shared_library.h"
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>

@@ -1,5 +1,5 @@
 // The version record. library.rc carries the same numbers in the file's version resource.
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // For long kernels, whose constants are in a table.
 #pragma once
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 namespace zulg {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 namespace zulg {
 
@@ -26,18 +26,8 @@ constexpr int shortestLength = 2, longestLength = 64;
 template <class Element>
 using KernelRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag);
 
-template <class Element>
-using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
-
-// Gives the bytes that an order or a length needs.
-using SizeRoutine = Status(ZULG_CALL*)(std::int32_t order, std::int32_t* pSize);
-
 // A complex kernel sees its arrays as pairs of elements.
 template <Family family, int length, class Element>
 Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag);
-
-// Calls the kernel of the given length.
-template <Family family, class Element>
-Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
 }  // namespace zulg

@@ -31,7 +31,7 @@ _\name:
 #endif
 
 #define SLOT(name, routine, bytes) entry name
-#include "frame/slots.inc"
+#include "boundary/slots.inc"
 
 #ifndef __i386__
 

@@ -4,12 +4,12 @@
 //
 // There is no lock: two threads that allocate for the first time at once may both bind, with the same outcome but for
 // one more reference on the companion.
-#include "frame/allocator_hook.h"
+#include "boundary/allocator_hook.h"
 
 #include <atomic>
 #include <cstdlib>
 
-#include "frame/shared_library.h"
+#include "boundary/shared_library.h"
 
 namespace zulg {
 namespace {

@@ -1,10 +1,13 @@
 // The slot table: the address of every exported routine but the version call. Slot index = export ordinal - 1.
 // Filled in when the library is built and never written; the entries of entries.S jump through it.
+#include "boundary/dispatch.h"
 #include "dct4/dct4.h"
-#include "frame/kernel.h"
 #include "wht/wht.h"
 
 namespace zulg {
+
+// Gives the bytes that an order or a length needs.
+using SizeRoutine = Status(ZULG_CALL*)(std::int32_t size, std::int32_t* pSize);
 
 // One routine of any of the exported shapes. A union and not a cast, so that the table is a constant expression.
 union Routine {
@@ -43,7 +46,7 @@ union Routine {
 extern "C" {
 extern const Routine zulgSlots[];
 constinit const Routine zulgSlots[] = {
-#include "frame/slots.inc"
+#include "boundary/slots.inc"
 };
 }
 #undef SLOT

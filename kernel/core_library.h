@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/platform.h"
+#include "kernel/platform.h"
 
 #ifdef _WIN32
 #define ZULG_IMPORT __declspec(dllimport)

@@ -1,5 +1,5 @@
 // The length dispatchers of all families.
-#include "frame/dispatch.h"
+#include "boundary/dispatch.h"
 
 namespace zulg {
 

@@ -1,7 +1,7 @@
 // Dynamic loading of ELF platforms.
 #include <dlfcn.h>
 
-#include "frame/shared_library.h"
+#include "boundary/shared_library.h"
 
 namespace zulg {
 

@@ -2,7 +2,7 @@
 // know where its values are.
 #pragma once
 
-#include "kernel/platform.h"
+#include "kernel/text.h"
 
 namespace zulg {
 

@@ -30,8 +30,8 @@ template <int points, class Element>
     const std::ptrdiff_t shift = all.shift, step = all.inputStep, count = all.count;
     FoldSource<Element> from = all.first;
     for (std::ptrdiff_t q = 0; q < count; ++q) {
-        Dct4Fold<points>::run(
-            FoldPorts<Element, points>{{}, from.forward, from.mirrored, step, {all.transforms + q, count}});
+        Dct4Fold<points>::run(FoldPorts<TargetNumbers, Element, points>{
+            {}, from.forward, from.mirrored, step, {all.transforms + q, count}});
         from = from.next(shift);
     }
     return StatusOk;

@@ -18,7 +18,7 @@ template <int radix, class Element>
     const Element* const entries = static_cast<const Element*>(stage.table.get());
     Element* const highest = y + stage.mirrorBase - radix * stride;
     for (std::ptrdiff_t m = 0; m < stage.rows; ++m) {
-        Dct4Output<radix>::run(OutputPorts<Element, radix>{
+        Dct4Output<radix>::run(OutputPorts<TargetNumbers, Element, radix>{
             {}, transforms + 2 * radix * m, entries + 2 * radix * m, y + m, highest - m, stride});
     }
     return StatusOk;

@@ -1,5 +1,4 @@
-// Ports of the DCT-IV bodies. Values are held in double; fixed constants have the width of the element, and what is
-// stored is rounded to it.
+// Ports of the DCT-IV bodies. Constants of a text have the width of the element, and what is stored is rounded to it.
 #pragma once
 
 #include <cstddef>
@@ -9,12 +8,15 @@
 
 namespace zulg {
 
-template <class Element>
+template <class Numbers, class Element>
 struct Dct4Ports {
-    using Value = double;
+    using Value = typename Numbers::Value;
     using Place = typename InMemory<Element>::Type;
+    template <class Graph>
+    using Constants = typename Numbers::template RoundedConstants<Graph, Element>;
 
-    static constexpr Value fixed(double constant) { return static_cast<Element>(constant); }
+    ZULG_INLINE static Value read(const Place& place) { return Numbers::template widened<Element>(place); }
+    ZULG_INLINE static void write(Place& place, Value value) { place = Numbers::template rounded<Element>(value); }
 };
 
 // One of R skew transforms that are side by side. Each bin has its R real parts first, then its R imaginary parts.
@@ -31,25 +33,27 @@ struct SkewBins {
 
 // A folded sequence of `points` values. The first half is read upwards from `forward` and the second half downwards
 // from `mirrored`; the body changes the signs of the second half.
-template <class Element, int points>
-struct FoldPorts : Dct4Ports<Element> {
-    using Place = typename InMemory<Element>::Type;
+template <class Numbers, class Element, int points>
+struct FoldPorts : Dct4Ports<Numbers, Element> {
+    using Base = Dct4Ports<Numbers, Element>;
+    using typename Base::Place, typename Base::Value;
 
     const Place* forward;
     const Place* mirrored;
     std::ptrdiff_t step;
     SkewBins<Element> bins;
 
-    ZULG_INLINE double in(int s) const { return s < points / 2 ? forward[step * s] : mirrored[-step * s]; }
-    ZULG_INLINE void re(int k, double value) const { *bins.re(k) = static_cast<Element>(value); }
-    ZULG_INLINE void im(int k, double value) const { *bins.im(k) = static_cast<Element>(value); }
-    ZULG_INLINE void minusIm(int k, double value) const { *bins.im(k) = static_cast<Element>(-value); }
+    ZULG_INLINE Value in(int s) const { return Base::read(s < points / 2 ? forward[step * s] : mirrored[-step * s]); }
+    ZULG_INLINE void re(int k, Value value) const { Base::write(*bins.re(k), value); }
+    ZULG_INLINE void im(int k, Value value) const { Base::write(*bins.im(k), value); }
+    ZULG_INLINE void minusIm(int k, Value value) const { Base::write(*bins.im(k), -value); }
 };
 
 // A row of r bins to 2r outputs.
-template <class Element, int radix>
-struct OutputPorts : Dct4Ports<Element> {
-    using Place = typename InMemory<Element>::Type;
+template <class Numbers, class Element, int radix>
+struct OutputPorts : Dct4Ports<Numbers, Element> {
+    using Base = Dct4Ports<Numbers, Element>;
+    using typename Base::Place, typename Base::Value;
 
     const Place* row;
     const Place* entries;
@@ -57,18 +61,19 @@ struct OutputPorts : Dct4Ports<Element> {
     Place* down;  // falling output 0; each further one is `step` earlier
     std::ptrdiff_t step;
 
-    ZULG_INLINE double re(int p) const { return row[p]; }
-    ZULG_INLINE double im(int p) const { return row[radix + p]; }
-    ZULG_INLINE double table(int i) const { return entries[i]; }
-    ZULG_INLINE void rising(int b, double value) const { up[step * b] = static_cast<Element>(value); }
-    ZULG_INLINE void falling(int b, double value) const { down[-step * b] = static_cast<Element>(value); }
+    ZULG_INLINE Value re(int p) const { return Base::read(row[p]); }
+    ZULG_INLINE Value im(int p) const { return Base::read(row[radix + p]); }
+    ZULG_INLINE Value table(int i) const { return Base::read(entries[i]); }
+    ZULG_INLINE void rising(int b, Value value) const { Base::write(up[step * b], value); }
+    ZULG_INLINE void falling(int b, Value value) const { Base::write(down[-step * b], value); }
 };
 
 // A row of r' bins, one of each short transform, to r' bins of the long one. The lower half of these rises from one
 // bin; the upper half falls from the mirror of that bin.
-template <class Element, int radix>
-struct CombinePorts : Dct4Ports<Element> {
-    using Place = typename InMemory<Element>::Type;
+template <class Numbers, class Element, int radix>
+struct CombinePorts : Dct4Ports<Numbers, Element> {
+    using Base = Dct4Ports<Numbers, Element>;
+    using typename Base::Place, typename Base::Value;
 
     const Place* entries;       // of the only step, or of the inner one
     const Place* outerEntries;  // of the outer step
@@ -78,27 +83,28 @@ struct CombinePorts : Dct4Ports<Element> {
     std::ptrdiff_t step;
     std::ptrdiff_t toImaginary;
 
-    ZULG_INLINE double re(int c) const { return row[c]; }
-    ZULG_INLINE double im(int c) const { return row[radix + c]; }
-    ZULG_INLINE double table(int i) const { return entries[i]; }
-    ZULG_INLINE double inner(int i) const { return entries[i]; }
-    ZULG_INLINE double outer(int i) const { return outerEntries[i]; }
-    ZULG_INLINE void re(int e, double value) const { *at(e) = static_cast<Element>(value); }
-    ZULG_INLINE void im(int e, double value) const { at(e)[toImaginary] = static_cast<Element>(value); }
+    ZULG_INLINE Value re(int c) const { return Base::read(row[c]); }
+    ZULG_INLINE Value im(int c) const { return Base::read(row[radix + c]); }
+    ZULG_INLINE Value table(int i) const { return Base::read(entries[i]); }
+    ZULG_INLINE Value inner(int i) const { return Base::read(entries[i]); }
+    ZULG_INLINE Value outer(int i) const { return Base::read(outerEntries[i]); }
+    ZULG_INLINE void re(int e, Value value) const { Base::write(*at(e), value); }
+    ZULG_INLINE void im(int e, Value value) const { Base::write(at(e)[toImaginary], value); }
 
 private:
     ZULG_INLINE Place* at(int e) const { return e < radix / 2 ? low + step * e : high - step * e; }
 };
 
-template <class Element>
-struct DirectPorts : Dct4Ports<Element> {
-    using Place = typename InMemory<Element>::Type;
+template <class Numbers, class Element>
+struct DirectPorts : Dct4Ports<Numbers, Element> {
+    using Base = Dct4Ports<Numbers, Element>;
+    using typename Base::Place, typename Base::Value;
 
     const Place* source;
     Place* destination;
 
-    ZULG_INLINE double in(int n) const { return source[n]; }
-    ZULG_INLINE void out(int k, double value) const { destination[k] = static_cast<Element>(value); }
+    ZULG_INLINE Value in(int n) const { return Base::read(source[n]); }
+    ZULG_INLINE void out(int k, Value value) const { Base::write(destination[k], value); }
 };
 
 }  // namespace zulg

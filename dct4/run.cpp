@@ -14,7 +14,7 @@ namespace {
 
 template <int points, class Element>
 void runDirect(const Element* pSrc, Element* pDst) {
-    Dct4Direct<points>::run(DirectPorts<Element>{{}, pSrc, pDst});
+    Dct4Direct<points>::run(DirectPorts<TargetNumbers, Element>{{}, pSrc, pDst});
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
-// Every entry is the cosine or sine of pi times a fraction, computed by its own call of the mathematics library. Fraction
-// and product are each rounded once, to double, whatever the caller's control word says. In a plan of single values the
-// fraction is rounded to single as well. That matters only at the lengths 2^k + 1, since elsewhere the fraction is a
-// short binary one. The tables are in the order in which the passes read them.
+// Every entry is the cosine or sine of pi times a fraction, computed by its own call of the mathematics library.
+// Fraction and product are each rounded once, to double, whatever the caller's control word says. In a plan of single
+// values the fraction is rounded to single as well. That matters only at the lengths 2^k + 1, since elsewhere the
+// fraction is a short binary one. The tables are in the order in which the passes read them.
 #include "dct4/tables.h"
 
 #include <cmath>

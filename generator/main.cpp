@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include "output/emit.h"
-#include "rules/tables.h"
 
 namespace {
 
@@ -38,17 +37,13 @@ std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
 // Path and text of every generated file.
 std::map<std::string, std::string> allFiles() {
     std::map<std::string, std::string> files;
-    std::vector<std::string> longKernels, fastKernels;
+    std::vector<std::pair<const gen::GraphEntry*, int>> kernelTexts;
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
         const auto graph = entry.build();
         files[entry.file()] = graphText(entry, *graph);
-        if (gen::isLong(entry, *graph)) {
-            longKernels.push_back(entry.file());
-        } else if (gen::isCompiledForSpeed(entry.family->word, entry.length)) {
-            fastKernels.push_back(entry.file());
-        }
+        if (!entry.family->isBody()) kernelTexts.emplace_back(&entry, gen::stepsOf(entry, *graph));
     }
-    files["kernels/groups.cmake"] = gen::emitGroups(longKernels, fastKernels);
+    files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
     files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
     return files;

@@ -1,15 +1,31 @@
-// For long kernels, whose constants are in a table.
+// Constants of a long kernel, whose bytes of code are its time: a table near a register. What is read through it takes
+// a short displacement where an address of its own would take four bytes.
 #pragma once
+
+#include <algorithm>
+#include <iterator>
 
 #include "kernel/platform.h"
 
 namespace zulg {
 
-// Returns the same pointer, kept in a register. An instruction that reads a constant through it holds a displacement,
-// which is one byte near the pointer, instead of an address of four bytes.
+// The same pointer, kept in a register.
 ZULG_INLINE const double* inRegister(const double* table) {
     asm("" : "+r"(table));
     return table;
 }
+
+// The register points at the middle of those that are most used, so that these are within 128 bytes of it.
+template <class Graph>
+class NearConstants {
+public:
+    ZULG_INLINE double operator[](int i) const { return table[i - middle]; }
+
+private:
+    static constexpr int count = static_cast<int>(std::size(Graph::constants));
+    static constexpr int middle = std::min(count / 2, 128 / static_cast<int>(sizeof(double)));
+
+    const double* const table = inRegister(Graph::constants + middle);
+};
 
 }  // namespace zulg

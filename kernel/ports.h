@@ -1,55 +1,48 @@
 // Ports: how a graph reads its inputs and stores its outputs. A graph knows neither arrays nor widths; seen through
 // another pair of ports it is another kernel.
 //
-// Value is the type in which a kernel works: double for both widths. A single is widened when it is read, and every
-// output is multiplied by `scale` in double and rounded once, at the store.
+// `Numbers` says what a kernel computes with and how an element becomes such a number and such a number an element: the
+// target's header value.h gives it. Every output is multiplied by `scale` before it is rounded, once, at the store.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
+#include "kernel/in_memory.h"
 #include "kernel/platform.h"
 
 namespace zulg {
 
-// An element in the caller's memory: at any address, and under whatever name the caller knows it.
-template <class Element>
-struct InMemory;
-template <>
-struct InMemory<float> {
-    typedef float Type __attribute__((aligned(1), may_alias));
-};
-template <>
-struct InMemory<double> {
-    typedef double Type __attribute__((aligned(1), may_alias));
-};
-
-template <class Element>
+template <class Numbers, class Element>
 struct Arrays {
-    using Value = double;
+    using Value = typename Numbers::Value;
     using Place = typename InMemory<Element>::Type;
+    template <class Graph>
+    using Constants = typename Numbers::template Constants<Graph>;
 
     const Place* source;
     Place* destination;
     Value scale;
 
-    ZULG_INLINE Value load(int place) const { return source[place]; }
-    ZULG_INLINE void store(int place, Value value) const { destination[place] = static_cast<Element>(value * scale); }
-
-    // Where a graph holds minus a result, the sign is turned behind the scale: minus a zero is a negative zero.
-    ZULG_INLINE void storeMinus(int place, Value value) const {
-        destination[place] = static_cast<Element>(-(value * scale));
+    ZULG_INLINE Value load(int place) const { return Numbers::template widened<Element>(source[place]); }
+    ZULG_INLINE void store(int place, Value value) const {
+        destination[place] = Numbers::template rounded<Element>(value * scale);
     }
 
-    // Behind the last step of the graph.
+    // Where a graph holds minus a result, the sign is turned after the scale: minus a zero is a negative zero.
+    ZULG_INLINE void storeMinus(int place, Value value) const {
+        destination[place] = Numbers::template rounded<Element>(-(value * scale));
+    }
+
+    // After the last step of the graph.
     ZULG_INLINE void finish() const {}
 };
 
 // Complex to complex: real part first.
-template <class Element>
-struct ComplexPorts : Arrays<Element> {
-    using Value = double;
+template <class Numbers, class Element>
+struct ComplexPorts : Arrays<Numbers, Element> {
+    using Value = typename Numbers::Value;
 
     ZULG_INLINE Value re(int n) const { return this->load(2 * n); }
     ZULG_INLINE Value im(int n) const { return this->load(2 * n + 1); }
@@ -59,9 +52,9 @@ struct ComplexPorts : Arrays<Element> {
 
 // The inverse: the forward graph with the parts of every element exchanged on both sides, since the inverse transform
 // of x is the forward one of the exchanged x, exchanged.
-template <class Element>
-struct ExchangedPorts : Arrays<Element> {
-    using Value = double;
+template <class Numbers, class Element>
+struct ExchangedPorts : Arrays<Numbers, Element> {
+    using Value = typename Numbers::Value;
 
     ZULG_INLINE Value re(int n) const { return this->load(2 * n + 1); }
     ZULG_INLINE Value im(int n) const { return this->load(2 * n); }
@@ -70,9 +63,9 @@ struct ExchangedPorts : Arrays<Element> {
 };
 
 // Real values to real values.
-template <class Element>
-struct RealPorts : Arrays<Element> {
-    using Value = double;
+template <class Numbers, class Element>
+struct RealPorts : Arrays<Numbers, Element> {
+    using Value = typename Numbers::Value;
 
     ZULG_INLINE Value in(int n) const { return this->load(n); }
     ZULG_INLINE void out(int k, Value value) const { this->store(k, value); }
@@ -97,9 +90,9 @@ struct Slots {
 };
 
 // Real values to half spectrum.
-template <class Element, Layout layout, int length>
-struct RealForwardPorts : Arrays<Element> {
-    using Value = double;
+template <class Numbers, class Element, Layout layout, int length>
+struct RealForwardPorts : Arrays<Numbers, Element> {
+    using Value = typename Numbers::Value;
     using Slot = Slots<layout, length>;
 
     ZULG_INLINE Value in(int n) const { return this->load(n); }
@@ -126,12 +119,22 @@ private:
     }
 };
 
+// The 2 of the doubled bins, stored in the width of the element. Only kernel/two.cpp knows its value: a compiler that
+// knew it would form x + x in place of the product.
+template <class Element>
+struct ZULG_HIDDEN Stored {
+    static const Element two;
+};
+extern template struct Stored<float>;
+extern template struct Stored<double>;
+
 // Half spectrum to real values. The imaginary parts of the real bins, which CCS has slots for, are never read.
-template <class Element, Layout layout, int length>
-struct RealInversePorts : Arrays<Element> {
-    using Value = double;
+template <class Numbers, class Element, Layout layout, int length>
+struct RealInversePorts : Arrays<Numbers, Element> {
+    using Value = typename Numbers::Value;
     using Slot = Slots<layout, length>;
 
+    ZULG_INLINE static Value two() { return Numbers::template widened<Element>(Stored<Element>::two); }
     ZULG_INLINE Value re(int k) const { return this->load(Slot::re(k)); }
     ZULG_INLINE Value im(int k) const { return this->load(Slot::im(k)); }
     ZULG_INLINE void out(int n, Value value) const { this->store(n, value); }

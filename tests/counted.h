@@ -32,4 +32,17 @@ inline Counted operator*(Counted a, Counted b) {
 }
 inline Counted operator-(Counted a) { return ++operationCounts.negations, Counted::of(-a.value); }
 
+// The same as ports take it; an element in memory is such a number.
+struct CountedNumbers {
+    using Value = Counted;
+    template <class Element>
+    static Counted widened(const Counted& place) {
+        return place;
+    }
+    template <class Element>
+    static Counted rounded(Counted value) {
+        return value;
+    }
+};
+
 }  // namespace test

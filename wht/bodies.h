@@ -2,7 +2,7 @@
 // runs one through ports that know the arrays, the stride and whether to scale.
 #pragma once
 
-#include "kernel/platform.h"
+#include "kernel/text.h"
 
 namespace zulg {
 

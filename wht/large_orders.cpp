@@ -13,7 +13,7 @@ Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Elem
         pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
             constexpr std::uint32_t bytes = whtBufferElements(order) * sizeof(Element);
             Element* const buffer = pBuffer != nullptr ? pBuffer : static_cast<Element*>(zulMalloc(bytes));
-            whtPasses<order, double>(pSrc, pDst, buffer, static_cast<double>(scale));
+            whtPasses<order, TargetNumbers>(pSrc, pDst, buffer, scale);
             if (pBuffer == nullptr) zulFree(buffer);
         });
 }

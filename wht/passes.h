@@ -24,45 +24,49 @@
 namespace zulg {
 
 // The ports of one block. Point n is element n * stride, in the source and in the destination.
-template <class Element, class Working, int stride>
+template <class Element, class Numbers, int stride>
 struct WhtPorts {
-    using Value = Working;
+    using Value = typename Numbers::Value;
     using Place = typename InMemory<Element>::Type;
 
     const Place* source;
     Place* destination;
 
-    ZULG_INLINE Value in(int n) const { return source[n * stride]; }
-    ZULG_INLINE void out(int k, Value value) const { destination[k * stride] = static_cast<Element>(value); }
+    ZULG_INLINE Value in(int n) const { return Numbers::template widened<Element>(source[n * stride]); }
+    ZULG_INLINE void out(int k, Value value) const {
+        destination[k * stride] = Numbers::template rounded<Element>(value);
+    }
 };
 
-template <class Element, class Working, int stride>
-struct WhtScaledPorts : WhtPorts<Element, Working, stride> {
-    Working scale;
+template <class Element, class Numbers, int stride>
+struct WhtScaledPorts : WhtPorts<Element, Numbers, stride> {
+    using Value = typename Numbers::Value;
 
-    ZULG_INLINE void out(int k, Working value) const {
-        this->destination[k * stride] = static_cast<Element>(value * scale);
+    Value scale;
+
+    ZULG_INLINE void out(int k, Value value) const {
+        this->destination[k * stride] = Numbers::template rounded<Element>(value * scale);
     }
 };
 
 // A pass over `blocks` blocks of `points` neighbours each.
-template <int blocks, int points, class Working, class Element>
+template <int blocks, int points, class Numbers, class Element>
 ZULG_INLINE void passOfNeighbours(const Element* from, Element* to) {
     for (int i = 0; i < blocks * points; i += points) {
-        WhtBlock<points>::run(WhtPorts<Element, Working, 1>{from + i, to + i});
+        WhtBlock<points>::run(WhtPorts<Element, Numbers, 1>{from + i, to + i});
     }
 }
 
 // A pass over `stride` blocks of `points` points, which are `stride` elements apart.
-template <int stride, int points, class Working, class Element>
+template <int stride, int points, class Numbers, class Element>
 ZULG_INLINE void passAtStride(const Element* from, Element* to) {
-    for (int j = 0; j < stride; ++j) WhtBlock<points>::run(WhtPorts<Element, Working, stride>{from + j, to + j});
+    for (int j = 0; j < stride; ++j) WhtBlock<points>::run(WhtPorts<Element, Numbers, stride>{from + j, to + j});
 }
 
-template <int stride, int points, class Working, class Element>
-ZULG_INLINE void scaledPassAtStride(const Element* from, Element* to, Working scale) {
+template <int stride, int points, class Numbers, class Element>
+ZULG_INLINE void scaledPassAtStride(const Element* from, Element* to, typename Numbers::Value scale) {
     for (int j = 0; j < stride; ++j) {
-        WhtBlock<points>::run(WhtScaledPorts<Element, Working, stride>{{from + j, to + j}, scale});
+        WhtBlock<points>::run(WhtScaledPorts<Element, Numbers, stride>{{from + j, to + j}, scale});
     }
 }
 
@@ -98,12 +102,12 @@ struct WhtOuter<13> {
     static constexpr int innerOrder = 10, last = 8;
 };
 
-template <int order, class Working, class Element>
-ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer, Working scale) {
+template <int order, class Numbers, class Element>
+ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer, typename Numbers::Value scale) {
     if constexpr (order <= 11) {
         using Split = WhtSplit<order>;
-        passOfNeighbours<Split::second, Split::first, Working>(pSrc, pBuffer);
-        scaledPassAtStride<Split::first, Split::second>(pBuffer, pDst, scale);
+        passOfNeighbours<Split::second, Split::first, Numbers>(pSrc, pBuffer);
+        scaledPassAtStride<Split::first, Split::second, Numbers>(pBuffer, pDst, scale);
     } else {
         using Outer = WhtOuter<order>;
         using Split = WhtSplit<Outer::innerOrder>;
@@ -111,10 +115,10 @@ ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer,
         static_assert(outerElements == whtScratchElements(order) && outerElements * Outer::last == elements);
         Element* const scratch = pBuffer + elements;
         for (int b = 0; b < elements; b += outerElements) {
-            passOfNeighbours<Split::second, Split::first, Working>(pSrc + b, scratch);
-            passAtStride<Split::first, Split::second, Working>(scratch, pBuffer + b);
+            passOfNeighbours<Split::second, Split::first, Numbers>(pSrc + b, scratch);
+            passAtStride<Split::first, Split::second, Numbers>(scratch, pBuffer + b);
         }
-        scaledPassAtStride<outerElements, Outer::last>(pBuffer, pDst, scale);
+        scaledPassAtStride<outerElements, Outer::last, Numbers>(pBuffer, pDst, scale);
     }
 }
 

@@ -16,7 +16,7 @@ template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element*) {
     return whtChecked<order>(
         pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-            WhtBlock<1 << order>::run(RealPorts<Element>{{pSrc, pDst, scale}});
+            WhtBlock<1 << order>::run(RealPorts<TargetNumbers, Element>{{pSrc, pDst, scale}});
         });
 }
 

@@ -9,10 +9,14 @@ namespace zulg {
 
 template <>
 struct Dct4Combine<32> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Combine> c{};
         // inner step 0
         const V x4i = io.im(4);
         const V w1 = io.inner(1);
@@ -127,12 +131,12 @@ struct Dct4Combine<32> {
         const V t72 = t60 - t65;
         const V t73 = t61 + t64;
         // complex block of 8
-        const V t74 = c0 * t48;
-        const V t75 = c0 * t49;
+        const V t74 = c[0] * t48;
+        const V t75 = c[0] * t49;
         const V t76 = t74 + t75;
         const V t77 = t75 - t74;
-        const V t78 = c0 * t56;
-        const V t79 = c0 * t57;
+        const V t78 = c[0] * t56;
+        const V t79 = c[0] * t57;
         const V t80 = t78 + t79;
         const V t81 = t79 - t78;
         // complex block of 2
@@ -255,12 +259,12 @@ struct Dct4Combine<32> {
         const V t170 = t158 - t163;
         const V t171 = t159 + t162;
         // complex block of 8
-        const V t172 = c0 * t146;
-        const V t173 = c0 * t147;
+        const V t172 = c[0] * t146;
+        const V t173 = c[0] * t147;
         const V t174 = t172 + t173;
         const V t175 = t173 - t172;
-        const V t176 = c0 * t154;
-        const V t177 = c0 * t155;
+        const V t176 = c[0] * t154;
+        const V t177 = c[0] * t155;
         const V t178 = t176 + t177;
         const V t179 = t177 - t176;
         // complex block of 2
@@ -383,12 +387,12 @@ struct Dct4Combine<32> {
         const V t268 = t256 - t261;
         const V t269 = t257 + t260;
         // complex block of 8
-        const V t270 = c0 * t244;
-        const V t271 = c0 * t245;
+        const V t270 = c[0] * t244;
+        const V t271 = c[0] * t245;
         const V t272 = t270 + t271;
         const V t273 = t271 - t270;
-        const V t274 = c0 * t252;
-        const V t275 = c0 * t253;
+        const V t274 = c[0] * t252;
+        const V t275 = c[0] * t253;
         const V t276 = t274 + t275;
         const V t277 = t275 - t274;
         // complex block of 2
@@ -511,12 +515,12 @@ struct Dct4Combine<32> {
         const V t366 = t354 - t359;
         const V t367 = t355 + t358;
         // complex block of 8
-        const V t368 = c0 * t342;
-        const V t369 = c0 * t343;
+        const V t368 = c[0] * t342;
+        const V t369 = c[0] * t343;
         const V t370 = t368 + t369;
         const V t371 = t369 - t368;
-        const V t372 = c0 * t350;
-        const V t373 = c0 * t351;
+        const V t372 = c[0] * t350;
+        const V t373 = c[0] * t351;
         const V t374 = t372 + t373;
         const V t375 = t373 - t372;
         // complex block of 2

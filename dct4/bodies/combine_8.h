@@ -9,10 +9,14 @@ namespace zulg {
 
 template <>
 struct Dct4Combine<8> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Combine> c{};
         const V x1i = io.im(1);
         const V w1 = io.table(1);
         const V t0 = x1i * w1;
@@ -130,12 +134,12 @@ struct Dct4Combine<8> {
         const V t71 = t61 + t64;
         io.re(6, t71);
         // complex block of 8
-        const V t72 = c0 * t48;
-        const V t73 = c0 * t49;
+        const V t72 = c[0] * t48;
+        const V t73 = c[0] * t49;
         const V t74 = t72 + t73;
         const V t75 = t73 - t72;
-        const V t76 = c0 * t56;
-        const V t77 = c0 * t57;
+        const V t76 = c[0] * t56;
+        const V t77 = c[0] * t57;
         const V t78 = t76 + t77;
         const V t79 = t77 - t76;
         // complex block of 2

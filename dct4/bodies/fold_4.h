@@ -9,17 +9,21 @@ namespace zulg {
 
 template <>
 struct Dct4Fold<4> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Fold> c{};
         // fold 4
         const V x1 = io.in(1);
         const V x3 = io.in(3);
         const V t0 = x1 + x3;
-        const V t1 = c0 * t0;
+        const V t1 = c[0] * t0;
         const V t2 = x1 - x3;
-        const V t3 = c0 * t2;
+        const V t3 = c[0] * t2;
         const V x0 = io.in(0);
         const V t4 = x0 + t1;
         const V x2 = io.in(2);

@@ -9,47 +9,51 @@ namespace zulg {
 
 template <>
 struct Dct4Fold<64> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+        0.19509032201612828,  // c[1]: -sin 2 pi 31/32
+        0.9807852804032304,  // c[2]: cos 2 pi 31/32
+        0.3826834323650898,  // c[3]: -sin 2 pi 30/32
+        0.9238795325112867,  // c[4]: cos 2 pi 30/32
+        0.5555702330196022,  // c[5]: -sin 2 pi 29/32
+        0.8314696123025452,  // c[6]: cos 2 pi 29/32
+        0.049067674327418015,  // c[7]: -sin 2 pi 127/128
+        0.9987954562051724,  // c[8]: cos 2 pi 127/128
+        0.0980171403295606,  // c[9]: -sin 2 pi 126/128
+        0.9951847266721969,  // c[10]: cos 2 pi 126/128
+        0.14673047445536175,  // c[11]: -sin 2 pi 125/128
+        0.989176509964781,  // c[12]: cos 2 pi 125/128
+        0.2902846772544624,  // c[13]: -sin 2 pi 122/128
+        0.9569403357322088,  // c[14]: cos 2 pi 122/128
+        0.4275550934302821,  // c[15]: -sin 2 pi 119/128
+        0.9039892931234433,  // c[16]: cos 2 pi 119/128
+        0.2429801799032639,  // c[17]: -sin 2 pi 123/128
+        0.970031253194544,  // c[18]: cos 2 pi 123/128
+        0.47139673682599764,  // c[19]: -sin 2 pi 118/128
+        0.881921264348355,  // c[20]: cos 2 pi 118/128
+        0.6715589548470184,  // c[21]: -sin 2 pi 113/128
+        0.7409511253549591,  // c[22]: cos 2 pi 113/128
+        0.33688985339222005,  // c[23]: -sin 2 pi 121/128
+        0.9415440651830208,  // c[24]: cos 2 pi 121/128
+        0.6343932841636455,  // c[25]: -sin 2 pi 114/128
+        0.773010453362737,  // c[26]: cos 2 pi 114/128
+        0.8577286100002721,  // c[27]: -sin 2 pi 107/128
+        0.5141027441932218,  // c[28]: cos 2 pi 107/128
+        0.5956993044924334,  // c[29]: -sin 2 pi 115/128
+        0.8032075314806449,  // c[30]: cos 2 pi 115/128
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
-        constexpr auto c1 = Ports::fixed(0.19509032201612828);  // -sin 2 pi 31/32
-        constexpr auto c2 = Ports::fixed(0.9807852804032304);  // cos 2 pi 31/32
-        constexpr auto c3 = Ports::fixed(0.3826834323650898);  // -sin 2 pi 30/32
-        constexpr auto c4 = Ports::fixed(0.9238795325112867);  // cos 2 pi 30/32
-        constexpr auto c5 = Ports::fixed(0.5555702330196022);  // -sin 2 pi 29/32
-        constexpr auto c6 = Ports::fixed(0.8314696123025452);  // cos 2 pi 29/32
-        constexpr auto c7 = Ports::fixed(0.049067674327418015);  // -sin 2 pi 127/128
-        constexpr auto c8 = Ports::fixed(0.9987954562051724);  // cos 2 pi 127/128
-        constexpr auto c9 = Ports::fixed(0.0980171403295606);  // -sin 2 pi 126/128
-        constexpr auto c10 = Ports::fixed(0.9951847266721969);  // cos 2 pi 126/128
-        constexpr auto c11 = Ports::fixed(0.14673047445536175);  // -sin 2 pi 125/128
-        constexpr auto c12 = Ports::fixed(0.989176509964781);  // cos 2 pi 125/128
-        constexpr auto c13 = Ports::fixed(0.2902846772544624);  // -sin 2 pi 122/128
-        constexpr auto c14 = Ports::fixed(0.9569403357322088);  // cos 2 pi 122/128
-        constexpr auto c15 = Ports::fixed(0.4275550934302821);  // -sin 2 pi 119/128
-        constexpr auto c16 = Ports::fixed(0.9039892931234433);  // cos 2 pi 119/128
-        constexpr auto c17 = Ports::fixed(0.2429801799032639);  // -sin 2 pi 123/128
-        constexpr auto c18 = Ports::fixed(0.970031253194544);  // cos 2 pi 123/128
-        constexpr auto c19 = Ports::fixed(0.47139673682599764);  // -sin 2 pi 118/128
-        constexpr auto c20 = Ports::fixed(0.881921264348355);  // cos 2 pi 118/128
-        constexpr auto c21 = Ports::fixed(0.6715589548470184);  // -sin 2 pi 113/128
-        constexpr auto c22 = Ports::fixed(0.7409511253549591);  // cos 2 pi 113/128
-        constexpr auto c23 = Ports::fixed(0.33688985339222005);  // -sin 2 pi 121/128
-        constexpr auto c24 = Ports::fixed(0.9415440651830208);  // cos 2 pi 121/128
-        constexpr auto c25 = Ports::fixed(0.6343932841636455);  // -sin 2 pi 114/128
-        constexpr auto c26 = Ports::fixed(0.773010453362737);  // cos 2 pi 114/128
-        constexpr auto c27 = Ports::fixed(0.8577286100002721);  // -sin 2 pi 107/128
-        constexpr auto c28 = Ports::fixed(0.5141027441932218);  // cos 2 pi 107/128
-        constexpr auto c29 = Ports::fixed(0.5956993044924334);  // -sin 2 pi 115/128
-        constexpr auto c30 = Ports::fixed(0.8032075314806449);  // cos 2 pi 115/128
+        const ConstantsOf<Ports, Dct4Fold> c{};
         // part 0 of 16
         const V x16 = io.in(16);
         const V x48 = io.in(48);
         const V t0 = x16 + x48;
-        const V t1 = c0 * t0;
+        const V t1 = c[0] * t0;
         const V t2 = x16 - x48;
-        const V t3 = c0 * t2;
+        const V t3 = c[0] * t2;
         const V x0 = io.in(0);
         const V t4 = x0 + t1;
         const V x32 = io.in(32);
@@ -60,9 +64,9 @@ struct Dct4Fold<64> {
         const V x20 = io.in(20);
         const V x52 = io.in(52);
         const V t8 = x20 + x52;
-        const V t9 = c0 * t8;
+        const V t9 = c[0] * t8;
         const V t10 = x20 - x52;
-        const V t11 = c0 * t10;
+        const V t11 = c[0] * t10;
         const V x4 = io.in(4);
         const V t12 = x4 + t9;
         const V x36 = io.in(36);
@@ -73,9 +77,9 @@ struct Dct4Fold<64> {
         const V x24 = io.in(24);
         const V x56 = io.in(56);
         const V t16 = x24 + x56;
-        const V t17 = c0 * t16;
+        const V t17 = c[0] * t16;
         const V t18 = x24 - x56;
-        const V t19 = c0 * t18;
+        const V t19 = c[0] * t18;
         const V x8 = io.in(8);
         const V t20 = x8 + t17;
         const V x40 = io.in(40);
@@ -86,9 +90,9 @@ struct Dct4Fold<64> {
         const V x28 = io.in(28);
         const V x60 = io.in(60);
         const V t24 = x28 + x60;
-        const V t25 = c0 * t24;
+        const V t25 = c[0] * t24;
         const V t26 = x28 - x60;
-        const V t27 = c0 * t26;
+        const V t27 = c[0] * t26;
         const V x12 = io.in(12);
         const V t28 = x12 + t25;
         const V x44 = io.in(44);
@@ -96,23 +100,23 @@ struct Dct4Fold<64> {
         const V t30 = x12 - t25;
         const V t31 = t27 + x44;
         // row 0 of 16
-        const V t32 = c1 * t13;
-        const V t33 = c2 * t12;
+        const V t32 = c[1] * t13;
+        const V t33 = c[2] * t12;
         const V t34 = t33 - t32;
-        const V t35 = c1 * t12;
-        const V t36 = c2 * t13;
+        const V t35 = c[1] * t12;
+        const V t36 = c[2] * t13;
         const V t37 = t36 + t35;
-        const V t38 = c3 * t21;
-        const V t39 = c4 * t20;
+        const V t38 = c[3] * t21;
+        const V t39 = c[4] * t20;
         const V t40 = t39 - t38;
-        const V t41 = c3 * t20;
-        const V t42 = c4 * t21;
+        const V t41 = c[3] * t20;
+        const V t42 = c[4] * t21;
         const V t43 = t42 + t41;
-        const V t44 = c5 * t29;
-        const V t45 = c6 * t28;
+        const V t44 = c[5] * t29;
+        const V t45 = c[6] * t28;
         const V t46 = t45 - t44;
-        const V t47 = c5 * t28;
-        const V t48 = c6 * t29;
+        const V t47 = c[5] * t28;
+        const V t48 = c[6] * t29;
         const V t49 = t48 + t47;
         // complex block of 2
         const V t50 = t5 + t43;
@@ -135,23 +139,23 @@ struct Dct4Fold<64> {
         const V t64 = t52 - t57;
         const V t65 = t53 + t56;
         // row 1 of 16
-        const V t66 = c5 * t15;
-        const V t67 = c6 * t14;
+        const V t66 = c[5] * t15;
+        const V t67 = c[6] * t14;
         const V t68 = t67 - t66;
-        const V t69 = c5 * t14;
-        const V t70 = c6 * t15;
+        const V t69 = c[5] * t14;
+        const V t70 = c[6] * t15;
         const V t71 = t70 + t69;
-        const V t72 = c4 * t23;
-        const V t73 = c3 * t22;
+        const V t72 = c[4] * t23;
+        const V t73 = c[3] * t22;
         const V t74 = t73 - t72;
-        const V t75 = c4 * t22;
-        const V t76 = c3 * t23;
+        const V t75 = c[4] * t22;
+        const V t76 = c[3] * t23;
         const V t77 = t76 + t75;
-        const V t78 = c2 * t31;
-        const V t79 = c1 * t30;
+        const V t78 = c[2] * t31;
+        const V t79 = c[1] * t30;
         const V t80 = t79 + t78;
-        const V t81 = c2 * t30;
-        const V t82 = c1 * t31;
+        const V t81 = c[2] * t30;
+        const V t82 = c[1] * t31;
         const V t83 = t81 - t82;
         // complex block of 2
         const V t84 = t7 + t77;
@@ -177,9 +181,9 @@ struct Dct4Fold<64> {
         const V x17 = io.in(17);
         const V x49 = io.in(49);
         const V t100 = x17 + x49;
-        const V t101 = c0 * t100;
+        const V t101 = c[0] * t100;
         const V t102 = x17 - x49;
-        const V t103 = c0 * t102;
+        const V t103 = c[0] * t102;
         const V x1 = io.in(1);
         const V t104 = x1 + t101;
         const V x33 = io.in(33);
@@ -190,9 +194,9 @@ struct Dct4Fold<64> {
         const V x21 = io.in(21);
         const V x53 = io.in(53);
         const V t108 = x21 + x53;
-        const V t109 = c0 * t108;
+        const V t109 = c[0] * t108;
         const V t110 = x21 - x53;
-        const V t111 = c0 * t110;
+        const V t111 = c[0] * t110;
         const V x5 = io.in(5);
         const V t112 = x5 + t109;
         const V x37 = io.in(37);
@@ -203,9 +207,9 @@ struct Dct4Fold<64> {
         const V x25 = io.in(25);
         const V x57 = io.in(57);
         const V t116 = x25 + x57;
-        const V t117 = c0 * t116;
+        const V t117 = c[0] * t116;
         const V t118 = x25 - x57;
-        const V t119 = c0 * t118;
+        const V t119 = c[0] * t118;
         const V x9 = io.in(9);
         const V t120 = x9 + t117;
         const V x41 = io.in(41);
@@ -216,9 +220,9 @@ struct Dct4Fold<64> {
         const V x29 = io.in(29);
         const V x61 = io.in(61);
         const V t124 = x29 + x61;
-        const V t125 = c0 * t124;
+        const V t125 = c[0] * t124;
         const V t126 = x29 - x61;
-        const V t127 = c0 * t126;
+        const V t127 = c[0] * t126;
         const V x13 = io.in(13);
         const V t128 = x13 + t125;
         const V x45 = io.in(45);
@@ -226,23 +230,23 @@ struct Dct4Fold<64> {
         const V t130 = x13 - t125;
         const V t131 = t127 + x45;
         // row 0 of 16
-        const V t132 = c1 * t113;
-        const V t133 = c2 * t112;
+        const V t132 = c[1] * t113;
+        const V t133 = c[2] * t112;
         const V t134 = t133 - t132;
-        const V t135 = c1 * t112;
-        const V t136 = c2 * t113;
+        const V t135 = c[1] * t112;
+        const V t136 = c[2] * t113;
         const V t137 = t136 + t135;
-        const V t138 = c3 * t121;
-        const V t139 = c4 * t120;
+        const V t138 = c[3] * t121;
+        const V t139 = c[4] * t120;
         const V t140 = t139 - t138;
-        const V t141 = c3 * t120;
-        const V t142 = c4 * t121;
+        const V t141 = c[3] * t120;
+        const V t142 = c[4] * t121;
         const V t143 = t142 + t141;
-        const V t144 = c5 * t129;
-        const V t145 = c6 * t128;
+        const V t144 = c[5] * t129;
+        const V t145 = c[6] * t128;
         const V t146 = t145 - t144;
-        const V t147 = c5 * t128;
-        const V t148 = c6 * t129;
+        const V t147 = c[5] * t128;
+        const V t148 = c[6] * t129;
         const V t149 = t148 + t147;
         // complex block of 2
         const V t150 = t105 + t143;
@@ -265,23 +269,23 @@ struct Dct4Fold<64> {
         const V t164 = t152 - t157;
         const V t165 = t153 + t156;
         // row 1 of 16
-        const V t166 = c5 * t115;
-        const V t167 = c6 * t114;
+        const V t166 = c[5] * t115;
+        const V t167 = c[6] * t114;
         const V t168 = t167 - t166;
-        const V t169 = c5 * t114;
-        const V t170 = c6 * t115;
+        const V t169 = c[5] * t114;
+        const V t170 = c[6] * t115;
         const V t171 = t170 + t169;
-        const V t172 = c4 * t123;
-        const V t173 = c3 * t122;
+        const V t172 = c[4] * t123;
+        const V t173 = c[3] * t122;
         const V t174 = t173 - t172;
-        const V t175 = c4 * t122;
-        const V t176 = c3 * t123;
+        const V t175 = c[4] * t122;
+        const V t176 = c[3] * t123;
         const V t177 = t176 + t175;
-        const V t178 = c2 * t131;
-        const V t179 = c1 * t130;
+        const V t178 = c[2] * t131;
+        const V t179 = c[1] * t130;
         const V t180 = t179 + t178;
-        const V t181 = c2 * t130;
-        const V t182 = c1 * t131;
+        const V t181 = c[2] * t130;
+        const V t182 = c[1] * t131;
         const V t183 = t181 - t182;
         // complex block of 2
         const V t184 = t107 + t177;
@@ -307,9 +311,9 @@ struct Dct4Fold<64> {
         const V x18 = io.in(18);
         const V x50 = io.in(50);
         const V t200 = x18 + x50;
-        const V t201 = c0 * t200;
+        const V t201 = c[0] * t200;
         const V t202 = x18 - x50;
-        const V t203 = c0 * t202;
+        const V t203 = c[0] * t202;
         const V x2 = io.in(2);
         const V t204 = x2 + t201;
         const V x34 = io.in(34);
@@ -320,9 +324,9 @@ struct Dct4Fold<64> {
         const V x22 = io.in(22);
         const V x54 = io.in(54);
         const V t208 = x22 + x54;
-        const V t209 = c0 * t208;
+        const V t209 = c[0] * t208;
         const V t210 = x22 - x54;
-        const V t211 = c0 * t210;
+        const V t211 = c[0] * t210;
         const V x6 = io.in(6);
         const V t212 = x6 + t209;
         const V x38 = io.in(38);
@@ -333,9 +337,9 @@ struct Dct4Fold<64> {
         const V x26 = io.in(26);
         const V x58 = io.in(58);
         const V t216 = x26 + x58;
-        const V t217 = c0 * t216;
+        const V t217 = c[0] * t216;
         const V t218 = x26 - x58;
-        const V t219 = c0 * t218;
+        const V t219 = c[0] * t218;
         const V x10 = io.in(10);
         const V t220 = x10 + t217;
         const V x42 = io.in(42);
@@ -346,9 +350,9 @@ struct Dct4Fold<64> {
         const V x30 = io.in(30);
         const V x62 = io.in(62);
         const V t224 = x30 + x62;
-        const V t225 = c0 * t224;
+        const V t225 = c[0] * t224;
         const V t226 = x30 - x62;
-        const V t227 = c0 * t226;
+        const V t227 = c[0] * t226;
         const V x14 = io.in(14);
         const V t228 = x14 + t225;
         const V x46 = io.in(46);
@@ -356,23 +360,23 @@ struct Dct4Fold<64> {
         const V t230 = x14 - t225;
         const V t231 = t227 + x46;
         // row 0 of 16
-        const V t232 = c1 * t213;
-        const V t233 = c2 * t212;
+        const V t232 = c[1] * t213;
+        const V t233 = c[2] * t212;
         const V t234 = t233 - t232;
-        const V t235 = c1 * t212;
-        const V t236 = c2 * t213;
+        const V t235 = c[1] * t212;
+        const V t236 = c[2] * t213;
         const V t237 = t236 + t235;
-        const V t238 = c3 * t221;
-        const V t239 = c4 * t220;
+        const V t238 = c[3] * t221;
+        const V t239 = c[4] * t220;
         const V t240 = t239 - t238;
-        const V t241 = c3 * t220;
-        const V t242 = c4 * t221;
+        const V t241 = c[3] * t220;
+        const V t242 = c[4] * t221;
         const V t243 = t242 + t241;
-        const V t244 = c5 * t229;
-        const V t245 = c6 * t228;
+        const V t244 = c[5] * t229;
+        const V t245 = c[6] * t228;
         const V t246 = t245 - t244;
-        const V t247 = c5 * t228;
-        const V t248 = c6 * t229;
+        const V t247 = c[5] * t228;
+        const V t248 = c[6] * t229;
         const V t249 = t248 + t247;
         // complex block of 2
         const V t250 = t205 + t243;
@@ -395,23 +399,23 @@ struct Dct4Fold<64> {
         const V t264 = t252 - t257;
         const V t265 = t253 + t256;
         // row 1 of 16
-        const V t266 = c5 * t215;
-        const V t267 = c6 * t214;
+        const V t266 = c[5] * t215;
+        const V t267 = c[6] * t214;
         const V t268 = t267 - t266;
-        const V t269 = c5 * t214;
-        const V t270 = c6 * t215;
+        const V t269 = c[5] * t214;
+        const V t270 = c[6] * t215;
         const V t271 = t270 + t269;
-        const V t272 = c4 * t223;
-        const V t273 = c3 * t222;
+        const V t272 = c[4] * t223;
+        const V t273 = c[3] * t222;
         const V t274 = t273 - t272;
-        const V t275 = c4 * t222;
-        const V t276 = c3 * t223;
+        const V t275 = c[4] * t222;
+        const V t276 = c[3] * t223;
         const V t277 = t276 + t275;
-        const V t278 = c2 * t231;
-        const V t279 = c1 * t230;
+        const V t278 = c[2] * t231;
+        const V t279 = c[1] * t230;
         const V t280 = t279 + t278;
-        const V t281 = c2 * t230;
-        const V t282 = c1 * t231;
+        const V t281 = c[2] * t230;
+        const V t282 = c[1] * t231;
         const V t283 = t281 - t282;
         // complex block of 2
         const V t284 = t207 + t277;
@@ -437,9 +441,9 @@ struct Dct4Fold<64> {
         const V x19 = io.in(19);
         const V x51 = io.in(51);
         const V t300 = x19 + x51;
-        const V t301 = c0 * t300;
+        const V t301 = c[0] * t300;
         const V t302 = x19 - x51;
-        const V t303 = c0 * t302;
+        const V t303 = c[0] * t302;
         const V x3 = io.in(3);
         const V t304 = x3 + t301;
         const V x35 = io.in(35);
@@ -450,9 +454,9 @@ struct Dct4Fold<64> {
         const V x23 = io.in(23);
         const V x55 = io.in(55);
         const V t308 = x23 + x55;
-        const V t309 = c0 * t308;
+        const V t309 = c[0] * t308;
         const V t310 = x23 - x55;
-        const V t311 = c0 * t310;
+        const V t311 = c[0] * t310;
         const V x7 = io.in(7);
         const V t312 = x7 + t309;
         const V x39 = io.in(39);
@@ -463,9 +467,9 @@ struct Dct4Fold<64> {
         const V x27 = io.in(27);
         const V x59 = io.in(59);
         const V t316 = x27 + x59;
-        const V t317 = c0 * t316;
+        const V t317 = c[0] * t316;
         const V t318 = x27 - x59;
-        const V t319 = c0 * t318;
+        const V t319 = c[0] * t318;
         const V x11 = io.in(11);
         const V t320 = x11 + t317;
         const V x43 = io.in(43);
@@ -476,9 +480,9 @@ struct Dct4Fold<64> {
         const V x31 = io.in(31);
         const V x63 = io.in(63);
         const V t324 = x31 + x63;
-        const V t325 = c0 * t324;
+        const V t325 = c[0] * t324;
         const V t326 = x31 - x63;
-        const V t327 = c0 * t326;
+        const V t327 = c[0] * t326;
         const V x15 = io.in(15);
         const V t328 = x15 + t325;
         const V x47 = io.in(47);
@@ -486,23 +490,23 @@ struct Dct4Fold<64> {
         const V t330 = x15 - t325;
         const V t331 = t327 + x47;
         // row 0 of 16
-        const V t332 = c1 * t313;
-        const V t333 = c2 * t312;
+        const V t332 = c[1] * t313;
+        const V t333 = c[2] * t312;
         const V t334 = t333 - t332;
-        const V t335 = c1 * t312;
-        const V t336 = c2 * t313;
+        const V t335 = c[1] * t312;
+        const V t336 = c[2] * t313;
         const V t337 = t336 + t335;
-        const V t338 = c3 * t321;
-        const V t339 = c4 * t320;
+        const V t338 = c[3] * t321;
+        const V t339 = c[4] * t320;
         const V t340 = t339 - t338;
-        const V t341 = c3 * t320;
-        const V t342 = c4 * t321;
+        const V t341 = c[3] * t320;
+        const V t342 = c[4] * t321;
         const V t343 = t342 + t341;
-        const V t344 = c5 * t329;
-        const V t345 = c6 * t328;
+        const V t344 = c[5] * t329;
+        const V t345 = c[6] * t328;
         const V t346 = t345 - t344;
-        const V t347 = c5 * t328;
-        const V t348 = c6 * t329;
+        const V t347 = c[5] * t328;
+        const V t348 = c[6] * t329;
         const V t349 = t348 + t347;
         // complex block of 2
         const V t350 = t305 + t343;
@@ -525,23 +529,23 @@ struct Dct4Fold<64> {
         const V t364 = t352 - t357;
         const V t365 = t353 + t356;
         // row 1 of 16
-        const V t366 = c5 * t315;
-        const V t367 = c6 * t314;
+        const V t366 = c[5] * t315;
+        const V t367 = c[6] * t314;
         const V t368 = t367 - t366;
-        const V t369 = c5 * t314;
-        const V t370 = c6 * t315;
+        const V t369 = c[5] * t314;
+        const V t370 = c[6] * t315;
         const V t371 = t370 + t369;
-        const V t372 = c4 * t323;
-        const V t373 = c3 * t322;
+        const V t372 = c[4] * t323;
+        const V t373 = c[3] * t322;
         const V t374 = t373 - t372;
-        const V t375 = c4 * t322;
-        const V t376 = c3 * t323;
+        const V t375 = c[4] * t322;
+        const V t376 = c[3] * t323;
         const V t377 = t376 + t375;
-        const V t378 = c2 * t331;
-        const V t379 = c1 * t330;
+        const V t378 = c[2] * t331;
+        const V t379 = c[1] * t330;
         const V t380 = t379 + t378;
-        const V t381 = c2 * t330;
-        const V t382 = c1 * t331;
+        const V t381 = c[2] * t330;
+        const V t382 = c[1] * t331;
         const V t383 = t381 - t382;
         // complex block of 2
         const V t384 = t307 + t377;
@@ -564,23 +568,23 @@ struct Dct4Fold<64> {
         const V t398 = t386 - t391;
         const V t399 = t387 + t390;
         // row 0 of 64
-        const V t400 = c7 * t158;
-        const V t401 = c8 * t159;
+        const V t400 = c[7] * t158;
+        const V t401 = c[8] * t159;
         const V t402 = t401 - t400;
-        const V t403 = c7 * t159;
-        const V t404 = c8 * t158;
+        const V t403 = c[7] * t159;
+        const V t404 = c[8] * t158;
         const V t405 = t404 + t403;
-        const V t406 = c9 * t258;
-        const V t407 = c10 * t259;
+        const V t406 = c[9] * t258;
+        const V t407 = c[10] * t259;
         const V t408 = t407 - t406;
-        const V t409 = c9 * t259;
-        const V t410 = c10 * t258;
+        const V t409 = c[9] * t259;
+        const V t410 = c[10] * t258;
         const V t411 = t410 + t409;
-        const V t412 = c11 * t358;
-        const V t413 = c12 * t359;
+        const V t412 = c[11] * t358;
+        const V t413 = c[12] * t359;
         const V t414 = t413 - t412;
-        const V t415 = c11 * t359;
-        const V t416 = c12 * t358;
+        const V t415 = c[11] * t359;
+        const V t416 = c[12] * t358;
         const V t417 = t416 + t415;
         // complex block of 2
         const V t418 = t58 + t411;
@@ -607,23 +611,23 @@ struct Dct4Fold<64> {
         const V t431 = t421 + t424;
         io.re(15, t431);
         // row 1 of 64
-        const V t432 = c11 * t192;
-        const V t433 = c12 * t193;
+        const V t432 = c[11] * t192;
+        const V t433 = c[12] * t193;
         const V t434 = t433 - t432;
-        const V t435 = c11 * t193;
-        const V t436 = c12 * t192;
+        const V t435 = c[11] * t193;
+        const V t436 = c[12] * t192;
         const V t437 = t436 + t435;
-        const V t438 = c13 * t292;
-        const V t439 = c14 * t293;
+        const V t438 = c[13] * t292;
+        const V t439 = c[14] * t293;
         const V t440 = t439 - t438;
-        const V t441 = c13 * t293;
-        const V t442 = c14 * t292;
+        const V t441 = c[13] * t293;
+        const V t442 = c[14] * t292;
         const V t443 = t442 + t441;
-        const V t444 = c15 * t392;
-        const V t445 = c16 * t393;
+        const V t444 = c[15] * t392;
+        const V t445 = c[16] * t393;
         const V t446 = t445 - t444;
-        const V t447 = c15 * t393;
-        const V t448 = c16 * t392;
+        const V t447 = c[15] * t393;
+        const V t448 = c[16] * t392;
         const V t449 = t448 + t447;
         // complex block of 2
         const V t450 = t92 + t443;
@@ -650,23 +654,23 @@ struct Dct4Fold<64> {
         const V t463 = t453 + t456;
         io.re(14, t463);
         // row 2 of 64
-        const V t464 = c17 * t198;
-        const V t465 = c18 * t199;
+        const V t464 = c[17] * t198;
+        const V t465 = c[18] * t199;
         const V t466 = t465 + t464;
-        const V t467 = c17 * t199;
-        const V t468 = c18 * t198;
+        const V t467 = c[17] * t199;
+        const V t468 = c[18] * t198;
         const V t469 = t467 - t468;
-        const V t470 = c19 * t298;
-        const V t471 = c20 * t299;
+        const V t470 = c[19] * t298;
+        const V t471 = c[20] * t299;
         const V t472 = t471 + t470;
-        const V t473 = c19 * t299;
-        const V t474 = c20 * t298;
+        const V t473 = c[19] * t299;
+        const V t474 = c[20] * t298;
         const V t475 = t473 - t474;
-        const V t476 = c21 * t398;
-        const V t477 = c22 * t399;
+        const V t476 = c[21] * t398;
+        const V t477 = c[22] * t399;
         const V t478 = t477 + t476;
-        const V t479 = c21 * t399;
-        const V t480 = c22 * t398;
+        const V t479 = c[21] * t399;
+        const V t480 = c[22] * t398;
         const V t481 = t479 - t480;
         // complex block of 2
         const V t482 = t475 - t98;
@@ -695,23 +699,23 @@ struct Dct4Fold<64> {
         const V t496 = t485 + t488;
         io.re(13, t496);
         // row 3 of 64
-        const V t497 = c23 * t164;
-        const V t498 = c24 * t165;
+        const V t497 = c[23] * t164;
+        const V t498 = c[24] * t165;
         const V t499 = t498 + t497;
-        const V t500 = c23 * t165;
-        const V t501 = c24 * t164;
+        const V t500 = c[23] * t165;
+        const V t501 = c[24] * t164;
         const V t502 = t500 - t501;
-        const V t503 = c25 * t264;
-        const V t504 = c26 * t265;
+        const V t503 = c[25] * t264;
+        const V t504 = c[26] * t265;
         const V t505 = t504 + t503;
-        const V t506 = c25 * t265;
-        const V t507 = c26 * t264;
+        const V t506 = c[25] * t265;
+        const V t507 = c[26] * t264;
         const V t508 = t506 - t507;
-        const V t509 = c27 * t364;
-        const V t510 = c28 * t365;
+        const V t509 = c[27] * t364;
+        const V t510 = c[28] * t365;
         const V t511 = t510 + t509;
-        const V t512 = c27 * t365;
-        const V t513 = c28 * t364;
+        const V t512 = c[27] * t365;
+        const V t513 = c[28] * t364;
         const V t514 = t512 - t513;
         // complex block of 2
         const V t515 = t508 - t64;
@@ -740,23 +744,23 @@ struct Dct4Fold<64> {
         const V t529 = t518 + t521;
         io.re(12, t529);
         // row 4 of 64
-        const V t530 = c15 * t162;
-        const V t531 = c16 * t163;
+        const V t530 = c[15] * t162;
+        const V t531 = c[16] * t163;
         const V t532 = t531 - t530;
-        const V t533 = c15 * t163;
-        const V t534 = c16 * t162;
+        const V t533 = c[15] * t163;
+        const V t534 = c[16] * t162;
         const V t535 = t534 + t533;
-        const V t536 = c26 * t262;
-        const V t537 = c25 * t263;
+        const V t536 = c[26] * t262;
+        const V t537 = c[25] * t263;
         const V t538 = t537 - t536;
-        const V t539 = c26 * t263;
-        const V t540 = c25 * t262;
+        const V t539 = c[26] * t263;
+        const V t540 = c[25] * t262;
         const V t541 = t540 + t539;
-        const V t542 = c18 * t362;
-        const V t543 = c17 * t363;
+        const V t542 = c[18] * t362;
+        const V t543 = c[17] * t363;
         const V t544 = t543 - t542;
-        const V t545 = c18 * t363;
-        const V t546 = c17 * t362;
+        const V t545 = c[18] * t363;
+        const V t546 = c[17] * t362;
         const V t547 = t546 + t545;
         // complex block of 2
         const V t548 = t62 + t541;
@@ -783,23 +787,23 @@ struct Dct4Fold<64> {
         const V t561 = t551 + t554;
         io.re(11, t561);
         // row 5 of 64
-        const V t562 = c28 * t196;
-        const V t563 = c27 * t197;
+        const V t562 = c[28] * t196;
+        const V t563 = c[27] * t197;
         const V t564 = t563 - t562;
-        const V t565 = c28 * t197;
-        const V t566 = c27 * t196;
+        const V t565 = c[28] * t197;
+        const V t566 = c[27] * t196;
         const V t567 = t566 + t565;
-        const V t568 = c20 * t296;
-        const V t569 = c19 * t297;
+        const V t568 = c[20] * t296;
+        const V t569 = c[19] * t297;
         const V t570 = t569 - t568;
-        const V t571 = c20 * t297;
-        const V t572 = c19 * t296;
+        const V t571 = c[20] * t297;
+        const V t572 = c[19] * t296;
         const V t573 = t572 + t571;
-        const V t574 = c8 * t396;
-        const V t575 = c7 * t397;
+        const V t574 = c[8] * t396;
+        const V t575 = c[7] * t397;
         const V t576 = t575 + t574;
-        const V t577 = c8 * t397;
-        const V t578 = c7 * t396;
+        const V t577 = c[8] * t397;
+        const V t578 = c[7] * t396;
         const V t579 = t577 - t578;
         // complex block of 2
         const V t580 = t96 + t573;
@@ -826,23 +830,23 @@ struct Dct4Fold<64> {
         const V t593 = t583 + t586;
         io.re(10, t593);
         // row 6 of 64
-        const V t594 = c29 * t194;
-        const V t595 = c30 * t195;
+        const V t594 = c[29] * t194;
+        const V t595 = c[30] * t195;
         const V t596 = t595 + t594;
-        const V t597 = c29 * t195;
-        const V t598 = c30 * t194;
+        const V t597 = c[29] * t195;
+        const V t598 = c[30] * t194;
         const V t599 = t597 - t598;
-        const V t600 = c14 * t294;
-        const V t601 = c13 * t295;
+        const V t600 = c[14] * t294;
+        const V t601 = c[13] * t295;
         const V t602 = t601 + t600;
-        const V t603 = c14 * t295;
-        const V t604 = c13 * t294;
+        const V t603 = c[14] * t295;
+        const V t604 = c[13] * t294;
         const V t605 = t603 - t604;
-        const V t606 = c24 * t394;
-        const V t607 = c23 * t395;
+        const V t606 = c[24] * t394;
+        const V t607 = c[23] * t395;
         const V t608 = t606 - t607;
-        const V t609 = c24 * t395;
-        const V t610 = c23 * t394;
+        const V t609 = c[24] * t395;
+        const V t610 = c[23] * t394;
         const V t611 = t610 + t609;
         // complex block of 2
         const V t612 = t605 - t94;
@@ -871,23 +875,23 @@ struct Dct4Fold<64> {
         const V t626 = t615 + t618;
         io.re(9, t626);
         // row 7 of 64
-        const V t627 = c21 * t160;
-        const V t628 = c22 * t161;
+        const V t627 = c[21] * t160;
+        const V t628 = c[22] * t161;
         const V t629 = t628 + t627;
-        const V t630 = c21 * t161;
-        const V t631 = c22 * t160;
+        const V t630 = c[21] * t161;
+        const V t631 = c[22] * t160;
         const V t632 = t630 - t631;
-        const V t633 = c10 * t260;
-        const V t634 = c9 * t261;
+        const V t633 = c[10] * t260;
+        const V t634 = c[9] * t261;
         const V t635 = t634 + t633;
-        const V t636 = c10 * t261;
-        const V t637 = c9 * t260;
+        const V t636 = c[10] * t261;
+        const V t637 = c[9] * t260;
         const V t638 = t636 - t637;
-        const V t639 = c30 * t360;
-        const V t640 = c29 * t361;
+        const V t639 = c[30] * t360;
+        const V t640 = c[29] * t361;
         const V t641 = t639 - t640;
-        const V t642 = c30 * t361;
-        const V t643 = c29 * t360;
+        const V t642 = c[30] * t361;
+        const V t643 = c[29] * t360;
         const V t644 = t643 + t642;
         // complex block of 2
         const V t645 = t638 - t60;

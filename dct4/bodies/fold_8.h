@@ -9,19 +9,23 @@ namespace zulg {
 
 template <>
 struct Dct4Fold<8> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+        0.3826834323650898,  // c[1]: -sin 2 pi 15/16
+        0.9238795325112867,  // c[2]: cos 2 pi 15/16
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
-        constexpr auto c1 = Ports::fixed(0.3826834323650898);  // -sin 2 pi 15/16
-        constexpr auto c2 = Ports::fixed(0.9238795325112867);  // cos 2 pi 15/16
+        const ConstantsOf<Ports, Dct4Fold> c{};
         // part 0 of 8
         const V x2 = io.in(2);
         const V x6 = io.in(6);
         const V t0 = x2 + x6;
-        const V t1 = c0 * t0;
+        const V t1 = c[0] * t0;
         const V t2 = x2 - x6;
-        const V t3 = c0 * t2;
+        const V t3 = c[0] * t2;
         const V x0 = io.in(0);
         const V t4 = x0 + t1;
         const V x4 = io.in(4);
@@ -32,9 +36,9 @@ struct Dct4Fold<8> {
         const V x3 = io.in(3);
         const V x7 = io.in(7);
         const V t8 = x3 + x7;
-        const V t9 = c0 * t8;
+        const V t9 = c[0] * t8;
         const V t10 = x3 - x7;
-        const V t11 = c0 * t10;
+        const V t11 = c[0] * t10;
         const V x1 = io.in(1);
         const V t12 = x1 + t9;
         const V x5 = io.in(5);
@@ -42,11 +46,11 @@ struct Dct4Fold<8> {
         const V t14 = x1 - t9;
         const V t15 = t11 + x5;
         // row 0 of 8
-        const V t16 = c1 * t13;
-        const V t17 = c2 * t12;
+        const V t16 = c[1] * t13;
+        const V t17 = c[2] * t12;
         const V t18 = t17 - t16;
-        const V t19 = c1 * t12;
-        const V t20 = c2 * t13;
+        const V t19 = c[1] * t12;
+        const V t20 = c[2] * t13;
         const V t21 = t20 + t19;
         // complex block of 2
         const V t22 = t5 + t21;
@@ -56,11 +60,11 @@ struct Dct4Fold<8> {
         const V t24 = t4 - t18;
         io.re(3, t24);
         // row 1 of 8
-        const V t25 = c2 * t15;
-        const V t26 = c1 * t14;
+        const V t25 = c[2] * t15;
+        const V t26 = c[1] * t14;
         const V t27 = t26 - t25;
-        const V t28 = c2 * t14;
-        const V t29 = c1 * t15;
+        const V t28 = c[2] * t14;
+        const V t29 = c[1] * t15;
         const V t30 = t29 + t28;
         // complex block of 2
         const V t31 = t7 + t30;

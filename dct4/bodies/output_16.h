@@ -9,24 +9,28 @@ namespace zulg {
 
 template <>
 struct Dct4Output<16> {
+    static constexpr double constants[] = {
+        0.3826834323650898,  // c[0]: -sin 2 pi 15/16
+        0.9238795325112867,  // c[1]: cos 2 pi 15/16
+        0.7071067811865476,  // c[2]: cos 2 pi 1/8
+        0.19509032201612828,  // c[3]: -sin 2 pi 31/32
+        0.9807852804032304,  // c[4]: cos 2 pi 31/32
+        0.5555702330196022,  // c[5]: -sin 2 pi 29/32
+        0.8314696123025452,  // c[6]: cos 2 pi 29/32
+        0.0980171403295606,  // c[7]: -sin 2 pi 63/64
+        0.9951847266721969,  // c[8]: cos 2 pi 63/64
+        0.2902846772544624,  // c[9]: -sin 2 pi 61/64
+        0.9569403357322088,  // c[10]: cos 2 pi 61/64
+        0.47139673682599764,  // c[11]: -sin 2 pi 59/64
+        0.881921264348355,  // c[12]: cos 2 pi 59/64
+        0.6343932841636455,  // c[13]: -sin 2 pi 57/64
+        0.773010453362737,  // c[14]: cos 2 pi 57/64
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.0980171403295606);  // -sin 2 pi 63/64
-        constexpr auto c1 = Ports::fixed(0.9951847266721969);  // cos 2 pi 63/64
-        constexpr auto c2 = Ports::fixed(0.2902846772544624);  // -sin 2 pi 61/64
-        constexpr auto c3 = Ports::fixed(0.9569403357322088);  // cos 2 pi 61/64
-        constexpr auto c4 = Ports::fixed(0.47139673682599764);  // -sin 2 pi 59/64
-        constexpr auto c5 = Ports::fixed(0.881921264348355);  // cos 2 pi 59/64
-        constexpr auto c6 = Ports::fixed(0.6343932841636455);  // -sin 2 pi 57/64
-        constexpr auto c7 = Ports::fixed(0.773010453362737);  // cos 2 pi 57/64
-        constexpr auto c8 = Ports::fixed(0.19509032201612828);  // -sin 2 pi 31/32
-        constexpr auto c9 = Ports::fixed(0.9807852804032304);  // cos 2 pi 31/32
-        constexpr auto c10 = Ports::fixed(0.5555702330196022);  // -sin 2 pi 29/32
-        constexpr auto c11 = Ports::fixed(0.8314696123025452);  // cos 2 pi 29/32
-        constexpr auto c12 = Ports::fixed(0.3826834323650898);  // -sin 2 pi 15/16
-        constexpr auto c13 = Ports::fixed(0.9238795325112867);  // cos 2 pi 15/16
-        constexpr auto c14 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Output> c{};
         const V x0i = io.im(0);
         const V w1 = io.table(1);
         const V t0 = x0i * w1;
@@ -193,11 +197,11 @@ struct Dct4Output<16> {
         const V t98 = t5 + t11;
         const V t99 = t2 - t8;
         // mirrored skew block of 32
-        const V t100 = c0 * t98;
-        const V t101 = c1 * t99;
+        const V t100 = c[7] * t98;
+        const V t101 = c[8] * t99;
         const V t102 = t101 - t100;
-        const V t103 = c0 * t99;
-        const V t104 = c1 * t98;
+        const V t103 = c[7] * t99;
+        const V t104 = c[8] * t98;
         const V t105 = t104 + t103;
         // complex block of 2
         const V t106 = t17 - t23;
@@ -205,11 +209,11 @@ struct Dct4Output<16> {
         const V t108 = t17 + t23;
         const V t109 = t14 - t20;
         // mirrored skew block of 32
-        const V t110 = c2 * t108;
-        const V t111 = c3 * t109;
+        const V t110 = c[9] * t108;
+        const V t111 = c[10] * t109;
         const V t112 = t111 - t110;
-        const V t113 = c2 * t109;
-        const V t114 = c3 * t108;
+        const V t113 = c[9] * t109;
+        const V t114 = c[10] * t108;
         const V t115 = t114 + t113;
         // complex block of 2
         const V t116 = t29 - t35;
@@ -217,11 +221,11 @@ struct Dct4Output<16> {
         const V t118 = t29 + t35;
         const V t119 = t26 - t32;
         // mirrored skew block of 32
-        const V t120 = c4 * t118;
-        const V t121 = c5 * t119;
+        const V t120 = c[11] * t118;
+        const V t121 = c[12] * t119;
         const V t122 = t121 - t120;
-        const V t123 = c4 * t119;
-        const V t124 = c5 * t118;
+        const V t123 = c[11] * t119;
+        const V t124 = c[12] * t118;
         const V t125 = t124 + t123;
         // complex block of 2
         const V t126 = t41 - t47;
@@ -229,11 +233,11 @@ struct Dct4Output<16> {
         const V t128 = t41 + t47;
         const V t129 = t38 - t44;
         // mirrored skew block of 32
-        const V t130 = c6 * t128;
-        const V t131 = c7 * t129;
+        const V t130 = c[13] * t128;
+        const V t131 = c[14] * t129;
         const V t132 = t131 - t130;
-        const V t133 = c6 * t129;
-        const V t134 = c7 * t128;
+        const V t133 = c[13] * t129;
+        const V t134 = c[14] * t128;
         const V t135 = t134 + t133;
         // complex block of 2
         const V t136 = t53 - t59;
@@ -241,11 +245,11 @@ struct Dct4Output<16> {
         const V t138 = t53 + t59;
         const V t139 = t50 - t56;
         // mirrored skew block of 32
-        const V t140 = c7 * t138;
-        const V t141 = c6 * t139;
+        const V t140 = c[14] * t138;
+        const V t141 = c[13] * t139;
         const V t142 = t141 - t140;
-        const V t143 = c7 * t139;
-        const V t144 = c6 * t138;
+        const V t143 = c[14] * t139;
+        const V t144 = c[13] * t138;
         const V t145 = t144 + t143;
         // complex block of 2
         const V t146 = t65 - t71;
@@ -253,11 +257,11 @@ struct Dct4Output<16> {
         const V t148 = t65 + t71;
         const V t149 = t62 - t68;
         // mirrored skew block of 32
-        const V t150 = c5 * t148;
-        const V t151 = c4 * t149;
+        const V t150 = c[12] * t148;
+        const V t151 = c[11] * t149;
         const V t152 = t151 - t150;
-        const V t153 = c5 * t149;
-        const V t154 = c4 * t148;
+        const V t153 = c[12] * t149;
+        const V t154 = c[11] * t148;
         const V t155 = t154 + t153;
         // complex block of 2
         const V t156 = t77 - t83;
@@ -265,11 +269,11 @@ struct Dct4Output<16> {
         const V t158 = t77 + t83;
         const V t159 = t74 - t80;
         // mirrored skew block of 32
-        const V t160 = c3 * t158;
-        const V t161 = c2 * t159;
+        const V t160 = c[10] * t158;
+        const V t161 = c[9] * t159;
         const V t162 = t161 - t160;
-        const V t163 = c3 * t159;
-        const V t164 = c2 * t158;
+        const V t163 = c[10] * t159;
+        const V t164 = c[9] * t158;
         const V t165 = t164 + t163;
         // complex block of 2
         const V t166 = t89 - t95;
@@ -277,11 +281,11 @@ struct Dct4Output<16> {
         const V t168 = t89 + t95;
         const V t169 = t86 - t92;
         // mirrored skew block of 32
-        const V t170 = c1 * t168;
-        const V t171 = c0 * t169;
+        const V t170 = c[8] * t168;
+        const V t171 = c[7] * t169;
         const V t172 = t171 - t170;
-        const V t173 = c1 * t169;
-        const V t174 = c0 * t168;
+        const V t173 = c[8] * t169;
+        const V t174 = c[7] * t168;
         const V t175 = t174 + t173;
         // complex block of 2
         const V t176 = t96 - t166;
@@ -289,11 +293,11 @@ struct Dct4Output<16> {
         const V t178 = t96 + t166;
         const V t179 = t97 - t167;
         // mirrored skew block of 16
-        const V t180 = c8 * t178;
-        const V t181 = c9 * t179;
+        const V t180 = c[3] * t178;
+        const V t181 = c[4] * t179;
         const V t182 = t181 - t180;
-        const V t183 = c8 * t179;
-        const V t184 = c9 * t178;
+        const V t183 = c[3] * t179;
+        const V t184 = c[4] * t178;
         const V t185 = t184 + t183;
         // complex block of 2
         const V t186 = t106 - t156;
@@ -301,11 +305,11 @@ struct Dct4Output<16> {
         const V t188 = t106 + t156;
         const V t189 = t107 - t157;
         // mirrored skew block of 16
-        const V t190 = c10 * t188;
-        const V t191 = c11 * t189;
+        const V t190 = c[5] * t188;
+        const V t191 = c[6] * t189;
         const V t192 = t191 - t190;
-        const V t193 = c10 * t189;
-        const V t194 = c11 * t188;
+        const V t193 = c[5] * t189;
+        const V t194 = c[6] * t188;
         const V t195 = t194 + t193;
         // complex block of 2
         const V t196 = t116 - t146;
@@ -313,11 +317,11 @@ struct Dct4Output<16> {
         const V t198 = t116 + t146;
         const V t199 = t117 - t147;
         // mirrored skew block of 16
-        const V t200 = c11 * t198;
-        const V t201 = c10 * t199;
+        const V t200 = c[6] * t198;
+        const V t201 = c[5] * t199;
         const V t202 = t201 - t200;
-        const V t203 = c11 * t199;
-        const V t204 = c10 * t198;
+        const V t203 = c[6] * t199;
+        const V t204 = c[5] * t198;
         const V t205 = t204 + t203;
         // complex block of 2
         const V t206 = t126 - t136;
@@ -325,11 +329,11 @@ struct Dct4Output<16> {
         const V t208 = t126 + t136;
         const V t209 = t127 - t137;
         // mirrored skew block of 16
-        const V t210 = c9 * t208;
-        const V t211 = c8 * t209;
+        const V t210 = c[4] * t208;
+        const V t211 = c[3] * t209;
         const V t212 = t211 - t210;
-        const V t213 = c9 * t209;
-        const V t214 = c8 * t208;
+        const V t213 = c[4] * t209;
+        const V t214 = c[3] * t208;
         const V t215 = t214 + t213;
         // complex block of 2
         const V t216 = t176 - t206;
@@ -337,11 +341,11 @@ struct Dct4Output<16> {
         const V t218 = t176 + t206;
         const V t219 = t177 - t207;
         // mirrored skew block of 8
-        const V t220 = c12 * t218;
-        const V t221 = c13 * t219;
+        const V t220 = c[0] * t218;
+        const V t221 = c[1] * t219;
         const V t222 = t221 - t220;
-        const V t223 = c12 * t219;
-        const V t224 = c13 * t218;
+        const V t223 = c[0] * t219;
+        const V t224 = c[1] * t218;
         const V t225 = t224 + t223;
         // complex block of 2
         const V t226 = t186 - t196;
@@ -349,17 +353,17 @@ struct Dct4Output<16> {
         const V t228 = t186 + t196;
         const V t229 = t187 - t197;
         // mirrored skew block of 8
-        const V t230 = c13 * t228;
-        const V t231 = c12 * t229;
+        const V t230 = c[1] * t228;
+        const V t231 = c[0] * t229;
         const V t232 = t231 - t230;
-        const V t233 = c13 * t229;
-        const V t234 = c12 * t228;
+        const V t233 = c[1] * t229;
+        const V t234 = c[0] * t228;
         const V t235 = t234 + t233;
         // mirrored skew block of 4
         const V t236 = t217 - t227;
-        const V t237 = c14 * t236;
+        const V t237 = c[2] * t236;
         const V t238 = t216 + t226;
-        const V t239 = c14 * t238;
+        const V t239 = c[2] * t238;
         const V t240 = t217 + t227;
         io.rising(0, t240);
         const V t241 = t237 - t239;
@@ -370,9 +374,9 @@ struct Dct4Output<16> {
         io.falling(8, t243);
         // mirrored skew block of 4
         const V t244 = t222 - t232;
-        const V t245 = c14 * t244;
+        const V t245 = c[2] * t244;
         const V t246 = t225 + t235;
-        const V t247 = c14 * t246;
+        const V t247 = c[2] * t246;
         const V t248 = t222 + t232;
         io.rising(4, t248);
         const V t249 = t245 - t247;
@@ -387,11 +391,11 @@ struct Dct4Output<16> {
         const V t254 = t185 + t215;
         const V t255 = t182 - t212;
         // mirrored skew block of 8
-        const V t256 = c12 * t254;
-        const V t257 = c13 * t255;
+        const V t256 = c[0] * t254;
+        const V t257 = c[1] * t255;
         const V t258 = t257 - t256;
-        const V t259 = c12 * t255;
-        const V t260 = c13 * t254;
+        const V t259 = c[0] * t255;
+        const V t260 = c[1] * t254;
         const V t261 = t260 + t259;
         // complex block of 2
         const V t262 = t195 - t205;
@@ -399,17 +403,17 @@ struct Dct4Output<16> {
         const V t264 = t195 + t205;
         const V t265 = t192 - t202;
         // mirrored skew block of 8
-        const V t266 = c13 * t264;
-        const V t267 = c12 * t265;
+        const V t266 = c[1] * t264;
+        const V t267 = c[0] * t265;
         const V t268 = t267 - t266;
-        const V t269 = c13 * t265;
-        const V t270 = c12 * t264;
+        const V t269 = c[1] * t265;
+        const V t270 = c[0] * t264;
         const V t271 = t270 + t269;
         // mirrored skew block of 4
         const V t272 = t253 - t263;
-        const V t273 = c14 * t272;
+        const V t273 = c[2] * t272;
         const V t274 = t252 + t262;
-        const V t275 = c14 * t274;
+        const V t275 = c[2] * t274;
         const V t276 = t253 + t263;
         io.rising(2, t276);
         const V t277 = t273 - t275;
@@ -420,9 +424,9 @@ struct Dct4Output<16> {
         io.falling(10, t279);
         // mirrored skew block of 4
         const V t280 = t258 - t268;
-        const V t281 = c14 * t280;
+        const V t281 = c[2] * t280;
         const V t282 = t261 + t271;
-        const V t283 = c14 * t282;
+        const V t283 = c[2] * t282;
         const V t284 = t258 + t268;
         io.rising(6, t284);
         const V t285 = t281 - t283;
@@ -437,11 +441,11 @@ struct Dct4Output<16> {
         const V t290 = t105 + t175;
         const V t291 = t102 - t172;
         // mirrored skew block of 16
-        const V t292 = c8 * t290;
-        const V t293 = c9 * t291;
+        const V t292 = c[3] * t290;
+        const V t293 = c[4] * t291;
         const V t294 = t293 - t292;
-        const V t295 = c8 * t291;
-        const V t296 = c9 * t290;
+        const V t295 = c[3] * t291;
+        const V t296 = c[4] * t290;
         const V t297 = t296 + t295;
         // complex block of 2
         const V t298 = t115 - t165;
@@ -449,11 +453,11 @@ struct Dct4Output<16> {
         const V t300 = t115 + t165;
         const V t301 = t112 - t162;
         // mirrored skew block of 16
-        const V t302 = c10 * t300;
-        const V t303 = c11 * t301;
+        const V t302 = c[5] * t300;
+        const V t303 = c[6] * t301;
         const V t304 = t303 - t302;
-        const V t305 = c10 * t301;
-        const V t306 = c11 * t300;
+        const V t305 = c[5] * t301;
+        const V t306 = c[6] * t300;
         const V t307 = t306 + t305;
         // complex block of 2
         const V t308 = t125 - t155;
@@ -461,11 +465,11 @@ struct Dct4Output<16> {
         const V t310 = t125 + t155;
         const V t311 = t122 - t152;
         // mirrored skew block of 16
-        const V t312 = c11 * t310;
-        const V t313 = c10 * t311;
+        const V t312 = c[6] * t310;
+        const V t313 = c[5] * t311;
         const V t314 = t313 - t312;
-        const V t315 = c11 * t311;
-        const V t316 = c10 * t310;
+        const V t315 = c[6] * t311;
+        const V t316 = c[5] * t310;
         const V t317 = t316 + t315;
         // complex block of 2
         const V t318 = t135 - t145;
@@ -473,11 +477,11 @@ struct Dct4Output<16> {
         const V t320 = t135 + t145;
         const V t321 = t132 - t142;
         // mirrored skew block of 16
-        const V t322 = c9 * t320;
-        const V t323 = c8 * t321;
+        const V t322 = c[4] * t320;
+        const V t323 = c[3] * t321;
         const V t324 = t323 - t322;
-        const V t325 = c9 * t321;
-        const V t326 = c8 * t320;
+        const V t325 = c[4] * t321;
+        const V t326 = c[3] * t320;
         const V t327 = t326 + t325;
         // complex block of 2
         const V t328 = t288 - t318;
@@ -485,11 +489,11 @@ struct Dct4Output<16> {
         const V t330 = t288 + t318;
         const V t331 = t289 - t319;
         // mirrored skew block of 8
-        const V t332 = c12 * t330;
-        const V t333 = c13 * t331;
+        const V t332 = c[0] * t330;
+        const V t333 = c[1] * t331;
         const V t334 = t333 - t332;
-        const V t335 = c12 * t331;
-        const V t336 = c13 * t330;
+        const V t335 = c[0] * t331;
+        const V t336 = c[1] * t330;
         const V t337 = t336 + t335;
         // complex block of 2
         const V t338 = t298 - t308;
@@ -497,17 +501,17 @@ struct Dct4Output<16> {
         const V t340 = t298 + t308;
         const V t341 = t299 - t309;
         // mirrored skew block of 8
-        const V t342 = c13 * t340;
-        const V t343 = c12 * t341;
+        const V t342 = c[1] * t340;
+        const V t343 = c[0] * t341;
         const V t344 = t343 - t342;
-        const V t345 = c13 * t341;
-        const V t346 = c12 * t340;
+        const V t345 = c[1] * t341;
+        const V t346 = c[0] * t340;
         const V t347 = t346 + t345;
         // mirrored skew block of 4
         const V t348 = t329 - t339;
-        const V t349 = c14 * t348;
+        const V t349 = c[2] * t348;
         const V t350 = t328 + t338;
-        const V t351 = c14 * t350;
+        const V t351 = c[2] * t350;
         const V t352 = t329 + t339;
         io.rising(1, t352);
         const V t353 = t349 - t351;
@@ -518,9 +522,9 @@ struct Dct4Output<16> {
         io.falling(9, t355);
         // mirrored skew block of 4
         const V t356 = t334 - t344;
-        const V t357 = c14 * t356;
+        const V t357 = c[2] * t356;
         const V t358 = t337 + t347;
-        const V t359 = c14 * t358;
+        const V t359 = c[2] * t358;
         const V t360 = t334 + t344;
         io.rising(5, t360);
         const V t361 = t357 - t359;
@@ -535,11 +539,11 @@ struct Dct4Output<16> {
         const V t366 = t297 + t327;
         const V t367 = t294 - t324;
         // mirrored skew block of 8
-        const V t368 = c12 * t366;
-        const V t369 = c13 * t367;
+        const V t368 = c[0] * t366;
+        const V t369 = c[1] * t367;
         const V t370 = t369 - t368;
-        const V t371 = c12 * t367;
-        const V t372 = c13 * t366;
+        const V t371 = c[0] * t367;
+        const V t372 = c[1] * t366;
         const V t373 = t372 + t371;
         // complex block of 2
         const V t374 = t307 - t317;
@@ -547,17 +551,17 @@ struct Dct4Output<16> {
         const V t376 = t307 + t317;
         const V t377 = t304 - t314;
         // mirrored skew block of 8
-        const V t378 = c13 * t376;
-        const V t379 = c12 * t377;
+        const V t378 = c[1] * t376;
+        const V t379 = c[0] * t377;
         const V t380 = t379 - t378;
-        const V t381 = c13 * t377;
-        const V t382 = c12 * t376;
+        const V t381 = c[1] * t377;
+        const V t382 = c[0] * t376;
         const V t383 = t382 + t381;
         // mirrored skew block of 4
         const V t384 = t365 - t375;
-        const V t385 = c14 * t384;
+        const V t385 = c[2] * t384;
         const V t386 = t364 + t374;
-        const V t387 = c14 * t386;
+        const V t387 = c[2] * t386;
         const V t388 = t365 + t375;
         io.rising(3, t388);
         const V t389 = t385 - t387;
@@ -568,9 +572,9 @@ struct Dct4Output<16> {
         io.falling(11, t391);
         // mirrored skew block of 4
         const V t392 = t370 - t380;
-        const V t393 = c14 * t392;
+        const V t393 = c[2] * t392;
         const V t394 = t373 + t383;
-        const V t395 = c14 * t394;
+        const V t395 = c[2] * t394;
         const V t396 = t370 + t380;
         io.rising(7, t396);
         const V t397 = t393 - t395;

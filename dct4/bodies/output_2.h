@@ -9,10 +9,14 @@ namespace zulg {
 
 template <>
 struct Dct4Output<2> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Output> c{};
         const V x0i = io.im(0);
         const V w1 = io.table(1);
         const V t0 = x0i * w1;
@@ -35,9 +39,9 @@ struct Dct4Output<2> {
         const V t11 = t10 + t9;
         // mirrored skew block of 4
         const V t12 = t2 - t8;
-        const V t13 = c0 * t12;
+        const V t13 = c[0] * t12;
         const V t14 = t5 + t11;
-        const V t15 = c0 * t14;
+        const V t15 = c[0] * t14;
         const V t16 = t2 + t8;
         io.rising(0, t16);
         const V t17 = t13 - t15;

@@ -9,40 +9,44 @@ namespace zulg {
 
 template <>
 struct Dct4Output<32> {
+    static constexpr double constants[] = {
+        0.7071067811865476,  // c[0]: cos 2 pi 1/8
+        0.19509032201612828,  // c[1]: -sin 2 pi 31/32
+        0.9807852804032304,  // c[2]: cos 2 pi 31/32
+        0.3826834323650898,  // c[3]: -sin 2 pi 30/32
+        0.9238795325112867,  // c[4]: cos 2 pi 30/32
+        0.5555702330196022,  // c[5]: -sin 2 pi 29/32
+        0.8314696123025452,  // c[6]: cos 2 pi 29/32
+        0.049067674327418015,  // c[7]: -sin 2 pi 127/128
+        0.9987954562051724,  // c[8]: cos 2 pi 127/128
+        0.0980171403295606,  // c[9]: -sin 2 pi 126/128
+        0.9951847266721969,  // c[10]: cos 2 pi 126/128
+        0.14673047445536175,  // c[11]: -sin 2 pi 125/128
+        0.989176509964781,  // c[12]: cos 2 pi 125/128
+        0.2902846772544624,  // c[13]: -sin 2 pi 122/128
+        0.9569403357322088,  // c[14]: cos 2 pi 122/128
+        0.4275550934302821,  // c[15]: -sin 2 pi 119/128
+        0.9039892931234433,  // c[16]: cos 2 pi 119/128
+        0.2429801799032639,  // c[17]: -sin 2 pi 123/128
+        0.970031253194544,  // c[18]: cos 2 pi 123/128
+        0.47139673682599764,  // c[19]: -sin 2 pi 118/128
+        0.881921264348355,  // c[20]: cos 2 pi 118/128
+        0.6715589548470184,  // c[21]: -sin 2 pi 113/128
+        0.7409511253549591,  // c[22]: cos 2 pi 113/128
+        0.33688985339222005,  // c[23]: -sin 2 pi 121/128
+        0.9415440651830208,  // c[24]: cos 2 pi 121/128
+        0.6343932841636455,  // c[25]: -sin 2 pi 114/128
+        0.773010453362737,  // c[26]: cos 2 pi 114/128
+        0.8577286100002721,  // c[27]: -sin 2 pi 107/128
+        0.5141027441932218,  // c[28]: cos 2 pi 107/128
+        0.5956993044924334,  // c[29]: -sin 2 pi 115/128
+        0.8032075314806449,  // c[30]: cos 2 pi 115/128
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.049067674327418015);  // -sin 2 pi 127/128
-        constexpr auto c1 = Ports::fixed(0.9987954562051724);  // cos 2 pi 127/128
-        constexpr auto c2 = Ports::fixed(0.0980171403295606);  // -sin 2 pi 126/128
-        constexpr auto c3 = Ports::fixed(0.9951847266721969);  // cos 2 pi 126/128
-        constexpr auto c4 = Ports::fixed(0.14673047445536175);  // -sin 2 pi 125/128
-        constexpr auto c5 = Ports::fixed(0.989176509964781);  // cos 2 pi 125/128
-        constexpr auto c6 = Ports::fixed(0.2902846772544624);  // -sin 2 pi 122/128
-        constexpr auto c7 = Ports::fixed(0.9569403357322088);  // cos 2 pi 122/128
-        constexpr auto c8 = Ports::fixed(0.4275550934302821);  // -sin 2 pi 119/128
-        constexpr auto c9 = Ports::fixed(0.9039892931234433);  // cos 2 pi 119/128
-        constexpr auto c10 = Ports::fixed(0.2429801799032639);  // -sin 2 pi 123/128
-        constexpr auto c11 = Ports::fixed(0.970031253194544);  // cos 2 pi 123/128
-        constexpr auto c12 = Ports::fixed(0.47139673682599764);  // -sin 2 pi 118/128
-        constexpr auto c13 = Ports::fixed(0.881921264348355);  // cos 2 pi 118/128
-        constexpr auto c14 = Ports::fixed(0.6715589548470184);  // -sin 2 pi 113/128
-        constexpr auto c15 = Ports::fixed(0.7409511253549591);  // cos 2 pi 113/128
-        constexpr auto c16 = Ports::fixed(0.33688985339222005);  // -sin 2 pi 121/128
-        constexpr auto c17 = Ports::fixed(0.9415440651830208);  // cos 2 pi 121/128
-        constexpr auto c18 = Ports::fixed(0.6343932841636455);  // -sin 2 pi 114/128
-        constexpr auto c19 = Ports::fixed(0.773010453362737);  // cos 2 pi 114/128
-        constexpr auto c20 = Ports::fixed(0.8577286100002721);  // -sin 2 pi 107/128
-        constexpr auto c21 = Ports::fixed(0.5141027441932218);  // cos 2 pi 107/128
-        constexpr auto c22 = Ports::fixed(0.5956993044924334);  // -sin 2 pi 115/128
-        constexpr auto c23 = Ports::fixed(0.8032075314806449);  // cos 2 pi 115/128
-        constexpr auto c24 = Ports::fixed(0.19509032201612828);  // -sin 2 pi 31/32
-        constexpr auto c25 = Ports::fixed(0.9807852804032304);  // cos 2 pi 31/32
-        constexpr auto c26 = Ports::fixed(0.3826834323650898);  // -sin 2 pi 30/32
-        constexpr auto c27 = Ports::fixed(0.9238795325112867);  // cos 2 pi 30/32
-        constexpr auto c28 = Ports::fixed(0.5555702330196022);  // -sin 2 pi 29/32
-        constexpr auto c29 = Ports::fixed(0.8314696123025452);  // cos 2 pi 29/32
-        constexpr auto c30 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Output> c{};
         const V x0i = io.im(0);
         const V w1 = io.table(1);
         const V t0 = x0i * w1;
@@ -384,23 +388,23 @@ struct Dct4Output<32> {
         const V t206 = t194 - t199;
         const V t207 = t195 + t198;
         // mirrored skew block of 64
-        const V t208 = c0 * t204;
-        const V t209 = c1 * t205;
+        const V t208 = c[7] * t204;
+        const V t209 = c[8] * t205;
         const V t210 = t209 - t208;
-        const V t211 = c0 * t205;
-        const V t212 = c1 * t204;
+        const V t211 = c[7] * t205;
+        const V t212 = c[8] * t204;
         const V t213 = t212 + t211;
-        const V t214 = c2 * t202;
-        const V t215 = c3 * t203;
+        const V t214 = c[9] * t202;
+        const V t215 = c[10] * t203;
         const V t216 = t215 - t214;
-        const V t217 = c2 * t203;
-        const V t218 = c3 * t202;
+        const V t217 = c[9] * t203;
+        const V t218 = c[10] * t202;
         const V t219 = t218 + t217;
-        const V t220 = c4 * t206;
-        const V t221 = c5 * t207;
+        const V t220 = c[11] * t206;
+        const V t221 = c[12] * t207;
         const V t222 = t221 - t220;
-        const V t223 = c4 * t207;
-        const V t224 = c5 * t206;
+        const V t223 = c[11] * t207;
+        const V t224 = c[12] * t206;
         const V t225 = t224 + t223;
         // complex block of 2
         const V t226 = t101 - t107;
@@ -423,23 +427,23 @@ struct Dct4Output<32> {
         const V t240 = t228 - t233;
         const V t241 = t229 + t232;
         // mirrored skew block of 64
-        const V t242 = c4 * t238;
-        const V t243 = c5 * t239;
+        const V t242 = c[11] * t238;
+        const V t243 = c[12] * t239;
         const V t244 = t243 - t242;
-        const V t245 = c4 * t239;
-        const V t246 = c5 * t238;
+        const V t245 = c[11] * t239;
+        const V t246 = c[12] * t238;
         const V t247 = t246 + t245;
-        const V t248 = c6 * t236;
-        const V t249 = c7 * t237;
+        const V t248 = c[13] * t236;
+        const V t249 = c[14] * t237;
         const V t250 = t249 - t248;
-        const V t251 = c6 * t237;
-        const V t252 = c7 * t236;
+        const V t251 = c[13] * t237;
+        const V t252 = c[14] * t236;
         const V t253 = t252 + t251;
-        const V t254 = c8 * t240;
-        const V t255 = c9 * t241;
+        const V t254 = c[15] * t240;
+        const V t255 = c[16] * t241;
         const V t256 = t255 - t254;
-        const V t257 = c8 * t241;
-        const V t258 = c9 * t240;
+        const V t257 = c[15] * t241;
+        const V t258 = c[16] * t240;
         const V t259 = t258 + t257;
         // complex block of 2
         const V t260 = t191 - t185;
@@ -462,23 +466,23 @@ struct Dct4Output<32> {
         const V t274 = t262 - t267;
         const V t275 = t263 + t266;
         // mirrored skew block of 64
-        const V t276 = c10 * t272;
-        const V t277 = c11 * t273;
+        const V t276 = c[17] * t272;
+        const V t277 = c[18] * t273;
         const V t278 = t277 - t276;
-        const V t279 = c10 * t273;
-        const V t280 = c11 * t272;
+        const V t279 = c[17] * t273;
+        const V t280 = c[18] * t272;
         const V t281 = t280 + t279;
-        const V t282 = c12 * t270;
-        const V t283 = c13 * t271;
+        const V t282 = c[19] * t270;
+        const V t283 = c[20] * t271;
         const V t284 = t283 - t282;
-        const V t285 = c12 * t271;
-        const V t286 = c13 * t270;
+        const V t285 = c[19] * t271;
+        const V t286 = c[20] * t270;
         const V t287 = t286 + t285;
-        const V t288 = c14 * t274;
-        const V t289 = c15 * t275;
+        const V t288 = c[21] * t274;
+        const V t289 = c[22] * t275;
         const V t290 = t289 - t288;
-        const V t291 = c14 * t275;
-        const V t292 = c15 * t274;
+        const V t291 = c[21] * t275;
+        const V t292 = c[22] * t274;
         const V t293 = t292 + t291;
         // complex block of 2
         const V t294 = t95 - t89;
@@ -501,23 +505,23 @@ struct Dct4Output<32> {
         const V t308 = t296 - t301;
         const V t309 = t297 + t300;
         // mirrored skew block of 64
-        const V t310 = c16 * t306;
-        const V t311 = c17 * t307;
+        const V t310 = c[23] * t306;
+        const V t311 = c[24] * t307;
         const V t312 = t311 - t310;
-        const V t313 = c16 * t307;
-        const V t314 = c17 * t306;
+        const V t313 = c[23] * t307;
+        const V t314 = c[24] * t306;
         const V t315 = t314 + t313;
-        const V t316 = c18 * t304;
-        const V t317 = c19 * t305;
+        const V t316 = c[25] * t304;
+        const V t317 = c[26] * t305;
         const V t318 = t317 - t316;
-        const V t319 = c18 * t305;
-        const V t320 = c19 * t304;
+        const V t319 = c[25] * t305;
+        const V t320 = c[26] * t304;
         const V t321 = t320 + t319;
-        const V t322 = c20 * t308;
-        const V t323 = c21 * t309;
+        const V t322 = c[27] * t308;
+        const V t323 = c[28] * t309;
         const V t324 = t323 - t322;
-        const V t325 = c20 * t309;
-        const V t326 = c21 * t308;
+        const V t325 = c[27] * t309;
+        const V t326 = c[28] * t308;
         const V t327 = t326 + t325;
         // complex block of 2
         const V t328 = t29 - t35;
@@ -540,23 +544,23 @@ struct Dct4Output<32> {
         const V t342 = t330 - t335;
         const V t343 = t331 + t334;
         // mirrored skew block of 64
-        const V t344 = c8 * t340;
-        const V t345 = c9 * t341;
+        const V t344 = c[15] * t340;
+        const V t345 = c[16] * t341;
         const V t346 = t345 - t344;
-        const V t347 = c8 * t341;
-        const V t348 = c9 * t340;
+        const V t347 = c[15] * t341;
+        const V t348 = c[16] * t340;
         const V t349 = t348 + t347;
-        const V t350 = c19 * t338;
-        const V t351 = c18 * t339;
+        const V t350 = c[26] * t338;
+        const V t351 = c[25] * t339;
         const V t352 = t351 - t350;
-        const V t353 = c19 * t339;
-        const V t354 = c18 * t338;
+        const V t353 = c[26] * t339;
+        const V t354 = c[25] * t338;
         const V t355 = t354 + t353;
-        const V t356 = c11 * t342;
-        const V t357 = c10 * t343;
+        const V t356 = c[18] * t342;
+        const V t357 = c[17] * t343;
         const V t358 = t357 - t356;
-        const V t359 = c11 * t343;
-        const V t360 = c10 * t342;
+        const V t359 = c[18] * t343;
+        const V t360 = c[17] * t342;
         const V t361 = t360 + t359;
         // complex block of 2
         const V t362 = t125 - t131;
@@ -579,23 +583,23 @@ struct Dct4Output<32> {
         const V t376 = t364 - t369;
         const V t377 = t365 + t368;
         // mirrored skew block of 64
-        const V t378 = c21 * t374;
-        const V t379 = c20 * t375;
+        const V t378 = c[28] * t374;
+        const V t379 = c[27] * t375;
         const V t380 = t379 - t378;
-        const V t381 = c21 * t375;
-        const V t382 = c20 * t374;
+        const V t381 = c[28] * t375;
+        const V t382 = c[27] * t374;
         const V t383 = t382 + t381;
-        const V t384 = c13 * t372;
-        const V t385 = c12 * t373;
+        const V t384 = c[20] * t372;
+        const V t385 = c[19] * t373;
         const V t386 = t385 - t384;
-        const V t387 = c13 * t373;
-        const V t388 = c12 * t372;
+        const V t387 = c[20] * t373;
+        const V t388 = c[19] * t372;
         const V t389 = t388 + t387;
-        const V t390 = c1 * t376;
-        const V t391 = c0 * t377;
+        const V t390 = c[8] * t376;
+        const V t391 = c[7] * t377;
         const V t392 = t391 + t390;
-        const V t393 = c1 * t377;
-        const V t394 = c0 * t376;
+        const V t393 = c[8] * t377;
+        const V t394 = c[7] * t376;
         const V t395 = t393 - t394;
         // complex block of 2
         const V t396 = t167 - t161;
@@ -618,23 +622,23 @@ struct Dct4Output<32> {
         const V t410 = t398 - t403;
         const V t411 = t399 + t402;
         // mirrored skew block of 64
-        const V t412 = c22 * t408;
-        const V t413 = c23 * t409;
+        const V t412 = c[29] * t408;
+        const V t413 = c[30] * t409;
         const V t414 = t413 - t412;
-        const V t415 = c22 * t409;
-        const V t416 = c23 * t408;
+        const V t415 = c[29] * t409;
+        const V t416 = c[30] * t408;
         const V t417 = t416 + t415;
-        const V t418 = c7 * t406;
-        const V t419 = c6 * t407;
+        const V t418 = c[14] * t406;
+        const V t419 = c[13] * t407;
         const V t420 = t419 - t418;
-        const V t421 = c7 * t407;
-        const V t422 = c6 * t406;
+        const V t421 = c[14] * t407;
+        const V t422 = c[13] * t406;
         const V t423 = t422 + t421;
-        const V t424 = c17 * t410;
-        const V t425 = c16 * t411;
+        const V t424 = c[24] * t410;
+        const V t425 = c[23] * t411;
         const V t426 = t425 + t424;
-        const V t427 = c17 * t411;
-        const V t428 = c16 * t410;
+        const V t427 = c[24] * t411;
+        const V t428 = c[23] * t410;
         const V t429 = t427 - t428;
         // complex block of 2
         const V t430 = t71 - t65;
@@ -657,23 +661,23 @@ struct Dct4Output<32> {
         const V t444 = t432 - t437;
         const V t445 = t433 + t436;
         // mirrored skew block of 64
-        const V t446 = c14 * t442;
-        const V t447 = c15 * t443;
+        const V t446 = c[21] * t442;
+        const V t447 = c[22] * t443;
         const V t448 = t447 - t446;
-        const V t449 = c14 * t443;
-        const V t450 = c15 * t442;
+        const V t449 = c[21] * t443;
+        const V t450 = c[22] * t442;
         const V t451 = t450 + t449;
-        const V t452 = c3 * t440;
-        const V t453 = c2 * t441;
+        const V t452 = c[10] * t440;
+        const V t453 = c[9] * t441;
         const V t454 = t453 - t452;
-        const V t455 = c3 * t441;
-        const V t456 = c2 * t440;
+        const V t455 = c[10] * t441;
+        const V t456 = c[9] * t440;
         const V t457 = t456 + t455;
-        const V t458 = c23 * t444;
-        const V t459 = c22 * t445;
+        const V t458 = c[30] * t444;
+        const V t459 = c[29] * t445;
         const V t460 = t459 + t458;
-        const V t461 = c23 * t445;
-        const V t462 = c22 * t444;
+        const V t461 = c[30] * t445;
+        const V t462 = c[29] * t444;
         const V t463 = t461 - t462;
         // complex block of 2
         const V t464 = t200 - t438;
@@ -696,23 +700,23 @@ struct Dct4Output<32> {
         const V t478 = t466 - t471;
         const V t479 = t467 + t470;
         // mirrored skew block of 16
-        const V t480 = c24 * t476;
-        const V t481 = c25 * t477;
+        const V t480 = c[1] * t476;
+        const V t481 = c[2] * t477;
         const V t482 = t481 - t480;
-        const V t483 = c24 * t477;
-        const V t484 = c25 * t476;
+        const V t483 = c[1] * t477;
+        const V t484 = c[2] * t476;
         const V t485 = t484 + t483;
-        const V t486 = c26 * t474;
-        const V t487 = c27 * t475;
+        const V t486 = c[3] * t474;
+        const V t487 = c[4] * t475;
         const V t488 = t487 - t486;
-        const V t489 = c26 * t475;
-        const V t490 = c27 * t474;
+        const V t489 = c[3] * t475;
+        const V t490 = c[4] * t474;
         const V t491 = t490 + t489;
-        const V t492 = c28 * t478;
-        const V t493 = c29 * t479;
+        const V t492 = c[5] * t478;
+        const V t493 = c[6] * t479;
         const V t494 = t493 - t492;
-        const V t495 = c28 * t479;
-        const V t496 = c29 * t478;
+        const V t495 = c[5] * t479;
+        const V t496 = c[6] * t478;
         const V t497 = t496 + t495;
         // complex block of 2
         const V t498 = t234 - t404;
@@ -735,29 +739,29 @@ struct Dct4Output<32> {
         const V t512 = t500 - t505;
         const V t513 = t501 + t504;
         // mirrored skew block of 16
-        const V t514 = c28 * t510;
-        const V t515 = c29 * t511;
+        const V t514 = c[5] * t510;
+        const V t515 = c[6] * t511;
         const V t516 = t515 - t514;
-        const V t517 = c28 * t511;
-        const V t518 = c29 * t510;
+        const V t517 = c[5] * t511;
+        const V t518 = c[6] * t510;
         const V t519 = t518 + t517;
-        const V t520 = c27 * t508;
-        const V t521 = c26 * t509;
+        const V t520 = c[4] * t508;
+        const V t521 = c[3] * t509;
         const V t522 = t521 - t520;
-        const V t523 = c27 * t509;
-        const V t524 = c26 * t508;
+        const V t523 = c[4] * t509;
+        const V t524 = c[3] * t508;
         const V t525 = t524 + t523;
-        const V t526 = c25 * t512;
-        const V t527 = c24 * t513;
+        const V t526 = c[2] * t512;
+        const V t527 = c[1] * t513;
         const V t528 = t527 + t526;
-        const V t529 = c25 * t513;
-        const V t530 = c24 * t512;
+        const V t529 = c[2] * t513;
+        const V t530 = c[1] * t512;
         const V t531 = t529 - t530;
         // mirrored skew block of 4
         const V t532 = t473 - t507;
-        const V t533 = c30 * t532;
+        const V t533 = c[0] * t532;
         const V t534 = t472 + t506;
-        const V t535 = c30 * t534;
+        const V t535 = c[0] * t534;
         const V t536 = t473 + t507;
         io.rising(0, t536);
         const V t537 = t533 - t535;
@@ -768,9 +772,9 @@ struct Dct4Output<32> {
         io.falling(16, t539);
         // mirrored skew block of 4
         const V t540 = t482 - t516;
-        const V t541 = c30 * t540;
+        const V t541 = c[0] * t540;
         const V t542 = t485 + t519;
-        const V t543 = c30 * t542;
+        const V t543 = c[0] * t542;
         const V t544 = t482 + t516;
         io.rising(4, t544);
         const V t545 = t541 - t543;
@@ -781,9 +785,9 @@ struct Dct4Output<32> {
         io.falling(20, t547);
         // mirrored skew block of 4
         const V t548 = t488 - t522;
-        const V t549 = c30 * t548;
+        const V t549 = c[0] * t548;
         const V t550 = t491 + t525;
-        const V t551 = c30 * t550;
+        const V t551 = c[0] * t550;
         const V t552 = t488 + t522;
         io.rising(8, t552);
         const V t553 = t549 - t551;
@@ -794,9 +798,9 @@ struct Dct4Output<32> {
         io.falling(24, t555);
         // mirrored skew block of 4
         const V t556 = t494 + t528;
-        const V t557 = c30 * t556;
+        const V t557 = c[0] * t556;
         const V t558 = t497 + t531;
-        const V t559 = c30 * t558;
+        const V t559 = c[0] * t558;
         const V t560 = t494 - t528;
         io.rising(12, t560);
         const V t561 = t557 - t559;
@@ -826,23 +830,23 @@ struct Dct4Output<32> {
         const V t578 = t566 - t571;
         const V t579 = t567 + t570;
         // mirrored skew block of 16
-        const V t580 = c24 * t576;
-        const V t581 = c25 * t577;
+        const V t580 = c[1] * t576;
+        const V t581 = c[2] * t577;
         const V t582 = t581 - t580;
-        const V t583 = c24 * t577;
-        const V t584 = c25 * t576;
+        const V t583 = c[1] * t577;
+        const V t584 = c[2] * t576;
         const V t585 = t584 + t583;
-        const V t586 = c26 * t574;
-        const V t587 = c27 * t575;
+        const V t586 = c[3] * t574;
+        const V t587 = c[4] * t575;
         const V t588 = t587 - t586;
-        const V t589 = c26 * t575;
-        const V t590 = c27 * t574;
+        const V t589 = c[3] * t575;
+        const V t590 = c[4] * t574;
         const V t591 = t590 + t589;
-        const V t592 = c28 * t578;
-        const V t593 = c29 * t579;
+        const V t592 = c[5] * t578;
+        const V t593 = c[6] * t579;
         const V t594 = t593 - t592;
-        const V t595 = c28 * t579;
-        const V t596 = c29 * t578;
+        const V t595 = c[5] * t579;
+        const V t596 = c[6] * t578;
         const V t597 = t596 + t595;
         // complex block of 2
         const V t598 = t247 - t417;
@@ -865,29 +869,29 @@ struct Dct4Output<32> {
         const V t612 = t600 - t605;
         const V t613 = t601 + t604;
         // mirrored skew block of 16
-        const V t614 = c28 * t610;
-        const V t615 = c29 * t611;
+        const V t614 = c[5] * t610;
+        const V t615 = c[6] * t611;
         const V t616 = t615 - t614;
-        const V t617 = c28 * t611;
-        const V t618 = c29 * t610;
+        const V t617 = c[5] * t611;
+        const V t618 = c[6] * t610;
         const V t619 = t618 + t617;
-        const V t620 = c27 * t608;
-        const V t621 = c26 * t609;
+        const V t620 = c[4] * t608;
+        const V t621 = c[3] * t609;
         const V t622 = t621 - t620;
-        const V t623 = c27 * t609;
-        const V t624 = c26 * t608;
+        const V t623 = c[4] * t609;
+        const V t624 = c[3] * t608;
         const V t625 = t624 + t623;
-        const V t626 = c25 * t612;
-        const V t627 = c24 * t613;
+        const V t626 = c[2] * t612;
+        const V t627 = c[1] * t613;
         const V t628 = t627 + t626;
-        const V t629 = c25 * t613;
-        const V t630 = c24 * t612;
+        const V t629 = c[2] * t613;
+        const V t630 = c[1] * t612;
         const V t631 = t629 - t630;
         // mirrored skew block of 4
         const V t632 = t573 - t607;
-        const V t633 = c30 * t632;
+        const V t633 = c[0] * t632;
         const V t634 = t572 + t606;
-        const V t635 = c30 * t634;
+        const V t635 = c[0] * t634;
         const V t636 = t573 + t607;
         io.rising(1, t636);
         const V t637 = t633 - t635;
@@ -898,9 +902,9 @@ struct Dct4Output<32> {
         io.falling(17, t639);
         // mirrored skew block of 4
         const V t640 = t582 - t616;
-        const V t641 = c30 * t640;
+        const V t641 = c[0] * t640;
         const V t642 = t585 + t619;
-        const V t643 = c30 * t642;
+        const V t643 = c[0] * t642;
         const V t644 = t582 + t616;
         io.rising(5, t644);
         const V t645 = t641 - t643;
@@ -911,9 +915,9 @@ struct Dct4Output<32> {
         io.falling(21, t647);
         // mirrored skew block of 4
         const V t648 = t588 - t622;
-        const V t649 = c30 * t648;
+        const V t649 = c[0] * t648;
         const V t650 = t591 + t625;
-        const V t651 = c30 * t650;
+        const V t651 = c[0] * t650;
         const V t652 = t588 + t622;
         io.rising(9, t652);
         const V t653 = t649 - t651;
@@ -924,9 +928,9 @@ struct Dct4Output<32> {
         io.falling(25, t655);
         // mirrored skew block of 4
         const V t656 = t594 + t628;
-        const V t657 = c30 * t656;
+        const V t657 = c[0] * t656;
         const V t658 = t597 + t631;
-        const V t659 = c30 * t658;
+        const V t659 = c[0] * t658;
         const V t660 = t594 - t628;
         io.rising(13, t660);
         const V t661 = t657 - t659;
@@ -956,23 +960,23 @@ struct Dct4Output<32> {
         const V t678 = t666 - t671;
         const V t679 = t667 + t670;
         // mirrored skew block of 16
-        const V t680 = c24 * t676;
-        const V t681 = c25 * t677;
+        const V t680 = c[1] * t676;
+        const V t681 = c[2] * t677;
         const V t682 = t681 - t680;
-        const V t683 = c24 * t677;
-        const V t684 = c25 * t676;
+        const V t683 = c[1] * t677;
+        const V t684 = c[2] * t676;
         const V t685 = t684 + t683;
-        const V t686 = c26 * t674;
-        const V t687 = c27 * t675;
+        const V t686 = c[3] * t674;
+        const V t687 = c[4] * t675;
         const V t688 = t687 - t686;
-        const V t689 = c26 * t675;
-        const V t690 = c27 * t674;
+        const V t689 = c[3] * t675;
+        const V t690 = c[4] * t674;
         const V t691 = t690 + t689;
-        const V t692 = c28 * t678;
-        const V t693 = c29 * t679;
+        const V t692 = c[5] * t678;
+        const V t693 = c[6] * t679;
         const V t694 = t693 - t692;
-        const V t695 = c28 * t679;
-        const V t696 = c29 * t678;
+        const V t695 = c[5] * t679;
+        const V t696 = c[6] * t678;
         const V t697 = t696 + t695;
         // complex block of 2
         const V t698 = t253 - t423;
@@ -995,29 +999,29 @@ struct Dct4Output<32> {
         const V t712 = t700 - t705;
         const V t713 = t701 + t704;
         // mirrored skew block of 16
-        const V t714 = c28 * t710;
-        const V t715 = c29 * t711;
+        const V t714 = c[5] * t710;
+        const V t715 = c[6] * t711;
         const V t716 = t715 - t714;
-        const V t717 = c28 * t711;
-        const V t718 = c29 * t710;
+        const V t717 = c[5] * t711;
+        const V t718 = c[6] * t710;
         const V t719 = t718 + t717;
-        const V t720 = c27 * t708;
-        const V t721 = c26 * t709;
+        const V t720 = c[4] * t708;
+        const V t721 = c[3] * t709;
         const V t722 = t721 - t720;
-        const V t723 = c27 * t709;
-        const V t724 = c26 * t708;
+        const V t723 = c[4] * t709;
+        const V t724 = c[3] * t708;
         const V t725 = t724 + t723;
-        const V t726 = c25 * t712;
-        const V t727 = c24 * t713;
+        const V t726 = c[2] * t712;
+        const V t727 = c[1] * t713;
         const V t728 = t727 + t726;
-        const V t729 = c25 * t713;
-        const V t730 = c24 * t712;
+        const V t729 = c[2] * t713;
+        const V t730 = c[1] * t712;
         const V t731 = t729 - t730;
         // mirrored skew block of 4
         const V t732 = t673 - t707;
-        const V t733 = c30 * t732;
+        const V t733 = c[0] * t732;
         const V t734 = t672 + t706;
-        const V t735 = c30 * t734;
+        const V t735 = c[0] * t734;
         const V t736 = t673 + t707;
         io.rising(2, t736);
         const V t737 = t733 - t735;
@@ -1028,9 +1032,9 @@ struct Dct4Output<32> {
         io.falling(18, t739);
         // mirrored skew block of 4
         const V t740 = t682 - t716;
-        const V t741 = c30 * t740;
+        const V t741 = c[0] * t740;
         const V t742 = t685 + t719;
-        const V t743 = c30 * t742;
+        const V t743 = c[0] * t742;
         const V t744 = t682 + t716;
         io.rising(6, t744);
         const V t745 = t741 - t743;
@@ -1041,9 +1045,9 @@ struct Dct4Output<32> {
         io.falling(22, t747);
         // mirrored skew block of 4
         const V t748 = t688 - t722;
-        const V t749 = c30 * t748;
+        const V t749 = c[0] * t748;
         const V t750 = t691 + t725;
-        const V t751 = c30 * t750;
+        const V t751 = c[0] * t750;
         const V t752 = t688 + t722;
         io.rising(10, t752);
         const V t753 = t749 - t751;
@@ -1054,9 +1058,9 @@ struct Dct4Output<32> {
         io.falling(26, t755);
         // mirrored skew block of 4
         const V t756 = t694 + t728;
-        const V t757 = c30 * t756;
+        const V t757 = c[0] * t756;
         const V t758 = t697 + t731;
-        const V t759 = c30 * t758;
+        const V t759 = c[0] * t758;
         const V t760 = t694 - t728;
         io.rising(14, t760);
         const V t761 = t757 - t759;
@@ -1086,23 +1090,23 @@ struct Dct4Output<32> {
         const V t778 = t766 - t771;
         const V t779 = t767 + t770;
         // mirrored skew block of 16
-        const V t780 = c24 * t776;
-        const V t781 = c25 * t777;
+        const V t780 = c[1] * t776;
+        const V t781 = c[2] * t777;
         const V t782 = t781 - t780;
-        const V t783 = c24 * t777;
-        const V t784 = c25 * t776;
+        const V t783 = c[1] * t777;
+        const V t784 = c[2] * t776;
         const V t785 = t784 + t783;
-        const V t786 = c26 * t774;
-        const V t787 = c27 * t775;
+        const V t786 = c[3] * t774;
+        const V t787 = c[4] * t775;
         const V t788 = t787 - t786;
-        const V t789 = c26 * t775;
-        const V t790 = c27 * t774;
+        const V t789 = c[3] * t775;
+        const V t790 = c[4] * t774;
         const V t791 = t790 + t789;
-        const V t792 = c28 * t778;
-        const V t793 = c29 * t779;
+        const V t792 = c[5] * t778;
+        const V t793 = c[6] * t779;
         const V t794 = t793 - t792;
-        const V t795 = c28 * t779;
-        const V t796 = c29 * t778;
+        const V t795 = c[5] * t779;
+        const V t796 = c[6] * t778;
         const V t797 = t796 + t795;
         // complex block of 2
         const V t798 = t259 - t429;
@@ -1125,29 +1129,29 @@ struct Dct4Output<32> {
         const V t812 = t800 + t805;
         const V t813 = t801 + t804;
         // mirrored skew block of 16
-        const V t814 = c28 * t810;
-        const V t815 = c29 * t811;
+        const V t814 = c[5] * t810;
+        const V t815 = c[6] * t811;
         const V t816 = t815 - t814;
-        const V t817 = c28 * t811;
-        const V t818 = c29 * t810;
+        const V t817 = c[5] * t811;
+        const V t818 = c[6] * t810;
         const V t819 = t818 + t817;
-        const V t820 = c27 * t808;
-        const V t821 = c26 * t809;
+        const V t820 = c[4] * t808;
+        const V t821 = c[3] * t809;
         const V t822 = t821 - t820;
-        const V t823 = c27 * t809;
-        const V t824 = c26 * t808;
+        const V t823 = c[4] * t809;
+        const V t824 = c[3] * t808;
         const V t825 = t824 + t823;
-        const V t826 = c25 * t812;
-        const V t827 = c24 * t813;
+        const V t826 = c[2] * t812;
+        const V t827 = c[1] * t813;
         const V t828 = t827 + t826;
-        const V t829 = c25 * t813;
-        const V t830 = c24 * t812;
+        const V t829 = c[2] * t813;
+        const V t830 = c[1] * t812;
         const V t831 = t829 - t830;
         // mirrored skew block of 4
         const V t832 = t773 - t807;
-        const V t833 = c30 * t832;
+        const V t833 = c[0] * t832;
         const V t834 = t772 + t806;
-        const V t835 = c30 * t834;
+        const V t835 = c[0] * t834;
         const V t836 = t773 + t807;
         io.rising(3, t836);
         const V t837 = t833 - t835;
@@ -1158,9 +1162,9 @@ struct Dct4Output<32> {
         io.falling(19, t839);
         // mirrored skew block of 4
         const V t840 = t782 - t816;
-        const V t841 = c30 * t840;
+        const V t841 = c[0] * t840;
         const V t842 = t785 + t819;
-        const V t843 = c30 * t842;
+        const V t843 = c[0] * t842;
         const V t844 = t782 + t816;
         io.rising(7, t844);
         const V t845 = t841 - t843;
@@ -1171,9 +1175,9 @@ struct Dct4Output<32> {
         io.falling(23, t847);
         // mirrored skew block of 4
         const V t848 = t788 - t822;
-        const V t849 = c30 * t848;
+        const V t849 = c[0] * t848;
         const V t850 = t791 + t825;
-        const V t851 = c30 * t850;
+        const V t851 = c[0] * t850;
         const V t852 = t788 + t822;
         io.rising(11, t852);
         const V t853 = t849 - t851;
@@ -1184,9 +1188,9 @@ struct Dct4Output<32> {
         io.falling(27, t855);
         // mirrored skew block of 4
         const V t856 = t794 + t828;
-        const V t857 = c30 * t856;
+        const V t857 = c[0] * t856;
         const V t858 = t797 + t831;
-        const V t859 = c30 * t858;
+        const V t859 = c[0] * t858;
         const V t860 = t794 - t828;
         io.rising(15, t860);
         const V t861 = t857 - t859;

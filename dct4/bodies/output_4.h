@@ -9,12 +9,16 @@ namespace zulg {
 
 template <>
 struct Dct4Output<4> {
+    static constexpr double constants[] = {
+        0.3826834323650898,  // c[0]: -sin 2 pi 15/16
+        0.9238795325112867,  // c[1]: cos 2 pi 15/16
+        0.7071067811865476,  // c[2]: cos 2 pi 1/8
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.3826834323650898);  // -sin 2 pi 15/16
-        constexpr auto c1 = Ports::fixed(0.9238795325112867);  // cos 2 pi 15/16
-        constexpr auto c2 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Output> c{};
         const V x0i = io.im(0);
         const V w1 = io.table(1);
         const V t0 = x0i * w1;
@@ -61,11 +65,11 @@ struct Dct4Output<4> {
         const V t26 = t5 + t11;
         const V t27 = t2 - t8;
         // mirrored skew block of 8
-        const V t28 = c0 * t26;
-        const V t29 = c1 * t27;
+        const V t28 = c[0] * t26;
+        const V t29 = c[1] * t27;
         const V t30 = t29 - t28;
-        const V t31 = c0 * t27;
-        const V t32 = c1 * t26;
+        const V t31 = c[0] * t27;
+        const V t32 = c[1] * t26;
         const V t33 = t32 + t31;
         // complex block of 2
         const V t34 = t17 - t23;
@@ -73,17 +77,17 @@ struct Dct4Output<4> {
         const V t36 = t17 + t23;
         const V t37 = t14 - t20;
         // mirrored skew block of 8
-        const V t38 = c1 * t36;
-        const V t39 = c0 * t37;
+        const V t38 = c[1] * t36;
+        const V t39 = c[0] * t37;
         const V t40 = t39 - t38;
-        const V t41 = c1 * t37;
-        const V t42 = c0 * t36;
+        const V t41 = c[1] * t37;
+        const V t42 = c[0] * t36;
         const V t43 = t42 + t41;
         // mirrored skew block of 4
         const V t44 = t25 - t35;
-        const V t45 = c2 * t44;
+        const V t45 = c[2] * t44;
         const V t46 = t24 + t34;
-        const V t47 = c2 * t46;
+        const V t47 = c[2] * t46;
         const V t48 = t25 + t35;
         io.rising(0, t48);
         const V t49 = t45 - t47;
@@ -94,9 +98,9 @@ struct Dct4Output<4> {
         io.falling(2, t51);
         // mirrored skew block of 4
         const V t52 = t30 - t40;
-        const V t53 = c2 * t52;
+        const V t53 = c[2] * t52;
         const V t54 = t33 + t43;
-        const V t55 = c2 * t54;
+        const V t55 = c[2] * t54;
         const V t56 = t30 + t40;
         io.rising(1, t56);
         const V t57 = t53 - t55;

@@ -9,16 +9,20 @@ namespace zulg {
 
 template <>
 struct Dct4Output<8> {
+    static constexpr double constants[] = {
+        0.3826834323650898,  // c[0]: -sin 2 pi 15/16
+        0.9238795325112867,  // c[1]: cos 2 pi 15/16
+        0.7071067811865476,  // c[2]: cos 2 pi 1/8
+        0.19509032201612828,  // c[3]: -sin 2 pi 31/32
+        0.9807852804032304,  // c[4]: cos 2 pi 31/32
+        0.5555702330196022,  // c[5]: -sin 2 pi 29/32
+        0.8314696123025452,  // c[6]: cos 2 pi 29/32
+    };
+
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
-        constexpr auto c0 = Ports::fixed(0.19509032201612828);  // -sin 2 pi 31/32
-        constexpr auto c1 = Ports::fixed(0.9807852804032304);  // cos 2 pi 31/32
-        constexpr auto c2 = Ports::fixed(0.5555702330196022);  // -sin 2 pi 29/32
-        constexpr auto c3 = Ports::fixed(0.8314696123025452);  // cos 2 pi 29/32
-        constexpr auto c4 = Ports::fixed(0.3826834323650898);  // -sin 2 pi 15/16
-        constexpr auto c5 = Ports::fixed(0.9238795325112867);  // cos 2 pi 15/16
-        constexpr auto c6 = Ports::fixed(0.7071067811865476);  // cos 2 pi 1/8
+        const ConstantsOf<Ports, Dct4Output> c{};
         const V x0i = io.im(0);
         const V w1 = io.table(1);
         const V t0 = x0i * w1;
@@ -105,11 +109,11 @@ struct Dct4Output<8> {
         const V t50 = t5 + t11;
         const V t51 = t2 - t8;
         // mirrored skew block of 16
-        const V t52 = c0 * t50;
-        const V t53 = c1 * t51;
+        const V t52 = c[3] * t50;
+        const V t53 = c[4] * t51;
         const V t54 = t53 - t52;
-        const V t55 = c0 * t51;
-        const V t56 = c1 * t50;
+        const V t55 = c[3] * t51;
+        const V t56 = c[4] * t50;
         const V t57 = t56 + t55;
         // complex block of 2
         const V t58 = t17 - t23;
@@ -117,11 +121,11 @@ struct Dct4Output<8> {
         const V t60 = t17 + t23;
         const V t61 = t14 - t20;
         // mirrored skew block of 16
-        const V t62 = c2 * t60;
-        const V t63 = c3 * t61;
+        const V t62 = c[5] * t60;
+        const V t63 = c[6] * t61;
         const V t64 = t63 - t62;
-        const V t65 = c2 * t61;
-        const V t66 = c3 * t60;
+        const V t65 = c[5] * t61;
+        const V t66 = c[6] * t60;
         const V t67 = t66 + t65;
         // complex block of 2
         const V t68 = t29 - t35;
@@ -129,11 +133,11 @@ struct Dct4Output<8> {
         const V t70 = t29 + t35;
         const V t71 = t26 - t32;
         // mirrored skew block of 16
-        const V t72 = c3 * t70;
-        const V t73 = c2 * t71;
+        const V t72 = c[6] * t70;
+        const V t73 = c[5] * t71;
         const V t74 = t73 - t72;
-        const V t75 = c3 * t71;
-        const V t76 = c2 * t70;
+        const V t75 = c[6] * t71;
+        const V t76 = c[5] * t70;
         const V t77 = t76 + t75;
         // complex block of 2
         const V t78 = t41 - t47;
@@ -141,11 +145,11 @@ struct Dct4Output<8> {
         const V t80 = t41 + t47;
         const V t81 = t38 - t44;
         // mirrored skew block of 16
-        const V t82 = c1 * t80;
-        const V t83 = c0 * t81;
+        const V t82 = c[4] * t80;
+        const V t83 = c[3] * t81;
         const V t84 = t83 - t82;
-        const V t85 = c1 * t81;
-        const V t86 = c0 * t80;
+        const V t85 = c[4] * t81;
+        const V t86 = c[3] * t80;
         const V t87 = t86 + t85;
         // complex block of 2
         const V t88 = t48 - t78;
@@ -153,11 +157,11 @@ struct Dct4Output<8> {
         const V t90 = t48 + t78;
         const V t91 = t49 - t79;
         // mirrored skew block of 8
-        const V t92 = c4 * t90;
-        const V t93 = c5 * t91;
+        const V t92 = c[0] * t90;
+        const V t93 = c[1] * t91;
         const V t94 = t93 - t92;
-        const V t95 = c4 * t91;
-        const V t96 = c5 * t90;
+        const V t95 = c[0] * t91;
+        const V t96 = c[1] * t90;
         const V t97 = t96 + t95;
         // complex block of 2
         const V t98 = t58 - t68;
@@ -165,17 +169,17 @@ struct Dct4Output<8> {
         const V t100 = t58 + t68;
         const V t101 = t59 - t69;
         // mirrored skew block of 8
-        const V t102 = c5 * t100;
-        const V t103 = c4 * t101;
+        const V t102 = c[1] * t100;
+        const V t103 = c[0] * t101;
         const V t104 = t103 - t102;
-        const V t105 = c5 * t101;
-        const V t106 = c4 * t100;
+        const V t105 = c[1] * t101;
+        const V t106 = c[0] * t100;
         const V t107 = t106 + t105;
         // mirrored skew block of 4
         const V t108 = t89 - t99;
-        const V t109 = c6 * t108;
+        const V t109 = c[2] * t108;
         const V t110 = t88 + t98;
-        const V t111 = c6 * t110;
+        const V t111 = c[2] * t110;
         const V t112 = t89 + t99;
         io.rising(0, t112);
         const V t113 = t109 - t111;
@@ -186,9 +190,9 @@ struct Dct4Output<8> {
         io.falling(4, t115);
         // mirrored skew block of 4
         const V t116 = t94 - t104;
-        const V t117 = c6 * t116;
+        const V t117 = c[2] * t116;
         const V t118 = t97 + t107;
-        const V t119 = c6 * t118;
+        const V t119 = c[2] * t118;
         const V t120 = t94 + t104;
         io.rising(2, t120);
         const V t121 = t117 - t119;
@@ -203,11 +207,11 @@ struct Dct4Output<8> {
         const V t126 = t57 + t87;
         const V t127 = t54 - t84;
         // mirrored skew block of 8
-        const V t128 = c4 * t126;
-        const V t129 = c5 * t127;
+        const V t128 = c[0] * t126;
+        const V t129 = c[1] * t127;
         const V t130 = t129 - t128;
-        const V t131 = c4 * t127;
-        const V t132 = c5 * t126;
+        const V t131 = c[0] * t127;
+        const V t132 = c[1] * t126;
         const V t133 = t132 + t131;
         // complex block of 2
         const V t134 = t67 - t77;
@@ -215,17 +219,17 @@ struct Dct4Output<8> {
         const V t136 = t67 + t77;
         const V t137 = t64 - t74;
         // mirrored skew block of 8
-        const V t138 = c5 * t136;
-        const V t139 = c4 * t137;
+        const V t138 = c[1] * t136;
+        const V t139 = c[0] * t137;
         const V t140 = t139 - t138;
-        const V t141 = c5 * t137;
-        const V t142 = c4 * t136;
+        const V t141 = c[1] * t137;
+        const V t142 = c[0] * t136;
         const V t143 = t142 + t141;
         // mirrored skew block of 4
         const V t144 = t125 - t135;
-        const V t145 = c6 * t144;
+        const V t145 = c[2] * t144;
         const V t146 = t124 + t134;
-        const V t147 = c6 * t146;
+        const V t147 = c[2] * t146;
         const V t148 = t125 + t135;
         io.rising(1, t148);
         const V t149 = t145 - t147;
@@ -236,9 +240,9 @@ struct Dct4Output<8> {
         io.falling(5, t151);
         // mirrored skew block of 4
         const V t152 = t130 - t140;
-        const V t153 = c6 * t152;
+        const V t153 = c[2] * t152;
         const V t154 = t133 + t143;
-        const V t155 = c6 * t154;
+        const V t155 = c[2] * t154;
         const V t156 = t130 + t140;
         io.rising(3, t156);
         const V t157 = t153 - t155;

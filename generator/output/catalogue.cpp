@@ -366,7 +366,7 @@ void addDct4(std::vector<Export>& exports) {
 }  // namespace
 
 std::string GraphEntry::file() const {
-    return family->folder + "/" + family->filePrefix + std::to_string(length) + (family->isBody() ? ".h" : ".cpp");
+    return family->folder + "/" + family->filePrefix + std::to_string(length) + ".h";
 }
 
 std::string GraphEntry::title() const {

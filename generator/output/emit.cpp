@@ -20,11 +20,14 @@ std::string literal(double x) {
     return digits.find_first_of(".e") == std::string::npos ? digits + ".0" : digits;
 }
 
-// Names the constants and values of one graph in the order in which the schedule meets them.
+// Names the values of one graph in the order in which the schedule meets them, and numbers its constants: those used
+// most come first. The 2 of the doubled bins is no constant of a text but comes from the ports: a compiler that sees it
+// forms x + x where the graph says 2 x.
 class Names {
 public:
-    Names(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) : table(isLong(entry, graph)) {
+    Names(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
         int operations = 0;
+        std::map<int, int> uses;
         for (const Step& step : schedule.steps) {
             if (step.kind == Step::Kind::Store) continue;
             const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
@@ -34,36 +37,26 @@ public:
                 values[step.number] = "t" + to_string(operations++);
             }
             if (node.kind != Kind::Mul) continue;
-            if (uses[node.b]++ == 0) constantOrder.push_back(node.b);
+            if (!entry.family->isBody() && graph.constants()[static_cast<std::size_t>(node.b)].stored == 2) {
+                constants.emplace(node.b, "two");
+                usesTwo = true;
+            } else if (uses[node.b]++ == 0) {
+                constantOrder.push_back(node.b);
+            }
         }
-        if (table) {
-            nameByPlace();
-        } else {
-            for (int number : constantOrder) constants.emplace(number, "c" + to_string(constants.size()));
+        std::ranges::stable_sort(constantOrder, std::greater(), [&](int number) { return uses[number]; });
+        for (std::size_t i = 0; i < constantOrder.size(); ++i) {
+            constants.emplace(constantOrder[i], "c[" + to_string(i) + "]");
         }
     }
 
     const std::string& value(int node) const { return values.at(node); }
     const std::string& constant(int number) const { return constants.at(number); }
     const std::vector<int>& constantsInOrder() const { return constantOrder; }
-    // Whether the constants are in a table, and the index of the one that c then points at.
-    bool hasTable() const { return table; }
-    std::size_t origin() const { return std::min(constantOrder.size() / 2, reach); }
+    bool hasTwo() const { return usesTwo; }
 
 private:
-    // Names the constants of a table by their distance from c. They are sorted by use, so that those used most are
-    // within reach of a short displacement from c.
-    void nameByPlace() {
-        std::ranges::stable_sort(constantOrder, std::greater(), [&](int number) { return uses[number]; });
-        for (std::size_t i = 0; i < constantOrder.size(); ++i) {
-            const int place = static_cast<int>(i) - static_cast<int>(origin());
-            constants.emplace(constantOrder[i], "c[" + to_string(place) + "]");
-        }
-    }
-
-    static constexpr std::size_t reach = 16;  // doubles in 128 bytes
-    bool table;
-    std::map<int, int> uses;
+    bool usesTwo = false;
     std::map<int, std::string> values, constants;
     std::vector<int> constantOrder;
 };
@@ -106,19 +99,25 @@ std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule
            " values alive at most.\n";
 }
 
-// The constants of a kernel are doubles; those of a body have the width that its ports give them.
-std::string constantsText(const GraphEntry& entry, const Graph& graph, const Names& names) {
-    const bool isBody = entry.family->isBody(), isTable = names.hasTable();
-    std::string text = isTable ? "    static constexpr double constants[] = {\n" : "";
-    for (int number : names.constantsInOrder()) {
-        const Constant& constant = graph.constants()[static_cast<std::size_t>(number)];
-        const std::string value = literal(constant.stored), name = names.constant(number);
-        text += isBody    ? "        constexpr auto " + name + " = Ports::fixed(" + value + ");  // "
-                : isTable ? "        " + value + ",  // " + name + ": "
-                          : "    static constexpr double " + name + " = " + value + ";  // ";
-        text += constant.origin + "\n";
+// What a text says of itself before its steps.
+std::string factsText(const GraphEntry& entry, const Graph& graph, const Names& names) {
+    std::string text;
+    if (!entry.family->isBody()) {
+        text += "    static constexpr int steps = " + to_string(stepsOf(entry, graph)) +
+                ";  // with `scale`\n    static constexpr double inverseRoot = " +
+                literal(storedInverseRoot(entry.length)) + ";  // 1/sqrt(" + to_string(entry.length) +
+                "), for `scale`\n";
     }
-    return text + (isTable ? "    };\n" : "");
+    if (!names.constantsInOrder().empty()) {
+        text += "    static constexpr double constants[] = {\n";
+        for (int number : names.constantsInOrder()) {
+            const Constant& constant = graph.constants()[static_cast<std::size_t>(number)];
+            text += "        " + literal(constant.stored) + ",  // " + names.constant(number) + ": " + constant.origin +
+                    "\n";
+        }
+        text += "    };\n";
+    }
+    return text.empty() ? text : text + "\n";
 }
 
 // The title of the block of step i. A load belongs to the block of the next operation; -1 if no operation comes next.
@@ -156,73 +155,42 @@ std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedul
     return text;
 }
 
-std::string instantiations(const GraphEntry& entry) {
-    std::string text;
-    for (const std::string& family : entry.family->exported) {
-        for (const std::string element : {"float", "double"}) {
-            text += "template Status ZULG_CALL kernel<Family::" + family + ", " + to_string(entry.length) + ", " +
-                    element + ">(const " + element + "*, " + element + "*, std::int32_t);\n";
-        }
-    }
-    return text;
-}
-
 }  // namespace
+
+int stepsOf(const GraphEntry& entry, const Graph& graph) {
+    const Counts counts = graph.counts();
+    const int steps = counts.additions + counts.subtractions + counts.multiplications;
+    return entry.family->isBody() ? steps : steps + static_cast<int>(graph.outputs().size());
+}
 
 std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
     const Names names(entry, graph, schedule);
     const GraphFamily& family = *entry.family;
-    const std::string name = family.graphTemplate + "<" + to_string(entry.length) + ">";
-    const std::string constants = constantsText(entry, graph, names);
-    std::string text = headText(entry, graph, schedule);
-    if (family.isBody()) {
-        text += "#pragma once\n\n#include \"" + family.folder + ".h\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " +
-                name + " {\n";
-    } else {
-        text += "#include \"kernel/kernel_body.h\"\n";
-        if (names.hasTable()) text += "#include \"kernel/near_constants.h\"\n";
-        text += "\nnamespace zulg {\n\ntemplate <>\nstruct " + name +
-                " {\n    static constexpr double inverseRoot = " + literal(storedInverseRoot(entry.length)) +
-                ";  // 1/sqrt(" + to_string(entry.length) + "), for `scale`\n" + constants + "\n";
+    const std::string header = family.isBody() ? family.folder + ".h" : "kernel/graphs.h";
+    std::string text = headText(entry, graph, schedule) + "#pragma once\n\n#include \"" + header +
+                       "\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + family.graphTemplate + "<" +
+                       to_string(entry.length) + "> {\n" + factsText(entry, graph, names) +
+                       "    template <class Ports>\n"
+                       "    ZULG_INLINE static void run(const Ports& io) {\n"
+                       "        using V = typename Ports::Value;\n";
+    if (!names.constantsInOrder().empty()) {
+        text += "        const ConstantsOf<Ports, " + family.graphTemplate + "> c{};\n";
     }
-    text +=
-        "    template <class Ports>\n"
-        "    ZULG_INLINE static void run(const Ports& io) {\n"
-        "        using V = typename Ports::Value;\n";
-    if (family.isBody()) {
-        text += constants;
-    } else if (names.hasTable()) {
-        text += "        const double* const c = inRegister(constants + " + to_string(names.origin()) + ");\n";
-    }
-    text += stepsText(entry, graph, schedule, names) +
-            "    }\n"
-            "};\n\n";
-    if (!family.isBody()) text += instantiations(entry) + "\n";
-    return text + "}  // namespace zulg\n";
+    if (names.hasTwo()) text += "        const V two = Ports::two();\n";
+    return text + stepsText(entry, graph, schedule, names) + "    }\n};\n\n}  // namespace zulg\n";
 }
 
-// The processor's cache of decoded instructions holds about 16 KB of code. A kernel that is larger takes the longer the
-// more bytes its code has. A constant near a register saves 3 bytes in each product over a constant with an address of
-// its own. A short displacement saves 4 bytes in each access to the stack frame. A short kernel gains nothing by
-// either, or loses.
-bool isLong(const GraphEntry& entry, const Graph& graph) {
-    const Counts counts = graph.counts();
-    const int steps = counts.additions + counts.subtractions + counts.multiplications;
-    return !entry.family->isBody() && steps + static_cast<int>(graph.outputs().size()) >= 1200;
-}
-
-std::string emitGroups(const std::vector<std::string>& longKernels, const std::vector<std::string>& fastKernels) {
+std::string emitTexts(const std::vector<std::pair<const GraphEntry*, int>>& texts) {
     std::string text =
-        "# Written by `generate write`; do not edit. The rules: isLong in generator/output/emit.cpp, and\n"
-        "# isCompiledForSpeed in generator/rules/tables.cpp.\n";
-    const auto set = [&](const std::string& name, const std::vector<std::string>& files) {
-        text += "set(" + name;
-        for (const std::string& file : files) text += "\n    " + file;
-        text += ")\n";
-    };
-    set("long_kernel_sources", longKernels);
-    set("fast_kernel_sources", fastKernels);
-    return text;
+        "# Written by `generate write`; do not edit. The rule: generator/output/catalogue.cpp.\n"
+        "# The texts of which the build makes kernels: file, length, steps with `scale`, families.\n"
+        "set(kernel_texts";
+    for (const auto& [entry, steps] : texts) {
+        text += "\n    \"" + entry->file() + " " + to_string(entry->length) + " " + to_string(steps);
+        for (const std::string& family : entry->family->exported) text += " " + family;
+        text += "\"";
+    }
+    return text + ")\n";
 }
 
 std::string emitSlots(const std::vector<Export>& exports) {

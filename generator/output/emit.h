@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "graph/schedule.h"
@@ -9,15 +10,14 @@
 
 namespace gen {
 
-// The file of one graph: the graph as straight-line text and, where it has kernels, their instantiations.
+// The file of one graph, as straight-line text.
 std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule);
 
-// Whether a kernel has so many steps that its time depends on the bytes of its code. Such a kernel has its constants
-// near a register, and the build shortens its displacements.
-bool isLong(const GraphEntry& entry, const Graph& graph);
+// The sums, differences and products of a graph, those by `scale` included where it has kernels.
+int stepsOf(const GraphEntry& entry, const Graph& graph);
 
-// kernels/groups.cmake: the files of the kernels that are compiled with flags of their own.
-std::string emitGroups(const std::vector<std::string>& longKernels, const std::vector<std::string>& fastKernels);
+// kernels/texts.cmake: the texts of which the build makes kernels, each with its steps.
+std::string emitTexts(const std::vector<std::pair<const GraphEntry*, int>>& texts);
 
 // boundary/slots.inc and include/zulgenpx_routines.h.
 std::string emitSlots(const std::vector<Export>& exports);

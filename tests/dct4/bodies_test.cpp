@@ -36,7 +36,10 @@ namespace {
 // Has every port of every body and notes what is read and written.
 struct CountingPorts {
     using Value = Counted;
-    static constexpr double fixed(double constant) { return constant; }
+    template <class Graph>
+    struct Constants {
+        Counted operator[](int i) const { return Counted(Graph::constants[i]); }
+    };
 
     mutable std::map<std::string, std::set<int>> read = {}, written = {};
 

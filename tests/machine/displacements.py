@@ -92,7 +92,7 @@ class SmallTexts(unittest.TestCase):
 class Kernels(unittest.TestCase):
     def test_only_the_addressing_is_changed(self):
         for kernel in KERNELS:
-            made = f"CMakeFiles/long_kernels.dir/kernels/{kernel}.cpp.o"
+            made = f"CMakeFiles/kernels_long.dir/x86_64/kernels/{kernel}.cpp.o"
             commands = subprocess.run(["ninja", "-t", "commands", made], cwd=BUILD, capture_output=True, text=True,
                                       check=True)
             command = shlex.split(commands.stdout.splitlines()[-1])

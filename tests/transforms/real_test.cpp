@@ -178,6 +178,21 @@ TEST_P(RealInverseTest, OneBinGivesItsCosine) {
     });
 }
 
+// Twice the greatest single is no single. Doubled in double it is, and with 1/N the outputs are in range.
+TEST_P(RealInverseTest, TheGreatestSinglesAreDoubledInDouble) {
+    if (!transform.isSingle()) return;
+    constexpr float greatest = std::numeric_limits<float>::max();
+    for (int k = 1; 2 * k < transform.length; ++k) {
+        std::vector<float> packed(static_cast<std::size_t>(slots.elements()));
+        packed[static_cast<std::size_t>(slots.re(k))] = greatest;
+        const auto y = run(transform, packed, DivInvByN);
+        for (int n = 0; n < transform.length; ++n) {
+            const double due = 2.0 / transform.length * static_cast<double>(cosTurn(n * k, transform.length));
+            EXPECT_NEAR(y[static_cast<std::size_t>(n)] / double{greatest}, due, 16 * unit()) << "bin " << k;
+        }
+    }
+}
+
 TEST_P(RealInverseTest, GivesTheValuesOfTheOtherLayouts) {
     withElement([&](auto element) {
         using Element = decltype(element);

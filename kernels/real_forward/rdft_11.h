@@ -1,0 +1,167 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 11.
+// Forward DFT of 11 real points, direct.
+// 29 additions, 31 subtractions, 50 multiplications (61 with `scale`); 1 outputs negated; 10 constants; 16 values alive at most.
+#pragma once
+
+#include "kernel/graphs.h"
+
+namespace zulg {
+
+template <>
+struct RealForwardGraph<11> {
+    static constexpr int steps = 121;  // with `scale`
+    static constexpr double inverseRoot = 0.30151134457776363;  // 1/sqrt(11), for `scale`
+    static constexpr double constants[] = {
+        0.8412535328311812,  // c[0]: cos 2 pi 1/11
+        0.41541501300188644,  // c[1]: cos 2 pi 9/11
+        0.14231483827328514,  // c[2]: -cos 2 pi 3/11
+        0.6548607339452851,  // c[3]: -cos 2 pi 4/11
+        0.9594929736144974,  // c[4]: -cos 2 pi 6/11
+        0.5406408174555976,  // c[5]: sin 2 pi 1/11
+        0.9096319953545183,  // c[6]: -sin 2 pi 9/11
+        0.9898214418809327,  // c[7]: sin 2 pi 3/11
+        0.7557495743542583,  // c[8]: sin 2 pi 4/11
+        0.28173255684142967,  // c[9]: -sin 2 pi 6/11
+    };
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        const ConstantsOf<Ports, RealForwardGraph> c{};
+        // real block of 11
+        const V x1 = io.in(1);
+        const V x10 = io.in(10);
+        const V t0 = x1 + x10;
+        const V t1 = x1 - x10;
+        const V x9 = io.in(9);
+        const V x2 = io.in(2);
+        const V t2 = x9 + x2;
+        const V t3 = x9 - x2;
+        const V x3 = io.in(3);
+        const V x8 = io.in(8);
+        const V t4 = x3 + x8;
+        const V t5 = x3 - x8;
+        const V x4 = io.in(4);
+        const V x7 = io.in(7);
+        const V t6 = x4 + x7;
+        const V t7 = x4 - x7;
+        const V x6 = io.in(6);
+        const V x5 = io.in(5);
+        const V t8 = x6 + x5;
+        const V t9 = x6 - x5;
+        const V t10 = t0 + t2;
+        const V t11 = t10 + t4;
+        const V t12 = t11 + t6;
+        const V t13 = t12 + t8;
+        const V x0 = io.in(0);
+        const V t14 = t13 + x0;
+        io.re(0, t14);
+        const V t15 = c[0] * t0;
+        const V t16 = c[1] * t2;
+        const V t17 = t15 + t16;
+        const V t18 = c[2] * t4;
+        const V t19 = t17 - t18;
+        const V t20 = c[3] * t6;
+        const V t21 = t19 - t20;
+        const V t22 = c[4] * t8;
+        const V t23 = t21 - t22;
+        const V t24 = t23 + x0;
+        io.re(1, t24);
+        const V t25 = c[5] * t1;
+        const V t26 = c[6] * t3;
+        const V t27 = c[7] * t5;
+        const V t28 = c[8] * t7;
+        const V t29 = c[9] * t9;
+        const V t30 = t26 + t29;
+        const V t31 = t30 - t25;
+        const V t32 = t31 - t27;
+        const V t33 = t32 - t28;
+        io.im(1, t33);
+        const V t34 = c[1] * t0;
+        const V t35 = c[3] * t2;
+        const V t36 = t34 - t35;
+        const V t37 = c[4] * t4;
+        const V t38 = t36 - t37;
+        const V t39 = c[2] * t6;
+        const V t40 = t38 - t39;
+        const V t41 = c[0] * t8;
+        const V t42 = t40 + t41;
+        const V t43 = t42 + x0;
+        io.re(2, t43);
+        const V t44 = c[6] * t1;
+        const V t45 = c[8] * t3;
+        const V t46 = c[9] * t5;
+        const V t47 = c[7] * t7;
+        const V t48 = c[5] * t9;
+        const V t49 = t45 + t46;
+        const V t50 = t49 + t47;
+        const V t51 = t50 - t44;
+        const V t52 = t51 - t48;
+        io.im(2, t52);
+        const V t53 = c[2] * t0;
+        const V t54 = x0 - t53;
+        const V t55 = c[4] * t2;
+        const V t56 = t54 - t55;
+        const V t57 = c[1] * t4;
+        const V t58 = t56 + t57;
+        const V t59 = c[0] * t6;
+        const V t60 = t58 + t59;
+        const V t61 = c[3] * t8;
+        const V t62 = t60 - t61;
+        io.re(3, t62);
+        const V t63 = c[7] * t1;
+        const V t64 = c[9] * t3;
+        const V t65 = c[6] * t5;
+        const V t66 = c[5] * t7;
+        const V t67 = c[8] * t9;
+        const V t68 = t65 + t67;
+        const V t69 = t68 - t63;
+        const V t70 = t69 - t64;
+        const V t71 = t70 - t66;
+        io.im(3, t71);
+        const V t72 = c[3] * t0;
+        const V t73 = x0 - t72;
+        const V t74 = c[2] * t2;
+        const V t75 = t73 - t74;
+        const V t76 = c[0] * t4;
+        const V t77 = t75 + t76;
+        const V t78 = c[4] * t6;
+        const V t79 = t77 - t78;
+        const V t80 = c[1] * t8;
+        const V t81 = t79 + t80;
+        io.re(4, t81);
+        const V t82 = c[8] * t1;
+        const V t83 = c[7] * t3;
+        const V t84 = c[5] * t5;
+        const V t85 = c[9] * t7;
+        const V t86 = c[6] * t9;
+        const V t87 = t82 + t83;
+        const V t88 = t87 + t84;
+        const V t89 = t88 + t85;
+        const V t90 = t89 + t86;
+        io.minusIm(4, t90);
+        const V t91 = c[4] * t0;
+        const V t92 = x0 - t91;
+        const V t93 = c[0] * t2;
+        const V t94 = t92 + t93;
+        const V t95 = c[3] * t4;
+        const V t96 = t94 - t95;
+        const V t97 = c[1] * t6;
+        const V t98 = t96 + t97;
+        const V t99 = c[2] * t8;
+        const V t100 = t98 - t99;
+        io.re(5, t100);
+        const V t101 = c[9] * t1;
+        const V t102 = c[5] * t3;
+        const V t103 = c[8] * t5;
+        const V t104 = c[6] * t7;
+        const V t105 = c[7] * t9;
+        const V t106 = t104 + t105;
+        const V t107 = t106 - t101;
+        const V t108 = t107 - t102;
+        const V t109 = t108 - t103;
+        io.im(5, t109);
+    }
+};
+
+}  // namespace zulg

@@ -1,0 +1,543 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_forward, 42.
+// Forward DFT of 42 real points, prime-factor 7, 3, 2.
+// 133 additions, 133 subtractions, 136 multiplications (178 with `scale`); 10 outputs negated; 8 constants; 49 values alive at most.
+#pragma once
+
+#include "kernel/graphs.h"
+
+namespace zulg {
+
+template <>
+struct RealForwardGraph<42> {
+    static constexpr int steps = 444;  // with `scale`
+    static constexpr double inverseRoot = 0.1543033499620919;  // 1/sqrt(42), for `scale`
+    static constexpr double constants[] = {
+        0.6234898018587335,  // c[0]: cos 2 pi 6/7
+        0.2225209339563144,  // c[1]: -cos 2 pi 30/7
+        0.9009688679024191,  // c[2]: -cos 2 pi 24/7
+        0.7818314824680298,  // c[3]: -sin 2 pi 6/7
+        0.9749279121818236,  // c[4]: sin 2 pi 30/7
+        0.4338837391175581,  // c[5]: sin 2 pi 24/7
+        0.5,  // c[6]: -cos 2 pi 2/3
+        0.8660254037844386,  // c[7]: -sin 2 pi 2/3
+    };
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        const ConstantsOf<Ports, RealForwardGraph> c{};
+        // real block of 7, multiplier 6
+        const V x6 = io.in(6);
+        const V x36 = io.in(36);
+        const V t0 = x6 + x36;
+        const V t1 = x6 - x36;
+        const V x30 = io.in(30);
+        const V x12 = io.in(12);
+        const V t2 = x30 + x12;
+        const V t3 = x30 - x12;
+        const V x24 = io.in(24);
+        const V x18 = io.in(18);
+        const V t4 = x24 + x18;
+        const V t5 = x24 - x18;
+        const V t6 = t0 + t2;
+        const V t7 = t6 + t4;
+        const V x0 = io.in(0);
+        const V t8 = t7 + x0;
+        const V t9 = c[0] * t0;
+        const V t10 = c[1] * t2;
+        const V t11 = t9 - t10;
+        const V t12 = c[2] * t4;
+        const V t13 = t11 - t12;
+        const V t14 = t13 + x0;
+        const V t15 = c[3] * t1;
+        const V t16 = c[4] * t3;
+        const V t17 = c[5] * t5;
+        const V t18 = t15 - t16;
+        const V t19 = t18 - t17;
+        const V t20 = c[1] * t0;
+        const V t21 = x0 - t20;
+        const V t22 = c[2] * t2;
+        const V t23 = t21 - t22;
+        const V t24 = c[0] * t4;
+        const V t25 = t23 + t24;
+        const V t26 = c[4] * t1;
+        const V t27 = c[5] * t3;
+        const V t28 = c[3] * t5;
+        const V t29 = t26 + t27;
+        const V t30 = t29 + t28;
+        const V t31 = c[2] * t0;
+        const V t32 = x0 - t31;
+        const V t33 = c[0] * t2;
+        const V t34 = t32 + t33;
+        const V t35 = c[1] * t4;
+        const V t36 = t34 - t35;
+        const V t37 = c[5] * t1;
+        const V t38 = c[3] * t3;
+        const V t39 = c[4] * t5;
+        const V t40 = t37 + t38;
+        const V t41 = t40 - t39;
+        // real block of 7, multiplier 6
+        const V x13 = io.in(13);
+        const V x1 = io.in(1);
+        const V t42 = x13 + x1;
+        const V t43 = x13 - x1;
+        const V x37 = io.in(37);
+        const V x19 = io.in(19);
+        const V t44 = x37 + x19;
+        const V t45 = x37 - x19;
+        const V x31 = io.in(31);
+        const V x25 = io.in(25);
+        const V t46 = x31 + x25;
+        const V t47 = x31 - x25;
+        const V t48 = t42 + t44;
+        const V t49 = t48 + t46;
+        const V x7 = io.in(7);
+        const V t50 = t49 + x7;
+        const V t51 = c[0] * t42;
+        const V t52 = c[1] * t44;
+        const V t53 = t51 - t52;
+        const V t54 = c[2] * t46;
+        const V t55 = t53 - t54;
+        const V t56 = t55 + x7;
+        const V t57 = c[3] * t43;
+        const V t58 = c[4] * t45;
+        const V t59 = c[5] * t47;
+        const V t60 = t57 - t58;
+        const V t61 = t60 - t59;
+        const V t62 = c[1] * t42;
+        const V t63 = x7 - t62;
+        const V t64 = c[2] * t44;
+        const V t65 = t63 - t64;
+        const V t66 = c[0] * t46;
+        const V t67 = t65 + t66;
+        const V t68 = c[4] * t43;
+        const V t69 = c[5] * t45;
+        const V t70 = c[3] * t47;
+        const V t71 = t68 + t69;
+        const V t72 = t71 + t70;
+        const V t73 = c[2] * t42;
+        const V t74 = x7 - t73;
+        const V t75 = c[0] * t44;
+        const V t76 = t74 + t75;
+        const V t77 = c[1] * t46;
+        const V t78 = t76 - t77;
+        const V t79 = c[5] * t43;
+        const V t80 = c[3] * t45;
+        const V t81 = c[4] * t47;
+        const V t82 = t79 + t80;
+        const V t83 = t82 - t81;
+        // real block of 7, multiplier 6
+        const V x20 = io.in(20);
+        const V x8 = io.in(8);
+        const V t84 = x20 + x8;
+        const V t85 = x20 - x8;
+        const V x2 = io.in(2);
+        const V x26 = io.in(26);
+        const V t86 = x2 + x26;
+        const V t87 = x2 - x26;
+        const V x38 = io.in(38);
+        const V x32 = io.in(32);
+        const V t88 = x38 + x32;
+        const V t89 = x38 - x32;
+        const V t90 = t84 + t86;
+        const V t91 = t90 + t88;
+        const V x14 = io.in(14);
+        const V t92 = t91 + x14;
+        const V t93 = c[0] * t84;
+        const V t94 = c[1] * t86;
+        const V t95 = t93 - t94;
+        const V t96 = c[2] * t88;
+        const V t97 = t95 - t96;
+        const V t98 = t97 + x14;
+        const V t99 = c[3] * t85;
+        const V t100 = c[4] * t87;
+        const V t101 = c[5] * t89;
+        const V t102 = t99 - t100;
+        const V t103 = t102 - t101;
+        const V t104 = c[1] * t84;
+        const V t105 = x14 - t104;
+        const V t106 = c[2] * t86;
+        const V t107 = t105 - t106;
+        const V t108 = c[0] * t88;
+        const V t109 = t107 + t108;
+        const V t110 = c[4] * t85;
+        const V t111 = c[5] * t87;
+        const V t112 = c[3] * t89;
+        const V t113 = t110 + t111;
+        const V t114 = t113 + t112;
+        const V t115 = c[2] * t84;
+        const V t116 = x14 - t115;
+        const V t117 = c[0] * t86;
+        const V t118 = t116 + t117;
+        const V t119 = c[1] * t88;
+        const V t120 = t118 - t119;
+        const V t121 = c[5] * t85;
+        const V t122 = c[3] * t87;
+        const V t123 = c[4] * t89;
+        const V t124 = t121 + t122;
+        const V t125 = t124 - t123;
+        // real block of 7, multiplier 6
+        const V x27 = io.in(27);
+        const V x15 = io.in(15);
+        const V t126 = x27 + x15;
+        const V t127 = x27 - x15;
+        const V x9 = io.in(9);
+        const V x33 = io.in(33);
+        const V t128 = x9 + x33;
+        const V t129 = x9 - x33;
+        const V x3 = io.in(3);
+        const V x39 = io.in(39);
+        const V t130 = x3 + x39;
+        const V t131 = x3 - x39;
+        const V t132 = t126 + t128;
+        const V t133 = t132 + t130;
+        const V x21 = io.in(21);
+        const V t134 = t133 + x21;
+        const V t135 = c[0] * t126;
+        const V t136 = c[1] * t128;
+        const V t137 = t135 - t136;
+        const V t138 = c[2] * t130;
+        const V t139 = t137 - t138;
+        const V t140 = t139 + x21;
+        const V t141 = c[3] * t127;
+        const V t142 = c[4] * t129;
+        const V t143 = c[5] * t131;
+        const V t144 = t141 - t142;
+        const V t145 = t144 - t143;
+        const V t146 = c[1] * t126;
+        const V t147 = x21 - t146;
+        const V t148 = c[2] * t128;
+        const V t149 = t147 - t148;
+        const V t150 = c[0] * t130;
+        const V t151 = t149 + t150;
+        const V t152 = c[4] * t127;
+        const V t153 = c[5] * t129;
+        const V t154 = c[3] * t131;
+        const V t155 = t152 + t153;
+        const V t156 = t155 + t154;
+        const V t157 = c[2] * t126;
+        const V t158 = x21 - t157;
+        const V t159 = c[0] * t128;
+        const V t160 = t158 + t159;
+        const V t161 = c[1] * t130;
+        const V t162 = t160 - t161;
+        const V t163 = c[5] * t127;
+        const V t164 = c[3] * t129;
+        const V t165 = c[4] * t131;
+        const V t166 = t163 + t164;
+        const V t167 = t166 - t165;
+        // real block of 7, multiplier 6
+        const V x34 = io.in(34);
+        const V x22 = io.in(22);
+        const V t168 = x34 + x22;
+        const V t169 = x34 - x22;
+        const V x16 = io.in(16);
+        const V x40 = io.in(40);
+        const V t170 = x16 + x40;
+        const V t171 = x16 - x40;
+        const V x10 = io.in(10);
+        const V x4 = io.in(4);
+        const V t172 = x10 + x4;
+        const V t173 = x10 - x4;
+        const V t174 = t168 + t170;
+        const V t175 = t174 + t172;
+        const V x28 = io.in(28);
+        const V t176 = t175 + x28;
+        const V t177 = c[0] * t168;
+        const V t178 = c[1] * t170;
+        const V t179 = t177 - t178;
+        const V t180 = c[2] * t172;
+        const V t181 = t179 - t180;
+        const V t182 = t181 + x28;
+        const V t183 = c[3] * t169;
+        const V t184 = c[4] * t171;
+        const V t185 = c[5] * t173;
+        const V t186 = t183 - t184;
+        const V t187 = t186 - t185;
+        const V t188 = c[1] * t168;
+        const V t189 = x28 - t188;
+        const V t190 = c[2] * t170;
+        const V t191 = t189 - t190;
+        const V t192 = c[0] * t172;
+        const V t193 = t191 + t192;
+        const V t194 = c[4] * t169;
+        const V t195 = c[5] * t171;
+        const V t196 = c[3] * t173;
+        const V t197 = t194 + t195;
+        const V t198 = t197 + t196;
+        const V t199 = c[2] * t168;
+        const V t200 = x28 - t199;
+        const V t201 = c[0] * t170;
+        const V t202 = t200 + t201;
+        const V t203 = c[1] * t172;
+        const V t204 = t202 - t203;
+        const V t205 = c[5] * t169;
+        const V t206 = c[3] * t171;
+        const V t207 = c[4] * t173;
+        const V t208 = t205 + t206;
+        const V t209 = t208 - t207;
+        // real block of 7, multiplier 6
+        const V x41 = io.in(41);
+        const V x29 = io.in(29);
+        const V t210 = x41 + x29;
+        const V t211 = x41 - x29;
+        const V x23 = io.in(23);
+        const V x5 = io.in(5);
+        const V t212 = x23 + x5;
+        const V t213 = x23 - x5;
+        const V x17 = io.in(17);
+        const V x11 = io.in(11);
+        const V t214 = x17 + x11;
+        const V t215 = x17 - x11;
+        const V t216 = t210 + t212;
+        const V t217 = t216 + t214;
+        const V x35 = io.in(35);
+        const V t218 = t217 + x35;
+        const V t219 = c[0] * t210;
+        const V t220 = c[1] * t212;
+        const V t221 = t219 - t220;
+        const V t222 = c[2] * t214;
+        const V t223 = t221 - t222;
+        const V t224 = t223 + x35;
+        const V t225 = c[3] * t211;
+        const V t226 = c[4] * t213;
+        const V t227 = c[5] * t215;
+        const V t228 = t225 - t226;
+        const V t229 = t228 - t227;
+        const V t230 = c[1] * t210;
+        const V t231 = x35 - t230;
+        const V t232 = c[2] * t212;
+        const V t233 = t231 - t232;
+        const V t234 = c[0] * t214;
+        const V t235 = t233 + t234;
+        const V t236 = c[4] * t211;
+        const V t237 = c[5] * t213;
+        const V t238 = c[3] * t215;
+        const V t239 = t236 + t237;
+        const V t240 = t239 + t238;
+        const V t241 = c[2] * t210;
+        const V t242 = x35 - t241;
+        const V t243 = c[0] * t212;
+        const V t244 = t242 + t243;
+        const V t245 = c[1] * t214;
+        const V t246 = t244 - t245;
+        const V t247 = c[5] * t211;
+        const V t248 = c[3] * t213;
+        const V t249 = c[4] * t215;
+        const V t250 = t247 + t248;
+        const V t251 = t250 - t249;
+        // real block of 3, multiplier 2
+        const V t252 = t92 + t176;
+        const V t253 = t92 - t176;
+        const V t254 = t252 + t8;
+        const V t255 = c[6] * t252;
+        const V t256 = t8 - t255;
+        const V t257 = c[7] * t253;
+        // real block of 3, multiplier 2
+        const V t258 = t218 + t50;
+        const V t259 = t218 - t50;
+        const V t260 = t258 + t134;
+        const V t261 = c[6] * t258;
+        const V t262 = t134 - t261;
+        const V t263 = c[7] * t259;
+        // real block of 2
+        const V t264 = t254 + t260;
+        io.re(0, t264);
+        const V t265 = t254 - t260;
+        io.re(21, t265);
+        // complex block of 2
+        const V t266 = t256 + t262;
+        io.re(14, t266);
+        const V t267 = t257 + t263;
+        io.im(14, t267);
+        const V t268 = t256 - t262;
+        io.re(7, t268);
+        const V t269 = t257 - t263;
+        io.minusIm(7, t269);
+        // complex block of 3, multiplier 2
+        const V t270 = t98 + t182;
+        const V t271 = t103 + t187;
+        const V t272 = t98 - t182;
+        const V t273 = t103 - t187;
+        const V t274 = t270 + t14;
+        const V t275 = t271 + t19;
+        const V t276 = c[6] * t270;
+        const V t277 = t14 - t276;
+        const V t278 = c[6] * t271;
+        const V t279 = t19 - t278;
+        const V t280 = c[7] * t272;
+        const V t281 = c[7] * t273;
+        const V t282 = t277 + t281;
+        const V t283 = t279 - t280;
+        const V t284 = t277 - t281;
+        const V t285 = t279 + t280;
+        // complex block of 3, multiplier 2
+        const V t286 = t224 + t56;
+        const V t287 = t229 + t61;
+        const V t288 = t224 - t56;
+        const V t289 = t229 - t61;
+        const V t290 = t286 + t140;
+        const V t291 = t287 + t145;
+        const V t292 = c[6] * t286;
+        const V t293 = t140 - t292;
+        const V t294 = c[6] * t287;
+        const V t295 = t145 - t294;
+        const V t296 = c[7] * t288;
+        const V t297 = c[7] * t289;
+        const V t298 = t293 + t297;
+        const V t299 = t295 - t296;
+        const V t300 = t293 - t297;
+        const V t301 = t295 + t296;
+        // complex block of 2
+        const V t302 = t274 + t290;
+        io.re(6, t302);
+        const V t303 = t275 + t291;
+        io.im(6, t303);
+        const V t304 = t274 - t290;
+        io.re(15, t304);
+        const V t305 = t275 - t291;
+        io.minusIm(15, t305);
+        // complex block of 2
+        const V t306 = t284 + t300;
+        io.re(20, t306);
+        const V t307 = t285 + t301;
+        io.im(20, t307);
+        const V t308 = t284 - t300;
+        io.re(1, t308);
+        const V t309 = t285 - t301;
+        io.minusIm(1, t309);
+        // complex block of 2
+        const V t310 = t282 + t298;
+        io.re(8, t310);
+        const V t311 = t283 + t299;
+        io.minusIm(8, t311);
+        const V t312 = t282 - t298;
+        io.re(13, t312);
+        const V t313 = t283 - t299;
+        io.im(13, t313);
+        // complex block of 3, multiplier 2
+        const V t314 = t109 + t193;
+        const V t315 = t114 + t198;
+        const V t316 = t109 - t193;
+        const V t317 = t114 - t198;
+        const V t318 = t314 + t25;
+        const V t319 = t315 + t30;
+        const V t320 = c[6] * t314;
+        const V t321 = t25 - t320;
+        const V t322 = c[6] * t315;
+        const V t323 = t30 - t322;
+        const V t324 = c[7] * t316;
+        const V t325 = c[7] * t317;
+        const V t326 = t321 + t325;
+        const V t327 = t323 - t324;
+        const V t328 = t321 - t325;
+        const V t329 = t323 + t324;
+        // complex block of 3, multiplier 2
+        const V t330 = t235 + t67;
+        const V t331 = t240 + t72;
+        const V t332 = t235 - t67;
+        const V t333 = t240 - t72;
+        const V t334 = t330 + t151;
+        const V t335 = t331 + t156;
+        const V t336 = c[6] * t330;
+        const V t337 = t151 - t336;
+        const V t338 = c[6] * t331;
+        const V t339 = t156 - t338;
+        const V t340 = c[7] * t332;
+        const V t341 = c[7] * t333;
+        const V t342 = t337 + t341;
+        const V t343 = t339 - t340;
+        const V t344 = t337 - t341;
+        const V t345 = t339 + t340;
+        // complex block of 2
+        const V t346 = t318 + t334;
+        io.re(12, t346);
+        const V t347 = t319 + t335;
+        io.im(12, t347);
+        const V t348 = t318 - t334;
+        io.re(9, t348);
+        const V t349 = t319 - t335;
+        io.minusIm(9, t349);
+        // complex block of 2
+        const V t350 = t328 + t344;
+        io.re(16, t350);
+        const V t351 = t329 + t345;
+        io.minusIm(16, t351);
+        const V t352 = t328 - t344;
+        io.re(5, t352);
+        const V t353 = t329 - t345;
+        io.im(5, t353);
+        // complex block of 2
+        const V t354 = t326 + t342;
+        io.re(2, t354);
+        const V t355 = t327 + t343;
+        io.minusIm(2, t355);
+        const V t356 = t326 - t342;
+        io.re(19, t356);
+        const V t357 = t327 - t343;
+        io.im(19, t357);
+        // complex block of 3, multiplier 2
+        const V t358 = t120 + t204;
+        const V t359 = t125 + t209;
+        const V t360 = t120 - t204;
+        const V t361 = t125 - t209;
+        const V t362 = t358 + t36;
+        const V t363 = t359 + t41;
+        const V t364 = c[6] * t358;
+        const V t365 = t36 - t364;
+        const V t366 = c[6] * t359;
+        const V t367 = t41 - t366;
+        const V t368 = c[7] * t360;
+        const V t369 = c[7] * t361;
+        const V t370 = t365 + t369;
+        const V t371 = t367 - t368;
+        const V t372 = t365 - t369;
+        const V t373 = t367 + t368;
+        // complex block of 3, multiplier 2
+        const V t374 = t246 + t78;
+        const V t375 = t251 + t83;
+        const V t376 = t246 - t78;
+        const V t377 = t251 - t83;
+        const V t378 = t374 + t162;
+        const V t379 = t375 + t167;
+        const V t380 = c[6] * t374;
+        const V t381 = t162 - t380;
+        const V t382 = c[6] * t375;
+        const V t383 = t167 - t382;
+        const V t384 = c[7] * t376;
+        const V t385 = c[7] * t377;
+        const V t386 = t381 + t385;
+        const V t387 = t383 - t384;
+        const V t388 = t381 - t385;
+        const V t389 = t383 + t384;
+        // complex block of 2
+        const V t390 = t362 + t378;
+        io.re(18, t390);
+        const V t391 = t363 + t379;
+        io.im(18, t391);
+        const V t392 = t362 - t378;
+        io.re(3, t392);
+        const V t393 = t363 - t379;
+        io.minusIm(3, t393);
+        // complex block of 2
+        const V t394 = t372 + t388;
+        io.re(10, t394);
+        const V t395 = t373 + t389;
+        io.minusIm(10, t395);
+        const V t396 = t372 - t388;
+        io.re(11, t396);
+        const V t397 = t373 - t389;
+        io.im(11, t397);
+        // complex block of 2
+        const V t398 = t370 + t386;
+        io.re(4, t398);
+        const V t399 = t371 + t387;
+        io.im(4, t399);
+        const V t400 = t370 - t386;
+        io.re(17, t400);
+        const V t401 = t371 - t387;
+        io.minusIm(17, t401);
+    }
+};
+
+}  // namespace zulg

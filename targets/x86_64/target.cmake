@@ -1,0 +1,71 @@
+# x86-64, with ELF shared libraries: scalar code that any such processor runs.
+
+set(target_compile_flags
+    -mfpmath=sse -mno-sse3
+    -fcf-protection=full)
+
+# Kernels: smaller code is faster code here. It has more memory operands and fewer instructions than at -O2, and a
+# kernel that exceeds the instruction cache is slow.
+set(kernel_compile_flags -Os)
+
+# Kernels that are faster when compiled for speed: registers are cleared before a conversion that would otherwise wait for
+# them.
+set(fast_kernel_compile_flags -O2 -fno-schedule-insns2 -fno-tree-pre -flive-range-shrinkage)
+set(fast_kernel_texts
+    kernels/real_forward/rdft_3.h
+    kernels/real_forward/rdft_5.h
+    kernels/real_forward/rdft_6.h
+    kernels/real_forward/rdft_8.h
+    kernels/real_forward/rdft_10.h
+    kernels/real_forward/rdft_14.h
+    kernels/real_forward/rdft_15.h
+    kernels/real_forward/rdft_19.h
+    kernels/real_forward/rdft_20.h
+    kernels/real_forward/rdft_21.h
+    kernels/real_forward/rdft_24.h
+    kernels/real_forward/rdft_29.h
+    kernels/real_forward/rdft_30.h
+    kernels/real_forward/rdft_32.h
+    kernels/real_forward/rdft_34.h
+    kernels/real_forward/rdft_37.h
+    kernels/real_forward/rdft_41.h
+    kernels/real_forward/rdft_54.h
+    kernels/real_forward/rdft_58.h
+    kernels/real_forward/rdft_60.h
+    kernels/real_forward/rdft_62.h
+    kernels/real_inverse/rdft_13.h
+    kernels/real_inverse/rdft_16.h
+    kernels/real_inverse/rdft_21.h
+    kernels/real_inverse/rdft_27.h
+    kernels/real_inverse/rdft_29.h
+    kernels/real_inverse/rdft_32.h
+    kernels/real_inverse/rdft_51.h
+    kernels/hartley/dht_12.h
+    kernels/hartley/dht_13.h
+    kernels/hartley/dht_21.h
+    kernels/hartley/dht_26.h
+    kernels/hartley/dht_27.h
+    kernels/hartley/dht_32.h
+    kernels/hartley/dht_42.h
+    kernels/hartley/dht_46.h
+    kernels/hartley/dht_56.h)
+
+# Long kernels. An access by the frame pointer takes a byte less than one by the stack pointer. Fewer values are kept in
+# memory. The launcher uses the registers that are left to it for shorter displacements.
+set(long_kernel_steps 1200)
+set(long_kernel_compile_flags ${kernel_compile_flags} -fno-omit-frame-pointer -flive-range-shrinkage
+    -ffixed-rbx -ffixed-r8 -ffixed-r9 -ffixed-r10 -ffixed-r11 -ffixed-r12 -ffixed-r13 -ffixed-r14 -ffixed-r15)
+set(long_kernel_launcher ${CMAKE_CURRENT_LIST_DIR}/short_displacements.py)
+
+set(common_link_flags
+    -nostartfiles                 # nothing but the load entry runs when the library is loaded
+    -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks, which need the note in entries.inc
+    -Wl,-z,relro,-z,now,-z,noexecstack
+    -Wl,--no-undefined,--build-id=none
+    -Wl,--strip-all)
+set(library_link_flags ${common_link_flags} -Wl,-init=zulgLoad)
+set(companion_link_flags ${common_link_flags})
+set(library_math m)  # sine and cosine, for the tables of the DCT-IV
+set(library_link_libraries ${library_math} ${CMAKE_DL_LIBS})
+set(library_platform_sources boundary/shared_library_elf.cpp boundary/load_elf.cpp)
+set(library_file_prefix "lib")

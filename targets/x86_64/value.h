@@ -1,0 +1,24 @@
+// Numbers on x86-64: one double to a register of the vector unit.
+#pragma once
+
+#include <type_traits>
+
+#include "kernel/doubles.h"
+#include "kernel/near_constants.h"
+
+// The namespace of what is compiled for this target.
+#define ZULG_TARGET x86_64
+
+namespace zulg {
+inline namespace ZULG_TARGET {
+
+struct TargetNumbers : Doubles {
+    // The processor's cache of decoded instructions holds about 16 KB of code, and where it ends the bytes of code are
+    // the time: a constant near a register saves 3 bytes a product over one with an address of its own. A short kernel
+    // gains nothing or loses.
+    template <class Graph>
+    using Constants = std::conditional_t<(Graph::steps >= 1200), NearConstants<Graph>, Doubles::Constants<Graph>>;
+};
+
+}  // namespace ZULG_TARGET
+}  // namespace zulg

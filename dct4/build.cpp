@@ -22,7 +22,7 @@ Record* drawWithHead(PlanArena* arena, ReleaseOperation* free, Init* init) {
 Status buildOutput(PlanHead& head, const PlanType& type) {
     auto& stage = recordOf<OutputStage>(head);
     stage.kind = outputKind(stage.radix);
-    if (stage.kind == 0) return StatusSizeError;
+    if (stage.kind == OutputKind::None) return StatusSizeError;
     type.buildOutputTable(stage);
     return StatusOk;
 }
@@ -30,7 +30,7 @@ Status buildOutput(PlanHead& head, const PlanType& type) {
 Status buildCombine(PlanHead& head, const PlanType& type) {
     auto& stage = recordOf<CombineStage>(head);
     stage.kind = combineKind(stage.radix);
-    if (stage.kind == 0) return StatusSizeError;
+    if (stage.kind == CombineKind::None) return StatusSizeError;
     type.buildCombineTable(stage);
     return StatusOk;
 }
@@ -74,7 +74,7 @@ template <class Record>
 Status buildFold(PlanHead& head, const PlanType& type) {
     auto& fold = recordOf<Record>(head);
     fold.kind = foldKind(fold.skewLength);
-    if (fold.kind == splitFold) {
+    if (fold.kind == FoldKind::Split) {
         const Status status = makeSplit(fold, type);
         if (status != StatusOk) return status;
     }
@@ -96,7 +96,7 @@ Status makeOutput(DctPlan& plan, const PlanType& type) {
     listAppend(plan.owned, &source->head);
 
     stage->table = nullptr;
-    stage->kind = 0;
+    stage->kind = OutputKind::None;
     stage->radix = r;
     stage->length = N;
     stage->rowLength = 2 * r;
@@ -116,7 +116,7 @@ Status makeFoldStage(DctPlan& plan, const PlanType& type) {
     const std::int32_t N = plan.length, r = plan.radix;
     const auto stage = drawWithHead<FoldStage>(arena, releaseFold<FoldStage>, buildFold<FoldStage>);
     stage->table = nullptr;
-    stage->kind = 0;
+    stage->kind = FoldKind::None;
     stage->skewLength = N / r;
     stage->length = N;
     stage->mirrorBase = wrapDifference(wrapProduct(2, N), 1);
@@ -142,7 +142,7 @@ Status makeCombine(SkewSplit& split, const PlanType& type) {
     listAppend(split.owned, &source->head);
 
     stage->table = nullptr;
-    stage->kind = 0;
+    stage->kind = CombineKind::None;
     stage->radix = r;
     stage->skewLength = M;
     stage->rowLength = 2 * r;
@@ -164,7 +164,7 @@ Status makeFoldStep(SkewSplit& split, const PlanType& type) {
     const std::int32_t M = split.skewLength, r = split.radix;
     const auto step = drawWithHead<FoldStep>(arena, releaseFold<FoldStep>, buildFold<FoldStep>);
     step->table = nullptr;
-    step->kind = 0;
+    step->kind = FoldKind::None;
     step->skewLength = M / r;
     step->length = split.length;
     step->reach = split.reach;
@@ -198,7 +198,7 @@ Status buildSplit(PlanHead& head, const PlanType& type) {
 DctPlan* drawPlan(PlanArena* arena, std::int32_t length, const PlanType& type) {
     const auto plan = drawWithHead<DctPlan>(arena, type.releasePlan, buildPlan);
     plan->scratch = nullptr;
-    plan->kind = 0;
+    plan->kind = PlanKind::None;
     plan->length = length;
     plan->post = drawList(arena);
     plan->pre = drawList(arena);
@@ -209,7 +209,7 @@ DctPlan* drawPlan(PlanArena* arena, std::int32_t length, const PlanType& type) {
 Status buildPlan(PlanHead& head, const PlanType& type) {
     auto& plan = recordOf<DctPlan>(head);
     plan.kind = planKind(plan.length);
-    if (plan.kind != compositePlan) {
+    if (plan.kind != PlanKind::Composite) {
         plan.scratch = nullptr;
         return StatusOk;
     }

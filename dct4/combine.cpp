@@ -56,11 +56,11 @@ template <int radix, class Element>
 template <class Element>
 Status combinePass(const CombineStage& stage, Element* transforms, const Element* parts, std::ptrdiff_t position) {
     switch (stage.kind) {
-        case 1: return combineEach<2>(stage, transforms, parts, position);
-        case 2: return combineEach<4>(stage, transforms, parts, position);
-        case 3: return combineEach<8>(stage, transforms, parts, position);
-        case 4: return combineEach<16>(stage, transforms, parts, position);
-        case 5: return combineEach<32>(stage, transforms, parts, position);
+        case CombineKind::Radix2: return combineEach<2>(stage, transforms, parts, position);
+        case CombineKind::Radix4: return combineEach<4>(stage, transforms, parts, position);
+        case CombineKind::Radix8: return combineEach<8>(stage, transforms, parts, position);
+        case CombineKind::Radix16: return combineEach<16>(stage, transforms, parts, position);
+        case CombineKind::Radix32: return combineEach<32>(stage, transforms, parts, position);
         default: return StatusPlanKindError;
     }
 }

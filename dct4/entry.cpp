@@ -1,6 +1,5 @@
 #include "dct4/build.h"
 #include "dct4/dct4.h"
-#include "dct4/radix.h"
 #include "dct4/release.h"
 #include "dct4/run.h"
 #include "dct4/size.h"
@@ -65,7 +64,7 @@ Status ZULG_CALL dct4Free(DctPlan* plan) {
 template <class Element>
 Status ZULG_CALL dct4(const Element* pSrc, Element* pDst, DctPlan* plan) {
     if (pSrc == nullptr || pDst == nullptr || plan == nullptr) return StatusNullPointer;
-    if (plan->kind < 1 || plan->kind > compositePlan) return StatusPlanKindError;
+    if (plan->kind < PlanKind::Direct2 || plan->kind > PlanKind::Composite) return StatusPlanKindError;
     runPlan<Element>(*plan, pSrc, pDst);
     return StatusOk;
 }

@@ -6,7 +6,6 @@
 #include "dct4/bodies/fold_4.h"
 #include "dct4/bodies/fold_64.h"
 #include "dct4/bodies/fold_8.h"
-#include "dct4/radix.h"
 #include "dct4/split.h"
 
 namespace zulg {
@@ -47,15 +46,15 @@ Status splitEach(const SkewSplit& split, const Sequences<Element>& all) {
 }
 
 template <class Element>
-Status foldByKind(std::int32_t kind, const PlanListNode* children, const Sequences<Element>& all) {
+Status foldByKind(FoldKind kind, const PlanListNode* children, const Sequences<Element>& all) {
     switch (kind) {
-        case 1: return foldEach<2>(all);
-        case 2: return foldEach<4>(all);
-        case 3: return foldEach<8>(all);
-        case 4: return foldEach<16>(all);
-        case 5: return foldEach<32>(all);
-        case 6: return foldEach<64>(all);
-        case splitFold: return splitEach(firstOf<SkewSplit>(children), all);
+        case FoldKind::Points2: return foldEach<2>(all);
+        case FoldKind::Points4: return foldEach<4>(all);
+        case FoldKind::Points8: return foldEach<8>(all);
+        case FoldKind::Points16: return foldEach<16>(all);
+        case FoldKind::Points32: return foldEach<32>(all);
+        case FoldKind::Points64: return foldEach<64>(all);
+        case FoldKind::Split: return splitEach(firstOf<SkewSplit>(children), all);
         default: return StatusPlanKindError;
     }
 }

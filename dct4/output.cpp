@@ -29,12 +29,12 @@ template <int radix, class Element>
 template <class Element>
 Status outputPass(const OutputStage& stage, Element* y, const Element* transforms) {
     switch (stage.kind) {
-        case 1: return outputEach<1>(stage, y, transforms);
-        case 2: return outputEach<2>(stage, y, transforms);
-        case 3: return outputEach<4>(stage, y, transforms);
-        case 4: return outputEach<8>(stage, y, transforms);
-        case 5: return outputEach<16>(stage, y, transforms);
-        case 6: return outputEach<32>(stage, y, transforms);
+        case OutputKind::Radix1: return outputEach<1>(stage, y, transforms);
+        case OutputKind::Radix2: return outputEach<2>(stage, y, transforms);
+        case OutputKind::Radix4: return outputEach<4>(stage, y, transforms);
+        case OutputKind::Radix8: return outputEach<8>(stage, y, transforms);
+        case OutputKind::Radix16: return outputEach<16>(stage, y, transforms);
+        case OutputKind::Radix32: return outputEach<32>(stage, y, transforms);
         default: return StatusPlanKindError;
     }
 }

@@ -14,6 +14,7 @@
 #include <cstdint>
 
 #include "dct4/arena.h"
+#include "dct4/kinds.h"
 #include "dct4/list.h"
 #include "dct4/plan_ref.h"
 #include "kernel/kernel.h"
@@ -40,10 +41,10 @@ struct DctPlan {
     PlanList owned;
     PlanList post;          // the one OutputStage, run second
     PlanList pre;           // the one FoldStage, run first
-    PlanRef<void> scratch;  // N elements; null for kinds 1 to 5
-    std::int32_t kind;      // 1 to 5: N is 2, 4, 8, 16, 32; 6: anything else
-    std::int32_t radix;     // r; for kind 6 only
-    std::int32_t length;    // N
+    PlanRef<void> scratch;  // N elements; null for the direct kinds
+    PlanKind kind;
+    std::int32_t radix;   // r; of a composite plan only
+    std::int32_t length;  // N
 };
 
 // Gives the entries of the table of an OutputStage.
@@ -67,7 +68,7 @@ struct OutputStage {
     PlanHead head;
     PlanList owned;  // stays empty
     PlanRef<void> table;
-    std::int32_t kind;          // 1 to 6: r is 1, 2, 4, 8, 16, 32
+    OutputKind kind;
     std::int32_t radix;         // r
     std::int32_t length;        // N
     std::int32_t rowLength;     // 2r
@@ -81,9 +82,9 @@ struct OutputStage {
 struct FoldStage {
     PlanHead head;
     PlanList owned;
-    PlanList children;          // the SkewSplit of kind 7
-    PlanRef<void> table;        // always null
-    std::int32_t kind;          // 1 to 6: M is 2, 4, 8, 16, 32, 64; 7: anything else
+    PlanList children;    // the SkewSplit of kind Split
+    PlanRef<void> table;  // always null
+    FoldKind kind;
     std::int32_t skewLength;    // M = N/r
     std::int32_t length;        // N
     std::int32_t mirrorBase;    // 2N - 1
@@ -114,7 +115,7 @@ struct CombineStage {
     PlanHead head;
     PlanList owned;  // stays empty
     PlanRef<void> table;
-    std::int32_t kind;        // 1 to 5: r' is 2, 4, 8, 16, 32
+    CombineKind kind;
     std::int32_t radix;       // r'
     std::int32_t skewLength;  // M
     std::int32_t rowLength;   // 2r'
@@ -130,9 +131,9 @@ struct CombineStage {
 struct FoldStep {
     PlanHead head;
     PlanList owned;
-    PlanList children;        // the deeper SkewSplit of kind 7
-    PlanRef<void> table;      // always null
-    std::int32_t kind;        // as of a FoldStage, by M'
+    PlanList children;    // the deeper SkewSplit of kind Split
+    PlanRef<void> table;  // always null
+    FoldKind kind;
     std::int32_t skewLength;  // M' = M/r'
     std::int32_t length;
     std::int32_t reach;

@@ -1,6 +1,5 @@
 #include "dct4/release.h"
 
-#include "dct4/radix.h"
 #include "dct4/size.h"
 
 namespace zulg {
@@ -25,7 +24,7 @@ void releaseNothing(PlanHead&) {}
 template <class Element>
 void releasePlan(PlanHead& head) {
     auto& plan = recordOf<DctPlan>(head);
-    const std::int32_t scratchLength = plan.kind == compositePlan ? plan.length : 0;
+    const std::int32_t scratchLength = plan.kind == PlanKind::Composite ? plan.length : 0;
     arenaRelease(head.arena, plan.scratch, wrapProduct(scratchLength, sizeof(Element)));
     releaseView(head.arena, plan.post);
     releaseView(head.arena, plan.pre);

@@ -22,11 +22,12 @@ void runDirect(const Element* pSrc, Element* pDst) {
 template <class Element>
 void runPlan(const DctPlan& plan, const Element* pSrc, Element* pDst) {
     switch (plan.kind) {
-        case 1: return runDirect<2>(pSrc, pDst);
-        case 2: return runDirect<4>(pSrc, pDst);
-        case 3: return runDirect<8>(pSrc, pDst);
-        case 4: return runDirect<16>(pSrc, pDst);
-        case 5: return runDirect<32>(pSrc, pDst);
+        case PlanKind::Direct2: return runDirect<2>(pSrc, pDst);
+        case PlanKind::Direct4: return runDirect<4>(pSrc, pDst);
+        case PlanKind::Direct8: return runDirect<8>(pSrc, pDst);
+        case PlanKind::Direct16: return runDirect<16>(pSrc, pDst);
+        case PlanKind::Direct32: return runDirect<32>(pSrc, pDst);
+        default: break;
     }
     Element* const transforms = static_cast<Element*>(plan.scratch.get());
     foldPass(firstOf<FoldStage>(plan.pre), transforms, pSrc);

@@ -25,7 +25,7 @@ constexpr std::int32_t levelBytes = wrapSum(3 * headBytes, listBytes(2), charge<
 // The bytes of a fold record of `skewLength` and of all below it.
 std::int32_t foldBytes(std::int32_t skewLength, std::int32_t recordBytes, std::int32_t width) {
     const std::int32_t own = roundUp32(recordBytes) + 2 * headBytes;
-    if (foldKind(skewLength) != splitFold) return own;
+    if (foldKind(skewLength) != FoldKind::Split) return own;
 
     std::int32_t radix;
     if (pickRadix(&radix, skewLength / 2) != StatusOk) return StatusSizeError;
@@ -42,7 +42,7 @@ std::int32_t foldBytes(std::int32_t skewLength, std::int32_t recordBytes, std::i
 }
 
 std::int32_t topBytes(std::int32_t length, std::int32_t width) {
-    if (planKind(length) != compositePlan) return charge<DctPlan> + 3 * headBytes;
+    if (planKind(length) != PlanKind::Composite) return charge<DctPlan> + 3 * headBytes;
 
     std::int32_t radix;
     if (pickRadix(&radix, length / 2) != StatusOk) return StatusSizeError;

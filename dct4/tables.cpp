@@ -6,7 +6,6 @@
 
 #include <cmath>
 
-#include "dct4/radix.h"
 #include "dct4/rounded_once.h"
 #include "dct4/size.h"
 

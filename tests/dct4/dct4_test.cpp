@@ -261,7 +261,7 @@ TYPED_TEST(Dct4Test, NullPointersAreRefusedAndNothingIsWritten) {
 TYPED_TEST(Dct4Test, APlanOfUnknownKindIsRefused) {
     for (int kind : {0, -1, 7, 8, 1000, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         Planned<TypeParam> planned(64);
-        planned.plan->kind = kind;
+        planned.plan->kind = zulg::PlanKind{kind};
         std::vector<TypeParam> x(64, 1), y(64, 7);
         EXPECT_EQ(this->dct4.run(x.data(), y.data(), planned.plan), StatusPlanKindError) << kind;
         EXPECT_EQ(y, std::vector<TypeParam>(64, 7));

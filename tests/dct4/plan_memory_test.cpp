@@ -148,9 +148,9 @@ TYPED_TEST(PlanMemoryTest, ARefusedFirstPassLeavesT) {
         const auto before = planned.run(x), due = planned.run(other);
         planned.run(x);
         const auto transforms = records.copyOfTransforms();
-        const std::int32_t kind = records.fold.kind;
+        const auto kind = records.fold.kind;
         for (int refused : {0, 8, -1, 1000}) {
-            records.fold.kind = refused;
+            records.fold.kind = zulg::FoldKind{refused};
             std::copy(transforms.begin(), transforms.end(), records.transforms());
             EXPECT_EQ(planned.run(other), before) << length << ", " << refused;
             EXPECT_EQ(records.copyOfTransforms(), transforms);
@@ -170,9 +170,9 @@ TYPED_TEST(PlanMemoryTest, ARefusedSecondPassLeavesTheResult) {
         const auto x = this->randomElements(length);
         const auto due = planned.run(x);
         const auto transforms = records.copyOfTransforms();
-        const std::int32_t kind = records.output.kind;
+        const auto kind = records.output.kind;
         for (int refused : {0, 7, -1, 1000}) {
-            records.output.kind = refused;
+            records.output.kind = zulg::OutputKind{refused};
             std::fill_n(records.transforms(), length, TypeParam{7});
             std::vector<TypeParam> y(x.size(), 7);
             EXPECT_EQ(this->dct4.run(x.data(), y.data(), planned.plan), StatusOk);
@@ -211,10 +211,10 @@ TYPED_TEST(PlanMemoryTest, ARefusedFoldOfASplitLeavesS) {
         const auto due = planned.run(other);
         planned.run(x);
         const auto transforms = records.copyOfTransforms(), scratch = records.copyOfScratch(0);
-        const std::int32_t kind = records.step(0).kind;
+        const auto kind = records.step(0).kind;
         const auto r = static_cast<std::size_t>(records.plan.radix);
         for (int refused : {0, 8, -1}) {
-            records.step(0).kind = refused;
+            records.step(0).kind = zulg::FoldKind{refused};
             std::copy(scratch.begin(), scratch.end(), records.scratch(0));
             const auto y = planned.run(other);
             EXPECT_EQ(records.copyOfScratch(0), scratch);
@@ -236,10 +236,10 @@ TYPED_TEST(PlanMemoryTest, ARefusedCombinePassLeavesT) {
         const auto x = this->randomElements(length), other = this->randomElements(length);
         const auto due = planned.run(other), before = planned.run(x);
         const auto transforms = records.copyOfTransforms();
-        const std::int32_t kind = records.combine(0).kind;
+        const auto kind = records.combine(0).kind;
         const int r = records.plan.radix;
         for (int refused : {0, 6, -1}) {
-            records.combine(0).kind = refused;
+            records.combine(0).kind = zulg::CombineKind{refused};
             std::fill_n(records.scratch(0), records.splits[0]->skewLength, TypeParam{7});
             EXPECT_EQ(planned.run(other), before) << length;
             EXPECT_EQ(records.copyOfTransforms(), transforms);
@@ -273,14 +273,14 @@ TYPED_TEST(PlanMemoryTest, ARefusalInTheSecondLevelLeavesWhatItLeavesInTheFirst)
     records.splits[1]->active = 1;
 
     restore();
-    const std::int32_t combineKind = std::exchange(records.combine(1).kind, 6);
+    const auto combineKind = std::exchange(records.combine(1).kind, zulg::CombineKind{6});
     planned.run(other);
     EXPECT_EQ(records.copyOfScratch(0), upper) << "no combine pass";
     EXPECT_NE(records.copyOfScratch(1), lower);
     records.combine(1).kind = combineKind;
 
     restore();
-    const std::int32_t stepKind = std::exchange(records.step(1).kind, 8);
+    const auto stepKind = std::exchange(records.step(1).kind, zulg::FoldKind{8});
     planned.run(other);
     EXPECT_EQ(records.copyOfScratch(1), lower) << "no fold pass";
     const auto parts = static_cast<std::size_t>(records.splits[0]->radix);

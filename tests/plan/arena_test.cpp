@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "dct4/kinds.h"
 #include "dct4/radix.h"
 #include "tests/plan/plan_fixture.h"
 
@@ -259,22 +260,20 @@ TEST(PickRadix, RefusesOddAndSmallNumbers) {
     EXPECT_EQ(radixOf(std::numeric_limits<std::int32_t>::max()), -6);
 }
 
-TEST(Kinds, FollowTheTables) {
-    EXPECT_EQ(planKind(2), 1);
-    EXPECT_EQ(planKind(32), 5);
-    EXPECT_EQ(planKind(64), 6);
-    EXPECT_EQ(planKind(1), 6);
-    EXPECT_EQ(planKind(-2), 6);
-    EXPECT_EQ(foldKind(2), 1);
-    EXPECT_EQ(foldKind(64), 6);
-    EXPECT_EQ(foldKind(128), 7);
-    EXPECT_EQ(foldKind(1), 7);
-    EXPECT_EQ(outputKind(1), 1);
-    EXPECT_EQ(outputKind(32), 6);
-    EXPECT_EQ(outputKind(64), 0);
-    EXPECT_EQ(combineKind(2), 1);
-    EXPECT_EQ(combineKind(32), 5);
-    EXPECT_EQ(combineKind(1), 0);
+template <class Kind>
+void expectKinds(Kind kindOf(std::int32_t), std::int32_t first, std::int32_t count, std::int32_t otherwise) {
+    for (std::int32_t n = -128; n <= 128; ++n) {
+        std::int32_t due = otherwise;
+        for (std::int32_t i = 0; i < count; ++i) due = n == first << i ? i + 1 : due;
+        EXPECT_EQ(number(kindOf(n)), due) << n;
+    }
+}
+
+TEST(Kinds, CountUpFromOneAndDoubleEachTime) {
+    expectKinds(planKind, 2, 5, 6);
+    expectKinds(foldKind, 2, 6, 7);
+    expectKinds(outputKind, 1, 6, 0);
+    expectKinds(combineKind, 2, 5, 0);
 }
 
 }  // namespace

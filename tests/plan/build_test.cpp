@@ -78,7 +78,7 @@ TYPED_TEST(PlanBuild, RadixOfADirectPlanIsLeftAlone) {
     DctPlan* plan;
     ASSERT_EQ(dct4Init<TypeParam>(&plan, 32, block.data()), StatusOk);
     EXPECT_EQ(plan->radix, 0x5A5A5A5A);
-    EXPECT_EQ(plan->kind, 5);
+    EXPECT_EQ(plan->kind, PlanKind::Direct32);
 }
 
 TYPED_TEST(PlanBuild, InFullWithoutASplit) {
@@ -100,7 +100,7 @@ TYPED_TEST(PlanBuild, InFullWithoutASplit) {
 TYPED_TEST(PlanBuild, OneSplit) {
     BuiltPlan<TypeParam> built(4096);
     const auto& fold = recordAt<FoldStage>(built.plan->pre, 0);
-    EXPECT_EQ(fold.kind, 7);
+    EXPECT_EQ(fold.kind, FoldKind::Split);
     const auto& split = recordAt<SkewSplit>(fold.children, 0);
     EXPECT_EQ(split.active, 1);
     EXPECT_EQ(split.radix, 8);
@@ -217,7 +217,7 @@ TYPED_TEST(PlanBuild, Shapes) {
         SCOPED_TRACE(shape.length);
         BuiltPlan<TypeParam> built(shape.length);
         const DctPlan& plan = *built.plan;
-        EXPECT_EQ(plan.kind, 6);
+        EXPECT_EQ(plan.kind, PlanKind::Composite);
         EXPECT_EQ(plan.radix, shape.radix);
         EXPECT_EQ(plan.length, shape.length);
         const auto& output = recordAt<OutputStage>(plan.post, 0);
@@ -225,7 +225,7 @@ TYPED_TEST(PlanBuild, Shapes) {
         EXPECT_EQ(output.mirrorBase, 2 * shape.length - 1);
         const auto& fold = recordAt<FoldStage>(plan.pre, 0);
         EXPECT_EQ(fold.skewLength, shape.skewLength);
-        EXPECT_EQ(fold.kind, shape.foldKind);
+        EXPECT_EQ(number(fold.kind), shape.foldKind);
         const auto splits = splitsOf(plan);
         ASSERT_EQ(splits.size(), shape.splits.size());
         for (std::size_t i = 0; i < splits.size(); ++i) {
@@ -240,7 +240,7 @@ TYPED_TEST(PlanBuild, CursorEndsBelowTheSizeByNodesNeverDrawn) {
     for (const std::int32_t length : builtLengths()) {
         BuiltPlan<TypeParam> built(length);
         std::ptrdiff_t neverDrawn = 0;
-        if (built.plan->kind == 6) {
+        if (built.plan->kind == PlanKind::Composite) {
             neverDrawn = 96 + 160 * static_cast<std::ptrdiff_t>(splitsOf(*built.plan).size());
         }
         EXPECT_EQ(built.block.cursorOffset(), reportedSize<TypeParam>(length) - neverDrawn) << length;

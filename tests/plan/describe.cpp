@@ -13,10 +13,10 @@ public:
     explicit Description(const DctPlan& plan) : root(plan) {
         line(0, "DctPlan", plan.head, {plan.owned, plan.post, plan.pre});
         place("scratch", plan.scratch);
-        number("kind", plan.kind);
-        if (plan.kind == 6) number("radix", plan.radix);
+        kind(plan.kind);
+        if (plan.kind == PlanKind::Composite) number("radix", plan.radix);
         number("length", plan.length);
-        if (plan.kind != 6) return;
+        if (plan.kind != PlanKind::Composite) return;
         const auto& source = *reinterpret_cast<const AngleSource*>(listNth(plan.owned, 0));
         const auto& output = *reinterpret_cast<const OutputStage*>(listNth(plan.owned, 1));
         const auto& fold = *reinterpret_cast<const FoldStage*>(listNth(plan.owned, 2));
@@ -24,16 +24,16 @@ public:
         number("rowLength", source.rowLength), number("denominator", source.denominator), number("rows", source.rows);
         number("radix", source.radix), number("rowStride", source.rowStride);
         line(1, "OutputStage", output.head, {output.owned});
-        place("table", output.table), number("kind", output.kind), number("radix", output.radix);
+        place("table", output.table), kind(output.kind), number("radix", output.radix);
         number("length", output.length), number("rowLength", output.rowLength), number("rows", output.rows);
         number("outputLength", output.outputLength), number("mirrorBase", output.mirrorBase);
         number("blockStride", output.blockStride), place("source", output.source);
         line(1, "FoldStage", fold.head, {fold.owned, fold.children});
-        place("table", fold.table), number("kind", fold.kind), number("skewLength", fold.skewLength);
+        place("table", fold.table), kind(fold.kind), number("skewLength", fold.skewLength);
         number("length", fold.length), number("mirrorBase", fold.mirrorBase), number("inputStep", fold.inputStep);
         number("count", fold.count), number("outputLength", fold.outputLength);
         number("outputStep", fold.outputStep);
-        if (fold.kind == 7) split(2, *reinterpret_cast<const SkewSplit*>(listNth(fold.owned, 0)));
+        if (fold.kind == FoldKind::Split) split(2, *reinterpret_cast<const SkewSplit*>(listNth(fold.owned, 0)));
     }
 
     std::string text() const { return out.str() + "\n"; }
@@ -51,17 +51,17 @@ private:
         line(depth + 1, "RowAngleSource", source.head, {});
         number("skewLength", source.skewLength), number("radix", source.radix);
         line(depth + 1, "CombineStage", combine.head, {combine.owned});
-        place("table", combine.table), number("kind", combine.kind), number("radix", combine.radix);
+        place("table", combine.table), kind(combine.kind), number("radix", combine.radix);
         number("skewLength", combine.skewLength), number("rowLength", combine.rowLength);
         number("rows", combine.rows), number("outputLength", combine.outputLength), number("half", combine.half);
         number("mirrorBase", combine.mirrorBase), number("outputStep", combine.outputStep);
         number("blockStride", combine.blockStride), place("source", combine.source);
         line(depth + 1, "FoldStep", step.head, {step.owned, step.children});
-        place("table", step.table), number("kind", step.kind), number("skewLength", step.skewLength);
+        place("table", step.table), kind(step.kind), number("skewLength", step.skewLength);
         number("length", step.length), number("reach", step.reach), number("inputStep", step.inputStep);
         number("subStep", step.subStep), number("count", step.count);
         number("parentSkewLength", step.parentSkewLength), number("outputStep", step.outputStep);
-        if (step.kind == 7) split(depth + 2, *reinterpret_cast<const SkewSplit*>(listNth(step.owned, 0)));
+        if (step.kind == FoldKind::Split) split(depth + 2, *reinterpret_cast<const SkewSplit*>(listNth(step.owned, 0)));
     }
 
     // `lists` are in the order of the record. Each is described by its offset and those of its elements.
@@ -80,6 +80,10 @@ private:
         }
     }
 
+    template <class Kind>
+    void kind(Kind value) {
+        number("kind", static_cast<std::int32_t>(value));
+    }
     void number(const char* name, std::int32_t value) { out << " " << name << " " << value; }
     void place(const char* name, const void* target) {
         out << " " << name << " ";

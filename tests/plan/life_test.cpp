@@ -143,7 +143,7 @@ TYPED_TEST(PlanLife, TransformChecksItsPointersThenThePlan) {
     EXPECT_EQ(dct4<TypeParam>(source, destination, nullptr), StatusNullPointer);
     for (const std::int32_t kind :
          {0, 7, -1, 8, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
-        built.plan->kind = kind;
+        built.plan->kind = PlanKind{kind};
         EXPECT_EQ(dct4<TypeParam>(source, destination, built.plan), StatusPlanKindError) << kind;
         EXPECT_EQ(dct4<TypeParam>(nullptr, destination, built.plan), StatusNullPointer) << kind;
     }
@@ -155,7 +155,7 @@ TYPED_TEST(PlanLife, TransformRunsThePlanOnce) {
     TypeParam source[64] = {}, destination[64];
     for (std::int32_t kind = 1; kind <= 6; ++kind) {
         runs.clear();
-        built.plan->kind = kind;
+        built.plan->kind = PlanKind{kind};
         EXPECT_EQ(dct4<TypeParam>(source, destination, built.plan), StatusOk) << kind;
         ASSERT_EQ(runs.size(), 1u);
         EXPECT_EQ(runs[0].plan, built.plan);

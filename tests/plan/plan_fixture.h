@@ -83,6 +83,12 @@ Value perType(Value single, Value twice) {
     return sizeof(Element) == sizeof(float) ? single : twice;
 }
 
+// A kind as the number that it is in a record.
+template <class Kind>
+std::int32_t number(Kind kind) {
+    return static_cast<std::int32_t>(kind);
+}
+
 // The lengths of the tests that build: powers of two, and the lengths 2^k + 1 that are accepted too.
 inline std::vector<std::int32_t> builtLengths() {
     std::vector<std::int32_t> lengths;

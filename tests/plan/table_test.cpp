@@ -4,7 +4,6 @@
 #include <limits>
 #include <map>
 
-#include "dct4/radix.h"
 #include "dct4/tables.h"
 #include "tests/plan/exact.h"
 #include "tests/plan/plan_fixture.h"

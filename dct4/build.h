@@ -9,16 +9,23 @@ namespace zulg {
 
 struct PlanType {
     std::int32_t width;  // of an element, in bytes
-    ReleaseOperation *releasePlan, *releaseSplit, *releaseOutput, *releaseCombine;
+    ReleaseOperation *releasePlan, *releaseOutput, *releaseSplit, *releaseCombine;
     AngleOperation* angleEntry;
     void (*buildOutputTable)(OutputStage& stage);
     void (*buildCombineTable)(CombineStage& stage);
 };
 
 template <class Element>
-inline constexpr PlanType planType = {sizeof(Element),           releasePlan<Element>,      releaseSplit<Element>,
-                                      releaseOutput<Element>,    releaseCombine<Element>,   angleEntry<Element>,
-                                      buildOutputTable<Element>, buildCombineTable<Element>};
+inline constexpr PlanType planType = {
+    .width = sizeof(Element),
+    .releasePlan = releasePlan<sizeof(Element)>,
+    .releaseOutput = releaseOutput<sizeof(Element)>,
+    .releaseSplit = releaseSplit<sizeof(Element)>,
+    .releaseCombine = releaseCombine<sizeof(Element)>,
+    .angleEntry = angleEntry<Element>,
+    .buildOutputTable = buildOutputTable<Element>,
+    .buildCombineTable = buildCombineTable<Element>,
+};
 
 // Draws the root record and its empty lists. The arena must be fresh.
 DctPlan* drawPlan(PlanArena* arena, std::int32_t length, const PlanType& type);

@@ -12,7 +12,7 @@ namespace {
 // Releases the plan and its root. The cursor of a finished plan is then where it was before the root was drawn.
 template <class Element>
 void takeDown(DctPlan& plan) {
-    releasePlan<Element>(plan.head);
+    releasePlan<sizeof(Element)>(plan.head);
     arenaRelease(plan.head.arena, &plan, plan.head.size);
 }
 

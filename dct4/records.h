@@ -2,9 +2,11 @@
 // are what a teardown walks; `post`, `pre` and `children` are second views of the same records.
 //
 //     DctPlan    owns AngleSource, OutputStage, FoldStage             N = r M
-//     FoldStage  owns a SkewSplit if M is above 64                    r skew transforms of length M
+//     FoldStage  owns a SkewSplit if its kind is Split                r skew transforms of length M
 //     SkewSplit  owns RowAngleSource, CombineStage, FoldStep          M = r' M'
-//     FoldStep   owns a deeper SkewSplit if M' is above 64            r' skew transforms of length M'
+//     FoldStep   owns a deeper SkewSplit if its kind is Split         r' skew transforms of length M'
+//
+// The lists of a record are in `lists` as well, in the order in which their heads are drawn.
 //
 // Tables and scratch vectors hold elements of the plan's type. No record states that type: the routines that build or
 // run a plan know it.
@@ -45,6 +47,8 @@ struct DctPlan {
     PlanKind kind;
     std::int32_t radix;   // r; of a composite plan only
     std::int32_t length;  // N
+
+    static constexpr PlanList DctPlan::*lists[] = {&DctPlan::post, &DctPlan::pre, &DctPlan::owned};
 };
 
 // Gives the entries of the table of an OutputStage.
@@ -77,6 +81,10 @@ struct OutputStage {
     std::int32_t mirrorBase;    // 2N - 1
     std::int32_t blockStride;   // N/r
     PlanRef<AngleSource> source;
+
+    static constexpr PlanList OutputStage::*lists[] = {&OutputStage::owned};
+    // Of the table: a cosine and a sine for each of the r inputs of a row.
+    static constexpr std::int32_t rowEntries(std::int32_t radix) { return 2 * radix; }
 };
 
 struct FoldStage {
@@ -92,6 +100,8 @@ struct FoldStage {
     std::int32_t count;         // r
     std::int32_t outputLength;  // N
     std::int32_t outputStep;    // r
+
+    static constexpr PlanList FoldStage::*lists[] = {&FoldStage::children, &FoldStage::owned};
 };
 
 // A skew transform that is too long for one body.
@@ -109,6 +119,8 @@ struct SkewSplit {
     std::int32_t inputStep;     // the parent's
     std::int32_t outputLength;  // a FoldStage's `outputLength`, a FoldStep's `parentSkewLength`
     std::int32_t outputStep;    // the parent's
+
+    static constexpr PlanList SkewSplit::*lists[] = {&SkewSplit::post, &SkewSplit::pre, &SkewSplit::owned};
 };
 
 struct CombineStage {
@@ -126,6 +138,10 @@ struct CombineStage {
     std::int32_t outputStep;
     std::int32_t blockStride;  // M/r'
     PlanRef<RowAngleSource> source;
+
+    static constexpr PlanList CombineStage::*lists[] = {&CombineStage::owned};
+    // Of the table: a cosine and a sine for each of the r' inputs of a row but the first, whose angle is 0.
+    static constexpr std::int32_t rowEntries(std::int32_t radix) { return 2 * (radix - 1); }
 };
 
 struct FoldStep {
@@ -142,6 +158,8 @@ struct FoldStep {
     std::int32_t count;             // r'
     std::int32_t parentSkewLength;  // M
     std::int32_t outputStep;        // r'
+
+    static constexpr PlanList FoldStep::*lists[] = {&FoldStep::children, &FoldStep::owned};
 };
 
 static_assert(sizeof(PlanHead) == 16);

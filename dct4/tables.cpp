@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "dct4/rounded_once.h"
-#include "dct4/size.h"
+#include "dct4/tree.h"
 
 namespace zulg {
 
@@ -33,6 +33,13 @@ std::int32_t inputAtPlace(std::int32_t place, std::int32_t radix) {
     const std::int32_t i = place / 2;
     const std::int32_t p = radix == 32 ? i % 2 * 16 + i / 2 % 4 * 4 + i / 8 : i;
     return place % 2 == 0 ? p : radix - 1 - p;
+}
+
+template <class Element, class Stage>
+Element* drawTable(Stage& stage) {
+    const std::int32_t bytes = tableBytes<Stage>(stage.rows, stage.radix, sizeof(Element));
+    stage.table = arenaAlloc(stage.head.arena, bytes);
+    return static_cast<Element*>(stage.table.get());
 }
 
 template <class Element>
@@ -87,9 +94,7 @@ double rowAngle(const RowAngleSource& source, std::int32_t row, std::int32_t) {
 
 template <class Element>
 void buildOutputTable(OutputStage& stage) {
-    auto at =
-        static_cast<Element*>(arenaAlloc(stage.head.arena, outputTableBytes(stage.rows, stage.radix, sizeof(Element))));
-    stage.table = at;
+    Element* at = drawTable<Element>(stage);
     const AngleSource& source = *stage.source;
     const auto entry = source.head.init.as<AngleOperation>();
     for (std::int32_t row = 0; row < stage.rows; ++row) {
@@ -105,9 +110,7 @@ void buildOutputTable(OutputStage& stage) {
 // outer ones of 4 points. The tables of radix 32 of the two element types have their two sections in opposite order.
 template <class Element>
 void buildCombineTable(CombineStage& stage) {
-    auto at = static_cast<Element*>(
-        arenaAlloc(stage.head.arena, combineTableBytes(stage.rows, stage.radix, sizeof(Element))));
-    stage.table = at;
+    Element* const at = drawTable<Element>(stage);
     const std::int32_t inner = stage.radix / 4;
     if (stage.radix <= 8) {
         storeInner(at, stage, stage.radix);

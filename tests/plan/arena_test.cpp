@@ -5,8 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "dct4/kinds.h"
-#include "dct4/radix.h"
+#include "dct4/tree.h"
 #include "tests/plan/plan_fixture.h"
 
 namespace test {

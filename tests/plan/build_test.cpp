@@ -277,9 +277,9 @@ TYPED_TEST(PlanBuild, OperationsOfSourcesGiveValues) {
 TYPED_TEST(PlanBuild, OperationsOfPlanAndStages) {
     BuiltPlan<TypeParam> built(64);
     EXPECT_EQ(built.plan->head.init.template as<BuildOperation>(), &buildPlan);
-    EXPECT_EQ(built.plan->head.free.template as<ReleaseOperation>(), &releasePlan<TypeParam>);
+    EXPECT_EQ(built.plan->head.free.template as<ReleaseOperation>(), &releasePlan<sizeof(TypeParam)>);
     EXPECT_EQ(recordAt<OutputStage>(built.plan->post, 0).head.free.template as<ReleaseOperation>(),
-              &releaseOutput<TypeParam>);
+              &releaseOutput<sizeof(TypeParam)>);
     EXPECT_EQ(recordAt<FoldStage>(built.plan->pre, 0).head.free.template as<ReleaseOperation>(),
               &releaseFold<FoldStage>);
 }

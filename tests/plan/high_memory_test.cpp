@@ -39,7 +39,7 @@ TEST_P(HighMemory, FirstRecordIsUpTo95BytesIn) {
     const auto& split = zulg::firstOf<zulg::SkewSplit>(zulg::firstOf<zulg::FoldStage>(plan->pre).children);
     EXPECT_EQ(split.radix, 8);
     EXPECT_EQ(split.skewLength, 128);
-    zulg::releasePlan<float>(plan->head);
+    zulg::releasePlan<sizeof(float)>(plan->head);
     EXPECT_EQ(zulg::arenaCursor(arena), reinterpret_cast<std::uintptr_t>(root) + 64);
 }
 INSTANTIATE_TEST_SUITE_P(Remainders, HighMemory, testing::Values(0, 1, 2, 16, 31), testing::PrintToStringParamName());

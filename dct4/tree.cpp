@@ -1,4 +1,4 @@
-#include "dct4/radix.h"
+#include "dct4/tree.h"
 
 namespace zulg {
 
@@ -17,6 +17,13 @@ Status pickRadix(std::int32_t* pRadix, std::int32_t n) {
         return StatusSizeError;
     }
     return StatusOk;
+}
+
+Status takeApart(std::int32_t length, Level* pLevel) {
+    std::int32_t radix;
+    const Status status = pickRadix(&radix, length / 2);
+    if (status == StatusOk) *pLevel = {length, radix, length / radix, length / (2 * radix)};
+    return status;
 }
 
 }  // namespace zulg

@@ -19,7 +19,7 @@ template <int radix, class Element>
     Element* const highest = y + stage.mirrorBase - radix * stride;
     for (std::ptrdiff_t m = 0; m < stage.rows; ++m) {
         Dct4Output<radix>::run(OutputPorts<TargetNumbers, Element, radix>{
-            {}, transforms + 2 * radix * m, entries + 2 * radix * m, y + m, highest - m, stride});
+            {}, transforms + 2 * radix * m, entries + OutputStage::rowEntries(radix) * m, y + m, highest - m, stride});
     }
     return StatusOk;
 }

@@ -26,6 +26,26 @@ template <class Element>
     return static_cast<Element>(std::sin(productRoundedOnce(x, pi)));
 }
 
+template <class Element, class Stage>
+Element* drawTable(Stage& stage) {
+    const std::int32_t bytes = tableBytes<Stage>(stage.rows, stage.radix, sizeof(Element));
+    stage.table = arenaAlloc(stage.head.arena, bytes);
+    return static_cast<Element*>(stage.table.get());
+}
+
+}  // namespace
+
+template <class Element>
+double angleEntry(const AngleSource& source, std::int32_t row, std::int32_t index) {
+    const std::int32_t i = wrapSum(wrapProduct(source.rowStride, row), index);
+    const std::int32_t h = i / 2, q = h / source.radix, p = h % source.radix;
+    const std::int32_t a = wrapProduct(wrapSum(wrapProduct(4, q), 2), wrapSum(wrapProduct(2, p), 1));
+    const auto f = static_cast<Element>(quotientRoundedOnce(a, source.denominator));
+    return i % 2 != 0 ? sinpi<Element>(f) : cospi<Element>(f);
+}
+
+namespace {
+
 // The input of an output body whose entry is number `place` in its row. Inputs come in pairs of p and its mirror
 // radix - 1 - p. From pair to pair p rises by 1, except in the body of radix 32: there p = a + 4b + 16c, and c rises
 // first, then b, then a.
@@ -35,12 +55,27 @@ std::int32_t inputAtPlace(std::int32_t place, std::int32_t radix) {
     return place % 2 == 0 ? p : radix - 1 - p;
 }
 
-template <class Element, class Stage>
-Element* drawTable(Stage& stage) {
-    const std::int32_t bytes = tableBytes<Stage>(stage.rows, stage.radix, sizeof(Element));
-    stage.table = arenaAlloc(stage.head.arena, bytes);
-    return static_cast<Element*>(stage.table.get());
+}  // namespace
+
+template <class Element>
+void buildOutputTable(OutputStage& stage) {
+    Element* at = drawTable<Element>(stage);
+    const AngleSource& source = *stage.source;
+    const auto entry = source.head.init.as<AngleOperation>();
+    for (std::int32_t row = 0; row < stage.rows; ++row) {
+        for (std::int32_t place = 0; place < stage.radix; ++place) {
+            const std::int32_t p = inputAtPlace(place, stage.radix);
+            *at++ = static_cast<Element>(entry(source, row, 2 * p));
+            *at++ = static_cast<Element>(entry(source, row, 2 * p + 1));
+        }
+    }
 }
+
+double rowAngle(const RowAngleSource& source, std::int32_t row, std::int32_t) {
+    return (row + 0.5) / (source.skewLength / source.radix);
+}
+
+namespace {
 
 template <class Element>
 Element* storePair(Element* at, double fraction) {
@@ -57,68 +92,32 @@ double rowAngleOf(const CombineStage& stage, std::int32_t row) {
 
 // For each row, which has the angle t, the twiddles of a DFT of `inner` points: 2tc/inner, c from 1 to inner - 1.
 template <class Element>
-Element* storeInner(Element* at, const CombineStage& stage, std::int32_t inner) {
+void storeInner(Element* at, const CombineStage& stage, std::int32_t inner) {
     for (std::int32_t row = 0; row < stage.rows; ++row) {
         const double t = rowAngleOf(stage, row);
         for (std::int32_t c = 1; c < inner; ++c) at = storePair(at, 2.0 / inner * c * t);
     }
-    return at;
 }
 
 // For each row and each of its sub-rows j, the twiddles of the outer DFT of 4 points: 2(t + j)c/radix, c from 1 to 3.
 template <class Element>
-Element* storeOuter(Element* at, const CombineStage& stage, std::int32_t inner) {
+void storeOuter(Element* at, const CombineStage& stage, std::int32_t inner) {
     for (std::int32_t row = 0; row < stage.rows; ++row) {
         const double t = rowAngleOf(stage, row);
         for (std::int32_t j = 0; j < inner; ++j) {
             for (std::int32_t c = 1; c < 4; ++c) at = storePair(at, 2.0 / stage.radix * c * (t + j));
         }
     }
-    return at;
 }
 
 }  // namespace
 
 template <class Element>
-double angleEntry(const AngleSource& source, std::int32_t row, std::int32_t index) {
-    const std::int32_t i = wrapSum(wrapProduct(source.rowStride, row), index);
-    const std::int32_t h = i / 2, q = h / source.radix, p = h % source.radix;
-    const std::int32_t a = wrapProduct(wrapSum(wrapProduct(4, q), 2), wrapSum(wrapProduct(2, p), 1));
-    const auto f = static_cast<Element>(quotientRoundedOnce(a, source.denominator));
-    return i % 2 != 0 ? sinpi<Element>(f) : cospi<Element>(f);
-}
-
-double rowAngle(const RowAngleSource& source, std::int32_t row, std::int32_t) {
-    return (row + 0.5) / (source.skewLength / source.radix);
-}
-
-template <class Element>
-void buildOutputTable(OutputStage& stage) {
-    Element* at = drawTable<Element>(stage);
-    const AngleSource& source = *stage.source;
-    const auto entry = source.head.init.as<AngleOperation>();
-    for (std::int32_t row = 0; row < stage.rows; ++row) {
-        for (std::int32_t place = 0; place < stage.radix; ++place) {
-            const std::int32_t p = inputAtPlace(place, stage.radix);
-            *at++ = static_cast<Element>(entry(source, row, 2 * p));
-            *at++ = static_cast<Element>(entry(source, row, 2 * p + 1));
-        }
-    }
-}
-
-// Up to radix 8 a combine row is one DFT. Above that it has two levels: inner DFTs of a quarter of the radix, then
-// outer ones of 4 points. The tables of radix 32 of the two element types have their two sections in opposite order.
-template <class Element>
 void buildCombineTable(CombineStage& stage) {
-    Element* const at = drawTable<Element>(stage);
-    const std::int32_t inner = stage.radix / 4;
-    if (stage.radix <= 8) {
-        storeInner(at, stage, stage.radix);
-    } else if (stage.radix == 32 && sizeof(Element) == sizeof(float)) {
-        storeInner(storeOuter(at, stage, inner), stage, inner);
-    } else {
-        storeOuter(storeInner(at, stage, inner), stage, inner);
-    }
+    Element* const table = drawTable<Element>(stage);
+    const CombineSections sections = combineSections(stage.radix, sizeof(Element));
+    storeInner(table + sections.innerStart(stage.rows), stage, sections.innerPoints);
+    if (sections.outerEntries != 0) storeOuter(table + sections.outerStart(stage.rows), stage, sections.innerPoints);
 }
 
 template double angleEntry<float>(const AngleSource&, std::int32_t, std::int32_t);

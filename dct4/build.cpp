@@ -112,7 +112,7 @@ Status buildOutput(PlanHead& head, const PlanType& type) {
 
 Status addFirstPass(DctPlan& plan, const Level& level, const PlanType& type) {
     const std::int32_t N = level.length, r = level.radix;
-    const auto stage = drawWithHead<FoldStage>(plan.head.arena, releaseFold<FoldStage>, buildFold<FoldStage>);
+    const auto stage = drawWithHead<FoldStage>(plan.head.arena, releaseLists<FoldStage>, buildFold<FoldStage>);
     stage->table = nullptr;
     stage->kind = FoldKind::None;
     stage->skewLength = level.below;
@@ -205,7 +205,7 @@ Status buildCombine(PlanHead& head, const PlanType& type) {
 
 Status addFirstPass(SkewSplit& split, const Level& level, const PlanType& type) {
     const std::int32_t M = level.length, r = level.radix;
-    const auto step = drawWithHead<FoldStep>(split.head.arena, releaseFold<FoldStep>, buildFold<FoldStep>);
+    const auto step = drawWithHead<FoldStep>(split.head.arena, releaseLists<FoldStep>, buildFold<FoldStep>);
     step->table = nullptr;
     step->kind = FoldKind::None;
     step->skewLength = level.below;

@@ -1,3 +1,20 @@
+// The five routines of the DCT-IV. This is where to begin to read; each routine leads downwards from here.
+//
+//     GetSize   size.cpp      counts the bytes of a tree without building it
+//     Init      build.cpp     draws and fills in the records, from the top of the tree downwards
+//               tables.cpp    fills the twiddle table of each second pass
+//     Free      release.cpp   gives everything back
+//     dct4      run.cpp       chooses a direct body, or the two passes
+//               fold.cpp      the first pass, with the splits below it
+//               combine.cpp   the second pass of a split
+//               output.cpp    the second pass of a plan
+//
+// What all of them go by is said once: in tree.h how a length is taken apart, which records a level has and how many
+// bytes they need; in records.h what a record holds; in kinds.h how its kind follows from its length or radix; in
+// tables.h how a table is laid out.
+//
+// A plan is one block of memory. Records are drawn from it with arena.h, refer to each other with plan_ref.h, and are
+// in the lists of list.h. Counts of bytes wrap around at 32 bits, by wrap.h.
 #include "dct4/build.h"
 #include "dct4/dct4.h"
 #include "dct4/release.h"

@@ -4,55 +4,46 @@
 
 namespace zulg {
 
-namespace {
-
-// Releases the records that a record owns, and all its lists.
 template <class Record>
-void releaseLists(Record& record) {
+void releaseLists(PlanHead& head) {
+    auto& record = recordOf<Record>(head);
     listReleaseValues(record.owned);
     for (const auto list : Record::lists) {
         listReleaseTail(record.*list);
-        arenaRelease(record.head.arena, record.*list, sizeof(PlanListNode));
+        arenaRelease(head.arena, record.*list, sizeof(PlanListNode));
     }
 }
 
-}  // namespace
-
 template <std::int32_t width>
 void releasePlan(PlanHead& head) {
-    auto& plan = recordOf<DctPlan>(head);
+    const auto& plan = recordOf<DctPlan>(head);
     if (plan.kind == PlanKind::Composite) {
         arenaRelease(head.arena, plan.scratch, scratchBytes(plan.length, width));
     }
-    releaseLists(plan);
+    releaseLists<DctPlan>(head);
 }
 
 template <std::int32_t width>
 void releaseOutput(PlanHead& head) {
-    auto& stage = recordOf<OutputStage>(head);
+    const auto& stage = recordOf<OutputStage>(head);
     arenaRelease(head.arena, stage.table, tableBytes<OutputStage>(stage.rows, stage.radix, width));
-    releaseLists(stage);
-}
-
-template <class Fold>
-void releaseFold(PlanHead& head) {
-    releaseLists(recordOf<Fold>(head));
+    releaseLists<OutputStage>(head);
 }
 
 template <std::int32_t width>
 void releaseSplit(PlanHead& head) {
-    auto& split = recordOf<SkewSplit>(head);
+    const auto& split = recordOf<SkewSplit>(head);
     if (split.active == 1) {
         arenaRelease(head.arena, split.scratch, scratchBytes(split.skewLength, width));
     }
-    releaseLists(split);
+    releaseLists<SkewSplit>(head);
 }
 
 template <std::int32_t width>
 void releaseCombine(PlanHead& head) {
-    auto& stage = recordOf<CombineStage>(head);
+    const auto& stage = recordOf<CombineStage>(head);
     arenaRelease(head.arena, stage.table, tableBytes<CombineStage>(stage.rows, stage.radix, width));
-    releaseLists(stage);
+    releaseLists<CombineStage>(head);
 }
 
 void releaseNothing(PlanHead&) {}
@@ -61,8 +52,8 @@ template void releasePlan<sizeof(float)>(PlanHead&);
 template void releasePlan<sizeof(double)>(PlanHead&);
 template void releaseOutput<sizeof(float)>(PlanHead&);
 template void releaseOutput<sizeof(double)>(PlanHead&);
-template void releaseFold<FoldStage>(PlanHead&);
-template void releaseFold<FoldStep>(PlanHead&);
+template void releaseLists<FoldStage>(PlanHead&);
+template void releaseLists<FoldStep>(PlanHead&);
 template void releaseSplit<sizeof(float)>(PlanHead&);
 template void releaseSplit<sizeof(double)>(PlanHead&);
 template void releaseCombine<sizeof(float)>(PlanHead&);

@@ -1,5 +1,5 @@
-// The tree of a plan: how a length is taken apart level by level, and what each level needs. Sizes, builds, releases
-// and runs all go by it.
+// The tree of a plan: how a length is taken apart level by level, and what each level needs. Sizes, builds and
+// releases go by it; a run goes by the records that a build leaves.
 //
 // A level takes a transform of `length` values apart, N of a plan or M of a split, and does it in two passes. The first
 // pass makes `radix` skew transforms of `below` values each. If these are too long for one body, a level more, a split,

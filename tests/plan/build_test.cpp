@@ -281,7 +281,7 @@ TYPED_TEST(PlanBuild, OperationsOfPlanAndStages) {
     EXPECT_EQ(recordAt<OutputStage>(built.plan->post, 0).head.free.template as<ReleaseOperation>(),
               &releaseOutput<sizeof(TypeParam)>);
     EXPECT_EQ(recordAt<FoldStage>(built.plan->pre, 0).head.free.template as<ReleaseOperation>(),
-              &releaseFold<FoldStage>);
+              &releaseLists<FoldStage>);
 }
 
 }  // namespace

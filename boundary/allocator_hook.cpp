@@ -7,7 +7,6 @@
 #include "boundary/allocator_hook.h"
 
 #include <atomic>
-#include <cstdlib>
 
 #include "boundary/shared_library.h"
 
@@ -16,8 +15,6 @@ namespace {
 
 // A companion that demands more of its users than this is refused.
 constexpr std::int32_t greatestMinVersion = 1;
-
-constexpr AllocatorSlots runtimeRoutines() { return {std::malloc, std::calloc, std::realloc, std::free}; }
 
 // Where the companion keeps its words; null for a name that it does not export.
 struct CompanionWords {

@@ -1,6 +1,8 @@
 // Dynamic loading of ELF platforms.
 #include <dlfcn.h>
 
+#include <cstdlib>
+
 #include "boundary/shared_library.h"
 
 namespace zulg {
@@ -11,5 +13,7 @@ SharedLibrary openCompanion() { return dlopen("libtmalloc.so", RTLD_NOW | RTLD_L
 const void* findSymbol(SharedLibrary library, const char* name) { return dlsym(library, name); }
 
 void releaseLibrary(SharedLibrary library) { dlclose(library); }
+
+AllocatorSlots runtimeRoutines() { return {std::malloc, std::calloc, std::realloc, std::free}; }
 
 }  // namespace zulg

@@ -1,8 +1,18 @@
 // Dynamic loading on Windows.
+#include <cstdlib>
+
 #include "boundary/shared_library.h"
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
+
+// The words of the import table. The name of an imported routine itself leads to a jump inside this library.
+extern "C" {
+extern decltype(&std::malloc) importedMalloc __asm__("__imp__malloc");
+extern decltype(&std::calloc) importedCalloc __asm__("__imp__calloc");
+extern decltype(&std::realloc) importedRealloc __asm__("__imp__realloc");
+extern decltype(&std::free) importedFree __asm__("__imp__free");
+}
 
 namespace zulg {
 
@@ -13,5 +23,7 @@ const void* findSymbol(SharedLibrary library, const char* name) {
 }
 
 void releaseLibrary(SharedLibrary library) { FreeLibrary(static_cast<HMODULE>(library)); }
+
+AllocatorSlots runtimeRoutines() { return {importedMalloc, importedCalloc, importedRealloc, importedFree}; }
 
 }  // namespace zulg

@@ -2,6 +2,7 @@
 #include "tests/fakes/recorded_loading.h"
 
 #include "boundary/shared_library.h"
+#include "tests/hook/slots.h"
 
 namespace test {
 
@@ -29,5 +30,7 @@ void releaseLibrary(SharedLibrary library) {
     recordedLoading.events.push_back(library == &recordedLoading ? "release" : "release of another library");
     recordedLoading.atRelease();
 }
+
+AllocatorSlots runtimeRoutines() { return test::slotsOfTheRuntime(); }
 
 }  // namespace zulg

@@ -83,7 +83,7 @@ TEST_F(BindingTest, AnAbsentCompanionLeavesNothingToRelease) {
     recordedLoading.present = false;
     bind();
     EXPECT_EQ(recordedLoading.events, std::vector<std::string>{"open"});
-    EXPECT_EQ(allocatorHook.slots, runtimeRoutines);
+    EXPECT_EQ(allocatorHook.slots, slotsOfTheRuntime());
     EXPECT_EQ(allocatorHook.boundFlag, 1u);
 }
 
@@ -139,7 +139,7 @@ TEST_F(BindingTest, ARefusedCompanionIsReleasedAfterTheFallback) {
     routines.callocLike = nullptr;
     recordedLoading.atRelease = [&] {
         seen = true;
-        EXPECT_EQ(allocatorHook.slots, runtimeRoutines);
+        EXPECT_EQ(allocatorHook.slots, slotsOfTheRuntime());
     };
     bind();
     EXPECT_TRUE(seen);
@@ -158,7 +158,7 @@ TEST_F(BindingTest, TheVersionReleasesAndTheMinimumRefuses) {
             recordedLoading.events.clear();
             bind();
             EXPECT_EQ(recordedLoading.events, events(stated > 0));
-            EXPECT_EQ(allocatorHook.slots, minimum <= 1 ? companionRoutines : runtimeRoutines);
+            EXPECT_EQ(allocatorHook.slots, minimum <= 1 ? companionRoutines : slotsOfTheRuntime());
             EXPECT_EQ(allocatorHook.hookVersion, stated);
             EXPECT_EQ(allocatorHook.hookMinVersion, minimum);
         }

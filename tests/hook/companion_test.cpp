@@ -76,7 +76,7 @@ TEST_P(VariantTest, IsTakenOrRefusedAndReleasedOrKept) {
 
     trampolines.freeLike(nullptr);
 
-    EXPECT_EQ(allocatorHook.slots, variant.verdict == Verdict::Taken ? routinesOf(companion) : runtimeRoutines);
+    EXPECT_EQ(allocatorHook.slots, variant.verdict == Verdict::Taken ? routinesOf(companion) : slotsOfTheRuntime());
     EXPECT_EQ(allocatorHook.boundFlag, 1u);
     EXPECT_EQ(allocatorHook.hookVersion, variant.hookVersion);
     EXPECT_EQ(allocatorHook.hookMinVersion, variant.hookMinVersion);
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(All, VariantTest, testing::ValuesIn(variants),
 TEST_F(HookTest, AnAbsentCompanionLeavesTheRuntimesRoutines) {
     void* const block = trampolines.callocLike(3, 5);
     ASSERT_NE(block, nullptr);
-    EXPECT_EQ(allocatorHook.slots, runtimeRoutines);
+    EXPECT_EQ(allocatorHook.slots, slotsOfTheRuntime());
     EXPECT_EQ(allocatorHook.boundFlag, 1u);
     EXPECT_EQ(allocatorHook.hookVersion, 0);
     EXPECT_EQ(allocatorHook.hookMinVersion, 0);

@@ -84,6 +84,7 @@ TEST_F(LibraryTest, WithoutACompanionTheRuntimeAllocates) {
     char* block = static_cast<char*>(hook->slots.mallocLike(100));
     ASSERT_NE(block, nullptr);
     EXPECT_EQ(hook->boundFlag, 1u);
+    EXPECT_EQ(hook->slots, slotsOfTheRuntime()) << "no jumps inside the library";
     std::strcpy(block, "kept");
     block = static_cast<char*>(hook->slots.reallocLike(block, 100000));
     ASSERT_NE(block, nullptr);

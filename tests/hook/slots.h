@@ -1,7 +1,12 @@
-// Comparing and printing the four slots.
+// Comparing and printing the four slots, and what they hold after the fallback.
 #pragma once
 
-#include <cstdlib>
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
 #include <ostream>
 
 #include "boundary/allocator_hook.h"
@@ -22,6 +27,27 @@ inline std::ostream& operator<<(std::ostream& out, const AllocatorSlots& slots) 
 
 namespace test {
 
-inline const zulg::AllocatorSlots runtimeRoutines = {std::malloc, std::calloc, std::realloc, std::free};
+// The address that the loader gives for a name of the language's runtime.
+inline void* addressInRuntime(const char* name) {
+#ifdef _WIN32
+    return reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("msvcrt.dll"), name));
+#else
+    return dlsym(RTLD_DEFAULT, name);
+#endif
+}
+
+template <class Routine>
+void takeAddress(Routine*& routine, const char* name) {
+    routine = reinterpret_cast<Routine*>(addressInRuntime(name));
+}
+
+inline zulg::AllocatorSlots slotsOfTheRuntime() {
+    zulg::AllocatorSlots slots;
+    takeAddress(slots.mallocLike, "malloc");
+    takeAddress(slots.callocLike, "calloc");
+    takeAddress(slots.reallocLike, "realloc");
+    takeAddress(slots.freeLike, "free");
+    return slots;
+}
 
 }  // namespace test

@@ -1,0 +1,378 @@
+// Measures how far every routine is from the exact result: for each family, element and length two kinds of figures,
+// both relative L2 errors, in units of 2^-53 for double elements and 2^-24 for single ones:
+//
+//     pooled   the root of all squared errors over all squared results, over all inputs
+//     worst    the greatest error of one call
+//
+// Inputs are normally distributed, at a scale drawn anew from one octave: the error of a rounding depends on where the
+// value lies between two powers of two. The factor that a flag stands for counts as the exact one, so that the rounding
+// of the stored factor is part of the error.
+//
+//     accuracy [TRIALS]    inputs for each routine (100000); prints a line for each routine, flag and way of rounding:
+//                          family, element, length, flag, registers, inputs, pooled, worst
+//     accuracy --check     holds the references against the definitions, and does nothing else
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "benchmarks/accuracy_reference.h"
+#include "tests/exports.h"
+#include "tests/transforms/float_state.h"
+
+namespace {
+
+using accuracy::Dct4Reference;
+using accuracy::FoldedSums;
+using test::exported;
+using test::Kernel;
+using test::Values;
+using test::Wide;
+
+int trialsOfEach = 100000;
+
+// Where a transform of so many points is long, its error is nearly the same at each call, and fewer calls show it.
+constexpr int trialsOf(int all, int points) {
+    const int most = (1 << 28) / points;
+    return all < most ? all : most;
+}
+
+template <class Element>
+constexpr bool isSingle = sizeof(Element) == 4;
+template <class Element>
+std::string ending() {
+    return isSingle<Element> ? "_32f" : "_64f";
+}
+
+// Each input is the sum of two stretches of a pool: as good as fresh values, and much quicker.
+class Inputs {
+public:
+    Inputs() {
+        std::normal_distribution<double> normal(0, std::sqrt(0.5));
+        for (double& value : pool) value = normal(random);
+    }
+
+    template <class Element>
+    void fill(std::vector<Element>& x) {
+        const double scale = std::exp2(std::uniform_real_distribution<double>(-0.5, 0.5)(random));
+        const double *const a = stretch(x.size()), *const b = stretch(x.size());
+        for (std::size_t i = 0; i < x.size(); ++i) x[i] = static_cast<Element>((a[i] + b[i]) * scale);
+    }
+
+private:
+    const double* stretch(std::size_t count) {
+        return &pool[static_cast<std::size_t>(random() % (pool.size() - count))];
+    }
+
+    std::mt19937_64 random;
+    std::vector<double> pool = std::vector<double>(1 << 20);
+};
+Inputs inputs;
+
+// The ways in which registers round. Where kernels use the x87 unit, many a Windows program has set it to double.
+struct Registers {
+    const char* name;
+    bool roundToDouble;
+};
+#ifdef _WIN32
+constexpr Registers allRegisters[] = {{"extended", false}, {"double", true}};
+#else
+constexpr Registers allRegisters[] = {{"double", false}};
+#endif
+
+struct Flag {
+    const char* name;
+    int value;
+    Wide factor;
+};
+
+std::vector<Flag> flagsOf(int points, int dividing) {
+    const Wide N = points;
+    return {{"none", NoDivByAny, 1}, {"root", DivBySqrtN, 1 / std::sqrt(N)}, {"whole", dividing, 1 / N}};
+}
+
+// The errors of one routine.
+template <class Element>
+class Judge {
+public:
+    Judge(std::string familyName, int routineLength, int points, std::vector<Flag> routineFlags)
+        : family(std::move(familyName)),
+          length(routineLength),
+          flags(std::move(routineFlags)),
+          found(static_cast<std::size_t>(points)),
+          figures(flags.size() * std::size(allRegisters)) {}
+
+    // call(destination, flag) is made in every way; `due` is without the factor.
+    template <class Call, class Due>
+    void judge(const Call& call, const std::vector<Due>& due) {
+        Figures* at = figures.data();
+        for (const Registers& registers : allRegisters) {
+            for (const Flag& flag : flags) {
+                if (registers.roundToDouble) {
+                    const test::DoublePrecisionRegisters precision;
+                    call(found.data(), flag.value);
+                } else {
+                    call(found.data(), flag.value);
+                }
+                (at++)->add(found, due, flag.factor);
+            }
+        }
+        ++trials;
+    }
+
+    void print() const {
+        const Figures* at = figures.data();
+        const auto inUnits = [](Wide ratio) {
+            return static_cast<double>(std::ldexp(std::sqrt(ratio), isSingle<Element> ? 24 : 53));
+        };
+        for (const Registers& registers : allRegisters) {
+            for (const Flag& flag : flags) {
+                std::printf("%s,%s,%d,%s,%s,%d,%.3f,%.3f\n", family.c_str(), ending<Element>().c_str() + 1, length,
+                            flag.name, registers.name, trials, inUnits(at->errors / at->results), inUnits(at->worst));
+                ++at;
+            }
+        }
+        std::fflush(stdout);
+    }
+
+private:
+    struct Figures {
+        Wide errors = 0, results = 0, worst = 0;
+
+        template <class Due>
+        void add(const std::vector<Element>& results_, const std::vector<Due>& due, Wide factor) {
+            Wide error = 0, square = 0;
+            for (std::size_t i = 0; i < due.size(); ++i) {
+                const Wide exact = due[i] * factor, difference = results_[i] - exact;
+                error += difference * difference;
+                square += exact * exact;
+            }
+            errors += error;
+            results += square;
+            worst = std::max(worst, error / square);
+        }
+    };
+
+    std::string family;
+    int length, trials = 0;
+    std::vector<Flag> flags;
+    std::vector<Element> found;
+    std::vector<Figures> figures;
+};
+
+// What is due of the DFT families of one length, unscaled. In double by the sums of the definition.
+class WideReference {
+public:
+    using Due = Wide;
+
+    explicit WideReference(int length) : N(length), sums{FoldedSums(length), FoldedSums(length)} {}
+
+    void signal(const double* re, const double* im) {
+        sums[0].fold(re);
+        sums[1].fold(im);
+        for (FoldedSums& part : sums) part.compute();
+    }
+    void complexTransform(std::vector<Due>& due, int sign) const {
+        for (int k = 0; k < N; ++k) {
+            due[static_cast<std::size_t>(2 * k)] = sums[0].cosine(k) - static_cast<Wide>(sign) * sums[1].sine(k);
+            due[static_cast<std::size_t>(2 * k + 1)] = sums[1].cosine(k) + static_cast<Wide>(sign) * sums[0].sine(k);
+        }
+    }
+    void realForward(std::vector<Due>& due) const {
+        due[0] = sums[0].cosine(0);
+        for (int i = 1; i < N; ++i) {
+            const int k = (i + 1) / 2;
+            due[static_cast<std::size_t>(i)] = i % 2 == 1 ? sums[0].cosine(k) : -sums[0].sine(k);
+        }
+    }
+    void hartley(std::vector<Due>& due) const {
+        for (int k = 0; k < N; ++k) due[static_cast<std::size_t>(k)] = sums[0].cosine(k) + sums[0].sine(k);
+    }
+    void realInverse(const double* packed, std::vector<Due>& due) {
+        sums[0].foldBins(packed);
+        sums[0].compute();
+        for (int n = 0; n < N; ++n) due[static_cast<std::size_t>(n)] = sums[0].cosine(n) - sums[0].sine(n);
+    }
+
+private:
+    int N;
+    FoldedSums sums[2];
+};
+
+std::string kernelName(const char* family, int length, const char* suffix) {
+    return std::string("zulg") + family + "_" + std::to_string(length) + suffix;
+}
+
+// The routines of double elements are exact enough for those of single ones: their error is a 2^-26th of the unit.
+class DoubleReference {
+public:
+    using Due = double;
+
+    explicit DoubleReference(int length)
+        : forward(exported<Kernel<double>>(kernelName("DFTFwd_CToC", length, "_64fc"))),
+          inverse(exported<Kernel<double>>(kernelName("DFTInv_CToC", length, "_64fc"))),
+          toPack(exported<Kernel<double>>(kernelName("DFTFwd_RToPack", length, "_64f"))),
+          fromPack(exported<Kernel<double>>(kernelName("DFTInv_PackToR", length, "_64f"))),
+          cas(exported<Kernel<double>>(kernelName("Hartley", length, "_64f"))),
+          x(static_cast<std::size_t>(length)),
+          z(static_cast<std::size_t>(2 * length)) {}
+
+    void signal(const double* re, const double* im) {
+        for (std::size_t n = 0; n < x.size(); ++n) x[n] = z[2 * n] = re[n], z[2 * n + 1] = im[n];
+    }
+    void complexTransform(std::vector<Due>& due, int sign) const {
+        (sign < 0 ? forward : inverse)(z.data(), due.data(), NoDivByAny);
+    }
+    void realForward(std::vector<Due>& due) const { toPack(x.data(), due.data(), NoDivByAny); }
+    void hartley(std::vector<Due>& due) const { cas(x.data(), due.data(), NoDivByAny); }
+    void realInverse(const double* packed, std::vector<Due>& due) { fromPack(packed, due.data(), NoDivByAny); }
+
+private:
+    Kernel<double> forward, inverse, toPack, fromPack, cas;
+    std::vector<double> x, z;
+};
+
+template <class Element>
+using Reference = std::conditional_t<isSingle<Element>, DoubleReference, WideReference>;
+
+// A kernel on one input.
+template <class Element>
+class OnInput {
+public:
+    OnInput(const std::string& name, const std::vector<Element>& input)
+        : kernel(exported<Kernel<Element>>(name)), source(input.data()) {}
+    void operator()(Element* destination, int flag) const { kernel(source, destination, flag); }
+
+private:
+    Kernel<Element> kernel;
+    const Element* source;
+};
+
+template <class Element>
+void measureDft(int length) {
+    const auto points = static_cast<std::size_t>(length);
+    const std::string real = ending<Element>(), complex = real + "c";
+    const auto forwardFlags = flagsOf(length, DivFwdByN), inverseFlags = flagsOf(length, DivInvByN);
+    Judge<Element> complexForward("complex_forward", length, 2 * length, forwardFlags),
+        complexInverse("complex_inverse", length, 2 * length, inverseFlags),
+        realForward("real_forward", length, length, forwardFlags),
+        realInverse("real_inverse", length, length, inverseFlags), hartley("hartley", length, length, forwardFlags);
+
+    using Due = typename Reference<Element>::Due;
+    Reference<Element> reference(length);
+    std::vector<Element> re(points), im(points), z(2 * points);
+    std::vector<double> wideRe(points), wideIm(points);
+    std::vector<Due> due(points), complexDue(2 * points);
+    const OnInput<Element> runComplexForward(kernelName("DFTFwd_CToC", length, complex.c_str()), z),
+        runComplexInverse(kernelName("DFTInv_CToC", length, complex.c_str()), z),
+        runRealForward(kernelName("DFTFwd_RToPack", length, real.c_str()), re),
+        runRealInverse(kernelName("DFTInv_PackToR", length, real.c_str()), im),
+        runHartley(kernelName("Hartley", length, real.c_str()), re);
+
+    for (int i = 0; i < trialsOfEach; ++i) {
+        inputs.fill(re);
+        inputs.fill(im);
+        for (std::size_t n = 0; n < points; ++n) {
+            z[2 * n] = re[n], z[2 * n + 1] = im[n];
+            wideRe[n] = re[n], wideIm[n] = im[n];
+        }
+        reference.signal(wideRe.data(), wideIm.data());
+        reference.complexTransform(complexDue, -1);
+        complexForward.judge(runComplexForward, complexDue);
+        reference.complexTransform(complexDue, 1);
+        complexInverse.judge(runComplexInverse, complexDue);
+        reference.realForward(due);
+        realForward.judge(runRealForward, due);
+        reference.hartley(due);
+        hartley.judge(runHartley, due);
+        reference.realInverse(wideIm.data(), due);
+        realInverse.judge(runRealInverse, due);
+    }
+    for (const auto* judge : {&complexForward, &complexInverse, &realForward, &realInverse, &hartley}) judge->print();
+}
+
+template <class Element>
+void measureWalshHadamard(int order) {
+    using Routine = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t flag, Element*);
+    const auto routine = exported<Routine>(kernelName("WHT", order, ending<Element>().c_str()));
+    const std::size_t points = std::size_t{1} << order;
+    Judge<Element> judge("wht", order, static_cast<int>(points), flagsOf(1 << order, DivFwdByN));
+    std::vector<Element> x(points), buffer(2 * points);
+    Values due(points);
+    const int trials = trialsOf(trialsOfEach, 1 << order);
+    for (int i = 0; i < trials; ++i) {
+        inputs.fill(x);
+        due.assign(x.begin(), x.end());
+        accuracy::walshHadamard(due);
+        judge.judge([&](Element* y, int flag) { routine(x.data(), y, flag, buffer.data()); }, due);
+    }
+    judge.print();
+}
+
+template <class Element>
+class Plan {
+public:
+    explicit Plan(int length) {
+        using InitAlloc = ZulgStatus(ZULG_CALL*)(void**, std::int32_t);
+        if (exported<InitAlloc>("zulgDCT4InitAlloc" + ending<Element>())(&plan, length) != StatusOk) {
+            std::fprintf(stderr, "no plan of length %d\n", length), std::exit(1);
+        }
+    }
+    ~Plan() { exported<ZulgStatus(ZULG_CALL*)(void*)>("zulgDCT4Free" + ending<Element>())(plan); }
+    Plan(const Plan&) = delete;
+    Plan& operator=(const Plan&) = delete;
+
+    void run(const Element* x, Element* y) const { routine(x, y, plan); }
+
+private:
+    using Run = ZulgStatus(ZULG_CALL*)(const Element*, Element*, void*);
+    void* plan = nullptr;
+    Run routine = exported<Run>("zulgDCT4" + ending<Element>());
+};
+
+template <class Element>
+void measureDct4(int length) {
+    const auto points = static_cast<std::size_t>(length);
+    const Plan<Element> plan(length);
+    const Plan<double> planInDouble(length);
+    Dct4Reference reference(length);
+    Judge<Element> judge("dct4", length, length, {{"none", 0, 1}});
+    std::vector<Element> x(points);
+    std::vector<double> wide(points), dueInDouble(points);
+    Values due(points);
+    const int trials = trialsOf(trialsOfEach, length);
+    for (int i = 0; i < trials; ++i) {
+        inputs.fill(x);
+        wide.assign(x.begin(), x.end());
+        const auto run = [&](Element* y, int) { plan.run(x.data(), y); };
+        if constexpr (isSingle<Element>) {
+            planInDouble.run(wide.data(), dueInDouble.data());
+            judge.judge(run, dueInDouble);
+        } else {
+            reference.compute(wide.data(), due);
+            judge.judge(run, due);
+        }
+    }
+    judge.print();
+}
+
+template <class Element>
+void measureAll() {
+    for (int length = 2; length <= 64; ++length) measureDft<Element>(length);
+    for (int order = 1; order <= 13; ++order) measureWalshHadamard<Element>(order);
+    for (int length = 2; length <= 65536; length *= 2) measureDct4<Element>(length);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (!accuracy::definitionsHold()) return 1;
+    if (argc > 1 && std::strcmp(argv[1], "--check") == 0) return 0;
+    if (argc > 1) trialsOfEach = std::atoi(argv[1]);
+    if (trialsOfEach < 1) return std::fputs("accuracy [TRIALS] | --check\n", stderr), 1;
+    measureAll<double>();
+    measureAll<float>();
+}

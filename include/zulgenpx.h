@@ -1,21 +1,31 @@
 /* zulgenpx: small signal transforms, each length a routine of its own. This header is plain C.
 
    Nothing is to be set up: any routine may be called first. All results are statuses; output goes to the caller's
-   arrays. Every routine is reentrant: any number of threads may call at the same time, also on the same input, as long
-   as the output arrays differ. No lock is taken, and the processor's floating-point settings are neither read nor
-   changed. Nothing is allocated, but by large Walsh-Hadamard orders called without a buffer and by plans made with
-   InitAlloc; that memory comes from the core library zulcore, which stands beside this one.
+   arrays. The processor's floating-point settings are neither read nor changed. Not-a-number and infinity go through the
+   arithmetic as they will; the status is StatusOk all the same.
 
-   A call takes this much stack, on every target and at both element types: a complex DFT at most 2 KB, a real DFT or a
+   Threads. Any number of threads may call at the same time, also on the same input, as long as their output arrays
+   differ, and their Walsh-Hadamard buffers. No lock is taken. One thing is not free of this: a plan of the DCT-IV of more
+   than 32 points serves one thread at a time.
+
+   Arrays. Data is contiguous. Arrays and buffers need no alignment: any address will do. Source and destination may be
+   the same array, and they may overlap in any other way, by any number of bytes and in either direction; of the source,
+   only what the destination covers is changed. The buffer of a Walsh-Hadamard transform and the block of a plan must
+   overlap neither of them.
+
+   Stack. A call takes this much, on every target and at both element types: a complex DFT at most 2 KB, a real DFT or a
    Hartley transform 1 KB, a Walsh-Hadamard transform 2 KB, a DCT-IV of any length 12 KB, building and freeing a plan
-   2 KB. What zulcore takes for memory, and the C library for the sines of a plan, comes on top.
+   2 KB. What the core library takes for memory, and the C library for the sines of a plan, comes on top.
 
-   Data is contiguous. Arrays and buffers need no alignment: any address will do. Source and destination may be the same
-   array, and they may overlap in any other way, by any number of bytes and in either direction; of the source, only what
-   the destination covers is changed. The buffer of a Walsh-Hadamard transform and the block of a plan must overlap
-   neither of them.
+   Memory. Nothing is allocated, but for Walsh-Hadamard orders 8 to 13 called without a buffer and for plans made by
+   InitAlloc. That memory comes from a library of its own, the core library: zulcore-7.0.dll, or libzulcore-7.0.so beside
+   libzulgenpx-7.0.so. It is imported by name, so that another one may stand in its place. It exports two routines, which
+   are called by the thread that calls here:
 
-   Not-a-number and infinity go through the arithmetic as they will; the status is StatusOk all the same. */
+     void* ZULG_CALL zulMalloc(uint32_t bytes);    a block of that many bytes, or null; a multiple of 32 is best
+     void ZULG_CALL zulFree(void* block);          such a block; null is allowed and does nothing
+
+   A count of 0 is never asked for. In the DLL both names are undecorated. */
 #ifndef ZULGENPX_H
 #define ZULGENPX_H
 
@@ -50,8 +60,8 @@ typedef struct Zulg64fc {
 
 /* -- Status --------------------------------------------------------------------------------------------------------
 
-   A routine that returns anything but StatusOk has read nothing from its input and written nothing to its output.
-   Checks come in this order: length or order, pSrc, pDst, flag. So a bad length outranks a null pointer, and a null
+   A routine that returns anything but StatusOk has read nothing from its input and written nothing to its output (what
+   the Init of a plan may write into its block is told there). Checks of arguments come in this order: length or order, pSrc, pDst, flag. So a bad length outranks a null pointer, and a null
    pointer outranks a bad flag. */
 typedef int32_t ZulgStatus;
 enum {
@@ -77,7 +87,13 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
 
 /* -- Version -------------------------------------------------------------------------------------------------------
 
-   One constant record; the caller neither frees nor changes it. */
+   ZULG_VERSION_MAJOR and ZULG_VERSION_MINOR are those of this header, the record is that of the library that is loaded.
+   It is one constant; the caller neither frees nor changes it. All its fields are the same on every target, so that they
+   tell the release, whatever the file is called: `name` is what the family of files is known by, the name of the DLL,
+   also in libzulgenpx-7.0.so. */
+#define ZULG_VERSION_MAJOR 7
+#define ZULG_VERSION_MINOR 0
+
 typedef struct LibVersion {
     int32_t major;
     int32_t minor;
@@ -177,7 +193,8 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
 
      zulgWHT_<O>_32f       out[k] = scale * sum over j of (-1)^(bits set in both j and k) in[j]   k = 0 .. N-1, N = 2^O
      zulgWHT_32f           the same with the order O as an argument: StatusSizeError outside 1 to 13
-     zulgWHTGetBufferSize_32f   bytes of the buffer of an order: StatusSizeError outside 1 to 13, *pSize then as it was
+     zulgWHTGetBufferSize_32f   bytes of the buffer of an order, 0 up to order 7: StatusSizeError outside 1 to 13, *pSize
+                           then as it was. pSize must be valid: null is not checked for
      and the same with _64f
 
    pSrc     N reals, read only
@@ -188,9 +205,9 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
               order            8     9    10    11     12     13
               bytes, 32f    1024  2048  4096  8192  17408  36864     twice as many in 64f
 
-            With a null pointer the routine takes a block of that size from zulcore for the time of the call. A refused
-            block is not looked for, and the call then faults: pass a buffer where that matters. Two calls at one time
-            need two buffers. What stands in a buffer after a call is of no use.
+            With a null pointer the routine takes a block of that size from the core library for the time of the call.
+            Where the core library has none, the call faults: pass a buffer where that matters. Two calls at one time
+            need two buffers. What is left in a buffer after a call has no meaning.
 
    Rows are in natural (Sylvester) order: row k is that of the Kronecker power of (1 1; 1 -1). Integers come out exact
    at flag 8 as long as every sum fits the element.
@@ -206,14 +223,15 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
 
    ****************************************************************************************************************
    *  Before anything else:                                                                                       *
-   *  - Lengths are powers of two: 2, 4, 8 ...                                                                    *
-   *  - The lengths 2^k + 1 from 9 on are accepted too, by accident of the interface. They must not be used: they *
-   *    read and write one element past the arrays, leave others unwritten, and compute nothing of use.           *
-   *  - 2^27 points in 32f and 2^26 in 64f are the last whose size does not wrap around. Larger ones that are     *
-   *    accepted report a size that is far too small.                                                             *
-   *  - Align the block of a plan to 32 bytes, and never move or copy it: a plan refers to its own addresses.     *
+   *  - Lengths are powers of two from 2 to 2^27 in 32f, to 2^26 in 64f.                                          *
+   *  - The lengths 2^k + 1 from 9 on are accepted too. Never use them: they read and write one element past the  *
+   *    arrays, leave others unwritten, and compute nothing of use.                                               *
+   *  - Nor use longer ones: their byte counts wrap around at 32 bits. GetSize refuses some of them and reports a *
+   *    size that is far too small for others, and Init refuses none.                                             *
+   *  - Never move or copy the block of a plan: the plan refers to its own addresses.                             *
+   *  - A plan of more than 32 points serves one thread at a time: each run writes vectors inside the plan. Two   *
+   *    runs at one time overwrite each other's values; both results are wrong, and nothing is reported.          *
    *  - Free is for plans of InitAlloc only. A plan of Init needs no freeing: stop using the block.               *
-   *  - A plan of more than 32 points serves one thread at a time: each run writes vectors inside the plan.       *
    ****************************************************************************************************************
 
      zulgDCT4_32f           y[k] = sum over n of x[n] cos(pi (n + 1/2)(k + 1/2)/N)   k = 0 .. N-1; no scale, no flag
@@ -227,20 +245,23 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    pDst    N reals, all of them written, after all input is read: it may equal pSrc or overlap it in any way
    plan    of that length and that element type; may be run any number of times
 
+   The block of a plan may begin at any address; a multiple of 32 is best. Only on 32-bit Windows, for a block above the
+   2 GiB line that begins at no multiple of 32, take 31 bytes more than GetSize says.
+
    Twice gives N/2 times the input. Sizes are the same on every target:
 
      N         2 to 32    64   128   256   512   1024   2048   4096   8192   16384   32768    65536
      32f           224  1184  1696  2720  4768   8864  17056  35072  68864  136384  271552   541760
      64f           224  1696  2720  4768  8864  17056  33440  68800 136384  271424  541760  1082176
 
-   GetSize    StatusSizeError for a length that is not accepted; *pSize then as it was
-   Init       StatusNullPointer, StatusSizeError; *pPlan then as it was. A length that GetSize refuses may be built in
-              part before it is refused here
-   InitAlloc  the same, and StatusNullPointer where the core library has no memory
+   GetSize    StatusSizeError for a length that is not accepted; *pSize then as it was. pSize must be valid: null is not
+              checked for
+   Init       StatusNullPointer, StatusSizeError; *pPlan then as it was. A length that GetSize refuses is built in part
+              before Init refuses it too: of the block are then written at most 5/4 N elements and 2 KB, and at most 256
+              bytes for lengths below 1
+   InitAlloc  the same statuses, and StatusNullPointer where the core library has no memory. Nothing is left to be freed
    Free       StatusNullPointer
    DCT4       StatusNullPointer, StatusPlanKindError if the plan is of no known kind; the destination is then untouched
-
-   A run takes at most 12 KB of stack, whatever the length.
 
    Example, a plan in memory of one's own:
 

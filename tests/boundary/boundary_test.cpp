@@ -16,6 +16,8 @@ TEST(Version, TheRecordHoldsItsNumbers) {
     ASSERT_NE(version, nullptr);
     EXPECT_EQ(version->major, 7);
     EXPECT_EQ(version->minor, 0);
+    EXPECT_EQ(version->major, ZULG_VERSION_MAJOR);
+    EXPECT_EQ(version->minor, ZULG_VERSION_MINOR);
     EXPECT_EQ(version->majorBuild, 205);
     EXPECT_EQ(version->build, 544);
     EXPECT_EQ(std::memcmp(version->targetCpu, "px\0\0", 4), 0);

@@ -42,6 +42,23 @@ TEST_P(HighMemory, FirstRecordIsUpTo95BytesIn) {
     zulg::releasePlan<sizeof(float)>(plan->head);
     EXPECT_EQ(zulg::arenaCursor(arena), reinterpret_cast<std::uintptr_t>(root) + 64);
 }
+
+// Up to 32 points all bytes of the reported size are used, so that the greater distance shows as bytes beyond it.
+TEST_P(HighMemory, ABlockNeeds31BytesMoreUnlessItBeginsAtAMultipleOf32) {
+    if (reinterpret_cast<std::uintptr_t>(memory) < 0x80000000u) GTEST_SKIP() << "no memory above 2 GiB here";
+    const std::size_t remainder = GetParam();
+    for (const std::int32_t length : {2, 32, 64, 1024, 4096}) {
+        std::uint8_t* const block = memory + 4096 + remainder;
+        DctPlan* plan;
+        ASSERT_EQ(zulg::dct4Init<float>(&plan, length, block), StatusOk);
+        const auto end = zulg::arenaCursor(reinterpret_cast<const zulg::PlanArena*>(block));
+        const auto used = static_cast<std::int32_t>(end - reinterpret_cast<std::uintptr_t>(block));
+        EXPECT_LE(used, reportedSize<float>(length) + (remainder == 0 ? 0 : 31)) << length;
+        if (length <= 32 && remainder == 1) {
+            EXPECT_EQ(used, reportedSize<float>(length) + 31) << length;
+        }
+    }
+}
 INSTANTIATE_TEST_SUITE_P(Remainders, HighMemory, testing::Values(0, 1, 2, 16, 31), testing::PrintToStringParamName());
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Every graph: its construction and counts against the tables of requirements, its values against the definition, its
+// Every graph: its construction and counts against the tables of tests/expected, its values against the definition, its
 // emitted text against its counts.
 #include <gtest/gtest.h>
 

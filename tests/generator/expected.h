@@ -1,4 +1,4 @@
-// The tables of required counts, as they stand in tests/expected.
+// The tables of settled counts in tests/expected.
 #pragma once
 
 #include <string>

@@ -5,12 +5,15 @@ differ, since layouts differ in their store addresses alone. These registers are
 another point would change results. On other targets every step rounds to double, wherever it comes in the order, and a
 compiler may choose the order. There each kind of arithmetic must occur equally often.
 
-layouts.py LIBRARY OBJDUMP
+layouts.py LIBRARY OBJDUMP TARGET_FOLDER
 """
 import re
 import sys
 
 from binary import Library
+
+sys.path.insert(0, sys.argv[-1])
+import machine  # of the target
 
 
 def masked(instruction):
@@ -31,7 +34,7 @@ def arithmetic(library, name):
 
 def comparable(library, name):
     instructions = arithmetic(library, name)
-    if library.is_pe:
+    if machine.HAS_WIDE_REGISTERS:
         return instructions
     return sorted(mnemonic for mnemonic, _ in instructions if re.match(r"(add|sub|mul|cvt)", mnemonic))
 

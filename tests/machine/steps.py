@@ -1,6 +1,6 @@
 """Counts the arithmetic of every kernel in the built library's machine code and holds it against the expected tables.
 
-steps.py LIBRARY OBJDUMP EXPECTED_FOLDER
+steps.py LIBRARY OBJDUMP EXPECTED_FOLDER TARGET_FOLDER
 
 Each kernel is reached as a caller reaches it: exported entry, one indirect jump, slot, routine. What is demanded of it:
 additions plus subtractions and multiplications of the table, no packed arithmetic, no call, no backward jump. The
@@ -15,16 +15,11 @@ import sys
 
 from binary import Library
 
-X87_SUMS = re.compile(r"f(add|sub)r?p?[sl]?$")
-X87_PRODUCTS = re.compile(r"fmulp?[sl]?$")
-SSE_SUMS = re.compile(r"v?(add|sub)s[sd]$")
-SSE_PRODUCTS = re.compile(r"v?muls[sd]$")
-FOREIGN = re.compile(  # arithmetic that no kernel may hold
-    r"f(i?div|sqrt|abs|i(add|sub|mul)|chs|sin|cos)|v?(add|sub|mul|div|sqrt|hadd|addsub)p[sd]|v?(div|sqrt)s[sd]"
-    r"|vf?n?m(add|sub)|cmp[a-z]*s[sd]|u?comis[sd]|fu?comi?p?")
+sys.path.insert(0, sys.argv[-1])
+import machine  # of the target
 
 
-# Which cells of a row, counted behind the construction, add up to the sums, and which holds the products.
+# Which cells of a row, counted after the construction, add up to the sums, and which holds the products.
 COLUMNS = {"complex": ((0, 1), 3), "real_forward": ((0,), 1), "real_inverse": ((0,), 1), "hartley": ((0, 1), 2)}
 
 
@@ -48,13 +43,13 @@ def counted(library, instructions, may_negate, granted=(0, 0)):
     for instruction in instructions:
         name = instruction.mnemonic
         since_call = 0 if name.startswith("call") else since_call + 1
-        if X87_SUMS.match(name) or SSE_SUMS.match(name):
+        if machine.SUMS.match(name):
             sums += 1
-        elif X87_PRODUCTS.match(name) or SSE_PRODUCTS.match(name):
+        elif machine.PRODUCTS.match(name):
             products += 1
-        elif may_negate and (name == "fchs" or name in ("xorps", "xorpd")):
+        elif may_negate and name in machine.NEGATIONS:
             continue
-        elif FOREIGN.match(name):
+        elif machine.FOREIGN.match(name):
             faults.append(f"holds {name} {instruction.operands}")
         elif name in ("xorps", "xorpd", "pxor") and len(set(instruction.operands.split(","))) != 1:
             faults.append(f"holds {name} {instruction.operands}")
@@ -74,8 +69,6 @@ def counted(library, instructions, may_negate, granted=(0, 0)):
     return sums, products, faults
 
 
-READS_SINGLE = re.compile(r"f(?:ld|mul)s$|v?cvtss2sd$")
-READS_DOUBLE = re.compile(r"f(?:ld|mul)l$|v?(?:mov|mul)sd$")
 FIXED_PLACE = re.compile(r"0x([0-9a-f]+)$|.*\(%rip\),%xmm\d+\s+# (?:0x)?([0-9a-f]+)")
 
 
@@ -87,7 +80,7 @@ def stored_twos(library, instructions):
         if place is None:
             continue
         address = int(place[1] or place[2], 16)
-        for pattern, layout, width in ((READS_SINGLE, "<f", 32), (READS_DOUBLE, "<d", 64)):
+        for pattern, layout, width in ((machine.READS_SINGLE, "<f", 32), (machine.READS_DOUBLE, "<d", 64)):
             if pattern.match(instruction.mnemonic) and struct.unpack(layout, library.bytes(address, width // 8)) == (2,):
                 widths.add(width)
     return widths
@@ -135,7 +128,7 @@ def wrong_wht(library, rows):
 
 
 def main():
-    path, objdump, folder = sys.argv[1:]
+    path, objdump, folder, _ = sys.argv[1:]
     library = Library(path, objdump)
     tables = {family: expected_rows(folder, family) for _, family in FAMILIES}
     kernels, failures = wrong_wht(library, wht_rows(folder))

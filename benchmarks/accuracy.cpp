@@ -80,7 +80,7 @@ struct Registers {
 #ifdef _WIN32
 constexpr Registers allRegisters[] = {{"extended", false}, {"double", true}};
 #else
-constexpr Registers allRegisters[] = {{"double", false}};
+constexpr Registers allRegisters[] = {{"sse2", false}};
 #endif
 
 struct Flag {

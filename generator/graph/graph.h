@@ -7,6 +7,7 @@
 // other algebra.
 #pragma once
 
+#include <array>
 #include <map>
 #include <span>
 #include <string>
@@ -19,10 +20,20 @@ namespace gen {
 
 class Graph;
 
+// A node and a constant of a graph. They are types of their own, so that they cannot be taken for each other or for an
+// index into some other list.
+enum class NodeId : int {};
+enum class ConstantId : int {};
+
+// The place of a node or a constant in a list that holds one entry for each.
+constexpr std::size_t index(NodeId node) { return static_cast<std::size_t>(node); }
+constexpr std::size_t index(ConstantId constant) { return static_cast<std::size_t>(constant); }
+constexpr int number(NodeId node) { return static_cast<int>(node); }
+
 // What rules pass around while they build a graph: a node, and the sign with which it is used.
 struct Value {
     Graph* graph;
-    int node;
+    NodeId node;
     bool minus;
 };
 
@@ -43,19 +54,53 @@ struct Constant {
     std::string origin;
 };
 
-enum class Kind { Load, Add, Sub, Mul, Product };
+// Scaled: a constant times a. Product: a times b.
+enum class Kind { Load, Add, Sub, Scaled, Product };
 
-// Load: a is the number of the input. Add, Sub, Product: a + b, a - b, a b. Mul: constant number b times node a.
 struct Node {
     Kind kind;
-    int a, b;
-    int title;
+    NodeId a{}, b{};        // what it works on; see `operands`
+    ConstantId constant{};  // of Scaled
+    int input = 0;          // of Load: the number of the input
+    int title = 0;
 };
+
+// The nodes that a node works on: none for a load, one for a scaled node, otherwise two, which may be the same.
+class Operands {
+public:
+    explicit constexpr Operands(const Node& node)
+        : ids{node.a, node.b},
+          count(node.kind == Kind::Load     ? 0
+                : node.kind == Kind::Scaled ? 1
+                                            : 2) {}
+    constexpr const NodeId* begin() const { return ids.data(); }
+    constexpr const NodeId* end() const { return ids.data() + count; }
+
+private:
+    std::array<NodeId, 2> ids;
+    std::size_t count;
+};
+constexpr Operands operands(const Node& node) { return Operands(node); }
 
 struct Output {
     int place;  // the number of the output; not every number need occur
-    int node;
+    NodeId node;
     bool minus;
+};
+
+// A list with one entry for each node of a graph.
+template <class T>
+class PerNode {
+public:
+    PerNode() = default;
+    explicit PerNode(std::size_t nodes, T initial = T{}) : entries(nodes, initial) {}
+    decltype(auto) operator[](NodeId node) { return entries[index(node)]; }
+    decltype(auto) operator[](NodeId node) const { return entries[index(node)]; }
+    void push_back(T entry) { entries.push_back(std::move(entry)); }
+    bool operator==(const PerNode&) const = default;
+
+private:
+    std::vector<T> entries;
 };
 
 struct Counts {
@@ -89,13 +134,16 @@ public:
     void takeBlocksOf(const Graph& other) { titles = other.titles; }
 
     const std::vector<Node>& nodes() const { return allNodes; }
+    const Node& node(NodeId id) const { return allNodes[index(id)]; }
     const std::vector<Constant>& constants() const { return allConstants; }
+    const Constant& constant(ConstantId id) const { return allConstants[index(id)]; }
     const std::vector<Output>& outputs() const { return allOutputs; }
     const std::string& title(int number) const { return titles[static_cast<std::size_t>(number)]; }
     int inputs() const { return inputCount; }
 
-    // For each node, whether an output depends on it.
-    std::vector<bool> alive() const;
+    // The nodes on which an output depends, in their order; and for each node, whether it is one of them.
+    std::vector<NodeId> aliveNodes() const;
+    PerNode<bool> alive() const;
     Counts counts() const;
 
     // The graph with one node to a line, in order of insertion, and as a GraphViz drawing.
@@ -103,16 +151,16 @@ public:
     std::string dot() const;
 
     // Inserts a node of another graph. `copies` holds the values that the other graph's earlier nodes have in this one.
-    Value copy(const Graph& other, const Node& node, const std::vector<Value>& copies);
+    Value copy(const Graph& other, const Node& node, const PerNode<Value>& copies);
 
 private:
-    int insert(Kind kind, int a, int b);
-    int constant(const Coefficient& factor);
+    NodeId insert(const Node& node);
+    ConstantId insert(const Coefficient& factor);
 
     std::vector<Node> allNodes;
-    std::map<std::tuple<Kind, int, int>, int> standing;
+    std::map<std::tuple<Kind, NodeId, NodeId, ConstantId, int>, NodeId> standing;
     std::vector<Constant> allConstants;
-    std::map<double, int> constantByValue;
+    std::map<double, ConstantId> constantByValue;
     std::vector<Output> allOutputs;
     std::vector<std::string> titles{""};
     int currentTitle = 0;
@@ -141,27 +189,23 @@ inline Value operator*(Value a, Value b) { return a.graph->product(a, b); }
 // Interprets the graph: its outputs for these inputs, in the arithmetic of T. A number that no output has gives 0.
 template <class T>
 std::vector<T> evaluate(const Graph& graph, std::span<const T> inputs) {
-    std::vector<T> value;
-    value.reserve(graph.nodes().size());
-    const auto at = [&](int node) -> const T& { return value[static_cast<std::size_t>(node)]; };
+    PerNode<T> value;
     for (const Node& node : graph.nodes()) {
         switch (node.kind) {
-            case Kind::Load: value.push_back(inputs[static_cast<std::size_t>(node.a)]); break;
-            case Kind::Add: value.push_back(at(node.a) + at(node.b)); break;
-            case Kind::Sub: value.push_back(at(node.a) - at(node.b)); break;
-            case Kind::Product: value.push_back(at(node.a) * at(node.b)); break;
-            case Kind::Mul: {
-                const Constant& constant = graph.constants()[static_cast<std::size_t>(node.b)];
-                value.push_back(static_cast<T>(constant.exact) * at(node.a));
+            case Kind::Load: value.push_back(inputs[static_cast<std::size_t>(node.input)]); break;
+            case Kind::Add: value.push_back(value[node.a] + value[node.b]); break;
+            case Kind::Sub: value.push_back(value[node.a] - value[node.b]); break;
+            case Kind::Scaled:
+                value.push_back(static_cast<T>(graph.constant(node.constant).exact) * value[node.a]);
                 break;
-            }
+            case Kind::Product: value.push_back(value[node.a] * value[node.b]); break;
         }
     }
     std::vector<T> result;
     for (const Output& output : graph.outputs()) {
         const auto place = static_cast<std::size_t>(output.place);
         if (result.size() <= place) result.resize(place + 1, T{0});
-        result[place] = output.minus ? T{-at(output.node)} : at(output.node);
+        result[place] = output.minus ? T{-value[output.node]} : value[output.node];
     }
     return result;
 }

@@ -11,67 +11,56 @@ public:
     explicit Pass(const Graph& source) : old(source), uses(countUses(source)), copies(source.nodes().size()) {}
 
     std::pair<std::unique_ptr<Graph>, bool> run() {
-        const std::vector<bool> needed = old.alive();
         fresh->takeBlocksOf(old);
-        for (std::size_t i = 0; i < needed.size(); ++i) {
-            if (!needed[i]) continue;
-            fresh->continueBlock(old.nodes()[i].title);
-            copies[i] = copy(old.nodes()[i]);
+        for (NodeId id : old.aliveNodes()) {
+            fresh->continueBlock(old.node(id).title);
+            copies[id] = copy(old.node(id));
         }
         for (const Output& output : old.outputs()) {
-            const Value value = copyOf(output.node);
+            const Value value = copies[output.node];
             fresh->store(output.place, output.minus ? -value : value);
         }
         return {std::move(fresh), changed};
     }
 
 private:
-    static std::vector<int> countUses(const Graph& graph) {
-        std::vector<int> uses(graph.nodes().size(), 0);
-        const std::vector<bool> needed = graph.alive();
-        for (std::size_t i = 0; i < needed.size(); ++i) {
-            const Node& node = graph.nodes()[i];
-            if (!needed[i] || node.kind == Kind::Load) continue;
-            ++uses[static_cast<std::size_t>(node.a)];
-            if (node.kind != Kind::Mul) ++uses[static_cast<std::size_t>(node.b)];
+    static PerNode<int> countUses(const Graph& graph) {
+        PerNode<int> uses(graph.nodes().size(), 0);
+        for (NodeId id : graph.aliveNodes()) {
+            for (NodeId operand : operands(graph.node(id))) ++uses[operand];
         }
-        for (const Output& output : graph.outputs()) ++uses[static_cast<std::size_t>(output.node)];
+        for (const Output& output : graph.outputs()) ++uses[output.node];
         return uses;
     }
 
-    const Node& node(int number) const { return old.nodes()[static_cast<std::size_t>(number)]; }
-    const Constant& constant(int number) const { return old.constants()[static_cast<std::size_t>(number)]; }
-    Value copyOf(int number) const { return copies[static_cast<std::size_t>(number)]; }
-    bool isLoneProduct(int number) const {
-        return node(number).kind == Kind::Mul && uses[static_cast<std::size_t>(number)] == 1;
-    }
+    bool isLoneProduct(NodeId id) const { return old.node(id).kind == Kind::Scaled && uses[id] == 1; }
 
     // (outer d) * x, where the inner product is d * x.
     Value mergedProduct(const Constant& outer, const Node& inner) {
-        const Constant& factor = constant(inner.b);
-        return Coefficient{outer.exact * factor.exact, outer.origin + " times " + factor.origin} * copyOf(inner.a);
+        const Constant& factor = old.constant(inner.constant);
+        return Coefficient{outer.exact * factor.exact, outer.origin + " times " + factor.origin} * copies[inner.a];
     }
 
     Value copy(const Node& x) {
-        if (x.kind != Kind::Mul) return fresh->copy(old, x, copies);
-        const Constant& outer = constant(x.b);
-        const Node& inner = node(x.a);
+        if (x.kind != Kind::Scaled) return fresh->copy(old, x, copies);
+        const Constant& outer = old.constant(x.constant);
+        const Node& inner = old.node(x.a);
         if (isLoneProduct(x.a)) {
             changed = true;
             return mergedProduct(outer, inner);
         }
         const bool isSum = inner.kind == Kind::Add || inner.kind == Kind::Sub;
-        if (isSum && uses[static_cast<std::size_t>(x.a)] == 1 && isLoneProduct(inner.a) && isLoneProduct(inner.b)) {
+        if (isSum && uses[x.a] == 1 && isLoneProduct(inner.a) && isLoneProduct(inner.b)) {
             changed = true;
-            const Value left = mergedProduct(outer, node(inner.a)), right = mergedProduct(outer, node(inner.b));
+            const Value left = mergedProduct(outer, old.node(inner.a)), right = mergedProduct(outer, old.node(inner.b));
             return inner.kind == Kind::Add ? left + right : left - right;
         }
         return fresh->copy(old, x, copies);
     }
 
     const Graph& old;
-    std::vector<int> uses;
-    std::vector<Value> copies;
+    PerNode<int> uses;
+    PerNode<Value> copies;
     std::unique_ptr<Graph> fresh = std::make_unique<Graph>();
     bool changed = false;
 };

@@ -11,66 +11,60 @@ class Writer {
 public:
     explicit Writer(const Graph& source)
         : graph(source), done(source.nodes().size(), false), outputsOf(source.nodes().size()) {
-        const std::vector<bool> needed = graph.alive();
-        for (std::size_t i = 0; i < needed.size(); ++i)
-            missingLoads += needed[i] && graph.nodes()[i].kind == Kind::Load;
-        for (std::size_t k = 0; k < graph.outputs().size(); ++k) {
-            outputsOf[static_cast<std::size_t>(graph.outputs()[k].node)].push_back(static_cast<int>(k));
-        }
+        for (NodeId id : graph.aliveNodes()) missingLoads += isLoad(id);
+        for (std::size_t k = 0; k < graph.outputs().size(); ++k) outputsOf[graph.outputs()[k].node].push_back(k);
     }
 
-    void operation(int number) {
-        const Node& node = graph.nodes()[static_cast<std::size_t>(number)];
-        loadIfNeeded(node.a);
-        if (node.kind != Kind::Mul) loadIfNeeded(node.b);
-        schedule.steps.push_back({Step::Kind::Operation, number});
-        finish(number);
-    }
-
-    // Writes the step of this node if it is a load that is not written yet, and does nothing otherwise. It is
-    // called for the operands of each operation, and for the outputs, since a load that is an output need not be an
-    // operand.
-    void loadIfNeeded(int number) {
-        if (graph.nodes()[static_cast<std::size_t>(number)].kind != Kind::Load ||
-            done[static_cast<std::size_t>(number)]) {
-            return;
-        }
-        schedule.steps.push_back({Step::Kind::Load, number});
-        --missingLoads;
-        finish(number);
+    // Writes nothing for a load: see loadIfNeeded.
+    void operation(NodeId id) {
+        if (isLoad(id)) return;
+        for (NodeId operand : operands(graph.node(id))) loadIfNeeded(operand);
+        schedule.steps.push_back({Step::Kind::Operation, id});
+        finish(id);
     }
 
     Schedule take() {
+        for (const Output& output : graph.outputs()) loadIfNeeded(output.node);
         schedule.mostAlive = mostAlive();
         return std::move(schedule);
     }
 
 private:
-    void finish(int number) {
-        done[static_cast<std::size_t>(number)] = true;
-        for (int k : outputsOf[static_cast<std::size_t>(number)]) waiting.push_back(k);
+    bool isLoad(NodeId id) const { return graph.node(id).kind == Kind::Load; }
+
+    // Writes the step of this node if it is a load that is not written yet, and does nothing otherwise. It is
+    // called for the operands of each operation, and for the outputs, since a load that is an output need not be an
+    // operand.
+    void loadIfNeeded(NodeId id) {
+        if (!isLoad(id) || done[id]) return;
+        schedule.steps.push_back({Step::Kind::Load, id});
+        --missingLoads;
+        finish(id);
+    }
+
+    void finish(NodeId id) {
+        done[id] = true;
+        for (std::size_t k : outputsOf[id]) waiting.push_back(k);
         if (missingLoads > 0) return;
-        for (int k : waiting) schedule.steps.push_back({Step::Kind::Store, k});
+        for (std::size_t k : waiting) schedule.steps.push_back({Step::Kind::Store, graph.outputs()[k].node, k});
         waiting.clear();
     }
 
     int mostAlive() const {
-        std::vector<int> usesLeft(graph.nodes().size(), 0);
-        const auto operands = [&](const Step& step, auto&& visit) {
+        PerNode<int> usesLeft(graph.nodes().size(), 0);
+        const auto uses = [&](const Step& step, auto&& visit) {
             if (step.kind == Step::Kind::Store) {
-                visit(graph.outputs()[static_cast<std::size_t>(step.number)].node);
-            } else if (step.kind == Step::Kind::Operation) {
-                const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
-                visit(node.a);
-                if (node.kind != Kind::Mul) visit(node.b);
+                visit(step.node);
+            } else {
+                for (NodeId operand : operands(graph.node(step.node))) visit(operand);
             }
         };
         for (const Step& step : schedule.steps) {
-            operands(step, [&](int node) { ++usesLeft[static_cast<std::size_t>(node)]; });
+            uses(step, [&](NodeId id) { ++usesLeft[id]; });
         }
         int alive = 0, most = 0;
         for (const Step& step : schedule.steps) {
-            operands(step, [&](int node) { alive -= --usesLeft[static_cast<std::size_t>(node)] == 0; });
+            uses(step, [&](NodeId id) { alive -= --usesLeft[id] == 0; });
             alive += step.kind != Step::Kind::Store;
             most = std::max(most, alive);
         }
@@ -78,9 +72,9 @@ private:
     }
 
     const Graph& graph;
-    std::vector<bool> done;
-    std::vector<std::vector<int>> outputsOf;
-    std::vector<int> waiting;
+    PerNode<bool> done;
+    PerNode<std::vector<std::size_t>> outputsOf;
+    std::vector<std::size_t> waiting;
     int missingLoads = 0;
     Schedule schedule;
 };
@@ -88,38 +82,26 @@ private:
 // The nodes of a graph, loads included, in the order of recursive bisection.
 class Bisection {
 public:
-    explicit Bisection(const Graph& source) : graph(source), part(source.nodes().size(), -1) {
-        const std::vector<bool> needed = graph.alive();
-        consumers.resize(needed.size());
-        std::vector<int> all;
-        for (std::size_t i = 0; i < needed.size(); ++i) {
-            if (!needed[i]) continue;
-            all.push_back(static_cast<int>(i));
-            for (int operand : operandsOf(static_cast<int>(i))) {
-                consumers[static_cast<std::size_t>(operand)].push_back(static_cast<int>(i));
-            }
+    explicit Bisection(const Graph& source)
+        : graph(source), consumers(source.nodes().size()), part(source.nodes().size(), -1) {
+        const std::vector<NodeId> all = graph.aliveNodes();
+        for (NodeId id : all) {
+            for (NodeId operand : operands(graph.node(id))) consumers[operand].push_back(id);
         }
         cut(all);
     }
 
-    std::vector<int> order;
+    std::vector<NodeId> order;
 
 private:
-    std::vector<int> operandsOf(int number) const {
-        const Node& node = graph.nodes()[static_cast<std::size_t>(number)];
-        if (node.kind == Kind::Load) return {};
-        if (node.kind == Kind::Mul || node.a == node.b) return {node.a};
-        return {node.a, node.b};
-    }
-
-    bool isIn(int number, int label) const { return part[static_cast<std::size_t>(number)] == label; }
+    bool isIn(NodeId id, int label) const { return part[id] == label; }
 
     // Appends these nodes to the order. Their numbers rise.
-    void cut(const std::vector<int>& nodes) {
+    void cut(const std::vector<NodeId>& nodes) {
         if (nodes.size() == 1) return order.push_back(nodes[0]);
-        const std::vector<std::vector<int>> components = componentsOf(nodes);
+        const std::vector<std::vector<NodeId>> components = componentsOf(nodes);
         if (components.size() > 1) {
-            for (const std::vector<int>& component : components) cut(component);
+            for (const std::vector<NodeId>& component : components) cut(component);
             return;
         }
         const auto [early, late] = halvesOf(nodes);
@@ -127,23 +109,23 @@ private:
         cut(late);
     }
 
-    std::vector<std::vector<int>> componentsOf(const std::vector<int>& nodes) {
+    std::vector<std::vector<NodeId>> componentsOf(const std::vector<NodeId>& nodes) {
         const int here = ++labels;
-        for (int node : nodes) part[static_cast<std::size_t>(node)] = here;
-        std::vector<std::vector<int>> components;
-        for (int node : nodes) {
-            if (!isIn(node, here)) continue;
+        for (NodeId id : nodes) part[id] = here;
+        std::vector<std::vector<NodeId>> components;
+        for (NodeId id : nodes) {
+            if (!isIn(id, here)) continue;
             const int label = ++labels;
-            std::vector<int> component{node};
-            part[static_cast<std::size_t>(node)] = label;
+            std::vector<NodeId> component{id};
+            part[id] = label;
             for (std::size_t i = 0; i < component.size(); ++i) {
-                const auto visit = [&](int next) {
+                const auto visit = [&](NodeId next) {
                     if (!isIn(next, here)) return;
-                    part[static_cast<std::size_t>(next)] = label;
+                    part[next] = label;
                     component.push_back(next);
                 };
-                for (int operand : operandsOf(component[i])) visit(operand);
-                for (int consumer : consumers[static_cast<std::size_t>(component[i])]) visit(consumer);
+                for (NodeId operand : operands(graph.node(component[i]))) visit(operand);
+                for (NodeId consumer : consumers[component[i]]) visit(consumer);
             }
             std::ranges::sort(component);
             components.push_back(std::move(component));
@@ -153,57 +135,48 @@ private:
 
     // The early half and the late half of connected nodes. Layers are taken alternately from the inputs and from the
     // outputs until no node is left.
-    std::pair<std::vector<int>, std::vector<int>> halvesOf(const std::vector<int>& nodes) {
+    std::pair<std::vector<NodeId>, std::vector<NodeId>> halvesOf(const std::vector<NodeId>& nodes) {
         const int open = ++labels, early = ++labels, late = ++labels;
-        for (int node : nodes) part[static_cast<std::size_t>(node)] = open;
+        for (NodeId id : nodes) part[id] = open;
         std::size_t left = nodes.size();
         const auto takeLayer = [&](int label, auto&& isReady) {
-            std::vector<int> layer;
-            for (int node : nodes) {
-                if (isIn(node, open) && isReady(node)) layer.push_back(node);
+            std::vector<NodeId> layer;
+            for (NodeId id : nodes) {
+                if (isIn(id, open) && isReady(id)) layer.push_back(id);
             }
-            for (int node : layer) part[static_cast<std::size_t>(node)] = label;
+            for (NodeId id : layer) part[id] = label;
             left -= layer.size();
         };
         while (left > 0) {
-            takeLayer(early, [&](int node) {
-                return std::ranges::none_of(operandsOf(node), [&](int x) { return isIn(x, open) || isIn(x, late); });
+            takeLayer(early, [&](NodeId id) {
+                return std::ranges::none_of(operands(graph.node(id)),
+                                            [&](NodeId x) { return isIn(x, open) || isIn(x, late); });
             });
-            takeLayer(late, [&](int node) {
-                return std::ranges::none_of(consumers[static_cast<std::size_t>(node)],
-                                            [&](int x) { return isIn(x, open) || isIn(x, early); });
+            takeLayer(late, [&](NodeId id) {
+                return std::ranges::none_of(consumers[id], [&](NodeId x) { return isIn(x, open) || isIn(x, early); });
             });
         }
-        std::pair<std::vector<int>, std::vector<int>> halves;
-        for (int node : nodes) (isIn(node, early) ? halves.first : halves.second).push_back(node);
+        std::pair<std::vector<NodeId>, std::vector<NodeId>> halves;
+        for (NodeId id : nodes) (isIn(id, early) ? halves.first : halves.second).push_back(id);
         return halves;
     }
 
     const Graph& graph;
-    std::vector<std::vector<int>> consumers;
-    std::vector<int> part;  // for each node, the label of the set it was put into last
+    PerNode<std::vector<NodeId>> consumers;
+    PerNode<int> part;  // for each node, the label of the set it was put into last
     int labels = 0;
 };
 
+Schedule inOrder(const Graph& graph, const std::vector<NodeId>& nodes) {
+    Writer writer(graph);
+    for (NodeId id : nodes) writer.operation(id);
+    return writer.take();
+}
+
 }  // namespace
 
-Schedule byBisection(const Graph& graph) {
-    Writer writer(graph);
-    for (int number : Bisection(graph).order) {
-        if (graph.nodes()[static_cast<std::size_t>(number)].kind != Kind::Load) writer.operation(number);
-    }
-    for (const Output& output : graph.outputs()) writer.loadIfNeeded(output.node);
-    return writer.take();
-}
+Schedule byBisection(const Graph& graph) { return inOrder(graph, Bisection(graph).order); }
 
-Schedule blockByBlock(const Graph& graph) {
-    Writer writer(graph);
-    const std::vector<bool> needed = graph.alive();
-    for (std::size_t i = 0; i < needed.size(); ++i) {
-        if (needed[i] && graph.nodes()[i].kind != Kind::Load) writer.operation(static_cast<int>(i));
-    }
-    for (const Output& output : graph.outputs()) writer.loadIfNeeded(output.node);
-    return writer.take();
-}
+Schedule blockByBlock(const Graph& graph) { return inOrder(graph, graph.aliveNodes()); }
 
 }  // namespace gen

@@ -13,7 +13,8 @@ namespace gen {
 struct Step {
     enum class Kind { Load, Operation, Store };
     Kind kind;
-    int number;  // of the node, or for a store of the output
+    NodeId node;             // what is loaded, computed or stored
+    std::size_t output = 0;  // of a store: which entry of the list of outputs
 };
 
 struct Schedule {

@@ -5,20 +5,20 @@
 
 namespace gen {
 
-std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<int>& nodes) {
+std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<NodeId>& nodes) {
     if (nodes.empty()) return graph;
     auto fresh = std::make_unique<Graph>();
     fresh->takeBlocksOf(*graph);
-    std::vector<Value> copies;
-    const auto copyOf = [&](int number) { return copies[static_cast<std::size_t>(number)]; };
-    for (const Node& node : graph->nodes()) {
-        const bool turns = std::ranges::find(nodes, static_cast<int>(copies.size())) != nodes.end();
+    PerNode<Value> copies;
+    for (std::size_t i = 0; i < graph->nodes().size(); ++i) {
+        const Node& node = graph->node(NodeId(i));
+        const bool turns = std::ranges::find(nodes, NodeId(i)) != nodes.end();
         if (turns && node.kind != Kind::Sub) throw std::logic_error("only a difference can be reversed");
         fresh->continueBlock(node.title);
-        copies.push_back(turns ? -(copyOf(node.b) - copyOf(node.a)) : fresh->copy(*graph, node, copies));
+        copies.push_back(turns ? -(copies[node.b] - copies[node.a]) : fresh->copy(*graph, node, copies));
     }
     for (const Output& output : graph->outputs()) {
-        fresh->store(output.place, output.minus ? -copyOf(output.node) : copyOf(output.node));
+        fresh->store(output.place, output.minus ? -copies[output.node] : copies[output.node]);
     }
     return fresh;
 }

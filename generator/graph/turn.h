@@ -9,7 +9,7 @@
 
 namespace gen {
 
-// `nodes` are the numbers of nodes of this graph, all of them differences.
-std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<int>& nodes);
+// `nodes` are nodes of this graph, all of them differences.
+std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<NodeId>& nodes);
 
 }  // namespace gen

@@ -50,7 +50,9 @@ std::unique_ptr<Graph> buildRealForward(int length) {
         graph->store(2 * k, bins.real(k));
         if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
     }
-    return turned(merged(std::move(graph)), realForwardTurns(length));
+    std::vector<NodeId> turns;
+    for (int number : realForwardTurns(length)) turns.push_back(NodeId(number));
+    return turned(merged(std::move(graph)), turns);
 }
 
 // Each interior bin stands for itself and its conjugate, so that its parts are doubled first.

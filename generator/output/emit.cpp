@@ -27,45 +27,46 @@ class Names {
 public:
     Names(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
         int operations = 0;
-        std::map<int, int> uses;
+        std::map<ConstantId, int> uses;
         for (const Step& step : schedule.steps) {
             if (step.kind == Step::Kind::Store) continue;
-            const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
+            const Node& node = graph.node(step.node);
             if (node.kind == Kind::Load) {
-                values[step.number] = entry.family->input(entry.length, node.a).value;
+                values[step.node] = entry.family->input(entry.length, node.input).value;
             } else {
-                values[step.number] = "t" + to_string(operations++);
+                values[step.node] = "t" + to_string(operations++);
             }
-            if (node.kind != Kind::Mul) continue;
-            if (!entry.family->isBody() && graph.constants()[static_cast<std::size_t>(node.b)].stored == 2) {
-                constants.emplace(node.b, "two");
+            if (node.kind != Kind::Scaled) continue;
+            if (!entry.family->isBody() && graph.constant(node.constant).stored == 2) {
+                constants.emplace(node.constant, "two");
                 usesTwo = true;
-            } else if (uses[node.b]++ == 0) {
-                constantOrder.push_back(node.b);
+            } else if (uses[node.constant]++ == 0) {
+                constantOrder.push_back(node.constant);
             }
         }
-        std::ranges::stable_sort(constantOrder, std::greater(), [&](int number) { return uses[number]; });
+        std::ranges::stable_sort(constantOrder, std::greater(), [&](ConstantId id) { return uses[id]; });
         for (std::size_t i = 0; i < constantOrder.size(); ++i) {
             constants.emplace(constantOrder[i], "c[" + to_string(i) + "]");
         }
     }
 
-    const std::string& value(int node) const { return values.at(node); }
-    const std::string& constant(int number) const { return constants.at(number); }
-    const std::vector<int>& constantsInOrder() const { return constantOrder; }
+    const std::string& value(NodeId node) const { return values.at(node); }
+    const std::string& constant(ConstantId id) const { return constants.at(id); }
+    const std::vector<ConstantId>& constantsInOrder() const { return constantOrder; }
     bool hasTwo() const { return usesTwo; }
 
 private:
     bool usesTwo = false;
-    std::map<int, std::string> values, constants;
-    std::vector<int> constantOrder;
+    std::map<NodeId, std::string> values;
+    std::map<ConstantId, std::string> constants;
+    std::vector<ConstantId> constantOrder;
 };
 
 std::string operationText(const Node& node, const Names& names) {
     switch (node.kind) {
         case Kind::Add: return names.value(node.a) + " + " + names.value(node.b);
         case Kind::Sub: return names.value(node.a) + " - " + names.value(node.b);
-        case Kind::Mul: return names.constant(node.b) + " * " + names.value(node.a);
+        case Kind::Scaled: return names.constant(node.constant) + " * " + names.value(node.a);
         case Kind::Product: return names.value(node.a) + " * " + names.value(node.b);
         case Kind::Load: break;
     }
@@ -110,10 +111,10 @@ std::string factsText(const GraphEntry& entry, const Graph& graph, const Names& 
     }
     if (!names.constantsInOrder().empty()) {
         text += "    static constexpr double constants[] = {\n";
-        for (int number : names.constantsInOrder()) {
-            const Constant& constant = graph.constants()[static_cast<std::size_t>(number)];
-            text += "        " + literal(constant.stored) + ",  // " + names.constant(number) + ": " + constant.origin +
-                    "\n";
+        for (ConstantId id : names.constantsInOrder()) {
+            const Constant& constant = graph.constant(id);
+            text +=
+                "        " + literal(constant.stored) + ",  // " + names.constant(id) + ": " + constant.origin + "\n";
         }
         text += "    };\n";
     }
@@ -124,7 +125,7 @@ std::string factsText(const GraphEntry& entry, const Graph& graph, const Names& 
 int titleAt(const Graph& graph, const std::vector<Step>& steps, std::size_t i) {
     while (i < steps.size() && steps[i].kind == Step::Kind::Load) ++i;
     if (i == steps.size() || steps[i].kind == Step::Kind::Store) return -1;
-    return graph.nodes()[static_cast<std::size_t>(steps[i].number)].title;
+    return graph.node(steps[i].node).title;
 }
 
 std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedule& schedule, const Names& names) {
@@ -138,15 +139,15 @@ std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedul
         }
         text += "        ";
         if (step.kind == Step::Kind::Store) {
-            const Output& output = graph.outputs()[static_cast<std::size_t>(step.number)];
+            const Output& output = graph.outputs()[step.output];
             if (output.minus && !entry.family->allowsNegation) {
                 throw std::logic_error(entry.name() + ": output " + to_string(output.place) + " is left with a minus");
             }
             text += storeText(entry.family->output(entry.length, output.place), output.minus, names.value(output.node));
         } else {
-            const Node& node = graph.nodes()[static_cast<std::size_t>(step.number)];
-            text += "const V " + names.value(step.number) + " = " +
-                    (step.kind == Step::Kind::Load ? loadText(entry.family->input(entry.length, node.a))
+            const Node& node = graph.node(step.node);
+            text += "const V " + names.value(step.node) + " = " +
+                    (step.kind == Step::Kind::Load ? loadText(entry.family->input(entry.length, node.input))
                                                    : operationText(node, names)) +
                     ";";
         }

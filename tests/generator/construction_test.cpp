@@ -172,12 +172,10 @@ INSTANTIATE_TEST_SUITE_P(All, Construction, testing::ValuesIn(kernelGraphs()),
 // The constants that the steps of a graph use.
 std::set<double> constantsOf(const std::string& family, int length) {
     const auto graph = graphOf(family, length).build();
-    const std::vector<bool> needed = graph->alive();
     std::set<double> constants;
-    for (std::size_t i = 0; i < needed.size(); ++i) {
-        const gen::Node& node = graph->nodes()[i];
-        if (!needed[i] || node.kind != gen::Kind::Mul) continue;
-        constants.insert(graph->constants()[static_cast<std::size_t>(node.b)].stored);
+    for (gen::NodeId id : graph->aliveNodes()) {
+        const gen::Node& node = graph->node(id);
+        if (node.kind == gen::Kind::Scaled) constants.insert(graph->constant(node.constant).stored);
     }
     return constants;
 }
@@ -296,14 +294,12 @@ TEST(Rader, ARotatedBlockHoldsOtherConstants) {
 // Pairs of values a, b of which a graph holds both R (a + b) and R (a - b) or R (b - a), with R = sqrt(1/2).
 int pairsAddedFirst(const std::string& family, int length) {
     const auto graph = graphOf(family, length).build();
-    const std::vector<bool> needed = graph->alive();
     const double root = gen::nearest(gen::cosTurn(1, 8));
-    std::set<std::pair<int, int>> sums, differences;
-    for (std::size_t i = 0; i < needed.size(); ++i) {
-        const gen::Node& node = graph->nodes()[i];
-        if (!needed[i] || node.kind != gen::Kind::Mul) continue;
-        if (graph->constants()[static_cast<std::size_t>(node.b)].stored != root) continue;
-        const gen::Node& factor = graph->nodes()[static_cast<std::size_t>(node.a)];
+    std::set<std::pair<gen::NodeId, gen::NodeId>> sums, differences;
+    for (gen::NodeId id : graph->aliveNodes()) {
+        const gen::Node& node = graph->node(id);
+        if (node.kind != gen::Kind::Scaled || graph->constant(node.constant).stored != root) continue;
+        const gen::Node& factor = graph->node(node.a);
         if (factor.kind == gen::Kind::Add) sums.insert(std::minmax(factor.a, factor.b));
         if (factor.kind == gen::Kind::Sub) differences.insert(std::minmax(factor.a, factor.b));
     }

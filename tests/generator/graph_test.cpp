@@ -17,7 +17,7 @@ protected:
     const Coefficient half{Exact(0.5), "half"}, minusHalf{Exact(-0.5), "half"};
 
     void expectNode(Value value, Kind kind, Value left, Value right, bool minus) {
-        const Node& node = graph.nodes()[static_cast<std::size_t>(value.node)];
+        const Node& node = graph.node(value.node);
         EXPECT_EQ(node.kind, kind);
         EXPECT_EQ(node.a, left.node);
         EXPECT_EQ(node.b, right.node);
@@ -53,6 +53,18 @@ TEST_F(GraphTest, EqualStepsAreOneNode) {
 }
 
 TEST_F(GraphTest, AProductWithZeroIsRefused) { EXPECT_THROW((Coefficient{Exact(0), "zero"} * a), std::logic_error); }
+
+TEST_F(GraphTest, ANodeTellsWhatItWorksOn) {
+    const auto operandsOf = [&](Value x) {
+        const Operands found = operands(graph.node(x.node));
+        return std::vector<NodeId>(found.begin(), found.end());
+    };
+    EXPECT_EQ(operandsOf(a), std::vector<NodeId>{});
+    EXPECT_EQ(operandsOf(half * a), std::vector{a.node});
+    EXPECT_EQ(operandsOf(b - a), (std::vector{b.node, a.node}));
+    EXPECT_EQ(operandsOf(a + a), (std::vector{a.node, a.node}));
+    EXPECT_EQ(operandsOf(a * b), (std::vector{a.node, b.node}));
+}
 
 TEST_F(GraphTest, CountsWhatTheOutputsNeedAndNothingElse) {
     const Value used = half * (a + b);

@@ -12,30 +12,26 @@ using namespace gen;
 
 class ScheduleTest : public testing::TestWithParam<GraphEntry> {};
 
-// Every needed load and operation once, operands first; every store once, behind its value and behind the last load.
+// Every needed load and operation once, operands first; every store once, after its value and after the last load.
 void expectPossible(const Graph& graph, const Schedule& schedule) {
-    std::vector<bool> done(graph.nodes().size(), false), stored(graph.outputs().size(), false);
-    const auto isDone = [&](int node) { return done[static_cast<std::size_t>(node)]; };
+    PerNode<bool> done(graph.nodes().size(), false);
+    std::vector<bool> stored(graph.outputs().size(), false);
     bool storing = false;
     for (const Step& step : schedule.steps) {
-        const auto number = static_cast<std::size_t>(step.number);
         if (step.kind == Step::Kind::Store) {
             storing = true;
-            EXPECT_TRUE(isDone(graph.outputs()[number].node));
-            EXPECT_FALSE(stored[number]);
-            stored[number] = true;
+            EXPECT_EQ(step.node, graph.outputs()[step.output].node);
+            EXPECT_TRUE(done[step.node]);
+            EXPECT_FALSE(stored[step.output]);
+            stored[step.output] = true;
             continue;
         }
-        const Node& node = graph.nodes()[number];
-        EXPECT_FALSE(done[number]);
-        done[number] = true;
-        EXPECT_EQ(step.kind == Step::Kind::Load, node.kind == Kind::Load);
-        if (node.kind == Kind::Load) {
-            EXPECT_FALSE(storing) << "a load behind a store";
-        } else {
-            EXPECT_TRUE(isDone(node.a));
-            EXPECT_TRUE(node.kind == Kind::Mul || isDone(node.b));
-        }
+        const bool isLoad = graph.node(step.node).kind == Kind::Load;
+        EXPECT_FALSE(done[step.node]);
+        done[step.node] = true;
+        EXPECT_EQ(step.kind == Step::Kind::Load, isLoad);
+        EXPECT_FALSE(isLoad && storing) << "a load after a store";
+        for (NodeId operand : operands(graph.node(step.node))) EXPECT_TRUE(done[operand]);
     }
     EXPECT_EQ(done, graph.alive());
     EXPECT_EQ(stored, std::vector<bool>(stored.size(), true));
@@ -64,14 +60,14 @@ TEST(Schedule, CountsTheValuesThatWait) {
 TEST(Schedule, BisectionTakesPartsThatDoNotTouchOneAfterTheOther) {
     Graph graph;
     const Value a = graph.load(0), b = graph.load(1), c = graph.load(2), d = graph.load(3);
-    const Value ab = a + b, cd = c + d;
-    graph.store(0, ab + a);
-    graph.store(1, cd + c);
-    std::vector<int> operations;
+    const Value ab = a + b, cd = c + d, aba = ab + a, cdc = cd + c;
+    graph.store(0, aba);
+    graph.store(1, cdc);
+    std::vector<NodeId> operations;
     for (const Step& step : byBisection(graph).steps) {
-        if (step.kind == Step::Kind::Operation) operations.push_back(step.number);
+        if (step.kind == Step::Kind::Operation) operations.push_back(step.node);
     }
-    EXPECT_EQ(operations, (std::vector{ab.node, ab.node + 2, cd.node, cd.node + 2}));
+    EXPECT_EQ(operations, (std::vector{ab.node, aba.node, cd.node, cdc.node}));
 }
 
 // Eight products, then a tree of their sums: early and late half of the tree, and so few values wait.

@@ -2,116 +2,12 @@
 
 #include <algorithm>
 
-#include "graph/merge.h"
-#include "graph/turn.h"
-#include "rules/blocks.h"
-#include "rules/dct4_bodies.h"
-#include "rules/hartley.h"
+#include "output/recipe_words.h"
 #include "rules/tables.h"
-#include "rules/wht.h"
+#include "rules/transforms.h"
 
 namespace gen {
 namespace {
-
-// Loads `count` numbers, beginning with input number `first`.
-RealSignal loadReals(Graph& graph, int first, int count) {
-    RealSignal x;
-    for (int n = 0; n < count; ++n) x.push_back(graph.load(first + n));
-    return x;
-}
-
-Signal loadPairs(Graph& graph, int first, int count) {
-    Signal x;
-    for (int n = 0; n < count; ++n) x.push_back({graph.load(first + 2 * n), graph.load(first + 2 * n + 1)});
-    return x;
-}
-
-void storeReals(Graph& graph, const RealSignal& y) {
-    for (std::size_t k = 0; k < y.size(); ++k) graph.store(static_cast<int>(k), y[k]);
-}
-
-void storePairs(Graph& graph, const Signal& y) {
-    for (std::size_t k = 0; k < y.size(); ++k) {
-        graph.store(static_cast<int>(2 * k), graph.withoutMinus(y[k].re));
-        graph.store(static_cast<int>(2 * k + 1), graph.withoutMinus(y[k].im));
-    }
-}
-
-std::unique_ptr<Graph> buildComplex(int length) {
-    auto graph = std::make_unique<Graph>();
-    storePairs(*graph, complexBlock(loadPairs(*graph, 0, length), 1));
-    return merged(std::move(graph));
-}
-
-std::unique_ptr<Graph> buildRealForward(int length) {
-    auto graph = std::make_unique<Graph>();
-    const HalfSpectrum bins = realBlock(loadReals(*graph, 0, length), 1);
-    for (int k = 0; k <= bins.half(); ++k) {
-        graph->store(2 * k, bins.real(k));
-        if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
-    }
-    std::vector<NodeId> turns;
-    for (int number : realForwardTurns(length)) turns.push_back(NodeId(number));
-    return turned(merged(std::move(graph)), turns);
-}
-
-// Each interior bin stands for itself and its conjugate, so that its parts are doubled first.
-std::unique_ptr<Graph> buildRealInverse(int length) {
-    auto graph = std::make_unique<Graph>();
-    const Titled title(*graph, "doubled bins");
-    const Coefficient two{2, "2"};
-    HalfSpectrum bins(length);
-    for (int k = 0; k <= bins.half(); ++k) {
-        if (bins.isReal(k)) {
-            bins.setReal(k, graph->load(2 * k));
-        } else {
-            bins.set(k, {two * graph->load(2 * k), two * graph->load(2 * k + 1)});
-        }
-    }
-    storeReals(*graph, spectrumBlock(bins, 1));
-    return merged(std::move(graph));
-}
-
-std::unique_ptr<Graph> buildHartley(int length) {
-    auto graph = std::make_unique<Graph>();
-    storeReals(*graph, hartley(loadReals(*graph, 0, length)));
-    return merged(std::move(graph));
-}
-
-std::unique_ptr<Graph> buildWht(int length) {
-    auto graph = std::make_unique<Graph>();
-    storeReals(*graph, walshHadamard(loadReals(*graph, 0, length)));
-    return graph;
-}
-
-std::unique_ptr<Graph> buildDct4Fold(int length) {
-    auto graph = std::make_unique<Graph>();
-    storePairs(*graph, dct4Fold(loadReals(*graph, 0, length)));
-    return graph;
-}
-
-std::unique_ptr<Graph> buildDct4Output(int radix) {
-    auto graph = std::make_unique<Graph>();
-    const Signal z = loadPairs(*graph, 0, radix);
-    storeReals(*graph, dct4Output(z, loadPairs(*graph, 2 * radix, radix)));
-    return graph;
-}
-
-// How many twiddles a row of a combine pass has.
-int combineTwiddles(int radix) { return radix > 8 ? radix / 4 - 1 + radix / 4 * 3 : radix - 1; }
-
-std::unique_ptr<Graph> buildDct4Combine(int radix) {
-    auto graph = std::make_unique<Graph>();
-    const Signal d = loadPairs(*graph, 0, radix);
-    storePairs(*graph, dct4Combine(d, loadPairs(*graph, 2 * radix, combineTwiddles(radix))));
-    return graph;
-}
-
-std::unique_ptr<Graph> buildDct4Direct(int length) {
-    auto graph = std::make_unique<Graph>();
-    storeReals(*graph, dct4Direct(loadReals(*graph, 0, length)));
-    return graph;
-}
 
 // The port of a real number, and that of a part of a complex number: even indices are real parts, odd ones imaginary.
 Port realPort(const std::string& port, int index) { return {"x" + std::to_string(index), port, index}; }
@@ -137,8 +33,9 @@ Port outputRowOutput(int radix, int index) {
 }
 Port combineRowInput(int radix, int index) {
     if (index < 2 * radix) return complexPort(index);
-    const int entry = index - 2 * radix, innerEntries = 2 * (radix / 4 - 1);
-    if (radix <= 8) return tablePort("table", "w", entry);
+    const CombineTable table = combineTable(radix);
+    const int entry = index - 2 * radix, innerEntries = 2 * table.inner;
+    if (table.outer == 0) return tablePort("table", "w", entry);
     return entry < innerEntries ? tablePort("inner", "w", entry) : tablePort("outer", "u", entry - innerEntries);
 }
 
@@ -167,8 +64,8 @@ const std::vector<GraphFamily> families = {
      .output = complexPlace,
      .allowsNegation = false,
      .lengths = everyLength,
-     .recipe = [](int length) { return complexText(complexRecipe(length)); },
-     .build = buildComplex},
+     .recipe = [](int length) { return complexWords(complexRecipe(length)); },
+     .build = complexTransform},
     {.word = "real_forward",
      .graphTemplate = "RealForwardGraph",
      .folder = "kernels/real_forward",
@@ -181,8 +78,8 @@ const std::vector<GraphFamily> families = {
      .output = complexPlace,
      .allowsNegation = true,
      .lengths = everyLength,
-     .recipe = [](int length) { return realText(realForwardRecipe(length)); },
-     .build = buildRealForward},
+     .recipe = [](int length) { return realWords(realForwardRecipe(length)); },
+     .build = realForwardTransform},
     {.word = "real_inverse",
      .graphTemplate = "RealInverseGraph",
      .folder = "kernels/real_inverse",
@@ -195,8 +92,8 @@ const std::vector<GraphFamily> families = {
      .output = realOutput,
      .allowsNegation = false,
      .lengths = everyLength,
-     .recipe = [](int length) { return realText(realInverseRecipe(length)); },
-     .build = buildRealInverse},
+     .recipe = [](int length) { return realWords(realInverseRecipe(length)); },
+     .build = realInverseTransform},
     {.word = "hartley",
      .graphTemplate = "HartleyGraph",
      .folder = "kernels/hartley",
@@ -209,8 +106,8 @@ const std::vector<GraphFamily> families = {
      .output = realOutput,
      .allowsNegation = false,
      .lengths = everyLength,
-     .recipe = [](int length) { return "form " + hartleyText(length); },
-     .build = buildHartley},
+     .recipe = [](int length) { return hartleyWords(length); },
+     .build = hartleyTransform},
     {.word = "wht",
      .graphTemplate = "WhtBlock",
      .folder = "wht/bodies",
@@ -224,7 +121,7 @@ const std::vector<GraphFamily> families = {
      .allowsNegation = false,
      .lengths = [] { return powersOfTwo(2, 128); },
      .recipe = [](int) { return std::string("stages in rising stride"); },
-     .build = buildWht},
+     .build = walshHadamardTransform},
     {.word = "dct4_fold",
      .graphTemplate = "Dct4Fold",
      .folder = "dct4/bodies",
@@ -238,7 +135,7 @@ const std::vector<GraphFamily> families = {
      .allowsNegation = true,  // at length 2 the second output is an input with its sign changed
      .lengths = [] { return powersOfTwo(2, 64); },
      .recipe = [](int) { return std::string("decimation in time"); },
-     .build = buildDct4Fold},
+     .build = dct4FoldTransform},
     {.word = "dct4_output",
      .graphTemplate = "Dct4Output",
      .folder = "dct4/bodies",
@@ -252,7 +149,7 @@ const std::vector<GraphFamily> families = {
      .allowsNegation = false,
      .lengths = [] { return powersOfTwo(1, 32); },
      .recipe = [](int) { return std::string("rotations by the table, then a mirrored skew transform"); },
-     .build = buildDct4Output},
+     .build = dct4OutputRow},
     {.word = "dct4_combine",
      .graphTemplate = "Dct4Combine",
      .folder = "dct4/bodies",
@@ -267,10 +164,10 @@ const std::vector<GraphFamily> families = {
      .lengths = [] { return powersOfTwo(2, 32); },
      .recipe =
          [](int radix) {
-             if (radix <= 8) return std::string("rotations by the table, then a DFT");
+             if (combineTable(radix).outer == 0) return std::string("rotations by the table, then a DFT");
              return "rotations and DFTs of " + std::to_string(radix / 4) + ", then of 4";
          },
-     .build = buildDct4Combine},
+     .build = dct4CombineRow},
     {.word = "dct4_direct",
      .graphTemplate = "Dct4Direct",
      .folder = "dct4/bodies",
@@ -287,7 +184,7 @@ const std::vector<GraphFamily> families = {
          [](int length) {
              return std::string(length == 2 ? "one rotation" : length == 4 ? "rotations by lifting" : "two passes");
          },
-     .build = buildDct4Direct},
+     .build = dct4DirectTransform},
 };
 
 struct Width {

@@ -225,12 +225,6 @@ Recipe ofFactors(const std::vector<int>& factors, const std::vector<Recipe>& fam
     return {length, PrimeFactor, factors};
 }
 
-std::string listed(const std::vector<int>& factors) {
-    std::string text;
-    for (int factor : factors) text += (text.empty() ? " " : ", ") + std::to_string(factor);
-    return text;
-}
-
 // Lengths by family.
 using LengthSets = std::map<std::string, std::set<int>>;
 
@@ -288,9 +282,8 @@ bool isBisected(const std::string& family, int length) {
     static const LengthSets sets = {
         {"complex", {8, 10, 16, 18, 26, 30, 34, 38, 42, 44, 46, 48, 54, 58, 59, 62}},
         {"real_forward", {14, 16, 24, 26, 38, 50}},
-        {"real_inverse",
-         {11, 16, 17, 20, 21, 22, 24, 28, 32, 34, 35, 36, 37, 38, 39, 40, 42, 44, 46, 48, 49, 50, 51, 52, 53, 54,
-          56, 58, 60, 61, 62, 63, 64}},
+        {"real_inverse", {11, 16, 17, 20, 21, 22, 24, 28, 32, 34, 35, 36, 37, 38, 39, 40, 42,
+                          44, 46, 48, 49, 50, 51, 52, 53, 54, 56, 58, 60, 61, 62, 63, 64}},
         {"hartley", {9, 11, 12, 13, 22, 24, 26, 34, 35, 37, 38, 40, 42, 46, 48, 50, 54, 56, 62, 64}},
     };
     return holds(sets, family, length);
@@ -326,31 +319,5 @@ HartleyForm hartleyForm(int length) {
 }
 
 bool isHartleyReversed(int length) { return length == 11 || length == 21 || length == 41 || length == 50; }
-
-std::string hartleyText(int length) { return hartleyForm(length) == HartleyForm::F ? "F" : "I"; }
-
-std::string complexText(const Recipe& recipe) {
-    switch (recipe.construction) {
-        case Base: return "base";
-        case Direct: return "direct symmetric form";
-        case Twiddled:
-            return "twiddled, inner " + std::to_string(recipe.factors[0]) + ", outer " +
-                   std::to_string(recipe.factors[1]);
-        case PrimeFactor: return "prime-factor, order" + listed(recipe.factors);
-        case Rader: return "Rader block";
-    }
-    throw std::logic_error("no construction");
-}
-
-std::string realText(const Recipe& recipe) {
-    switch (recipe.construction) {
-        case Base: return "base";
-        case Direct: return "direct";
-        case Twiddled: return "twiddled" + listed(recipe.factors);
-        case PrimeFactor: return "prime-factor" + listed(recipe.factors);
-        case Rader: return "Rader" + listed(recipe.factors);
-    }
-    throw std::logic_error("no construction");
-}
 
 }  // namespace gen

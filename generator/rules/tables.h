@@ -62,9 +62,4 @@ bool isHartleyReversed(int length);
 // that graph. No rule of signs gives the settled number of negated outputs at these lengths; one or two turns each do.
 std::vector<int> realForwardTurns(int length);
 
-// As people write it: "prime-factor, order 3, 5" in the complex family, "prime-factor 3, 5" in the real ones.
-std::string complexText(const Recipe& recipe);
-std::string realText(const Recipe& recipe);
-std::string hartleyText(int length);
-
 }  // namespace gen

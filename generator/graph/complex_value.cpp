@@ -13,7 +13,10 @@ ComplexValue quarterTurns(ComplexValue x, int quarters) {
 
 // exp(-2 pi i/8) x.
 ComplexValue eighthTurn(ComplexValue x, EighthTurn order) {
-    const auto sums = [](ComplexValue y) { return ComplexValue{y.re + y.im, y.im - y.re}; };
+    const auto sums = [](ComplexValue y) {
+        const Value sum = y.re + y.im;
+        return paired(sum, y.im - y.re);
+    };
     const Coefficient root = cosine(1, 8);
     return order == EighthTurn::SumsFirst ? root * sums(x) : sums(root * x);
 }
@@ -21,7 +24,11 @@ ComplexValue eighthTurn(ComplexValue x, EighthTurn order) {
 // exp(-2 pi i e/n) x with four products: re = cos re + sin im, im = cos im - sin re.
 ComplexValue generalTurn(ComplexValue x, int e, int n) {
     const Coefficient c = cosine(e, n), s = sine(e, n);
-    return {c * x.re + s * x.im, c * x.im - s * x.re};
+    const Value sIm = s * x.im, cRe = c * x.re, re = cRe + sIm;
+    const Value sRe = s * x.re, cIm = c * x.im, im = cIm - sRe;
+    x.re.graph->pair(cRe, cIm);
+    x.re.graph->pair(sIm, sRe);
+    return paired(re, im);
 }
 
 }  // namespace

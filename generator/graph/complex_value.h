@@ -13,9 +13,39 @@ struct ComplexValue {
 
 using Signal = std::vector<ComplexValue>;
 
-inline ComplexValue operator+(ComplexValue a, ComplexValue b) { return {a.re + b.re, a.im + b.im}; }
-inline ComplexValue operator-(ComplexValue a, ComplexValue b) { return {a.re - b.re, a.im - b.im}; }
-inline ComplexValue operator*(const Coefficient& factor, ComplexValue x) { return {factor * x.re, factor * x.im}; }
+// The value whose parts these are; the steps that yield them become a pair.
+inline ComplexValue paired(Value re, Value im) {
+    re.graph->pair(re, im);
+    return {re, im};
+}
+
+// A calculation on real values that both parts of complex values go through, the real parts first. `part` takes
+// &ComplexValue::re or &ComplexValue::im. Their steps become pairs.
+template <class Calculation>
+ComplexValue onBothParts(Graph& graph, const Calculation& part) {
+    ComplexValue result;
+    std::vector<NodeId> re, im;
+    for (const auto& [member, steps] : {std::pair(&ComplexValue::re, &re), std::pair(&ComplexValue::im, &im)}) {
+        const Recording recording(graph);
+        result.*member = part(member);
+        *steps = recording.steps();
+    }
+    pairInOrder(graph, re, im);
+    return result;
+}
+
+inline ComplexValue operator+(ComplexValue a, ComplexValue b) {
+    const Value re = a.re + b.re;
+    return paired(re, a.im + b.im);
+}
+inline ComplexValue operator-(ComplexValue a, ComplexValue b) {
+    const Value re = a.re - b.re;
+    return paired(re, a.im - b.im);
+}
+inline ComplexValue operator*(const Coefficient& factor, ComplexValue x) {
+    const Value re = factor * x.re;
+    return paired(re, factor * x.im);
+}
 
 inline ComplexValue conjugate(ComplexValue x) { return {x.re, -x.im}; }
 

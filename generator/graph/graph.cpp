@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -19,6 +20,13 @@ std::string decimals(double x) {
     return text;
 }
 
+// Whether two steps are of the same kind, up to sign.
+bool areAlike(const Node& a, const Node& b) {
+    const auto isSum = [](const Node& x) { return x.kind == Kind::Add || x.kind == Kind::Sub; };
+    if (isSum(a)) return isSum(b);
+    return a.kind == b.kind && (a.kind != Kind::Scaled || a.constant == b.constant);
+}
+
 }  // namespace
 
 Coefficient cosine(int k, int n) { return {cosTurn(k, n), turn("cos", k, n)}; }
@@ -32,8 +40,9 @@ NodeId Graph::insert(const Node& node) {
     const auto [found, isNew] = standing.try_emplace(key, NodeId(allNodes.size()));
     if (isNew) {
         allNodes.push_back(node);
-        allNodes.back().title = currentTitle;
+        allNodes.back().block = currentBlock;
     }
+    if (recording != nullptr) recording->nodes.push_back(found->second);
     return found->second;
 }
 
@@ -70,7 +79,14 @@ Value Graph::product(Value a, Value b) {
 Value Graph::withoutMinus(Value x) {
     const Node node = allNodes[index(x.node)];
     if (!x.minus || node.kind != Kind::Sub) return x;
-    return {this, insert(Node{Kind::Sub, node.b, node.a}), false};
+    const NodeId reversed = insert(Node{Kind::Sub, node.b, node.a});
+    if (const auto old = pairOf(x.node); old && !pairOf(reversed)) {
+        const NodeId other = old->re == x.node ? old->im : old->re;
+        pairByNode.erase(x.node);
+        pairByNode.erase(other);
+        old->re == x.node ? pair(reversed, other) : pair(other, reversed);
+    }
+    return {this, reversed, false};
 }
 
 Value Graph::copy(const Graph& other, const Node& node, const PerNode<Value>& copies) {
@@ -87,9 +103,86 @@ Value Graph::copy(const Graph& other, const Node& node, const PerNode<Value>& co
     throw std::logic_error("a node of no kind");
 }
 
-int Graph::beginBlock(const std::string& title) {
-    titles.push_back(title);
-    return std::exchange(currentTitle, static_cast<int>(titles.size()) - 1);
+BlockId Graph::beginBlock(const Block& block) {
+    const auto isSame = [&](const Block& other) { return block.isInstanceOfSame(other); };
+    const auto instance = static_cast<int>(std::ranges::count_if(allBlocks, isSame));
+    allBlocks.push_back(block);
+    allBlocks.back().instance = instance;
+    allBlocks.back().outer = currentBlock;
+    return std::exchange(currentBlock, BlockId(allBlocks.size() - 1));
+}
+
+void Graph::pair(NodeId re, NodeId im) {
+    if (recording != nullptr || re == im || !areAlike(node(re), node(im))) return;
+    if (pairByNode.contains(re) || pairByNode.contains(im)) return;
+    pairByNode[re] = pairByNode[im] = {re, im};
+}
+
+std::optional<Pair> Graph::pairOf(NodeId node) const {
+    const auto found = pairByNode.find(node);
+    return found == pairByNode.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::vector<Pair> Graph::pairs() const {
+    std::vector<Pair> pairs;
+    for (const auto& [node, pair] : pairByNode) {
+        if (node == std::min(pair.re, pair.im)) pairs.push_back(pair);
+    }
+    return pairs;
+}
+
+Recording::~Recording() {
+    graph.recording = outer;
+    if (outer != nullptr) outer->nodes.insert(outer->nodes.end(), nodes.begin(), nodes.end());
+}
+
+namespace {
+
+using Steps = std::span<const NodeId>;
+
+// Steps of one block on either side. Only a stretch in the middle may differ.
+void pairInBlock(Graph& graph, Steps re, Steps im) {
+    const auto alike = [&](NodeId a, NodeId b) { return areAlike(graph.node(a), graph.node(b)); };
+    while (!re.empty() && !im.empty() && alike(re.front(), im.front())) {
+        graph.pair(re.front(), im.front());
+        re = re.subspan(1);
+        im = im.subspan(1);
+    }
+    while (!re.empty() && !im.empty() && alike(re.back(), im.back())) {
+        graph.pair(re.back(), im.back());
+        re = re.first(re.size() - 1);
+        im = im.first(im.size() - 1);
+    }
+    const auto productsOf = [&](Steps steps) {
+        std::vector<NodeId> products;
+        std::ranges::copy_if(steps, std::back_inserter(products),
+                             [&](NodeId id) { return graph.node(id).kind == Kind::Scaled; });
+        return products;
+    };
+    const std::vector<NodeId> reProducts = productsOf(re), imProducts = productsOf(im);
+    if (reProducts.size() != imProducts.size()) return;
+    for (std::size_t i = 0; i < reProducts.size(); ++i) graph.pair(reProducts[i], imProducts[i]);
+}
+
+// The steps cut where another block begins.
+std::vector<Steps> stretches(const Graph& graph, Steps steps) {
+    std::vector<Steps> result;
+    while (!steps.empty()) {
+        const BlockId block = graph.node(steps.front()).block;
+        const auto end = std::ranges::find_if(steps, [&](NodeId id) { return graph.node(id).block != block; });
+        const auto size = static_cast<std::size_t>(end - steps.begin());
+        result.push_back(steps.first(size));
+        steps = steps.subspan(size);
+    }
+    return result;
+}
+
+}  // namespace
+
+void pairInOrder(Graph& graph, const std::vector<NodeId>& re, const std::vector<NodeId>& im) {
+    const std::vector<Steps> reStretches = stretches(graph, re), imStretches = stretches(graph, im);
+    if (reStretches.size() != imStretches.size()) return pairInBlock(graph, re, im);
+    for (std::size_t i = 0; i < reStretches.size(); ++i) pairInBlock(graph, reStretches[i], imStretches[i]);
 }
 
 PerNode<bool> Graph::alive() const {

@@ -5,15 +5,22 @@
 // graph already has gives the node of that step. Values carry the signs and nodes have none, so that every constant is
 // positive and no negation is ever inserted: (-a) + b is b - a, and (-a) + (-b) is minus the sum. The graph has no
 // other algebra.
+//
+// Two more things are remembered of a node: its block, and its pair. The two nodes that work on the real and on the
+// imaginary parts of one complex step are a pair; so are those of two real channels that take the same steps. The two
+// are of the same kind up to sign: both loads, both sums or differences, both products with the same constant.
 #pragma once
 
 #include <array>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
+#include "graph/block.h"
 #include "numbers/exact.h"
 
 namespace gen {
@@ -62,7 +69,7 @@ struct Node {
     NodeId a{}, b{};        // what it works on; see `operands`
     ConstantId constant{};  // of Scaled
     int input = 0;          // of Load: the number of the input
-    int title = 0;
+    BlockId block{};
 };
 
 // The nodes that a node works on: none for a load, one for a scaled node, otherwise two, which may be the same.
@@ -81,6 +88,10 @@ private:
     std::size_t count;
 };
 constexpr Operands operands(const Node& node) { return Operands(node); }
+
+struct Pair {
+    NodeId re, im;
+};
 
 struct Output {
     int place;  // the number of the output; not every number need occur
@@ -120,25 +131,35 @@ public:
     Value product(Value a, Value b);
 
     // For minus a difference the reversed difference, since -(a - b) = b - a; any other value is returned as it is. The
-    // old step is neither counted nor emitted any more unless something else uses it.
+    // old step is neither counted nor emitted any more unless something else uses it. The new one takes its place in
+    // its pair.
     Value withoutMinus(Value x);
 
     // Gives output number `place` its value. Outputs keep the order in which they are stored.
     void store(int place, Value value) { allOutputs.push_back({place, value.node, value.minus}); }
 
-    // Nodes that are inserted from now on belong to a new block of this title. Returns the number of the block before.
-    int beginBlock(const std::string& title);
-    void continueBlock(int title) { currentTitle = title; }
+    // Nodes that are inserted from now on belong to this new block. Returns the block before.
+    BlockId beginBlock(const Block& block);
+    void continueBlock(BlockId block) { currentBlock = block; }
 
     // Takes over the blocks of another graph, so that each of its nodes can be copied into its own block.
-    void takeBlocksOf(const Graph& other) { titles = other.titles; }
+    void takeBlocksOf(const Graph& other) { allBlocks = other.allBlocks; }
+
+    // Makes two nodes a pair. It has no effect where they are not of the same kind, or where one of them has a pair
+    // already: it is a step that two complex steps share.
+    void pair(Value re, Value im) { pair(re.node, im.node); }
+    void pair(NodeId re, NodeId im);
 
     const std::vector<Node>& nodes() const { return allNodes; }
     const Node& node(NodeId id) const { return allNodes[index(id)]; }
     const std::vector<Constant>& constants() const { return allConstants; }
     const Constant& constant(ConstantId id) const { return allConstants[index(id)]; }
     const std::vector<Output>& outputs() const { return allOutputs; }
-    const std::string& title(int number) const { return titles[static_cast<std::size_t>(number)]; }
+    const std::vector<Block>& blocks() const { return allBlocks; }
+    const Block& block(BlockId id) const { return allBlocks[static_cast<std::size_t>(id)]; }
+    // The pair of a node, and all pairs in order of their first nodes.
+    std::optional<Pair> pairOf(NodeId node) const;
+    std::vector<Pair> pairs() const;
     int inputs() const { return inputCount; }
 
     // The nodes on which an output depends, in their order; and for each node, whether it is one of them.
@@ -154,6 +175,7 @@ public:
     Value copy(const Graph& other, const Node& node, const PerNode<Value>& copies);
 
 private:
+    friend class Recording;
     NodeId insert(const Node& node);
     ConstantId insert(const Coefficient& factor);
 
@@ -162,23 +184,47 @@ private:
     std::vector<Constant> allConstants;
     std::map<double, ConstantId> constantByValue;
     std::vector<Output> allOutputs;
-    std::vector<std::string> titles{""};
-    int currentTitle = 0;
+    std::vector<Block> allBlocks{Block{}};
+    BlockId currentBlock{};
+    std::map<NodeId, Pair> pairByNode;
+    class Recording* recording = nullptr;
     int inputCount = 0;
 };
 
-// Nodes that are inserted while one of these lives belong to the block of its title.
-class Titled {
+// Nodes that are inserted while one of these lives belong to its block.
+class InBlock {
 public:
-    Titled(Graph& owner, const std::string& title) : graph(owner), previous(owner.beginBlock(title)) {}
-    ~Titled() { graph.continueBlock(previous); }
-    Titled(const Titled&) = delete;
-    Titled& operator=(const Titled&) = delete;
+    InBlock(Graph& owner, const Block& block) : graph(owner), previous(owner.beginBlock(block)) {}
+    ~InBlock() { graph.continueBlock(previous); }
+    InBlock(const InBlock&) = delete;
+    InBlock& operator=(const InBlock&) = delete;
 
 private:
     Graph& graph;
-    int previous;
+    BlockId previous;
 };
+
+// While one of these lives it writes down the steps that the graph is asked for, whether they are new or were there
+// before. No pairs are made in that time.
+class Recording {
+public:
+    explicit Recording(Graph& owner) : graph(owner), outer(std::exchange(owner.recording, this)) {}
+    ~Recording();
+    Recording(const Recording&) = delete;
+    Recording& operator=(const Recording&) = delete;
+
+    const std::vector<NodeId>& steps() const { return nodes; }
+
+private:
+    friend class Graph;
+    Graph& graph;
+    Recording* outer;
+    std::vector<NodeId> nodes;
+};
+
+// Makes pairs of the steps of two recordings, block by block: each with the one at its place in the other list. The
+// lists of a block differ where the order of a sum follows a sign; only the products are paired there.
+void pairInOrder(Graph& graph, const std::vector<NodeId>& re, const std::vector<NodeId>& im);
 
 inline Value operator-(Value x) { return {x.graph, x.node, !x.minus}; }
 inline Value operator+(Value a, Value b) { return a.graph->sum(a, b); }

@@ -8,14 +8,18 @@ namespace {
 // One pass over a graph, which copies what the outputs need into a new graph and rewrites it on the way.
 class Pass {
 public:
-    explicit Pass(const Graph& source) : old(source), uses(countUses(source)), copies(source.nodes().size()) {}
+    explicit Pass(const Graph& source)
+        : old(source), uses(countUses(source)), copies(source.nodes().size()), steps(source.nodes().size()) {}
 
     std::pair<std::unique_ptr<Graph>, bool> run() {
         fresh->takeBlocksOf(old);
         for (NodeId id : old.aliveNodes()) {
-            fresh->continueBlock(old.node(id).title);
+            fresh->continueBlock(old.node(id).block);
+            const Recording recording(*fresh);
             copies[id] = copy(old.node(id));
+            steps[id] = recording.steps();
         }
+        for (const Pair& pair : old.pairs()) pairInOrder(*fresh, steps[pair.re], steps[pair.im]);
         for (const Output& output : old.outputs()) {
             const Value value = copies[output.node];
             fresh->store(output.place, output.minus ? -value : value);
@@ -61,6 +65,7 @@ private:
     const Graph& old;
     PerNode<int> uses;
     PerNode<Value> copies;
+    PerNode<std::vector<NodeId>> steps;  // that have taken the place of a node
     std::unique_ptr<Graph> fresh = std::make_unique<Graph>();
     bool changed = false;
 };

@@ -14,9 +14,10 @@ std::unique_ptr<Graph> turned(std::unique_ptr<Graph> graph, const std::vector<No
         const Node& node = graph->node(NodeId(i));
         const bool turns = std::ranges::find(nodes, NodeId(i)) != nodes.end();
         if (turns && node.kind != Kind::Sub) throw std::logic_error("only a difference can be reversed");
-        fresh->continueBlock(node.title);
+        fresh->continueBlock(node.block);
         copies.push_back(turns ? -(copies[node.b] - copies[node.a]) : fresh->copy(*graph, node, copies));
     }
+    for (const Pair& pair : graph->pairs()) fresh->pair(copies[pair.re], copies[pair.im]);
     for (const Output& output : graph->outputs()) {
         fresh->store(output.place, output.minus ? -copies[output.node] : copies[output.node]);
     }

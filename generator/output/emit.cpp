@@ -5,7 +5,10 @@
 #include <charconv>
 #include <functional>
 #include <map>
+#include <optional>
 #include <stdexcept>
+
+#include "output/block_title.h"
 
 namespace gen {
 namespace {
@@ -121,21 +124,22 @@ std::string factsText(const GraphEntry& entry, const Graph& graph, const Names& 
     return text.empty() ? text : text + "\n";
 }
 
-// The title of the block of step i. A load belongs to the block of the next operation; -1 if no operation comes next.
-int titleAt(const Graph& graph, const std::vector<Step>& steps, std::size_t i) {
+// The block of step i. A load belongs to the block of the next operation; none if no operation comes next.
+std::optional<BlockId> blockAt(const Graph& graph, const std::vector<Step>& steps, std::size_t i) {
     while (i < steps.size() && steps[i].kind == Step::Kind::Load) ++i;
-    if (i == steps.size() || steps[i].kind == Step::Kind::Store) return -1;
-    return graph.node(steps[i].node).title;
+    if (i == steps.size() || steps[i].kind == Step::Kind::Store) return std::nullopt;
+    return graph.node(steps[i].node).block;
 }
 
 std::string stepsText(const GraphEntry& entry, const Graph& graph, const Schedule& schedule, const Names& names) {
     std::string text;
-    int title = 0;
+    BlockId block{};
     for (std::size_t i = 0; i < schedule.steps.size(); ++i) {
         const Step& step = schedule.steps[i];
-        if (const int next = titleAt(graph, schedule.steps, i); next >= 0 && next != title) {
-            title = next;
-            if (!graph.title(title).empty()) text += "        // " + graph.title(title) + "\n";
+        if (const auto next = blockAt(graph, schedule.steps, i); next && *next != block) {
+            block = *next;
+            const std::string title = blockTitle(graph.block(block));
+            if (!title.empty()) text += "        // " + title + "\n";
         }
         text += "        ";
         if (step.kind == Step::Kind::Store) {

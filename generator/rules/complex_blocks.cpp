@@ -4,7 +4,7 @@
 
 #include "numbers/modular.h"
 #include "rules/axes.h"
-#include "rules/block_title.h"
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 #include "rules/direct.h"
 #include "rules/rader.h"
@@ -34,15 +34,14 @@ Signal direct(const Signal& x, int a) {
         sums.push_back(first + second);
         differences.push_back(first - second);
     }
-    const std::vector<Value> sumsRe = parts(sums, &ComplexValue::re), sumsIm = parts(sums, &ComplexValue::im);
-    const std::vector<Value> differencesRe = parts(differences, &ComplexValue::re);
-    const std::vector<Value> differencesIm = parts(differences, &ComplexValue::im);
-
+    Graph& graph = *x[0].re.graph;
     Signal plain(x.size());
-    plain[0] = ComplexValue{sumInOrder(sumsRe), sumInOrder(sumsIm)} + x[0];
+    plain[0] = onBothParts(graph, [&](Value ComplexValue::*part) { return sumInOrder(parts(sums, part)); }) + x[0];
     for (int k = 1; k <= (p - 1) / 2; ++k) {
-        const ComplexValue cosines = {cosineSum(x[0].re, sumsRe, pairs, k, p), cosineSum(x[0].im, sumsIm, pairs, k, p)};
-        const ComplexValue sines = {sineSum(differencesRe, pairs, k, p), sineSum(differencesIm, pairs, k, p)};
+        const ComplexValue cosines = onBothParts(
+            graph, [&](Value ComplexValue::*part) { return cosineSum(x[0].*part, parts(sums, part), pairs, k, p); });
+        const ComplexValue sines = onBothParts(
+            graph, [&](Value ComplexValue::*part) { return sineSum(parts(differences, part), pairs, k, p); });
         plain[static_cast<size_t>(k)] = cosines + timesMinusI(sines);
         plain[static_cast<size_t>(p - k)] = cosines - timesMinusI(sines);
     }
@@ -91,7 +90,7 @@ Signal primeFactor(const Signal& x, const std::vector<int>& factors, int a) {
 
 Signal complexBlock(const Signal& x, int a) {
     const int length = static_cast<int>(x.size());
-    const Titled title(*x[0].re.graph, blockTitle("complex", length, a));
+    const InBlock block(*x[0].re.graph, {BlockKind::Complex, length, a});
     const Recipe& recipe = complexRecipe(length);
     switch (recipe.construction) {
         case Construction::Base: return sumAndDifference(x);

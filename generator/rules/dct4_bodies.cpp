@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "rules/block_title.h"
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 
 namespace gen {
@@ -36,7 +36,13 @@ Splits outputSplits(size_t radix) {
 }
 
 // x times w, both complex.
-ComplexValue rotated(ComplexValue x, ComplexValue w) { return {x.re * w.re - x.im * w.im, x.re * w.im + x.im * w.re}; }
+ComplexValue rotated(ComplexValue x, ComplexValue w) {
+    const Value imIm = x.im * w.im, reRe = x.re * w.re, re = reRe - imIm;
+    const Value imRe = x.im * w.re, reIm = x.re * w.im, im = reIm + imRe;
+    x.re.graph->pair(reRe, imRe);
+    x.re.graph->pair(imIm, reIm);
+    return paired(re, im);
+}
 
 // The DFT with the root exp(2 pi i/L).
 Signal positiveDft(const Signal& x) { return x.size() == 1 ? x : inverseComplexBlock(x, 1); }
@@ -54,12 +60,12 @@ Signal skewTransform(const RealSignal& v) {
     for (int c = 0; c < parts; ++c) {
         RealSignal part;
         for (int t = 0; t < length; ++t) part.push_back(v[static_cast<size_t>(parts * t + c)]);
-        const Titled title(*v[0].graph, "part " + std::to_string(c) + " of " + std::to_string(M));
+        const InBlock block(*v[0].graph, {.kind = BlockKind::SkewPart, .length = M, .position = c});
         bins.push_back(skewTransform(part));
     }
     Signal result(static_cast<size_t>(M / 2));
     for (int k = 0; k < length / 2; ++k) {
-        const Titled title(*v[0].graph, "row " + std::to_string(k) + " of " + std::to_string(M));
+        const InBlock block(*v[0].graph, {.kind = BlockKind::SkewRow, .length = M, .position = k});
         Signal row;
         for (int c = 0; c < parts; ++c) {
             row.push_back(twiddled(bins[static_cast<size_t>(c)][static_cast<size_t>(k)], -c * (2 * k + 1), 2 * M));
@@ -96,14 +102,17 @@ Signal combinedInTwo(const Signal& d, const Signal& table) {
     const size_t inner = d.size() / 4;
     std::vector<Signal> columns;
     for (size_t c1 = 0; c1 < 4; ++c1) {
-        const Titled title(*d[0].re.graph, "inner step " + std::to_string(c1));
+        const InBlock block(
+            *d[0].re.graph,
+            {.kind = BlockKind::InnerStep, .length = static_cast<int>(inner), .position = static_cast<int>(c1)});
         Signal column = {d[c1]};
         for (size_t c2 = 1; c2 < inner; ++c2) column.push_back(rotated(d[c1 + 4 * c2], table[c2 - 1]));
         columns.push_back(positiveDft(column));
     }
     Signal bins(d.size());
     for (size_t j = 0; j < inner; ++j) {
-        const Titled title(*d[0].re.graph, "outer step " + std::to_string(j));
+        const InBlock block(*d[0].re.graph,
+                            {.kind = BlockKind::OuterStep, .length = 4, .position = static_cast<int>(j)});
         Signal row = {columns[0][j]};
         for (size_t c1 = 1; c1 < 4; ++c1) row.push_back(rotated(columns[c1][j], table[inner - 1 + 3 * j + c1 - 1]));
         row = positiveDft(row);
@@ -115,7 +124,9 @@ Signal combinedInTwo(const Signal& d, const Signal& table) {
 // y[0] = c x[0] + s x[1], y[1] = s x[0] - c x[1], with the angle pi/8.
 RealSignal directTwo(const RealSignal& x) {
     const Coefficient c = cosine(1, 16), s = sine(1, 16);
-    return {c * x[0] + s * x[1], s * x[0] - c * x[1]};
+    const Value s1 = s * x[1], c0 = c * x[0], first = c0 + s1;
+    const Value c1 = c * x[1], s0 = s * x[0], second = s0 - c1;
+    return {first, second};
 }
 
 Coefficient tangent(int k, int n) {
@@ -154,7 +165,7 @@ RealSignal directPasses(const RealSignal& x, int r) {
     }
     RealSignal y(x.size());
     for (int m = 0; m < N / (2 * r); ++m) {
-        const Titled title(*x[0].graph, "row " + std::to_string(m));
+        const InBlock block(*x[0].graph, {.kind = BlockKind::OutputRow, .length = 2 * r, .position = m});
         Signal z;
         for (int p = 0; p < r; ++p) {
             const ComplexValue bin = transforms[static_cast<size_t>(p)][static_cast<size_t>(m)];
@@ -173,7 +184,7 @@ RealSignal directPasses(const RealSignal& x, int r) {
 
 Signal dct4Fold(const RealSignal& x) {
     const size_t M = x.size();
-    const Titled title(*x[0].graph, "fold " + std::to_string(M));
+    const InBlock block(*x[0].graph, {BlockKind::Fold, static_cast<int>(M)});
     RealSignal v = x;
     for (size_t s = M / 2; s < M; ++s) v[s] = -v[s];
     return skewTransform(v);

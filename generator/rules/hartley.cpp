@@ -1,5 +1,6 @@
 #include "rules/hartley.h"
 
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 #include "rules/tables.h"
 
@@ -12,7 +13,7 @@ using std::size_t;
 RealSignal formF(const RealSignal& x, bool isReversed) {
     const int length = static_cast<int>(x.size());
     const HalfSpectrum bins = realBlock(x, isReversed ? length - 1 : 1);
-    const Titled title(*x[0].graph, "output stage");
+    const InBlock block(*x[0].graph, {BlockKind::OutputStage, length});
     RealSignal out(x.size());
     for (int k = 0; k <= bins.half(); ++k) {
         if (bins.isReal(k)) {
@@ -31,7 +32,7 @@ RealSignal formI(const RealSignal& x) {
     const int length = static_cast<int>(x.size());
     HalfSpectrum bins(length);
     {
-        const Titled title(*x[0].graph, "input stage");
+        const InBlock block(*x[0].graph, {BlockKind::InputStage, length});
         for (int k = 0; k <= bins.half(); ++k) {
             if (bins.isReal(k)) {
                 bins.setReal(k, x[static_cast<size_t>(k)]);

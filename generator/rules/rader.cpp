@@ -30,7 +30,11 @@ ComplexValue timesSpectrum(ComplexValue z, const RaderConstants& constants, int 
         std::swap(re, im);
         re.value = -re.value;
     }
-    return {re * z.re - im * z.im, re * z.im + im * z.re};
+    const Value imIm = im * z.im, reRe = re * z.re, sum = reRe - imIm;
+    const Value imRe = im * z.re, reIm = re * z.im;
+    z.re.graph->pair(reRe, reIm);
+    z.re.graph->pair(imIm, imRe);
+    return paired(sum, reIm + imRe);
 }
 
 // The middle bin, real or imaginary, of a real z, times i^quarters: beta z.
@@ -55,6 +59,37 @@ HalfSpectrum permutedBins(const RealSignal& x, const RaderConstants& constants, 
     return realBlock(permuted, 1, recipe);
 }
 
+// Two real channels that go through the same steps one after the other. A step of the second channel becomes a pair
+// with that of the first one.
+class Channels {
+public:
+    explicit Channels(Graph& owner) : graph(owner) {}
+
+    template <class Calculation>
+    auto first(const Calculation& calculation) {
+        const Recording recording(graph);
+        const auto result = calculation();
+        stepsOfFirst = recording.steps();
+        return result;
+    }
+
+    template <class Calculation>
+    auto second(const Calculation& calculation) {
+        auto result = [&] {
+            const Recording recording(graph);
+            const auto value = calculation();
+            stepsOfSecond = recording.steps();
+            return value;
+        }();
+        pairInOrder(graph, stepsOfFirst, stepsOfSecond);
+        return result;
+    }
+
+private:
+    Graph& graph;
+    std::vector<NodeId> stepsOfFirst, stepsOfSecond;
+};
+
 }  // namespace
 
 // Two real channels. Even bins stay in their channel, odd bins change it: E_r = i I B, E_i = -i R B.
@@ -66,24 +101,30 @@ Signal raderComplex(const Signal& x, int a) {
         re.push_back(value.re);
         im.push_back(value.im);
     }
-    const HalfSpectrum r = permutedBins(re, constants, realForwardRecipe(order));
-    const HalfSpectrum i = permutedBins(im, constants, realForwardRecipe(order));
+    Channels channels(*x[0].re.graph);
+    const Recipe& recipe = realForwardRecipe(order);
+    const HalfSpectrum r = channels.first([&] { return permutedBins(re, constants, recipe); });
+    const HalfSpectrum i = channels.second([&] { return permutedBins(im, constants, recipe); });
 
     Signal result(x.size());
-    result[0] = {x[0].re + r.real(0), x[0].im + i.real(0)};
+    result[0] = ComplexValue{x[0].re, x[0].im} + ComplexValue{r.real(0), i.real(0)};
     HalfSpectrum outRe(order), outIm(order);
-    outRe.setReal(0, x[0].re - inverseOrder(constants) * r.real(0));
-    outIm.setReal(0, x[0].im - inverseOrder(constants) * i.real(0));
-    for (int k = 1; k < order / 2; ++k) {
-        outRe.set(k, k % 2 == 0 ? timesSpectrum(r.at(k), constants, k, 0) : timesSpectrum(i.at(k), constants, k, 1));
-        outIm.set(k, k % 2 == 0 ? timesSpectrum(i.at(k), constants, k, 0) : timesSpectrum(r.at(k), constants, k, 3));
+    outRe.setReal(0, channels.first([&] { return x[0].re - inverseOrder(constants) * r.real(0); }));
+    outIm.setReal(0, channels.second([&] { return x[0].im - inverseOrder(constants) * i.real(0); }));
+    for (int k = 1; k <= order / 2; ++k) {
+        const bool changes = k % 2 == 1;
+        const HalfSpectrum &toRe = changes ? i : r, &toIm = changes ? r : i;
+        const int turnsToRe = changes ? 1 : 0, turnsToIm = changes ? 3 : 0;
+        if (k == order / 2) {
+            outRe.setReal(k, channels.first([&] { return timesMiddle(toRe.real(k), constants, turnsToRe); }));
+            outIm.setReal(k, channels.second([&] { return timesMiddle(toIm.real(k), constants, turnsToIm); }));
+        } else {
+            outRe.set(k, channels.first([&] { return timesSpectrum(toRe.at(k), constants, k, turnsToRe); }));
+            outIm.set(k, channels.second([&] { return timesSpectrum(toIm.at(k), constants, k, turnsToIm); }));
+        }
     }
-    const int middle = order / 2;
-    const bool changes = middle % 2 == 1;
-    outRe.setReal(middle, timesMiddle(changes ? i.real(middle) : r.real(middle), constants, changes ? 1 : 0));
-    outIm.setReal(middle, timesMiddle(changes ? r.real(middle) : i.real(middle), constants, changes ? 3 : 0));
-
-    const RealSignal yRe = spectrumBlock(outRe, 1), yIm = spectrumBlock(outIm, 1);
+    const RealSignal yRe = channels.first([&] { return spectrumBlock(outRe, 1); });
+    const RealSignal yIm = channels.second([&] { return spectrumBlock(outIm, 1); });
     for (int m = 0; m < order; ++m) {
         result[static_cast<size_t>(constants.output(m))] = {yRe[static_cast<size_t>(m)], yIm[static_cast<size_t>(m)]};
     }

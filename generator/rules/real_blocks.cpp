@@ -4,7 +4,7 @@
 #include <string>
 
 #include "numbers/modular.h"
-#include "rules/block_title.h"
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 #include "rules/direct.h"
 #include "rules/rader.h"
@@ -127,7 +127,7 @@ HalfSpectrum realBlock(const RealSignal& x, int a) {
 }
 
 HalfSpectrum realBlock(const RealSignal& x, int a, const Recipe& recipe) {
-    const Titled title(*x[0].graph, blockTitle("real", recipe.length, a));
+    const InBlock block(*x[0].graph, {BlockKind::Real, recipe.length, a});
     switch (recipe.construction) {
         case Construction::Base: return sumAndDifference(x);
         case Construction::Direct: return direct(x, a);

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "numbers/modular.h"
-#include "rules/block_title.h"
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 #include "rules/tables.h"
 
@@ -179,7 +179,7 @@ RealSignal plainMirror(const Signal& bins, int length, const Splits& splits) {
 // A rotated block is the plain one with its bins renamed: the frequency f of the one is a f of the other.
 Signal skewBlock(const RealSignal& v, int a) {
     const int length = static_cast<int>(v.size());
-    const Titled title(*v[0].graph, blockTitle("skew", length, a));
+    const InBlock block(*v[0].graph, {BlockKind::Skew, length, a});
     const Signal plain = plainSkew(v, a);
     Signal rotated = plain;
     for (int d = 0; d < length / 2; ++d) rotated[static_cast<size_t>(d)] = atFrequency(plain, a * (2 * d + 1), length);
@@ -187,7 +187,7 @@ Signal skewBlock(const RealSignal& v, int a) {
 }
 
 RealSignal mirroredSkewBlock(const Signal& bins, int length, int a, const Splits& splits) {
-    const Titled title(*bins[0].re.graph, blockTitle("mirrored skew", length, a));
+    const InBlock block(*bins[0].re.graph, {BlockKind::MirroredSkew, length, a});
     Signal plain = bins;
     for (int d = 0; d < length / 2; ++d) setFrequency(plain, a * (2 * d + 1), length, bins[static_cast<size_t>(d)]);
     return plainMirror(plain, length, splits);

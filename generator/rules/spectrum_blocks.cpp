@@ -3,7 +3,7 @@
 #include <string>
 
 #include "numbers/modular.h"
-#include "rules/block_title.h"
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 #include "rules/direct.h"
 #include "rules/rader.h"
@@ -124,7 +124,7 @@ RealSignal spectrumBlock(const HalfSpectrum& bins, int a) {
 }
 
 RealSignal spectrumBlock(const HalfSpectrum& bins, int a, const Recipe& recipe) {
-    const Titled title(*bins.real(0).graph, blockTitle("spectrum", recipe.length, a));
+    const InBlock block(*bins.real(0).graph, {BlockKind::Spectrum, recipe.length, a});
     switch (recipe.construction) {
         case Construction::Base: return sumAndDifference(bins);
         case Construction::Direct: return direct(bins, a);

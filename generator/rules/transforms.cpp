@@ -4,6 +4,7 @@
 
 #include "graph/merge.h"
 #include "graph/turn.h"
+#include "rules/block_kind.h"
 #include "rules/blocks.h"
 #include "rules/dct4_bodies.h"
 #include "rules/hartley.h"
@@ -22,7 +23,10 @@ RealSignal loadReals(Graph& graph, int first, int count) {
 
 Signal loadPairs(Graph& graph, int first, int count) {
     Signal x;
-    for (int n = 0; n < count; ++n) x.push_back({graph.load(first + 2 * n), graph.load(first + 2 * n + 1)});
+    for (int n = 0; n < count; ++n) {
+        const Value re = graph.load(first + 2 * n);
+        x.push_back(paired(re, graph.load(first + 2 * n + 1)));
+    }
     return x;
 }
 
@@ -60,7 +64,7 @@ std::unique_ptr<Graph> realForwardTransform(int length) {
 // Each interior bin stands for itself and its conjugate, so that its parts are doubled first.
 std::unique_ptr<Graph> realInverseTransform(int length) {
     auto graph = std::make_unique<Graph>();
-    const Titled title(*graph, "doubled bins");
+    const InBlock block(*graph, {BlockKind::DoubledBins, length});
     const Coefficient two{2, "2"};
     HalfSpectrum bins(length);
     for (int k = 0; k <= bins.half(); ++k) {

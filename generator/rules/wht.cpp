@@ -1,6 +1,6 @@
 #include "rules/wht.h"
 
-#include <string>
+#include "rules/block_kind.h"
 
 namespace gen {
 namespace {
@@ -16,8 +16,10 @@ void transform(RealSignal& x, std::size_t first, std::size_t count, std::size_t 
         for (std::size_t i = 0; i < group; ++i) transform(x, first + i * step, count / group, group * step);
         return;
     }
-    const Titled title(*x[0].graph, std::to_string(count) + " points from " + std::to_string(first) + ", stride " +
-                                        std::to_string(step));
+    const InBlock block(*x[0].graph, {.kind = BlockKind::WalshHadamard,
+                                      .length = static_cast<int>(count),
+                                      .stride = static_cast<int>(step),
+                                      .position = static_cast<int>(first)});
     for (std::size_t stride = 1; stride < count; stride *= 2) {
         for (std::size_t j = 0; j < count; ++j) {
             if ((j & stride) != 0) continue;

@@ -7,12 +7,16 @@
 #include <set>
 #include <stdexcept>
 
+#include "rules/block_kind.h"
+
 namespace gen {
 namespace {
 
 using enum Construction;
+using enum BlockKind;
 
-// A factor order follows no rule of size: each is a choice of its own, and another order is another graph.
+// A factor order follows no rule of size: each is a choice of its own, and another order is another graph. A step to be
+// turned: kind, length and multiplier of its block, which instance of it, and which of its steps.
 // clang-format off
 const std::vector<Recipe> complexTable = {
     { 2, Base,        {}},
@@ -92,7 +96,7 @@ const std::vector<Recipe> realForwardTable = {
     {10, PrimeFactor, {5, 2}},
     {11, Direct,      {}},
     {12, PrimeFactor, {4, 3}},
-    {13, Rader,       {3, 4}},
+    {13, Rader,       {3, 4}, 1, false, {{Real, 2, 1, 1, 1}, {Spectrum, 3, 2, 3, 2}}},
     {14, PrimeFactor, {2, 7}},
     {15, PrimeFactor, {3, 5}},
     {16, Twiddled,    {4, 4}},
@@ -105,10 +109,10 @@ const std::vector<Recipe> realForwardTable = {
     {23, Rader,       {2, 11}},
     {24, PrimeFactor, {3, 8}},
     {25, Twiddled,    {5, 5}},
-    {26, PrimeFactor, {13, 2}},
+    {26, PrimeFactor, {13, 2}, 1, false, {{Complex, 2, 1, 5, 0}, {Spectrum, 3, 2, 2, 0}}},
     {27, Twiddled,    {9, 3}},
     {28, PrimeFactor, {4, 7}},
-    {29, Rader,       {7, 4}},
+    {29, Rader,       {7, 4}, 1, false, {{Spectrum, 7, 2, 2, 15}}},
     {30, PrimeFactor, {5, 3, 2}},
     {31, Rader,       {3, 2, 5}},
     {32, Twiddled,    {8, 4}},
@@ -116,9 +120,9 @@ const std::vector<Recipe> realForwardTable = {
     {34, PrimeFactor, {2, 17}},
     {35, PrimeFactor, {7, 5}},
     {36, PrimeFactor, {9, 4}},
-    {37, Rader,       {4, 9}},
+    {37, Rader,       {4, 9}, 1, false, {{Real, 37, 1, 0, 56}, {MirroredSkew, 18, 1, 0, 5}}},
     {38, PrimeFactor, {19, 2}},
-    {39, PrimeFactor, {13, 3}},
+    {39, PrimeFactor, {13, 3}, 1, false, {{Real, 3, 1, 12, 1}, {Complex, 3, 1, 2, 9}}},
     {40, PrimeFactor, {8, 5}},
     {41, Rader,       {5, 8}},
     {42, PrimeFactor, {7, 3, 2}},
@@ -131,8 +135,8 @@ const std::vector<Recipe> realForwardTable = {
     {49, Twiddled,    {7, 7}},
     {50, PrimeFactor, {25, 2}},
     {51, PrimeFactor, {17, 3}},
-    {52, PrimeFactor, {13, 4}},
-    {53, Rader,       {4, 13}},
+    {52, PrimeFactor, {13, 4}, 1, false, {{Real, 2, 1, 13, 1}, {Complex, 2, 1, 26, 3}}},
+    {53, Rader,       {4, 13}, 1, false, {{Real, 53, 1, 0, 2}, {Spectrum, 13, 2, 0, 1}}},
     {54, PrimeFactor, {2, 27}},
     {55, PrimeFactor, {11, 5}},
     {56, PrimeFactor, {7, 8}},
@@ -140,7 +144,7 @@ const std::vector<Recipe> realForwardTable = {
     {58, PrimeFactor, {2, 29}},
     {59, Rader,       {29, 2}},
     {60, PrimeFactor, {3, 5, 4}, 2},
-    {61, Rader,       {3, 5, 4}, 2},
+    {61, Rader,       {3, 5, 4}, 2, false, {{Spectrum, 5, 1, 0, 9}}},
     {62, PrimeFactor, {31, 2}},
     {63, PrimeFactor, {7, 9}},
     {64, Twiddled,    {16, 4}},
@@ -296,20 +300,6 @@ bool isCompiledForSpeed(const std::string& family, int length) {
         {"hartley", {12, 13, 21, 26, 27, 32, 42, 46, 56}},
     };
     return holds(sets, family, length);
-}
-
-std::vector<int> realForwardTurns(int length) {
-    switch (length) {
-        case 13: return {40, 126};
-        case 26: return {124, 131};
-        case 29: return {476};
-        case 37: return {371, 588};
-        case 39: return {397, 443};
-        case 52: return {531, 545};
-        case 53: return {619, 844};
-        case 61: return {832};
-        default: return {};
-    }
 }
 
 HartleyForm hartleyForm(int length) {

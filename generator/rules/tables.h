@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "graph/turn.h"
+
 namespace gen {
 
 enum class Construction { Base, Direct, Twiddled, PrimeFactor, Rader };
@@ -18,6 +20,9 @@ struct Recipe {
     std::vector<int> factors;
     int innerCount = 1;
     bool isInnerDirect = false;  // the inner factor is in direct form here, whatever its own row says
+    // Differences that the finished graph of this length, as a kernel, forms the other way round. No rule of signs
+    // gives the settled number of negated outputs at these lengths; one or two turns each do.
+    std::vector<BlockStep> turned = {};
 };
 
 // The two sides of a real prime-factor construction. Several factors are a prime-factor construction in their order; a
@@ -57,9 +62,5 @@ const Recipe& realInverseRecipe(int length);
 enum class HartleyForm { F, I };
 HartleyForm hartleyForm(int length);
 bool isHartleyReversed(int length);
-
-// Differences of the finished forward real graph of a length that are formed the other way round, by their numbers in
-// that graph. No rule of signs gives the settled number of negated outputs at these lengths; one or two turns each do.
-std::vector<int> realForwardTurns(int length);
 
 }  // namespace gen

@@ -56,9 +56,7 @@ std::unique_ptr<Graph> realForwardTransform(int length) {
         graph->store(2 * k, bins.real(k));
         if (!bins.isReal(k)) graph->store(2 * k + 1, bins.at(k).im);
     }
-    std::vector<NodeId> turns;
-    for (int number : realForwardTurns(length)) turns.push_back(NodeId(number));
-    return turned(merged(std::move(graph)), turns);
+    return turned(merged(std::move(graph)), realForwardRecipe(length).turned);
 }
 
 // Each interior bin stands for itself and its conjugate, so that its parts are doubled first.

@@ -89,16 +89,31 @@ TEST_F(PairTest, MergedProductsStayTogether) {
     EXPECT_EQ(finished->counts(), (Counts{2, 0, 4, 0, 1}));
 }
 
-TEST_F(PairTest, ATurnedDifferenceStaysInItsPair) {
-    auto owned = std::make_unique<Graph>();
-    const auto load = [&](int n) { return paired(owned->load(n), owned->load(n + 1)); };
+// A difference of two complex numbers, in a block.
+std::unique_ptr<Graph> complexDifference() {
+    auto graph = std::make_unique<Graph>();
+    const auto load = [&](int n) { return paired(graph->load(n), graph->load(n + 1)); };
+    const InBlock block(*graph, {BlockKind::Complex, 2});
     const ComplexValue z = load(0) - load(2);
-    owned->store(0, z.re);
-    owned->store(1, z.im);
-    const auto finished = turned(std::move(owned), {z.im.node});
+    graph->store(0, z.re);
+    graph->store(1, z.im);
+    return graph;
+}
+
+TEST_F(PairTest, ATurnedDifferenceStaysInItsPair) {
+    const auto finished = turned(complexDifference(), {{BlockKind::Complex, 2, 1, 0, 1}});
     const auto& outputs = finished->outputs();
+    EXPECT_FALSE(outputs[0].minus);
     EXPECT_TRUE(outputs[1].minus);
     expectPair(*finished, outputs[0].node, outputs[1].node);
+}
+
+TEST(Turn, OfAStepThatIsNotThereIsRefused) {
+    for (const BlockStep& place : {BlockStep{BlockKind::Complex, 2, 1, 0, 2}, BlockStep{BlockKind::Complex, 2, 1, 1, 0},
+                                   BlockStep{BlockKind::Complex, 3, 1, 0, 0}, BlockStep{BlockKind::Real, 2, 1, 0, 0},
+                                   BlockStep{BlockKind::Complex, 2, 3, 0, 0}}) {
+        EXPECT_THROW(turned(complexDifference(), {place}), std::out_of_range);
+    }
 }
 
 // Steps of complex graphs without a pair. In cosine sums of real channels, or of the two parts, the order follows a

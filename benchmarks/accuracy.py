@@ -1,5 +1,5 @@
 """Makes benchmarks/results/accuracy.md of what the program accuracy has printed, and puts the same figures into README
-and header, or looks whether these still say what stands there.
+and header, or looks whether these still say the same.
 
 accuracy.py write FILE.csv ...    one file for each target
 accuracy.py check
@@ -173,7 +173,7 @@ def document(records):
 
 
 def blocks():
-    """The summary and the lengths as they stand in the results."""
+    """The summary and the lengths as they are in the results."""
     text = read(RESULTS).splitlines()
     found = []
     for title in ("| pooled, worst |", "| N, DCT-IV |"):

@@ -59,7 +59,7 @@ def counts(tree, family, size):
     if family not in FOLDERS:
         return None
     folder, stem = FOLDERS[family]
-    path = os.path.join(tree, "kernels", folder, f"{stem}_{size}.cpp")
+    path = os.path.join(tree, "kernels", folder, f"{stem}_{size}.h")
     with open(path, encoding="ascii") as file:
         found = HEAD.search(file.read(2000))
     if not found:

@@ -195,7 +195,7 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
    Pack is it without the zeros; Perm, at even N, has Re X[N/2] in the place of the first zero.
 
    Forward CCS stores its zeros whatever the input and the flag. Inverse CCS reads slots 0 and 2 .. N only: N+1 elements
-   suffice, and what stands in the slots of the zeros is of no effect. All layouts of one length give the same bits.
+   suffice, and what is in the slots of the zeros has no effect. All layouts of one length give the same bits.
    All input is read before the first output is written, so that pDst may equal pSrc or overlap it in any way; a forward
    CCS routine writes its N+2 or N+1 elements all the same. A result that is zero may be a negative zero.
 

@@ -2,7 +2,7 @@
 // and goes to that construction, which calls blocks in turn, always for a shorter length.
 //
 // Every block takes a multiplier a, coprime to its length L, and then works with the root W_L^a in place of W_L: that
-// is how it stands inside a prime-factor construction. W_L is exp(-2 pi i/L). No block has a scale factor.
+// is how it is used inside a prime-factor construction. W_L is exp(-2 pi i/L). No block has a scale factor.
 //
 // A real or spectrum block takes its factor order from its row, or as an argument where a longer block prescribes it.
 #pragma once

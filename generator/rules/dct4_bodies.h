@@ -18,7 +18,7 @@ Signal dct4Fold(const RealSignal& x);
 // the order of dct4OutputOrder. Result: r rising outputs, then r falling ones.
 RealSignal dct4Output(const Signal& z, const Signal& table);
 
-// Which p stands at each place of a table row.
+// Which p each place of a table row has.
 std::vector<int> dct4OutputOrder(int radix);
 
 // One row of a combine pass: bins C[k + b M'] of the joined transform, those of the upper half as conjugates. d: the

@@ -64,7 +64,7 @@ Signal complexRow(const std::vector<HalfSpectrum>& columns, int c) {
     return row;
 }
 
-// N = r s, coprime, r inside. With n = s n1 + r n2 and k = s k1 + r k2 (modulo N) no twiddle stands between: real
+// N = r s, coprime, r inside. With n = s n1 + r n2 and k = s k1 + r k2 (modulo N) no twiddle comes between: real
 // blocks of r on the s columns, then a real block of s on each real row and a complex one on each other row k1 < r/2;
 // the rows above are conjugates.
 HalfSpectrum primeFactor(const RealSignal& x, int a, const Recipe& recipe) {

@@ -281,7 +281,7 @@ OddSplit oddSplit(int length, bool isInput) {
     }
 }
 
-// What the choice wins stands in benchmarks/results; benchmarks/README.md tells how it is measured.
+// What the choice gains is in benchmarks/results; benchmarks/README.md tells how it is measured.
 bool isBisected(const std::string& family, int length) {
     static const LengthSets sets = {
         {"complex", {8, 10, 16, 18, 26, 30, 34, 38, 42, 44, 46, 48, 54, 58, 59, 62}},

@@ -1,4 +1,4 @@
-// The settled choices: which construction each length has, and in which order its factors stand.
+// The settled choices: which construction each length has, and in which order its factors come.
 #pragma once
 
 #include <string>
@@ -58,7 +58,7 @@ const Recipe& realForwardRecipe(int length);
 const Recipe& realInverseRecipe(int length);
 
 // The form of the Hartley transform of a length: around the forward or the inverse real graph. In form F the sign of
-// the exponent is reversed at some lengths, which is of no effect but on the split into additions and subtractions.
+// the exponent is reversed at some lengths, which affects only the split into additions and subtractions.
 enum class HartleyForm { F, I };
 HartleyForm hartleyForm(int length);
 bool isHartleyReversed(int length);

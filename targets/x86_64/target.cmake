@@ -8,8 +8,8 @@ set(target_compile_flags
 # kernel that exceeds the instruction cache is slow.
 set(kernel_compile_flags -Os)
 
-# Kernels that are faster when compiled for speed: registers are cleared before a conversion that would otherwise wait for
-# them.
+# Kernels that are faster when compiled for speed: registers are cleared before a conversion that would otherwise wait
+# for them.
 set(fast_kernel_compile_flags -O2 -fno-schedule-insns2 -fno-tree-pre -flive-range-shrinkage)
 set(fast_kernel_texts
     kernels/real_forward/rdft_3.h

@@ -20,8 +20,8 @@ set(common_link_flags
 set(library_link_flags ${common_link_flags} -Wl,--entry=_zulgLoadEntry@12 -Wl,--image-base=0x65c00000)
 set(companion_link_flags ${common_link_flags} -Wl,--image-base=0x65b00000)
 
-# Sine and cosine, for the tables of the DCT-IV, from the C runtime. The toolchain's import library of that runtime leaves
-# these two out in favour of code of its own.
+# Sine and cosine, for the tables of the DCT-IV, from the C runtime. The toolchain's import library of that runtime
+# leaves these two out in favour of code of its own.
 set(library_math ${CMAKE_BINARY_DIR}/libmsvcrt_math.a)
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/msvcrt_math.def CONTENT "LIBRARY msvcrt.dll\nEXPORTS\n    cos\n    sin\n")
 # The names are relative, since the members of an import library are named after its path.

@@ -65,7 +65,7 @@ def is_continued_list(lines, number):
 
 
 def of_header(name, text):
-    """Programs that stand in comments after a line that begins with "Example"."""
+    """Programs that are in comments after a line that begins with "Example"."""
     lines, programs = text.splitlines(), []
     for start, line in enumerate(lines):
         if not line.strip().startswith("Example"):

@@ -329,7 +329,7 @@ TEST(EighthTurns, OfComplexColumnsMultiplyFirst) {
     EXPECT_EQ(pairsAddedFirst("complex", 17), 2 * (1 + 1) + 2 * 1);  // real blocks of 16, two each way
 }
 
-// The smallest graphs, whole: what the rules say is what stands.
+// The smallest graphs, whole: what the rules say is what comes out.
 TEST(Listing, OfTwoPoints) {
     const std::string text = graphOf("complex", 2).build()->text();
     EXPECT_EQ(text,

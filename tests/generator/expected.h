@@ -9,7 +9,7 @@ namespace test {
 struct ExpectedRow {
     int length;
     std::string construction;
-    std::vector<int> figures;  // the numbers behind the construction, in the order of the file's head line
+    std::vector<int> figures;  // the numbers after the construction, in the order of the file's head line
 };
 
 // The rows of tests/expected/<name>.txt.

@@ -55,7 +55,7 @@ zulg::AllocatorSlots routinesOf(const LoadedLibrary& companion) {
             companion.at<void*(void*, std::size_t)>("tRealloc"), companion.at<void(void*)>("tFree")};
 }
 
-// The hook as it is behind loading.
+// The hook as it is after loading.
 class HookTest : public testing::Test {
 protected:
     HookTest() {
@@ -67,7 +67,7 @@ protected:
 
 class VariantTest : public HookTest, public testing::WithParamInterface<Variant> {};
 
-// A companion that is loaded already is found by its file's name wherever that file stands. Two references are the
+// A companion that is loaded already is found by its file's name wherever that file is. Two references are the
 // test's own, so that one release too many shows as well.
 TEST_P(VariantTest, IsTakenOrRefusedAndReleasedOrKept) {
     const Variant& variant = GetParam();

@@ -130,7 +130,7 @@ void forEachSegment(void* handle, Seen seen) {
 
 }  // namespace
 
-// Behind what is read-only after relocation.
+// After what is read-only after relocation.
 LoadedLibrary::Memory LoadedLibrary::writableData() const {
     std::uintptr_t start = 0, end = 0;
     forEachSegment(handle, [&](std::uintptr_t address, const ElfW(Phdr) & header) {

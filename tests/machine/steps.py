@@ -62,7 +62,7 @@ def counted(library, instructions, may_negate, granted=(0, 0)):
             if target is None or not instructions[0].address <= target <= instructions[-1].address:
                 faults.append(f"jumps elsewhere: {name} {instruction.operands}")
             elif target <= instruction.address:
-                # The way back from a call that stands aside, behind its care for the stack, is no loop.
+                # A call may be out of the way, with the stack adjusted after it; the jump back from it is no loop.
                 loops += not (name == "jmp" and since_call <= 2)
     if (loops, calls) != granted:
         faults.append(f"{loops} backward jumps, {calls} calls; due are {granted[0]}, {granted[1]}")

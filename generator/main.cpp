@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "output/emit.h"
+#include "output/tuning.h"
 
 namespace {
 
@@ -31,7 +32,8 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
 }
 
 std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
-    return gen::emitGraph(entry, graph, entry.schedule(graph));
+    static const gen::Tuning tuning = gen::readTuning("targets/x86_64/tuning.txt");
+    return gen::emitGraph(entry, graph, tuning.schedule(entry, graph));
 }
 
 // Path and text of every generated file.

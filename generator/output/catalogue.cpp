@@ -273,10 +273,6 @@ std::string GraphEntry::title() const {
     return title.replace(title.find("%d"), 2, std::to_string(length));
 }
 
-Schedule GraphEntry::schedule(const Graph& graph) const {
-    return isBisected(family->word, length) ? byBisection(graph) : blockByBlock(graph);
-}
-
 const std::vector<GraphEntry>& allGraphs() {
     static const std::vector<GraphEntry> graphs = listGraphs();
     return graphs;

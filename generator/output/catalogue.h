@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "graph/graph.h"
-#include "graph/schedule.h"
 
 namespace gen {
 
@@ -47,8 +46,6 @@ struct GraphEntry {
     std::string title() const;
     std::string recipe() const { return family->recipe(length); }
     std::unique_ptr<Graph> build() const { return family->build(length); }
-    // The order that is settled for this graph.
-    Schedule schedule(const Graph& graph) const;
 };
 
 // One exported routine: its exported name, its name in the library's own sources, and the size of its arguments.

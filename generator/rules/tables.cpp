@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <functional>
-#include <map>
 #include <numeric>
-#include <set>
 #include <stdexcept>
 
 #include "rules/block_kind.h"
@@ -229,14 +227,6 @@ Recipe ofFactors(const std::vector<int>& factors, const std::vector<Recipe>& fam
     return {length, PrimeFactor, factors};
 }
 
-// Lengths by family.
-using LengthSets = std::map<std::string, std::set<int>>;
-
-bool holds(const LengthSets& sets, const std::string& family, int length) {
-    const auto found = sets.find(family);
-    return found != sets.end() && found->second.contains(length);
-}
-
 }  // namespace
 
 const std::vector<Recipe>& complexRecipes() { return complexTable; }
@@ -279,27 +269,6 @@ OddSplit oddSplit(int length, bool isInput) {
         case 30: return {15, 2};
         default: throw std::out_of_range("no odd-frequency form of length " + std::to_string(length));
     }
-}
-
-// What the choice gains is in benchmarks/results; benchmarks/README.md tells how it is measured.
-bool isBisected(const std::string& family, int length) {
-    static const LengthSets sets = {
-        {"complex", {8, 10, 16, 18, 26, 30, 34, 38, 42, 44, 46, 48, 54, 58, 59, 62}},
-        {"real_forward", {14, 16, 24, 26, 38, 50}},
-        {"real_inverse", {11, 16, 17, 20, 21, 22, 24, 28, 32, 34, 35, 36, 37, 38, 39, 40, 42,
-                          44, 46, 48, 49, 50, 51, 52, 53, 54, 56, 58, 60, 61, 62, 63, 64}},
-        {"hartley", {9, 11, 12, 13, 22, 24, 26, 34, 35, 37, 38, 40, 42, 46, 48, 50, 54, 56, 62, 64}},
-    };
-    return holds(sets, family, length);
-}
-
-bool isCompiledForSpeed(const std::string& family, int length) {
-    static const LengthSets sets = {
-        {"real_forward", {3, 5, 6, 8, 10, 14, 15, 19, 20, 21, 24, 29, 30, 32, 34, 37, 41, 54, 58, 60, 62}},
-        {"real_inverse", {13, 16, 21, 27, 29, 32, 51}},
-        {"hartley", {12, 13, 21, 26, 27, 32, 42, 46, 56}},
-    };
-    return holds(sets, family, length);
 }
 
 HartleyForm hartleyForm(int length) {

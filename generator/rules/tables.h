@@ -39,15 +39,6 @@ struct OddSplit {
 };
 OddSplit oddSplit(int length, bool isInput);
 
-// Whether the steps of a graph are ordered by recursive bisection and not block by block. Settled by measurement: those
-// whose double kernel is then faster by 3 % or more on x86-64. One order serves all widths and targets.
-bool isBisected(const std::string& family, int length);
-
-// Whether the kernels of a graph are compiled for speed and not for size on x86-64, which breaks the chains that
-// conversions from single make through the registers they leave half as they were. Settled by measurement: those where
-// the gain in single and that in double make 5 % together. Elsewhere size is speed.
-bool isCompiledForSpeed(const std::string& family, int length);
-
 // The rows of one family, rising in length. Each is a stand-alone kernel and the block inside longer ones.
 const std::vector<Recipe>& complexRecipes();
 const std::vector<Recipe>& realForwardRecipes();

@@ -134,7 +134,7 @@ TEST_P(Construction, ComputesTheDefinition) {
 }
 
 TEST_P(Construction, TheEmittedTextHoldsOneLineForEachStep) {
-    const std::string text = gen::emitGraph(entry, *graph, entry.schedule(*graph));
+    const std::string text = gen::emitGraph(entry, *graph, gen::blockByBlock(*graph));
     std::map<std::string, int> lines;
     std::set<std::string> constants;
     std::istringstream stream(text);
@@ -158,7 +158,7 @@ TEST_P(Construction, TheEmittedTextHoldsOneLineForEachStep) {
 
 // If it were there, the compiler would form sums in place of products.
 TEST_P(Construction, TheNumberTwoIsNotInTheEmittedText) {
-    const std::string text = gen::emitGraph(entry, *graph, entry.schedule(*graph));
+    const std::string text = gen::emitGraph(entry, *graph, gen::blockByBlock(*graph));
     for (const char* number : {" 2.0;", " 2.0,"}) EXPECT_EQ(text.find(number), std::string::npos);
     const bool doubles = entry.family->word == "real_inverse" && entry.length > 2;
     EXPECT_EQ(text.find(" = two * ") != std::string::npos, doubles);

@@ -1,0 +1,32 @@
+// The choices between texts of one graph that no rule makes: a machine's, as measured and written down in a file.
+#pragma once
+
+#include <iosfwd>
+#include <set>
+#include <string>
+
+#include "graph/schedule.h"
+#include "output/catalogue.h"
+
+namespace gen {
+
+class Tuning {
+public:
+    // No choices: every graph is ordered block by block.
+    Tuning() = default;
+
+    // The rows of a file: family, length, choice, gain. Text from a # on is a comment. `name` is that of the file, for
+    // errors: a row that names no graph, a graph twice or an unknown choice, or that does not have its four columns.
+    Tuning(std::istream& rows, const std::string& name);
+
+    // The order of the steps that is chosen for a graph.
+    Schedule schedule(const GraphEntry& entry, const Graph& graph) const;
+
+private:
+    std::set<std::string> bisected;  // names of graphs
+};
+
+// The choices in this file; none if there is no such file.
+Tuning readTuning(const std::string& path);
+
+}  // namespace gen

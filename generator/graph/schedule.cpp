@@ -1,6 +1,7 @@
 #include "graph/schedule.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace gen {
 namespace {
@@ -9,18 +10,19 @@ namespace {
 // are written.
 class Writer {
 public:
-    explicit Writer(const Graph& source)
-        : graph(source), done(source.nodes().size(), false), outputsOf(source.nodes().size()) {
+    Writer(const Graph& source, const Units& sourceUnits)
+        : graph(source), units(sourceUnits), done(source.nodes().size(), false), outputsOf(source.nodes().size()) {
         for (NodeId id : graph.aliveNodes()) missingLoads += isLoad(id);
         for (std::size_t k = 0; k < graph.outputs().size(); ++k) outputsOf[graph.outputs()[k].node].push_back(k);
     }
 
-    // Writes nothing for a load: see loadIfNeeded.
-    void operation(NodeId id) {
-        if (isLoad(id)) return;
-        for (NodeId operand : operands(graph.node(id))) loadIfNeeded(operand);
-        schedule.steps.push_back({Step::Kind::Operation, id});
-        finish(id);
+    // Writes nothing for loads: see loadIfNeeded.
+    void operations(std::size_t unit) {
+        if (isLoad(units.nodes(unit)[0])) return;
+        for (NodeId id : units.nodes(unit)) {
+            for (NodeId operand : operands(graph.node(id))) loadIfNeeded(operand);
+        }
+        write(Step::Kind::Operation, unit);
     }
 
     Schedule take() {
@@ -32,19 +34,21 @@ public:
 private:
     bool isLoad(NodeId id) const { return graph.node(id).kind == Kind::Load; }
 
-    // Writes the step of this node if it is a load that is not written yet, and does nothing otherwise. It is
+    // Writes the unit of this node if it is a load that is not written yet, and does nothing otherwise. It is
     // called for the operands of each operation, and for the outputs, since a load that is an output need not be an
     // operand.
     void loadIfNeeded(NodeId id) {
         if (!isLoad(id) || done[id]) return;
-        schedule.steps.push_back({Step::Kind::Load, id});
-        --missingLoads;
-        finish(id);
+        missingLoads -= static_cast<int>(units.nodes(units.of(id)).size());
+        write(Step::Kind::Load, units.of(id));
     }
 
-    void finish(NodeId id) {
-        done[id] = true;
-        for (std::size_t k : outputsOf[id]) waiting.push_back(k);
+    void write(Step::Kind kind, std::size_t unit) {
+        for (NodeId id : units.nodes(unit)) {
+            schedule.steps.push_back({kind, id});
+            done[id] = true;
+            waiting.insert(waiting.end(), outputsOf[id].begin(), outputsOf[id].end());
+        }
         if (missingLoads > 0) return;
         for (std::size_t k : waiting) schedule.steps.push_back({Step::Kind::Store, graph.outputs()[k].node, k});
         waiting.clear();
@@ -72,6 +76,7 @@ private:
     }
 
     const Graph& graph;
+    const Units& units;
     PerNode<bool> done;
     PerNode<std::vector<std::size_t>> outputsOf;
     std::vector<std::size_t> waiting;
@@ -79,53 +84,54 @@ private:
     Schedule schedule;
 };
 
-// The nodes of a graph, loads included, in the order of recursive bisection.
+// The units of a graph, loads included, in the order of recursive bisection.
 class Bisection {
 public:
-    explicit Bisection(const Graph& source)
-        : graph(source), consumers(source.nodes().size()), part(source.nodes().size(), -1) {
-        const std::vector<NodeId> all = graph.aliveNodes();
-        for (NodeId id : all) {
-            for (NodeId operand : operands(graph.node(id))) consumers[operand].push_back(id);
+    explicit Bisection(const Units& source) : units(source), consumers(source.count()), part(source.count(), -1) {
+        std::vector<std::size_t> all(units.count());
+        std::iota(all.begin(), all.end(), std::size_t{0});
+        for (std::size_t unit : all) {
+            operands.push_back(units.operands(unit));
+            for (std::size_t operand : operands.back()) consumers[operand].push_back(unit);
         }
         cut(all);
     }
 
-    std::vector<NodeId> order;
+    std::vector<std::size_t> order;
 
 private:
-    bool isIn(NodeId id, int label) const { return part[id] == label; }
+    bool isIn(std::size_t unit, int label) const { return part[unit] == label; }
 
-    // Appends these nodes to the order. Their numbers rise.
-    void cut(const std::vector<NodeId>& nodes) {
-        if (nodes.size() == 1) return order.push_back(nodes[0]);
-        const std::vector<std::vector<NodeId>> components = componentsOf(nodes);
+    // Appends these units to the order. Their numbers rise.
+    void cut(const std::vector<std::size_t>& some) {
+        if (some.size() == 1) return order.push_back(some[0]);
+        const std::vector<std::vector<std::size_t>> components = componentsOf(some);
         if (components.size() > 1) {
-            for (const std::vector<NodeId>& component : components) cut(component);
+            for (const std::vector<std::size_t>& component : components) cut(component);
             return;
         }
-        const auto [early, late] = halvesOf(nodes);
+        const auto [early, late] = halvesOf(some);
         cut(early);
         cut(late);
     }
 
-    std::vector<std::vector<NodeId>> componentsOf(const std::vector<NodeId>& nodes) {
+    std::vector<std::vector<std::size_t>> componentsOf(const std::vector<std::size_t>& some) {
         const int here = ++labels;
-        for (NodeId id : nodes) part[id] = here;
-        std::vector<std::vector<NodeId>> components;
-        for (NodeId id : nodes) {
-            if (!isIn(id, here)) continue;
+        for (std::size_t unit : some) part[unit] = here;
+        std::vector<std::vector<std::size_t>> components;
+        for (std::size_t unit : some) {
+            if (!isIn(unit, here)) continue;
             const int label = ++labels;
-            std::vector<NodeId> component{id};
-            part[id] = label;
+            std::vector<std::size_t> component{unit};
+            part[unit] = label;
             for (std::size_t i = 0; i < component.size(); ++i) {
-                const auto visit = [&](NodeId next) {
+                const auto visit = [&](std::size_t next) {
                     if (!isIn(next, here)) return;
                     part[next] = label;
                     component.push_back(next);
                 };
-                for (NodeId operand : operands(graph.node(component[i]))) visit(operand);
-                for (NodeId consumer : consumers[component[i]]) visit(consumer);
+                for (std::size_t operand : operands[component[i]]) visit(operand);
+                for (std::size_t consumer : consumers[component[i]]) visit(consumer);
             }
             std::ranges::sort(component);
             components.push_back(std::move(component));
@@ -133,50 +139,55 @@ private:
         return components;
     }
 
-    // The early half and the late half of connected nodes. Layers are taken alternately from the inputs and from the
-    // outputs until no node is left.
-    std::pair<std::vector<NodeId>, std::vector<NodeId>> halvesOf(const std::vector<NodeId>& nodes) {
+    // The early half and the late half of connected units. Layers are taken alternately from the inputs and from the
+    // outputs until no unit is left.
+    std::pair<std::vector<std::size_t>, std::vector<std::size_t>> halvesOf(const std::vector<std::size_t>& some) {
         const int open = ++labels, early = ++labels, late = ++labels;
-        for (NodeId id : nodes) part[id] = open;
-        std::size_t left = nodes.size();
+        for (std::size_t unit : some) part[unit] = open;
+        std::size_t left = some.size();
         const auto takeLayer = [&](int label, auto&& isReady) {
-            std::vector<NodeId> layer;
-            for (NodeId id : nodes) {
-                if (isIn(id, open) && isReady(id)) layer.push_back(id);
+            std::vector<std::size_t> layer;
+            for (std::size_t unit : some) {
+                if (isIn(unit, open) && isReady(unit)) layer.push_back(unit);
             }
-            for (NodeId id : layer) part[id] = label;
+            for (std::size_t unit : layer) part[unit] = label;
             left -= layer.size();
         };
         while (left > 0) {
-            takeLayer(early, [&](NodeId id) {
-                return std::ranges::none_of(operands(graph.node(id)),
-                                            [&](NodeId x) { return isIn(x, open) || isIn(x, late); });
+            takeLayer(early, [&](std::size_t unit) {
+                return std::ranges::none_of(operands[unit],
+                                            [&](std::size_t x) { return isIn(x, open) || isIn(x, late); });
             });
-            takeLayer(late, [&](NodeId id) {
-                return std::ranges::none_of(consumers[id], [&](NodeId x) { return isIn(x, open) || isIn(x, early); });
+            takeLayer(late, [&](std::size_t unit) {
+                return std::ranges::none_of(consumers[unit],
+                                            [&](std::size_t x) { return isIn(x, open) || isIn(x, early); });
             });
         }
-        std::pair<std::vector<NodeId>, std::vector<NodeId>> halves;
-        for (NodeId id : nodes) (isIn(id, early) ? halves.first : halves.second).push_back(id);
+        std::pair<std::vector<std::size_t>, std::vector<std::size_t>> halves;
+        for (std::size_t unit : some) (isIn(unit, early) ? halves.first : halves.second).push_back(unit);
         return halves;
     }
 
-    const Graph& graph;
-    PerNode<std::vector<NodeId>> consumers;
-    PerNode<int> part;  // for each node, the label of the set it was put into last
+    const Units& units;
+    std::vector<std::vector<std::size_t>> operands, consumers;
+    std::vector<int> part;  // for each unit, the label of the set it was put into last
     int labels = 0;
 };
 
-Schedule inOrder(const Graph& graph, const std::vector<NodeId>& nodes) {
-    Writer writer(graph);
-    for (NodeId id : nodes) writer.operation(id);
+}  // namespace
+
+Schedule byBisection(const Graph& graph, Unit unit) {
+    const Units units(graph, unit);
+    Writer writer(graph, units);
+    for (std::size_t next : Bisection(units).order) writer.operations(next);
     return writer.take();
 }
 
-}  // namespace
-
-Schedule byBisection(const Graph& graph) { return inOrder(graph, Bisection(graph).order); }
-
-Schedule blockByBlock(const Graph& graph) { return inOrder(graph, graph.aliveNodes()); }
+Schedule blockByBlock(const Graph& graph, Unit unit) {
+    const Units units(graph, unit);
+    Writer writer(graph, units);
+    for (std::size_t next = 0; next < units.count(); ++next) writer.operations(next);
+    return writer.take();
+}
 
 }  // namespace gen

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "graph/graph.h"
+#include "graph/units.h"
 
 namespace gen {
 
@@ -24,12 +24,14 @@ struct Schedule {
 
 // Block by block as constructed: the steps in their order of insertion, each load right before its first use, each
 // store as soon as its value is computed and all loads are done.
-Schedule blockByBlock(const Graph& graph);
+//
+// Both orders take single nodes or pairs. The loads, steps and stores of a pair that stays together follow each other.
+Schedule blockByBlock(const Graph& graph, Unit unit = Unit::Node);
 
 // Recursive bisection. Components of the graph that are not connected come one after the other. A connected component
 // is cut in two halves between its inputs and its outputs, and each half is ordered in the same way. So few values wait
 // at a time, whatever the number of registers is. The idea is that of M. Frigo, A fast Fourier transform compiler, PLDI
 // 1999.
-Schedule byBisection(const Graph& graph);
+Schedule byBisection(const Graph& graph, Unit unit = Unit::Node);
 
 }  // namespace gen

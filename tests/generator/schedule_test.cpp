@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "output/catalogue.h"
 
 namespace test {
@@ -42,6 +44,47 @@ TEST_P(ScheduleTest, HoldsEveryStepOnceAndInAPossibleOrder) {
     const auto graph = GetParam().build();
     expectPossible(*graph, blockByBlock(*graph));
     expectPossible(*graph, byBisection(*graph));
+    expectPossible(*graph, blockByBlock(*graph, Unit::Pair));
+    expectPossible(*graph, byBisection(*graph, Unit::Pair));
+}
+
+// Of each pair whose nodes are both needed, whether the two steps follow each other, and whether the two stores do if
+// either node has one output.
+struct Together {
+    int steps = 0, apart = 0, stores = 0, storesApart = 0;
+};
+
+Together togetherIn(const Graph& graph, const Schedule& schedule) {
+    PerNode<int> placeOf(graph.nodes().size(), -1), storeOf(graph.nodes().size(), -1);
+    for (std::size_t i = 0; i < schedule.steps.size(); ++i) {
+        const Step& step = schedule.steps[i];
+        (step.kind == Step::Kind::Store ? storeOf : placeOf)[step.node] = static_cast<int>(i);
+    }
+    const PerNode<bool> alive = graph.alive();
+    Together result;
+    for (const Pair& pair : graph.pairs()) {
+        if (!alive[pair.re] || !alive[pair.im]) continue;
+        const auto isApart = [&](const PerNode<int>& places) {
+            return std::abs(places[pair.re] - places[pair.im]) != 1;
+        };
+        ++result.steps;
+        result.apart += isApart(placeOf);
+        if (storeOf[pair.re] < 0 || storeOf[pair.im] < 0) continue;
+        ++result.stores;
+        result.storesApart += isApart(storeOf);
+    }
+    return result;
+}
+
+// No graph has pairs that wait for each other.
+TEST_P(ScheduleTest, KeepsPairsTogether) {
+    const auto graph = GetParam().build();
+    for (const Schedule& schedule : {blockByBlock(*graph, Unit::Pair), byBisection(*graph, Unit::Pair)}) {
+        const Together found = togetherIn(*graph, schedule);
+        EXPECT_EQ(found.apart, 0);
+        EXPECT_EQ(found.storesApart, 0);
+        EXPECT_TRUE(found.stores > 0 || GetParam().family->word != "complex");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ScheduleTest, testing::ValuesIn(allGraphs()),
@@ -83,6 +126,21 @@ TEST(Schedule, BisectionKeepsATreeTogether) {
     graph.store(0, level[0]);
     EXPECT_EQ(blockByBlock(graph).mostAlive, 8);
     EXPECT_LE(byBisection(graph).mostAlive, 5);
+}
+
+// Each of two pairs takes a value of the other: both cannot stay together.
+TEST(Schedule, TakesAPairApartWhereTwoWaitForEachOther) {
+    Graph graph;
+    const Value a = graph.load(0), b = graph.load(1);
+    const Value firstRe = a + b, secondRe = firstRe + a, secondIm = a - b, firstIm = secondIm - a;
+    graph.pair(firstRe, firstIm);
+    graph.pair(secondRe, secondIm);
+    graph.store(0, secondRe);
+    graph.store(1, firstIm);
+    for (const Schedule& schedule : {blockByBlock(graph, Unit::Pair), byBisection(graph, Unit::Pair)}) {
+        expectPossible(graph, schedule);
+        EXPECT_EQ(togetherIn(graph, schedule).apart, 1);
+    }
 }
 
 TEST(Schedule, StoresAnInputThatIsAnOutput) {

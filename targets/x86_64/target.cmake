@@ -50,6 +50,9 @@ set(fast_kernel_texts
     kernels/hartley/dht_46.h
     kernels/hartley/dht_56.h)
 
+# The passes of the DCT-IV.
+set(dct4_run_compile_flags ${kernel_compile_flags} -flive-range-shrinkage)  # fewer spills in long rows
+
 # Long kernels. An access by the frame pointer takes a byte less than one by the stack pointer. Fewer values are kept in
 # memory. The launcher uses the registers that are left to it for shorter displacements.
 set(long_kernel_steps 1200)

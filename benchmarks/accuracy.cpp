@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -359,11 +360,17 @@ void measureDct4(int length) {
     judge.print();
 }
 
+// All routines, or the DFT and Hartley transforms and the DCT-IV of some lengths.
 template <class Element>
-void measureAll() {
-    for (int length = 2; length <= 64; ++length) measureDft<Element>(length);
-    for (int order = 1; order <= 13; ++order) measureWalshHadamard<Element>(order);
-    for (int length = 2; length <= 65536; length *= 2) measureDct4<Element>(length);
+void measureAll(const std::set<int>& lengths) {
+    const auto isMeasured = [&](int length) { return lengths.empty() || lengths.contains(length); };
+    for (int length = 2; length <= 64; ++length) {
+        if (isMeasured(length)) measureDft<Element>(length);
+    }
+    for (int order = 1; order <= 13 && lengths.empty(); ++order) measureWalshHadamard<Element>(order);
+    for (int length = 2; length <= 65536; length *= 2) {
+        if (isMeasured(length)) measureDct4<Element>(length);
+    }
 }
 
 }  // namespace
@@ -372,7 +379,9 @@ int main(int argc, char** argv) {
     if (!accuracy::definitionsHold()) return 1;
     if (argc > 1 && std::strcmp(argv[1], "--check") == 0) return 0;
     if (argc > 1) trialsOfEach = std::atoi(argv[1]);
-    if (trialsOfEach < 1) return std::fputs("accuracy [TRIALS] | --check\n", stderr), 1;
-    measureAll<double>();
-    measureAll<float>();
+    if (trialsOfEach < 1) return std::fputs("accuracy [TRIALS [LENGTH ...]] | --check\n", stderr), 1;
+    std::set<int> lengths;
+    for (int i = 2; i < argc; ++i) lengths.insert(std::atoi(argv[i]));
+    measureAll<double>(lengths);
+    measureAll<float>(lengths);
 }

@@ -94,26 +94,26 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
 
                                           64f, times 2^-53            32f, times 2^-24
                                       factor 1      any flag      factor 1      any flag
-     complex, no prime from 11 up      1.63  3.69    2.32  4.35    0.47  1.00    1.06  1.53
+     complex, no prime from 11 up      1.63  3.69    2.31  4.35    0.47  1.00    1.06  1.53
      complex, a prime from 11 up       2.79  4.48    2.89  4.73    0.43  0.79    1.03  1.29
-     real, forward                     2.72  4.43    2.85  4.74    0.47  1.00    1.06  1.70
-     real, inverse                     2.78  4.87    2.88  5.18    0.47  1.00    1.07  1.67
-     Hartley                           2.78  4.57    2.92  5.17    0.47  1.00    1.07  1.68
-     Walsh-Hadamard, orders 1 to 7     1.22  2.01    1.52  2.93    0.47  1.00    0.52  1.28
-     Walsh-Hadamard, orders 8 to 11    1.52  1.65    1.77  1.96    0.61  0.74    0.67  0.80
-     Walsh-Hadamard, orders 12 and 13  1.66  1.71    1.89  1.96    0.74  0.78    0.79  0.83
-     DCT-IV, 2 to 32 points            1.60  4.16                  0.92  1.72
-     DCT-IV, 64 to 2048 points         2.26  2.68                  1.32  1.81
-     DCT-IV, 4096 to 65536 points      2.96  2.98                  1.40  1.41
+     real, forward                     2.72  4.64    2.81  4.92    0.47  1.00    1.06  1.70
+     real, inverse                     2.74  4.87    2.84  5.18    0.47  1.00    1.06  1.67
+     Hartley                           2.78  4.71    2.87  5.17    0.47  1.00    1.06  1.68
+     Walsh-Hadamard, orders 1 to 7     1.22  2.12    1.52  2.93    0.47  1.00    0.52  1.28
+     Walsh-Hadamard, orders 8 to 11    1.52  1.65    1.77  1.99    0.61  0.74    0.67  0.80
+     Walsh-Hadamard, orders 12 and 13  1.66  1.71    1.89  1.97    0.74  0.78    0.79  0.83
+     DCT-IV, 2 to 32 points            1.59  3.90                  0.91  1.72
+     DCT-IV, 64 to 2048 points         2.26  2.84                  1.32  1.87
+     DCT-IV, 4096 to 65536 points      2.96  3.00                  1.40  1.43
 
    Factor 1 stands for the flags that leave the result as it is, such as 8. Any flag takes in the rounding of the
    factors 1/N and 1/sqrt(N), which are stored as elements, and of the product. The DCT-IV has no factor.
 
      N               2     4     8    16    32    64   128   256   512  1024  2048  4096  8192 16384 32768 65536
-     64f pooled   0.65  1.22  1.38  1.60  1.58  1.73  1.87  1.97  2.08  2.16  2.26  2.43  2.63  2.77  2.90  2.96
-         worst    1.91  3.63  3.79  4.16  3.12  2.68  2.60  2.54  2.49  2.43  2.43  2.55  2.72  2.82  2.93  2.98
-     32f pooled   0.68  0.81  0.65  0.76  0.92  1.27  1.29  1.32  1.31  1.17  1.16  1.35  1.29  1.33  1.39  1.40
-         worst    1.48  1.72  1.52  1.54  1.47  1.81  1.71  1.61  1.53  1.30  1.25  1.39  1.32  1.35  1.41  1.41
+     64f pooled   0.65  1.19  1.38  1.59  1.56  1.73  1.86  1.97  2.08  2.16  2.26  2.43  2.63  2.77  2.90  2.96
+         worst    1.91  3.63  3.90  3.61  3.04  2.84  2.60  2.54  2.49  2.43  2.45  2.59  2.73  2.84  2.95  3.00
+     32f pooled   0.65  0.79  0.65  0.76  0.91  1.25  1.29  1.32  1.31  1.17  1.16  1.35  1.29  1.33  1.39  1.40
+         worst    1.48  1.72  1.52  1.60  1.51  1.87  1.71  1.61  1.53  1.30  1.25  1.43  1.34  1.37  1.42  1.42
 
    In 32f, the DFT and Hartley transforms compute in double and round once, at the store. Walsh-Hadamard orders 8 to 11
    round once more, and 12 and 13 twice more, when they write to the buffer. A DCT-IV from 64 points on rounds once more

@@ -1,4 +1,4 @@
-// The DCT-IV through the boundary: values, accuracy, arrays, lengths that are accepted by accident, statuses, and what
+// The DCT-IV through the boundary: values, accuracy, arrays, lengths beside powers of two, statuses, and what
 // is asked of the core library.
 #include <gtest/gtest.h>
 

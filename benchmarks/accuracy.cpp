@@ -4,13 +4,14 @@
 //     pooled   the root of all squared errors over all squared results, over all inputs
 //     worst    the greatest error of one call
 //
-// Inputs are normally distributed, at a scale drawn anew from one octave: the error of a rounding depends on where the
-// value lies between two powers of two. The factor that a flag stands for counts as the exact one, so that the rounding
-// of the stored factor is part of the error.
+// Inputs are normally distributed. Each input is multiplied by a factor between sqrt(1/2) and sqrt(2), drawn anew,
+// because the error of a rounding depends on where the value lies between two powers of two. Results are compared with
+// those of the exact scale factor, 1/N or 1/sqrt(N), so that the rounding of the stored factor is part of the error.
 //
-//     accuracy [TRIALS]    inputs for each routine (100000); prints a line for each routine, flag and way of rounding:
-//                          family, element, length, flag, registers, inputs, pooled, worst
-//     accuracy --check     holds the references against the definitions, and does nothing else
+//     accuracy [TRIALS [LENGTH ...]]    inputs for each routine (100000), and the lengths if not all; prints a line for
+//                                       each routine, flag and way of rounding: family, element, length, flag,
+//                                       registers, inputs, pooled, worst
+//     accuracy --check                  holds the references against the definitions, and does nothing else
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -164,7 +165,8 @@ private:
     std::vector<Figures> figures;
 };
 
-// What is due of the DFT families of one length, unscaled. In double by the sums of the definition.
+// The results that the DFT and Hartley routines of one length must give at factor 1. For double elements they are the
+// sums of the definition, in long double.
 class WideReference {
 public:
     using Due = Wide;

@@ -59,7 +59,7 @@ std::unique_ptr<Graph> realForwardTransform(int length) {
     return turned(merged(std::move(graph)), realForwardRecipe(length).turned);
 }
 
-// Each interior bin stands for itself and its conjugate, so that its parts are doubled first.
+// The bins between 0 and N/2 are doubled first: each of them takes part in a result together with its conjugate.
 std::unique_ptr<Graph> realInverseTransform(int length) {
     auto graph = std::make_unique<Graph>();
     const InBlock block(*graph, {BlockKind::DoubledBins, length});

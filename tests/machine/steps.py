@@ -81,7 +81,9 @@ def stored_twos(library, instructions):
             continue
         address = int(place[1] or place[2], 16)
         for pattern, layout, width in ((machine.READS_SINGLE, "<f", 32), (machine.READS_DOUBLE, "<d", 64)):
-            if pattern.match(instruction.mnemonic) and struct.unpack(layout, library.bytes(address, width // 8)) == (2,):
+            if not pattern.match(instruction.mnemonic):
+                continue
+            if struct.unpack(layout, library.bytes(address, width // 8)) == (2,):
                 widths.add(width)
     return widths
 

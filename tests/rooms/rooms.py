@@ -43,8 +43,8 @@ def faults_of(folder, rooms):
             if file.suffix not in (".h", ".cpp", ".S", ".inc", ".rc"):
                 continue
             files += 1
-            faults += [f"{file.relative_to(folder)} includes {included}: {room} may include {', '.join(sorted(allowed))}"
-                       for included, other in includes(file) if other not in allowed]
+            faults += [f"{file.relative_to(folder)} includes {included}; {room} may include only "
+                       + ", ".join(sorted(allowed)) for included, other in includes(file) if other not in allowed]
     return files, faults
 
 

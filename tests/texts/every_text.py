@@ -18,7 +18,8 @@ def main():
         program = '#include "tests/texts/texts_test.h"\n'
         for text in texts[first:first + TEXTS_AT_ONCE]:
             graph = re.search(r"^struct (\w+<\d+>) \{$", text.read_text(encoding="ascii"), re.MULTILINE)[1]
-            program += f'#include "{text.relative_to(source)}"\ntemplate test::TextResults test::runText<zulg::{graph}>();\n'
+            program += f'#include "{text.relative_to(source)}"\n'
+            program += f"template test::TextResults test::runText<zulg::{graph}>();\n"
         done = subprocess.run([compiler, "-std=c++20", "-fsyntax-only", "-Wno-psabi", f"-I{source}", "-xc++", "-"],
                               input=program, capture_output=True, text=True)
         if done.returncode != 0:

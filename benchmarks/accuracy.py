@@ -154,9 +154,10 @@ INTRODUCTION = """\
 
 Relative L2 errors, in units of 2^-53 for 64f and 2^-24 for 32f. Each cell has two figures. *Pooled* is the root of all
 squared errors over all squared results, over all inputs. *Worst* is the greatest error of a single call: what {inputs}
-inputs to each routine have shown (2^28/N from 4096 points on), and no bound. Inputs are normally distributed; the scale
-of each is drawn from one octave. *Factor 1*: the flag is 8. *Any flag*: the greatest figure of all four flags, against
-the exact factor, so that the rounding of the stored factor and of the product are part of the error.
+inputs to each routine have shown (2^28/N from 4096 points on), and no bound. Inputs are normally distributed; each
+is multiplied by a factor between sqrt(1/2) and sqrt(2), drawn anew. *Factor 1*: the flag is 8. *Any flag*: the greatest
+figure of all four flags, beside results of the exact factor, so that the rounding of the stored factor and of the
+product are part of the error.
 
 The layouts of a real spectrum give the same bits; Pack is measured. On 32-bit Windows the registers of the processor
 are wider than a double, unless the program has set them to round to double; both are measured.

@@ -5,7 +5,8 @@
 //               tables.cpp    fills the twiddle table of each second pass
 //     Free      release.cpp   gives everything back
 //     dct4      run.cpp       chooses a direct body, or the two passes
-//               fold.cpp      the first pass, with the splits below it
+//               fold.cpp      the first pass, of a plan or of a split
+//               split.cpp     one sequence that is too long for a body, by both passes of a split
 //               combine.cpp   the second pass of a split
 //               output.cpp    the second pass of a plan
 //

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
 
-#include "kernel/platform.h"
+#include "kernel/doubles.h"
 
 namespace zulg {
 
@@ -27,5 +28,10 @@ private:
 
     const double* const table = inRegister(Graph::constants + middle);
 };
+
+// Near a register in kernels of so many steps and more; in shorter ones each constant has an address of its own.
+template <class Graph, int longSteps>
+using NearConstantsIfLong =
+    std::conditional_t<(Graph::steps >= longSteps), NearConstants<Graph>, Doubles::Constants<Graph>>;
 
 }  // namespace zulg

@@ -1,8 +1,6 @@
 // Numbers on x86-64: one double to a register of the vector unit.
 #pragma once
 
-#include <type_traits>
-
 #include "kernel/doubles.h"
 #include "kernel/near_constants.h"
 
@@ -17,7 +15,7 @@ struct TargetNumbers : Doubles {
     // the time: a constant near a register saves 3 bytes a product over one with an address of its own. A short kernel
     // gains nothing or loses.
     template <class Graph>
-    using Constants = std::conditional_t<(Graph::steps >= 1200), NearConstants<Graph>, Doubles::Constants<Graph>>;
+    using Constants = NearConstantsIfLong<Graph, 1200>;
 };
 
 }  // namespace ZULG_TARGET

@@ -1,8 +1,6 @@
 // Numbers on the x87 unit: its registers are wider than a double.
 #pragma once
 
-#include <type_traits>
-
 #include "kernel/doubles.h"
 #include "kernel/near_constants.h"
 
@@ -15,7 +13,7 @@ inline namespace ZULG_TARGET {
 struct TargetNumbers : Doubles {
     // Constants near a register make long kernels 5 % smaller.
     template <class Graph>
-    using Constants = std::conditional_t<(Graph::steps >= 1200), NearConstants<Graph>, Doubles::Constants<Graph>>;
+    using Constants = NearConstantsIfLong<Graph, 1200>;
 };
 
 }  // namespace ZULG_TARGET

@@ -41,8 +41,7 @@ def main():
     run = []
     if words[:1] == ["--run"]:
         run, words = [words[1]], words[2:]
-    verbs = {"compare": 4, "check": 4, "write": 4}
-    if len(words) < verbs.get(words[0] if words else "", 99):
+    if len(words) < 4 or words[0] not in ("compare", "check", "write"):
         sys.exit(__doc__.strip())
     verb, program, library, other, *kinds = words
     kinds = kinds or ["moderate", "wide", "zeros", "extreme"]

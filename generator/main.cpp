@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "output/catalogue_json.h"
 #include "output/emit.h"
 #include "output/tuning.h"
 
@@ -40,14 +41,17 @@ std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
 std::map<std::string, std::string> allFiles() {
     std::map<std::string, std::string> files;
     std::vector<std::pair<const gen::GraphEntry*, int>> kernelTexts;
+    std::map<std::string, gen::Counts> counts;
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
         const auto graph = entry.build();
         files[entry.file()] = graphText(entry, *graph);
+        counts[entry.name()] = graph->counts();
         if (!entry.family->isBody()) kernelTexts.emplace_back(&entry, gen::stepsOf(entry, *graph));
     }
     files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
     files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
+    files["docs/catalogue.json"] = gen::catalogueJson(gen::allExports(), counts);
     return files;
 }
 

@@ -1,7 +1,5 @@
 #include "output/catalogue.h"
 
-#include <algorithm>
-
 #include "output/recipe_words.h"
 #include "rules/tables.h"
 #include "rules/transforms.h"
@@ -58,13 +56,15 @@ const std::vector<GraphFamily> families = {
      .filePrefix = "dft_",
      .rule = "generator/rules/tables.cpp",
      .title = "Complex DFT of %d points",
-     .exported = {"DFTFwd_CToC", "DFTInv_CToC"},
+     .exported = {{"DFTFwd_CToC", Sense::Forward, Layout::Complex, Layout::Complex},
+                  {"DFTInv_CToC", Sense::Inverse, Layout::Complex, Layout::Complex}},
      .suffixTail = "fc",
      .input = complexPlace,
      .output = complexPlace,
      .allowsNegation = false,
      .lengths = everyLength,
      .recipe = [](int length) { return complexWords(complexRecipe(length)); },
+     .row = complexRecipe,
      .build = complexTransform},
     {.word = "real_forward",
      .graphTemplate = "RealForwardGraph",
@@ -72,13 +72,16 @@ const std::vector<GraphFamily> families = {
      .filePrefix = "rdft_",
      .rule = "generator/rules/tables.cpp",
      .title = "Forward DFT of %d real points",
-     .exported = {"DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm"},
+     .exported = {{"DFTFwd_RToCCS", Sense::Forward, Layout::Real, Layout::CCS},
+                  {"DFTFwd_RToPack", Sense::Forward, Layout::Real, Layout::Pack},
+                  {"DFTFwd_RToPerm", Sense::Forward, Layout::Real, Layout::Perm}},
      .suffixTail = "f",
      .input = realInput,
      .output = complexPlace,
      .allowsNegation = true,
      .lengths = everyLength,
      .recipe = [](int length) { return realWords(realForwardRecipe(length)); },
+     .row = realForwardRecipe,
      .build = realForwardTransform},
     {.word = "real_inverse",
      .graphTemplate = "RealInverseGraph",
@@ -86,13 +89,16 @@ const std::vector<GraphFamily> families = {
      .filePrefix = "rdft_",
      .rule = "generator/rules/tables.cpp",
      .title = "Inverse DFT to %d real points",
-     .exported = {"DFTInv_CCSToR", "DFTInv_PackToR", "DFTInv_PermToR"},
+     .exported = {{"DFTInv_CCSToR", Sense::Inverse, Layout::CCS, Layout::Real},
+                  {"DFTInv_PackToR", Sense::Inverse, Layout::Pack, Layout::Real},
+                  {"DFTInv_PermToR", Sense::Inverse, Layout::Perm, Layout::Real}},
      .suffixTail = "f",
      .input = complexPlace,
      .output = realOutput,
      .allowsNegation = false,
      .lengths = everyLength,
      .recipe = [](int length) { return realWords(realInverseRecipe(length)); },
+     .row = realInverseRecipe,
      .build = realInverseTransform},
     {.word = "hartley",
      .graphTemplate = "HartleyGraph",
@@ -100,13 +106,14 @@ const std::vector<GraphFamily> families = {
      .filePrefix = "dht_",
      .rule = "generator/rules/tables.cpp",
      .title = "Hartley transform of %d points",
-     .exported = {"Hartley"},
+     .exported = {{"Hartley", Sense::Both, Layout::Real, Layout::Real}},
      .suffixTail = "f",
      .input = realInput,
      .output = realOutput,
      .allowsNegation = false,
      .lengths = everyLength,
-     .recipe = [](int length) { return hartleyWords(length); },
+     .recipe = hartleyWords,
+     .row = hartleyRecipe,
      .build = hartleyTransform},
     {.word = "wht",
      .graphTemplate = "WhtBlock",
@@ -121,6 +128,7 @@ const std::vector<GraphFamily> families = {
      .allowsNegation = false,
      .lengths = [] { return powersOfTwo(2, 128); },
      .recipe = [](int) { return std::string("stages in rising stride"); },
+     .row = nullptr,
      .build = walshHadamardTransform},
     {.word = "dct4_fold",
      .graphTemplate = "Dct4Fold",
@@ -135,6 +143,7 @@ const std::vector<GraphFamily> families = {
      .allowsNegation = true,  // at length 2 the second output is an input with its sign changed
      .lengths = [] { return powersOfTwo(2, 64); },
      .recipe = [](int) { return std::string("decimation in time"); },
+     .row = nullptr,
      .build = dct4FoldTransform},
     {.word = "dct4_output",
      .graphTemplate = "Dct4Output",
@@ -149,6 +158,7 @@ const std::vector<GraphFamily> families = {
      .allowsNegation = false,
      .lengths = [] { return powersOfTwo(1, 32); },
      .recipe = [](int) { return std::string("rotations by the table, then a mirrored skew transform"); },
+     .row = nullptr,
      .build = dct4OutputRow},
     {.word = "dct4_combine",
      .graphTemplate = "Dct4Combine",
@@ -167,6 +177,7 @@ const std::vector<GraphFamily> families = {
              if (combineTable(radix).outer == 0) return std::string("rotations by the table, then a DFT");
              return "rotations and DFTs of " + std::to_string(radix / 4) + ", then of 4";
          },
+     .row = nullptr,
      .build = dct4CombineRow},
     {.word = "dct4_direct",
      .graphTemplate = "Dct4Direct",
@@ -184,14 +195,9 @@ const std::vector<GraphFamily> families = {
          [](int length) {
              return std::string(length == 2 ? "one rotation" : length == 4 ? "rotations by lifting" : "two passes");
          },
+     .row = nullptr,
      .build = dct4DirectTransform},
 };
-
-struct Width {
-    const char* digits;
-    const char* element;
-};
-constexpr Width widths[] = {{"32", "float"}, {"64", "double"}};
 
 std::vector<GraphEntry> listGraphs() {
     std::vector<GraphEntry> graphs;
@@ -201,68 +207,9 @@ std::vector<GraphEntry> listGraphs() {
     return graphs;
 }
 
-// The fixed-length kernels of one graph.
-void addKernels(const GraphEntry& graph, std::vector<Export>& exports) {
-    const std::string length = std::to_string(graph.length);
-    for (const std::string& family : graph.family->exported) {
-        for (const Width& width : widths) {
-            const std::string suffix = width.digits + graph.family->suffixTail;
-            exports.push_back({"zulg" + family + "_" + length + "_" + suffix,
-                               "kernel<Family::" + family + ", " + length + ", " + width.element + ">", 12,
-                               "const Zulg" + suffix + "* pSrc, Zulg" + suffix + "* pDst, int32_t flag"});
-        }
-    }
-}
-
-// The length dispatchers of one family of graphs.
-void addDispatchers(const GraphFamily& graphs, std::vector<Export>& exports) {
-    for (const std::string& family : graphs.exported) {
-        for (const Width& width : widths) {
-            const std::string suffix = width.digits + graphs.suffixTail;
-            exports.push_back(
-                {"zulg" + family + "_" + suffix, "dispatch<Family::" + family + ", " + width.element + ">", 16,
-                 "const Zulg" + suffix + "* pSrc, Zulg" + suffix + "* pDst, int32_t length, int32_t flag"});
-        }
-    }
-}
-
-// Walsh-Hadamard: a kernel for each order, the dispatcher, the size of the buffer.
-void addWht(std::vector<Export>& exports) {
-    for (const Width& width : widths) {
-        const std::string suffix = std::string("_") + width.digits + "f",
-                          type = std::string("Zulg") + width.digits + "f";
-        const std::string element = std::string("<") + width.element + ">";
-        const std::string arrays = "const " + type + "* pSrc, " + type + "* pDst, ";
-        for (int order = 1; order <= 13; ++order) {
-            const std::string number = std::to_string(order);
-            exports.push_back({"zulgWHT_" + number + suffix, "wht<" + number + ", " + width.element + ">", 16,
-                               arrays + "int32_t flag, " + type + "* pBuffer"});
-        }
-        exports.push_back({"zulgWHT" + suffix, "whtDispatch" + element, 20,
-                           arrays + "int32_t order, int32_t flag, " + type + "* pBuffer"});
-        exports.push_back(
-            {"zulgWHTGetBufferSize" + suffix, "whtGetBufferSize" + element, 8, "int32_t order, int32_t* pSize"});
-    }
-}
-
-// DCT-IV: the transform through a plan, and the life of a plan.
-void addDct4(std::vector<Export>& exports) {
-    for (const Width& width : widths) {
-        const std::string suffix = std::string("_") + width.digits + "f",
-                          type = std::string("Zulg") + width.digits + "f";
-        const std::string element = std::string("<") + width.element + ">", plan = "ZulgDCT4Plan" + suffix + "*";
-        exports.push_back({"zulgDCT4" + suffix, "dct4" + element, 12,
-                           "const " + type + "* pSrc, " + type + "* pDst, " + plan + " plan"});
-        exports.push_back({"zulgDCT4Free" + suffix, "dct4Free" + element, 4, plan + " plan"});
-        exports.push_back({"zulgDCT4GetSize" + suffix, "dct4GetSize" + element, 8, "int32_t length, int32_t* pSize"});
-        exports.push_back(
-            {"zulgDCT4Init" + suffix, "dct4Init" + element, 12, plan + "* pPlan, int32_t length, uint8_t* pBuffer"});
-        exports.push_back(
-            {"zulgDCT4InitAlloc" + suffix, "dct4InitAlloc" + element, 8, plan + "* pPlan, int32_t length"});
-    }
-}
-
 }  // namespace
+
+const std::vector<GraphFamily>& allFamilies() { return families; }
 
 std::string GraphEntry::file() const {
     return family->folder + "/" + family->filePrefix + std::to_string(length) + ".h";
@@ -276,16 +223,6 @@ std::string GraphEntry::title() const {
 const std::vector<GraphEntry>& allGraphs() {
     static const std::vector<GraphEntry> graphs = listGraphs();
     return graphs;
-}
-
-std::vector<Export> allExports() {
-    std::vector<Export> exports;
-    for (const GraphEntry& graph : allGraphs()) addKernels(graph, exports);
-    for (const GraphFamily& family : families) addDispatchers(family, exports);
-    addWht(exports);
-    addDct4(exports);
-    std::ranges::sort(exports, {}, &Export::name);
-    return exports;
 }
 
 }  // namespace gen

@@ -1,4 +1,4 @@
-// The list of everything that is generated and exported. Nothing else in the generator spells an exported name.
+// The list of every graph of which a text is written.
 #pragma once
 
 #include <memory>
@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "graph/graph.h"
+#include "rules/tables.h"
 
 namespace gen {
 
@@ -13,6 +14,19 @@ namespace gen {
 struct Port {
     std::string value, port;
     int number;
+};
+
+// Which of the two transforms of a pair it is; Both where one transform is its own inverse, up to scale.
+enum class Sense { Forward, Inverse, Both };
+
+// How an array holds its numbers. The last three are half spectra.
+enum class Layout { Complex, Real, CCS, Pack, Perm };
+
+// An exported family of kernels, which runs one family of graphs.
+struct KernelFamily {
+    std::string name;  // "DFTFwd_CToC"
+    Sense sense;
+    Layout source, destination;
 };
 
 // A family of graphs, which has one graph for each length. Either the kernels of one or more exported families run the
@@ -23,14 +37,15 @@ struct GraphFamily {
     std::string folder, filePrefix;         // of <folder>/<filePrefix><length>.cpp, or .h for a body
     std::string rule;                       // the file to edit for a change
     std::string title;                      // "Complex DFT of %d points", where %d is the length
-    std::vector<std::string> exported;      // "DFTFwd_CToC", ...; none for a body
+    std::vector<KernelFamily> exported;     // none for a body
     std::string suffixTail;                 // of the element suffix: "fc" for complex elements, "f" for real ones
     Port (*input)(int length, int index);   // of each input of the graph
     Port (*output)(int length, int index);  // of each output
     bool allowsNegation;                    // whether an output may be stored with its sign changed
 
     std::vector<int> (*lengths)();
-    std::string (*recipe)(int length);
+    std::string (*recipe)(int length);  // in words
+    const Recipe& (*row)(int length);   // of the tables; null where no table has a row
     std::unique_ptr<Graph> (*build)(int length);
 
     bool isBody() const { return exported.empty(); }
@@ -48,18 +63,7 @@ struct GraphEntry {
     std::unique_ptr<Graph> build() const { return family->build(length); }
 };
 
-// One exported routine: its exported name, its name in the library's own sources, and the size of its arguments.
-struct Export {
-    std::string name;
-    std::string routine;
-    int argumentBytes;
-    std::string parameters;  // as the public header declares them
-};
-
+const std::vector<GraphFamily>& allFamilies();
 const std::vector<GraphEntry>& allGraphs();
-
-// In the ASCII order of the names, which is the order of ordinals and slots. The version call is not among them: it has
-// no slot, and its ordinal is the last.
-std::vector<Export> allExports();
 
 }  // namespace gen

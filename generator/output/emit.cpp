@@ -76,6 +76,12 @@ std::string operationText(const Node& node, const Names& names) {
     throw std::logic_error("a load is no operation");
 }
 
+std::string joined(const std::vector<std::string>& items) {
+    std::string text;
+    for (const std::string& item : items) text += (text.empty() ? "" : ", ") + item;
+    return text;
+}
+
 std::string loadText(const Port& port) { return "io." + port.port + "(" + to_string(port.number) + ")"; }
 
 // A store: io.re(3, t7); or, where the output has a minus, io.minusRe(3, t7);
@@ -192,7 +198,7 @@ std::string emitTexts(const std::vector<std::pair<const GraphEntry*, int>>& text
         "set(kernel_texts";
     for (const auto& [entry, steps] : texts) {
         text += "\n    \"" + entry->file() + " " + to_string(entry->length) + " " + to_string(steps);
-        for (const std::string& family : entry->family->exported) text += " " + family;
+        for (const KernelFamily& family : entry->family->exported) text += " " + family.name;
         text += "\"";
     }
     return text + ")\n";
@@ -205,7 +211,8 @@ std::string emitSlots(const std::vector<Export>& exports) {
         "is\n"
         "   the slot, from 1 the ordinal. */\n";
     for (const Export& entry : exports) {
-        text += "SLOT(" + entry.name + ", (" + entry.routine + "), " + to_string(entry.argumentBytes) + ")\n";
+        text += "SLOT(" + entry.name + ", (" + entry.routine + "<" + joined(entry.routineParameters) + ">), " +
+                to_string(entry.argumentBytes()) + ")\n";
     }
     return text;
 }
@@ -216,7 +223,9 @@ std::string emitRoutines(const std::vector<Export>& exports) {
         "   The routines of the library, one to a line. Included by zulgenpx.h, which tells what each family does. "
         "*/\n";
     for (const Export& entry : exports) {
-        text += "ZulgStatus ZULG_CALL " + entry.name + "(" + entry.parameters + ");\n";
+        std::vector<std::string> parameters;
+        for (const Argument& argument : entry.arguments) parameters.push_back(argument.declaration());
+        text += "ZulgStatus ZULG_CALL " + entry.name + "(" + joined(parameters) + ");\n";
     }
     return text;
 }

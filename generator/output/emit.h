@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "graph/schedule.h"
-#include "output/catalogue.h"
+#include "output/exports.h"
 
 namespace gen {
 

@@ -41,4 +41,15 @@ std::string realWords(const Recipe& recipe) {
 
 std::string hartleyWords(int length) { return hartleyForm(length) == HartleyForm::F ? "form F" : "form I"; }
 
+std::string constructionName(Construction construction) {
+    switch (construction) {
+        case Base: return "base";
+        case Direct: return "direct";
+        case Twiddled: return "twiddled";
+        case PrimeFactor: return "prime-factor";
+        case Rader: return "Rader";
+    }
+    throw std::logic_error("no construction");
+}
+
 }  // namespace gen

@@ -13,4 +13,7 @@ std::string complexWords(const Recipe& recipe);
 std::string realWords(const Recipe& recipe);
 std::string hartleyWords(int length);
 
+// "prime-factor"
+std::string constructionName(Construction construction);
+
 }  // namespace gen

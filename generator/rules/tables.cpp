@@ -279,4 +279,8 @@ HartleyForm hartleyForm(int length) {
 
 bool isHartleyReversed(int length) { return length == 11 || length == 21 || length == 41 || length == 50; }
 
+const Recipe& hartleyRecipe(int length) {
+    return hartleyForm(length) == HartleyForm::F ? realForwardRecipe(length) : realInverseRecipe(length);
+}
+
 }  // namespace gen

@@ -53,5 +53,6 @@ const Recipe& realInverseRecipe(int length);
 enum class HartleyForm { F, I };
 HartleyForm hartleyForm(int length);
 bool isHartleyReversed(int length);
+const Recipe& hartleyRecipe(int length);  // of the real graph inside
 
 }  // namespace gen

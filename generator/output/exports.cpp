@@ -1,0 +1,187 @@
+#include "output/exports.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace gen {
+namespace {
+
+using std::to_string;
+
+struct Width {
+    std::string digits;
+    std::string element;
+    int bytes;
+};
+const std::vector<Width> widths = {{"32", "float", 4}, {"64", "double", 8}};
+
+Argument array(const std::string& name, Use use, const std::string& type, const std::string& elements) {
+    return {name, use, type, elements};
+}
+Argument number(const std::string& name) { return {name, Use::Value, "int32_t"}; }
+Argument buffer(const std::string& type, const std::string& elements) {
+    return {"pBuffer", Use::InOut, type, elements, true};
+}
+Argument size() { return {"pSize", Use::Out, "int32_t"}; }
+
+// The fixed-length kernels of one graph.
+void addKernels(const GraphEntry& graph, std::vector<Export>& exports) {
+    const std::string length = to_string(graph.length);
+    for (const KernelFamily& family : graph.family->exported) {
+        const auto elements = [&](Layout layout) { return to_string(elementsOf(layout, graph.length)); };
+        for (const Width& width : widths) {
+            const std::string suffix = width.digits + graph.family->suffixTail, type = "Zulg" + suffix;
+            exports.push_back(
+                {.name = "zulg" + family.name + "_" + length + "_" + suffix,
+                 .family = family.name,
+                 .elementType = suffix,
+                 .length = graph.length,
+                 .order = {},
+                 .arguments = {array("pSrc", Use::In, type, elements(family.source)),
+                               array("pDst", Use::Out, type, elements(family.destination)), number("flag")},
+                 .routine = "kernel",
+                 .routineParameters = {"Family::" + family.name, length, width.element},
+                 .graph = graph,
+                 .kernelFamily = &family});
+        }
+    }
+}
+
+// The length dispatchers of one family of graphs.
+void addDispatchers(const GraphFamily& graphs, std::vector<Export>& exports) {
+    for (const KernelFamily& family : graphs.exported) {
+        for (const Width& width : widths) {
+            const std::string suffix = width.digits + graphs.suffixTail, type = "Zulg" + suffix;
+            exports.push_back({.name = "zulg" + family.name + "_" + suffix,
+                               .family = family.name,
+                               .elementType = suffix,
+                               .length = {},
+                               .order = {},
+                               .arguments = {array("pSrc", Use::In, type, elementsFormula(family.source)),
+                                             array("pDst", Use::Out, type, elementsFormula(family.destination)),
+                                             number("length"), number("flag")},
+                               .routine = "dispatch",
+                               .routineParameters = {"Family::" + family.name, width.element},
+                               .graph = {},
+                               .kernelFamily = &family});
+        }
+    }
+}
+
+// The body that the kernel of an order runs once; there is none for the orders that work through a buffer.
+std::optional<GraphEntry> whtGraph(int order) {
+    for (const GraphEntry& entry : allGraphs()) {
+        if (entry.family->word == "wht" && entry.length == 1 << order) return entry;
+    }
+    return {};
+}
+
+// Walsh-Hadamard: a kernel for each order, the dispatcher, the size of the buffer.
+void addWht(std::vector<Export>& exports) {
+    for (const Width& width : widths) {
+        const std::string suffix = width.digits + "f", type = "Zulg" + suffix;
+        Export base{.name = {},
+                    .family = "WHT",
+                    .elementType = suffix,
+                    .length = {},
+                    .order = {},
+                    .arguments = {},
+                    .routine = {},
+                    .routineParameters = {width.element},
+                    .graph = {}};
+        for (int order = firstWhtOrder; order <= lastWhtOrder; ++order) {
+            const std::string points = to_string(1 << order);
+            Export kernel = base;
+            kernel.name = "zulgWHT_" + to_string(order) + "_" + suffix;
+            kernel.order = order;
+            kernel.arguments = {array("pSrc", Use::In, type, points), array("pDst", Use::Out, type, points),
+                                number("flag"),
+                                buffer(type, to_string(whtBufferBytes(order, width.bytes) / width.bytes))};
+            kernel.routine = "wht";
+            kernel.routineParameters = {to_string(order), width.element};
+            kernel.graph = whtGraph(order);
+            exports.push_back(kernel);
+        }
+        Export dispatcher = base;
+        dispatcher.name = "zulgWHT_" + suffix;
+        dispatcher.arguments = {array("pSrc", Use::In, type, "1 << order"), array("pDst", Use::Out, type, "1 << order"),
+                                number("order"), number("flag"), buffer(type, "size / sizeof(element)")};
+        dispatcher.routine = "whtDispatch";
+        exports.push_back(dispatcher);
+
+        Export getSize = base;
+        getSize.name = "zulgWHTGetBufferSize_" + suffix;
+        getSize.arguments = {number("order"), size()};
+        getSize.routine = "whtGetBufferSize";
+        exports.push_back(getSize);
+    }
+}
+
+// DCT-IV: the transform through a plan, and the life of a plan.
+void addDct4(std::vector<Export>& exports) {
+    for (const Width& width : widths) {
+        const std::string suffix = width.digits + "f", type = "Zulg" + suffix, plan = "ZulgDCT4Plan_" + suffix;
+        const auto add = [&](const std::string& name, const std::string& routine, std::vector<Argument> arguments) {
+            exports.push_back({.name = name + "_" + suffix,
+                               .family = "DCT4",
+                               .elementType = suffix,
+                               .length = {},
+                               .order = {},
+                               .arguments = std::move(arguments),
+                               .routine = routine,
+                               .routineParameters = {width.element},
+                               .graph = {}});
+        };
+        const Argument newPlan{"pPlan", Use::Out, plan + "*"}, usedPlan{"plan", Use::InOut, plan};
+        add("zulgDCT4", "dct4",
+            {array("pSrc", Use::In, type, "length of the plan"), array("pDst", Use::Out, type, "length of the plan"),
+             usedPlan});
+        add("zulgDCT4Free", "dct4Free", {usedPlan});
+        add("zulgDCT4GetSize", "dct4GetSize", {number("length"), size()});
+        add("zulgDCT4Init", "dct4Init", {newPlan, number("length"), array("pBuffer", Use::InOut, "uint8_t", "size")});
+        add("zulgDCT4InitAlloc", "dct4InitAlloc", {newPlan, number("length")});
+    }
+}
+
+}  // namespace
+
+std::string Argument::declaration() const {
+    return (use == Use::In ? "const " : "") + type + (use == Use::Value ? " " : "* ") + name;
+}
+
+std::vector<Export> allExports() {
+    std::vector<Export> exports;
+    for (const GraphEntry& graph : allGraphs()) addKernels(graph, exports);
+    for (const GraphFamily& family : allFamilies()) addDispatchers(family, exports);
+    addWht(exports);
+    addDct4(exports);
+    std::ranges::sort(exports, {}, &Export::name);
+    return exports;
+}
+
+int elementsOf(Layout layout, int length) { return layout == Layout::CCS ? length / 2 * 2 + 2 : length; }
+std::string elementsFormula(Layout layout) { return layout == Layout::CCS ? "length / 2 * 2 + 2" : "length"; }
+
+std::vector<BinSlots> slotsOf(Layout layout, int length) {
+    std::vector<BinSlots> slots;
+    for (int k = 0; k <= length / 2; ++k) {
+        const bool isReal = 2 * k % length == 0;
+        const auto both = [&](int re) { slots.push_back({re, isReal ? std::nullopt : std::optional(re + 1)}); };
+        switch (layout) {
+            case Layout::CCS: both(2 * k); break;
+            case Layout::Pack: both(k == 0 ? 0 : 2 * k - 1); break;
+            case Layout::Perm: both(length % 2 == 1 ? std::max(0, 2 * k - 1) : k == 0 ? 0 : isReal ? 1 : 2 * k); break;
+            default: throw std::logic_error("no half spectrum");
+        }
+    }
+    return slots;
+}
+
+// As many numbers as points. Orders 12 and 13 have an outer block as well, which works on a copy of its points.
+int whtBufferBytes(int order, int elementBytes) {
+    if (order < 8) return 0;
+    const int extra = order == 12 ? 256 : order == 13 ? 1024 : 0;
+    return ((1 << order) + extra) * elementBytes;
+}
+
+}  // namespace gen

@@ -2,12 +2,25 @@
 # instantiates its kernels for one target.
 include(${CMAKE_CURRENT_LIST_DIR}/../kernels/texts.cmake)
 
+# texts_of_choice(VARIABLE FOLDER CHOICE): the texts for which the target in FOLDER has this choice in its table, each as
+# family and length. A target need not have a table.
+function(texts_of_choice variable folder choice)
+    set(rows "")
+    if(EXISTS ${folder}/tuning.txt)
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${folder}/tuning.txt)
+        file(STRINGS ${folder}/tuning.txt rows REGEX "^[a-z_0-9]+ +[0-9]+ +${choice} ")
+        list(TRANSFORM rows REPLACE "^([a-z_0-9]+) +([0-9]+) .*" "\\1 \\2")
+    endif()
+    set(${variable} "${rows}" PARENT_SCOPE)
+endfunction()
+
 # add_kernels(LIBRARY FOLDER [LENGTH ...]): object libraries of the kernels of these lengths, or of all, for the target
 # in FOLDER. Their names are put into the variable LIBRARY_objects: LIBRARY itself and, where the target compiles long
 # kernels by a launcher, LIBRARY_long.
 function(add_kernels library folder)
     include(${folder}/target.cmake)
     get_filename_component(target ${folder} NAME)
+    texts_of_choice(fast_texts ${folder} speed)
     set(sources "")
     set(long_sources "")
     foreach(row IN LISTS kernel_texts)
@@ -27,12 +40,16 @@ function(add_kernels library folder)
         set(included "#include \"kernel/kernel_body.h\"\n#include \"${text}\"\n")
         file(CONFIGURE OUTPUT ${source} @ONLY CONTENT
             "${included}\nnamespace zulg {\n\n${instances}\n}  // namespace zulg\n")
+        string(REGEX REPLACE "kernels/([a-z_]+)/.*" "\\1 ${length}" name "${text}")
         if(long_kernel_launcher AND steps GREATER_EQUAL long_kernel_steps)
+            if(name IN_LIST fast_texts)
+                message(FATAL_ERROR "${folder}/tuning.txt: ${name} has long kernels, which have flags of their own")
+            endif()
             list(APPEND long_sources ${source})
         else()
             list(APPEND sources ${source})
             set(flags ${kernel_compile_flags})
-            if(text IN_LIST fast_kernel_texts)
+            if(name IN_LIST fast_texts)
                 set(flags ${fast_kernel_compile_flags})
             endif()
             set_source_files_properties(${source} PROPERTIES COMPILE_OPTIONS "${flags}")

@@ -7,9 +7,9 @@
 
 namespace gen {
 
-Tuning::Tuning(std::istream& rows, const std::string& name) {
+Tuning::Tuning(std::istream& text, const std::string& name) {
     int number = 0;
-    for (std::string line; std::getline(rows, line);) {
+    for (std::string line; std::getline(text, line);) {
         ++number;
         const auto fail = [&](const std::string& fault) {
             throw std::runtime_error(name + ":" + std::to_string(number) + ": " + fault);
@@ -20,13 +20,13 @@ Tuning::Tuning(std::istream& rows, const std::string& name) {
         if (!(columns >> length >> choice >> gain) || columns >> more) fail("a row is family, length, choice and gain");
         const std::string graph = family + " " + length;
         if (std::ranges::find(allGraphs(), graph, &GraphEntry::name) == allGraphs().end()) fail("no graph " + graph);
-        if (choice != "bisection") fail("no choice " + choice);
-        if (!bisected.insert(graph).second) fail("a second row for " + graph);
+        if (choice != "bisection" && choice != "speed") fail("no choice " + choice);
+        if (!rows.insert({graph, choice}).second) fail("a second row for " + graph + ", " + choice);
     }
 }
 
 Schedule Tuning::schedule(const GraphEntry& entry, const Graph& graph) const {
-    return bisected.contains(entry.name()) ? byBisection(graph) : blockByBlock(graph);
+    return rows.contains({entry.name(), "bisection"}) ? byBisection(graph) : blockByBlock(graph);
 }
 
 Tuning readTuning(const std::string& path) {

@@ -4,6 +4,7 @@
 #include <iosfwd>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "graph/schedule.h"
 #include "output/catalogue.h"
@@ -16,14 +17,15 @@ public:
     Tuning() = default;
 
     // The rows of a file: family, length, choice, gain. Text from a # on is a comment. `name` is that of the file, for
-    // errors: a row that names no graph, a graph twice or an unknown choice, or that does not have its four columns.
-    Tuning(std::istream& rows, const std::string& name);
+    // errors: a row that names no graph or an unknown choice, that is there twice, or that does not have its four
+    // columns. The choice `speed` is about flags of the compiler and changes no text.
+    Tuning(std::istream& text, const std::string& name);
 
     // The order of the steps that is chosen for a graph.
     Schedule schedule(const GraphEntry& entry, const Graph& graph) const;
 
 private:
-    std::set<std::string> bisected;  // names of graphs
+    std::set<std::pair<std::string, std::string>> rows;  // names of graphs, choices
 };
 
 // The choices in this file; none if there is no such file.

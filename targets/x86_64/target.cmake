@@ -9,46 +9,8 @@ set(target_compile_flags
 set(kernel_compile_flags -Os)
 
 # Kernels that are faster when compiled for speed: registers are cleared before a conversion that would otherwise wait
-# for them.
+# for them. Which these are: tuning.txt.
 set(fast_kernel_compile_flags -O2 -fno-schedule-insns2 -fno-tree-pre -flive-range-shrinkage)
-set(fast_kernel_texts
-    kernels/real_forward/rdft_3.h
-    kernels/real_forward/rdft_5.h
-    kernels/real_forward/rdft_6.h
-    kernels/real_forward/rdft_8.h
-    kernels/real_forward/rdft_10.h
-    kernels/real_forward/rdft_14.h
-    kernels/real_forward/rdft_15.h
-    kernels/real_forward/rdft_19.h
-    kernels/real_forward/rdft_20.h
-    kernels/real_forward/rdft_21.h
-    kernels/real_forward/rdft_24.h
-    kernels/real_forward/rdft_29.h
-    kernels/real_forward/rdft_30.h
-    kernels/real_forward/rdft_32.h
-    kernels/real_forward/rdft_34.h
-    kernels/real_forward/rdft_37.h
-    kernels/real_forward/rdft_41.h
-    kernels/real_forward/rdft_54.h
-    kernels/real_forward/rdft_58.h
-    kernels/real_forward/rdft_60.h
-    kernels/real_forward/rdft_62.h
-    kernels/real_inverse/rdft_13.h
-    kernels/real_inverse/rdft_16.h
-    kernels/real_inverse/rdft_21.h
-    kernels/real_inverse/rdft_27.h
-    kernels/real_inverse/rdft_29.h
-    kernels/real_inverse/rdft_32.h
-    kernels/real_inverse/rdft_51.h
-    kernels/hartley/dht_12.h
-    kernels/hartley/dht_13.h
-    kernels/hartley/dht_21.h
-    kernels/hartley/dht_26.h
-    kernels/hartley/dht_27.h
-    kernels/hartley/dht_32.h
-    kernels/hartley/dht_42.h
-    kernels/hartley/dht_46.h
-    kernels/hartley/dht_56.h)
 
 # The passes of the DCT-IV.
 set(dct4_run_compile_flags ${kernel_compile_flags} -flive-range-shrinkage)  # fewer spills in long rows

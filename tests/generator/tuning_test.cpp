@@ -32,7 +32,7 @@ std::vector<NodeId> orderOf(const Schedule& schedule) {
 }
 
 TEST(Tuning, OrdersTheGraphsOfItsRowsByBisection) {
-    const Tuning tuning = tuningOf("# a comment\n\ncomplex 16 bisection 4.5  # measured\n");
+    const Tuning tuning = tuningOf("# a comment\n\ncomplex 16 bisection 4.5  # measured\nhartley 16 speed 6\n");
     for (const GraphEntry& entry : allGraphs()) {
         if (entry.name() != "complex 16" && entry.name() != "hartley 16") continue;
         const auto graph = entry.build();
@@ -47,9 +47,10 @@ TEST(Tuning, OrdersTheGraphsOfItsRowsByBisection) {
 TEST(Tuning, RefusesWhatItDoesNotUnderstandAndTellsWhere) {
     EXPECT_EQ(faultOf("complex 16 bisection -\n"), "");
     EXPECT_EQ(faultOf("\ncomplex 65 bisection -\n"), "tuning.txt:2: no graph complex 65");
-    EXPECT_EQ(faultOf("complex 16 speed -\n"), "tuning.txt:1: no choice speed");
+    EXPECT_EQ(faultOf("complex 16 speed -\ncomplex 16 bisection -\n"), "");
+    EXPECT_EQ(faultOf("complex 16 haste -\n"), "tuning.txt:1: no choice haste");
     EXPECT_EQ(faultOf("complex 16 bisection - \ncomplex 16 bisection 2\n"),
-              "tuning.txt:2: a second row for complex 16");
+              "tuning.txt:2: a second row for complex 16, bisection");
     EXPECT_EQ(faultOf("complex 16 bisection\n"), "tuning.txt:1: a row is family, length, choice and gain");
     EXPECT_EQ(faultOf("complex 16 bisection 2 3\n"), "tuning.txt:1: a row is family, length, choice and gain");
 }

@@ -1,5 +1,4 @@
 # Plain C++: no flag of a machine, no launcher, no entries.
 set(target_compile_flags "")
 set(kernel_compile_flags -O2)
-set(fast_kernel_texts "")
 set(long_kernel_launcher "")

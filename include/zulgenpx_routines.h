@@ -1,4 +1,4 @@
-/* Written by `generate write`; do not edit. The rule: generator/output/catalogue.cpp.
+/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.
    The routines of the library, one to a line. Included by zulgenpx.h, which tells what each family does. */
 ZulgStatus ZULG_CALL zulgDCT4Free_32f(ZulgDCT4Plan_32f* plan);
 ZulgStatus ZULG_CALL zulgDCT4Free_64f(ZulgDCT4Plan_64f* plan);

@@ -206,7 +206,7 @@ std::string emitTexts(const std::vector<std::pair<const GraphEntry*, int>>& text
 
 std::string emitSlots(const std::vector<Export>& exports) {
     std::string text =
-        "/* Written by `generate write`; do not edit. The rule: generator/output/catalogue.cpp.\n"
+        "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
         "   SLOT(exported name, routine, bytes of arguments), in the ASCII order of the names: the line's place from 0 "
         "is\n"
         "   the slot, from 1 the ordinal. */\n";
@@ -219,7 +219,7 @@ std::string emitSlots(const std::vector<Export>& exports) {
 
 std::string emitRoutines(const std::vector<Export>& exports) {
     std::string text =
-        "/* Written by `generate write`; do not edit. The rule: generator/output/catalogue.cpp.\n"
+        "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
         "   The routines of the library, one to a line. Included by zulgenpx.h, which tells what each family does. "
         "*/\n";
     for (const Export& entry : exports) {

@@ -2,8 +2,8 @@
 # instantiates its kernels for one target.
 include(${CMAKE_CURRENT_LIST_DIR}/../kernels/texts.cmake)
 
-# texts_of_choice(VARIABLE FOLDER CHOICE): the texts for which the target in FOLDER has this choice in its table, each as
-# family and length. A target need not have a table.
+# texts_of_choice(VARIABLE FOLDER CHOICE): the texts for which the target in FOLDER has this choice in its table, each
+# as family and length. A target need not have a table.
 function(texts_of_choice variable folder choice)
     set(rows "")
     if(EXISTS ${folder}/tuning.txt)

@@ -21,12 +21,15 @@ Tuning::Tuning(std::istream& text, const std::string& name) {
         const std::string graph = family + " " + length;
         if (std::ranges::find(allGraphs(), graph, &GraphEntry::name) == allGraphs().end()) fail("no graph " + graph);
         if (choice != "bisection" && choice != "speed") fail("no choice " + choice);
-        if (!rows.insert({graph, choice}).second) fail("a second row for " + graph + ", " + choice);
+        std::istringstream figure(gain);
+        double percent = 0;
+        if (!(figure >> percent) || !figure.eof()) fail("the gain is no number: " + gain);
+        if (!gains.insert({{graph, choice}, percent}).second) fail("a second row for " + graph + ", " + choice);
     }
 }
 
 Schedule Tuning::schedule(const GraphEntry& entry, const Graph& graph) const {
-    return rows.contains({entry.name(), "bisection"}) ? byBisection(graph) : blockByBlock(graph);
+    return gains.contains({entry.name(), "bisection"}) ? byBisection(graph) : blockByBlock(graph);
 }
 
 Tuning readTuning(const std::string& path) {

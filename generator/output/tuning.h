@@ -2,7 +2,7 @@
 #pragma once
 
 #include <iosfwd>
-#include <set>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -17,15 +17,18 @@ public:
     Tuning() = default;
 
     // The rows of a file: family, length, choice, gain. Text from a # on is a comment. `name` is that of the file, for
-    // errors: a row that names no graph or an unknown choice, that is there twice, or that does not have its four
-    // columns. The choice `speed` is about flags of the compiler and changes no text.
+    // errors: a row that names no graph or an unknown choice, that has no figure, that is there twice, or that does not
+    // have its four columns. The choice `speed` is about flags of the compiler and changes no text.
     Tuning(std::istream& text, const std::string& name);
 
     // The order of the steps that is chosen for a graph.
     Schedule schedule(const GraphEntry& entry, const Graph& graph) const;
 
+    // (name of the graph, choice) -> gain in percent.
+    const std::map<std::pair<std::string, std::string>, double>& rows() const { return gains; }
+
 private:
-    std::set<std::pair<std::string, std::string>> rows;  // names of graphs, choices
+    std::map<std::pair<std::string, std::string>, double> gains;
 };
 
 // The choices in this file; none if there is no such file.

@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 18.
 // Complex DFT of 18 points, prime-factor, order 2, 9.
-// 98 additions, 98 subtractions, 80 multiplications (116 with `scale`); 8 constants; 43 values alive at most.
+// 98 additions, 98 subtractions, 80 multiplications (116 with `scale`); 8 constants; 38 values alive at most.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -30,410 +30,374 @@ struct ComplexGraph<18> {
         const V x0r = io.re(0);
         const V x9r = io.re(9);
         const V t0 = x0r + x9r;
-        const V t1 = x0r - x9r;
         const V x0i = io.im(0);
         const V x9i = io.im(9);
-        const V t2 = x0i + x9i;
+        const V t1 = x0i + x9i;
+        const V t2 = x0r - x9r;
         const V t3 = x0i - x9i;
-        // complex block of 2
-        const V x10r = io.re(10);
-        const V x1r = io.re(1);
-        const V t4 = x10r + x1r;
-        const V t5 = x10r - x1r;
-        // complex block of 2
-        const V x16r = io.re(16);
-        const V x7r = io.re(7);
-        const V t6 = x16r + x7r;
-        const V t7 = x16r - x7r;
-        // complex block of 3, multiplier 2
-        const V t8 = t4 + t6;
-        const V t9 = t4 - t6;
-        // complex block of 3, multiplier 2
-        const V t10 = t5 + t7;
-        const V t11 = t5 - t7;
-        // complex block of 2
-        const V x10i = io.im(10);
-        const V x1i = io.im(1);
-        const V t12 = x10i + x1i;
-        const V t13 = x10i - x1i;
-        // complex block of 2
-        const V x16i = io.im(16);
-        const V x7i = io.im(7);
-        const V t14 = x16i + x7i;
-        const V t15 = x16i - x7i;
-        // complex block of 3, multiplier 2
-        const V t16 = t12 + t14;
-        const V t17 = t12 - t14;
-        // complex block of 3, multiplier 2
-        const V t18 = t13 + t15;
-        const V t19 = t13 - t15;
-        // complex block of 2
-        const V x4r = io.re(4);
-        const V x13r = io.re(13);
-        const V t20 = x4r + x13r;
-        const V t21 = x4r - x13r;
-        const V x4i = io.im(4);
-        const V x13i = io.im(13);
-        const V t22 = x4i + x13i;
-        const V t23 = x4i - x13i;
-        // complex block of 3, multiplier 2
-        const V t24 = t8 + t20;
-        const V t25 = t16 + t22;
-        const V t26 = c[0] * t8;
-        const V t27 = t20 - t26;
-        const V t28 = c[1] * t17;
-        const V t29 = t27 + t28;
-        const V t30 = t27 - t28;
-        const V t31 = c[0] * t16;
-        const V t32 = t22 - t31;
-        const V t33 = c[1] * t9;
-        const V t34 = t32 - t33;
-        const V t35 = t32 + t33;
-        // complex block of 3, multiplier 2
-        const V t36 = t10 + t21;
-        const V t37 = t18 + t23;
-        const V t38 = c[0] * t10;
-        const V t39 = t21 - t38;
-        const V t40 = c[1] * t19;
-        const V t41 = t39 + t40;
-        const V t42 = t39 - t40;
-        const V t43 = c[0] * t18;
-        const V t44 = t23 - t43;
-        const V t45 = c[1] * t11;
-        const V t46 = t44 - t45;
-        const V t47 = t44 + t45;
         // complex block of 2
         const V x2r = io.re(2);
         const V x11r = io.re(11);
-        const V t48 = x2r + x11r;
-        const V t49 = x2r - x11r;
+        const V t4 = x2r + x11r;
         const V x2i = io.im(2);
         const V x11i = io.im(11);
-        const V t50 = x2i + x11i;
-        const V t51 = x2i - x11i;
+        const V t5 = x2i + x11i;
+        const V t6 = x2r - x11r;
+        const V t7 = x2i - x11i;
         // complex block of 2
-        const V x14r = io.re(14);
-        const V x5r = io.re(5);
-        const V t52 = x14r + x5r;
-        const V t53 = x14r - x5r;
-        // complex block of 2
-        const V x8r = io.re(8);
-        const V x17r = io.re(17);
-        const V t54 = x8r + x17r;
-        const V t55 = x8r - x17r;
-        // complex block of 3, multiplier 2
-        const V t56 = t54 + t52;
-        const V t57 = t54 - t52;
-        // complex block of 3, multiplier 2
-        const V t58 = t55 + t53;
-        const V t59 = t55 - t53;
-        // complex block of 2
-        const V x14i = io.im(14);
-        const V x5i = io.im(5);
-        const V t60 = x14i + x5i;
-        const V t61 = x14i - x5i;
-        // complex block of 2
-        const V x8i = io.im(8);
-        const V x17i = io.im(17);
-        const V t62 = x8i + x17i;
-        const V t63 = x8i - x17i;
-        // complex block of 3, multiplier 2
-        const V t64 = t62 + t60;
-        const V t65 = t62 - t60;
-        // complex block of 3, multiplier 2
-        const V t66 = t63 + t61;
-        const V t67 = t63 - t61;
-        // complex block of 3, multiplier 2
-        const V t68 = t56 + t48;
-        const V t69 = t64 + t50;
-        const V t70 = c[0] * t56;
-        const V t71 = t48 - t70;
-        const V t72 = c[1] * t65;
-        const V t73 = t71 + t72;
-        const V t74 = t71 - t72;
-        const V t75 = c[0] * t64;
-        const V t76 = t50 - t75;
-        const V t77 = c[1] * t57;
-        const V t78 = t76 - t77;
-        const V t79 = t76 + t77;
-        // complex block of 3, multiplier 2
-        const V t80 = t58 + t49;
-        const V t81 = t66 + t51;
-        const V t82 = c[0] * t58;
-        const V t83 = t49 - t82;
-        const V t84 = c[1] * t67;
-        const V t85 = t83 + t84;
-        const V t86 = t83 - t84;
-        const V t87 = c[0] * t66;
-        const V t88 = t51 - t87;
-        const V t89 = c[1] * t59;
-        const V t90 = t88 - t89;
-        const V t91 = t88 + t89;
-        // complex block of 2
-        const V x12r = io.re(12);
-        const V x3r = io.re(3);
-        const V t92 = x12r + x3r;
-        const V t93 = x12r - x3r;
+        const V x4r = io.re(4);
+        const V x13r = io.re(13);
+        const V t8 = x4r + x13r;
+        const V x4i = io.im(4);
+        const V x13i = io.im(13);
+        const V t9 = x4i + x13i;
+        const V t10 = x4r - x13r;
+        const V t11 = x4i - x13i;
         // complex block of 2
         const V x6r = io.re(6);
         const V x15r = io.re(15);
-        const V t94 = x6r + x15r;
-        const V t95 = x6r - x15r;
-        // complex block of 3, multiplier 2
-        const V t96 = t94 + t92;
-        const V t97 = c[0] * t96;
-        const V t98 = t94 - t92;
-        const V t99 = c[1] * t98;
-        // complex block of 3, multiplier 2
-        const V t100 = t95 + t93;
-        const V t101 = c[0] * t100;
-        const V t102 = t95 - t93;
-        const V t103 = c[1] * t102;
-        // complex block of 2
-        const V x12i = io.im(12);
-        const V x3i = io.im(3);
-        const V t104 = x12i + x3i;
-        const V t105 = x12i - x3i;
-        // complex block of 2
+        const V t12 = x6r + x15r;
         const V x6i = io.im(6);
         const V x15i = io.im(15);
-        const V t106 = x6i + x15i;
-        const V t107 = x6i - x15i;
+        const V t13 = x6i + x15i;
+        const V t14 = x6r - x15r;
+        const V t15 = x6i - x15i;
+        // complex block of 2
+        const V x8r = io.re(8);
+        const V x17r = io.re(17);
+        const V t16 = x8r + x17r;
+        const V x8i = io.im(8);
+        const V x17i = io.im(17);
+        const V t17 = x8i + x17i;
+        const V t18 = x8r - x17r;
+        const V t19 = x8i - x17i;
+        // complex block of 2
+        const V x10r = io.re(10);
+        const V x1r = io.re(1);
+        const V t20 = x10r + x1r;
+        const V x10i = io.im(10);
+        const V x1i = io.im(1);
+        const V t21 = x10i + x1i;
+        const V t22 = x10r - x1r;
+        const V t23 = x10i - x1i;
+        // complex block of 2
+        const V x12r = io.re(12);
+        const V x3r = io.re(3);
+        const V t24 = x12r + x3r;
+        const V x12i = io.im(12);
+        const V x3i = io.im(3);
+        const V t25 = x12i + x3i;
+        const V t26 = x12r - x3r;
+        const V t27 = x12i - x3i;
+        // complex block of 2
+        const V x14r = io.re(14);
+        const V x5r = io.re(5);
+        const V t28 = x14r + x5r;
+        const V x14i = io.im(14);
+        const V x5i = io.im(5);
+        const V t29 = x14i + x5i;
+        const V t30 = x14r - x5r;
+        const V t31 = x14i - x5i;
+        // complex block of 2
+        const V x16r = io.re(16);
+        const V x7r = io.re(7);
+        const V t32 = x16r + x7r;
+        const V x16i = io.im(16);
+        const V x7i = io.im(7);
+        const V t33 = x16i + x7i;
+        const V t34 = x16r - x7r;
+        const V t35 = x16i - x7i;
         // complex block of 3, multiplier 2
-        const V t108 = t106 + t104;
-        const V t109 = c[0] * t108;
-        const V t110 = t106 - t104;
-        const V t111 = c[1] * t110;
+        const V t36 = t12 + t24;
+        const V t37 = t13 + t25;
+        const V t38 = t12 - t24;
+        const V t39 = t13 - t25;
+        const V t40 = t36 + t0;
+        const V t41 = t37 + t1;
+        const V t42 = c[0] * t36;
+        const V t43 = t0 - t42;
+        const V t44 = c[0] * t37;
+        const V t45 = t1 - t44;
+        const V t46 = c[1] * t38;
+        const V t47 = c[1] * t39;
+        const V t48 = t43 + t47;
+        const V t49 = t45 - t46;
+        const V t50 = t43 - t47;
+        const V t51 = t45 + t46;
         // complex block of 3, multiplier 2
-        const V t112 = t107 + t105;
-        const V t113 = c[0] * t112;
-        const V t114 = t107 - t105;
-        const V t115 = c[1] * t114;
+        const V t52 = t16 + t28;
+        const V t53 = t17 + t29;
+        const V t54 = t16 - t28;
+        const V t55 = t17 - t29;
+        const V t56 = t52 + t4;
+        const V t57 = t53 + t5;
+        const V t58 = c[0] * t52;
+        const V t59 = t4 - t58;
+        const V t60 = c[0] * t53;
+        const V t61 = t5 - t60;
+        const V t62 = c[1] * t54;
+        const V t63 = c[1] * t55;
+        const V t64 = t59 + t63;
+        const V t65 = t61 - t62;
+        const V t66 = t59 - t63;
+        const V t67 = t61 + t62;
         // complex block of 3, multiplier 2
-        const V t116 = t96 + t0;
+        const V t68 = t20 + t32;
+        const V t69 = t21 + t33;
+        const V t70 = t20 - t32;
+        const V t71 = t21 - t33;
+        const V t72 = t68 + t8;
+        const V t73 = t69 + t9;
+        const V t74 = c[0] * t68;
+        const V t75 = t8 - t74;
+        const V t76 = c[0] * t69;
+        const V t77 = t9 - t76;
+        const V t78 = c[1] * t70;
+        const V t79 = c[1] * t71;
+        const V t80 = t75 + t79;
+        const V t81 = t77 - t78;
+        const V t82 = t75 - t79;
+        const V t83 = t77 + t78;
         // complex block of 3, multiplier 2
-        const V t117 = t68 + t24;
-        const V t118 = c[0] * t117;
-        const V t119 = t69 - t25;
-        const V t120 = c[1] * t119;
-        const V t121 = t117 + t116;
-        io.re(0, t121);
-        const V t122 = t116 - t118;
-        const V t123 = t122 + t120;
-        io.re(12, t123);
-        const V t124 = t122 - t120;
-        io.re(6, t124);
-        // complex block of 3, multiplier 2
-        const V t125 = t108 + t2;
-        // complex block of 3, multiplier 2
-        const V t126 = t69 + t25;
-        const V t127 = c[0] * t126;
-        const V t128 = t68 - t24;
-        const V t129 = c[1] * t128;
-        const V t130 = t126 + t125;
-        io.im(0, t130);
-        const V t131 = t125 - t127;
-        const V t132 = t131 - t129;
-        io.im(12, t132);
-        const V t133 = t131 + t129;
-        io.im(6, t133);
-        // complex block of 3, multiplier 2
-        const V t134 = t0 - t97;
-        const V t135 = t134 + t111;
-        const V t136 = t134 - t111;
-        const V t137 = t2 - t109;
-        const V t138 = t137 - t99;
-        const V t139 = t137 + t99;
+        const V t84 = t56 + t72;
+        const V t85 = t57 + t73;
+        const V t86 = t56 - t72;
+        const V t87 = t57 - t73;
+        const V t88 = t84 + t40;
+        io.re(0, t88);
+        const V t89 = t85 + t41;
+        io.im(0, t89);
+        const V t90 = c[0] * t84;
+        const V t91 = t40 - t90;
+        const V t92 = c[0] * t85;
+        const V t93 = t41 - t92;
+        const V t94 = c[1] * t86;
+        const V t95 = c[1] * t87;
+        const V t96 = t91 + t95;
+        io.re(12, t96);
+        const V t97 = t93 - t94;
+        io.im(12, t97);
+        const V t98 = t91 - t95;
+        io.re(6, t98);
+        const V t99 = t93 + t94;
+        io.im(6, t99);
         // complex block of 9, multiplier 2
-        const V t140 = c[4] * t79;
-        const V t141 = c[5] * t74;
-        const V t142 = t141 + t140;
-        const V t143 = c[2] * t35;
-        const V t144 = c[3] * t30;
-        const V t145 = t143 - t144;
+        const V t100 = c[4] * t67;
+        const V t101 = c[5] * t66;
+        const V t102 = t101 + t100;
+        const V t103 = c[4] * t66;
+        const V t104 = c[5] * t67;
+        const V t105 = t104 - t103;
+        const V t106 = c[2] * t83;
+        const V t107 = c[3] * t82;
+        const V t108 = t106 - t107;
+        const V t109 = c[2] * t82;
+        const V t110 = c[3] * t83;
+        const V t111 = t110 + t109;
         // complex block of 3, multiplier 2
-        const V t146 = t142 + t145;
-        const V t147 = t142 - t145;
+        const V t112 = t102 + t108;
+        const V t113 = t105 - t111;
+        const V t114 = t102 - t108;
+        const V t115 = t105 + t111;
+        const V t116 = t112 + t50;
+        io.re(2, t116);
+        const V t117 = t113 + t51;
+        io.im(2, t117);
+        const V t118 = c[0] * t112;
+        const V t119 = t50 - t118;
+        const V t120 = c[0] * t113;
+        const V t121 = t51 - t120;
+        const V t122 = c[1] * t114;
+        const V t123 = c[1] * t115;
+        const V t124 = t119 + t123;
+        io.re(14, t124);
+        const V t125 = t121 - t122;
+        io.im(14, t125);
+        const V t126 = t119 - t123;
+        io.re(8, t126);
+        const V t127 = t121 + t122;
+        io.im(8, t127);
         // complex block of 9, multiplier 2
-        const V t148 = c[4] * t74;
-        const V t149 = c[5] * t79;
-        const V t150 = t149 - t148;
-        const V t151 = c[2] * t30;
-        const V t152 = c[3] * t35;
-        const V t153 = t152 + t151;
+        const V t128 = c[2] * t65;
+        const V t129 = c[3] * t64;
+        const V t130 = t128 - t129;
+        const V t131 = c[2] * t64;
+        const V t132 = c[3] * t65;
+        const V t133 = t132 + t131;
+        const V t134 = c[6] * t81;
+        const V t135 = c[7] * t80;
+        const V t136 = t135 - t134;
+        const V t137 = c[6] * t80;
+        const V t138 = c[7] * t81;
+        const V t139 = t138 + t137;
         // complex block of 3, multiplier 2
-        const V t154 = t150 - t153;
-        const V t155 = t150 + t153;
+        const V t140 = t130 + t136;
+        const V t141 = t139 - t133;
+        const V t142 = t130 - t136;
+        const V t143 = t133 + t139;
+        const V t144 = t140 + t48;
+        io.re(4, t144);
+        const V t145 = t141 + t49;
+        io.im(4, t145);
+        const V t146 = c[0] * t140;
+        const V t147 = t48 - t146;
+        const V t148 = c[0] * t141;
+        const V t149 = t49 - t148;
+        const V t150 = c[1] * t142;
+        const V t151 = c[1] * t143;
+        const V t152 = t147 - t151;
+        io.re(16, t152);
+        const V t153 = t149 - t150;
+        io.im(16, t153);
+        const V t154 = t147 + t151;
+        io.re(10, t154);
+        const V t155 = t149 + t150;
+        io.im(10, t155);
+        // complex block of 3, multiplier 2
+        const V t156 = t14 + t26;
+        const V t157 = t15 + t27;
+        const V t158 = t14 - t26;
+        const V t159 = t15 - t27;
+        const V t160 = t156 + t2;
+        const V t161 = t157 + t3;
+        const V t162 = c[0] * t156;
+        const V t163 = t2 - t162;
+        const V t164 = c[0] * t157;
+        const V t165 = t3 - t164;
+        const V t166 = c[1] * t158;
+        const V t167 = c[1] * t159;
+        const V t168 = t163 + t167;
+        const V t169 = t165 - t166;
+        const V t170 = t163 - t167;
+        const V t171 = t165 + t166;
+        // complex block of 3, multiplier 2
+        const V t172 = t18 + t30;
+        const V t173 = t19 + t31;
+        const V t174 = t18 - t30;
+        const V t175 = t19 - t31;
+        const V t176 = t172 + t6;
+        const V t177 = t173 + t7;
+        const V t178 = c[0] * t172;
+        const V t179 = t6 - t178;
+        const V t180 = c[0] * t173;
+        const V t181 = t7 - t180;
+        const V t182 = c[1] * t174;
+        const V t183 = c[1] * t175;
+        const V t184 = t179 + t183;
+        const V t185 = t181 - t182;
+        const V t186 = t179 - t183;
+        const V t187 = t181 + t182;
+        // complex block of 3, multiplier 2
+        const V t188 = t22 + t34;
+        const V t189 = t23 + t35;
+        const V t190 = t22 - t34;
+        const V t191 = t23 - t35;
+        const V t192 = t188 + t10;
+        const V t193 = t189 + t11;
+        const V t194 = c[0] * t188;
+        const V t195 = t10 - t194;
+        const V t196 = c[0] * t189;
+        const V t197 = t11 - t196;
+        const V t198 = c[1] * t190;
+        const V t199 = c[1] * t191;
+        const V t200 = t195 + t199;
+        const V t201 = t197 - t198;
+        const V t202 = t195 - t199;
+        const V t203 = t197 + t198;
+        // complex block of 3, multiplier 2
+        const V t204 = t176 + t192;
+        const V t205 = t177 + t193;
+        const V t206 = t176 - t192;
+        const V t207 = t177 - t193;
+        const V t208 = t204 + t160;
+        io.re(9, t208);
+        const V t209 = t205 + t161;
+        io.im(9, t209);
+        const V t210 = c[0] * t204;
+        const V t211 = t160 - t210;
+        const V t212 = c[0] * t205;
+        const V t213 = t161 - t212;
+        const V t214 = c[1] * t206;
+        const V t215 = c[1] * t207;
+        const V t216 = t211 + t215;
+        io.re(3, t216);
+        const V t217 = t213 - t214;
+        io.im(3, t217);
+        const V t218 = t211 - t215;
+        io.re(15, t218);
+        const V t219 = t213 + t214;
+        io.im(15, t219);
         // complex block of 9, multiplier 2
-        const V t156 = c[2] * t78;
-        const V t157 = c[3] * t73;
-        const V t158 = t156 - t157;
-        const V t159 = c[6] * t34;
-        const V t160 = c[7] * t29;
-        const V t161 = t160 - t159;
-        // complex block of 3, multiplier 2
-        const V t162 = t158 + t161;
-        const V t163 = t158 - t161;
-        // complex block of 9, multiplier 2
-        const V t164 = c[2] * t73;
-        const V t165 = c[3] * t78;
-        const V t166 = t165 + t164;
-        const V t167 = c[6] * t29;
-        const V t168 = c[7] * t34;
-        const V t169 = t168 + t167;
-        // complex block of 3, multiplier 2
-        const V t170 = t169 - t166;
-        const V t171 = t166 + t169;
-        // complex block of 3, multiplier 2
-        const V t172 = t146 + t136;
-        io.re(2, t172);
-        const V t173 = t154 + t139;
-        io.im(2, t173);
-        const V t174 = c[0] * t146;
-        const V t175 = t136 - t174;
-        const V t176 = c[1] * t155;
-        const V t177 = t175 + t176;
-        io.re(14, t177);
-        const V t178 = t175 - t176;
-        io.re(8, t178);
-        const V t179 = c[0] * t154;
-        const V t180 = t139 - t179;
-        const V t181 = c[1] * t147;
-        const V t182 = t180 - t181;
-        io.im(14, t182);
-        const V t183 = t180 + t181;
-        io.im(8, t183);
-        // complex block of 3, multiplier 2
-        const V t184 = t162 + t135;
-        io.re(4, t184);
-        const V t185 = t170 + t138;
-        io.im(4, t185);
-        const V t186 = c[0] * t162;
-        const V t187 = t135 - t186;
-        const V t188 = c[1] * t171;
-        const V t189 = t187 - t188;
-        io.re(16, t189);
-        const V t190 = t187 + t188;
-        io.re(10, t190);
-        const V t191 = c[0] * t170;
-        const V t192 = t138 - t191;
-        const V t193 = c[1] * t163;
-        const V t194 = t192 - t193;
-        io.im(16, t194);
-        const V t195 = t192 + t193;
-        io.im(10, t195);
-        // complex block of 3, multiplier 2
-        const V t196 = t100 + t1;
-        // complex block of 3, multiplier 2
-        const V t197 = t80 + t36;
-        const V t198 = c[0] * t197;
-        const V t199 = t81 - t37;
-        const V t200 = c[1] * t199;
-        const V t201 = t197 + t196;
-        io.re(9, t201);
-        const V t202 = t196 - t198;
-        const V t203 = t202 + t200;
-        io.re(3, t203);
-        const V t204 = t202 - t200;
-        io.re(15, t204);
-        // complex block of 3, multiplier 2
-        const V t205 = t112 + t3;
-        // complex block of 3, multiplier 2
-        const V t206 = t81 + t37;
-        const V t207 = c[0] * t206;
-        const V t208 = t80 - t36;
-        const V t209 = c[1] * t208;
-        const V t210 = t206 + t205;
-        io.im(9, t210);
-        const V t211 = t205 - t207;
-        const V t212 = t211 - t209;
-        io.im(3, t212);
-        const V t213 = t211 + t209;
-        io.im(15, t213);
-        // complex block of 3, multiplier 2
-        const V t214 = t1 - t101;
-        const V t215 = t214 + t115;
-        const V t216 = t214 - t115;
-        const V t217 = t3 - t113;
-        const V t218 = t217 - t103;
-        const V t219 = t217 + t103;
-        // complex block of 9, multiplier 2
-        const V t220 = c[4] * t91;
-        const V t221 = c[5] * t86;
+        const V t220 = c[4] * t187;
+        const V t221 = c[5] * t186;
         const V t222 = t221 + t220;
-        const V t223 = c[2] * t47;
-        const V t224 = c[3] * t42;
-        const V t225 = t223 - t224;
+        const V t223 = c[4] * t186;
+        const V t224 = c[5] * t187;
+        const V t225 = t224 - t223;
+        const V t226 = c[2] * t203;
+        const V t227 = c[3] * t202;
+        const V t228 = t226 - t227;
+        const V t229 = c[2] * t202;
+        const V t230 = c[3] * t203;
+        const V t231 = t230 + t229;
         // complex block of 3, multiplier 2
-        const V t226 = t222 + t225;
-        const V t227 = t222 - t225;
+        const V t232 = t222 + t228;
+        const V t233 = t225 - t231;
+        const V t234 = t222 - t228;
+        const V t235 = t225 + t231;
+        const V t236 = t232 + t170;
+        io.re(11, t236);
+        const V t237 = t233 + t171;
+        io.im(11, t237);
+        const V t238 = c[0] * t232;
+        const V t239 = t170 - t238;
+        const V t240 = c[0] * t233;
+        const V t241 = t171 - t240;
+        const V t242 = c[1] * t234;
+        const V t243 = c[1] * t235;
+        const V t244 = t239 + t243;
+        io.re(5, t244);
+        const V t245 = t241 - t242;
+        io.im(5, t245);
+        const V t246 = t239 - t243;
+        io.re(17, t246);
+        const V t247 = t241 + t242;
+        io.im(17, t247);
         // complex block of 9, multiplier 2
-        const V t228 = c[4] * t86;
-        const V t229 = c[5] * t91;
-        const V t230 = t229 - t228;
-        const V t231 = c[2] * t42;
-        const V t232 = c[3] * t47;
-        const V t233 = t232 + t231;
+        const V t248 = c[2] * t185;
+        const V t249 = c[3] * t184;
+        const V t250 = t248 - t249;
+        const V t251 = c[2] * t184;
+        const V t252 = c[3] * t185;
+        const V t253 = t252 + t251;
+        const V t254 = c[6] * t201;
+        const V t255 = c[7] * t200;
+        const V t256 = t255 - t254;
+        const V t257 = c[6] * t200;
+        const V t258 = c[7] * t201;
+        const V t259 = t258 + t257;
         // complex block of 3, multiplier 2
-        const V t234 = t230 - t233;
-        const V t235 = t230 + t233;
-        // complex block of 9, multiplier 2
-        const V t236 = c[2] * t90;
-        const V t237 = c[3] * t85;
-        const V t238 = t236 - t237;
-        const V t239 = c[6] * t46;
-        const V t240 = c[7] * t41;
-        const V t241 = t240 - t239;
-        // complex block of 3, multiplier 2
-        const V t242 = t238 + t241;
-        const V t243 = t238 - t241;
-        // complex block of 9, multiplier 2
-        const V t244 = c[2] * t85;
-        const V t245 = c[3] * t90;
-        const V t246 = t245 + t244;
-        const V t247 = c[6] * t41;
-        const V t248 = c[7] * t46;
-        const V t249 = t248 + t247;
-        // complex block of 3, multiplier 2
-        const V t250 = t249 - t246;
-        const V t251 = t246 + t249;
-        // complex block of 3, multiplier 2
-        const V t252 = t226 + t216;
-        io.re(11, t252);
-        const V t253 = t234 + t219;
-        io.im(11, t253);
-        const V t254 = c[0] * t226;
-        const V t255 = t216 - t254;
-        const V t256 = c[1] * t235;
-        const V t257 = t255 + t256;
-        io.re(5, t257);
-        const V t258 = t255 - t256;
-        io.re(17, t258);
-        const V t259 = c[0] * t234;
-        const V t260 = t219 - t259;
-        const V t261 = c[1] * t227;
-        const V t262 = t260 - t261;
-        io.im(5, t262);
-        const V t263 = t260 + t261;
-        io.im(17, t263);
-        // complex block of 3, multiplier 2
-        const V t264 = t242 + t215;
+        const V t260 = t250 + t256;
+        const V t261 = t259 - t253;
+        const V t262 = t250 - t256;
+        const V t263 = t253 + t259;
+        const V t264 = t260 + t168;
         io.re(13, t264);
-        const V t265 = t250 + t218;
+        const V t265 = t261 + t169;
         io.im(13, t265);
-        const V t266 = c[0] * t242;
-        const V t267 = t215 - t266;
-        const V t268 = c[1] * t251;
-        const V t269 = t267 - t268;
-        io.re(7, t269);
-        const V t270 = t267 + t268;
-        io.re(1, t270);
-        const V t271 = c[0] * t250;
-        const V t272 = t218 - t271;
-        const V t273 = c[1] * t243;
-        const V t274 = t272 - t273;
-        io.im(7, t274);
-        const V t275 = t272 + t273;
+        const V t266 = c[0] * t260;
+        const V t267 = t168 - t266;
+        const V t268 = c[0] * t261;
+        const V t269 = t169 - t268;
+        const V t270 = c[1] * t262;
+        const V t271 = c[1] * t263;
+        const V t272 = t267 - t271;
+        io.re(7, t272);
+        const V t273 = t269 - t270;
+        io.im(7, t273);
+        const V t274 = t267 + t271;
+        io.re(1, t274);
+        const V t275 = t269 + t270;
         io.im(1, t275);
     }
 };

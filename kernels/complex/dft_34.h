@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 34.
 // Complex DFT of 34 points, prime-factor, order 2, 17.
-// 298 additions, 298 subtractions, 216 multiplications (284 with `scale`); 19 constants; 83 values alive at most.
+// 298 additions, 298 subtractions, 216 multiplications (284 with `scale`); 19 constants; 70 values alive at most.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -17,18 +17,18 @@ struct ComplexGraph<34> {
         0.7071067811865476,  // c[2]: cos 2 pi 1/8
         0.09543059459065593,  // c[3]: P[1] of 17
         0.506476062234015,  // c[4]: Q[1] of 17
-        0.3049677689722511,  // c[5]: P[3] of 17
-        0.4154752217498508,  // c[6]: -Q[3] of 17
-        0.4374199883186445,  // c[7]: P[5] of 17
-        0.27255963351038787,  // c[8]: Q[5] of 17
-        0.4116323317536197,  // c[9]: P[7] of 17
-        0.3101351696520051,  // c[10]: Q[7] of 17
-        0.3809911760447736,  // c[11]: Q[2] of 17
-        0.347088927763506,  // c[12]: P[2] of 17
+        0.3809911760447736,  // c[5]: Q[2] of 17
+        0.347088927763506,  // c[6]: P[2] of 17
+        0.3049677689722511,  // c[7]: P[3] of 17
+        0.4154752217498508,  // c[8]: -Q[3] of 17
+        0.40623178445333147,  // c[9]: -Q[4] of 17
+        0.31717619283272513,  // c[10]: -P[4] of 17
+        0.4374199883186445,  // c[11]: P[5] of 17
+        0.27255963351038787,  // c[12]: Q[5] of 17
         0.039110758925753275,  // c[13]: -Q[6] of 17
         0.5139020806887744,  // c[14]: P[6] of 17
-        0.40623178445333147,  // c[15]: -Q[4] of 17
-        0.31717619283272513,  // c[16]: -P[4] of 17
+        0.4116323317536197,  // c[15]: P[7] of 17
+        0.3101351696520051,  // c[16]: Q[7] of 17
         0.0625,  // c[17]: 1/16
         0.2576941016011038,  // c[18]: beta of 17
     };
@@ -41,1322 +41,1136 @@ struct ComplexGraph<34> {
         const V x0r = io.re(0);
         const V x17r = io.re(17);
         const V t0 = x0r + x17r;
-        const V t1 = x0r - x17r;
         const V x0i = io.im(0);
         const V x17i = io.im(17);
-        const V t2 = x0i + x17i;
+        const V t1 = x0i + x17i;
+        const V t2 = x0r - x17r;
         const V t3 = x0i - x17i;
-        // complex block of 2
-        const V x18r = io.re(18);
-        const V x1r = io.re(1);
-        const V t4 = x18r + x1r;
-        const V t5 = x18r - x1r;
-        // complex block of 2
-        const V x4r = io.re(4);
-        const V x21r = io.re(21);
-        const V t6 = x4r + x21r;
-        const V t7 = x4r - x21r;
-        // complex block of 2
-        const V x30r = io.re(30);
-        const V x13r = io.re(13);
-        const V t8 = x30r + x13r;
-        const V t9 = x30r - x13r;
-        // complex block of 2
-        const V x16r = io.re(16);
-        const V x33r = io.re(33);
-        const V t10 = x16r + x33r;
-        const V t11 = x16r - x33r;
-        // real block of 2
-        const V t12 = t4 + t10;
-        const V t13 = t4 - t10;
-        // real block of 2
-        const V t14 = t8 - t6;
-        // real block of 16
-        const V t15 = t13 - t14;
-        const V t16 = t14 + t13;
-        // real block of 2
-        const V t17 = t8 + t6;
-        // real block of 2
-        const V t18 = t5 + t11;
-        const V t19 = t5 - t11;
-        // real block of 2
-        const V t20 = t9 - t7;
-        // real block of 16
-        const V t21 = t19 - t20;
-        const V t22 = t20 + t19;
-        // real block of 2
-        const V t23 = t9 + t7;
         // complex block of 2
         const V x2r = io.re(2);
         const V x19r = io.re(19);
-        const V t24 = x2r + x19r;
-        const V t25 = x2r - x19r;
+        const V t4 = x2r + x19r;
+        const V x2i = io.im(2);
+        const V x19i = io.im(19);
+        const V t5 = x2i + x19i;
+        const V t6 = x2r - x19r;
+        const V t7 = x2i - x19i;
         // complex block of 2
-        const V x32r = io.re(32);
-        const V x15r = io.re(15);
-        const V t26 = x32r + x15r;
-        const V t27 = x32r - x15r;
-        // real block of 2
-        const V t28 = t24 + t26;
-        const V t29 = t24 - t26;
-        // real block of 2
-        const V t30 = t25 + t27;
-        const V t31 = t25 - t27;
-        // complex block of 2
-        const V x20r = io.re(20);
-        const V x3r = io.re(3);
-        const V t32 = x20r + x3r;
-        const V t33 = x20r - x3r;
-        // complex block of 2
-        const V x22r = io.re(22);
-        const V x5r = io.re(5);
-        const V t34 = x22r + x5r;
-        const V t35 = x22r - x5r;
-        // complex block of 2
-        const V x12r = io.re(12);
-        const V x29r = io.re(29);
-        const V t36 = x12r + x29r;
-        const V t37 = x12r - x29r;
-        // complex block of 2
-        const V x14r = io.re(14);
-        const V x31r = io.re(31);
-        const V t38 = x14r + x31r;
-        const V t39 = x14r - x31r;
-        // real block of 2
-        const V t40 = t32 + t38;
-        // real block of 2
-        const V t41 = t34 + t36;
-        // real block of 2
-        const V t42 = t40 - t41;
-        // real block of 2
-        const V t43 = t32 - t38;
-        // real block of 16
-        const V t44 = c[0] * t43;
-        const V t45 = c[1] * t43;
-        // real block of 2
-        const V t46 = t34 - t36;
-        // real block of 16
-        const V t47 = c[1] * t46;
-        const V t48 = c[0] * t46;
-        // real block of 2
-        const V t49 = t33 + t39;
-        // real block of 2
-        const V t50 = t35 + t37;
-        // real block of 2
-        const V t51 = t49 - t50;
-        // real block of 2
-        const V t52 = t33 - t39;
-        // real block of 16
-        const V t53 = c[0] * t52;
-        const V t54 = c[1] * t52;
-        // real block of 2
-        const V t55 = t35 - t37;
-        // real block of 16
-        const V t56 = c[1] * t55;
-        const V t57 = c[0] * t55;
+        const V x4r = io.re(4);
+        const V x21r = io.re(21);
+        const V t8 = x4r + x21r;
+        const V x4i = io.im(4);
+        const V x21i = io.im(21);
+        const V t9 = x4i + x21i;
+        const V t10 = x4r - x21r;
+        const V t11 = x4i - x21i;
         // complex block of 2
         const V x6r = io.re(6);
         const V x23r = io.re(23);
-        const V t58 = x6r + x23r;
-        const V t59 = x6r - x23r;
-        // complex block of 2
-        const V x24r = io.re(24);
-        const V x7r = io.re(7);
-        const V t60 = x24r + x7r;
-        const V t61 = x24r - x7r;
-        // complex block of 2
-        const V x10r = io.re(10);
-        const V x27r = io.re(27);
-        const V t62 = x10r + x27r;
-        const V t63 = x10r - x27r;
-        // complex block of 2
-        const V x28r = io.re(28);
-        const V x11r = io.re(11);
-        const V t64 = x28r + x11r;
-        const V t65 = x28r - x11r;
-        // real block of 2
-        const V t66 = t58 + t64;
-        // real block of 2
-        const V t67 = t62 + t60;
-        // real block of 2
-        const V t68 = t66 - t67;
-        // real block of 2
-        const V t69 = t58 - t64;
-        // real block of 16
-        const V t70 = c[1] * t69;
-        const V t71 = c[0] * t69;
-        // real block of 2
-        const V t72 = t62 - t60;
-        // real block of 16
-        const V t73 = c[0] * t72;
-        const V t74 = c[1] * t72;
-        // real block of 2
-        const V t75 = t59 + t65;
-        // real block of 2
-        const V t76 = t63 + t61;
-        // real block of 2
-        const V t77 = t75 - t76;
-        // real block of 2
-        const V t78 = t59 - t65;
-        // real block of 16
-        const V t79 = c[1] * t78;
-        const V t80 = c[0] * t78;
-        // real block of 2
-        const V t81 = t63 - t61;
-        // real block of 16
-        const V t82 = c[0] * t81;
-        const V t83 = c[1] * t81;
+        const V t12 = x6r + x23r;
+        const V x6i = io.im(6);
+        const V x23i = io.im(23);
+        const V t13 = x6i + x23i;
+        const V t14 = x6r - x23r;
+        const V t15 = x6i - x23i;
         // complex block of 2
         const V x8r = io.re(8);
         const V x25r = io.re(25);
-        const V t84 = x8r + x25r;
-        const V t85 = x8r - x25r;
+        const V t16 = x8r + x25r;
+        const V x8i = io.im(8);
+        const V x25i = io.im(25);
+        const V t17 = x8i + x25i;
+        const V t18 = x8r - x25r;
+        const V t19 = x8i - x25i;
+        // complex block of 2
+        const V x10r = io.re(10);
+        const V x27r = io.re(27);
+        const V t20 = x10r + x27r;
+        const V x10i = io.im(10);
+        const V x27i = io.im(27);
+        const V t21 = x10i + x27i;
+        const V t22 = x10r - x27r;
+        const V t23 = x10i - x27i;
+        // complex block of 2
+        const V x12r = io.re(12);
+        const V x29r = io.re(29);
+        const V t24 = x12r + x29r;
+        const V x12i = io.im(12);
+        const V x29i = io.im(29);
+        const V t25 = x12i + x29i;
+        const V t26 = x12r - x29r;
+        const V t27 = x12i - x29i;
+        // complex block of 2
+        const V x14r = io.re(14);
+        const V x31r = io.re(31);
+        const V t28 = x14r + x31r;
+        const V x14i = io.im(14);
+        const V x31i = io.im(31);
+        const V t29 = x14i + x31i;
+        const V t30 = x14r - x31r;
+        const V t31 = x14i - x31i;
+        // complex block of 2
+        const V x16r = io.re(16);
+        const V x33r = io.re(33);
+        const V t32 = x16r + x33r;
+        const V x16i = io.im(16);
+        const V x33i = io.im(33);
+        const V t33 = x16i + x33i;
+        const V t34 = x16r - x33r;
+        const V t35 = x16i - x33i;
+        // complex block of 2
+        const V x18r = io.re(18);
+        const V x1r = io.re(1);
+        const V t36 = x18r + x1r;
+        const V x18i = io.im(18);
+        const V x1i = io.im(1);
+        const V t37 = x18i + x1i;
+        const V t38 = x18r - x1r;
+        const V t39 = x18i - x1i;
+        // complex block of 2
+        const V x20r = io.re(20);
+        const V x3r = io.re(3);
+        const V t40 = x20r + x3r;
+        const V x20i = io.im(20);
+        const V x3i = io.im(3);
+        const V t41 = x20i + x3i;
+        const V t42 = x20r - x3r;
+        const V t43 = x20i - x3i;
+        // complex block of 2
+        const V x22r = io.re(22);
+        const V x5r = io.re(5);
+        const V t44 = x22r + x5r;
+        const V x22i = io.im(22);
+        const V x5i = io.im(5);
+        const V t45 = x22i + x5i;
+        const V t46 = x22r - x5r;
+        const V t47 = x22i - x5i;
+        // complex block of 2
+        const V x24r = io.re(24);
+        const V x7r = io.re(7);
+        const V t48 = x24r + x7r;
+        const V x24i = io.im(24);
+        const V x7i = io.im(7);
+        const V t49 = x24i + x7i;
+        const V t50 = x24r - x7r;
+        const V t51 = x24i - x7i;
         // complex block of 2
         const V x26r = io.re(26);
         const V x9r = io.re(9);
-        const V t86 = x26r + x9r;
-        const V t87 = x26r - x9r;
-        // real block of 2
-        const V t88 = t86 + t84;
-        const V t89 = t86 - t84;
-        // real block of 2
-        const V t90 = t87 + t85;
-        const V t91 = t87 - t85;
-        // real block of 2
-        const V t92 = t28 + t88;
-        // real block of 2
-        const V t93 = t12 + t17;
-        // real block of 2
-        const V t94 = t92 + t93;
-        // real block of 2
-        const V t95 = t66 + t67;
-        // real block of 2
-        const V t96 = t40 + t41;
-        // real block of 2
-        const V t97 = t95 + t96;
-        // real block of 2
-        const V t98 = t92 - t93;
-        // real block of 2
-        const V t99 = t95 - t96;
-        // real block of 2
-        const V t100 = t94 + t97;
-        const V t101 = t94 - t97;
-        // real block of 2
-        const V t102 = t28 - t88;
-        // skew block of 4
-        const V t103 = t68 - t42;
-        const V t104 = c[2] * t103;
-        const V t105 = t102 + t104;
-        const V t106 = t102 - t104;
-        // real block of 2
-        const V t107 = t12 - t17;
-        // skew block of 4
-        const V t108 = t68 + t42;
-        const V t109 = c[2] * t108;
-        const V t110 = t109 - t107;
-        const V t111 = t107 + t109;
-        // real block of 16
-        const V t112 = t70 - t73;
-        const V t113 = t44 - t47;
-        // complex block of 2
-        const V t114 = t112 + t113;
-        const V t115 = t112 - t113;
-        // real block of 16
-        const V t116 = t74 + t71;
-        const V t117 = t48 + t45;
-        // complex block of 2
-        const V t118 = t116 + t117;
-        const V t119 = t117 - t116;
-        // real block of 16
-        const V t120 = c[2] * t15;
-        // complex block of 2
-        const V t121 = t29 + t120;
-        const V t122 = t29 - t120;
-        // real block of 16
-        const V t123 = c[2] * t16;
-        // complex block of 2
-        const V t124 = t89 + t123;
-        const V t125 = t123 - t89;
-        // complex block of 2
-        const V t126 = t121 + t114;
-        const V t127 = t124 + t118;
-        const V t128 = t121 - t114;
-        const V t129 = t118 - t124;
-        // complex block of 2
-        const V t130 = t122 + t119;
-        const V t131 = t125 - t115;
-        const V t132 = t122 - t119;
-        const V t133 = t125 + t115;
-        // real block of 2
-        const V t134 = t30 + t90;
-        // real block of 2
-        const V t135 = t18 + t23;
-        // real block of 2
-        const V t136 = t134 + t135;
-        // real block of 2
-        const V t137 = t75 + t76;
-        // real block of 2
-        const V t138 = t49 + t50;
-        // real block of 2
-        const V t139 = t137 + t138;
-        // real block of 2
-        const V t140 = t134 - t135;
-        // real block of 2
-        const V t141 = t137 - t138;
-        // real block of 2
-        const V t142 = t136 + t139;
-        const V t143 = t136 - t139;
-        // real block of 2
-        const V t144 = t30 - t90;
-        // skew block of 4
-        const V t145 = t77 - t51;
-        const V t146 = c[2] * t145;
-        const V t147 = t144 + t146;
-        const V t148 = t144 - t146;
-        // real block of 2
-        const V t149 = t18 - t23;
-        // skew block of 4
-        const V t150 = t77 + t51;
-        const V t151 = c[2] * t150;
-        const V t152 = t151 - t149;
-        const V t153 = t149 + t151;
-        // real block of 16
-        const V t154 = t79 - t82;
-        const V t155 = t53 - t56;
-        // complex block of 2
-        const V t156 = t154 + t155;
-        const V t157 = t154 - t155;
-        // real block of 16
-        const V t158 = t83 + t80;
-        const V t159 = t57 + t54;
-        // complex block of 2
-        const V t160 = t158 + t159;
-        const V t161 = t159 - t158;
-        // real block of 16
-        const V t162 = c[2] * t21;
-        // complex block of 2
-        const V t163 = t31 + t162;
-        const V t164 = t31 - t162;
-        // real block of 16
-        const V t165 = c[2] * t22;
-        // complex block of 2
-        const V t166 = t91 + t165;
-        const V t167 = t165 - t91;
-        // complex block of 2
-        const V t168 = t163 + t156;
-        const V t169 = t166 + t160;
-        const V t170 = t163 - t156;
-        const V t171 = t160 - t166;
-        // complex block of 2
-        const V t172 = t164 + t161;
-        const V t173 = t167 - t157;
-        const V t174 = t164 - t161;
-        const V t175 = t167 + t157;
-        // complex block of 2
-        const V x18i = io.im(18);
-        const V x1i = io.im(1);
-        const V t176 = x18i + x1i;
-        const V t177 = x18i - x1i;
-        // complex block of 2
-        const V x4i = io.im(4);
-        const V x21i = io.im(21);
-        const V t178 = x4i + x21i;
-        const V t179 = x4i - x21i;
-        // complex block of 2
-        const V x30i = io.im(30);
-        const V x13i = io.im(13);
-        const V t180 = x30i + x13i;
-        const V t181 = x30i - x13i;
-        // complex block of 2
-        const V x16i = io.im(16);
-        const V x33i = io.im(33);
-        const V t182 = x16i + x33i;
-        const V t183 = x16i - x33i;
-        // real block of 2
-        const V t184 = t176 + t182;
-        const V t185 = t176 - t182;
-        // real block of 2
-        const V t186 = t180 - t178;
-        // real block of 16
-        const V t187 = t185 - t186;
-        const V t188 = t186 + t185;
-        // real block of 2
-        const V t189 = t180 + t178;
-        // real block of 2
-        const V t190 = t177 + t183;
-        const V t191 = t177 - t183;
-        // real block of 2
-        const V t192 = t181 - t179;
-        // real block of 16
-        const V t193 = t191 - t192;
-        const V t194 = t192 + t191;
-        // real block of 2
-        const V t195 = t181 + t179;
-        // complex block of 2
-        const V x2i = io.im(2);
-        const V x19i = io.im(19);
-        const V t196 = x2i + x19i;
-        const V t197 = x2i - x19i;
-        // complex block of 2
-        const V x32i = io.im(32);
-        const V x15i = io.im(15);
-        const V t198 = x32i + x15i;
-        const V t199 = x32i - x15i;
-        // real block of 2
-        const V t200 = t196 + t198;
-        const V t201 = t196 - t198;
-        // real block of 2
-        const V t202 = t197 + t199;
-        const V t203 = t197 - t199;
-        // complex block of 2
-        const V x20i = io.im(20);
-        const V x3i = io.im(3);
-        const V t204 = x20i + x3i;
-        const V t205 = x20i - x3i;
-        // complex block of 2
-        const V x22i = io.im(22);
-        const V x5i = io.im(5);
-        const V t206 = x22i + x5i;
-        const V t207 = x22i - x5i;
-        // complex block of 2
-        const V x12i = io.im(12);
-        const V x29i = io.im(29);
-        const V t208 = x12i + x29i;
-        const V t209 = x12i - x29i;
-        // complex block of 2
-        const V x14i = io.im(14);
-        const V x31i = io.im(31);
-        const V t210 = x14i + x31i;
-        const V t211 = x14i - x31i;
-        // real block of 2
-        const V t212 = t204 + t210;
-        // real block of 2
-        const V t213 = t206 + t208;
-        // real block of 2
-        const V t214 = t212 - t213;
-        // real block of 2
-        const V t215 = t204 - t210;
-        // real block of 16
-        const V t216 = c[0] * t215;
-        const V t217 = c[1] * t215;
-        // real block of 2
-        const V t218 = t206 - t208;
-        // real block of 16
-        const V t219 = c[1] * t218;
-        const V t220 = c[0] * t218;
-        // real block of 2
-        const V t221 = t205 + t211;
-        // real block of 2
-        const V t222 = t207 + t209;
-        // real block of 2
-        const V t223 = t221 - t222;
-        // real block of 2
-        const V t224 = t205 - t211;
-        // real block of 16
-        const V t225 = c[0] * t224;
-        const V t226 = c[1] * t224;
-        // real block of 2
-        const V t227 = t207 - t209;
-        // real block of 16
-        const V t228 = c[1] * t227;
-        const V t229 = c[0] * t227;
-        // complex block of 2
-        const V x6i = io.im(6);
-        const V x23i = io.im(23);
-        const V t230 = x6i + x23i;
-        const V t231 = x6i - x23i;
-        // complex block of 2
-        const V x24i = io.im(24);
-        const V x7i = io.im(7);
-        const V t232 = x24i + x7i;
-        const V t233 = x24i - x7i;
-        // complex block of 2
-        const V x10i = io.im(10);
-        const V x27i = io.im(27);
-        const V t234 = x10i + x27i;
-        const V t235 = x10i - x27i;
-        // complex block of 2
-        const V x28i = io.im(28);
-        const V x11i = io.im(11);
-        const V t236 = x28i + x11i;
-        const V t237 = x28i - x11i;
-        // real block of 2
-        const V t238 = t230 + t236;
-        // real block of 2
-        const V t239 = t234 + t232;
-        // real block of 2
-        const V t240 = t238 - t239;
-        // real block of 2
-        const V t241 = t230 - t236;
-        // real block of 16
-        const V t242 = c[1] * t241;
-        const V t243 = c[0] * t241;
-        // real block of 2
-        const V t244 = t234 - t232;
-        // real block of 16
-        const V t245 = c[0] * t244;
-        const V t246 = c[1] * t244;
-        // real block of 2
-        const V t247 = t231 + t237;
-        // real block of 2
-        const V t248 = t235 + t233;
-        // real block of 2
-        const V t249 = t247 - t248;
-        // real block of 2
-        const V t250 = t231 - t237;
-        // real block of 16
-        const V t251 = c[1] * t250;
-        const V t252 = c[0] * t250;
-        // real block of 2
-        const V t253 = t235 - t233;
-        // real block of 16
-        const V t254 = c[0] * t253;
-        const V t255 = c[1] * t253;
-        // complex block of 2
-        const V x8i = io.im(8);
-        const V x25i = io.im(25);
-        const V t256 = x8i + x25i;
-        const V t257 = x8i - x25i;
-        // complex block of 2
+        const V t52 = x26r + x9r;
         const V x26i = io.im(26);
         const V x9i = io.im(9);
-        const V t258 = x26i + x9i;
-        const V t259 = x26i - x9i;
+        const V t53 = x26i + x9i;
+        const V t54 = x26r - x9r;
+        const V t55 = x26i - x9i;
+        // complex block of 2
+        const V x28r = io.re(28);
+        const V x11r = io.re(11);
+        const V t56 = x28r + x11r;
+        const V x28i = io.im(28);
+        const V x11i = io.im(11);
+        const V t57 = x28i + x11i;
+        const V t58 = x28r - x11r;
+        const V t59 = x28i - x11i;
+        // complex block of 2
+        const V x30r = io.re(30);
+        const V x13r = io.re(13);
+        const V t60 = x30r + x13r;
+        const V x30i = io.im(30);
+        const V x13i = io.im(13);
+        const V t61 = x30i + x13i;
+        const V t62 = x30r - x13r;
+        const V t63 = x30i - x13i;
+        // complex block of 2
+        const V x32r = io.re(32);
+        const V x15r = io.re(15);
+        const V t64 = x32r + x15r;
+        const V x32i = io.im(32);
+        const V x15i = io.im(15);
+        const V t65 = x32i + x15i;
+        const V t66 = x32r - x15r;
+        const V t67 = x32i - x15i;
         // real block of 2
-        const V t260 = t258 + t256;
-        const V t261 = t258 - t256;
+        const V t68 = t4 + t64;
+        const V t69 = t4 - t64;
         // real block of 2
-        const V t262 = t259 + t257;
-        const V t263 = t259 - t257;
+        const V t70 = t52 + t16;
+        const V t71 = t52 - t16;
         // real block of 2
-        const V t264 = t200 + t260;
+        const V t72 = t68 + t70;
+        const V t73 = t68 - t70;
         // real block of 2
-        const V t265 = t184 + t189;
+        const V t74 = t12 + t56;
+        const V t75 = t12 - t56;
         // real block of 2
-        const V t266 = t264 + t265;
+        const V t76 = t20 + t48;
+        const V t77 = t20 - t48;
         // real block of 2
-        const V t267 = t238 + t239;
+        const V t78 = t74 + t76;
+        const V t79 = t74 - t76;
         // real block of 2
-        const V t268 = t212 + t213;
+        const V t80 = t36 + t32;
+        const V t81 = t36 - t32;
         // real block of 2
-        const V t269 = t267 + t268;
+        const V t82 = t60 + t8;
+        const V t83 = t60 - t8;
         // real block of 2
-        const V t270 = t264 - t265;
+        const V t84 = t80 + t82;
+        const V t85 = t80 - t82;
         // real block of 2
-        const V t271 = t267 - t268;
+        const V t86 = t40 + t28;
+        const V t87 = t40 - t28;
         // real block of 2
-        const V t272 = t266 + t269;
-        const V t273 = t266 - t269;
+        const V t88 = t44 + t24;
+        const V t89 = t44 - t24;
         // real block of 2
-        const V t274 = t200 - t260;
+        const V t90 = t86 + t88;
+        const V t91 = t86 - t88;
+        // real block of 2
+        const V t92 = t72 + t84;
+        const V t93 = t72 - t84;
+        // real block of 2
+        const V t94 = t78 + t90;
+        const V t95 = t78 - t90;
+        // real block of 2
+        const V t96 = t92 + t94;
+        const V t97 = t92 - t94;
+        // real block of 16
+        const V t98 = c[0] * t77;
+        const V t99 = c[1] * t75;
+        const V t100 = t99 - t98;
+        const V t101 = c[0] * t75;
+        const V t102 = c[1] * t77;
+        const V t103 = t102 + t101;
+        const V t104 = t81 - t83;
+        const V t105 = t83 + t81;
+        const V t106 = c[2] * t104;
+        const V t107 = c[2] * t105;
+        const V t108 = c[1] * t89;
+        const V t109 = c[0] * t87;
+        const V t110 = t109 - t108;
+        const V t111 = c[1] * t87;
+        const V t112 = c[0] * t89;
+        const V t113 = t112 + t111;
+        // complex block of 2
+        const V t114 = t69 + t106;
+        const V t115 = t71 + t107;
+        const V t116 = t69 - t106;
+        const V t117 = t107 - t71;
+        // complex block of 2
+        const V t118 = t100 + t110;
+        const V t119 = t103 + t113;
+        const V t120 = t100 - t110;
+        const V t121 = t113 - t103;
+        // complex block of 2
+        const V t122 = t114 + t118;
+        const V t123 = t115 + t119;
+        const V t124 = t114 - t118;
+        const V t125 = t119 - t115;
+        // complex block of 2
+        const V t126 = t116 + t121;
+        const V t127 = t117 - t120;
+        const V t128 = t116 - t121;
+        const V t129 = t117 + t120;
         // skew block of 4
-        const V t275 = t240 - t214;
-        const V t276 = c[2] * t275;
-        const V t277 = t274 + t276;
-        const V t278 = t274 - t276;
+        const V t130 = t79 - t91;
+        const V t131 = c[2] * t130;
+        const V t132 = t79 + t91;
+        const V t133 = c[2] * t132;
+        const V t134 = t133 - t85;
+        const V t135 = t73 + t131;
+        const V t136 = t85 + t133;
+        const V t137 = t73 - t131;
         // real block of 2
-        const V t279 = t184 - t189;
+        const V t138 = t5 + t65;
+        const V t139 = t5 - t65;
+        // real block of 2
+        const V t140 = t53 + t17;
+        const V t141 = t53 - t17;
+        // real block of 2
+        const V t142 = t138 + t140;
+        const V t143 = t138 - t140;
+        // real block of 2
+        const V t144 = t13 + t57;
+        const V t145 = t13 - t57;
+        // real block of 2
+        const V t146 = t21 + t49;
+        const V t147 = t21 - t49;
+        // real block of 2
+        const V t148 = t144 + t146;
+        const V t149 = t144 - t146;
+        // real block of 2
+        const V t150 = t37 + t33;
+        const V t151 = t37 - t33;
+        // real block of 2
+        const V t152 = t61 + t9;
+        const V t153 = t61 - t9;
+        // real block of 2
+        const V t154 = t150 + t152;
+        const V t155 = t150 - t152;
+        // real block of 2
+        const V t156 = t41 + t29;
+        const V t157 = t41 - t29;
+        // real block of 2
+        const V t158 = t45 + t25;
+        const V t159 = t45 - t25;
+        // real block of 2
+        const V t160 = t156 + t158;
+        const V t161 = t156 - t158;
+        // real block of 2
+        const V t162 = t142 + t154;
+        const V t163 = t142 - t154;
+        // real block of 2
+        const V t164 = t148 + t160;
+        const V t165 = t148 - t160;
+        // real block of 2
+        const V t166 = t162 + t164;
+        const V t167 = t162 - t164;
+        // real block of 16
+        const V t168 = c[0] * t147;
+        const V t169 = c[1] * t145;
+        const V t170 = t169 - t168;
+        const V t171 = c[0] * t145;
+        const V t172 = c[1] * t147;
+        const V t173 = t172 + t171;
+        const V t174 = t151 - t153;
+        const V t175 = t153 + t151;
+        const V t176 = c[2] * t174;
+        const V t177 = c[2] * t175;
+        const V t178 = c[1] * t159;
+        const V t179 = c[0] * t157;
+        const V t180 = t179 - t178;
+        const V t181 = c[1] * t157;
+        const V t182 = c[0] * t159;
+        const V t183 = t182 + t181;
+        // complex block of 2
+        const V t184 = t139 + t176;
+        const V t185 = t141 + t177;
+        const V t186 = t139 - t176;
+        const V t187 = t177 - t141;
+        // complex block of 2
+        const V t188 = t170 + t180;
+        const V t189 = t173 + t183;
+        const V t190 = t170 - t180;
+        const V t191 = t183 - t173;
+        // complex block of 2
+        const V t192 = t184 + t188;
+        const V t193 = t185 + t189;
+        const V t194 = t184 - t188;
+        const V t195 = t189 - t185;
+        // complex block of 2
+        const V t196 = t186 + t191;
+        const V t197 = t187 - t190;
+        const V t198 = t186 - t191;
+        const V t199 = t187 + t190;
         // skew block of 4
-        const V t280 = t240 + t214;
-        const V t281 = c[2] * t280;
-        const V t282 = t281 - t279;
-        const V t283 = t279 + t281;
-        // real block of 16
-        const V t284 = t242 - t245;
-        const V t285 = t216 - t219;
-        // complex block of 2
-        const V t286 = t284 + t285;
-        const V t287 = t284 - t285;
-        // real block of 16
-        const V t288 = t246 + t243;
-        const V t289 = t220 + t217;
-        // complex block of 2
-        const V t290 = t288 + t289;
-        const V t291 = t289 - t288;
-        // real block of 16
-        const V t292 = c[2] * t187;
-        // complex block of 2
-        const V t293 = t201 + t292;
-        const V t294 = t201 - t292;
-        // real block of 16
-        const V t295 = c[2] * t188;
-        // complex block of 2
-        const V t296 = t261 + t295;
-        const V t297 = t295 - t261;
-        // complex block of 2
-        const V t298 = t293 + t286;
-        const V t299 = t296 + t290;
-        const V t300 = t293 - t286;
-        const V t301 = t290 - t296;
-        // complex block of 2
-        const V t302 = t294 + t291;
-        const V t303 = t297 - t287;
-        const V t304 = t294 - t291;
-        const V t305 = t297 + t287;
-        // real block of 2
-        const V t306 = t202 + t262;
-        // real block of 2
-        const V t307 = t190 + t195;
-        // real block of 2
-        const V t308 = t306 + t307;
-        // real block of 2
-        const V t309 = t247 + t248;
-        // real block of 2
-        const V t310 = t221 + t222;
-        // real block of 2
-        const V t311 = t309 + t310;
-        // real block of 2
-        const V t312 = t306 - t307;
-        // real block of 2
-        const V t313 = t309 - t310;
-        // real block of 2
-        const V t314 = t308 + t311;
-        const V t315 = t308 - t311;
-        // real block of 2
-        const V t316 = t202 - t262;
-        // skew block of 4
-        const V t317 = t249 - t223;
-        const V t318 = c[2] * t317;
-        const V t319 = t316 + t318;
-        const V t320 = t316 - t318;
-        // real block of 2
-        const V t321 = t190 - t195;
-        // skew block of 4
-        const V t322 = t249 + t223;
-        const V t323 = c[2] * t322;
-        const V t324 = t323 - t321;
-        const V t325 = t321 + t323;
-        // real block of 16
-        const V t326 = t251 - t254;
-        const V t327 = t225 - t228;
-        // complex block of 2
-        const V t328 = t326 + t327;
-        const V t329 = t326 - t327;
-        // real block of 16
-        const V t330 = t255 + t252;
-        const V t331 = t229 + t226;
-        // complex block of 2
-        const V t332 = t330 + t331;
-        const V t333 = t331 - t330;
-        // real block of 16
-        const V t334 = c[2] * t193;
-        // complex block of 2
-        const V t335 = t203 + t334;
-        const V t336 = t203 - t334;
-        // real block of 16
-        const V t337 = c[2] * t194;
-        // complex block of 2
-        const V t338 = t263 + t337;
-        const V t339 = t337 - t263;
-        // complex block of 2
-        const V t340 = t335 + t328;
-        const V t341 = t338 + t332;
-        const V t342 = t335 - t328;
-        const V t343 = t332 - t338;
-        // complex block of 2
-        const V t344 = t336 + t333;
-        const V t345 = t339 - t329;
-        const V t346 = t336 - t333;
-        const V t347 = t339 + t329;
+        const V t200 = t149 - t161;
+        const V t201 = c[2] * t200;
+        const V t202 = t149 + t161;
+        const V t203 = c[2] * t202;
+        const V t204 = t203 - t155;
+        const V t205 = t143 + t201;
+        const V t206 = t155 + t203;
+        const V t207 = t143 - t201;
         // complex block of 17, multiplier 2
-        const V t348 = t0 + t100;
-        io.re(0, t348);
-        const V t349 = t2 + t272;
-        io.im(0, t349);
-        const V t350 = c[17] * t100;
-        const V t351 = t0 - t350;
-        const V t352 = c[18] * t101;
+        const V t208 = t0 + t96;
+        io.re(0, t208);
+        const V t209 = t1 + t166;
+        io.im(0, t209);
+        const V t210 = c[17] * t96;
+        const V t211 = t0 - t210;
+        const V t212 = c[17] * t166;
+        const V t213 = t1 - t212;
+        const V t214 = c[3] * t193;
+        const V t215 = c[4] * t192;
+        const V t216 = t215 + t214;
+        const V t217 = c[3] * t192;
+        const V t218 = c[4] * t193;
+        const V t219 = t217 - t218;
+        const V t220 = c[3] * t123;
+        const V t221 = c[4] * t122;
+        const V t222 = t221 + t220;
+        const V t223 = c[3] * t122;
+        const V t224 = c[4] * t123;
+        const V t225 = t224 - t223;
+        const V t226 = c[5] * t136;
+        const V t227 = c[6] * t135;
+        const V t228 = t227 + t226;
+        const V t229 = c[5] * t135;
+        const V t230 = c[6] * t136;
+        const V t231 = t229 - t230;
+        const V t232 = c[5] * t206;
+        const V t233 = c[6] * t205;
+        const V t234 = t233 + t232;
+        const V t235 = c[5] * t205;
+        const V t236 = c[6] * t206;
+        const V t237 = t235 - t236;
+        const V t238 = c[7] * t199;
+        const V t239 = c[8] * t198;
+        const V t240 = t238 - t239;
+        const V t241 = c[7] * t198;
+        const V t242 = c[8] * t199;
+        const V t243 = t242 + t241;
+        const V t244 = c[7] * t129;
+        const V t245 = c[8] * t128;
+        const V t246 = t245 - t244;
+        const V t247 = c[7] * t128;
+        const V t248 = c[8] * t129;
+        const V t249 = t248 + t247;
+        const V t250 = c[9] * t95;
+        const V t251 = c[10] * t93;
+        const V t252 = t251 + t250;
+        const V t253 = c[9] * t93;
+        const V t254 = c[10] * t95;
+        const V t255 = t254 - t253;
+        const V t256 = c[9] * t165;
+        const V t257 = c[10] * t163;
+        const V t258 = t257 + t256;
+        const V t259 = c[9] * t163;
+        const V t260 = c[10] * t165;
+        const V t261 = t260 - t259;
+        const V t262 = c[11] * t197;
+        const V t263 = c[12] * t196;
+        const V t264 = t263 - t262;
+        const V t265 = c[11] * t196;
+        const V t266 = c[12] * t197;
+        const V t267 = t266 + t265;
+        const V t268 = c[11] * t127;
+        const V t269 = c[12] * t126;
+        const V t270 = t268 - t269;
+        const V t271 = c[11] * t126;
+        const V t272 = c[12] * t127;
+        const V t273 = t272 + t271;
+        const V t274 = c[13] * t134;
+        const V t275 = c[14] * t137;
+        const V t276 = t275 - t274;
+        const V t277 = c[13] * t137;
+        const V t278 = c[14] * t134;
+        const V t279 = t278 + t277;
+        const V t280 = c[13] * t204;
+        const V t281 = c[14] * t207;
+        const V t282 = t281 - t280;
+        const V t283 = c[13] * t207;
+        const V t284 = c[14] * t204;
+        const V t285 = t284 + t283;
+        const V t286 = c[15] * t195;
+        const V t287 = c[16] * t194;
+        const V t288 = t287 + t286;
+        const V t289 = c[15] * t194;
+        const V t290 = c[16] * t195;
+        const V t291 = t289 - t290;
+        const V t292 = c[15] * t125;
+        const V t293 = c[16] * t124;
+        const V t294 = t293 + t292;
+        const V t295 = c[15] * t124;
+        const V t296 = c[16] * t125;
+        const V t297 = t296 - t295;
+        const V t298 = c[18] * t97;
+        const V t299 = c[18] * t167;
         // spectrum block of 2
-        const V t353 = t351 + t352;
-        const V t354 = t351 - t352;
-        // complex block of 17, multiplier 2
-        const V t355 = c[3] * t299;
-        const V t356 = c[4] * t298;
-        const V t357 = t356 + t355;
-        const V t358 = c[3] * t298;
-        const V t359 = c[4] * t299;
-        const V t360 = t358 - t359;
-        const V t361 = c[5] * t305;
-        const V t362 = c[6] * t304;
-        const V t363 = t361 - t362;
-        const V t364 = c[5] * t304;
-        const V t365 = c[6] * t305;
-        const V t366 = t365 + t364;
-        const V t367 = c[7] * t303;
-        const V t368 = c[8] * t302;
-        const V t369 = t368 - t367;
-        const V t370 = c[7] * t302;
-        const V t371 = c[8] * t303;
-        const V t372 = t371 + t370;
-        const V t373 = c[9] * t301;
-        const V t374 = c[10] * t300;
-        const V t375 = t374 + t373;
-        const V t376 = c[9] * t300;
-        const V t377 = c[10] * t301;
-        const V t378 = t376 - t377;
+        const V t300 = t211 + t298;
+        const V t301 = t211 - t298;
+        // spectrum block of 2
+        const V t302 = t300 - t252;
+        const V t303 = t300 + t252;
+        // spectrum block of 2
+        const V t304 = t301 - t255;
+        const V t305 = t301 + t255;
         // complex block of 2
-        const V t379 = t360 - t378;
+        const V t306 = t219 - t291;
+        const V t307 = t216 + t288;
+        const V t308 = t219 + t291;
+        const V t309 = t216 - t288;
         // complex block of 2
-        const V t380 = t372 - t366;
+        const V t310 = t267 - t243;
+        const V t311 = t264 + t240;
+        const V t312 = t267 + t243;
+        const V t313 = t264 - t240;
         // complex block of 2
-        const V t381 = t379 - t380;
+        const V t314 = t306 + t310;
+        const V t315 = t307 + t311;
+        const V t316 = t306 - t310;
+        const V t317 = t307 - t311;
         // complex block of 2
-        const V t382 = t357 + t375;
-        // complex block of 2
-        const V t383 = t369 + t363;
-        // complex block of 2
-        const V t384 = t382 - t383;
-        // complex block of 2
-        const V t385 = t360 + t378;
-        // complex block of 2
-        const V t386 = t369 - t363;
-        // complex block of 2
-        const V t387 = t385 + t386;
-        const V t388 = t385 - t386;
-        // complex block of 2
-        const V t389 = t357 - t375;
-        // complex block of 2
-        const V t390 = t372 + t366;
-        // complex block of 2
-        const V t391 = t389 - t390;
-        const V t392 = t389 + t390;
-        // complex block of 17, multiplier 2
-        const V t393 = c[11] * t111;
-        const V t394 = c[12] * t105;
-        const V t395 = t394 + t393;
-        const V t396 = c[13] * t110;
-        const V t397 = c[14] * t106;
-        const V t398 = t397 - t396;
+        const V t318 = t308 + t313;
+        const V t319 = t309 - t312;
+        const V t320 = t308 - t313;
+        const V t321 = t309 + t312;
+        // spectrum block of 16
+        const V t322 = c[0] * t318;
+        const V t323 = c[1] * t319;
+        const V t324 = t323 - t322;
+        const V t325 = c[0] * t319;
+        const V t326 = c[1] * t318;
+        const V t327 = t326 + t325;
+        const V t328 = t317 + t316;
+        const V t329 = t316 - t317;
+        const V t330 = c[2] * t328;
+        const V t331 = c[2] * t329;
+        const V t332 = c[1] * t320;
+        const V t333 = c[0] * t321;
+        const V t334 = t333 - t332;
+        const V t335 = c[1] * t321;
+        const V t336 = c[0] * t320;
+        const V t337 = t336 + t335;
         // mirrored skew block of 4
-        const V t399 = t395 - t398;
-        const V t400 = c[2] * t399;
-        const V t401 = t395 + t398;
-        // complex block of 17, multiplier 2
-        const V t402 = c[11] * t105;
-        const V t403 = c[12] * t111;
-        const V t404 = t402 - t403;
-        const V t405 = c[13] * t106;
-        const V t406 = c[14] * t110;
+        const V t338 = t228 - t276;
+        const V t339 = c[2] * t338;
+        const V t340 = t231 - t279;
+        const V t341 = c[2] * t340;
+        const V t342 = t228 + t276;
+        const V t343 = t339 - t341;
+        const V t344 = t231 + t279;
+        const V t345 = t339 + t341;
+        // spectrum block of 2
+        const V t346 = t302 + t342;
+        const V t347 = t302 - t342;
+        // spectrum block of 2
+        const V t348 = t346 + t315;
+        io.re(2, t348);
+        const V t349 = t346 - t315;
+        io.re(32, t349);
+        // spectrum block of 2
+        const V t350 = t347 - t314;
+        io.re(8, t350);
+        const V t351 = t347 + t314;
+        io.re(26, t351);
+        // spectrum block of 2
+        const V t352 = t304 + t343;
+        const V t353 = t304 - t343;
+        // spectrum block of 2
+        const V t354 = t352 + t324;
+        io.re(12, t354);
+        const V t355 = t352 - t324;
+        io.re(22, t355);
+        // spectrum block of 2
+        const V t356 = t353 - t327;
+        io.re(14, t356);
+        const V t357 = t353 + t327;
+        io.re(20, t357);
+        // spectrum block of 2
+        const V t358 = t303 - t344;
+        const V t359 = t303 + t344;
+        // spectrum block of 2
+        const V t360 = t358 - t331;
+        io.re(4, t360);
+        const V t361 = t358 + t331;
+        io.re(30, t361);
+        // spectrum block of 2
+        const V t362 = t359 - t330;
+        io.re(16, t362);
+        const V t363 = t359 + t330;
+        io.re(18, t363);
+        // spectrum block of 2
+        const V t364 = t305 - t345;
+        const V t365 = t305 + t345;
+        // spectrum block of 2
+        const V t366 = t364 + t334;
+        io.re(24, t366);
+        const V t367 = t364 - t334;
+        io.re(10, t367);
+        // spectrum block of 2
+        const V t368 = t365 - t337;
+        io.re(28, t368);
+        const V t369 = t365 + t337;
+        io.re(6, t369);
+        // spectrum block of 2
+        const V t370 = t213 + t299;
+        const V t371 = t213 - t299;
+        // spectrum block of 2
+        const V t372 = t370 - t258;
+        const V t373 = t370 + t258;
+        // spectrum block of 2
+        const V t374 = t371 - t261;
+        const V t375 = t371 + t261;
+        // complex block of 2
+        const V t376 = t225 - t297;
+        const V t377 = t222 + t294;
+        const V t378 = t225 + t297;
+        const V t379 = t294 - t222;
+        // complex block of 2
+        const V t380 = t249 - t273;
+        const V t381 = t270 + t246;
+        const V t382 = t273 + t249;
+        const V t383 = t270 - t246;
+        // complex block of 2
+        const V t384 = t376 + t380;
+        const V t385 = t381 - t377;
+        const V t386 = t376 - t380;
+        const V t387 = t377 + t381;
+        // complex block of 2
+        const V t388 = t378 + t383;
+        const V t389 = t379 + t382;
+        const V t390 = t378 - t383;
+        const V t391 = t379 - t382;
+        // spectrum block of 16
+        const V t392 = c[0] * t388;
+        const V t393 = c[1] * t389;
+        const V t394 = t393 - t392;
+        const V t395 = c[0] * t389;
+        const V t396 = c[1] * t388;
+        const V t397 = t396 + t395;
+        const V t398 = t386 - t387;
+        const V t399 = t386 + t387;
+        const V t400 = c[2] * t398;
+        const V t401 = c[2] * t399;
+        const V t402 = c[1] * t390;
+        const V t403 = c[0] * t391;
+        const V t404 = t403 - t402;
+        const V t405 = c[1] * t391;
+        const V t406 = c[0] * t390;
         const V t407 = t406 + t405;
         // mirrored skew block of 4
-        const V t408 = t404 - t407;
+        const V t408 = t234 - t282;
         const V t409 = c[2] * t408;
-        const V t410 = t404 + t407;
+        const V t410 = t237 - t285;
+        const V t411 = c[2] * t410;
+        const V t412 = t234 + t282;
+        const V t413 = t409 - t411;
+        const V t414 = t237 + t285;
+        const V t415 = t409 + t411;
+        // spectrum block of 2
+        const V t416 = t372 + t412;
+        const V t417 = t372 - t412;
+        // spectrum block of 2
+        const V t418 = t416 + t385;
+        io.im(2, t418);
+        const V t419 = t416 - t385;
+        io.im(32, t419);
+        // spectrum block of 2
+        const V t420 = t417 - t384;
+        io.im(8, t420);
+        const V t421 = t417 + t384;
+        io.im(26, t421);
+        // spectrum block of 2
+        const V t422 = t374 + t413;
+        const V t423 = t374 - t413;
+        // spectrum block of 2
+        const V t424 = t422 + t394;
+        io.im(12, t424);
+        const V t425 = t422 - t394;
+        io.im(22, t425);
+        // spectrum block of 2
+        const V t426 = t423 - t397;
+        io.im(14, t426);
+        const V t427 = t423 + t397;
+        io.im(20, t427);
+        // spectrum block of 2
+        const V t428 = t373 - t414;
+        const V t429 = t373 + t414;
+        // spectrum block of 2
+        const V t430 = t428 - t401;
+        io.im(4, t430);
+        const V t431 = t428 + t401;
+        io.im(30, t431);
+        // spectrum block of 2
+        const V t432 = t429 - t400;
+        io.im(16, t432);
+        const V t433 = t429 + t400;
+        io.im(18, t433);
+        // spectrum block of 2
+        const V t434 = t375 - t415;
+        const V t435 = t375 + t415;
+        // spectrum block of 2
+        const V t436 = t434 + t404;
+        io.im(24, t436);
+        const V t437 = t434 - t404;
+        io.im(10, t437);
+        // spectrum block of 2
+        const V t438 = t435 - t407;
+        io.im(28, t438);
+        const V t439 = t435 + t407;
+        io.im(6, t439);
+        // real block of 2
+        const V t440 = t6 + t66;
+        const V t441 = t6 - t66;
+        // real block of 2
+        const V t442 = t54 + t18;
+        const V t443 = t54 - t18;
+        // real block of 2
+        const V t444 = t440 + t442;
+        const V t445 = t440 - t442;
+        // real block of 2
+        const V t446 = t14 + t58;
+        const V t447 = t14 - t58;
+        // real block of 2
+        const V t448 = t22 + t50;
+        const V t449 = t22 - t50;
+        // real block of 2
+        const V t450 = t446 + t448;
+        const V t451 = t446 - t448;
+        // real block of 2
+        const V t452 = t38 + t34;
+        const V t453 = t38 - t34;
+        // real block of 2
+        const V t454 = t62 + t10;
+        const V t455 = t62 - t10;
+        // real block of 2
+        const V t456 = t452 + t454;
+        const V t457 = t452 - t454;
+        // real block of 2
+        const V t458 = t42 + t30;
+        const V t459 = t42 - t30;
+        // real block of 2
+        const V t460 = t46 + t26;
+        const V t461 = t46 - t26;
+        // real block of 2
+        const V t462 = t458 + t460;
+        const V t463 = t458 - t460;
+        // real block of 2
+        const V t464 = t444 + t456;
+        const V t465 = t444 - t456;
+        // real block of 2
+        const V t466 = t450 + t462;
+        const V t467 = t450 - t462;
+        // real block of 2
+        const V t468 = t464 + t466;
+        const V t469 = t464 - t466;
+        // real block of 16
+        const V t470 = c[0] * t449;
+        const V t471 = c[1] * t447;
+        const V t472 = t471 - t470;
+        const V t473 = c[0] * t447;
+        const V t474 = c[1] * t449;
+        const V t475 = t474 + t473;
+        const V t476 = t453 - t455;
+        const V t477 = t455 + t453;
+        const V t478 = c[2] * t476;
+        const V t479 = c[2] * t477;
+        const V t480 = c[1] * t461;
+        const V t481 = c[0] * t459;
+        const V t482 = t481 - t480;
+        const V t483 = c[1] * t459;
+        const V t484 = c[0] * t461;
+        const V t485 = t484 + t483;
+        // complex block of 2
+        const V t486 = t441 + t478;
+        const V t487 = t443 + t479;
+        const V t488 = t441 - t478;
+        const V t489 = t479 - t443;
+        // complex block of 2
+        const V t490 = t472 + t482;
+        const V t491 = t475 + t485;
+        const V t492 = t472 - t482;
+        const V t493 = t485 - t475;
+        // complex block of 2
+        const V t494 = t486 + t490;
+        const V t495 = t487 + t491;
+        const V t496 = t486 - t490;
+        const V t497 = t491 - t487;
+        // complex block of 2
+        const V t498 = t488 + t493;
+        const V t499 = t489 - t492;
+        const V t500 = t488 - t493;
+        const V t501 = t489 + t492;
+        // skew block of 4
+        const V t502 = t451 - t463;
+        const V t503 = c[2] * t502;
+        const V t504 = t451 + t463;
+        const V t505 = c[2] * t504;
+        const V t506 = t505 - t457;
+        const V t507 = t445 + t503;
+        const V t508 = t457 + t505;
+        const V t509 = t445 - t503;
+        // real block of 2
+        const V t510 = t7 + t67;
+        const V t511 = t7 - t67;
+        // real block of 2
+        const V t512 = t55 + t19;
+        const V t513 = t55 - t19;
+        // real block of 2
+        const V t514 = t510 + t512;
+        const V t515 = t510 - t512;
+        // real block of 2
+        const V t516 = t15 + t59;
+        const V t517 = t15 - t59;
+        // real block of 2
+        const V t518 = t23 + t51;
+        const V t519 = t23 - t51;
+        // real block of 2
+        const V t520 = t516 + t518;
+        const V t521 = t516 - t518;
+        // real block of 2
+        const V t522 = t39 + t35;
+        const V t523 = t39 - t35;
+        // real block of 2
+        const V t524 = t63 + t11;
+        const V t525 = t63 - t11;
+        // real block of 2
+        const V t526 = t522 + t524;
+        const V t527 = t522 - t524;
+        // real block of 2
+        const V t528 = t43 + t31;
+        const V t529 = t43 - t31;
+        // real block of 2
+        const V t530 = t47 + t27;
+        const V t531 = t47 - t27;
+        // real block of 2
+        const V t532 = t528 + t530;
+        const V t533 = t528 - t530;
+        // real block of 2
+        const V t534 = t514 + t526;
+        const V t535 = t514 - t526;
+        // real block of 2
+        const V t536 = t520 + t532;
+        const V t537 = t520 - t532;
+        // real block of 2
+        const V t538 = t534 + t536;
+        const V t539 = t534 - t536;
+        // real block of 16
+        const V t540 = c[0] * t519;
+        const V t541 = c[1] * t517;
+        const V t542 = t541 - t540;
+        const V t543 = c[0] * t517;
+        const V t544 = c[1] * t519;
+        const V t545 = t544 + t543;
+        const V t546 = t523 - t525;
+        const V t547 = t525 + t523;
+        const V t548 = c[2] * t546;
+        const V t549 = c[2] * t547;
+        const V t550 = c[1] * t531;
+        const V t551 = c[0] * t529;
+        const V t552 = t551 - t550;
+        const V t553 = c[1] * t529;
+        const V t554 = c[0] * t531;
+        const V t555 = t554 + t553;
+        // complex block of 2
+        const V t556 = t511 + t548;
+        const V t557 = t513 + t549;
+        const V t558 = t511 - t548;
+        const V t559 = t549 - t513;
+        // complex block of 2
+        const V t560 = t542 + t552;
+        const V t561 = t545 + t555;
+        const V t562 = t542 - t552;
+        const V t563 = t555 - t545;
+        // complex block of 2
+        const V t564 = t556 + t560;
+        const V t565 = t557 + t561;
+        const V t566 = t556 - t560;
+        const V t567 = t561 - t557;
+        // complex block of 2
+        const V t568 = t558 + t563;
+        const V t569 = t559 - t562;
+        const V t570 = t558 - t563;
+        const V t571 = t559 + t562;
+        // skew block of 4
+        const V t572 = t521 - t533;
+        const V t573 = c[2] * t572;
+        const V t574 = t521 + t533;
+        const V t575 = c[2] * t574;
+        const V t576 = t575 - t527;
+        const V t577 = t515 + t573;
+        const V t578 = t527 + t575;
+        const V t579 = t515 - t573;
         // complex block of 17, multiplier 2
-        const V t411 = c[15] * t99;
-        const V t412 = c[16] * t98;
-        const V t413 = t412 + t411;
-        const V t414 = c[15] * t98;
-        const V t415 = c[16] * t99;
-        const V t416 = t415 - t414;
-        // spectrum block of 2
-        const V t417 = t353 - t413;
-        // spectrum block of 2
-        const V t418 = t417 + t401;
-        const V t419 = t417 - t401;
-        // complex block of 2
-        const V t420 = t379 + t380;
-        const V t421 = t382 + t383;
-        // spectrum block of 2
-        const V t422 = t418 + t421;
-        io.re(2, t422);
-        const V t423 = t418 - t421;
-        io.re(32, t423);
-        // spectrum block of 2
-        const V t424 = t419 - t420;
-        io.re(8, t424);
-        const V t425 = t419 + t420;
-        io.re(26, t425);
-        // spectrum block of 2
-        const V t426 = t353 + t413;
-        // spectrum block of 2
-        const V t427 = t426 - t410;
-        const V t428 = t426 + t410;
-        // spectrum block of 16
-        const V t429 = t384 + t381;
-        const V t430 = c[2] * t429;
-        const V t431 = t381 - t384;
-        const V t432 = c[2] * t431;
-        // spectrum block of 2
-        const V t433 = t427 - t432;
-        io.re(4, t433);
-        const V t434 = t427 + t432;
-        io.re(30, t434);
-        // spectrum block of 2
-        const V t435 = t428 - t430;
-        io.re(16, t435);
-        const V t436 = t428 + t430;
-        io.re(18, t436);
-        // spectrum block of 2
-        const V t437 = t354 - t416;
-        // mirrored skew block of 4
-        const V t438 = t400 - t409;
-        // spectrum block of 2
-        const V t439 = t437 + t438;
-        const V t440 = t437 - t438;
-        // spectrum block of 16
-        const V t441 = c[0] * t387;
-        const V t442 = c[1] * t391;
-        const V t443 = t442 - t441;
-        const V t444 = c[0] * t391;
-        const V t445 = c[1] * t387;
-        const V t446 = t445 + t444;
-        // spectrum block of 2
-        const V t447 = t439 + t443;
-        io.re(12, t447);
-        const V t448 = t439 - t443;
-        io.re(22, t448);
-        // spectrum block of 2
-        const V t449 = t440 - t446;
-        io.re(14, t449);
-        const V t450 = t440 + t446;
-        io.re(20, t450);
-        // spectrum block of 2
-        const V t451 = t354 + t416;
-        // mirrored skew block of 4
-        const V t452 = t400 + t409;
-        // spectrum block of 2
-        const V t453 = t451 - t452;
-        const V t454 = t451 + t452;
-        // spectrum block of 16
-        const V t455 = c[1] * t388;
-        const V t456 = c[0] * t392;
-        const V t457 = t456 - t455;
-        const V t458 = c[1] * t392;
-        const V t459 = c[0] * t388;
-        const V t460 = t459 + t458;
-        // spectrum block of 2
-        const V t461 = t453 + t457;
-        io.re(24, t461);
-        const V t462 = t453 - t457;
-        io.re(10, t462);
-        // spectrum block of 2
-        const V t463 = t454 - t460;
-        io.re(28, t463);
-        const V t464 = t454 + t460;
-        io.re(6, t464);
-        // complex block of 17, multiplier 2
-        const V t465 = c[17] * t272;
-        const V t466 = t2 - t465;
-        const V t467 = c[18] * t273;
-        // spectrum block of 2
-        const V t468 = t466 + t467;
-        const V t469 = t466 - t467;
-        // complex block of 17, multiplier 2
-        const V t470 = c[3] * t127;
-        const V t471 = c[4] * t126;
-        const V t472 = t471 + t470;
-        const V t473 = c[3] * t126;
-        const V t474 = c[4] * t127;
-        const V t475 = t474 - t473;
-        const V t476 = c[5] * t133;
-        const V t477 = c[6] * t132;
-        const V t478 = t477 - t476;
-        const V t479 = c[5] * t132;
-        const V t480 = c[6] * t133;
-        const V t481 = t480 + t479;
-        const V t482 = c[7] * t131;
-        const V t483 = c[8] * t130;
-        const V t484 = t482 - t483;
-        const V t485 = c[7] * t130;
-        const V t486 = c[8] * t131;
-        const V t487 = t486 + t485;
-        const V t488 = c[9] * t129;
-        const V t489 = c[10] * t128;
-        const V t490 = t489 + t488;
-        const V t491 = c[9] * t128;
-        const V t492 = c[10] * t129;
-        const V t493 = t492 - t491;
-        // complex block of 2
-        const V t494 = t475 - t493;
-        // complex block of 2
-        const V t495 = t481 - t487;
-        // complex block of 2
-        const V t496 = t494 - t495;
-        // complex block of 2
-        const V t497 = t472 + t490;
-        // complex block of 2
-        const V t498 = t484 + t478;
-        // complex block of 2
-        const V t499 = t497 + t498;
-        // complex block of 2
-        const V t500 = t475 + t493;
-        // complex block of 2
-        const V t501 = t484 - t478;
-        // complex block of 2
-        const V t502 = t500 + t501;
-        const V t503 = t500 - t501;
-        // complex block of 2
-        const V t504 = t490 - t472;
-        // complex block of 2
-        const V t505 = t487 + t481;
-        // complex block of 2
-        const V t506 = t504 + t505;
-        const V t507 = t504 - t505;
-        // complex block of 17, multiplier 2
-        const V t508 = c[11] * t283;
-        const V t509 = c[12] * t277;
-        const V t510 = t509 + t508;
-        const V t511 = c[13] * t282;
-        const V t512 = c[14] * t278;
-        const V t513 = t512 - t511;
-        // mirrored skew block of 4
-        const V t514 = t510 - t513;
-        const V t515 = c[2] * t514;
-        const V t516 = t510 + t513;
-        // complex block of 17, multiplier 2
-        const V t517 = c[11] * t277;
-        const V t518 = c[12] * t283;
-        const V t519 = t517 - t518;
-        const V t520 = c[13] * t278;
-        const V t521 = c[14] * t282;
-        const V t522 = t521 + t520;
-        // mirrored skew block of 4
-        const V t523 = t519 - t522;
-        const V t524 = c[2] * t523;
-        const V t525 = t519 + t522;
-        // complex block of 17, multiplier 2
-        const V t526 = c[15] * t271;
-        const V t527 = c[16] * t270;
-        const V t528 = t527 + t526;
-        const V t529 = c[15] * t270;
-        const V t530 = c[16] * t271;
-        const V t531 = t530 - t529;
-        // spectrum block of 2
-        const V t532 = t468 - t528;
-        // spectrum block of 2
-        const V t533 = t532 + t516;
-        const V t534 = t532 - t516;
-        // complex block of 2
-        const V t535 = t494 + t495;
-        const V t536 = t498 - t497;
-        // spectrum block of 2
-        const V t537 = t533 + t536;
-        io.im(2, t537);
-        const V t538 = t533 - t536;
-        io.im(32, t538);
-        // spectrum block of 2
-        const V t539 = t534 - t535;
-        io.im(8, t539);
-        const V t540 = t534 + t535;
-        io.im(26, t540);
-        // spectrum block of 2
-        const V t541 = t468 + t528;
-        // spectrum block of 2
-        const V t542 = t541 - t525;
-        const V t543 = t541 + t525;
-        // spectrum block of 16
-        const V t544 = t496 - t499;
-        const V t545 = c[2] * t544;
-        const V t546 = t496 + t499;
-        const V t547 = c[2] * t546;
-        // spectrum block of 2
-        const V t548 = t542 - t547;
-        io.im(4, t548);
-        const V t549 = t542 + t547;
-        io.im(30, t549);
-        // spectrum block of 2
-        const V t550 = t543 - t545;
-        io.im(16, t550);
-        const V t551 = t543 + t545;
-        io.im(18, t551);
-        // spectrum block of 2
-        const V t552 = t469 - t531;
-        // mirrored skew block of 4
-        const V t553 = t515 - t524;
-        // spectrum block of 2
-        const V t554 = t552 + t553;
-        const V t555 = t552 - t553;
-        // spectrum block of 16
-        const V t556 = c[0] * t502;
-        const V t557 = c[1] * t506;
-        const V t558 = t557 - t556;
-        const V t559 = c[0] * t506;
-        const V t560 = c[1] * t502;
-        const V t561 = t560 + t559;
-        // spectrum block of 2
-        const V t562 = t554 + t558;
-        io.im(12, t562);
-        const V t563 = t554 - t558;
-        io.im(22, t563);
-        // spectrum block of 2
-        const V t564 = t555 - t561;
-        io.im(14, t564);
-        const V t565 = t555 + t561;
-        io.im(20, t565);
-        // spectrum block of 2
-        const V t566 = t469 + t531;
-        // mirrored skew block of 4
-        const V t567 = t515 + t524;
-        // spectrum block of 2
-        const V t568 = t566 - t567;
-        const V t569 = t566 + t567;
-        // spectrum block of 16
-        const V t570 = c[1] * t503;
-        const V t571 = c[0] * t507;
-        const V t572 = t571 - t570;
-        const V t573 = c[1] * t507;
-        const V t574 = c[0] * t503;
-        const V t575 = t574 + t573;
-        // spectrum block of 2
-        const V t576 = t568 + t572;
-        io.im(24, t576);
-        const V t577 = t568 - t572;
-        io.im(10, t577);
-        // spectrum block of 2
-        const V t578 = t569 - t575;
-        io.im(28, t578);
-        const V t579 = t569 + t575;
-        io.im(6, t579);
-        // complex block of 17, multiplier 2
-        const V t580 = t1 + t142;
+        const V t580 = t2 + t468;
         io.re(17, t580);
-        const V t581 = t3 + t314;
+        const V t581 = t3 + t538;
         io.im(17, t581);
-        const V t582 = c[17] * t142;
-        const V t583 = t1 - t582;
-        const V t584 = c[18] * t143;
-        // spectrum block of 2
-        const V t585 = t583 + t584;
-        const V t586 = t583 - t584;
-        // complex block of 17, multiplier 2
-        const V t587 = c[3] * t341;
-        const V t588 = c[4] * t340;
-        const V t589 = t588 + t587;
-        const V t590 = c[3] * t340;
-        const V t591 = c[4] * t341;
-        const V t592 = t590 - t591;
-        const V t593 = c[5] * t347;
-        const V t594 = c[6] * t346;
-        const V t595 = t593 - t594;
-        const V t596 = c[5] * t346;
-        const V t597 = c[6] * t347;
-        const V t598 = t597 + t596;
-        const V t599 = c[7] * t345;
-        const V t600 = c[8] * t344;
-        const V t601 = t600 - t599;
-        const V t602 = c[7] * t344;
-        const V t603 = c[8] * t345;
-        const V t604 = t603 + t602;
-        const V t605 = c[9] * t343;
-        const V t606 = c[10] * t342;
-        const V t607 = t606 + t605;
-        const V t608 = c[9] * t342;
-        const V t609 = c[10] * t343;
-        const V t610 = t608 - t609;
-        // complex block of 2
-        const V t611 = t592 - t610;
-        // complex block of 2
-        const V t612 = t604 - t598;
-        // complex block of 2
-        const V t613 = t611 - t612;
-        // complex block of 2
-        const V t614 = t589 + t607;
-        // complex block of 2
-        const V t615 = t601 + t595;
-        // complex block of 2
-        const V t616 = t614 - t615;
-        // complex block of 2
-        const V t617 = t592 + t610;
-        // complex block of 2
-        const V t618 = t601 - t595;
-        // complex block of 2
-        const V t619 = t617 + t618;
-        const V t620 = t617 - t618;
-        // complex block of 2
-        const V t621 = t589 - t607;
-        // complex block of 2
-        const V t622 = t604 + t598;
-        // complex block of 2
-        const V t623 = t621 - t622;
-        const V t624 = t621 + t622;
-        // complex block of 17, multiplier 2
-        const V t625 = c[11] * t153;
-        const V t626 = c[12] * t147;
-        const V t627 = t626 + t625;
-        const V t628 = c[13] * t152;
-        const V t629 = c[14] * t148;
-        const V t630 = t629 - t628;
-        // mirrored skew block of 4
-        const V t631 = t627 - t630;
-        const V t632 = c[2] * t631;
-        const V t633 = t627 + t630;
-        // complex block of 17, multiplier 2
-        const V t634 = c[11] * t147;
-        const V t635 = c[12] * t153;
-        const V t636 = t634 - t635;
-        const V t637 = c[13] * t148;
-        const V t638 = c[14] * t152;
+        const V t582 = c[17] * t468;
+        const V t583 = t2 - t582;
+        const V t584 = c[17] * t538;
+        const V t585 = t3 - t584;
+        const V t586 = c[3] * t565;
+        const V t587 = c[4] * t564;
+        const V t588 = t587 + t586;
+        const V t589 = c[3] * t564;
+        const V t590 = c[4] * t565;
+        const V t591 = t589 - t590;
+        const V t592 = c[3] * t495;
+        const V t593 = c[4] * t494;
+        const V t594 = t593 + t592;
+        const V t595 = c[3] * t494;
+        const V t596 = c[4] * t495;
+        const V t597 = t596 - t595;
+        const V t598 = c[5] * t508;
+        const V t599 = c[6] * t507;
+        const V t600 = t599 + t598;
+        const V t601 = c[5] * t507;
+        const V t602 = c[6] * t508;
+        const V t603 = t601 - t602;
+        const V t604 = c[5] * t578;
+        const V t605 = c[6] * t577;
+        const V t606 = t605 + t604;
+        const V t607 = c[5] * t577;
+        const V t608 = c[6] * t578;
+        const V t609 = t607 - t608;
+        const V t610 = c[7] * t571;
+        const V t611 = c[8] * t570;
+        const V t612 = t610 - t611;
+        const V t613 = c[7] * t570;
+        const V t614 = c[8] * t571;
+        const V t615 = t614 + t613;
+        const V t616 = c[7] * t501;
+        const V t617 = c[8] * t500;
+        const V t618 = t617 - t616;
+        const V t619 = c[7] * t500;
+        const V t620 = c[8] * t501;
+        const V t621 = t620 + t619;
+        const V t622 = c[9] * t467;
+        const V t623 = c[10] * t465;
+        const V t624 = t623 + t622;
+        const V t625 = c[9] * t465;
+        const V t626 = c[10] * t467;
+        const V t627 = t626 - t625;
+        const V t628 = c[9] * t537;
+        const V t629 = c[10] * t535;
+        const V t630 = t629 + t628;
+        const V t631 = c[9] * t535;
+        const V t632 = c[10] * t537;
+        const V t633 = t632 - t631;
+        const V t634 = c[11] * t569;
+        const V t635 = c[12] * t568;
+        const V t636 = t635 - t634;
+        const V t637 = c[11] * t568;
+        const V t638 = c[12] * t569;
         const V t639 = t638 + t637;
-        // mirrored skew block of 4
-        const V t640 = t636 - t639;
-        const V t641 = c[2] * t640;
-        const V t642 = t636 + t639;
-        // complex block of 17, multiplier 2
-        const V t643 = c[15] * t141;
-        const V t644 = c[16] * t140;
+        const V t640 = c[11] * t499;
+        const V t641 = c[12] * t498;
+        const V t642 = t640 - t641;
+        const V t643 = c[11] * t498;
+        const V t644 = c[12] * t499;
         const V t645 = t644 + t643;
-        const V t646 = c[15] * t140;
-        const V t647 = c[16] * t141;
+        const V t646 = c[13] * t506;
+        const V t647 = c[14] * t509;
         const V t648 = t647 - t646;
+        const V t649 = c[13] * t509;
+        const V t650 = c[14] * t506;
+        const V t651 = t650 + t649;
+        const V t652 = c[13] * t576;
+        const V t653 = c[14] * t579;
+        const V t654 = t653 - t652;
+        const V t655 = c[13] * t579;
+        const V t656 = c[14] * t576;
+        const V t657 = t656 + t655;
+        const V t658 = c[15] * t567;
+        const V t659 = c[16] * t566;
+        const V t660 = t659 + t658;
+        const V t661 = c[15] * t566;
+        const V t662 = c[16] * t567;
+        const V t663 = t661 - t662;
+        const V t664 = c[15] * t497;
+        const V t665 = c[16] * t496;
+        const V t666 = t665 + t664;
+        const V t667 = c[15] * t496;
+        const V t668 = c[16] * t497;
+        const V t669 = t668 - t667;
+        const V t670 = c[18] * t469;
+        const V t671 = c[18] * t539;
         // spectrum block of 2
-        const V t649 = t585 - t645;
+        const V t672 = t583 + t670;
+        const V t673 = t583 - t670;
         // spectrum block of 2
-        const V t650 = t649 + t633;
-        const V t651 = t649 - t633;
+        const V t674 = t672 - t624;
+        const V t675 = t672 + t624;
+        // spectrum block of 2
+        const V t676 = t673 - t627;
+        const V t677 = t673 + t627;
         // complex block of 2
-        const V t652 = t611 + t612;
-        const V t653 = t614 + t615;
-        // spectrum block of 2
-        const V t654 = t650 + t653;
-        io.re(19, t654);
-        const V t655 = t650 - t653;
-        io.re(15, t655);
-        // spectrum block of 2
-        const V t656 = t651 - t652;
-        io.re(25, t656);
-        const V t657 = t651 + t652;
-        io.re(9, t657);
-        // spectrum block of 2
-        const V t658 = t585 + t645;
-        // spectrum block of 2
-        const V t659 = t658 - t642;
-        const V t660 = t658 + t642;
+        const V t678 = t591 - t663;
+        const V t679 = t588 + t660;
+        const V t680 = t591 + t663;
+        const V t681 = t588 - t660;
+        // complex block of 2
+        const V t682 = t639 - t615;
+        const V t683 = t636 + t612;
+        const V t684 = t639 + t615;
+        const V t685 = t636 - t612;
+        // complex block of 2
+        const V t686 = t678 + t682;
+        const V t687 = t679 + t683;
+        const V t688 = t678 - t682;
+        const V t689 = t679 - t683;
+        // complex block of 2
+        const V t690 = t680 + t685;
+        const V t691 = t681 - t684;
+        const V t692 = t680 - t685;
+        const V t693 = t681 + t684;
         // spectrum block of 16
-        const V t661 = t616 + t613;
-        const V t662 = c[2] * t661;
-        const V t663 = t613 - t616;
-        const V t664 = c[2] * t663;
-        // spectrum block of 2
-        const V t665 = t659 - t664;
-        io.re(21, t665);
-        const V t666 = t659 + t664;
-        io.re(13, t666);
-        // spectrum block of 2
-        const V t667 = t660 - t662;
-        io.re(33, t667);
-        const V t668 = t660 + t662;
-        io.re(1, t668);
-        // spectrum block of 2
-        const V t669 = t586 - t648;
+        const V t694 = c[0] * t690;
+        const V t695 = c[1] * t691;
+        const V t696 = t695 - t694;
+        const V t697 = c[0] * t691;
+        const V t698 = c[1] * t690;
+        const V t699 = t698 + t697;
+        const V t700 = t689 + t688;
+        const V t701 = t688 - t689;
+        const V t702 = c[2] * t700;
+        const V t703 = c[2] * t701;
+        const V t704 = c[1] * t692;
+        const V t705 = c[0] * t693;
+        const V t706 = t705 - t704;
+        const V t707 = c[1] * t693;
+        const V t708 = c[0] * t692;
+        const V t709 = t708 + t707;
         // mirrored skew block of 4
-        const V t670 = t632 - t641;
+        const V t710 = t600 - t648;
+        const V t711 = c[2] * t710;
+        const V t712 = t603 - t651;
+        const V t713 = c[2] * t712;
+        const V t714 = t600 + t648;
+        const V t715 = t711 - t713;
+        const V t716 = t603 + t651;
+        const V t717 = t711 + t713;
         // spectrum block of 2
-        const V t671 = t669 + t670;
-        const V t672 = t669 - t670;
+        const V t718 = t674 + t714;
+        const V t719 = t674 - t714;
+        // spectrum block of 2
+        const V t720 = t718 + t687;
+        io.re(19, t720);
+        const V t721 = t718 - t687;
+        io.re(15, t721);
+        // spectrum block of 2
+        const V t722 = t719 - t686;
+        io.re(25, t722);
+        const V t723 = t719 + t686;
+        io.re(9, t723);
+        // spectrum block of 2
+        const V t724 = t676 + t715;
+        const V t725 = t676 - t715;
+        // spectrum block of 2
+        const V t726 = t724 + t696;
+        io.re(29, t726);
+        const V t727 = t724 - t696;
+        io.re(5, t727);
+        // spectrum block of 2
+        const V t728 = t725 - t699;
+        io.re(31, t728);
+        const V t729 = t725 + t699;
+        io.re(3, t729);
+        // spectrum block of 2
+        const V t730 = t675 - t716;
+        const V t731 = t675 + t716;
+        // spectrum block of 2
+        const V t732 = t730 - t703;
+        io.re(21, t732);
+        const V t733 = t730 + t703;
+        io.re(13, t733);
+        // spectrum block of 2
+        const V t734 = t731 - t702;
+        io.re(33, t734);
+        const V t735 = t731 + t702;
+        io.re(1, t735);
+        // spectrum block of 2
+        const V t736 = t677 - t717;
+        const V t737 = t677 + t717;
+        // spectrum block of 2
+        const V t738 = t736 + t706;
+        io.re(7, t738);
+        const V t739 = t736 - t706;
+        io.re(27, t739);
+        // spectrum block of 2
+        const V t740 = t737 - t709;
+        io.re(11, t740);
+        const V t741 = t737 + t709;
+        io.re(23, t741);
+        // spectrum block of 2
+        const V t742 = t585 + t671;
+        const V t743 = t585 - t671;
+        // spectrum block of 2
+        const V t744 = t742 - t630;
+        const V t745 = t742 + t630;
+        // spectrum block of 2
+        const V t746 = t743 - t633;
+        const V t747 = t743 + t633;
+        // complex block of 2
+        const V t748 = t597 - t669;
+        const V t749 = t594 + t666;
+        const V t750 = t597 + t669;
+        const V t751 = t666 - t594;
+        // complex block of 2
+        const V t752 = t621 - t645;
+        const V t753 = t642 + t618;
+        const V t754 = t645 + t621;
+        const V t755 = t642 - t618;
+        // complex block of 2
+        const V t756 = t748 + t752;
+        const V t757 = t753 - t749;
+        const V t758 = t748 - t752;
+        const V t759 = t749 + t753;
+        // complex block of 2
+        const V t760 = t750 + t755;
+        const V t761 = t751 + t754;
+        const V t762 = t750 - t755;
+        const V t763 = t751 - t754;
         // spectrum block of 16
-        const V t673 = c[0] * t619;
-        const V t674 = c[1] * t623;
-        const V t675 = t674 - t673;
-        const V t676 = c[0] * t623;
-        const V t677 = c[1] * t619;
-        const V t678 = t677 + t676;
-        // spectrum block of 2
-        const V t679 = t671 + t675;
-        io.re(29, t679);
-        const V t680 = t671 - t675;
-        io.re(5, t680);
-        // spectrum block of 2
-        const V t681 = t672 - t678;
-        io.re(31, t681);
-        const V t682 = t672 + t678;
-        io.re(3, t682);
-        // spectrum block of 2
-        const V t683 = t586 + t648;
+        const V t764 = c[0] * t760;
+        const V t765 = c[1] * t761;
+        const V t766 = t765 - t764;
+        const V t767 = c[0] * t761;
+        const V t768 = c[1] * t760;
+        const V t769 = t768 + t767;
+        const V t770 = t758 - t759;
+        const V t771 = t758 + t759;
+        const V t772 = c[2] * t770;
+        const V t773 = c[2] * t771;
+        const V t774 = c[1] * t762;
+        const V t775 = c[0] * t763;
+        const V t776 = t775 - t774;
+        const V t777 = c[1] * t763;
+        const V t778 = c[0] * t762;
+        const V t779 = t778 + t777;
         // mirrored skew block of 4
-        const V t684 = t632 + t641;
+        const V t780 = t606 - t654;
+        const V t781 = c[2] * t780;
+        const V t782 = t609 - t657;
+        const V t783 = c[2] * t782;
+        const V t784 = t606 + t654;
+        const V t785 = t781 - t783;
+        const V t786 = t609 + t657;
+        const V t787 = t781 + t783;
         // spectrum block of 2
-        const V t685 = t683 - t684;
-        const V t686 = t683 + t684;
-        // spectrum block of 16
-        const V t687 = c[1] * t620;
-        const V t688 = c[0] * t624;
-        const V t689 = t688 - t687;
-        const V t690 = c[1] * t624;
-        const V t691 = c[0] * t620;
-        const V t692 = t691 + t690;
+        const V t788 = t744 + t784;
+        const V t789 = t744 - t784;
         // spectrum block of 2
-        const V t693 = t685 + t689;
-        io.re(7, t693);
-        const V t694 = t685 - t689;
-        io.re(27, t694);
+        const V t790 = t788 + t757;
+        io.im(19, t790);
+        const V t791 = t788 - t757;
+        io.im(15, t791);
         // spectrum block of 2
-        const V t695 = t686 - t692;
-        io.re(11, t695);
-        const V t696 = t686 + t692;
-        io.re(23, t696);
-        // complex block of 17, multiplier 2
-        const V t697 = c[17] * t314;
-        const V t698 = t3 - t697;
-        const V t699 = c[18] * t315;
+        const V t792 = t789 - t756;
+        io.im(25, t792);
+        const V t793 = t789 + t756;
+        io.im(9, t793);
         // spectrum block of 2
-        const V t700 = t698 + t699;
-        const V t701 = t698 - t699;
-        // complex block of 17, multiplier 2
-        const V t702 = c[3] * t169;
-        const V t703 = c[4] * t168;
-        const V t704 = t703 + t702;
-        const V t705 = c[3] * t168;
-        const V t706 = c[4] * t169;
-        const V t707 = t706 - t705;
-        const V t708 = c[5] * t175;
-        const V t709 = c[6] * t174;
-        const V t710 = t709 - t708;
-        const V t711 = c[5] * t174;
-        const V t712 = c[6] * t175;
-        const V t713 = t712 + t711;
-        const V t714 = c[7] * t173;
-        const V t715 = c[8] * t172;
-        const V t716 = t714 - t715;
-        const V t717 = c[7] * t172;
-        const V t718 = c[8] * t173;
-        const V t719 = t718 + t717;
-        const V t720 = c[9] * t171;
-        const V t721 = c[10] * t170;
-        const V t722 = t721 + t720;
-        const V t723 = c[9] * t170;
-        const V t724 = c[10] * t171;
-        const V t725 = t724 - t723;
-        // complex block of 2
-        const V t726 = t707 - t725;
-        // complex block of 2
-        const V t727 = t713 - t719;
-        // complex block of 2
-        const V t728 = t726 - t727;
-        // complex block of 2
-        const V t729 = t704 + t722;
-        // complex block of 2
-        const V t730 = t716 + t710;
-        // complex block of 2
-        const V t731 = t729 + t730;
-        // complex block of 2
-        const V t732 = t707 + t725;
-        // complex block of 2
-        const V t733 = t716 - t710;
-        // complex block of 2
-        const V t734 = t732 + t733;
-        const V t735 = t732 - t733;
-        // complex block of 2
-        const V t736 = t722 - t704;
-        // complex block of 2
-        const V t737 = t719 + t713;
-        // complex block of 2
-        const V t738 = t736 + t737;
-        const V t739 = t736 - t737;
-        // complex block of 17, multiplier 2
-        const V t740 = c[11] * t325;
-        const V t741 = c[12] * t319;
-        const V t742 = t741 + t740;
-        const V t743 = c[13] * t324;
-        const V t744 = c[14] * t320;
-        const V t745 = t744 - t743;
-        // mirrored skew block of 4
-        const V t746 = t742 - t745;
-        const V t747 = c[2] * t746;
-        const V t748 = t742 + t745;
-        // complex block of 17, multiplier 2
-        const V t749 = c[11] * t319;
-        const V t750 = c[12] * t325;
-        const V t751 = t749 - t750;
-        const V t752 = c[13] * t320;
-        const V t753 = c[14] * t324;
-        const V t754 = t753 + t752;
-        // mirrored skew block of 4
-        const V t755 = t751 - t754;
-        const V t756 = c[2] * t755;
-        const V t757 = t751 + t754;
-        // complex block of 17, multiplier 2
-        const V t758 = c[15] * t313;
-        const V t759 = c[16] * t312;
-        const V t760 = t759 + t758;
-        const V t761 = c[15] * t312;
-        const V t762 = c[16] * t313;
-        const V t763 = t762 - t761;
+        const V t794 = t746 + t785;
+        const V t795 = t746 - t785;
         // spectrum block of 2
-        const V t764 = t700 - t760;
+        const V t796 = t794 + t766;
+        io.im(29, t796);
+        const V t797 = t794 - t766;
+        io.im(5, t797);
         // spectrum block of 2
-        const V t765 = t764 + t748;
-        const V t766 = t764 - t748;
-        // complex block of 2
-        const V t767 = t726 + t727;
-        const V t768 = t730 - t729;
+        const V t798 = t795 - t769;
+        io.im(31, t798);
+        const V t799 = t795 + t769;
+        io.im(3, t799);
         // spectrum block of 2
-        const V t769 = t765 + t768;
-        io.im(19, t769);
-        const V t770 = t765 - t768;
-        io.im(15, t770);
+        const V t800 = t745 - t786;
+        const V t801 = t745 + t786;
         // spectrum block of 2
-        const V t771 = t766 - t767;
-        io.im(25, t771);
-        const V t772 = t766 + t767;
-        io.im(9, t772);
+        const V t802 = t800 - t773;
+        io.im(21, t802);
+        const V t803 = t800 + t773;
+        io.im(13, t803);
         // spectrum block of 2
-        const V t773 = t700 + t760;
+        const V t804 = t801 - t772;
+        io.im(33, t804);
+        const V t805 = t801 + t772;
+        io.im(1, t805);
         // spectrum block of 2
-        const V t774 = t773 - t757;
-        const V t775 = t773 + t757;
-        // spectrum block of 16
-        const V t776 = t728 - t731;
-        const V t777 = c[2] * t776;
-        const V t778 = t728 + t731;
-        const V t779 = c[2] * t778;
+        const V t806 = t747 - t787;
+        const V t807 = t747 + t787;
         // spectrum block of 2
-        const V t780 = t774 - t779;
-        io.im(21, t780);
-        const V t781 = t774 + t779;
-        io.im(13, t781);
-        // spectrum block of 2
-        const V t782 = t775 - t777;
-        io.im(33, t782);
-        const V t783 = t775 + t777;
-        io.im(1, t783);
-        // spectrum block of 2
-        const V t784 = t701 - t763;
-        // mirrored skew block of 4
-        const V t785 = t747 - t756;
-        // spectrum block of 2
-        const V t786 = t784 + t785;
-        const V t787 = t784 - t785;
-        // spectrum block of 16
-        const V t788 = c[0] * t734;
-        const V t789 = c[1] * t738;
-        const V t790 = t789 - t788;
-        const V t791 = c[0] * t738;
-        const V t792 = c[1] * t734;
-        const V t793 = t792 + t791;
-        // spectrum block of 2
-        const V t794 = t786 + t790;
-        io.im(29, t794);
-        const V t795 = t786 - t790;
-        io.im(5, t795);
-        // spectrum block of 2
-        const V t796 = t787 - t793;
-        io.im(31, t796);
-        const V t797 = t787 + t793;
-        io.im(3, t797);
-        // spectrum block of 2
-        const V t798 = t701 + t763;
-        // mirrored skew block of 4
-        const V t799 = t747 + t756;
-        // spectrum block of 2
-        const V t800 = t798 - t799;
-        const V t801 = t798 + t799;
-        // spectrum block of 16
-        const V t802 = c[1] * t735;
-        const V t803 = c[0] * t739;
-        const V t804 = t803 - t802;
-        const V t805 = c[1] * t739;
-        const V t806 = c[0] * t735;
-        const V t807 = t806 + t805;
-        // spectrum block of 2
-        const V t808 = t800 + t804;
+        const V t808 = t806 + t776;
         io.im(7, t808);
-        const V t809 = t800 - t804;
+        const V t809 = t806 - t776;
         io.im(27, t809);
         // spectrum block of 2
-        const V t810 = t801 - t807;
+        const V t810 = t807 - t779;
         io.im(11, t810);
-        const V t811 = t801 + t807;
+        const V t811 = t807 + t779;
         io.im(23, t811);
     }
 };

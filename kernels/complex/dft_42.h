@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 42.
 // Complex DFT of 42 points, prime-factor, order 7, 3, 2.
-// 306 additions, 306 subtractions, 272 multiplications (356 with `scale`); 8 constants; 106 values alive at most.
+// 306 additions, 306 subtractions, 272 multiplications (356 with `scale`); 8 constants; 96 values alive at most.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -13,10 +13,10 @@ struct ComplexGraph<42> {
     static constexpr double inverseRoot = 0.1543033499620919;  // 1/sqrt(42), for `scale`
     static constexpr double constants[] = {
         0.6234898018587335,  // c[0]: cos 2 pi 1/7
-        0.7818314824680298,  // c[1]: sin 2 pi 1/7
-        0.2225209339563144,  // c[2]: -cos 2 pi 5/7
-        0.9749279121818236,  // c[3]: -sin 2 pi 5/7
-        0.9009688679024191,  // c[4]: -cos 2 pi 4/7
+        0.2225209339563144,  // c[1]: -cos 2 pi 5/7
+        0.9009688679024191,  // c[2]: -cos 2 pi 4/7
+        0.7818314824680298,  // c[3]: sin 2 pi 1/7
+        0.9749279121818236,  // c[4]: -sin 2 pi 5/7
         0.4338837391175581,  // c[5]: -sin 2 pi 4/7
         0.5,  // c[6]: -cos 2 pi 1/3
         0.8660254037844386,  // c[7]: sin 2 pi 1/3
@@ -30,1248 +30,1095 @@ struct ComplexGraph<42> {
         const V x6r = io.re(6);
         const V x36r = io.re(36);
         const V t0 = x6r + x36r;
-        const V t1 = x6r - x36r;
-        const V t2 = c[0] * t0;
-        const V t3 = c[1] * t1;
-        const V t4 = c[2] * t0;
-        const V t5 = c[3] * t1;
-        const V t6 = c[4] * t0;
-        const V t7 = c[5] * t1;
-        const V x30r = io.re(30);
-        const V x12r = io.re(12);
-        const V t8 = x30r + x12r;
-        const V t9 = x30r - x12r;
-        const V t10 = c[2] * t8;
-        const V t11 = c[3] * t9;
-        const V t12 = c[5] * t9;
-        const V t13 = c[1] * t9;
-        const V x24r = io.re(24);
-        const V x18r = io.re(18);
-        const V t14 = x24r + x18r;
-        const V t15 = x24r - x18r;
-        const V t16 = t0 + t8;
-        const V t17 = t16 + t14;
-        const V t18 = t2 - t10;
-        const V t19 = c[4] * t14;
-        const V t20 = t18 - t19;
-        const V t21 = t3 - t11;
-        const V t22 = c[5] * t15;
-        const V t23 = t21 - t22;
-        const V x0r = io.re(0);
-        const V t24 = x0r - t4;
-        const V t25 = c[4] * t8;
-        const V t26 = t24 - t25;
-        const V t27 = c[0] * t14;
-        const V t28 = t5 + t12;
-        const V t29 = c[1] * t15;
-        const V t30 = t28 + t29;
-        const V t31 = x0r - t6;
-        const V t32 = c[0] * t8;
-        const V t33 = t31 + t32;
-        const V t34 = c[2] * t14;
-        const V t35 = t7 + t13;
-        const V t36 = c[3] * t15;
-        const V t37 = t35 - t36;
         const V x6i = io.im(6);
         const V x36i = io.im(36);
-        const V t38 = x6i + x36i;
-        const V t39 = x6i - x36i;
-        const V t40 = c[0] * t38;
-        const V t41 = c[1] * t39;
-        const V t42 = c[2] * t38;
-        const V t43 = c[3] * t39;
-        const V t44 = c[4] * t38;
-        const V t45 = c[5] * t39;
+        const V t1 = x6i + x36i;
+        const V t2 = x6r - x36r;
+        const V t3 = x6i - x36i;
+        const V x30r = io.re(30);
+        const V x12r = io.re(12);
+        const V t4 = x30r + x12r;
         const V x30i = io.im(30);
         const V x12i = io.im(12);
-        const V t46 = x30i + x12i;
-        const V t47 = x30i - x12i;
-        const V t48 = c[2] * t46;
-        const V t49 = c[3] * t47;
-        const V t50 = c[5] * t47;
-        const V t51 = c[1] * t47;
+        const V t5 = x30i + x12i;
+        const V t6 = x30r - x12r;
+        const V t7 = x30i - x12i;
+        const V x24r = io.re(24);
+        const V x18r = io.re(18);
+        const V t8 = x24r + x18r;
         const V x24i = io.im(24);
         const V x18i = io.im(18);
-        const V t52 = x24i + x18i;
-        const V t53 = x24i - x18i;
-        const V t54 = t38 + t46;
-        const V t55 = t54 + t52;
-        const V t56 = t40 - t48;
-        const V t57 = c[4] * t52;
-        const V t58 = t56 - t57;
-        const V t59 = t41 - t49;
-        const V t60 = c[5] * t53;
-        const V t61 = t59 - t60;
+        const V t9 = x24i + x18i;
+        const V t10 = x24r - x18r;
+        const V t11 = x24i - x18i;
+        const V t12 = t0 + t4;
+        const V t13 = t12 + t8;
+        const V t14 = t1 + t5;
+        const V t15 = t14 + t9;
+        const V x0r = io.re(0);
+        const V t16 = t13 + x0r;
         const V x0i = io.im(0);
-        const V t62 = x0i - t42;
-        const V t63 = c[4] * t46;
-        const V t64 = t62 - t63;
-        const V t65 = c[0] * t52;
-        const V t66 = t43 + t50;
-        const V t67 = c[1] * t53;
-        const V t68 = t66 + t67;
-        const V t69 = x0i - t44;
-        const V t70 = c[0] * t46;
-        const V t71 = t69 + t70;
-        const V t72 = c[2] * t52;
-        const V t73 = t45 + t51;
-        const V t74 = c[3] * t53;
+        const V t17 = t15 + x0i;
+        const V t18 = c[0] * t0;
+        const V t19 = c[1] * t4;
+        const V t20 = t18 - t19;
+        const V t21 = c[2] * t8;
+        const V t22 = t20 - t21;
+        const V t23 = t22 + x0r;
+        const V t24 = c[0] * t1;
+        const V t25 = c[1] * t5;
+        const V t26 = t24 - t25;
+        const V t27 = c[2] * t9;
+        const V t28 = t26 - t27;
+        const V t29 = t28 + x0i;
+        const V t30 = c[3] * t2;
+        const V t31 = c[4] * t6;
+        const V t32 = t30 - t31;
+        const V t33 = c[5] * t10;
+        const V t34 = t32 - t33;
+        const V t35 = c[3] * t3;
+        const V t36 = c[4] * t7;
+        const V t37 = t35 - t36;
+        const V t38 = c[5] * t11;
+        const V t39 = t37 - t38;
+        const V t40 = t23 + t39;
+        const V t41 = t29 - t34;
+        const V t42 = t23 - t39;
+        const V t43 = t29 + t34;
+        const V t44 = c[1] * t0;
+        const V t45 = x0r - t44;
+        const V t46 = c[2] * t4;
+        const V t47 = t45 - t46;
+        const V t48 = c[0] * t8;
+        const V t49 = t47 + t48;
+        const V t50 = c[1] * t1;
+        const V t51 = x0i - t50;
+        const V t52 = c[2] * t5;
+        const V t53 = t51 - t52;
+        const V t54 = c[0] * t9;
+        const V t55 = t53 + t54;
+        const V t56 = c[4] * t2;
+        const V t57 = c[5] * t6;
+        const V t58 = t56 + t57;
+        const V t59 = c[3] * t10;
+        const V t60 = t58 + t59;
+        const V t61 = c[4] * t3;
+        const V t62 = c[5] * t7;
+        const V t63 = t61 + t62;
+        const V t64 = c[3] * t11;
+        const V t65 = t63 + t64;
+        const V t66 = t49 + t65;
+        const V t67 = t55 - t60;
+        const V t68 = t49 - t65;
+        const V t69 = t55 + t60;
+        const V t70 = c[2] * t0;
+        const V t71 = x0r - t70;
+        const V t72 = c[0] * t4;
+        const V t73 = t71 + t72;
+        const V t74 = c[1] * t8;
         const V t75 = t73 - t74;
+        const V t76 = c[2] * t1;
+        const V t77 = x0i - t76;
+        const V t78 = c[0] * t5;
+        const V t79 = t77 + t78;
+        const V t80 = c[1] * t9;
+        const V t81 = t79 - t80;
+        const V t82 = c[5] * t2;
+        const V t83 = c[3] * t6;
+        const V t84 = t82 + t83;
+        const V t85 = c[4] * t10;
+        const V t86 = t84 - t85;
+        const V t87 = c[5] * t3;
+        const V t88 = c[3] * t7;
+        const V t89 = t87 + t88;
+        const V t90 = c[4] * t11;
+        const V t91 = t89 - t90;
+        const V t92 = t75 + t91;
+        const V t93 = t81 - t86;
+        const V t94 = t75 - t91;
+        const V t95 = t81 + t86;
+        // complex block of 7, multiplier 6
+        const V x27r = io.re(27);
+        const V x15r = io.re(15);
+        const V t96 = x27r + x15r;
+        const V x27i = io.im(27);
+        const V x15i = io.im(15);
+        const V t97 = x27i + x15i;
+        const V t98 = x27r - x15r;
+        const V t99 = x27i - x15i;
+        const V x9r = io.re(9);
+        const V x33r = io.re(33);
+        const V t100 = x9r + x33r;
+        const V x9i = io.im(9);
+        const V x33i = io.im(33);
+        const V t101 = x9i + x33i;
+        const V t102 = x9r - x33r;
+        const V t103 = x9i - x33i;
+        const V x3r = io.re(3);
+        const V x39r = io.re(39);
+        const V t104 = x3r + x39r;
+        const V x3i = io.im(3);
+        const V x39i = io.im(39);
+        const V t105 = x3i + x39i;
+        const V t106 = x3r - x39r;
+        const V t107 = x3i - x39i;
+        const V t108 = t96 + t100;
+        const V t109 = t108 + t104;
+        const V t110 = t97 + t101;
+        const V t111 = t110 + t105;
+        const V x21r = io.re(21);
+        const V t112 = t109 + x21r;
+        const V x21i = io.im(21);
+        const V t113 = t111 + x21i;
+        const V t114 = c[0] * t96;
+        const V t115 = c[1] * t100;
+        const V t116 = t114 - t115;
+        const V t117 = c[2] * t104;
+        const V t118 = t116 - t117;
+        const V t119 = t118 + x21r;
+        const V t120 = c[0] * t97;
+        const V t121 = c[1] * t101;
+        const V t122 = t120 - t121;
+        const V t123 = c[2] * t105;
+        const V t124 = t122 - t123;
+        const V t125 = t124 + x21i;
+        const V t126 = c[3] * t98;
+        const V t127 = c[4] * t102;
+        const V t128 = t126 - t127;
+        const V t129 = c[5] * t106;
+        const V t130 = t128 - t129;
+        const V t131 = c[3] * t99;
+        const V t132 = c[4] * t103;
+        const V t133 = t131 - t132;
+        const V t134 = c[5] * t107;
+        const V t135 = t133 - t134;
+        const V t136 = t119 + t135;
+        const V t137 = t125 - t130;
+        const V t138 = t119 - t135;
+        const V t139 = t125 + t130;
+        const V t140 = c[1] * t96;
+        const V t141 = x21r - t140;
+        const V t142 = c[2] * t100;
+        const V t143 = t141 - t142;
+        const V t144 = c[0] * t104;
+        const V t145 = t143 + t144;
+        const V t146 = c[1] * t97;
+        const V t147 = x21i - t146;
+        const V t148 = c[2] * t101;
+        const V t149 = t147 - t148;
+        const V t150 = c[0] * t105;
+        const V t151 = t149 + t150;
+        const V t152 = c[4] * t98;
+        const V t153 = c[5] * t102;
+        const V t154 = t152 + t153;
+        const V t155 = c[3] * t106;
+        const V t156 = t154 + t155;
+        const V t157 = c[4] * t99;
+        const V t158 = c[5] * t103;
+        const V t159 = t157 + t158;
+        const V t160 = c[3] * t107;
+        const V t161 = t159 + t160;
+        const V t162 = t145 + t161;
+        const V t163 = t151 - t156;
+        const V t164 = t145 - t161;
+        const V t165 = t151 + t156;
+        const V t166 = c[2] * t96;
+        const V t167 = x21r - t166;
+        const V t168 = c[0] * t100;
+        const V t169 = t167 + t168;
+        const V t170 = c[1] * t104;
+        const V t171 = t169 - t170;
+        const V t172 = c[2] * t97;
+        const V t173 = x21i - t172;
+        const V t174 = c[0] * t101;
+        const V t175 = t173 + t174;
+        const V t176 = c[1] * t105;
+        const V t177 = t175 - t176;
+        const V t178 = c[5] * t98;
+        const V t179 = c[3] * t102;
+        const V t180 = t178 + t179;
+        const V t181 = c[4] * t106;
+        const V t182 = t180 - t181;
+        const V t183 = c[5] * t99;
+        const V t184 = c[3] * t103;
+        const V t185 = t183 + t184;
+        const V t186 = c[4] * t107;
+        const V t187 = t185 - t186;
+        const V t188 = t171 + t187;
+        const V t189 = t177 - t182;
+        const V t190 = t171 - t187;
+        const V t191 = t177 + t182;
+        // complex block of 7, multiplier 6
+        const V x20r = io.re(20);
+        const V x8r = io.re(8);
+        const V t192 = x20r + x8r;
+        const V x20i = io.im(20);
+        const V x8i = io.im(8);
+        const V t193 = x20i + x8i;
+        const V t194 = x20r - x8r;
+        const V t195 = x20i - x8i;
+        const V x2r = io.re(2);
+        const V x26r = io.re(26);
+        const V t196 = x2r + x26r;
+        const V x2i = io.im(2);
+        const V x26i = io.im(26);
+        const V t197 = x2i + x26i;
+        const V t198 = x2r - x26r;
+        const V t199 = x2i - x26i;
+        const V x38r = io.re(38);
+        const V x32r = io.re(32);
+        const V t200 = x38r + x32r;
+        const V x38i = io.im(38);
+        const V x32i = io.im(32);
+        const V t201 = x38i + x32i;
+        const V t202 = x38r - x32r;
+        const V t203 = x38i - x32i;
+        const V t204 = t192 + t196;
+        const V t205 = t204 + t200;
+        const V t206 = t193 + t197;
+        const V t207 = t206 + t201;
+        const V x14r = io.re(14);
+        const V t208 = t205 + x14r;
+        const V x14i = io.im(14);
+        const V t209 = t207 + x14i;
+        const V t210 = c[0] * t192;
+        const V t211 = c[1] * t196;
+        const V t212 = t210 - t211;
+        const V t213 = c[2] * t200;
+        const V t214 = t212 - t213;
+        const V t215 = t214 + x14r;
+        const V t216 = c[0] * t193;
+        const V t217 = c[1] * t197;
+        const V t218 = t216 - t217;
+        const V t219 = c[2] * t201;
+        const V t220 = t218 - t219;
+        const V t221 = t220 + x14i;
+        const V t222 = c[3] * t194;
+        const V t223 = c[4] * t198;
+        const V t224 = t222 - t223;
+        const V t225 = c[5] * t202;
+        const V t226 = t224 - t225;
+        const V t227 = c[3] * t195;
+        const V t228 = c[4] * t199;
+        const V t229 = t227 - t228;
+        const V t230 = c[5] * t203;
+        const V t231 = t229 - t230;
+        const V t232 = t215 + t231;
+        const V t233 = t221 - t226;
+        const V t234 = t215 - t231;
+        const V t235 = t221 + t226;
+        const V t236 = c[1] * t192;
+        const V t237 = x14r - t236;
+        const V t238 = c[2] * t196;
+        const V t239 = t237 - t238;
+        const V t240 = c[0] * t200;
+        const V t241 = t239 + t240;
+        const V t242 = c[1] * t193;
+        const V t243 = x14i - t242;
+        const V t244 = c[2] * t197;
+        const V t245 = t243 - t244;
+        const V t246 = c[0] * t201;
+        const V t247 = t245 + t246;
+        const V t248 = c[4] * t194;
+        const V t249 = c[5] * t198;
+        const V t250 = t248 + t249;
+        const V t251 = c[3] * t202;
+        const V t252 = t250 + t251;
+        const V t253 = c[4] * t195;
+        const V t254 = c[5] * t199;
+        const V t255 = t253 + t254;
+        const V t256 = c[3] * t203;
+        const V t257 = t255 + t256;
+        const V t258 = t241 + t257;
+        const V t259 = t247 - t252;
+        const V t260 = t241 - t257;
+        const V t261 = t247 + t252;
+        const V t262 = c[2] * t192;
+        const V t263 = x14r - t262;
+        const V t264 = c[0] * t196;
+        const V t265 = t263 + t264;
+        const V t266 = c[1] * t200;
+        const V t267 = t265 - t266;
+        const V t268 = c[2] * t193;
+        const V t269 = x14i - t268;
+        const V t270 = c[0] * t197;
+        const V t271 = t269 + t270;
+        const V t272 = c[1] * t201;
+        const V t273 = t271 - t272;
+        const V t274 = c[5] * t194;
+        const V t275 = c[3] * t198;
+        const V t276 = t274 + t275;
+        const V t277 = c[4] * t202;
+        const V t278 = t276 - t277;
+        const V t279 = c[5] * t195;
+        const V t280 = c[3] * t199;
+        const V t281 = t279 + t280;
+        const V t282 = c[4] * t203;
+        const V t283 = t281 - t282;
+        const V t284 = t267 + t283;
+        const V t285 = t273 - t278;
+        const V t286 = t267 - t283;
+        const V t287 = t273 + t278;
+        // complex block of 7, multiplier 6
+        const V x41r = io.re(41);
+        const V x29r = io.re(29);
+        const V t288 = x41r + x29r;
+        const V x41i = io.im(41);
+        const V x29i = io.im(29);
+        const V t289 = x41i + x29i;
+        const V t290 = x41r - x29r;
+        const V t291 = x41i - x29i;
+        const V x23r = io.re(23);
+        const V x5r = io.re(5);
+        const V t292 = x23r + x5r;
+        const V x23i = io.im(23);
+        const V x5i = io.im(5);
+        const V t293 = x23i + x5i;
+        const V t294 = x23r - x5r;
+        const V t295 = x23i - x5i;
+        const V x17r = io.re(17);
+        const V x11r = io.re(11);
+        const V t296 = x17r + x11r;
+        const V x17i = io.im(17);
+        const V x11i = io.im(11);
+        const V t297 = x17i + x11i;
+        const V t298 = x17r - x11r;
+        const V t299 = x17i - x11i;
+        const V t300 = t288 + t292;
+        const V t301 = t300 + t296;
+        const V t302 = t289 + t293;
+        const V t303 = t302 + t297;
+        const V x35r = io.re(35);
+        const V t304 = t301 + x35r;
+        const V x35i = io.im(35);
+        const V t305 = t303 + x35i;
+        const V t306 = c[0] * t288;
+        const V t307 = c[1] * t292;
+        const V t308 = t306 - t307;
+        const V t309 = c[2] * t296;
+        const V t310 = t308 - t309;
+        const V t311 = t310 + x35r;
+        const V t312 = c[0] * t289;
+        const V t313 = c[1] * t293;
+        const V t314 = t312 - t313;
+        const V t315 = c[2] * t297;
+        const V t316 = t314 - t315;
+        const V t317 = t316 + x35i;
+        const V t318 = c[3] * t290;
+        const V t319 = c[4] * t294;
+        const V t320 = t318 - t319;
+        const V t321 = c[5] * t298;
+        const V t322 = t320 - t321;
+        const V t323 = c[3] * t291;
+        const V t324 = c[4] * t295;
+        const V t325 = t323 - t324;
+        const V t326 = c[5] * t299;
+        const V t327 = t325 - t326;
+        const V t328 = t311 + t327;
+        const V t329 = t317 - t322;
+        const V t330 = t311 - t327;
+        const V t331 = t317 + t322;
+        const V t332 = c[1] * t288;
+        const V t333 = x35r - t332;
+        const V t334 = c[2] * t292;
+        const V t335 = t333 - t334;
+        const V t336 = c[0] * t296;
+        const V t337 = t335 + t336;
+        const V t338 = c[1] * t289;
+        const V t339 = x35i - t338;
+        const V t340 = c[2] * t293;
+        const V t341 = t339 - t340;
+        const V t342 = c[0] * t297;
+        const V t343 = t341 + t342;
+        const V t344 = c[4] * t290;
+        const V t345 = c[5] * t294;
+        const V t346 = t344 + t345;
+        const V t347 = c[3] * t298;
+        const V t348 = t346 + t347;
+        const V t349 = c[4] * t291;
+        const V t350 = c[5] * t295;
+        const V t351 = t349 + t350;
+        const V t352 = c[3] * t299;
+        const V t353 = t351 + t352;
+        const V t354 = t337 + t353;
+        const V t355 = t343 - t348;
+        const V t356 = t337 - t353;
+        const V t357 = t343 + t348;
+        const V t358 = c[2] * t288;
+        const V t359 = x35r - t358;
+        const V t360 = c[0] * t292;
+        const V t361 = t359 + t360;
+        const V t362 = c[1] * t296;
+        const V t363 = t361 - t362;
+        const V t364 = c[2] * t289;
+        const V t365 = x35i - t364;
+        const V t366 = c[0] * t293;
+        const V t367 = t365 + t366;
+        const V t368 = c[1] * t297;
+        const V t369 = t367 - t368;
+        const V t370 = c[5] * t290;
+        const V t371 = c[3] * t294;
+        const V t372 = t370 + t371;
+        const V t373 = c[4] * t298;
+        const V t374 = t372 - t373;
+        const V t375 = c[5] * t291;
+        const V t376 = c[3] * t295;
+        const V t377 = t375 + t376;
+        const V t378 = c[4] * t299;
+        const V t379 = t377 - t378;
+        const V t380 = t363 + t379;
+        const V t381 = t369 - t374;
+        const V t382 = t363 - t379;
+        const V t383 = t369 + t374;
+        // complex block of 7, multiplier 6
+        const V x34r = io.re(34);
+        const V x22r = io.re(22);
+        const V t384 = x34r + x22r;
+        const V x34i = io.im(34);
+        const V x22i = io.im(22);
+        const V t385 = x34i + x22i;
+        const V t386 = x34r - x22r;
+        const V t387 = x34i - x22i;
+        const V x16r = io.re(16);
+        const V x40r = io.re(40);
+        const V t388 = x16r + x40r;
+        const V x16i = io.im(16);
+        const V x40i = io.im(40);
+        const V t389 = x16i + x40i;
+        const V t390 = x16r - x40r;
+        const V t391 = x16i - x40i;
+        const V x10r = io.re(10);
+        const V x4r = io.re(4);
+        const V t392 = x10r + x4r;
+        const V x10i = io.im(10);
+        const V x4i = io.im(4);
+        const V t393 = x10i + x4i;
+        const V t394 = x10r - x4r;
+        const V t395 = x10i - x4i;
+        const V t396 = t384 + t388;
+        const V t397 = t396 + t392;
+        const V t398 = t385 + t389;
+        const V t399 = t398 + t393;
+        const V x28r = io.re(28);
+        const V t400 = t397 + x28r;
+        const V x28i = io.im(28);
+        const V t401 = t399 + x28i;
+        const V t402 = c[0] * t384;
+        const V t403 = c[1] * t388;
+        const V t404 = t402 - t403;
+        const V t405 = c[2] * t392;
+        const V t406 = t404 - t405;
+        const V t407 = t406 + x28r;
+        const V t408 = c[0] * t385;
+        const V t409 = c[1] * t389;
+        const V t410 = t408 - t409;
+        const V t411 = c[2] * t393;
+        const V t412 = t410 - t411;
+        const V t413 = t412 + x28i;
+        const V t414 = c[3] * t386;
+        const V t415 = c[4] * t390;
+        const V t416 = t414 - t415;
+        const V t417 = c[5] * t394;
+        const V t418 = t416 - t417;
+        const V t419 = c[3] * t387;
+        const V t420 = c[4] * t391;
+        const V t421 = t419 - t420;
+        const V t422 = c[5] * t395;
+        const V t423 = t421 - t422;
+        const V t424 = t407 + t423;
+        const V t425 = t413 - t418;
+        const V t426 = t407 - t423;
+        const V t427 = t413 + t418;
+        const V t428 = c[1] * t384;
+        const V t429 = x28r - t428;
+        const V t430 = c[2] * t388;
+        const V t431 = t429 - t430;
+        const V t432 = c[0] * t392;
+        const V t433 = t431 + t432;
+        const V t434 = c[1] * t385;
+        const V t435 = x28i - t434;
+        const V t436 = c[2] * t389;
+        const V t437 = t435 - t436;
+        const V t438 = c[0] * t393;
+        const V t439 = t437 + t438;
+        const V t440 = c[4] * t386;
+        const V t441 = c[5] * t390;
+        const V t442 = t440 + t441;
+        const V t443 = c[3] * t394;
+        const V t444 = t442 + t443;
+        const V t445 = c[4] * t387;
+        const V t446 = c[5] * t391;
+        const V t447 = t445 + t446;
+        const V t448 = c[3] * t395;
+        const V t449 = t447 + t448;
+        const V t450 = t433 + t449;
+        const V t451 = t439 - t444;
+        const V t452 = t433 - t449;
+        const V t453 = t439 + t444;
+        const V t454 = c[2] * t384;
+        const V t455 = x28r - t454;
+        const V t456 = c[0] * t388;
+        const V t457 = t455 + t456;
+        const V t458 = c[1] * t392;
+        const V t459 = t457 - t458;
+        const V t460 = c[2] * t385;
+        const V t461 = x28i - t460;
+        const V t462 = c[0] * t389;
+        const V t463 = t461 + t462;
+        const V t464 = c[1] * t393;
+        const V t465 = t463 - t464;
+        const V t466 = c[5] * t386;
+        const V t467 = c[3] * t390;
+        const V t468 = t466 + t467;
+        const V t469 = c[4] * t394;
+        const V t470 = t468 - t469;
+        const V t471 = c[5] * t387;
+        const V t472 = c[3] * t391;
+        const V t473 = t471 + t472;
+        const V t474 = c[4] * t395;
+        const V t475 = t473 - t474;
+        const V t476 = t459 + t475;
+        const V t477 = t465 - t470;
+        const V t478 = t459 - t475;
+        const V t479 = t465 + t470;
         // complex block of 7, multiplier 6
         const V x13r = io.re(13);
         const V x1r = io.re(1);
-        const V t76 = x13r + x1r;
-        const V t77 = x13r - x1r;
-        const V x37r = io.re(37);
-        const V x19r = io.re(19);
-        const V t78 = x37r + x19r;
-        const V t79 = x37r - x19r;
-        const V t80 = t76 + t78;
-        const V t81 = c[0] * t76;
-        const V t82 = c[2] * t78;
-        const V t83 = c[1] * t77;
-        const V t84 = c[3] * t79;
-        const V t85 = c[2] * t76;
-        const V t86 = c[4] * t78;
-        const V t87 = c[3] * t77;
-        const V t88 = c[5] * t79;
-        const V t89 = c[4] * t76;
-        const V t90 = c[0] * t78;
-        const V t91 = c[5] * t77;
-        const V t92 = c[1] * t79;
-        const V x31r = io.re(31);
-        const V x25r = io.re(25);
-        const V t93 = x31r + x25r;
-        const V t94 = x31r - x25r;
-        const V t95 = c[4] * t93;
-        const V t96 = t80 + t93;
-        const V x7r = io.re(7);
-        const V t97 = t96 + x7r;
-        const V t98 = t81 - t82;
-        const V t99 = t98 - t95;
-        const V t100 = t99 + x7r;
-        const V t101 = t83 - t84;
-        const V t102 = c[5] * t94;
-        const V t103 = t101 - t102;
-        const V t104 = x7r - t85;
-        const V t105 = t104 - t86;
-        const V t106 = c[0] * t93;
-        const V t107 = t105 + t106;
-        const V t108 = t87 + t88;
-        const V t109 = c[1] * t94;
-        const V t110 = t108 + t109;
-        const V t111 = x7r - t89;
-        const V t112 = t111 + t90;
-        const V t113 = c[2] * t93;
-        const V t114 = t112 - t113;
-        const V t115 = t91 + t92;
-        const V t116 = c[3] * t94;
-        const V t117 = t115 - t116;
+        const V t480 = x13r + x1r;
         const V x13i = io.im(13);
         const V x1i = io.im(1);
-        const V t118 = x13i + x1i;
-        const V t119 = x13i - x1i;
+        const V t481 = x13i + x1i;
+        const V t482 = x13r - x1r;
+        const V t483 = x13i - x1i;
+        const V x37r = io.re(37);
+        const V x19r = io.re(19);
+        const V t484 = x37r + x19r;
         const V x37i = io.im(37);
         const V x19i = io.im(19);
-        const V t120 = x37i + x19i;
-        const V t121 = x37i - x19i;
-        const V t122 = t118 + t120;
-        const V t123 = c[0] * t118;
-        const V t124 = c[2] * t120;
-        const V t125 = c[1] * t119;
-        const V t126 = c[3] * t121;
-        const V t127 = c[2] * t118;
-        const V t128 = c[4] * t120;
-        const V t129 = c[3] * t119;
-        const V t130 = c[5] * t121;
-        const V t131 = c[4] * t118;
-        const V t132 = c[0] * t120;
-        const V t133 = c[5] * t119;
-        const V t134 = c[1] * t121;
+        const V t485 = x37i + x19i;
+        const V t486 = x37r - x19r;
+        const V t487 = x37i - x19i;
+        const V x31r = io.re(31);
+        const V x25r = io.re(25);
+        const V t488 = x31r + x25r;
         const V x31i = io.im(31);
         const V x25i = io.im(25);
-        const V t135 = x31i + x25i;
-        const V t136 = x31i - x25i;
-        const V t137 = c[4] * t135;
-        const V t138 = t122 + t135;
+        const V t489 = x31i + x25i;
+        const V t490 = x31r - x25r;
+        const V t491 = x31i - x25i;
+        const V t492 = t480 + t484;
+        const V t493 = t492 + t488;
+        const V t494 = t481 + t485;
+        const V t495 = t494 + t489;
+        const V x7r = io.re(7);
+        const V t496 = t493 + x7r;
         const V x7i = io.im(7);
-        const V t139 = t138 + x7i;
-        const V t140 = t123 - t124;
-        const V t141 = t140 - t137;
-        const V t142 = t141 + x7i;
-        const V t143 = t125 - t126;
-        const V t144 = c[5] * t136;
-        const V t145 = t143 - t144;
-        const V t146 = x7i - t127;
-        const V t147 = t146 - t128;
-        const V t148 = c[0] * t135;
-        const V t149 = t147 + t148;
-        const V t150 = t129 + t130;
-        const V t151 = c[1] * t136;
-        const V t152 = t150 + t151;
-        const V t153 = x7i - t131;
-        const V t154 = t153 + t132;
-        const V t155 = c[2] * t135;
-        const V t156 = t154 - t155;
-        const V t157 = t133 + t134;
-        const V t158 = c[3] * t136;
-        const V t159 = t157 - t158;
-        // complex block of 7, multiplier 6
-        const V x2r = io.re(2);
-        const V x26r = io.re(26);
-        const V t160 = x2r + x26r;
-        const V t161 = x2r - x26r;
-        const V x20r = io.re(20);
-        const V x8r = io.re(8);
-        const V t162 = x20r + x8r;
-        const V t163 = x20r - x8r;
-        const V t164 = t162 + t160;
-        const V t165 = c[0] * t162;
-        const V t166 = c[2] * t160;
-        const V t167 = c[1] * t163;
-        const V t168 = c[3] * t161;
-        const V t169 = c[2] * t162;
-        const V t170 = c[4] * t160;
-        const V t171 = c[3] * t163;
-        const V t172 = c[5] * t161;
-        const V t173 = c[4] * t162;
-        const V t174 = c[0] * t160;
-        const V t175 = c[5] * t163;
-        const V t176 = c[1] * t161;
-        const V x38r = io.re(38);
-        const V x32r = io.re(32);
-        const V t177 = x38r + x32r;
-        const V t178 = x38r - x32r;
-        const V t179 = c[4] * t177;
-        const V t180 = t164 + t177;
-        const V x14r = io.re(14);
-        const V t181 = t180 + x14r;
-        const V t182 = t165 - t166;
-        const V t183 = t182 - t179;
-        const V t184 = t183 + x14r;
-        const V t185 = t167 - t168;
-        const V t186 = c[5] * t178;
-        const V t187 = t185 - t186;
-        const V t188 = x14r - t169;
-        const V t189 = t188 - t170;
-        const V t190 = c[0] * t177;
-        const V t191 = t189 + t190;
-        const V t192 = t171 + t172;
-        const V t193 = c[1] * t178;
-        const V t194 = t192 + t193;
-        const V t195 = x14r - t173;
-        const V t196 = t195 + t174;
-        const V t197 = c[2] * t177;
-        const V t198 = t196 - t197;
-        const V t199 = t175 + t176;
-        const V t200 = c[3] * t178;
-        const V t201 = t199 - t200;
-        const V x2i = io.im(2);
-        const V x26i = io.im(26);
-        const V t202 = x2i + x26i;
-        const V t203 = x2i - x26i;
-        const V x20i = io.im(20);
-        const V x8i = io.im(8);
-        const V t204 = x20i + x8i;
-        const V t205 = x20i - x8i;
-        const V t206 = t204 + t202;
-        const V t207 = c[0] * t204;
-        const V t208 = c[2] * t202;
-        const V t209 = c[1] * t205;
-        const V t210 = c[3] * t203;
-        const V t211 = c[2] * t204;
-        const V t212 = c[4] * t202;
-        const V t213 = c[3] * t205;
-        const V t214 = c[5] * t203;
-        const V t215 = c[4] * t204;
-        const V t216 = c[0] * t202;
-        const V t217 = c[5] * t205;
-        const V t218 = c[1] * t203;
-        const V x38i = io.im(38);
-        const V x32i = io.im(32);
-        const V t219 = x38i + x32i;
-        const V t220 = x38i - x32i;
-        const V t221 = c[4] * t219;
-        const V t222 = t206 + t219;
-        const V x14i = io.im(14);
-        const V t223 = t222 + x14i;
-        const V t224 = t207 - t208;
-        const V t225 = t224 - t221;
-        const V t226 = t225 + x14i;
-        const V t227 = t209 - t210;
-        const V t228 = c[5] * t220;
-        const V t229 = t227 - t228;
-        const V t230 = x14i - t211;
-        const V t231 = t230 - t212;
-        const V t232 = c[0] * t219;
-        const V t233 = t231 + t232;
-        const V t234 = t213 + t214;
-        const V t235 = c[1] * t220;
-        const V t236 = t234 + t235;
-        const V t237 = x14i - t215;
-        const V t238 = t237 + t216;
-        const V t239 = c[2] * t219;
-        const V t240 = t238 - t239;
-        const V t241 = t217 + t218;
-        const V t242 = c[3] * t220;
-        const V t243 = t241 - t242;
-        // complex block of 7, multiplier 6
-        const V x3r = io.re(3);
-        const V x39r = io.re(39);
-        const V t244 = x3r + x39r;
-        const V t245 = x3r - x39r;
-        const V x9r = io.re(9);
-        const V x33r = io.re(33);
-        const V t246 = x9r + x33r;
-        const V t247 = x9r - x33r;
-        const V t248 = c[2] * t246;
-        const V t249 = c[3] * t247;
-        const V t250 = c[5] * t247;
-        const V t251 = c[1] * t247;
-        const V x27r = io.re(27);
-        const V x15r = io.re(15);
-        const V t252 = x27r + x15r;
-        const V t253 = x27r - x15r;
-        const V t254 = c[0] * t252;
-        const V t255 = c[1] * t253;
-        const V t256 = c[2] * t252;
-        const V t257 = c[3] * t253;
-        const V t258 = c[4] * t252;
-        const V t259 = c[5] * t253;
-        const V t260 = t252 + t246;
-        const V t261 = t260 + t244;
-        const V t262 = t254 - t248;
-        const V t263 = c[4] * t244;
-        const V t264 = t262 - t263;
-        const V t265 = t255 - t249;
-        const V t266 = c[5] * t245;
-        const V t267 = t265 - t266;
-        const V x21r = io.re(21);
-        const V t268 = x21r - t256;
-        const V t269 = c[4] * t246;
-        const V t270 = t268 - t269;
-        const V t271 = c[0] * t244;
-        const V t272 = t257 + t250;
-        const V t273 = c[1] * t245;
-        const V t274 = t272 + t273;
-        const V t275 = x21r - t258;
-        const V t276 = c[0] * t246;
-        const V t277 = t275 + t276;
-        const V t278 = c[2] * t244;
-        const V t279 = t259 + t251;
-        const V t280 = c[3] * t245;
-        const V t281 = t279 - t280;
-        const V x3i = io.im(3);
-        const V x39i = io.im(39);
-        const V t282 = x3i + x39i;
-        const V t283 = x3i - x39i;
-        const V x9i = io.im(9);
-        const V x33i = io.im(33);
-        const V t284 = x9i + x33i;
-        const V t285 = x9i - x33i;
-        const V t286 = c[2] * t284;
-        const V t287 = c[3] * t285;
-        const V t288 = c[5] * t285;
-        const V t289 = c[1] * t285;
-        const V x27i = io.im(27);
-        const V x15i = io.im(15);
-        const V t290 = x27i + x15i;
-        const V t291 = x27i - x15i;
-        const V t292 = c[0] * t290;
-        const V t293 = c[1] * t291;
-        const V t294 = c[2] * t290;
-        const V t295 = c[3] * t291;
-        const V t296 = c[4] * t290;
-        const V t297 = c[5] * t291;
-        const V t298 = t290 + t284;
-        const V t299 = t298 + t282;
-        const V t300 = t292 - t286;
-        const V t301 = c[4] * t282;
-        const V t302 = t300 - t301;
-        const V t303 = t293 - t287;
-        const V t304 = c[5] * t283;
-        const V t305 = t303 - t304;
-        const V x21i = io.im(21);
-        const V t306 = x21i - t294;
-        const V t307 = c[4] * t284;
-        const V t308 = t306 - t307;
-        const V t309 = c[0] * t282;
-        const V t310 = t295 + t288;
-        const V t311 = c[1] * t283;
-        const V t312 = t310 + t311;
-        const V t313 = x21i - t296;
-        const V t314 = c[0] * t284;
-        const V t315 = t313 + t314;
-        const V t316 = c[2] * t282;
-        const V t317 = t297 + t289;
-        const V t318 = c[3] * t283;
-        const V t319 = t317 - t318;
-        // complex block of 7, multiplier 6
-        const V x10r = io.re(10);
-        const V x4r = io.re(4);
-        const V t320 = x10r + x4r;
-        const V t321 = x10r - x4r;
-        const V t322 = c[4] * t320;
-        const V x16r = io.re(16);
-        const V x40r = io.re(40);
-        const V t323 = x16r + x40r;
-        const V t324 = x16r - x40r;
-        const V x34r = io.re(34);
-        const V x22r = io.re(22);
-        const V t325 = x34r + x22r;
-        const V t326 = x34r - x22r;
-        const V t327 = t325 + t323;
-        const V t328 = c[0] * t325;
-        const V t329 = c[2] * t323;
-        const V t330 = c[1] * t326;
-        const V t331 = c[3] * t324;
-        const V t332 = c[2] * t325;
-        const V t333 = c[4] * t323;
-        const V t334 = c[3] * t326;
-        const V t335 = c[5] * t324;
-        const V t336 = c[4] * t325;
-        const V t337 = c[0] * t323;
-        const V t338 = c[5] * t326;
-        const V t339 = c[1] * t324;
-        const V t340 = t327 + t320;
-        const V x28r = io.re(28);
-        const V t341 = t340 + x28r;
-        const V t342 = t328 - t329;
-        const V t343 = t342 - t322;
-        const V t344 = t343 + x28r;
-        const V t345 = t330 - t331;
-        const V t346 = c[5] * t321;
-        const V t347 = t345 - t346;
-        const V t348 = x28r - t332;
-        const V t349 = t348 - t333;
-        const V t350 = c[0] * t320;
-        const V t351 = t349 + t350;
-        const V t352 = t334 + t335;
-        const V t353 = c[1] * t321;
-        const V t354 = t352 + t353;
-        const V t355 = x28r - t336;
-        const V t356 = t355 + t337;
-        const V t357 = c[2] * t320;
-        const V t358 = t356 - t357;
-        const V t359 = t338 + t339;
-        const V t360 = c[3] * t321;
-        const V t361 = t359 - t360;
-        const V x10i = io.im(10);
-        const V x4i = io.im(4);
-        const V t362 = x10i + x4i;
-        const V t363 = x10i - x4i;
-        const V t364 = c[4] * t362;
-        const V x16i = io.im(16);
-        const V x40i = io.im(40);
-        const V t365 = x16i + x40i;
-        const V t366 = x16i - x40i;
-        const V x34i = io.im(34);
-        const V x22i = io.im(22);
-        const V t367 = x34i + x22i;
-        const V t368 = x34i - x22i;
-        const V t369 = t367 + t365;
-        const V t370 = c[0] * t367;
-        const V t371 = c[2] * t365;
-        const V t372 = c[1] * t368;
-        const V t373 = c[3] * t366;
-        const V t374 = c[2] * t367;
-        const V t375 = c[4] * t365;
-        const V t376 = c[3] * t368;
-        const V t377 = c[5] * t366;
-        const V t378 = c[4] * t367;
-        const V t379 = c[0] * t365;
-        const V t380 = c[5] * t368;
-        const V t381 = c[1] * t366;
-        const V t382 = t369 + t362;
-        const V x28i = io.im(28);
-        const V t383 = t382 + x28i;
-        const V t384 = t370 - t371;
-        const V t385 = t384 - t364;
-        const V t386 = t385 + x28i;
-        const V t387 = t372 - t373;
-        const V t388 = c[5] * t363;
-        const V t389 = t387 - t388;
-        const V t390 = x28i - t374;
-        const V t391 = t390 - t375;
-        const V t392 = c[0] * t362;
-        const V t393 = t391 + t392;
-        const V t394 = t376 + t377;
-        const V t395 = c[1] * t363;
-        const V t396 = t394 + t395;
-        const V t397 = x28i - t378;
-        const V t398 = t397 + t379;
-        const V t399 = c[2] * t362;
-        const V t400 = t398 - t399;
-        const V t401 = t380 + t381;
-        const V t402 = c[3] * t363;
-        const V t403 = t401 - t402;
-        // complex block of 7, multiplier 6
-        const V x23r = io.re(23);
-        const V x5r = io.re(5);
-        const V t404 = x23r + x5r;
-        const V t405 = x23r - x5r;
-        const V x41r = io.re(41);
-        const V x29r = io.re(29);
-        const V t406 = x41r + x29r;
-        const V t407 = x41r - x29r;
-        const V t408 = t406 + t404;
-        const V t409 = c[0] * t406;
-        const V t410 = c[2] * t404;
-        const V t411 = c[1] * t407;
-        const V t412 = c[3] * t405;
-        const V t413 = c[2] * t406;
-        const V t414 = c[4] * t404;
-        const V t415 = c[3] * t407;
-        const V t416 = c[5] * t405;
-        const V t417 = c[4] * t406;
-        const V t418 = c[0] * t404;
-        const V t419 = c[5] * t407;
-        const V t420 = c[1] * t405;
-        const V x17r = io.re(17);
-        const V x11r = io.re(11);
-        const V t421 = x17r + x11r;
-        const V t422 = x17r - x11r;
-        const V t423 = c[4] * t421;
-        const V t424 = t408 + t421;
-        const V x35r = io.re(35);
-        const V t425 = t424 + x35r;
-        const V t426 = t409 - t410;
-        const V t427 = t426 - t423;
-        const V t428 = t427 + x35r;
-        const V t429 = t411 - t412;
-        const V t430 = c[5] * t422;
-        const V t431 = t429 - t430;
-        const V t432 = x35r - t413;
-        const V t433 = t432 - t414;
-        const V t434 = c[0] * t421;
-        const V t435 = t433 + t434;
-        const V t436 = t415 + t416;
-        const V t437 = c[1] * t422;
-        const V t438 = t436 + t437;
-        const V t439 = x35r - t417;
-        const V t440 = t439 + t418;
-        const V t441 = c[2] * t421;
-        const V t442 = t440 - t441;
-        const V t443 = t419 + t420;
-        const V t444 = c[3] * t422;
-        const V t445 = t443 - t444;
-        const V x23i = io.im(23);
-        const V x5i = io.im(5);
-        const V t446 = x23i + x5i;
-        const V t447 = x23i - x5i;
-        const V x41i = io.im(41);
-        const V x29i = io.im(29);
-        const V t448 = x41i + x29i;
-        const V t449 = x41i - x29i;
-        const V t450 = t448 + t446;
-        const V t451 = c[0] * t448;
-        const V t452 = c[2] * t446;
-        const V t453 = c[1] * t449;
-        const V t454 = c[3] * t447;
-        const V t455 = c[2] * t448;
-        const V t456 = c[4] * t446;
-        const V t457 = c[3] * t449;
-        const V t458 = c[5] * t447;
-        const V t459 = c[4] * t448;
-        const V t460 = c[0] * t446;
-        const V t461 = c[5] * t449;
-        const V t462 = c[1] * t447;
-        const V x17i = io.im(17);
-        const V x11i = io.im(11);
-        const V t463 = x17i + x11i;
-        const V t464 = x17i - x11i;
-        const V t465 = c[4] * t463;
-        const V t466 = t450 + t463;
-        const V x35i = io.im(35);
-        const V t467 = t466 + x35i;
-        const V t468 = t451 - t452;
-        const V t469 = t468 - t465;
-        const V t470 = t469 + x35i;
-        const V t471 = t453 - t454;
-        const V t472 = c[5] * t464;
-        const V t473 = t471 - t472;
-        const V t474 = x35i - t455;
-        const V t475 = t474 - t456;
-        const V t476 = c[0] * t463;
-        const V t477 = t475 + t476;
-        const V t478 = t457 + t458;
-        const V t479 = c[1] * t464;
-        const V t480 = t478 + t479;
-        const V t481 = x35i - t459;
-        const V t482 = t481 + t460;
-        const V t483 = c[2] * t463;
-        const V t484 = t482 - t483;
-        const V t485 = t461 + t462;
-        const V t486 = c[3] * t464;
-        const V t487 = t485 - t486;
-        // complex block of 7, multiplier 6
-        const V t488 = t17 + x0r;
+        const V t497 = t495 + x7i;
+        const V t498 = c[0] * t480;
+        const V t499 = c[1] * t484;
+        const V t500 = t498 - t499;
+        const V t501 = c[2] * t488;
+        const V t502 = t500 - t501;
+        const V t503 = t502 + x7r;
+        const V t504 = c[0] * t481;
+        const V t505 = c[1] * t485;
+        const V t506 = t504 - t505;
+        const V t507 = c[2] * t489;
+        const V t508 = t506 - t507;
+        const V t509 = t508 + x7i;
+        const V t510 = c[3] * t482;
+        const V t511 = c[4] * t486;
+        const V t512 = t510 - t511;
+        const V t513 = c[5] * t490;
+        const V t514 = t512 - t513;
+        const V t515 = c[3] * t483;
+        const V t516 = c[4] * t487;
+        const V t517 = t515 - t516;
+        const V t518 = c[5] * t491;
+        const V t519 = t517 - t518;
+        const V t520 = t503 + t519;
+        const V t521 = t509 - t514;
+        const V t522 = t503 - t519;
+        const V t523 = t509 + t514;
+        const V t524 = c[1] * t480;
+        const V t525 = x7r - t524;
+        const V t526 = c[2] * t484;
+        const V t527 = t525 - t526;
+        const V t528 = c[0] * t488;
+        const V t529 = t527 + t528;
+        const V t530 = c[1] * t481;
+        const V t531 = x7i - t530;
+        const V t532 = c[2] * t485;
+        const V t533 = t531 - t532;
+        const V t534 = c[0] * t489;
+        const V t535 = t533 + t534;
+        const V t536 = c[4] * t482;
+        const V t537 = c[5] * t486;
+        const V t538 = t536 + t537;
+        const V t539 = c[3] * t490;
+        const V t540 = t538 + t539;
+        const V t541 = c[4] * t483;
+        const V t542 = c[5] * t487;
+        const V t543 = t541 + t542;
+        const V t544 = c[3] * t491;
+        const V t545 = t543 + t544;
+        const V t546 = t529 + t545;
+        const V t547 = t535 - t540;
+        const V t548 = t529 - t545;
+        const V t549 = t535 + t540;
+        const V t550 = c[2] * t480;
+        const V t551 = x7r - t550;
+        const V t552 = c[0] * t484;
+        const V t553 = t551 + t552;
+        const V t554 = c[1] * t488;
+        const V t555 = t553 - t554;
+        const V t556 = c[2] * t481;
+        const V t557 = x7i - t556;
+        const V t558 = c[0] * t485;
+        const V t559 = t557 + t558;
+        const V t560 = c[1] * t489;
+        const V t561 = t559 - t560;
+        const V t562 = c[5] * t482;
+        const V t563 = c[3] * t486;
+        const V t564 = t562 + t563;
+        const V t565 = c[4] * t490;
+        const V t566 = t564 - t565;
+        const V t567 = c[5] * t483;
+        const V t568 = c[3] * t487;
+        const V t569 = t567 + t568;
+        const V t570 = c[4] * t491;
+        const V t571 = t569 - t570;
+        const V t572 = t555 + t571;
+        const V t573 = t561 - t566;
+        const V t574 = t555 - t571;
+        const V t575 = t561 + t566;
         // complex block of 3, multiplier 2
-        const V t489 = t181 + t341;
-        const V t490 = c[6] * t489;
-        const V t491 = t489 + t488;
-        const V t492 = t488 - t490;
-        // complex block of 7, multiplier 6
-        const V t493 = t261 + x21r;
+        const V t576 = t208 + t400;
+        const V t577 = t209 + t401;
+        const V t578 = t208 - t400;
+        const V t579 = t209 - t401;
+        const V t580 = t576 + t16;
+        const V t581 = t577 + t17;
+        const V t582 = c[6] * t576;
+        const V t583 = t16 - t582;
+        const V t584 = c[6] * t577;
+        const V t585 = t17 - t584;
+        const V t586 = c[7] * t578;
+        const V t587 = c[7] * t579;
+        const V t588 = t583 + t587;
+        const V t589 = t585 - t586;
+        const V t590 = t583 - t587;
+        const V t591 = t585 + t586;
         // complex block of 3, multiplier 2
-        const V t494 = t425 + t97;
-        const V t495 = c[6] * t494;
-        const V t496 = t494 + t493;
-        const V t497 = t493 - t495;
+        const V t592 = t304 + t496;
+        const V t593 = t305 + t497;
+        const V t594 = t304 - t496;
+        const V t595 = t305 - t497;
+        const V t596 = t592 + t112;
+        const V t597 = t593 + t113;
+        const V t598 = c[6] * t592;
+        const V t599 = t112 - t598;
+        const V t600 = c[6] * t593;
+        const V t601 = t113 - t600;
+        const V t602 = c[7] * t594;
+        const V t603 = c[7] * t595;
+        const V t604 = t599 + t603;
+        const V t605 = t601 - t602;
+        const V t606 = t599 - t603;
+        const V t607 = t601 + t602;
         // complex block of 3, multiplier 2
-        const V t498 = t223 - t383;
-        const V t499 = c[7] * t498;
+        const V t608 = t234 + t426;
+        const V t609 = t235 + t427;
+        const V t610 = t234 - t426;
+        const V t611 = t235 - t427;
+        const V t612 = t608 + t42;
+        const V t613 = t609 + t43;
+        const V t614 = c[6] * t608;
+        const V t615 = t42 - t614;
+        const V t616 = c[6] * t609;
+        const V t617 = t43 - t616;
+        const V t618 = c[7] * t610;
+        const V t619 = c[7] * t611;
+        const V t620 = t615 + t619;
+        const V t621 = t617 - t618;
+        const V t622 = t615 - t619;
+        const V t623 = t617 + t618;
         // complex block of 3, multiplier 2
-        const V t500 = t467 - t139;
-        const V t501 = c[7] * t500;
+        const V t624 = t330 + t522;
+        const V t625 = t331 + t523;
+        const V t626 = t330 - t522;
+        const V t627 = t331 - t523;
+        const V t628 = t624 + t138;
+        const V t629 = t625 + t139;
+        const V t630 = c[6] * t624;
+        const V t631 = t138 - t630;
+        const V t632 = c[6] * t625;
+        const V t633 = t139 - t632;
+        const V t634 = c[7] * t626;
+        const V t635 = c[7] * t627;
+        const V t636 = t631 + t635;
+        const V t637 = t633 - t634;
+        const V t638 = t631 - t635;
+        const V t639 = t633 + t634;
         // complex block of 3, multiplier 2
-        const V t502 = t492 + t499;
+        const V t640 = t260 + t452;
+        const V t641 = t261 + t453;
+        const V t642 = t260 - t452;
+        const V t643 = t261 - t453;
+        const V t644 = t640 + t68;
+        const V t645 = t641 + t69;
+        const V t646 = c[6] * t640;
+        const V t647 = t68 - t646;
+        const V t648 = c[6] * t641;
+        const V t649 = t69 - t648;
+        const V t650 = c[7] * t642;
+        const V t651 = c[7] * t643;
+        const V t652 = t647 + t651;
+        const V t653 = t649 - t650;
+        const V t654 = t647 - t651;
+        const V t655 = t649 + t650;
         // complex block of 3, multiplier 2
-        const V t503 = t497 + t501;
+        const V t656 = t356 + t548;
+        const V t657 = t357 + t549;
+        const V t658 = t356 - t548;
+        const V t659 = t357 - t549;
+        const V t660 = t656 + t164;
+        const V t661 = t657 + t165;
+        const V t662 = c[6] * t656;
+        const V t663 = t164 - t662;
+        const V t664 = c[6] * t657;
+        const V t665 = t165 - t664;
+        const V t666 = c[7] * t658;
+        const V t667 = c[7] * t659;
+        const V t668 = t663 + t667;
+        const V t669 = t665 - t666;
+        const V t670 = t663 - t667;
+        const V t671 = t665 + t666;
+        // complex block of 3, multiplier 2
+        const V t672 = t286 + t478;
+        const V t673 = t287 + t479;
+        const V t674 = t286 - t478;
+        const V t675 = t287 - t479;
+        const V t676 = t672 + t94;
+        const V t677 = t673 + t95;
+        const V t678 = c[6] * t672;
+        const V t679 = t94 - t678;
+        const V t680 = c[6] * t673;
+        const V t681 = t95 - t680;
+        const V t682 = c[7] * t674;
+        const V t683 = c[7] * t675;
+        const V t684 = t679 + t683;
+        const V t685 = t681 - t682;
+        const V t686 = t679 - t683;
+        const V t687 = t681 + t682;
+        // complex block of 3, multiplier 2
+        const V t688 = t382 + t574;
+        const V t689 = t383 + t575;
+        const V t690 = t382 - t574;
+        const V t691 = t383 - t575;
+        const V t692 = t688 + t190;
+        const V t693 = t689 + t191;
+        const V t694 = c[6] * t688;
+        const V t695 = t190 - t694;
+        const V t696 = c[6] * t689;
+        const V t697 = t191 - t696;
+        const V t698 = c[7] * t690;
+        const V t699 = c[7] * t691;
+        const V t700 = t695 + t699;
+        const V t701 = t697 - t698;
+        const V t702 = t695 - t699;
+        const V t703 = t697 + t698;
+        // complex block of 3, multiplier 2
+        const V t704 = t284 + t476;
+        const V t705 = t285 + t477;
+        const V t706 = t284 - t476;
+        const V t707 = t285 - t477;
+        const V t708 = t704 + t92;
+        const V t709 = t705 + t93;
+        const V t710 = c[6] * t704;
+        const V t711 = t92 - t710;
+        const V t712 = c[6] * t705;
+        const V t713 = t93 - t712;
+        const V t714 = c[7] * t706;
+        const V t715 = c[7] * t707;
+        const V t716 = t711 + t715;
+        const V t717 = t713 - t714;
+        const V t718 = t711 - t715;
+        const V t719 = t713 + t714;
+        // complex block of 3, multiplier 2
+        const V t720 = t380 + t572;
+        const V t721 = t381 + t573;
+        const V t722 = t380 - t572;
+        const V t723 = t381 - t573;
+        const V t724 = t720 + t188;
+        const V t725 = t721 + t189;
+        const V t726 = c[6] * t720;
+        const V t727 = t188 - t726;
+        const V t728 = c[6] * t721;
+        const V t729 = t189 - t728;
+        const V t730 = c[7] * t722;
+        const V t731 = c[7] * t723;
+        const V t732 = t727 + t731;
+        const V t733 = t729 - t730;
+        const V t734 = t727 - t731;
+        const V t735 = t729 + t730;
+        // complex block of 3, multiplier 2
+        const V t736 = t258 + t450;
+        const V t737 = t259 + t451;
+        const V t738 = t258 - t450;
+        const V t739 = t259 - t451;
+        const V t740 = t736 + t66;
+        const V t741 = t737 + t67;
+        const V t742 = c[6] * t736;
+        const V t743 = t66 - t742;
+        const V t744 = c[6] * t737;
+        const V t745 = t67 - t744;
+        const V t746 = c[7] * t738;
+        const V t747 = c[7] * t739;
+        const V t748 = t743 + t747;
+        const V t749 = t745 - t746;
+        const V t750 = t743 - t747;
+        const V t751 = t745 + t746;
+        // complex block of 3, multiplier 2
+        const V t752 = t354 + t546;
+        const V t753 = t355 + t547;
+        const V t754 = t354 - t546;
+        const V t755 = t355 - t547;
+        const V t756 = t752 + t162;
+        const V t757 = t753 + t163;
+        const V t758 = c[6] * t752;
+        const V t759 = t162 - t758;
+        const V t760 = c[6] * t753;
+        const V t761 = t163 - t760;
+        const V t762 = c[7] * t754;
+        const V t763 = c[7] * t755;
+        const V t764 = t759 + t763;
+        const V t765 = t761 - t762;
+        const V t766 = t759 - t763;
+        const V t767 = t761 + t762;
+        // complex block of 3, multiplier 2
+        const V t768 = t232 + t424;
+        const V t769 = t233 + t425;
+        const V t770 = t232 - t424;
+        const V t771 = t233 - t425;
+        const V t772 = t768 + t40;
+        const V t773 = t769 + t41;
+        const V t774 = c[6] * t768;
+        const V t775 = t40 - t774;
+        const V t776 = c[6] * t769;
+        const V t777 = t41 - t776;
+        const V t778 = c[7] * t770;
+        const V t779 = c[7] * t771;
+        const V t780 = t775 + t779;
+        const V t781 = t777 - t778;
+        const V t782 = t775 - t779;
+        const V t783 = t777 + t778;
+        // complex block of 3, multiplier 2
+        const V t784 = t328 + t520;
+        const V t785 = t329 + t521;
+        const V t786 = t328 - t520;
+        const V t787 = t329 - t521;
+        const V t788 = t784 + t136;
+        const V t789 = t785 + t137;
+        const V t790 = c[6] * t784;
+        const V t791 = t136 - t790;
+        const V t792 = c[6] * t785;
+        const V t793 = t137 - t792;
+        const V t794 = c[7] * t786;
+        const V t795 = c[7] * t787;
+        const V t796 = t791 + t795;
+        const V t797 = t793 - t794;
+        const V t798 = t791 - t795;
+        const V t799 = t793 + t794;
         // complex block of 2
-        const V t504 = t502 + t503;
-        io.re(28, t504);
-        const V t505 = t502 - t503;
-        io.re(7, t505);
-        // complex block of 3, multiplier 2
-        const V t506 = t492 - t499;
-        // complex block of 3, multiplier 2
-        const V t507 = t497 - t501;
+        const V t800 = t580 + t596;
+        io.re(0, t800);
+        const V t801 = t581 + t597;
+        io.im(0, t801);
+        const V t802 = t580 - t596;
+        io.re(21, t802);
+        const V t803 = t581 - t597;
+        io.im(21, t803);
         // complex block of 2
-        const V t508 = t506 + t507;
-        io.re(14, t508);
-        const V t509 = t506 - t507;
-        io.re(35, t509);
+        const V t804 = t590 + t606;
+        io.re(14, t804);
+        const V t805 = t591 + t607;
+        io.im(14, t805);
+        const V t806 = t590 - t606;
+        io.re(35, t806);
+        const V t807 = t591 - t607;
+        io.im(35, t807);
         // complex block of 2
-        const V t510 = t491 + t496;
-        io.re(0, t510);
-        const V t511 = t491 - t496;
-        io.re(21, t511);
-        // complex block of 7, multiplier 6
-        const V t512 = t55 + x0i;
-        // complex block of 3, multiplier 2
-        const V t513 = t223 + t383;
-        const V t514 = c[6] * t513;
-        const V t515 = t513 + t512;
-        const V t516 = t512 - t514;
-        // complex block of 7, multiplier 6
-        const V t517 = t299 + x21i;
-        // complex block of 3, multiplier 2
-        const V t518 = t467 + t139;
-        const V t519 = c[6] * t518;
-        const V t520 = t518 + t517;
-        const V t521 = t517 - t519;
-        // complex block of 3, multiplier 2
-        const V t522 = t181 - t341;
-        const V t523 = c[7] * t522;
-        // complex block of 3, multiplier 2
-        const V t524 = t425 - t97;
-        const V t525 = c[7] * t524;
-        // complex block of 3, multiplier 2
-        const V t526 = t516 - t523;
-        // complex block of 3, multiplier 2
-        const V t527 = t521 - t525;
+        const V t808 = t588 + t604;
+        io.re(28, t808);
+        const V t809 = t589 + t605;
+        io.im(28, t809);
+        const V t810 = t588 - t604;
+        io.re(7, t810);
+        const V t811 = t589 - t605;
+        io.im(7, t811);
         // complex block of 2
-        const V t528 = t526 + t527;
-        io.im(28, t528);
-        const V t529 = t526 - t527;
-        io.im(7, t529);
-        // complex block of 3, multiplier 2
-        const V t530 = t516 + t523;
-        // complex block of 3, multiplier 2
-        const V t531 = t521 + t525;
+        const V t812 = t612 + t628;
+        io.re(6, t812);
+        const V t813 = t613 + t629;
+        io.im(6, t813);
+        const V t814 = t612 - t628;
+        io.re(27, t814);
+        const V t815 = t613 - t629;
+        io.im(27, t815);
         // complex block of 2
-        const V t532 = t530 + t531;
-        io.im(14, t532);
-        const V t533 = t530 - t531;
-        io.im(35, t533);
+        const V t816 = t622 + t638;
+        io.re(20, t816);
+        const V t817 = t623 + t639;
+        io.im(20, t817);
+        const V t818 = t622 - t638;
+        io.re(41, t818);
+        const V t819 = t623 - t639;
+        io.im(41, t819);
         // complex block of 2
-        const V t534 = t515 + t520;
-        io.im(0, t534);
-        const V t535 = t515 - t520;
-        io.im(21, t535);
-        // complex block of 7, multiplier 6
-        const V t536 = t20 + x0r;
-        const V t537 = t536 + t61;
-        const V t538 = t536 - t61;
-        const V t539 = t58 + x0i;
-        const V t540 = t539 - t23;
-        const V t541 = t539 + t23;
-        // complex block of 7, multiplier 6
-        const V t542 = t264 + x21r;
-        const V t543 = t542 + t305;
-        const V t544 = t542 - t305;
-        const V t545 = t302 + x21i;
-        const V t546 = t545 - t267;
-        const V t547 = t545 + t267;
-        // complex block of 7, multiplier 6
-        const V t548 = t184 + t229;
-        // complex block of 7, multiplier 6
-        const V t549 = t344 + t389;
-        // complex block of 3, multiplier 2
-        const V t550 = t548 + t549;
-        const V t551 = t548 - t549;
-        const V t552 = c[6] * t550;
-        const V t553 = c[7] * t551;
-        // complex block of 7, multiplier 6
-        const V t554 = t226 - t187;
-        // complex block of 7, multiplier 6
-        const V t555 = t386 - t347;
-        // complex block of 3, multiplier 2
-        const V t556 = t554 + t555;
-        const V t557 = t554 - t555;
-        const V t558 = c[6] * t556;
-        const V t559 = c[7] * t557;
-        // complex block of 7, multiplier 6
-        const V t560 = t184 - t229;
-        // complex block of 7, multiplier 6
-        const V t561 = t344 - t389;
-        // complex block of 3, multiplier 2
-        const V t562 = t560 + t561;
-        const V t563 = t560 - t561;
-        const V t564 = c[6] * t562;
-        const V t565 = c[7] * t563;
-        // complex block of 7, multiplier 6
-        const V t566 = t226 + t187;
-        // complex block of 7, multiplier 6
-        const V t567 = t386 + t347;
-        // complex block of 3, multiplier 2
-        const V t568 = t566 + t567;
-        const V t569 = t566 - t567;
-        const V t570 = c[6] * t568;
-        const V t571 = c[7] * t569;
-        // complex block of 7, multiplier 6
-        const V t572 = t428 + t473;
-        // complex block of 7, multiplier 6
-        const V t573 = t100 + t145;
-        // complex block of 3, multiplier 2
-        const V t574 = t572 + t573;
-        const V t575 = t572 - t573;
-        const V t576 = c[6] * t574;
-        const V t577 = c[7] * t575;
-        // complex block of 7, multiplier 6
-        const V t578 = t470 - t431;
-        // complex block of 7, multiplier 6
-        const V t579 = t142 - t103;
-        // complex block of 3, multiplier 2
-        const V t580 = t578 + t579;
-        const V t581 = t578 - t579;
-        const V t582 = c[6] * t580;
-        const V t583 = c[7] * t581;
-        // complex block of 7, multiplier 6
-        const V t584 = t428 - t473;
-        // complex block of 7, multiplier 6
-        const V t585 = t100 - t145;
-        // complex block of 3, multiplier 2
-        const V t586 = t584 + t585;
-        const V t587 = t584 - t585;
-        const V t588 = c[6] * t586;
-        const V t589 = c[7] * t587;
-        // complex block of 7, multiplier 6
-        const V t590 = t470 + t431;
-        // complex block of 7, multiplier 6
-        const V t591 = t142 + t103;
-        // complex block of 3, multiplier 2
-        const V t592 = t590 + t591;
-        const V t593 = t590 - t591;
-        const V t594 = c[6] * t592;
-        const V t595 = c[7] * t593;
-        // complex block of 3, multiplier 2
-        const V t596 = t562 + t538;
-        // complex block of 3, multiplier 2
-        const V t597 = t586 + t544;
+        const V t820 = t620 + t636;
+        io.re(34, t820);
+        const V t821 = t621 + t637;
+        io.im(34, t821);
+        const V t822 = t620 - t636;
+        io.re(13, t822);
+        const V t823 = t621 - t637;
+        io.im(13, t823);
         // complex block of 2
-        const V t598 = t596 + t597;
-        io.re(6, t598);
-        const V t599 = t596 - t597;
-        io.re(27, t599);
-        // complex block of 3, multiplier 2
-        const V t600 = t568 + t541;
-        // complex block of 3, multiplier 2
-        const V t601 = t592 + t547;
+        const V t824 = t644 + t660;
+        io.re(12, t824);
+        const V t825 = t645 + t661;
+        io.im(12, t825);
+        const V t826 = t644 - t660;
+        io.re(33, t826);
+        const V t827 = t645 - t661;
+        io.im(33, t827);
         // complex block of 2
-        const V t602 = t600 + t601;
-        io.im(6, t602);
-        const V t603 = t600 - t601;
-        io.im(27, t603);
-        // complex block of 3, multiplier 2
-        const V t604 = t538 - t564;
-        const V t605 = t604 + t571;
-        const V t606 = t604 - t571;
-        // complex block of 3, multiplier 2
-        const V t607 = t544 - t588;
-        const V t608 = t607 + t595;
-        const V t609 = t607 - t595;
+        const V t828 = t654 + t670;
+        io.re(26, t828);
+        const V t829 = t655 + t671;
+        io.im(26, t829);
+        const V t830 = t654 - t670;
+        io.re(5, t830);
+        const V t831 = t655 - t671;
+        io.im(5, t831);
         // complex block of 2
-        const V t610 = t606 + t609;
-        io.re(20, t610);
-        const V t611 = t606 - t609;
-        io.re(41, t611);
+        const V t832 = t652 + t668;
+        io.re(40, t832);
+        const V t833 = t653 + t669;
+        io.im(40, t833);
+        const V t834 = t652 - t668;
+        io.re(19, t834);
+        const V t835 = t653 - t669;
+        io.im(19, t835);
         // complex block of 2
-        const V t612 = t605 + t608;
-        io.re(34, t612);
-        const V t613 = t605 - t608;
-        io.re(13, t613);
-        // complex block of 3, multiplier 2
-        const V t614 = t541 - t570;
-        const V t615 = t614 - t565;
-        const V t616 = t614 + t565;
-        // complex block of 3, multiplier 2
-        const V t617 = t547 - t594;
-        const V t618 = t617 - t589;
-        const V t619 = t617 + t589;
+        const V t836 = t676 + t692;
+        io.re(18, t836);
+        const V t837 = t677 + t693;
+        io.im(18, t837);
+        const V t838 = t676 - t692;
+        io.re(39, t838);
+        const V t839 = t677 - t693;
+        io.im(39, t839);
         // complex block of 2
-        const V t620 = t616 + t619;
-        io.im(20, t620);
-        const V t621 = t616 - t619;
-        io.im(41, t621);
+        const V t840 = t686 + t702;
+        io.re(32, t840);
+        const V t841 = t687 + t703;
+        io.im(32, t841);
+        const V t842 = t686 - t702;
+        io.re(11, t842);
+        const V t843 = t687 - t703;
+        io.im(11, t843);
         // complex block of 2
-        const V t622 = t615 + t618;
-        io.im(34, t622);
-        const V t623 = t615 - t618;
-        io.im(13, t623);
-        // complex block of 3, multiplier 2
-        const V t624 = t550 + t537;
-        // complex block of 3, multiplier 2
-        const V t625 = t574 + t543;
-        // complex block of 2
-        const V t626 = t624 + t625;
-        io.re(36, t626);
-        const V t627 = t624 - t625;
-        io.re(15, t627);
-        // complex block of 3, multiplier 2
-        const V t628 = t556 + t540;
-        // complex block of 3, multiplier 2
-        const V t629 = t580 + t546;
-        // complex block of 2
-        const V t630 = t628 + t629;
-        io.im(36, t630);
-        const V t631 = t628 - t629;
-        io.im(15, t631);
-        // complex block of 3, multiplier 2
-        const V t632 = t537 - t552;
-        const V t633 = t632 + t559;
-        const V t634 = t632 - t559;
-        // complex block of 3, multiplier 2
-        const V t635 = t543 - t576;
-        const V t636 = t635 + t583;
-        const V t637 = t635 - t583;
-        // complex block of 2
-        const V t638 = t634 + t637;
-        io.re(8, t638);
-        const V t639 = t634 - t637;
-        io.re(29, t639);
-        // complex block of 2
-        const V t640 = t633 + t636;
-        io.re(22, t640);
-        const V t641 = t633 - t636;
-        io.re(1, t641);
-        // complex block of 3, multiplier 2
-        const V t642 = t540 - t558;
-        const V t643 = t642 - t553;
-        const V t644 = t642 + t553;
-        // complex block of 3, multiplier 2
-        const V t645 = t546 - t582;
-        const V t646 = t645 - t577;
-        const V t647 = t645 + t577;
-        // complex block of 2
-        const V t648 = t644 + t647;
-        io.im(8, t648);
-        const V t649 = t644 - t647;
-        io.im(29, t649);
-        // complex block of 2
-        const V t650 = t643 + t646;
-        io.im(22, t650);
-        const V t651 = t643 - t646;
-        io.im(1, t651);
-        // complex block of 7, multiplier 6
-        const V t652 = t26 + t27;
-        const V t653 = t652 + t68;
-        const V t654 = t652 - t68;
-        const V t655 = t64 + t65;
-        const V t656 = t655 - t30;
-        const V t657 = t655 + t30;
-        // complex block of 7, multiplier 6
-        const V t658 = t270 + t271;
-        const V t659 = t658 + t312;
-        const V t660 = t658 - t312;
-        const V t661 = t308 + t309;
-        const V t662 = t661 - t274;
-        const V t663 = t661 + t274;
-        // complex block of 7, multiplier 6
-        const V t664 = t191 + t236;
-        // complex block of 7, multiplier 6
-        const V t665 = t351 + t396;
-        // complex block of 3, multiplier 2
-        const V t666 = t664 + t665;
-        const V t667 = t664 - t665;
-        const V t668 = c[6] * t666;
-        const V t669 = c[7] * t667;
-        // complex block of 7, multiplier 6
-        const V t670 = t233 - t194;
-        // complex block of 7, multiplier 6
-        const V t671 = t393 - t354;
-        // complex block of 3, multiplier 2
-        const V t672 = t670 + t671;
-        const V t673 = t670 - t671;
-        const V t674 = c[6] * t672;
-        const V t675 = c[7] * t673;
-        // complex block of 7, multiplier 6
-        const V t676 = t191 - t236;
-        // complex block of 7, multiplier 6
-        const V t677 = t351 - t396;
-        // complex block of 3, multiplier 2
-        const V t678 = t676 + t677;
-        const V t679 = t676 - t677;
-        const V t680 = c[6] * t678;
-        const V t681 = c[7] * t679;
-        // complex block of 7, multiplier 6
-        const V t682 = t233 + t194;
-        // complex block of 7, multiplier 6
-        const V t683 = t393 + t354;
-        // complex block of 3, multiplier 2
-        const V t684 = t682 + t683;
-        const V t685 = t682 - t683;
-        const V t686 = c[6] * t684;
-        const V t687 = c[7] * t685;
-        // complex block of 7, multiplier 6
-        const V t688 = t435 + t480;
-        // complex block of 7, multiplier 6
-        const V t689 = t107 + t152;
-        // complex block of 3, multiplier 2
-        const V t690 = t688 + t689;
-        const V t691 = t688 - t689;
-        const V t692 = c[6] * t690;
-        const V t693 = c[7] * t691;
-        // complex block of 7, multiplier 6
-        const V t694 = t477 - t438;
-        // complex block of 7, multiplier 6
-        const V t695 = t149 - t110;
-        // complex block of 3, multiplier 2
-        const V t696 = t694 + t695;
-        const V t697 = t694 - t695;
-        const V t698 = c[6] * t696;
-        const V t699 = c[7] * t697;
-        // complex block of 7, multiplier 6
-        const V t700 = t435 - t480;
-        // complex block of 7, multiplier 6
-        const V t701 = t107 - t152;
-        // complex block of 3, multiplier 2
-        const V t702 = t700 + t701;
-        const V t703 = t700 - t701;
-        const V t704 = c[6] * t702;
-        const V t705 = c[7] * t703;
-        // complex block of 7, multiplier 6
-        const V t706 = t477 + t438;
-        // complex block of 7, multiplier 6
-        const V t707 = t149 + t110;
-        // complex block of 3, multiplier 2
-        const V t708 = t706 + t707;
-        const V t709 = t706 - t707;
-        const V t710 = c[6] * t708;
-        const V t711 = c[7] * t709;
-        // complex block of 3, multiplier 2
-        const V t712 = t678 + t654;
-        // complex block of 3, multiplier 2
-        const V t713 = t702 + t660;
-        // complex block of 2
-        const V t714 = t712 + t713;
-        io.re(12, t714);
-        const V t715 = t712 - t713;
-        io.re(33, t715);
-        // complex block of 3, multiplier 2
-        const V t716 = t684 + t657;
-        // complex block of 3, multiplier 2
-        const V t717 = t708 + t663;
-        // complex block of 2
-        const V t718 = t716 + t717;
-        io.im(12, t718);
-        const V t719 = t716 - t717;
-        io.im(33, t719);
-        // complex block of 3, multiplier 2
-        const V t720 = t654 - t680;
-        const V t721 = t720 + t687;
-        const V t722 = t720 - t687;
-        // complex block of 3, multiplier 2
-        const V t723 = t660 - t704;
-        const V t724 = t723 + t711;
-        const V t725 = t723 - t711;
-        // complex block of 2
-        const V t726 = t722 + t725;
-        io.re(26, t726);
-        const V t727 = t722 - t725;
-        io.re(5, t727);
-        // complex block of 2
-        const V t728 = t721 + t724;
-        io.re(40, t728);
-        const V t729 = t721 - t724;
-        io.re(19, t729);
-        // complex block of 3, multiplier 2
-        const V t730 = t657 - t686;
-        const V t731 = t730 - t681;
-        const V t732 = t730 + t681;
-        // complex block of 3, multiplier 2
-        const V t733 = t663 - t710;
-        const V t734 = t733 - t705;
-        const V t735 = t733 + t705;
-        // complex block of 2
-        const V t736 = t732 + t735;
-        io.im(26, t736);
-        const V t737 = t732 - t735;
-        io.im(5, t737);
-        // complex block of 2
-        const V t738 = t731 + t734;
-        io.im(40, t738);
-        const V t739 = t731 - t734;
-        io.im(19, t739);
-        // complex block of 3, multiplier 2
-        const V t740 = t666 + t653;
-        // complex block of 3, multiplier 2
-        const V t741 = t690 + t659;
-        // complex block of 2
-        const V t742 = t740 + t741;
-        io.re(30, t742);
-        const V t743 = t740 - t741;
-        io.re(9, t743);
-        // complex block of 3, multiplier 2
-        const V t744 = t672 + t656;
-        // complex block of 3, multiplier 2
-        const V t745 = t696 + t662;
-        // complex block of 2
-        const V t746 = t744 + t745;
-        io.im(30, t746);
-        const V t747 = t744 - t745;
-        io.im(9, t747);
-        // complex block of 3, multiplier 2
-        const V t748 = t653 - t668;
-        const V t749 = t748 + t675;
-        const V t750 = t748 - t675;
-        // complex block of 3, multiplier 2
-        const V t751 = t659 - t692;
-        const V t752 = t751 + t699;
-        const V t753 = t751 - t699;
-        // complex block of 2
-        const V t754 = t750 + t753;
-        io.re(2, t754);
-        const V t755 = t750 - t753;
-        io.re(23, t755);
-        // complex block of 2
-        const V t756 = t749 + t752;
-        io.re(16, t756);
-        const V t757 = t749 - t752;
-        io.re(37, t757);
-        // complex block of 3, multiplier 2
-        const V t758 = t656 - t674;
-        const V t759 = t758 - t669;
-        const V t760 = t758 + t669;
-        // complex block of 3, multiplier 2
-        const V t761 = t662 - t698;
-        const V t762 = t761 - t693;
-        const V t763 = t761 + t693;
-        // complex block of 2
-        const V t764 = t760 + t763;
-        io.im(2, t764);
-        const V t765 = t760 - t763;
-        io.im(23, t765);
-        // complex block of 2
-        const V t766 = t759 + t762;
-        io.im(16, t766);
-        const V t767 = t759 - t762;
-        io.im(37, t767);
-        // complex block of 7, multiplier 6
-        const V t768 = t33 - t34;
-        const V t769 = t768 + t75;
-        const V t770 = t768 - t75;
-        const V t771 = t71 - t72;
-        const V t772 = t771 - t37;
-        const V t773 = t771 + t37;
-        // complex block of 7, multiplier 6
-        const V t774 = t277 - t278;
-        const V t775 = t774 + t319;
-        const V t776 = t774 - t319;
-        const V t777 = t315 - t316;
-        const V t778 = t777 - t281;
-        const V t779 = t777 + t281;
-        // complex block of 7, multiplier 6
-        const V t780 = t198 + t243;
-        // complex block of 7, multiplier 6
-        const V t781 = t358 + t403;
-        // complex block of 3, multiplier 2
-        const V t782 = t780 + t781;
-        const V t783 = t780 - t781;
-        const V t784 = c[6] * t782;
-        const V t785 = c[7] * t783;
-        // complex block of 7, multiplier 6
-        const V t786 = t240 - t201;
-        // complex block of 7, multiplier 6
-        const V t787 = t400 - t361;
-        // complex block of 3, multiplier 2
-        const V t788 = t786 + t787;
-        const V t789 = t786 - t787;
-        const V t790 = c[6] * t788;
-        const V t791 = c[7] * t789;
-        // complex block of 7, multiplier 6
-        const V t792 = t198 - t243;
-        // complex block of 7, multiplier 6
-        const V t793 = t358 - t403;
-        // complex block of 3, multiplier 2
-        const V t794 = t792 + t793;
-        const V t795 = t792 - t793;
-        const V t796 = c[6] * t794;
-        const V t797 = c[7] * t795;
-        // complex block of 7, multiplier 6
-        const V t798 = t240 + t201;
-        // complex block of 7, multiplier 6
-        const V t799 = t400 + t361;
-        // complex block of 3, multiplier 2
-        const V t800 = t798 + t799;
-        const V t801 = t798 - t799;
-        const V t802 = c[6] * t800;
-        const V t803 = c[7] * t801;
-        // complex block of 7, multiplier 6
-        const V t804 = t442 + t487;
-        // complex block of 7, multiplier 6
-        const V t805 = t114 + t159;
-        // complex block of 3, multiplier 2
-        const V t806 = t804 + t805;
-        const V t807 = t804 - t805;
-        const V t808 = c[6] * t806;
-        const V t809 = c[7] * t807;
-        // complex block of 7, multiplier 6
-        const V t810 = t484 - t445;
-        // complex block of 7, multiplier 6
-        const V t811 = t156 - t117;
-        // complex block of 3, multiplier 2
-        const V t812 = t810 + t811;
-        const V t813 = t810 - t811;
-        const V t814 = c[6] * t812;
-        const V t815 = c[7] * t813;
-        // complex block of 7, multiplier 6
-        const V t816 = t442 - t487;
-        // complex block of 7, multiplier 6
-        const V t817 = t114 - t159;
-        // complex block of 3, multiplier 2
-        const V t818 = t816 + t817;
-        const V t819 = t816 - t817;
-        const V t820 = c[6] * t818;
-        const V t821 = c[7] * t819;
-        // complex block of 7, multiplier 6
-        const V t822 = t484 + t445;
-        // complex block of 7, multiplier 6
-        const V t823 = t156 + t117;
-        // complex block of 3, multiplier 2
-        const V t824 = t822 + t823;
-        const V t825 = t822 - t823;
-        const V t826 = c[6] * t824;
-        const V t827 = c[7] * t825;
-        // complex block of 3, multiplier 2
-        const V t828 = t794 + t770;
-        // complex block of 3, multiplier 2
-        const V t829 = t818 + t776;
-        // complex block of 2
-        const V t830 = t828 + t829;
-        io.re(18, t830);
-        const V t831 = t828 - t829;
-        io.re(39, t831);
-        // complex block of 3, multiplier 2
-        const V t832 = t800 + t773;
-        // complex block of 3, multiplier 2
-        const V t833 = t824 + t779;
-        // complex block of 2
-        const V t834 = t832 + t833;
-        io.im(18, t834);
-        const V t835 = t832 - t833;
-        io.im(39, t835);
-        // complex block of 3, multiplier 2
-        const V t836 = t770 - t796;
-        const V t837 = t836 + t803;
-        const V t838 = t836 - t803;
-        // complex block of 3, multiplier 2
-        const V t839 = t776 - t820;
-        const V t840 = t839 + t827;
-        const V t841 = t839 - t827;
-        // complex block of 2
-        const V t842 = t838 + t841;
-        io.re(32, t842);
-        const V t843 = t838 - t841;
-        io.re(11, t843);
-        // complex block of 2
-        const V t844 = t837 + t840;
+        const V t844 = t684 + t700;
         io.re(4, t844);
-        const V t845 = t837 - t840;
-        io.re(25, t845);
-        // complex block of 3, multiplier 2
-        const V t846 = t773 - t802;
-        const V t847 = t846 - t797;
-        const V t848 = t846 + t797;
-        // complex block of 3, multiplier 2
-        const V t849 = t779 - t826;
-        const V t850 = t849 - t821;
-        const V t851 = t849 + t821;
+        const V t845 = t685 + t701;
+        io.im(4, t845);
+        const V t846 = t684 - t700;
+        io.re(25, t846);
+        const V t847 = t685 - t701;
+        io.im(25, t847);
         // complex block of 2
-        const V t852 = t848 + t851;
-        io.im(32, t852);
-        const V t853 = t848 - t851;
-        io.im(11, t853);
+        const V t848 = t708 + t724;
+        io.re(24, t848);
+        const V t849 = t709 + t725;
+        io.im(24, t849);
+        const V t850 = t708 - t724;
+        io.re(3, t850);
+        const V t851 = t709 - t725;
+        io.im(3, t851);
         // complex block of 2
-        const V t854 = t847 + t850;
-        io.im(4, t854);
-        const V t855 = t847 - t850;
-        io.im(25, t855);
-        // complex block of 3, multiplier 2
-        const V t856 = t782 + t769;
-        // complex block of 3, multiplier 2
-        const V t857 = t806 + t775;
+        const V t852 = t718 + t734;
+        io.re(38, t852);
+        const V t853 = t719 + t735;
+        io.im(38, t853);
+        const V t854 = t718 - t734;
+        io.re(17, t854);
+        const V t855 = t719 - t735;
+        io.im(17, t855);
         // complex block of 2
-        const V t858 = t856 + t857;
-        io.re(24, t858);
-        const V t859 = t856 - t857;
-        io.re(3, t859);
-        // complex block of 3, multiplier 2
-        const V t860 = t788 + t772;
-        // complex block of 3, multiplier 2
-        const V t861 = t812 + t778;
+        const V t856 = t716 + t732;
+        io.re(10, t856);
+        const V t857 = t717 + t733;
+        io.im(10, t857);
+        const V t858 = t716 - t732;
+        io.re(31, t858);
+        const V t859 = t717 - t733;
+        io.im(31, t859);
         // complex block of 2
-        const V t862 = t860 + t861;
-        io.im(24, t862);
-        const V t863 = t860 - t861;
-        io.im(3, t863);
-        // complex block of 3, multiplier 2
-        const V t864 = t769 - t784;
-        const V t865 = t864 + t791;
-        const V t866 = t864 - t791;
-        // complex block of 3, multiplier 2
-        const V t867 = t775 - t808;
-        const V t868 = t867 + t815;
-        const V t869 = t867 - t815;
+        const V t860 = t740 + t756;
+        io.re(30, t860);
+        const V t861 = t741 + t757;
+        io.im(30, t861);
+        const V t862 = t740 - t756;
+        io.re(9, t862);
+        const V t863 = t741 - t757;
+        io.im(9, t863);
         // complex block of 2
-        const V t870 = t866 + t869;
-        io.re(38, t870);
-        const V t871 = t866 - t869;
-        io.re(17, t871);
+        const V t864 = t750 + t766;
+        io.re(2, t864);
+        const V t865 = t751 + t767;
+        io.im(2, t865);
+        const V t866 = t750 - t766;
+        io.re(23, t866);
+        const V t867 = t751 - t767;
+        io.im(23, t867);
         // complex block of 2
-        const V t872 = t865 + t868;
-        io.re(10, t872);
-        const V t873 = t865 - t868;
-        io.re(31, t873);
-        // complex block of 3, multiplier 2
-        const V t874 = t772 - t790;
-        const V t875 = t874 - t785;
-        const V t876 = t874 + t785;
-        // complex block of 3, multiplier 2
-        const V t877 = t778 - t814;
-        const V t878 = t877 - t809;
-        const V t879 = t877 + t809;
+        const V t868 = t748 + t764;
+        io.re(16, t868);
+        const V t869 = t749 + t765;
+        io.im(16, t869);
+        const V t870 = t748 - t764;
+        io.re(37, t870);
+        const V t871 = t749 - t765;
+        io.im(37, t871);
         // complex block of 2
-        const V t880 = t876 + t879;
-        io.im(38, t880);
-        const V t881 = t876 - t879;
-        io.im(17, t881);
+        const V t872 = t772 + t788;
+        io.re(36, t872);
+        const V t873 = t773 + t789;
+        io.im(36, t873);
+        const V t874 = t772 - t788;
+        io.re(15, t874);
+        const V t875 = t773 - t789;
+        io.im(15, t875);
         // complex block of 2
-        const V t882 = t875 + t878;
-        io.im(10, t882);
-        const V t883 = t875 - t878;
-        io.im(31, t883);
+        const V t876 = t782 + t798;
+        io.re(8, t876);
+        const V t877 = t783 + t799;
+        io.im(8, t877);
+        const V t878 = t782 - t798;
+        io.re(29, t878);
+        const V t879 = t783 - t799;
+        io.im(29, t879);
+        // complex block of 2
+        const V t880 = t780 + t796;
+        io.re(22, t880);
+        const V t881 = t781 + t797;
+        io.im(22, t881);
+        const V t882 = t780 - t796;
+        io.re(1, t882);
+        const V t883 = t781 - t797;
+        io.im(1, t883);
     }
 };
 

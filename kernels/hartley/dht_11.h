@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 11.
 // Hartley transform of 11 points, form F.
-// 36 additions, 34 subtractions, 50 multiplications (61 with `scale`); 10 constants; 42 values alive at most.
+// 36 additions, 34 subtractions, 50 multiplications (61 with `scale`); 10 constants; 23 values alive at most.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -18,10 +18,10 @@ struct HartleyGraph<11> {
         0.6548607339452851,  // c[3]: -cos 2 pi 40/11
         0.9594929736144974,  // c[4]: -cos 2 pi 60/11
         0.5406408174555976,  // c[5]: -sin 2 pi 10/11
-        0.9898214418809327,  // c[6]: -sin 2 pi 30/11
-        0.9096319953545183,  // c[7]: sin 2 pi 90/11
-        0.28173255684142967,  // c[8]: sin 2 pi 60/11
-        0.7557495743542583,  // c[9]: -sin 2 pi 40/11
+        0.9096319953545183,  // c[6]: sin 2 pi 90/11
+        0.9898214418809327,  // c[7]: -sin 2 pi 30/11
+        0.7557495743542583,  // c[8]: -sin 2 pi 40/11
+        0.28173255684142967,  // c[9]: sin 2 pi 60/11
     };
 
     template <class Ports>
@@ -33,152 +33,144 @@ struct HartleyGraph<11> {
         const V x10 = io.in(10);
         const V t0 = x1 + x10;
         const V t1 = x1 - x10;
-        const V t2 = c[0] * t0;
-        const V t3 = c[1] * t0;
-        const V t4 = c[2] * t0;
-        const V t5 = c[3] * t0;
-        const V t6 = c[4] * t0;
         const V x9 = io.in(9);
         const V x2 = io.in(2);
-        const V t7 = x9 + x2;
-        const V t8 = x9 - x2;
-        const V t9 = c[1] * t7;
-        const V t10 = c[3] * t7;
+        const V t2 = x9 + x2;
+        const V t3 = x9 - x2;
         const V x3 = io.in(3);
         const V x8 = io.in(8);
-        const V t11 = x3 + x8;
-        const V t12 = x3 - x8;
-        const V x6 = io.in(6);
-        const V x5 = io.in(5);
-        const V t13 = x6 + x5;
-        const V t14 = x6 - x5;
-        const V t15 = t0 + t7;
-        const V t16 = t15 + t11;
-        const V t17 = t2 + t9;
-        const V t18 = c[2] * t11;
-        const V t19 = t17 - t18;
-        const V t20 = c[4] * t13;
-        const V t21 = c[5] * t1;
-        const V t22 = c[6] * t12;
-        const V t23 = t21 + t22;
-        const V t24 = c[7] * t8;
-        const V t25 = c[8] * t14;
-        const V t26 = t3 - t10;
-        const V t27 = c[4] * t11;
-        const V t28 = t26 - t27;
-        const V t29 = c[0] * t13;
-        const V t30 = c[7] * t1;
-        const V t31 = c[5] * t14;
-        const V t32 = t30 + t31;
-        const V t33 = c[9] * t8;
-        const V t34 = c[8] * t12;
-        const V x0 = io.in(0);
-        const V t35 = x0 - t4;
-        const V t36 = c[4] * t7;
-        const V t37 = t35 - t36;
-        const V t38 = c[1] * t11;
-        const V t39 = c[3] * t13;
-        const V t40 = c[6] * t1;
-        const V t41 = c[8] * t8;
-        const V t42 = t40 + t41;
-        const V t43 = c[7] * t12;
-        const V t44 = c[9] * t14;
-        const V t45 = x0 - t5;
-        const V t46 = c[2] * t7;
-        const V t47 = t45 - t46;
-        const V t48 = c[0] * t11;
-        const V t49 = c[1] * t13;
-        const V t50 = c[9] * t1;
-        const V t51 = c[6] * t8;
-        const V t52 = t50 + t51;
-        const V t53 = c[5] * t12;
-        const V t54 = c[7] * t14;
-        const V t55 = x0 - t6;
-        const V t56 = c[0] * t7;
-        const V t57 = t55 + t56;
-        const V t58 = c[3] * t11;
-        const V t59 = c[2] * t13;
-        const V t60 = c[8] * t1;
-        const V t61 = c[5] * t8;
-        const V t62 = t60 + t61;
-        const V t63 = c[9] * t12;
-        const V t64 = c[6] * t14;
+        const V t4 = x3 + x8;
+        const V t5 = x3 - x8;
         const V x4 = io.in(4);
         const V x7 = io.in(7);
-        const V t65 = x4 + x7;
-        const V t66 = x4 - x7;
-        const V t67 = c[3] * t65;
-        const V t68 = c[9] * t66;
-        const V t69 = c[2] * t65;
-        const V t70 = c[6] * t66;
-        const V t71 = c[0] * t65;
-        const V t72 = c[5] * t66;
-        const V t73 = c[4] * t65;
-        const V t74 = c[8] * t66;
-        const V t75 = c[1] * t65;
-        const V t76 = c[7] * t66;
-        const V t77 = t16 + t65;
-        const V t78 = t77 + t13;
-        const V t79 = t78 + x0;
-        io.out(0, t79);
-        const V t80 = t19 - t67;
-        const V t81 = t80 - t20;
-        const V t82 = t23 + t68;
-        const V t83 = t82 - t24;
-        const V t84 = t81 + x0;
-        const V t85 = t83 - t25;
-        // output stage
-        const V t86 = t84 + t85;
-        io.out(1, t86);
-        const V t87 = t84 - t85;
-        io.out(10, t87);
-        // real block of 11, multiplier 10
-        const V t88 = t28 - t69;
-        const V t89 = t88 + t29;
-        const V t90 = t32 - t33;
-        const V t91 = t90 - t34;
-        const V t92 = t89 + x0;
-        const V t93 = t91 - t70;
-        // output stage
+        const V t6 = x4 + x7;
+        const V t7 = x4 - x7;
+        const V x6 = io.in(6);
+        const V x5 = io.in(5);
+        const V t8 = x6 + x5;
+        const V t9 = x6 - x5;
+        const V t10 = t0 + t2;
+        const V t11 = t10 + t4;
+        const V t12 = t11 + t6;
+        const V t13 = t12 + t8;
+        const V x0 = io.in(0);
+        const V t14 = t13 + x0;
+        io.out(0, t14);
+        const V t15 = c[0] * t0;
+        const V t16 = c[1] * t2;
+        const V t17 = t15 + t16;
+        const V t18 = c[2] * t4;
+        const V t19 = t17 - t18;
+        const V t20 = c[3] * t6;
+        const V t21 = t19 - t20;
+        const V t22 = c[4] * t8;
+        const V t23 = t21 - t22;
+        const V t24 = t23 + x0;
+        const V t25 = c[5] * t1;
+        const V t26 = c[6] * t3;
+        const V t27 = c[7] * t5;
+        const V t28 = c[8] * t7;
+        const V t29 = c[9] * t9;
+        const V t30 = t25 + t27;
+        const V t31 = t30 + t28;
+        const V t32 = t31 - t26;
+        const V t33 = t32 - t29;
+        const V t34 = c[1] * t0;
+        const V t35 = c[3] * t2;
+        const V t36 = t34 - t35;
+        const V t37 = c[4] * t4;
+        const V t38 = t36 - t37;
+        const V t39 = c[2] * t6;
+        const V t40 = t38 - t39;
+        const V t41 = c[0] * t8;
+        const V t42 = t40 + t41;
+        const V t43 = t42 + x0;
+        const V t44 = c[6] * t1;
+        const V t45 = c[8] * t3;
+        const V t46 = c[9] * t5;
+        const V t47 = c[7] * t7;
+        const V t48 = c[5] * t9;
+        const V t49 = t44 + t48;
+        const V t50 = t49 - t45;
+        const V t51 = t50 - t46;
+        const V t52 = t51 - t47;
+        const V t53 = c[2] * t0;
+        const V t54 = x0 - t53;
+        const V t55 = c[4] * t2;
+        const V t56 = t54 - t55;
+        const V t57 = c[1] * t4;
+        const V t58 = t56 + t57;
+        const V t59 = c[0] * t6;
+        const V t60 = t58 + t59;
+        const V t61 = c[3] * t8;
+        const V t62 = t60 - t61;
+        const V t63 = c[7] * t1;
+        const V t64 = c[9] * t3;
+        const V t65 = c[6] * t5;
+        const V t66 = c[5] * t7;
+        const V t67 = c[8] * t9;
+        const V t68 = t63 + t64;
+        const V t69 = t68 + t66;
+        const V t70 = t69 - t65;
+        const V t71 = t70 - t67;
+        const V t72 = c[3] * t0;
+        const V t73 = x0 - t72;
+        const V t74 = c[2] * t2;
+        const V t75 = t73 - t74;
+        const V t76 = c[0] * t4;
+        const V t77 = t75 + t76;
+        const V t78 = c[4] * t6;
+        const V t79 = t77 - t78;
+        const V t80 = c[1] * t8;
+        const V t81 = t79 + t80;
+        const V t82 = c[8] * t1;
+        const V t83 = c[7] * t3;
+        const V t84 = c[5] * t5;
+        const V t85 = c[9] * t7;
+        const V t86 = c[6] * t9;
+        const V t87 = t82 + t83;
+        const V t88 = t87 + t84;
+        const V t89 = t88 + t85;
+        const V t90 = t89 + t86;
+        const V t91 = c[4] * t0;
+        const V t92 = x0 - t91;
+        const V t93 = c[0] * t2;
         const V t94 = t92 + t93;
-        io.out(2, t94);
-        const V t95 = t92 - t93;
-        io.out(9, t95);
-        // real block of 11, multiplier 10
-        const V t96 = t37 + t38;
-        const V t97 = t96 + t71;
-        const V t98 = t42 + t72;
-        const V t99 = t98 - t43;
-        const V t100 = t97 - t39;
-        const V t101 = t99 - t44;
+        const V t95 = c[3] * t4;
+        const V t96 = t94 - t95;
+        const V t97 = c[1] * t6;
+        const V t98 = t96 + t97;
+        const V t99 = c[2] * t8;
+        const V t100 = t98 - t99;
+        const V t101 = c[9] * t1;
+        const V t102 = c[5] * t3;
+        const V t103 = c[8] * t5;
+        const V t104 = c[6] * t7;
+        const V t105 = c[7] * t9;
+        const V t106 = t101 + t102;
+        const V t107 = t106 + t103;
+        const V t108 = t107 - t104;
+        const V t109 = t108 - t105;
         // output stage
-        const V t102 = t100 + t101;
-        io.out(3, t102);
-        const V t103 = t100 - t101;
-        io.out(8, t103);
-        // real block of 11, multiplier 10
-        const V t104 = t47 + t48;
-        const V t105 = t104 - t73;
-        const V t106 = t52 + t53;
-        const V t107 = t106 + t74;
-        const V t108 = t105 + t49;
-        const V t109 = t107 + t54;
-        // output stage
-        const V t110 = t108 + t109;
-        io.out(4, t110);
-        const V t111 = t108 - t109;
-        io.out(7, t111);
-        // real block of 11, multiplier 10
-        const V t112 = t57 - t58;
-        const V t113 = t112 + t75;
-        const V t114 = t62 + t63;
-        const V t115 = t114 - t76;
-        const V t116 = t113 - t59;
-        const V t117 = t115 - t64;
-        // output stage
-        const V t118 = t116 + t117;
+        const V t110 = t24 + t33;
+        io.out(1, t110);
+        const V t111 = t24 - t33;
+        io.out(10, t111);
+        const V t112 = t43 + t52;
+        io.out(2, t112);
+        const V t113 = t43 - t52;
+        io.out(9, t113);
+        const V t114 = t62 + t71;
+        io.out(3, t114);
+        const V t115 = t62 - t71;
+        io.out(8, t115);
+        const V t116 = t81 + t90;
+        io.out(4, t116);
+        const V t117 = t81 - t90;
+        io.out(7, t117);
+        const V t118 = t100 + t109;
         io.out(5, t118);
-        const V t119 = t116 - t117;
+        const V t119 = t100 - t109;
         io.out(6, t119);
     }
 };

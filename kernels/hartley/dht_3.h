@@ -25,11 +25,11 @@ struct HartleyGraph<3> {
         const V x2 = io.in(2);
         const V t0 = x1 + x2;
         const V t1 = x1 - x2;
+        const V t2 = c[0] * t0;
         const V x0 = io.in(0);
-        const V t2 = t0 + x0;
-        io.out(0, t2);
-        const V t3 = c[0] * t0;
-        const V t4 = x0 - t3;
+        const V t3 = t0 + x0;
+        io.out(0, t3);
+        const V t4 = x0 - t2;
         const V t5 = c[1] * t1;
         // output stage
         const V t6 = t4 + t5;

@@ -16,18 +16,18 @@ struct RealForwardGraph<50> {
         0.30901699437494745,  // c[1]: cos 2 pi 6/5
         0.5877852522924731,  // c[2]: sin 2 pi 2/5
         0.9510565162951535,  // c[3]: sin 2 pi 6/5
-        0.5358267949789967,  // c[4]: cos 2 pi 4/25
-        0.8443279255020151,  // c[5]: sin 2 pi 4/25
-        0.42577929156507266,  // c[6]: -cos 2 pi 8/25
-        0.9048270524660196,  // c[7]: sin 2 pi 8/25
-        0.06279051952931337,  // c[8]: cos 2 pi 6/25
-        0.9980267284282716,  // c[9]: sin 2 pi 6/25
-        0.9921147013144779,  // c[10]: -cos 2 pi 12/25
-        0.12533323356430426,  // c[11]: sin 2 pi 12/25
-        0.8763066800438636,  // c[12]: cos 2 pi 2/25
-        0.48175367410171527,  // c[13]: sin 2 pi 2/25
-        0.6374239897486897,  // c[14]: -cos 2 pi 16/25
-        0.7705132427757893,  // c[15]: -sin 2 pi 16/25
+        0.8443279255020151,  // c[4]: sin 2 pi 4/25
+        0.5358267949789967,  // c[5]: cos 2 pi 4/25
+        0.9048270524660196,  // c[6]: sin 2 pi 8/25
+        0.42577929156507266,  // c[7]: -cos 2 pi 8/25
+        0.48175367410171527,  // c[8]: sin 2 pi 2/25
+        0.8763066800438636,  // c[9]: cos 2 pi 2/25
+        0.9980267284282716,  // c[10]: sin 2 pi 6/25
+        0.06279051952931337,  // c[11]: cos 2 pi 6/25
+        0.12533323356430426,  // c[12]: sin 2 pi 12/25
+        0.9921147013144779,  // c[13]: -cos 2 pi 12/25
+        0.7705132427757893,  // c[14]: -sin 2 pi 16/25
+        0.6374239897486897,  // c[15]: -cos 2 pi 16/25
     };
 
     template <class Ports>
@@ -39,836 +39,712 @@ struct RealForwardGraph<50> {
         const V x40 = io.in(40);
         const V t0 = x10 + x40;
         const V t1 = x10 - x40;
-        const V t2 = c[0] * t0;
-        const V t3 = c[1] * t0;
         const V x30 = io.in(30);
         const V x20 = io.in(20);
-        const V t4 = x30 + x20;
-        const V t5 = x30 - x20;
-        const V t6 = c[0] * t4;
-        const V t7 = t0 + t4;
+        const V t2 = x30 + x20;
+        const V t3 = x30 - x20;
+        const V t4 = t0 + t2;
         const V x0 = io.in(0);
-        const V t8 = t7 + x0;
-        const V t9 = x0 - t2;
-        const V t10 = c[1] * t4;
-        const V t11 = t9 + t10;
-        const V t12 = c[2] * t1;
-        const V t13 = c[3] * t5;
-        const V t14 = t12 + t13;
-        const V t15 = t3 - t6;
+        const V t5 = t4 + x0;
+        const V t6 = c[0] * t0;
+        const V t7 = x0 - t6;
+        const V t8 = c[1] * t2;
+        const V t9 = t7 + t8;
+        const V t10 = c[2] * t1;
+        const V t11 = c[3] * t3;
+        const V t12 = t10 + t11;
+        const V t13 = c[1] * t0;
+        const V t14 = c[0] * t2;
+        const V t15 = t13 - t14;
         const V t16 = t15 + x0;
         const V t17 = c[3] * t1;
-        const V t18 = c[2] * t5;
+        const V t18 = c[2] * t3;
         const V t19 = t17 - t18;
-        // real block of 5, multiplier 2
-        const V x11 = io.in(11);
-        const V x1 = io.in(1);
-        const V t20 = x11 + x1;
-        const V t21 = x11 - x1;
-        const V x41 = io.in(41);
-        const V x21 = io.in(21);
-        const V t22 = x41 + x21;
-        const V t23 = x41 - x21;
-        const V t24 = t22 + t20;
-        const V t25 = c[0] * t22;
-        const V x31 = io.in(31);
-        const V t26 = x31 - t25;
-        const V t27 = c[1] * t20;
-        const V t28 = c[2] * t23;
-        const V t29 = c[3] * t21;
-        const V t30 = c[1] * t22;
-        const V t31 = c[0] * t20;
-        const V t32 = t30 - t31;
-        const V t33 = c[3] * t23;
-        const V t34 = c[2] * t21;
-        // real block of 5, multiplier 2
-        const V x9 = io.in(9);
-        const V x49 = io.in(49);
-        const V t35 = x9 + x49;
-        const V t36 = x9 - x49;
-        const V x39 = io.in(39);
-        const V x19 = io.in(19);
-        const V t37 = x39 + x19;
-        const V t38 = x39 - x19;
-        const V t39 = t37 + t35;
-        const V t40 = c[0] * t37;
-        const V x29 = io.in(29);
-        const V t41 = x29 - t40;
-        const V t42 = c[1] * t35;
-        const V t43 = c[2] * t38;
-        const V t44 = c[3] * t36;
-        const V t45 = c[1] * t37;
-        const V t46 = c[0] * t35;
-        const V t47 = t45 - t46;
-        const V t48 = c[3] * t38;
-        const V t49 = c[2] * t36;
-        const V t50 = t39 + x29;
-        // real block of 5, multiplier 2
-        const V t51 = t24 + x31;
-        // real block of 5, multiplier 2
-        const V t52 = t51 + t50;
-        // real block of 5, multiplier 2
-        const V t53 = t41 + t42;
-        // real block of 25, multiplier 2
-        const V t54 = c[4] * t53;
-        const V t55 = c[5] * t53;
-        // real block of 5, multiplier 2
-        const V t56 = t43 + t44;
-        // real block of 25, multiplier 2
-        const V t57 = c[5] * t56;
-        const V t58 = c[4] * t56;
-        const V t59 = t54 - t57;
-        const V t60 = t58 + t55;
-        // real block of 5, multiplier 2
-        const V t61 = t47 + x29;
-        // real block of 25, multiplier 2
-        const V t62 = c[6] * t61;
-        const V t63 = c[7] * t61;
-        // real block of 5, multiplier 2
-        const V t64 = t48 - t49;
-        // real block of 25, multiplier 2
-        const V t65 = c[7] * t64;
-        const V t66 = c[6] * t64;
-        const V t67 = t65 - t62;
-        const V t68 = t66 + t63;
-        // real block of 5, multiplier 2
-        const V t69 = t26 + t27;
-        // real block of 25, multiplier 2
-        const V t70 = c[8] * t69;
-        const V t71 = c[9] * t69;
-        // real block of 5, multiplier 2
-        const V t72 = t28 + t29;
-        // real block of 25, multiplier 2
-        const V t73 = c[9] * t72;
-        const V t74 = c[8] * t72;
-        const V t75 = t70 - t73;
-        const V t76 = t74 + t71;
-        // real block of 5, multiplier 2
-        const V t77 = t32 + x31;
-        // real block of 25, multiplier 2
-        const V t78 = c[10] * t77;
-        const V t79 = c[11] * t77;
-        // real block of 5, multiplier 2
-        const V t80 = t33 - t34;
-        // real block of 25, multiplier 2
-        const V t81 = c[11] * t80;
-        const V t82 = c[10] * t80;
-        const V t83 = t81 - t78;
-        const V t84 = t82 + t79;
         // real block of 5, multiplier 2
         const V x12 = io.in(12);
         const V x42 = io.in(42);
-        const V t85 = x12 + x42;
-        const V t86 = x12 - x42;
+        const V t20 = x12 + x42;
+        const V t21 = x12 - x42;
         const V x32 = io.in(32);
         const V x22 = io.in(22);
-        const V t87 = x32 + x22;
-        const V t88 = x32 - x22;
-        const V t89 = t85 + t87;
-        const V t90 = c[0] * t85;
+        const V t22 = x32 + x22;
+        const V t23 = x32 - x22;
+        const V t24 = t20 + t22;
         const V x2 = io.in(2);
-        const V t91 = x2 - t90;
-        const V t92 = c[1] * t87;
-        const V t93 = c[2] * t86;
-        const V t94 = c[3] * t88;
-        const V t95 = c[1] * t85;
-        const V t96 = c[0] * t87;
-        const V t97 = t95 - t96;
-        const V t98 = c[3] * t86;
-        const V t99 = c[2] * t88;
-        // real block of 5, multiplier 2
-        const V x18 = io.in(18);
-        const V x48 = io.in(48);
-        const V t100 = x18 + x48;
-        const V t101 = x18 - x48;
-        const V x38 = io.in(38);
-        const V x28 = io.in(28);
-        const V t102 = x38 + x28;
-        const V t103 = x38 - x28;
-        const V t104 = t100 + t102;
-        const V t105 = c[0] * t100;
-        const V x8 = io.in(8);
-        const V t106 = x8 - t105;
-        const V t107 = c[1] * t102;
-        const V t108 = c[2] * t101;
-        const V t109 = c[3] * t103;
-        const V t110 = c[1] * t100;
-        const V t111 = c[0] * t102;
-        const V t112 = t110 - t111;
-        const V t113 = c[3] * t101;
-        const V t114 = c[2] * t103;
-        // real block of 5, multiplier 2
-        const V t115 = t89 + x2;
-        // real block of 5, multiplier 2
-        const V t116 = t104 + x8;
-        // real block of 5, multiplier 2
-        const V t117 = t115 + t116;
-        // real block of 5, multiplier 2
-        const V t118 = t91 + t92;
-        // real block of 25, multiplier 2
-        const V t119 = c[12] * t118;
-        const V t120 = c[13] * t118;
-        // real block of 5, multiplier 2
-        const V t121 = t93 + t94;
-        // real block of 25, multiplier 2
-        const V t122 = c[13] * t121;
-        const V t123 = c[12] * t121;
-        const V t124 = t119 - t122;
-        const V t125 = t123 + t120;
-        // real block of 5, multiplier 2
-        const V t126 = t97 + x2;
-        // real block of 25, multiplier 2
-        const V t127 = c[4] * t126;
-        const V t128 = c[5] * t126;
-        // real block of 5, multiplier 2
-        const V t129 = t98 - t99;
-        // real block of 25, multiplier 2
-        const V t130 = c[5] * t129;
-        const V t131 = c[4] * t129;
-        const V t132 = t127 + t130;
-        const V t133 = t131 - t128;
-        // real block of 5, multiplier 2
-        const V t134 = t106 + t107;
-        // real block of 25, multiplier 2
-        const V t135 = c[6] * t134;
-        const V t136 = c[7] * t134;
-        // real block of 5, multiplier 2
-        const V t137 = t108 + t109;
-        // real block of 25, multiplier 2
-        const V t138 = c[7] * t137;
-        const V t139 = c[6] * t137;
-        const V t140 = t135 + t138;
-        const V t141 = t139 - t136;
-        // real block of 5, multiplier 2
-        const V t142 = t112 + x8;
-        // real block of 25, multiplier 2
-        const V t143 = c[14] * t142;
-        const V t144 = c[15] * t142;
-        // real block of 5, multiplier 2
-        const V t145 = t113 - t114;
-        // real block of 25, multiplier 2
-        const V t146 = c[15] * t145;
-        const V t147 = c[14] * t145;
-        const V t148 = t143 + t146;
-        const V t149 = t144 - t147;
-        // real block of 5, multiplier 2
-        const V x13 = io.in(13);
-        const V x3 = io.in(3);
-        const V t150 = x13 + x3;
-        const V t151 = x13 - x3;
-        const V x43 = io.in(43);
-        const V x23 = io.in(23);
-        const V t152 = x43 + x23;
-        const V t153 = x43 - x23;
-        const V t154 = t152 + t150;
-        const V t155 = c[0] * t152;
-        const V x33 = io.in(33);
-        const V t156 = x33 - t155;
-        const V t157 = c[1] * t150;
-        const V t158 = c[2] * t153;
-        const V t159 = c[3] * t151;
-        const V t160 = c[1] * t152;
-        const V t161 = c[0] * t150;
-        const V t162 = t160 - t161;
-        const V t163 = c[3] * t153;
-        const V t164 = c[2] * t151;
-        // real block of 5, multiplier 2
-        const V x7 = io.in(7);
-        const V x47 = io.in(47);
-        const V t165 = x7 + x47;
-        const V t166 = x7 - x47;
-        const V x37 = io.in(37);
-        const V x17 = io.in(17);
-        const V t167 = x37 + x17;
-        const V t168 = x37 - x17;
-        const V t169 = t167 + t165;
-        const V t170 = c[0] * t167;
-        const V x27 = io.in(27);
-        const V t171 = x27 - t170;
-        const V t172 = c[1] * t165;
-        const V t173 = c[2] * t168;
-        const V t174 = c[3] * t166;
-        const V t175 = c[1] * t167;
-        const V t176 = c[0] * t165;
-        const V t177 = t175 - t176;
-        const V t178 = c[3] * t168;
-        const V t179 = c[2] * t166;
-        const V t180 = t169 + x27;
-        // real block of 5, multiplier 2
-        const V t181 = t154 + x33;
-        // real block of 5, multiplier 2
-        const V t182 = t180 + t181;
-        // real block of 5, multiplier 2
-        const V t183 = t171 + t172;
-        // real block of 25, multiplier 2
-        const V t184 = c[12] * t183;
-        const V t185 = c[13] * t183;
-        // real block of 5, multiplier 2
-        const V t186 = t173 + t174;
-        // real block of 25, multiplier 2
-        const V t187 = c[13] * t186;
-        const V t188 = c[12] * t186;
-        const V t189 = t184 - t187;
-        const V t190 = t188 + t185;
-        // real block of 5, multiplier 2
-        const V t191 = t177 + x27;
-        // real block of 25, multiplier 2
-        const V t192 = c[4] * t191;
-        const V t193 = c[5] * t191;
-        // real block of 5, multiplier 2
-        const V t194 = t178 - t179;
-        // real block of 25, multiplier 2
-        const V t195 = c[5] * t194;
-        const V t196 = c[4] * t194;
-        const V t197 = t192 + t195;
-        const V t198 = t196 - t193;
-        // real block of 5, multiplier 2
-        const V t199 = t156 + t157;
-        // real block of 25, multiplier 2
-        const V t200 = c[6] * t199;
-        const V t201 = c[7] * t199;
-        // real block of 5, multiplier 2
-        const V t202 = t158 + t159;
-        // real block of 25, multiplier 2
-        const V t203 = c[7] * t202;
-        const V t204 = c[6] * t202;
-        const V t205 = t200 + t203;
-        const V t206 = t204 - t201;
-        // real block of 5, multiplier 2
-        const V t207 = t162 + x33;
-        // real block of 25, multiplier 2
-        const V t208 = c[14] * t207;
-        const V t209 = c[15] * t207;
-        // real block of 5, multiplier 2
-        const V t210 = t163 - t164;
-        // real block of 25, multiplier 2
-        const V t211 = c[15] * t210;
-        const V t212 = c[14] * t210;
-        const V t213 = t208 + t211;
-        const V t214 = t209 - t212;
+        const V t25 = t24 + x2;
+        const V t26 = c[0] * t20;
+        const V t27 = x2 - t26;
+        const V t28 = c[1] * t22;
+        const V t29 = t27 + t28;
+        const V t30 = c[2] * t21;
+        const V t31 = c[3] * t23;
+        const V t32 = t30 + t31;
+        const V t33 = c[1] * t20;
+        const V t34 = c[0] * t22;
+        const V t35 = t33 - t34;
+        const V t36 = t35 + x2;
+        const V t37 = c[3] * t21;
+        const V t38 = c[2] * t23;
+        const V t39 = t37 - t38;
         // real block of 5, multiplier 2
         const V x14 = io.in(14);
         const V x44 = io.in(44);
-        const V t215 = x14 + x44;
-        const V t216 = x14 - x44;
+        const V t40 = x14 + x44;
+        const V t41 = x14 - x44;
         const V x34 = io.in(34);
         const V x24 = io.in(24);
-        const V t217 = x34 + x24;
-        const V t218 = x34 - x24;
-        const V t219 = t215 + t217;
-        const V t220 = c[0] * t215;
+        const V t42 = x34 + x24;
+        const V t43 = x34 - x24;
+        const V t44 = t40 + t42;
         const V x4 = io.in(4);
-        const V t221 = x4 - t220;
-        const V t222 = c[1] * t217;
-        const V t223 = c[2] * t216;
-        const V t224 = c[3] * t218;
-        const V t225 = c[1] * t215;
-        const V t226 = c[0] * t217;
-        const V t227 = t225 - t226;
-        const V t228 = c[3] * t216;
-        const V t229 = c[2] * t218;
+        const V t45 = t44 + x4;
+        const V t46 = c[0] * t40;
+        const V t47 = x4 - t46;
+        const V t48 = c[1] * t42;
+        const V t49 = t47 + t48;
+        const V t50 = c[2] * t41;
+        const V t51 = c[3] * t43;
+        const V t52 = t50 + t51;
+        const V t53 = c[1] * t40;
+        const V t54 = c[0] * t42;
+        const V t55 = t53 - t54;
+        const V t56 = t55 + x4;
+        const V t57 = c[3] * t41;
+        const V t58 = c[2] * t43;
+        const V t59 = t57 - t58;
         // real block of 5, multiplier 2
         const V x16 = io.in(16);
         const V x46 = io.in(46);
-        const V t230 = x16 + x46;
-        const V t231 = x16 - x46;
+        const V t60 = x16 + x46;
+        const V t61 = x16 - x46;
         const V x36 = io.in(36);
         const V x26 = io.in(26);
-        const V t232 = x36 + x26;
-        const V t233 = x36 - x26;
-        const V t234 = t230 + t232;
-        const V t235 = c[0] * t230;
+        const V t62 = x36 + x26;
+        const V t63 = x36 - x26;
+        const V t64 = t60 + t62;
         const V x6 = io.in(6);
-        const V t236 = x6 - t235;
-        const V t237 = c[1] * t232;
-        const V t238 = c[2] * t231;
-        const V t239 = c[3] * t233;
-        const V t240 = c[1] * t230;
-        const V t241 = c[0] * t232;
-        const V t242 = t240 - t241;
-        const V t243 = c[3] * t231;
-        const V t244 = c[2] * t233;
+        const V t65 = t64 + x6;
+        const V t66 = c[0] * t60;
+        const V t67 = x6 - t66;
+        const V t68 = c[1] * t62;
+        const V t69 = t67 + t68;
+        const V t70 = c[2] * t61;
+        const V t71 = c[3] * t63;
+        const V t72 = t70 + t71;
+        const V t73 = c[1] * t60;
+        const V t74 = c[0] * t62;
+        const V t75 = t73 - t74;
+        const V t76 = t75 + x6;
+        const V t77 = c[3] * t61;
+        const V t78 = c[2] * t63;
+        const V t79 = t77 - t78;
         // real block of 5, multiplier 2
-        const V t245 = t219 + x4;
+        const V x18 = io.in(18);
+        const V x48 = io.in(48);
+        const V t80 = x18 + x48;
+        const V t81 = x18 - x48;
+        const V x38 = io.in(38);
+        const V x28 = io.in(28);
+        const V t82 = x38 + x28;
+        const V t83 = x38 - x28;
+        const V t84 = t80 + t82;
+        const V x8 = io.in(8);
+        const V t85 = t84 + x8;
+        const V t86 = c[0] * t80;
+        const V t87 = x8 - t86;
+        const V t88 = c[1] * t82;
+        const V t89 = t87 + t88;
+        const V t90 = c[2] * t81;
+        const V t91 = c[3] * t83;
+        const V t92 = t90 + t91;
+        const V t93 = c[1] * t80;
+        const V t94 = c[0] * t82;
+        const V t95 = t93 - t94;
+        const V t96 = t95 + x8;
+        const V t97 = c[3] * t81;
+        const V t98 = c[2] * t83;
+        const V t99 = t97 - t98;
         // real block of 5, multiplier 2
-        const V t246 = t234 + x6;
-        // real block of 5, multiplier 2
-        const V t247 = t246 + t245;
-        // real block of 5, multiplier 2
-        const V t248 = t221 + t222;
+        const V t100 = t25 + t85;
+        const V t101 = t25 - t85;
+        const V t102 = t65 + t45;
+        const V t103 = t65 - t45;
+        const V t104 = t100 + t102;
+        const V t105 = t104 + t5;
+        const V t106 = c[0] * t100;
+        const V t107 = t5 - t106;
+        const V t108 = c[1] * t102;
+        const V t109 = t107 + t108;
+        const V t110 = c[2] * t101;
+        const V t111 = c[3] * t103;
+        const V t112 = t110 + t111;
+        const V t113 = c[1] * t100;
+        const V t114 = c[0] * t102;
+        const V t115 = t113 - t114;
+        const V t116 = t115 + t5;
+        const V t117 = c[3] * t101;
+        const V t118 = c[2] * t103;
+        const V t119 = t117 - t118;
         // real block of 25, multiplier 2
-        const V t249 = c[4] * t248;
-        const V t250 = c[5] * t248;
-        // real block of 5, multiplier 2
-        const V t251 = t223 + t224;
+        const V t120 = c[8] * t32;
+        const V t121 = c[9] * t29;
+        const V t122 = t121 - t120;
+        const V t123 = c[8] * t29;
+        const V t124 = c[9] * t32;
+        const V t125 = t124 + t123;
+        const V t126 = c[4] * t52;
+        const V t127 = c[5] * t49;
+        const V t128 = t127 - t126;
+        const V t129 = c[4] * t49;
+        const V t130 = c[5] * t52;
+        const V t131 = t130 + t129;
+        const V t132 = c[10] * t72;
+        const V t133 = c[11] * t69;
+        const V t134 = t133 - t132;
+        const V t135 = c[10] * t69;
+        const V t136 = c[11] * t72;
+        const V t137 = t136 + t135;
+        const V t138 = c[6] * t92;
+        const V t139 = c[7] * t89;
+        const V t140 = t139 + t138;
+        const V t141 = c[6] * t89;
+        const V t142 = c[7] * t92;
+        const V t143 = t142 - t141;
+        // complex block of 5, multiplier 2
+        const V t144 = t122 - t140;
+        const V t145 = t143 - t125;
+        const V t146 = t122 + t140;
+        const V t147 = t125 + t143;
+        const V t148 = t134 + t128;
+        const V t149 = t137 + t131;
+        const V t150 = t134 - t128;
+        const V t151 = t131 - t137;
+        const V t152 = t144 + t148;
+        const V t153 = t145 - t149;
+        const V t154 = t152 + t9;
+        const V t155 = t153 - t12;
+        const V t156 = c[1] * t144;
+        const V t157 = c[0] * t148;
+        const V t158 = t156 - t157;
+        const V t159 = t158 + t9;
+        const V t160 = c[1] * t145;
+        const V t161 = c[0] * t149;
+        const V t162 = t160 + t161;
+        const V t163 = t162 - t12;
+        const V t164 = c[3] * t146;
+        const V t165 = c[2] * t150;
+        const V t166 = t164 - t165;
+        const V t167 = c[3] * t147;
+        const V t168 = c[2] * t151;
+        const V t169 = t167 + t168;
+        const V t170 = t159 - t169;
+        const V t171 = t163 - t166;
+        const V t172 = t159 + t169;
+        const V t173 = t163 + t166;
+        const V t174 = c[0] * t144;
+        const V t175 = t9 - t174;
+        const V t176 = c[1] * t148;
+        const V t177 = t175 + t176;
+        const V t178 = c[0] * t145;
+        const V t179 = t12 + t178;
+        const V t180 = c[1] * t149;
+        const V t181 = t179 + t180;
+        const V t182 = c[2] * t146;
+        const V t183 = c[3] * t150;
+        const V t184 = t182 + t183;
+        const V t185 = c[2] * t147;
+        const V t186 = c[3] * t151;
+        const V t187 = t186 - t185;
+        const V t188 = t177 + t187;
+        const V t189 = t181 + t184;
+        const V t190 = t177 - t187;
+        const V t191 = t184 - t181;
         // real block of 25, multiplier 2
-        const V t252 = c[5] * t251;
-        const V t253 = c[4] * t251;
-        const V t254 = t249 - t252;
-        const V t255 = t253 + t250;
+        const V t192 = c[4] * t39;
+        const V t193 = c[5] * t36;
+        const V t194 = t193 + t192;
+        const V t195 = c[4] * t36;
+        const V t196 = c[5] * t39;
+        const V t197 = t196 - t195;
+        const V t198 = c[6] * t59;
+        const V t199 = c[7] * t56;
+        const V t200 = t198 - t199;
+        const V t201 = c[6] * t56;
+        const V t202 = c[7] * t59;
+        const V t203 = t202 + t201;
+        const V t204 = c[12] * t79;
+        const V t205 = c[13] * t76;
+        const V t206 = t204 - t205;
+        const V t207 = c[12] * t76;
+        const V t208 = c[13] * t79;
+        const V t209 = t208 + t207;
+        const V t210 = c[14] * t99;
+        const V t211 = c[15] * t96;
+        const V t212 = t211 + t210;
+        const V t213 = c[14] * t96;
+        const V t214 = c[15] * t99;
+        const V t215 = t213 - t214;
+        // complex block of 5, multiplier 2
+        const V t216 = t194 - t212;
+        const V t217 = t197 + t215;
+        const V t218 = t194 + t212;
+        const V t219 = t197 - t215;
+        const V t220 = t206 + t200;
+        const V t221 = t209 + t203;
+        const V t222 = t206 - t200;
+        const V t223 = t203 - t209;
+        const V t224 = t216 + t220;
+        const V t225 = t217 - t221;
+        const V t226 = t224 + t16;
+        const V t227 = t225 + t19;
+        const V t228 = c[1] * t216;
+        const V t229 = c[0] * t220;
+        const V t230 = t228 - t229;
+        const V t231 = t230 + t16;
+        const V t232 = c[1] * t217;
+        const V t233 = c[0] * t221;
+        const V t234 = t232 + t233;
+        const V t235 = t234 + t19;
+        const V t236 = c[3] * t218;
+        const V t237 = c[2] * t222;
+        const V t238 = t236 - t237;
+        const V t239 = c[3] * t219;
+        const V t240 = c[2] * t223;
+        const V t241 = t239 - t240;
+        const V t242 = t231 + t241;
+        const V t243 = t235 - t238;
+        const V t244 = t231 - t241;
+        const V t245 = t235 + t238;
+        const V t246 = c[0] * t216;
+        const V t247 = t16 - t246;
+        const V t248 = c[1] * t220;
+        const V t249 = t247 + t248;
+        const V t250 = c[0] * t217;
+        const V t251 = t19 - t250;
+        const V t252 = c[1] * t221;
+        const V t253 = t251 - t252;
+        const V t254 = c[2] * t218;
+        const V t255 = c[3] * t222;
+        const V t256 = t254 + t255;
+        const V t257 = c[2] * t219;
+        const V t258 = c[3] * t223;
+        const V t259 = t257 + t258;
+        const V t260 = t249 + t259;
+        const V t261 = t253 - t256;
+        const V t262 = t249 - t259;
+        const V t263 = t253 + t256;
         // real block of 5, multiplier 2
-        const V t256 = t227 + x4;
-        // real block of 25, multiplier 2
-        const V t257 = c[6] * t256;
-        const V t258 = c[7] * t256;
-        // real block of 5, multiplier 2
-        const V t259 = t228 - t229;
-        // real block of 25, multiplier 2
-        const V t260 = c[7] * t259;
-        const V t261 = c[6] * t259;
-        const V t262 = t260 - t257;
-        const V t263 = t261 + t258;
-        // real block of 5, multiplier 2
-        const V t264 = t236 + t237;
-        // real block of 25, multiplier 2
-        const V t265 = c[8] * t264;
-        const V t266 = c[9] * t264;
-        // real block of 5, multiplier 2
-        const V t267 = t238 + t239;
-        // real block of 25, multiplier 2
-        const V t268 = c[9] * t267;
-        const V t269 = c[8] * t267;
-        const V t270 = t265 - t268;
-        const V t271 = t269 + t266;
-        // real block of 5, multiplier 2
-        const V t272 = t242 + x6;
-        // real block of 25, multiplier 2
-        const V t273 = c[10] * t272;
-        const V t274 = c[11] * t272;
-        // real block of 5, multiplier 2
-        const V t275 = t243 - t244;
-        // real block of 25, multiplier 2
-        const V t276 = c[11] * t275;
-        const V t277 = c[10] * t275;
-        const V t278 = t276 - t273;
-        const V t279 = t277 + t274;
-        // real block of 5, multiplier 2
-        const V x5 = io.in(5);
-        const V x45 = io.in(45);
-        const V t280 = x5 + x45;
-        const V t281 = x5 - x45;
-        const V t282 = c[0] * t280;
         const V x35 = io.in(35);
         const V x15 = io.in(15);
-        const V t283 = x35 + x15;
-        const V t284 = x35 - x15;
-        const V t285 = c[0] * t283;
-        const V t286 = c[1] * t283;
-        const V t287 = t283 + t280;
+        const V t264 = x35 + x15;
+        const V t265 = x35 - x15;
+        const V x5 = io.in(5);
+        const V x45 = io.in(45);
+        const V t266 = x5 + x45;
+        const V t267 = x5 - x45;
+        const V t268 = t264 + t266;
         const V x25 = io.in(25);
-        const V t288 = t287 + x25;
-        const V t289 = x25 - t285;
-        const V t290 = c[1] * t280;
-        const V t291 = t289 + t290;
-        const V t292 = c[2] * t284;
-        const V t293 = c[3] * t281;
-        const V t294 = t292 + t293;
-        const V t295 = t286 - t282;
-        const V t296 = t295 + x25;
-        const V t297 = c[3] * t284;
-        const V t298 = c[2] * t281;
+        const V t269 = t268 + x25;
+        const V t270 = c[0] * t264;
+        const V t271 = x25 - t270;
+        const V t272 = c[1] * t266;
+        const V t273 = t271 + t272;
+        const V t274 = c[2] * t265;
+        const V t275 = c[3] * t267;
+        const V t276 = t274 + t275;
+        const V t277 = c[1] * t264;
+        const V t278 = c[0] * t266;
+        const V t279 = t277 - t278;
+        const V t280 = t279 + x25;
+        const V t281 = c[3] * t265;
+        const V t282 = c[2] * t267;
+        const V t283 = t281 - t282;
+        // real block of 5, multiplier 2
+        const V x37 = io.in(37);
+        const V x17 = io.in(17);
+        const V t284 = x37 + x17;
+        const V t285 = x37 - x17;
+        const V x7 = io.in(7);
+        const V x47 = io.in(47);
+        const V t286 = x7 + x47;
+        const V t287 = x7 - x47;
+        const V t288 = t284 + t286;
+        const V x27 = io.in(27);
+        const V t289 = t288 + x27;
+        const V t290 = c[0] * t284;
+        const V t291 = x27 - t290;
+        const V t292 = c[1] * t286;
+        const V t293 = t291 + t292;
+        const V t294 = c[2] * t285;
+        const V t295 = c[3] * t287;
+        const V t296 = t294 + t295;
+        const V t297 = c[1] * t284;
+        const V t298 = c[0] * t286;
         const V t299 = t297 - t298;
+        const V t300 = t299 + x27;
+        const V t301 = c[3] * t285;
+        const V t302 = c[2] * t287;
+        const V t303 = t301 - t302;
         // real block of 5, multiplier 2
-        const V t300 = t115 - t116;
-        const V t301 = c[2] * t300;
-        const V t302 = c[3] * t300;
-        const V t303 = t246 - t245;
-        const V t304 = c[3] * t303;
-        const V t305 = c[2] * t303;
+        const V x39 = io.in(39);
+        const V x19 = io.in(19);
+        const V t304 = x39 + x19;
+        const V t305 = x39 - x19;
+        const V x9 = io.in(9);
+        const V x49 = io.in(49);
+        const V t306 = x9 + x49;
+        const V t307 = x9 - x49;
+        const V t308 = t304 + t306;
+        const V x29 = io.in(29);
+        const V t309 = t308 + x29;
+        const V t310 = c[0] * t304;
+        const V t311 = x29 - t310;
+        const V t312 = c[1] * t306;
+        const V t313 = t311 + t312;
+        const V t314 = c[2] * t305;
+        const V t315 = c[3] * t307;
+        const V t316 = t314 + t315;
+        const V t317 = c[1] * t304;
+        const V t318 = c[0] * t306;
+        const V t319 = t317 - t318;
+        const V t320 = t319 + x29;
+        const V t321 = c[3] * t305;
+        const V t322 = c[2] * t307;
+        const V t323 = t321 - t322;
         // real block of 5, multiplier 2
-        const V t306 = t180 - t181;
-        const V t307 = c[2] * t306;
-        const V t308 = c[3] * t306;
-        const V t309 = t51 - t50;
-        const V t310 = c[3] * t309;
-        const V t311 = c[2] * t309;
+        const V x41 = io.in(41);
+        const V x21 = io.in(21);
+        const V t324 = x41 + x21;
+        const V t325 = x41 - x21;
+        const V x11 = io.in(11);
+        const V x1 = io.in(1);
+        const V t326 = x11 + x1;
+        const V t327 = x11 - x1;
+        const V t328 = t324 + t326;
+        const V x31 = io.in(31);
+        const V t329 = t328 + x31;
+        const V t330 = c[0] * t324;
+        const V t331 = x31 - t330;
+        const V t332 = c[1] * t326;
+        const V t333 = t331 + t332;
+        const V t334 = c[2] * t325;
+        const V t335 = c[3] * t327;
+        const V t336 = t334 + t335;
+        const V t337 = c[1] * t324;
+        const V t338 = c[0] * t326;
+        const V t339 = t337 - t338;
+        const V t340 = t339 + x31;
+        const V t341 = c[3] * t325;
+        const V t342 = c[2] * t327;
+        const V t343 = t341 - t342;
         // real block of 5, multiplier 2
-        const V t312 = t301 + t304;
+        const V x43 = io.in(43);
+        const V x23 = io.in(23);
+        const V t344 = x43 + x23;
+        const V t345 = x43 - x23;
+        const V x13 = io.in(13);
+        const V x3 = io.in(3);
+        const V t346 = x13 + x3;
+        const V t347 = x13 - x3;
+        const V t348 = t344 + t346;
+        const V x33 = io.in(33);
+        const V t349 = t348 + x33;
+        const V t350 = c[0] * t344;
+        const V t351 = x33 - t350;
+        const V t352 = c[1] * t346;
+        const V t353 = t351 + t352;
+        const V t354 = c[2] * t345;
+        const V t355 = c[3] * t347;
+        const V t356 = t354 + t355;
+        const V t357 = c[1] * t344;
+        const V t358 = c[0] * t346;
+        const V t359 = t357 - t358;
+        const V t360 = t359 + x33;
+        const V t361 = c[3] * t345;
+        const V t362 = c[2] * t347;
+        const V t363 = t361 - t362;
         // real block of 5, multiplier 2
-        const V t313 = t307 + t310;
-        // complex block of 2
-        const V t314 = t312 + t313;
-        io.minusIm(10, t314);
-        const V t315 = t313 - t312;
-        io.minusIm(15, t315);
-        // real block of 5, multiplier 2
-        const V t316 = t302 - t305;
-        // real block of 5, multiplier 2
-        const V t317 = t308 - t311;
-        // complex block of 2
-        const V t318 = t316 + t317;
-        io.im(20, t318);
-        const V t319 = t316 - t317;
-        io.minusIm(5, t319);
-        // real block of 5, multiplier 2
-        const V t320 = t117 + t247;
-        const V t321 = t320 + t8;
-        // real block of 5, multiplier 2
-        const V t322 = t182 + t52;
-        const V t323 = t322 + t288;
-        // real block of 2
-        const V t324 = t321 + t323;
-        io.re(0, t324);
-        const V t325 = t321 - t323;
-        io.re(25, t325);
-        // real block of 5, multiplier 2
-        const V t326 = c[0] * t117;
-        const V t327 = t8 - t326;
-        const V t328 = c[1] * t247;
-        // real block of 5, multiplier 2
-        const V t329 = c[0] * t182;
-        const V t330 = t288 - t329;
-        const V t331 = c[1] * t52;
-        // real block of 5, multiplier 2
-        const V t332 = t327 + t328;
-        // real block of 5, multiplier 2
-        const V t333 = t330 + t331;
-        // complex block of 2
-        const V t334 = t332 + t333;
-        io.re(10, t334);
-        const V t335 = t332 - t333;
-        io.re(15, t335);
-        // real block of 5, multiplier 2
-        const V t336 = c[1] * t117;
-        const V t337 = c[0] * t247;
-        const V t338 = t336 - t337;
-        // real block of 5, multiplier 2
-        const V t339 = c[1] * t182;
-        const V t340 = c[0] * t52;
-        const V t341 = t339 - t340;
-        // real block of 5, multiplier 2
-        const V t342 = t338 + t8;
-        // real block of 5, multiplier 2
-        const V t343 = t341 + t288;
-        // complex block of 2
-        const V t344 = t342 + t343;
-        io.re(20, t344);
-        const V t345 = t342 - t343;
-        io.re(5, t345);
+        const V t364 = t289 + t349;
+        const V t365 = t289 - t349;
+        const V t366 = t329 + t309;
+        const V t367 = t329 - t309;
+        const V t368 = t364 + t366;
+        const V t369 = t368 + t269;
+        const V t370 = c[0] * t364;
+        const V t371 = t269 - t370;
+        const V t372 = c[1] * t366;
+        const V t373 = t371 + t372;
+        const V t374 = c[2] * t365;
+        const V t375 = c[3] * t367;
+        const V t376 = t374 + t375;
+        const V t377 = c[1] * t364;
+        const V t378 = c[0] * t366;
+        const V t379 = t377 - t378;
+        const V t380 = t379 + t269;
+        const V t381 = c[3] * t365;
+        const V t382 = c[2] * t367;
+        const V t383 = t381 - t382;
+        // real block of 25, multiplier 2
+        const V t384 = c[8] * t296;
+        const V t385 = c[9] * t293;
+        const V t386 = t385 - t384;
+        const V t387 = c[8] * t293;
+        const V t388 = c[9] * t296;
+        const V t389 = t388 + t387;
+        const V t390 = c[4] * t316;
+        const V t391 = c[5] * t313;
+        const V t392 = t391 - t390;
+        const V t393 = c[4] * t313;
+        const V t394 = c[5] * t316;
+        const V t395 = t394 + t393;
+        const V t396 = c[10] * t336;
+        const V t397 = c[11] * t333;
+        const V t398 = t397 - t396;
+        const V t399 = c[10] * t333;
+        const V t400 = c[11] * t336;
+        const V t401 = t400 + t399;
+        const V t402 = c[6] * t356;
+        const V t403 = c[7] * t353;
+        const V t404 = t403 + t402;
+        const V t405 = c[6] * t353;
+        const V t406 = c[7] * t356;
+        const V t407 = t406 - t405;
         // complex block of 5, multiplier 2
-        const V t346 = t124 - t140;
-        const V t347 = c[1] * t346;
-        const V t348 = c[0] * t346;
-        const V t349 = t270 + t254;
-        const V t350 = c[0] * t349;
-        const V t351 = t346 + t349;
-        const V t352 = t347 - t350;
-        const V t353 = t11 - t348;
-        const V t354 = c[1] * t349;
-        const V t355 = t125 + t141;
-        const V t356 = c[3] * t355;
-        const V t357 = c[2] * t355;
-        const V t358 = t255 - t271;
-        const V t359 = c[2] * t358;
-        const V t360 = c[3] * t358;
-        const V t361 = t356 + t359;
-        const V t362 = t360 - t357;
+        const V t408 = t386 - t404;
+        const V t409 = t407 - t389;
+        const V t410 = t386 + t404;
+        const V t411 = t389 + t407;
+        const V t412 = t398 + t392;
+        const V t413 = t401 + t395;
+        const V t414 = t398 - t392;
+        const V t415 = t395 - t401;
+        const V t416 = t408 + t412;
+        const V t417 = t409 - t413;
+        const V t418 = t416 + t273;
+        const V t419 = t417 - t276;
+        const V t420 = c[1] * t408;
+        const V t421 = c[0] * t412;
+        const V t422 = t420 - t421;
+        const V t423 = t422 + t273;
+        const V t424 = c[1] * t409;
+        const V t425 = c[0] * t413;
+        const V t426 = t424 + t425;
+        const V t427 = t426 - t276;
+        const V t428 = c[3] * t410;
+        const V t429 = c[2] * t414;
+        const V t430 = t428 - t429;
+        const V t431 = c[3] * t411;
+        const V t432 = c[2] * t415;
+        const V t433 = t431 + t432;
+        const V t434 = t423 - t433;
+        const V t435 = t427 - t430;
+        const V t436 = t423 + t433;
+        const V t437 = t427 + t430;
+        const V t438 = c[0] * t408;
+        const V t439 = t273 - t438;
+        const V t440 = c[1] * t412;
+        const V t441 = t439 + t440;
+        const V t442 = c[0] * t409;
+        const V t443 = t276 + t442;
+        const V t444 = c[1] * t413;
+        const V t445 = t443 + t444;
+        const V t446 = c[2] * t410;
+        const V t447 = c[3] * t414;
+        const V t448 = t446 + t447;
+        const V t449 = c[2] * t411;
+        const V t450 = c[3] * t415;
+        const V t451 = t450 - t449;
+        const V t452 = t441 + t451;
+        const V t453 = t445 + t448;
+        const V t454 = t441 - t451;
+        const V t455 = t448 - t445;
+        // real block of 25, multiplier 2
+        const V t456 = c[4] * t303;
+        const V t457 = c[5] * t300;
+        const V t458 = t457 + t456;
+        const V t459 = c[4] * t300;
+        const V t460 = c[5] * t303;
+        const V t461 = t460 - t459;
+        const V t462 = c[6] * t323;
+        const V t463 = c[7] * t320;
+        const V t464 = t462 - t463;
+        const V t465 = c[6] * t320;
+        const V t466 = c[7] * t323;
+        const V t467 = t466 + t465;
+        const V t468 = c[12] * t343;
+        const V t469 = c[13] * t340;
+        const V t470 = t468 - t469;
+        const V t471 = c[12] * t340;
+        const V t472 = c[13] * t343;
+        const V t473 = t472 + t471;
+        const V t474 = c[14] * t363;
+        const V t475 = c[15] * t360;
+        const V t476 = t475 + t474;
+        const V t477 = c[14] * t360;
+        const V t478 = c[15] * t363;
+        const V t479 = t477 - t478;
         // complex block of 5, multiplier 2
-        const V t363 = t189 - t205;
-        const V t364 = c[1] * t363;
-        const V t365 = c[0] * t363;
-        const V t366 = t75 + t59;
-        const V t367 = c[0] * t366;
-        const V t368 = t363 + t366;
-        const V t369 = t364 - t367;
-        const V t370 = t291 - t365;
-        const V t371 = c[1] * t366;
-        const V t372 = t190 + t206;
-        const V t373 = c[3] * t372;
-        const V t374 = c[2] * t372;
-        const V t375 = t60 - t76;
-        const V t376 = c[2] * t375;
-        const V t377 = c[3] * t375;
-        const V t378 = t373 + t376;
-        const V t379 = t377 - t374;
-        // complex block of 5, multiplier 2
-        const V t380 = t351 + t11;
-        // complex block of 5, multiplier 2
-        const V t381 = t368 + t291;
-        // complex block of 2
-        const V t382 = t380 + t381;
-        io.re(2, t382);
-        const V t383 = t380 - t381;
-        io.re(23, t383);
-        // complex block of 5, multiplier 2
-        const V t384 = t352 + t11;
-        const V t385 = t384 - t361;
-        const V t386 = t384 + t361;
-        // complex block of 5, multiplier 2
-        const V t387 = t369 + t291;
-        const V t388 = t387 - t378;
-        const V t389 = t387 + t378;
-        // complex block of 2
-        const V t390 = t385 + t388;
-        io.re(18, t390);
-        const V t391 = t385 - t388;
-        io.re(7, t391);
-        // complex block of 2
-        const V t392 = t386 + t389;
-        io.re(22, t392);
-        const V t393 = t386 - t389;
-        io.re(3, t393);
-        // complex block of 5, multiplier 2
-        const V t394 = t353 + t354;
-        const V t395 = t394 + t362;
-        const V t396 = t394 - t362;
-        // complex block of 5, multiplier 2
-        const V t397 = t370 + t371;
-        const V t398 = t397 + t379;
-        const V t399 = t397 - t379;
-        // complex block of 2
-        const V t400 = t396 + t399;
-        io.re(8, t400);
-        const V t401 = t396 - t399;
-        io.re(17, t401);
-        // complex block of 2
-        const V t402 = t395 + t398;
-        io.re(12, t402);
-        const V t403 = t395 - t398;
-        io.re(13, t403);
-        // complex block of 5, multiplier 2
-        const V t404 = t141 - t125;
-        const V t405 = c[1] * t404;
-        const V t406 = c[0] * t404;
-        const V t407 = t271 + t255;
-        const V t408 = c[0] * t407;
-        const V t409 = t404 - t407;
-        const V t410 = t405 + t408;
-        const V t411 = t14 + t406;
-        const V t412 = c[1] * t407;
-        const V t413 = t124 + t140;
-        const V t414 = c[3] * t413;
-        const V t415 = c[2] * t413;
-        const V t416 = t270 - t254;
-        const V t417 = c[2] * t416;
-        const V t418 = c[3] * t416;
-        const V t419 = t414 - t417;
-        const V t420 = t415 + t418;
-        // complex block of 5, multiplier 2
-        const V t421 = t206 - t190;
-        const V t422 = c[1] * t421;
-        const V t423 = c[0] * t421;
-        const V t424 = t76 + t60;
-        const V t425 = c[0] * t424;
-        const V t426 = t421 - t424;
-        const V t427 = t422 + t425;
-        const V t428 = t294 + t423;
-        const V t429 = c[1] * t424;
-        const V t430 = t189 + t205;
-        const V t431 = c[3] * t430;
-        const V t432 = c[2] * t430;
-        const V t433 = t75 - t59;
-        const V t434 = c[2] * t433;
-        const V t435 = c[3] * t433;
-        const V t436 = t431 - t434;
-        const V t437 = t432 + t435;
-        // complex block of 5, multiplier 2
-        const V t438 = t409 - t14;
-        // complex block of 5, multiplier 2
-        const V t439 = t426 - t294;
-        // complex block of 2
-        const V t440 = t438 + t439;
-        io.im(2, t440);
-        const V t441 = t438 - t439;
-        io.minusIm(23, t441);
-        // complex block of 5, multiplier 2
-        const V t442 = t410 - t14;
-        const V t443 = t442 - t419;
-        const V t444 = t442 + t419;
-        // complex block of 5, multiplier 2
-        const V t445 = t427 - t294;
-        const V t446 = t445 - t436;
-        const V t447 = t445 + t436;
-        // complex block of 2
-        const V t448 = t443 + t446;
-        io.minusIm(18, t448);
-        const V t449 = t446 - t443;
-        io.minusIm(7, t449);
-        // complex block of 2
-        const V t450 = t444 + t447;
-        io.im(22, t450);
-        const V t451 = t444 - t447;
-        io.minusIm(3, t451);
-        // complex block of 5, multiplier 2
-        const V t452 = t411 + t412;
-        const V t453 = t452 + t420;
-        const V t454 = t420 - t452;
-        // complex block of 5, multiplier 2
-        const V t455 = t428 + t429;
-        const V t456 = t455 + t437;
-        const V t457 = t437 - t455;
-        // complex block of 2
-        const V t458 = t454 + t457;
-        io.minusIm(8, t458);
-        const V t459 = t457 - t454;
-        io.minusIm(17, t459);
-        // complex block of 2
-        const V t460 = t453 + t456;
-        io.minusIm(12, t460);
-        const V t461 = t456 - t453;
-        io.minusIm(13, t461);
-        // complex block of 5, multiplier 2
-        const V t462 = t132 - t148;
-        const V t463 = c[1] * t462;
-        const V t464 = c[0] * t462;
-        const V t465 = t278 + t262;
-        const V t466 = c[0] * t465;
-        const V t467 = t462 + t465;
-        const V t468 = t463 - t466;
-        const V t469 = t16 - t464;
-        const V t470 = c[1] * t465;
-        const V t471 = t133 - t149;
-        const V t472 = c[3] * t471;
-        const V t473 = c[2] * t471;
-        const V t474 = t263 - t279;
-        const V t475 = c[2] * t474;
-        const V t476 = c[3] * t474;
-        const V t477 = t472 - t475;
-        const V t478 = t473 + t476;
-        // complex block of 5, multiplier 2
-        const V t479 = t197 - t213;
-        const V t480 = c[1] * t479;
-        const V t481 = c[0] * t479;
-        const V t482 = t83 + t67;
-        const V t483 = c[0] * t482;
-        const V t484 = t479 + t482;
-        const V t485 = t480 - t483;
-        const V t486 = t296 - t481;
-        const V t487 = c[1] * t482;
-        const V t488 = t198 - t214;
-        const V t489 = c[3] * t488;
-        const V t490 = c[2] * t488;
-        const V t491 = t68 - t84;
-        const V t492 = c[2] * t491;
-        const V t493 = c[3] * t491;
-        const V t494 = t489 - t492;
-        const V t495 = t490 + t493;
-        // complex block of 5, multiplier 2
-        const V t496 = t467 + t16;
-        // complex block of 5, multiplier 2
-        const V t497 = t484 + t296;
-        // complex block of 2
+        const V t480 = t458 - t476;
+        const V t481 = t461 + t479;
+        const V t482 = t458 + t476;
+        const V t483 = t461 - t479;
+        const V t484 = t470 + t464;
+        const V t485 = t473 + t467;
+        const V t486 = t470 - t464;
+        const V t487 = t467 - t473;
+        const V t488 = t480 + t484;
+        const V t489 = t481 - t485;
+        const V t490 = t488 + t280;
+        const V t491 = t489 + t283;
+        const V t492 = c[1] * t480;
+        const V t493 = c[0] * t484;
+        const V t494 = t492 - t493;
+        const V t495 = t494 + t280;
+        const V t496 = c[1] * t481;
+        const V t497 = c[0] * t485;
         const V t498 = t496 + t497;
-        io.re(4, t498);
-        const V t499 = t496 - t497;
-        io.re(21, t499);
-        // complex block of 5, multiplier 2
-        const V t500 = t468 + t16;
-        const V t501 = t500 + t477;
-        const V t502 = t500 - t477;
-        // complex block of 5, multiplier 2
-        const V t503 = t485 + t296;
-        const V t504 = t503 + t494;
-        const V t505 = t503 - t494;
+        const V t499 = t498 + t283;
+        const V t500 = c[3] * t482;
+        const V t501 = c[2] * t486;
+        const V t502 = t500 - t501;
+        const V t503 = c[3] * t483;
+        const V t504 = c[2] * t487;
+        const V t505 = t503 - t504;
+        const V t506 = t495 + t505;
+        const V t507 = t499 - t502;
+        const V t508 = t495 - t505;
+        const V t509 = t499 + t502;
+        const V t510 = c[0] * t480;
+        const V t511 = t280 - t510;
+        const V t512 = c[1] * t484;
+        const V t513 = t511 + t512;
+        const V t514 = c[0] * t481;
+        const V t515 = t283 - t514;
+        const V t516 = c[1] * t485;
+        const V t517 = t515 - t516;
+        const V t518 = c[2] * t482;
+        const V t519 = c[3] * t486;
+        const V t520 = t518 + t519;
+        const V t521 = c[2] * t483;
+        const V t522 = c[3] * t487;
+        const V t523 = t521 + t522;
+        const V t524 = t513 + t523;
+        const V t525 = t517 - t520;
+        const V t526 = t513 - t523;
+        const V t527 = t517 + t520;
+        // real block of 2
+        const V t528 = t105 + t369;
+        io.re(0, t528);
+        const V t529 = t105 - t369;
+        io.re(25, t529);
         // complex block of 2
-        const V t506 = t501 + t504;
-        io.re(16, t506);
-        const V t507 = t501 - t504;
-        io.re(9, t507);
+        const V t530 = t154 + t418;
+        io.re(2, t530);
+        const V t531 = t155 + t419;
+        io.im(2, t531);
+        const V t532 = t154 - t418;
+        io.re(23, t532);
+        const V t533 = t155 - t419;
+        io.minusIm(23, t533);
         // complex block of 2
-        const V t508 = t502 + t505;
-        io.re(24, t508);
-        const V t509 = t502 - t505;
-        io.re(1, t509);
-        // complex block of 5, multiplier 2
-        const V t510 = t469 + t470;
-        const V t511 = t510 + t478;
-        const V t512 = t510 - t478;
-        // complex block of 5, multiplier 2
-        const V t513 = t486 + t487;
-        const V t514 = t513 + t495;
-        const V t515 = t513 - t495;
+        const V t534 = t226 + t490;
+        io.re(4, t534);
+        const V t535 = t227 + t491;
+        io.im(4, t535);
+        const V t536 = t226 - t490;
+        io.re(21, t536);
+        const V t537 = t227 - t491;
+        io.minusIm(21, t537);
         // complex block of 2
-        const V t516 = t512 + t515;
-        io.re(6, t516);
-        const V t517 = t512 - t515;
-        io.re(19, t517);
+        const V t538 = t262 + t526;
+        io.re(6, t538);
+        const V t539 = t263 + t527;
+        io.minusIm(6, t539);
+        const V t540 = t262 - t526;
+        io.re(19, t540);
+        const V t541 = t527 - t263;
+        io.minusIm(19, t541);
         // complex block of 2
-        const V t518 = t511 + t514;
-        io.re(14, t518);
-        const V t519 = t511 - t514;
-        io.re(11, t519);
-        // complex block of 5, multiplier 2
-        const V t520 = t133 + t149;
-        const V t521 = c[1] * t520;
-        const V t522 = c[0] * t520;
-        const V t523 = t279 + t263;
-        const V t524 = c[0] * t523;
-        const V t525 = t520 - t523;
-        const V t526 = t521 + t524;
-        const V t527 = t19 - t522;
-        const V t528 = c[1] * t523;
-        const V t529 = t132 + t148;
-        const V t530 = c[3] * t529;
-        const V t531 = c[2] * t529;
-        const V t532 = t278 - t262;
-        const V t533 = c[2] * t532;
-        const V t534 = c[3] * t532;
-        const V t535 = t530 - t533;
-        const V t536 = t531 + t534;
-        // complex block of 5, multiplier 2
-        const V t537 = t198 + t214;
-        const V t538 = c[1] * t537;
-        const V t539 = c[0] * t537;
-        const V t540 = t84 + t68;
-        const V t541 = c[0] * t540;
-        const V t542 = t537 - t540;
-        const V t543 = t538 + t541;
-        const V t544 = t299 - t539;
-        const V t545 = c[1] * t540;
-        const V t546 = t197 + t213;
-        const V t547 = c[3] * t546;
-        const V t548 = c[2] * t546;
-        const V t549 = t83 - t67;
-        const V t550 = c[2] * t549;
-        const V t551 = c[3] * t549;
-        const V t552 = t547 - t550;
-        const V t553 = t548 + t551;
-        // complex block of 5, multiplier 2
-        const V t554 = t525 + t19;
-        // complex block of 5, multiplier 2
-        const V t555 = t542 + t299;
+        const V t542 = t190 + t454;
+        io.re(8, t542);
+        const V t543 = t191 + t455;
+        io.minusIm(8, t543);
+        const V t544 = t190 - t454;
+        io.re(17, t544);
+        const V t545 = t455 - t191;
+        io.minusIm(17, t545);
         // complex block of 2
-        const V t556 = t554 + t555;
-        io.im(4, t556);
-        const V t557 = t554 - t555;
-        io.minusIm(21, t557);
-        // complex block of 5, multiplier 2
-        const V t558 = t526 + t19;
-        const V t559 = t558 - t535;
-        const V t560 = t558 + t535;
-        // complex block of 5, multiplier 2
-        const V t561 = t543 + t299;
-        const V t562 = t561 - t552;
-        const V t563 = t561 + t552;
+        const V t546 = t109 + t373;
+        io.re(10, t546);
+        const V t547 = t112 + t376;
+        io.minusIm(10, t547);
+        const V t548 = t109 - t373;
+        io.re(15, t548);
+        const V t549 = t376 - t112;
+        io.minusIm(15, t549);
         // complex block of 2
-        const V t564 = t559 + t562;
-        io.minusIm(16, t564);
-        const V t565 = t562 - t559;
-        io.minusIm(9, t565);
+        const V t550 = t188 + t452;
+        io.re(12, t550);
+        const V t551 = t189 + t453;
+        io.minusIm(12, t551);
+        const V t552 = t188 - t452;
+        io.re(13, t552);
+        const V t553 = t453 - t189;
+        io.minusIm(13, t553);
         // complex block of 2
-        const V t566 = t560 + t563;
-        io.im(24, t566);
-        const V t567 = t560 - t563;
-        io.minusIm(1, t567);
-        // complex block of 5, multiplier 2
-        const V t568 = t527 - t528;
-        const V t569 = t568 - t536;
-        const V t570 = t568 + t536;
-        // complex block of 5, multiplier 2
-        const V t571 = t544 - t545;
-        const V t572 = t571 - t553;
-        const V t573 = t571 + t553;
+        const V t554 = t260 + t524;
+        io.re(14, t554);
+        const V t555 = t261 + t525;
+        io.im(14, t555);
+        const V t556 = t260 - t524;
+        io.re(11, t556);
+        const V t557 = t261 - t525;
+        io.minusIm(11, t557);
         // complex block of 2
-        const V t574 = t570 + t573;
-        io.minusIm(6, t574);
-        const V t575 = t573 - t570;
-        io.minusIm(19, t575);
+        const V t558 = t242 + t506;
+        io.re(16, t558);
+        const V t559 = t243 + t507;
+        io.minusIm(16, t559);
+        const V t560 = t242 - t506;
+        io.re(9, t560);
+        const V t561 = t507 - t243;
+        io.minusIm(9, t561);
         // complex block of 2
-        const V t576 = t569 + t572;
-        io.im(14, t576);
-        const V t577 = t569 - t572;
-        io.minusIm(11, t577);
+        const V t562 = t170 + t434;
+        io.re(18, t562);
+        const V t563 = t171 + t435;
+        io.minusIm(18, t563);
+        const V t564 = t170 - t434;
+        io.re(7, t564);
+        const V t565 = t435 - t171;
+        io.minusIm(7, t565);
+        // complex block of 2
+        const V t566 = t116 + t380;
+        io.re(20, t566);
+        const V t567 = t119 + t383;
+        io.im(20, t567);
+        const V t568 = t116 - t380;
+        io.re(5, t568);
+        const V t569 = t119 - t383;
+        io.minusIm(5, t569);
+        // complex block of 2
+        const V t570 = t172 + t436;
+        io.re(22, t570);
+        const V t571 = t173 + t437;
+        io.im(22, t571);
+        const V t572 = t172 - t436;
+        io.re(3, t572);
+        const V t573 = t173 - t437;
+        io.minusIm(3, t573);
+        // complex block of 2
+        const V t574 = t244 + t508;
+        io.re(24, t574);
+        const V t575 = t245 + t509;
+        io.im(24, t575);
+        const V t576 = t244 - t508;
+        io.re(1, t576);
+        const V t577 = t245 - t509;
+        io.minusIm(1, t577);
     }
 };
 

@@ -16,25 +16,25 @@ struct RealInverseGraph<4> {
     ZULG_INLINE static void run(const Ports& io) {
         using V = typename Ports::Value;
         const V two = Ports::two();
-        // doubled bins
-        const V x1r = io.re(1);
-        const V t0 = two * x1r;
-        const V x1i = io.im(1);
-        const V t1 = two * x1i;
         // spectrum block of 2
         const V x0r = io.re(0);
         const V x2r = io.re(2);
-        const V t2 = x0r + x2r;
-        const V t3 = x0r - x2r;
+        const V t0 = x0r + x2r;
+        const V t1 = x0r - x2r;
+        // doubled bins
+        const V x1r = io.re(1);
+        const V t2 = two * x1r;
+        const V x1i = io.im(1);
+        const V t3 = two * x1i;
         // spectrum block of 2
-        const V t4 = t2 + t0;
+        const V t4 = t0 + t2;
         io.out(0, t4);
-        const V t5 = t2 - t0;
+        const V t5 = t0 - t2;
         io.out(2, t5);
         // spectrum block of 2
-        const V t6 = t3 - t1;
+        const V t6 = t1 - t3;
         io.out(1, t6);
-        const V t7 = t3 + t1;
+        const V t7 = t1 + t3;
         io.out(3, t7);
     }
 };

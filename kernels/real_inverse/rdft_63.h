@@ -1,6 +1,6 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, real_inverse, 63.
 // Inverse DFT to 63 real points, prime-factor 9, 7.
-// 244 additions, 244 subtractions, 361 multiplications (424 with `scale`); 20 constants; 99 values alive at most.
+// 244 additions, 244 subtractions, 361 multiplications (424 with `scale`); 20 constants; 66 values alive at most.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -39,1194 +39,1020 @@ struct RealInverseGraph<63> {
         const ConstantsOf<Ports, RealInverseGraph> c{};
         const V two = Ports::two();
         // doubled bins
-        const V x7r = io.re(7);
-        const V t0 = two * x7r;
-        const V x7i = io.im(7);
-        const V t1 = two * x7i;
-        const V x14r = io.re(14);
-        const V t2 = two * x14r;
-        const V x28r = io.re(28);
-        const V t3 = two * x28r;
-        // complex block of 3
-        const V t4 = t3 + t2;
-        const V t5 = c[0] * t4;
-        const V t6 = t3 - t2;
-        const V t7 = c[1] * t6;
-        // doubled bins
-        const V x14i = io.im(14);
-        const V t8 = two * x14i;
-        const V x28i = io.im(28);
-        const V t9 = two * x28i;
-        // complex block of 3
-        const V t10 = t9 - t8;
-        const V t11 = c[0] * t10;
-        const V t12 = t9 + t8;
-        const V t13 = c[1] * t12;
-        // doubled bins
-        const V x21r = io.re(21);
-        const V t14 = two * x21r;
-        // spectrum block of 3
-        const V t15 = c[0] * t14;
-        const V x21i = io.im(21);
-        const V t16 = c[14] * x21i;
-        const V x0r = io.re(0);
-        const V t17 = t14 + x0r;
-        // complex block of 3
-        const V t18 = t4 + t0;
-        // spectrum block of 3
-        const V t19 = c[0] * t18;
-        const V t20 = t18 + t17;
-        const V t21 = t17 - t19;
-        // spectrum block of 3
-        const V t22 = x0r - t15;
-        const V t23 = t22 - t16;
-        const V t24 = t22 + t16;
-        // complex block of 3
-        const V t25 = t10 + t1;
-        // spectrum block of 3
-        const V t26 = c[1] * t25;
-        // complex block of 3
-        const V t27 = t1 - t11;
-        const V t28 = t27 + t7;
-        const V t29 = t27 - t7;
-        const V t30 = t0 - t5;
-        const V t31 = t30 - t13;
-        const V t32 = t30 + t13;
-        // spectrum block of 9, multiplier 7
-        const V t33 = c[10] * t28;
-        const V t34 = c[11] * t31;
-        const V t35 = t34 + t33;
-        const V t36 = c[8] * t29;
-        const V t37 = c[9] * t32;
-        const V t38 = t36 - t37;
-        // spectrum block of 3
-        const V t39 = c[15] * t28;
-        const V t40 = c[16] * t31;
-        // spectrum block of 3
-        const V t41 = c[17] * t29;
-        const V t42 = c[18] * t32;
-        // doubled bins
         const V x1r = io.re(1);
-        const V t43 = two * x1r;
-        const V x20r = io.re(20);
-        const V t44 = two * x20r;
-        // complex block of 3
-        const V t45 = t43 + t44;
-        const V t46 = c[0] * t45;
-        const V t47 = t43 - t44;
-        const V t48 = c[1] * t47;
-        // doubled bins
+        const V t0 = two * x1r;
         const V x1i = io.im(1);
-        const V t49 = two * x1i;
-        const V x20i = io.im(20);
-        const V t50 = two * x20i;
-        // complex block of 3
-        const V t51 = t50 - t49;
-        const V t52 = c[0] * t51;
-        const V t53 = t49 + t50;
-        const V t54 = c[1] * t53;
-        // doubled bins
-        const V x8r = io.re(8);
-        const V t55 = two * x8r;
-        const V x13r = io.re(13);
-        const V t56 = two * x13r;
-        // complex block of 3
-        const V t57 = t55 + t56;
-        const V t58 = c[0] * t57;
-        const V t59 = t55 - t56;
-        const V t60 = c[1] * t59;
-        // doubled bins
-        const V x8i = io.im(8);
-        const V t61 = two * x8i;
-        const V x13i = io.im(13);
-        const V t62 = two * x13i;
-        // complex block of 3
-        const V t63 = t62 - t61;
-        const V t64 = c[0] * t63;
-        const V t65 = t61 + t62;
-        const V t66 = c[1] * t65;
-        // doubled bins
-        const V x22r = io.re(22);
-        const V t67 = two * x22r;
-        const V x22i = io.im(22);
-        const V t68 = two * x22i;
-        const V x29r = io.re(29);
-        const V t69 = two * x29r;
-        const V x29i = io.im(29);
-        const V t70 = two * x29i;
-        // complex block of 3
-        const V t71 = t63 - t70;
-        // complex block of 3
-        const V t72 = t51 - t68;
-        // complex block of 3
-        const V t73 = t71 + t72;
-        const V t74 = t71 - t72;
-        const V t75 = c[0] * t73;
-        const V t76 = c[1] * t74;
-        // complex block of 3
-        const V t77 = t57 + t69;
-        // complex block of 3
-        const V t78 = t45 + t67;
-        // complex block of 3
-        const V t79 = t77 + t78;
-        const V t80 = t77 - t78;
-        const V t81 = c[0] * t79;
-        // complex block of 3
-        const V t82 = t70 + t64;
-        const V t83 = t60 - t82;
-        const V t84 = t82 + t60;
-        const V t85 = t69 - t58;
-        const V t86 = t85 + t66;
-        const V t87 = t85 - t66;
-        // complex block of 9, multiplier 7
-        const V t88 = c[10] * t86;
-        const V t89 = c[11] * t83;
-        const V t90 = t89 - t88;
-        const V t91 = c[10] * t83;
-        const V t92 = c[11] * t86;
-        const V t93 = t92 + t91;
-        const V t94 = c[8] * t87;
-        const V t95 = c[9] * t84;
-        const V t96 = t95 - t94;
-        const V t97 = c[8] * t84;
-        const V t98 = c[9] * t87;
-        const V t99 = t98 + t97;
-        // complex block of 3
-        const V t100 = t68 + t52;
-        const V t101 = t48 - t100;
-        const V t102 = t100 + t48;
-        const V t103 = t67 - t46;
-        const V t104 = t103 + t54;
-        const V t105 = t103 - t54;
-        // complex block of 9, multiplier 7
-        const V t106 = c[8] * t104;
-        const V t107 = c[9] * t101;
-        const V t108 = t107 + t106;
-        const V t109 = c[8] * t101;
-        const V t110 = c[9] * t104;
-        const V t111 = t109 - t110;
-        const V t112 = c[12] * t105;
-        const V t113 = c[13] * t102;
-        const V t114 = t112 - t113;
-        const V t115 = c[12] * t102;
-        const V t116 = c[13] * t105;
-        const V t117 = t116 + t115;
-        // doubled bins
+        const V t1 = two * x1i;
         const V x2r = io.re(2);
-        const V t118 = two * x2r;
-        const V x19r = io.re(19);
-        const V t119 = two * x19r;
-        // complex block of 3
-        const V t120 = t119 + t118;
-        // doubled bins
-        const V x23r = io.re(23);
-        const V t121 = two * x23r;
-        // complex block of 3
-        const V t122 = t119 - t118;
-        const V t123 = c[1] * t122;
-        const V t124 = t120 + t121;
-        const V t125 = c[0] * t120;
-        const V t126 = t121 - t125;
-        // doubled bins
+        const V t2 = two * x2r;
         const V x2i = io.im(2);
-        const V t127 = two * x2i;
-        const V x19i = io.im(19);
-        const V t128 = two * x19i;
-        // complex block of 3
-        const V t129 = t127 - t128;
-        // doubled bins
-        const V x23i = io.im(23);
-        const V t130 = two * x23i;
-        // complex block of 3
-        const V t131 = t128 + t127;
-        const V t132 = c[1] * t131;
-        const V t133 = c[0] * t129;
-        const V t134 = t130 - t133;
-        // doubled bins
-        const V x5r = io.re(5);
-        const V t135 = two * x5r;
-        const V x26r = io.re(26);
-        const V t136 = two * x26r;
-        // complex block of 3
-        const V t137 = t136 + t135;
-        // doubled bins
-        const V x16r = io.re(16);
-        const V t138 = two * x16r;
-        // complex block of 3
-        const V t139 = t136 - t135;
-        const V t140 = c[1] * t139;
-        const V t141 = t137 + t138;
-        const V t142 = c[0] * t137;
-        const V t143 = t138 - t142;
-        // doubled bins
-        const V x5i = io.im(5);
-        const V t144 = two * x5i;
-        const V x26i = io.im(26);
-        const V t145 = two * x26i;
-        // complex block of 3
-        const V t146 = t145 + t144;
-        // doubled bins
-        const V x16i = io.im(16);
-        const V t147 = two * x16i;
-        // complex block of 3
-        const V t148 = t144 - t145;
-        const V t149 = c[1] * t148;
-        const V t150 = c[0] * t146;
-        const V t151 = t150 + t147;
-        // doubled bins
-        const V x9r = io.re(9);
-        const V t152 = two * x9r;
-        const V x9i = io.im(9);
-        const V t153 = two * x9i;
-        const V x12r = io.re(12);
-        const V t154 = two * x12r;
-        const V x30r = io.re(30);
-        const V t155 = two * x30r;
-        // complex block of 3
-        const V t156 = t155 + t154;
-        const V t157 = t155 - t154;
-        // doubled bins
-        const V x12i = io.im(12);
-        const V t158 = two * x12i;
-        const V x30i = io.im(30);
-        const V t159 = two * x30i;
-        // complex block of 3
-        const V t160 = t159 - t158;
-        const V t161 = t159 + t158;
-        const V t162 = t160 + t153;
-        const V t163 = t156 + t152;
-        // complex block of 3
-        const V t164 = t141 + t124;
-        const V t165 = c[0] * t164;
-        const V t166 = t164 + t163;
-        const V t167 = t163 - t165;
-        // complex block of 3
-        const V t168 = c[0] * t160;
-        const V t169 = t153 - t168;
-        const V t170 = c[1] * t157;
-        const V t171 = t169 + t170;
-        const V t172 = t169 - t170;
-        const V t173 = c[0] * t156;
-        const V t174 = t152 - t173;
-        const V t175 = c[1] * t161;
-        const V t176 = t174 - t175;
-        const V t177 = t174 + t175;
-        // complex block of 3
-        const V t178 = t147 - t146;
-        // complex block of 3
-        const V t179 = t129 + t130;
-        // complex block of 3
-        const V t180 = t178 + t179;
-        const V t181 = t178 - t179;
-        const V t182 = c[0] * t180;
-        const V t183 = c[1] * t181;
-        // complex block of 3
-        const V t184 = t151 + t140;
-        // complex block of 9, multiplier 7
-        const V t185 = c[11] * t184;
-        const V t186 = c[10] * t184;
-        // complex block of 3
-        const V t187 = t143 - t149;
-        // complex block of 9, multiplier 7
-        const V t188 = c[10] * t187;
-        const V t189 = c[11] * t187;
-        // complex block of 3
-        const V t190 = t134 + t123;
-        // complex block of 9, multiplier 7
-        const V t191 = c[9] * t190;
-        const V t192 = c[8] * t190;
-        // complex block of 3
-        const V t193 = t126 + t132;
-        // complex block of 9, multiplier 7
-        const V t194 = c[8] * t193;
-        const V t195 = c[9] * t193;
-        const V t196 = t185 - t188;
-        const V t197 = t189 + t186;
-        const V t198 = t192 - t195;
-        // complex block of 3
-        const V t199 = t197 + t198;
-        // complex block of 9, multiplier 7
-        const V t200 = t191 + t194;
-        // complex block of 3
-        const V t201 = t151 - t140;
-        // complex block of 9, multiplier 7
-        const V t202 = c[9] * t201;
-        const V t203 = c[8] * t201;
-        // complex block of 3
-        const V t204 = t143 + t149;
-        // complex block of 9, multiplier 7
-        const V t205 = c[8] * t204;
-        const V t206 = c[9] * t204;
-        // complex block of 3
-        const V t207 = t134 - t123;
-        // complex block of 9, multiplier 7
-        const V t208 = c[13] * t207;
-        const V t209 = c[12] * t207;
-        // complex block of 3
-        const V t210 = t126 - t132;
-        // complex block of 9, multiplier 7
-        const V t211 = c[12] * t210;
-        const V t212 = c[13] * t210;
-        const V t213 = t202 + t205;
-        const V t214 = t203 - t206;
-        const V t215 = t212 - t209;
-        // complex block of 3
-        const V t216 = t214 + t215;
-        // complex block of 9, multiplier 7
-        const V t217 = t208 + t211;
-        // complex block of 3
-        const V t218 = t141 - t124;
-        const V t219 = c[1] * t218;
-        // doubled bins
+        const V t3 = two * x2i;
         const V x3r = io.re(3);
-        const V t220 = two * x3r;
-        const V x24r = io.re(24);
-        const V t221 = two * x24r;
-        // complex block of 3
-        const V t222 = t221 + t220;
-        const V t223 = t221 - t220;
-        // doubled bins
+        const V t4 = two * x3r;
         const V x3i = io.im(3);
-        const V t224 = two * x3i;
-        const V x24i = io.im(24);
-        const V t225 = two * x24i;
-        // complex block of 3
-        const V t226 = t225 + t224;
-        const V t227 = t224 - t225;
-        // doubled bins
+        const V t5 = two * x3i;
         const V x4r = io.re(4);
-        const V t228 = two * x4r;
-        const V x17r = io.re(17);
-        const V t229 = two * x17r;
-        // complex block of 3
-        const V t230 = t229 + t228;
-        // doubled bins
-        const V x25r = io.re(25);
-        const V t231 = two * x25r;
-        // complex block of 3
-        const V t232 = t229 - t228;
-        const V t233 = c[1] * t232;
-        const V t234 = t230 + t231;
-        const V t235 = c[0] * t230;
-        const V t236 = t231 - t235;
-        // doubled bins
+        const V t6 = two * x4r;
         const V x4i = io.im(4);
-        const V t237 = two * x4i;
-        const V x17i = io.im(17);
-        const V t238 = two * x17i;
-        // complex block of 3
-        const V t239 = t237 - t238;
-        // doubled bins
-        const V x25i = io.im(25);
-        const V t240 = two * x25i;
-        // complex block of 3
-        const V t241 = t238 + t237;
-        const V t242 = c[1] * t241;
-        const V t243 = c[0] * t239;
-        const V t244 = t240 - t243;
-        // doubled bins
-        const V x10r = io.re(10);
-        const V t245 = two * x10r;
-        const V x11r = io.re(11);
-        const V t246 = two * x11r;
-        // complex block of 3
-        const V t247 = t245 + t246;
-        // doubled bins
-        const V x31r = io.re(31);
-        const V t248 = two * x31r;
-        // complex block of 3
-        const V t249 = t245 - t246;
-        const V t250 = c[1] * t249;
-        const V t251 = t247 + t248;
-        const V t252 = c[0] * t247;
-        const V t253 = t248 - t252;
-        // doubled bins
-        const V x10i = io.im(10);
-        const V t254 = two * x10i;
-        const V x11i = io.im(11);
-        const V t255 = two * x11i;
-        // complex block of 3
-        const V t256 = t255 - t254;
-        // doubled bins
-        const V x31i = io.im(31);
-        const V t257 = two * x31i;
-        // complex block of 3
-        const V t258 = t254 + t255;
-        const V t259 = c[1] * t258;
-        const V t260 = c[0] * t256;
-        const V t261 = t257 + t260;
-        // doubled bins
-        const V x18r = io.re(18);
-        const V t262 = two * x18r;
-        const V x18i = io.im(18);
-        const V t263 = two * x18i;
-        // complex block of 3
-        const V t264 = t263 - t226;
-        const V t265 = t222 + t262;
-        // complex block of 3
-        const V t266 = t234 + t251;
-        const V t267 = c[0] * t266;
-        const V t268 = t266 + t265;
-        const V t269 = t265 - t267;
-        // complex block of 3
-        const V t270 = c[0] * t226;
-        const V t271 = t270 + t263;
-        const V t272 = c[1] * t223;
-        const V t273 = t271 + t272;
-        const V t274 = t271 - t272;
-        const V t275 = c[0] * t222;
-        const V t276 = t262 - t275;
-        const V t277 = c[1] * t227;
-        const V t278 = t276 - t277;
-        const V t279 = t276 + t277;
-        // complex block of 3
-        const V t280 = t239 + t240;
-        // complex block of 3
-        const V t281 = t256 - t257;
-        // complex block of 3
-        const V t282 = t280 + t281;
-        const V t283 = t280 - t281;
-        const V t284 = c[0] * t282;
-        const V t285 = c[1] * t283;
-        // complex block of 3
-        const V t286 = t244 + t233;
-        // complex block of 9, multiplier 7
-        const V t287 = c[11] * t286;
-        const V t288 = c[10] * t286;
-        // complex block of 3
-        const V t289 = t236 + t242;
-        // complex block of 9, multiplier 7
-        const V t290 = c[10] * t289;
-        const V t291 = c[11] * t289;
-        // complex block of 3
-        const V t292 = t250 - t261;
-        // complex block of 9, multiplier 7
-        const V t293 = c[9] * t292;
-        const V t294 = c[8] * t292;
-        // complex block of 3
-        const V t295 = t253 + t259;
-        // complex block of 9, multiplier 7
-        const V t296 = c[8] * t295;
-        const V t297 = c[9] * t295;
-        const V t298 = t287 - t290;
-        const V t299 = t291 + t288;
-        const V t300 = t294 - t297;
-        // complex block of 3
-        const V t301 = t299 + t300;
-        // complex block of 9, multiplier 7
-        const V t302 = t293 + t296;
-        // complex block of 3
-        const V t303 = t244 - t233;
-        // complex block of 9, multiplier 7
-        const V t304 = c[9] * t303;
-        const V t305 = c[8] * t303;
-        // complex block of 3
-        const V t306 = t236 - t242;
-        // complex block of 9, multiplier 7
-        const V t307 = c[8] * t306;
-        const V t308 = c[9] * t306;
-        // complex block of 3
-        const V t309 = t261 + t250;
-        // complex block of 9, multiplier 7
-        const V t310 = c[13] * t309;
-        const V t311 = c[12] * t309;
-        // complex block of 3
-        const V t312 = t253 - t259;
-        // complex block of 9, multiplier 7
-        const V t313 = c[12] * t312;
-        const V t314 = c[13] * t312;
-        const V t315 = t304 + t307;
-        const V t316 = t305 - t308;
-        const V t317 = t314 + t311;
-        // complex block of 3
-        const V t318 = t316 + t317;
-        // complex block of 9, multiplier 7
-        const V t319 = t313 - t310;
-        // complex block of 3
-        const V t320 = t234 - t251;
-        const V t321 = c[1] * t320;
-        // doubled bins
+        const V t7 = two * x4i;
+        const V x5r = io.re(5);
+        const V t8 = two * x5r;
+        const V x5i = io.im(5);
+        const V t9 = two * x5i;
         const V x6r = io.re(6);
-        const V t322 = two * x6r;
-        const V x15r = io.re(15);
-        const V t323 = two * x15r;
-        // complex block of 3
-        const V t324 = t323 + t322;
-        const V t325 = t323 - t322;
-        // doubled bins
+        const V t10 = two * x6r;
         const V x6i = io.im(6);
-        const V t326 = two * x6i;
+        const V t11 = two * x6i;
+        const V x7r = io.re(7);
+        const V t12 = two * x7r;
+        const V x7i = io.im(7);
+        const V t13 = two * x7i;
+        const V x8r = io.re(8);
+        const V t14 = two * x8r;
+        const V x8i = io.im(8);
+        const V t15 = two * x8i;
+        const V x9r = io.re(9);
+        const V t16 = two * x9r;
+        const V x9i = io.im(9);
+        const V t17 = two * x9i;
+        const V x10r = io.re(10);
+        const V t18 = two * x10r;
+        const V x10i = io.im(10);
+        const V t19 = two * x10i;
+        const V x11r = io.re(11);
+        const V t20 = two * x11r;
+        const V x11i = io.im(11);
+        const V t21 = two * x11i;
+        const V x12r = io.re(12);
+        const V t22 = two * x12r;
+        const V x12i = io.im(12);
+        const V t23 = two * x12i;
+        const V x13r = io.re(13);
+        const V t24 = two * x13r;
+        const V x13i = io.im(13);
+        const V t25 = two * x13i;
+        const V x14r = io.re(14);
+        const V t26 = two * x14r;
+        const V x14i = io.im(14);
+        const V t27 = two * x14i;
+        const V x15r = io.re(15);
+        const V t28 = two * x15r;
         const V x15i = io.im(15);
-        const V t327 = two * x15i;
-        // complex block of 3
-        const V t328 = t326 - t327;
-        const V t329 = t327 + t326;
-        // doubled bins
+        const V t29 = two * x15i;
+        const V x16r = io.re(16);
+        const V t30 = two * x16r;
+        const V x16i = io.im(16);
+        const V t31 = two * x16i;
+        const V x17r = io.re(17);
+        const V t32 = two * x17r;
+        const V x17i = io.im(17);
+        const V t33 = two * x17i;
+        const V x18r = io.re(18);
+        const V t34 = two * x18r;
+        const V x18i = io.im(18);
+        const V t35 = two * x18i;
+        const V x19r = io.re(19);
+        const V t36 = two * x19r;
+        const V x19i = io.im(19);
+        const V t37 = two * x19i;
+        const V x20r = io.re(20);
+        const V t38 = two * x20r;
+        const V x20i = io.im(20);
+        const V t39 = two * x20i;
+        const V x21r = io.re(21);
+        const V t40 = two * x21r;
+        const V x22r = io.re(22);
+        const V t41 = two * x22r;
+        const V x22i = io.im(22);
+        const V t42 = two * x22i;
+        const V x23r = io.re(23);
+        const V t43 = two * x23r;
+        const V x23i = io.im(23);
+        const V t44 = two * x23i;
+        const V x24r = io.re(24);
+        const V t45 = two * x24r;
+        const V x24i = io.im(24);
+        const V t46 = two * x24i;
+        const V x25r = io.re(25);
+        const V t47 = two * x25r;
+        const V x25i = io.im(25);
+        const V t48 = two * x25i;
+        const V x26r = io.re(26);
+        const V t49 = two * x26r;
+        const V x26i = io.im(26);
+        const V t50 = two * x26i;
         const V x27r = io.re(27);
-        const V t330 = two * x27r;
+        const V t51 = two * x27r;
         const V x27i = io.im(27);
-        const V t331 = two * x27i;
-        // complex block of 3
-        const V t332 = t328 + t331;
-        const V t333 = t324 + t330;
-        const V t334 = c[0] * t328;
-        const V t335 = t331 - t334;
-        const V t336 = c[1] * t325;
-        const V t337 = t335 + t336;
-        const V t338 = t335 - t336;
-        const V t339 = c[0] * t324;
-        const V t340 = t330 - t339;
-        const V t341 = c[1] * t329;
-        const V t342 = t340 + t341;
-        const V t343 = t340 - t341;
+        const V t52 = two * x27i;
+        const V x28r = io.re(28);
+        const V t53 = two * x28r;
+        const V x28i = io.im(28);
+        const V t54 = two * x28i;
+        const V x29r = io.re(29);
+        const V t55 = two * x29r;
+        const V x29i = io.im(29);
+        const V t56 = two * x29i;
+        const V x30r = io.re(30);
+        const V t57 = two * x30r;
+        const V x30i = io.im(30);
+        const V t58 = two * x30i;
+        const V x31r = io.re(31);
+        const V t59 = two * x31r;
+        const V x31i = io.im(31);
+        const V t60 = two * x31i;
         // spectrum block of 3
-        const V t344 = t21 - t26;
+        const V x0r = io.re(0);
+        const V t61 = t40 + x0r;
+        const V t62 = c[0] * t40;
+        const V t63 = x0r - t62;
+        const V x21i = io.im(21);
+        const V t64 = c[14] * x21i;
+        const V t65 = t63 - t64;
+        const V t66 = t63 + t64;
         // complex block of 3
-        const V t345 = t167 - t183;
-        // spectrum block of 7, multiplier 2
-        const V t346 = c[2] * t345;
-        const V t347 = c[3] * t345;
-        const V t348 = c[4] * t345;
-        // complex block of 3
-        const V t349 = t269 - t285;
-        // spectrum block of 7, multiplier 2
-        const V t350 = c[3] * t349;
-        const V t351 = t345 + t349;
-        const V t352 = t346 - t350;
-        const V t353 = t344 - t347;
-        const V t354 = c[4] * t349;
-        const V t355 = t344 - t348;
-        const V t356 = c[2] * t349;
+        const V t67 = t54 - t27;
+        const V t68 = t53 + t26;
+        const V t69 = t54 + t27;
+        const V t70 = t53 - t26;
+        const V t71 = t67 + t13;
+        const V t72 = t68 + t12;
+        const V t73 = c[0] * t67;
+        const V t74 = t13 - t73;
+        const V t75 = c[0] * t68;
+        const V t76 = t12 - t75;
+        const V t77 = c[1] * t69;
+        const V t78 = c[1] * t70;
+        const V t79 = t74 + t78;
+        const V t80 = t76 - t77;
+        const V t81 = t74 - t78;
+        const V t82 = t76 + t77;
+        // spectrum block of 9, multiplier 7
+        const V t83 = c[10] * t79;
+        const V t84 = c[11] * t80;
+        const V t85 = t84 + t83;
+        const V t86 = c[8] * t81;
+        const V t87 = c[9] * t82;
+        const V t88 = t86 - t87;
         // spectrum block of 3
-        const V t357 = t21 + t26;
-        // complex block of 3
-        const V t358 = t167 + t183;
-        // spectrum block of 7, multiplier 2
-        const V t359 = c[2] * t358;
-        const V t360 = c[3] * t358;
-        const V t361 = c[4] * t358;
-        // complex block of 3
-        const V t362 = t269 + t285;
-        // spectrum block of 7, multiplier 2
-        const V t363 = c[3] * t362;
-        const V t364 = t358 + t362;
-        const V t365 = t359 - t363;
-        const V t366 = t357 - t360;
-        const V t367 = c[4] * t362;
-        const V t368 = t357 - t361;
-        const V t369 = c[2] * t362;
-        // complex block of 3
-        const V t370 = t162 - t182;
-        const V t371 = t370 + t219;
-        const V t372 = t370 - t219;
-        // spectrum block of 7, multiplier 2
-        const V t373 = c[5] * t371;
-        const V t374 = c[6] * t371;
-        const V t375 = c[7] * t371;
-        // spectrum block of 7, multiplier 2
-        const V t376 = c[5] * t372;
-        const V t377 = c[6] * t372;
-        const V t378 = c[7] * t372;
-        // complex block of 3
-        const V t379 = t264 - t284;
-        const V t380 = t379 + t321;
-        const V t381 = t379 - t321;
-        // spectrum block of 7, multiplier 2
-        const V t382 = c[6] * t380;
-        const V t383 = c[7] * t380;
-        const V t384 = c[5] * t380;
-        // spectrum block of 7, multiplier 2
-        const V t385 = c[6] * t381;
-        const V t386 = c[7] * t381;
-        const V t387 = c[5] * t381;
-        // complex block of 3
-        const V t388 = t332 - t75;
-        const V t389 = c[1] * t80;
-        const V t390 = t388 + t389;
-        const V t391 = t388 - t389;
-        // spectrum block of 7, multiplier 2
-        const V t392 = c[7] * t390;
-        const V t393 = c[5] * t390;
-        const V t394 = c[6] * t390;
-        // spectrum block of 7, multiplier 2
-        const V t395 = c[7] * t391;
-        const V t396 = c[5] * t391;
-        const V t397 = c[6] * t391;
-        // complex block of 3
-        const V t398 = t333 - t81;
-        const V t399 = t398 - t76;
-        const V t400 = t398 + t76;
-        // spectrum block of 7, multiplier 2
-        const V t401 = c[4] * t399;
-        const V t402 = c[2] * t399;
-        const V t403 = c[3] * t399;
-        // spectrum block of 7, multiplier 2
-        const V t404 = c[4] * t400;
-        const V t405 = c[2] * t400;
-        const V t406 = c[3] * t400;
-        // spectrum block of 7, multiplier 2
-        const V t407 = t351 + t399;
-        const V t408 = t407 + t344;
-        io.out(21, t408);
-        const V t409 = t352 - t401;
-        const V t410 = t409 + t344;
-        const V t411 = t373 + t382;
-        const V t412 = t411 + t392;
-        const V t413 = t410 - t412;
-        io.out(57, t413);
-        const V t414 = t410 + t412;
-        io.out(48, t414);
-        const V t415 = t353 - t354;
-        const V t416 = t415 + t402;
-        const V t417 = t374 - t383;
-        const V t418 = t417 - t393;
-        const V t419 = t416 - t418;
-        io.out(30, t419);
-        const V t420 = t416 + t418;
-        io.out(12, t420);
-        const V t421 = t355 + t356;
-        const V t422 = t421 - t403;
-        const V t423 = t375 - t384;
-        const V t424 = t423 + t394;
-        const V t425 = t422 - t424;
-        io.out(3, t425);
-        const V t426 = t422 + t424;
-        io.out(39, t426);
-        // spectrum block of 7, multiplier 2
-        const V t427 = t364 + t400;
-        const V t428 = t427 + t357;
-        io.out(42, t428);
-        const V t429 = t365 - t404;
-        const V t430 = t429 + t357;
-        const V t431 = t376 + t385;
-        const V t432 = t431 + t395;
-        const V t433 = t430 - t432;
-        io.out(15, t433);
-        const V t434 = t430 + t432;
-        io.out(6, t434);
-        const V t435 = t366 - t367;
-        const V t436 = t435 + t405;
-        const V t437 = t377 - t386;
-        const V t438 = t437 - t396;
-        const V t439 = t436 - t438;
-        io.out(51, t439);
-        const V t440 = t436 + t438;
-        io.out(33, t440);
-        const V t441 = t368 + t369;
-        const V t442 = t441 - t406;
-        const V t443 = t378 - t387;
-        const V t444 = t443 + t397;
-        const V t445 = t442 - t444;
-        io.out(24, t445);
-        const V t446 = t442 + t444;
-        io.out(60, t446);
+        const V t89 = t72 + t61;
+        const V t90 = c[0] * t72;
+        const V t91 = t61 - t90;
+        const V t92 = c[1] * t71;
+        const V t93 = t91 - t92;
+        const V t94 = t91 + t92;
         // spectrum block of 3
-        const V t447 = t35 + t23;
-        // complex block of 3
-        const V t448 = t199 + t176;
-        // spectrum block of 7, multiplier 2
-        const V t449 = c[2] * t448;
-        const V t450 = c[3] * t448;
-        const V t451 = c[4] * t448;
-        // complex block of 3
-        const V t452 = t301 + t278;
-        // spectrum block of 7, multiplier 2
-        const V t453 = c[3] * t452;
-        const V t454 = t448 + t452;
-        const V t455 = t449 - t453;
-        const V t456 = t447 - t450;
-        const V t457 = c[4] * t452;
-        const V t458 = t447 - t451;
-        const V t459 = c[2] * t452;
+        const V t95 = t85 + t65;
+        const V t96 = c[0] * t85;
+        const V t97 = t65 - t96;
+        const V t98 = c[15] * t79;
+        const V t99 = c[16] * t80;
+        const V t100 = t98 - t99;
+        const V t101 = t97 - t100;
+        const V t102 = t97 + t100;
         // spectrum block of 3
-        const V t460 = c[0] * t35;
-        const V t461 = t23 - t460;
-        const V t462 = t39 - t40;
-        const V t463 = t461 - t462;
-        const V t464 = t461 + t462;
+        const V t103 = t88 + t66;
+        const V t104 = c[0] * t88;
+        const V t105 = t66 - t104;
+        const V t106 = c[17] * t81;
+        const V t107 = c[18] * t82;
+        const V t108 = t106 + t107;
+        const V t109 = t105 + t108;
+        const V t110 = t105 - t108;
         // complex block of 3
-        const V t465 = t196 - t200;
-        const V t466 = t465 + t171;
-        const V t467 = c[0] * t465;
-        const V t468 = t197 - t198;
-        const V t469 = c[1] * t468;
-        const V t470 = t171 - t467;
-        const V t471 = t470 + t469;
-        const V t472 = t470 - t469;
-        // spectrum block of 7, multiplier 2
-        const V t473 = c[5] * t466;
-        const V t474 = c[6] * t466;
-        const V t475 = c[7] * t466;
+        const V t111 = t58 - t23;
+        const V t112 = t57 + t22;
+        const V t113 = t58 + t23;
+        const V t114 = t57 - t22;
+        const V t115 = t111 + t17;
+        const V t116 = t112 + t16;
+        const V t117 = c[0] * t111;
+        const V t118 = t17 - t117;
+        const V t119 = c[0] * t112;
+        const V t120 = t16 - t119;
+        const V t121 = c[1] * t113;
+        const V t122 = c[1] * t114;
+        const V t123 = t118 + t122;
+        const V t124 = t120 - t121;
+        const V t125 = t118 - t122;
+        const V t126 = t120 + t121;
         // complex block of 3
-        const V t476 = t196 + t200;
-        const V t477 = c[1] * t476;
-        const V t478 = c[0] * t199;
-        const V t479 = t176 - t478;
-        const V t480 = t479 - t477;
-        // spectrum block of 7, multiplier 2
-        const V t481 = c[2] * t480;
-        const V t482 = c[3] * t480;
-        const V t483 = c[4] * t480;
+        const V t127 = t50 + t9;
+        const V t128 = t49 + t8;
+        const V t129 = t9 - t50;
+        const V t130 = t49 - t8;
+        const V t131 = t31 - t127;
+        const V t132 = t128 + t30;
+        const V t133 = c[0] * t127;
+        const V t134 = t133 + t31;
+        const V t135 = c[0] * t128;
+        const V t136 = t30 - t135;
+        const V t137 = c[1] * t129;
+        const V t138 = c[1] * t130;
+        const V t139 = t134 + t138;
+        const V t140 = t136 - t137;
+        const V t141 = t134 - t138;
+        const V t142 = t136 + t137;
         // complex block of 3
-        const V t484 = t479 + t477;
-        // spectrum block of 7, multiplier 2
-        const V t485 = c[2] * t484;
-        const V t486 = c[3] * t484;
-        const V t487 = c[4] * t484;
+        const V t143 = t3 - t37;
+        const V t144 = t36 + t2;
+        const V t145 = t37 + t3;
+        const V t146 = t36 - t2;
+        const V t147 = t143 + t44;
+        const V t148 = t144 + t43;
+        const V t149 = c[0] * t143;
+        const V t150 = t44 - t149;
+        const V t151 = c[0] * t144;
+        const V t152 = t43 - t151;
+        const V t153 = c[1] * t145;
+        const V t154 = c[1] * t146;
+        const V t155 = t150 + t154;
+        const V t156 = t152 + t153;
+        const V t157 = t150 - t154;
+        const V t158 = t152 - t153;
         // complex block of 3
-        const V t488 = t298 - t302;
-        const V t489 = t488 + t273;
-        const V t490 = c[0] * t488;
-        const V t491 = t299 - t300;
-        const V t492 = c[1] * t491;
-        const V t493 = t273 - t490;
-        const V t494 = t493 + t492;
-        const V t495 = t493 - t492;
-        // spectrum block of 7, multiplier 2
-        const V t496 = c[6] * t489;
-        const V t497 = c[7] * t489;
-        const V t498 = c[5] * t489;
+        const V t159 = t131 + t147;
+        const V t160 = t132 + t148;
+        const V t161 = t131 - t147;
+        const V t162 = t132 - t148;
+        const V t163 = t159 + t115;
+        const V t164 = t160 + t116;
+        const V t165 = c[0] * t159;
+        const V t166 = t115 - t165;
+        const V t167 = c[0] * t160;
+        const V t168 = t116 - t167;
+        const V t169 = c[1] * t161;
+        const V t170 = c[1] * t162;
+        const V t171 = t166 + t170;
+        const V t172 = t168 - t169;
+        const V t173 = t166 - t170;
+        const V t174 = t168 + t169;
+        // complex block of 9, multiplier 7
+        const V t175 = c[10] * t140;
+        const V t176 = c[11] * t139;
+        const V t177 = t176 - t175;
+        const V t178 = c[10] * t139;
+        const V t179 = c[11] * t140;
+        const V t180 = t179 + t178;
+        const V t181 = c[8] * t156;
+        const V t182 = c[9] * t155;
+        const V t183 = t182 + t181;
+        const V t184 = c[8] * t155;
+        const V t185 = c[9] * t156;
+        const V t186 = t184 - t185;
         // complex block of 3
-        const V t499 = t298 + t302;
-        const V t500 = c[1] * t499;
-        const V t501 = c[0] * t301;
-        const V t502 = t278 - t501;
-        const V t503 = t502 - t500;
-        // spectrum block of 7, multiplier 2
-        const V t504 = c[3] * t503;
-        const V t505 = c[4] * t503;
-        const V t506 = c[2] * t503;
+        const V t187 = t177 - t183;
+        const V t188 = t180 + t186;
+        const V t189 = t177 + t183;
+        const V t190 = t180 - t186;
+        const V t191 = t187 + t123;
+        const V t192 = t188 + t124;
+        const V t193 = c[0] * t187;
+        const V t194 = t123 - t193;
+        const V t195 = c[0] * t188;
+        const V t196 = t124 - t195;
+        const V t197 = c[1] * t189;
+        const V t198 = c[1] * t190;
+        const V t199 = t194 + t198;
+        const V t200 = t196 - t197;
+        const V t201 = t194 - t198;
+        const V t202 = t196 + t197;
+        // complex block of 9, multiplier 7
+        const V t203 = c[8] * t142;
+        const V t204 = c[9] * t141;
+        const V t205 = t204 + t203;
+        const V t206 = c[8] * t141;
+        const V t207 = c[9] * t142;
+        const V t208 = t206 - t207;
+        const V t209 = c[12] * t158;
+        const V t210 = c[13] * t157;
+        const V t211 = t210 + t209;
+        const V t212 = c[12] * t157;
+        const V t213 = c[13] * t158;
+        const V t214 = t213 - t212;
         // complex block of 3
-        const V t507 = t502 + t500;
-        // spectrum block of 7, multiplier 2
-        const V t508 = c[3] * t507;
-        const V t509 = c[4] * t507;
-        const V t510 = c[2] * t507;
+        const V t215 = t211 - t205;
+        const V t216 = t208 + t214;
+        const V t217 = t205 + t211;
+        const V t218 = t208 - t214;
+        const V t219 = t215 + t125;
+        const V t220 = t216 + t126;
+        const V t221 = c[0] * t215;
+        const V t222 = t125 - t221;
+        const V t223 = c[0] * t216;
+        const V t224 = t126 - t223;
+        const V t225 = c[1] * t217;
+        const V t226 = c[1] * t218;
+        const V t227 = t222 + t226;
+        const V t228 = t224 + t225;
+        const V t229 = t222 - t226;
+        const V t230 = t224 - t225;
         // complex block of 3
-        const V t511 = t90 - t108;
-        const V t512 = t511 + t337;
-        const V t513 = c[0] * t511;
-        const V t514 = t93 - t111;
-        const V t515 = c[1] * t514;
-        const V t516 = t337 - t513;
-        const V t517 = t516 + t515;
-        const V t518 = t516 - t515;
-        // spectrum block of 7, multiplier 2
-        const V t519 = c[7] * t512;
-        const V t520 = c[5] * t512;
-        const V t521 = c[6] * t512;
+        const V t231 = t46 + t5;
+        const V t232 = t45 + t4;
+        const V t233 = t5 - t46;
+        const V t234 = t45 - t4;
+        const V t235 = t35 - t231;
+        const V t236 = t232 + t34;
+        const V t237 = c[0] * t231;
+        const V t238 = t237 + t35;
+        const V t239 = c[0] * t232;
+        const V t240 = t34 - t239;
+        const V t241 = c[1] * t233;
+        const V t242 = c[1] * t234;
+        const V t243 = t238 + t242;
+        const V t244 = t240 - t241;
+        const V t245 = t238 - t242;
+        const V t246 = t240 + t241;
         // complex block of 3
-        const V t522 = t93 + t111;
-        const V t523 = t522 + t342;
-        const V t524 = c[0] * t522;
-        const V t525 = t90 + t108;
-        const V t526 = c[1] * t525;
-        const V t527 = t342 - t524;
-        const V t528 = t527 - t526;
-        const V t529 = t527 + t526;
+        const V t247 = t7 - t33;
+        const V t248 = t32 + t6;
+        const V t249 = t33 + t7;
+        const V t250 = t32 - t6;
+        const V t251 = t247 + t48;
+        const V t252 = t248 + t47;
+        const V t253 = c[0] * t247;
+        const V t254 = t48 - t253;
+        const V t255 = c[0] * t248;
+        const V t256 = t47 - t255;
+        const V t257 = c[1] * t249;
+        const V t258 = c[1] * t250;
+        const V t259 = t254 + t258;
+        const V t260 = t256 + t257;
+        const V t261 = t254 - t258;
+        const V t262 = t256 - t257;
+        // complex block of 3
+        const V t263 = t21 - t19;
+        const V t264 = t18 + t20;
+        const V t265 = t19 + t21;
+        const V t266 = t18 - t20;
+        const V t267 = t263 - t60;
+        const V t268 = t264 + t59;
+        const V t269 = c[0] * t263;
+        const V t270 = t60 + t269;
+        const V t271 = c[0] * t264;
+        const V t272 = t59 - t271;
+        const V t273 = c[1] * t265;
+        const V t274 = c[1] * t266;
+        const V t275 = t274 - t270;
+        const V t276 = t272 + t273;
+        const V t277 = t270 + t274;
+        const V t278 = t272 - t273;
+        // complex block of 3
+        const V t279 = t251 + t267;
+        const V t280 = t252 + t268;
+        const V t281 = t251 - t267;
+        const V t282 = t252 - t268;
+        const V t283 = t279 + t235;
+        const V t284 = t280 + t236;
+        const V t285 = c[0] * t279;
+        const V t286 = t235 - t285;
+        const V t287 = c[0] * t280;
+        const V t288 = t236 - t287;
+        const V t289 = c[1] * t281;
+        const V t290 = c[1] * t282;
+        const V t291 = t286 + t290;
+        const V t292 = t288 - t289;
+        const V t293 = t286 - t290;
+        const V t294 = t288 + t289;
+        // complex block of 9, multiplier 7
+        const V t295 = c[10] * t260;
+        const V t296 = c[11] * t259;
+        const V t297 = t296 - t295;
+        const V t298 = c[10] * t259;
+        const V t299 = c[11] * t260;
+        const V t300 = t299 + t298;
+        const V t301 = c[8] * t276;
+        const V t302 = c[9] * t275;
+        const V t303 = t302 + t301;
+        const V t304 = c[8] * t275;
+        const V t305 = c[9] * t276;
+        const V t306 = t304 - t305;
+        // complex block of 3
+        const V t307 = t297 - t303;
+        const V t308 = t300 + t306;
+        const V t309 = t297 + t303;
+        const V t310 = t300 - t306;
+        const V t311 = t307 + t243;
+        const V t312 = t308 + t244;
+        const V t313 = c[0] * t307;
+        const V t314 = t243 - t313;
+        const V t315 = c[0] * t308;
+        const V t316 = t244 - t315;
+        const V t317 = c[1] * t309;
+        const V t318 = c[1] * t310;
+        const V t319 = t314 + t318;
+        const V t320 = t316 - t317;
+        const V t321 = t314 - t318;
+        const V t322 = t316 + t317;
+        // complex block of 9, multiplier 7
+        const V t323 = c[8] * t262;
+        const V t324 = c[9] * t261;
+        const V t325 = t324 + t323;
+        const V t326 = c[8] * t261;
+        const V t327 = c[9] * t262;
+        const V t328 = t326 - t327;
+        const V t329 = c[12] * t278;
+        const V t330 = c[13] * t277;
+        const V t331 = t329 - t330;
+        const V t332 = c[12] * t277;
+        const V t333 = c[13] * t278;
+        const V t334 = t333 + t332;
+        // complex block of 3
+        const V t335 = t331 - t325;
+        const V t336 = t328 + t334;
+        const V t337 = t325 + t331;
+        const V t338 = t328 - t334;
+        const V t339 = t335 + t245;
+        const V t340 = t336 + t246;
+        const V t341 = c[0] * t335;
+        const V t342 = t245 - t341;
+        const V t343 = c[0] * t336;
+        const V t344 = t246 - t343;
+        const V t345 = c[1] * t337;
+        const V t346 = c[1] * t338;
+        const V t347 = t342 + t346;
+        const V t348 = t344 + t345;
+        const V t349 = t342 - t346;
+        const V t350 = t344 - t345;
+        // complex block of 3
+        const V t351 = t11 - t29;
+        const V t352 = t28 + t10;
+        const V t353 = t29 + t11;
+        const V t354 = t28 - t10;
+        const V t355 = t351 + t52;
+        const V t356 = t352 + t51;
+        const V t357 = c[0] * t351;
+        const V t358 = t52 - t357;
+        const V t359 = c[0] * t352;
+        const V t360 = t51 - t359;
+        const V t361 = c[1] * t353;
+        const V t362 = c[1] * t354;
+        const V t363 = t358 + t362;
+        const V t364 = t360 + t361;
+        const V t365 = t358 - t362;
+        const V t366 = t360 - t361;
+        // complex block of 3
+        const V t367 = t25 - t15;
+        const V t368 = t14 + t24;
+        const V t369 = t15 + t25;
+        const V t370 = t14 - t24;
+        const V t371 = t367 - t56;
+        const V t372 = t368 + t55;
+        const V t373 = c[0] * t367;
+        const V t374 = t56 + t373;
+        const V t375 = c[0] * t368;
+        const V t376 = t55 - t375;
+        const V t377 = c[1] * t369;
+        const V t378 = c[1] * t370;
+        const V t379 = t378 - t374;
+        const V t380 = t376 + t377;
+        const V t381 = t374 + t378;
+        const V t382 = t376 - t377;
+        // complex block of 3
+        const V t383 = t39 - t1;
+        const V t384 = t0 + t38;
+        const V t385 = t1 + t39;
+        const V t386 = t0 - t38;
+        const V t387 = t383 - t42;
+        const V t388 = t384 + t41;
+        const V t389 = c[0] * t383;
+        const V t390 = t42 + t389;
+        const V t391 = c[0] * t384;
+        const V t392 = t41 - t391;
+        const V t393 = c[1] * t385;
+        const V t394 = c[1] * t386;
+        const V t395 = t394 - t390;
+        const V t396 = t392 + t393;
+        const V t397 = t390 + t394;
+        const V t398 = t392 - t393;
+        // complex block of 3
+        const V t399 = t371 + t387;
+        const V t400 = t372 + t388;
+        const V t401 = t371 - t387;
+        const V t402 = t372 - t388;
+        const V t403 = t399 + t355;
+        const V t404 = t400 + t356;
+        const V t405 = c[0] * t399;
+        const V t406 = t355 - t405;
+        const V t407 = c[0] * t400;
+        const V t408 = t356 - t407;
+        const V t409 = c[1] * t401;
+        const V t410 = c[1] * t402;
+        const V t411 = t406 + t410;
+        const V t412 = t408 - t409;
+        const V t413 = t406 - t410;
+        const V t414 = t408 + t409;
+        // complex block of 9, multiplier 7
+        const V t415 = c[10] * t380;
+        const V t416 = c[11] * t379;
+        const V t417 = t416 - t415;
+        const V t418 = c[10] * t379;
+        const V t419 = c[11] * t380;
+        const V t420 = t419 + t418;
+        const V t421 = c[8] * t396;
+        const V t422 = c[9] * t395;
+        const V t423 = t422 + t421;
+        const V t424 = c[8] * t395;
+        const V t425 = c[9] * t396;
+        const V t426 = t424 - t425;
+        // complex block of 3
+        const V t427 = t417 - t423;
+        const V t428 = t420 + t426;
+        const V t429 = t417 + t423;
+        const V t430 = t420 - t426;
+        const V t431 = t427 + t363;
+        const V t432 = t428 + t364;
+        const V t433 = c[0] * t427;
+        const V t434 = t363 - t433;
+        const V t435 = c[0] * t428;
+        const V t436 = t364 - t435;
+        const V t437 = c[1] * t429;
+        const V t438 = c[1] * t430;
+        const V t439 = t434 + t438;
+        const V t440 = t436 - t437;
+        const V t441 = t434 - t438;
+        const V t442 = t436 + t437;
+        // complex block of 9, multiplier 7
+        const V t443 = c[8] * t382;
+        const V t444 = c[9] * t381;
+        const V t445 = t444 - t443;
+        const V t446 = c[8] * t381;
+        const V t447 = c[9] * t382;
+        const V t448 = t447 + t446;
+        const V t449 = c[12] * t398;
+        const V t450 = c[13] * t397;
+        const V t451 = t449 - t450;
+        const V t452 = c[12] * t397;
+        const V t453 = c[13] * t398;
+        const V t454 = t453 + t452;
+        // complex block of 3
+        const V t455 = t445 + t451;
+        const V t456 = t454 - t448;
+        const V t457 = t445 - t451;
+        const V t458 = t448 + t454;
+        const V t459 = t455 + t365;
+        const V t460 = t456 + t366;
+        const V t461 = c[0] * t455;
+        const V t462 = t365 - t461;
+        const V t463 = c[0] * t456;
+        const V t464 = t366 - t463;
+        const V t465 = c[1] * t457;
+        const V t466 = c[1] * t458;
+        const V t467 = t462 - t466;
+        const V t468 = t464 - t465;
+        const V t469 = t462 + t466;
+        const V t470 = t464 + t465;
         // spectrum block of 7, multiplier 2
-        const V t530 = c[4] * t523;
-        const V t531 = c[2] * t523;
-        const V t532 = c[3] * t523;
-        const V t533 = t454 + t523;
-        const V t534 = t533 + t447;
-        io.out(7, t534);
-        const V t535 = t455 - t530;
-        const V t536 = t535 + t447;
-        const V t537 = t473 + t496;
-        const V t538 = t537 + t519;
-        const V t539 = t536 - t538;
-        io.out(43, t539);
-        const V t540 = t536 + t538;
-        io.out(34, t540);
-        const V t541 = t456 - t457;
-        const V t542 = t541 + t531;
-        const V t543 = t474 - t497;
-        const V t544 = t543 - t520;
-        const V t545 = t542 - t544;
-        io.out(16, t545);
-        const V t546 = t542 + t544;
-        io.out(61, t546);
-        const V t547 = t458 + t459;
-        const V t548 = t547 - t532;
-        const V t549 = t475 - t498;
-        const V t550 = t549 + t521;
-        const V t551 = t548 - t550;
-        io.out(52, t551);
-        const V t552 = t548 + t550;
-        io.out(25, t552);
+        const V t471 = t164 + t284;
+        const V t472 = t471 + t404;
+        const V t473 = t472 + t89;
+        io.out(0, t473);
+        const V t474 = c[2] * t164;
+        const V t475 = c[3] * t284;
+        const V t476 = t474 - t475;
+        const V t477 = c[4] * t404;
+        const V t478 = t476 - t477;
+        const V t479 = t478 + t89;
+        const V t480 = c[5] * t163;
+        const V t481 = c[6] * t283;
+        const V t482 = t480 + t481;
+        const V t483 = c[7] * t403;
+        const V t484 = t482 + t483;
+        const V t485 = t479 - t484;
+        io.out(36, t485);
+        const V t486 = t479 + t484;
+        io.out(27, t486);
+        const V t487 = c[3] * t164;
+        const V t488 = t89 - t487;
+        const V t489 = c[4] * t284;
+        const V t490 = t488 - t489;
+        const V t491 = c[2] * t404;
+        const V t492 = t490 + t491;
+        const V t493 = c[6] * t163;
+        const V t494 = c[7] * t283;
+        const V t495 = t493 - t494;
+        const V t496 = c[5] * t403;
+        const V t497 = t495 - t496;
+        const V t498 = t492 - t497;
+        io.out(9, t498);
+        const V t499 = t492 + t497;
+        io.out(54, t499);
+        const V t500 = c[4] * t164;
+        const V t501 = t89 - t500;
+        const V t502 = c[2] * t284;
+        const V t503 = t501 + t502;
+        const V t504 = c[3] * t404;
+        const V t505 = t503 - t504;
+        const V t506 = c[7] * t163;
+        const V t507 = c[5] * t283;
+        const V t508 = t506 - t507;
+        const V t509 = c[6] * t403;
+        const V t510 = t508 + t509;
+        const V t511 = t505 - t510;
+        io.out(45, t511);
+        const V t512 = t505 + t510;
+        io.out(18, t512);
         // spectrum block of 7, multiplier 2
-        const V t553 = t480 + t503;
-        const V t554 = t553 + t528;
-        const V t555 = t554 + t463;
-        io.out(28, t555);
-        const V t556 = t481 - t504;
-        const V t557 = c[4] * t528;
-        const V t558 = t556 - t557;
-        const V t559 = c[5] * t471;
-        const V t560 = c[6] * t494;
-        const V t561 = t559 + t560;
-        const V t562 = c[7] * t517;
-        const V t563 = t558 + t463;
-        const V t564 = t561 + t562;
-        const V t565 = t563 - t564;
-        io.out(1, t565);
-        const V t566 = t563 + t564;
-        io.out(55, t566);
-        const V t567 = t463 - t482;
-        const V t568 = t567 - t505;
-        const V t569 = c[2] * t528;
-        const V t570 = c[6] * t471;
-        const V t571 = c[7] * t494;
-        const V t572 = t570 - t571;
-        const V t573 = c[5] * t517;
-        const V t574 = t568 + t569;
-        const V t575 = t572 - t573;
-        const V t576 = t574 - t575;
-        io.out(37, t576);
-        const V t577 = t574 + t575;
-        io.out(19, t577);
-        const V t578 = t463 - t483;
-        const V t579 = t578 + t506;
-        const V t580 = c[3] * t528;
-        const V t581 = c[7] * t471;
-        const V t582 = c[5] * t494;
-        const V t583 = t581 - t582;
-        const V t584 = c[6] * t517;
-        const V t585 = t579 - t580;
-        const V t586 = t583 + t584;
-        const V t587 = t585 - t586;
-        io.out(10, t587);
-        const V t588 = t585 + t586;
-        io.out(46, t588);
+        const V t513 = t192 + t312;
+        const V t514 = t513 + t432;
+        const V t515 = t514 + t95;
+        io.out(7, t515);
+        const V t516 = c[2] * t192;
+        const V t517 = c[3] * t312;
+        const V t518 = t516 - t517;
+        const V t519 = c[4] * t432;
+        const V t520 = t518 - t519;
+        const V t521 = t520 + t95;
+        const V t522 = c[5] * t191;
+        const V t523 = c[6] * t311;
+        const V t524 = t522 + t523;
+        const V t525 = c[7] * t431;
+        const V t526 = t524 + t525;
+        const V t527 = t521 - t526;
+        io.out(43, t527);
+        const V t528 = t521 + t526;
+        io.out(34, t528);
+        const V t529 = c[3] * t192;
+        const V t530 = t95 - t529;
+        const V t531 = c[4] * t312;
+        const V t532 = t530 - t531;
+        const V t533 = c[2] * t432;
+        const V t534 = t532 + t533;
+        const V t535 = c[6] * t191;
+        const V t536 = c[7] * t311;
+        const V t537 = t535 - t536;
+        const V t538 = c[5] * t431;
+        const V t539 = t537 - t538;
+        const V t540 = t534 - t539;
+        io.out(16, t540);
+        const V t541 = t534 + t539;
+        io.out(61, t541);
+        const V t542 = c[4] * t192;
+        const V t543 = t95 - t542;
+        const V t544 = c[2] * t312;
+        const V t545 = t543 + t544;
+        const V t546 = c[3] * t432;
+        const V t547 = t545 - t546;
+        const V t548 = c[7] * t191;
+        const V t549 = c[5] * t311;
+        const V t550 = t548 - t549;
+        const V t551 = c[6] * t431;
+        const V t552 = t550 + t551;
+        const V t553 = t547 - t552;
+        io.out(52, t553);
+        const V t554 = t547 + t552;
+        io.out(25, t554);
         // spectrum block of 7, multiplier 2
-        const V t589 = t484 + t507;
-        const V t590 = t589 + t529;
-        const V t591 = t590 + t464;
-        io.out(49, t591);
-        const V t592 = t485 - t508;
-        const V t593 = c[4] * t529;
-        const V t594 = t592 - t593;
-        const V t595 = c[5] * t472;
-        const V t596 = c[6] * t495;
-        const V t597 = t595 + t596;
-        const V t598 = c[7] * t518;
-        const V t599 = t594 + t464;
-        const V t600 = t597 + t598;
-        const V t601 = t599 - t600;
-        io.out(22, t601);
-        const V t602 = t599 + t600;
-        io.out(13, t602);
-        const V t603 = t464 - t486;
-        const V t604 = t603 - t509;
-        const V t605 = c[2] * t529;
-        const V t606 = c[6] * t472;
-        const V t607 = c[7] * t495;
-        const V t608 = t606 - t607;
-        const V t609 = c[5] * t518;
-        const V t610 = t604 + t605;
-        const V t611 = t608 - t609;
-        const V t612 = t610 - t611;
-        io.out(58, t612);
-        const V t613 = t610 + t611;
-        io.out(40, t613);
-        const V t614 = t464 - t487;
-        const V t615 = t614 + t510;
-        const V t616 = c[3] * t529;
-        const V t617 = c[7] * t472;
-        const V t618 = c[5] * t495;
-        const V t619 = t617 - t618;
-        const V t620 = c[6] * t518;
-        const V t621 = t615 - t616;
-        const V t622 = t619 + t620;
+        const V t555 = t220 + t340;
+        const V t556 = t555 + t460;
+        const V t557 = t556 + t103;
+        io.out(14, t557);
+        const V t558 = c[2] * t220;
+        const V t559 = c[3] * t340;
+        const V t560 = t558 - t559;
+        const V t561 = c[4] * t460;
+        const V t562 = t560 - t561;
+        const V t563 = t562 + t103;
+        const V t564 = c[5] * t219;
+        const V t565 = c[6] * t339;
+        const V t566 = t564 + t565;
+        const V t567 = c[7] * t459;
+        const V t568 = t566 + t567;
+        const V t569 = t563 - t568;
+        io.out(50, t569);
+        const V t570 = t563 + t568;
+        io.out(41, t570);
+        const V t571 = c[3] * t220;
+        const V t572 = t103 - t571;
+        const V t573 = c[4] * t340;
+        const V t574 = t572 - t573;
+        const V t575 = c[2] * t460;
+        const V t576 = t574 + t575;
+        const V t577 = c[6] * t219;
+        const V t578 = c[7] * t339;
+        const V t579 = t577 - t578;
+        const V t580 = c[5] * t459;
+        const V t581 = t579 - t580;
+        const V t582 = t576 - t581;
+        io.out(23, t582);
+        const V t583 = t576 + t581;
+        io.out(5, t583);
+        const V t584 = c[4] * t220;
+        const V t585 = t103 - t584;
+        const V t586 = c[2] * t340;
+        const V t587 = t585 + t586;
+        const V t588 = c[3] * t460;
+        const V t589 = t587 - t588;
+        const V t590 = c[7] * t219;
+        const V t591 = c[5] * t339;
+        const V t592 = t590 - t591;
+        const V t593 = c[6] * t459;
+        const V t594 = t592 + t593;
+        const V t595 = t589 - t594;
+        io.out(59, t595);
+        const V t596 = t589 + t594;
+        io.out(32, t596);
+        // spectrum block of 7, multiplier 2
+        const V t597 = t172 + t292;
+        const V t598 = t597 + t412;
+        const V t599 = t598 + t93;
+        io.out(21, t599);
+        const V t600 = c[2] * t172;
+        const V t601 = c[3] * t292;
+        const V t602 = t600 - t601;
+        const V t603 = c[4] * t412;
+        const V t604 = t602 - t603;
+        const V t605 = t604 + t93;
+        const V t606 = c[5] * t171;
+        const V t607 = c[6] * t291;
+        const V t608 = t606 + t607;
+        const V t609 = c[7] * t411;
+        const V t610 = t608 + t609;
+        const V t611 = t605 - t610;
+        io.out(57, t611);
+        const V t612 = t605 + t610;
+        io.out(48, t612);
+        const V t613 = c[3] * t172;
+        const V t614 = t93 - t613;
+        const V t615 = c[4] * t292;
+        const V t616 = t614 - t615;
+        const V t617 = c[2] * t412;
+        const V t618 = t616 + t617;
+        const V t619 = c[6] * t171;
+        const V t620 = c[7] * t291;
+        const V t621 = t619 - t620;
+        const V t622 = c[5] * t411;
         const V t623 = t621 - t622;
-        io.out(31, t623);
-        const V t624 = t621 + t622;
-        io.out(4, t624);
-        // spectrum block of 3
-        const V t625 = t38 + t24;
-        // complex block of 3
-        const V t626 = t216 + t177;
+        const V t624 = t618 - t623;
+        io.out(30, t624);
+        const V t625 = t618 + t623;
+        io.out(12, t625);
+        const V t626 = c[4] * t172;
+        const V t627 = t93 - t626;
+        const V t628 = c[2] * t292;
+        const V t629 = t627 + t628;
+        const V t630 = c[3] * t412;
+        const V t631 = t629 - t630;
+        const V t632 = c[7] * t171;
+        const V t633 = c[5] * t291;
+        const V t634 = t632 - t633;
+        const V t635 = c[6] * t411;
+        const V t636 = t634 + t635;
+        const V t637 = t631 - t636;
+        io.out(3, t637);
+        const V t638 = t631 + t636;
+        io.out(39, t638);
         // spectrum block of 7, multiplier 2
-        const V t627 = c[2] * t626;
-        const V t628 = c[3] * t626;
-        const V t629 = c[4] * t626;
-        // complex block of 3
-        const V t630 = t318 + t279;
+        const V t639 = t200 + t320;
+        const V t640 = t639 + t440;
+        const V t641 = t640 + t101;
+        io.out(28, t641);
+        const V t642 = c[2] * t200;
+        const V t643 = c[3] * t320;
+        const V t644 = t642 - t643;
+        const V t645 = c[4] * t440;
+        const V t646 = t644 - t645;
+        const V t647 = t646 + t101;
+        const V t648 = c[5] * t199;
+        const V t649 = c[6] * t319;
+        const V t650 = t648 + t649;
+        const V t651 = c[7] * t439;
+        const V t652 = t650 + t651;
+        const V t653 = t647 - t652;
+        io.out(1, t653);
+        const V t654 = t647 + t652;
+        io.out(55, t654);
+        const V t655 = c[3] * t200;
+        const V t656 = t101 - t655;
+        const V t657 = c[4] * t320;
+        const V t658 = t656 - t657;
+        const V t659 = c[2] * t440;
+        const V t660 = t658 + t659;
+        const V t661 = c[6] * t199;
+        const V t662 = c[7] * t319;
+        const V t663 = t661 - t662;
+        const V t664 = c[5] * t439;
+        const V t665 = t663 - t664;
+        const V t666 = t660 - t665;
+        io.out(37, t666);
+        const V t667 = t660 + t665;
+        io.out(19, t667);
+        const V t668 = c[4] * t200;
+        const V t669 = t101 - t668;
+        const V t670 = c[2] * t320;
+        const V t671 = t669 + t670;
+        const V t672 = c[3] * t440;
+        const V t673 = t671 - t672;
+        const V t674 = c[7] * t199;
+        const V t675 = c[5] * t319;
+        const V t676 = t674 - t675;
+        const V t677 = c[6] * t439;
+        const V t678 = t676 + t677;
+        const V t679 = t673 - t678;
+        io.out(10, t679);
+        const V t680 = t673 + t678;
+        io.out(46, t680);
         // spectrum block of 7, multiplier 2
-        const V t631 = c[3] * t630;
-        const V t632 = t626 + t630;
-        const V t633 = t627 - t631;
-        const V t634 = t625 - t628;
-        const V t635 = c[4] * t630;
-        const V t636 = t625 - t629;
-        const V t637 = c[2] * t630;
-        // spectrum block of 3
-        const V t638 = c[0] * t38;
-        const V t639 = t24 - t638;
-        const V t640 = t41 + t42;
-        const V t641 = t639 + t640;
-        const V t642 = t639 - t640;
-        // complex block of 3
-        const V t643 = t217 - t213;
-        const V t644 = t643 + t172;
-        const V t645 = c[0] * t643;
-        const V t646 = t214 - t215;
-        const V t647 = c[1] * t646;
-        const V t648 = t172 - t645;
-        const V t649 = t648 + t647;
-        const V t650 = t648 - t647;
+        const V t681 = t228 + t348;
+        const V t682 = t681 + t468;
+        const V t683 = t682 + t109;
+        io.out(35, t683);
+        const V t684 = c[2] * t228;
+        const V t685 = c[3] * t348;
+        const V t686 = t684 - t685;
+        const V t687 = c[4] * t468;
+        const V t688 = t686 - t687;
+        const V t689 = t688 + t109;
+        const V t690 = c[5] * t227;
+        const V t691 = c[6] * t347;
+        const V t692 = t690 + t691;
+        const V t693 = c[7] * t467;
+        const V t694 = t692 + t693;
+        const V t695 = t689 - t694;
+        io.out(8, t695);
+        const V t696 = t689 + t694;
+        io.out(62, t696);
+        const V t697 = c[3] * t228;
+        const V t698 = t109 - t697;
+        const V t699 = c[4] * t348;
+        const V t700 = t698 - t699;
+        const V t701 = c[2] * t468;
+        const V t702 = t700 + t701;
+        const V t703 = c[6] * t227;
+        const V t704 = c[7] * t347;
+        const V t705 = t703 - t704;
+        const V t706 = c[5] * t467;
+        const V t707 = t705 - t706;
+        const V t708 = t702 - t707;
+        io.out(44, t708);
+        const V t709 = t702 + t707;
+        io.out(26, t709);
+        const V t710 = c[4] * t228;
+        const V t711 = t109 - t710;
+        const V t712 = c[2] * t348;
+        const V t713 = t711 + t712;
+        const V t714 = c[3] * t468;
+        const V t715 = t713 - t714;
+        const V t716 = c[7] * t227;
+        const V t717 = c[5] * t347;
+        const V t718 = t716 - t717;
+        const V t719 = c[6] * t467;
+        const V t720 = t718 + t719;
+        const V t721 = t715 - t720;
+        io.out(17, t721);
+        const V t722 = t715 + t720;
+        io.out(53, t722);
         // spectrum block of 7, multiplier 2
-        const V t651 = c[5] * t644;
-        const V t652 = c[6] * t644;
-        const V t653 = c[7] * t644;
-        // complex block of 3
-        const V t654 = t213 + t217;
-        const V t655 = c[1] * t654;
-        const V t656 = c[0] * t216;
-        const V t657 = t177 - t656;
-        const V t658 = t657 + t655;
+        const V t723 = t174 + t294;
+        const V t724 = t723 + t414;
+        const V t725 = t724 + t94;
+        io.out(42, t725);
+        const V t726 = c[2] * t174;
+        const V t727 = c[3] * t294;
+        const V t728 = t726 - t727;
+        const V t729 = c[4] * t414;
+        const V t730 = t728 - t729;
+        const V t731 = t730 + t94;
+        const V t732 = c[5] * t173;
+        const V t733 = c[6] * t293;
+        const V t734 = t732 + t733;
+        const V t735 = c[7] * t413;
+        const V t736 = t734 + t735;
+        const V t737 = t731 - t736;
+        io.out(15, t737);
+        const V t738 = t731 + t736;
+        io.out(6, t738);
+        const V t739 = c[3] * t174;
+        const V t740 = t94 - t739;
+        const V t741 = c[4] * t294;
+        const V t742 = t740 - t741;
+        const V t743 = c[2] * t414;
+        const V t744 = t742 + t743;
+        const V t745 = c[6] * t173;
+        const V t746 = c[7] * t293;
+        const V t747 = t745 - t746;
+        const V t748 = c[5] * t413;
+        const V t749 = t747 - t748;
+        const V t750 = t744 - t749;
+        io.out(51, t750);
+        const V t751 = t744 + t749;
+        io.out(33, t751);
+        const V t752 = c[4] * t174;
+        const V t753 = t94 - t752;
+        const V t754 = c[2] * t294;
+        const V t755 = t753 + t754;
+        const V t756 = c[3] * t414;
+        const V t757 = t755 - t756;
+        const V t758 = c[7] * t173;
+        const V t759 = c[5] * t293;
+        const V t760 = t758 - t759;
+        const V t761 = c[6] * t413;
+        const V t762 = t760 + t761;
+        const V t763 = t757 - t762;
+        io.out(24, t763);
+        const V t764 = t757 + t762;
+        io.out(60, t764);
         // spectrum block of 7, multiplier 2
-        const V t659 = c[2] * t658;
-        const V t660 = c[3] * t658;
-        const V t661 = c[4] * t658;
-        // complex block of 3
-        const V t662 = t657 - t655;
-        // spectrum block of 7, multiplier 2
-        const V t663 = c[2] * t662;
-        const V t664 = c[3] * t662;
-        const V t665 = c[4] * t662;
-        // complex block of 3
-        const V t666 = t319 - t315;
-        const V t667 = t666 + t274;
-        const V t668 = c[0] * t666;
-        const V t669 = t316 - t317;
-        const V t670 = c[1] * t669;
-        const V t671 = t274 - t668;
-        const V t672 = t671 + t670;
-        const V t673 = t671 - t670;
-        // spectrum block of 7, multiplier 2
-        const V t674 = c[6] * t667;
-        const V t675 = c[7] * t667;
-        const V t676 = c[5] * t667;
-        // complex block of 3
-        const V t677 = t315 + t319;
-        const V t678 = c[1] * t677;
-        const V t679 = c[0] * t318;
-        const V t680 = t279 - t679;
-        const V t681 = t680 + t678;
-        // spectrum block of 7, multiplier 2
-        const V t682 = c[3] * t681;
-        const V t683 = c[4] * t681;
-        const V t684 = c[2] * t681;
-        // complex block of 3
-        const V t685 = t680 - t678;
-        // spectrum block of 7, multiplier 2
-        const V t686 = c[3] * t685;
-        const V t687 = c[4] * t685;
-        const V t688 = c[2] * t685;
-        // complex block of 3
-        const V t689 = t96 + t114;
-        const V t690 = t689 + t338;
-        const V t691 = c[0] * t689;
-        const V t692 = t99 + t117;
-        const V t693 = c[1] * t692;
-        const V t694 = t338 - t691;
-        const V t695 = t694 - t693;
-        const V t696 = t694 + t693;
-        // spectrum block of 7, multiplier 2
-        const V t697 = c[7] * t690;
-        const V t698 = c[5] * t690;
-        const V t699 = c[6] * t690;
-        // complex block of 3
-        const V t700 = t117 - t99;
-        const V t701 = t700 + t343;
-        const V t702 = c[0] * t700;
-        const V t703 = t96 - t114;
-        const V t704 = c[1] * t703;
-        const V t705 = t343 - t702;
-        const V t706 = t705 - t704;
-        const V t707 = t705 + t704;
-        // spectrum block of 7, multiplier 2
-        const V t708 = c[4] * t701;
-        const V t709 = c[2] * t701;
-        const V t710 = c[3] * t701;
-        const V t711 = t632 + t701;
-        const V t712 = t711 + t625;
-        io.out(14, t712);
-        const V t713 = t633 - t708;
-        const V t714 = t713 + t625;
-        const V t715 = t651 + t674;
-        const V t716 = t715 + t697;
-        const V t717 = t714 - t716;
-        io.out(50, t717);
-        const V t718 = t714 + t716;
-        io.out(41, t718);
-        const V t719 = t634 - t635;
-        const V t720 = t719 + t709;
-        const V t721 = t652 - t675;
-        const V t722 = t721 - t698;
-        const V t723 = t720 - t722;
-        io.out(23, t723);
-        const V t724 = t720 + t722;
-        io.out(5, t724);
-        const V t725 = t636 + t637;
-        const V t726 = t725 - t710;
-        const V t727 = t653 - t676;
-        const V t728 = t727 + t699;
-        const V t729 = t726 - t728;
-        io.out(59, t729);
-        const V t730 = t726 + t728;
-        io.out(32, t730);
-        // spectrum block of 7, multiplier 2
-        const V t731 = t658 + t681;
-        const V t732 = t731 + t706;
-        const V t733 = t732 + t641;
-        io.out(35, t733);
-        const V t734 = t659 - t682;
-        const V t735 = c[4] * t706;
-        const V t736 = t734 - t735;
-        const V t737 = c[5] * t649;
-        const V t738 = c[6] * t672;
-        const V t739 = t737 + t738;
-        const V t740 = c[7] * t695;
-        const V t741 = t736 + t641;
-        const V t742 = t739 + t740;
-        const V t743 = t741 - t742;
-        io.out(8, t743);
-        const V t744 = t741 + t742;
-        io.out(62, t744);
-        const V t745 = t641 - t660;
-        const V t746 = t745 - t683;
-        const V t747 = c[2] * t706;
-        const V t748 = c[6] * t649;
-        const V t749 = c[7] * t672;
-        const V t750 = t748 - t749;
-        const V t751 = c[5] * t695;
-        const V t752 = t746 + t747;
-        const V t753 = t750 - t751;
-        const V t754 = t752 - t753;
-        io.out(44, t754);
-        const V t755 = t752 + t753;
-        io.out(26, t755);
-        const V t756 = t641 - t661;
-        const V t757 = t756 + t684;
-        const V t758 = c[3] * t706;
-        const V t759 = c[7] * t649;
-        const V t760 = c[5] * t672;
-        const V t761 = t759 - t760;
-        const V t762 = c[6] * t695;
-        const V t763 = t757 - t758;
-        const V t764 = t761 + t762;
-        const V t765 = t763 - t764;
-        io.out(17, t765);
-        const V t766 = t763 + t764;
-        io.out(53, t766);
-        // spectrum block of 7, multiplier 2
-        const V t767 = t662 + t685;
-        const V t768 = t767 + t707;
-        const V t769 = t768 + t642;
-        io.out(56, t769);
-        const V t770 = t663 - t686;
-        const V t771 = c[4] * t707;
+        const V t765 = t202 + t322;
+        const V t766 = t765 + t442;
+        const V t767 = t766 + t102;
+        io.out(49, t767);
+        const V t768 = c[2] * t202;
+        const V t769 = c[3] * t322;
+        const V t770 = t768 - t769;
+        const V t771 = c[4] * t442;
         const V t772 = t770 - t771;
-        const V t773 = c[5] * t650;
-        const V t774 = c[6] * t673;
-        const V t775 = t773 + t774;
-        const V t776 = c[7] * t696;
-        const V t777 = t772 + t642;
-        const V t778 = t775 + t776;
-        const V t779 = t777 - t778;
-        io.out(29, t779);
-        const V t780 = t777 + t778;
-        io.out(20, t780);
-        const V t781 = t642 - t664;
-        const V t782 = t781 - t687;
-        const V t783 = c[2] * t707;
-        const V t784 = c[6] * t650;
-        const V t785 = c[7] * t673;
-        const V t786 = t784 - t785;
-        const V t787 = c[5] * t696;
-        const V t788 = t782 + t783;
-        const V t789 = t786 - t787;
-        const V t790 = t788 - t789;
-        io.out(2, t790);
-        const V t791 = t788 + t789;
-        io.out(47, t791);
-        const V t792 = t642 - t665;
-        const V t793 = t792 + t688;
-        const V t794 = c[3] * t707;
-        const V t795 = c[7] * t650;
-        const V t796 = c[5] * t673;
-        const V t797 = t795 - t796;
-        const V t798 = c[6] * t696;
-        const V t799 = t793 - t794;
-        const V t800 = t797 + t798;
-        const V t801 = t799 - t800;
-        io.out(38, t801);
-        const V t802 = t799 + t800;
-        io.out(11, t802);
-        // complex block of 3
-        const V t803 = t180 + t162;
+        const V t773 = t772 + t102;
+        const V t774 = c[5] * t201;
+        const V t775 = c[6] * t321;
+        const V t776 = t774 + t775;
+        const V t777 = c[7] * t441;
+        const V t778 = t776 + t777;
+        const V t779 = t773 - t778;
+        io.out(22, t779);
+        const V t780 = t773 + t778;
+        io.out(13, t780);
+        const V t781 = c[3] * t202;
+        const V t782 = t102 - t781;
+        const V t783 = c[4] * t322;
+        const V t784 = t782 - t783;
+        const V t785 = c[2] * t442;
+        const V t786 = t784 + t785;
+        const V t787 = c[6] * t201;
+        const V t788 = c[7] * t321;
+        const V t789 = t787 - t788;
+        const V t790 = c[5] * t441;
+        const V t791 = t789 - t790;
+        const V t792 = t786 - t791;
+        io.out(58, t792);
+        const V t793 = t786 + t791;
+        io.out(40, t793);
+        const V t794 = c[4] * t202;
+        const V t795 = t102 - t794;
+        const V t796 = c[2] * t322;
+        const V t797 = t795 + t796;
+        const V t798 = c[3] * t442;
+        const V t799 = t797 - t798;
+        const V t800 = c[7] * t201;
+        const V t801 = c[5] * t321;
+        const V t802 = t800 - t801;
+        const V t803 = c[6] * t441;
+        const V t804 = t802 + t803;
+        const V t805 = t799 - t804;
+        io.out(31, t805);
+        const V t806 = t799 + t804;
+        io.out(4, t806);
         // spectrum block of 7, multiplier 2
-        const V t804 = c[5] * t803;
-        const V t805 = c[6] * t803;
-        const V t806 = c[7] * t803;
-        // complex block of 3
-        const V t807 = t282 + t264;
-        // spectrum block of 7, multiplier 2
-        const V t808 = c[6] * t807;
-        const V t809 = c[7] * t807;
-        const V t810 = c[5] * t807;
-        const V t811 = t804 + t808;
-        const V t812 = t805 - t809;
-        const V t813 = t806 - t810;
-        // complex block of 3
-        const V t814 = t73 + t332;
-        // spectrum block of 7, multiplier 2
-        const V t815 = c[7] * t814;
-        const V t816 = c[5] * t814;
-        const V t817 = c[6] * t814;
-        // complex block of 3
-        const V t818 = t79 + t333;
-        // spectrum block of 7, multiplier 2
-        const V t819 = c[4] * t818;
-        const V t820 = t166 + t268;
-        const V t821 = c[2] * t166;
-        const V t822 = c[3] * t268;
-        const V t823 = t821 - t822;
-        const V t824 = t820 + t818;
-        const V t825 = t823 - t819;
-        const V t826 = c[2] * t818;
-        const V t827 = c[3] * t818;
-        const V t828 = c[3] * t166;
-        const V t829 = t20 - t828;
-        const V t830 = c[4] * t268;
+        const V t807 = t230 + t350;
+        const V t808 = t807 + t470;
+        const V t809 = t808 + t110;
+        io.out(56, t809);
+        const V t810 = c[2] * t230;
+        const V t811 = c[3] * t350;
+        const V t812 = t810 - t811;
+        const V t813 = c[4] * t470;
+        const V t814 = t812 - t813;
+        const V t815 = t814 + t110;
+        const V t816 = c[5] * t229;
+        const V t817 = c[6] * t349;
+        const V t818 = t816 + t817;
+        const V t819 = c[7] * t469;
+        const V t820 = t818 + t819;
+        const V t821 = t815 - t820;
+        io.out(29, t821);
+        const V t822 = t815 + t820;
+        io.out(20, t822);
+        const V t823 = c[3] * t230;
+        const V t824 = t110 - t823;
+        const V t825 = c[4] * t350;
+        const V t826 = t824 - t825;
+        const V t827 = c[2] * t470;
+        const V t828 = t826 + t827;
+        const V t829 = c[6] * t229;
+        const V t830 = c[7] * t349;
         const V t831 = t829 - t830;
-        const V t832 = c[4] * t166;
-        const V t833 = t20 - t832;
-        const V t834 = c[2] * t268;
-        const V t835 = t833 + t834;
-        const V t836 = t824 + t20;
-        io.out(0, t836);
-        const V t837 = t825 + t20;
-        const V t838 = t811 + t815;
-        const V t839 = t837 - t838;
-        io.out(36, t839);
-        const V t840 = t837 + t838;
-        io.out(27, t840);
-        const V t841 = t831 + t826;
-        const V t842 = t812 - t816;
-        const V t843 = t841 - t842;
-        io.out(9, t843);
-        const V t844 = t841 + t842;
-        io.out(54, t844);
-        const V t845 = t835 - t827;
-        const V t846 = t813 + t817;
-        const V t847 = t845 - t846;
-        io.out(45, t847);
-        const V t848 = t845 + t846;
-        io.out(18, t848);
+        const V t832 = c[5] * t469;
+        const V t833 = t831 - t832;
+        const V t834 = t828 - t833;
+        io.out(2, t834);
+        const V t835 = t828 + t833;
+        io.out(47, t835);
+        const V t836 = c[4] * t230;
+        const V t837 = t110 - t836;
+        const V t838 = c[2] * t350;
+        const V t839 = t837 + t838;
+        const V t840 = c[3] * t470;
+        const V t841 = t839 - t840;
+        const V t842 = c[7] * t229;
+        const V t843 = c[5] * t349;
+        const V t844 = t842 - t843;
+        const V t845 = c[6] * t469;
+        const V t846 = t844 + t845;
+        const V t847 = t841 - t846;
+        io.out(38, t847);
+        const V t848 = t841 + t846;
+        io.out(11, t848);
     }
 };
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <sstream>
 
 namespace test {
@@ -45,14 +47,29 @@ TEST(Tuning, OrdersTheGraphsOfItsRowsByBisection) {
 }
 
 TEST(Tuning, RefusesWhatItDoesNotUnderstandAndTellsWhere) {
-    EXPECT_EQ(faultOf("complex 16 bisection -\n"), "");
-    EXPECT_EQ(faultOf("\ncomplex 65 bisection -\n"), "tuning.txt:2: no graph complex 65");
-    EXPECT_EQ(faultOf("complex 16 speed -\ncomplex 16 bisection -\n"), "");
-    EXPECT_EQ(faultOf("complex 16 haste -\n"), "tuning.txt:1: no choice haste");
-    EXPECT_EQ(faultOf("complex 16 bisection - \ncomplex 16 bisection 2\n"),
+    EXPECT_EQ(faultOf("complex 16 speed 5\ncomplex 16 bisection 7.5\n"), "");
+    EXPECT_EQ(faultOf("\ncomplex 65 bisection 7\n"), "tuning.txt:2: no graph complex 65");
+    EXPECT_EQ(faultOf("complex 16 haste 7\n"), "tuning.txt:1: no choice haste");
+    EXPECT_EQ(faultOf("complex 16 bisection 6\ncomplex 16 bisection 7\n"),
               "tuning.txt:2: a second row for complex 16, bisection");
+    EXPECT_EQ(faultOf("complex 16 bisection -\n"), "tuning.txt:1: the gain is no number: -");
+    EXPECT_EQ(faultOf("complex 16 bisection 7%\n"), "tuning.txt:1: the gain is no number: 7%");
     EXPECT_EQ(faultOf("complex 16 bisection\n"), "tuning.txt:1: a row is family, length, choice and gain");
-    EXPECT_EQ(faultOf("complex 16 bisection 2 3\n"), "tuning.txt:1: a row is family, length, choice and gain");
+    EXPECT_EQ(faultOf("complex 16 bisection 7 3\n"), "tuning.txt:1: a row is family, length, choice and gain");
+}
+
+// A choice that gains less is not worth a row.
+TEST(Tuning, TheTableHasTextsOfKernelsAndGainsWorthARow) {
+    const Tuning tuning = readTuning(ZULG_SOURCE "/targets/x86_64/tuning.txt");
+    EXPECT_FALSE(tuning.rows().empty());
+    for (const auto& [row, gain] : tuning.rows()) {
+        SCOPED_TRACE(row.first + " " + row.second);
+        const auto graph = std::ranges::find(allGraphs(), row.first, &GraphEntry::name);
+        ASSERT_NE(graph, allGraphs().end());
+        EXPECT_FALSE(graph->family->isBody());
+        EXPECT_TRUE(std::filesystem::exists(ZULG_SOURCE "/" + graph->file()));
+        EXPECT_GE(gain, 5);
+    }
 }
 
 }  // namespace

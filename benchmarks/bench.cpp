@@ -3,6 +3,7 @@
 //     bench --benchmark_filter='^complex_forward/double/'    times; all options of Google Benchmark
 //     bench --check [PATTERN]                                holds each participant's result against ours instead
 //     bench --library NAME=PATH ...                          further builds of our library take part under these names
+//     bench --no-peers                                       builds of our library alone
 //     bench --copy 0 .. 4                                    which copy of the timing loops is run
 //     bench --load PATH ...                                  times loading and unloading of these, and nothing else
 //
@@ -38,6 +39,8 @@ Options readOptions(int argc, char** argv) {
         const bool hasValue = i + 1 < argc;
         if (argument == "--check") {
             options.isCheck = true;
+        } else if (argument == "--no-peers") {
+            peersTakePart() = false;
         } else if (argument == "--library" && hasValue && std::strchr(argv[i + 1], '=') != nullptr) {
             const std::string named = argv[++i];
             libraries().push_back(openLibrary(named.substr(0, named.find('=')), named.substr(named.find('=') + 1)));

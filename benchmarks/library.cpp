@@ -14,6 +14,11 @@ std::vector<Library>& libraries() {
     return all;
 }
 
+bool& peersTakePart() {
+    static bool takePart = true;
+    return takePart;
+}
+
 Library openLibrary(const std::string& name, const std::string& path) {
     void* const handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (handle == nullptr) std::fprintf(stderr, "%s\n", dlerror()), std::exit(1);

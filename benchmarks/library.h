@@ -27,6 +27,9 @@ Library openLibrary(const std::string& name, const std::string& path);
 // All that take part; the first is that of this build. Filled before contests are made.
 std::vector<Library>& libraries();
 
+// Whether the other libraries take part, too.
+bool& peersTakePart();
+
 template <class Element>
 using Kernel = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t flag);
 template <class Element>

@@ -3,7 +3,8 @@
 report.py RECORDS RESULTS COMMAND
 
 RECORDS holds *.json of the program bench and x87.* of the program cycles; RESULTS/DATE-MACHINE.md, .json and *.svg are
-written. COMMAND is the command line that the report shows.
+written. COMMAND is the command line that the report shows. If builds of the library are compared without peers, the
+name ends with -builds, and there are no pictures.
 """
 import collections
 import datetime
@@ -111,8 +112,12 @@ def document(about, families, loads, steps, stem):
     for picture in ("ratio", "floor", "sizes"):
         if os.path.exists(f"{stem}-{picture}.svg"):
             yield f"\n![{picture}]({os.path.basename(stem)}-{picture}.svg)"
-    yield "\n## Summary\n"
-    yield from tables.summary(families)
+    for title, table in (("Summary", tables.summary(families)),
+                         ("Other builds: their time over that of this one", tables.builds_table(families))):
+        lines = list(table)
+        if lines:
+            yield f"\n## {title}\n"
+            yield from lines
     dispatched = list(tables.dispatch_text({key: items for key, items in families.items()
                                             if key[0].startswith("dispatch_")}))
     if dispatched:
@@ -147,18 +152,23 @@ def main():
     about_machine = about["machine"]
     slug = re.sub(r"[^a-z0-9]+", "-", about_machine["Model name"].lower()).strip("-")
     name = f"{about['date']}-{slug}-family-{about_machine['CPU family']}-model-{about_machine['Model']}"
+    has_builds = any(tables.other_builds(items) for items in families.values())
+    has_peers = any(peer in figures for figures in contests.values() for peer, _ in tables.PEERS)
     os.makedirs(results, exist_ok=True)
-    stem = os.path.join(results, name)
+    stem = os.path.join(results, f"{name}-builds" if has_builds and not has_peers else name)
     for picture in glob.glob(f"{stem}-*.svg"):  # of an earlier run on the same day
         os.remove(picture)
-    plots.ratios(families, f"{stem}-ratio.svg")
-    plots.floors(families, f"{stem}-floor.svg")
-    plots.over_size(families, f"{stem}-sizes.svg")
+    if has_peers or not has_builds:
+        plots.ratios(families, f"{stem}-ratio.svg")
+        plots.floors(families, f"{stem}-floor.svg")
+        plots.over_size(families, f"{stem}-sizes.svg")
     with open(f"{stem}.json", "w", encoding="utf-8") as file:
         json.dump(compact(contests, cycles, about), file, separators=(",", ":"))
         file.write("\n")
     with open(f"{stem}.md", "w", encoding="utf-8") as file:
         file.write("\n".join(document(about, families, contests.get("load", {}), steps_of(cycles), stem)) + "\n")
+    for line in tables.builds_table(families):
+        print(line)
     print(f"{stem}.md")
 
 

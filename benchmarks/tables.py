@@ -1,4 +1,5 @@
 """The results as Markdown: a summary of each family, then every length."""
+import collections
 import statistics
 
 PEERS = [("fftw_patient_scalar", "FFTW patient"), ("fftw_measure_scalar", "measure"),
@@ -41,9 +42,38 @@ def ratio(item, peer):
     return figure.cycles / item.ours.cycles if item.ours.cycles else figure.nanoseconds / item.ours.nanoseconds
 
 
+def other_builds(items):
+    """The further builds of our library that took part."""
+    present = {name for item in items for name in item.figures if not name.endswith("_dispatcher")}
+    return sorted(present - {"zulgenpx", *dict(PEERS)})
+
+
+def builds_table(families):
+    """How this build does beside the others: for each family, then for all transforms together."""
+    everything = collections.defaultdict(list)
+    lines = []
+
+    def add(title, element, build, ratios):
+        least, most = min(ratios), max(ratios)
+        lines.append([title, element, build, f"{statistics.geometric_mean(value for value, _ in ratios):.3f}",
+                      f"{least[0]:.2f}, {least[1]}", f"{most[0]:.2f}, {most[1]}", str(len(ratios))])
+
+    for (family, element), items in families.items():
+        for build in other_builds(items):
+            ratios = [(ratio(item, build), str(item.size)) for item in items if build in item.figures]
+            add(TITLES.get(family, family).split(" (FFTW")[0], element, build, ratios)
+            everything[element, build] += [(value, f"{family} {size}") for value, size in ratios]
+    for element, build in sorted(everything):
+        add("all", element, build, everything[element, build])
+    for build in sorted({build for _, build in everything}):
+        add("all", "both", build, [pair for key, pairs in everything.items() if key[1] == build for pair in pairs])
+    return rows(["family", "element", "build", "geometric mean", "least, at N", "most, at N", "transforms"], lines,
+                words=3) if lines else []
+
+
 def family_table(items):
     present = {name for item in items for name in item.figures}
-    builds = sorted(present - {"zulgenpx", *dict(PEERS)})  # further builds of our library
+    builds = other_builds(items)
     peers = [(name, name) for name in builds] + [peer for peer in PEERS if peer[0] in present]
     has_cycles = bool(items[0].ours.cycles)
     has_floor, has_bytes = any(item.floor for item in items), any(item.code_bytes for item in items)
@@ -85,7 +115,7 @@ def summary(families):
         else:
             line += ["", ""]
         lines.append(line)
-    return rows(columns, lines, words=3)
+    return rows(columns, lines, words=3) if lines else []
 
 
 def dispatch_text(families):

@@ -3,15 +3,20 @@
 A scalar x86-64 core of today starts two additions, two multiplications, three of both together, two loads and two
 stores in one cycle. The x87 unit starts one step, addition or multiplication, in one cycle.
 """
-import os
-import re
+import pathlib
+import sys
 
-FOLDERS = {"complex_forward": ("complex", "dft"), "complex_inverse": ("complex", "dft"),
-           "real_forward": ("real_forward", "rdft"), "packed_forward": ("real_forward", "rdft"),
-           "real_inverse": ("real_inverse", "rdft"), "packed_inverse": ("real_inverse", "rdft"),
-           "hartley": ("hartley", "dht")}
-HEAD = re.compile(r"// (\d+) additions?, (\d+) subtractions?, \d+ multiplications? \((\d+) with `scale`\)")
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "machine"))
+import catalogue  # noqa: E402
 
+# The families of kernels, by the name of their contests.
+KERNELS = {"complex_forward": "DFTFwd_CToC", "complex_inverse": "DFTInv_CToC", "real_forward": "DFTFwd_RToCCS",
+           "real_inverse": "DFTInv_CCSToR", "packed_forward": "DFTFwd_RToPack", "packed_inverse": "DFTInv_PackToR",
+           "hartley": "Hartley"}
+# Of a family, a length or an order, and "32" or "64".
+EXPORTS = {(export["family"], export["length"] or export["order"], export["element"][:2]): export
+           for export in catalogue.kernels()}
+LENGTHS = sorted({length for family, length, _ in EXPORTS if family in KERNELS.values()})
 
 # DCT-IV: sums and products of one body, by size or radix.
 DIRECT = {2: (2, 4), 4: (12, 8), 8: (32, 24), 16: (88, 64), 32: (216, 144)}
@@ -52,23 +57,20 @@ def walsh_hadamard(size):
     return order * size, size, passes * size, passes * size
 
 
-def counts(tree, family, size):
+def counts(family, size):
     """(sums, products, loads, stores) of one transform, or None where they are not known."""
     if family in ("dct4", "wht"):
         return dct4(size) if family == "dct4" else walsh_hadamard(size)
-    if family not in FOLDERS:
+    if family not in KERNELS:
         return None
-    folder, stem = FOLDERS[family]
-    path = os.path.join(tree, "kernels", folder, f"{stem}_{size}.h")
-    with open(path, encoding="ascii") as file:
-        found = HEAD.search(file.read(2000))
-    if not found:
-        raise SystemExit(f"{path} does not tell its counts")
-    additions, subtractions, products = map(int, found.groups())
-    loads = stores = 2 * size if folder == "complex" else size
-    if family == "real_forward":
-        stores += 2 - size % 2  # the zeros beside the real bins
-    return additions + subtractions, products, loads, stores
+    export = EXPORTS[KERNELS[family], size, "64"]
+    counted = export["counts"]
+    numbers = 2 if export["element"].endswith("c") else 1
+    loads, stores = (numbers * catalogue.array(export, name)["elements"] for name in ("pSrc", "pDst"))
+    if "spectrum" in export and export["spectrum"]["argument"] == "pSrc":
+        loads -= len(export["spectrum"]["zeros"])  # they are not read
+    sums, products = counted["additions"] + counted["subtractions"], counted["multiplications"] + counted["scale"]
+    return sums, products, loads, stores
 
 
 def scalar(sums, products, loads, stores):

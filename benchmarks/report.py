@@ -24,23 +24,18 @@ import plots  # noqa: E402
 import tables  # noqa: E402
 from binary import Library  # noqa: E402
 
-EXPORTS = {"complex_forward": "DFTFwd_CToC", "complex_inverse": "DFTInv_CToC", "real_forward": "DFTFwd_RToCCS",
-           "real_inverse": "DFTInv_CCSToR", "packed_forward": "DFTFwd_RToPack", "packed_inverse": "DFTInv_PackToR",
-           "hartley": "Hartley"}
 ORDER = list(tables.TITLES)
 
 Item = collections.namedtuple("Item", "size ours figures floor code_bytes")
 
 
 def exported_name(family, element, size):
-    width = "64f" if element == "double" else "32f"
-    if family == "wht":
-        return f"zulgWHT_{size.bit_length() - 1}_{width}"
+    """What a contest times; the name of a plan's routine has the length added."""
+    width = "64" if element == "double" else "32"
     if family == "dct4":
-        return f"zulgDCT4_{width}/{size}"
-    if family not in EXPORTS:
-        return None
-    return f"zulg{EXPORTS[family]}_{size}_{width}" + ("c" if family.startswith("complex") else "")
+        return f"zulgDCT4_{width}f/{size}"
+    key = ("WHT", size.bit_length() - 1, width) if family == "wht" else (floors.KERNELS.get(family), size, width)
+    return floors.EXPORTS[key]["name"] if key in floors.EXPORTS else None
 
 
 def machine():
@@ -63,10 +58,10 @@ def families_of(contests, library):
             continue
         family, element, size = contest.split("/")
         size = int(size)
-        counts = floors.counts(TREE, family, size)
+        counts = floors.counts(family, size)
         name = exported_name(family, element, size)
         code_bytes = None
-        if family in EXPORTS and name in library.exports:
+        if family in floors.KERNELS and name in library.exports:
             routine = library.routine(library.word(library.slot_address(name)))
             code_bytes = sum(instruction.size for instruction in routine)
         found[family, element].append(
@@ -78,13 +73,13 @@ def families_of(contests, library):
 def steps_of(cycles):
     """(family, element) -> (size, cycles, steps, spread) of the 32-bit library."""
     found = collections.OrderedDict()
-    for family in [*EXPORTS, "wht", "dct4"]:
+    for family in [*floors.KERNELS, "wht", "dct4"]:
         for element in ("double", "single"):
-            for size in range(2, 65) if family in EXPORTS else [1 << digits for digits in range(1, 17)]:
+            for size in floors.LENGTHS if family in floors.KERNELS else [1 << digits for digits in range(1, 17)]:
                 name = exported_name(family, element, size)
                 if name in cycles:
                     found.setdefault((family, element), []).append(
-                        (size, cycles[name][0], floors.x87(*floors.counts(TREE, family, size)), cycles[name][1]))
+                        (size, cycles[name][0], floors.x87(*floors.counts(family, size)), cycles[name][1]))
     return found
 
 
@@ -135,7 +130,7 @@ def document(about, families, loads, steps, stem):
             yield from tables.family_table(items)
     if steps:
         for title, is_kernel in (("lengths", True), ("sizes", False)):
-            part = {key: values for key, values in steps.items() if (key[0] in EXPORTS) == is_kernel}
+            part = {key: values for key, values in steps.items() if (key[0] in floors.KERNELS) == is_kernel}
             if part:
                 yield f"\n## 32-bit DLL in wine: cycles / steps, by {title}\n"
                 yield from tables.x87_lengths(part)

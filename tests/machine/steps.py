@@ -13,6 +13,7 @@ import re
 import struct
 import sys
 
+import catalogue
 from binary import Library
 
 sys.path.insert(0, sys.argv[-1])
@@ -88,15 +89,11 @@ def stored_twos(library, instructions):
     return widths
 
 
-FAMILIES = [
-    (re.compile(r"zulgDFT(?:Fwd|Inv)_CToC_(\d+)_(?:32|64)fc$"), "complex"),
-    (re.compile(r"zulgDFTFwd_RTo(?:CCS|Pack|Perm)_(\d+)_(?:32|64)f$"), "real_forward"),
-    (re.compile(r"zulgHartley_(\d+)_(?:32|64)f$"), "hartley"),
-    (re.compile(r"zulgDFTInv_(?:CCS|Pack|Perm)ToR_(\d+)_(?:32|64)f$"), "real_inverse"),
-]
-
-
-WHT = re.compile(r"zulgWHT_(\d+)_(?:32|64)f$")
+def table_of(export):
+    """The expected table that a kernel is in."""
+    if "spectrum" in export:
+        return "real_forward" if export["spectrum"]["argument"] == "pDst" else "real_inverse"
+    return "complex" if export["element"].endswith("c") else export["family"].lower()
 
 
 def wht_rows(folder):
@@ -110,53 +107,41 @@ def wht_rows(folder):
     return rows
 
 
-def wrong_wht(library, rows):
-    """How many Walsh-Hadamard kernels were counted, and how many are not as their table says."""
-    kernels = failures = 0
-    for name in sorted(library.exports):
-        match = WHT.match(name)
-        if not match:
-            continue
-        kernels += 1
-        sums, products, granted = rows[int(match.group(1))]
-        routine = library.routine(library.word(library.slot_address(name)))
-        found_sums, found_products, faults = counted(library, routine, False, granted)
-        if (found_sums, found_products) != (sums, products):
-            faults.append(f"{found_sums} sums, {found_products} products; due are {sums}, {products}")
-        if faults:
-            failures += 1
-            print(f"{name}: " + "; ".join(faults[:5]))
-    return kernels, failures
+def faults_of(library, export, tables):
+    name, table = export["name"], table_of(export)
+    routine = library.routine(library.word(library.slot_address(name)))
+    if table == "wht":
+        sums, products, granted = tables[table][export["order"]]
+    else:
+        sums, products = tables[table][export["length"]]
+        granted = (0, 0)
+    found_sums, found_products, faults = counted(library, routine, table == "real_forward", granted)
+    if (found_sums, found_products) != (sums, products):
+        faults.append(f"{found_sums} sums, {found_products} products; due are {sums}, {products}")
+    if table == "real_inverse" and export["length"] != 2:
+        due, found = {int(export["element"][:2])}, stored_twos(library, routine)
+        if found != due:
+            faults.append(f"a 2 is stored in bits: {sorted(found)}; due are {sorted(due)}")
+    return faults
+
+
+KERNELS = 2 * (9 * 63 + 13)  # nine families of lengths 2 to 64, 13 orders
 
 
 def main():
     path, objdump, folder, _ = sys.argv[1:]
     library = Library(path, objdump)
-    tables = {family: expected_rows(folder, family) for _, family in FAMILIES}
-    kernels, failures = wrong_wht(library, wht_rows(folder))
-    if kernels != 26:
-        print(f"{kernels} Walsh-Hadamard kernels")
-        failures += 1
-    for name in sorted(library.exports):
-        for pattern, family in FAMILIES:
-            match = pattern.match(name)
-            if not match:
-                continue
-            kernels += 1
-            sums, products = tables[family][int(match.group(1))]
-            routine = library.routine(library.word(library.slot_address(name)))
-            found_sums, found_products, faults = counted(library, routine, family == "real_forward")
-            if (found_sums, found_products) != (sums, products):
-                faults.append(f"{found_sums} sums, {found_products} products; due are {sums}, {products}")
-            if family == "real_inverse" and match.group(1) != "2":
-                due, found = {32 if name.endswith("_32f") else 64}, stored_twos(library, routine)
-                if found != due:
-                    faults.append(f"a 2 is stored in bits: {sorted(found)}; due are {sorted(due)}")
-            if faults:
-                failures += 1
-                print(f"{name}: " + "; ".join(faults[:5]))
-    print(f"{kernels} kernels counted, {failures} of them wrong")
-    return 1 if failures or not kernels else 0
+    tables = {family: expected_rows(folder, family) for family in COLUMNS}
+    tables["wht"] = wht_rows(folder)
+    kernels = catalogue.kernels()
+    failures = 0
+    for export in kernels:
+        faults = faults_of(library, export, tables)
+        if faults:
+            failures += 1
+            print(f"{export['name']}: " + "; ".join(faults[:5]))
+    print(f"{len(kernels)} kernels counted, due are {KERNELS}; {failures} of them wrong")
+    return 1 if failures or len(kernels) != KERNELS else 0
 
 
 sys.exit(main())

@@ -1,5 +1,6 @@
 """The results as Markdown: a summary of each family, then every length."""
 import collections
+import re
 import statistics
 
 PEERS = [("fftw_patient_scalar", "FFTW patient"), ("fftw_measure_scalar", "measure"),
@@ -61,7 +62,8 @@ def builds_table(families):
     for (family, element), items in families.items():
         for build in other_builds(items):
             ratios = [(ratio(item, build), str(item.size)) for item in items if build in item.figures]
-            add(TITLES.get(family, family).split(" (FFTW")[0], element, build, ratios)
+            title = re.sub(r"; FFTW \w+| \(FFTW \w+\)", "", TITLES.get(family, family))  # no peer takes part
+            add(title, element, build, ratios)
             everything[element, build] += [(value, f"{family} {size}") for value, size in ratios]
     for element, build in sorted(everything):
         add("all", element, build, everything[element, build])

@@ -1,8 +1,25 @@
 #include "tests/reference.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace test {
+namespace {
+
+// The sum of term(i) for i = 0 .. count-1, in groups of 64: fewer roundings reach a long sum.
+template <class Term>
+Wide summed(int count, const Term& term) {
+    Wide sum = 0;
+    for (int from = 0; from < count; from += 64) {
+        Wide group = 0;
+        for (int i = from; i < std::min(count, from + 64); ++i) group += term(i);
+        sum += group;
+    }
+    return sum;
+}
+
+}  // namespace
 
 Wide cosTurn(int k, int n) {
     constexpr Wide pi = 3.14159265358979323846264338327950288L;
@@ -15,6 +32,8 @@ Wide cosTurn(int k, int n) {
 }
 
 Wide sinTurn(int k, int n) { return cosTurn(4 * k - n, 4 * n); }
+
+Wide casTurn(int k, int n) { return cosTurn(k, n) + sinTurn(k, n); }
 
 Values complexTransform(const Values& x, int sign) {
     const int length = static_cast<int>(x.size() / 2);
@@ -70,9 +89,61 @@ Values hartleyTransform(const Values& x) {
     for (int k = 0; k < length; ++k) {
         Wide sum = 0;
         for (int j = 0; j < length; ++j) {
-            sum += x[static_cast<std::size_t>(j)] * (cosTurn(j * k, length) + sinTurn(j * k, length));
+            sum += x[static_cast<std::size_t>(j)] * casTurn(j * k, length);
         }
         result.push_back(sum);
+    }
+    return result;
+}
+
+int walshHadamardSign(int j, int k) { return std::popcount(static_cast<unsigned>(j & k)) % 2 == 0 ? 1 : -1; }
+
+Values walshHadamardTransform(const Values& x) {
+    if (x.size() == 1) return x;
+    const auto middle = x.begin() + static_cast<std::ptrdiff_t>(x.size() / 2);
+    const Values low = walshHadamardTransform({x.begin(), middle}), high = walshHadamardTransform({middle, x.end()});
+    // The highest bit of j turns the sign of those k that have it too.
+    Values result;
+    for (std::size_t k = 0; k < low.size(); ++k) result.push_back(low[k] + high[k]);
+    for (std::size_t k = 0; k < low.size(); ++k) result.push_back(low[k] - high[k]);
+    return result;
+}
+
+Wide dct4Factor(int n, int k, int length) {
+    const auto turn = static_cast<long long>(2 * n + 1) * (2 * k + 1) % (8LL * length);
+    return cosTurn(static_cast<int>(turn), 8 * length);
+}
+
+Values dct4Transform(const Values& x, Chosen outputs) {
+    const int length = static_cast<int>(x.size()), period = 8 * length;
+    Values cosines;  // every factor is one of them
+    for (int j = 0; j < period; ++j) cosines.push_back(cosTurn(j, period));
+    Values result;
+    for (int k = outputs.first; k < length; k += outputs.step) {
+        result.push_back(summed(length, [&](int n) {
+            const auto turn = static_cast<long long>(2 * n + 1) * (2 * k + 1) % period;
+            return x[static_cast<std::size_t>(n)] * cosines[static_cast<std::size_t>(turn)];
+        }));
+    }
+    return result;
+}
+
+Values skewTransform(const Values& v, Chosen bins) {
+    const int length = static_cast<int>(v.size()), period = 2 * length;
+    Values cosines, sines;
+    for (int j = 0; j < period; ++j) {
+        cosines.push_back(cosTurn(j, period));
+        sines.push_back(sinTurn(j, period));
+    }
+    Values result;
+    for (int k = bins.first; k < length / 2; k += bins.step) {
+        Wide re = 0, im = 0;
+        for (int s = 0; s < length; ++s) {
+            const auto turn = static_cast<std::size_t>(static_cast<long long>(s) * (2 * k + 1) % period);
+            re += v[static_cast<std::size_t>(s)] * cosines[turn];
+            im += v[static_cast<std::size_t>(s)] * sines[turn];
+        }
+        result.insert(result.end(), {re, im});
     }
     return result;
 }

@@ -66,32 +66,6 @@ Record& recordIn(const zulg::PlanListNode* list) {
     return reinterpret_cast<Record&>(*list->value.get());
 }
 
-// cos(2 pi j/(8N)) for all j: every factor of the definition is one of them.
-class Cosines {
-public:
-    explicit Cosines(int length) : period(8 * length) {
-        for (int j = 0; j < period; ++j) values.push_back(cosTurn(j, period));
-    }
-    // y[k] of the definition.
-    template <class Element>
-    Wide bin(const std::vector<Element>& x, int k) const {
-        Wide sum = 0;
-        for (std::size_t from = 0; from < x.size(); from += 64) {
-            Wide part = 0;
-            for (std::size_t n = from; n < std::min(x.size(), from + 64); ++n) {
-                const auto j = static_cast<long long>(2 * n + 1) * (2 * k + 1) % period;
-                part += x[n] * values[static_cast<std::size_t>(j)];
-            }
-            sum += part;
-        }
-        return sum;
-    }
-
-private:
-    int period;
-    Values values;
-};
-
 template <class Element>
 class Dct4Test : public testing::Test {
 protected:
@@ -113,17 +87,17 @@ protected:
 
     // Relative L2 error over all bins, or over some of them where the length is great.
     double relativeError(int length, int rounds) {
-        const Cosines cosines(length);
         Planned<Element> planned(length);
         Wide errors = 0, squares = 0;
         for (int round = 0; round < rounds; ++round) {
             const auto x = randomElements(length);
             const auto y = planned.run(x);
             const int step = std::max(1, length / 512) | 1;
-            for (int k = round % step; k < length; k += step) {
-                const Wide due = cosines.bin(x, k), error = y[static_cast<std::size_t>(k)] - due;
-                errors += error * error;
-                squares += due * due;
+            const Values due = dct4Transform({x.begin(), x.end()}, {round % step, step});
+            for (std::size_t i = 0, k = static_cast<std::size_t>(round % step); i < due.size();
+                 ++i, k += static_cast<std::size_t>(step)) {
+                errors += (y[k] - due[i]) * (y[k] - due[i]);
+                squares += due[i] * due[i];
             }
         }
         return static_cast<double>(std::sqrt(errors / squares));

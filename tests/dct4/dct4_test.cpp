@@ -6,7 +6,6 @@
 #include <cstring>
 #include <limits>
 #include <thread>
-#include <utility>
 
 #include "tests/dct4/dct4_fixture.h"
 #include "tests/memory.h"
@@ -49,7 +48,7 @@ TYPED_TEST(Dct4Test, AnImpulseAtZeroGivesTheFirstColumn) {
         x[0] = 1;
         const auto y = Planned<TypeParam>(length).run(x);
         for (int k = 0; k < length; ++k) {
-            const double due = static_cast<double>(cosTurn(2 * k + 1, 8 * length));
+            const double due = static_cast<double>(dct4Factor(0, k, length));
             ASSERT_NEAR(y[static_cast<std::size_t>(k)], due, 8 * this->unit) << length << ", " << k;
         }
     }
@@ -64,14 +63,10 @@ TYPED_TEST(Dct4Test, ComputesTheDefinitionWithEveryBodyInTheSecondLevel) {
         const int places[] = {5, length / 3, length - 2};
         for (int place : places) x[static_cast<std::size_t>(place)] = static_cast<TypeParam>(place % 7 + 1);
         const auto y = Planned<TypeParam>(length).run(x);
-        const long long period = 8LL * length;
         double worst = 0;
         for (int k = 0; k < length; ++k) {
             Wide due = 0;
-            for (int place : places) {
-                const auto j = static_cast<int>((2LL * place + 1) * (2LL * k + 1) % period);
-                due += x[static_cast<std::size_t>(place)] * cosTurn(j, static_cast<int>(period));
-            }
+            for (int place : places) due += x[static_cast<std::size_t>(place)] * dct4Factor(place, k, length);
             worst = std::max(worst, static_cast<double>(std::abs(y[static_cast<std::size_t>(k)] - due)));
         }
         EXPECT_LT(worst, 100 * this->unit) << length;
@@ -184,27 +179,22 @@ TYPED_TEST(Dct4Test, LengthNineReadsAndWritesWhatItsPassesSay) {
 
     // The two passes, computed from their formulas.
     const int N = 9, r = 2, M = 4, rows = 2;
-    using Pair = std::pair<Wide, Wide>;
-    std::vector<std::vector<Pair>> C;
+    std::vector<Values> C;
     for (int p = 0; p < r; ++p) {
-        C.emplace_back();
-        for (int k = 0; k < M / 2; ++k) {
-            Pair sum{0, 0};
-            for (int s = 0; s < M; ++s) {
-                const Wide v = s < M / 2 ? x[static_cast<std::size_t>(p + 2 * r * s)]
-                                         : -x[static_cast<std::size_t>(2 * N - 1 - p - 2 * r * s)];
-                sum.first += v * cosTurn(s * (2 * k + 1), 2 * M);
-                sum.second += v * sinTurn(s * (2 * k + 1), 2 * M);
-            }
-            C.back().push_back(sum);
+        Values v;
+        for (int s = 0; s < M; ++s) {
+            v.push_back(s < M / 2 ? x[static_cast<std::size_t>(p + 2 * r * s)]
+                                  : -x[static_cast<std::size_t>(2 * N - 1 - p - 2 * r * s)]);
         }
+        C.push_back(skewTransform(v));
     }
     std::vector<Wide> due(10);
     for (int m = 0; m < rows; ++m) {
         for (int b = 0; b < r; ++b) {
             Wide rising = 0, falling = 0;
             for (int p = 0; p < r; ++p) {
-                const auto [re, im] = C[static_cast<std::size_t>(p)][static_cast<std::size_t>(m)];
+                const Wide re = C[static_cast<std::size_t>(p)][static_cast<std::size_t>(2 * m)],
+                           im = C[static_cast<std::size_t>(p)][static_cast<std::size_t>(2 * m + 1)];
                 // alpha + pi (2p+1) b/(2r), in units of 2 pi/(8 N r).
                 const int turn = (2 * m + 1) * (2 * p + 1) * r + 2 * N * (2 * p + 1) * b;
                 const Wide c = cosTurn(turn, 8 * N * r), s = sinTurn(turn, 8 * N * r);

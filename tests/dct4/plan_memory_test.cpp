@@ -56,27 +56,18 @@ Values decimated(const Values& v, int parts, int c) {
     return u;
 }
 
-// Relative L2 error of number `position` of R skew transforms that are side by side, over about 32 of its bins:
-// C[k] = sum of v[s] exp(2 pi i s (k + 1/2)/M), its real part at 2R k + position, its imaginary part R after it.
+// Relative L2 error of number `position` of R skew transforms that are side by side, over about 32 of its bins: the
+// real part of bin k is at 2R k + position, its imaginary part R after it.
 template <class Element>
 double skewError(const Element* transforms, int R, int position, const Values& v) {
-    const int M = static_cast<int>(v.size()), stride = std::max(1, M / 64) | 1;
-    Values cosines, sines;
-    for (int j = 0; j < 2 * M; ++j) {
-        cosines.push_back(cosTurn(j, 2 * M));
-        sines.push_back(sinTurn(j, 2 * M));
-    }
+    const int M = static_cast<int>(v.size()), stride = std::max(1, M / 64) | 1, first = position % stride;
+    const Values due = skewTransform(v, {first, stride});
     Wide errors = 0, squares = 0;
-    for (int k = position % stride; k < M / 2; k += stride) {
-        Wide re = 0, im = 0;
-        for (int s = 0; s < M; ++s) {
-            const auto turn = static_cast<std::size_t>(static_cast<long long>(s) * (2 * k + 1) % (2 * M));
-            re += v[static_cast<std::size_t>(s)] * cosines[turn];
-            im += v[static_cast<std::size_t>(s)] * sines[turn];
-        }
+    for (std::size_t i = 0; i < due.size(); i += 2) {
+        const int k = first + static_cast<int>(i / 2) * stride;
         const Element* const bin = transforms + static_cast<std::ptrdiff_t>(2) * R * k + position;
-        errors += (bin[0] - re) * (bin[0] - re) + (bin[R] - im) * (bin[R] - im);
-        squares += re * re + im * im;
+        errors += (bin[0] - due[i]) * (bin[0] - due[i]) + (bin[R] - due[i + 1]) * (bin[R] - due[i + 1]);
+        squares += due[i] * due[i] + due[i + 1] * due[i + 1];
     }
     return static_cast<double>(std::sqrt(errors / squares));
 }

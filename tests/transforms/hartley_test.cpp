@@ -60,7 +60,7 @@ TEST_P(HartleyTest, AnImpulseGivesItsRowTimesScale) {
                 source[static_cast<std::size_t>(j)] = 1;
                 const auto found = run(transform, source, flag);
                 for (int k = 0; k < length; ++k) {
-                    const double due = scale * static_cast<double>(cosTurn(j * k, length) + sinTurn(j * k, length));
+                    const double due = scale * static_cast<double>(casTurn(j * k, length));
                     ASSERT_NEAR(found[static_cast<std::size_t>(k)], due, 16 * unit * scale) << j << ", " << k;
                 }
             }

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <vector>
 
 #include "tests/counted.h"
+#include "tests/reference.h"
 
 namespace zulg {
 template <>
@@ -29,9 +29,8 @@ void expectCountsAndValues() {
     zulg::whtPasses<order, CountedNumbers>(source.data(), destination.data(), buffer.data(), Counted(0.5));
     const int half = order << (order - 1);
     EXPECT_EQ(operationCounts, (OperationCounts{half, half, count, 0})) << order;
-    const auto sign = [](int j, int k) { return std::popcount(static_cast<unsigned>(j & k)) % 2 ? -1 : 1; };
     for (int k = 0; k < count; ++k) {
-        const int due = sign(5, k) + 10 * sign(count - 1, k);
+        const int due = walshHadamardSign(5, k) + 10 * walshHadamardSign(count - 1, k);
         ASSERT_EQ(destination[static_cast<std::size_t>(k)].value, 0.5L * due) << order << ", " << k;
     }
 }

@@ -13,7 +13,7 @@
 
 #include "dct4/records.h"
 #include "tests/exports.h"
-#include "tests/fake_core.h"
+#include "tests/fakes/substituted_core.h"
 #include "tests/reference.h"
 
 namespace test {

@@ -1,7 +1,8 @@
 // The five routines: their checks, what a refusal leaves alone, the calls of the core library, the release.
 #include "dct4/release.h"
-#include "tests/plan/fakes.h"
+#include "tests/fakes/zulcore.h"
 #include "tests/plan/plan_fixture.h"
+#include "tests/plan/recorded_runs.h"
 
 namespace test {
 namespace {
@@ -15,6 +16,8 @@ protected:
         core = {};
         runs.clear();
     }
+
+    FakeCore& core = *fakeCore();
 };
 TYPED_TEST_SUITE(PlanLife, Elements, ElementNames);
 
@@ -38,7 +41,7 @@ TYPED_TEST(PlanLife, InitStaysWithinTheReportedSize) {
             EXPECT_TRUE(built.block.guardsStand()) << length << " at " << remainder;
         }
     }
-    EXPECT_TRUE(core.asked.empty());
+    EXPECT_EQ(this->core.allocations, 0);
 }
 
 // A failed build is taken down as if its scratch vectors had been drawn: N elements at the top, and M of a split that
@@ -68,7 +71,7 @@ TYPED_TEST(PlanLife, RefusedInitLeavesThePlanAndReleasesWhatWasNeverDrawn) {
         EXPECT_EQ(block.cursorOffset(), 64 - perType<TypeParam>(refused.single, refused.twice)) << refused.length;
         EXPECT_TRUE(block.guardsStand()) << refused.length;
     }
-    EXPECT_TRUE(core.freed.empty());
+    EXPECT_EQ(this->core.releases, 0);
 }
 
 // Init accepts exactly those lengths that GetSize accepts.
@@ -90,40 +93,62 @@ TYPED_TEST(PlanLife, InitAllocChecksPointerAndLength) {
     EXPECT_EQ(dct4InitAlloc<TypeParam>(&plan, 12), StatusSizeError);
     EXPECT_EQ(dct4InitAlloc<TypeParam>(&plan, -6), StatusSizeError);
     EXPECT_EQ(plan, untouched);
-    EXPECT_TRUE(core.asked.empty());
-    EXPECT_TRUE(core.freed.empty());
+    EXPECT_EQ(this->core.allocations, 0);
+    EXPECT_EQ(this->core.releases, 0);
 }
 
 TYPED_TEST(PlanLife, InitAllocAsksForTheReportedSizeAndFreeGivesItBack) {
     for (const std::int32_t length : builtLengths()) {
-        core = {};
+        this->core = {};
         DctPlan* plan = untouched;
         ASSERT_EQ(dct4InitAlloc<TypeParam>(&plan, length), StatusOk) << length;
-        ASSERT_EQ(core.asked.size(), 1u);
-        EXPECT_EQ(core.asked[0], static_cast<std::uint32_t>(reportedSize<TypeParam>(length)));
+        ASSERT_EQ(this->core.allocations, 1);
+        EXPECT_EQ(this->core.bytes, static_cast<std::uint32_t>(reportedSize<TypeParam>(length)));
         EXPECT_EQ(plan->length, length);
-        EXPECT_EQ(reinterpret_cast<void*>(plan->head.arena.get()), core.given[0]);
-        EXPECT_TRUE(core.freed.empty());
+        EXPECT_EQ(reinterpret_cast<void*>(plan->head.arena.get()), this->core.block);
+        EXPECT_EQ(this->core.releases, 0);
         const auto root = reinterpret_cast<std::uintptr_t>(plan);
         EXPECT_EQ(dct4Free<TypeParam>(plan), StatusOk);
-        EXPECT_EQ(core.freed, core.given);
+        EXPECT_EQ(this->core.allocations, 1);
+        EXPECT_EQ(this->core.releases, 1);
+        EXPECT_EQ(this->core.released, this->core.block);
         // The walk ends where the build began.
-        EXPECT_EQ(core.cursorAtFree, root) << length;
+        EXPECT_EQ(this->core.firstWord, root) << length;
+    }
+}
+
+// The core library may give any address. Below 2 GiB the reported size is enough at each.
+TYPED_TEST(PlanLife, InitAllocTakesABlockAtAnyAddress) {
+    for (const std::int32_t length : {2, 9, 64, 4096, 131072}) {
+        for (std::uintptr_t remainder = 0; remainder < 32; ++remainder) {
+            this->core = {};
+            this->core.remainder = remainder;
+            DctPlan* plan = untouched;
+            ASSERT_EQ(dct4InitAlloc<TypeParam>(&plan, length), StatusOk) << length;
+            const auto block = reinterpret_cast<std::uintptr_t>(this->core.block);
+            EXPECT_EQ(block % 32, remainder);
+            const auto* const arena = reinterpret_cast<const PlanArena*>(this->core.block);
+            EXPECT_LE(arenaCursor(arena) - block, this->core.bytes) << length << " at " << remainder;
+            EXPECT_EQ(dct4Free<TypeParam>(plan), StatusOk);
+            EXPECT_EQ(this->core.released, this->core.block);
+        }
     }
 }
 
 TYPED_TEST(PlanLife, RefusedMemoryIsANullPointer) {
-    core.refusing = true;
+    this->core.refuses = true;
     DctPlan* plan = untouched;
     EXPECT_EQ(dct4InitAlloc<TypeParam>(&plan, 64), StatusNullPointer);
     EXPECT_EQ(plan, untouched);
-    EXPECT_EQ(core.asked, std::vector<std::uint32_t>{perType<TypeParam>(1184u, 1696u)});
-    EXPECT_EQ(core.freed, std::vector<void*>{nullptr});
+    EXPECT_EQ(this->core.allocations, 1);
+    EXPECT_EQ(this->core.bytes, perType<TypeParam>(1184u, 1696u));
+    EXPECT_EQ(this->core.releases, 1);
+    EXPECT_EQ(this->core.released, nullptr);
 }
 
 TYPED_TEST(PlanLife, FreeRefusesANullPointer) {
     EXPECT_EQ(dct4Free<TypeParam>(nullptr), StatusNullPointer);
-    EXPECT_TRUE(core.freed.empty());
+    EXPECT_EQ(this->core.releases, 0);
 }
 
 // The root's own `free` leaves the root: 44 bytes, one block of 64.

@@ -2,7 +2,7 @@
 // other promises are.
 #include <gtest/gtest.h>
 
-#include "tests/fake_core.h"
+#include "tests/fakes/substituted_core.h"
 #include "tests/stack_depth.h"
 #include "tests/transforms/transform.h"
 

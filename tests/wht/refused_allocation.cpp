@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "tests/exports.h"
-#include "tests/fake_core.h"
+#include "tests/fakes/substituted_core.h"
 
 #ifdef _WIN32
 #include <windows.h>

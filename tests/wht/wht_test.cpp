@@ -9,7 +9,7 @@
 #include <random>
 
 #include "tests/exports.h"
-#include "tests/fake_core.h"
+#include "tests/fakes/substituted_core.h"
 #include "tests/memory.h"
 #include "tests/reference.h"
 #include "tests/transforms/kernel_fixture.h"
@@ -282,6 +282,20 @@ TYPED_TEST(WhtTest, WithoutABufferTakesOneOfTheReportedSizeAndGivesItBack) {
         bufferSize(order, &size);
         EXPECT_EQ(this->core.bytes, static_cast<std::uint32_t>(size)) << order;
         EXPECT_EQ(this->core.block, this->core.released) << order;
+    }
+}
+
+TYPED_TEST(WhtTest, WithoutABufferTakesOneAtAnyAddress) {
+    for (int order = 8; order <= 13; ++order) {
+        const auto source = this->randomElements(order);
+        const auto due = this->run(order, source, NoDivByAny);
+        for (std::uintptr_t remainder = 0; remainder < 64; ++remainder) {
+            this->core.remainder = remainder;
+            std::vector<TypeParam> found(source.size());
+            EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, nullptr), StatusOk);
+            EXPECT_EQ(reinterpret_cast<std::uintptr_t>(this->core.block) % 64, remainder);
+            EXPECT_EQ(found, due) << order << ", " << remainder;
+        }
     }
 }
 

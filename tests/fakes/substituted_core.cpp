@@ -1,4 +1,4 @@
-#include "tests/fake_core.h"
+#include "tests/fakes/substituted_core.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
 #include <random>
 #include <sstream>
 
 #include "output/emit.h"
+#include "tests/generator/expected.h"
 #include "tests/reference.h"
 
 namespace test {
@@ -20,33 +20,15 @@ std::vector<gen::GraphEntry> bodies() {
     return graphs;
 }
 
-struct BodyRow {
-    std::string family;
-    int length, sums, products;
-};
-
-std::vector<BodyRow> expectedBodies() {
-    std::ifstream file(std::string(ZULG_EXPECTED) + "/bodies.txt");
-    std::vector<BodyRow> rows;
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with("#")) continue;
-        BodyRow row;
-        char bar;
-        std::istringstream(line) >> row.family >> bar >> row.length >> bar >> row.sums >> bar >> row.products;
-        rows.push_back(row);
-    }
-    return rows;
-}
-
 TEST(Bodies, AreThoseOfTheTable) {
     const auto graphs = bodies();
-    const auto rows = expectedBodies();
+    const auto rows = expectedRows("bodies");
     ASSERT_EQ(graphs.size(), rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(graphs[i].name(), rows[i].family + " " + std::to_string(rows[i].length));
+        EXPECT_EQ(graphs[i].name(), rows[i].text("family") + " " + rows[i].text("length"));
         const gen::Counts counts = graphs[i].build()->counts();
-        EXPECT_EQ(counts.additions + counts.subtractions, rows[i].sums) << graphs[i].name();
-        EXPECT_EQ(counts.multiplications, rows[i].products) << graphs[i].name();
+        EXPECT_EQ(counts.additions + counts.subtractions, rows[i].number("sums")) << graphs[i].name();
+        EXPECT_EQ(counts.multiplications, rows[i].number("multiplications")) << graphs[i].name();
     }
 }
 

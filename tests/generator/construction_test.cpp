@@ -75,19 +75,21 @@ protected:
 
 TEST_P(Construction, IsTheOneOfTheTable) {
     const ExpectedRow row = expectedRow();
-    ASSERT_EQ(row.length, entry.length);
+    ASSERT_EQ(row.number("length"), entry.length);
     if (const auto other = otherRecipes.find(entry.name()); other != otherRecipes.end()) {
         EXPECT_EQ(entry.recipe(), other->second.first);
-        EXPECT_EQ(row.construction, other->second.second);
+        EXPECT_EQ(row.text("construction"), other->second.second);
     } else {
-        EXPECT_EQ(entry.recipe(), (entry.family->word == "hartley" ? "form " : "") + row.construction);
+        EXPECT_EQ(entry.recipe(),
+                  entry.family->word == "hartley" ? "form " + row.text("form") : row.text("construction"));
     }
 }
 
-// The families whose tables give the split into additions and subtractions.
+// The split into additions and subtractions, of the families whose tables give it.
 void expectSplit(const gen::GraphEntry& entry, const gen::Counts& counts, const ExpectedRow& row) {
-    EXPECT_EQ(counts.additions + counts.subtractions, row.figures[0] + row.figures[1]);
-    const std::pair found{counts.additions, counts.subtractions}, due{row.figures[0], row.figures[1]};
+    const std::pair found{counts.additions, counts.subtractions},
+        due{row.number("additions"), row.number("subtractions")};
+    EXPECT_EQ(found.first + found.second, due.first + due.second);
     const auto other = otherSplits.find(entry.name());
     EXPECT_EQ(found, other == otherSplits.end() ? due : other->second.first);
     EXPECT_EQ(due, other == otherSplits.end() ? due : other->second.second);
@@ -95,21 +97,18 @@ void expectSplit(const gen::GraphEntry& entry, const gen::Counts& counts, const 
 
 TEST_P(Construction, HoldsTheCountsOfTheTable) {
     const ExpectedRow row = expectedRow();
-    const int products = counts.multiplications + outputs;
+    EXPECT_EQ(counts.multiplications + outputs, row.number("multiplications"));
     if (entry.family->word == "complex") {
         expectSplit(entry, counts, row);
-        EXPECT_EQ(row.figures[0] + row.figures[1], row.figures[2]);
-        EXPECT_EQ(products, row.figures[3]);
+        EXPECT_EQ(counts.additions + counts.subtractions, row.number("sums"));
         EXPECT_EQ(counts.negations, 0);
     } else if (entry.family->word == "hartley") {
         expectSplit(entry, counts, row);
-        EXPECT_EQ(products, row.figures[2]);
-        EXPECT_EQ(counts.constants + 1, row.figures[3]);
+        EXPECT_EQ(counts.constants + 1, row.number("constants"));
         EXPECT_EQ(counts.negations, 0);
     } else {
-        EXPECT_EQ(counts.additions + counts.subtractions, row.figures[0]);
-        EXPECT_EQ(products, row.figures[1]);
-        EXPECT_EQ(counts.negations, row.figures[2]);
+        EXPECT_EQ(counts.additions + counts.subtractions, row.number("sums"));
+        EXPECT_EQ(counts.negations, row.number("negations"));
     }
 }
 

@@ -7,7 +7,7 @@
 namespace test {
 namespace {
 
-std::vector<std::string> cells(const std::string& line) {
+std::vector<std::string> cellsOf(const std::string& line) {
     std::vector<std::string> result;
     std::istringstream stream(line);
     for (std::string cell; std::getline(stream, cell, '|');) {
@@ -22,13 +22,18 @@ std::vector<std::string> cells(const std::string& line) {
 std::vector<ExpectedRow> expectedRows(const std::string& name) {
     std::ifstream file(std::string(ZULG_EXPECTED) + "/" + name + ".txt");
     if (!file) throw std::runtime_error("no expected table " + name);
+    std::vector<std::string> columns;
     std::vector<ExpectedRow> rows;
     for (std::string line; std::getline(file, line);) {
-        if (line.empty() || line[0] == '#') continue;
-        const auto row = cells(line);
-        ExpectedRow expected{std::stoi(row.at(0)), row.at(1), {}};
-        for (std::size_t i = 2; i < row.size(); ++i) expected.figures.push_back(std::stoi(row[i]));
-        rows.push_back(expected);
+        if (line.starts_with("# ")) {
+            columns = cellsOf(line.substr(2));
+            continue;
+        }
+        const auto cells = cellsOf(line);
+        if (cells.size() != columns.size()) throw std::runtime_error("table " + name + ", row: " + line);
+        ExpectedRow row;
+        for (std::size_t i = 0; i < cells.size(); ++i) row.cells[columns[i]] = cells[i];
+        rows.push_back(row);
     }
     return rows;
 }

@@ -15,25 +15,20 @@ import sys
 
 import catalogue
 from binary import Library
+from expected import expected_rows
 
 sys.path.insert(0, sys.argv[-1])
 import machine  # of the target
 
 
-# Which cells of a row, counted after the construction, add up to the sums, and which holds the products.
-COLUMNS = {"complex": ((0, 1), 3), "real_forward": ((0,), 1), "real_inverse": ((0,), 1), "hartley": ((0, 1), 2)}
-
-
-def expected_rows(folder, family):
-    """length -> (sums, products), those of `scale` included."""
-    rows = {}
-    with open(os.path.join(folder, family + ".txt"), encoding="ascii") as file:
-        for line in file:
-            cells = [cell.strip() for cell in line.split("|")]
-            if not line.startswith("#"):
-                sums, products = COLUMNS[family]
-                rows[int(cells[0])] = (sum(int(cells[2 + cell]) for cell in sums), int(cells[2 + products]))
-    return rows
+def due_counts(folder, table):
+    """length or order -> (sums, products, (loops, calls)), those by `scale` included."""
+    due = {}
+    for row in expected_rows(os.path.join(folder, table + ".txt")):
+        sums = int(row["sums"]) if "sums" in row else int(row["additions"]) + int(row["subtractions"])
+        granted = int(row.get("loops", 0)), int(row.get("calls", 0))
+        due[int(row["order" if table == "wht" else "length"])] = sums, int(row["multiplications"]), granted
+    return due
 
 
 def counted(library, instructions, may_negate, granted=(0, 0)):
@@ -96,32 +91,17 @@ def table_of(export):
     return "complex" if export["element"].endswith("c") else export["family"].lower()
 
 
-def wht_rows(folder):
-    """order -> (sums, products, (loops, calls))."""
-    rows = {}
-    with open(os.path.join(folder, "wht.txt"), encoding="ascii") as file:
-        for line in file:
-            if not line.startswith("#"):
-                order, additions, subtractions, products, loops, calls = (int(cell) for cell in line.split("|"))
-                rows[order] = (additions + subtractions, products, (loops, calls))
-    return rows
-
-
-def faults_of(library, export, tables):
-    name, table = export["name"], table_of(export)
-    routine = library.routine(library.word(library.slot_address(name)))
-    if table == "wht":
-        sums, products, granted = tables[table][export["order"]]
-    else:
-        sums, products = tables[table][export["length"]]
-        granted = (0, 0)
-    found_sums, found_products, faults = counted(library, routine, table == "real_forward", granted)
-    if (found_sums, found_products) != (sums, products):
-        faults.append(f"{found_sums} sums, {found_products} products; due are {sums}, {products}")
-    if table == "real_inverse" and export["length"] != 2:
-        due, found = {int(export["element"][:2])}, stored_twos(library, routine)
-        if found != due:
-            faults.append(f"a 2 is stored in bits: {sorted(found)}; due are {sorted(due)}")
+def faults_of(library, export, due):
+    """What is wrong with one kernel. due: a row of due_counts."""
+    due_sums, due_products, granted = due
+    routine = library.routine(library.word(library.slot_address(export["name"])))
+    sums, products, faults = counted(library, routine, table_of(export) == "real_forward", granted)
+    if (sums, products) != (due_sums, due_products):
+        faults.append(f"{sums} sums, {products} products; due are {due_sums}, {due_products}")
+    if table_of(export) == "real_inverse" and export["length"] != 2:
+        widths, found = {int(export["element"][:2])}, stored_twos(library, routine)
+        if found != widths:
+            faults.append(f"a 2 is stored in bits: {sorted(found)}; due are {sorted(widths)}")
     return faults
 
 
@@ -131,12 +111,12 @@ KERNELS = 2 * (9 * 63 + 13)  # nine families of lengths 2 to 64, 13 orders
 def main():
     path, objdump, folder, _ = sys.argv[1:]
     library = Library(path, objdump)
-    tables = {family: expected_rows(folder, family) for family in COLUMNS}
-    tables["wht"] = wht_rows(folder)
     kernels = catalogue.kernels()
+    due = {table: due_counts(folder, table) for table in {table_of(export) for export in kernels}}
     failures = 0
     for export in kernels:
-        faults = faults_of(library, export, tables)
+        size = export["order"] if export["length"] is None else export["length"]
+        faults = faults_of(library, export, due[table_of(export)][size])
         if faults:
             failures += 1
             print(f"{export['name']}: " + "; ".join(faults[:5]))

@@ -24,4 +24,10 @@ using Kernel = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::i
 template <class Element>
 using Dispatcher = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
+template <class Element>
+using WhtKernel = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
+template <class Element>
+using WhtDispatcher = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
+                                             Element* pBuffer);
+
 }  // namespace test

@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "dct4/records.h"
+#include "tests/elements.h"
 #include "tests/exports.h"
 #include "tests/fakes/substituted_core.h"
 #include "tests/reference.h"
@@ -20,7 +20,7 @@ namespace test {
 
 template <class Element>
 struct Routines {
-    static std::string name(const char* stem) { return std::string(stem) + (sizeof(Element) == 4 ? "_32f" : "_64f"); }
+    static std::string name(const char* stem) { return exportedName<Element>(stem); }
 
     using Plan = zulg::DctPlan;
     ZulgStatus(ZULG_CALL* getSize)(std::int32_t, std::int32_t*) = exported<decltype(getSize)>(name("zulgDCT4GetSize"));
@@ -67,30 +67,20 @@ Record& recordIn(const zulg::PlanListNode* list) {
 }
 
 template <class Element>
-class Dct4Test : public testing::Test {
+class Dct4Test : public ElementTest<Element> {
 protected:
     static void SetUpTestSuite() { substitutedCore(); }
     void SetUp() override { core = {}; }
 
     FakeCore& core = substitutedCore();
     const Routines<Element>& dct4 = routines<Element>();
-    static constexpr bool isSingle = sizeof(Element) == 4;
-    const double unit = std::ldexp(1.0, isSingle ? -24 : -53);
-    std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
-
-    std::vector<Element> randomElements(int count) {
-        std::normal_distribution<double> normal;
-        std::vector<Element> x;
-        for (int i = 0; i < count; ++i) x.push_back(static_cast<Element>(normal(random)));
-        return x;
-    }
 
     // Relative L2 error over all bins, or over some of them where the length is great.
     double relativeError(int length, int rounds) {
         Planned<Element> planned(length);
         Wide errors = 0, squares = 0;
         for (int round = 0; round < rounds; ++round) {
-            const auto x = randomElements(length);
+            const auto x = this->randomElements(length);
             const auto y = planned.run(x);
             const int step = std::max(1, length / 512) | 1;
             const Values due = dct4Transform({x.begin(), x.end()}, {round % step, step});
@@ -103,7 +93,5 @@ protected:
         return static_cast<double>(std::sqrt(errors / squares));
     }
 };
-
-using Elements = testing::Types<float, double>;
 
 }  // namespace test

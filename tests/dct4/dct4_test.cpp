@@ -13,7 +13,7 @@
 namespace test {
 namespace {
 
-TYPED_TEST_SUITE(Dct4Test, Elements);
+TYPED_TEST_SUITE(Dct4Test, Elements, ElementNames);
 
 // Every length up to one with two levels of SkewSplit.
 TYPED_TEST(Dct4Test, ComputesTheDefinitionAtEveryPowerOfTwo) {
@@ -30,7 +30,7 @@ TYPED_TEST(Dct4Test, IsAccurate) {
                 {1024, 20, 1.5, 2.79}, {4096, 6, 1.7, 3.02}, {65536, 2, 1.8, 3.54}};
     for (const auto& row : rows) {
         const double error = this->relativeError(row.length, row.rounds) / this->unit;
-        EXPECT_LE(error, this->isSingle ? row.bound32 : row.bound64) << row.length;
+        EXPECT_LE(error, perType<TypeParam>(row.bound32, row.bound64)) << row.length;
         this->RecordProperty("length" + std::to_string(row.length), std::to_string(error));
     }
 }
@@ -81,19 +81,15 @@ TYPED_TEST(Dct4Test, LengthTwoHasNoFactor) {
 
 // The lifting constants of length 4 and the cosines of length 2 are of the element's width.
 TYPED_TEST(Dct4Test, FixedConstantsHaveTheWidthOfTheElement) {
-    const auto rounded = [](double x) {
-        volatile TypeParam narrow = static_cast<TypeParam>(x);
-        return static_cast<double>(narrow);
-    };
     const auto y = Planned<TypeParam>(2).run({1, 0});
-    EXPECT_EQ(y[0], rounded(0.9238795325112867));
-    EXPECT_EQ(y[1], rounded(0.3826834323650898));
+    EXPECT_EQ(y[0], rounded<TypeParam>(0.9238795325112867));
+    EXPECT_EQ(y[1], rounded<TypeParam>(0.3826834323650898));
     // x = (0, 0, 0, 1): t0 = -a, t1 = 1 - A a, so that y[0] = t1.
-    const double a = rounded(0.8206787908286603), A = rounded(0.9807852804032304);
+    const double a = rounded<TypeParam>(0.8206787908286603), A = rounded<TypeParam>(0.9807852804032304);
     volatile double product = A * a;
-    volatile TypeParam due = static_cast<TypeParam>(1 - product);
+    const TypeParam due = rounded<TypeParam>(1 - product);
     const auto lifted = Planned<TypeParam>(4).run({0, 0, 0, 1});
-    EXPECT_NEAR(lifted[0], due, this->isSingle ? 1e-9 : 1e-16);
+    EXPECT_NEAR(lifted[0], due, perType<TypeParam>(1e-9, 1e-16));
 }
 
 TYPED_TEST(Dct4Test, TwiceGivesHalfTheLengthTimesTheInput) {

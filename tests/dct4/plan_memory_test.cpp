@@ -98,7 +98,7 @@ protected:
     }
 };
 
-TYPED_TEST_SUITE(PlanMemoryTest, Elements);
+TYPED_TEST_SUITE(PlanMemoryTest, Elements, ElementNames);
 
 TYPED_TEST(PlanMemoryTest, TheTransformsOfTheFirstPassAreInT) {
     for (int length = 64; length <= 1 << 20; length *= 2) {

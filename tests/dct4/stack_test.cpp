@@ -12,7 +12,7 @@ namespace {
 
 template <class Element>
 class Dct4StackTest : public Dct4Test<Element> {};
-TYPED_TEST_SUITE(Dct4StackTest, Elements);
+TYPED_TEST_SUITE(Dct4StackTest, Elements, ElementNames);
 
 // The header promises this for every length. The plans here have up to three levels; one more level takes 200 bytes.
 constexpr int longest = 1 << 22;

@@ -53,19 +53,14 @@ TEST_P(KernelOverlap, OfAnyDistanceIsHarmless) {
 INSTANTIATE_TEST_SUITE_P(All, KernelOverlap, testing::ValuesIn(allTransforms()), testName);
 
 template <class Element>
-class Overlap : public testing::Test {
-protected:
-    static std::string suffix() { return sizeof(Element) == 4 ? "_32f" : "_64f"; }
-};
-using Elements = testing::Types<float, double>;
-TYPED_TEST_SUITE(Overlap, Elements);
+class Overlap : public testing::Test {};
+TYPED_TEST_SUITE(Overlap, Elements, ElementNames);
 
 TYPED_TEST(Overlap, OfWalshHadamardIsHarmless) {
-    using WhtKernel = ZulgStatus(ZULG_CALL*)(const TypeParam*, TypeParam*, std::int32_t flag, TypeParam*);
     std::vector<TypeParam> buffer((1 << 13) + 1024);
     for (int order = 1; order <= 13; ++order) {
-        const std::string name = "zulgWHT_" + std::to_string(order) + this->suffix();
-        const auto kernel = exported<WhtKernel>(name);
+        const std::string name = exportedName<TypeParam>("zulgWHT_" + std::to_string(order));
+        const auto kernel = exported<WhtKernel<TypeParam>>(name);
         for (TypeParam* pBuffer : {buffer.data(), static_cast<TypeParam*>(nullptr)}) {
             expectAnyOverlapToWork<TypeParam>(name, 1 << order, 1 << order,
                                               [&](const TypeParam* pSrc, TypeParam* pDst) {
@@ -81,14 +76,14 @@ TYPED_TEST(Overlap, OfDct4IsHarmless) {
     using InitAlloc = ZulgStatus(ZULG_CALL*)(void**, std::int32_t);
     using RunPlan = ZulgStatus(ZULG_CALL*)(const TypeParam*, TypeParam*, void*);
     using Free = ZulgStatus(ZULG_CALL*)(void*);
-    const auto run = exported<RunPlan>("zulgDCT4" + this->suffix());
+    const auto run = exported<RunPlan>(exportedName<TypeParam>("zulgDCT4"));
     for (int length = 2; length <= 131072; length *= 2) {
         void* plan = nullptr;
-        ASSERT_EQ(exported<InitAlloc>("zulgDCT4InitAlloc" + this->suffix())(&plan, length), StatusOk);
+        ASSERT_EQ(exported<InitAlloc>(exportedName<TypeParam>("zulgDCT4InitAlloc"))(&plan, length), StatusOk);
         expectAnyOverlapToWork<TypeParam>(
             "length " + std::to_string(length), length, length,
             [&](const TypeParam* pSrc, TypeParam* pDst) { ASSERT_EQ(run(pSrc, pDst, plan), StatusOk); });
-        EXPECT_EQ(exported<Free>("zulgDCT4Free" + this->suffix())(plan), StatusOk);
+        EXPECT_EQ(exported<Free>(exportedName<TypeParam>("zulgDCT4Free"))(plan), StatusOk);
     }
 }
 

@@ -63,7 +63,7 @@ TEST(RecordLayout, OneWordToAField) {
 }
 
 template <class Element>
-class PlanBuild : public PlanTest<Element> {};
+class PlanBuild : public ElementTest<Element> {};
 TYPED_TEST_SUITE(PlanBuild, Elements, ElementNames);
 
 // The whole tree, in the order of drawing: root, its three heads, then for each stage its record, heads, nodes, table.

@@ -10,7 +10,7 @@ namespace {
 using namespace zulg;
 
 template <class Element>
-class PlanLife : public PlanTest<Element> {
+class PlanLife : public ElementTest<Element> {
 protected:
     PlanLife() {
         core = {};

@@ -9,6 +9,7 @@
 
 #include "dct4/dct4.h"
 #include "dct4/records.h"
+#include "tests/elements.h"
 
 namespace test {
 
@@ -66,22 +67,6 @@ struct BuiltPlan {
     GuardedBlock block;
     DctPlan* plan = nullptr;
 };
-
-template <class Element>
-class PlanTest : public testing::Test {};
-struct ElementNames {
-    template <class Element>
-    static std::string GetName(int) {
-        return sizeof(Element) == sizeof(float) ? "32f" : "64f";
-    }
-};
-using Elements = testing::Types<float, double>;
-
-// By width: what is due for 32f and for 64f.
-template <class Element, class Value>
-Value perType(Value single, Value twice) {
-    return sizeof(Element) == sizeof(float) ? single : twice;
-}
 
 // A kind as the number that it is in a record.
 template <class Kind>

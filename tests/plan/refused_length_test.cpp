@@ -8,7 +8,7 @@ namespace test {
 namespace {
 
 template <class Element>
-class RefusedLength : public PlanTest<Element> {
+class RefusedLength : public ElementTest<Element> {
 protected:
     // Bytes from the beginning of the block to the last one that Init has written.
     static std::ptrdiff_t writtenBytes(std::int32_t length, std::size_t remainder, std::size_t room) {

@@ -8,7 +8,7 @@ namespace test {
 namespace {
 
 template <class Element>
-class PlanSize : public PlanTest<Element> {};
+class PlanSize : public ElementTest<Element> {};
 TYPED_TEST_SUITE(PlanSize, Elements, ElementNames);
 
 TYPED_TEST(PlanSize, Table) {

@@ -33,7 +33,7 @@ std::vector<double> argumentsOf(std::int32_t length) {
 }
 
 template <class Element>
-class TableArgumentsTest : public testing::Test {};
+class TableArgumentsTest : public ElementTest<Element> {};
 TYPED_TEST_SUITE(TableArgumentsTest, Elements, ElementNames);
 
 TYPED_TEST(TableArgumentsTest, AreTheSameAtAnyWidthOfRegisters) {

@@ -12,14 +12,6 @@ namespace test {
 namespace {
 
 using namespace zulg;
-using Wide = long double;
-
-// The value goes through memory: on some targets registers are wider, and the result of a cast may stay in one.
-template <class Number>
-Number rounded(Wide x) {
-    volatile Number stored = static_cast<Number>(x);
-    return stored;
-}
 
 // The cosine and the sine of pi times a fraction. The fraction is rounded to double and to the element, its product
 // with pi to double; the rest is exact but for the last step.
@@ -38,7 +30,7 @@ struct Angle {
 
 template <class Element>
 std::int64_t ordinal(Element x) {
-    if constexpr (sizeof(Element) == 4) {
+    if constexpr (isSingle<Element>) {
         std::int32_t bits;
         std::memcpy(&bits, &x, 4);
         return bits < 0 ? -std::int64_t{bits & 0x7FFFFFFF} : bits;
@@ -71,7 +63,7 @@ public:
     // entries differ.
     void close(const void* end) const {
         EXPECT_LE(worst, 1);
-        EXPECT_LE(different, sizeof(Element) == sizeof(float) ? 1 + entries / 1000 : entries);
+        EXPECT_LE(different, isSingle<Element> ? 1 + entries / 1000 : entries);
         EXPECT_EQ(static_cast<const void*>(at), end);
     }
 
@@ -124,7 +116,7 @@ void checkCombineTable(const CombineStage& stage) {
         case 8: section(1, 7, 0.25); break;
         case 16: section(1, 3, 0.5), section(4, 3, 0.125); break;
         case 32:
-            if (sizeof(Element) == 4) {
+            if (isSingle<Element>) {
                 section(8, 3, 0.0625), section(1, 7, 0.25);
             } else {
                 section(1, 7, 0.25), section(8, 3, 0.0625);
@@ -140,7 +132,7 @@ const SkewSplit* splitOf(const PlanListNode* children) {
 }
 
 template <class Element>
-class Tables : public PlanTest<Element> {};
+class Tables : public ElementTest<Element> {};
 TYPED_TEST_SUITE(Tables, Elements, ElementNames);
 
 TYPED_TEST(Tables, OfEveryLength) {

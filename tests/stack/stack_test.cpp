@@ -63,22 +63,15 @@ TEST_F(Stack, OfKernelsAndTheirDispatchers) {
 }
 
 template <class Element>
-class StackOfElement : public Stack {
-protected:
-    static std::string suffix() { return sizeof(Element) == 4 ? "_32f" : "_64f"; }
-};
-using Elements = testing::Types<float, double>;
-TYPED_TEST_SUITE(StackOfElement, Elements);
+class StackOfElement : public Stack {};
+TYPED_TEST_SUITE(StackOfElement, Elements, ElementNames);
 
 TYPED_TEST(StackOfElement, OfWalshHadamard) {
-    using WhtKernel = ZulgStatus(ZULG_CALL*)(const TypeParam*, TypeParam*, std::int32_t flag, TypeParam*);
-    using WhtDispatcher =
-        ZulgStatus(ZULG_CALL*)(const TypeParam*, TypeParam*, std::int32_t order, std::int32_t flag, TypeParam*);
     std::vector<TypeParam> source(1 << 13), destination(1 << 13), buffer((1 << 13) + 1024);
-    const auto dispatcher = exported<WhtDispatcher>("zulgWHT" + this->suffix());
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>(exportedName<TypeParam>("zulgWHT"));
     for (int order = 1; order <= 13; ++order) {
-        const std::string name = "zulgWHT_" + std::to_string(order) + this->suffix();
-        const auto kernel = exported<WhtKernel>(name);
+        const std::string name = exportedName<TypeParam>("zulgWHT_" + std::to_string(order));
+        const auto kernel = exported<WhtKernel<TypeParam>>(name);
         const auto depth = stackDepth([&] { kernel(source.data(), destination.data(), NoDivByAny, buffer.data()); });
         expectAtMost(2048, depth, name);
         const auto dispatched =
@@ -92,10 +85,10 @@ TYPED_TEST(StackOfElement, OfPlans) {
     using Init = ZulgStatus(ZULG_CALL*)(void**, std::int32_t, std::uint8_t*);
     using Free = ZulgStatus(ZULG_CALL*)(void*);
     using InitAlloc = ZulgStatus(ZULG_CALL*)(void**, std::int32_t);
-    const auto getSize = exported<GetSize>("zulgDCT4GetSize" + this->suffix());
-    const auto init = exported<Init>("zulgDCT4Init" + this->suffix());
-    const auto initAlloc = exported<InitAlloc>("zulgDCT4InitAlloc" + this->suffix());
-    const auto free = exported<Free>("zulgDCT4Free" + this->suffix());
+    const auto getSize = exported<GetSize>(exportedName<TypeParam>("zulgDCT4GetSize"));
+    const auto init = exported<Init>(exportedName<TypeParam>("zulgDCT4Init"));
+    const auto initAlloc = exported<InitAlloc>(exportedName<TypeParam>("zulgDCT4InitAlloc"));
+    const auto free = exported<Free>(exportedName<TypeParam>("zulgDCT4Free"));
     for (std::int32_t length = 2; length <= 1 << 22; length *= 2) {
         const std::string name = "length " + std::to_string(length);
         std::int32_t bytes = 0;

@@ -37,17 +37,4 @@ protected:
     }
 };
 
-// Rounds to the element, through memory: the result of a cast may stay in a wider register.
-template <class Element>
-Element rounded(Wide value) {
-    volatile Element element = static_cast<Element>(value);
-    return element;
-}
-
-// Compares bit patterns, so that -0.0 and 0.0 differ and a not-a-number equals itself.
-template <class Element>
-bool sameBits(const std::vector<Element>& a, const std::vector<Element>& b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(Element)) == 0;
-}
-
 }  // namespace test

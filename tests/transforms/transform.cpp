@@ -16,8 +16,8 @@ constexpr auto inverses = [] {
 }();
 
 constexpr auto inverseRoots = [] {
-    std::array<double, 65> table{};
-    for (int n = 1; n <= 64; ++n) table[static_cast<std::size_t>(n)] = 1.0 / __builtin_sqrt(static_cast<double>(n));
+    std::array<double, most + 1> table{};
+    for (int n = 1; n <= most; ++n) table[static_cast<std::size_t>(n)] = 1.0 / __builtin_sqrt(static_cast<double>(n));
     return table;
 }();
 

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/elements.h"
 #include "tests/exports.h"
 #include "tests/reference.h"
 
@@ -82,22 +83,6 @@ Element storedScale(const Transform& transform, int flag) {
     const bool divides = (flag == DivFwdByN && transform.direction != Direction::Inverse) ||
                          (flag == DivInvByN && transform.direction != Direction::Forward);
     return divides ? storedInverse<Element>(transform.length) : Element{1};
-}
-
-// Normally distributed, at a scale drawn anew from one octave: the relative error of even a correctly rounded result
-// depends on its position between two powers of two, and no length is to be judged by that. The seed is part of each
-// failure's trace.
-template <class Element>
-std::vector<Element> randomElements(int count, std::mt19937& random) {
-    std::normal_distribution<double> normal(0, std::exp2(std::uniform_real_distribution<double>(-0.5, 0.5)(random)));
-    std::vector<Element> elements;
-    for (int i = 0; i < count; ++i) elements.push_back(static_cast<Element>(normal(random)));
-    return elements;
-}
-
-template <class Element>
-Values widened(const std::vector<Element>& elements) {
-    return {elements.begin(), elements.end()};
 }
 
 // One call into fresh, separate arrays.

@@ -8,6 +8,7 @@
 #include <limits>
 #include <random>
 
+#include "tests/elements.h"
 #include "tests/exports.h"
 #include "tests/fakes/substituted_core.h"
 #include "tests/memory.h"
@@ -23,21 +24,11 @@
 namespace test {
 namespace {
 
-template <class Element>
-using WhtKernel = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
-template <class Element>
-using WhtDispatcher = ZulgStatus(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
-                                             Element* pBuffer);
 using BufferSize = ZulgStatus(ZULG_CALL*)(std::int32_t order, std::int32_t* pSize);
 
 template <class Element>
-std::string suffix() {
-    return sizeof(Element) == 4 ? "_32f" : "_64f";
-}
-
-template <class Element>
 WhtKernel<Element> kernelOf(int order) {
-    return exported<WhtKernel<Element>>("zulgWHT_" + std::to_string(order) + suffix<Element>());
+    return exported<WhtKernel<Element>>(exportedName<Element>("zulgWHT_" + std::to_string(order)));
 }
 
 // The elements of the buffer of each order: a main area, and after it a scratch area at 12 and 13.
@@ -46,31 +37,22 @@ int bufferElements(int order) {
     return (1 << order) + (order == 12 ? 256 : order == 13 ? 1024 : 0);
 }
 
-double storedFactor(int order, int flag, bool isSingle) {
-    const double count = std::exp2(order);
+// The stored factor of an order and a flag, which no direction of the transform changes.
+template <class Element>
+Element storedFactor(int order, int flag) {
     if (flag == NoDivByAny) return 1;
-    if (flag != DivBySqrtN) return 1 / count;
-    volatile double root = std::sqrt(count), inverse = 1 / root;
-    volatile float single = static_cast<float>(inverse);
-    return isSingle ? single : inverse;
+    return flag == DivBySqrtN ? storedInverseRoot<Element>(1 << order) : storedInverse<Element>(1 << order);
 }
 
 template <class Element>
-class WhtTest : public testing::Test {
+class WhtTest : public ElementTest<Element> {
 protected:
     static void SetUpTestSuite() { substitutedCore(); }
     void SetUp() override { core = {}; }
 
     FakeCore& core = substitutedCore();
-    static constexpr bool isSingle = sizeof(Element) == 4;
-    std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
 
-    std::vector<Element> randomElements(int order) {
-        std::normal_distribution<double> normal;
-        std::vector<Element> x;
-        for (int i = 0; i < 1 << order; ++i) x.push_back(static_cast<Element>(normal(random)));
-        return x;
-    }
+    std::vector<Element> sourceOf(int order) { return this->randomElements(1 << order); }
 
     std::vector<Element> run(int order, const std::vector<Element>& source, int flag) {
         std::vector<Element> destination(source.size()), buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
@@ -79,26 +61,22 @@ protected:
     }
 };
 
-using Elements = testing::Types<float, double>;
-TYPED_TEST_SUITE(WhtTest, Elements);
+TYPED_TEST_SUITE(WhtTest, Elements, ElementNames);
 
 TYPED_TEST(WhtTest, OrderOneIsASingleButterfly) {
-    using Element = TypeParam;
-    const std::vector<Element> source = {Element(3), Element(-0.75)};
+    const std::vector<TypeParam> source = {TypeParam(3), TypeParam(-0.75)};
     for (int flag : allFlags) {
-        const Element scale = static_cast<Element>(storedFactor(1, flag, this->isSingle));
+        const Wide scale = storedFactor<TypeParam>(1, flag);
         const auto found = this->run(1, source, flag);
-        volatile Element sum = static_cast<Element>(Wide{scale} * Wide{2.25}),
-                         difference = static_cast<Element>(Wide{scale} * Wide{3.75});
-        EXPECT_EQ(found[0], sum) << flag;
-        EXPECT_EQ(found[1], difference) << flag;
+        EXPECT_EQ(found[0], rounded<TypeParam>(scale * Wide{2.25})) << flag;
+        EXPECT_EQ(found[1], rounded<TypeParam>(scale * Wide{3.75})) << flag;
     }
 }
 
 TYPED_TEST(WhtTest, ScaleAtSqrtNIsTheStoredOne) {
     const std::vector<TypeParam> impulse = {1, 0};
     EXPECT_EQ(this->run(1, impulse, DivBySqrtN)[0],
-              static_cast<TypeParam>(this->isSingle ? 0.7071067690849304 : 0.7071067811865475));
+              static_cast<TypeParam>(perType<TypeParam>(0.7071067690849304, 0.7071067811865475)));
 }
 
 // An impulse at j gives scale times column j. Every column is checked up to order 6, and more than 60 of them above.
@@ -110,7 +88,7 @@ TYPED_TEST(WhtTest, RowsAreInNaturalOrder) {
                 std::vector<TypeParam> source(static_cast<std::size_t>(count));
                 source[static_cast<std::size_t>(j)] = 1;
                 const auto found = this->run(order, source, flag);
-                const auto scale = static_cast<TypeParam>(storedFactor(order, flag, this->isSingle));
+                const auto scale = storedFactor<TypeParam>(order, flag);
                 for (int k = 0; k < count; ++k) {
                     const bool isMinus = walshHadamardSign(j, k) < 0;
                     ASSERT_EQ(found[static_cast<std::size_t>(k)], isMinus ? -scale : scale) << order << ", " << k;
@@ -123,10 +101,10 @@ TYPED_TEST(WhtTest, RowsAreInNaturalOrder) {
 TYPED_TEST(WhtTest, IntegersAreExactWhileTheValuesFit) {
     for (int order = 1; order <= 13; ++order) {
         // 24 or 53 bits hold every sum of 2^order such numbers.
-        const int most = (1 << (this->isSingle ? 24 : 30)) >> order;
+        const int most = (1 << perType<TypeParam>(24, 30)) >> order;
         std::uniform_int_distribution<int> uniform(-most, most);
         std::vector<TypeParam> source;
-        for (int i = 0; i < 1 << order; ++i) source.push_back(static_cast<TypeParam>(uniform(this->random)));
+        for (int i = 0; i < 1 << order; ++i) source.push_back(static_cast<TypeParam>(uniform(this->seed.random)));
         const Values due = walshHadamardTransform({source.begin(), source.end()});
         const auto found = this->run(order, source, NoDivByAny);
         for (std::size_t k = 0; k < due.size(); ++k) ASSERT_EQ(Wide{found[k]}, due[k]) << order << ", " << k;
@@ -138,29 +116,28 @@ TYPED_TEST(WhtTest, AnAllEqualInputGivesOneValueAndExactZeros) {
         for (int flag : allFlags) {
             const std::vector<TypeParam> source(std::size_t{1} << order, TypeParam(3));
             const auto found = this->run(order, source, flag);
-            const double due = 3 * std::exp2(order) * storedFactor(order, flag, this->isSingle);
-            EXPECT_EQ(found[0], static_cast<TypeParam>(due)) << order << ", " << flag;
+            const Wide due = 3 * std::exp2(Wide(order)) * storedFactor<TypeParam>(order, flag);
+            EXPECT_EQ(found[0], rounded<TypeParam>(due)) << order << ", " << flag;
             for (std::size_t k = 1; k < found.size(); ++k) ASSERT_EQ(found[k], 0) << order << ", " << k;
         }
     }
 }
 
 TYPED_TEST(WhtTest, TwiceGivesTheInputBack) {
-    const double unit = std::ldexp(1.0, this->isSingle ? -24 : -53);
     const std::pair<int, int> pairs[] = {
         {DivBySqrtN, DivBySqrtN}, {NoDivByAny, DivFwdByN}, {NoDivByAny, DivInvByN}, {DivInvByN, NoDivByAny}};
     for (int order = 1; order <= 13; ++order) {
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         for (const auto& [first, second] : pairs) {
             const auto twice = this->run(order, this->run(order, source, first), second);
-            for (std::size_t n = 0; n < source.size(); ++n) ASSERT_NEAR(twice[n], source[n], 40 * unit) << order;
+            for (std::size_t n = 0; n < source.size(); ++n) ASSERT_NEAR(twice[n], source[n], 40 * this->unit) << order;
         }
     }
 }
 
 TYPED_TEST(WhtTest, FlagsOneAndTwoAreTheSameBits) {
     for (int order = 1; order <= 13; ++order) {
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         EXPECT_EQ(this->run(order, source, DivFwdByN), this->run(order, source, DivInvByN));
     }
 }
@@ -169,11 +146,10 @@ TYPED_TEST(WhtTest, FlagsOneAndTwoAreTheSameBits) {
 // a block, so that only what the buffer takes and the result are rounded: once to three times. Order 1 is one sum of
 // two singles, half of which lie exactly between two singles: correct rounding itself gives 0.47 there.
 TYPED_TEST(WhtTest, IsAccurate) {
-    const Wide unit = std::ldexp(1.0L, this->isSingle ? -24 : -53);
     for (int order = 1; order <= 13; ++order) {
         Wide errors = 0, squares = 0;
         for (int round = 0; round < std::max(4, 4000 >> order); ++round) {
-            const auto source = this->randomElements(order);
+            const auto source = this->sourceOf(order);
             const Values due = walshHadamardTransform({source.begin(), source.end()});
             const auto found = this->run(order, source, NoDivByAny);
             for (std::size_t k = 0; k < due.size(); ++k) {
@@ -181,11 +157,11 @@ TYPED_TEST(WhtTest, IsAccurate) {
                 squares += due[k] * due[k];
             }
         }
-        const double error = static_cast<double>(std::sqrt(errors / squares) / unit);
+        const double error = static_cast<double>(std::sqrt(errors / squares) / this->unit);
         const int roundings = order < 8 ? 1 : order < 12 ? 2 : 3;
-        const double bound = !this->isSingle ? 0.45 * std::sqrt(order + 1.0)
-                             : order == 1    ? 0.5
-                                             : 0.45 * std::sqrt(roundings);
+        const double bound = !this->single ? 0.45 * std::sqrt(order + 1.0)
+                             : order == 1  ? 0.5
+                                           : 0.45 * std::sqrt(roundings);
         EXPECT_LE(error, bound) << "order " << order;
         this->RecordProperty("order" + std::to_string(order), std::to_string(error));
     }
@@ -194,7 +170,7 @@ TYPED_TEST(WhtTest, IsAccurate) {
 TYPED_TEST(WhtTest, SourceAndDestinationMayBeTheSame) {
     for (int order = 1; order <= 13; ++order) {
         for (int flag : allFlags) {
-            const auto source = this->randomElements(order);
+            const auto source = this->sourceOf(order);
             auto both = source;
             std::vector<TypeParam> buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
             EXPECT_EQ(kernelOf<TypeParam>(order)(both.data(), both.data(), flag, buffer.data()), StatusOk);
@@ -204,10 +180,10 @@ TYPED_TEST(WhtTest, SourceAndDestinationMayBeTheSame) {
 }
 
 TYPED_TEST(WhtTest, DispatcherAndKernelGiveTheSameBits) {
-    const auto dispatcher = exported<WhtDispatcher<TypeParam>>("zulgWHT" + suffix<TypeParam>());
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>(exportedName<TypeParam>("zulgWHT"));
     for (int order = 1; order <= 13; ++order) {
         for (int flag : allFlags) {
-            const auto source = this->randomElements(order);
+            const auto source = this->sourceOf(order);
             std::vector<TypeParam> found(source.size()), buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
             EXPECT_EQ(dispatcher(source.data(), found.data(), order, flag, buffer.data()), StatusOk);
             EXPECT_EQ(found, this->run(order, source, flag)) << order;
@@ -216,18 +192,18 @@ TYPED_TEST(WhtTest, DispatcherAndKernelGiveTheSameBits) {
 }
 
 TYPED_TEST(WhtTest, ReportsTheBufferOfEachOrder) {
-    const auto bufferSize = exported<BufferSize>("zulgWHTGetBufferSize" + suffix<TypeParam>());
+    const auto bufferSize = exported<BufferSize>(exportedName<TypeParam>("zulgWHTGetBufferSize"));
     const int sizes32[] = {0, 0, 0, 0, 0, 0, 0, 1024, 2048, 4096, 8192, 17408, 36864};
     for (int order = 1; order <= 13; ++order) {
         std::int32_t size = -1;
         EXPECT_EQ(bufferSize(order, &size), StatusOk);
-        EXPECT_EQ(size, sizes32[order - 1] * (this->isSingle ? 1 : 2)) << order;
+        EXPECT_EQ(size, sizes32[order - 1] * perType<TypeParam>(1, 2)) << order;
     }
 }
 
 TYPED_TEST(WhtTest, RefusesAnOrderOutOfRangeBeforeAnythingElse) {
-    const auto dispatcher = exported<WhtDispatcher<TypeParam>>("zulgWHT" + suffix<TypeParam>());
-    const auto bufferSize = exported<BufferSize>("zulgWHTGetBufferSize" + suffix<TypeParam>());
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>(exportedName<TypeParam>("zulgWHT"));
+    const auto bufferSize = exported<BufferSize>(exportedName<TypeParam>("zulgWHTGetBufferSize"));
     TypeParam data[2] = {7, 7};
     for (int order : {0, 14, -1, -13, 64, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         std::int32_t size = 77;
@@ -241,10 +217,10 @@ TYPED_TEST(WhtTest, RefusesAnOrderOutOfRangeBeforeAnythingElse) {
 }
 
 TYPED_TEST(WhtTest, ChecksPointersThenFlagAndAllocatesNothingOnFailure) {
-    const auto dispatcher = exported<WhtDispatcher<TypeParam>>("zulgWHT" + suffix<TypeParam>());
+    const auto dispatcher = exported<WhtDispatcher<TypeParam>>(exportedName<TypeParam>("zulgWHT"));
     for (int order = 1; order <= 13; ++order) {
         const auto kernel = kernelOf<TypeParam>(order);
-        auto data = this->randomElements(order);
+        auto data = this->sourceOf(order);
         const auto before = data;
         for (int flag : {0, 3, 5, 16, -1, 8}) {
             EXPECT_EQ(kernel(nullptr, data.data(), flag, nullptr), StatusNullPointer);
@@ -262,16 +238,16 @@ TYPED_TEST(WhtTest, ChecksPointersThenFlagAndAllocatesNothingOnFailure) {
 }
 
 TYPED_TEST(WhtTest, AsksTheCoreLibraryForNothingWhenABufferIsGiven) {
-    for (int order = 1; order <= 13; ++order) this->run(order, this->randomElements(order), DivBySqrtN);
+    for (int order = 1; order <= 13; ++order) this->run(order, this->sourceOf(order), DivBySqrtN);
     EXPECT_EQ(this->core.allocations, 0);
     EXPECT_EQ(this->core.releases, 0);
 }
 
 TYPED_TEST(WhtTest, WithoutABufferTakesOneOfTheReportedSizeAndGivesItBack) {
-    const auto bufferSize = exported<BufferSize>("zulgWHTGetBufferSize" + suffix<TypeParam>());
+    const auto bufferSize = exported<BufferSize>(exportedName<TypeParam>("zulgWHTGetBufferSize"));
     for (int order = 1; order <= 13; ++order) {
         this->core = {};
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         std::vector<TypeParam> found(source.size());
         EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, nullptr), StatusOk);
         EXPECT_EQ(found, this->run(order, source, NoDivByAny)) << order;
@@ -287,7 +263,7 @@ TYPED_TEST(WhtTest, WithoutABufferTakesOneOfTheReportedSizeAndGivesItBack) {
 
 TYPED_TEST(WhtTest, WithoutABufferTakesOneAtAnyAddress) {
     for (int order = 8; order <= 13; ++order) {
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         const auto due = this->run(order, source, NoDivByAny);
         for (std::uintptr_t remainder = 0; remainder < 64; ++remainder) {
             this->core.remainder = remainder;
@@ -302,7 +278,7 @@ TYPED_TEST(WhtTest, WithoutABufferTakesOneAtAnyAddress) {
 // Arrays and buffer end at an inaccessible page, aligned to the element only; every element of the buffer is written.
 TYPED_TEST(WhtTest, StaysInsideItsArraysAndWritesTheWholeBuffer) {
     for (int order = 1; order <= 13; ++order) {
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         const std::size_t bytes = source.size() * sizeof(TypeParam);
         const std::size_t bufferBytes = static_cast<std::size_t>(bufferElements(order)) * sizeof(TypeParam);
         const GuardedPages from(bytes), to(bytes), buffer(bufferBytes);
@@ -326,7 +302,7 @@ TYPED_TEST(WhtTest, StaysInsideItsArraysAndWritesTheWholeBuffer) {
 
 TYPED_TEST(WhtTest, ABufferNeedsNoAlignmentAtAll) {
     for (int order = 8; order <= 13; ++order) {
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         const auto due = this->run(order, source, NoDivByAny);
         const auto elements = static_cast<std::size_t>(bufferElements(order));
         std::vector<TypeParam> found(source.size());
@@ -342,7 +318,7 @@ TYPED_TEST(WhtTest, ABufferNeedsNoAlignmentAtAll) {
 
 TYPED_TEST(WhtTest, SmallOrdersIgnoreTheBuffer) {
     for (int order = 1; order <= 7; ++order) {
-        const auto source = this->randomElements(order);
+        const auto source = this->sourceOf(order);
         std::vector<TypeParam> found(source.size());
         for (auto* buffer : {static_cast<TypeParam*>(nullptr), reinterpret_cast<TypeParam*>(std::uintptr_t{1})}) {
             EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, buffer), StatusOk);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <map>
 
 namespace test {
 namespace {
@@ -116,13 +117,17 @@ Wide dct4Factor(int n, int k, int length) {
 
 Values dct4Transform(const Values& x, Chosen outputs) {
     const int length = static_cast<int>(x.size()), period = 8 * length;
-    Values cosines;  // every factor is one of them
-    for (int j = 0; j < period; ++j) cosines.push_back(cosTurn(j, period));
+    static std::map<int, Values> tables;  // of every factor of a length
+    Values& cosines = tables[length];
+    for (int j = static_cast<int>(cosines.size()); j < period; ++j) cosines.push_back(cosTurn(j, period));
     Values result;
     for (int k = outputs.first; k < length; k += outputs.step) {
+        int turn = 2 * k + 1;  // (2n + 1)(2k + 1) modulo 8N
         result.push_back(summed(length, [&](int n) {
-            const auto turn = static_cast<long long>(2 * n + 1) * (2 * k + 1) % period;
-            return x[static_cast<std::size_t>(n)] * cosines[static_cast<std::size_t>(turn)];
+            const Wide term = x[static_cast<std::size_t>(n)] * cosines[static_cast<std::size_t>(turn)];
+            turn += 2 * (2 * k + 1);
+            if (turn >= period) turn -= period;
+            return term;
         }));
     }
     return result;

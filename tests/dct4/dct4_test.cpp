@@ -1,5 +1,5 @@
-// The DCT-IV through the boundary: values, accuracy, arrays, lengths beside powers of two, statuses, and what
-// is asked of the core library.
+// What is the DCT-IV's own: values, plans, lengths beside powers of two, statuses, and what is asked of the core
+// library. That it holds the promises of every transform is tested in tests/transforms.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -14,26 +14,6 @@ namespace test {
 namespace {
 
 TYPED_TEST_SUITE(Dct4Test, Elements, ElementNames);
-
-// Every length up to one with two levels of SkewSplit.
-TYPED_TEST(Dct4Test, ComputesTheDefinitionAtEveryPowerOfTwo) {
-    for (int length = 2; length <= 131072; length *= 2) {
-        EXPECT_LT(this->relativeError(length, length < 64 ? 200 : 2), 5 * this->unit) << length;
-    }
-}
-
-TYPED_TEST(Dct4Test, IsAccurate) {
-    const struct {
-        int length, rounds;
-        double bound32, bound64;
-    } rows[] = {{16, 2000, 1.0, 1.72}, {64, 500, 1.6, 2.10}, {256, 100, 1.7, 2.38},
-                {1024, 20, 1.5, 2.79}, {4096, 6, 1.7, 3.02}, {65536, 2, 1.8, 3.54}};
-    for (const auto& row : rows) {
-        const double error = this->relativeError(row.length, row.rounds) / this->unit;
-        EXPECT_LE(error, perType<TypeParam>(row.bound32, row.bound64)) << row.length;
-        this->RecordProperty("length" + std::to_string(row.length), std::to_string(error));
-    }
-}
 
 TYPED_TEST(Dct4Test, ZerosGiveZeros) {
     for (int length = 2; length <= 65536; length *= 2) {
@@ -102,16 +82,6 @@ TYPED_TEST(Dct4Test, TwiceGivesHalfTheLengthTimesTheInput) {
     }
 }
 
-TYPED_TEST(Dct4Test, SourceAndDestinationMayBeTheSame) {
-    for (int length = 2; length <= 16384; length *= 2) {
-        Planned<TypeParam> planned(length);
-        const auto x = this->randomElements(length);
-        auto both = x;
-        EXPECT_EQ(this->dct4.run(both.data(), both.data(), planned.plan), StatusOk);
-        EXPECT_EQ(both, planned.run(x)) << length;
-    }
-}
-
 TYPED_TEST(Dct4Test, ARunDependsOnNoEarlierOne) {
     for (int length : {64, 2048, 8192}) {
         Planned<TypeParam> used(length), fresh(length);
@@ -125,40 +95,6 @@ TYPED_TEST(Dct4Test, NotANumberGoesThrough) {
     for (int length : {2, 4, 32, 64, 4096}) {
         std::vector<TypeParam> x(static_cast<std::size_t>(length), std::numeric_limits<TypeParam>::quiet_NaN());
         for (TypeParam y : Planned<TypeParam>(length).run(x)) ASSERT_TRUE(std::isnan(y)) << length;
-    }
-}
-
-// Arrays end at an inaccessible page on either side and are aligned to the element only.
-TYPED_TEST(Dct4Test, StaysInsideItsArrays) {
-    for (int length = 2; length <= 65536; length *= 2) {
-        Planned<TypeParam> planned(length);
-        const auto x = this->randomElements(length);
-        const auto due = planned.run(x);
-        const std::size_t bytes = x.size() * sizeof(TypeParam);
-        const GuardedPages from(bytes), to(bytes);
-        for (bool rear : {false, true}) {
-            auto* const pSrc = reinterpret_cast<TypeParam*>(rear ? from.atRear(bytes) : from.atFront());
-            auto* const pDst = reinterpret_cast<TypeParam*>(rear ? to.atRear(bytes) : to.atFront());
-            std::memcpy(pSrc, x.data(), bytes);
-            EXPECT_EQ(this->dct4.run(pSrc, pDst, planned.plan), StatusOk);
-            EXPECT_EQ(std::memcmp(pDst, due.data(), bytes), 0) << length;
-            EXPECT_EQ(std::memcmp(pSrc, x.data(), bytes), 0) << "the source was written";
-        }
-    }
-}
-
-TYPED_TEST(Dct4Test, ArraysNeedNoAlignmentAtAll) {
-    for (int length : {2, 4, 8, 16, 32, 64, 4096, 8192, 32768, 65536}) {
-        Planned<TypeParam> planned(length);
-        const auto x = this->randomElements(length);
-        const auto due = planned.run(x);
-        const std::size_t bytes = x.size() * sizeof(TypeParam);
-        std::vector<char> from(bytes + 3), to(bytes + 5);
-        std::memcpy(from.data() + 3, x.data(), bytes);
-        EXPECT_EQ(this->dct4.run(reinterpret_cast<const TypeParam*>(from.data() + 3),
-                                 reinterpret_cast<TypeParam*>(to.data() + 5), planned.plan),
-                  StatusOk);
-        EXPECT_EQ(std::memcmp(to.data() + 5, due.data(), bytes), 0) << length;
     }
 }
 

@@ -37,7 +37,7 @@ TYPED_TEST(Dct4StackTest, AThreadWithASmallStackRunsEveryLength) {
     constexpr std::size_t bytes = 32 * 1024;
     const GuardedPages stack(bytes);
     struct Run {
-        const Routines<TypeParam>& dct4;
+        const Dct4Routines<TypeParam>& dct4;
         zulg::DctPlan* plan;
         TypeParam* x;
         ZulgStatus status;

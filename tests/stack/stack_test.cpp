@@ -2,6 +2,7 @@
 // other promises are.
 #include <gtest/gtest.h>
 
+#include "tests/dct4/planned.h"
 #include "tests/fakes/substituted_core.h"
 #include "tests/stack_depth.h"
 #include "tests/transforms/transform.h"
@@ -53,7 +54,7 @@ protected:
 };
 
 TEST_F(Stack, OfKernelsAndTheirDispatchers) {
-    for (const Transform& transform : allTransforms()) {
+    for (const Transform& transform : dftTransforms()) {
         if (transform.isSingle()) {
             expectBoundOfKernel<float>(transform);
         } else {
@@ -81,23 +82,16 @@ TYPED_TEST(StackOfElement, OfWalshHadamard) {
 }
 
 TYPED_TEST(StackOfElement, OfPlans) {
-    using GetSize = ZulgStatus(ZULG_CALL*)(std::int32_t, std::int32_t*);
-    using Init = ZulgStatus(ZULG_CALL*)(void**, std::int32_t, std::uint8_t*);
-    using Free = ZulgStatus(ZULG_CALL*)(void*);
-    using InitAlloc = ZulgStatus(ZULG_CALL*)(void**, std::int32_t);
-    const auto getSize = exported<GetSize>(exportedName<TypeParam>("zulgDCT4GetSize"));
-    const auto init = exported<Init>(exportedName<TypeParam>("zulgDCT4Init"));
-    const auto initAlloc = exported<InitAlloc>(exportedName<TypeParam>("zulgDCT4InitAlloc"));
-    const auto free = exported<Free>(exportedName<TypeParam>("zulgDCT4Free"));
+    const auto& dct4 = dct4Routines<TypeParam>();
     for (std::int32_t length = 2; length <= 1 << 22; length *= 2) {
         const std::string name = "length " + std::to_string(length);
         std::int32_t bytes = 0;
-        expectAtMost(2048, stackDepth([&] { getSize(length, &bytes); }), "GetSize, " + name);
+        expectAtMost(2048, stackDepth([&] { dct4.getSize(length, &bytes); }), "GetSize, " + name);
         std::vector<std::uint8_t> block(static_cast<std::size_t>(bytes) + 32);
-        void* plan = nullptr;
-        expectAtMost(2048, stackDepth([&] { init(&plan, length, block.data()); }), "Init, " + name);
-        expectAtMost(2048, stackDepth([&] { initAlloc(&plan, length); }), "InitAlloc, " + name);
-        expectAtMost(2048, stackDepth([&] { free(plan); }), "Free, " + name);
+        zulg::DctPlan* plan = nullptr;
+        expectAtMost(2048, stackDepth([&] { dct4.init(&plan, length, block.data()); }), "Init, " + name);
+        expectAtMost(2048, stackDepth([&] { dct4.initAlloc(&plan, length); }), "InitAlloc, " + name);
+        expectAtMost(2048, stackDepth([&] { dct4.free(plan); }), "Free, " + name);
     }
 }
 

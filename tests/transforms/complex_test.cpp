@@ -14,13 +14,12 @@ using ComplexTest = KernelTest;
 bool isExactOnConstants(const Transform& transform) { return largestPrimeFactor(transform.length) < 11; }
 
 TEST_P(ComplexTest, AnImpulseAtZeroGivesTheStoredScale) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        std::vector<Element> source(static_cast<std::size_t>(transform.sourceElements));
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        auto source = subject.zeroSource();
         source[0] = 1;
         for (int flag : allFlags) {
-            const auto found = run(transform, source, flag);
-            const Element scale = storedScale<Element>(transform, flag);
+            const auto found = subject.run(source, flag);
+            const Element scale = subject.scale(flag);
             for (int k = 0; k < transform.length; ++k) {
                 const Element re = found[static_cast<std::size_t>(2 * k)],
                               im = found[static_cast<std::size_t>(2 * k + 1)];
@@ -35,13 +34,12 @@ TEST_P(ComplexTest, AnImpulseAtZeroGivesTheStoredScale) {
 }
 
 TEST_P(ComplexTest, AConstantGivesTheExactSumTimesTheStoredScale) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        std::vector<Element> source(static_cast<std::size_t>(transform.sourceElements));
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        auto source = subject.zeroSource();
         for (std::size_t i = 0; i < source.size(); i += 2) source[i] = 1;
         for (int flag : allFlags) {
-            const Wide due = static_cast<Wide>(storedScale<Element>(transform, flag)) * transform.length;
-            const auto found = run(transform, source, flag);
+            const Wide due = static_cast<Wide>(subject.scale(flag)) * transform.length;
+            const auto found = subject.run(source, flag);
             EXPECT_EQ(found[0], rounded<Element>(due)) << "flag " << flag;
             for (std::size_t i = 2; i < found.size(); ++i) {
                 EXPECT_NEAR(found[i], 0, 50 * std::numeric_limits<Element>::epsilon());
@@ -52,18 +50,16 @@ TEST_P(ComplexTest, AConstantGivesTheExactSumTimesTheStoredScale) {
 }
 
 TEST_P(ComplexTest, AnImpulseAtOneGivesOnePeriodOfTheExponential) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        std::vector<Element> source(static_cast<std::size_t>(transform.sourceElements));
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        auto source = subject.zeroSource();
         source[2] = 1;
-        const auto found = run(transform, source, NoDivByAny);
+        const auto found = subject.run(source, NoDivByAny);
         const int sign = transform.direction == Direction::Forward ? -1 : 1;
-        const double unit = std::ldexp(1.0, transform.isSingle() ? -24 : -53);
         for (int k = 0; k < transform.length; ++k) {
             EXPECT_NEAR(found[static_cast<std::size_t>(2 * k)], static_cast<double>(cosTurn(k, transform.length)),
-                        8 * unit);
+                        8 * subject.unit);
             EXPECT_NEAR(found[static_cast<std::size_t>(2 * k + 1)],
-                        sign * static_cast<double>(sinTurn(k, transform.length)), 8 * unit);
+                        sign * static_cast<double>(sinTurn(k, transform.length)), 8 * subject.unit);
         }
         if (transform.length != 16 && transform.length != 32 && transform.length != 64) return;
         // A quarter turn takes no rounded constant.
@@ -73,16 +69,15 @@ TEST_P(ComplexTest, AnImpulseAtOneGivesOnePeriodOfTheExponential) {
 }
 
 TEST_P(ComplexTest, AShiftTurnsEveryOutput) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
         std::vector<Element> shifted(source.end() - 2, source.end());  // y[n] = x[n - 1]
         shifted.insert(shifted.end(), source.begin(), source.end() - 2);
-        const auto plain = run(transform, source, NoDivByAny), found = run(transform, shifted, NoDivByAny);
+        const auto plain = subject.run(source, NoDivByAny), found = subject.run(shifted, NoDivByAny);
         const int sign = transform.direction == Direction::Forward ? -1 : 1;
         double squares = 0;
         for (Element value : plain) squares += static_cast<double>(value) * value;
-        const double bound = std::ldexp(20.0, transform.isSingle() ? -24 : -53) * std::sqrt(squares);
+        const double bound = 20 * subject.unit * std::sqrt(squares);
         for (int k = 0; k < transform.length; ++k) {
             const auto re = static_cast<std::size_t>(2 * k), im = re + 1;
             const Wide c = cosTurn(k, transform.length), s = sign * sinTurn(k, transform.length);
@@ -99,13 +94,12 @@ std::string otherDirection(const std::string& name) {
 }
 
 TEST_P(ComplexTest, TheOtherDirectionWithTheSameFlagRestoresTheInput) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const auto back = exported<Kernel<Element>>(otherDirection(transform.kernelName()));
-        const auto source = randomSource<Element>();
-        const double bound = std::ldexp(100.0, transform.isSingle() ? -24 : -53);
+        const auto source = subject.randomSource();
+        const double bound = 100 * subject.unit;
         for (int flag : allFlags) {
-            auto restored = run(transform, source, flag);
+            auto restored = subject.run(source, flag);
             ASSERT_EQ(back(restored.data(), restored.data(), flag), StatusOk);
             const double factor = flag == NoDivByAny ? transform.length : 1;
             for (std::size_t i = 0; i < source.size(); ++i) {
@@ -122,13 +116,12 @@ std::vector<Element> exchanged(std::vector<Element> x) {
 }
 
 TEST_P(ComplexTest, TheOtherDirectionIsThisOneWithPartsExchanged) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const auto other = exported<Kernel<Element>>(otherDirection(transform.kernelName()));
-        const auto source = randomSource<Element>();
+        const auto source = subject.randomSource();
         for (int flag : allFlags) {
             const int matching = flag == DivFwdByN ? DivInvByN : flag == DivInvByN ? DivFwdByN : flag;
-            const auto due = run(transform, source, flag);
+            const auto due = subject.run(source, flag);
             auto found = exchanged(source);
             ASSERT_EQ(other(found.data(), found.data(), matching), StatusOk);
             found = exchanged(found);
@@ -136,7 +129,7 @@ TEST_P(ComplexTest, TheOtherDirectionIsThisOneWithPartsExchanged) {
             if (sizeof(void*) == 8) {
                 EXPECT_TRUE(sameBits(found, due)) << "flag " << flag;
             }
-            const double bound = std::ldexp(20.0, transform.isSingle() ? -24 : -53);
+            const double bound = 20 * subject.unit;
             for (std::size_t i = 0; i < due.size(); ++i) EXPECT_NEAR(found[i], due[i], bound) << "flag " << flag;
         }
     });
@@ -144,11 +137,10 @@ TEST_P(ComplexTest, TheOtherDirectionIsThisOneWithPartsExchanged) {
 
 TEST_P(ComplexTest, RealInputOfAnOddPrimeGivesExactConjugates) {
     if (transform.length != 3 && transform.length != 5 && transform.length != 7) return;
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        auto source = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        auto source = subject.randomSource();
         for (std::size_t i = 1; i < source.size(); i += 2) source[i] = 0;
-        const auto found = run(transform, source, DivBySqrtN);
+        const auto found = subject.run(source, DivBySqrtN);
         for (int k = 1; k < transform.length; ++k) {
             const auto here = static_cast<std::size_t>(2 * k),
                        there = static_cast<std::size_t>(2 * (transform.length - k));
@@ -160,10 +152,9 @@ TEST_P(ComplexTest, RealInputOfAnOddPrimeGivesExactConjugates) {
 
 TEST_P(ComplexTest, LengthTwoIsExact) {
     if (transform.length != 2) return;
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const std::vector<Element> source = {Element(0.1), Element(-7.25), Element(3e-7), Element(12.5)};
-        const auto found = run(transform, source, NoDivByAny);
+        const auto found = subject.run(source, NoDivByAny);
         for (std::size_t part : {0u, 1u}) {
             // Sums of two elements of these sizes are exact in long double.
             EXPECT_EQ(found[part], rounded<Element>(Wide{source[part]} + Wide{source[part + 2]}));
@@ -174,11 +165,10 @@ TEST_P(ComplexTest, LengthTwoIsExact) {
 
 TEST_P(ComplexTest, LengthThreeWithEqualLastTwoGivesEqualLastTwo) {
     if (transform.length != 3) return;
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        auto source = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        auto source = subject.randomSource();
         source[4] = source[2], source[5] = source[3];
-        const auto found = run(transform, source, DivBySqrtN);
+        const auto found = subject.run(source, DivBySqrtN);
         EXPECT_EQ(found[2], found[4]);
         EXPECT_EQ(found[3], found[5]);
     });

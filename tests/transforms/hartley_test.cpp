@@ -9,10 +9,8 @@ namespace {
 using HartleyTest = KernelTest;
 
 TEST_P(HartleyTest, TwiceGivesTheInputTimesTheFactorsOfBothFlags) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        const double unit = std::ldexp(1.0, transform.isSingle() ? -24 : -53);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
         const struct {
             int first, second;
             double factor;
@@ -22,23 +20,22 @@ TEST_P(HartleyTest, TwiceGivesTheInputTimesTheFactorsOfBothFlags) {
                      {NoDivByAny, DivInvByN, 1},
                      {DivInvByN, NoDivByAny, 1}};
         for (const auto& pair : pairs) {
-            const auto twice = run(transform, run(transform, source, pair.first), pair.second);
+            const auto twice = subject.run(subject.run(source, pair.first), pair.second);
             for (std::size_t n = 0; n < source.size(); ++n) {
-                EXPECT_NEAR(twice[n] / pair.factor, source[n], 100 * unit) << pair.first << ", " << pair.second;
+                EXPECT_NEAR(twice[n] / pair.factor, source[n], 100 * subject.unit) << pair.first << ", " << pair.second;
             }
         }
     });
 }
 
 TEST_P(HartleyTest, IsTheRealPartOfTheSpectrumLessTheImaginaryOne) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
         const std::string name = "zulgDFTFwd_RToCCS_" + std::to_string(transform.length) + "_" + transform.suffix;
         std::vector<Element> bins(static_cast<std::size_t>(transform.length / 2 * 2 + 2));
         exported<Kernel<Element>>(name)(source.data(), bins.data(), DivBySqrtN);
-        const auto found = run(transform, source, DivBySqrtN);
-        const double bound = std::ldexp(100.0, transform.isSingle() ? -24 : -53);
+        const auto found = subject.run(source, DivBySqrtN);
+        const double bound = 100 * subject.unit;
         for (int k = 0; 2 * k <= transform.length; ++k) {
             const double re = bins[static_cast<std::size_t>(2 * k)], im = bins[static_cast<std::size_t>(2 * k + 1)];
             EXPECT_NEAR(found[static_cast<std::size_t>(k)], re - im, bound) << k;
@@ -49,19 +46,17 @@ TEST_P(HartleyTest, IsTheRealPartOfTheSpectrumLessTheImaginaryOne) {
 }
 
 TEST_P(HartleyTest, AnImpulseGivesItsRowTimesScale) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const int length = transform.length;
-        const double unit = std::ldexp(1.0, transform.isSingle() ? -24 : -53);
         for (int flag : allFlags) {
-            const double scale = storedScale<Element>(transform, flag);
+            const double scale = subject.scale(flag);
             for (int j = 0; j < length; ++j) {
                 std::vector<Element> source(static_cast<std::size_t>(length));
                 source[static_cast<std::size_t>(j)] = 1;
-                const auto found = run(transform, source, flag);
+                const auto found = subject.run(source, flag);
                 for (int k = 0; k < length; ++k) {
                     const double due = scale * static_cast<double>(casTurn(j * k, length));
-                    ASSERT_NEAR(found[static_cast<std::size_t>(k)], due, 16 * unit * scale) << j << ", " << k;
+                    ASSERT_NEAR(found[static_cast<std::size_t>(k)], due, 16 * subject.unit * scale) << j << ", " << k;
                 }
             }
         }
@@ -70,10 +65,9 @@ TEST_P(HartleyTest, AnImpulseGivesItsRowTimesScale) {
 
 TEST_P(HartleyTest, LengthTwoIsOneSumAndOneDifference) {
     if (transform.length != 2) return;
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const std::vector<Element> source = {Element(0.1), Element(-7.25)};
-        const auto found = run(transform, source, NoDivByAny);
+        const auto found = subject.run(source, NoDivByAny);
         EXPECT_EQ(found[0], rounded<Element>(Wide{source[0]} + Wide{source[1]}));
         EXPECT_EQ(found[1], rounded<Element>(Wide{source[0]} - Wide{source[1]}));
     });

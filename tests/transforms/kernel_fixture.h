@@ -1,39 +1,65 @@
-// What the suites over kernels share: the fixture, the flags, and how results are compared.
+// The fixture of the suites over transforms: each test is one transform, on the element type of its name.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstring>
+#include <string>
+#include <vector>
 
+#include "tests/elements.h"
 #include "tests/transforms/transform.h"
 
 namespace test {
 
-inline constexpr int allFlags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
 inline constexpr std::byte pattern{0xA5};
+
+// One transform, ready to be called, and its arrays.
+template <class Element>
+class Subject {
+public:
+    Subject(const Transform& of, std::mt19937& from) : transform(of), random(from) {}
+
+    static constexpr double unit = unitOf<Element>;
+
+    std::vector<Element> randomSource() { return randomElements<Element>(transform.sourceElements, random); }
+    std::vector<Element> zeroSource() const { return array(transform.sourceElements, 0); }
+    std::vector<Element> destination(Element of = 0) const { return array(transform.destinationElements, of); }
+
+    // One call into fresh, separate arrays.
+    std::vector<Element> run(const std::vector<Element>& source, int flag) const {
+        std::vector<Element> result = destination();
+        EXPECT_EQ(call(source.data(), result.data(), flag), StatusOk);
+        return result;
+    }
+
+    Element scale(int flag) const { return storedScale<Element>(transform, flag); }
+
+    const Transform& transform;
+    const Call<Element> call = callOf<Element>(transform);
+
+private:
+    static std::vector<Element> array(int elements, Element of) {
+        return std::vector<Element>(static_cast<std::size_t>(elements), of);
+    }
+
+    std::mt19937& random;
+};
 
 class KernelTest : public testing::TestWithParam<Transform> {
 protected:
     const Transform& transform = GetParam();
-    // The same at every run, unless the command line asks for another one.
-    const unsigned seed = static_cast<unsigned>(GTEST_FLAG_GET(random_seed));
-    testing::ScopedTrace trace{__FILE__, __LINE__, "--gtest_random_seed=" + std::to_string(seed)};
-    std::mt19937 random{seed};
+    Seed seed;
 
-    // Calls `body` with a zero of the kernel's element type.
     template <class Body>
-    void withElement(const Body& body) {
+    void withSubject(const Body& body) {
         if (transform.isSingle()) {
-            body(float{});
+            Subject<float> subject(transform, seed.random);
+            body(subject);
         } else {
-            body(double{});
+            Subject<double> subject(transform, seed.random);
+            body(subject);
         }
-    }
-
-    template <class Element>
-    std::vector<Element> randomSource() {
-        return randomElements<Element>(transform.sourceElements, random);
     }
 };
 

@@ -1,4 +1,6 @@
-// Every kernel against its definition and against its promises: one suite, run once for each exported kernel.
+// Every transform against its definition and against its promises: one suite, run once for each exported kernel and for
+// plans. A new family takes part as a list of rows (transform.cpp).
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -16,110 +18,112 @@ namespace {
 class Error {
 public:
     template <class Element>
-    void add(const std::vector<Element>& found, const Values& due) {
-        for (std::size_t i = 0; i < due.size(); ++i) {
-            const Wide difference = static_cast<Wide>(found[i]) - due[i];
-            squaredErrors += difference * difference;
-            squaredReferences += due[i] * due[i];
-        }
+    void add(Element found, Wide due) {
+        squaredErrors += (found - due) * (found - due);
+        squaredReferences += due * due;
     }
-    double inUnits(bool isSingle) const {
-        return static_cast<double>(std::ldexp(std::sqrt(squaredErrors / squaredReferences), isSingle ? 24 : 53));
+    double inUnitsOf(double unit) const {
+        return static_cast<double>(std::sqrt(squaredErrors / squaredReferences) / unit);
     }
 
 private:
     Wide squaredErrors = 0, squaredReferences = 0;
 };
 
-template <class Element, class Call>
-double pooledError(const Transform& transform, int flag, std::mt19937& random, const Call& call) {
+// Calls check(found, due, k) for the chosen outputs k of what was found.
+template <class Element, class Check>
+void eachOutput(const std::vector<Element>& found, const Values& due, Chosen outputs, const Check& check) {
+    auto k = static_cast<std::size_t>(outputs.first);
+    for (std::size_t i = 0; i < due.size(); ++i, k += static_cast<std::size_t>(outputs.step))
+        check(found[k], due[i], k);
+}
+
+template <class Element, class Run>
+double pooledError(Subject<Element>& subject, int flag, const Run& run) {
+    const Transform& transform = subject.transform;
     Error error;
-    const Wide scale = storedScale<Element>(transform, flag);
-    const int inputs = std::max(200, 20000 / transform.length);
-    for (int i = 0; i < inputs; ++i) {
-        const auto source = randomElements<Element>(transform.sourceElements, random);
-        Values due = transform.definition(widened(source));
-        for (Wide& value : due) value *= scale;
-        error.add(call(transform, source, flag), due);
+    const Wide scale = subject.scale(flag);
+    for (int round = 0; round < transform.inputs(); ++round) {
+        const auto source = subject.randomSource();
+        const Chosen outputs = transform.outputs(round);
+        eachOutput(run(source), transform.definition(widened(source), outputs), outputs,
+                   [&](Element found, Wide due, std::size_t) { error.add(found, scale * due); });
     }
-    return error.inUnits(transform.isSingle());
+    return error.inUnitsOf(subject.unit);
 }
 
 TEST_P(KernelTest, AgreesWithTheDefinitionAtEveryFlag) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        for (int flag : allFlags) {
-            const double error = pooledError<Element>(transform, flag, random, run<Element>);
-            EXPECT_LE(error, transform.bound()) << "flag " << flag;
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        for (int flag : transform.flags()) {
+            const double error =
+                pooledError(subject, flag, [&](const auto& source) { return subject.run(source, flag); });
+            EXPECT_LE(error, transform.boundAt(flag)) << "flag " << flag;
             RecordProperty("error_at_flag_" + std::to_string(flag), std::to_string(error));
         }
     });
 }
 
 TEST_P(KernelTest, HoldsItsAccuracyWhereRegistersRoundToDouble) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto inDoubles = [](const Transform& kernel, const std::vector<Element>& source, int flag) {
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const double error = pooledError(subject, NoDivByAny, [&](const auto& source) {
             const DoublePrecisionRegisters precision;  // the setting of many Windows programs
-            return run(kernel, source, flag);
-        };
-        EXPECT_LE(pooledError<Element>(transform, NoDivByAny, random, inDoubles), transform.bound());
+            return subject.run(source, NoDivByAny);
+        });
+        EXPECT_LE(error, transform.bound);
     });
 }
 
+// Of a long transform, some unit vectors.
 TEST_P(KernelTest, EveryUnitVectorGivesItsColumn) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const Wide unit = std::ldexp(Wide{1}, transform.isSingle() ? -24 : -53);
-        for (int i = 0; i < transform.sourceElements; ++i) {
-            std::vector<Element> source(static_cast<std::size_t>(transform.sourceElements));
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const long long elements = transform.sourceElements;
+        const int step = static_cast<int>(std::clamp(elements * elements >> 17, 1LL, std::max(1LL, elements / 4)));
+        for (int i = 0, round = 0; i < elements; i += step, ++round) {
+            auto source = subject.zeroSource();
             source[static_cast<std::size_t>(i)] = 1;
-            const Values due = transform.definition(widened(source));
-            const auto found = run(transform, source, NoDivByAny);
+            const Chosen outputs = transform.outputs(round);
+            const Values due = transform.definition(widened(source), outputs);
             Wide largest = 0;
             for (Wide value : due) largest = std::max(largest, std::abs(value));
-            for (std::size_t k = 0; k < due.size(); ++k) {
-                ASSERT_LE(std::abs(static_cast<Wide>(found[k]) - due[k]), 8 * unit * largest)
+            eachOutput(subject.run(source, NoDivByAny), due, outputs, [&](Element found, Wide value, std::size_t k) {
+                ASSERT_LE(std::abs(found - value), 8 * Wide{subject.unit} * largest)
                     << "input " << i << ", output " << k;
-            }
+            });
         }
     });
 }
 
 TEST_P(KernelTest, IsLinear) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto x = randomSource<Element>(), y = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto x = subject.randomSource(), y = subject.randomSource();
         std::vector<Element> combined;
         for (std::size_t i = 0; i < x.size(); ++i) combined.push_back(static_cast<Element>(0.5 * x[i] - 2.0 * y[i]));
-        const auto a = run(transform, x, NoDivByAny), b = run(transform, y, NoDivByAny);
-        const auto c = run(transform, combined, NoDivByAny);
+        const auto a = subject.run(x, NoDivByAny), b = subject.run(y, NoDivByAny);
+        const auto c = subject.run(combined, NoDivByAny);
         double squares = 0;
         for (Element value : c) squares += static_cast<double>(value) * value;
-        const double bound = std::ldexp(20.0, transform.isSingle() ? -24 : -53) * std::sqrt(squares);
+        const double bound = 20 * subject.unit * std::sqrt(squares);
         for (std::size_t k = 0; k < c.size(); ++k) EXPECT_NEAR(c[k], 0.5 * a[k] - 2.0 * b[k], bound);
     });
 }
 
 TEST_P(KernelTest, InPlaceGivesTheSameBits) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        for (int flag : allFlags) {
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        for (int flag : transform.flags()) {
             std::vector<Element> array = source;
             array.resize(static_cast<std::size_t>(std::max(transform.sourceElements, transform.destinationElements)));
-            exported<Kernel<Element>>(transform.kernelName())(array.data(), array.data(), flag);
+            subject.call(array.data(), array.data(), flag);
             array.resize(static_cast<std::size_t>(transform.destinationElements));
-            EXPECT_TRUE(sameBits(array, run(transform, source, flag))) << "flag " << flag;
+            EXPECT_TRUE(sameBits(array, subject.run(source, flag))) << "flag " << flag;
         }
     });
 }
 
 TEST_P(KernelTest, NeedsNoAlignmentAndTouchesNothingBesideItsArrays) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        const auto due = run(transform, source, NoDivByAny);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        const auto due = subject.run(source, NoDivByAny);
         constexpr std::size_t guard = 64;
         const std::size_t sourceBytes = source.size() * sizeof(Element),
                           destinationBytes = due.size() * sizeof(Element);
@@ -128,9 +132,8 @@ TEST_P(KernelTest, NeedsNoAlignmentAndTouchesNothingBesideItsArrays) {
             std::byte* const first = to.data() + guard + offset;
             std::memcpy(from.data() + guard + offset, source.data(), sourceBytes);
             const std::vector<std::byte> fromBefore = from;
-            exported<Kernel<Element>>(transform.kernelName())(
-                reinterpret_cast<const Element*>(from.data() + guard + offset), reinterpret_cast<Element*>(first),
-                NoDivByAny);
+            subject.call(reinterpret_cast<const Element*>(from.data() + guard + offset),
+                         reinterpret_cast<Element*>(first), NoDivByAny);
             EXPECT_EQ(std::memcmp(first, due.data(), destinationBytes), 0) << "offset " << offset;
             EXPECT_EQ(from, fromBefore);
             std::memset(first, static_cast<int>(pattern), destinationBytes);
@@ -140,10 +143,9 @@ TEST_P(KernelTest, NeedsNoAlignmentAndTouchesNothingBesideItsArrays) {
 }
 
 TEST_P(KernelTest, StaysBetweenGuardPages) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        const auto due = run(transform, source, NoDivByAny);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        const auto due = subject.run(source, NoDivByAny);
         const std::size_t sourceBytes = source.size() * sizeof(Element),
                           destinationBytes = due.size() * sizeof(Element);
         const GuardedPages from(sourceBytes), to(destinationBytes);
@@ -151,85 +153,52 @@ TEST_P(KernelTest, StaysBetweenGuardPages) {
             std::byte* const read = rear ? from.atRear(sourceBytes) : from.atFront();
             std::byte* const written = rear ? to.atRear(destinationBytes) : to.atFront();
             std::memcpy(read, source.data(), sourceBytes);
-            exported<Kernel<Element>>(transform.kernelName())(reinterpret_cast<const Element*>(read),
-                                                              reinterpret_cast<Element*>(written), NoDivByAny);
+            subject.call(reinterpret_cast<const Element*>(read), reinterpret_cast<Element*>(written), NoDivByAny);
             EXPECT_EQ(std::memcmp(written, due.data(), destinationBytes), 0);
+            EXPECT_EQ(std::memcmp(read, source.data(), sourceBytes), 0) << "the source was written";
         }
     });
 }
 
 TEST_P(KernelTest, RefusesInTheOrderOfItsChecksAndWritesNothing) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto kernel = exported<Kernel<Element>>(transform.kernelName());
-        const auto source = randomSource<Element>();
-        std::vector<Element> destination(static_cast<std::size_t>(transform.destinationElements), Element{7});
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        auto destination = subject.destination(7);
         const auto untouched = destination;
+        const auto expectNullPointersRefused = [&](int flag) {
+            EXPECT_EQ(subject.call(nullptr, destination.data(), flag), StatusNullPointer) << flag;
+            EXPECT_EQ(subject.call(source.data(), nullptr, flag), StatusNullPointer) << flag;
+            EXPECT_EQ(subject.call(nullptr, nullptr, flag), StatusNullPointer) << flag;
+        };
         for (int flag : {0, 3, 5, 6, 7, 9, 12, 15, 16, -1, -8, std::numeric_limits<int>::min(), 0x10008}) {
-            EXPECT_EQ(kernel(source.data(), destination.data(), flag), StatusFlagError) << flag;
-            EXPECT_EQ(kernel(nullptr, destination.data(), flag), StatusNullPointer) << flag;
-            EXPECT_EQ(kernel(source.data(), nullptr, flag), StatusNullPointer) << flag;
-            EXPECT_EQ(kernel(nullptr, nullptr, flag), StatusNullPointer) << flag;
+            expectNullPointersRefused(flag);
+            if (transform.takes == Takes::Plan) continue;  // which takes no flag
+            EXPECT_EQ(subject.call(source.data(), destination.data(), flag), StatusFlagError) << flag;
         }
-        for (int flag : allFlags) {
-            EXPECT_EQ(kernel(nullptr, destination.data(), flag), StatusNullPointer);
-            EXPECT_EQ(kernel(source.data(), nullptr, flag), StatusNullPointer);
-            EXPECT_EQ(kernel(nullptr, nullptr, flag), StatusNullPointer);
-        }
+        for (int flag : allFlags) expectNullPointersRefused(flag);
         EXPECT_TRUE(sameBits(destination, untouched));
-        for (int flag : allFlags) EXPECT_EQ(kernel(source.data(), destination.data(), flag), StatusOk);
-    });
-}
-
-TEST_P(KernelTest, FlagsOfEqualMeaningGiveEqualBits) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        for (int flag : allFlags) {
-            for (int other : allFlags) {
-                const bool same = storedScale<Element>(transform, flag) == storedScale<Element>(transform, other);
-                const bool equal = sameBits(run(transform, source, flag), run(transform, source, other));
-                EXPECT_EQ(equal, same) << flag << " and " << other;
-            }
-        }
-    });
-}
-
-TEST_P(KernelTest, TheDispatcherGivesTheSameBits) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        for (int flag : allFlags) {
-            std::vector<Element> destination(static_cast<std::size_t>(transform.destinationElements));
-            const auto dispatcher = exported<Dispatcher<Element>>(transform.dispatcherName());
-            EXPECT_EQ(dispatcher(source.data(), destination.data(), transform.length, flag), StatusOk);
-            EXPECT_TRUE(sameBits(destination, run(transform, source, flag))) << "flag " << flag;
-        }
+        for (int flag : allFlags) EXPECT_EQ(subject.call(source.data(), destination.data(), flag), StatusOk);
     });
 }
 
 TEST_P(KernelTest, NotANumberAndInfinityPassThrough) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto kernel = exported<Kernel<Element>>(transform.kernelName());
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         for (Element special : {std::numeric_limits<Element>::quiet_NaN(), std::numeric_limits<Element>::infinity()}) {
-            auto source = randomSource<Element>();
+            auto source = subject.randomSource();
             source[0] = special;
-            std::vector<Element> destination(static_cast<std::size_t>(transform.destinationElements));
-            EXPECT_EQ(kernel(source.data(), destination.data(), NoDivByAny), StatusOk);
+            auto destination = subject.destination();
+            EXPECT_EQ(subject.call(source.data(), destination.data(), NoDivByAny), StatusOk);
             EXPECT_FALSE(std::isfinite(destination[0]));
         }
     });
 }
 
 TEST_P(KernelTest, LeavesTheFloatingPointUnitAsItWas) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto kernel = exported<Kernel<Element>>(transform.kernelName());
-        const auto source = randomSource<Element>();
-        std::vector<Element> destination(static_cast<std::size_t>(transform.destinationElements));
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        auto destination = subject.destination();
         const FloatState before = floatState();
-        kernel(source.data(), destination.data(), NoDivByAny);
+        subject.call(source.data(), destination.data(), NoDivByAny);
         const FloatState after = floatState();
         EXPECT_EQ(after.control, before.control);
         EXPECT_EQ(after.tags, before.tags) << "registers left on the x87 stack";
@@ -237,17 +206,22 @@ TEST_P(KernelTest, LeavesTheFloatingPointUnitAsItWas) {
 }
 
 TEST_P(KernelTest, ThreadsDoNotDisturbEachOther) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto source = randomSource<Element>();
-        const auto due = run(transform, source, DivBySqrtN);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        const auto due = subject.run(source, DivBySqrtN);
+        const int calls = std::clamp(12800 / transform.length, 4, 200);
         bool same[3] = {};
         {
             std::vector<std::jthread> threads;
             for (bool& result : same) {
                 threads.emplace_back([&] {
+                    const auto call = callOf<Element>(transform);
                     result = true;
-                    for (int i = 0; i < 200; ++i) result = result && sameBits(run(transform, source, DivBySqrtN), due);
+                    for (int i = 0; i < calls; ++i) {
+                        auto found = subject.destination();
+                        result =
+                            result && call(source.data(), found.data(), DivBySqrtN) == StatusOk && sameBits(found, due);
+                    }
                 });
             }
         }
@@ -256,6 +230,36 @@ TEST_P(KernelTest, ThreadsDoNotDisturbEachOther) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, KernelTest, testing::ValuesIn(allTransforms()), testName);
+
+// The families with a flag, each of which has a dispatcher.
+class FlaggedKernelTest : public KernelTest {};
+
+TEST_P(FlaggedKernelTest, FlagsOfEqualMeaningGiveEqualBits) {
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto source = subject.randomSource();
+        for (int flag : allFlags) {
+            for (int other : allFlags) {
+                const bool same = subject.scale(flag) == subject.scale(other);
+                const bool equal = sameBits(subject.run(source, flag), subject.run(source, other));
+                EXPECT_EQ(equal, same) << flag << " and " << other;
+            }
+        }
+    });
+}
+
+TEST_P(FlaggedKernelTest, TheDispatcherGivesTheSameBits) {
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto dispatched = dispatchedCallOf<Element>(transform);
+        const auto source = subject.randomSource();
+        for (int flag : allFlags) {
+            auto destination = subject.destination();
+            EXPECT_EQ(dispatched(source.data(), destination.data(), flag), StatusOk);
+            EXPECT_TRUE(sameBits(destination, subject.run(source, flag))) << "flag " << flag;
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FlaggedKernelTest, testing::ValuesIn(flaggedTransforms()), testName);
 
 }  // namespace
 }  // namespace test

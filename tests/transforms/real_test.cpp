@@ -40,19 +40,16 @@ protected:
         exported<Kernel<Element>>(kernelName(transform, false, layout))(packed.data(), y.data(), flag);
         return y;
     }
-
-    double unit() const { return std::ldexp(1.0, transform.isSingle() ? -24 : -53); }
 };
 
 using RealForwardTest = RealTest;
 using RealInverseTest = RealTest;
 
 TEST_P(RealForwardTest, GivesTheSameBitsAsInCCS) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto x = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto x = subject.randomSource();
         for (int flag : allFlags) {
-            const auto due = forward(x, Layout::CCS, flag), found = run(transform, x, flag);
+            const auto due = forward(x, Layout::CCS, flag), found = subject.run(x, flag);
             for (int k = 0; k <= half(); ++k) {
                 const auto here = static_cast<std::size_t>(slots.re(k)), there = static_cast<std::size_t>(2 * k);
                 EXPECT_EQ(std::memcmp(&found[here], &due[there], sizeof(Element)), 0) << k;
@@ -65,15 +62,14 @@ TEST_P(RealForwardTest, GivesTheSameBitsAsInCCS) {
 
 TEST_P(RealForwardTest, KeepsTheZerosOfCCSWhateverTheInput) {
     if (slots.layout != Layout::CCS) return;
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const Element zero = 0;
         for (Element special : {Element{1}, Element{-1}, std::numeric_limits<Element>::infinity(),
                                 std::numeric_limits<Element>::quiet_NaN()}) {
             for (int flag : allFlags) {
                 std::vector<Element> packed(static_cast<std::size_t>(slots.elements()), Element{7});
                 const std::vector<Element> x(static_cast<std::size_t>(transform.length), special);
-                exported<Kernel<Element>>(transform.kernelName())(x.data(), packed.data(), flag);
+                subject.call(x.data(), packed.data(), flag);
                 EXPECT_EQ(std::memcmp(&packed[1], &zero, sizeof zero), 0);
                 const std::size_t last = transform.length % 2 == 0 ? packed.size() - 1 : 1;
                 EXPECT_EQ(std::memcmp(&packed[last], &zero, sizeof zero), 0);
@@ -91,86 +87,79 @@ int negativeZeros(const std::vector<Element>& packed) {
 }
 
 TEST_P(RealForwardTest, AZeroResultAfterANegationIsNegative) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const std::vector<Element> zeros(static_cast<std::size_t>(transform.length));
         for (int flag : allFlags) {
-            EXPECT_EQ(negativeZeros(run(transform, zeros, flag)), expectedNegations(transform.length))
-                << "flag " << flag;
+            EXPECT_EQ(negativeZeros(subject.run(zeros, flag)), expectedNegations(transform.length)) << "flag " << flag;
         }
     });
 }
 
 TEST_P(RealForwardTest, OnesGiveTheExactSumInBinZero) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const std::vector<Element> ones(static_cast<std::size_t>(transform.length), Element{1});
         for (int flag : allFlags) {
-            const auto packed = run(transform, ones, flag);
-            const Wide due = static_cast<Wide>(storedScale<Element>(transform, flag)) * transform.length;
+            const auto packed = subject.run(ones, flag);
+            const Wide due = static_cast<Wide>(subject.scale(flag)) * transform.length;
             EXPECT_EQ(packed[0], rounded<Element>(due)) << "flag " << flag;
-            for (std::size_t slot = 1; slot < packed.size(); ++slot) EXPECT_NEAR(packed[slot], 0, 100 * unit());
+            for (std::size_t slot = 1; slot < packed.size(); ++slot) EXPECT_NEAR(packed[slot], 0, 100 * subject.unit);
         }
     });
 }
 
 TEST_P(RealForwardTest, AgreesWithTheComplexTransformOfItsLength) {
     const auto name = "zulgDFTFwd_CToC_" + std::to_string(transform.length) + "_" + transform.suffix + "c";
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto x = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto x = subject.randomSource();
         std::vector<Element> pairs;
         for (Element value : x) pairs.insert(pairs.end(), {value, Element{0}});
         exported<Kernel<Element>>(name)(pairs.data(), pairs.data(), NoDivByAny);
-        const auto packed = run(transform, x, NoDivByAny);
+        const auto packed = subject.run(x, NoDivByAny);
         for (int k = 0; k <= half(); ++k) {
             const auto here = static_cast<std::size_t>(slots.re(k)), there = static_cast<std::size_t>(2 * k);
-            EXPECT_NEAR(packed[here], pairs[there], 100 * unit());
+            EXPECT_NEAR(packed[here], pairs[there], 100 * subject.unit);
             if (slots.im(k) < 0) continue;
-            EXPECT_NEAR(packed[here + 1], pairs[there + 1], 100 * unit());
+            EXPECT_NEAR(packed[here + 1], pairs[there + 1], 100 * subject.unit);
         }
     });
 }
 
 TEST_P(RealForwardTest, TheInverseWithTheSameFlagRestoresTheInput) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto x = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto x = subject.randomSource();
         for (int flag : allFlags) {
-            const auto restored = inverse(run(transform, x, flag), slots.layout, flag);
+            const auto restored = inverse(subject.run(x, flag), slots.layout, flag);
             const double factor = flag == NoDivByAny ? transform.length : 1;
-            for (std::size_t n = 0; n < x.size(); ++n) EXPECT_NEAR(restored[n] / factor, x[n], 100 * unit());
+            for (std::size_t n = 0; n < x.size(); ++n) EXPECT_NEAR(restored[n] / factor, x[n], 100 * subject.unit);
         }
     });
 }
 
 TEST_P(RealInverseTest, NeverReadsTheImaginaryPartsOfRealBins) {
     if (slots.layout != Layout::CCS) return;
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto packed = randomSource<Element>();
-        const auto due = run(transform, packed, DivInvByN);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto packed = subject.randomSource();
+        const auto due = subject.run(packed, DivInvByN);
         for (Element special : {Element{1000}, std::numeric_limits<Element>::quiet_NaN()}) {
             auto changed = packed;
             changed[1] = special;
             changed.resize(static_cast<std::size_t>(slots.elements()), special);  // slot N + 1 of even lengths
-            EXPECT_TRUE(sameBits(run(transform, changed, DivInvByN), due));
+            EXPECT_TRUE(sameBits(subject.run(changed, DivInvByN), due));
         }
     });
 }
 
 TEST_P(RealInverseTest, OneBinGivesItsCosine) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
+    withSubject([&]<class Element>(Subject<Element>& subject) {
         const int length = transform.length;
         for (int k = 0; k <= half(); ++k) {
             std::vector<Element> packed(static_cast<std::size_t>(slots.elements()));
             packed[static_cast<std::size_t>(slots.re(k))] = Element(0.75);
-            const auto y = run(transform, packed, NoDivByAny);
+            const auto y = subject.run(packed, NoDivByAny);
             const bool isReal = 2 * k % length == 0;
             for (int n = 0; n < length; ++n) {
                 const double due = (isReal ? 0.75 : 1.5) * static_cast<double>(cosTurn(n * k, length));
-                EXPECT_NEAR(y[static_cast<std::size_t>(n)], due, 16 * unit()) << "bin " << k;
+                EXPECT_NEAR(y[static_cast<std::size_t>(n)], due, 16 * subject.unit) << "bin " << k;
                 if (!isReal || largestPrimeFactor(length) > 7) continue;  // Rader's construction rounds
                 EXPECT_EQ(y[static_cast<std::size_t>(n)], Element(k == 0 || n % 2 == 0 ? 0.75 : -0.75));
             }
@@ -181,22 +170,22 @@ TEST_P(RealInverseTest, OneBinGivesItsCosine) {
 // Twice the greatest single is no single. Doubled in double it is, and with 1/N the outputs are in range.
 TEST_P(RealInverseTest, TheGreatestSinglesAreDoubledInDouble) {
     if (!transform.isSingle()) return;
+    const Subject<float> subject(transform, seed.random);
     constexpr float greatest = std::numeric_limits<float>::max();
     for (int k = 1; 2 * k < transform.length; ++k) {
         std::vector<float> packed(static_cast<std::size_t>(slots.elements()));
         packed[static_cast<std::size_t>(slots.re(k))] = greatest;
-        const auto y = run(transform, packed, DivInvByN);
+        const auto y = subject.run(packed, DivInvByN);
         for (int n = 0; n < transform.length; ++n) {
             const double due = 2.0 / transform.length * static_cast<double>(cosTurn(n * k, transform.length));
-            EXPECT_NEAR(y[static_cast<std::size_t>(n)] / double{greatest}, due, 16 * unit()) << "bin " << k;
+            EXPECT_NEAR(y[static_cast<std::size_t>(n)] / double{greatest}, due, 16 * subject.unit) << "bin " << k;
         }
     }
 }
 
 TEST_P(RealInverseTest, GivesTheValuesOfTheOtherLayouts) {
-    withElement([&](auto element) {
-        using Element = decltype(element);
-        const auto packed = randomSource<Element>();
+    withSubject([&]<class Element>(Subject<Element>& subject) {
+        const auto packed = subject.randomSource();
         const LayoutSlots other{Layout::CCS, transform.length};
         std::vector<Element> bins(static_cast<std::size_t>(other.elements()));
         for (int k = 0; k <= half(); ++k) {
@@ -205,7 +194,7 @@ TEST_P(RealInverseTest, GivesTheValuesOfTheOtherLayouts) {
                 bins[static_cast<std::size_t>(other.im(k))] = packed[static_cast<std::size_t>(slots.im(k))];
             }
         }
-        EXPECT_TRUE(sameBits(run(transform, packed, NoDivByAny), inverse(bins, Layout::CCS, NoDivByAny)));
+        EXPECT_TRUE(sameBits(subject.run(packed, NoDivByAny), inverse(bins, Layout::CCS, NoDivByAny)));
     });
 }
 

@@ -1,12 +1,10 @@
-// What the tests know of one exported transform of one length: enough to call it and to judge its result.
+// What the tests know of one exported transform of one length: enough to call it and to judge its result. A family is a
+// list of such rows.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cmath>
+#include <algorithm>
 #include <functional>
 #include <ostream>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -17,6 +15,9 @@
 namespace test {
 
 enum class Direction { Forward, Inverse, Both };
+
+// What a routine takes beside its two arrays.
+enum class Takes { Flag, FlagAndBuffer, FlagAndNullBuffer, Plan };
 
 // The lengths of the DFT families: 2 to 64.
 std::vector<int> allLengths();
@@ -42,25 +43,46 @@ struct Transform {
     Direction direction;  // which column of the flags' table holds
     int sourceElements;   // of float or double
     int destinationElements;
-    double bound64;                                   // largest relative error in double precision, in units of 2^-53
-    std::function<Values(const Values&)> definition;  // without scale
+    double bound;                                             // largest relative error, in units of 2^-24 or 2^-53
+    std::function<Values(const Values&, Chosen)> definition;  // without scale
+    Takes takes = Takes::Flag;
+    int order = 0;  // where names and dispatchers have it in place of the length
 
-    // Largest relative error, in units of 2^-24 or 2^-53.
-    // At length 2 an output is one sum of two singles, rounded once: about half of these sums lie exactly between two
-    // singles, so that 0.46 is the error of correct rounding, and no kernel can come below.
-    double bound() const { return !isSingle() ? bound64 : length == 2 ? 0.5 : 0.45; }
     bool isSingle() const { return suffix.starts_with("32"); }
-    std::string kernelName() const { return "zulg" + family + "_" + std::to_string(length) + "_" + suffix; }
+    int number() const { return order > 0 ? order : length; }
+    std::string kernelName() const { return "zulg" + family + "_" + std::to_string(number()) + "_" + suffix; }
     std::string dispatcherName() const { return "zulg" + family + "_" + suffix; }
+    std::vector<int> flags() const;
+
+    // The bound, and one rounding more where a Walsh-Hadamard transform multiplies by a 1/sqrt(N) that is no power of
+    // two. In single that product is part of the one rounding of the result.
+    double boundAt(int flag) const;
+
+    // How many random inputs are enough to pool their errors.
+    int inputs() const;
+    // The outputs that are held against the definition at the given round: all of them, unless that takes too long.
+    Chosen outputs(int round) const;
 };
+
+inline constexpr int allFlags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
 
 std::vector<Transform> complexTransforms();
 std::vector<Transform> realForwardTransforms();
 std::vector<Transform> realInverseTransforms();
 std::vector<Transform> hartleyTransforms();
+std::vector<Transform> walshHadamardTransforms();  // each with a buffer and without
+std::vector<Transform> dct4Transforms();           // up to the first length with two levels of splits
+
+// The first four families: source, destination and flag; a dispatcher that takes the length.
+std::vector<Transform> dftTransforms();
+// Those that have a flag and a dispatcher.
+std::vector<Transform> flaggedTransforms();
 std::vector<Transform> allTransforms();
 
 const char* layoutName(Layout layout);
+
+// The elements of the buffer of each Walsh-Hadamard order: a main area, and after it a scratch area at 12 and 13.
+int bufferElements(int order);
 
 // Of the outputs of the forward real transform of a length, how many are stored after a negation.
 int expectedNegations(int length);
@@ -85,12 +107,13 @@ Element storedScale(const Transform& transform, int flag) {
     return divides ? storedInverse<Element>(transform.length) : Element{1};
 }
 
-// One call into fresh, separate arrays.
+// A transform ready to be called. The buffer or plan that it needs is kept with it, so that two threads take two.
 template <class Element>
-std::vector<Element> run(const Transform& transform, const std::vector<Element>& source, int flag) {
-    std::vector<Element> destination(static_cast<std::size_t>(transform.destinationElements));
-    exported<Kernel<Element>>(transform.kernelName())(source.data(), destination.data(), flag);
-    return destination;
-}
+using Call = std::function<ZulgStatus(const Element* pSrc, Element* pDst, std::int32_t flag)>;
+template <class Element>
+Call<Element> callOf(const Transform& transform);
+// The same through the dispatcher of its family.
+template <class Element>
+Call<Element> dispatchedCallOf(const Transform& transform);
 
 }  // namespace test

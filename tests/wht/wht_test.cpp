@@ -1,5 +1,5 @@
-// The Walsh-Hadamard routines through the boundary: values, accuracy, buffers, refusals, and what they ask of the core
-// library.
+// What is the Walsh-Hadamard routines' own: exact values, buffers, refusals, and what they ask of the core library.
+// That they hold the promises of every transform is tested in tests/transforms.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,9 +8,8 @@
 #include <limits>
 #include <random>
 
-#include "tests/elements.h"
 #include "tests/exports.h"
-#include "tests/fakes/substituted_core.h"
+#include "tests/fakes/core_fixture.h"
 #include "tests/memory.h"
 #include "tests/reference.h"
 #include "tests/transforms/kernel_fixture.h"
@@ -31,12 +30,6 @@ WhtKernel<Element> kernelOf(int order) {
     return exported<WhtKernel<Element>>(exportedName<Element>("zulgWHT_" + std::to_string(order)));
 }
 
-// The elements of the buffer of each order: a main area, and after it a scratch area at 12 and 13.
-int bufferElements(int order) {
-    if (order < 8) return 0;
-    return (1 << order) + (order == 12 ? 256 : order == 13 ? 1024 : 0);
-}
-
 // The stored factor of an order and a flag, which no direction of the transform changes.
 template <class Element>
 Element storedFactor(int order, int flag) {
@@ -45,13 +38,8 @@ Element storedFactor(int order, int flag) {
 }
 
 template <class Element>
-class WhtTest : public ElementTest<Element> {
+class WhtTest : public CoreTest<Element> {
 protected:
-    static void SetUpTestSuite() { substitutedCore(); }
-    void SetUp() override { core = {}; }
-
-    FakeCore& core = substitutedCore();
-
     std::vector<Element> sourceOf(int order) { return this->randomElements(1 << order); }
 
     std::vector<Element> run(int order, const std::vector<Element>& source, int flag) {
@@ -131,62 +119,6 @@ TYPED_TEST(WhtTest, TwiceGivesTheInputBack) {
         for (const auto& [first, second] : pairs) {
             const auto twice = this->run(order, this->run(order, source, first), second);
             for (std::size_t n = 0; n < source.size(); ++n) ASSERT_NEAR(twice[n], source[n], 40 * this->unit) << order;
-        }
-    }
-}
-
-TYPED_TEST(WhtTest, FlagsOneAndTwoAreTheSameBits) {
-    for (int order = 1; order <= 13; ++order) {
-        const auto source = this->sourceOf(order);
-        EXPECT_EQ(this->run(order, source, DivFwdByN), this->run(order, source, DivInvByN));
-    }
-}
-
-// Relative L2 error in units of the last place: 0.45 sqrt(n + 1) in double. In single, values are held in double inside
-// a block, so that only what the buffer takes and the result are rounded: once to three times. Order 1 is one sum of
-// two singles, half of which lie exactly between two singles: correct rounding itself gives 0.47 there.
-TYPED_TEST(WhtTest, IsAccurate) {
-    for (int order = 1; order <= 13; ++order) {
-        Wide errors = 0, squares = 0;
-        for (int round = 0; round < std::max(4, 4000 >> order); ++round) {
-            const auto source = this->sourceOf(order);
-            const Values due = walshHadamardTransform({source.begin(), source.end()});
-            const auto found = this->run(order, source, NoDivByAny);
-            for (std::size_t k = 0; k < due.size(); ++k) {
-                errors += (found[k] - due[k]) * (found[k] - due[k]);
-                squares += due[k] * due[k];
-            }
-        }
-        const double error = static_cast<double>(std::sqrt(errors / squares) / this->unit);
-        const int roundings = order < 8 ? 1 : order < 12 ? 2 : 3;
-        const double bound = !this->single ? 0.45 * std::sqrt(order + 1.0)
-                             : order == 1  ? 0.5
-                                           : 0.45 * std::sqrt(roundings);
-        EXPECT_LE(error, bound) << "order " << order;
-        this->RecordProperty("order" + std::to_string(order), std::to_string(error));
-    }
-}
-
-TYPED_TEST(WhtTest, SourceAndDestinationMayBeTheSame) {
-    for (int order = 1; order <= 13; ++order) {
-        for (int flag : allFlags) {
-            const auto source = this->sourceOf(order);
-            auto both = source;
-            std::vector<TypeParam> buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
-            EXPECT_EQ(kernelOf<TypeParam>(order)(both.data(), both.data(), flag, buffer.data()), StatusOk);
-            EXPECT_EQ(both, this->run(order, source, flag)) << order;
-        }
-    }
-}
-
-TYPED_TEST(WhtTest, DispatcherAndKernelGiveTheSameBits) {
-    const auto dispatcher = exported<WhtDispatcher<TypeParam>>(exportedName<TypeParam>("zulgWHT"));
-    for (int order = 1; order <= 13; ++order) {
-        for (int flag : allFlags) {
-            const auto source = this->sourceOf(order);
-            std::vector<TypeParam> found(source.size()), buffer(static_cast<std::size_t>(bufferElements(order)) + 1);
-            EXPECT_EQ(dispatcher(source.data(), found.data(), order, flag, buffer.data()), StatusOk);
-            EXPECT_EQ(found, this->run(order, source, flag)) << order;
         }
     }
 }
@@ -275,27 +207,20 @@ TYPED_TEST(WhtTest, WithoutABufferTakesOneAtAnyAddress) {
     }
 }
 
-// Arrays and buffer end at an inaccessible page, aligned to the element only; every element of the buffer is written.
-TYPED_TEST(WhtTest, StaysInsideItsArraysAndWritesTheWholeBuffer) {
-    for (int order = 1; order <= 13; ++order) {
+// The buffer ends at an inaccessible page; every element of it is written.
+TYPED_TEST(WhtTest, StaysInsideItsBufferAndWritesAllOfIt) {
+    for (int order = 8; order <= 13; ++order) {
         const auto source = this->sourceOf(order);
-        const std::size_t bytes = source.size() * sizeof(TypeParam);
-        const std::size_t bufferBytes = static_cast<std::size_t>(bufferElements(order)) * sizeof(TypeParam);
-        const GuardedPages from(bytes), to(bytes), buffer(bufferBytes);
-        for (bool rear : {false, true}) {
-            const auto place = [&](const GuardedPages& pages, std::size_t size) {
-                return reinterpret_cast<TypeParam*>(rear ? pages.atRear(size) : pages.atFront());
-            };
-            TypeParam* const pSrc = place(from, bytes);
-            std::memcpy(pSrc, source.data(), bytes);
-            std::memset(place(buffer, bufferBytes), 0xFF, bufferBytes);  // not-a-number throughout
-            EXPECT_EQ(kernelOf<TypeParam>(order)(pSrc, place(to, bytes), NoDivByAny, place(buffer, bufferBytes)),
-                      StatusOk);
-            EXPECT_EQ(std::memcmp(pSrc, source.data(), bytes), 0) << "the source was written";
-            const auto due = this->run(order, source, NoDivByAny);
-            EXPECT_EQ(std::memcmp(place(to, bytes), due.data(), bytes), 0) << order;
-            const auto* const used = place(buffer, bufferBytes);
-            for (int i = 0; i < bufferElements(order); ++i) ASSERT_FALSE(std::isnan(used[i])) << order << ", " << i;
+        const auto due = this->run(order, source, NoDivByAny);
+        const std::size_t bytes = static_cast<std::size_t>(bufferElements(order)) * sizeof(TypeParam);
+        const GuardedPages pages(bytes);
+        for (std::byte* place : {pages.atFront(), pages.atRear(bytes)}) {
+            auto* const buffer = reinterpret_cast<TypeParam*>(place);
+            std::memset(place, 0xFF, bytes);  // not-a-number throughout
+            std::vector<TypeParam> found(source.size());
+            EXPECT_EQ(kernelOf<TypeParam>(order)(source.data(), found.data(), NoDivByAny, buffer), StatusOk);
+            EXPECT_EQ(found, due) << order;
+            for (int i = 0; i < bufferElements(order); ++i) ASSERT_FALSE(std::isnan(buffer[i])) << order << ", " << i;
         }
     }
 }

@@ -9,6 +9,7 @@
 
 #include "output/catalogue_json.h"
 #include "output/emit.h"
+#include "output/emit_lanes.h"
 #include "output/tuning.h"
 
 namespace {
@@ -19,6 +20,7 @@ constexpr const char* usage =
     "usage: generate write            writes every generated file of the tree\n"
     "       generate check            compares the tree with what write would write; exit code 1 if they differ\n"
     "       generate show FAMILY N    prints the emitted text of one graph\n"
+    "       generate show FAMILY N FORM   the same in registers of several lanes: pairs or lines\n"
     "       generate list FAMILY N    prints the graph itself, one node to a line\n"
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
@@ -40,13 +42,22 @@ std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
 // Path and text of every generated file.
 std::map<std::string, std::string> allFiles() {
     std::map<std::string, std::string> files;
-    std::vector<std::pair<const gen::GraphEntry*, int>> kernelTexts;
+    std::vector<gen::KernelText> kernelTexts;
     std::map<std::string, gen::Counts> counts;
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
         const auto graph = entry.build();
         files[entry.file()] = graphText(entry, *graph);
         counts[entry.name()] = graph->counts();
-        if (!entry.family->isBody()) kernelTexts.emplace_back(&entry, gen::stepsOf(entry, *graph));
+        if (entry.family->isBody()) continue;
+        const int steps = gen::stepsOf(entry, *graph);
+        kernelTexts.push_back({entry.file(), "scalar", entry.family->graphTemplate, &entry, steps});
+        if (!entry.family->hasLanes) continue;
+        for (const gen::Form form : gen::formsOf(entry.length)) {
+            const std::string file = gen::laneFile(entry, form);
+            files[file] = gen::laneText(entry, form, *graph);
+            kernelTexts.push_back(
+                {file, gen::formOfText(form).name, gen::formOfText(form).graphTemplate, &entry, steps});
+        }
     }
     files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
     files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
@@ -66,6 +77,7 @@ std::string read(const fs::path& path) {
 std::vector<fs::path> strayFiles(const std::map<std::string, std::string>& files) {
     std::set<std::string> folders;
     for (const gen::GraphEntry& entry : gen::allGraphs()) folders.insert(entry.family->folder);
+    for (const gen::Form form : {gen::Form::Pairs, gen::Form::Lines}) folders.insert(gen::formOfText(form).folder);
     std::vector<fs::path> stray;
     for (const std::string& folder : folders) {
         if (!fs::exists(folder)) continue;
@@ -132,6 +144,15 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 1 && verb == "write") return write();
     if (words.size() == 1 && verb == "check") return check();
     if (words.size() == 1 && verb == "count") return count();
+    if (words.size() == 4 && verb == "show") {
+        const gen::GraphEntry& entry = find(words[1], words[2]);
+        for (const gen::Form form : gen::formsOf(entry.length)) {
+            if (!entry.family->hasLanes || gen::formOfText(form).name != words[3]) continue;
+            std::cout << gen::laneText(entry, form, *entry.build());
+            return 0;
+        }
+        throw std::runtime_error("no form " + words[3] + " of " + entry.name());
+    }
     if (words.size() == 3 && (verb == "show" || verb == "list" || verb == "dot")) {
         const gen::GraphEntry& entry = find(words[1], words[2]);
         const auto graph = entry.build();

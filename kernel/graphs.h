@@ -4,6 +4,9 @@
 //     inverseRoot   1/sqrt(length) as a double, for `scale`
 //     constants     those of the text, the most used first
 //     run(io)       the text itself
+//
+// A complex graph has three forms of text: one real number to a register, one complex number, and the complex numbers
+// of two lines of a stage.
 #pragma once
 
 #include "kernel/text.h"
@@ -12,6 +15,10 @@ namespace zulg {
 
 template <int length>
 struct ComplexGraph;
+template <int length>
+struct ComplexPairs;
+template <int length>
+struct ComplexLines;
 template <int length>
 struct RealForwardGraph;
 template <int length>

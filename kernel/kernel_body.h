@@ -4,78 +4,84 @@
 
 #include "kernel/graphs.h"
 #include "kernel/kernel.h"
+#include "kernel/lane_ports.h"
 #include "kernel/ports.h"
 #include "kernel/scale.h"
 
 namespace zulg {
 inline namespace ZULG_TARGET {
 
-// What a family is made of: flags, graph and ports.
+// The text that a kernel runs: the build says it for each kernel that it makes.
+template <Family family, int length>
+struct TextOf;
+
+// The flags of a family.
 template <Family family>
-struct FamilyTraits;
-
+struct FlagsOf : ForwardFlags {};
 template <>
-struct FamilyTraits<Family::DFTFwd_CToC> : ForwardFlags {
-    template <int length>
-    using Graph = ComplexGraph<length>;
-    template <class Element, int length>
-    using Ports = ComplexPorts<TargetNumbers, Element>;
+struct FlagsOf<Family::DFTInv_CToC> : InverseFlags {};
+template <>
+struct FlagsOf<Family::DFTInv_CCSToR> : InverseFlags {};
+template <>
+struct FlagsOf<Family::DFTInv_PackToR> : InverseFlags {};
+template <>
+struct FlagsOf<Family::DFTInv_PermToR> : InverseFlags {};
+template <>
+struct FlagsOf<Family::Hartley> : InvolutionFlags {};
+
+// The layout of a half spectrum that a real family yields or takes.
+template <Family family>
+inline constexpr Layout layoutOf = Layout::CCS;
+template <>
+inline constexpr Layout layoutOf<Family::DFTFwd_RToPack> = Layout::Pack;
+template <>
+inline constexpr Layout layoutOf<Family::DFTInv_PackToR> = Layout::Pack;
+template <>
+inline constexpr Layout layoutOf<Family::DFTFwd_RToPerm> = Layout::Perm;
+template <>
+inline constexpr Layout layoutOf<Family::DFTInv_PermToR> = Layout::Perm;
+
+// The ports through which a family runs a text.
+template <Family family, class Text, class Element>
+struct PortsOf;
+
+template <int length, class Element>
+struct PortsOf<Family::DFTFwd_CToC, ComplexGraph<length>, Element> {
+    using Type = ComplexPorts<TargetNumbers, Element>;
 };
-
-template <>
-struct FamilyTraits<Family::DFTInv_CToC> : InverseFlags {
-    template <int length>
-    using Graph = ComplexGraph<length>;
-    template <class Element, int length>
-    using Ports = ExchangedPorts<TargetNumbers, Element>;
+template <int length, class Element>
+struct PortsOf<Family::DFTInv_CToC, ComplexGraph<length>, Element> {
+    using Type = ExchangedPorts<TargetNumbers, Element>;
 };
-
-template <Layout layout>
-struct RealForward : ForwardFlags {
-    template <int length>
-    using Graph = RealForwardGraph<length>;
-    template <class Element, int length>
-    using Ports = RealForwardPorts<TargetNumbers, Element, layout, length>;
+template <Family family, int length, class Element>
+struct PortsOf<family, ComplexPairs<length>, Element> {
+    using Type = LanePorts<TargetNumbers, Element, family == Family::DFTInv_CToC>;
 };
-
-template <>
-struct FamilyTraits<Family::DFTFwd_RToCCS> : RealForward<Layout::CCS> {};
-template <>
-struct FamilyTraits<Family::DFTFwd_RToPack> : RealForward<Layout::Pack> {};
-template <>
-struct FamilyTraits<Family::DFTFwd_RToPerm> : RealForward<Layout::Perm> {};
-
-template <Layout layout>
-struct RealInverse : InverseFlags {
-    template <int length>
-    using Graph = RealInverseGraph<length>;
-    template <class Element, int length>
-    using Ports = RealInversePorts<TargetNumbers, Element, layout, length>;
+template <Family family, int length, class Element>
+struct PortsOf<family, ComplexLines<length>, Element> {
+    using Type = LanePorts<TargetNumbers, Element, family == Family::DFTInv_CToC>;
 };
-
-template <>
-struct FamilyTraits<Family::DFTInv_CCSToR> : RealInverse<Layout::CCS> {};
-template <>
-struct FamilyTraits<Family::DFTInv_PackToR> : RealInverse<Layout::Pack> {};
-template <>
-struct FamilyTraits<Family::DFTInv_PermToR> : RealInverse<Layout::Perm> {};
-
-template <>
-struct FamilyTraits<Family::Hartley> : InvolutionFlags {
-    template <int length>
-    using Graph = HartleyGraph<length>;
-    template <class Element, int length>
-    using Ports = RealPorts<TargetNumbers, Element>;
+template <Family family, int length, class Element>
+struct PortsOf<family, RealForwardGraph<length>, Element> {
+    using Type = RealForwardPorts<TargetNumbers, Element, layoutOf<family>, length>;
+};
+template <Family family, int length, class Element>
+struct PortsOf<family, RealInverseGraph<length>, Element> {
+    using Type = RealInversePorts<TargetNumbers, Element, layoutOf<family>, length>;
+};
+template <Family family, int length, class Element>
+struct PortsOf<family, HartleyGraph<length>, Element> {
+    using Type = RealPorts<TargetNumbers, Element>;
 };
 
 template <Family family, int length, class Element>
 Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
-    using Graph = typename FamilyTraits<family>::template Graph<length>;
+    using Graph = typename TextOf<family, length>::Type;
     using Factor = Scale<Element, length, Graph>;
 
-    return withScale<typename FamilyTraits<family>::Flags, Factor>(
+    return withScale<typename FlagsOf<family>::Flags, Factor>(
         pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-            const typename FamilyTraits<family>::template Ports<Element, length> io{{pSrc, pDst, scale}};
+            const typename PortsOf<family, Graph, Element>::Type io{{pSrc, pDst, scale}};
             Graph::run(io);
             io.finish();
         });

@@ -22,7 +22,8 @@ TABLE = TREE / TARGET / "tuning.txt"
 LEAST_GAIN = 5
 
 ALTERNATIVES = {"plain": (), "bisection": ("bisection",), "speed": ("speed",), "both": ("bisection", "speed")}
-TEXT = re.compile(r'"kernels/(\w+)/\w+\.h (\d+) (\d+) ')
+# Texts with one real number to a register, of families that have no other form.
+TEXT = re.compile(r'"kernels/((?!complex/)\w+)/\w+\.h scalar \w+ (\d+) (\d+) ')
 
 HEAD = """\
 # What this machine likes: the choices for a text of kernels that are settled by measurement. scripts/tune writes this

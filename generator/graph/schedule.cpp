@@ -174,20 +174,24 @@ private:
     int labels = 0;
 };
 
+Schedule scheduled(const Graph& graph, Unit unit, Order order) {
+    const Units units(graph, unit);
+    Writer writer(graph, units);
+    for (std::size_t next : orderOf(units, order)) writer.operations(next);
+    return writer.take();
+}
+
 }  // namespace
 
-Schedule byBisection(const Graph& graph, Unit unit) {
-    const Units units(graph, unit);
-    Writer writer(graph, units);
-    for (std::size_t next : Bisection(units).order) writer.operations(next);
-    return writer.take();
+std::vector<std::size_t> orderOf(const Units& units, Order order) {
+    if (order == Order::Bisection) return Bisection(units).order;
+    std::vector<std::size_t> all(units.count());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    return all;
 }
 
-Schedule blockByBlock(const Graph& graph, Unit unit) {
-    const Units units(graph, unit);
-    Writer writer(graph, units);
-    for (std::size_t next = 0; next < units.count(); ++next) writer.operations(next);
-    return writer.take();
-}
+Schedule byBisection(const Graph& graph, Unit unit) { return scheduled(graph, unit, Order::Bisection); }
+
+Schedule blockByBlock(const Graph& graph, Unit unit) { return scheduled(graph, unit, Order::Blocks); }
 
 }  // namespace gen

@@ -22,6 +22,10 @@ struct Schedule {
     int mostAlive = 0;  // the greatest number of values that wait for a use at one time
 };
 
+// The order of the units, by their numbers: as they are numbered, or by recursive bisection.
+enum class Order { Blocks, Bisection };
+std::vector<std::size_t> orderOf(const Units& units, Order order);
+
 // Block by block as constructed: the steps in their order of insertion, each load right before its first use, each
 // store as soon as its value is computed and all loads are done.
 //

@@ -39,25 +39,41 @@ private:
 
 }  // namespace
 
-Units::Units(const Graph& source, Unit unit) : graph(source), unitByNode(source.nodes().size()) {
+namespace {
+
+std::vector<Group> pairsAsGroups(const Graph& graph, Unit unit) {
+    std::vector<Group> groups;
+    if (unit == Unit::Node) return groups;
+    for (const Pair& pair : graph.pairs()) groups.push_back({pair.re, pair.im});
+    return groups;
+}
+
+}  // namespace
+
+Units::Units(const Graph& source, Unit unit) : Units(source, pairsAsGroups(source, unit)) {}
+
+Units::Units(const Graph& source, std::vector<Group> groups) : graph(source), unitByNode(source.nodes().size()) {
     const PerNode<bool> alive = graph.alive();
-    PerNode<bool> isTogether(graph.nodes().size(), false);
-    for (const Pair& pair : graph.pairs()) {
-        if (unit == Unit::Pair && alive[pair.re] && alive[pair.im]) isTogether[pair.re] = isTogether[pair.im] = true;
-    }
+    std::erase_if(
+        groups, [&](const Group& group) { return std::ranges::any_of(group, [&](NodeId id) { return !alive[id]; }); });
     do {
-        list(isTogether);
-    } while (!sort(isTogether));
+        list(groups);
+    } while (!sort(groups));
 }
 
 // All units, by their last nodes.
-void Units::list(const PerNode<bool>& isTogether) {
+void Units::list(const std::vector<Group>& groups) {
+    constexpr std::size_t none = static_cast<std::size_t>(-1);
+    PerNode<std::size_t> groupOf(graph.nodes().size(), none);
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        for (NodeId id : groups[i]) groupOf[id] = i;
+    }
     units.clear();
     for (NodeId id : graph.aliveNodes()) {
-        if (!isTogether[id]) {
+        if (groupOf[id] == none) {
             units.push_back({id});
-        } else if (const Pair pair = *graph.pairOf(id); id == std::max(pair.re, pair.im)) {
-            units.push_back({pair.re, pair.im});
+        } else if (const Group& group = groups[groupOf[id]]; id == *std::ranges::max_element(group)) {
+            units.push_back(group);
         }
     }
     number();
@@ -69,12 +85,18 @@ void Units::number() {
     }
 }
 
-// Whether the units could be put in order; otherwise a pair is taken apart.
-bool Units::sort(PerNode<bool>& isTogether) {
+// Whether the units could be put in order; otherwise a group is cut.
+bool Units::sort(std::vector<Group>& groups) {
     const Sorting sorting(*this);
     if (!sorting.circle.empty()) {
-        const auto isPair = [&](std::size_t unit) { return units[unit].size() > 1; };
-        for (NodeId id : units[*std::ranges::find_if(sorting.circle, isPair)]) isTogether[id] = false;
+        const auto isGroup = [&](std::size_t unit) { return units[unit].size() > 1; };
+        const Group cut = units[*std::ranges::find_if(sorting.circle, isGroup)];
+        groups.erase(std::ranges::find(groups, cut));
+        const auto middle = cut.begin() + static_cast<std::ptrdiff_t>(cut.size() / 2);
+        if (cut.size() > 2) {
+            groups.emplace_back(cut.begin(), middle);
+            groups.emplace_back(middle, cut.end());
+        }
         return false;
     }
     std::vector<std::vector<NodeId>> sorted;

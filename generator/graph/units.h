@@ -1,4 +1,4 @@
-// The steps of a graph in units: single nodes, or pairs that stay together.
+// The steps of a graph in units: single nodes, or groups of nodes that stay together.
 #pragma once
 
 #include <vector>
@@ -11,11 +11,17 @@ namespace gen {
 // which leaves fewer values waiting; one for a complex number per register takes pairs.
 enum class Unit { Node, Pair };
 
+// Nodes that stay together: one, two or four, in an order that means something to those who read it.
+using Group = std::vector<NodeId>;
+
 class Units {
 public:
-    // Pairs that take values from each other, or from each other in a circle, cannot stay together: the first one that
-    // is met in a circle is taken apart, until there is none.
     Units(const Graph& graph, Unit unit);
+
+    // Every node is in at most one group, and a node that is in none is a unit by itself. Groups that take values from
+    // each other, or from each other in a circle, cannot stay together: the first one that is met in a circle is cut in
+    // halves, until there is none.
+    Units(const Graph& graph, std::vector<Group> groups);
 
     // Units are numbered from 0: by their last nodes, but each one after those whose values it takes. Loads are units,
     // nodes that no output needs are in none.
@@ -27,8 +33,8 @@ public:
     std::vector<std::size_t> operands(std::size_t unit) const;
 
 private:
-    void list(const PerNode<bool>& isTogether);
-    bool sort(PerNode<bool>& isTogether);
+    void list(const std::vector<Group>& groups);
+    bool sort(std::vector<Group>& groups);
     void number();
 
     const Graph& graph;

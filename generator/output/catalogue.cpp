@@ -62,6 +62,7 @@ const std::vector<GraphFamily> families = {
      .input = complexPlace,
      .output = complexPlace,
      .allowsNegation = false,
+     .hasLanes = true,
      .lengths = everyLength,
      .recipe = [](int length) { return complexWords(complexRecipe(length)); },
      .row = complexRecipe,

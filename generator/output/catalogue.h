@@ -42,6 +42,7 @@ struct GraphFamily {
     Port (*input)(int length, int index);   // of each input of the graph
     Port (*output)(int length, int index);  // of each output
     bool allowsNegation;                    // whether an output may be stored with its sign changed
+    bool hasLanes = false;                  // whether there are texts in registers of several lanes, too
 
     std::vector<int> (*lengths)();
     std::string (*recipe)(int length);  // in words

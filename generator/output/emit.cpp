@@ -109,8 +109,9 @@ std::string headText(const GraphEntry& entry, const Graph& graph, const Schedule
            " values alive at most.\n";
 }
 
-// What a text says of itself before its steps.
-std::string factsText(const GraphEntry& entry, const Graph& graph, const Names& names) {
+}  // namespace
+
+std::string factsText(const GraphEntry& entry, const Graph& graph, const std::vector<ConstantId>& constants) {
     std::string text;
     if (!entry.family->isBody()) {
         text += "    static constexpr int steps = " + to_string(stepsOf(entry, graph)) +
@@ -118,17 +119,18 @@ std::string factsText(const GraphEntry& entry, const Graph& graph, const Names& 
                 literal(storedInverseRoot(entry.length)) + ";  // 1/sqrt(" + to_string(entry.length) +
                 "), for `scale`\n";
     }
-    if (!names.constantsInOrder().empty()) {
+    if (!constants.empty()) {
         text += "    static constexpr double constants[] = {\n";
-        for (ConstantId id : names.constantsInOrder()) {
-            const Constant& constant = graph.constant(id);
-            text +=
-                "        " + literal(constant.stored) + ",  // " + names.constant(id) + ": " + constant.origin + "\n";
+        for (std::size_t i = 0; i < constants.size(); ++i) {
+            const Constant& constant = graph.constant(constants[i]);
+            text += "        " + literal(constant.stored) + ",  // c[" + to_string(i) + "]: " + constant.origin + "\n";
         }
         text += "    };\n";
     }
     return text.empty() ? text : text + "\n";
 }
+
+namespace {
 
 // The block of step i. A load belongs to the block of the next operation; none if no operation comes next.
 std::optional<BlockId> blockAt(const Graph& graph, const std::vector<Step>& steps, std::size_t i) {
@@ -180,7 +182,7 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
     const std::string header = family.isBody() ? family.folder + ".h" : "kernel/graphs.h";
     std::string text = headText(entry, graph, schedule) + "#pragma once\n\n#include \"" + header +
                        "\"\n\nnamespace zulg {\n\ntemplate <>\nstruct " + family.graphTemplate + "<" +
-                       to_string(entry.length) + "> {\n" + factsText(entry, graph, names) +
+                       to_string(entry.length) + "> {\n" + factsText(entry, graph, names.constantsInOrder()) +
                        "    template <class Ports>\n"
                        "    ZULG_INLINE static void run(const Ports& io) {\n"
                        "        using V = typename Ports::Value;\n";
@@ -191,14 +193,15 @@ std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedul
     return text + stepsText(entry, graph, schedule, names) + "    }\n};\n\n}  // namespace zulg\n";
 }
 
-std::string emitTexts(const std::vector<std::pair<const GraphEntry*, int>>& texts) {
+std::string emitTexts(const std::vector<KernelText>& texts) {
     std::string text =
-        "# Written by `generate write`; do not edit. The rule: generator/output/catalogue.cpp.\n"
-        "# The texts of which the build makes kernels: file, length, steps with `scale`, families.\n"
+        "# Written by `generate write`; do not edit. The rule: generator/output/emit.cpp.\n"
+        "# The texts of which the build makes kernels: file, form, graph, length, steps with `scale`, families.\n"
         "set(kernel_texts";
-    for (const auto& [entry, steps] : texts) {
-        text += "\n    \"" + entry->file() + " " + to_string(entry->length) + " " + to_string(steps);
-        for (const KernelFamily& family : entry->family->exported) text += " " + family.name;
+    for (const KernelText& row : texts) {
+        text += "\n    \"" + row.file + " " + row.form + " " + row.graph + " " + to_string(row.entry->length) + " " +
+                to_string(row.steps);
+        for (const KernelFamily& family : row.entry->family->exported) text += " " + family.name;
         text += "\"";
     }
     return text + ")\n";

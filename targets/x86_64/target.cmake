@@ -1,8 +1,11 @@
-# x86-64, with ELF shared libraries: scalar code that any such processor runs.
+# x86-64, with ELF shared libraries: code that any such processor runs.
 
 set(target_compile_flags
     -mfpmath=sse -mno-sse3
     -fcf-protection=full)
+
+set(kernel_forms scalar)
+set(lane_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
 
 # Kernels: smaller code is faster code here. It has more memory operands and fewer instructions than at -O2, and a
 # kernel that exceeds the instruction cache is slow.

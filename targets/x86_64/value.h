@@ -1,8 +1,9 @@
-// Numbers on x86-64: one double to a register of the vector unit.
+// Numbers on x86-64: in a register of the vector unit, one double or the two of a complex number.
 #pragma once
 
 #include "kernel/doubles.h"
 #include "kernel/near_constants.h"
+#include "targets/x86_64/in_lanes.h"
 
 // The namespace of what is compiled for this target.
 #define ZULG_TARGET x86_64
@@ -10,7 +11,7 @@
 namespace zulg {
 inline namespace ZULG_TARGET {
 
-struct TargetNumbers : Doubles {
+struct TargetNumbers : Doubles, DoublesInLanes {
     // The processor's cache of decoded instructions holds about 16 KB of code, and where it ends the bytes of code are
     // the time: a constant near a register saves 3 bytes a product over one with an address of its own. A short kernel
     // gains nothing or loses.

@@ -9,6 +9,7 @@ set(target_compile_flags
 # Kernels: smaller code is faster code here, too.
 set(kernel_compile_flags -Os)
 set(dct4_run_compile_flags ${kernel_compile_flags} -flive-range-shrinkage)  # fewer spills in long rows
+set(kernel_forms scalar)
 set(long_kernel_launcher "")
 
 set(common_link_flags

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/texts/lane_texts_test.h"
+
 namespace test {
 namespace {
 
@@ -27,6 +29,22 @@ TEST(Texts, HoldAsManyStepsAsTheyState) {
     for (const TextRun& text : textRuns()) {
         const TextResults results = text.run();
         EXPECT_EQ(results.stated, text.name.starts_with("kernels/") ? results.counted : 0) << text.name;
+    }
+}
+
+// A text in lanes takes the same steps as the scalar text of its graph, so that the results are the same bits.
+TEST(LaneTexts, GiveTheBitsOfTheScalarText) {
+    ASSERT_EQ(laneTextRuns().size(), 10u + 6);
+    for (const LaneTextRun& text : laneTextRuns()) {
+        const LaneTextResults results = text.run();
+        EXPECT_EQ(results.lanes, results.scalar) << text.name;
+        EXPECT_EQ(results.registers, results.scalar) << text.name;
+        EXPECT_EQ(results.exchanged, results.scalar) << text.name;
+        for (const auto& [place, value] : results.scalar) {
+            EXPECT_LE(results.intervals.at(place).low, value) << text.name << ", output " << place.second;
+            EXPECT_GE(results.intervals.at(place).high, value) << text.name << ", output " << place.second;
+        }
+        EXPECT_EQ(results.counted, results.stated) << text.name;
     }
 }
 

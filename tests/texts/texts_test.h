@@ -81,9 +81,10 @@ public:
 
     mutable std::map<OutputPlace, Value> outputs = {};
 
-private:
     // Around 1, each another one.
     static double input(int i) { return 0.5 + (i * 37 % 101) / 128.0 - (i % 3) * 0.75; }
+
+private:
     static Value value(double x) {
         if constexpr (requires(Value v) { v[0]; }) {
             return Value{} + static_cast<Factor>(x);

@@ -1,0 +1,234 @@
+// Graphs in registers of several lanes: each step of the graph is one lane of one step, and nothing else is computed.
+#include "graph/lanes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "graph/complex_value.h"
+#include "graph/lines.h"
+#include "output/catalogue.h"
+#include "output/emit_lanes.h"
+#include "rules/transforms.h"
+
+namespace gen {
+namespace {
+
+using StepKind = LaneStep::Kind;
+
+std::size_t at(int number) { return static_cast<std::size_t>(number); }
+
+// The lanes that a step gives, worked out from the lanes that it takes. Each lane of arithmetic is held against the
+// node that the program says it is.
+class Reading {
+public:
+    Reading(const Graph& source, const LaneProgram& laneProgram)
+        : graph(source), program(laneProgram), known(laneProgram.registers.size(), false) {
+        for (const LaneStep& step : program.steps) read(step);
+    }
+
+    std::map<NodeId, int> computed;  // how often
+    std::map<int, Lane> stored;      // by output
+    int shuffles = 0, flips = 0;
+
+private:
+    const Lanes& lanes(int number) {
+        EXPECT_TRUE(known[at(number)]) << "register " << number << " is taken before it is given";
+        return program.registers[at(number)];
+    }
+
+    void read(const LaneStep& step) {
+        switch (step.kind) {
+            case StepKind::Store: return store(step);
+            case StepKind::Load: load(step); break;
+            case StepKind::Sum:
+            case StepKind::Difference: sum(step); break;
+            case StepKind::Scaled: scaled(step); break;
+            default: EXPECT_EQ(moved(step), program.registers[at(step.result)]);
+        }
+        EXPECT_FALSE(known[at(step.result)]) << "register " << step.result << " is given twice";
+        known[at(step.result)] = true;
+    }
+
+    void load(const LaneStep& step) {
+        EXPECT_TRUE(stored.empty()) << "a load after a store";
+        const Lanes& result = program.registers[at(step.result)];
+        ASSERT_EQ(result.size(), 2 * step.elements.size());
+        for (std::size_t i = 0; i < result.size(); ++i) {
+            const Node& node = graph.node(result[i].node);
+            EXPECT_EQ(node.kind, Kind::Load);
+            EXPECT_EQ(node.input, 2 * step.elements[i / 2] + static_cast<int>(i % 2));
+            EXPECT_FALSE(result[i].minus);
+        }
+    }
+
+    void store(const LaneStep& step) {
+        const Lanes& from = lanes(step.a);
+        ASSERT_EQ(from.size(), 2 * step.elements.size());
+        for (std::size_t i = 0; i < from.size(); ++i) {
+            const int output = 2 * step.elements[i / 2] + static_cast<int>(i % 2);
+            EXPECT_TRUE(stored.emplace(output, from[i]).second) << "output " << output << " is stored twice";
+        }
+    }
+
+    // (+-x) + (+-y), with the signs as the lanes have them, must be the node: x + y, x - y or -y + x.
+    void sum(const LaneStep& step) {
+        const Lanes a = lanes(step.a), b = lanes(step.b), result = program.registers[at(step.result)];
+        ASSERT_EQ(a.size(), result.size());
+        ASSERT_EQ(b.size(), result.size());
+        for (std::size_t i = 0; i < result.size(); ++i) {
+            const Node& node = graph.node(result[i].node);
+            Lane x = a[i], y = b[i];
+            if (step.kind == StepKind::Difference) y.minus = !y.minus;
+            if (x.node != node.a || x.minus) std::swap(x, y);
+            EXPECT_FALSE(result[i].minus) << "a sum has no sign to give away: what it cancels is a positive zero";
+            EXPECT_TRUE(node.kind == Kind::Add || node.kind == Kind::Sub);
+            EXPECT_EQ(x, Lane{node.a});
+            EXPECT_EQ(y, (Lane{node.b, node.kind == Kind::Sub}));
+            ++computed[result[i].node];
+        }
+    }
+
+    void scaled(const LaneStep& step) {
+        const Lanes a = lanes(step.a), result = program.registers[at(step.result)];
+        ASSERT_EQ(a.size(), result.size());
+        ASSERT_EQ(step.factors.size(), result.size());
+        for (std::size_t i = 0; i < result.size(); ++i) {
+            const Node& node = graph.node(result[i].node);
+            EXPECT_EQ(node.kind, Kind::Scaled);
+            EXPECT_EQ(node.a, a[i].node);
+            EXPECT_EQ(node.constant, step.factors[i].constant);
+            EXPECT_EQ(result[i].minus, a[i].minus != step.factors[i].minus);
+            ++computed[result[i].node];
+        }
+    }
+
+    Lanes moved(const LaneStep& step) {
+        Lanes from = lanes(step.a);
+        if (step.kind == StepKind::Flip) {
+            ++flips;
+            for (std::size_t i = 0; i < from.size(); ++i) from[i].minus = from[i].minus != step.flips.at(i);
+            return from;
+        }
+        ++shuffles;
+        const auto half = static_cast<std::ptrdiff_t>(from.size() / 2);
+        if (step.kind == StepKind::Part) {
+            return step.places.at(0) == 0 ? Lanes(from.begin(), from.begin() + half)
+                                          : Lanes(from.begin() + half, from.end());
+        }
+        if (step.b >= 0) {
+            const Lanes& second = lanes(step.b);
+            EXPECT_EQ(second.size(), from.size());
+            from.insert(from.end(), second.begin(), second.end());
+        }
+        if (step.kind == StepKind::Join) return from;
+        Lanes result;
+        for (int place : step.places) result.push_back(from.at(at(place)));
+        return result;
+    }
+
+    const Graph& graph;
+    const LaneProgram& program;
+    std::vector<bool> known;
+};
+
+class LanesOf : public testing::TestWithParam<int> {};
+
+TEST_P(LanesOf, EachStepIsOneLaneOfOneStep) {
+    const auto graph = complexTransform(GetParam());
+    for (const Form form : formsOf(GetParam())) {
+        SCOPED_TRACE(formOfText(form).name);
+        const LaneProgram program = laneProgram(form, *graph);
+        const Reading reading(*graph, program);
+        std::map<NodeId, int> due;
+        for (NodeId id : graph->aliveNodes()) {
+            if (graph->node(id).kind != Kind::Load) due[id] = 1;
+        }
+        EXPECT_EQ(reading.computed, due);
+        std::map<int, Lane> stored;
+        for (const Output& output : graph->outputs()) stored[output.place] = {output.node};
+        EXPECT_EQ(reading.stored, stored);
+    }
+}
+
+// A bound on what is not arithmetic. A text that takes registers apart and puts them together again fails it.
+TEST_P(LanesOf, ShufflesAreFewerThanSteps) {
+    const auto graph = complexTransform(GetParam());
+    for (const Form form : formsOf(GetParam())) {
+        const LaneProgram program = laneProgram(form, *graph);
+        const Reading reading(*graph, program);
+        const auto steps = static_cast<int>(std::ranges::count_if(program.steps, [](const LaneStep& step) {
+            return step.kind == StepKind::Sum || step.kind == StepKind::Difference || step.kind == StepKind::Scaled;
+        }));
+        EXPECT_LE(reading.shuffles, form == Form::Pairs ? steps / 2 : steps + 8) << formOfText(form).name;
+        EXPECT_LE(reading.flips, steps / 3) << formOfText(form).name;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryLength, LanesOf, testing::Range(2, 65));
+
+// x[0] - x[1] and i times it: the second complex number takes the parts of the first one exchanged, one with a minus.
+TEST(Lanes, ATurnIsAShuffleAndASign) {
+    Graph graph;
+    const ComplexValue x = paired(graph.load(0), graph.load(1)), y = paired(graph.load(2), graph.load(3));
+    const ComplexValue z = x + timesMinusI(y);
+    graph.store(0, z.re);
+    graph.store(1, z.im);
+    const LaneProgram program = inLanes(graph, Units(graph, Unit::Pair), Order::Blocks);
+    const Reading reading(graph, program);
+    EXPECT_EQ(reading.shuffles, 1);
+    EXPECT_EQ(reading.flips, 1);
+}
+
+// The sign that a product's lane is asked for goes into its constant.
+TEST(Lanes, ASignGoesIntoAConstant) {
+    Graph graph;
+    const ComplexValue x = paired(graph.load(0), graph.load(1)), y = paired(graph.load(2), graph.load(3));
+    const ComplexValue z = x + timesMinusI(cosine(1, 16) * y);
+    graph.store(0, z.re);
+    graph.store(1, z.im);
+    const LaneProgram program = inLanes(graph, Units(graph, Unit::Pair), Order::Blocks);
+    EXPECT_EQ(Reading(graph, program).flips, 0);
+}
+
+// Lines are found where a stage has two of them, and every group is of steps that are alike.
+TEST(Lines, AreInstancesOfOneBlock) {
+    for (int length = 4; length <= 64; ++length) {
+        const auto graph = complexTransform(length);
+        std::set<NodeId> seen;
+        std::size_t inLines = 0;
+        const std::vector<Group> groups = groupsOfLines(*graph);
+        for (const Group& group : groups) {
+            for (NodeId id : group) {
+                EXPECT_TRUE(seen.insert(id).second) << length << ": a step is in two groups";
+                EXPECT_EQ(graph->node(id).kind == Kind::Scaled, graph->node(group[0]).kind == Kind::Scaled);
+            }
+            inLines += group.size() == 4 ? 4 : 0;
+        }
+        if (formsOf(length).size() == 2) {
+            EXPECT_GT(inLines, 0u) << length;
+            if (length > 4) {
+                EXPECT_GE(inLines, seen.size() / 2) << length << ": most steps share a register";
+            }
+        }
+    }
+}
+
+// Two groups that take values from each other are cut in halves until they can be put in order.
+TEST(Units, CutGroupsThatGoInACircle) {
+    Graph graph;
+    const Value x = graph.load(0), y = graph.load(1);
+    const Value a = x + y, b = a + y, c = x - y, d = c + y;
+    graph.store(0, b);
+    graph.store(1, d);
+    EXPECT_EQ(Units(graph, {{a.node, b.node}, {c.node, d.node}}).count(), 6u);
+    const Units units(graph, {{a.node, c.node, b.node, d.node}});
+    ASSERT_EQ(units.count(), 4u);
+    EXPECT_EQ(units.nodes(units.of(a.node)), (Group{a.node, c.node}));
+    EXPECT_EQ(units.nodes(units.of(d.node)), (Group{b.node, d.node}));
+}
+
+}  // namespace
+}  // namespace gen

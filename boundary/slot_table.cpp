@@ -1,7 +1,9 @@
 // The slot table: the address of every exported routine but the version call. Slot index = export ordinal - 1.
-// Filled in when the library is built and never written; the entries of entries.S jump through it.
+// Settled when the library is built or, where a kernel has levels, while it is loaded, and never written after that. The
+// entries of entries.S jump through it.
 #include "boundary/dispatch.h"
 #include "dct4/dct4.h"
+#include "levels.h"
 #include "wht/wht.h"
 
 namespace zulg {
@@ -12,6 +14,8 @@ using SizeRoutine = Status(ZULG_CALL*)(std::int32_t size, std::int32_t* pSize);
 // One routine of any of the exported shapes. A union and not a cast, so that the table is a constant expression.
 union Routine {
     KernelRoutine<float> kernel32;
+    KernelResolver<float> resolver32;
+    KernelResolver<double> resolver64;
     KernelRoutine<double> kernel64;
     DispatchRoutine<float> dispatch32;
     DispatchRoutine<double> dispatch64;
@@ -27,6 +31,8 @@ union Routine {
     Dct4FreeRoutine dct4Free;
 
     constexpr Routine(KernelRoutine<float> routine) : kernel32(routine) {}
+    constexpr Routine(KernelResolver<float> resolver) : resolver32(resolver) {}
+    constexpr Routine(KernelResolver<double> resolver) : resolver64(resolver) {}
     constexpr Routine(KernelRoutine<double> routine) : kernel64(routine) {}
     constexpr Routine(DispatchRoutine<float> routine) : dispatch32(routine) {}
     constexpr Routine(DispatchRoutine<double> routine) : dispatch64(routine) {}

@@ -9,7 +9,7 @@ cd "$tree"
 win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
 
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
-    binutils ca-certificates)
+    binutils ca-certificates qemu-user)
 packages_demo=(alsa-utils)
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 

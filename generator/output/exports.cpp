@@ -39,7 +39,7 @@ void addKernels(const GraphEntry& graph, std::vector<Export>& exports) {
                  .order = {},
                  .arguments = {array("pSrc", Use::In, type, elements(family.source)),
                                array("pDst", Use::Out, type, elements(family.destination)), number("flag")},
-                 .routine = "kernel",
+                 .routine = "bestKernel",
                  .routineParameters = {"Family::" + family.name, length, width.element},
                  .graph = graph,
                  .kernelFamily = &family});

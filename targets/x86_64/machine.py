@@ -3,6 +3,10 @@ import re
 
 SUMS = re.compile(r"v?(add|sub)s[sd]$")
 PRODUCTS = re.compile(r"v?muls[sd]$")
+# Complex kernels have the two parts of a number in one register. Arithmetic is in double, whatever the elements are.
+PACKED_FAMILIES = {"complex"}
+PACKED_SUMS = re.compile(r"v?(add|sub)pd$")
+PACKED_PRODUCTS = re.compile(r"v?mulpd$")
 NEGATIONS = {"xorps", "xorpd"}
 # Arithmetic that no kernel may hold: packed, or of the x87 unit, or anything but sums, differences and products.
 FOREIGN = re.compile(

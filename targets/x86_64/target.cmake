@@ -4,7 +4,8 @@ set(target_compile_flags
     -mfpmath=sse -mno-sse3
     -fcf-protection=full)
 
-set(kernel_forms scalar)
+# Complex kernels hold a complex number in a register, all others one real number.
+set(kernel_forms pairs scalar)
 set(lane_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
 
 # Kernels: smaller code is faster code here. It has more memory operands and fewer instructions than at -O2, and a
@@ -36,4 +37,6 @@ set(companion_link_flags ${common_link_flags})
 set(library_math m)  # sine and cosine, for the tables of the DCT-IV
 set(library_link_libraries ${library_math} ${CMAKE_DL_LIBS})
 set(library_platform_sources boundary/shared_library_elf.cpp boundary/load_elf.cpp)
+set(library_first_sources targets/x86_64/processor_level.cpp)  # its word is settled before all slots
+set(further_levels x86_64_v3)  # folders of targets/ whose kernels are in the library, too
 set(library_file_prefix "lib")

@@ -3,6 +3,7 @@ import re
 
 SUMS = re.compile(r"f(add|sub)r?p?[sl]?$")
 PRODUCTS = re.compile(r"fmulp?[sl]?$")
+PACKED_FAMILIES = set()
 NEGATIONS = {"fchs"}
 # Arithmetic that no kernel may hold: anything else of this unit, and anything of a vector unit.
 FOREIGN = re.compile(

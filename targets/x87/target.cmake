@@ -32,3 +32,5 @@ execute_process(COMMAND ${CMAKE_DLLTOOL} -d msvcrt_math.def -l libmsvcrt_math.a
 set(library_link_libraries ${library_math} gcc kernel32 msvcrt)
 set(library_platform_sources boundary/shared_library_windows.cpp boundary/library.rc)
 set(library_file_prefix "")  # not the "lib" that this toolchain would add
+set(library_first_sources "")
+set(further_levels "")

@@ -22,7 +22,8 @@ class Instruction:
 
 class Library:
     """exports: name -> (ordinal or None, entry address); imports: file -> names of a PE file, names of an ELF one;
-    word(address): the pointer stored there after loading; code: address -> instruction."""
+    word(address): the pointer stored there after loading; resolvers: address -> the routine whose result is stored
+    there; code: address -> instruction."""
 
     def __init__(self, path, objdump):
         self.path = path
@@ -86,7 +87,7 @@ class Library:
             name = self._string(names_at + header[0])
             by_name[name] = header
             self.sections.append((name, header[3], header[5], header[4]))
-        self.exports, self.imports, self.relocated = {}, set(), {}
+        self.exports, self.imports, self.relocated, self.resolvers = {}, set(), {}, {}
         symbols, strings = by_name[".dynsym"], by_name[".dynstr"]
         for at in range(symbols[4], symbols[4] + symbols[5], 24):
             name, _, _, section, value, _ = struct.unpack_from("<IBBHQQ", data, at)
@@ -100,6 +101,8 @@ class Library:
                 place, kind, addend = struct.unpack_from("<QQq", data, at)
                 if kind & 0xFFFFFFFF == 8:  # R_X86_64_RELATIVE
                     self.relocated[place] = addend
+                elif kind & 0xFFFFFFFF == 37:  # R_X86_64_IRELATIVE
+                    self.resolvers[place] = addend
 
     def _string(self, offset):
         return self.data[offset:self.data.index(b"\0", offset)].decode()
@@ -124,6 +127,18 @@ class Library:
         if self.is_pe:
             return struct.unpack("<I", self.bytes(address, 4))[0]
         return self.relocated[address]
+
+    def kernels(self, slot):
+        """What a slot may hold after loading: the kernels of all levels, the lowest level first."""
+        if self.is_pe or slot not in self.resolvers:
+            return [self.word(slot)]
+        found = [re.search(r"# (?:0x)?([0-9a-f]+)", instruction.operands)
+                 for instruction in self.routine(self.resolvers[slot]) if instruction.mnemonic == "lea"]
+        return sorted((int(match[1], 16) for match in found if match), key=self.level)
+
+    def level(self, start):
+        """The level of a kernel, by the encoding of its instructions: 1 if it has a three-operand one, otherwise 0."""
+        return any(re.match(r"v[a-z]", instruction.mnemonic) for instruction in self.routine(start))
 
     @functools.cached_property
     def code(self):

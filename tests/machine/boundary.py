@@ -43,11 +43,24 @@ def check_slots(library):
             expect(False, f"{name}: its entry is not one indirect jump")
             continue
         expect(slot == slots[0] + step * index, f"{name}: jumps through another slot than number {index}")
-        expect(library.word(slot) in library.code, f"{name}: its slot leads to no code")
-    routines = [library.word(slot) for slot in slots if slot]
+        kernels = library.kernels(slot)
+        expect(all(kernel in library.code for kernel in kernels), f"{name}: its slot leads to no code")
+        if not library.is_pe:
+            has_levels = "_CToC_" in name and name.split("_")[2].isdigit()
+            expect([library.level(kernel) for kernel in kernels] == ([0, 1] if has_levels else [0]),
+                   f"{name}: its slot has the kernels of other levels")
+    routines = [kernel for slot in slots if slot for kernel in library.kernels(slot)]
     expect(len(set(routines)) == len(routines), "two slots lead to one routine")
     section = library.section_of(slots[0])
     expect(section == (".rdata" if library.is_pe else ".data.rel.ro"), f"the slot table is in {section}")
+
+
+def check_level(library):
+    """The processor is asked for its level once: by the resolver of the word that is settled first."""
+    first = library.resolvers[min(library.resolvers)]
+    asking = {resolver for resolver in library.resolvers.values()
+              if any(instruction.mnemonic == "cpuid" for instruction in library.routine(resolver))}
+    expect(asking == {first}, "not the first resolver, or not it alone, asks for the processor's level")
 
 
 def check_version_resource(library):
@@ -65,6 +78,8 @@ def main():
     check_slots(library)
     if library.is_pe:
         check_version_resource(library)
+    else:
+        check_level(library)
     for failure in failures[:20]:
         print(failure)
     print(f"{len(library.exports)} exports, {len(failures)} faults")

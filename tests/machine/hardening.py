@@ -140,8 +140,10 @@ def check_elf(library):
     expect("IBT" in notes and "SHSTK" in notes, "no branch-target or shadow-stack mark")
     landing = b"\xf3\x0f\x1e\xfa"
     for slot in slots(library):
-        routine = library.word(slot)
-        expect(library.bytes(routine, 4) == landing, f"{routine:#x}: is in a slot and is no branch target")
+        for routine in library.kernels(slot):
+            expect(library.bytes(routine, 4) == landing, f"{routine:#x}: is in a slot and is no branch target")
+    for resolver in set(library.resolvers.values()):
+        expect(library.bytes(resolver, 4) == landing, f"{resolver:#x}: is a resolver and no branch target")
 
     # The load entry is the one routine that the loader calls.
     entry = [int(value, 16) for value in tag("INIT")]

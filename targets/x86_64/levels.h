@@ -1,0 +1,50 @@
+// The levels of the native library. A slot whose kernel has two of them is settled while the library is loaded: the
+// dynamic linker calls the slot's resolver and stores what it returns. After that a slot is never written, and no call
+// looks at a level.
+#pragma once
+
+#include <cstdint>
+
+#include "kernel/kernel.h"
+
+namespace zulg {
+
+enum Level : std::uintptr_t { levelUnknown, levelX86_64, levelX86_64_v3 };
+
+// That of the processor. Resolvers call it, when nothing of the library but its relative addresses is settled.
+[[gnu::visibility("hidden")]] Level processorLevel() noexcept;
+
+namespace x86_64_v3 {
+template <Family family, int length, class Element>
+Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag);
+}  // namespace x86_64_v3
+
+// Which families have kernels of the second level.
+constexpr bool hasSecondLevel(Family family) { return family == Family::DFTFwd_CToC || family == Family::DFTInv_CToC; }
+
+template <class Element>
+using KernelResolver = KernelRoutine<Element> (*)();
+
+// The mark makes the address of this function, wherever it is stored, the address that it returns.
+template <Family family, int length, class Element>
+KernelRoutine<Element> resolvedKernel() {
+    asm(".type %c0, @gnu_indirect_function" : : "i"(&resolvedKernel<family, length, Element>));
+    return processorLevel() >= levelX86_64_v3 ? &x86_64_v3::kernel<family, length, Element>
+                                              : &kernel<family, length, Element>;
+}
+
+// What is stored in the slot of a kernel. A library that is built for tests has one level: ZULG_LEVEL names it.
+template <Family family, int length, class Element>
+inline constexpr auto bestKernel = [] {
+    if constexpr (!hasSecondLevel(family)) {
+        return &kernel<family, length, Element>;
+    } else {
+#ifdef ZULG_LEVEL
+        return &ZULG_LEVEL::kernel<family, length, Element>;
+#else
+        return &resolvedKernel<family, length, Element>;
+#endif
+    }
+}();
+
+}  // namespace zulg

@@ -24,7 +24,12 @@ def mark_primes(axes):
         axes.axvspan(prime - 0.5, prime + 0.5, color="#000000", alpha=0.05, lw=0)
 
 
-def over_length(families, value, title, label, path, log=False):
+# The level below the one that the processor has: its build takes part under this name.
+LOWER_LEVEL = "x86-64"
+
+
+def over_length(families, value, title, label, path, log=False, lower=None):
+    """One point for each length; `lower` gives those of the lower level, which is dashed."""
     if not any(family in LINES for family, _ in families):
         return
     figure, both = plt.subplots(2, 1, figsize=(9, 6.4), sharex=True, constrained_layout=True)
@@ -37,6 +42,10 @@ def over_length(families, value, title, label, path, log=False):
             points = [point for point in points if point[1] is not None]
             if points:
                 axes.plot(*zip(*points), color=colour, lw=1, marker="o", ms=2.5, label=name)
+            dashed = [(item.size, lower(item)) for item in families.get((family, element), []) if lower]
+            dashed = [point for point in dashed if point[1] is not None]
+            if dashed and family == "complex_forward":
+                axes.plot(*zip(*dashed), color=colour, lw=1, ls="--", label=f"{name}, without AVX2")
         if log:
             axes.set_yscale("log", base=2)
             axes.yaxis.set_major_formatter(lambda tick, _: f"{tick:g}")
@@ -52,6 +61,19 @@ def ratios(families, path):
     peer = "fftw_patient_scalar"
     over_length(families, lambda item: ratio(item, peer) if peer in item.figures else None,
                 "FFTW 3 PATIENT without SIMD: its time over ours (above 1 we lead)", "FFTW / ours", path, log=True)
+
+
+def packaged(families, path):
+    peer = "fftw_patient_simd"
+
+    def lower(item):
+        if peer not in item.figures or LOWER_LEVEL not in item.figures:
+            return None
+        return item.figures[peer].nanoseconds / item.figures[LOWER_LEVEL].nanoseconds
+
+    over_length(families, lambda item: ratio(item, peer) if peer in item.figures else None,
+                "FFTW 3 PATIENT as packaged, with SSE2 and AVX: its time over ours (above 1 we lead)", "FFTW / ours",
+                path, log=True, lower=lower)
 
 
 def floors(families, path):

@@ -62,7 +62,7 @@ def families_of(contests, library):
         name = exported_name(family, element, size)
         code_bytes = None
         if family in floors.KERNELS and name in library.exports:
-            routine = library.routine(library.word(library.slot_address(name)))
+            routine = library.routine(library.kernels(library.slot_address(name))[-1])
             code_bytes = sum(instruction.size for instruction in routine)
         found[family, element].append(
             Item(size, figures["zulgenpx"], figures, floors.scalar(*counts) if counts else None, code_bytes))
@@ -104,7 +104,7 @@ def document(about, families, loads, steps, stem):
     yield ""
     yield ("Times are of one call. Ratios are peer time over ours: above 1 we lead. How it is measured and how to read "
            "it: [README](../README.md).")
-    for picture in ("ratio", "floor", "sizes"):
+    for picture in ("packaged", "ratio", "floor", "sizes"):
         if os.path.exists(f"{stem}-{picture}.svg"):
             yield f"\n![{picture}]({os.path.basename(stem)}-{picture}.svg)"
     for title, table in (("Summary", tables.summary(families)),
@@ -154,6 +154,7 @@ def main():
     for picture in glob.glob(f"{stem}-*.svg"):  # of an earlier run on the same day
         os.remove(picture)
     if has_peers or not has_builds:
+        plots.packaged(families, f"{stem}-packaged.svg")
         plots.ratios(families, f"{stem}-ratio.svg")
         plots.floors(families, f"{stem}-floor.svg")
         plots.over_size(families, f"{stem}-sizes.svg")

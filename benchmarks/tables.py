@@ -102,22 +102,25 @@ def summary(families):
     for (family, element), items in families.items():
         if not items[0].ours.cycles or family.startswith("dispatch_"):
             continue
-        peer = "plain_in_place" if family == "wht" else "fftw_patient_scalar"
-        ratios = {item.size: ratio(item, peer) for item in items if peer in item.figures}
-        if not ratios:
-            continue
-        least = min(ratios, key=ratios.get)
-        below = ", ".join(str(size) for size, value in ratios.items() if value < 1) or "none"
-        line = [TITLES.get(family, family), element, dict(PEERS)[peer],
-                f"{statistics.geometric_mean(ratios.values()):.2f}", f"{ratios[least]:.2f}, {least}", below]
-        of_floor = {item.size: item.ours.cycles / item.floor for item in items if item.floor and item.size >= 5}
-        if of_floor:
-            most = max(of_floor, key=of_floor.get)
-            line += [f"{statistics.median(of_floor.values()):.2f}", f"{of_floor[most]:.2f}, {most}"]
-        else:
-            line += ["", ""]
-        lines.append(line)
+        for peer in ("plain_in_place",) if family == "wht" else ("fftw_patient_simd", "fftw_patient_scalar"):
+            ratios = {item.size: ratio(item, peer) for item in items if peer in item.figures}
+            if ratios:
+                lines.append(summary_line(family, element, peer, items, ratios))
     return rows(columns, lines, words=3) if lines else []
+
+
+def summary_line(family, element, peer, items, ratios):
+    least = min(ratios, key=ratios.get)
+    below = ", ".join(str(size) for size, value in ratios.items() if value < 1) or "none"
+    line = [TITLES.get(family, family), element, dict(PEERS)[peer],
+            f"{statistics.geometric_mean(ratios.values()):.2f}", f"{ratios[least]:.2f}, {least}", below]
+    of_floor = {item.size: item.ours.cycles / item.floor for item in items if item.floor and item.size >= 5}
+    if of_floor:
+        most = max(of_floor, key=of_floor.get)
+        line += [f"{statistics.median(of_floor.values()):.2f}", f"{of_floor[most]:.2f}, {most}"]
+    else:
+        line += ["", ""]
+    return line
 
 
 def dispatch_text(families):

@@ -8,6 +8,9 @@ import pathlib
 import re
 import sys
 
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "machine"))
+from expected import expected_rows
+
 failures = []
 
 
@@ -16,14 +19,8 @@ def expect(found, due, what):
         failures.append(f"{what}: {found}, due is {due}")
 
 
-def rows(path):
-    """The rows of a table of tests/expected, as lists of cells."""
-    lines = path.read_text(encoding="ascii").splitlines()
-    return [[cell.strip() for cell in line.split("|")] for line in lines if line and not line.startswith("#")]
-
-
 def check_names(exports, expected):
-    due = [line[0].split() for line in rows(expected / "exports.txt")]
+    due = [[row["ordinal"], row["name"]] for row in expected_rows(expected / "exports.txt")]
     expect([[str(export["ordinal"]), export["name"]] for export in exports], due, "names and ordinals")
 
 
@@ -32,27 +29,24 @@ def check_counts(exports, expected):
     tables = {"CToC": "complex", "DFTFwd_R": "real_forward", "ToR_": "real_inverse", "Hartley": "hartley"}
     checked = 0
     for mark, table in tables.items():
-        due = {int(row[0]): row for row in rows(expected / f"{table}.txt")}
+        due = {int(row["length"]): row for row in expected_rows(expected / f"{table}.txt")}
         for export in exports:
             if mark not in export["name"] or export["length"] is None:
                 continue
             checked += 1
             counts, row = export["counts"], due[export["length"]]
             sums = counts["additions"] + counts["subtractions"]
+            due_sums = int(row["sums"]) if "sums" in row else int(row["additions"]) + int(row["subtractions"])
             products = counts["multiplications"] + counts["scale"]
-            if table in ("complex", "hartley"):
-                expect(sums, int(row[2]) + int(row[3]), f"sums of {export['name']}")
-                expect(products, int(row[5 if table == "complex" else 4]), f"products of {export['name']}")
-                expect(counts["negations"], 0, f"negations of {export['name']}")
-            else:
-                expect([sums, products, counts["negations"]], [int(cell) for cell in row[2:5]], export["name"])
+            expect([sums, products, counts["negations"]],
+                   [due_sums, int(row["multiplications"]), int(row.get("negations", 0))], export["name"])
+    due = {int(row["order"]): row for row in expected_rows(expected / "wht.txt")}
     for export in exports:
         if export["family"] == "WHT" and "counts" in export:
             checked += 1
-            row = next(row for row in rows(expected / "wht.txt") if int(row[0]) == export["order"])
-            counts = export["counts"]
+            counts, row = export["counts"], due[export["order"]]
             expect([counts["additions"], counts["subtractions"], counts["multiplications"] + counts["scale"]],
-                   [int(cell) for cell in row[1:4]], export["name"])
+                   [int(row[column]) for column in ("additions", "subtractions", "multiplications")], export["name"])
     expect(checked, 2 * 63 * 9 + 2 * 7, "exports with counts")
 
 

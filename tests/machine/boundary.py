@@ -6,6 +6,7 @@ import struct
 import sys
 
 from binary import Library
+from expected import expected_rows
 
 failures = []
 
@@ -15,14 +16,8 @@ def expect(condition, message):
         failures.append(message)
 
 
-def expected_exports(path):
-    """name -> ordinal."""
-    with open(path, encoding="ascii") as file:
-        rows = [line.split() for line in file if line.strip() and not line.startswith("#")]
-    return {name: int(ordinal) for ordinal, name in rows}
-
-
 def check_names(library, expected):
+    """expected: name -> ordinal."""
     found = set(library.exports)
     expect(found == set(expected), f"exported names: missing {sorted(set(expected) - found)[:5]}, "
                                    f"unexpected {sorted(found - set(expected))[:5]}")
@@ -74,7 +69,7 @@ def check_version_resource(library):
 def main():
     path, objdump, golden = sys.argv[1:]
     library = Library(path, objdump)
-    check_names(library, expected_exports(golden))
+    check_names(library, {row["name"]: int(row["ordinal"]) for row in expected_rows(golden)})
     check_slots(library)
     if library.is_pe:
         check_version_resource(library)

@@ -2,6 +2,7 @@
 // target's header value.h gives it.
 #pragma once
 
+#include "kernel/doubles.h"
 #include "kernel/in_memory.h"
 #include "kernel/lanes.h"
 
@@ -20,11 +21,11 @@ struct LaneArrays {
 // exchanged on both sides. Registers are multiplied by `scale` as a whole and rounded once, at the store.
 template <class Numbers, class Element, bool exchanged>
 struct LanePorts : LaneArrays<Numbers, Element> {
-    using Value = Lanes<1, exchanged>;
-    using Pair = Lanes<2, exchanged>;
-    using Lines = Lanes<4, exchanged>;
+    using Value = Lanes<Numbers, 1, exchanged>;
+    using Pair = Lanes<Numbers, 2, exchanged>;
+    using Lines = Lanes<Numbers, 4, exchanged>;
     template <class Graph>
-    using Constants = typename Doubles::Constants<Graph>;
+    using Constants = typename Numbers::template LaneConstants<Graph>;
 
     ZULG_INLINE Pair pair(int n) const { return Pair(Numbers::template pair<Element>(this->source + 2 * n)); }
     ZULG_INLINE void pair(int k, Pair value) const {

@@ -18,7 +18,27 @@ struct Vectors {
     typedef std::int64_t Bits __attribute__((vector_size(8 * width)));
 };
 
-template <int width, bool exchanged>
+// How registers are put together and taken apart. A target may know a better way. These are templates, so that a
+// machine without such registers can read them.
+struct PortableRegisters {
+    template <class Two>
+    ZULG_INLINE static auto together(Two low, Two high) {
+        return __builtin_shufflevector(low, high, 0, 1, 2, 3);
+    }
+    template <class Four>
+    ZULG_INLINE static auto upper(Four x) {
+        return __builtin_shufflevector(x, x, 2, 3);
+    }
+
+    // Each lane in its place, from b where the bit is set.
+    template <int fromB, class Four>
+    ZULG_INLINE static Four blended(Four a, Four b) {
+        return __builtin_shufflevector(a, b, fromB & 1 ? 4 : 0, fromB & 2 ? 5 : 1, fromB & 4 ? 6 : 2,
+                                       fromB & 8 ? 7 : 3);
+    }
+};
+
+template <class Registers, int width, bool exchanged>
 struct Lanes {
     using Vector = typename Vectors<width>::Type;
 
@@ -36,91 +56,115 @@ struct Lanes {
     static constexpr int place(int lane) { return exchanged ? lane ^ 1 : lane; }
 };
 
-template <int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> operator+(Lanes<width, exchanged> a, Lanes<width, exchanged> b) {
-    return Lanes<width, exchanged>(a.vector + b.vector);
+template <class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> operator+(Lanes<Registers, width, exchanged> a,
+                                                         Lanes<Registers, width, exchanged> b) {
+    return Lanes<Registers, width, exchanged>(a.vector + b.vector);
 }
-template <int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> operator-(Lanes<width, exchanged> a, Lanes<width, exchanged> b) {
-    return Lanes<width, exchanged>(a.vector - b.vector);
+template <class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> operator-(Lanes<Registers, width, exchanged> a,
+                                                         Lanes<Registers, width, exchanged> b) {
+    return Lanes<Registers, width, exchanged>(a.vector - b.vector);
 }
-template <int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> operator*(Lanes<width, exchanged> a, Lanes<width, exchanged> b) {
-    return Lanes<width, exchanged>(a.vector * b.vector);
+template <class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> operator*(Lanes<Registers, width, exchanged> a,
+                                                         Lanes<Registers, width, exchanged> b) {
+    return Lanes<Registers, width, exchanged>(a.vector * b.vector);
 }
-template <int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> operator*(double factor, Lanes<width, exchanged> x) {
-    return Lanes<width, exchanged>((typename Vectors<width>::Type{} + factor) * x.vector);
+template <class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> operator*(double factor, Lanes<Registers, width, exchanged> x) {
+    return Lanes<Registers, width, exchanged>((typename Vectors<width>::Type{} + factor) * x.vector);
 }
 
 // The signs of these lanes changed.
-template <int... isFlipped, int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> flipped(Lanes<width, exchanged> x) {
+template <int... isFlipped, class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> flipped(Lanes<Registers, width, exchanged> x) {
+    using L = Lanes<Registers, width, exchanged>;
     using Bits = typename Vectors<width>::Bits;
     static_assert(sizeof...(isFlipped) == width);
     constexpr std::int64_t signs[] = {isFlipped * INT64_MIN...};
-    const Bits mask = [&]<int... lane>(std::integer_sequence<int, lane...>) {
-        return Bits{signs[Lanes<width, exchanged>::place(lane)]...};
-    }
+    const Bits mask = [&]<int... lane>(std::integer_sequence<int, lane...>) { return Bits{signs[L::place(lane)]...}; }
     (std::make_integer_sequence<int, width>{});
-    return Lanes<width, exchanged>((typename Vectors<width>::Type)((Bits)x.vector ^ mask));
+    return L((typename Vectors<width>::Type)((Bits)x.vector ^ mask));
+}
+
+// Which of two registers each lane is from, if all lanes stay in their places: a bit for each that is from the second
+// one. Otherwise -1.
+template <int width>
+constexpr int blendOf(const int (&from)[width]) {
+    int bits = 0;
+    for (int lane = 0; lane < width; ++lane) {
+        if (from[lane] % width != lane) return -1;
+        bits |= (from[lane] >= width) << lane;
+    }
+    return bits;
 }
 
 // These lanes of a, or of a and, counted on, of b.
-template <int... places, int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> shuffled(Lanes<width, exchanged> a, Lanes<width, exchanged> b) {
-    using L = Lanes<width, exchanged>;
+template <int... places, class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> shuffled(Lanes<Registers, width, exchanged> a,
+                                                        Lanes<Registers, width, exchanged> b) {
+    using L = Lanes<Registers, width, exchanged>;
     static_assert(sizeof...(places) == width);
-    constexpr int from[] = {places...};
+    constexpr int of[] = {places...};
     return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-        return L(__builtin_shufflevector(a.vector, b.vector, L::place(from[L::place(lane)])...));
+        constexpr int from[] = {L::place(of[L::place(lane)])...};
+        constexpr int blend = blendOf(from);
+        if constexpr (width == 4 && blend >= 0) {
+            return L(Registers::template blended<blend>(a.vector, b.vector));
+        } else {
+            return L(__builtin_shufflevector(a.vector, b.vector, from[lane]...));
+        }
     }
     (std::make_integer_sequence<int, width>{});
 }
-template <int... places, int width, bool exchanged>
-ZULG_INLINE Lanes<width, exchanged> shuffled(Lanes<width, exchanged> a) {
+template <int... places, class Registers, int width, bool exchanged>
+ZULG_INLINE Lanes<Registers, width, exchanged> shuffled(Lanes<Registers, width, exchanged> a) {
     return shuffled<places...>(a, a);
 }
 
 // The lanes of a, then those of b.
-template <bool exchanged>
-ZULG_INLINE Lanes<4, exchanged> joined(Lanes<2, exchanged> a, Lanes<2, exchanged> b) {
-    return Lanes<4, exchanged>(__builtin_shufflevector(a.vector, b.vector, 0, 1, 2, 3));
+template <class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 4, exchanged> joined(Lanes<Registers, 2, exchanged> a, Lanes<Registers, 2, exchanged> b) {
+    return Lanes<Registers, 4, exchanged>(Registers::together(a.vector, b.vector));
 }
-template <bool exchanged>
-ZULG_INLINE Lanes<2, exchanged> joined(Lanes<1, exchanged> a, Lanes<1, exchanged> b) {
-    return Lanes<2, exchanged>(a.value, b.value);
+template <class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 2, exchanged> joined(Lanes<Registers, 1, exchanged> a, Lanes<Registers, 1, exchanged> b) {
+    return Lanes<Registers, 2, exchanged>(a.value, b.value);
 }
 
 // One half of the lanes: the low one is 0.
-template <int half, bool exchanged>
-ZULG_INLINE Lanes<2, exchanged> part(Lanes<4, exchanged> x) {
-    return Lanes<2, exchanged>(__builtin_shufflevector(x.vector, x.vector, 2 * half, 2 * half + 1));
+template <int half, class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 2, exchanged> part(Lanes<Registers, 4, exchanged> x) {
+    if constexpr (half == 1) return Lanes<Registers, 2, exchanged>(Registers::upper(x.vector));
+    return Lanes<Registers, 2, exchanged>(__builtin_shufflevector(x.vector, x.vector, 0, 1));
 }
-template <int lane, bool exchanged>
-ZULG_INLINE Lanes<1, exchanged> part(Lanes<2, exchanged> x) {
-    return Lanes<1, exchanged>{x.vector[Lanes<2, exchanged>::place(lane)]};
+template <int lane, class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 1, exchanged> part(Lanes<Registers, 2, exchanged> x) {
+    return Lanes<Registers, 1, exchanged>{x.vector[Lanes<Registers, 2, exchanged>::place(lane)]};
 }
 
 // One number by itself.
-template <bool exchanged>
-struct Lanes<1, exchanged> {
+template <class Registers, bool exchanged>
+struct Lanes<Registers, 1, exchanged> {
     double value;
 };
-template <bool exchanged>
-ZULG_INLINE Lanes<1, exchanged> operator+(Lanes<1, exchanged> a, Lanes<1, exchanged> b) {
+template <class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 1, exchanged> operator+(Lanes<Registers, 1, exchanged> a,
+                                                     Lanes<Registers, 1, exchanged> b) {
     return {a.value + b.value};
 }
-template <bool exchanged>
-ZULG_INLINE Lanes<1, exchanged> operator-(Lanes<1, exchanged> a, Lanes<1, exchanged> b) {
+template <class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 1, exchanged> operator-(Lanes<Registers, 1, exchanged> a,
+                                                     Lanes<Registers, 1, exchanged> b) {
     return {a.value - b.value};
 }
-template <bool exchanged>
-ZULG_INLINE Lanes<1, exchanged> operator*(double factor, Lanes<1, exchanged> x) {
+template <class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 1, exchanged> operator*(double factor, Lanes<Registers, 1, exchanged> x) {
     return {factor * x.value};
 }
-template <int isFlipped, bool exchanged>
-ZULG_INLINE Lanes<1, exchanged> flipped(Lanes<1, exchanged> x) {
+template <int isFlipped, class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 1, exchanged> flipped(Lanes<Registers, 1, exchanged> x) {
     return {isFlipped ? -x.value : x.value};
 }
 

@@ -1,16 +1,57 @@
-// How complex elements in memory become registers of lanes and such registers elements, on x86-64.
+// How complex elements in memory become registers of lanes and such registers elements, on x86-64. Each level has its
+// own, since what is here depends on the instructions that the level may use.
 #pragma once
 
 #include <immintrin.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
 
 #include "kernel/doubles.h"
 #include "kernel/lanes.h"
 
 namespace zulg {
+inline namespace ZULG_TARGET {
 
-struct DoublesInLanes {
+struct DoublesInLanes : PortableRegisters {
     using Two = Vectors<2>::Type;
     using Four = Vectors<4>::Type;
+
+#ifdef __AVX__
+    template <class Graph>
+    using LaneConstants = Doubles::Constants<Graph>;
+#else
+    // A constant that both lanes are multiplied by is an operand in memory. The compiler would read a single one and
+    // copy it to the other lane, twice the instructions, and would then keep the copies in the frame.
+    struct ConstantPair {
+        double value;
+        const Two* place;
+
+        ZULG_INLINE operator double() const { return value; }
+    };
+
+    template <class Graph>
+    class LaneConstants {
+    public:
+        ZULG_INLINE ConstantPair operator[](int i) const { return {Graph::constants[i], table + i - middle}; }
+
+    private:
+        static constexpr int count = static_cast<int>(std::size(Graph::constants));
+        static constexpr int middle = std::min(count / 2, 128 / static_cast<int>(sizeof(Two)));  // short displacements
+        static constexpr auto pairs = [] {
+            std::array<Two, count> both{};
+            for (std::size_t i = 0; i < count; ++i) both[i] = Two{Graph::constants[i], Graph::constants[i]};
+            return both;
+        }();
+
+        ZULG_INLINE static const Two* inRegister(const Two* place) {
+            asm("" : "+r"(place));
+            return place;
+        }
+        const Two* const table = inRegister(pairs.data() + middle);
+    };
+#endif
 
     // A complex element.
     template <class Element>
@@ -31,13 +72,24 @@ struct DoublesInLanes {
     }
 
 #ifdef __AVX__
+    // The compiler's own choice is a permutation of four lanes for the first of these, a copy more for the second and
+    // one that crosses halves for the third.
+    ZULG_INLINE static Two upper(Four x) { return _mm256_extractf128_pd(x, 1); }
+    ZULG_INLINE static Four together(Two low, Two high) {
+        return _mm256_insertf128_pd(_mm256_castpd128_pd256(low), high, 1);
+    }
+    template <int fromB>
+    ZULG_INLINE static Four blended(Four a, Four b) {
+        return _mm256_blend_pd(a, b, fromB);
+    }
+
     // Two complex elements, which may be neighbours.
     template <class Element>
     ZULG_INLINE static Four pairs(const typename InMemory<Element>::Type* low,
                                   const typename InMemory<Element>::Type* high, bool areNeighbours) {
         if constexpr (sizeof(Element) == sizeof(double)) {
             if (areNeighbours) return *reinterpret_cast<const FourDoubles*>(low);
-            return __builtin_shufflevector(pair<double>(low), pair<double>(high), 0, 1, 2, 3);
+            return together(pair<double>(low), pair<double>(high));
         } else {
             if (areNeighbours) return _mm256_cvtps_pd(*reinterpret_cast<const FourSingles*>(low));
             const Two elements = {*reinterpret_cast<const EightBytes*>(low),
@@ -52,8 +104,8 @@ struct DoublesInLanes {
             if (areNeighbours) {
                 *reinterpret_cast<FourDoubles*>(low) = value;
             } else {
-                store<double>(low, __builtin_shufflevector(value, value, 0, 1));
-                store<double>(high, __builtin_shufflevector(value, value, 2, 3));
+                store<double>(low, _mm256_castpd256_pd128(value));
+                store<double>(high, upper(value));
             }
         } else {
             const __m128 singles = _mm256_cvtpd_ps(value);
@@ -75,4 +127,13 @@ private:
     typedef double EightBytes __attribute__((aligned(1), may_alias));
 };
 
+#ifndef __AVX__
+template <class Registers, bool exchanged>
+ZULG_INLINE Lanes<Registers, 2, exchanged> operator*(DoublesInLanes::ConstantPair factor,
+                                                     Lanes<Registers, 2, exchanged> x) {
+    return Lanes<Registers, 2, exchanged>(*factor.place * x.vector);
+}
+#endif
+
+}  // namespace ZULG_TARGET
 }  // namespace zulg

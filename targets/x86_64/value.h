@@ -1,12 +1,12 @@
 // Numbers on x86-64: in a register of the vector unit, one double or the two of a complex number.
 #pragma once
 
+// The namespace of what is compiled for this target.
+#define ZULG_TARGET x86_64
+
 #include "kernel/doubles.h"
 #include "kernel/near_constants.h"
 #include "targets/x86_64/in_lanes.h"
-
-// The namespace of what is compiled for this target.
-#define ZULG_TARGET x86_64
 
 namespace zulg {
 inline namespace ZULG_TARGET {

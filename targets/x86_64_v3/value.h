@@ -1,11 +1,11 @@
 // Numbers on processors with AVX2: those of x86-64, and the complex numbers of two lines in one register.
 #pragma once
 
-#include "kernel/doubles.h"
-#include "targets/x86_64/in_lanes.h"
-
 // The namespace of what is compiled for this target.
 #define ZULG_TARGET x86_64_v3
+
+#include "kernel/doubles.h"
+#include "targets/x86_64/in_lanes.h"
 
 namespace zulg {
 inline namespace ZULG_TARGET {

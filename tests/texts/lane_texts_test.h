@@ -104,9 +104,9 @@ public:
 template <bool exchanged>
 class RegisterPorts {
 public:
-    using Value = zulg::Lanes<1, exchanged>;
-    using Pair = zulg::Lanes<2, exchanged>;
-    using Lines = zulg::Lanes<4, exchanged>;
+    using Value = zulg::Lanes<zulg::PortableRegisters, 1, exchanged>;
+    using Pair = zulg::Lanes<zulg::PortableRegisters, 2, exchanged>;
+    using Lines = zulg::Lanes<zulg::PortableRegisters, 4, exchanged>;
     template <class Graph>
     using Constants = zulg::Doubles::Constants<Graph>;
 

@@ -1,6 +1,6 @@
 // The slot table: the address of every exported routine but the version call. Slot index = export ordinal - 1.
-// Settled when the library is built or, where a kernel has levels, while it is loaded, and never written after that. The
-// entries of entries.S jump through it.
+// Settled when the library is built or, where a kernel has levels, while it is loaded, and never written after that.
+// The entries of entries.S jump through it.
 #include "boundary/dispatch.h"
 #include "dct4/dct4.h"
 #include "levels.h"

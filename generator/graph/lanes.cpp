@@ -1,7 +1,6 @@
 #include "graph/lanes.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -62,9 +61,6 @@ private:
     };
 
     bool isLoad(NodeId id) const { return graph.node(id).kind == gen::Kind::Load; }
-    bool isSum(NodeId id) const {
-        return graph.node(id).kind == gen::Kind::Add || graph.node(id).kind == gen::Kind::Sub;
-    }
     const Lanes& lanesOf(int number) const { return program.registers[static_cast<size_t>(number)]; }
 
     int add(LaneStep step, Lanes lanes) {
@@ -284,8 +280,7 @@ private:
         for (const Home& home : homesOf(low.node, 2)) {
             if (home.lane == 0 && lanesOf(home.number)[1].node == high.node) return true;
         }
-        return isLoad(low.node) && isLoad(high.node) && graph.node(low.node).input % 2 == 0 &&
-               graph.node(high.node).input == graph.node(low.node).input + 1;
+        return areElement(low, high);
     }
 
     bool areElement(Lane low, Lane high) const {

@@ -52,7 +52,7 @@ struct LaneProgram {
     std::vector<Lanes> registers;  // what each one holds
 };
 
-// The inputs and the outputs 2 n and 2 n + 1 of the graph are the parts of complex element n. Loads are done before the
+// The inputs and the outputs 2 n and 2 n + 1 of the graph are the parts of complex element n. All loads come before the
 // first store.
 LaneProgram inLanes(const Graph& graph, const Units& units, Order order);
 

@@ -10,7 +10,7 @@ namespace gen {
 
 // Lines are instances of one block inside the same outer block, and two of them are taken together, all blocks inside
 // them as well. Of a block that is left over, the lines inside are taken together. Steps between two stages, such as
-// twiddle factors, follow the lines that take their results. What finds no other step is a group of two, or no group.
+// twiddle factors, follow the lines that take their results. A step without a mate is a group of two.
 std::vector<Group> groupsOfLines(const Graph& graph);
 
 }  // namespace gen

@@ -10,21 +10,22 @@
 
 namespace gen {
 
-// The file of one graph, as straight-line text.
 // What a text says of itself before its steps: steps, factor and constants.
 std::string factsText(const GraphEntry& entry, const Graph& graph, const std::vector<ConstantId>& constants);
 
+// The file of one graph, as straight-line text.
 std::string emitGraph(const GraphEntry& entry, const Graph& graph, const Schedule& schedule);
 
 // The sums, differences and products of a graph, those by `scale` included where it has kernels.
 int stepsOf(const GraphEntry& entry, const Graph& graph);
 
-// kernels/texts.cmake: the texts of which the build makes kernels.
+// A text of which the build makes kernels.
 struct KernelText {
     std::string file, form, graph;  // form: "scalar", "pairs" or "lines"
     const GraphEntry* entry;
     int steps;
 };
+// kernels/texts.cmake.
 std::string emitTexts(const std::vector<KernelText>& texts);
 
 // boundary/slots.inc and include/zulgenpx_routines.h.

@@ -109,35 +109,6 @@ std::string headText(const GraphEntry& entry, Form form, const Graph& graph, con
            to_string(steps[StepKind::Flip]) + " changes of sign.\n";
 }
 
-}  // namespace
-
-const FormOfText& formOfText(Form form) {
-    static const FormOfText pairs{"pairs", "ComplexPairs", "kernels/complex_pairs", "one complex number to a register"};
-    static const FormOfText lines{"lines", "ComplexLines", "kernels/complex_lines",
-                                  "two lines of a stage to a register"};
-    return form == Form::Pairs ? pairs : lines;
-}
-
-std::vector<Form> formsOf(int length) {
-    for (int divisor = 2; divisor * divisor <= length; ++divisor) {
-        if (length % divisor == 0) return {Form::Pairs, Form::Lines};
-    }
-    return {Form::Pairs};
-}
-
-LaneProgram laneProgram(Form form, const Graph& graph) {
-    const Units units = form == Form::Pairs ? Units(graph, Unit::Pair) : Units(graph, groupsOfLines(graph));
-    return inLanes(graph, units, Order::Blocks);
-}
-
-std::string laneText(const GraphEntry& entry, Form form, const Graph& graph) {
-    return emitLanes(entry, form, graph, laneProgram(form, graph));
-}
-
-std::string laneFile(const GraphEntry& entry, Form form) {
-    return formOfText(form).folder + "/" + entry.family->filePrefix + to_string(entry.length) + ".h";
-}
-
 std::string emitLanes(const GraphEntry& entry, Form form, const Graph& graph, const LaneProgram& program) {
     const LaneNames names(program);
     const std::string graphTemplate = formOfText(form).graphTemplate;
@@ -173,6 +144,35 @@ std::string emitLanes(const GraphEntry& entry, Form form, const Graph& graph, co
         text += ";\n";
     }
     return text + "    }\n};\n\n}  // namespace zulg\n";
+}
+
+}  // namespace
+
+const FormOfText& formOfText(Form form) {
+    static const FormOfText pairs{"pairs", "ComplexPairs", "kernels/complex_pairs", "one complex number to a register"};
+    static const FormOfText lines{"lines", "ComplexLines", "kernels/complex_lines",
+                                  "two lines of a stage to a register"};
+    return form == Form::Pairs ? pairs : lines;
+}
+
+std::vector<Form> formsOf(int length) {
+    for (int divisor = 2; divisor * divisor <= length; ++divisor) {
+        if (length % divisor == 0) return {Form::Pairs, Form::Lines};
+    }
+    return {Form::Pairs};
+}
+
+LaneProgram laneProgram(Form form, const Graph& graph) {
+    const Units units = form == Form::Pairs ? Units(graph, Unit::Pair) : Units(graph, groupsOfLines(graph));
+    return inLanes(graph, units, Order::Blocks);
+}
+
+std::string laneText(const GraphEntry& entry, Form form, const Graph& graph) {
+    return emitLanes(entry, form, graph, laneProgram(form, graph));
+}
+
+std::string laneFile(const GraphEntry& entry, Form form) {
+    return formOfText(form).folder + "/" + entry.family->filePrefix + to_string(entry.length) + ".h";
 }
 
 }  // namespace gen

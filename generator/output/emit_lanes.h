@@ -20,13 +20,12 @@ struct FormOfText {
 };
 const FormOfText& formOfText(Form form);
 
-// The forms that a length has: no line is a part of a prime length.
+// The forms that a length has. Prime lengths have no lines: few of their steps would share registers, and the shuffles
+// would be three times as many.
 std::vector<Form> formsOf(int length);
 
 std::string laneFile(const GraphEntry& entry, Form form);
-std::string emitLanes(const GraphEntry& entry, Form form, const Graph& graph, const LaneProgram& program);
-
-// The same, of the steps as they are taken in this form.
+// The steps of a graph in this form, and the text of them.
 LaneProgram laneProgram(Form form, const Graph& graph);
 std::string laneText(const GraphEntry& entry, Form form, const Graph& graph);
 

@@ -9,7 +9,7 @@
 
 namespace zulg {
 
-enum Level : std::uintptr_t { levelUnknown, levelX86_64, levelX86_64_v3 };
+enum Level : std::uintptr_t { levelX86_64 = 1, levelX86_64_v3 };
 
 // That of the processor. Resolvers call it, when nothing of the library but its relative addresses is settled.
 [[gnu::visibility("hidden")]] Level processorLevel() noexcept;
@@ -25,9 +25,10 @@ constexpr bool hasSecondLevel(Family family) { return family == Family::DFTFwd_C
 template <class Element>
 using KernelResolver = KernelRoutine<Element> (*)();
 
-// The mark makes the address of this function, wherever it is stored, the address that it returns.
+// The mark makes the address of this function, wherever it is stored, the address that it returns. The function is
+// never inlined: the compiler does not know that a call of this address is a call of the kernel.
 template <Family family, int length, class Element>
-KernelRoutine<Element> resolvedKernel() {
+[[gnu::noinline]] KernelRoutine<Element> resolvedKernel() {
     asm(".type %c0, @gnu_indirect_function" : : "i"(&resolvedKernel<family, length, Element>));
     return processorLevel() >= levelX86_64_v3 ? &x86_64_v3::kernel<family, length, Element>
                                               : &kernel<family, length, Element>;

@@ -5,6 +5,7 @@ SUMS = re.compile(r"v?(add|sub)s[sd]$")
 PRODUCTS = re.compile(r"v?muls[sd]$")
 # Complex kernels have the two parts of a number in one register. Arithmetic is in double, whatever the elements are.
 PACKED_FAMILIES = {"complex"}
+SECOND_LEVEL_KERNELS = 252  # the complex ones
 PACKED_SUMS = re.compile(r"v?(add|sub)pd$")
 PACKED_PRODUCTS = re.compile(r"v?mulpd$")
 NEGATIONS = {"xorps", "xorpd"}

@@ -22,7 +22,7 @@ Level foundLevel() {
 
 using LevelResolver = Level (*)();
 
-Level resolvedLevel() {
+[[gnu::noinline]] Level resolvedLevel() {
     asm(".type %c0, @gnu_indirect_function" : : "i"(&resolvedLevel));
     return foundLevel();
 }
@@ -39,8 +39,8 @@ union LevelWord {
 }  // namespace
 
 Level processorLevel() noexcept {
-    const Level settled = levelWord.level;
-    return settled == levelUnknown ? foundLevel() : settled;
+    const Level settled = levelWord.level;  // or, before the word is settled, whatever the linker left there
+    return settled == levelX86_64 || settled == levelX86_64_v3 ? settled : foundLevel();
 }
 
 }  // namespace zulg

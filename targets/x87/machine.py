@@ -4,6 +4,7 @@ import re
 SUMS = re.compile(r"f(add|sub)r?p?[sl]?$")
 PRODUCTS = re.compile(r"fmulp?[sl]?$")
 PACKED_FAMILIES = set()
+SECOND_LEVEL_KERNELS = 0
 NEGATIONS = {"fchs"}
 # Arithmetic that no kernel may hold: anything else of this unit, and anything of a vector unit.
 FOREIGN = re.compile(

@@ -137,7 +137,7 @@ class Library:
         return sorted((int(match[1], 16) for match in found if match), key=self.level)
 
     def level(self, start):
-        """The level of a kernel, by the encoding of its instructions: 1 if it has a three-operand one, otherwise 0."""
+        """Of a kernel: whether it has instructions of AVX."""
         return any(re.match(r"v[a-z]", instruction.mnemonic) for instruction in self.routine(start))
 
     @functools.cached_property

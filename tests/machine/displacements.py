@@ -14,7 +14,8 @@ import tempfile
 import unittest
 
 BUILD, LAUNCHER = sys.argv[1:3]
-KERNELS = ["real_forward/rdft_59", "real_forward/rdft_61", "real_inverse/rdft_47", "real_inverse/rdft_53", "hartley/dht_59"]
+KERNELS = ["real_forward/rdft_59", "real_forward/rdft_61", "real_inverse/rdft_47", "real_inverse/rdft_53",
+           "hartley/dht_59"]
 
 
 def rewritten(text):

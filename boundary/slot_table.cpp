@@ -14,9 +14,9 @@ using SizeRoutine = Status(ZULG_CALL*)(std::int32_t size, std::int32_t* pSize);
 // One routine of any of the exported shapes. A union and not a cast, so that the table is a constant expression.
 union Routine {
     KernelRoutine<float> kernel32;
+    KernelRoutine<double> kernel64;
     KernelResolver<float> resolver32;
     KernelResolver<double> resolver64;
-    KernelRoutine<double> kernel64;
     DispatchRoutine<float> dispatch32;
     DispatchRoutine<double> dispatch64;
     WhtRoutine<float> wht32;
@@ -31,9 +31,9 @@ union Routine {
     Dct4FreeRoutine dct4Free;
 
     constexpr Routine(KernelRoutine<float> routine) : kernel32(routine) {}
+    constexpr Routine(KernelRoutine<double> routine) : kernel64(routine) {}
     constexpr Routine(KernelResolver<float> resolver) : resolver32(resolver) {}
     constexpr Routine(KernelResolver<double> resolver) : resolver64(resolver) {}
-    constexpr Routine(KernelRoutine<double> routine) : kernel64(routine) {}
     constexpr Routine(DispatchRoutine<float> routine) : dispatch32(routine) {}
     constexpr Routine(DispatchRoutine<double> routine) : dispatch64(routine) {}
     constexpr Routine(WhtRoutine<float> routine) : wht32(routine) {}

@@ -35,7 +35,7 @@ std::string exportedName(const std::string& stem) {
     return stem + "_" + ElementNames::GetName<Element>(0);
 }
 
-// What is due for 32f and for 64f.
+// The first value for 32f, the second one for 64f.
 template <class Element, class Value>
 Value perType(Value single, Value twice) {
     return isSingle<Element> ? single : twice;

@@ -78,7 +78,7 @@ def prepare(folder, options):
             if file.is_file() and file.name != TABLE.name:
                 shutil.copy2(file, target)
         taken = [text for text, is_long in texts.items()
-                 if ("speed" not in choices or not is_long) and ("bisection" not in choices or text not in NOT_BISECTED)]
+                 if not ("speed" in choices and is_long) and not ("bisection" in choices and text in NOT_BISECTED)]
         write_if_changed(target / TABLE.name, "".join(
             f"{family} {length} {choice} 0\n" for family, length in taken for choice in choices))
         write_if_changed(folder / alternative / "texts.txt", "".join(

@@ -63,16 +63,22 @@ private:
     bool isLoad(NodeId id) const { return graph.node(id).kind == gen::Kind::Load; }
     const Lanes& lanesOf(int number) const { return program.registers[static_cast<size_t>(number)]; }
 
-    int add(LaneStep step, Lanes lanes) {
-        step.result = static_cast<int>(program.registers.size());
+    // A new register. It is open while the step that gives it waits for signs.
+    int addRegister(Lanes lanes, bool open) {
+        const auto number = static_cast<int>(program.registers.size());
         for (size_t lane = 0; lane < lanes.size(); ++lane) {
-            homes[lanes[lane].node].push_back({step.result, static_cast<int>(lane)});
+            homes[lanes[lane].node].push_back({number, static_cast<int>(lane)});
         }
-        const int result = step.result;
         program.registers.push_back(std::move(lanes));
-        isOpen.push_back(false);
+        isOpen.push_back(open);
+        return number;
+    }
+
+    int add(LaneStep step, Lanes lanes) {
+        const int number = addRegister(std::move(lanes), false);
+        step.result = number;
         program.steps.push_back(std::move(step));
-        return result;
+        return number;
     }
 
     // ---- what is wanted, and the cheapest way to it ----
@@ -258,21 +264,22 @@ private:
         // Lanes 0 and 2 of one register with lanes 1 and 3 of another.
         for (const Home& a : homesOf(want[0].node, 4)) {
             for (const Home& b : homesOf(want[1].node, 4)) {
-                const Lanes &x = lanesOf(a.number), &y = lanesOf(b.number);
-                for (const int i : {2, 3}) {
-                    for (const int j : {2, 3}) {
-                        if (a.lane > 1 || b.lane > 1 || x[static_cast<size_t>(i)].node != want[2].node ||
-                            y[static_cast<size_t>(j)].node != want[3].node) {
-                            continue;
-                        }
-                        keepCheaper(best, withSigns(shuffled({standingWay(a.number), standingWay(b.number)},
-                                                             {a.lane, b.lane + 4, i, j + 4}),
-                                                    want));
-                    }
-                }
+                const auto i = upperLane(a.number, want[2].node), j = upperLane(b.number, want[3].node);
+                if (a.lane > 1 || b.lane > 1 || !i || !j) continue;
+                const Way both =
+                    shuffled({standingWay(a.number), standingWay(b.number)}, {a.lane, b.lane + 4, *i, *j + 4});
+                keepCheaper(best, withSigns(both, want));
             }
         }
         return *best;
+    }
+
+    // Which of lanes 2 and 3 of a register holds a node.
+    std::optional<int> upperLane(int number, NodeId node) const {
+        for (const int lane : {2, 3}) {
+            if (lanesOf(number)[static_cast<size_t>(lane)].node == node) return lane;
+        }
+        return std::nullopt;
     }
 
     bool isAnyHalf(Lane low, Lane high) const {
@@ -301,11 +308,11 @@ private:
             }
         }
         if (best) return *best;
-        if (!hasStored && areElement(want[0], want[1]) && areElement(want[2], want[3])) {
+        // Elements may be read once more while nothing is stored.
+        if (missingLoads > 0 && areElement(want[0], want[1]) && areElement(want[2], want[3])) {
             const std::vector<int> elements = {elementOf(want[0].node), elementOf(want[2].node)};
-            Way way = stepWay({.kind = Kind::Load, .elements = elements}, {},
-                              {{want[0].node}, {want[1].node}, {want[2].node}, {want[3].node}});
-            return way;
+            return stepWay({.kind = Kind::Load, .elements = elements}, {},
+                           {{want[0].node}, {want[1].node}, {want[2].node}, {want[3].node}});
         }
         return joined(pairWay({want[0], want[1]}), pairWay({want[2], want[3]}));
     }
@@ -360,12 +367,7 @@ private:
         Lanes lanes;
         for (NodeId id : group) lanes.push_back({id});
         if (graph.node(group[0]).kind == gen::Kind::Scaled) {
-            const auto number = static_cast<int>(program.registers.size());
-            for (size_t lane = 0; lane < lanes.size(); ++lane) {
-                homes[lanes[lane].node].push_back({number, static_cast<int>(lane)});
-            }
-            program.registers.push_back(lanes);
-            isOpen.push_back(true);
+            addRegister(std::move(lanes), true);
         } else {
             addSum(lanes);
         }
@@ -414,7 +416,6 @@ private:
 
     // Stores the outputs that are known: two elements at once where one register holds them.
     void storeWhatIsDone() {
-        hasStored = true;
         for (auto next = waiting.begin(); next != waiting.end(); next = waiting.begin()) {
             while (next != waiting.end() && !isDone(next->second)) ++next;
             if (next == waiting.end()) return;
@@ -451,7 +452,6 @@ private:
     std::map<int, NodeId> loads;   // by input
     std::map<int, Lanes> waiting;  // elements that are not stored yet, by number
     size_t missingLoads = 0;
-    bool hasStored = false;
 };
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <string>
 #include <tuple>
 #include <utility>
 
@@ -86,7 +85,7 @@ private:
     int matched(BlockId a, BlockId b, bool isKept) {
         const size_t before = journal.size();
         matchInside(a, b);
-        for (size_t i = before; i < journal.size(); ++i) matchOperands(journal[i].first, journal[i].second);
+        followOperands(before);
         const auto count = static_cast<int>(journal.size() - before);
         if (!isKept) {
             for (; journal.size() > before; journal.pop_back()) {
@@ -96,6 +95,11 @@ private:
             }
         }
         return count;
+    }
+
+    // Matches what leads to the matches that are in the journal from this place on.
+    void followOperands(size_t first) {
+        for (size_t i = first; i < journal.size(); ++i) matchOperands(journal[i].first, journal[i].second);
     }
 
     void matchInside(BlockId a, BlockId b) {
@@ -138,31 +142,32 @@ private:
 
     // Twiddle factors whose lines have no mate, or a mate without them: two of the same form are taken together.
     void matchTheRest() {
-        std::map<std::pair<BlockId, std::string>, Pair> waiting;
+        std::map<std::pair<BlockId, Twiddle>, Pair> waiting;
         for (auto pair = steps.rbegin(); pair != steps.rend(); ++pair) {
             if (other[pair->re] || !isBetweenStages(*pair)) continue;
-            const std::string form = formOf(*pair);
-            if (form.empty()) continue;
-            const auto [mate, isFirst] = waiting.try_emplace({graph.node(pair->re).block, form}, *pair);
+            const std::optional<Twiddle> form = formOf(*pair);
+            if (!form) continue;
+            const auto [mate, isFirst] = waiting.try_emplace({graph.node(pair->re).block, *form}, *pair);
             if (isFirst) continue;
             const size_t before = journal.size();
             match(mate->second, *pair);
-            for (size_t i = before; i < journal.size(); ++i) matchOperands(journal[i].first, journal[i].second);
+            followOperands(before);
             waiting.erase(mate);
         }
     }
 
-    // A twiddle factor by the steps of which it is made: a sum of products. Empty for other steps.
-    std::string formOf(const Pair& pair) const {
+    // A twiddle factor is a sum of two products. Those of an eighth of a turn are the two of one pair.
+    enum class Twiddle { General, Eighth };
+
+    // None if a step is no twiddle factor, or if its products have mates already.
+    std::optional<Twiddle> formOf(const Pair& pair) const {
         const Node& node = graph.node(pair.re);
-        if (node.kind != Kind::Add && node.kind != Kind::Sub) return {};
-        std::string form;
+        if (node.kind != Kind::Add && node.kind != Kind::Sub) return std::nullopt;
         for (NodeId operand : operands(node)) {
             const auto taken = stepPair(operand);
-            if (!taken || other[taken->re] || graph.node(operand).kind != Kind::Scaled) return {};
-            form += isBetweenStages(*taken) ? "p" : "-";
+            if (!taken || other[taken->re] || graph.node(operand).kind != Kind::Scaled) return std::nullopt;
         }
-        return node.a == node.b || graph.pairOf(node.a)->re == graph.pairOf(node.b)->re ? "eighth" : form;
+        return graph.pairOf(node.a)->re == graph.pairOf(node.b)->re ? Twiddle::Eighth : Twiddle::General;
     }
 
     // Whether a step belongs to a block that has blocks inside: it leads from one stage to the next.

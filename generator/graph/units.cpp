@@ -37,10 +37,6 @@ private:
     std::vector<std::size_t> path;
 };
 
-}  // namespace
-
-namespace {
-
 std::vector<Group> pairsAsGroups(const Graph& graph, Unit unit) {
     std::vector<Group> groups;
     if (unit == Unit::Node) return groups;

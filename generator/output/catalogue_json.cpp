@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "output/recipe_words.h"
+#include "output/words.h"
 
 namespace gen {
 namespace {
@@ -22,9 +23,7 @@ std::string quotedOrNumber(const std::string& text) {
 std::string numberOrNull(std::optional<int> number) { return number ? to_string(*number) : "null"; }
 
 std::string list(const std::vector<std::string>& items, const std::string& separator = ", ") {
-    std::string text;
-    for (const std::string& item : items) text += (text.empty() ? "" : separator) + item;
-    return "[" + text + "]";
+    return "[" + joined(items, separator) + "]";
 }
 
 class Object {

@@ -1,14 +1,13 @@
 #include "output/emit.h"
 
-#include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <functional>
 #include <map>
 #include <optional>
 #include <stdexcept>
 
 #include "output/block_title.h"
+#include "output/words.h"
 
 namespace gen {
 namespace {
@@ -30,7 +29,7 @@ class Names {
 public:
     Names(const GraphEntry& entry, const Graph& graph, const Schedule& schedule) {
         int operations = 0;
-        std::map<ConstantId, int> uses;
+        std::vector<ConstantId> uses;
         for (const Step& step : schedule.steps) {
             if (step.kind == Step::Kind::Store) continue;
             const Node& node = graph.node(step.node);
@@ -43,11 +42,11 @@ public:
             if (!entry.family->isBody() && graph.constant(node.constant).stored == 2) {
                 constants.emplace(node.constant, "two");
                 usesTwo = true;
-            } else if (uses[node.constant]++ == 0) {
-                constantOrder.push_back(node.constant);
+            } else {
+                uses.push_back(node.constant);
             }
         }
-        std::ranges::stable_sort(constantOrder, std::greater(), [&](ConstantId id) { return uses[id]; });
+        constantOrder = mostUsedFirst(uses);
         for (std::size_t i = 0; i < constantOrder.size(); ++i) {
             constants.emplace(constantOrder[i], "c[" + to_string(i) + "]");
         }
@@ -74,12 +73,6 @@ std::string operationText(const Node& node, const Names& names) {
         case Kind::Load: break;
     }
     throw std::logic_error("a load is no operation");
-}
-
-std::string joined(const std::vector<std::string>& items) {
-    std::string text;
-    for (const std::string& item : items) text += (text.empty() ? "" : ", ") + item;
-    return text;
 }
 
 std::string loadText(const Port& port) { return "io." + port.port + "(" + to_string(port.number) + ")"; }

@@ -1,12 +1,12 @@
 #include "output/emit_lanes.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
 
 #include "graph/lines.h"
 #include "output/block_title.h"
 #include "output/emit.h"
+#include "output/words.h"
 
 namespace gen {
 namespace {
@@ -14,15 +14,9 @@ namespace {
 using StepKind = LaneStep::Kind;
 using std::to_string;
 
-template <class Items, class Text>
-std::string listed(const Items& items, const Text& text) {
-    std::string list;
-    for (const auto& item : items) list += (list.empty() ? "" : ", ") + text(item);
-    return list;
-}
-
-std::string numbered(const std::vector<int>& numbers) {
-    return listed(numbers, [](int number) { return to_string(number); });
+std::string numbered(const std::vector<int>& numbers, const std::string& separator = ", ") {
+    return joined(
+        numbers, [](int number) { return to_string(number); }, separator);
 }
 
 // Names the registers, and numbers the constants: those used most come first.
@@ -31,18 +25,14 @@ public:
     explicit LaneNames(const LaneProgram& program) {
         names.resize(program.registers.size());
         int operations = 0;
-        std::map<ConstantId, int> uses;
+        std::vector<ConstantId> uses;
         for (const LaneStep& step : program.steps) {
             if (step.kind == StepKind::Store) continue;
             std::string& name = names[static_cast<std::size_t>(step.result)];
-            name = step.kind == StepKind::Load ? "x" + listed(step.elements, [](int n) { return to_string(n); })
-                                               : "t" + to_string(operations++);
-            if (const auto comma = name.find(", "); comma != std::string::npos) name.replace(comma, 2, "_");
-            for (const LaneStep::Factor& factor : step.factors) {
-                if (uses[factor.constant]++ == 0) constants.push_back(factor.constant);
-            }
+            name = step.kind == StepKind::Load ? "x" + numbered(step.elements, "_") : "t" + to_string(operations++);
+            for (const LaneStep::Factor& factor : step.factors) uses.push_back(factor.constant);
         }
-        std::ranges::stable_sort(constants, std::greater(), [&](ConstantId id) { return uses[id]; });
+        constants = mostUsedFirst(uses);
     }
 
     const std::string& of(int number) const { return names[static_cast<std::size_t>(number)]; }
@@ -70,7 +60,7 @@ std::string portOf(const LaneStep& step) { return step.elements.size() == 1 ? "i
 std::string scaledText(const LaneStep& step, const LaneNames& names, const std::string& type) {
     const auto text = [&](const LaneStep::Factor& factor) { return names.factor(factor); };
     const bool isUniform = std::ranges::count(step.factors, step.factors[0]) == std::ssize(step.factors);
-    const std::string factors = isUniform ? text(step.factors[0]) : type + "(" + listed(step.factors, text) + ")";
+    const std::string factors = isUniform ? text(step.factors[0]) : type + "(" + joined(step.factors, text) + ")";
     return factors + " * " + names.of(step.a);
 }
 
@@ -83,7 +73,7 @@ std::string stepText(const LaneStep& step, const LaneNames& names, const std::st
         case StepKind::Difference: return a() + " - " + b();
         case StepKind::Scaled: return scaledText(step, names, type);
         case StepKind::Flip:
-            return "flipped<" + listed(step.flips, [](bool flip) { return std::string(flip ? "1" : "0"); }) + ">(" +
+            return "flipped<" + joined(step.flips, [](bool flip) { return std::string(flip ? "1" : "0"); }) + ">(" +
                    a() + ")";
         case StepKind::Shuffle:
             return "shuffled<" + numbered(step.places) + ">(" + a() + (step.b < 0 ? "" : ", " + b()) + ")";

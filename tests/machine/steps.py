@@ -7,8 +7,8 @@ additions plus subtractions and multiplications of the table, no call, no backwa
 families that have a complex number to a register: there a packed step counts as many steps as it has lanes, and every
 lane is in use. A kernel of several levels is counted at each. The negations of the forward real family are left to the
 graph: a compiler may fold one into its neighbours. The large Walsh-Hadamard orders have the loops and the calls out of
-the library that their table grants them. The inverse real kernels read the 2 that they multiply by in the width of their
-elements.
+the library that their table grants them. The inverse real kernels read the 2 that they multiply by in the width of
+their elements.
 """
 import os
 import re

@@ -34,9 +34,14 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
     throw std::runtime_error("no graph " + family + " " + length);
 }
 
+const gen::Tuning& tuning() {
+    static const gen::Tuning choices = gen::readTuning();
+    return choices;
+}
+
 std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
-    static const gen::Tuning tuning = gen::readTuning("targets/x86_64/tuning.txt");
-    return gen::emitGraph(entry, graph, tuning.schedule(entry, graph));
+    const bool isBisected = tuning().orderOf(entry.name(), gen::Order::Blocks) == gen::Order::Bisection;
+    return gen::emitGraph(entry, graph, isBisected ? gen::byBisection(graph) : gen::blockByBlock(graph));
 }
 
 // Path and text of every generated file.
@@ -51,12 +56,9 @@ std::map<std::string, std::string> allFiles() {
         if (entry.family->isBody()) continue;
         const int steps = gen::stepsOf(entry, *graph);
         kernelTexts.push_back({entry.file(), "scalar", entry.family->graphTemplate, &entry, steps});
-        if (!entry.family->hasLanes) continue;
-        for (const gen::Form form : gen::formsOf(entry.length)) {
-            const std::string file = gen::laneFile(entry, form);
-            files[file] = gen::laneText(entry, form, *graph);
-            kernelTexts.push_back(
-                {file, gen::formOfText(form).name, gen::formOfText(form).graphTemplate, &entry, steps});
+        for (const gen::LaneText& text : gen::laneTexts(entry, *graph, tuning())) {
+            files[text.file] = gen::emitLanes(entry, *graph, text);
+            kernelTexts.push_back({text.file, text.form->name, text.form->graphTemplate, &entry, steps});
         }
     }
     files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
@@ -76,8 +78,10 @@ std::string read(const fs::path& path) {
 // Files in the folders of generated files that nothing generates any more.
 std::vector<fs::path> strayFiles(const std::map<std::string, std::string>& files) {
     std::set<std::string> folders;
-    for (const gen::GraphEntry& entry : gen::allGraphs()) folders.insert(entry.family->folder);
-    for (const gen::Form form : {gen::Form::Pairs, gen::Form::Lines}) folders.insert(gen::formOfText(form).folder);
+    for (const gen::GraphFamily& family : gen::allFamilies()) {
+        folders.insert(family.folder);
+        for (const gen::LaneForm& form : family.laneForms) folders.insert(form.folder);
+    }
     std::vector<fs::path> stray;
     for (const std::string& folder : folders) {
         if (!fs::exists(folder)) continue;
@@ -146,9 +150,10 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 1 && verb == "count") return count();
     if (words.size() == 4 && verb == "show") {
         const gen::GraphEntry& entry = find(words[1], words[2]);
-        for (const gen::Form form : gen::formsOf(entry.length)) {
-            if (!entry.family->hasLanes || gen::formOfText(form).name != words[3]) continue;
-            std::cout << gen::laneText(entry, form, *entry.build());
+        const auto graph = entry.build();
+        for (const gen::LaneText& text : gen::laneTexts(entry, *graph, tuning())) {
+            if (text.form->name != words[3]) continue;
+            std::cout << gen::emitLanes(entry, *graph, text);
             return 0;
         }
         throw std::runtime_error("no form " + words[3] + " of " + entry.name());

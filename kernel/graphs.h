@@ -5,8 +5,8 @@
 //     constants     those of the text, the most used first
 //     run(io)       the text itself
 //
-// A complex graph has three forms of text: one real number to a register, one complex number, and the complex numbers
-// of two lines of a stage.
+// A graph has three forms of text: one real number to a register, two lanes, such as the parts of a complex number, and
+// up to four lanes.
 #pragma once
 
 #include "kernel/text.h"
@@ -22,8 +22,20 @@ struct ComplexLines;
 template <int length>
 struct RealForwardGraph;
 template <int length>
+struct RealForwardPairs;
+template <int length>
+struct RealForwardLines;
+template <int length>
 struct RealInverseGraph;
 template <int length>
+struct RealInversePairs;
+template <int length>
+struct RealInverseLines;
+template <int length>
 struct HartleyGraph;
+template <int length>
+struct HartleyPairs;
+template <int length>
+struct HartleyLines;
 
 }  // namespace zulg

@@ -66,12 +66,36 @@ struct PortsOf<family, RealForwardGraph<length>, Element> {
     using Type = RealForwardPorts<TargetNumbers, Element, layoutOf<family>, length>;
 };
 template <Family family, int length, class Element>
+struct PortsOf<family, RealForwardPairs<length>, Element> {
+    using Type = RealForwardLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
+};
+template <Family family, int length, class Element>
+struct PortsOf<family, RealForwardLines<length>, Element> {
+    using Type = RealForwardLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
+};
+template <Family family, int length, class Element>
 struct PortsOf<family, RealInverseGraph<length>, Element> {
     using Type = RealInversePorts<TargetNumbers, Element, layoutOf<family>, length>;
 };
 template <Family family, int length, class Element>
+struct PortsOf<family, RealInversePairs<length>, Element> {
+    using Type = RealInverseLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
+};
+template <Family family, int length, class Element>
+struct PortsOf<family, RealInverseLines<length>, Element> {
+    using Type = RealInverseLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
+};
+template <Family family, int length, class Element>
 struct PortsOf<family, HartleyGraph<length>, Element> {
     using Type = RealPorts<TargetNumbers, Element>;
+};
+template <Family family, int length, class Element>
+struct PortsOf<family, HartleyPairs<length>, Element> {
+    using Type = RealLanePorts<TargetNumbers, Element, length>;
+};
+template <Family family, int length, class Element>
+struct PortsOf<family, HartleyLines<length>, Element> {
+    using Type = RealLanePorts<TargetNumbers, Element, length>;
 };
 
 template <Family family, int length, class Element>

@@ -46,6 +46,8 @@ struct Lanes {
 
     Lanes() = default;
     ZULG_INLINE explicit Lanes(Vector from) : vector(from) {}
+    ZULG_INLINE explicit Lanes(double all) requires(width == 2) : vector{all, all} {}
+    ZULG_INLINE explicit Lanes(double all) requires(width == 4) : vector{all, all, all, all} {}
 
     // The numbers of the lanes as the text counts them.
     ZULG_INLINE Lanes(double a, double b) requires(width == 2) : vector(exchanged ? Vector{b, a} : Vector{a, b}) {}
@@ -54,6 +56,15 @@ struct Lanes {
 
     // Where the lane of a text is in the register.
     static constexpr int place(int lane) { return exchanged ? lane ^ 1 : lane; }
+};
+
+// One number by itself.
+template <class Registers, bool exchanged>
+struct Lanes<Registers, 1, exchanged> {
+    double vector;
+
+    Lanes() = default;
+    ZULG_INLINE explicit Lanes(double from) : vector(from) {}
 };
 
 template <class Registers, int width, bool exchanged>
@@ -86,6 +97,16 @@ ZULG_INLINE Lanes<Registers, width, exchanged> flipped(Lanes<Registers, width, e
     const Bits mask = [&]<int... lane>(std::integer_sequence<int, lane...>) { return Bits{signs[L::place(lane)]...}; }
     (std::make_integer_sequence<int, width>{});
     return L((typename Vectors<width>::Type)((Bits)x.vector ^ mask));
+}
+
+// A register to be stored, some of whose lanes hold minus what is stored.
+template <class Register, int... isMinus>
+struct Negated {
+    Register of;
+};
+template <int... isMinus, class Register>
+ZULG_INLINE Negated<Register, isMinus...> negated(Register x) {
+    return {x};
 }
 
 // Which of two registers each lane is from, if all lanes stay in their places: a bit for each that is from the second
@@ -130,7 +151,7 @@ ZULG_INLINE Lanes<Registers, 4, exchanged> joined(Lanes<Registers, 2, exchanged>
 }
 template <class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 2, exchanged> joined(Lanes<Registers, 1, exchanged> a, Lanes<Registers, 1, exchanged> b) {
-    return Lanes<Registers, 2, exchanged>(a.value, b.value);
+    return Lanes<Registers, 2, exchanged>(a.vector, b.vector);
 }
 
 // One half of the lanes: the low one is 0.
@@ -141,31 +162,26 @@ ZULG_INLINE Lanes<Registers, 2, exchanged> part(Lanes<Registers, 4, exchanged> x
 }
 template <int lane, class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 1, exchanged> part(Lanes<Registers, 2, exchanged> x) {
-    return Lanes<Registers, 1, exchanged>{x.vector[Lanes<Registers, 2, exchanged>::place(lane)]};
+    return Lanes<Registers, 1, exchanged>(x.vector[Lanes<Registers, 2, exchanged>::place(lane)]);
 }
 
-// One number by itself.
-template <class Registers, bool exchanged>
-struct Lanes<Registers, 1, exchanged> {
-    double value;
-};
 template <class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 1, exchanged> operator+(Lanes<Registers, 1, exchanged> a,
                                                      Lanes<Registers, 1, exchanged> b) {
-    return {a.value + b.value};
+    return Lanes<Registers, 1, exchanged>(a.vector + b.vector);
 }
 template <class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 1, exchanged> operator-(Lanes<Registers, 1, exchanged> a,
                                                      Lanes<Registers, 1, exchanged> b) {
-    return {a.value - b.value};
+    return Lanes<Registers, 1, exchanged>(a.vector - b.vector);
 }
 template <class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 1, exchanged> operator*(double factor, Lanes<Registers, 1, exchanged> x) {
-    return {factor * x.value};
+    return Lanes<Registers, 1, exchanged>(factor * x.vector);
 }
 template <int isFlipped, class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 1, exchanged> flipped(Lanes<Registers, 1, exchanged> x) {
-    return {isFlipped ? -x.value : x.value};
+    return Lanes<Registers, 1, exchanged>(isFlipped ? -x.vector : x.vector);
 }
 
 }  // namespace zulg

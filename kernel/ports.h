@@ -89,6 +89,21 @@ struct Slots {
     static constexpr int im(int k) { return re(k) + 1; }
 };
 
+// CCS keeps the imaginary parts of the real bins, always +0.0. They are no results: stored as integers, so that they
+// take no floating-point register and leave the rest of the kernel as it is in the other layouts. Word by word: a zero
+// of eight bytes would claim space in the frame on 32-bit targets.
+template <Layout layout, int length, class Element>
+ZULG_INLINE void storeImaginaryZeros(typename InMemory<Element>::Type* bins) {
+    if constexpr (layout == Layout::CCS) {
+        for (int slot : {1, length + 1}) {
+            if (slot > 1 && length % 2 != 0) continue;
+            const std::uint32_t zero = 0;
+            auto* const bytes = reinterpret_cast<char*>(bins + slot);
+            for (std::size_t i = 0; i < sizeof(Element); i += sizeof zero) std::memcpy(bytes + i, &zero, sizeof zero);
+        }
+    }
+}
+
 // Real values to half spectrum.
 template <class Numbers, class Element, Layout layout, int length>
 struct RealForwardPorts : Arrays<Numbers, Element> {
@@ -101,22 +116,7 @@ struct RealForwardPorts : Arrays<Numbers, Element> {
     ZULG_INLINE void minusRe(int k, Value value) const { this->storeMinus(Slot::re(k), value); }
     ZULG_INLINE void minusIm(int k, Value value) const { this->storeMinus(Slot::im(k), value); }
 
-    // CCS keeps the imaginary parts of the real bins, always +0.0. They are no results: stored as integers, so that
-    // they take no floating-point register and leave the rest of the kernel as it is in the other layouts.
-    ZULG_INLINE void finish() const {
-        if constexpr (layout == Layout::CCS) {
-            storeZero(Slot::im(0));
-            if (Slot::isEven) storeZero(Slot::im(length / 2));
-        }
-    }
-
-private:
-    // Word by word: a zero of eight bytes would claim space in the frame on 32-bit targets.
-    ZULG_INLINE void storeZero(int slot) const {
-        const std::uint32_t zero = 0;
-        auto* const bytes = reinterpret_cast<char*>(this->destination + slot);
-        for (std::size_t i = 0; i < sizeof(Element); i += sizeof zero) std::memcpy(bytes + i, &zero, sizeof zero);
-    }
+    ZULG_INLINE void finish() const { storeImaginaryZeros<layout, length, Element>(this->destination); }
 };
 
 // The 2 of the doubled bins, stored in the width of the element. Only kernel/two.cpp knows its value: a compiler that

@@ -85,11 +85,11 @@ void report(const TimedKernel& timed, const std::vector<Module>& modules,
     std::vector<const char*> names;
     for (const Module& module : modules)
         for (const TimedKernel& kernel : module.kernels)
-            if (kernel.length == timed.length && std::string_view(kernel.family) == timed.family)
+            if (kernel.length == timed.length && std::string_view(kernel.name) == timed.name)
                 routines.push_back(kernel.*routine), names.push_back(module.name.c_str());
     const std::vector<double> ticks = leastTicks(routines, timed.length, copy);
     for (std::size_t i = 0; i < ticks.size(); ++i)
-        std::printf("%s %d %s %s %s %.2f\n", timed.text, timed.length, timed.family,
+        std::printf("%s %d %s %s %s %.2f\n", timed.folder, timed.length, timed.name,
                     sizeof(Element) == sizeof(double) ? "double" : "single", names[i], ticks[i]);
 }
 
@@ -103,6 +103,7 @@ int main(int argc, char** argv) {
     std::vector<Module> modules;
     for (int i = 2; i < argc; ++i) modules.push_back(opened(argv[i]));
     for (const TimedKernel& timed : modules.front().kernels) {
+        if (timed.level == std::string_view("x86_64_v3") && !__builtin_cpu_supports("avx2")) continue;
         report(timed, modules, &TimedKernel::single, copy);
         report(timed, modules, &TimedKernel::wide, copy);
     }

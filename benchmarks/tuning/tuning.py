@@ -1,64 +1,55 @@
-"""The table of a target's choices, for scripts/tune: makes the alternatives that are timed, and writes the table.
+"""The table of orders of the lane texts, for scripts/tune: makes the alternatives that are timed, and writes the table.
 
-tuning.py prepare FOLDER [--family FAMILY] [--length N]    a folder for each alternative, with a table of its own
-tuning.py settle RECORDS... [--check]                      the table, from what tune_times printed
+tuning.py prepare FOLDER [--folder TEXTS] [--length N]    a folder for each alternative, with a table of its own
+tuning.py settle RECORDS... [--check]                     the table, from what tune_times printed
 
-An alternative is a table with a row for each text, or with no row. Of the alternatives of a text the fastest counts in
-which each row gains: without it, and with the other row of the text if there is one, the time is longer by LEAST_GAIN
-percent or more. That figure stands beside the row. It is the geometric mean over the kernels of the text, both elements
-and the places at which a kernel lies in the code. The time of a kernel at a place is the least that any process had.
+An alternative is a table with a row for each text, or with no row. A text gets its row if its kernels take longer by
+LEAST_GAIN percent or more without it. That figure stands beside the row. It is the geometric mean over the kernels of
+the text, both elements, all levels that take it, and the places at which a kernel lies in the code. The time of a
+kernel at a place is the least that any process had.
 """
 import collections
 import datetime
 import math
 import pathlib
 import re
-import shutil
 import sys
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
-TARGET = pathlib.Path("targets", "x86_64")
-TABLE = TREE / TARGET / "tuning.txt"
+TABLE = pathlib.Path("targets", "x86_64", "tuning.txt")
 LEAST_GAIN = 5
-# The order of steps serves every target. On x87 the frame of this one would exceed the 1 KB that the header promises.
-NOT_BISECTED = {("real_forward", 61)}
-
-ALTERNATIVES = {"plain": (), "bisection": ("bisection",), "speed": ("speed",), "both": ("bisection", "speed")}
-# Texts with one real number to a register, of families that have no other form.
-TEXT = re.compile(r'"kernels/((?!complex/)\w+)/\w+\.h scalar \w+ (\d+) (\d+) ')
+OTHER_ORDER = {"pairs": "bisection", "lines": "blocks"}  # than the usual one of the form
+TEXT = re.compile(r'"kernels/(\w+)/\w+\.h (pairs|lines) \w+ (\d+) ')
 
 HEAD = """\
-# What this machine likes: the choices for a text of kernels that are settled by measurement. scripts/tune writes this
-# file. A text without a row has its steps block by block and is compiled with kernel_compile_flags.
+# What this machine likes: texts in lanes whose order of steps is settled by measurement. scripts/tune writes this file.
+# A text without a row has the usual order of its form: two lanes block by block, four by recursive bisection.
 #
-#   family, length   the text, as `generate show FAMILY LENGTH` takes it
-#   choice           bisection: its steps are ordered by recursive bisection
-#                    speed: it is compiled with fast_kernel_compile_flags (target.cmake); not for long kernels
+#   folder, length   the text: kernels/FOLDER, `generate show`
+#   order            blocks or bisection: the other one
 #   gain             by how many percent its kernels take longer without this row; {least} at least
 #
 # {written}
 #
-# family       length  choice     gain
+# folder               length  order      gain
 """
 
 
 def all_texts():
-    """(family, length) -> whether the target compiles the text by its launcher for long kernels."""
-    flags = (TREE / TARGET / "target.cmake").read_text(encoding="utf-8")
-    long_steps = int(re.search(r"set\(long_kernel_steps (\d+)\)", flags).group(1))
+    """(folder, length) -> the order that is not usual."""
     texts = (TREE / "kernels" / "texts.cmake").read_text(encoding="utf-8")
-    return {(family, int(length)): int(steps) >= long_steps for family, length, steps in TEXT.findall(texts)}
+    return {(folder, int(length)): OTHER_ORDER[form] for folder, form, length in TEXT.findall(texts)}
 
 
 def rows_of(path):
-    """(family, length) -> choice -> gain."""
-    table = collections.defaultdict(dict)
-    for line in path.read_text(encoding="utf-8").splitlines():
+    """(folder, length) -> gain."""
+    rows = {}
+    for line in path.read_text(encoding="utf-8").splitlines() if path.exists() else ():
         columns = line.split("#")[0].split()
         if columns:
-            family, length, choice, gain = columns
-            table[family, int(length)][choice] = gain
-    return table
+            folder, length, _, gain = columns
+            rows[folder, int(length)] = gain
+    return rows
 
 
 def write_if_changed(path, text):
@@ -67,59 +58,35 @@ def write_if_changed(path, text):
 
 
 def prepare(folder, options):
-    texts = {text: is_long for text, is_long in all_texts().items()
-             if options.get("--family", text[0]) == text[0] and options.get("--length", str(text[1])) == str(text[1])}
+    texts = {text: order for text, order in all_texts().items()
+             if options.get("--folder", text[0]) == text[0] and options.get("--length", str(text[1])) == str(text[1])}
     if not texts:
         sys.exit("no text of " + " ".join(options.values()))
-    for alternative, choices in ALTERNATIVES.items():
-        target = folder / alternative / TARGET
-        target.mkdir(parents=True, exist_ok=True)
-        for file in (TREE / TARGET).iterdir():
-            if file.is_file() and file.name != TABLE.name:
-                shutil.copy2(file, target)
-        taken = [text for text, is_long in texts.items()
-                 if not ("speed" in choices and is_long) and not ("bisection" in choices and text in NOT_BISECTED)]
-        write_if_changed(target / TABLE.name, "".join(
-            f"{family} {length} {choice} 0\n" for family, length in taken for choice in choices))
+    for alternative in ("usual", "other"):
+        tables = folder / alternative / TABLE
+        tables.parent.mkdir(parents=True, exist_ok=True)
+        write_if_changed(tables, "".join(f"{name} {length} {order} 0\n" for (name, length), order in texts.items()
+                                         if alternative == "other"))
         write_if_changed(folder / alternative / "texts.txt", "".join(
-            f"{family} {length}\n" for family, length in taken))
+            f"{name} {length}\n" for name, length in texts))
 
 
 def least_times(records):
-    """(family, length) -> (kernel, element, place) -> alternative -> ticks."""
+    """(folder, length) -> (kernel, element, place) -> alternative -> ticks."""
     times = collections.defaultdict(lambda: collections.defaultdict(dict))
     for record in records:
         for line in pathlib.Path(record).read_text(encoding="ascii").splitlines():
-            family, length, kernel, element, module, ticks = line.split()
+            folder, length, kernel, element, module, ticks = line.split()
             alternative, place = module.split(".")
-            of_module = times[family, int(length)][kernel, element, place]
+            of_module = times[folder, int(length)][kernel, element, place]
             of_module[alternative] = min(float(ticks), of_module.get(alternative, math.inf))
     return times
 
 
-def gain(kernels, taken, instead):
-    """By how many percent `instead` takes longer than `taken`."""
-    logarithms = [math.log(ticks[instead] / ticks[taken]) for ticks in kernels.values()]
+def gain(kernels):
+    """By how many percent the usual order takes longer than the other one."""
+    logarithms = [math.log(ticks["usual"] / ticks["other"]) for ticks in kernels.values()]
     return 100 * math.expm1(sum(logarithms) / len(logarithms))
-
-
-def settled(kernels):
-    """choice -> gain, of the alternative that is taken."""
-    timed = set.intersection(*(set(ticks) for ticks in kernels.values()))
-    best, rows_of_best = "plain", {}
-    for alternative in ALTERNATIVES:
-        if alternative not in timed:
-            continue
-        choices = ALTERNATIVES[alternative]
-        rows = {}
-        for choice in choices:
-            others = tuple(other for other in choices if other != choice)
-            instead = next(name for name, its_choices in ALTERNATIVES.items() if its_choices == others)
-            rows[choice] = gain(kernels, alternative, instead)
-        if all(value >= LEAST_GAIN for value in rows.values()) \
-                and gain(kernels, alternative, best) > 0:
-            best, rows_of_best = alternative, rows
-    return rows_of_best
 
 
 def machine():
@@ -129,26 +96,24 @@ def machine():
 
 
 def settle(records, is_check):
-    before, times = rows_of(TABLE), least_times(records)
-    texts = all_texts()
+    before, times, texts = rows_of(TREE / TABLE), least_times(records), all_texts()
     table = {}
     for text in texts:
-        table[text] = before.get(text, {})
-        if text in times:
-            table[text] = {choice: f"{value:.0f}" for choice, value in settled(times[text]).items()}
-    for text in sorted(times, key=list(texts).index):
-        family, length = text
-        for choice in sorted({*table[text], *before.get(text, {})}):
-            old, new = before.get(text, {}).get(choice, "no row"), table[text].get(choice, "no row")
-            print(f"{family:<12} {length:>7}  {choice:<9} {new:>6}   before: {old}")
+        if text not in times:
+            if text in before:
+                table[text] = before[text]
+        elif gain(times[text]) >= LEAST_GAIN:
+            table[text] = f"{gain(times[text]):.0f}"
+        if text in table or text in before:
+            print(f"{text[0]:<20} {text[1]:>8}  {texts[text]:<9} {table.get(text, 'no row'):>6}"
+                  f"   before: {before.get(text, 'no row')}")
     if is_check:
         return
     part = "all texts" if len(times) == len(texts) else f"the last time {len(times)} of the {len(texts)} texts"
     head = HEAD.format(least=LEAST_GAIN, written=f"Measured {datetime.date.today()} on {machine()}: {part}.")
-    TABLE.write_text(head + "".join(f"{family:<12} {length:>8}  {choice:<9} {value:>5}\n"
-                                    for (family, length), rows in table.items()
-                                    for choice, value in sorted(rows.items())), encoding="utf-8")
-    print(f"{TABLE.relative_to(TREE)}: {sum(map(len, table.values()))} rows")
+    (TREE / TABLE).write_text(head + "".join(f"{folder:<20} {length:>8}  {texts[folder, length]:<9} {value:>5}\n"
+                                             for (folder, length), value in table.items()), encoding="utf-8")
+    print(f"{TABLE}: {len(table)} rows")
 
 
 def main(verb, *words):

@@ -115,6 +115,7 @@ BlockId Graph::beginBlock(const Block& block) {
 void Graph::pair(NodeId re, NodeId im) {
     if (recording != nullptr || re == im || !areAlike(node(re), node(im))) return;
     if (pairByNode.contains(re) || pairByNode.contains(im)) return;
+    if (exchangesPairs) std::swap(re, im);
     pairByNode[re] = pairByNode[im] = {re, im};
 }
 

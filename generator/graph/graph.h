@@ -176,6 +176,7 @@ public:
 
 private:
     friend class Recording;
+    friend class ExchangedPairs;
     NodeId insert(const Node& node);
     ConstantId insert(const Coefficient& factor);
 
@@ -188,6 +189,7 @@ private:
     BlockId currentBlock{};
     std::map<NodeId, Pair> pairByNode;
     class Recording* recording = nullptr;
+    bool exchangesPairs = false;
     int inputCount = 0;
 };
 
@@ -220,6 +222,20 @@ private:
     Graph& graph;
     Recording* outer;
     std::vector<NodeId> nodes;
+};
+
+// While one of these lives, the second node of what is made a pair comes first: the parts of complex values go through
+// a block in exchanged roles then.
+class ExchangedPairs {
+public:
+    explicit ExchangedPairs(Graph& owner) : graph(owner), outer(owner.exchangesPairs) { graph.exchangesPairs = !outer; }
+    ~ExchangedPairs() { graph.exchangesPairs = outer; }
+    ExchangedPairs(const ExchangedPairs&) = delete;
+    ExchangedPairs& operator=(const ExchangedPairs&) = delete;
+
+private:
+    Graph& graph;
+    bool outer;
 };
 
 // Makes pairs of the steps of two recordings, block by block: each with the one at its place in the other list. The

@@ -6,131 +6,274 @@
 #include <tuple>
 #include <utility>
 
+#include "graph/edges.h"
+
 namespace gen {
 namespace {
 
 using std::size_t;
 
+// A line, or two that are taken together already: one block of each.
+using Line = std::vector<BlockId>;
+
 class Matching {
 public:
-    explicit Matching(const Graph& source)
-        : graph(source), blocks(source.blocks().size()), other(source.nodes().size()) {
-        const PerNode<bool> alive = graph.alive();
-        for (const Pair& pair : graph.pairs()) {
-            if (!alive[pair.re] || !alive[pair.im] || isLoad(pair.re)) continue;
-            steps.push_back(pair);
-            own(graph.node(pair.re).block).steps.push_back(pair);
-        }
+    Matching(const Graph& source, size_t lanes)
+        : graph(source), width(lanes), blocks(source.blocks().size()), mates(source.blocks().size()) {
         for (size_t i = 1; i < graph.blocks().size(); ++i) own(graph.blocks()[i].outer).children.push_back(BlockId(i));
+        std::vector<Group> pairs;
+        for (const Pair& pair : graph.pairs()) pairs.push_back({pair.re, pair.im});
+        const Units units(graph, std::move(pairs));
+        for (size_t unit = 0; unit < units.count(); ++unit) {
+            if (!isLoad(units.nodes(unit)[0])) strands.push_back(units.nodes(unit));
+        }
+        begin();
+        takeApart(BlockId{});
+        std::ranges::sort(strands, {}, [](const Group& strand) { return strand[0]; });
     }
 
     std::vector<Group> groups() {
-        matchChildren(BlockId{});
-        matchTheRest();
-        std::vector<Group> result;
-        for (const Pair& pair : steps) {
-            const std::optional<Pair>& mate = other[pair.re];
-            if (!mate) {
-                result.push_back({pair.re, pair.im});
-            } else if (pair.re < mate->re) {
-                result.push_back({pair.re, pair.im, mate->re, mate->im});
-            }
+        for (size_t round = 2; round <= width; round *= 2) {
+            begin();
+            matchChildren({BlockId{}});
+            matchTheRest();
+            end();
         }
-        return result;
+        std::erase_if(strands, [](const Group& strand) { return strand.size() == 1; });
+        takeEdgesTogether(graph, width, strands);
+        return strands;
     }
 
 private:
+    static constexpr size_t none = static_cast<size_t>(-1);
+    using Strand = size_t;  // the number of a group
+
     struct Inside {
-        std::vector<Pair> steps;  // of a block itself, in their order
+        std::vector<Strand> steps;  // that begin in a block itself, in their order
         std::vector<BlockId> children;
     };
 
     Inside& own(BlockId block) { return blocks[static_cast<size_t>(block)]; }
+    std::optional<BlockId>& mate(BlockId block) { return mates[static_cast<size_t>(block)]; }
     bool isLoad(NodeId id) const { return graph.node(id).kind == Kind::Load; }
+    const Node& first(Strand strand) const { return graph.node(strands[strand][0]); }
 
-    // Matches the lines inside a block that is not matched itself.
-    void matchChildren(BlockId block) {
-        std::vector<BlockId> left = own(block).children;
-        while (!left.empty()) {
-            const BlockId first = left.front();
-            std::vector<BlockId> same, rest;
-            for (BlockId child : left) {
-                (graph.block(child).isInstanceOfSame(graph.block(first)) ? same : rest).push_back(child);
+    // Lines inside this one that may be the same: those of one kind and length.
+    std::vector<std::vector<Line>> kindsOfLines(const Line& outer) {
+        return byKey(linesInside(outer), [&](const Line& line) {
+            const Block& block = graph.block(line[0]);
+            return std::tuple(line.size(), block.kind, block.length, block.stride);
+        });
+    }
+
+    // Lines with the same key are together, in the order of the first ones.
+    template <class Key>
+    static std::vector<std::vector<Line>> byKey(const std::vector<Line>& lines, const Key& key) {
+        std::vector<std::vector<Line>> parts;
+        for (const Line& line : lines) {
+            const auto part = std::ranges::find_if(parts, [&](const auto& same) { return key(same[0]) == key(line); });
+            if (part == parts.end()) {
+                parts.push_back({line});
+            } else {
+                part->push_back(line);
             }
-            matchLines(same);
-            left = rest;
+        }
+        return parts;
+    }
+
+    // Where lines of single values fill registers, their pairs are taken apart: the parts of complex values are in
+    // registers of their own then, and a turn is no shuffle.
+    void takeApart(BlockId outer) {
+        const std::map<BlockId, int> stage = stages(outer);
+        for (const std::vector<Line>& kind : kindsOfLines({outer})) {
+            for (const std::vector<Line>& same : byKey(kind, [&](const Line& line) { return stage.at(line[0]); })) {
+                const size_t filling = hasSingles(same[0][0]) ? same.size() / width * width : 0;
+                for (size_t i = 0; i < same.size(); ++i) {
+                    if (i < filling) {
+                        takeAllApart(same[i][0]);
+                    } else {
+                        takeApart(same[i][0]);
+                    }
+                }
+            }
         }
     }
 
-    // Takes lines together: first those whose inputs have the most steps in common.
-    void matchLines(std::vector<BlockId> lines) {
+    bool hasSingles(BlockId block) {
+        const Inside& inside = own(block);
+        return std::ranges::any_of(inside.steps, [&](Strand strand) { return strands[strand].size() == 1; }) ||
+               std::ranges::any_of(inside.children, [&](BlockId child) { return hasSingles(child); });
+    }
+
+    void takeAllApart(BlockId block) {
+        for (Strand strand : own(block).steps) {
+            if (strands[strand].size() == 1) continue;
+            strands.push_back({strands[strand][1]});
+            strands[strand].pop_back();
+        }
+        for (BlockId child : own(block).children) takeAllApart(child);
+    }
+
+    // Each round takes groups of the round before together.
+    void begin() {
+        strandOf = PerNode<Strand>(graph.nodes().size(), none);
+        other.assign(strands.size(), none);
+        isFirst.assign(strands.size(), false);
+        for (Inside& inside : blocks) inside.steps.clear();
+        for (Strand strand = 0; strand < strands.size(); ++strand) {
+            for (NodeId id : strands[strand]) strandOf[id] = strand;
+            own(first(strand).block).steps.push_back(strand);
+        }
+        coupled = mates;
+        journal.clear();
+    }
+
+    void end() {
+        std::vector<Group> result;
+        for (Strand strand = 0; strand < strands.size(); ++strand) {
+            if (other[strand] != none && !isFirst[strand]) continue;
+            result.push_back(strands[strand]);
+            if (other[strand] == none) continue;
+            const Group& mate = strands[other[strand]];
+            result.back().insert(result.back().end(), mate.begin(), mate.end());
+        }
+        strands = std::move(result);
+        mates = coupled;
+    }
+
+    // A block that only hands on to one block inside stands for that one.
+    BlockId handedOn(BlockId block) {
+        while (own(block).steps.empty() && own(block).children.size() == 1) block = own(block).children[0];
+        return block;
+    }
+
+    // The lines inside one: in the second round those that were taken together are one.
+    std::vector<Line> linesInside(const Line& line) {
+        std::vector<Line> lines;
+        for (BlockId block : own(line[0]).children) {
+            const BlockId child = handedOn(block);
+            if (const auto second = mate(child); !second) {
+                lines.push_back({child});
+            } else if (child < *second) {
+                lines.push_back({child, *second});
+            }
+        }
+        return lines;
+    }
+
+    // Matches the lines inside a line that is not matched itself: those of one stage that are instances of one block,
+    // then what is left over with other multipliers, then in several stages.
+    void matchChildren(const Line& outer) {
+        const std::map<BlockId, int> stage = stages(outer[0]);
+        const auto multiplier = [&](const Line& line) { return graph.block(line[0]).multiplier; };
+        for (std::vector<Line> left : kindsOfLines(outer)) {
+            left = matchLines(left, [&](const Line& line) { return std::pair(stage.at(line[0]), multiplier(line)); });
+            left = matchLines(left, [&](const Line& line) { return stage.at(line[0]); });
+            left = matchLines(left, [](const Line&) { return 0; });
+            for (const Line& line : left) matchChildren(line);
+        }
+    }
+
+    // Takes lines with the same key together. Returns those that are left over.
+    template <class Key>
+    std::vector<Line> matchLines(const std::vector<Line>& lines, const Key& key) {
+        std::vector<Line> left;
+        for (const std::vector<Line>& same : byKey(lines, key)) {
+            const std::vector<Line> single = matchLines(same);
+            left.insert(left.end(), single.begin(), single.end());
+        }
+        return left;
+    }
+
+    // Of each block inside this one, how many others come before it, each of which takes values from the one before.
+    std::map<BlockId, int> stages(BlockId outer) {
+        std::map<BlockId, int> stage;
+        for (BlockId child : own(outer).children) stage[child] = 0;
+        const auto childOf = [&](BlockId block) {
+            while (block != BlockId{} && graph.block(block).outer != outer) block = graph.block(block).outer;
+            return block;
+        };
+        PerNode<int> depth(graph.nodes().size(), 0);
+        for (NodeId id : graph.aliveNodes()) {
+            const BlockId child = childOf(graph.node(id).block);
+            for (NodeId operand : operands(graph.node(id))) {
+                const BlockId from = childOf(graph.node(operand).block);
+                const bool isNext = from != child && stage.contains(from);
+                depth[id] = std::max(depth[id], depth[operand] + (isNext ? 1 : 0));
+            }
+            if (stage.contains(child)) stage[child] = std::max(stage[child], depth[id]);
+        }
+        for (BlockId child : own(outer).children) stage[handedOn(child)] = stage[child];
+        return stage;
+    }
+
+    // Takes lines together: first those whose inputs have the most steps in common. Returns those that are left over.
+    std::vector<Line> matchLines(std::vector<Line> lines) {
         while (lines.size() > 1) {
-            size_t bestA = 0, bestB = 1;
-            int best = -1;
+            size_t bestA = 0, bestB = 0;
+            int best = 0;
             for (size_t a = 0; a < lines.size(); ++a) {
                 for (size_t b = a + 1; b < lines.size(); ++b) {
-                    const int score = matched(lines[a], lines[b], false);
+                    const int score = matched(lines[a][0], lines[b][0], false);
                     if (score > best) std::tie(best, bestA, bestB) = std::tuple(score, a, b);
                 }
             }
-            matched(lines[bestA], lines[bestB], true);
+            if (best == 0) break;
+            matched(lines[bestA][0], lines[bestB][0], true);
             lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(bestB));
             lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(bestA));
         }
-        if (lines.size() == 1) matchChildren(lines[0]);
+        return lines;
     }
 
     // Matches the steps of two lines and what leads to them, and tells how many there are. If it is not to be kept, the
     // matching is undone.
     int matched(BlockId a, BlockId b, bool isKept) {
         const size_t before = journal.size();
-        matchInside(a, b);
+        matchInside(a, b, isKept);
         followOperands(before);
         const auto count = static_cast<int>(journal.size() - before);
         if (!isKept) {
             for (; journal.size() > before; journal.pop_back()) {
-                for (const Pair& pair : {journal.back().first, journal.back().second}) {
-                    other[pair.re] = other[pair.im] = std::nullopt;
-                }
+                other[journal.back().first] = other[journal.back().second] = none;
             }
         }
         return count;
     }
 
     // Matches what leads to the matches that are in the journal from this place on.
-    void followOperands(size_t first) {
-        for (size_t i = first; i < journal.size(); ++i) matchOperands(journal[i].first, journal[i].second);
+    void followOperands(size_t from) {
+        for (size_t i = from; i < journal.size(); ++i) matchOperands(journal[i].first, journal[i].second);
     }
 
-    void matchInside(BlockId a, BlockId b) {
+    void matchInside(BlockId a, BlockId b, bool isKept) {
         const Inside &x = own(a), &y = own(b);
+        if (isKept && !mate(a)) coupled[static_cast<size_t>(a)] = b, coupled[static_cast<size_t>(b)] = a;
         if (x.steps.size() == y.steps.size()) {
             for (size_t i = 0; i < x.steps.size(); ++i) match(x.steps[i], y.steps[i]);
         }
         if (x.children.size() != y.children.size()) return;
-        for (size_t i = 0; i < x.children.size(); ++i) matchInside(x.children[i], y.children[i]);
+        for (size_t i = 0; i < x.children.size(); ++i) matchInside(x.children[i], y.children[i], isKept);
     }
 
-    bool match(const Pair& a, const Pair& b) {
-        const auto isProduct = [&](const Pair& pair) { return graph.node(pair.re).kind == Kind::Scaled; };
-        if (a.re == b.re || other[a.re] || other[b.re] || isProduct(a) != isProduct(b)) return false;
-        other[a.re] = other[a.im] = b;
-        other[b.re] = other[b.im] = a;
+    bool match(Strand a, Strand b) {
+        const auto isProduct = [&](Strand strand) { return first(strand).kind == Kind::Scaled; };
+        if (a == b || other[a] != none || other[b] != none || isProduct(a) != isProduct(b)) return false;
+        if (strands[a].size() != strands[b].size() || 2 * strands[a].size() > width) return false;
+        other[a] = b;
+        other[b] = a;
+        isFirst[a] = true;
+        isFirst[b] = false;
         journal.emplace_back(a, b);
         return true;
     }
 
-    std::optional<Pair> stepPair(NodeId id) const {
-        const auto pair = graph.pairOf(id);
-        return pair && !isLoad(id) ? pair : std::nullopt;
-    }
-
     // What two matched steps take is matched where it is not yet, in the order in which it is taken, or else crosswise.
-    void matchOperands(const Pair& a, const Pair& b) {
-        const Node x = graph.node(a.re), y = graph.node(b.re);
-        const auto matchTwo = [&](NodeId first, NodeId second) {
-            const auto p = stepPair(first), q = stepPair(second);
-            return p && q && isBetweenStages(*p) && isBetweenStages(*q) && match(*p, *q);
+    void matchOperands(Strand a, Strand b) {
+        const Node x = first(a), y = first(b);
+        const auto matchTwo = [&](NodeId p, NodeId q) {
+            return !isLoad(p) && !isLoad(q) && isBetweenStages(strandOf[p]) && isBetweenStages(strandOf[q]) &&
+                   match(strandOf[p], strandOf[q]);
         };
         if (x.kind == Kind::Scaled) {
             matchTwo(x.a, y.a);
@@ -142,15 +285,15 @@ private:
 
     // Twiddle factors whose lines have no mate, or a mate without them: two of the same form are taken together.
     void matchTheRest() {
-        std::map<std::pair<BlockId, Twiddle>, Pair> waiting;
-        for (auto pair = steps.rbegin(); pair != steps.rend(); ++pair) {
-            if (other[pair->re] || !isBetweenStages(*pair)) continue;
-            const std::optional<Twiddle> form = formOf(*pair);
+        std::map<std::pair<BlockId, Twiddle>, Strand> waiting;
+        for (Strand strand = strands.size(); strand-- > 0;) {
+            if (other[strand] != none || !isBetweenStages(strand)) continue;
+            const std::optional<Twiddle> form = formOf(strand);
             if (!form) continue;
-            const auto [mate, isFirst] = waiting.try_emplace({graph.node(pair->re).block, *form}, *pair);
-            if (isFirst) continue;
+            const auto [mate, isNew] = waiting.try_emplace({first(strand).block, *form}, strand);
+            if (isNew) continue;
             const size_t before = journal.size();
-            match(mate->second, *pair);
+            match(mate->second, strand);
             followOperands(before);
             waiting.erase(mate);
         }
@@ -160,30 +303,35 @@ private:
     enum class Twiddle { General, Eighth };
 
     // None if a step is no twiddle factor, or if its products have mates already.
-    std::optional<Twiddle> formOf(const Pair& pair) const {
-        const Node& node = graph.node(pair.re);
-        if (node.kind != Kind::Add && node.kind != Kind::Sub) return std::nullopt;
+    std::optional<Twiddle> formOf(Strand strand) const {
+        const Node& node = first(strand);
+        if (strands[strand].size() != 2 || (node.kind != Kind::Add && node.kind != Kind::Sub)) return std::nullopt;
         for (NodeId operand : operands(node)) {
-            const auto taken = stepPair(operand);
-            if (!taken || other[taken->re] || graph.node(operand).kind != Kind::Scaled) return std::nullopt;
+            if (graph.node(operand).kind != Kind::Scaled) return std::nullopt;
+            const Strand taken = strandOf[operand];
+            if (strands[taken].size() != 2 || other[taken] != none) return std::nullopt;
         }
-        return graph.pairOf(node.a)->re == graph.pairOf(node.b)->re ? Twiddle::Eighth : Twiddle::General;
+        return strandOf[node.a] == strandOf[node.b] ? Twiddle::Eighth : Twiddle::General;
     }
 
     // Whether a step belongs to a block that has blocks inside: it leads from one stage to the next.
-    bool isBetweenStages(const Pair& pair) const {
-        return !blocks[static_cast<size_t>(graph.node(pair.re).block)].children.empty();
+    bool isBetweenStages(Strand strand) const {
+        return !blocks[static_cast<size_t>(first(strand).block)].children.empty();
     }
 
     const Graph& graph;
-    std::vector<Pair> steps;
+    size_t width;
+    std::vector<Group> strands;
     std::vector<Inside> blocks;
-    PerNode<std::optional<Pair>> other;  // the step of the other line
-    std::vector<std::pair<Pair, Pair>> journal;
+    std::vector<std::optional<BlockId>> mates, coupled;  // the other line, of earlier rounds and of this one as well
+    PerNode<Strand> strandOf;
+    std::vector<Strand> other;  // what a group is taken together with in this round
+    std::vector<bool> isFirst;  // of these two
+    std::vector<std::pair<Strand, Strand>> journal;
 };
 
 }  // namespace
 
-std::vector<Group> groupsOfLines(const Graph& graph) { return Matching(graph).groups(); }
+std::vector<Group> groupsOfLines(const Graph& graph, size_t lanes) { return Matching(graph, lanes).groups(); }
 
 }  // namespace gen

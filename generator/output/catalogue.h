@@ -29,6 +29,15 @@ struct KernelFamily {
     Layout source, destination;
 };
 
+// A form in which the texts of a family are written beside the scalar one: in registers of several lanes.
+struct LaneForm {
+    std::string name;           // "pairs"
+    int lanes;                  // of a register at most
+    std::string graphTemplate;  // "ComplexPairs"
+    std::string folder;         // "kernels/complex_pairs"
+    std::string title;          // "one complex number to a register"
+};
+
 // A family of graphs, which has one graph for each length. Either the kernels of one or more exported families run the
 // graph, or it is a body: a text that hand-written loops include and run through ports of their own.
 struct GraphFamily {
@@ -42,7 +51,7 @@ struct GraphFamily {
     Port (*input)(int length, int index);   // of each input of the graph
     Port (*output)(int length, int index);  // of each output
     bool allowsNegation;                    // whether an output may be stored with its sign changed
-    bool hasLanes = false;                  // whether there are texts in registers of several lanes, too
+    std::vector<LaneForm> laneForms{};
 
     std::vector<int> (*lengths)();
     std::string (*recipe)(int length);  // in words
@@ -61,6 +70,8 @@ struct GraphEntry {
     std::string file() const;
     std::string title() const;
     std::string recipe() const { return family->recipe(length); }
+    // Those of the family that this length has.
+    std::vector<LaneForm> laneForms() const;
     std::unique_ptr<Graph> build() const { return family->build(length); }
 };
 

@@ -6,27 +6,21 @@
 
 #include "graph/lanes.h"
 #include "output/catalogue.h"
+#include "output/tuning.h"
 
 namespace gen {
 
-// The forms in which a graph is written beside the scalar one: a complex number to a register, or two of them.
-enum class Form { Pairs, Lines };
-
-struct FormOfText {
-    std::string name;           // "pairs"
-    std::string graphTemplate;  // "ComplexPairs"
-    std::string folder;         // "kernels/complex_pairs"
-    std::string title;          // "one complex number to a register"
+// A graph in one of the forms of its family: the file, and the steps.
+struct LaneText {
+    const LaneForm* form;
+    std::string file;
+    LaneProgram program;
 };
-const FormOfText& formOfText(Form form);
 
-// The forms that a length has. Prime lengths have no lines: few of their steps would share registers, and the shuffles
-// would be three times as many.
-std::vector<Form> formsOf(int length);
+// Those of a graph. A form with more lanes is there where it takes at most four fifths of the steps: with fewer saved,
+// it is the slower one.
+std::vector<LaneText> laneTexts(const GraphEntry& entry, const Graph& graph, const Tuning& tuning = {});
 
-std::string laneFile(const GraphEntry& entry, Form form);
-// The steps of a graph in this form, and the text of them.
-LaneProgram laneProgram(Form form, const Graph& graph);
-std::string laneText(const GraphEntry& entry, Form form, const Graph& graph);
+std::string emitLanes(const GraphEntry& entry, const Graph& graph, const LaneText& text);
 
 }  // namespace gen

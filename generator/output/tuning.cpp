@@ -6,35 +6,52 @@
 #include <stdexcept>
 
 namespace gen {
+namespace {
 
-Tuning::Tuning(std::istream& text, const std::string& name) {
+bool isText(const std::string& folder, int length) {
+    return std::ranges::any_of(allGraphs(), [&](const GraphEntry& entry) {
+        const auto isForm = [&](const LaneForm& form) { return form.folder == "kernels/" + folder; };
+        return entry.length == length &&
+               (entry.family->word == folder || std::ranges::any_of(entry.family->laneForms, isForm));
+    });
+}
+
+}  // namespace
+
+void Tuning::add(std::istream& rows, const std::string& name) {
     int number = 0;
-    for (std::string line; std::getline(text, line);) {
+    for (std::string line; std::getline(rows, line);) {
         ++number;
         const auto fail = [&](const std::string& fault) {
             throw std::runtime_error(name + ":" + std::to_string(number) + ": " + fault);
         };
         std::istringstream columns(line.substr(0, line.find('#')));
-        std::string family, length, choice, gain, more;
-        if (!(columns >> family)) continue;
-        if (!(columns >> length >> choice >> gain) || columns >> more) fail("a row is family, length, choice and gain");
-        const std::string graph = family + " " + length;
-        if (std::ranges::find(allGraphs(), graph, &GraphEntry::name) == allGraphs().end()) fail("no graph " + graph);
-        if (choice != "bisection" && choice != "speed") fail("no choice " + choice);
+        std::string folder, order, gain, more;
+        int length = 0;
+        if (!(columns >> folder)) continue;
+        if (!(columns >> length >> order >> gain) || columns >> more) fail("a row is folder, length, order and gain");
+        const std::string text = folder + " " + std::to_string(length);
+        if (!isText(folder, length)) fail("no text " + text);
+        if (order != "bisection" && order != "blocks") fail("no order " + order);
         std::istringstream figure(gain);
         double percent = 0;
         if (!(figure >> percent) || !figure.eof()) fail("the gain is no number: " + gain);
-        if (!gains.insert({{graph, choice}, percent}).second) fail("a second row for " + graph + ", " + choice);
+        const Row row{order == "bisection" ? Order::Bisection : Order::Blocks, percent};
+        if (!rowByText.insert({text, row}).second) fail("a second row for " + text);
     }
 }
 
-Schedule Tuning::schedule(const GraphEntry& entry, const Graph& graph) const {
-    return gains.contains({entry.name(), "bisection"}) ? byBisection(graph) : blockByBlock(graph);
+Order Tuning::orderOf(const std::string& text, Order usual) const {
+    const auto row = rowByText.find(text);
+    return row == rowByText.end() ? usual : row->second.order;
 }
 
-Tuning readTuning(const std::string& path) {
-    std::ifstream file(path);
-    return file ? Tuning(file, path) : Tuning();
+Tuning readTuning() {
+    Tuning tuning;
+    for (const std::string path : {"targets/x87/tuning.txt", "targets/x86_64/tuning.txt"}) {
+        if (std::ifstream file(path); file) tuning.add(file, path);
+    }
+    return tuning;
 }
 
 }  // namespace gen

@@ -1,4 +1,4 @@
-// The choices between texts of one graph that no rule makes: a machine's, as measured and written down in a file.
+// The choices between texts of one graph that no rule makes: a machine's, as measured and written down in files.
 #pragma once
 
 #include <iosfwd>
@@ -11,27 +11,31 @@
 
 namespace gen {
 
+// A text has a folder and a length: "real_forward 20" has one number to a register, "real_forward_lines 20" four.
 class Tuning {
 public:
-    // No choices: every graph is ordered block by block.
+    // No choices: every text has the order that is usual for its form.
     Tuning() = default;
 
-    // The rows of a file: family, length, choice, gain. Text from a # on is a comment. `name` is that of the file, for
-    // errors: a row that names no graph or an unknown choice, that has no figure, that is there twice, or that does not
-    // have its four columns. The choice `speed` is about flags of the compiler and changes no text.
-    Tuning(std::istream& text, const std::string& name);
+    // Adds the rows of a file: folder, length, order, gain. Text from a # on is a comment. `name` is that of the file,
+    // for errors: a row that names no text or an unknown order, that has no figure, whose text has a row already, or
+    // that does not have its four columns.
+    void add(std::istream& rows, const std::string& name);
 
-    // The order of the steps that is chosen for a graph.
-    Schedule schedule(const GraphEntry& entry, const Graph& graph) const;
+    // The order of the steps that is chosen for a text.
+    Order orderOf(const std::string& text, Order usual) const;
 
-    // (name of the graph, choice) -> gain in percent.
-    const std::map<std::pair<std::string, std::string>, double>& rows() const { return gains; }
+    struct Row {
+        Order order;
+        double gain;  // in percent
+    };
+    const std::map<std::string, Row>& rows() const { return rowByText; }
 
 private:
-    std::map<std::pair<std::string, std::string>, double> gains;
+    std::map<std::string, Row> rowByText;
 };
 
-// The choices in this file; none if there is no such file.
-Tuning readTuning(const std::string& path);
+// The choices in the files of all targets; none where there is no such file.
+Tuning readTuning();
 
 }  // namespace gen

@@ -102,6 +102,9 @@ Signal complexBlock(const Signal& x, int a) {
     throw std::logic_error("complex " + std::to_string(length) + ": no construction");
 }
 
-Signal inverseComplexBlock(const Signal& x, int a) { return exchanged(complexBlock(exchanged(x), a)); }
+Signal inverseComplexBlock(const Signal& x, int a) {
+    const ExchangedPairs pairs(*x[0].re.graph);
+    return exchanged(complexBlock(exchanged(x), a));
+}
 
 }  // namespace gen

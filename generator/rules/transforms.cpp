@@ -69,7 +69,8 @@ std::unique_ptr<Graph> realInverseTransform(int length) {
         if (bins.isReal(k)) {
             bins.setReal(k, graph->load(2 * k));
         } else {
-            bins.set(k, {two * graph->load(2 * k), two * graph->load(2 * k + 1)});
+            const Value re = graph->load(2 * k);
+            bins.set(k, two * ComplexValue{re, graph->load(2 * k + 1)});
         }
     }
     storeReals(*graph, spectrumBlock(bins, 1));

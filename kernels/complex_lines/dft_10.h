@@ -29,34 +29,35 @@ struct ComplexLines<10> {
         // complex block of 2
         const Q t0 = x0_2 + x5_7;
         const Q t1 = x0_2 - x5_7;
-        const Q x4_6 = io.pairs(4, 6);
-        const Q x9_1 = io.pairs(9, 1);
-        // complex block of 2
-        const Q t2 = x4_6 + x9_1;
-        const Q t3 = x4_6 - x9_1;
         const P x8 = io.pair(8);
         const P x3 = io.pair(3);
         // complex block of 2
-        const P t4 = x8 + x3;
-        const P t5 = x8 - x3;
-        const Q t6 = shuffled<2, 3, 6, 7>(t0, t1);
-        const Q t7 = joined(t4, t5);
+        const P t2 = x8 + x3;
+        const P t3 = x8 - x3;
+        const Q t4 = shuffled<2, 3, 6, 7>(t0, t1);
+        const Q t5 = joined(t2, t3);
         // complex block of 5, multiplier 2
-        const Q t8 = t6 + t7;
-        const Q t9 = t6 - t7;
-        const Q t10 = shuffled<2, 3, 6, 7>(t2, t3);
-        const Q t11 = shuffled<0, 1, 4, 5>(t2, t3);
+        const Q t6 = t4 + t5;
+        const Q t7 = t4 - t5;
+        const Q x4_6 = io.pairs(4, 6);
+        const Q x9_1 = io.pairs(9, 1);
+        // complex block of 2
+        const Q t8 = x4_6 + x9_1;
+        const Q t9 = x4_6 - x9_1;
+        const Q t10 = shuffled<2, 3, 6, 7>(t8, t9);
+        const Q t11 = shuffled<0, 1, 4, 5>(t8, t9);
+        // complex block of 5, multiplier 2
         const Q t12 = t10 + t11;
         const Q t13 = t10 - t11;
-        const Q t14 = t8 + t12;
+        const Q t14 = t6 + t12;
         const Q t15 = shuffled<0, 1, 4, 5>(t0, t1);
         const Q t16 = t14 + t15;
         io.pairs(0, 5, t16);
-        const Q t17 = c[0] * t8;
+        const Q t17 = c[0] * t6;
         const Q t18 = c[1] * t12;
         const Q t19 = t17 - t18;
         const Q t20 = t19 + t15;
-        const Q t21 = c[2] * t9;
+        const Q t21 = c[2] * t7;
         const Q t22 = c[3] * t13;
         const Q t23 = t21 - t22;
         const Q t24 = shuffled<1, 0, 3, 2>(t23);
@@ -65,11 +66,11 @@ struct ComplexLines<10> {
         io.pairs(6, 1, t26);
         const Q t27 = t20 - t25;
         io.pairs(4, 9, t27);
-        const Q t28 = c[1] * t8;
+        const Q t28 = c[1] * t6;
         const Q t29 = t15 - t28;
         const Q t30 = c[0] * t12;
         const Q t31 = t29 + t30;
-        const Q t32 = c[3] * t9;
+        const Q t32 = c[3] * t7;
         const Q t33 = c[2] * t13;
         const Q t34 = t32 + t33;
         const Q t35 = shuffled<1, 0, 3, 2>(t34);

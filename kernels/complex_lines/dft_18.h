@@ -33,120 +33,126 @@ struct ComplexLines<18> {
         // complex block of 2
         const Q t0 = x0_2 + x9_11;
         const Q t1 = x0_2 - x9_11;
-        const Q x4_6 = io.pairs(4, 6);
-        const Q x13_15 = io.pairs(13, 15);
-        // complex block of 2
-        const Q t2 = x4_6 + x13_15;
-        const Q t3 = x4_6 - x13_15;
         const Q x8_10 = io.pairs(8, 10);
         const Q x17_1 = io.pairs(17, 1);
         // complex block of 2
-        const Q t4 = x8_10 + x17_1;
-        const Q t5 = x8_10 - x17_1;
+        const Q t2 = x8_10 + x17_1;
+        const Q t3 = x8_10 - x17_1;
         const Q x12_14 = io.pairs(12, 14);
         const Q x3_5 = io.pairs(3, 5);
         // complex block of 2
-        const Q t6 = x12_14 + x3_5;
-        const Q t7 = x12_14 - x3_5;
+        const Q t4 = x12_14 + x3_5;
+        const Q t5 = x12_14 - x3_5;
         const P x16 = io.pair(16);
         const P x7 = io.pair(7);
         // complex block of 2
-        const P t8 = x16 + x7;
-        const P t9 = x16 - x7;
-        const Q t10 = shuffled<2, 3, 6, 7>(t2, t3);
-        const Q t11 = shuffled<0, 1, 4, 5>(t6, t7);
+        const P t6 = x16 + x7;
+        const P t7 = x16 - x7;
+        const Q t8 = shuffled<0, 1, 4, 5>(t2, t3);
+        const Q t9 = shuffled<2, 3, 6, 7>(t4, t5);
         // complex block of 3, multiplier 2
-        const Q t12 = t10 + t11;
-        const Q t13 = t10 - t11;
-        const Q t14 = shuffled<0, 1, 4, 5>(t0, t1);
-        const Q t15 = t12 + t14;
-        const Q t16 = c[0] * t12;
-        const Q t17 = t14 - t16;
-        const Q t18 = Q(-c[1], c[1], -c[1], c[1]) * t13;
-        const Q t19 = shuffled<1, 0, 3, 2>(t18);
-        const Q t20 = t17 + t19;
-        const Q t21 = t17 - t19;
-        const Q t22 = shuffled<0, 1, 4, 5>(t4, t5);
-        const Q t23 = shuffled<2, 3, 6, 7>(t6, t7);
+        const Q t10 = t8 + t9;
+        const Q t11 = t8 - t9;
+        const Q t12 = shuffled<2, 3, 6, 7>(t2, t3);
+        const Q t13 = joined(t6, t7);
         // complex block of 3, multiplier 2
-        const Q t24 = t22 + t23;
-        const Q t25 = t22 - t23;
-        const Q t26 = shuffled<2, 3, 6, 7>(t0, t1);
-        const Q t27 = t24 + t26;
-        const Q t28 = c[0] * t24;
-        const Q t29 = t26 - t28;
-        const Q t30 = Q(-c[1], c[1], -c[1], c[1]) * t25;
-        const Q t31 = shuffled<1, 0, 3, 2>(t30);
-        const Q t32 = t29 + t31;
-        const Q t33 = t29 - t31;
-        const Q t34 = shuffled<2, 3, 6, 7>(t4, t5);
-        const Q t35 = joined(t8, t9);
+        const Q t14 = t12 + t13;
+        const Q t15 = t12 - t13;
+        const Q x4_6 = io.pairs(4, 6);
+        const Q x13_15 = io.pairs(13, 15);
+        // complex block of 2
+        const Q t16 = x4_6 + x13_15;
+        const Q t17 = x4_6 - x13_15;
+        const Q t18 = shuffled<2, 3, 6, 7>(t16, t17);
+        const Q t19 = shuffled<0, 1, 4, 5>(t4, t5);
         // complex block of 3, multiplier 2
-        const Q t36 = t34 + t35;
-        const Q t37 = t34 - t35;
-        const Q t38 = shuffled<0, 1, 4, 5>(t2, t3);
-        const Q t39 = t36 + t38;
-        const Q t40 = c[0] * t36;
-        const Q t41 = t38 - t40;
-        const Q t42 = Q(-c[1], c[1], -c[1], c[1]) * t37;
-        const Q t43 = shuffled<1, 0, 3, 2>(t42);
-        const Q t44 = t41 + t43;
-        const Q t45 = t41 - t43;
+        const Q t20 = t18 + t19;
+        const Q t21 = t18 - t19;
+        const Q t22 = shuffled<2, 3, 6, 7>(t0, t1);
         // complex block of 3, multiplier 2
-        const Q t46 = t27 + t39;
-        const Q t47 = t27 - t39;
-        const Q t48 = t46 + t15;
-        io.pairs(0, 9, t48);
-        const Q t49 = c[0] * t46;
-        const Q t50 = t15 - t49;
-        const Q t51 = Q(-c[1], c[1], -c[1], c[1]) * t47;
+        const Q t23 = t10 + t22;
+        const Q t24 = c[0] * t10;
+        const Q t25 = t22 - t24;
+        const Q t26 = Q(-c[1], c[1], -c[1], c[1]) * t11;
+        const Q t27 = shuffled<1, 0, 3, 2>(t26);
+        const Q t28 = t25 + t27;
+        const Q t29 = t25 - t27;
+        const Q t30 = shuffled<0, 1, 4, 5>(t16, t17);
+        // complex block of 3, multiplier 2
+        const Q t31 = t14 + t30;
+        const Q t32 = c[0] * t14;
+        const Q t33 = t30 - t32;
+        const Q t34 = Q(-c[1], c[1], -c[1], c[1]) * t15;
+        const Q t35 = shuffled<1, 0, 3, 2>(t34);
+        const Q t36 = t33 + t35;
+        const Q t37 = t33 - t35;
+        const Q t38 = shuffled<0, 1, 4, 5>(t0, t1);
+        // complex block of 3, multiplier 2
+        const Q t39 = t20 + t38;
+        // complex block of 3, multiplier 2
+        const Q t40 = t23 + t31;
+        const Q t41 = t23 - t31;
+        const Q t42 = t40 + t39;
+        io.pairs(0, 9, t42);
+        const Q t43 = c[0] * t40;
+        const Q t44 = t39 - t43;
+        const Q t45 = Q(-c[1], c[1], -c[1], c[1]) * t41;
+        const Q t46 = shuffled<1, 0, 3, 2>(t45);
+        const Q t47 = t44 + t46;
+        io.pairs(12, 3, t47);
+        const Q t48 = t44 - t46;
+        io.pairs(6, 15, t48);
+        // complex block of 3, multiplier 2
+        const Q t49 = c[0] * t20;
+        const Q t50 = t38 - t49;
+        const Q t51 = Q(-c[1], c[1], -c[1], c[1]) * t21;
         const Q t52 = shuffled<1, 0, 3, 2>(t51);
         const Q t53 = t50 + t52;
-        io.pairs(12, 3, t53);
         const Q t54 = t50 - t52;
-        io.pairs(6, 15, t54);
         // complex block of 9, multiplier 2
-        const Q t55 = c[4] * t33;
-        const Q t56 = shuffled<1, 0, 3, 2>(t33);
+        const Q t55 = c[4] * t29;
+        const Q t56 = shuffled<1, 0, 3, 2>(t29);
         const Q t57 = Q(c[5], -c[5], c[5], -c[5]) * t56;
         const Q t58 = t55 + t57;
-        const Q t59 = Q(-c[2], c[2], -c[2], c[2]) * t45;
-        const Q t60 = shuffled<1, 0, 3, 2>(t45);
+        const Q t59 = Q(-c[2], c[2], -c[2], c[2]) * t37;
+        const Q t60 = shuffled<1, 0, 3, 2>(t37);
         const Q t61 = c[3] * t60;
         const Q t62 = t59 + t61;
         const Q t63 = flipped<0, 1, 0, 1>(t62);
         // complex block of 3, multiplier 2
         const Q t64 = t58 + t63;
         const Q t65 = t58 - t63;
-        const Q t66 = t64 + t21;
-        io.pairs(2, 11, t66);
-        const Q t67 = c[0] * t64;
-        const Q t68 = t21 - t67;
-        const Q t69 = Q(-c[1], c[1], -c[1], c[1]) * t65;
-        const Q t70 = shuffled<1, 0, 3, 2>(t69);
-        const Q t71 = t68 + t70;
-        io.pairs(14, 5, t71);
-        const Q t72 = t68 - t70;
-        io.pairs(8, 17, t72);
         // complex block of 9, multiplier 2
-        const Q t73 = Q(-c[2], c[2], -c[2], c[2]) * t32;
-        const Q t74 = shuffled<1, 0, 3, 2>(t32);
-        const Q t75 = c[3] * t74;
-        const Q t76 = t73 + t75;
-        const Q t77 = c[6] * t44;
-        const Q t78 = shuffled<1, 0, 3, 2>(t44);
-        const Q t79 = Q(-c[7], c[7], -c[7], c[7]) * t78;
-        const Q t80 = t77 + t79;
-        const Q t81 = flipped<0, 1, 0, 1>(t76);
+        const Q t66 = Q(-c[2], c[2], -c[2], c[2]) * t28;
+        const Q t67 = shuffled<1, 0, 3, 2>(t28);
+        const Q t68 = c[3] * t67;
+        const Q t69 = t66 + t68;
+        const Q t70 = c[6] * t36;
+        const Q t71 = shuffled<1, 0, 3, 2>(t36);
+        const Q t72 = Q(-c[7], c[7], -c[7], c[7]) * t71;
+        const Q t73 = t70 + t72;
+        const Q t74 = flipped<0, 1, 0, 1>(t69);
         // complex block of 3, multiplier 2
-        const Q t82 = t80 + t81;
-        const Q t83 = flipped<1, 0, 1, 0>(t80);
-        const Q t84 = t76 + t83;
-        const Q t85 = t82 + t20;
+        const Q t75 = t73 + t74;
+        const Q t76 = flipped<1, 0, 1, 0>(t73);
+        const Q t77 = t69 + t76;
+        // complex block of 3, multiplier 2
+        const Q t78 = t64 + t54;
+        io.pairs(2, 11, t78);
+        const Q t79 = c[0] * t64;
+        const Q t80 = t54 - t79;
+        const Q t81 = Q(-c[1], c[1], -c[1], c[1]) * t65;
+        const Q t82 = shuffled<1, 0, 3, 2>(t81);
+        const Q t83 = t80 + t82;
+        io.pairs(14, 5, t83);
+        const Q t84 = t80 - t82;
+        io.pairs(8, 17, t84);
+        // complex block of 3, multiplier 2
+        const Q t85 = t75 + t53;
         io.pairs(4, 13, t85);
-        const Q t86 = c[0] * t82;
-        const Q t87 = t20 - t86;
-        const Q t88 = c[1] * t84;
+        const Q t86 = c[0] * t75;
+        const Q t87 = t53 - t86;
+        const Q t88 = c[1] * t77;
         const Q t89 = shuffled<1, 0, 3, 2>(t88);
         const Q t90 = t87 - t89;
         io.pairs(16, 7, t90);

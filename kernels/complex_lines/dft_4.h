@@ -22,8 +22,8 @@ struct ComplexLines<4> {
         const Q t0 = x0_1 + x2_3;
         const Q t1 = x0_1 - x2_3;
         const Q t2 = shuffled<0, 1, 4, 5>(t0, t1);
-        const Q t3 = shuffled<2, 3, 6, 7>(t0, t1);
-        const Q t4 = shuffled<0, 1, 3, 2>(t3);
+        const Q t3 = shuffled<1, 0, 3, 2>(t1);
+        const Q t4 = shuffled<2, 3, 6, 7>(t0, t3);
         const Q t5 = flipped<0, 0, 0, 1>(t4);
         // complex block of 2
         const Q t6 = t2 + t5;

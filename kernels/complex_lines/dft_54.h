@@ -29,14 +29,14 @@ struct ComplexLines<54> {
         0.8354878114129364,  // c[13]: -cos 2 pi 16/27
         0.8936326403234123,  // c[14]: cos 2 pi 2/27
         0.44879918020046217,  // c[15]: sin 2 pi 2/27
-        0.6862416378687336,  // c[16]: -cos 2 pi 10/27
-        0.7273736415730487,  // c[17]: sin 2 pi 10/27
-        0.9983081582712682,  // c[18]: -sin 2 pi 20/27
-        0.05814482891047583,  // c[19]: -cos 2 pi 20/27
-        0.11609291412523023,  // c[20]: -sin 2 pi 14/27
-        0.993238357741943,  // c[21]: -cos 2 pi 14/27
-        0.9730448705798238,  // c[22]: cos 2 pi 1/27
-        0.23061587074244017,  // c[23]: sin 2 pi 1/27
+        0.11609291412523023,  // c[16]: -sin 2 pi 14/27
+        0.993238357741943,  // c[17]: -cos 2 pi 14/27
+        0.9730448705798238,  // c[18]: cos 2 pi 1/27
+        0.23061587074244017,  // c[19]: sin 2 pi 1/27
+        0.6862416378687336,  // c[20]: -cos 2 pi 10/27
+        0.7273736415730487,  // c[21]: sin 2 pi 10/27
+        0.9983081582712682,  // c[22]: -sin 2 pi 20/27
+        0.05814482891047583,  // c[23]: -cos 2 pi 20/27
         0.39607976603915684,  // c[24]: cos 2 pi 5/27
         0.918216106880274,  // c[25]: sin 2 pi 5/27
     };
@@ -59,535 +59,590 @@ struct ComplexLines<54> {
         const Q t6 = shuffled<1, 0, 3, 2>(t5);
         const Q t7 = t4 + t6;
         const Q t8 = t4 - t6;
-        const Q x24_51 = io.pairs(24, 51);
-        const Q x42_15 = io.pairs(42, 15);
-        // complex block of 3, multiplier 2
-        const Q t9 = x24_51 + x42_15;
-        const Q t10 = x24_51 - x42_15;
-        const Q x6_33 = io.pairs(6, 33);
-        const Q t11 = t9 + x6_33;
-        const Q t12 = c[0] * t9;
-        const Q t13 = x6_33 - t12;
-        const Q t14 = Q(-c[1], c[1], -c[1], c[1]) * t10;
-        const Q t15 = shuffled<1, 0, 3, 2>(t14);
-        const Q t16 = t13 + t15;
-        const Q t17 = t13 - t15;
-        const Q x30_3 = io.pairs(30, 3);
-        const Q x48_21 = io.pairs(48, 21);
-        // complex block of 3, multiplier 2
-        const Q t18 = x30_3 + x48_21;
-        const Q t19 = x30_3 - x48_21;
-        const Q x12_39 = io.pairs(12, 39);
-        const Q t20 = t18 + x12_39;
-        const Q t21 = c[0] * t18;
-        const Q t22 = x12_39 - t21;
-        const Q t23 = Q(-c[1], c[1], -c[1], c[1]) * t19;
-        const Q t24 = shuffled<1, 0, 3, 2>(t23);
-        const Q t25 = t22 + t24;
-        const Q t26 = t22 - t24;
-        // complex block of 3, multiplier 2
-        const Q t27 = t11 + t20;
-        const Q t28 = t11 - t20;
-        const Q t29 = t27 + t2;
-        const Q t30 = c[0] * t27;
-        const Q t31 = t2 - t30;
-        const Q t32 = Q(-c[1], c[1], -c[1], c[1]) * t28;
-        const Q t33 = shuffled<1, 0, 3, 2>(t32);
-        const Q t34 = t31 + t33;
-        const Q t35 = t31 - t33;
-        // complex block of 9, multiplier 2
-        const Q t36 = c[4] * t17;
-        const Q t37 = shuffled<1, 0, 3, 2>(t17);
-        const Q t38 = Q(c[5], -c[5], c[5], -c[5]) * t37;
-        const Q t39 = t36 + t38;
-        const Q t40 = Q(-c[2], c[2], -c[2], c[2]) * t26;
-        const Q t41 = shuffled<1, 0, 3, 2>(t26);
-        const Q t42 = c[3] * t41;
-        const Q t43 = t40 + t42;
-        const Q t44 = flipped<0, 1, 0, 1>(t43);
-        // complex block of 3, multiplier 2
-        const Q t45 = t39 + t44;
-        const Q t46 = t39 - t44;
-        const Q t47 = t45 + t8;
-        const Q t48 = c[0] * t45;
-        const Q t49 = t8 - t48;
-        const Q t50 = Q(-c[1], c[1], -c[1], c[1]) * t46;
-        const Q t51 = shuffled<1, 0, 3, 2>(t50);
-        const Q t52 = t49 + t51;
-        const Q t53 = t49 - t51;
-        // complex block of 9, multiplier 2
-        const Q t54 = Q(-c[2], c[2], -c[2], c[2]) * t16;
-        const Q t55 = shuffled<1, 0, 3, 2>(t16);
-        const Q t56 = c[3] * t55;
-        const Q t57 = t54 + t56;
-        const Q t58 = c[6] * t25;
-        const Q t59 = shuffled<1, 0, 3, 2>(t25);
-        const Q t60 = Q(-c[7], c[7], -c[7], c[7]) * t59;
-        const Q t61 = t58 + t60;
-        const Q t62 = flipped<0, 1, 0, 1>(t57);
-        // complex block of 3, multiplier 2
-        const Q t63 = t61 + t62;
-        const Q t64 = flipped<1, 0, 1, 0>(t61);
-        const Q t65 = t57 + t64;
-        const Q t66 = t63 + t7;
-        const Q t67 = c[0] * t63;
-        const Q t68 = t7 - t67;
-        const Q t69 = c[1] * t65;
-        const Q t70 = shuffled<1, 0, 3, 2>(t69);
-        const Q t71 = t68 - t70;
-        const Q t72 = t68 + t70;
-        const Q x20_47 = io.pairs(20, 47);
-        const Q x38_11 = io.pairs(38, 11);
-        // complex block of 3, multiplier 2
-        const Q t73 = x20_47 + x38_11;
-        const Q t74 = x20_47 - x38_11;
-        const Q x2_29 = io.pairs(2, 29);
-        const Q t75 = t73 + x2_29;
-        const Q t76 = c[0] * t73;
-        const Q t77 = x2_29 - t76;
-        const Q t78 = Q(-c[1], c[1], -c[1], c[1]) * t74;
-        const Q t79 = shuffled<1, 0, 3, 2>(t78);
-        const Q t80 = t77 + t79;
-        const Q t81 = t77 - t79;
-        const Q x26_53 = io.pairs(26, 53);
-        const Q x44_17 = io.pairs(44, 17);
-        // complex block of 3, multiplier 2
-        const Q t82 = x26_53 + x44_17;
-        const Q t83 = x26_53 - x44_17;
-        const Q x8_35 = io.pairs(8, 35);
-        const Q t84 = t82 + x8_35;
-        const Q t85 = c[0] * t82;
-        const Q t86 = x8_35 - t85;
-        const Q t87 = Q(-c[1], c[1], -c[1], c[1]) * t83;
-        const Q t88 = shuffled<1, 0, 3, 2>(t87);
-        const Q t89 = t86 + t88;
-        const Q t90 = t86 - t88;
-        const Q x32_5 = io.pairs(32, 5);
-        const Q x50_23 = io.pairs(50, 23);
-        // complex block of 3, multiplier 2
-        const Q t91 = x32_5 + x50_23;
-        const Q t92 = x32_5 - x50_23;
-        const Q x14_41 = io.pairs(14, 41);
-        const Q t93 = t91 + x14_41;
-        const Q t94 = c[0] * t91;
-        const Q t95 = x14_41 - t94;
-        const Q t96 = Q(-c[1], c[1], -c[1], c[1]) * t92;
-        const Q t97 = shuffled<1, 0, 3, 2>(t96);
-        const Q t98 = t95 + t97;
-        const Q t99 = t95 - t97;
-        // complex block of 3, multiplier 2
-        const Q t100 = t84 + t93;
-        const Q t101 = t84 - t93;
-        const Q t102 = t100 + t75;
-        const Q t103 = c[0] * t100;
-        const Q t104 = t75 - t103;
-        const Q t105 = Q(-c[1], c[1], -c[1], c[1]) * t101;
-        const Q t106 = shuffled<1, 0, 3, 2>(t105);
-        const Q t107 = t104 + t106;
-        const Q t108 = t104 - t106;
-        // complex block of 9, multiplier 2
-        const Q t109 = c[4] * t90;
-        const Q t110 = shuffled<1, 0, 3, 2>(t90);
-        const Q t111 = Q(c[5], -c[5], c[5], -c[5]) * t110;
-        const Q t112 = t109 + t111;
-        const Q t113 = Q(-c[2], c[2], -c[2], c[2]) * t99;
-        const Q t114 = shuffled<1, 0, 3, 2>(t99);
-        const Q t115 = c[3] * t114;
-        const Q t116 = t113 + t115;
-        const Q t117 = flipped<0, 1, 0, 1>(t116);
-        // complex block of 3, multiplier 2
-        const Q t118 = t112 + t117;
-        const Q t119 = t112 - t117;
-        const Q t120 = t118 + t81;
-        const Q t121 = c[0] * t118;
-        const Q t122 = t81 - t121;
-        const Q t123 = Q(-c[1], c[1], -c[1], c[1]) * t119;
-        const Q t124 = shuffled<1, 0, 3, 2>(t123);
-        const Q t125 = t122 + t124;
-        const Q t126 = t122 - t124;
-        // complex block of 9, multiplier 2
-        const Q t127 = Q(-c[2], c[2], -c[2], c[2]) * t89;
-        const Q t128 = shuffled<1, 0, 3, 2>(t89);
-        const Q t129 = c[3] * t128;
-        const Q t130 = t127 + t129;
-        const Q t131 = c[6] * t98;
-        const Q t132 = shuffled<1, 0, 3, 2>(t98);
-        const Q t133 = Q(-c[7], c[7], -c[7], c[7]) * t132;
-        const Q t134 = t131 + t133;
-        const Q t135 = flipped<0, 1, 0, 1>(t130);
-        // complex block of 3, multiplier 2
-        const Q t136 = t134 + t135;
-        const Q t137 = flipped<1, 0, 1, 0>(t134);
-        const Q t138 = t130 + t137;
-        const Q t139 = t136 + t80;
-        const Q t140 = c[0] * t136;
-        const Q t141 = t80 - t140;
-        const Q t142 = c[1] * t138;
-        const Q t143 = shuffled<1, 0, 3, 2>(t142);
-        const Q t144 = t141 - t143;
-        const Q t145 = t141 + t143;
-        const Q x22_49 = io.pairs(22, 49);
-        const Q x40_13 = io.pairs(40, 13);
-        // complex block of 3, multiplier 2
-        const Q t146 = x22_49 + x40_13;
-        const Q t147 = x22_49 - x40_13;
-        const Q x4_31 = io.pairs(4, 31);
-        const Q t148 = t146 + x4_31;
-        const Q t149 = c[0] * t146;
-        const Q t150 = x4_31 - t149;
-        const Q t151 = Q(-c[1], c[1], -c[1], c[1]) * t147;
-        const Q t152 = shuffled<1, 0, 3, 2>(t151);
-        const Q t153 = t150 + t152;
-        const Q t154 = t150 - t152;
         const Q x28_1 = io.pairs(28, 1);
         const Q x46_19 = io.pairs(46, 19);
         // complex block of 3, multiplier 2
-        const Q t155 = x28_1 + x46_19;
-        const Q t156 = x28_1 - x46_19;
-        const Q x10_37 = io.pairs(10, 37);
-        const Q t157 = t155 + x10_37;
-        const Q t158 = c[0] * t155;
-        const Q t159 = x10_37 - t158;
-        const Q t160 = Q(-c[1], c[1], -c[1], c[1]) * t156;
-        const Q t161 = shuffled<1, 0, 3, 2>(t160);
-        const Q t162 = t159 + t161;
-        const Q t163 = t159 - t161;
+        const Q t9 = x28_1 + x46_19;
+        const Q t10 = x28_1 - x46_19;
         const Q x34_7 = io.pairs(34, 7);
         const Q x52_25 = io.pairs(52, 25);
         // complex block of 3, multiplier 2
-        const Q t164 = x34_7 + x52_25;
-        const Q t165 = x34_7 - x52_25;
+        const Q t11 = x34_7 + x52_25;
+        const Q t12 = x34_7 - x52_25;
+        const Q x10_37 = io.pairs(10, 37);
+        // complex block of 3, multiplier 2
+        const Q t13 = t9 + x10_37;
         const Q x16_43 = io.pairs(16, 43);
-        const Q t166 = t164 + x16_43;
-        const Q t167 = c[0] * t164;
-        const Q t168 = x16_43 - t167;
-        const Q t169 = Q(-c[1], c[1], -c[1], c[1]) * t165;
-        const Q t170 = shuffled<1, 0, 3, 2>(t169);
-        const Q t171 = t168 + t170;
-        const Q t172 = t168 - t170;
         // complex block of 3, multiplier 2
-        const Q t173 = t157 + t166;
-        const Q t174 = t157 - t166;
-        const Q t175 = t173 + t148;
-        const Q t176 = c[0] * t173;
-        const Q t177 = t148 - t176;
-        const Q t178 = Q(-c[1], c[1], -c[1], c[1]) * t174;
-        const Q t179 = shuffled<1, 0, 3, 2>(t178);
-        const Q t180 = t177 + t179;
-        const Q t181 = t177 - t179;
+        const Q t14 = t11 + x16_43;
+        // complex block of 3, multiplier 2
+        const Q t15 = t13 + t14;
+        // complex block of 3, multiplier 2
+        const Q t16 = c[0] * t9;
+        const Q t17 = x10_37 - t16;
+        const Q t18 = Q(-c[1], c[1], -c[1], c[1]) * t10;
+        const Q t19 = shuffled<1, 0, 3, 2>(t18);
+        const Q t20 = t17 + t19;
+        const Q t21 = t17 - t19;
+        // complex block of 3, multiplier 2
+        const Q t22 = c[0] * t11;
+        const Q t23 = x16_43 - t22;
+        const Q t24 = Q(-c[1], c[1], -c[1], c[1]) * t12;
+        const Q t25 = shuffled<1, 0, 3, 2>(t24);
+        const Q t26 = t23 + t25;
+        const Q t27 = t23 - t25;
+        const Q x22_49 = io.pairs(22, 49);
+        const Q x40_13 = io.pairs(40, 13);
+        // complex block of 3, multiplier 2
+        const Q t28 = x22_49 + x40_13;
+        const Q t29 = x22_49 - x40_13;
+        const Q x4_31 = io.pairs(4, 31);
+        const Q t30 = t28 + x4_31;
+        const Q t31 = c[0] * t28;
+        const Q t32 = x4_31 - t31;
+        const Q t33 = Q(-c[1], c[1], -c[1], c[1]) * t29;
+        const Q t34 = shuffled<1, 0, 3, 2>(t33);
+        const Q t35 = t32 + t34;
+        const Q t36 = t32 - t34;
+        // complex block of 3, multiplier 2
+        const Q t37 = t13 - t14;
+        const Q t38 = c[0] * t15;
+        const Q t39 = t30 - t38;
+        const Q t40 = Q(-c[1], c[1], -c[1], c[1]) * t37;
+        const Q t41 = shuffled<1, 0, 3, 2>(t40);
+        const Q t42 = t39 + t41;
+        const Q t43 = t39 - t41;
+        const Q t44 = t15 + t30;
         // complex block of 9, multiplier 2
-        const Q t182 = c[4] * t163;
-        const Q t183 = shuffled<1, 0, 3, 2>(t163);
-        const Q t184 = Q(c[5], -c[5], c[5], -c[5]) * t183;
-        const Q t185 = t182 + t184;
-        const Q t186 = Q(-c[2], c[2], -c[2], c[2]) * t172;
-        const Q t187 = shuffled<1, 0, 3, 2>(t172);
-        const Q t188 = c[3] * t187;
-        const Q t189 = t186 + t188;
-        const Q t190 = flipped<0, 1, 0, 1>(t189);
+        const Q t45 = c[4] * t21;
+        const Q t46 = shuffled<1, 0, 3, 2>(t21);
+        const Q t47 = Q(c[5], -c[5], c[5], -c[5]) * t46;
+        const Q t48 = t45 + t47;
+        const Q t49 = Q(-c[2], c[2], -c[2], c[2]) * t27;
+        const Q t50 = shuffled<1, 0, 3, 2>(t27);
+        const Q t51 = c[3] * t50;
+        const Q t52 = t49 + t51;
+        const Q t53 = flipped<0, 1, 0, 1>(t52);
         // complex block of 3, multiplier 2
-        const Q t191 = t185 + t190;
-        const Q t192 = t185 - t190;
-        const Q t193 = t191 + t154;
-        const Q t194 = c[0] * t191;
-        const Q t195 = t154 - t194;
-        const Q t196 = Q(-c[1], c[1], -c[1], c[1]) * t192;
-        const Q t197 = shuffled<1, 0, 3, 2>(t196);
-        const Q t198 = t195 + t197;
-        const Q t199 = t195 - t197;
+        const Q t54 = t48 + t53;
+        const Q t55 = t48 - t53;
         // complex block of 9, multiplier 2
-        const Q t200 = Q(-c[2], c[2], -c[2], c[2]) * t162;
-        const Q t201 = shuffled<1, 0, 3, 2>(t162);
-        const Q t202 = c[3] * t201;
-        const Q t203 = t200 + t202;
-        const Q t204 = c[6] * t171;
-        const Q t205 = shuffled<1, 0, 3, 2>(t171);
-        const Q t206 = Q(-c[7], c[7], -c[7], c[7]) * t205;
-        const Q t207 = t204 + t206;
-        const Q t208 = flipped<0, 1, 0, 1>(t203);
+        const Q t56 = Q(-c[2], c[2], -c[2], c[2]) * t20;
+        const Q t57 = shuffled<1, 0, 3, 2>(t20);
+        const Q t58 = c[3] * t57;
+        const Q t59 = t56 + t58;
+        const Q t60 = c[6] * t26;
+        const Q t61 = shuffled<1, 0, 3, 2>(t26);
+        const Q t62 = Q(-c[7], c[7], -c[7], c[7]) * t61;
+        const Q t63 = t60 + t62;
+        const Q t64 = flipped<0, 1, 0, 1>(t59);
         // complex block of 3, multiplier 2
-        const Q t209 = t207 + t208;
-        const Q t210 = flipped<1, 0, 1, 0>(t207);
-        const Q t211 = t203 + t210;
-        const Q t212 = t209 + t153;
-        const Q t213 = c[0] * t209;
-        const Q t214 = t153 - t213;
-        const Q t215 = c[1] * t211;
+        const Q t65 = t63 + t64;
+        const Q t66 = flipped<1, 0, 1, 0>(t63);
+        const Q t67 = t59 + t66;
+        const Q x20_47 = io.pairs(20, 47);
+        const Q x38_11 = io.pairs(38, 11);
+        // complex block of 3, multiplier 2
+        const Q t68 = x20_47 + x38_11;
+        const Q t69 = x20_47 - x38_11;
+        const Q x2_29 = io.pairs(2, 29);
+        const Q t70 = t68 + x2_29;
+        const Q x32_5 = io.pairs(32, 5);
+        const Q x50_23 = io.pairs(50, 23);
+        // complex block of 3, multiplier 2
+        const Q t71 = x32_5 + x50_23;
+        const Q t72 = x32_5 - x50_23;
+        const Q x26_53 = io.pairs(26, 53);
+        const Q x44_17 = io.pairs(44, 17);
+        // complex block of 3, multiplier 2
+        const Q t73 = x26_53 + x44_17;
+        const Q t74 = x26_53 - x44_17;
+        const Q x8_35 = io.pairs(8, 35);
+        const Q t75 = t73 + x8_35;
+        const Q x14_41 = io.pairs(14, 41);
+        // complex block of 3, multiplier 2
+        const Q t76 = t71 + x14_41;
+        // complex block of 3, multiplier 2
+        const Q t77 = t75 + t76;
+        // complex block of 3, multiplier 2
+        const Q t78 = c[0] * t73;
+        const Q t79 = x8_35 - t78;
+        const Q t80 = Q(-c[1], c[1], -c[1], c[1]) * t74;
+        const Q t81 = shuffled<1, 0, 3, 2>(t80);
+        const Q t82 = t79 + t81;
+        const Q t83 = t79 - t81;
+        // complex block of 3, multiplier 2
+        const Q t84 = c[0] * t71;
+        const Q t85 = x14_41 - t84;
+        const Q t86 = Q(-c[1], c[1], -c[1], c[1]) * t72;
+        const Q t87 = shuffled<1, 0, 3, 2>(t86);
+        const Q t88 = t85 + t87;
+        const Q t89 = t85 - t87;
+        // complex block of 3, multiplier 2
+        const Q t90 = c[0] * t68;
+        const Q t91 = x2_29 - t90;
+        const Q t92 = Q(-c[1], c[1], -c[1], c[1]) * t69;
+        const Q t93 = shuffled<1, 0, 3, 2>(t92);
+        const Q t94 = t91 + t93;
+        const Q t95 = t91 - t93;
+        // complex block of 3, multiplier 2
+        const Q t96 = t75 - t76;
+        const Q t97 = c[0] * t77;
+        const Q t98 = t70 - t97;
+        const Q t99 = Q(-c[1], c[1], -c[1], c[1]) * t96;
+        const Q t100 = shuffled<1, 0, 3, 2>(t99);
+        const Q t101 = t98 + t100;
+        const Q t102 = t98 - t100;
+        const Q t103 = t77 + t70;
+        // complex block of 9, multiplier 2
+        const Q t104 = c[4] * t83;
+        const Q t105 = shuffled<1, 0, 3, 2>(t83);
+        const Q t106 = Q(c[5], -c[5], c[5], -c[5]) * t105;
+        const Q t107 = t104 + t106;
+        const Q t108 = Q(-c[2], c[2], -c[2], c[2]) * t89;
+        const Q t109 = shuffled<1, 0, 3, 2>(t89);
+        const Q t110 = c[3] * t109;
+        const Q t111 = t108 + t110;
+        const Q t112 = flipped<0, 1, 0, 1>(t111);
+        // complex block of 3, multiplier 2
+        const Q t113 = t107 + t112;
+        const Q t114 = t107 - t112;
+        // complex block of 9, multiplier 2
+        const Q t115 = Q(-c[2], c[2], -c[2], c[2]) * t82;
+        const Q t116 = shuffled<1, 0, 3, 2>(t82);
+        const Q t117 = c[3] * t116;
+        const Q t118 = t115 + t117;
+        const Q t119 = c[6] * t88;
+        const Q t120 = shuffled<1, 0, 3, 2>(t88);
+        const Q t121 = Q(-c[7], c[7], -c[7], c[7]) * t120;
+        const Q t122 = t119 + t121;
+        const Q t123 = flipped<0, 1, 0, 1>(t118);
+        // complex block of 3, multiplier 2
+        const Q t124 = t122 + t123;
+        const Q t125 = flipped<1, 0, 1, 0>(t122);
+        const Q t126 = t118 + t125;
+        const Q x30_3 = io.pairs(30, 3);
+        const Q x48_21 = io.pairs(48, 21);
+        // complex block of 3, multiplier 2
+        const Q t127 = x30_3 + x48_21;
+        const Q t128 = x30_3 - x48_21;
+        const Q x12_39 = io.pairs(12, 39);
+        const Q t129 = t127 + x12_39;
+        const Q t130 = c[0] * t127;
+        const Q t131 = x12_39 - t130;
+        const Q x24_51 = io.pairs(24, 51);
+        const Q x42_15 = io.pairs(42, 15);
+        // complex block of 3, multiplier 2
+        const Q t132 = x24_51 + x42_15;
+        const Q t133 = x24_51 - x42_15;
+        const Q x6_33 = io.pairs(6, 33);
+        const Q t134 = t132 + x6_33;
+        const Q t135 = c[0] * t132;
+        const Q t136 = x6_33 - t135;
+        const Q t137 = Q(-c[1], c[1], -c[1], c[1]) * t133;
+        const Q t138 = shuffled<1, 0, 3, 2>(t137);
+        const Q t139 = t136 + t138;
+        // complex block of 9, multiplier 2
+        const Q t140 = Q(-c[2], c[2], -c[2], c[2]) * t139;
+        const Q t141 = shuffled<1, 0, 3, 2>(t139);
+        const Q t142 = c[3] * t141;
+        const Q t143 = t140 + t142;
+        // complex block of 3, multiplier 2
+        const Q t144 = t136 - t138;
+        // complex block of 9, multiplier 2
+        const Q t145 = c[4] * t144;
+        const Q t146 = shuffled<1, 0, 3, 2>(t144);
+        const Q t147 = Q(c[5], -c[5], c[5], -c[5]) * t146;
+        const Q t148 = t145 + t147;
+        // complex block of 3, multiplier 2
+        const Q t149 = Q(-c[1], c[1], -c[1], c[1]) * t128;
+        const Q t150 = shuffled<1, 0, 3, 2>(t149);
+        const Q t151 = t131 + t150;
+        // complex block of 9, multiplier 2
+        const Q t152 = c[6] * t151;
+        const Q t153 = shuffled<1, 0, 3, 2>(t151);
+        const Q t154 = Q(-c[7], c[7], -c[7], c[7]) * t153;
+        const Q t155 = t152 + t154;
+        // complex block of 3, multiplier 2
+        const Q t156 = t131 - t150;
+        // complex block of 9, multiplier 2
+        const Q t157 = Q(-c[2], c[2], -c[2], c[2]) * t156;
+        const Q t158 = shuffled<1, 0, 3, 2>(t156);
+        const Q t159 = c[3] * t158;
+        const Q t160 = t157 + t159;
+        // complex block of 3, multiplier 2
+        const Q t161 = t134 + t129;
+        const Q t162 = t134 - t129;
+        const Q t163 = t161 + t2;
+        // complex block of 3, multiplier 2
+        const Q t164 = t103 + t44;
+        const Q t165 = t164 + t163;
+        const Q t166 = c[0] * t164;
+        const Q t167 = t163 - t166;
+        // complex block of 3, multiplier 2
+        const Q t168 = c[0] * t161;
+        const Q t169 = t2 - t168;
+        const Q t170 = Q(-c[1], c[1], -c[1], c[1]) * t162;
+        const Q t171 = shuffled<1, 0, 3, 2>(t170);
+        const Q t172 = t169 + t171;
+        const Q t173 = t169 - t171;
+        const Q t174 = flipped<0, 1, 0, 1>(t160);
+        // complex block of 3, multiplier 2
+        const Q t175 = t148 + t174;
+        const Q t176 = t148 - t174;
+        const Q t177 = t175 + t8;
+        const Q t178 = c[0] * t175;
+        const Q t179 = t8 - t178;
+        const Q t180 = Q(-c[1], c[1], -c[1], c[1]) * t176;
+        const Q t181 = shuffled<1, 0, 3, 2>(t180);
+        const Q t182 = t179 + t181;
+        const Q t183 = t179 - t181;
+        const Q t184 = flipped<0, 1, 0, 1>(t143);
+        // complex block of 3, multiplier 2
+        const Q t185 = t155 + t184;
+        const Q t186 = flipped<1, 0, 1, 0>(t155);
+        const Q t187 = t143 + t186;
+        const Q t188 = t185 + t7;
+        const Q t189 = c[0] * t185;
+        const Q t190 = t7 - t189;
+        const Q t191 = c[1] * t187;
+        const Q t192 = shuffled<1, 0, 3, 2>(t191);
+        const Q t193 = t190 - t192;
+        const Q t194 = t190 + t192;
+        // complex block of 3, multiplier 2
+        const Q t195 = t113 + t95;
+        // complex block of 3, multiplier 2
+        const Q t196 = t54 + t36;
+        // complex block of 27, multiplier 2
+        const Q t197 = c[14] * t195;
+        const Q t198 = shuffled<1, 0, 3, 2>(t195);
+        const Q t199 = Q(c[15], -c[15], c[15], -c[15]) * t198;
+        const Q t200 = t197 + t199;
+        const Q t201 = c[8] * t196;
+        const Q t202 = shuffled<1, 0, 3, 2>(t196);
+        const Q t203 = Q(c[9], -c[9], c[9], -c[9]) * t202;
+        const Q t204 = t201 + t203;
+        // complex block of 3, multiplier 2
+        const Q t205 = t200 + t204;
+        const Q t206 = t200 - t204;
+        // complex block of 3, multiplier 2
+        const Q t207 = c[0] * t113;
+        const Q t208 = t95 - t207;
+        const Q t209 = Q(-c[1], c[1], -c[1], c[1]) * t114;
+        const Q t210 = shuffled<1, 0, 3, 2>(t209);
+        const Q t211 = t208 + t210;
+        const Q t212 = t208 - t210;
+        // complex block of 3, multiplier 2
+        const Q t213 = c[0] * t54;
+        const Q t214 = t36 - t213;
+        const Q t215 = Q(-c[1], c[1], -c[1], c[1]) * t55;
         const Q t216 = shuffled<1, 0, 3, 2>(t215);
-        const Q t217 = t214 - t216;
-        const Q t218 = t214 + t216;
-        // complex block of 3, multiplier 2
-        const Q t219 = t102 + t175;
-        const Q t220 = t102 - t175;
-        const Q t221 = t219 + t29;
-        const Q t222 = c[0] * t219;
-        const Q t223 = t29 - t222;
-        const Q t224 = Q(-c[1], c[1], -c[1], c[1]) * t220;
-        const Q t225 = shuffled<1, 0, 3, 2>(t224);
-        const Q t226 = t223 + t225;
-        const Q t227 = t223 - t225;
+        const Q t217 = t214 + t216;
+        const Q t218 = t214 - t216;
         // complex block of 27, multiplier 2
-        const Q t228 = c[14] * t120;
-        const Q t229 = shuffled<1, 0, 3, 2>(t120);
-        const Q t230 = Q(c[15], -c[15], c[15], -c[15]) * t229;
-        const Q t231 = t228 + t230;
-        const Q t232 = c[8] * t193;
-        const Q t233 = shuffled<1, 0, 3, 2>(t193);
-        const Q t234 = Q(c[9], -c[9], c[9], -c[9]) * t233;
-        const Q t235 = t232 + t234;
+        const Q t219 = Q(-c[10], c[10], -c[10], c[10]) * t212;
+        const Q t220 = shuffled<1, 0, 3, 2>(t212);
+        const Q t221 = c[11] * t220;
+        const Q t222 = t219 + t221;
+        const Q t223 = shuffled<1, 0, 3, 2>(t218);
+        const Q t224 = c[12] * t223;
+        const Q t225 = Q(c[13], -c[13], c[13], -c[13]) * t218;
+        const Q t226 = t224 + t225;
+        const Q t227 = shuffled<0, 5, 2, 7>(t222, t226);
+        const Q t228 = shuffled<0, 5, 2, 7>(t226, t222);
         // complex block of 3, multiplier 2
-        const Q t236 = t231 + t235;
-        const Q t237 = t231 - t235;
-        const Q t238 = t236 + t47;
-        const Q t239 = c[0] * t236;
-        const Q t240 = t47 - t239;
-        const Q t241 = Q(-c[1], c[1], -c[1], c[1]) * t237;
-        const Q t242 = shuffled<1, 0, 3, 2>(t241);
-        const Q t243 = t240 + t242;
-        const Q t244 = t240 - t242;
+        const Q t229 = t227 - t228;
+        const Q t230 = shuffled<1, 0, 3, 2>(t211);
         // complex block of 27, multiplier 2
-        const Q t245 = c[8] * t139;
-        const Q t246 = shuffled<1, 0, 3, 2>(t139);
-        const Q t247 = Q(c[9], -c[9], c[9], -c[9]) * t246;
-        const Q t248 = t245 + t247;
-        const Q t249 = Q(-c[10], c[10], -c[10], c[10]) * t212;
-        const Q t250 = shuffled<1, 0, 3, 2>(t212);
-        const Q t251 = c[11] * t250;
-        const Q t252 = t249 + t251;
-        const Q t253 = flipped<0, 1, 0, 1>(t252);
+        const Q t231 = c[16] * t230;
+        const Q t232 = Q(c[17], -c[17], c[17], -c[17]) * t211;
+        const Q t233 = t231 + t232;
+        const Q t234 = c[18] * t217;
+        const Q t235 = shuffled<1, 0, 3, 2>(t217);
+        const Q t236 = Q(c[19], -c[19], c[19], -c[19]) * t235;
+        const Q t237 = t234 + t236;
+        const Q t238 = flipped<1, 0, 1, 0>(t233);
         // complex block of 3, multiplier 2
-        const Q t254 = t248 + t253;
-        const Q t255 = t248 - t253;
-        const Q t256 = t254 + t66;
-        const Q t257 = c[0] * t254;
-        const Q t258 = t66 - t257;
-        const Q t259 = Q(-c[1], c[1], -c[1], c[1]) * t255;
-        const Q t260 = shuffled<1, 0, 3, 2>(t259);
-        const Q t261 = t258 + t260;
-        const Q t262 = t258 - t260;
-        // complex block of 27, multiplier 2
-        const Q t263 = c[4] * t108;
-        const Q t264 = shuffled<1, 0, 3, 2>(t108);
-        const Q t265 = Q(c[5], -c[5], c[5], -c[5]) * t264;
-        const Q t266 = t263 + t265;
-        const Q t267 = Q(-c[2], c[2], -c[2], c[2]) * t181;
-        const Q t268 = shuffled<1, 0, 3, 2>(t181);
-        const Q t269 = c[3] * t268;
-        const Q t270 = t267 + t269;
-        const Q t271 = flipped<0, 1, 0, 1>(t270);
+        const Q t239 = t238 + t237;
         // complex block of 3, multiplier 2
-        const Q t272 = t266 + t271;
-        const Q t273 = t266 - t271;
-        const Q t274 = t272 + t35;
-        const Q t275 = c[0] * t272;
-        const Q t276 = t35 - t275;
-        const Q t277 = Q(-c[1], c[1], -c[1], c[1]) * t273;
-        const Q t278 = shuffled<1, 0, 3, 2>(t277);
-        const Q t279 = t276 + t278;
-        const Q t280 = t276 - t278;
-        // complex block of 27, multiplier 2
-        const Q t281 = Q(-c[10], c[10], -c[10], c[10]) * t126;
-        const Q t282 = shuffled<1, 0, 3, 2>(t126);
-        const Q t283 = c[11] * t282;
-        const Q t284 = t281 + t283;
-        const Q t285 = shuffled<1, 0, 3, 2>(t199);
-        const Q t286 = c[12] * t285;
-        const Q t287 = Q(c[13], -c[13], c[13], -c[13]) * t199;
-        const Q t288 = t286 + t287;
-        const Q t289 = shuffled<0, 5, 2, 7>(t284, t288);
-        const Q t290 = shuffled<0, 5, 2, 7>(t288, t284);
+        const Q t240 = t124 + t94;
         // complex block of 3, multiplier 2
-        const Q t291 = t289 - t290;
-        const Q t292 = t284 + t288;
-        const Q t293 = t291 + t53;
-        const Q t294 = c[0] * t291;
-        const Q t295 = t53 - t294;
-        const Q t296 = c[1] * t292;
-        const Q t297 = shuffled<1, 0, 3, 2>(t296);
-        const Q t298 = t295 - t297;
-        const Q t299 = t295 + t297;
+        const Q t241 = t65 + t35;
         // complex block of 27, multiplier 2
-        const Q t300 = Q(-c[16], c[16], -c[16], c[16]) * t145;
-        const Q t301 = shuffled<1, 0, 3, 2>(t145);
-        const Q t302 = c[17] * t301;
-        const Q t303 = t300 + t302;
-        const Q t304 = shuffled<1, 0, 3, 2>(t218);
-        const Q t305 = c[18] * t304;
-        const Q t306 = Q(c[19], -c[19], c[19], -c[19]) * t218;
+        const Q t242 = c[8] * t240;
+        const Q t243 = shuffled<1, 0, 3, 2>(t240);
+        const Q t244 = Q(c[9], -c[9], c[9], -c[9]) * t243;
+        const Q t245 = t242 + t244;
+        const Q t246 = Q(-c[10], c[10], -c[10], c[10]) * t241;
+        const Q t247 = shuffled<1, 0, 3, 2>(t241);
+        const Q t248 = c[11] * t247;
+        const Q t249 = t246 + t248;
+        const Q t250 = flipped<0, 1, 0, 1>(t249);
+        // complex block of 3, multiplier 2
+        const Q t251 = t245 + t250;
+        const Q t252 = t245 - t250;
+        // complex block of 3, multiplier 2
+        const Q t253 = c[0] * t124;
+        const Q t254 = t94 - t253;
+        const Q t255 = c[1] * t126;
+        const Q t256 = shuffled<1, 0, 3, 2>(t255);
+        const Q t257 = t254 - t256;
+        const Q t258 = t254 + t256;
+        // complex block of 3, multiplier 2
+        const Q t259 = c[0] * t65;
+        const Q t260 = t35 - t259;
+        const Q t261 = c[1] * t67;
+        const Q t262 = shuffled<1, 0, 3, 2>(t261);
+        const Q t263 = t260 - t262;
+        const Q t264 = t260 + t262;
+        // complex block of 27, multiplier 2
+        const Q t265 = Q(-c[20], c[20], -c[20], c[20]) * t258;
+        const Q t266 = shuffled<1, 0, 3, 2>(t258);
+        const Q t267 = c[21] * t266;
+        const Q t268 = t265 + t267;
+        const Q t269 = shuffled<1, 0, 3, 2>(t264);
+        const Q t270 = c[22] * t269;
+        const Q t271 = Q(c[23], -c[23], c[23], -c[23]) * t264;
+        const Q t272 = t270 + t271;
+        const Q t273 = shuffled<0, 5, 2, 7>(t268, t272);
+        const Q t274 = shuffled<0, 5, 2, 7>(t272, t268);
+        // complex block of 3, multiplier 2
+        const Q t275 = t273 - t274;
+        const Q t276 = shuffled<1, 0, 3, 2>(t257);
+        // complex block of 27, multiplier 2
+        const Q t277 = c[12] * t276;
+        const Q t278 = Q(c[13], -c[13], c[13], -c[13]) * t257;
+        const Q t279 = t277 + t278;
+        const Q t280 = c[24] * t263;
+        const Q t281 = shuffled<1, 0, 3, 2>(t263);
+        const Q t282 = Q(c[25], -c[25], c[25], -c[25]) * t281;
+        const Q t283 = t280 + t282;
+        const Q t284 = flipped<1, 0, 1, 0>(t279);
+        // complex block of 3, multiplier 2
+        const Q t285 = t284 + t283;
+        // complex block of 3, multiplier 2
+        const Q t286 = t103 - t44;
+        // complex block of 27, multiplier 2
+        const Q t287 = c[4] * t102;
+        const Q t288 = shuffled<1, 0, 3, 2>(t102);
+        const Q t289 = Q(c[5], -c[5], c[5], -c[5]) * t288;
+        const Q t290 = t287 + t289;
+        const Q t291 = Q(-c[2], c[2], -c[2], c[2]) * t43;
+        const Q t292 = shuffled<1, 0, 3, 2>(t43);
+        const Q t293 = c[3] * t292;
+        const Q t294 = t291 + t293;
+        const Q t295 = flipped<0, 1, 0, 1>(t294);
+        // complex block of 3, multiplier 2
+        const Q t296 = t290 + t295;
+        const Q t297 = t290 - t295;
+        // complex block of 27, multiplier 2
+        const Q t298 = Q(-c[2], c[2], -c[2], c[2]) * t101;
+        const Q t299 = shuffled<1, 0, 3, 2>(t101);
+        const Q t300 = c[3] * t299;
+        const Q t301 = t298 + t300;
+        const Q t302 = c[6] * t42;
+        const Q t303 = shuffled<1, 0, 3, 2>(t42);
+        const Q t304 = Q(-c[7], c[7], -c[7], c[7]) * t303;
+        const Q t305 = t302 + t304;
+        const Q t306 = flipped<0, 1, 0, 1>(t301);
+        // complex block of 3, multiplier 2
         const Q t307 = t305 + t306;
-        const Q t308 = shuffled<0, 5, 2, 7>(t303, t307);
-        const Q t309 = shuffled<0, 5, 2, 7>(t307, t303);
+        const Q t308 = flipped<1, 0, 1, 0>(t305);
+        const Q t309 = t301 + t308;
         // complex block of 3, multiplier 2
-        const Q t310 = t308 - t309;
-        const Q t311 = t303 + t307;
-        const Q t312 = t310 + t72;
-        const Q t313 = c[0] * t310;
-        const Q t314 = t72 - t313;
-        const Q t315 = c[1] * t311;
-        const Q t316 = shuffled<1, 0, 3, 2>(t315);
-        const Q t317 = t314 - t316;
-        const Q t318 = t314 + t316;
-        // complex block of 27, multiplier 2
-        const Q t319 = Q(-c[2], c[2], -c[2], c[2]) * t107;
-        const Q t320 = shuffled<1, 0, 3, 2>(t107);
-        const Q t321 = c[3] * t320;
-        const Q t322 = t319 + t321;
-        const Q t323 = c[6] * t180;
-        const Q t324 = shuffled<1, 0, 3, 2>(t180);
-        const Q t325 = Q(-c[7], c[7], -c[7], c[7]) * t324;
-        const Q t326 = t323 + t325;
-        const Q t327 = flipped<0, 1, 0, 1>(t322);
+        const Q t310 = Q(-c[1], c[1], -c[1], c[1]) * t286;
+        const Q t311 = shuffled<1, 0, 3, 2>(t310);
+        const Q t312 = t167 + t311;
         // complex block of 3, multiplier 2
-        const Q t328 = t326 + t327;
-        const Q t329 = flipped<1, 0, 1, 0>(t326);
-        const Q t330 = t322 + t329;
-        const Q t331 = t328 + t34;
-        const Q t332 = c[0] * t328;
-        const Q t333 = t34 - t332;
-        const Q t334 = c[1] * t330;
-        const Q t335 = shuffled<1, 0, 3, 2>(t334);
-        const Q t336 = t333 - t335;
-        const Q t337 = t333 + t335;
-        const Q t338 = shuffled<1, 0, 3, 2>(t125);
-        // complex block of 27, multiplier 2
-        const Q t339 = c[20] * t338;
-        const Q t340 = Q(c[21], -c[21], c[21], -c[21]) * t125;
-        const Q t341 = t339 + t340;
-        const Q t342 = c[22] * t198;
-        const Q t343 = shuffled<1, 0, 3, 2>(t198);
-        const Q t344 = Q(c[23], -c[23], c[23], -c[23]) * t343;
-        const Q t345 = t342 + t344;
-        const Q t346 = flipped<1, 0, 1, 0>(t341);
+        const Q t313 = c[0] * t205;
+        const Q t314 = t177 - t313;
         // complex block of 3, multiplier 2
-        const Q t347 = t346 + t345;
-        const Q t348 = flipped<0, 1, 0, 1>(t345);
-        const Q t349 = t341 + t348;
-        const Q t350 = t347 + t52;
-        const Q t351 = c[0] * t347;
-        const Q t352 = t52 - t351;
-        const Q t353 = c[1] * t349;
-        const Q t354 = shuffled<1, 0, 3, 2>(t353);
-        const Q t355 = t352 + t354;
-        const Q t356 = t352 - t354;
-        const Q t357 = shuffled<1, 0, 3, 2>(t144);
-        // complex block of 27, multiplier 2
-        const Q t358 = c[12] * t357;
-        const Q t359 = Q(c[13], -c[13], c[13], -c[13]) * t144;
-        const Q t360 = t358 + t359;
-        const Q t361 = c[24] * t217;
-        const Q t362 = shuffled<1, 0, 3, 2>(t217);
-        const Q t363 = Q(c[25], -c[25], c[25], -c[25]) * t362;
-        const Q t364 = t361 + t363;
-        const Q t365 = flipped<1, 0, 1, 0>(t360);
+        const Q t315 = c[0] * t251;
+        const Q t316 = t188 - t315;
         // complex block of 3, multiplier 2
-        const Q t366 = t365 + t364;
-        const Q t367 = flipped<0, 1, 0, 1>(t364);
-        const Q t368 = t360 + t367;
-        const Q t369 = t366 + t71;
-        const Q t370 = c[0] * t366;
-        const Q t371 = t71 - t370;
-        const Q t372 = c[1] * t368;
-        const Q t373 = shuffled<1, 0, 3, 2>(t372);
-        const Q t374 = t371 + t373;
-        const Q t375 = t371 - t373;
-        const Q t376 = shuffled<0, 1, 4, 5>(t221, t238);
-        const Q t377 = shuffled<2, 3, 6, 7>(t221, t238);
+        const Q t317 = c[0] * t296;
+        const Q t318 = t173 - t317;
+        const Q t319 = Q(-c[1], c[1], -c[1], c[1]) * t297;
+        const Q t320 = shuffled<1, 0, 3, 2>(t319);
+        const Q t321 = t318 + t320;
+        const Q t322 = t318 - t320;
+        // complex block of 3, multiplier 2
+        const Q t323 = t222 + t226;
+        const Q t324 = c[0] * t229;
+        const Q t325 = t183 - t324;
+        // complex block of 3, multiplier 2
+        const Q t326 = t268 + t272;
+        const Q t327 = c[0] * t275;
+        const Q t328 = t194 - t327;
+        // complex block of 3, multiplier 2
+        const Q t329 = c[0] * t307;
+        const Q t330 = t172 - t329;
+        const Q t331 = c[1] * t309;
+        const Q t332 = shuffled<1, 0, 3, 2>(t331);
+        const Q t333 = t330 - t332;
+        const Q t334 = t330 + t332;
+        const Q t335 = flipped<0, 1, 0, 1>(t237);
+        // complex block of 3, multiplier 2
+        const Q t336 = t233 + t335;
+        const Q t337 = c[0] * t239;
+        const Q t338 = t182 - t337;
+        const Q t339 = flipped<0, 1, 0, 1>(t283);
+        // complex block of 3, multiplier 2
+        const Q t340 = t279 + t339;
+        const Q t341 = c[0] * t285;
+        const Q t342 = t193 - t341;
+        // complex block of 3, multiplier 2
+        const Q t343 = Q(-c[1], c[1], -c[1], c[1]) * t206;
+        const Q t344 = shuffled<1, 0, 3, 2>(t343);
+        const Q t345 = t314 + t344;
+        const Q t346 = shuffled<0, 1, 4, 5>(t312, t345);
+        const Q t347 = shuffled<2, 3, 6, 7>(t312, t345);
         // complex block of 2
-        const Q t378 = t376 + t377;
-        io.pairs(0, 2, t378);
-        const Q t379 = t376 - t377;
-        io.pairs(27, 29, t379);
-        const Q t380 = shuffled<0, 1, 4, 5>(t256, t274);
-        const Q t381 = shuffled<2, 3, 6, 7>(t256, t274);
+        const Q t348 = t346 + t347;
+        io.pairs(36, 38, t348);
+        const Q t349 = t346 - t347;
+        io.pairs(9, 11, t349);
+        // complex block of 3, multiplier 2
+        const Q t350 = t314 - t344;
+        // complex block of 3, multiplier 2
+        const Q t351 = Q(c[1], -c[1], c[1], -c[1]) * t252;
+        const Q t352 = shuffled<1, 0, 3, 2>(t351);
+        const Q t353 = t316 + t352;
+        const Q t354 = shuffled<0, 1, 4, 5>(t350, t353);
+        const Q t355 = shuffled<2, 3, 6, 7>(t350, t353);
         // complex block of 2
-        const Q t382 = t380 + t381;
-        io.pairs(4, 6, t382);
-        const Q t383 = t380 - t381;
-        io.pairs(31, 33, t383);
-        const Q t384 = shuffled<0, 1, 4, 5>(t293, t312);
-        const Q t385 = shuffled<2, 3, 6, 7>(t293, t312);
+        const Q t356 = t354 + t355;
+        io.pairs(20, 22, t356);
+        const Q t357 = t354 - t355;
+        io.pairs(47, 49, t357);
+        // complex block of 3, multiplier 2
+        const Q t358 = t316 - t352;
+        const Q t359 = shuffled<0, 1, 4, 5>(t358, t321);
+        const Q t360 = shuffled<2, 3, 6, 7>(t358, t321);
         // complex block of 2
-        const Q t386 = t384 + t385;
-        io.pairs(8, 10, t386);
-        const Q t387 = t384 - t385;
-        io.pairs(35, 37, t387);
-        const Q t388 = shuffled<0, 1, 4, 5>(t331, t350);
-        const Q t389 = shuffled<2, 3, 6, 7>(t331, t350);
+        const Q t361 = t359 + t360;
+        io.pairs(40, 42, t361);
+        const Q t362 = t359 - t360;
+        io.pairs(13, 15, t362);
+        // complex block of 3, multiplier 2
+        const Q t363 = c[1] * t323;
+        const Q t364 = shuffled<1, 0, 3, 2>(t363);
+        const Q t365 = t325 - t364;
+        // complex block of 3, multiplier 2
+        const Q t366 = c[1] * t326;
+        const Q t367 = shuffled<1, 0, 3, 2>(t366);
+        const Q t368 = t328 - t367;
+        const Q t369 = shuffled<0, 1, 4, 5>(t365, t368);
+        const Q t370 = shuffled<2, 3, 6, 7>(t365, t368);
         // complex block of 2
-        const Q t390 = t388 + t389;
-        io.pairs(12, 14, t390);
-        const Q t391 = t388 - t389;
-        io.pairs(39, 41, t391);
-        const Q t392 = shuffled<0, 1, 4, 5>(t369, t227);
-        const Q t393 = shuffled<2, 3, 6, 7>(t369, t227);
+        const Q t371 = t369 + t370;
+        io.pairs(44, 46, t371);
+        const Q t372 = t369 - t370;
+        io.pairs(17, 19, t372);
+        // complex block of 3, multiplier 2
+        const Q t373 = t325 + t364;
+        const Q t374 = shuffled<0, 1, 4, 5>(t322, t373);
+        const Q t375 = shuffled<2, 3, 6, 7>(t322, t373);
         // complex block of 2
-        const Q t394 = t392 + t393;
-        io.pairs(16, 18, t394);
-        const Q t395 = t392 - t393;
-        io.pairs(43, 45, t395);
-        const Q t396 = shuffled<0, 1, 4, 5>(t244, t262);
-        const Q t397 = shuffled<2, 3, 6, 7>(t244, t262);
+        const Q t376 = t374 + t375;
+        io.pairs(24, 26, t376);
+        const Q t377 = t374 - t375;
+        io.pairs(51, 53, t377);
+        // complex block of 3, multiplier 2
+        const Q t378 = t328 + t367;
+        const Q t379 = shuffled<0, 1, 4, 5>(t378, t334);
+        const Q t380 = shuffled<2, 3, 6, 7>(t378, t334);
         // complex block of 2
-        const Q t398 = t396 + t397;
-        io.pairs(20, 22, t398);
-        const Q t399 = t396 - t397;
-        io.pairs(47, 49, t399);
-        const Q t400 = shuffled<0, 1, 4, 5>(t280, t299);
-        const Q t401 = shuffled<2, 3, 6, 7>(t280, t299);
+        const Q t381 = t379 + t380;
+        io.pairs(28, 30, t381);
+        const Q t382 = t379 - t380;
+        io.pairs(1, 3, t382);
+        // complex block of 3, multiplier 2
+        const Q t383 = c[1] * t336;
+        const Q t384 = shuffled<1, 0, 3, 2>(t383);
+        const Q t385 = t338 + t384;
+        const Q t386 = shuffled<0, 1, 4, 5>(t333, t385);
+        const Q t387 = shuffled<2, 3, 6, 7>(t333, t385);
         // complex block of 2
-        const Q t402 = t400 + t401;
-        io.pairs(24, 26, t402);
-        const Q t403 = t400 - t401;
-        io.pairs(51, 53, t403);
-        const Q t404 = shuffled<0, 1, 4, 5>(t318, t337);
-        const Q t405 = shuffled<2, 3, 6, 7>(t318, t337);
+        const Q t388 = t386 + t387;
+        io.pairs(48, 50, t388);
+        const Q t389 = t386 - t387;
+        io.pairs(21, 23, t389);
+        // complex block of 3, multiplier 2
+        const Q t390 = t338 - t384;
+        // complex block of 3, multiplier 2
+        const Q t391 = c[1] * t340;
+        const Q t392 = shuffled<1, 0, 3, 2>(t391);
+        const Q t393 = t342 - t392;
+        const Q t394 = shuffled<0, 1, 4, 5>(t390, t393);
+        const Q t395 = shuffled<2, 3, 6, 7>(t390, t393);
         // complex block of 2
-        const Q t406 = t404 + t405;
-        io.pairs(28, 30, t406);
-        const Q t407 = t404 - t405;
-        io.pairs(1, 3, t407);
-        const Q t408 = shuffled<0, 1, 4, 5>(t356, t375);
-        const Q t409 = shuffled<2, 3, 6, 7>(t356, t375);
+        const Q t396 = t394 + t395;
+        io.pairs(32, 34, t396);
+        const Q t397 = t394 - t395;
+        io.pairs(5, 7, t397);
+        // complex block of 3, multiplier 2
+        const Q t398 = t342 + t392;
+        const P t399 = part<0>(t398);
+        const P t400 = part<1>(t398);
         // complex block of 2
-        const Q t410 = t408 + t409;
-        io.pairs(32, 34, t410);
-        const Q t411 = t408 - t409;
-        io.pairs(5, 7, t411);
-        const Q t412 = shuffled<0, 1, 4, 5>(t226, t243);
-        const Q t413 = shuffled<2, 3, 6, 7>(t226, t243);
+        const P t401 = t399 + t400;
+        io.pair(52, t401);
+        const P t402 = t399 - t400;
+        io.pair(25, t402);
+        // complex block of 3, multiplier 2
+        const Q t403 = t167 - t311;
+        // complex block of 3, multiplier 2
+        const Q t404 = t285 + t193;
+        const Q t405 = shuffled<0, 1, 4, 5>(t404, t403);
+        const Q t406 = shuffled<2, 3, 6, 7>(t404, t403);
         // complex block of 2
-        const Q t414 = t412 + t413;
-        io.pairs(36, 38, t414);
-        const Q t415 = t412 - t413;
-        io.pairs(9, 11, t415);
-        const Q t416 = shuffled<0, 1, 4, 5>(t261, t279);
-        const Q t417 = shuffled<2, 3, 6, 7>(t261, t279);
+        const Q t407 = t405 + t406;
+        io.pairs(16, 18, t407);
+        const Q t408 = t405 - t406;
+        io.pairs(43, 45, t408);
+        // complex block of 3, multiplier 2
+        const Q t409 = t205 + t177;
+        const Q t410 = shuffled<0, 1, 4, 5>(t165, t409);
+        const Q t411 = shuffled<2, 3, 6, 7>(t165, t409);
+        // complex block of 2
+        const Q t412 = t410 + t411;
+        io.pairs(0, 2, t412);
+        const Q t413 = t410 - t411;
+        io.pairs(27, 29, t413);
+        // complex block of 3, multiplier 2
+        const Q t414 = t251 + t188;
+        // complex block of 3, multiplier 2
+        const Q t415 = t296 + t173;
+        const Q t416 = shuffled<0, 1, 4, 5>(t414, t415);
+        const Q t417 = shuffled<2, 3, 6, 7>(t414, t415);
         // complex block of 2
         const Q t418 = t416 + t417;
-        io.pairs(40, 42, t418);
+        io.pairs(4, 6, t418);
         const Q t419 = t416 - t417;
-        io.pairs(13, 15, t419);
-        const Q t420 = shuffled<0, 1, 4, 5>(t298, t317);
-        const Q t421 = shuffled<2, 3, 6, 7>(t298, t317);
+        io.pairs(31, 33, t419);
+        // complex block of 3, multiplier 2
+        const Q t420 = t229 + t183;
+        // complex block of 3, multiplier 2
+        const Q t421 = t275 + t194;
+        const Q t422 = shuffled<0, 1, 4, 5>(t420, t421);
+        const Q t423 = shuffled<2, 3, 6, 7>(t420, t421);
         // complex block of 2
-        const Q t422 = t420 + t421;
-        io.pairs(44, 46, t422);
-        const Q t423 = t420 - t421;
-        io.pairs(17, 19, t423);
-        const Q t424 = shuffled<0, 1, 4, 5>(t336, t355);
-        const Q t425 = shuffled<2, 3, 6, 7>(t336, t355);
+        const Q t424 = t422 + t423;
+        io.pairs(8, 10, t424);
+        const Q t425 = t422 - t423;
+        io.pairs(35, 37, t425);
+        // complex block of 3, multiplier 2
+        const Q t426 = t307 + t172;
+        // complex block of 3, multiplier 2
+        const Q t427 = t239 + t182;
+        const Q t428 = shuffled<0, 1, 4, 5>(t426, t427);
+        const Q t429 = shuffled<2, 3, 6, 7>(t426, t427);
         // complex block of 2
-        const Q t426 = t424 + t425;
-        io.pairs(48, 50, t426);
-        const Q t427 = t424 - t425;
-        io.pairs(21, 23, t427);
-        const P t428 = part<0>(t374);
-        const P t429 = part<1>(t374);
-        // complex block of 2
-        const P t430 = t428 + t429;
-        io.pair(52, t430);
-        const P t431 = t428 - t429;
-        io.pair(25, t431);
+        const Q t430 = t428 + t429;
+        io.pairs(12, 14, t430);
+        const Q t431 = t428 - t429;
+        io.pairs(39, 41, t431);
     }
 };
 

@@ -18,53 +18,52 @@ struct ComplexLines<8> {
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
-        using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
         const Q x0_1 = io.pairs(0, 1);
         const Q x4_5 = io.pairs(4, 5);
         // complex block of 2
-        const Q t0 = x0_1 + x4_5;
-        const Q t1 = x0_1 - x4_5;
+        const Q t0 = x0_1 - x4_5;
         const Q x2_3 = io.pairs(2, 3);
         const Q x6_7 = io.pairs(6, 7);
         // complex block of 2
-        const Q t2 = x2_3 + x6_7;
-        const Q t3 = x2_3 - x6_7;
-        const Q t4 = shuffled<2, 3, 6, 7>(t1, t3);
+        const Q t1 = x2_3 - x6_7;
+        // complex block of 2
+        const Q t2 = x0_1 + x4_5;
+        // complex block of 2
+        const Q t3 = x2_3 + x6_7;
+        const Q t4 = shuffled<2, 3, 6, 7>(t1, t0);
         // complex block of 8
         const Q t5 = c[0] * t4;
         const Q t6 = shuffled<1, 0, 3, 2>(t5);
         const Q t7 = flipped<0, 1, 0, 1>(t6);
         const Q t8 = t5 + t7;
-        const Q t9 = shuffled<0, 1, 4, 5>(t0, t1);
-        const P t10 = part<0>(t2);
-        const P t11 = part<0>(t3);
-        const P t12 = shuffled<1, 0>(t11);
-        const P t13 = flipped<0, 1>(t12);
-        const Q t14 = joined(t10, t13);
+        const Q t9 = shuffled<2, 3, 6, 7>(t2, t8);
+        const Q t10 = shuffled<1, 0, 3, 2>(t8);
+        const Q t11 = shuffled<2, 3, 4, 5>(t3, t10);
+        const Q t12 = flipped<0, 0, 0, 1>(t11);
         // complex block of 2
-        const Q t15 = t9 + t14;
-        const Q t16 = t9 - t14;
-        const Q t17 = shuffled<2, 3, 4, 5>(t0, t8);
-        const Q t18 = shuffled<2, 3, 6, 7>(t2, t8);
-        const Q t19 = shuffled<0, 1, 3, 2>(t18);
-        const Q t20 = flipped<0, 0, 0, 1>(t19);
+        const Q t13 = t9 + t12;
+        const Q t14 = t9 - t12;
+        const Q t15 = shuffled<0, 1, 4, 5>(t2, t0);
+        const Q t16 = shuffled<1, 0, 3, 2>(t1);
+        const Q t17 = shuffled<0, 1, 4, 5>(t3, t16);
+        const Q t18 = flipped<0, 0, 0, 1>(t17);
         // complex block of 2
-        const Q t21 = t17 + t20;
-        const Q t22 = t17 - t20;
+        const Q t19 = t15 + t18;
+        const Q t20 = t15 - t18;
         // complex block of 2
-        const Q t23 = t15 + t21;
-        io.pairs(0, 1, t23);
-        const Q t24 = t15 - t21;
-        io.pairs(4, 5, t24);
-        const Q t25 = shuffled<1, 0, 3, 2>(t22);
-        const Q t26 = flipped<0, 1, 0, 1>(t25);
+        const Q t21 = t19 + t13;
+        io.pairs(0, 1, t21);
+        const Q t22 = t19 - t13;
+        io.pairs(4, 5, t22);
+        const Q t23 = shuffled<1, 0, 3, 2>(t14);
+        const Q t24 = flipped<0, 1, 0, 1>(t23);
         // complex block of 2
-        const Q t27 = t16 + t26;
-        io.pairs(2, 3, t27);
-        const Q t28 = t16 - t26;
-        io.pairs(6, 7, t28);
+        const Q t25 = t20 + t24;
+        io.pairs(2, 3, t25);
+        const Q t26 = t20 - t24;
+        io.pairs(6, 7, t26);
     }
 };
 

@@ -34,79 +34,79 @@ struct ComplexLines<9> {
         // complex block of 3
         const Q t0 = x3_4 + x6_7;
         const Q t1 = x3_4 - x6_7;
-        const Q x0_1 = io.pairs(0, 1);
-        const Q t2 = t0 + x0_1;
-        const Q t3 = c[0] * t0;
-        const Q t4 = x0_1 - t3;
-        const Q t5 = Q(-c[1], c[1], -c[1], c[1]) * t1;
-        const Q t6 = shuffled<1, 0, 3, 2>(t5);
-        const Q t7 = t4 + t6;
-        const Q t8 = t4 - t6;
         const P x5 = io.pair(5);
         const P x8 = io.pair(8);
         // complex block of 3
-        const P t9 = x5 + x8;
-        const P x2 = io.pair(2);
-        const P t10 = t9 + x2;
-        const P t11 = part<1>(t2);
-        const V t12 = part<0>(t11);
-        const V t13 = part<0>(t10);
+        const P t2 = x5 + x8;
+        const Q x0_1 = io.pairs(0, 1);
         // complex block of 3
-        const V t14 = t12 + t13;
-        const V t15 = part<1>(t11);
-        const V t16 = part<1>(t10);
-        const V t17 = t15 + t16;
-        const Q t18 = joined(x5, t11);
-        const Q t19 = joined(x8, t10);
+        const Q t3 = t0 + x0_1;
+        const P x2 = io.pair(2);
+        // complex block of 3
+        const P t4 = t2 + x2;
+        const P t5 = part<1>(t3);
+        const V t6 = part<0>(t5);
+        const V t7 = part<0>(t4);
+        // complex block of 3
+        const V t8 = t6 + t7;
+        const V t9 = part<1>(t5);
+        const V t10 = part<1>(t4);
+        const V t11 = t9 + t10;
+        // complex block of 3
+        const Q t12 = c[0] * t0;
+        const Q t13 = x0_1 - t12;
+        const Q t14 = Q(-c[1], c[1], -c[1], c[1]) * t1;
+        const Q t15 = shuffled<1, 0, 3, 2>(t14);
+        const Q t16 = t13 + t15;
+        const Q t17 = t13 - t15;
+        const Q t18 = joined(x5, t5);
+        const Q t19 = joined(x8, t4);
         // complex block of 3
         const Q t20 = t18 - t19;
-        const P t21 = joined(t14, t17);
-        const P t22 = part<0>(t2);
+        const P t21 = part<0>(t3);
+        const Q t22 = joined(x2, t21);
+        const P t23 = joined(t8, t11);
+        const Q t24 = joined(t2, t23);
+        const Q t25 = c[0] * t24;
+        const Q t26 = t22 - t25;
+        const Q t27 = Q(-c[1], c[1], -c[1], c[1]) * t20;
+        const Q t28 = shuffled<1, 0, 3, 2>(t27);
+        const Q t29 = t26 + t28;
+        const P t30 = part<1>(t29);
+        io.pair(3, t30);
+        const Q t31 = t26 - t28;
+        const P t32 = part<1>(t31);
+        io.pair(6, t32);
         // complex block of 3
-        const P t23 = t21 + t22;
-        io.pair(0, t23);
-        const Q t24 = joined(x2, t22);
-        const Q t25 = joined(t9, t21);
-        // complex block of 3
-        const Q t26 = c[0] * t25;
-        const Q t27 = t24 - t26;
-        const Q t28 = Q(-c[1], c[1], -c[1], c[1]) * t20;
-        const Q t29 = shuffled<1, 0, 3, 2>(t28);
-        const Q t30 = t27 + t29;
-        const P t31 = part<1>(t30);
-        io.pair(3, t31);
-        const Q t32 = t27 - t29;
-        const P t33 = part<1>(t32);
-        io.pair(6, t33);
-        const Q t34 = shuffled<2, 3, 6, 7>(t7, t8);
+        const P t33 = t23 + t21;
+        io.pair(0, t33);
+        const Q t34 = shuffled<2, 3, 6, 7>(t16, t17);
         // complex block of 9
         const Q t35 = Q(c[4], c[4], c[2], c[2]) * t34;
         const Q t36 = shuffled<1, 0, 3, 2>(t34);
         const Q t37 = Q(c[5], -c[5], c[3], -c[3]) * t36;
         const Q t38 = t35 + t37;
-        const P t39 = part<0>(t30);
-        const P t40 = shuffled<1, 0>(t39);
-        const P t41 = part<0>(t32);
-        const Q t42 = joined(t40, t41);
-        const Q t43 = Q(c[3], -c[3], -c[6], c[6]) * t42;
-        const Q t44 = shuffled<1, 0, 3, 2>(t42);
-        const Q t45 = Q(c[2], c[2], c[7], c[7]) * t44;
-        const Q t46 = t43 + t45;
-        const Q t47 = flipped<0, 0, 0, 1>(t46);
+        const Q t39 = shuffled<1, 0, 3, 2>(t29);
+        const Q t40 = shuffled<0, 1, 4, 5>(t39, t31);
+        const Q t41 = Q(c[3], -c[3], -c[6], c[6]) * t40;
+        const Q t42 = shuffled<1, 0, 3, 2>(t40);
+        const Q t43 = Q(c[2], c[2], c[7], c[7]) * t42;
+        const Q t44 = t41 + t43;
+        const Q t45 = flipped<0, 0, 0, 1>(t44);
         // complex block of 3
-        const Q t48 = t38 + t47;
-        const Q t49 = t38 - t47;
-        const Q t50 = shuffled<0, 1, 4, 5>(t7, t8);
-        const Q t51 = t48 + t50;
-        io.pairs(1, 2, t51);
-        const Q t52 = c[0] * t48;
-        const Q t53 = t50 - t52;
-        const Q t54 = Q(-c[1], c[1], -c[1], c[1]) * t49;
-        const Q t55 = shuffled<1, 0, 3, 2>(t54);
-        const Q t56 = t53 + t55;
-        io.pairs(4, 5, t56);
-        const Q t57 = t53 - t55;
-        io.pairs(7, 8, t57);
+        const Q t46 = t38 + t45;
+        const Q t47 = t38 - t45;
+        const Q t48 = shuffled<0, 1, 4, 5>(t16, t17);
+        const Q t49 = t46 + t48;
+        io.pairs(1, 2, t49);
+        const Q t50 = c[0] * t46;
+        const Q t51 = t48 - t50;
+        const Q t52 = Q(-c[1], c[1], -c[1], c[1]) * t47;
+        const Q t53 = shuffled<1, 0, 3, 2>(t52);
+        const Q t54 = t51 + t53;
+        io.pairs(4, 5, t54);
+        const Q t55 = t51 - t53;
+        io.pairs(7, 8, t55);
     }
 };
 

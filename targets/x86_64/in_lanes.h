@@ -9,6 +9,7 @@
 #include <iterator>
 
 #include "kernel/doubles.h"
+#include "kernel/in_memory.h"
 #include "kernel/lanes.h"
 
 namespace zulg {
@@ -71,6 +72,29 @@ struct DoublesInLanes : PortableRegisters {
         }
     }
 
+    // Two real numbers, which may be neighbours.
+    template <class Element>
+    ZULG_INLINE static Two reals(const typename InMemory<Element>::Type* x, int a, int b) {
+        if (b == a + 1) return pair<Element>(x + a);
+        if constexpr (sizeof(Element) == sizeof(double)) {
+            return Two{x[a], x[b]};
+        } else {
+            return _mm_cvtps_pd(__m128{x[a], x[b]});
+        }
+    }
+    template <class Element>
+    ZULG_INLINE static void storeReals(typename InMemory<Element>::Type* x, int a, int b, Two value) {
+        if (b == a + 1) return store<Element>(x + a, value);
+        if constexpr (sizeof(Element) == sizeof(double)) {
+            x[a] = value[0];
+            x[b] = value[1];
+        } else {
+            const __m128 singles = _mm_cvtpd_ps(value);
+            x[a] = singles[0];
+            x[b] = singles[1];
+        }
+    }
+
 #ifdef __AVX__
     // The compiler's own choice is a permutation of four lanes for the first of these, a copy more for the second and
     // one that crosses halves for the third.
@@ -117,9 +141,72 @@ struct DoublesInLanes : PortableRegisters {
             }
         }
     }
+
+    // Four real numbers of an array of `length`. Each comes with the four neighbours among which it is in its lane;
+    // where these would not be in the array, by itself.
+    template <class Element, int length>
+    ZULG_INLINE static Four reals(const typename InMemory<Element>::Type* x, int a, int b, int c, int d) {
+        const auto elements = inTheirLanes<Element, length>(x, a, b, c, d);
+        if constexpr (sizeof(Element) == sizeof(double))
+            return elements;
+        else
+            return _mm256_cvtps_pd(elements);
+    }
+    template <class Element>
+    ZULG_INLINE static void storeReals(typename InMemory<Element>::Type* x, int a, int b, int c, int d, Four value) {
+        const bool areNeighbours = b == a + 1 && c == a + 2 && d == a + 3;
+        if constexpr (sizeof(Element) == sizeof(double)) {
+            if (areNeighbours) {
+                *reinterpret_cast<FourDoubles*>(x + a) = value;
+            } else {
+                storeReals<double>(x, a, b, _mm256_castpd256_pd128(value));
+                storeReals<double>(x, c, d, upper(value));
+            }
+        } else {
+            const __m128 singles = _mm256_cvtpd_ps(value);
+            if (areNeighbours) {
+                *reinterpret_cast<FourSingles*>(x + a) = singles;
+            } else {
+                x[a] = singles[0];
+                x[b] = singles[1];
+                x[c] = singles[2];
+                x[d] = singles[3];
+            }
+        }
+    }
 #endif
 
 private:
+#ifdef __AVX__
+    // Four neighbours, as they are in memory.
+    template <class Element>
+    ZULG_INLINE static auto four(const typename InMemory<Element>::Type* place) {
+        if constexpr (sizeof(Element) == sizeof(double)) {
+            return Four(*reinterpret_cast<const FourDoubles*>(place));
+        } else {
+            return __m128(*reinterpret_cast<const FourSingles*>(place));
+        }
+    }
+
+    template <class Element, int length>
+    ZULG_INLINE static auto inTheirLanes(const typename InMemory<Element>::Type* x, int a, int b, int c, int d) {
+        using Vector = decltype(four<Element>(x));
+        if (b == a + 1 && c == a + 2 && d == a + 3) return four<Element>(x + a);
+        if (b == a - 1 && c == a - 2 && d == a - 3) {
+            const Vector rising = four<Element>(x + d);
+            return Vector(__builtin_shufflevector(rising, rising, 3, 2, 1, 0));
+        }
+        const auto inLane = [=](int place, int lane) __attribute__((always_inline)) {
+            const int first = place - lane;
+            if (first >= 0 && first + 4 <= length) return four<Element>(x + first);
+            return Vector{x[place], x[place], x[place], x[place]};
+        };
+        const Vector low = __builtin_shufflevector(inLane(a, 0), inLane(b, 1), 0, 5, 2, 3);
+        const Vector high = __builtin_shufflevector(inLane(c, 2), inLane(d, 3), 0, 1, 2, 7);
+        return Vector(__builtin_shufflevector(low, high, 0, 1, 6, 7));
+    }
+#endif
+
     // At any address, and under whatever name the caller knows the elements. Eight bytes are two singles.
     typedef double TwoDoubles __attribute__((vector_size(16), aligned(1), may_alias));
     typedef double FourDoubles __attribute__((vector_size(32), aligned(1), may_alias));

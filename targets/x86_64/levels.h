@@ -1,4 +1,4 @@
-// The levels of the native library. A slot whose kernel has two of them is settled while the library is loaded: the
+// The levels of the native library. The slot of a kernel is settled while the library is loaded: the
 // dynamic linker calls the slot's resolver and stores what it returns. After that a slot is never written, and no call
 // looks at a level.
 #pragma once
@@ -19,9 +19,6 @@ template <Family family, int length, class Element>
 Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag);
 }  // namespace x86_64_v3
 
-// Which families have kernels of the second level.
-constexpr bool hasSecondLevel(Family family) { return family == Family::DFTFwd_CToC || family == Family::DFTInv_CToC; }
-
 template <class Element>
 using KernelResolver = KernelRoutine<Element> (*)();
 
@@ -36,16 +33,11 @@ template <Family family, int length, class Element>
 
 // What is stored in the slot of a kernel. A library that is built for tests has one level: ZULG_LEVEL names it.
 template <Family family, int length, class Element>
-inline constexpr auto bestKernel = [] {
-    if constexpr (!hasSecondLevel(family)) {
-        return &kernel<family, length, Element>;
-    } else {
+inline constexpr auto bestKernel =
 #ifdef ZULG_LEVEL
-        return &ZULG_LEVEL::kernel<family, length, Element>;
+    &ZULG_LEVEL::kernel<family, length, Element>;
 #else
-        return &resolvedKernel<family, length, Element>;
+    &resolvedKernel<family, length, Element>;
 #endif
-    }
-}();
 
 }  // namespace zulg

@@ -4,28 +4,19 @@ set(target_compile_flags
     -mfpmath=sse -mno-sse3
     -fcf-protection=full)
 
-# Complex kernels hold a complex number in a register, all others one real number.
-set(kernel_forms pairs scalar)
-# They are as fast as at -O2 and smaller. The other two flags keep the frame of 47 points within 2 KB.
-set(lane_kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter)
+# Registers of two lanes. Kernels are as fast as at -O2 and smaller. The other two flags keep the frame of 47 points
+# within 2 KB.
+set(kernel_forms pairs)
+set(kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter)
 
-# Kernels: smaller code is faster code here. It has more memory operands and fewer instructions than at -O2, and a
-# kernel that exceeds the instruction cache is slow.
-set(kernel_compile_flags -Os)
+# Short kernels are some percent faster at -O2, and those of singles up to twice as fast: at -Os the compiler does not
+# clear a register before a conversion, which then waits for what the register held.
+set(short_kernel_steps 300)
+set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
 
-# Kernels that are faster when compiled for speed: registers are cleared before a conversion that would otherwise wait
-# for them. Which these are: tuning.txt.
-set(fast_kernel_compile_flags -O2 -fno-schedule-insns2 -fno-tree-pre -flive-range-shrinkage)
-
+set(wht_compile_flags -Os)
 # The passes of the DCT-IV.
-set(dct4_run_compile_flags ${kernel_compile_flags} -flive-range-shrinkage)  # fewer spills in long rows
-
-# Long kernels. An access by the frame pointer takes a byte less than one by the stack pointer. Fewer values are kept in
-# memory. The launcher uses the registers that are left to it for shorter displacements.
-set(long_kernel_steps 1200)
-set(long_kernel_compile_flags ${kernel_compile_flags} -fno-omit-frame-pointer -flive-range-shrinkage
-    -ffixed-rbx -ffixed-r8 -ffixed-r9 -ffixed-r10 -ffixed-r11 -ffixed-r12 -ffixed-r13 -ffixed-r14 -ffixed-r15)
-set(long_kernel_launcher ${CMAKE_CURRENT_LIST_DIR}/short_displacements.py)
+set(dct4_run_compile_flags -Os -flive-range-shrinkage)  # fewer spills in long rows
 
 set(common_link_flags
     -nostartfiles                 # nothing but the load entry runs when the library is loaded

@@ -5,8 +5,10 @@ set(target_compile_flags
     -mavx2
     -mno-fma                      # a step that rounds once less is another step
     -fcf-protection=full)
-set(lane_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
+# The last flag keeps the frames of 47 and 59 complex points within 2 KB. Shorter kernels are faster without it.
+set(short_kernel_steps 4500)
+set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
+set(kernel_compile_flags ${short_kernel_compile_flags} -fno-tree-ter)
 
-# Complex kernels have this level, and all other kernels have the first one only. Where a length has lines, they share
-# registers: that is faster at every length that has some, by 1.05 to 1.7 times, but for 6 and 9 in double (0.97).
+# Registers of four lanes, where the generator finds that they save a fifth of the steps.
 set(kernel_forms lines pairs)

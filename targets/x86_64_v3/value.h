@@ -1,4 +1,4 @@
-// Numbers on processors with AVX2: those of x86-64, and the complex numbers of two lines in one register.
+// Numbers on processors with AVX2: those of x86-64, and four in one register.
 #pragma once
 
 // The namespace of what is compiled for this target.

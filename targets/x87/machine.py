@@ -10,6 +10,7 @@ NEGATIONS = {"fchs"}
 FOREIGN = re.compile(
     r"f(i?div|sqrt|abs|i(add|sub|mul)|chs|sin|cos)|v?(add|sub|mul|div|sqrt|hadd|addsub)[ps][sd]"
     r"|vf?n?m(add|sub)|cmp[a-z]*[ps][sd]|u?comis[sd]|fu?comi?p?")
+STORES_TWO = True  # the 2 of inverse real kernels, in the width of their elements
 # Reading an operand of one width from memory.
 READS_SINGLE = re.compile(r"f(?:ld|mul)s$")
 READS_DOUBLE = re.compile(r"f(?:ld|mul)l$")

@@ -8,9 +8,10 @@ set(target_compile_flags
 
 # Kernels: smaller code is faster code here, too.
 set(kernel_compile_flags -Os)
+set(wht_compile_flags ${kernel_compile_flags})
 set(dct4_run_compile_flags ${kernel_compile_flags} -flive-range-shrinkage)  # fewer spills in long rows
 set(kernel_forms scalar)
-set(long_kernel_launcher "")
+set(short_kernel_steps 0)
 
 set(common_link_flags
     -nostdlib                     # the stock start files have 70 KB, some 20 imports, and initializers

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <sstream>
 
+#include "output/emit_lanes.h"
+
 namespace test {
 namespace {
 
@@ -14,7 +16,9 @@ using namespace gen;
 
 Tuning tuningOf(const std::string& text) {
     std::istringstream rows(text);
-    return Tuning(rows, "tuning.txt");
+    Tuning tuning;
+    tuning.add(rows, "tuning.txt");
+    return tuning;
 }
 
 std::string faultOf(const std::string& text) {
@@ -26,49 +30,49 @@ std::string faultOf(const std::string& text) {
     return "";
 }
 
-// The nodes in the order of their steps.
-std::vector<NodeId> orderOf(const Schedule& schedule) {
-    std::vector<NodeId> nodes;
-    for (const Step& step : schedule.steps) nodes.push_back(step.node);
-    return nodes;
+TEST(Tuning, GivesTheOrderOfARow) {
+    const Tuning tuning = tuningOf("# a comment\n\ncomplex 16 bisection 4.5  # measured\ncomplex_lines 16 blocks 6\n");
+    EXPECT_EQ(tuning.orderOf("complex 16", Order::Blocks), Order::Bisection);
+    EXPECT_EQ(tuning.orderOf("complex 17", Order::Blocks), Order::Blocks);
+    EXPECT_EQ(tuning.orderOf("complex_lines 16", Order::Bisection), Order::Blocks);
+    EXPECT_EQ(Tuning().orderOf("complex_lines 16", Order::Bisection), Order::Bisection);
 }
 
-TEST(Tuning, OrdersTheGraphsOfItsRowsByBisection) {
-    const Tuning tuning = tuningOf("# a comment\n\ncomplex 16 bisection 4.5  # measured\nhartley 16 speed 6\n");
-    for (const GraphEntry& entry : allGraphs()) {
-        if (entry.name() != "complex 16" && entry.name() != "hartley 16") continue;
-        const auto graph = entry.build();
-        const auto bisected = orderOf(byBisection(*graph)), plain = orderOf(blockByBlock(*graph));
-        EXPECT_NE(bisected, plain);
-        EXPECT_EQ(orderOf(tuning.schedule(entry, *graph)), entry.name() == "complex 16" ? bisected : plain);
-        EXPECT_EQ(orderOf(Tuning().schedule(entry, *graph)), plain);
-        EXPECT_EQ(orderOf(readTuning("no such file").schedule(entry, *graph)), plain);
-    }
+TEST(Tuning, ALaneTextTakesItsOrder) {
+    const auto entry = std::ranges::find(allGraphs(), "complex 16", &GraphEntry::name);
+    const auto graph = entry->build();
+    const auto numbersOf = [&](const Tuning& tuning) {
+        const std::vector<LaneText> texts = laneTexts(*entry, *graph, tuning);
+        std::vector<std::vector<int>> numbers;
+        for (const LaneStep& step : texts.back().program.steps) numbers.push_back(step.numbers);
+        return numbers;
+    };
+    EXPECT_NE(numbersOf(tuningOf("complex_lines 16 blocks 6\n")), numbersOf(Tuning()));
+    EXPECT_EQ(numbersOf(tuningOf("complex_pairs 16 blocks 6\n")), numbersOf(Tuning()));
 }
 
 TEST(Tuning, RefusesWhatItDoesNotUnderstandAndTellsWhere) {
-    EXPECT_EQ(faultOf("complex 16 speed 5\ncomplex 16 bisection 7.5\n"), "");
-    EXPECT_EQ(faultOf("\ncomplex 65 bisection 7\n"), "tuning.txt:2: no graph complex 65");
-    EXPECT_EQ(faultOf("complex 16 haste 7\n"), "tuning.txt:1: no choice haste");
-    EXPECT_EQ(faultOf("complex 16 bisection 6\ncomplex 16 bisection 7\n"),
-              "tuning.txt:2: a second row for complex 16, bisection");
+    EXPECT_EQ(faultOf("complex 16 bisection 7.5\n"), "");
+    EXPECT_EQ(faultOf("\ncomplex 65 bisection 7\n"), "tuning.txt:2: no text complex 65");
+    EXPECT_EQ(faultOf("complex_threes 16 bisection 7\n"), "tuning.txt:1: no text complex_threes 16");
+    EXPECT_EQ(faultOf("complex 16 haste 7\n"), "tuning.txt:1: no order haste");
+    EXPECT_EQ(faultOf("complex 16 bisection 6\ncomplex 16 blocks 7\n"), "tuning.txt:2: a second row for complex 16");
     EXPECT_EQ(faultOf("complex 16 bisection -\n"), "tuning.txt:1: the gain is no number: -");
     EXPECT_EQ(faultOf("complex 16 bisection 7%\n"), "tuning.txt:1: the gain is no number: 7%");
-    EXPECT_EQ(faultOf("complex 16 bisection\n"), "tuning.txt:1: a row is family, length, choice and gain");
-    EXPECT_EQ(faultOf("complex 16 bisection 7 3\n"), "tuning.txt:1: a row is family, length, choice and gain");
+    EXPECT_EQ(faultOf("complex 16 bisection\n"), "tuning.txt:1: a row is folder, length, order and gain");
+    EXPECT_EQ(faultOf("complex 16 bisection 7 3\n"), "tuning.txt:1: a row is folder, length, order and gain");
 }
 
 // A choice that gains less is not worth a row.
-TEST(Tuning, TheTableHasTextsOfKernelsAndGainsWorthARow) {
-    const Tuning tuning = readTuning(ZULG_SOURCE "/targets/x86_64/tuning.txt");
+TEST(Tuning, TheTablesHaveTextsOfKernelsAndGainsWorthARow) {
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(ZULG_SOURCE);
+    const Tuning tuning = readTuning();
+    std::filesystem::current_path(before);
     EXPECT_FALSE(tuning.rows().empty());
-    for (const auto& [row, gain] : tuning.rows()) {
-        SCOPED_TRACE(row.first + " " + row.second);
-        const auto graph = std::ranges::find(allGraphs(), row.first, &GraphEntry::name);
-        ASSERT_NE(graph, allGraphs().end());
-        EXPECT_FALSE(graph->family->isBody());
-        EXPECT_TRUE(std::filesystem::exists(ZULG_SOURCE "/" + graph->file()));
-        EXPECT_GE(gain, 5);
+    for (const auto& [text, row] : tuning.rows()) {
+        EXPECT_TRUE(std::filesystem::exists(ZULG_SOURCE "/kernels/" + text.substr(0, text.find(' ')))) << text;
+        EXPECT_GE(row.gain, 5) << text;
     }
 }
 

@@ -26,18 +26,19 @@ def masked(instruction):
     return instruction.mnemonic, operands
 
 
-def arithmetic(library, name):
+def arithmetic(library, kernel):
     """The floating-point instructions; integer ones are pointers, checks and the stored zeros of CCS."""
-    routine = library.routine(library.word(library.slot_address(name)))
-    return [masked(instruction) for instruction in routine
-            if "xmm" in instruction.operands or instruction.mnemonic.startswith("f")]
+    return [masked(instruction) for instruction in library.routine(kernel)
+            if re.search("[xy]mm", instruction.operands) or instruction.mnemonic.startswith("f")]
 
 
 def comparable(library, name):
-    instructions = arithmetic(library, name)
+    """What must be the same in all layouts, at every level."""
+    levels = [arithmetic(library, kernel) for kernel in library.kernels(library.slot_address(name))]
     if machine.HAS_WIDE_REGISTERS:
-        return instructions
-    return sorted(mnemonic for mnemonic, _ in instructions if re.match(r"(add|sub|mul|cvt)", mnemonic))
+        return levels[0]
+    return sorted((level, mnemonic) for level, instructions in enumerate(levels)
+                  for mnemonic, _ in instructions if re.match(r"v?(add|sub|mul|cvt)", mnemonic))
 
 
 def main():

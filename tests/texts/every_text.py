@@ -19,11 +19,12 @@ def main():
         for text in texts[first:first + TEXTS_AT_ONCE]:
             graph = re.search(r"^struct (\w+<\d+>) \{$", text.read_text(encoding="ascii"), re.MULTILINE)[1]
             program += f'#include "{text.relative_to(source)}"\n'
-            lanes = re.match(r"Complex(?:Pairs|Lines)(<\d+>)", graph)
+            lanes = re.match(r"(\w+)(?:Pairs|Lines)(<\d+>)", graph)
             if lanes:
-                program += f'#include "kernels/complex/{text.name}"\n'
+                folder = re.sub(r"_(pairs|lines)$", "", text.parent.name)
+                program += f'#include "kernels/{folder}/{text.name}"\n'
                 program += (f"template test::LaneTextResults test::runLaneText<zulg::{graph}, "
-                            f"zulg::ComplexGraph{lanes[1]}>();\n")
+                            f"zulg::{lanes[1]}Graph{lanes[2]}>();\n")
             else:
                 program += f"template test::TextResults test::runText<zulg::{graph}>();\n"
         done = subprocess.run([compiler, "-std=c++20", "-fsyntax-only", "-Wno-psabi", f"-I{source}", "-xc++", "-"],

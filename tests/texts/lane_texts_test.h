@@ -75,55 +75,88 @@ ArrayOfLanes<width / 2, V> part(const ArrayOfLanes<width, V>& x) {
     return eachLane<width / 2, V>([&](std::size_t i) { return x.lanes[half * width / 2 + i]; });
 }
 
+template <int... isMinus, int width, class V>
+ArrayOfLanes<width, V> negated(const ArrayOfLanes<width, V>& x) {
+    return flipped<isMinus...>(x);
+}
+
+// What a text stores: a register, or one with minus signs to be taken away.
+template <class Register>
+Register stored(const Register& x) {
+    return x;
+}
+template <class Register, int... isMinus>
+Register stored(zulg::Negated<Register, isMinus...> x) {
+    return flipped<isMinus...>(x.of);
+}
+
 template <class V>
+V number(const ArrayOfLanes<1, V>& x) {
+    return x.lanes[0];
+}
+template <bool exchanged>
+double number(zulg::Lanes<zulg::PortableRegisters, 1, exchanged> x) {
+    return x.vector;
+}
+
+// `Registers` are those of one, two and four lanes.
+template <template <int> class Registers, class V>
 class LaneTextPorts {
 public:
-    using Value = ArrayOfLanes<1, V>;
-    using Pair = ArrayOfLanes<2, V>;
-    using Lines = ArrayOfLanes<4, V>;
+    using Value = Registers<1>;
+    using Pair = Registers<2>;
+    using Lines = Registers<4>;
     template <class Graph>
     using Constants = zulg::Doubles::Constants<Graph>;
 
-    Pair pair(int n) const { return Pair(input(2 * n), input(2 * n + 1)); }
-    Lines pairs(int n, int m) const { return joined(pair(n), pair(m)); }
-    void pair(int k, const Pair& x) const {
-        outputs.emplace(OutputPlace{"re", k}, x.lanes[0]);
-        outputs.emplace(OutputPlace{"im", k}, x.lanes[1]);
+    Value in(int n) const { return Value(input(n)); }
+    Pair in(int a, int b) const { return Pair(input(a), input(b)); }
+    Lines in(int a, int b, int c, int d) const { return Lines(input(a), input(b), input(c), input(d)); }
+    Value re(int n) const { return in(2 * n); }
+    Value im(int n) const { return in(2 * n + 1); }
+    Pair pair(int n) const { return in(2 * n, 2 * n + 1); }
+    Lines pairs(int n, int m) const { return in(2 * n, 2 * n + 1, 2 * m, 2 * m + 1); }
+
+    void out(int k, const auto& x) const { store({{"out", k}}, x); }
+    void out(int a, int b, const auto& x) const { store({{"out", a}, {"out", b}}, x); }
+    void out(int a, int b, int c, int d, const auto& x) const {
+        store({{"out", a}, {"out", b}, {"out", c}, {"out", d}}, x);
     }
-    void pairs(int k, int l, const Lines& x) const {
-        pair(k, part<0>(x));
-        pair(l, part<1>(x));
-    }
+    void re(int k, const auto& x) const { store({{"re", k}}, x); }
+    void im(int k, const auto& x) const { store({{"im", k}}, x); }
+    void pair(int k, const auto& x) const { store({{"re", k}, {"im", k}}, x); }
+    void pairs(int k, int l, const auto& x) const { store({{"re", k}, {"im", k}, {"re", l}, {"im", l}}, x); }
 
     mutable std::map<OutputPlace, V> outputs = {};
 
+private:
     static double input(int i) { return TextPorts<KindOfNumber<double>>::input(i); }
+
+    void store(const std::vector<OutputPlace>& places, const auto& x) const { storeLanes(places.data(), stored(x)); }
+    void storeLanes(const OutputPlace* place, const Value& x) const { outputs.emplace(*place, number(x)); }
+    void storeLanes(const OutputPlace* places, const Pair& x) const {
+        storeLanes(places, part<0>(x));
+        storeLanes(places + 1, part<1>(x));
+    }
+    void storeLanes(const OutputPlace* places, const Lines& x) const {
+        storeLanes(places, part<0>(x));
+        storeLanes(places + 2, part<1>(x));
+    }
+};
+
+template <class V>
+struct LaneArrays {
+    template <int width>
+    using Of = ArrayOfLanes<width, V>;
+    using Ports = LaneTextPorts<Of, V>;
 };
 
 // The registers as they are, or exchanged: then the imaginary part of a number is the first in memory.
 template <bool exchanged>
-class RegisterPorts {
-public:
-    using Value = zulg::Lanes<zulg::PortableRegisters, 1, exchanged>;
-    using Pair = zulg::Lanes<zulg::PortableRegisters, 2, exchanged>;
-    using Lines = zulg::Lanes<zulg::PortableRegisters, 4, exchanged>;
-    template <class Graph>
-    using Constants = zulg::Doubles::Constants<Graph>;
-
-    Pair pair(int n) const {
-        return Pair(LaneTextPorts<double>::input(2 * n), LaneTextPorts<double>::input(2 * n + 1));
-    }
-    Lines pairs(int n, int m) const { return joined(pair(n), pair(m)); }
-    void pair(int k, Pair x) const {
-        outputs.emplace(OutputPlace{"re", k}, x.vector[exchanged ? 1 : 0]);
-        outputs.emplace(OutputPlace{"im", k}, x.vector[exchanged ? 0 : 1]);
-    }
-    void pairs(int k, int l, Lines x) const {
-        pair(k, part<0>(x));
-        pair(l, part<1>(x));
-    }
-
-    mutable std::map<OutputPlace, double> outputs = {};
+struct LaneRegisters {
+    template <int width>
+    using Of = zulg::Lanes<zulg::PortableRegisters, width, exchanged>;
+    using Ports = LaneTextPorts<Of, double>;
 };
 
 struct LaneTextResults {
@@ -141,12 +174,12 @@ LaneTextResults runLaneText() {
         Text::run(ports);
         return ports.outputs;
     };
-    results.lanes = run(LaneTextPorts<double>());
-    results.registers = run(RegisterPorts<false>());
-    results.exchanged = run(RegisterPorts<true>());
-    results.intervals = run(LaneTextPorts<Interval>());
+    results.lanes = run(LaneArrays<double>::Ports());
+    results.registers = run(LaneRegisters<false>::Ports());
+    results.exchanged = run(LaneRegisters<true>::Ports());
+    results.intervals = run(LaneArrays<Interval>::Ports());
     operationCounts = {};
-    run(LaneTextPorts<Counted>());
+    run(LaneArrays<Counted>::Ports());
     results.counted = operationCounts.sums() + operationCounts.multiplications;
     results.stated = Text::steps - static_cast<int>(results.lanes.size());
     return results;

@@ -9,7 +9,7 @@ namespace test {
 namespace {
 
 TEST(Texts, RunOnEveryKindOfNumber) {
-    ASSERT_EQ(textRuns().size(), 4u * 10 + 5 * 4);
+    ASSERT_EQ(textRuns().size(), 4u * 11 + 5 * 4);
     for (const TextRun& text : textRuns()) {
         const TextResults results = text.run();
         ASSERT_FALSE(results.doubles.empty()) << text.name;
@@ -34,7 +34,7 @@ TEST(Texts, HoldAsManyStepsAsTheyState) {
 
 // A text in lanes takes the same steps as the scalar text of its graph, so that the results are the same bits.
 TEST(LaneTexts, GiveTheBitsOfTheScalarText) {
-    ASSERT_EQ(laneTextRuns().size(), 10u + 6);
+    ASSERT_EQ(laneTextRuns().size(), 4u * 11 + 7 + 3);
     for (const LaneTextRun& text : laneTextRuns()) {
         const LaneTextResults results = text.run();
         EXPECT_EQ(results.lanes, results.scalar) << text.name;

@@ -1,5 +1,5 @@
-# Plain C++: no flag of a machine, no launcher, no entries.
+# Plain C++: no flag of a machine, no entries.
 set(target_compile_flags "")
 set(kernel_compile_flags -O2)
 set(kernel_forms scalar)
-set(long_kernel_launcher "")
+set(short_kernel_steps 0)

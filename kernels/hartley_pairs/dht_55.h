@@ -1,0 +1,721 @@
+// Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, hartley, 55.
+// Hartley transform of 55 points, form I; two lanes to a register.
+// 170 sums, 124 differences, 176 products of registers, which do the 959 steps of the graph, those with
+// `scale` included; 88 shuffles, 21 changes of sign.
+#pragma once
+
+#include "kernel/graphs.h"
+
+namespace zulg {
+
+template <>
+struct HartleyPairs<55> {
+    static constexpr int steps = 959;  // with `scale`
+    static constexpr double inverseRoot = 0.13483997249264842;  // 1/sqrt(55), for `scale`
+    static constexpr double constants[] = {
+        0.30901699437494745,  // c[0]: cos 2 pi 1/5
+        0.8090169943749475,  // c[1]: -cos 2 pi 2/5
+        0.9510565162951535,  // c[2]: sin 2 pi 1/5
+        0.5877852522924731,  // c[3]: sin 2 pi 2/5
+        0.4015958813743768,  // c[4]: Q[1] of 11
+        0.527940098934659,  // c[5]: P[1] of 11
+        0.21991735259851847,  // c[6]: -P[2] of 11
+        0.6258085634010283,  // c[7]: Q[2] of 11
+        0.35166595918026655,  // c[8]: -Q[3] of 11
+        0.5624331543870997,  // c[9]: -P[3] of 11
+        0.6395756210159789,  // c[10]: -P[4] of 11
+        0.1759062960840939,  // c[11]: -Q[4] of 11
+        0.1,  // c[12]: 1/10
+        0.33166247903553997,  // c[13]: -beta of 11
+    };
+
+    template <class Ports>
+    ZULG_INLINE static void run(const Ports& io) {
+        using V = typename Ports::Value;
+        using P = typename Ports::Pair;
+        const ConstantsOf<Ports, HartleyPairs> c{};
+        const P x1_2 = io.in(1, 2);
+        const P x54_53 = io.in(54, 53);
+        // input stage
+        const P t0 = x1_2 + x54_53;
+        const P t1 = x1_2 - x54_53;
+        const P x3_4 = io.in(3, 4);
+        const P x52_51 = io.in(52, 51);
+        const P t2 = x3_4 + x52_51;
+        const P t3 = x3_4 - x52_51;
+        const P x5_6 = io.in(5, 6);
+        const P x50_49 = io.in(50, 49);
+        const P t4 = x5_6 + x50_49;
+        const P t5 = x5_6 - x50_49;
+        const P x7_8 = io.in(7, 8);
+        const P x48_47 = io.in(48, 47);
+        const P t6 = x7_8 + x48_47;
+        const P t7 = x7_8 - x48_47;
+        const P x9_10 = io.in(9, 10);
+        const P x46_45 = io.in(46, 45);
+        const P t8 = x9_10 + x46_45;
+        const P t9 = x9_10 - x46_45;
+        const P x11_12 = io.in(11, 12);
+        const P x44_43 = io.in(44, 43);
+        const P t10 = x11_12 + x44_43;
+        const P t11 = x11_12 - x44_43;
+        const P x13_14 = io.in(13, 14);
+        const P x42_41 = io.in(42, 41);
+        const P t12 = x13_14 + x42_41;
+        const P t13 = x13_14 - x42_41;
+        const P x15_16 = io.in(15, 16);
+        const P x40_39 = io.in(40, 39);
+        const P t14 = x15_16 + x40_39;
+        const P t15 = x15_16 - x40_39;
+        const P x17_18 = io.in(17, 18);
+        const P x38_37 = io.in(38, 37);
+        const P t16 = x17_18 + x38_37;
+        const P t17 = x17_18 - x38_37;
+        const P x19_20 = io.in(19, 20);
+        const P x36_35 = io.in(36, 35);
+        const P t18 = x19_20 + x36_35;
+        const P t19 = x19_20 - x36_35;
+        const P x21_22 = io.in(21, 22);
+        const P x34_33 = io.in(34, 33);
+        const P t20 = x21_22 + x34_33;
+        const P t21 = x21_22 - x34_33;
+        const P x23_24 = io.in(23, 24);
+        const P x32_31 = io.in(32, 31);
+        const P t22 = x23_24 + x32_31;
+        const P t23 = x23_24 - x32_31;
+        const P x25_26 = io.in(25, 26);
+        const P x30_29 = io.in(30, 29);
+        const P t24 = x25_26 + x30_29;
+        const P t25 = x25_26 - x30_29;
+        const V x27 = io.in(27);
+        const V x28 = io.in(28);
+        const V t26 = x27 + x28;
+        const V t27 = x27 - x28;
+        const V t28 = part<0>(t10);
+        const V t29 = part<1>(t20);
+        // spectrum block of 5
+        const V t30 = t28 + t29;
+        const V x0 = io.in(0);
+        const V t31 = t30 + x0;
+        const V t32 = c[0] * t28;
+        const V t33 = c[1] * t29;
+        const V t34 = t32 - t33;
+        const V t35 = t34 + x0;
+        const V t36 = part<0>(t11);
+        const V t37 = c[2] * t36;
+        const V t38 = part<1>(t21);
+        const V t39 = c[3] * t38;
+        const V t40 = t37 + t39;
+        const V t41 = t35 - t40;
+        const V t42 = t35 + t40;
+        const V t43 = c[1] * t28;
+        const V t44 = x0 - t43;
+        const V t45 = c[0] * t29;
+        const V t46 = t44 + t45;
+        const V t47 = c[3] * t36;
+        const V t48 = c[2] * t38;
+        const V t49 = t47 - t48;
+        const V t50 = t46 - t49;
+        const V t51 = t46 + t49;
+        const P t52 = shuffled<1, 3>(t14, t15);
+        const P t53 = shuffled<1, 3>(t4, t5);
+        const P t54 = flipped<0, 1>(t53);
+        // complex block of 5
+        const P t55 = t52 + t54;
+        const P t56 = t52 - t54;
+        const V t57 = part<0>(t16);
+        const P t58 = joined(t57, t27);
+        const V t59 = part<0>(t17);
+        const V t60 = flipped<1>(t59);
+        const P t61 = joined(t26, t60);
+        const P t62 = t58 + t61;
+        const P t63 = t58 - t61;
+        const P t64 = t55 + t62;
+        const P t65 = shuffled<0, 2>(t4, t5);
+        const P t66 = t64 + t65;
+        const P t67 = c[0] * t55;
+        const P t68 = c[1] * t62;
+        const P t69 = t67 - t68;
+        const P t70 = t69 + t65;
+        const P t71 = c[2] * t56;
+        const P t72 = P(-c[3], c[3]) * t63;
+        const P t73 = t71 + t72;
+        const P t74 = shuffled<1, 0>(t73);
+        const P t75 = flipped<1, 0>(t74);
+        const P t76 = t70 + t75;
+        const P t77 = t70 - t75;
+        const P t78 = c[1] * t55;
+        const P t79 = t65 - t78;
+        const P t80 = c[0] * t62;
+        const P t81 = t79 + t80;
+        const P t82 = c[3] * t56;
+        const P t83 = P(c[2], -c[2]) * t63;
+        const P t84 = t82 + t83;
+        const P t85 = shuffled<1, 0>(t84);
+        const P t86 = flipped<1, 0>(t85);
+        const P t87 = t81 + t86;
+        const P t88 = t81 - t86;
+        const P t89 = shuffled<0, 2>(t20, t21);
+        const P t90 = shuffled<0, 2>(t0, t1);
+        const P t91 = flipped<0, 1>(t90);
+        // complex block of 5
+        const P t92 = t89 + t91;
+        const P t93 = t89 - t91;
+        const P t94 = shuffled<1, 3>(t10, t11);
+        const P t95 = shuffled<0, 2>(t22, t23);
+        const P t96 = t94 + t95;
+        const P t97 = shuffled<0, 3>(t94, t95);
+        const P t98 = shuffled<0, 3>(t95, t94);
+        const P t99 = t97 - t98;
+        const P t100 = flipped<0, 1>(t96);
+        const P t101 = t92 + t100;
+        const P t102 = shuffled<1, 3>(t8, t9);
+        const P t103 = t101 + t102;
+        const P t104 = c[0] * t92;
+        const P t105 = P(-c[1], c[1]) * t96;
+        const P t106 = t104 + t105;
+        const P t107 = t106 + t102;
+        const P t108 = c[2] * t93;
+        const P t109 = c[3] * t99;
+        const P t110 = t108 - t109;
+        const P t111 = shuffled<1, 0>(t110);
+        const P t112 = flipped<1, 0>(t111);
+        const P t113 = t107 + t112;
+        const P t114 = t107 - t112;
+        const P t115 = c[1] * t92;
+        const P t116 = t102 - t115;
+        const P t117 = P(c[0], -c[0]) * t96;
+        const P t118 = t116 + t117;
+        const P t119 = c[3] * t93;
+        const P t120 = c[2] * t99;
+        const P t121 = t119 + t120;
+        const P t122 = shuffled<1, 0>(t121);
+        const P t123 = flipped<1, 0>(t122);
+        const P t124 = t118 + t123;
+        const P t125 = t118 - t123;
+        const P t126 = shuffled<1, 3>(t24, t25);
+        const P t127 = shuffled<1, 3>(t2, t3);
+        // complex block of 5
+        const P t128 = t126 + t127;
+        const P t129 = t126 - t127;
+        const P t130 = shuffled<0, 2>(t6, t7);
+        const P t131 = shuffled<1, 3>(t16, t17);
+        const P t132 = t130 + t131;
+        const P t133 = shuffled<0, 3>(t130, t131);
+        const P t134 = shuffled<0, 3>(t131, t130);
+        const P t135 = t133 - t134;
+        const P t136 = flipped<0, 1>(t132);
+        const P t137 = t128 + t136;
+        const P t138 = shuffled<0, 2>(t14, t15);
+        const P t139 = t137 + t138;
+        const P t140 = c[0] * t128;
+        const P t141 = P(-c[1], c[1]) * t132;
+        const P t142 = t140 + t141;
+        const P t143 = t142 + t138;
+        const P t144 = c[2] * t129;
+        const P t145 = c[3] * t135;
+        const P t146 = t144 - t145;
+        const P t147 = shuffled<1, 0>(t146);
+        const P t148 = flipped<1, 0>(t147);
+        const P t149 = t143 + t148;
+        const P t150 = t143 - t148;
+        const P t151 = c[1] * t128;
+        const P t152 = t138 - t151;
+        const P t153 = P(c[0], -c[0]) * t132;
+        const P t154 = t152 + t153;
+        const P t155 = c[3] * t129;
+        const P t156 = c[2] * t135;
+        const P t157 = t155 + t156;
+        const P t158 = shuffled<1, 0>(t157);
+        const P t159 = flipped<1, 0>(t158);
+        const P t160 = t154 + t159;
+        const P t161 = t154 - t159;
+        const P t162 = shuffled<1, 2>(t22, t9);
+        const P t163 = shuffled<0, 3>(t8, t23);
+        const P t164 = flipped<0, 1>(t163);
+        // complex block of 5
+        const P t165 = t162 + t164;
+        const P t166 = t162 - t164;
+        const P t167 = shuffled<1, 3>(t0, t1);
+        const P t168 = shuffled<0, 2>(t12, t13);
+        const P t169 = t167 + t168;
+        const P t170 = shuffled<0, 3>(t167, t168);
+        const P t171 = shuffled<0, 3>(t168, t167);
+        const P t172 = t170 - t171;
+        const P t173 = flipped<0, 1>(t169);
+        const P t174 = t165 + t173;
+        const P t175 = shuffled<1, 3>(t18, t19);
+        const P t176 = t174 + t175;
+        const P t177 = c[0] * t165;
+        const P t178 = P(-c[1], c[1]) * t169;
+        const P t179 = t177 + t178;
+        const P t180 = t179 + t175;
+        const P t181 = c[2] * t166;
+        const P t182 = P(-c[3], c[3]) * t172;
+        const P t183 = t181 + t182;
+        const P t184 = shuffled<1, 0>(t183);
+        const P t185 = t180 + t184;
+        const P t186 = t180 - t184;
+        const P t187 = c[1] * t165;
+        const P t188 = t175 - t187;
+        const P t189 = P(c[0], -c[0]) * t169;
+        const P t190 = t188 + t189;
+        const P t191 = c[2] * t172;
+        const P t192 = P(c[3], -c[3]) * t166;
+        const P t193 = t191 + t192;
+        const P t194 = shuffled<1, 0>(t193);
+        const P t195 = flipped<1, 0>(t194);
+        const P t196 = t190 + t195;
+        const P t197 = t190 - t195;
+        const P t198 = shuffled<0, 3>(t18, t13);
+        const P t199 = shuffled<1, 2>(t12, t19);
+        const P t200 = flipped<0, 1>(t199);
+        // complex block of 5
+        const P t201 = t198 + t200;
+        const P t202 = t198 - t200;
+        const P t203 = shuffled<0, 2>(t2, t3);
+        const P t204 = shuffled<1, 3>(t6, t7);
+        const P t205 = flipped<0, 1>(t204);
+        const P t206 = t203 + t205;
+        const P t207 = t203 - t205;
+        const P t208 = t201 + t206;
+        const P t209 = shuffled<0, 2>(t24, t25);
+        const P t210 = t208 + t209;
+        const P t211 = c[0] * t201;
+        const P t212 = c[1] * t206;
+        const P t213 = t211 - t212;
+        const P t214 = t213 + t209;
+        const P t215 = c[2] * t202;
+        const P t216 = P(-c[3], c[3]) * t207;
+        const P t217 = t215 + t216;
+        const P t218 = shuffled<1, 0>(t217);
+        const P t219 = t214 + t218;
+        const P t220 = t214 - t218;
+        const P t221 = c[1] * t201;
+        const P t222 = t209 - t221;
+        const P t223 = c[0] * t206;
+        const P t224 = t222 + t223;
+        const P t225 = c[2] * t207;
+        const P t226 = P(c[3], -c[3]) * t202;
+        const P t227 = t225 + t226;
+        const P t228 = shuffled<1, 0>(t227);
+        const P t229 = flipped<1, 0>(t228);
+        const P t230 = t224 + t229;
+        const P t231 = t224 - t229;
+        const P t232 = shuffled<0, 2>(t103, t113);
+        const P t233 = shuffled<0, 2>(t210, t219);
+        // real block of 5
+        const P t234 = t232 + t233;
+        const P t235 = t232 - t233;
+        const P t236 = shuffled<0, 2>(t139, t149);
+        const P t237 = shuffled<0, 2>(t176, t185);
+        const P t238 = t236 + t237;
+        const P t239 = t236 - t237;
+        const P t240 = t234 + t238;
+        const P t241 = shuffled<0, 2>(t66, t76);
+        const P t242 = t240 + t241;
+        const P t243 = c[0] * t234;
+        const P t244 = c[1] * t238;
+        const P t245 = t243 - t244;
+        const P t246 = t245 + t241;
+        const P t247 = c[3] * t239;
+        const P t248 = c[2] * t235;
+        const P t249 = t247 - t248;
+        const P t250 = c[1] * t234;
+        const P t251 = t241 - t250;
+        const P t252 = c[0] * t238;
+        const P t253 = t251 + t252;
+        const P t254 = c[3] * t235;
+        const P t255 = c[2] * t239;
+        const P t256 = t254 + t255;
+        const P t257 = shuffled<1, 3>(t210, t219);
+        const P t258 = shuffled<1, 3>(t103, t113);
+        // real block of 5
+        const P t259 = t257 - t258;
+        const P t260 = t258 + t257;
+        const P t261 = shuffled<1, 3>(t139, t149);
+        const P t262 = shuffled<1, 3>(t176, t185);
+        const P t263 = t261 + t262;
+        const P t264 = t261 - t262;
+        const P t265 = t259 + t263;
+        const P t266 = shuffled<1, 3>(t66, t76);
+        const P t267 = t265 + t266;
+        const P t268 = c[0] * t259;
+        const P t269 = c[1] * t263;
+        const P t270 = t268 - t269;
+        const P t271 = t270 + t266;
+        const P t272 = c[2] * t260;
+        const P t273 = c[3] * t264;
+        const P t274 = t272 + t273;
+        const P t275 = c[1] * t259;
+        const P t276 = t266 - t275;
+        const P t277 = c[0] * t263;
+        const P t278 = t276 + t277;
+        const P t279 = c[3] * t260;
+        const P t280 = c[2] * t264;
+        const P t281 = t279 - t280;
+        const P t282 = joined(t31, t41);
+        // spectrum block of 11, multiplier 5
+        const P t283 = c[12] * t242;
+        const P t284 = t282 - t283;
+        const P t285 = c[4] * t278;
+        const P t286 = c[5] * t281;
+        const P t287 = t285 + t286;
+        const P t288 = c[5] * t278;
+        const P t289 = c[4] * t281;
+        const P t290 = t288 - t289;
+        const P t291 = c[6] * t246;
+        const P t292 = c[7] * t249;
+        const P t293 = t291 + t292;
+        const P t294 = c[7] * t246;
+        const P t295 = c[6] * t249;
+        const P t296 = t294 - t295;
+        const P t297 = c[8] * t271;
+        const P t298 = c[9] * t274;
+        const P t299 = t297 + t298;
+        const P t300 = c[8] * t274;
+        const P t301 = c[9] * t271;
+        const P t302 = t300 - t301;
+        const P t303 = c[10] * t253;
+        const P t304 = c[11] * t256;
+        const P t305 = t303 + t304;
+        const P t306 = c[10] * t256;
+        const P t307 = c[11] * t253;
+        const P t308 = t306 - t307;
+        const P t309 = c[13] * t267;
+        // spectrum block of 2
+        const P t310 = t284 - t309;
+        const P t311 = t284 + t309;
+        // complex block of 2
+        const P t312 = t296 - t302;
+        const P t313 = t293 + t299;
+        const P t314 = t296 + t302;
+        const P t315 = t299 - t293;
+        // complex block of 2
+        const P t316 = t308 - t290;
+        const P t317 = t287 - t305;
+        const P t318 = t308 + t290;
+        const P t319 = t305 + t287;
+        // spectrum block of 5, multiplier 2
+        const P t320 = t317 - t313;
+        const P t321 = t320 + t310;
+        io.out(50, 39, t321);
+        const P t322 = c[0] * t313;
+        const P t323 = t310 - t322;
+        const P t324 = c[1] * t317;
+        const P t325 = t323 - t324;
+        const P t326 = c[2] * t312;
+        const P t327 = c[3] * t316;
+        const P t328 = t326 + t327;
+        const P t329 = t325 - t328;
+        io.out(30, 19, t329);
+        const P t330 = t325 + t328;
+        io.out(10, 54, t330);
+        const P t331 = c[1] * t313;
+        const P t332 = c[0] * t317;
+        const P t333 = t331 + t332;
+        const P t334 = t333 + t310;
+        const P t335 = c[3] * t312;
+        const P t336 = c[2] * t316;
+        const P t337 = t335 - t336;
+        const P t338 = t334 - t337;
+        io.out(40, 29, t338);
+        const P t339 = t334 + t337;
+        io.out(35, 24, t339);
+        // spectrum block of 5, multiplier 2
+        const P t340 = t315 - t319;
+        const P t341 = t340 + t311;
+        io.out(5, 49, t341);
+        const P t342 = c[0] * t315;
+        const P t343 = c[1] * t319;
+        const P t344 = t342 + t343;
+        const P t345 = t344 + t311;
+        const P t346 = c[2] * t314;
+        const P t347 = c[3] * t318;
+        const P t348 = t346 + t347;
+        const P t349 = t345 - t348;
+        io.out(25, 14, t349);
+        const P t350 = t345 + t348;
+        io.out(45, 34, t350);
+        const P t351 = c[1] * t315;
+        const P t352 = t311 - t351;
+        const P t353 = c[0] * t319;
+        const P t354 = t352 - t353;
+        const P t355 = c[3] * t314;
+        const P t356 = c[2] * t318;
+        const P t357 = t355 - t356;
+        const P t358 = t354 - t357;
+        io.out(15, 4, t358);
+        const P t359 = t354 + t357;
+        io.out(20, 9, t359);
+        // spectrum block of 11, multiplier 5
+        const P t360 = t282 + t242;
+        io.out(0, 44, t360);
+        const P t361 = shuffled<0, 2>(t124, t125);
+        const P t362 = shuffled<0, 2>(t230, t231);
+        // real block of 5
+        const P t363 = t361 + t362;
+        const P t364 = t361 - t362;
+        const P t365 = shuffled<0, 2>(t160, t161);
+        const P t366 = shuffled<0, 2>(t196, t197);
+        const P t367 = t365 + t366;
+        const P t368 = t365 - t366;
+        const P t369 = t363 + t367;
+        const P t370 = shuffled<0, 2>(t87, t88);
+        const P t371 = t369 + t370;
+        const P t372 = c[0] * t363;
+        const P t373 = c[1] * t367;
+        const P t374 = t372 - t373;
+        const P t375 = t374 + t370;
+        const P t376 = c[3] * t368;
+        const P t377 = c[2] * t364;
+        const P t378 = t376 - t377;
+        const P t379 = c[1] * t363;
+        const P t380 = t370 - t379;
+        const P t381 = c[0] * t367;
+        const P t382 = t380 + t381;
+        const P t383 = c[3] * t364;
+        const P t384 = c[2] * t368;
+        const P t385 = t383 + t384;
+        const P t386 = shuffled<1, 3>(t230, t231);
+        const P t387 = shuffled<1, 3>(t124, t125);
+        // real block of 5
+        const P t388 = t386 - t387;
+        const P t389 = t387 + t386;
+        const P t390 = shuffled<1, 3>(t160, t161);
+        const P t391 = shuffled<1, 3>(t196, t197);
+        const P t392 = t390 + t391;
+        const P t393 = t390 - t391;
+        const P t394 = t388 + t392;
+        const P t395 = shuffled<1, 3>(t87, t88);
+        const P t396 = t394 + t395;
+        const P t397 = c[0] * t388;
+        const P t398 = c[1] * t392;
+        const P t399 = t397 - t398;
+        const P t400 = t399 + t395;
+        const P t401 = c[2] * t389;
+        const P t402 = c[3] * t393;
+        const P t403 = t401 + t402;
+        const P t404 = c[1] * t388;
+        const P t405 = t395 - t404;
+        const P t406 = c[0] * t392;
+        const P t407 = t405 + t406;
+        const P t408 = c[3] * t389;
+        const P t409 = c[2] * t393;
+        const P t410 = t408 - t409;
+        const P t411 = joined(t50, t51);
+        // spectrum block of 11, multiplier 5
+        const P t412 = c[12] * t371;
+        const P t413 = t411 - t412;
+        const P t414 = c[4] * t407;
+        const P t415 = c[5] * t410;
+        const P t416 = t414 + t415;
+        const P t417 = c[5] * t407;
+        const P t418 = c[4] * t410;
+        const P t419 = t417 - t418;
+        const P t420 = c[6] * t375;
+        const P t421 = c[7] * t378;
+        const P t422 = t420 + t421;
+        const P t423 = c[7] * t375;
+        const P t424 = c[6] * t378;
+        const P t425 = t423 - t424;
+        const P t426 = c[8] * t400;
+        const P t427 = c[9] * t403;
+        const P t428 = t426 + t427;
+        const P t429 = c[8] * t403;
+        const P t430 = c[9] * t400;
+        const P t431 = t429 - t430;
+        const P t432 = c[10] * t382;
+        const P t433 = c[11] * t385;
+        const P t434 = t432 + t433;
+        const P t435 = c[10] * t385;
+        const P t436 = c[11] * t382;
+        const P t437 = t435 - t436;
+        const P t438 = c[13] * t396;
+        // spectrum block of 2
+        const P t439 = t413 - t438;
+        const P t440 = t413 + t438;
+        // complex block of 2
+        const P t441 = t425 - t431;
+        const P t442 = t422 + t428;
+        const P t443 = t425 + t431;
+        const P t444 = t428 - t422;
+        // complex block of 2
+        const P t445 = t437 - t419;
+        const P t446 = t416 - t434;
+        const P t447 = t437 + t419;
+        const P t448 = t434 + t416;
+        // spectrum block of 5, multiplier 2
+        const P t449 = t446 - t442;
+        const P t450 = t449 + t439;
+        io.out(28, 17, t450);
+        const P t451 = c[0] * t442;
+        const P t452 = t439 - t451;
+        const P t453 = c[1] * t446;
+        const P t454 = t452 - t453;
+        const P t455 = c[2] * t441;
+        const P t456 = c[3] * t445;
+        const P t457 = t455 + t456;
+        const P t458 = t454 - t457;
+        io.out(8, 52, t458);
+        const P t459 = t454 + t457;
+        io.out(43, 32, t459);
+        const P t460 = c[1] * t442;
+        const P t461 = c[0] * t446;
+        const P t462 = t460 + t461;
+        const P t463 = t462 + t439;
+        const P t464 = c[3] * t441;
+        const P t465 = c[2] * t445;
+        const P t466 = t464 - t465;
+        const P t467 = t463 - t466;
+        io.out(18, 7, t467);
+        const P t468 = t463 + t466;
+        io.out(13, 2, t468);
+        // spectrum block of 5, multiplier 2
+        const P t469 = t444 - t448;
+        const P t470 = t469 + t440;
+        io.out(38, 27, t470);
+        const P t471 = c[0] * t444;
+        const P t472 = c[1] * t448;
+        const P t473 = t471 + t472;
+        const P t474 = t473 + t440;
+        const P t475 = c[2] * t443;
+        const P t476 = c[3] * t447;
+        const P t477 = t475 + t476;
+        const P t478 = t474 - t477;
+        io.out(3, 47, t478);
+        const P t479 = t474 + t477;
+        io.out(23, 12, t479);
+        const P t480 = c[1] * t444;
+        const P t481 = t440 - t480;
+        const P t482 = c[0] * t448;
+        const P t483 = t481 - t482;
+        const P t484 = c[3] * t443;
+        const P t485 = c[2] * t447;
+        const P t486 = t484 - t485;
+        const P t487 = t483 - t486;
+        io.out(48, 37, t487);
+        const P t488 = t483 + t486;
+        io.out(53, 42, t488);
+        // spectrum block of 11, multiplier 5
+        const P t489 = t411 + t371;
+        io.out(33, 22, t489);
+        const P t490 = flipped<0, 1>(t114);
+        // real block of 5
+        const P t491 = t220 + t490;
+        const P t492 = flipped<1, 0>(t220);
+        const P t493 = t114 + t492;
+        const P t494 = t150 + t186;
+        const P t495 = t150 - t186;
+        const P t496 = t491 + t494;
+        const P t497 = t496 + t77;
+        const P t498 = c[0] * t491;
+        const P t499 = c[1] * t494;
+        const P t500 = t498 - t499;
+        const P t501 = t500 + t77;
+        const P t502 = P(-c[2], c[2]) * t493;
+        const P t503 = c[3] * t495;
+        const P t504 = t502 + t503;
+        const P t505 = c[1] * t491;
+        const P t506 = t77 - t505;
+        const P t507 = c[0] * t494;
+        const P t508 = t506 + t507;
+        const P t509 = c[3] * t493;
+        const P t510 = P(c[2], -c[2]) * t495;
+        const P t511 = t509 + t510;
+        const V t512 = part<0>(t497);
+        // spectrum block of 11, multiplier 5
+        const V t513 = c[12] * t512;
+        const V t514 = t42 - t513;
+        const P t515 = shuffled<1, 3>(t511, t508);
+        const P t516 = c[5] * t515;
+        const P t517 = shuffled<1, 0>(t515);
+        const P t518 = P(c[4], -c[4]) * t517;
+        const P t519 = t516 + t518;
+        const P t520 = shuffled<0, 2>(t504, t501);
+        const P t521 = c[7] * t520;
+        const P t522 = shuffled<1, 0>(t520);
+        const P t523 = P(c[6], -c[6]) * t522;
+        const P t524 = t521 + t523;
+        const P t525 = shuffled<1, 3>(t501, t504);
+        const P t526 = c[8] * t525;
+        const P t527 = shuffled<1, 0>(t525);
+        const P t528 = P(c[9], -c[9]) * t527;
+        const P t529 = t526 + t528;
+        const P t530 = shuffled<0, 2>(t508, t511);
+        const P t531 = c[10] * t530;
+        const P t532 = shuffled<1, 0>(t530);
+        const P t533 = P(c[11], -c[11]) * t532;
+        const P t534 = t531 + t533;
+        const V t535 = part<1>(t497);
+        const V t536 = c[13] * t535;
+        // spectrum block of 2
+        const V t537 = t514 - t536;
+        const V t538 = t514 + t536;
+        const P t539 = flipped<0, 1>(t529);
+        // complex block of 2
+        const P t540 = t524 + t539;
+        const P t541 = flipped<1, 0>(t524);
+        const P t542 = t541 + t529;
+        const P t543 = shuffled<0, 3>(t519, t534);
+        const P t544 = shuffled<0, 3>(t534, t519);
+        // complex block of 2
+        const P t545 = t543 - t544;
+        const P t546 = t534 + t519;
+        const P t547 = shuffled<0, 2>(t540, t542);
+        // spectrum block of 5, multiplier 2
+        const P t548 = c[0] * t547;
+        const V t549 = part<0>(t548);
+        const V t550 = t537 - t549;
+        const P t551 = c[1] * t547;
+        const V t552 = part<0>(t551);
+        const V t553 = part<0>(t545);
+        const V t554 = c[0] * t553;
+        const V t555 = t552 + t554;
+        const P t556 = shuffled<0, 3>(t545, t547);
+        const P t557 = shuffled<0, 2>(t547, t546);
+        const P t558 = t556 - t557;
+        const P t559 = joined(t537, t538);
+        const P t560 = t558 + t559;
+        io.out(6, 16, t560);
+        const V t561 = part<1>(t548);
+        const V t562 = part<0>(t546);
+        // spectrum block of 5, multiplier 2
+        const V t563 = c[1] * t562;
+        const V t564 = t561 + t563;
+        const P t565 = joined(t550, t564);
+        // spectrum block of 5, multiplier 2
+        const V t566 = -c[1] * t553;
+        const P t567 = joined(t566, t538);
+        const P t568 = t565 + t567;
+        const P t569 = shuffled<1, 3>(t540, t542);
+        const P t570 = c[2] * t569;
+        const P t571 = shuffled<1, 3>(t545, t546);
+        const P t572 = c[3] * t571;
+        const P t573 = t570 + t572;
+        const P t574 = t568 - t573;
+        io.out(41, 36, t574);
+        const P t575 = t568 + t573;
+        io.out(21, 1, t575);
+        const V t576 = part<1>(t551);
+        // spectrum block of 5, multiplier 2
+        const V t577 = t538 - t576;
+        const P t578 = joined(t555, t577);
+        const V t579 = -c[0] * t562;
+        const P t580 = joined(t537, t579);
+        // spectrum block of 5, multiplier 2
+        const P t581 = t578 + t580;
+        const P t582 = c[3] * t569;
+        const P t583 = c[2] * t571;
+        const P t584 = t582 - t583;
+        const P t585 = t581 - t584;
+        io.out(51, 26, t585);
+        const P t586 = t581 + t584;
+        io.out(46, 31, t586);
+        // spectrum block of 11, multiplier 5
+        const V t587 = t42 + t512;
+        io.out(11, t587);
+    }
+};
+
+}  // namespace zulg

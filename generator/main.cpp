@@ -35,13 +35,12 @@ const gen::GraphEntry& find(const std::string& family, const std::string& length
 }
 
 const gen::Tuning& tuning() {
-    static const gen::Tuning choices = gen::readTuning();
+    static const gen::Tuning choices = gen::readTuning(".");
     return choices;
 }
 
 std::string graphText(const gen::GraphEntry& entry, const gen::Graph& graph) {
-    const bool isBisected = tuning().orderOf(entry.name(), gen::Order::Blocks) == gen::Order::Bisection;
-    return gen::emitGraph(entry, graph, isBisected ? gen::byBisection(graph) : gen::blockByBlock(graph));
+    return gen::emitGraph(entry, graph, tuning().schedule(entry, graph));
 }
 
 // Path and text of every generated file.

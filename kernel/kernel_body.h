@@ -41,9 +41,20 @@ inline constexpr Layout layoutOf<Family::DFTFwd_RToPerm> = Layout::Perm;
 template <>
 inline constexpr Layout layoutOf<Family::DFTInv_PermToR> = Layout::Perm;
 
-// The ports through which a family runs a text.
+// Whether a family stores a half spectrum.
+template <Family family>
+inline constexpr bool isRealForward =
+    family == Family::DFTFwd_RToCCS || family == Family::DFTFwd_RToPack || family == Family::DFTFwd_RToPerm;
+
+// The ports through which a family runs a text: in lanes, or with one number to a register.
 template <Family family, class Text, class Element>
 struct PortsOf;
+
+template <Family family, template <int> class TextInLanes, int length, class Element>
+struct PortsOf<family, TextInLanes<length>, Element> {
+    using Type = LanePorts<TargetNumbers, Element, layoutOf<family>, length, family == Family::DFTInv_CToC,
+                           isRealForward<family>>;
+};
 
 template <int length, class Element>
 struct PortsOf<Family::DFTFwd_CToC, ComplexGraph<length>, Element> {
@@ -54,48 +65,16 @@ struct PortsOf<Family::DFTInv_CToC, ComplexGraph<length>, Element> {
     using Type = ExchangedPorts<TargetNumbers, Element>;
 };
 template <Family family, int length, class Element>
-struct PortsOf<family, ComplexPairs<length>, Element> {
-    using Type = LanePorts<TargetNumbers, Element, family == Family::DFTInv_CToC>;
-};
-template <Family family, int length, class Element>
-struct PortsOf<family, ComplexLines<length>, Element> {
-    using Type = LanePorts<TargetNumbers, Element, family == Family::DFTInv_CToC>;
-};
-template <Family family, int length, class Element>
 struct PortsOf<family, RealForwardGraph<length>, Element> {
     using Type = RealForwardPorts<TargetNumbers, Element, layoutOf<family>, length>;
-};
-template <Family family, int length, class Element>
-struct PortsOf<family, RealForwardPairs<length>, Element> {
-    using Type = RealForwardLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
-};
-template <Family family, int length, class Element>
-struct PortsOf<family, RealForwardLines<length>, Element> {
-    using Type = RealForwardLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
 };
 template <Family family, int length, class Element>
 struct PortsOf<family, RealInverseGraph<length>, Element> {
     using Type = RealInversePorts<TargetNumbers, Element, layoutOf<family>, length>;
 };
 template <Family family, int length, class Element>
-struct PortsOf<family, RealInversePairs<length>, Element> {
-    using Type = RealInverseLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
-};
-template <Family family, int length, class Element>
-struct PortsOf<family, RealInverseLines<length>, Element> {
-    using Type = RealInverseLanePorts<TargetNumbers, Element, layoutOf<family>, length>;
-};
-template <Family family, int length, class Element>
 struct PortsOf<family, HartleyGraph<length>, Element> {
     using Type = RealPorts<TargetNumbers, Element>;
-};
-template <Family family, int length, class Element>
-struct PortsOf<family, HartleyPairs<length>, Element> {
-    using Type = RealLanePorts<TargetNumbers, Element, length>;
-};
-template <Family family, int length, class Element>
-struct PortsOf<family, HartleyLines<length>, Element> {
-    using Type = RealLanePorts<TargetNumbers, Element, length>;
 };
 
 template <Family family, int length, class Element>

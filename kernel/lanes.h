@@ -46,6 +46,7 @@ struct Lanes {
 
     Lanes() = default;
     ZULG_INLINE explicit Lanes(Vector from) : vector(from) {}
+    // The same number in all lanes.
     ZULG_INLINE explicit Lanes(double all) requires(width == 2) : vector{all, all} {}
     ZULG_INLINE explicit Lanes(double all) requires(width == 4) : vector{all, all, all, all} {}
 
@@ -58,7 +59,7 @@ struct Lanes {
     static constexpr int place(int lane) { return exchanged ? lane ^ 1 : lane; }
 };
 
-// One number by itself.
+// One number by itself: its vector is that number.
 template <class Registers, bool exchanged>
 struct Lanes<Registers, 1, exchanged> {
     double vector;
@@ -84,7 +85,7 @@ ZULG_INLINE Lanes<Registers, width, exchanged> operator*(Lanes<Registers, width,
 }
 template <class Registers, int width, bool exchanged>
 ZULG_INLINE Lanes<Registers, width, exchanged> operator*(double factor, Lanes<Registers, width, exchanged> x) {
-    return Lanes<Registers, width, exchanged>((typename Vectors<width>::Type{} + factor) * x.vector);
+    return Lanes<Registers, width, exchanged>(factor) * x;
 }
 
 // The signs of these lanes changed.
@@ -165,20 +166,6 @@ ZULG_INLINE Lanes<Registers, 1, exchanged> part(Lanes<Registers, 2, exchanged> x
     return Lanes<Registers, 1, exchanged>(x.vector[Lanes<Registers, 2, exchanged>::place(lane)]);
 }
 
-template <class Registers, bool exchanged>
-ZULG_INLINE Lanes<Registers, 1, exchanged> operator+(Lanes<Registers, 1, exchanged> a,
-                                                     Lanes<Registers, 1, exchanged> b) {
-    return Lanes<Registers, 1, exchanged>(a.vector + b.vector);
-}
-template <class Registers, bool exchanged>
-ZULG_INLINE Lanes<Registers, 1, exchanged> operator-(Lanes<Registers, 1, exchanged> a,
-                                                     Lanes<Registers, 1, exchanged> b) {
-    return Lanes<Registers, 1, exchanged>(a.vector - b.vector);
-}
-template <class Registers, bool exchanged>
-ZULG_INLINE Lanes<Registers, 1, exchanged> operator*(double factor, Lanes<Registers, 1, exchanged> x) {
-    return Lanes<Registers, 1, exchanged>(factor * x.vector);
-}
 template <int isFlipped, class Registers, bool exchanged>
 ZULG_INLINE Lanes<Registers, 1, exchanged> flipped(Lanes<Registers, 1, exchanged> x) {
     return Lanes<Registers, 1, exchanged>(isFlipped ? -x.vector : x.vector);

@@ -9,9 +9,9 @@ namespace tune {
 
 struct TimedKernel {
     const char* folder;  // of the text: "real_forward_lines"
-    const char* name;    // of the kernel: "DFTFwd_RToCCS.x86_64_v3"
+    const char* family;  // of the kernel: "DFTFwd_RToCCS"
+    const char* level;   // "x86_64_v3"
     int length;
-    const char* level;
     zulg::KernelRoutine<float> single;
     zulg::KernelRoutine<double> wide;
 };

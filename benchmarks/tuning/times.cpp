@@ -85,11 +85,12 @@ void report(const TimedKernel& timed, const std::vector<Module>& modules,
     std::vector<const char*> names;
     for (const Module& module : modules)
         for (const TimedKernel& kernel : module.kernels)
-            if (kernel.length == timed.length && std::string_view(kernel.name) == timed.name)
+            if (kernel.length == timed.length && std::string_view(kernel.family) == timed.family &&
+                std::string_view(kernel.level) == timed.level)
                 routines.push_back(kernel.*routine), names.push_back(module.name.c_str());
     const std::vector<double> ticks = leastTicks(routines, timed.length, copy);
     for (std::size_t i = 0; i < ticks.size(); ++i)
-        std::printf("%s %d %s %s %s %.2f\n", timed.folder, timed.length, timed.name,
+        std::printf("%s %d %s.%s %s %s %.2f\n", timed.folder, timed.length, timed.family, timed.level,
                     sizeof(Element) == sizeof(double) ? "double" : "single", names[i], ticks[i]);
 }
 

@@ -4,8 +4,8 @@ tuning.py prepare FOLDER [--folder TEXTS] [--length N]    a folder for each alte
 tuning.py settle RECORDS... [--check]                     the table, from what tune_times printed
 
 An alternative is a table with a row for each text, or with no row. A text gets its row if its kernels take longer by
-LEAST_GAIN percent or more without it. That figure stands beside the row. It is the geometric mean over the kernels of
-the text, both elements, all levels that take it, and the places at which a kernel lies in the code. The time of a
+LEAST_GAIN percent or more without it, and the row says by how many. That figure is the geometric mean over the kernels
+of the text, both elements, all levels that take it, and the places at which a kernel lies in the code. The time of a
 kernel at a place is the least that any process had.
 """
 import collections
@@ -25,7 +25,7 @@ HEAD = """\
 # What this machine likes: texts in lanes whose order of steps is settled by measurement. scripts/tune writes this file.
 # A text without a row has the usual order of its form: two lanes block by block, four by recursive bisection.
 #
-#   folder, length   the text: kernels/FOLDER, `generate show`
+#   folder, length   the text: that of this length in kernels/FOLDER
 #   order            blocks or bisection: the other one
 #   gain             by how many percent its kernels take longer without this row; {least} at least
 #
@@ -83,10 +83,11 @@ def least_times(records):
     return times
 
 
-def gain(kernels):
-    """By how many percent the usual order takes longer than the other one."""
+def settled(kernels):
+    """The gain of the row: by how many percent the usual order takes longer than the other one. None for no row."""
     logarithms = [math.log(ticks["usual"] / ticks["other"]) for ticks in kernels.values()]
-    return 100 * math.expm1(sum(logarithms) / len(logarithms))
+    gain = 100 * math.expm1(sum(logarithms) / len(logarithms))
+    return gain if gain >= LEAST_GAIN else None
 
 
 def machine():
@@ -99,11 +100,11 @@ def settle(records, is_check):
     before, times, texts = rows_of(TREE / TABLE), least_times(records), all_texts()
     table = {}
     for text in texts:
-        if text not in times:
-            if text in before:
-                table[text] = before[text]
-        elif gain(times[text]) >= LEAST_GAIN:
-            table[text] = f"{gain(times[text]):.0f}"
+        gain = settled(times[text]) if text in times else None
+        if gain is not None:
+            table[text] = f"{gain:.0f}"
+        elif text in before and text not in times:
+            table[text] = before[text]
         if text in table or text in before:
             print(f"{text[0]:<20} {text[1]:>8}  {texts[text]:<9} {table.get(text, 'no row'):>6}"
                   f"   before: {before.get(text, 'no row')}")

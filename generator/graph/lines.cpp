@@ -118,31 +118,29 @@ private:
     void begin() {
         strandOf = PerNode<Strand>(graph.nodes().size(), none);
         other.assign(strands.size(), none);
-        isFirst.assign(strands.size(), false);
         for (Inside& inside : blocks) inside.steps.clear();
         for (Strand strand = 0; strand < strands.size(); ++strand) {
             for (NodeId id : strands[strand]) strandOf[id] = strand;
             own(first(strand).block).steps.push_back(strand);
         }
-        coupled = mates;
         journal.clear();
+        couples.clear();
     }
 
     void end() {
-        std::vector<Group> result;
-        for (Strand strand = 0; strand < strands.size(); ++strand) {
-            if (other[strand] != none && !isFirst[strand]) continue;
-            result.push_back(strands[strand]);
-            if (other[strand] == none) continue;
-            const Group& mate = strands[other[strand]];
-            result.back().insert(result.back().end(), mate.begin(), mate.end());
+        for (const auto& [first, second] : journal) {
+            strands[first].insert(strands[first].end(), strands[second].begin(), strands[second].end());
+            strands[second].clear();
         }
-        strands = std::move(result);
-        mates = coupled;
+        std::erase_if(strands, [](const Group& strand) { return strand.empty(); });
+        for (const auto& [first, second] : couples) {
+            mate(first) = second;
+            mate(second) = first;
+        }
     }
 
-    // A block that only hands on to one block inside stands for that one.
-    BlockId handedOn(BlockId block) {
+    // A block without steps of its own and with one block inside is no other line than that block.
+    BlockId lineOf(BlockId block) {
         while (own(block).steps.empty() && own(block).children.size() == 1) block = own(block).children[0];
         return block;
     }
@@ -151,7 +149,7 @@ private:
     std::vector<Line> linesInside(const Line& line) {
         std::vector<Line> lines;
         for (BlockId block : own(line[0]).children) {
-            const BlockId child = handedOn(block);
+            const BlockId child = lineOf(block);
             if (const auto second = mate(child); !second) {
                 lines.push_back({child});
             } else if (child < *second) {
@@ -167,16 +165,16 @@ private:
         const std::map<BlockId, int> stage = stages(outer[0]);
         const auto multiplier = [&](const Line& line) { return graph.block(line[0]).multiplier; };
         for (std::vector<Line> left : kindsOfLines(outer)) {
-            left = matchLines(left, [&](const Line& line) { return std::pair(stage.at(line[0]), multiplier(line)); });
-            left = matchLines(left, [&](const Line& line) { return stage.at(line[0]); });
-            left = matchLines(left, [](const Line&) { return 0; });
+            left = matchByKey(left, [&](const Line& line) { return std::pair(stage.at(line[0]), multiplier(line)); });
+            left = matchByKey(left, [&](const Line& line) { return stage.at(line[0]); });
+            left = matchLines(left);
             for (const Line& line : left) matchChildren(line);
         }
     }
 
     // Takes lines with the same key together. Returns those that are left over.
     template <class Key>
-    std::vector<Line> matchLines(const std::vector<Line>& lines, const Key& key) {
+    std::vector<Line> matchByKey(const std::vector<Line>& lines, const Key& key) {
         std::vector<Line> left;
         for (const std::vector<Line>& same : byKey(lines, key)) {
             const std::vector<Line> single = matchLines(same);
@@ -203,7 +201,7 @@ private:
             }
             if (stage.contains(child)) stage[child] = std::max(stage[child], depth[id]);
         }
-        for (BlockId child : own(outer).children) stage[handedOn(child)] = stage[child];
+        for (BlockId child : own(outer).children) stage[lineOf(child)] = stage[child];
         return stage;
     }
 
@@ -248,7 +246,7 @@ private:
 
     void matchInside(BlockId a, BlockId b, bool isKept) {
         const Inside &x = own(a), &y = own(b);
-        if (isKept && !mate(a)) coupled[static_cast<size_t>(a)] = b, coupled[static_cast<size_t>(b)] = a;
+        if (isKept && !mate(a)) couples.emplace_back(a, b);
         if (x.steps.size() == y.steps.size()) {
             for (size_t i = 0; i < x.steps.size(); ++i) match(x.steps[i], y.steps[i]);
         }
@@ -262,8 +260,6 @@ private:
         if (strands[a].size() != strands[b].size() || 2 * strands[a].size() > width) return false;
         other[a] = b;
         other[b] = a;
-        isFirst[a] = true;
-        isFirst[b] = false;
         journal.emplace_back(a, b);
         return true;
     }
@@ -323,11 +319,11 @@ private:
     size_t width;
     std::vector<Group> strands;
     std::vector<Inside> blocks;
-    std::vector<std::optional<BlockId>> mates, coupled;  // the other line, of earlier rounds and of this one as well
+    std::vector<std::optional<BlockId>> mates;  // the line that one was taken together with in an earlier round
     PerNode<Strand> strandOf;
     std::vector<Strand> other;  // what a group is taken together with in this round
-    std::vector<bool> isFirst;  // of these two
     std::vector<std::pair<Strand, Strand>> journal;
+    std::vector<std::pair<BlockId, BlockId>> couples;  // lines that are taken together in this round
 };
 
 }  // namespace

@@ -29,7 +29,7 @@ struct KernelFamily {
     Layout source, destination;
 };
 
-// A form in which the texts of a family are written beside the scalar one: in registers of several lanes.
+// A form of the texts of a family other than the scalar one: in registers of several lanes.
 struct LaneForm {
     std::string name;           // "pairs"
     int lanes;                  // of a register at most
@@ -51,7 +51,7 @@ struct GraphFamily {
     Port (*input)(int length, int index);   // of each input of the graph
     Port (*output)(int length, int index);  // of each output
     bool allowsNegation;                    // whether an output may be stored with its sign changed
-    std::vector<LaneForm> laneForms{};
+    std::vector<LaneForm> laneForms{};      // that with the fewest lanes first
 
     std::vector<int> (*lengths)();
     std::string (*recipe)(int length);  // in words
@@ -70,8 +70,6 @@ struct GraphEntry {
     std::string file() const;
     std::string title() const;
     std::string recipe() const { return family->recipe(length); }
-    // Those of the family that this length has.
-    std::vector<LaneForm> laneForms() const;
     std::unique_ptr<Graph> build() const { return family->build(length); }
 };
 

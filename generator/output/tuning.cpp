@@ -46,10 +46,14 @@ Order Tuning::orderOf(const std::string& text, Order usual) const {
     return row == rowByText.end() ? usual : row->second.order;
 }
 
-Tuning readTuning() {
+Schedule Tuning::schedule(const GraphEntry& entry, const Graph& graph) const {
+    return orderOf(entry.name(), Order::Blocks) == Order::Bisection ? byBisection(graph) : blockByBlock(graph);
+}
+
+Tuning readTuning(const std::string& tree) {
     Tuning tuning;
     for (const std::string path : {"targets/x87/tuning.txt", "targets/x86_64/tuning.txt"}) {
-        if (std::ifstream file(path); file) tuning.add(file, path);
+        if (std::ifstream file(tree + "/" + path); file) tuning.add(file, path);
     }
     return tuning;
 }

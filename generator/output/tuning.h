@@ -22,8 +22,9 @@ public:
     // that does not have its four columns.
     void add(std::istream& rows, const std::string& name);
 
-    // The order of the steps that is chosen for a text.
+    // The order of the steps that is chosen for a text, and the schedule of the one with one number to a register.
     Order orderOf(const std::string& text, Order usual) const;
+    Schedule schedule(const GraphEntry& entry, const Graph& graph) const;
 
     struct Row {
         Order order;
@@ -35,7 +36,7 @@ private:
     std::map<std::string, Row> rowByText;
 };
 
-// The choices in the files of all targets; none where there is no such file.
-Tuning readTuning();
+// The choices in the files of all targets of a tree; none where there is no such file.
+Tuning readTuning(const std::string& tree);
 
 }  // namespace gen

@@ -111,34 +111,26 @@ struct DoublesInLanes : PortableRegisters {
     template <class Element>
     ZULG_INLINE static Four pairs(const typename InMemory<Element>::Type* low,
                                   const typename InMemory<Element>::Type* high, bool areNeighbours) {
+        if (areNeighbours) return inDoubles(four<Element>(low));
         if constexpr (sizeof(Element) == sizeof(double)) {
-            if (areNeighbours) return *reinterpret_cast<const FourDoubles*>(low);
             return together(pair<double>(low), pair<double>(high));
         } else {
-            if (areNeighbours) return _mm256_cvtps_pd(*reinterpret_cast<const FourSingles*>(low));
             const Two elements = {*reinterpret_cast<const EightBytes*>(low),
                                   *reinterpret_cast<const EightBytes*>(high)};
-            return _mm256_cvtps_pd((__m128)elements);
+            return inDoubles((__m128)elements);
         }
     }
     template <class Element>
     ZULG_INLINE static void store(typename InMemory<Element>::Type* low, typename InMemory<Element>::Type* high,
                                   bool areNeighbours, Four value) {
+        if (areNeighbours) return storeFour<Element>(low, value);
         if constexpr (sizeof(Element) == sizeof(double)) {
-            if (areNeighbours) {
-                *reinterpret_cast<FourDoubles*>(low) = value;
-            } else {
-                store<double>(low, _mm256_castpd256_pd128(value));
-                store<double>(high, upper(value));
-            }
+            store<double>(low, _mm256_castpd256_pd128(value));
+            store<double>(high, upper(value));
         } else {
-            const __m128 singles = _mm256_cvtpd_ps(value);
-            if (areNeighbours) {
-                *reinterpret_cast<FourSingles*>(low) = singles;
-            } else {
-                *reinterpret_cast<EightBytes*>(low) = ((Two)singles)[0];
-                *reinterpret_cast<EightBytes*>(high) = ((Two)singles)[1];
-            }
+            const Two elements = (Two)_mm256_cvtpd_ps(value);
+            *reinterpret_cast<EightBytes*>(low) = elements[0];
+            *reinterpret_cast<EightBytes*>(high) = elements[1];
         }
     }
 
@@ -146,38 +138,28 @@ struct DoublesInLanes : PortableRegisters {
     // where these would not be in the array, by itself.
     template <class Element, int length>
     ZULG_INLINE static Four reals(const typename InMemory<Element>::Type* x, int a, int b, int c, int d) {
-        const auto elements = inTheirLanes<Element, length>(x, a, b, c, d);
-        if constexpr (sizeof(Element) == sizeof(double))
-            return elements;
-        else
-            return _mm256_cvtps_pd(elements);
+        return inDoubles(inTheirLanes<Element, length>(x, a, b, c, d));
     }
     template <class Element>
     ZULG_INLINE static void storeReals(typename InMemory<Element>::Type* x, int a, int b, int c, int d, Four value) {
-        const bool areNeighbours = b == a + 1 && c == a + 2 && d == a + 3;
+        if (areInRow(a, b, c, d)) return storeFour<Element>(x + a, value);
         if constexpr (sizeof(Element) == sizeof(double)) {
-            if (areNeighbours) {
-                *reinterpret_cast<FourDoubles*>(x + a) = value;
-            } else {
-                storeReals<double>(x, a, b, _mm256_castpd256_pd128(value));
-                storeReals<double>(x, c, d, upper(value));
-            }
+            storeReals<double>(x, a, b, _mm256_castpd256_pd128(value));
+            storeReals<double>(x, c, d, upper(value));
         } else {
             const __m128 singles = _mm256_cvtpd_ps(value);
-            if (areNeighbours) {
-                *reinterpret_cast<FourSingles*>(x + a) = singles;
-            } else {
-                x[a] = singles[0];
-                x[b] = singles[1];
-                x[c] = singles[2];
-                x[d] = singles[3];
-            }
+            x[a] = singles[0];
+            x[b] = singles[1];
+            x[c] = singles[2];
+            x[d] = singles[3];
         }
     }
 #endif
 
 private:
 #ifdef __AVX__
+    static constexpr bool areInRow(int a, int b, int c, int d) { return b == a + 1 && c == b + 1 && d == c + 1; }
+
     // Four neighbours, as they are in memory.
     template <class Element>
     ZULG_INLINE static auto four(const typename InMemory<Element>::Type* place) {
@@ -187,12 +169,22 @@ private:
             return __m128(*reinterpret_cast<const FourSingles*>(place));
         }
     }
+    template <class Element>
+    ZULG_INLINE static void storeFour(typename InMemory<Element>::Type* place, Four value) {
+        if constexpr (sizeof(Element) == sizeof(double)) {
+            *reinterpret_cast<FourDoubles*>(place) = value;
+        } else {
+            *reinterpret_cast<FourSingles*>(place) = _mm256_cvtpd_ps(value);
+        }
+    }
+    ZULG_INLINE static Four inDoubles(Four elements) { return elements; }
+    ZULG_INLINE static Four inDoubles(__m128 elements) { return _mm256_cvtps_pd(elements); }
 
     template <class Element, int length>
     ZULG_INLINE static auto inTheirLanes(const typename InMemory<Element>::Type* x, int a, int b, int c, int d) {
         using Vector = decltype(four<Element>(x));
-        if (b == a + 1 && c == a + 2 && d == a + 3) return four<Element>(x + a);
-        if (b == a - 1 && c == a - 2 && d == a - 3) {
+        if (areInRow(a, b, c, d)) return four<Element>(x + a);
+        if (areInRow(d, c, b, a)) {
             const Vector rising = four<Element>(x + d);
             return Vector(__builtin_shufflevector(rising, rising, 3, 2, 1, 0));
         }

@@ -1,6 +1,6 @@
-// The levels of the native library. The slot of a kernel is settled while the library is loaded: the
-// dynamic linker calls the slot's resolver and stores what it returns. After that a slot is never written, and no call
-// looks at a level.
+// The levels of the native library. The slot of a kernel is settled while the library is loaded: the dynamic linker
+// calls the slot's resolver and stores what it returns. After that a slot is never written, and no call looks at a
+// level.
 #pragma once
 
 #include <cstdint>

@@ -13,5 +13,5 @@ NEGATIONS = {"xorps", "xorpd"}
 FOREIGN = re.compile(
     r"f(add|sub|mul|i?div|sqrt|abs|i(add|sub|mul)|chs|sin|cos)|v?(add|sub|mul|div|sqrt|hadd|addsub)p[sd]"
     r"|v?(div|sqrt)s[sd]|vf?n?m(add|sub)|cmp[a-z]*s[sd]|u?comis[sd]|fu?comi?p?")
-STORES_TWO = False  # the 2 of inverse real kernels is a constant as any other
+STORES_TWO = False  # inverse real kernels double their bins by a constant or by a sum
 HAS_WIDE_REGISTERS = False

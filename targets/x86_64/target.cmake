@@ -7,6 +7,7 @@ set(target_compile_flags
 # Registers of two lanes. Kernels are as fast as at -O2 and smaller. The other two flags keep the frame of 47 points
 # within 2 KB.
 set(kernel_forms pairs)
+set(scalar_kernel_sources "")
 set(kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter)
 
 # Short kernels are some percent faster at -O2, and those of singles up to twice as fast: at -Os the compiler does not

@@ -1,4 +1,4 @@
-"""Tests of what scripts/tune is made of, without its script: what is a gain, which rows are settled, and whether the
+"""Tests of what scripts/tune is made of, without its script: which rows are settled from given times, and whether the
 alternatives of one length can be built and told apart. No time that is measured here is looked at.
 
 tuning_test.py SOURCE_FOLDER BUILD_FOLDER CMAKE
@@ -16,11 +16,21 @@ sys.path.insert(0, str(SOURCE / "benchmarks" / "tuning"))
 import tuning
 
 
-class Gain(unittest.TestCase):
+class Settled(unittest.TestCase):
+    def gain(self, **ticks):
+        """Of one kernel at one place."""
+        gain = tuning.settled({("kernel", "double", "0"): ticks})
+        return gain if gain is None else round(gain, 6)
+
+    def test_a_choice_that_gains_less_has_no_row(self):
+        self.assertIsNone(self.gain(usual=104.9, other=100))
+        self.assertEqual(self.gain(usual=105, other=100), 5)
+        self.assertIsNone(self.gain(usual=90, other=100))
+
     def test_kernels_and_places_count_by_their_geometric_mean(self):
         kernels = {("kernel", "double", place): {"usual": ticks, "other": 100}
                    for place, ticks in (("0", 80), ("21", 245))}
-        self.assertAlmostEqual(tuning.gain(kernels), 40)
+        self.assertAlmostEqual(tuning.settled(kernels), 40)
 
     def test_the_least_time_of_all_processes_counts(self):
         with tempfile.TemporaryDirectory(dir=BUILD) as folder:

@@ -12,20 +12,24 @@ namespace zulg {
 template <class Element>
 using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
-// As in the slot table: what is stored as a resolver is, in a library that is loaded, the kernel that it returned.
-template <class Element>
-union DispatchSlot {
-    KernelRoutine<Element> kernel;
-    KernelResolver<Element> resolver;
+// Gives a routine while the library is loaded, where that has levels.
+template <class Routine>
+using Resolver = Routine (*)();
 
-    constexpr DispatchSlot(KernelRoutine<Element> routine) : kernel(routine) {}
-    constexpr DispatchSlot(KernelResolver<Element> routine) : resolver(routine) {}
+// What is stored as a resolver is, in a library that is loaded, the routine that it returned.
+template <class Routine>
+union DispatchSlot {
+    Routine routine;
+    Resolver<Routine> resolver;
+
+    constexpr DispatchSlot(Routine stored) : routine(stored) {}
+    constexpr DispatchSlot(Resolver<Routine> stored) : resolver(stored) {}
 };
 
 // Index 0 is the shortest length.
 template <Family family, class Element>
 inline constexpr auto kernelTable = []<int... index>(std::integer_sequence<int, index...>) {
-    return std::array{DispatchSlot<Element>(bestKernel<family, shortestLength + index, Element>)...};
+    return std::array{DispatchSlot<KernelRoutine<Element>>(bestKernel<family, shortestLength + index, Element>)...};
 }
 (std::make_integer_sequence<int, longestLength - shortestLength + 1>{});
 
@@ -33,7 +37,7 @@ template <Family family, class Element>
 Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag) {
     const std::uint32_t index = static_cast<std::uint32_t>(length) - shortestLength;
     if (index >= kernelTable<family, Element>.size()) return StatusSizeError;
-    return kernelTable<family, Element>[index].kernel(pSrc, pDst, flag);
+    return kernelTable<family, Element>[index].routine(pSrc, pDst, flag);
 }
 
 }  // namespace zulg

@@ -61,3 +61,15 @@ function(add_kernels library folder)
     target_compile_options(${library} PRIVATE ${library_compile_flags} ${target_compile_flags})
     target_link_libraries(${library} PRIVATE zulgen_warnings)
 endfunction()
+
+# add_lane_passes(LIBRARY FOLDER): an object library of the routines whose loops run bodies in registers of several
+# lanes, for the target in FOLDER.
+function(add_lane_passes library folder)
+    include(${folder}/target.cmake)
+    list(TRANSFORM lane_sources PREPEND ${PROJECT_SOURCE_DIR}/)
+    add_library(${library} OBJECT ${lane_sources})
+    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder})
+    target_compile_options(${library} PRIVATE ${library_compile_flags} ${target_compile_flags} ${lane_compile_flags})
+    target_link_libraries(${library} PRIVATE zulgen_warnings)
+endfunction()

@@ -1,20 +1,17 @@
-// Orders 8 to 13: passes of blocks through a buffer. It is the caller's, or is allocated for the time of the call.
-#include "kernel/core_library.h"
+// Orders 8 to 13: passes of blocks through a buffer.
 #include "wht/checks.h"
 #include "wht/passes.h"
 
 namespace zulg {
 
-// A refused allocation is not checked for: the family has no status for it. A caller avoids the risk by passing a
-// buffer.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer) {
     return whtChecked<order>(
         pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-            constexpr std::uint32_t bytes = whtBufferElements(order) * sizeof(Element);
-            Element* const buffer = pBuffer != nullptr ? pBuffer : static_cast<Element*>(zulMalloc(bytes));
-            whtPasses<order, TargetNumbers>(pSrc, pDst, buffer, scale);
-            if (pBuffer == nullptr) zulFree(buffer);
+            withBuffer<order>(
+                pBuffer, [=](Element * buffer) __attribute__((always_inline)) {
+                    whtPasses<order, WhtBlockByBlock<TargetNumbers>>(pSrc, pDst, buffer, scale);
+                });
         });
 }
 

@@ -49,26 +49,32 @@ struct WhtScaledPorts : WhtPorts<Element, Numbers, stride> {
     }
 };
 
-// A pass over `blocks` blocks of `points` neighbours each.
-template <int blocks, int points, class Numbers, class Element>
-ZULG_INLINE void passOfNeighbours(const Element* from, Element* to) {
-    for (int i = 0; i < blocks * points; i += points) {
-        WhtBlock<points>::run(WhtPorts<Element, Numbers, 1>{from + i, to + i});
-    }
-}
+// The loops of a pass, one block after the other.
+template <class Numbers>
+struct WhtBlockByBlock {
+    using Scale = typename Numbers::Value;
 
-// A pass over `stride` blocks of `points` points, which are `stride` elements apart.
-template <int stride, int points, class Numbers, class Element>
-ZULG_INLINE void passAtStride(const Element* from, Element* to) {
-    for (int j = 0; j < stride; ++j) WhtBlock<points>::run(WhtPorts<Element, Numbers, stride>{from + j, to + j});
-}
-
-template <int stride, int points, class Numbers, class Element>
-ZULG_INLINE void scaledPassAtStride(const Element* from, Element* to, typename Numbers::Value scale) {
-    for (int j = 0; j < stride; ++j) {
-        WhtBlock<points>::run(WhtScaledPorts<Element, Numbers, stride>{{from + j, to + j}, scale});
+    // Over `blocks` blocks of `points` neighbours each.
+    template <int blocks, int points, class Element>
+    ZULG_INLINE static void passOfNeighbours(const Element* from, Element* to) {
+        for (int i = 0; i < blocks * points; i += points) {
+            WhtBlock<points>::run(WhtPorts<Element, Numbers, 1>{from + i, to + i});
+        }
     }
-}
+
+    // Over `stride` blocks of `points` points, which are `stride` elements apart.
+    template <int stride, int points, class Element>
+    ZULG_INLINE static void passAtStride(const Element* from, Element* to) {
+        for (int j = 0; j < stride; ++j) WhtBlock<points>::run(WhtPorts<Element, Numbers, stride>{from + j, to + j});
+    }
+
+    template <int stride, int points, class Element>
+    ZULG_INLINE static void scaledPassAtStride(const Element* from, Element* to, Scale scale) {
+        for (int j = 0; j < stride; ++j) {
+            WhtBlock<points>::run(WhtScaledPorts<Element, Numbers, stride>{{from + j, to + j}, scale});
+        }
+    }
+};
 
 // The points of a block in the first and in the second pass. Their product is 2^order.
 template <int order>
@@ -102,12 +108,13 @@ struct WhtOuter<13> {
     static constexpr int innerOrder = 10, last = 8;
 };
 
-template <int order, class Numbers, class Element>
-ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer, typename Numbers::Value scale) {
+// All passes of an order. `Loops` is WhtBlockByBlock, or has the same three passes in another way.
+template <int order, class Loops, class Element>
+ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer, typename Loops::Scale scale) {
     if constexpr (order <= 11) {
         using Split = WhtSplit<order>;
-        passOfNeighbours<Split::second, Split::first, Numbers>(pSrc, pBuffer);
-        scaledPassAtStride<Split::first, Split::second, Numbers>(pBuffer, pDst, scale);
+        Loops::template passOfNeighbours<Split::second, Split::first>(pSrc, pBuffer);
+        Loops::template scaledPassAtStride<Split::first, Split::second>(pBuffer, pDst, scale);
     } else {
         using Outer = WhtOuter<order>;
         using Split = WhtSplit<Outer::innerOrder>;
@@ -115,10 +122,10 @@ ZULG_INLINE void whtPasses(const Element* pSrc, Element* pDst, Element* pBuffer,
         static_assert(outerElements == whtScratchElements(order) && outerElements * Outer::last == elements);
         Element* const scratch = pBuffer + elements;
         for (int b = 0; b < elements; b += outerElements) {
-            passOfNeighbours<Split::second, Split::first, Numbers>(pSrc + b, scratch);
-            passAtStride<Split::first, Split::second, Numbers>(scratch, pBuffer + b);
+            Loops::template passOfNeighbours<Split::second, Split::first>(pSrc + b, scratch);
+            Loops::template passAtStride<Split::first, Split::second>(scratch, pBuffer + b);
         }
-        scaledPassAtStride<outerElements, Outer::last, Numbers>(pBuffer, pDst, scale);
+        Loops::template scaledPassAtStride<outerElements, Outer::last>(pBuffer, pDst, scale);
     }
 }
 

@@ -97,7 +97,7 @@ void addWht(std::vector<Export>& exports) {
             kernel.arguments = {array("pSrc", Use::In, type, points), array("pDst", Use::Out, type, points),
                                 number("flag"),
                                 buffer(type, to_string(whtBufferBytes(order, width.bytes) / width.bytes))};
-            kernel.routine = "wht";
+            kernel.routine = "bestWht";
             kernel.routineParameters = {to_string(order), width.element};
             kernel.graph = whtGraph(order);
             exports.push_back(kernel);
@@ -133,7 +133,7 @@ void addDct4(std::vector<Export>& exports) {
                                .graph = {}});
         };
         const Argument newPlan{"pPlan", Use::Out, plan + "*"}, usedPlan{"plan", Use::InOut, plan};
-        add("zulgDCT4", "dct4",
+        add("zulgDCT4", "bestDct4",
             {array("pSrc", Use::In, type, "length of the plan"), array("pDst", Use::Out, type, "length of the plan"),
              usedPlan});
         add("zulgDCT4Free", "dct4Free", {usedPlan});

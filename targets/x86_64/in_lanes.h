@@ -2,11 +2,7 @@
 // own, since what is here depends on the instructions that the level may use.
 #pragma once
 
-#include <immintrin.h>
-
-#include <algorithm>
-#include <array>
-#include <iterator>
+#include <emmintrin.h>
 
 #include "kernel/doubles.h"
 #include "kernel/in_memory.h"
@@ -38,11 +34,15 @@ struct DoublesInLanes : PortableRegisters {
         ZULG_INLINE ConstantPair operator[](int i) const { return {Graph::constants[i], table + i - middle}; }
 
     private:
-        static constexpr int count = static_cast<int>(std::size(Graph::constants));
-        static constexpr int middle = std::min(count / 2, 128 / static_cast<int>(sizeof(Two)));  // short displacements
-        static constexpr auto pairs = [] {
-            std::array<Two, count> both{};
-            for (std::size_t i = 0; i < count; ++i) both[i] = Two{Graph::constants[i], Graph::constants[i]};
+        static constexpr int count = static_cast<int>(sizeof Graph::constants / sizeof Graph::constants[0]);
+        static constexpr int reach = 128 / static_cast<int>(sizeof(Two));  // of a short displacement
+        static constexpr int middle = count / 2 < reach ? count / 2 : reach;
+        struct Pairs {
+            Two at[count];
+        };
+        static constexpr Pairs pairs = [] {
+            Pairs both{};
+            for (int i = 0; i < count; ++i) both.at[i] = Two{Graph::constants[i], Graph::constants[i]};
             return both;
         }();
 
@@ -50,9 +50,35 @@ struct DoublesInLanes : PortableRegisters {
             asm("" : "+r"(place));
             return place;
         }
-        const Two* const table = inRegister(pairs.data() + middle);
+        const Two* const table = inRegister(pairs.at + middle);
     };
 #endif
+
+    // The lanes of the widest register that the level has.
+#ifdef __AVX__
+    static constexpr int widest = 4;
+#else
+    static constexpr int widest = 2;
+#endif
+
+    // Neighbours in memory, as many as a register has lanes.
+    template <int width, class Element>
+    ZULG_INLINE static typename Vectors<width>::Type neighbours(const typename InMemory<Element>::Type* place) {
+        if constexpr (width == 2) {
+            return pair<Element>(place);
+        } else {
+            return inDoubles(four<Element>(place));
+        }
+    }
+    template <int width, class Element>
+    ZULG_INLINE static void storeNeighbours(typename InMemory<Element>::Type* place,
+                                            typename Vectors<width>::Type value) {
+        if constexpr (width == 2) {
+            store<Element>(place, value);
+        } else {
+            storeFour<Element>(place, value);
+        }
+    }
 
     // A complex element.
     template <class Element>
@@ -96,16 +122,28 @@ struct DoublesInLanes : PortableRegisters {
     }
 
 #ifdef __AVX__
+    // The instructions by the names that the compiler has for them: its header of all such names takes longer to read
+    // than most kernels take to compile.
+#ifdef __clang__
+    ZULG_INLINE static Four inDoubles(__m128 elements) { return __builtin_convertvector(elements, Four); }
+    ZULG_INLINE static __m128 inSingles(Four value) { return __builtin_convertvector(value, __m128); }
+#else
+    ZULG_INLINE static Four inDoubles(__m128 elements) { return __builtin_ia32_cvtps2pd256(elements); }
+    ZULG_INLINE static __m128 inSingles(Four value) { return __builtin_ia32_cvtpd2ps256(value); }
+
     // The compiler's own choice is a permutation of four lanes for the first of these, a copy more for the second and
     // one that crosses halves for the third.
-    ZULG_INLINE static Two upper(Four x) { return _mm256_extractf128_pd(x, 1); }
+    ZULG_INLINE static Two upper(Four x) { return __builtin_ia32_vextractf128_pd256(x, 1); }
     ZULG_INLINE static Four together(Two low, Two high) {
-        return _mm256_insertf128_pd(_mm256_castpd128_pd256(low), high, 1);
+        return __builtin_ia32_vinsertf128_pd256(__builtin_ia32_pd256_pd(low), high, 1);
     }
     template <int fromB>
     ZULG_INLINE static Four blended(Four a, Four b) {
-        return _mm256_blend_pd(a, b, fromB);
+        return __builtin_ia32_blendpd256(a, b, fromB);
     }
+#endif
+    ZULG_INLINE static Four inDoubles(Four elements) { return elements; }
+    ZULG_INLINE static Two lower(Four x) { return __builtin_shufflevector(x, x, 0, 1); }
 
     // Two complex elements, which may be neighbours.
     template <class Element>
@@ -125,10 +163,10 @@ struct DoublesInLanes : PortableRegisters {
                                   bool areNeighbours, Four value) {
         if (areNeighbours) return storeFour<Element>(low, value);
         if constexpr (sizeof(Element) == sizeof(double)) {
-            store<double>(low, _mm256_castpd256_pd128(value));
+            store<double>(low, lower(value));
             store<double>(high, upper(value));
         } else {
-            const Two elements = (Two)_mm256_cvtpd_ps(value);
+            const Two elements = (Two)inSingles(value);
             *reinterpret_cast<EightBytes*>(low) = elements[0];
             *reinterpret_cast<EightBytes*>(high) = elements[1];
         }
@@ -144,10 +182,10 @@ struct DoublesInLanes : PortableRegisters {
     ZULG_INLINE static void storeReals(typename InMemory<Element>::Type* x, int a, int b, int c, int d, Four value) {
         if (areInRow(a, b, c, d)) return storeFour<Element>(x + a, value);
         if constexpr (sizeof(Element) == sizeof(double)) {
-            storeReals<double>(x, a, b, _mm256_castpd256_pd128(value));
+            storeReals<double>(x, a, b, lower(value));
             storeReals<double>(x, c, d, upper(value));
         } else {
-            const __m128 singles = _mm256_cvtpd_ps(value);
+            const __m128 singles = inSingles(value);
             x[a] = singles[0];
             x[b] = singles[1];
             x[c] = singles[2];
@@ -174,11 +212,9 @@ private:
         if constexpr (sizeof(Element) == sizeof(double)) {
             *reinterpret_cast<FourDoubles*>(place) = value;
         } else {
-            *reinterpret_cast<FourSingles*>(place) = _mm256_cvtpd_ps(value);
+            *reinterpret_cast<FourSingles*>(place) = inSingles(value);
         }
     }
-    ZULG_INLINE static Four inDoubles(Four elements) { return elements; }
-    ZULG_INLINE static Four inDoubles(__m128 elements) { return _mm256_cvtps_pd(elements); }
 
     template <class Element, int length>
     ZULG_INLINE static auto inTheirLanes(const typename InMemory<Element>::Type* x, int a, int b, int c, int d) {

@@ -4,8 +4,9 @@ import re
 SUMS = re.compile(r"v?(add|sub)s[sd]$")
 PRODUCTS = re.compile(r"v?muls[sd]$")
 # Kernels have several numbers to a register. Arithmetic is in double, whatever the elements are.
-PACKED_FAMILIES = {"complex", "real_forward", "real_inverse", "hartley"}
-SECOND_LEVEL_KERNELS = 2 * 9 * 63  # all of these
+PACKED_FAMILIES = {"complex", "real_forward", "real_inverse", "hartley", "wht"}
+SECOND_LEVEL_KERNELS = 2 * (9 * 63 + 13)  # all of these
+LANES = 2, 4  # of the widest register, at each level
 PACKED_SUMS = re.compile(r"v?(add|sub)pd$")
 PACKED_PRODUCTS = re.compile(r"v?mulpd$")
 NEGATIONS = {"xorps", "xorpd"}

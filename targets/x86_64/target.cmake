@@ -8,6 +8,7 @@ set(target_compile_flags
 # within 2 KB.
 set(kernel_forms pairs)
 set(scalar_kernel_sources "")
+set(scalar_wht_sources "")
 set(kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter)
 
 # Short kernels are some percent faster at -O2, and those of singles up to twice as fast: at -Os the compiler does not
@@ -15,9 +16,13 @@ set(kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter)
 set(short_kernel_steps 300)
 set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
 
-set(wht_compile_flags -Os)
-# The passes of the DCT-IV.
-set(dct4_run_compile_flags -Os -flive-range-shrinkage)  # fewer spills in long rows
+# The loops of the Walsh-Hadamard family and of the DCT-IV.
+set(lane_sources wht/in_lanes.cpp dct4/fold_in_lanes.cpp dct4/output_in_lanes.cpp dct4/run_in_lanes.cpp)
+set(lane_compile_flags -O2 -fno-gcse -flive-range-shrinkage)  # fewer spills in long rows
+set(wht_compile_flags -Os)  # as fast, and order 13 stays within 2 KB of stack
+
+# One sequence after the other: what the DCT-IV does at the lengths 2^k + 1, below 64 and in deep splits.
+set(dct4_run_compile_flags -Os -flive-range-shrinkage)
 
 set(common_link_flags
     -nostartfiles                 # nothing but the load entry runs when the library is loaded

@@ -5,6 +5,7 @@ SUMS = re.compile(r"f(add|sub)r?p?[sl]?$")
 PRODUCTS = re.compile(r"fmulp?[sl]?$")
 PACKED_FAMILIES = set()
 SECOND_LEVEL_KERNELS = 0
+LANES = 1,
 NEGATIONS = {"fchs"}
 # Arithmetic that no kernel may hold: anything else of this unit, and anything of a vector unit.
 FOREIGN = re.compile(

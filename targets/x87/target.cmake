@@ -12,6 +12,8 @@ set(wht_compile_flags ${kernel_compile_flags})
 set(dct4_run_compile_flags ${kernel_compile_flags} -flive-range-shrinkage)  # fewer spills in long rows
 set(kernel_forms scalar)
 set(scalar_kernel_sources kernel/two.cpp)
+set(scalar_wht_sources wht/large_orders.cpp wht/small_orders.cpp)
+set(lane_sources "")
 set(short_kernel_steps 0)
 
 set(common_link_flags

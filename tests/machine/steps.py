@@ -7,7 +7,8 @@ additions plus subtractions and multiplications of the table, no call, no backwa
 families that have several numbers to a register: there a packed step counts as many steps as it has lanes, and every
 lane is in use. A kernel of several levels is counted at each. The negations of the forward real family are left to the
 graph: a compiler may fold one into its neighbours. The large Walsh-Hadamard orders have the loops and the calls out of
-the library that their table grants them. Where a target stores the 2 that the inverse real kernels multiply by, they
+the library that their table grants them; a loop over several blocks side by side has the steps of one block in each
+lane. Where a target stores the 2 that the inverse real kernels multiply by, they
 read it in the width of their elements; elsewhere a compiler may double by a sum.
 """
 import os
@@ -25,12 +26,13 @@ import machine  # of the target
 
 
 def due_counts(folder, table):
-    """length or order -> (sums, products, (loops, calls)), those by `scale` included."""
+    """length or order -> (sums, products, (loops, calls), sums of loops over neighbours), those by `scale` included."""
     due = {}
     for row in expected_rows(os.path.join(folder, table + ".txt")):
         sums = int(row["sums"]) if "sums" in row else int(row["additions"]) + int(row["subtractions"])
         granted = int(row.get("loops", 0)), int(row.get("calls", 0))
-        due[int(row["order" if table == "wht" else "length"])] = sums, int(row["multiplications"]), granted
+        due[int(row["order" if table == "wht" else "length"])] = (
+            sums, int(row["multiplications"]), granted, int(row.get("first pass", 0)))
     return due
 
 
@@ -70,8 +72,8 @@ def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
             if target is None or not instructions[0].address <= target <= instructions[-1].address:
                 faults.append(f"jumps elsewhere: {name} {instruction.operands}")
             elif target <= instruction.address:
-                # A call may be out of the way, with the stack adjusted after it; the jump back from it is no loop.
-                loops += not (name == "jmp" and since_call <= 2)
+                # A call may be out of the way, with registers restored after it; the jump back from it is no loop.
+                loops += not (name == "jmp" and since_call <= 4)
     if (loops, calls) != granted:
         faults.append(f"{loops} backward jumps, {calls} calls; due are {granted[0]}, {granted[1]}")
     return sums, products, faults
@@ -103,9 +105,13 @@ def table_of(export):
     return "complex" if export["element"].endswith("c") else export["family"].lower()
 
 
-def faults_of(library, export, routine, due):
+def faults_of(library, export, routine, due, level):
     """What is wrong with one kernel. due: a row of due_counts."""
-    due_sums, due_products, granted = due
+    due_sums, due_products, granted, due_of_neighbours = due
+    if due_of_neighbours:
+        side_by_side = machine.LANES[level]
+        due_sums = due_of_neighbours + (due_sums - due_of_neighbours) * side_by_side
+        due_products *= side_by_side
     sums, products, faults = counted(library, routine, table_of(export) == "real_forward", granted,
                                      may_pack=table_of(export) in machine.PACKED_FAMILIES)
     doubled = 0  # by a sum
@@ -134,7 +140,7 @@ def main():
         size = export["order"] if export["length"] is None else export["length"]
         for level, kernel in enumerate(library.kernels(library.slot_address(export["name"]))):
             levels[level] += 1
-            faults = faults_of(library, export, library.routine(kernel), due[table_of(export)][size])
+            faults = faults_of(library, export, library.routine(kernel), due[table_of(export)][size], level)
             if faults:
                 failures += 1
                 print(f"{export['name']}, level {level}: " + "; ".join(faults[:5]))

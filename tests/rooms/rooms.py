@@ -10,7 +10,7 @@ import sys
 RUN_TIME = {
     "include": {"include"},
     "kernel": {"include", "kernel", "target"},
-    "targets": {"kernel", "targets", "target"},
+    "targets": {"kernel", "wht", "dct4", "targets", "target"},
     "kernels": {"kernel"},
     "wht": {"kernel", "wht"},
     "dct4": {"kernel", "dct4"},
@@ -23,7 +23,7 @@ GENERATION_TIME = {
     "rules": {"numbers", "graph", "rules"},
     "output": {"numbers", "graph", "rules", "output"},
 }
-OF_THE_TARGET = {"value.h", "levels.h", "entries.inc"}
+OF_THE_TARGET = {"value.h", "levels.h", "level_routines.h", "entries.inc"}
 OF_THE_FOLDER = {"zulgenpx_routines.h"}  # included by a header beside it
 
 

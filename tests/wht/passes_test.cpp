@@ -26,7 +26,8 @@ void expectCountsAndValues() {
     source[5] = Counted(1);
     source[count - 1] = Counted(10);
     operationCounts = {};
-    zulg::whtPasses<order, CountedNumbers>(source.data(), destination.data(), buffer.data(), Counted(0.5));
+    zulg::whtPasses<order, zulg::WhtBlockByBlock<CountedNumbers>>(source.data(), destination.data(), buffer.data(),
+                                                                  Counted(0.5));
     const int half = order << (order - 1);
     EXPECT_EQ(operationCounts, (OperationCounts{half, half, count, 0})) << order;
     for (int k = 0; k < count; ++k) {

@@ -1,7 +1,9 @@
-// The routines that take the order as an argument: the dispatcher, and the size of the buffer.
+// The Walsh-Hadamard routines that take the order as an argument: the dispatcher, and the size of the buffer.
 #include <array>
 #include <utility>
 
+#include "boundary/dispatch.h"
+#include "levels.h"
 #include "wht/wht.h"
 
 namespace zulg {
@@ -11,8 +13,8 @@ constexpr auto orders = std::make_integer_sequence<int, highestOrder - lowestOrd
 
 // Index 0 is the lowest order.
 template <class Element>
-constexpr auto kernelTable = []<int... index>(std::integer_sequence<int, index...>) {
-    return std::array<WhtRoutine<Element>, sizeof...(index)>{&wht<lowestOrder + index, Element>...};
+constexpr auto whtTable = []<int... index>(std::integer_sequence<int, index...>) {
+    return std::array{DispatchSlot<WhtRoutine<Element>>(bestWht<lowestOrder + index, Element>)...};
 }
 (orders);
 
@@ -30,8 +32,8 @@ template <class Element>
 Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
                              Element* pBuffer) {
     const std::uint32_t index = indexOf(order);
-    if (index >= kernelTable<Element>.size()) return StatusSizeError;
-    return kernelTable<Element>[index](pSrc, pDst, flag, pBuffer);
+    if (index >= whtTable<Element>.size()) return StatusSizeError;
+    return whtTable<Element>[index].routine(pSrc, pDst, flag, pBuffer);
 }
 
 template <class Element>

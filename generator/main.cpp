@@ -63,7 +63,9 @@ std::map<std::string, std::string> allFiles() {
     files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
     files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
-    files["docs/catalogue.json"] = gen::catalogueJson(gen::allExports(), counts);
+    files["batch/slots.inc"] = gen::emitBatchSlots(gen::batchExports());
+    files["include/zulgenpx_batch_routines.h"] = gen::emitBatchRoutines(gen::batchExports());
+    files["docs/catalogue.json"] = gen::catalogueJson(gen::allExports(), gen::batchExports(), counts);
     return files;
 }
 

@@ -2,6 +2,7 @@
 // build includes it beside a text of kernels/ and instantiates the kernels of that graph.
 #pragma once
 
+#include "kernel/families.h"
 #include "kernel/graphs.h"
 #include "kernel/kernel.h"
 #include "kernel/lane_ports.h"
@@ -14,37 +15,6 @@ inline namespace ZULG_TARGET {
 // The text that a kernel runs: the build says it for each kernel that it makes.
 template <Family family, int length>
 struct TextOf;
-
-// The flags of a family.
-template <Family family>
-struct FlagsOf : ForwardFlags {};
-template <>
-struct FlagsOf<Family::DFTInv_CToC> : InverseFlags {};
-template <>
-struct FlagsOf<Family::DFTInv_CCSToR> : InverseFlags {};
-template <>
-struct FlagsOf<Family::DFTInv_PackToR> : InverseFlags {};
-template <>
-struct FlagsOf<Family::DFTInv_PermToR> : InverseFlags {};
-template <>
-struct FlagsOf<Family::Hartley> : InvolutionFlags {};
-
-// The layout of a half spectrum that a real family yields or takes.
-template <Family family>
-inline constexpr Layout layoutOf = Layout::CCS;
-template <>
-inline constexpr Layout layoutOf<Family::DFTFwd_RToPack> = Layout::Pack;
-template <>
-inline constexpr Layout layoutOf<Family::DFTInv_PackToR> = Layout::Pack;
-template <>
-inline constexpr Layout layoutOf<Family::DFTFwd_RToPerm> = Layout::Perm;
-template <>
-inline constexpr Layout layoutOf<Family::DFTInv_PermToR> = Layout::Perm;
-
-// Whether a family stores a half spectrum.
-template <Family family>
-inline constexpr bool isRealForward =
-    family == Family::DFTFwd_RToCCS || family == Family::DFTFwd_RToPack || family == Family::DFTFwd_RToPerm;
 
 // The ports through which a family runs a text: in lanes, or with one number to a register.
 template <Family family, class Text, class Element>

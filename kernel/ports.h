@@ -77,15 +77,15 @@ struct RealPorts : Arrays<Numbers, Element> {
 //     length 5   CCS   R0 0 R1 I1 R2 I2     Pack  R0 R1 I1 R2 I2   Perm  the same
 enum class Layout { CCS, Pack, Perm };
 
+constexpr int slotOfRe(Layout layout, int length, int k) {
+    if (layout == Layout::CCS || k == 0) return 2 * k;
+    if (layout == Layout::Perm && length % 2 == 0) return 2 * k == length ? 1 : 2 * k;
+    return 2 * k - 1;
+}
+
 template <Layout layout, int length>
 struct Slots {
-    static constexpr bool isEven = length % 2 == 0;
-
-    static constexpr int re(int k) {
-        if (layout == Layout::CCS || k == 0) return 2 * k;
-        if (layout == Layout::Perm && isEven) return 2 * k == length ? 1 : 2 * k;
-        return 2 * k - 1;
-    }
+    static constexpr int re(int k) { return slotOfRe(layout, length, k); }
     static constexpr int im(int k) { return re(k) + 1; }
 };
 

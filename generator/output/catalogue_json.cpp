@@ -71,6 +71,10 @@ std::string argumentJson(const Argument& argument) {
     object.add("type", quoted(argument.type));
     if (argument.use != Use::Value) object.add("elements", quotedOrNumber(argument.elements));
     if (argument.mayBeNull) object.add("null", "true");
+    if (!argument.step.empty()) {
+        object.add("step", quoted(argument.step));
+        object.add("distance", quoted(argument.distance));
+    }
     return object.json();
 }
 
@@ -130,10 +134,11 @@ int outputsOf(const Export& entry) {
     return entry.kernelFamily->destination == Layout::Complex ? 2 * *entry.length : *entry.length;
 }
 
+// Ordinal 0: the routine has none.
 std::string exportJson(const Export& entry, int ordinal, const std::map<std::string, Counts>& counts) {
     Object object;
     object.add("name", quoted(entry.name));
-    object.add("ordinal", to_string(ordinal));
+    if (ordinal != 0) object.add("ordinal", to_string(ordinal));
     object.add("family", quoted(entry.family));
     if (entry.kernelFamily != nullptr) object.add("sense", quoted(senseName(entry.kernelFamily->sense)));
     object.add("length", numberOrNull(entry.length));
@@ -187,12 +192,14 @@ std::string sizesJson() {
 
 }  // namespace
 
-std::string catalogueJson(const std::vector<Export>& exports, const std::map<std::string, Counts>& counts) {
-    std::vector<std::string> lines;
+std::string catalogueJson(const std::vector<Export>& exports, const std::vector<Export>& batches,
+                          const std::map<std::string, Counts>& counts) {
+    std::vector<std::string> lines, batchLines;
+    for (const Export& entry : batches) batchLines.push_back(exportJson(entry, 0, counts));
     for (const Export& entry : exports) lines.push_back(exportJson(entry, static_cast<int>(lines.size()) + 1, counts));
     lines.push_back(versionJson(static_cast<int>(lines.size()) + 1));
     return "{\"written_by\": \"generate write\", \"rule\": \"generator/output/exports.cpp\",\n\"sizes\": " +
-           sizesJson() + ",\n\"exports\": " + list(lines, ",\n") + "}\n";
+           sizesJson() + ",\n\"exports\": " + list(lines, ",\n") + ",\n\"batches\": " + list(batchLines, ",\n") + "}\n";
 }
 
 }  // namespace gen

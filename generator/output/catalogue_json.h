@@ -10,6 +10,7 @@
 namespace gen {
 
 // `counts` has those of each graph, by its name.
-std::string catalogueJson(const std::vector<Export>& exports, const std::map<std::string, Counts>& counts);
+std::string catalogueJson(const std::vector<Export>& exports, const std::vector<Export>& batches,
+                          const std::map<std::string, Counts>& counts);
 
 }  // namespace gen

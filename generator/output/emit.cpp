@@ -200,6 +200,20 @@ std::string emitTexts(const std::vector<KernelText>& texts) {
     return text + ")\n";
 }
 
+namespace {
+
+std::string prototypes(const std::vector<Export>& exports) {
+    std::string text;
+    for (const Export& entry : exports) {
+        std::vector<std::string> parameters;
+        for (const Argument& argument : entry.arguments) parameters.push_back(argument.declaration());
+        text += "ZulgStatus ZULG_CALL " + entry.name + "(" + joined(parameters) + ");\n";
+    }
+    return text;
+}
+
+}  // namespace
+
 std::string emitSlots(const std::vector<Export>& exports) {
     std::string text =
         "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
@@ -213,17 +227,30 @@ std::string emitSlots(const std::vector<Export>& exports) {
     return text;
 }
 
+std::string emitBatchSlots(const std::vector<Export>& exports) {
+    std::string text =
+        "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
+        "   SLOT(exported name, routine), in the ASCII order of the names: the line's place from 0 is the slot. */\n";
+    for (const Export& entry : exports)
+        text += "SLOT(" + entry.name + ", (" + entry.routine + "<" + joined(entry.routineParameters) + ">))\n";
+    return text;
+}
+
+std::string emitBatchRoutines(const std::vector<Export>& exports) {
+    std::string text =
+        "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
+        "   The routines of the batch library, one to a line. Included by zulgenpx_batch.h, which tells what each "
+        "does. "
+        "*/\n";
+    return text + prototypes(exports);
+}
+
 std::string emitRoutines(const std::vector<Export>& exports) {
     std::string text =
         "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
         "   The routines of the library, one to a line. Included by zulgenpx.h, which tells what each family does. "
         "*/\n";
-    for (const Export& entry : exports) {
-        std::vector<std::string> parameters;
-        for (const Argument& argument : entry.arguments) parameters.push_back(argument.declaration());
-        text += "ZulgStatus ZULG_CALL " + entry.name + "(" + joined(parameters) + ");\n";
-    }
-    return text;
+    return text + prototypes(exports);
 }
 
 }  // namespace gen

@@ -32,4 +32,8 @@ std::string emitTexts(const std::vector<KernelText>& texts);
 std::string emitSlots(const std::vector<Export>& exports);
 std::string emitRoutines(const std::vector<Export>& exports);
 
+// The same of the batch library: batch/slots.inc and include/zulgenpx_batch_routines.h.
+std::string emitBatchSlots(const std::vector<Export>& exports);
+std::string emitBatchRoutines(const std::vector<Export>& exports);
+
 }  // namespace gen

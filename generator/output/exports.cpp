@@ -143,6 +143,78 @@ void addDct4(std::vector<Export>& exports) {
     }
 }
 
+// The arguments of a batch: an array and its shape for source and destination, then those of one transform.
+std::vector<Argument> batchArguments(const std::string& type, const std::string& read, const std::string& written,
+                                     std::vector<Argument> others) {
+    const auto shaped = [](Argument argument, const std::string& prefix) {
+        argument.step = prefix + "Step";
+        argument.distance = prefix + "Distance";
+        return argument;
+    };
+    const auto wide = [](const std::string& name) { return Argument{name, Use::Value, "int64_t"}; };
+    std::vector<Argument> arguments = {
+        shaped(array("pSrc", Use::In, type, read), "src"),     wide("srcStep"), wide("srcDistance"),
+        shaped(array("pDst", Use::Out, type, written), "dst"), wide("dstStep"), wide("dstDistance")};
+    arguments.insert(arguments.end(), others.begin(), others.end());
+    return arguments;
+}
+
+Argument countOfTransforms() { return {"count", Use::Value, "int64_t"}; }
+
+// Batches of one family of kernels; `computed` is "Single" where they compute in single.
+void addBatches(const GraphFamily& graphs, std::vector<Export>& exports) {
+    for (const KernelFamily& family : graphs.exported) {
+        for (const Width& width : widths) {
+            const std::string suffix = width.digits + graphs.suffixTail, type = "Zulg" + suffix;
+            Export batch{
+                .name = "zulgBatch" + family.name + "_" + suffix,
+                .family = family.name,
+                .elementType = suffix,
+                .length = {},
+                .order = {},
+                .arguments = batchArguments(type, elementsFormula(family.source), elementsFormula(family.destination),
+                                            {number("length"), number("flag"), countOfTransforms()}),
+                .routine = "bestBatch",
+                .routineParameters = {"Family::" + family.name, width.element},
+                .graph = {},
+                .kernelFamily = &family};
+            exports.push_back(batch);
+            if (width.bytes != 4) continue;
+            batch.name = "zulgBatchSingle" + family.name + "_" + suffix;
+            batch.routine = "bestBatchInSingle";
+            batch.routineParameters = {"Family::" + family.name};
+            exports.push_back(batch);
+        }
+    }
+}
+
+void addBatchesOfBodies(std::vector<Export>& exports) {
+    for (const Width& width : widths) {
+        const std::string suffix = width.digits + "f", type = "Zulg" + suffix;
+        const auto add = [&](const std::string& stem, const std::string& family, const std::string& routine,
+                             std::vector<Argument> arguments) {
+            exports.push_back({.name = "zulgBatch" + stem + "_" + suffix,
+                               .family = family,
+                               .elementType = suffix,
+                               .length = {},
+                               .order = {},
+                               .arguments = std::move(arguments),
+                               .routine = routine,
+                               .routineParameters = {width.element},
+                               .graph = {}});
+        };
+        const Argument own = buffer(type, "size / sizeof(element)");
+        add("WHT", "WHT", "batchWht",
+            batchArguments(type, "1 << order", "1 << order",
+                           {number("order"), number("flag"), countOfTransforms(), own}));
+        add("WHTGetBufferSize", "WHT", "batchWhtGetBufferSize", {number("order"), size()});
+        add("DCT4", "DCT4", "batchDct4",
+            batchArguments(type, "length of the plan", "length of the plan",
+                           {{"plan", Use::InOut, "ZulgDCT4Plan_" + suffix}, countOfTransforms(), own}));
+        add("DCT4GetBufferSize", "DCT4", "batchDct4GetBufferSize", {number("length"), size()});
+    }
+}
+
 }  // namespace
 
 std::string Argument::declaration() const {
@@ -155,6 +227,14 @@ std::vector<Export> allExports() {
     for (const GraphFamily& family : allFamilies()) addDispatchers(family, exports);
     addWht(exports);
     addDct4(exports);
+    std::ranges::sort(exports, {}, &Export::name);
+    return exports;
+}
+
+std::vector<Export> batchExports() {
+    std::vector<Export> exports;
+    for (const GraphFamily& family : allFamilies()) addBatches(family, exports);
+    addBatchesOfBodies(exports);
     std::ranges::sort(exports, {}, &Export::name);
     return exports;
 }

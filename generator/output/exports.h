@@ -19,6 +19,7 @@ struct Argument {
     std::string type;            // of the value, or of what the pointer points to
     std::string elements = "1";  // of the array: a number, or a formula in other arguments whose / drops the remainder
     bool mayBeNull = false;
+    std::string step = {}, distance = {};  // of an array in a batch: the arguments that say where its elements are
 
     // As the public header declares it: "const Zulg32f* pSrc".
     std::string declaration() const;
@@ -50,6 +51,9 @@ struct Export {
 // In the ASCII order of the names, which is the order of ordinals and slots. The version call is not among them: it has
 // no slot, and its ordinal is the last.
 std::vector<Export> allExports();
+
+// Those of the batch library, in the ASCII order of their names.
+std::vector<Export> batchExports();
 
 // The elements of an array of this layout, for one length and as a formula in `length`.
 int elementsOf(Layout layout, int length);

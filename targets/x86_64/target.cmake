@@ -24,6 +24,12 @@ set(wht_compile_flags -Os)  # as fast, and order 13 stays within 2 KB of stack
 # One sequence after the other: what the DCT-IV does at the lengths 2^k + 1, below 64 and in deep splits.
 set(dct4_run_compile_flags -Os -flive-range-shrinkage)
 
+# Batches. Exact ones have nothing to gain from registers of two lanes: they run the kernels one by one.
+set(batch_types "float float")
+set(batch_behind_real_steps 0)
+set(batch_behind_complex_steps 800)
+set(batch_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
+
 set(common_link_flags
     -nostartfiles                 # nothing but the load entry runs when the library is loaded
     -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks, which need the note in entries.inc

@@ -10,5 +10,11 @@ set(short_kernel_steps 4500)
 set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
 set(kernel_compile_flags ${short_kernel_compile_flags} -fno-tree-ter)
 
+# Batches. Transforms one after the other that have more steps are as fast one by one.
+set(batch_types "float double" "double double" "float float")
+set(batch_behind_real_steps 150)
+set(batch_behind_complex_steps 800)
+set(batch_compile_flags ${short_kernel_compile_flags})
+
 # Registers of four lanes, where the generator finds that they save a fifth of the steps.
 set(kernel_forms lines pairs)

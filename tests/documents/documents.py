@@ -73,7 +73,11 @@ class Check:
     def program(self, program):
         """Both languages; natively, in C, the sanitizers as well."""
         args = self.args
-        link = [f"-L{self.folder}", "-Wl,-rpath,$ORIGIN", f"-l:{self.library}"]
+        uses_batches = "zulgenpx_batch.h" in program.text
+        if uses_batches and args.emulator:
+            return  # 32-bit Windows has no batch library
+        libraries = ["-l:libzulgenpx-batch-7.0.so"] * uses_batches + [f"-l:{self.library}"]
+        link = [f"-L{self.folder}", "-Wl,-rpath,$ORIGIN", *libraries]
         if args.emulator:
             link = ["-static", os.path.join(args.build, "libzulgenpx.dll.a")]
         sanitizers = ["-fsanitize=address,undefined", "-fno-sanitize-recover=all", "-include", "checked.h", "-g"]

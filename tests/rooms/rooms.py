@@ -10,10 +10,11 @@ import sys
 RUN_TIME = {
     "include": {"include"},
     "kernel": {"include", "kernel", "target"},
-    "targets": {"kernel", "wht", "dct4", "targets", "target"},
+    "targets": {"kernel", "wht", "dct4", "batch", "targets", "target"},
     "kernels": {"kernel"},
     "wht": {"kernel", "wht"},
     "dct4": {"kernel", "dct4"},
+    "batch": {"include", "kernel", "wht", "dct4", "boundary", "batch", "target"},
     "boundary": {"include", "kernel", "wht", "dct4", "boundary", "target"},
     "companion": {"include"},
 }
@@ -23,8 +24,9 @@ GENERATION_TIME = {
     "rules": {"numbers", "graph", "rules"},
     "output": {"numbers", "graph", "rules", "output"},
 }
-OF_THE_TARGET = {"value.h", "levels.h", "level_routines.h", "entries.inc"}
-OF_THE_FOLDER = {"zulgenpx_routines.h"}  # included by a header beside it
+OF_THE_TARGET = {"value.h", "levels.h", "level_routines.h", "batch_levels.h", "batch_level_routines.h",
+                 "entries.inc"}
+OF_THE_FOLDER = {"zulgenpx.h", "zulgenpx_routines.h", "zulgenpx_batch_routines.h", "many_texts.inc"}  # included by a header beside it
 
 
 def includes(file):

@@ -1,0 +1,225 @@
+#include "batch/batch.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "batch/many_routines.h"
+#include "batch/many_texts.h"
+#include "batch/one_by_one.h"
+#include "batch/singly.h"
+
+namespace zulg {
+inline namespace ZULG_TARGET {
+namespace {
+
+constexpr int maxElements = longestLength + 2;  // of a CCS array
+
+// The family that does the transforms of another layout, whose slots are other ones.
+constexpr Family inCCS(Family family) {
+    switch (family) {
+        case Family::DFTFwd_RToPack:
+        case Family::DFTFwd_RToPerm: return Family::DFTFwd_RToCCS;
+        case Family::DFTInv_PackToR:
+        case Family::DFTInv_PermToR: return Family::DFTInv_CCSToR;
+        default: return family;
+    }
+}
+
+// Where a layout has what is in slot `slot` of CCS; -1 for the zeros that it does not have.
+int slotOfLayout(Layout layout, int length, int slot) {
+    const int k = slot / 2;
+    if (layout == Layout::CCS) return slot;
+    if (slot % 2 != 0 && 2 * k % length == 0) return -1;
+    return slotOfRe(layout, length, k) + slot % 2;
+}
+
+// The places of the CCS slots of a half spectrum in another layout.
+template <Layout layout>
+struct Spectrum {
+    std::ptrdiff_t places[maxElements];
+
+    void place(int length, std::int64_t step) {
+        for (int slot = 0; slot < length / 2 * 2 + 2; ++slot) places[slot] = slotOfLayout(layout, length, slot) * step;
+    }
+};
+
+// The routines of a length, each null where the level has none.
+template <class Element>
+struct ManyRoutines {
+    ManyRoutine<Element> beside;
+    ManyRoutine<Element> behind;
+};
+
+template <Family family, int length, class Element, class Real>
+constexpr ManyRoutines<Element> manyRoutines() {
+    ManyRoutines<Element> found{nullptr, nullptr};
+    if constexpr (hasManyText<inCCS(family), length, Real, Placement::Beside>)
+        found.beside = &manyTransforms<inCCS(family), length, Element, Real, Placement::Beside>;
+    if constexpr (hasManyText<family, length, Real, Placement::Behind>)
+        found.behind = &manyTransforms<family, length, Element, Real, Placement::Behind>;
+    return found;
+}
+
+// Index 0 is the shortest length.
+template <Family family, class Element, class Real>
+constexpr auto manyTable = []<int... index>(std::integer_sequence<int, index...>) {
+    return std::array{manyRoutines<family, shortestLength + index, Element, Real>()...};
+}
+(std::make_integer_sequence<int, longestLength - shortestLength + 1>{});
+
+// The arguments of a batch, and their checks in their order.
+template <Family family, class Element>
+struct Request {
+    static constexpr int width = isComplex<family> ? 2 : 1;
+
+    const Element* pSrc;
+    Shape source;
+    Element* pDst;
+    Shape destination;
+    std::int32_t length, flag;
+    std::int64_t count;
+
+    Status checked() const {
+        if (length < shortestLength || length > longestLength) return StatusSizeError;
+        if (pSrc == nullptr || pDst == nullptr) return StatusNullPointer;
+        if (!isFlag(flag)) return StatusFlagError;
+        const Elements elements = elementsOf<family>(length);
+        constexpr std::int64_t bytes = width * static_cast<std::int64_t>(sizeof(Element));
+        const bool accepted = isAccepted(source, elements.read, destination, elements.written, count, bytes);
+        return accepted ? StatusOk : StatusSizeError;
+    }
+
+    bool isBeside() const { return source.distance == 1 && destination.distance == 1; }
+    bool isBehind() const { return source.step == 1 && destination.step == 1; }
+
+    const Element* from(std::int64_t j) const { return pSrc + j * source.distance * width; }
+    Element* to(std::int64_t j) const { return pDst + j * destination.distance * width; }
+
+    // Does as many transforms as fill registers, if they are in memory as one of the routines wants them. Returns how
+    // many.
+    template <class Real>
+    std::int64_t doMany(const ManyRoutines<Element>& routines) const {
+        const ManyRoutine<Element> many = isBeside() ? routines.beside : isBehind() ? routines.behind : nullptr;
+        constexpr int copies = copiesOf<family, Real>;
+        if (many == nullptr || count < copies) return 0;
+        Spectrum<layoutOf<family>> spectrum;
+        if (!isComplex<family>) spectrum.place(length, isRealForward<family> ? destination.step : source.step);
+        many({pSrc, pDst, source.step * width, source.distance * width, destination.step * width,
+              destination.distance * width, spectrum.places, layoutOf<family> == Layout::CCS, Element{}},
+             flag, count / copies);
+        return count / copies * copies;
+    }
+};
+
+// Computes in single a few transforms, as many as a register has or less, of any shape: by way of a buffer in which
+// they are side by side.
+template <Family family>
+void fewInSingle(const Request<family, float>& request, ManyRoutine<float> beside, std::int64_t first,
+                 std::int64_t few) {
+    constexpr int width = Request<family, float>::width, copies = copiesOf<family, float>;
+    constexpr bool readsSlots = inCCS(family) == Family::DFTInv_CCSToR;
+    constexpr bool writesSlots = inCCS(family) == Family::DFTFwd_RToCCS;
+    const auto slot = [&](bool isSlot, std::int64_t e) {
+        return isSlot ? slotOfLayout(layoutOf<family>, request.length, static_cast<int>(e)) : static_cast<int>(e);
+    };
+    const Elements elements = elementsOf<inCCS(family)>(request.length);
+    float buffer[maxElements * copies * width] = {};
+    for (std::int64_t e = 0; e < elements.read; ++e) {
+        const int at = slot(readsSlots, e);
+        if (at < 0) continue;
+        for (std::int64_t j = 0; j < few; ++j)
+            for (int i = 0; i < width; ++i)
+                buffer[(e * copies + j) * width + i] = request.from(first + j)[at * request.source.step * width + i];
+    }
+    Spectrum<Layout::CCS> spectrum;
+    if (!isComplex<family>) spectrum.place(request.length, copies);
+    beside({buffer, buffer, copies * width, width, copies * width, width, spectrum.places, true, 0.0f}, request.flag,
+           1);
+    for (std::int64_t e = 0; e < elements.written; ++e) {
+        const int at = slot(writesSlots, e);
+        if (at < 0) continue;
+        for (std::int64_t j = 0; j < few; ++j)
+            for (int i = 0; i < width; ++i)
+                request.to(first + j)[at * request.destination.step * width + i] = buffer[(e * copies + j) * width + i];
+    }
+}
+
+}  // namespace
+
+template <Family family, class Element>
+Status ZULG_CALL batch(const Element* pSrc, std::int64_t srcStep, std::int64_t srcDistance, Element* pDst,
+                       std::int64_t dstStep, std::int64_t dstDistance, std::int32_t length, std::int32_t flag,
+                       std::int64_t count) {
+    const Request<family, Element> request{pSrc, {srcStep, srcDistance}, pDst, {dstStep, dstDistance}, length, flag,
+                                           count};
+    const Status status = request.checked();
+    if (status != StatusOk) return status;
+    const auto& routines = manyTable<family, Element, double>[static_cast<std::size_t>(length - shortestLength)];
+    const std::int64_t done = request.template doMany<double>(routines);
+    Element buffer[maxElements * request.width];
+    oneByOne<request.width>(request.from(done), request.source, request.to(done), request.destination,
+                            elementsOf<family>(length), count - done, buffer,
+                            [=](const Element* from, Element* to) { one<family>(from, to, length, flag); });
+    return StatusOk;
+}
+
+template <Family family>
+Status ZULG_CALL batchInSingle(const float* pSrc, std::int64_t srcStep, std::int64_t srcDistance, float* pDst,
+                               std::int64_t dstStep, std::int64_t dstDistance, std::int32_t length, std::int32_t flag,
+                               std::int64_t count) {
+    const Request<family, float> request{pSrc, {srcStep, srcDistance}, pDst, {dstStep, dstDistance}, length, flag,
+                                         count};
+    const Status status = request.checked();
+    if (status != StatusOk) return status;
+    const auto& routines = manyTable<family, float, float>[static_cast<std::size_t>(length - shortestLength)];
+    if (routines.beside == nullptr) {  // of no level: the errors would be too large
+        return batch<family>(pSrc, srcStep, srcDistance, pDst, dstStep, dstDistance, length, flag, count);
+    }
+    std::int64_t done = request.template doMany<float>(routines);
+    for (constexpr int copies = copiesOf<family, float>; done < count; done += copies)
+        fewInSingle<family>(request, routines.beside, done, std::min<std::int64_t>(copies, count - done));
+    return StatusOk;
+}
+
+#define BATCH(family, element)                                                                                       \
+    template Status ZULG_CALL batch<Family::family, element>(const element*, std::int64_t, std::int64_t, element*,   \
+                                                             std::int64_t, std::int64_t, std::int32_t, std::int32_t, \
+                                                             std::int64_t);
+BATCH(DFTFwd_CToC, float)
+BATCH(DFTFwd_CToC, double)
+BATCH(DFTInv_CToC, float)
+BATCH(DFTInv_CToC, double)
+BATCH(DFTFwd_RToCCS, float)
+BATCH(DFTFwd_RToCCS, double)
+BATCH(DFTFwd_RToPack, float)
+BATCH(DFTFwd_RToPack, double)
+BATCH(DFTFwd_RToPerm, float)
+BATCH(DFTFwd_RToPerm, double)
+BATCH(DFTInv_CCSToR, float)
+BATCH(DFTInv_CCSToR, double)
+BATCH(DFTInv_PackToR, float)
+BATCH(DFTInv_PackToR, double)
+BATCH(DFTInv_PermToR, float)
+BATCH(DFTInv_PermToR, double)
+BATCH(Hartley, float)
+BATCH(Hartley, double)
+#undef BATCH
+
+#define BATCH_IN_SINGLE(family)                                                                                     \
+    template Status ZULG_CALL batchInSingle<Family::family>(const float*, std::int64_t, std::int64_t, float*,       \
+                                                            std::int64_t, std::int64_t, std::int32_t, std::int32_t, \
+                                                            std::int64_t);
+BATCH_IN_SINGLE(DFTFwd_CToC)
+BATCH_IN_SINGLE(DFTInv_CToC)
+BATCH_IN_SINGLE(DFTFwd_RToCCS)
+BATCH_IN_SINGLE(DFTFwd_RToPack)
+BATCH_IN_SINGLE(DFTFwd_RToPerm)
+BATCH_IN_SINGLE(DFTInv_CCSToR)
+BATCH_IN_SINGLE(DFTInv_PackToR)
+BATCH_IN_SINGLE(DFTInv_PermToR)
+BATCH_IN_SINGLE(Hartley)
+#undef BATCH_IN_SINGLE
+
+}  // namespace ZULG_TARGET
+}  // namespace zulg

@@ -1,0 +1,68 @@
+// What is refused: flags that are none, and shapes that cannot be.
+#pragma once
+
+#include <cstdint>
+
+#include "kernel/kernel.h"
+
+namespace zulg {
+
+constexpr bool isFlag(std::int32_t flag) {
+    return flag == DivFwdByN || flag == DivInvByN || flag == DivBySqrtN || flag == NoDivByAny;
+}
+
+// Element k of transform j is at k * step + j * distance.
+struct Shape {
+    std::int64_t step;
+    std::int64_t distance;
+
+    constexpr bool operator==(const Shape&) const = default;
+};
+
+// Whether every place, counted in bytes, is a number of 64 bits. `elements` of each of `count` transforms, both above
+// 0.
+constexpr bool fits(Shape shape, std::int64_t elements, std::int64_t count, std::int64_t elementBytes) {
+    std::int64_t last, first, place, bytes;
+    return !__builtin_mul_overflow(shape.step, elements - 1, &last) &&
+           !__builtin_mul_overflow(shape.distance, count - 1, &first) && !__builtin_add_overflow(last, first, &place) &&
+           !__builtin_mul_overflow(place, elementBytes, &bytes) &&
+           !__builtin_mul_overflow(last, elementBytes, &bytes) && !__builtin_mul_overflow(first, elementBytes, &bytes);
+}
+
+constexpr std::uint64_t magnitude(std::int64_t x) {
+    return x < 0 ? 0 - static_cast<std::uint64_t>(x) : static_cast<std::uint64_t>(x);
+}
+
+constexpr std::uint64_t greatestDivisor(std::uint64_t a, std::uint64_t b) {
+    while (b != 0) {
+        const std::uint64_t rest = a % b;
+        a = b;
+        b = rest;
+    }
+    return a;
+}
+
+// Whether no two elements are in one place. The shape fits. Usual shapes are seen without a division: one transform
+// ends before the next begins, or the elements k of all transforms end before the elements k + 1 begin. In others two
+// elements are in one place if their numbers differ by distance/g within a transform and by step/g from transform to
+// transform, with g the greatest common divisor, or by multiples of these.
+constexpr bool isDistinct(Shape shape, std::int64_t elements, std::int64_t count) {
+    const std::uint64_t step = magnitude(shape.step), distance = magnitude(shape.distance);
+    const auto within = static_cast<std::uint64_t>(elements - 1), across = static_cast<std::uint64_t>(count - 1);
+    if (step != 0 && distance > within * step) return true;
+    if (distance != 0 && step > across * distance) return true;
+    const std::uint64_t g = greatestDivisor(step, distance);
+    if (g == 0) return within == 0 && across == 0;
+    return distance / g > within || step / g > across;
+}
+
+// The check of all that has a shape. A batch of no transforms has no place.
+constexpr bool isAccepted(Shape source, std::int64_t sourceElements, Shape destination,
+                          std::int64_t destinationElements, std::int64_t count, std::int64_t elementBytes) {
+    if (count <= 0) return count == 0;
+    return fits(source, sourceElements, count, elementBytes) &&
+           fits(destination, destinationElements, count, elementBytes) &&
+           isDistinct(destination, destinationElements, count);
+}
+
+}  // namespace zulg

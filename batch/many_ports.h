@@ -1,0 +1,273 @@
+// Ports of texts that do several transforms at once. Element n of transform j is at n * step + j * distance, in
+// elements; the parts of a complex number are neighbours.
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+#include "batch/many.h"
+#include "batch/many_routines.h"
+#include "kernel/ports.h"
+#include "value.h"
+
+namespace zulg {
+inline namespace ZULG_TARGET {
+
+// Reads and stores registers that have `width` numbers of each of `copies` transforms. A cell is what one transform has
+// in a register, as it is in memory.
+template <class Element, class Real, int copies, int width>
+struct ManyInMemory {
+    using Vector = typename Many<Real, copies, width>::Vector;
+    using Place = typename InMemory<Element>::Type;
+
+    ZULG_INLINE static Vector read(const Place* place) { return inReals(copied<Elements>(place)); }
+    ZULG_INLINE static void store(Place* place, Vector value) { put(place, inElements(value)); }
+
+    // The cells are `apart` places from each other.
+    template <class Numbers = TargetNumbers>
+    ZULG_INLINE static Vector readApart(const Place* place, std::ptrdiff_t apart) {
+        if constexpr (cellBytes == 16) {
+            return Numbers::template pairs<Element>(place, place + apart, false);
+        } else {
+            const Cells cells = [=]<int... j>(std::integer_sequence<int, j...>) __attribute__((always_inline)) {
+                return Cells{copied<Cell>(place + j * apart)...};
+            }
+            (std::make_integer_sequence<int, copies>{});
+            return inReals((Elements)cells);
+        }
+    }
+    template <class Numbers = TargetNumbers>
+    ZULG_INLINE static void storeApart(Place* place, std::ptrdiff_t apart, Vector value) {
+        if constexpr (cellBytes == 16) {
+            Numbers::template store<Element>(place, place + apart, false, value);
+        } else {
+            const Cells cells = (Cells)inElements(value);
+            [=]<int... j>(std::integer_sequence<int, j...>) __attribute__((always_inline)) {
+                (put(place + j * apart, Cell{cells[j]}), ...);
+            }
+            (std::make_integer_sequence<int, copies>{});
+        }
+    }
+
+private:
+    static constexpr int cellBytes = width * static_cast<int>(sizeof(Element));
+    using Cell = std::conditional_t<cellBytes == 4, float, double>;
+    typedef Cell Cells __attribute__((vector_size(sizeof(Cell) * copies)));
+    typedef Element Elements __attribute__((vector_size(sizeof(Element) * copies * width)));
+
+    template <class What>
+    ZULG_INLINE static What copied(const Place* place) {
+        What what;
+        __builtin_memcpy(&what, reinterpret_cast<const char*>(place), sizeof what);
+        return what;
+    }
+    template <class What>
+    ZULG_INLINE static void put(Place* place, What what) {
+        __builtin_memcpy(reinterpret_cast<char*>(place), &what, sizeof what);
+    }
+
+    // Where a level does not have both types, it has no conversion either.
+    template <class Numbers = TargetNumbers>
+    ZULG_INLINE static Vector inReals(Elements elements) {
+        if constexpr (sizeof(Real) == sizeof(Element)) {
+            return elements;
+        } else {
+            return Numbers::inDoubles(elements);
+        }
+    }
+    template <class Numbers = TargetNumbers>
+    ZULG_INLINE static Elements inElements(Vector value) {
+        if constexpr (sizeof(Real) == sizeof(Element)) {
+            return value;
+        } else {
+            return Numbers::inSingles(value);
+        }
+    }
+};
+
+// What the ports of real and of complex texts share. A constant is multiplied by whole registers, and results are
+// multiplied by `scale` and rounded once.
+template <class Element, class Real, int copies, int width, bool exchanged>
+struct ManyPorts {
+    using Register = Many<Real, copies, width, exchanged>;
+    using Place = typename InMemory<Element>::Type;
+    using Memory = ManyInMemory<Element, Real, copies, width>;
+    template <class Graph>
+    struct Constants {
+        ZULG_INLINE constexpr double operator[](int i) const { return Graph::constants[i]; }
+    };
+
+    // One by one: a compiler would copy the whole in memory, for each register of transforms anew.
+    const Place* const source;
+    Place* const destination;
+    const std::ptrdiff_t sourceStep, sourceDistance, destinationStep, destinationDistance;
+    const std::ptrdiff_t* const spectrum;
+    const bool hasZeros;
+    const Register scale;
+
+    ZULG_INLINE explicit ManyPorts(const ManyArrays<Element>& of)
+        : source(of.source),
+          destination(of.destination),
+          sourceStep(of.sourceStep),
+          sourceDistance(of.sourceDistance),
+          destinationStep(of.destinationStep),
+          destinationDistance(of.destinationDistance),
+          spectrum(of.spectrum),
+          hasZeros(of.hasZeros),
+          scale(of.scale) {}
+
+    ZULG_INLINE Register scaled(Register value) const { return value * scale; }
+};
+
+// Complex transforms, a complex number of each to a register.
+template <class Element, class Real, int copies, Placement placement, bool exchanged>
+struct ManyComplexPorts : ManyPorts<Element, Real, copies, 2, exchanged> {
+    using Base = ManyPorts<Element, Real, copies, 2, exchanged>;
+    using Base::Base;
+    using Value = Many<Real, copies, 1, exchanged>;
+    using Pair = Many<Real, copies, 2, exchanged>;
+
+    ZULG_INLINE Pair pair(int k) const {
+        if constexpr (placement == Placement::Beside) {
+            return Pair(Base::Memory::read(this->source + k * this->sourceStep));
+        } else {
+            return Pair(Base::Memory::readApart(this->source + 2 * k, this->sourceDistance));
+        }
+    }
+    ZULG_INLINE void pair(int k, Pair value) const {
+        const typename Pair::Vector vector = this->scaled(value).vector;
+        if constexpr (placement == Placement::Beside) {
+            Base::Memory::store(this->destination + k * this->destinationStep, vector);
+        } else {
+            Base::Memory::storeApart(this->destination + 2 * k, this->destinationDistance, vector);
+        }
+    }
+    ZULG_INLINE void finish() const {}
+};
+
+// Real numbers of transforms that are side by side. The slots of a half spectrum are where the caller's layout has
+// them.
+template <Family family, int length, class Element, class Real, int copies>
+struct RealsBeside : ManyPorts<Element, Real, copies, 1, false> {
+    using Base = ManyPorts<Element, Real, copies, 1, false>;
+    using Base::Base;
+    using Value = Many<Real, copies, 1>;
+
+    ZULG_INLINE Value read(int n) const { return Value(Base::Memory::read(this->source + n * this->sourceStep)); }
+    ZULG_INLINE void store(int n, Value value) const {
+        Base::Memory::store(this->destination + n * this->destinationStep, value.vector);
+    }
+    ZULG_INLINE Value readSlot(int slot) const {
+        return Value(Base::Memory::read(this->source + this->spectrum[slot]));
+    }
+    ZULG_INLINE void storeSlot(int slot, Value value) const {
+        Base::Memory::store(this->destination + this->spectrum[slot], value.vector);
+    }
+    ZULG_INLINE void storeZero(int slot) const {
+        if (this->hasZeros) storeSlot(slot, Value(0));
+    }
+    ZULG_INLINE void storeHeld() const {}
+};
+
+// Real numbers of four transforms, one after the other: four elements of each come in and go out together, by a
+// transposition. At the end of an array the four are its last ones, some of which have come or gone before.
+template <Family family, int length, class Element, class Real, int copies>
+struct RealsBehind : ManyPorts<Element, Real, copies, 1, false> {
+    using Base = ManyPorts<Element, Real, copies, 1, false>;
+    using Base::Base;
+    using Value = Many<Real, copies, 1>;
+    using Place = typename InMemory<Element>::Type;
+    using Slot = Slots<layoutOf<family>, length>;
+    static constexpr int readElements = elementsOf<family>(length).read;
+    static constexpr int writtenElements = elementsOf<family>(length).written;
+    static_assert(copies == 4);
+
+    ZULG_INLINE Value read(int at) const {
+        if constexpr (readElements < 4) {
+            return Value(Base::Memory::readApart(this->source + at, this->sourceDistance));
+        } else {
+            const int first = firstOfFour(at, readElements), column = at - first;
+            const Place* const row = this->source + first;
+            const std::ptrdiff_t next = this->sourceDistance;
+            return columnOf(column, Value(Base::Memory::read(row)), Value(Base::Memory::read(row + next)),
+                            Value(Base::Memory::read(row + 2 * next)), Value(Base::Memory::read(row + 3 * next)));
+        }
+    }
+    ZULG_INLINE void store(int at, Value value) const { held[at] = value; }
+    ZULG_INLINE Value readSlot(int slot) const { return read(Slot::re(slot / 2) + slot % 2); }
+    ZULG_INLINE void storeSlot(int slot, Value value) const { store(Slot::re(slot / 2) + slot % 2, value); }
+    ZULG_INLINE void storeZero(int slot) const {
+        if constexpr (layoutOf<family> == Layout::CCS) storeSlot(slot, Value(0));
+    }
+
+    ZULG_INLINE void storeHeld() const {
+        const std::ptrdiff_t next = this->destinationDistance;
+        if constexpr (writtenElements < 4) {
+            for (int at = 0; at < writtenElements; ++at)
+                Base::Memory::storeApart(this->destination + at, next, held[at].vector);
+        } else {
+            for (int at = 0; at < writtenElements; at += 4) {
+                const int first = firstOfFour(at, writtenElements);
+                Place* const row = this->destination + first;
+                const auto storeRow = [ =, this ](int j) __attribute__((always_inline)) {
+                    const Value four = columnOf(j, held[first], held[first + 1], held[first + 2], held[first + 3]);
+                    Base::Memory::store(row + j * next, four.vector);
+                };
+                storeRow(0), storeRow(1), storeRow(2), storeRow(3);
+            }
+        }
+    }
+
+private:
+    static constexpr int firstOfFour(int at, int elements) {
+        return at / 4 * 4 + 4 <= elements ? at / 4 * 4 : elements - 4;
+    }
+
+    // One column of a matrix of four rows.
+    ZULG_INLINE static Value columnOf(int column, Value a, Value b, Value c, Value d) {
+        const auto ab = column % 2 == 0 ? __builtin_shufflevector(a.vector, b.vector, 0, 4, 2, 6)
+                                        : __builtin_shufflevector(a.vector, b.vector, 1, 5, 3, 7);
+        const auto cd = column % 2 == 0 ? __builtin_shufflevector(c.vector, d.vector, 0, 4, 2, 6)
+                                        : __builtin_shufflevector(c.vector, d.vector, 1, 5, 3, 7);
+        return column < 2 ? Value(__builtin_shufflevector(ab, cd, 0, 1, 4, 5))
+                          : Value(__builtin_shufflevector(ab, cd, 2, 3, 6, 7));
+    }
+
+    mutable Value held[writtenElements];
+};
+
+template <Placement placement, Family family, int length, class Element, class Real, int copies>
+using RealsOf = std::conditional_t<placement == Placement::Beside, RealsBeside<family, length, Element, Real, copies>,
+                                   RealsBehind<family, length, Element, Real, copies>>;
+
+// Real transforms, a real number of each to a register. Slots are those of CCS.
+template <Family family, int length, class Element, class Real, int copies, Placement placement>
+struct ManyRealPorts : RealsOf<placement, family, length, Element, Real, copies> {
+    using Base = RealsOf<placement, family, length, Element, Real, copies>;
+    using Base::Base;
+    using Value = Many<Real, copies, 1>;
+
+    ZULG_INLINE static Value two() { return Value(2); }
+    ZULG_INLINE Value in(int n) const { return Base::read(n); }
+    ZULG_INLINE Value re(int k) const { return Base::readSlot(2 * k); }
+    ZULG_INLINE Value im(int k) const { return Base::readSlot(2 * k + 1); }
+    ZULG_INLINE void out(int n, Value value) const { Base::store(n, this->scaled(value)); }
+    ZULG_INLINE void re(int k, Value value) const { Base::storeSlot(2 * k, this->scaled(value)); }
+    ZULG_INLINE void im(int k, Value value) const { Base::storeSlot(2 * k + 1, this->scaled(value)); }
+    // Where a text holds minus a result, the sign is turned after the scale: minus a zero is a negative zero.
+    ZULG_INLINE void minusRe(int k, Value value) const { Base::storeSlot(2 * k, -this->scaled(value)); }
+    ZULG_INLINE void minusIm(int k, Value value) const { Base::storeSlot(2 * k + 1, -this->scaled(value)); }
+
+    // The imaginary parts of the real bins of CCS are no results: always +0.0.
+    ZULG_INLINE void finish() const {
+        if constexpr (isRealForward<family>) {
+            Base::storeZero(1);
+            if constexpr (length % 2 == 0) Base::storeZero(length + 1);
+        }
+        Base::storeHeld();
+    }
+};
+
+}  // namespace ZULG_TARGET
+}  // namespace zulg

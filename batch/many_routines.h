@@ -1,0 +1,47 @@
+// The routines that do several transforms at once.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "batch/elements.h"
+#include "kernel/families.h"
+#include "kernel/in_memory.h"
+
+namespace zulg {
+inline namespace ZULG_TARGET {
+
+// How the transforms of a register are in memory. Beside: element n of all of them is in neighbouring elements, one
+// transform to each. Behind: the elements of each transform are neighbours.
+enum class Placement { Beside, Behind };
+
+// The arrays of one run. Steps and distances are in places: those of complex arrays are even. `spectrum` says where the
+// CCS slots of a half spectrum are in the layout that the caller has, in places from the beginning of each transform;
+// of a layout without the zeros of CCS, these have none.
+template <class Element>
+struct ManyArrays {
+    using Place = typename InMemory<Element>::Type;
+
+    const Place* source;
+    Place* destination;
+    std::ptrdiff_t sourceStep, sourceDistance;
+    std::ptrdiff_t destinationStep, destinationDistance;
+    const std::ptrdiff_t* spectrum;
+    bool hasZeros;
+    Element scale;
+};
+
+// How many transforms are in the widest register of the level.
+template <Family family, class Real>
+inline constexpr int copiesOf = TargetNumbers::widest* static_cast<int>(sizeof(double) / sizeof(Real)) /
+                                (isComplex<family> ? 2 : 1);
+
+template <class Element>
+using ManyRoutine = void (*)(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
+
+// As many transforms as `registers` hold. The flag has been checked; the routine sets `arrays.scale`.
+template <Family family, int length, class Element, class Real, Placement placement>
+void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
+
+}  // namespace ZULG_TARGET
+}  // namespace zulg

@@ -1,0 +1,50 @@
+// Runs of transforms that a register has several of.
+#pragma once
+
+#include <cstdint>
+
+#include "batch/many_ports.h"
+#include "kernel/families.h"
+#include "kernel/graphs.h"
+#include "kernel/kernel.h"
+#include "kernel/scale.h"
+
+namespace zulg {
+inline namespace ZULG_TARGET {
+
+// The ports of a family.
+template <Family family, int length, class Element, class Real, Placement placement>
+struct ManyPortsOf {
+    using Type = ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>;
+};
+template <int length, class Element, class Real, Placement placement>
+struct ManyPortsOf<Family::DFTFwd_CToC, length, Element, Real, placement> {
+    using Type = ManyComplexPorts<Element, Real, copiesOf<Family::DFTFwd_CToC, Real>, placement, false>;
+};
+template <int length, class Element, class Real, Placement placement>
+struct ManyPortsOf<Family::DFTInv_CToC, length, Element, Real, placement> {
+    using Type = ManyComplexPorts<Element, Real, copiesOf<Family::DFTInv_CToC, Real>, placement, true>;
+};
+
+// The text of a family and length: the build says it for each that it makes.
+template <Family family, int length>
+struct ManyTextOf;
+
+template <Family family, int length, class Element, class Real, Placement placement>
+void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers) {
+    using Text = typename ManyTextOf<family, length>::Type;
+    using Ports = typename ManyPortsOf<family, length, Element, Real, placement>::Type;
+    using Factors = FactorsByFlag<typename FlagsOf<family>::Flags, Scale<Element, length, Text>>;
+    constexpr std::ptrdiff_t copies = copiesOf<family, Real>;
+    arrays.scale = Factors::factors[flag >> 1];
+    for (std::int64_t i = 0; i < registers; ++i) {
+        const Ports io(arrays);
+        Text::run(io);
+        io.finish();
+        arrays.source += copies * arrays.sourceDistance;
+        arrays.destination += copies * arrays.destinationDistance;
+    }
+}
+
+}  // namespace ZULG_TARGET
+}  // namespace zulg

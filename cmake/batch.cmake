@@ -1,0 +1,119 @@
+# The batch library. Complex texts of pairs and real texts of single numbers become routines that do several transforms
+# at once, on registers that hold numbers of each.
+
+# The lengths that are computed in single where a caller asks for that. At the others the pooled error would be above
+# 1.5 * 2^-24: those with a prime factor from 11 up, and 49, 54 and 63.
+set(lengths_in_single 2 3 4 5 6 7 8 9 10 12 14 15 16 18 20 21 24 25 27 28 30 32 35 36 40 42 45 48 50 56 60 64)
+
+# many_instances(VARIABLE FAMILY GRAPH LENGTH STEPS): how one text becomes routines for one family, as words: the type of
+# the elements, the type that the routine computes in, the placement. Of the half spectra those in CCS serve the other
+# layouts as well where transforms are side by side. Long transforms one after the other are as fast one by one, but in
+# single there are none of these.
+function(many_instances variable family graph length steps)
+    set(instances "")
+    set(isComplex FALSE)
+    set(most ${batch_behind_real_steps})
+    if(graph MATCHES "^Complex")
+        set(isComplex TRUE)
+        set(most ${batch_behind_complex_steps})
+    endif()
+    foreach(types IN LISTS batch_types)
+        string(REGEX MATCH "[a-z]+$" computed ${types})
+        if(computed STREQUAL "float" AND NOT length IN_LIST lengths_in_single)
+            continue()
+        endif()
+        if(NOT family MATCHES "Pack|Perm")
+            list(APPEND instances "${types} Beside")
+        endif()
+        if((computed STREQUAL "double" AND steps LESS_EQUAL most) OR (computed STREQUAL "float" AND isComplex))
+            list(APPEND instances "${types} Behind")
+        endif()
+    endforeach()
+    set(${variable} "${instances}" PARENT_SCOPE)
+endfunction()
+
+# add_batch_level(LIBRARY FOLDER): an object library of what the batch library has for the target in FOLDER.
+function(add_batch_level library folder)
+    include(${folder}/target.cmake)
+    get_filename_component(target ${folder} NAME)
+    set(made ${CMAKE_CURRENT_BINARY_DIR}/${target}/batch)
+    set(sources ${PROJECT_SOURCE_DIR}/batch/batch.cpp)
+    set(lines "")
+    foreach(row IN LISTS kernel_texts)
+        string(REPLACE " " ";" row "${row}")
+        list(POP_FRONT row text form graph length steps)
+        if(NOT graph MATCHES "^Complex(Pairs)$|^(Real|Hartley).*Graph$")
+            continue()
+        endif()
+        set(definitions "")
+        set(texts_before "${lines}")
+        foreach(family IN LISTS row)
+            string(APPEND definitions "template <>\nstruct ManyTextOf<Family::${family}, ${length}> {\n"
+                "    using Type = ${graph}<${length}>;\n};\n")
+            many_instances(instances ${family} ${graph} ${length} ${steps})
+            foreach(instance IN LISTS instances)
+                string(REPLACE " " ";" words ${instance})
+                list(POP_FRONT words element computed placement)
+                string(APPEND definitions "template void manyTransforms<Family::${family}, ${length}, ${element}, "
+                    "${computed}, Placement::${placement}>(ManyArrays<${element}>, std::int32_t, std::int64_t);\n")
+                list(APPEND lines "MANY_TEXT(${family}, ${length}, ${computed}, ${placement})\n")
+            endforeach()
+        endforeach()
+        if(lines STREQUAL texts_before)
+            continue()
+        endif()
+        string(REGEX REPLACE "h$" "cpp" source "${made}/${text}")
+        string(CONCAT content "#include \"batch/many_transforms.h\"\n#include \"${text}\"\n\n"
+            "namespace zulg {\ninline namespace ZULG_TARGET {\n\n${definitions}\n}\n}\n")
+        file(CONFIGURE OUTPUT ${source} @ONLY CONTENT "${content}")
+        list(APPEND sources ${source})
+    endforeach()
+    list(REMOVE_DUPLICATES lines)
+    list(JOIN lines "" lines)
+    file(CONFIGURE OUTPUT ${made}/many_texts.inc @ONLY CONTENT "${lines}")
+
+    add_library(${library} OBJECT ${sources})
+    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder} ${made})
+    target_compile_options(${library} PRIVATE ${library_compile_flags} ${target_compile_flags} ${batch_compile_flags})
+    target_link_libraries(${library} PRIVATE zulgen_warnings)
+endfunction()
+
+# add_batch_library(NAME MAIN_LIBRARY): the batch library beside a main library.
+function(add_batch_library name main)
+    add_library(${name} SHARED batch/dct4.cpp batch/entries.S batch/slot_table.cpp batch/wht.cpp
+        ${library_first_sources})
+    foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:batch_${level}>)
+    endforeach()
+    set_target_properties(${name} PROPERTIES
+        OUTPUT_NAME zulgenpx-batch-7.0
+        LINKER_LANGUAGE C  # no C++ runtime is linked
+        LINK_DEPENDS ${PROJECT_SOURCE_DIR}/batch/exports.map
+        BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN")
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${target_folder}
+        INTERFACE ${PROJECT_SOURCE_DIR}/include)
+    target_compile_options(${name} PRIVATE
+        "$<$<COMPILE_LANGUAGE:CXX>:${library_compile_flags};${target_compile_flags}>")
+    target_link_options(${name} PRIVATE ${common_link_flags}
+        -Wl,--version-script=${PROJECT_SOURCE_DIR}/batch/exports.map)
+    target_link_libraries(${name} PRIVATE zulgen_warnings ${main})
+endfunction()
+
+foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
+    add_batch_level(batch_${level} ${PROJECT_SOURCE_DIR}/targets/${level})
+endforeach()
+add_batch_library(zulgenpx_batch zulgenpx)
+install(TARGETS zulgenpx_batch LIBRARY DESTINATION lib)
+install(FILES include/zulgenpx_batch.h include/zulgenpx_batch_routines.h TYPE INCLUDE)
+
+# One level by itself, for the tests, beside the main library of that level.
+foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
+    add_batch_library(zulgenpx_batch_${level} zulgenpx_${level})
+    target_include_directories(zulgenpx_batch_${level} BEFORE PRIVATE tests/levels/one)
+    target_compile_definitions(zulgenpx_batch_${level} PRIVATE ZULG_LEVEL=${level})
+    set_target_properties(zulgenpx_batch_${level} PROPERTIES
+        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/levels/${level})
+endforeach()
+set_source_files_properties(batch/entries.S PROPERTIES OBJECT_DEPENDS
+    "${PROJECT_SOURCE_DIR}/batch/slots.inc;${target_folder}/entries.inc")

@@ -22,9 +22,10 @@ Contest contest(Transform transform, int size) {
 }
 
 template <class Element>
-Contest batchContest(Transform transform, int size) {
-    Field<Element> field("batch_", transform, size, 1024);
-    addOurs(field);
+Contest batchContest(Transform transform, int size, int count, bool areBeside) {
+    const std::string prefix = std::string("batch_") + (areBeside ? "beside_" : "") + std::to_string(count) + "_";
+    Field<Element> field(prefix, transform, size, count, areBeside);
+    addOurBatch(field);
     if (peersTakePart()) addFftw(field);
     return field.contest;
 }
@@ -43,8 +44,16 @@ void addContests(std::vector<Contest>& all) {
         for (int length = 2; length <= 64; ++length) all.push_back(contest<Element>(transform, length));
     for (int length = 2; length <= 65536; length *= 2) all.push_back(contest<Element>(Transform::Dct4, length));
     for (int order = 1; order <= 13; ++order) all.push_back(contest<Element>(Transform::WalshHadamard, 1 << order));
-    for (const int length : {4, 8, 12, 15, 16, 30, 31, 32, 48, 53, 60, 64})
-        all.push_back(batchContest<Element>(Transform::ComplexForward, length));
+    // Half spectra that are side by side are in another order at FFTW.
+    for (const int count : {32, 1024}) {
+        for (int length = 2; length <= 64; ++length) {
+            all.push_back(batchContest<Element>(Transform::ComplexForward, length, count, false));
+            all.push_back(batchContest<Element>(Transform::ComplexForward, length, count, true));
+            all.push_back(batchContest<Element>(Transform::RealForward, length, count, false));
+            all.push_back(batchContest<Element>(Transform::RealInverse, length, count, false));
+            all.push_back(batchContest<Element>(Transform::Hartley, length, count, true));
+        }
+    }
     // Longer ones take so much time that a difference of a nanosecond is not seen.
     for (int length = 2; length <= 24; ++length)
         all.push_back(dispatchContest<Element>(Transform::ComplexForward, length));

@@ -67,8 +67,8 @@ void Arrays<Element>::fill() const {
 }
 
 template <class Element>
-Field<Element>::Field(const std::string& prefix, Transform what, int points, int transforms)
-    : transform(what), size(points), count(transforms) {
+Field<Element>::Field(const std::string& prefix, Transform what, int points, int transforms, bool beside)
+    : transform(what), size(points), count(transforms), areBeside(beside) {
     const Counts of = counts(what, points);
     arrays = std::make_shared<Arrays<Element>>(of.source * count, of.destination * count);
     const std::string element = sizeof(Element) == 8 ? "double" : "single";

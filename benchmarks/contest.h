@@ -81,21 +81,23 @@ struct Contest {
 };
 
 // All contests in which our library takes part. There is one for each transform of each size, with caches that are
-// warm. A contest with the prefix `batch_` has 1024 transforms in a call, each on data of its own. One with `dispatch_`
+// warm. A contest with the prefix `batch_` has many transforms in a call, each on data of its own: one after the other
+// or, with `batch_beside_`, side by side. One with `dispatch_`
 // compares our routine of a fixed length with the one that takes the length as an argument.
 std::vector<Contest> allContests();
 
 // A contest of one element type while participants are added.
 template <class Element>
 struct Field {
-    Field(const std::string& prefix, Transform transform, int size, int count = 1);
+    Field(const std::string& prefix, Transform transform, int size, int count = 1, bool areBeside = false);
 
     // What is in the destination, times a factor.
     std::function<Result()> destination(double factor = 1) const;
 
     Transform transform;
-    int size;   // points
-    int count;  // transforms to a call
+    int size;        // points
+    int count;       // transforms to a call
+    bool areBeside;  // element k of all transforms, then element k + 1 of them
     std::shared_ptr<Arrays<Element>> arrays;
     Contest contest;
 };
@@ -103,6 +105,9 @@ struct Field {
 // Each adds what it has for the field's transform and size, or nothing.
 template <class Element>
 void addOurs(Field<Element>& field);
+// One call of the batch library.
+template <class Element>
+void addOurBatch(Field<Element>& field);
 template <class Element>
 void addOurDispatcher(Field<Element>& field);
 template <class Element>

@@ -61,7 +61,7 @@ fftw_r2r_kind realKind(Transform transform) {
 // Our routines do not change their source, so FFTW must not change it either.
 template <class Element>
 typename Fftw<Element>::Plan makePlan(Transform transform, int size, int count, const Arrays<Element>& arrays,
-                                      unsigned flags) {
+                                      bool areBeside, unsigned flags) {
     using Api = Fftw<Element>;
     using Complex = typename Api::Complex;
     Element* const in = arrays.source;
@@ -69,18 +69,24 @@ typename Fftw<Element>::Plan makePlan(Transform transform, int size, int count, 
     auto* const complexIn = reinterpret_cast<Complex*>(in);
     auto* const complexOut = reinterpret_cast<Complex*>(out);
     const int bins = size / 2 + 1;
+    const int step = areBeside ? count : 1, distance = areBeside ? 1 : size, ofBins = areBeside ? 1 : bins;
     const fftw_r2r_kind kind = realKind(transform);
     flags |= FFTW_PRESERVE_INPUT;
     switch (transform) {
         case Transform::ComplexForward:
         case Transform::ComplexInverse:
-            return Api::planComplex(1, &size, count, complexIn, nullptr, 1, size, complexOut, nullptr, 1, size,
-                                    transform == Transform::ComplexForward ? FFTW_FORWARD : FFTW_BACKWARD, flags);
+            return Api::planComplex(1, &size, count, complexIn, nullptr, step, distance, complexOut, nullptr, step,
+                                    distance, transform == Transform::ComplexForward ? FFTW_FORWARD : FFTW_BACKWARD,
+                                    flags);
         case Transform::RealForward:
-            return Api::planRealForward(1, &size, count, in, nullptr, 1, size, complexOut, nullptr, 1, bins, flags);
+            return Api::planRealForward(1, &size, count, in, nullptr, step, distance, complexOut, nullptr, step, ofBins,
+                                        flags);
         case Transform::RealInverse:
-            return Api::planRealInverse(1, &size, count, complexIn, nullptr, 1, bins, out, nullptr, 1, size, flags);
-        default: return Api::planRealToReal(1, &size, count, in, nullptr, 1, size, out, nullptr, 1, size, &kind, flags);
+            return Api::planRealInverse(1, &size, count, complexIn, nullptr, step, ofBins, out, nullptr, step, distance,
+                                        flags);
+        default:
+            return Api::planRealToReal(1, &size, count, in, nullptr, step, distance, out, nullptr, step, distance,
+                                       &kind, flags);
     }
 }
 
@@ -124,8 +130,8 @@ void addFftw(Field<Element>& field) {
     const auto destination = field.destination(field.transform == Transform::Dct4 ? 0.5 : 1);
     for (const Planning& planning : plannings) {
         const auto prepare = [=, transform = field.transform, size = field.size, count = field.count,
-                              arrays = field.arrays] {
-            const auto plan = makePlan(transform, size, count, *arrays, planning.flags);
+                              arrays = field.arrays, areBeside = field.areBeside] {
+            const auto plan = makePlan(transform, size, count, *arrays, areBeside, planning.flags);
             if (plan == nullptr) std::fprintf(stderr, "FFTW: no plan of length %d\n", size), std::exit(1);
             if (planning.flags & withoutVectors) requireScalar<Element>(plan);
             Prepared call = prepared([plan] { Api::execute(plan); });

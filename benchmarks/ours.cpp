@@ -24,7 +24,7 @@ const char* kernelFamily(Transform transform) {
 }
 
 template <class Element>
-void addKernel(Field<Element>& field, const Library& library) {
+void addKernel(Field<Element>& field, const Library& library, const std::string& ending = "") {
     const std::string name = std::string("zulg") + kernelFamily(field.transform);
     const auto routine = library.routine<Kernel<Element>>(name + "_" + std::to_string(field.size) + suffix(field));
     if (routine == nullptr) return;
@@ -34,7 +34,7 @@ void addKernel(Field<Element>& field, const Library& library) {
                        destinationStep = arrays.destinationCount / field.count](int i) {
         routine(source + i * sourceStep, destination + i * destinationStep, NoDivByAny);
     };
-    field.contest.participants.push_back({library.name,
+    field.contest.participants.push_back({library.name + ending,
                                           [call, count = field.count] {
                                               if (count == 1) return prepared([call] { call(0); });
                                               return prepared([call, count] {
@@ -42,6 +42,29 @@ void addKernel(Field<Element>& field, const Library& library) {
                                               });
                                           },
                                           field.destination()});
+}
+
+// The batch library; of singles also what computes in single. Complex elements are two numbers.
+template <class Element>
+void addBatch(Field<Element>& field, const Library& library) {
+    const std::string name = kernelFamily(field.transform) + suffix(field);
+    const bool isComplex = field.transform <= Transform::ComplexInverse;
+    const std::int64_t width = isComplex ? 2 : 1, count = field.count;
+    const Arrays<Element>& arrays = *field.arrays;
+    const std::int64_t read = arrays.sourceCount / count / width, written = arrays.destinationCount / count / width;
+    for (const char* kind : {"", "Single"}) {
+        const auto routine = reinterpret_cast<Batch<Element>>(library.batchAddress("zulgBatch" + (kind + name)));
+        if (routine == nullptr) continue;
+        const auto prepare = [=, source = arrays.source, destination = arrays.destination, size = field.size,
+                              areBeside = field.areBeside] {
+            const std::int64_t step = areBeside ? count : 1;
+            return prepared([=, sourceDistance = areBeside ? 1 : read, destinationDistance = areBeside ? 1 : written] {
+                routine(source, step, sourceDistance, destination, step, destinationDistance, size, NoDivByAny, count);
+            });
+        };
+        field.contest.participants.push_back(
+            {library.name + (*kind == 0 ? "" : "_single"), prepare, field.destination()});
+    }
 }
 
 template <class Element>
@@ -101,12 +124,22 @@ void addOurs(Field<Element>& field) {
 }
 
 template <class Element>
+void addOurBatch(Field<Element>& field) {
+    for (const Library& library : libraries()) {
+        addBatch(field, library);
+        if (!field.areBeside) addKernel(field, library, "_loop");
+    }
+}
+
+template <class Element>
 void addOurDispatcher(Field<Element>& field) {
     for (const Library& library : libraries()) addDispatcher(field, library);
 }
 
 template void addOurs(Field<float>&);
 template void addOurs(Field<double>&);
+template void addOurBatch(Field<float>&);
+template void addOurBatch(Field<double>&);
 template void addOurDispatcher(Field<float>&);
 template void addOurDispatcher(Field<double>&);
 

@@ -18,6 +18,27 @@ ZulgStatus buffered(const T* from, T* to, const Call& call) {
     return routine(from, to, call.size, call.flag, static_cast<T*>(call.workspace));
 }
 
+// The elements of a frame of bins are as many as its points, or those of a CCS array.
+int sameLength(int length) { return length; }
+int lengthOfCCS(int length) { return ZULG_CCS_LENGTH(length); }
+
+template <typename Element, auto routine, auto binLength, typename T>
+ZulgStatus plainMany(const T* from, T* to, const Call& call, std::int64_t frames) {
+    return routine(reinterpret_cast<const Element*>(from), 1, call.size, reinterpret_cast<Element*>(to), 1,
+                   binLength(call.size), call.size, call.flag, frames);
+}
+
+template <auto routine, typename T>
+ZulgStatus bufferedMany(const T* from, T* to, const Call& call, std::int64_t frames) {
+    const std::int64_t length = std::int64_t{1} << call.size;
+    return routine(from, 1, length, to, 1, length, call.size, call.flag, frames, static_cast<T*>(call.workspace));
+}
+
+template <typename Plan, auto routine, typename T>
+ZulgStatus plannedMany(const T* from, T* to, const Call& call, std::int64_t frames) {
+    return routine(from, 1, call.size, to, 1, call.size, static_cast<Plan*>(call.workspace), frames, nullptr);
+}
+
 ZulgStatus buffer(std::int32_t, void* block, void** workspace) {
     *workspace = block;
     return StatusOk;
@@ -105,8 +126,10 @@ constexpr Family families[] = {
         .shownBin = inTheirOrder,
         .magnitude = ownMagnitude,
         .restoringFlag = flagOfInverse,
-        .single = {nullptr, nullptr, plain<Zulg32fc, zulgDFTFwd_CToC_32fc>, plain<Zulg32fc, zulgDFTInv_CToC_32fc>},
-        .wide = {nullptr, nullptr, plain<Zulg64fc, zulgDFTFwd_CToC_64fc>, plain<Zulg64fc, zulgDFTInv_CToC_64fc>},
+        .single = {nullptr, nullptr, plain<Zulg32fc, zulgDFTFwd_CToC_32fc>, plain<Zulg32fc, zulgDFTInv_CToC_32fc>,
+                   plainMany<Zulg32fc, zulgBatchDFTFwd_CToC_32fc, sameLength>},
+        .wide = {nullptr, nullptr, plain<Zulg64fc, zulgDFTFwd_CToC_64fc>, plain<Zulg64fc, zulgDFTInv_CToC_64fc>,
+                 plainMany<Zulg64fc, zulgBatchDFTFwd_CToC_64fc, sameLength>},
     },
     {
         // A CCS array holds the bins from 0 to the middle: the real part and the imaginary part of each.
@@ -122,8 +145,10 @@ constexpr Family families[] = {
         .shownBin = inTheirOrder,
         .magnitude = ownMagnitude,
         .restoringFlag = flagOfInverse,
-        .single = {nullptr, nullptr, plain<Zulg32f, zulgDFTFwd_RToCCS_32f>, plain<Zulg32f, zulgDFTInv_CCSToR_32f>},
-        .wide = {nullptr, nullptr, plain<Zulg64f, zulgDFTFwd_RToCCS_64f>, plain<Zulg64f, zulgDFTInv_CCSToR_64f>},
+        .single = {nullptr, nullptr, plain<Zulg32f, zulgDFTFwd_RToCCS_32f>, plain<Zulg32f, zulgDFTInv_CCSToR_32f>,
+                   plainMany<Zulg32f, zulgBatchDFTFwd_RToCCS_32f, lengthOfCCS>},
+        .wide = {nullptr, nullptr, plain<Zulg64f, zulgDFTFwd_RToCCS_64f>, plain<Zulg64f, zulgDFTInv_CCSToR_64f>,
+                 plainMany<Zulg64f, zulgBatchDFTFwd_RToCCS_64f, lengthOfCCS>},
     },
     {
         .name = "hartley",
@@ -138,8 +163,10 @@ constexpr Family families[] = {
         .shownBin = inTheirOrder,
         .magnitude = hartleyMagnitude,
         .restoringFlag = flagOfInvolution,
-        .single = {nullptr, nullptr, plain<Zulg32f, zulgHartley_32f>, plain<Zulg32f, zulgHartley_32f>},
-        .wide = {nullptr, nullptr, plain<Zulg64f, zulgHartley_64f>, plain<Zulg64f, zulgHartley_64f>},
+        .single = {nullptr, nullptr, plain<Zulg32f, zulgHartley_32f>, plain<Zulg32f, zulgHartley_32f>,
+                   plainMany<Zulg32f, zulgBatchHartley_32f, sameLength>},
+        .wide = {nullptr, nullptr, plain<Zulg64f, zulgHartley_64f>, plain<Zulg64f, zulgHartley_64f>,
+                 plainMany<Zulg64f, zulgBatchHartley_64f, sameLength>},
     },
     {
         .name = "wht",
@@ -154,8 +181,10 @@ constexpr Family families[] = {
         .shownBin = binOfSignChanges,
         .magnitude = ownMagnitude,
         .restoringFlag = flagOfInvolution,
-        .single = {zulgWHTGetBufferSize_32f, buffer, buffered<zulgWHT_32f>, buffered<zulgWHT_32f>},
-        .wide = {zulgWHTGetBufferSize_64f, buffer, buffered<zulgWHT_64f>, buffered<zulgWHT_64f>},
+        .single = {zulgBatchWHTGetBufferSize_32f, buffer, buffered<zulgWHT_32f>, buffered<zulgWHT_32f>,
+                   bufferedMany<zulgBatchWHT_32f>},
+        .wide = {zulgBatchWHTGetBufferSize_64f, buffer, buffered<zulgWHT_64f>, buffered<zulgWHT_64f>,
+                 bufferedMany<zulgBatchWHT_64f>},
     },
     {
         .name = "dct4",
@@ -171,9 +200,11 @@ constexpr Family families[] = {
         .magnitude = ownMagnitude,
         .restoringFlag = [](std::int32_t flag) { return flag; },
         .single = {zulgDCT4GetSize_32f, plan<ZulgDCT4Plan_32f, zulgDCT4Init_32f>,
-                   planned<ZulgDCT4Plan_32f, zulgDCT4_32f>, plannedInverse<ZulgDCT4Plan_32f, zulgDCT4_32f>},
+                   planned<ZulgDCT4Plan_32f, zulgDCT4_32f>, plannedInverse<ZulgDCT4Plan_32f, zulgDCT4_32f>,
+                   plannedMany<ZulgDCT4Plan_32f, zulgBatchDCT4_32f>},
         .wide = {zulgDCT4GetSize_64f, plan<ZulgDCT4Plan_64f, zulgDCT4Init_64f>, planned<ZulgDCT4Plan_64f, zulgDCT4_64f>,
-                 plannedInverse<ZulgDCT4Plan_64f, zulgDCT4_64f>},
+                 plannedInverse<ZulgDCT4Plan_64f, zulgDCT4_64f>,
+                 plannedMany<ZulgDCT4Plan_64f, zulgBatchDCT4_64f>},
     },
 };
 

@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "zulgenpx.h"
+#include "zulgenpx_batch.h"
 
 namespace spectrum {
 
@@ -32,6 +32,8 @@ struct Routines {
     ZulgStatus (*makeWorkspace)(std::int32_t size, void* block, void** workspace);
     ZulgStatus (*forward)(const T* points, T* bins, const Call& call);
     ZulgStatus (*inverse)(const T* bins, T* points, const Call& call);
+    // The forward transforms of several frames, one after the other in both arrays.
+    ZulgStatus (*forwardMany)(const T* points, T* bins, const Call& call, std::int64_t frames);
 };
 
 using ConstBins = std::span<const std::complex<double>>;

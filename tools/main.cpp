@@ -2,6 +2,7 @@
 // This file is the run itself, from the command to the report. --help tells what it can do.
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -66,24 +67,58 @@ private:
     RelativeError error;
 };
 
+// Frames that are transformed in one call: as many as stay in a cache.
+class FrameBlock {
+public:
+    FrameBlock(Transform& given, std::size_t frameLength)
+        : transform(given), length(frameLength), most(std::clamp<std::size_t>(4096 / frameLength, 1, 64)) {}
+
+    // Where the samples of the next frame go.
+    std::span<double> next() {
+        samples.resize(samples.size() + length);
+        return std::span(samples).last(length);
+    }
+    bool isFull() const { return samples.size() == most * length; }
+
+    void transformTo(Sink& sink) {
+        const std::size_t frames = samples.size() / length;
+        if (frames == 0) return;
+        transform.forward(samples, bins);
+        const std::size_t perFrame = bins.size() / frames;
+        for (std::size_t i = 0; i < frames; ++i) {
+            one.assign(bins.begin() + static_cast<std::ptrdiff_t>(i * perFrame),
+                       bins.begin() + static_cast<std::ptrdiff_t>((i + 1) * perFrame));
+            sink.add(done++, one);
+        }
+        samples.clear();
+    }
+
+private:
+    Transform& transform;
+    std::size_t length, most;
+    std::vector<double> samples;
+    Bins bins, one;
+    std::int64_t done = 0;
+};
+
 // Gives each frame to the sink, if there is one, and to the check, if that is asked for. Returns the number of frames.
 std::int64_t runFrames(Frames& frames, Transform& transform, const Options& options, Sink* sink, Check& check,
                        Progress& progress) {
     const std::vector<double> weights = windowWeights(options.window, options.length);
-    std::vector<double> weighted(weights.size());
-    Bins bins;
+    FrameBlock block(transform, weights.size());
     std::int64_t frame = 0;
     do {
         const std::span<const double> samples = frames.samples();
         if (sink) {
+            const std::span<double> weighted = block.next();
             for (std::size_t i = 0; i < weights.size(); ++i) weighted[i] = weights[i] * samples[i];
-            transform.forward(weighted, bins);
-            sink->add(frame, bins);
+            if (block.isFull()) block.transformTo(*sink);
         }
         if (options.check) check.add(samples);
         progress.at(frames.samplesRead());
         ++frame;
     } while (frames.next());
+    if (sink) block.transformTo(*sink);
     return frame;
 }
 

@@ -107,7 +107,7 @@ void flatten(ConstBins values, int numbersInValue, std::vector<T>& numbers) {
 }
 
 template <typename T>
-void unflatten(const std::vector<T>& numbers, int numbersInValue, Bins& values) {
+void unflatten(std::span<T> numbers, int numbersInValue, Bins& values) {
     values.resize(numbers.size() / static_cast<std::size_t>(numbersInValue));
     auto number = numbers.begin();
     for (std::complex<double>& value : values) {
@@ -123,6 +123,7 @@ Prepared<T>::Prepared(const Options& options)
     : family(*options.family),
       routines(routinesOf<T>(family)),
       call{options.size, options.flag, nullptr},
+      samplesInFrame(static_cast<std::size_t>(options.length)),
       points(static_cast<std::size_t>(options.length * family.numbersInPoint)),
       bins(static_cast<std::size_t>(family.binCount(options.length) * family.numbersInBin)) {
     if (routines.workspaceBytes) makeWorkspace();
@@ -145,13 +146,19 @@ void Prepared<T>::makeWorkspace() {
 
 template <typename T>
 void Prepared<T>::forward(std::span<const double> samples, Bins& result) {
+    const std::size_t frames = samples.size() / samplesInFrame;
+    if (frames > framesWithRoom) {
+        points.resize(points.size() / framesWithRoom * frames);
+        bins.resize(bins.size() / framesWithRoom * frames);
+        framesWithRoom = frames;
+    }
     auto point = points.begin();
     for (double sample : samples) {
         *point++ = static_cast<T>(sample);
         if (family.numbersInPoint == 2) *point++ = 0;
     }
-    expectOk(routines.forward(points.data(), bins.data(), call));
-    unflatten(bins, family.numbersInBin, result);
+    expectOk(routines.forwardMany(points.data(), bins.data(), call, static_cast<std::int64_t>(frames)));
+    unflatten(std::span(bins).first(bins.size() / framesWithRoom * frames), family.numbersInBin, result);
 }
 
 template <typename T>
@@ -159,7 +166,7 @@ void Prepared<T>::inverse(const Bins& given, Bins& result) {
     flatten(given, family.numbersInBin, bins);
     const Call back{call.size, family.restoringFlag(call.flag), call.workspace};
     expectOk(routines.inverse(bins.data(), points.data(), back));
-    unflatten(points, family.numbersInPoint, result);
+    unflatten(std::span(points).first(points.size() / framesWithRoom), family.numbersInPoint, result);
 }
 
 Transform::Transform(const Options& options) : prepared(preparedFor(checked(options))) {

@@ -1,5 +1,5 @@
 // One transform of the library, chosen and prepared once and run frame by frame, in either precision: arrays, buffers
-// and plans are made at the start, and no frame allocates.
+// and plans are made at the start, and only the first frames allocate.
 // Bins and points come out as double; those of single precision fit into that without loss.
 #pragma once
 
@@ -22,6 +22,7 @@ class Prepared {
 public:
     explicit Prepared(const Options& options);
 
+    // As many frames as the samples are; the bins of the frames are one after the other, too.
     void forward(std::span<const double> samples, Bins& bins);
     void inverse(const Bins& bins, Bins& points);
 
@@ -35,7 +36,8 @@ private:
     const Family& family;
     Routines<T> routines;
     Call call;
-    std::vector<T> points, bins;
+    std::size_t samplesInFrame, framesWithRoom = 1;
+    std::vector<T> points, bins;  // of as many frames as there is room for
     std::unique_ptr<void, Release> block;
 };
 
@@ -44,6 +46,7 @@ public:
     // Throws UserError, in the words of the option that asks for it, when there is no such transform.
     explicit Transform(const Options& options);
 
+    // Of one frame or of several, one after the other.
     void forward(std::span<const double> samples, Bins& bins);
     // Has the scale that restores what forward was given.
     void inverse(const Bins& bins, Bins& points);

@@ -56,10 +56,12 @@ constexpr Family familyOf(Sizes sizes, Routines<float> single, Routines<double> 
     };
 }
 
-constexpr Family lengths = familyOf(Sizes::Lengths, {nullptr, nullptr, thereFrom3To9And12<float>, backBut6And9<float>},
-                                    {nullptr, nullptr, thereFrom3To9And12<double>, backBut6And9<double>});
-constexpr Family powers = familyOf(Sizes::PowersOfTwo, {nullptr, nullptr, anyFrom4To64<float>, anyFrom4To64<float>},
-                                   {nullptr, nullptr, anyFrom4To64<double>, anyFrom4To64<double>});
+constexpr Family lengths =
+    familyOf(Sizes::Lengths, {nullptr, nullptr, thereFrom3To9And12<float>, backBut6And9<float>, nullptr},
+             {nullptr, nullptr, thereFrom3To9And12<double>, backBut6And9<double>, nullptr});
+constexpr Family powers =
+    familyOf(Sizes::PowersOfTwo, {nullptr, nullptr, anyFrom4To64<float>, anyFrom4To64<float>, nullptr},
+             {nullptr, nullptr, anyFrom4To64<double>, anyFrom4To64<double>, nullptr});
 constexpr Family orders = familyOf(Sizes::Orders, lengths.single, lengths.wide);
 
 // The message, which is empty where there is such a transform.

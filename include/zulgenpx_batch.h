@@ -69,7 +69,7 @@ extern "C" {
    the routines above are below 0.5 * 2^-24.
 
    Where the errors would be greater, these routines do what the ones above do, bit for bit: at the lengths with a prime
-   factor from 11 up, and at 49, 54 and 63. */
+   factor from 11 up, other than 13 and 26, and at 49, 54 and 63. */
 
 /* -- Walsh-Hadamard transform --------------------------------------------------------------------------------------
 

@@ -11,6 +11,10 @@ plt.rcParams.update({"svg.fonttype": "none", "svg.hashsalt": "zulgenpx", "font.s
 
 LINES = {"complex_forward": ("complex", "#1f5fa8"), "real_forward": ("real, forward", "#c8541d"),
          "real_inverse": ("real, inverse", "#d9a021"), "hartley": ("Hartley", "#3c8d4f")}
+BATCH_LINES = {"batch_32_complex_forward": ("complex, one after the other", "#1f5fa8"),
+               "batch_beside_32_complex_forward": ("complex, side by side", "#c8541d"),
+               "batch_32_real_forward": ("real, one after the other", "#d9a021"),
+               "batch_beside_32_hartley": ("Hartley, side by side", "#3c8d4f")}
 PRIMES = [n for n in range(2, 65) if all(n % d for d in range(2, n))]
 
 
@@ -28,31 +32,32 @@ def mark_primes(axes):
 LOWER_LEVEL = "x86-64"
 
 
-def over_length(families, value, title, label, path, log=False, lower=None):
-    """One point for each length; `lower` gives those of the lower level, which is dashed."""
-    if not any(family in LINES for family, _ in families):
+def over_length(families, value, title, label, path, log=False, dashed_value=None, dashed_name="", lines=None):
+    """One point for each length; `dashed_value` gives another line for complex transforms, `dashed_name` names it."""
+    lines = lines or LINES
+    if not any(family in lines for family, _ in families):
         return
     figure, both = plt.subplots(2, 1, figsize=(9, 6.4), sharex=True, constrained_layout=True)
     figure.suptitle(title, fontsize=10)
     for axes, element in zip(both, ("double", "single")):
         mark_primes(axes)
         axes.axhline(1, color="black", lw=0.8)
-        for family, (name, colour) in LINES.items():
+        for family, (name, colour) in lines.items():
             points = [(item.size, value(item)) for item in families.get((family, element), [])]
             points = [point for point in points if point[1] is not None]
             if points:
                 axes.plot(*zip(*points), color=colour, lw=1, marker="o", ms=2.5, label=name)
-            dashed = [(item.size, lower(item)) for item in families.get((family, element), []) if lower]
+            dashed = [(item.size, dashed_value(item)) for item in families.get((family, element), []) if dashed_value]
             dashed = [point for point in dashed if point[1] is not None]
-            if dashed and family == "complex_forward":
-                axes.plot(*zip(*dashed), color=colour, lw=1, ls="--", label=f"{name}, without AVX2")
+            if dashed and family.endswith("complex_forward"):
+                axes.plot(*zip(*dashed), color=colour, lw=1, ls="--", label=f"{name}, {dashed_name}")
         if log:
             axes.set_yscale("log", base=2)
             axes.yaxis.set_major_formatter(lambda tick, _: f"{tick:g}")
         axes.set_ylabel(f"{element}: {label}")
         axes.set_xticks([2] + list(range(4, 65, 4)))
         axes.set_xlim(1, 65)
-    (both[0] if both[0].lines[1:] else both[1]).legend(ncol=4, loc="upper center")
+    both[0 if len(both[0].lines) >= len(both[1].lines) else 1].legend(ncol=4, loc="upper center")
     both[1].set_xlabel("length; primes are shaded")
     save(figure, path)
 
@@ -73,7 +78,20 @@ def packaged(families, path):
 
     over_length(families, lambda item: ratio(item, peer) if peer in item.figures else None,
                 "FFTW 3 PATIENT as packaged, with SSE2 and AVX: its time over ours (above 1 we lead)", "FFTW / ours",
-                path, log=True, lower=lower)
+                path, log=True, dashed_value=lower, dashed_name="without AVX2")
+
+
+def batches(families, path):
+    peer, own = "fftw_patient_simd", "zulgenpx_single"
+
+    def in_single(item):
+        if peer not in item.figures or own not in item.figures:
+            return None
+        return item.figures[peer].nanoseconds / item.figures[own].nanoseconds
+
+    over_length(families, lambda item: ratio(item, peer) if peer in item.figures else None,
+                "32 transforms in a call: FFTW 3 PATIENT as packaged, its time over ours (above 1 we lead)",
+                "FFTW / ours", path, log=True, dashed_value=in_single, dashed_name="in single", lines=BATCH_LINES)
 
 
 def floors(families, path):

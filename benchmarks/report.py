@@ -104,7 +104,7 @@ def document(about, families, loads, steps, stem):
     yield ""
     yield ("Times are of one call. Ratios are peer time over ours: above 1 we lead. How it is measured and how to read "
            "it: [README](../README.md).")
-    for picture in ("packaged", "ratio", "floor", "sizes"):
+    for picture in ("packaged", "ratio", "floor", "batches", "sizes"):
         if os.path.exists(f"{stem}-{picture}.svg"):
             yield f"\n![{picture}]({os.path.basename(stem)}-{picture}.svg)"
     for title, table in (("Summary", tables.summary(families)),
@@ -157,6 +157,7 @@ def main():
         plots.packaged(families, f"{stem}-packaged.svg")
         plots.ratios(families, f"{stem}-ratio.svg")
         plots.floors(families, f"{stem}-floor.svg")
+        plots.batches(families, f"{stem}-batches.svg")
         plots.over_size(families, f"{stem}-sizes.svg")
     with open(f"{stem}.json", "w", encoding="utf-8") as file:
         json.dump(compact(contests, cycles, about), file, separators=(",", ":"))

@@ -54,7 +54,7 @@ def ratio(item, peer):
 
 def other_builds(items):
     """The further builds of our library that took part."""
-    present = {name for item in items for name in item.figures if not name.endswith("_dispatcher")}
+    present = {name for item in items for name in item.figures if not name.endswith(("_dispatcher", "_loop", "_single"))}
     return sorted(present - {"zulgenpx", *dict(PEERS)})
 
 

@@ -77,7 +77,7 @@ struct RealPorts : Arrays<Numbers, Element> {
 //     length 5   CCS   R0 0 R1 I1 R2 I2     Pack  R0 R1 I1 R2 I2   Perm  the same
 enum class Layout { CCS, Pack, Perm };
 
-constexpr int slotOfRe(Layout layout, int length, int k) {
+ZULG_INLINE constexpr int slotOfRe(Layout layout, int length, int k) {
     if (layout == Layout::CCS || k == 0) return 2 * k;
     if (layout == Layout::Perm && length % 2 == 0) return 2 * k == length ? 1 : 2 * k;
     return 2 * k - 1;
@@ -85,8 +85,8 @@ constexpr int slotOfRe(Layout layout, int length, int k) {
 
 template <Layout layout, int length>
 struct Slots {
-    static constexpr int re(int k) { return slotOfRe(layout, length, k); }
-    static constexpr int im(int k) { return re(k) + 1; }
+    ZULG_INLINE static constexpr int re(int k) { return slotOfRe(layout, length, k); }
+    ZULG_INLINE static constexpr int im(int k) { return re(k) + 1; }
 };
 
 // CCS keeps the imaginary parts of the real bins, always +0.0. They are no results: stored as integers, so that they

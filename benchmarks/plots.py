@@ -32,7 +32,8 @@ def mark_primes(axes):
 LOWER_LEVEL = "x86-64"
 
 
-def over_length(families, value, title, label, path, log=False, dashed_value=None, dashed_name="", lines=None):
+def over_length(families, value, title, label, path, log=False, dashed_value=None, dashed_name="", lines=None,
+                legend=None):
     """One point for each length; `dashed_value` gives another line for complex transforms, `dashed_name` names it."""
     lines = lines or LINES
     if not any(family in lines for family, _ in families):
@@ -57,7 +58,8 @@ def over_length(families, value, title, label, path, log=False, dashed_value=Non
         axes.set_ylabel(f"{element}: {label}")
         axes.set_xticks([2] + list(range(4, 65, 4)))
         axes.set_xlim(1, 65)
-    both[0 if len(both[0].lines) >= len(both[1].lines) else 1].legend(ncol=4, loc="upper center")
+    both[0 if len(both[0].lines) >= len(both[1].lines) else 1].legend(
+        **(legend or {"ncol": 4, "loc": "upper center"}))
     both[1].set_xlabel("length; primes are shaded")
     save(figure, path)
 
@@ -91,7 +93,8 @@ def batches(families, path):
 
     over_length(families, lambda item: ratio(item, peer) if peer in item.figures else None,
                 "32 transforms in a call: FFTW 3 PATIENT as packaged, its time over ours (above 1 we lead)",
-                "FFTW / ours", path, log=True, dashed_value=in_single, dashed_name="in single", lines=BATCH_LINES)
+                "FFTW / ours", path, log=True, dashed_value=in_single, dashed_name="in single", lines=BATCH_LINES,
+                legend={"loc": "upper left", "fontsize": 7})
 
 
 def floors(families, path):

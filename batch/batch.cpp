@@ -4,10 +4,12 @@
 #include <array>
 #include <utility>
 
+#include "batch/checks.h"
 #include "batch/many_routines.h"
 #include "batch/many_texts.h"
 #include "batch/one_by_one.h"
 #include "batch/singly.h"
+#include "kernel/scale.h"
 
 namespace zulg {
 inline namespace ZULG_TARGET {
@@ -68,6 +70,11 @@ constexpr auto manyTable = []<int... index>(std::integer_sequence<int, index...>
 }
 (std::make_integer_sequence<int, longestLength - shortestLength + 1>{});
 
+template <Family family, class Element, class Real>
+const ManyRoutines<Element>& routinesOf(int length) {
+    return manyTable<family, Element, Real>[static_cast<std::size_t>(length - shortestLength)];
+}
+
 // The arguments of a batch, and their checks in their order.
 template <Family family, class Element>
 struct Request {
@@ -120,29 +127,46 @@ void fewInSingle(const Request<family, float>& request, ManyRoutine<float> besid
     constexpr int width = Request<family, float>::width, copies = copiesOf<family, float>;
     constexpr bool readsSlots = inCCS(family) == Family::DFTInv_CCSToR;
     constexpr bool writesSlots = inCCS(family) == Family::DFTFwd_RToCCS;
-    const auto slot = [&](bool isSlot, std::int64_t e) {
-        return isSlot ? slotOfLayout(layoutOf<family>, request.length, static_cast<int>(e)) : static_cast<int>(e);
+    float buffer[maxElements * copies * width] = {};
+    // Calls copy(number in the buffer, transform, place of the number in it) for each number.
+    const auto forEachNumber = [&](std::int64_t elements, bool areSlots, std::int64_t step, const auto& copy) {
+        for (int e = 0; e < elements; ++e) {
+            const int at = areSlots ? slotOfLayout(layoutOf<family>, request.length, e) : e;
+            if (at < 0) continue;
+            for (std::int64_t j = 0; j < few; ++j)
+                for (int i = 0; i < width; ++i)
+                    copy(buffer[(e * copies + j) * width + i], first + j, at * step * width + i);
+        }
     };
     const Elements elements = elementsOf<inCCS(family)>(request.length);
-    float buffer[maxElements * copies * width] = {};
-    for (std::int64_t e = 0; e < elements.read; ++e) {
-        const int at = slot(readsSlots, e);
-        if (at < 0) continue;
-        for (std::int64_t j = 0; j < few; ++j)
-            for (int i = 0; i < width; ++i)
-                buffer[(e * copies + j) * width + i] = request.from(first + j)[at * request.source.step * width + i];
-    }
+    forEachNumber(elements.read, readsSlots, request.source.step,
+                  [&](float& held, std::int64_t j, std::int64_t place) { held = request.from(j)[place]; });
     Spectrum<Layout::CCS> spectrum;
     if (!isComplex<family>) spectrum.place(request.length, copies);
     beside({buffer, buffer, copies * width, width, copies * width, width, spectrum.places, true, 0.0f}, request.flag,
            1);
-    for (std::int64_t e = 0; e < elements.written; ++e) {
-        const int at = slot(writesSlots, e);
-        if (at < 0) continue;
-        for (std::int64_t j = 0; j < few; ++j)
-            for (int i = 0; i < width; ++i)
-                request.to(first + j)[at * request.destination.step * width + i] = buffer[(e * copies + j) * width + i];
-    }
+    forEachNumber(elements.written, writesSlots, request.destination.step,
+                  [&](float held, std::int64_t j, std::int64_t place) { request.to(j)[place] = held; });
+}
+
+// The transforms of a request that has been checked: exact, or computed in single.
+template <Family family, class Element>
+void run(const Request<family, Element>& request) {
+    const std::int64_t done = request.template doMany<double>(routinesOf<family, Element, double>(request.length));
+    Element buffer[maxElements * request.width];
+    oneByOne<request.width>(
+        request.from(done), request.source, request.to(done), request.destination, elementsOf<family>(request.length),
+        request.count - done, buffer,
+        [&](const Element* from, Element* to) { one<family>(from, to, request.length, request.flag); });
+}
+
+template <Family family>
+void runInSingle(const Request<family, float>& request) {
+    const auto& routines = routinesOf<family, float, float>(request.length);
+    if (routines.beside == nullptr) return run(request);  // of no level: the errors would be too large
+    constexpr int copies = copiesOf<family, float>;
+    for (std::int64_t done = request.template doMany<float>(routines); done < request.count; done += copies)
+        fewInSingle<family>(request, routines.beside, done, std::min<std::int64_t>(copies, request.count - done));
 }
 
 }  // namespace
@@ -154,14 +178,8 @@ Status ZULG_CALL batch(const Element* pSrc, std::int64_t srcStep, std::int64_t s
     const Request<family, Element> request{pSrc, {srcStep, srcDistance}, pDst, {dstStep, dstDistance}, length, flag,
                                            count};
     const Status status = request.checked();
-    if (status != StatusOk) return status;
-    const auto& routines = manyTable<family, Element, double>[static_cast<std::size_t>(length - shortestLength)];
-    const std::int64_t done = request.template doMany<double>(routines);
-    Element buffer[maxElements * request.width];
-    oneByOne<request.width>(request.from(done), request.source, request.to(done), request.destination,
-                            elementsOf<family>(length), count - done, buffer,
-                            [=](const Element* from, Element* to) { one<family>(from, to, length, flag); });
-    return StatusOk;
+    if (status == StatusOk) run(request);
+    return status;
 }
 
 template <Family family>
@@ -171,15 +189,8 @@ Status ZULG_CALL batchInSingle(const float* pSrc, std::int64_t srcStep, std::int
     const Request<family, float> request{pSrc, {srcStep, srcDistance}, pDst, {dstStep, dstDistance}, length, flag,
                                          count};
     const Status status = request.checked();
-    if (status != StatusOk) return status;
-    const auto& routines = manyTable<family, float, float>[static_cast<std::size_t>(length - shortestLength)];
-    if (routines.beside == nullptr) {  // of no level: the errors would be too large
-        return batch<family>(pSrc, srcStep, srcDistance, pDst, dstStep, dstDistance, length, flag, count);
-    }
-    std::int64_t done = request.template doMany<float>(routines);
-    for (constexpr int copies = copiesOf<family, float>; done < count; done += copies)
-        fewInSingle<family>(request, routines.beside, done, std::min<std::int64_t>(copies, count - done));
-    return StatusOk;
+    if (status == StatusOk) runInSingle(request);
+    return status;
 }
 
 #define BATCH(family, element)                                                                                       \

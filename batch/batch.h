@@ -3,7 +3,6 @@
 
 #include <cstdint>
 
-#include "batch/checks.h"
 #include "dct4/dct4.h"
 #include "kernel/kernel.h"
 

@@ -1,26 +1,17 @@
-// What is refused: flags that are none, and shapes that cannot be.
+// The shapes of a batch, and which of them are refused.
 #pragma once
 
 #include <cstdint>
 
-#include "kernel/kernel.h"
-
 namespace zulg {
-
-constexpr bool isFlag(std::int32_t flag) {
-    return flag == DivFwdByN || flag == DivInvByN || flag == DivBySqrtN || flag == NoDivByAny;
-}
 
 // Element k of transform j is at k * step + j * distance.
 struct Shape {
     std::int64_t step;
     std::int64_t distance;
-
-    constexpr bool operator==(const Shape&) const = default;
 };
 
-// Whether every place, counted in bytes, is a number of 64 bits. `elements` of each of `count` transforms, both above
-// 0.
+// Whether every place, counted in bytes, is a number of 64 bits. Elements and transforms are one at least.
 constexpr bool fits(Shape shape, std::int64_t elements, std::int64_t count, std::int64_t elementBytes) {
     std::int64_t last, first, place, bytes;
     return !__builtin_mul_overflow(shape.step, elements - 1, &last) &&

@@ -16,9 +16,6 @@ Status transformOne(const double* from, double* to, DctPlan* plan) {
 
 constexpr std::int32_t longestPlan = 1 << 27;
 
-// What a plan says is its length. Those of direct kinds have the length of their kind.
-bool hasKnownKind(const DctPlan& plan) { return plan.kind >= PlanKind::Direct2 && plan.kind <= PlanKind::Composite; }
-
 }  // namespace
 
 template <class Element>
@@ -35,7 +32,7 @@ Status ZULG_CALL batchDct4(const Element* pSrc, std::int64_t srcStep, std::int64
     const bool needsBuffer = srcStep != 1 || dstStep != 1;
     if (pSrc == nullptr || pDst == nullptr || plan == nullptr || (needsBuffer && pBuffer == nullptr))
         return StatusNullPointer;
-    if (!hasKnownKind(*plan)) return StatusPlanKindError;
+    if (!isKnown(plan->kind)) return StatusPlanKindError;
     const Shape source{srcStep, srcDistance}, destination{dstStep, dstDistance};
     const std::int64_t points = plan->length;
     if (!isAccepted(source, points, destination, points, count, sizeof(Element))) return StatusSizeError;

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <utility>
 
-#include "kernel/lanes.h"
 #include "kernel/platform.h"
 
 namespace zulg {
@@ -30,6 +29,12 @@ struct Many {
     // Where the lane of a text is in the register.
     static constexpr int place(int lane) { return exchanged ? lane ^ 1 : lane; }
 
+    ZULG_INLINE friend Many operator+(Many a, Many b) { return Many(a.vector + b.vector); }
+    ZULG_INLINE friend Many operator-(Many a, Many b) { return Many(a.vector - b.vector); }
+    ZULG_INLINE friend Many operator-(Many a) { return Many(-a.vector); }
+    ZULG_INLINE friend Many operator*(Many a, Many b) { return Many(a.vector * b.vector); }
+    ZULG_INLINE friend Many operator*(double factor, Many x) { return Many(factor) * x; }
+
 private:
     ZULG_INLINE static Vector filled(double even, double odd) {
         return [=]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
@@ -38,30 +43,6 @@ private:
         (std::make_integer_sequence<int, lanes>{});
     }
 };
-
-template <class Real, int copies, int width, bool exchanged>
-ZULG_INLINE Many<Real, copies, width, exchanged> operator+(Many<Real, copies, width, exchanged> a,
-                                                           Many<Real, copies, width, exchanged> b) {
-    return Many<Real, copies, width, exchanged>(a.vector + b.vector);
-}
-template <class Real, int copies, int width, bool exchanged>
-ZULG_INLINE Many<Real, copies, width, exchanged> operator-(Many<Real, copies, width, exchanged> a,
-                                                           Many<Real, copies, width, exchanged> b) {
-    return Many<Real, copies, width, exchanged>(a.vector - b.vector);
-}
-template <class Real, int copies, int width, bool exchanged>
-ZULG_INLINE Many<Real, copies, width, exchanged> operator-(Many<Real, copies, width, exchanged> a) {
-    return Many<Real, copies, width, exchanged>(-a.vector);
-}
-template <class Real, int copies, int width, bool exchanged>
-ZULG_INLINE Many<Real, copies, width, exchanged> operator*(Many<Real, copies, width, exchanged> a,
-                                                           Many<Real, copies, width, exchanged> b) {
-    return Many<Real, copies, width, exchanged>(a.vector * b.vector);
-}
-template <class Real, int copies, int width, bool exchanged>
-ZULG_INLINE Many<Real, copies, width, exchanged> operator*(double factor, Many<Real, copies, width, exchanged> x) {
-    return Many<Real, copies, width, exchanged>(factor) * x;
-}
 
 // The signs of these lanes of each transform changed.
 template <int... isFlipped, class Real, int copies, int width, bool exchanged>
@@ -102,7 +83,7 @@ ZULG_INLINE Many<Real, copies, width, exchanged> shuffled(Many<Real, copies, wid
     return shuffled<places...>(a, a);
 }
 
-// Of each transform the number of a, then that of b.
+// Of each transform the number of a, then that of b; and one of two such numbers.
 template <class Real, int copies, bool exchanged>
 ZULG_INLINE Many<Real, copies, 2, exchanged> joined(Many<Real, copies, 1, exchanged> a,
                                                     Many<Real, copies, 1, exchanged> b) {
@@ -112,11 +93,11 @@ ZULG_INLINE Many<Real, copies, 2, exchanged> joined(Many<Real, copies, 1, exchan
     }
     (std::make_integer_sequence<int, 2 * copies>{});
 }
-template <int part_, class Real, int copies, bool exchanged>
+template <int which, class Real, int copies, bool exchanged>
 ZULG_INLINE Many<Real, copies, 1, exchanged> part(Many<Real, copies, 2, exchanged> x) {
     return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
         return Many<Real, copies, 1, exchanged>(
-            __builtin_shufflevector(x.vector, x.vector, (2 * lane + (exchanged ? 1 - part_ : part_))...));
+            __builtin_shufflevector(x.vector, x.vector, (2 * lane + (exchanged ? 1 - which : which))...));
     }
     (std::make_integer_sequence<int, copies>{});
 }

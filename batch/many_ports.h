@@ -94,9 +94,7 @@ struct ManyPorts {
     using Place = typename InMemory<Element>::Type;
     using Memory = ManyInMemory<Element, Real, copies, width>;
     template <class Graph>
-    struct Constants {
-        ZULG_INLINE constexpr double operator[](int i) const { return Graph::constants[i]; }
-    };
+    using Constants = Doubles::Constants<Graph>;
 
     // One by one: a compiler would copy the whole in memory, for each register of transforms anew.
     const Place* const source;

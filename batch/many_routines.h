@@ -16,8 +16,8 @@ inline namespace ZULG_TARGET {
 enum class Placement { Beside, Behind };
 
 // The arrays of one run. Steps and distances are in places: those of complex arrays are even. `spectrum` says where the
-// CCS slots of a half spectrum are in the layout that the caller has, in places from the beginning of each transform;
-// of a layout without the zeros of CCS, these have none.
+// caller's layout has what is in each CCS slot of a half spectrum, in places from the beginning of the transform. The
+// slots of zeros have a place only if the layout is CCS: `hasZeros`.
 template <class Element>
 struct ManyArrays {
     using Place = typename InMemory<Element>::Type;

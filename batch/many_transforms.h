@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
 #include "batch/many_ports.h"
 #include "kernel/families.h"
@@ -14,17 +15,10 @@ inline namespace ZULG_TARGET {
 
 // The ports of a family.
 template <Family family, int length, class Element, class Real, Placement placement>
-struct ManyPortsOf {
-    using Type = ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>;
-};
-template <int length, class Element, class Real, Placement placement>
-struct ManyPortsOf<Family::DFTFwd_CToC, length, Element, Real, placement> {
-    using Type = ManyComplexPorts<Element, Real, copiesOf<Family::DFTFwd_CToC, Real>, placement, false>;
-};
-template <int length, class Element, class Real, Placement placement>
-struct ManyPortsOf<Family::DFTInv_CToC, length, Element, Real, placement> {
-    using Type = ManyComplexPorts<Element, Real, copiesOf<Family::DFTInv_CToC, Real>, placement, true>;
-};
+using ManyPortsOf = std::conditional_t<
+    isComplex<family>,
+    ManyComplexPorts<Element, Real, copiesOf<family, Real>, placement, family == Family::DFTInv_CToC>,
+    ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>>;
 
 // The text of a family and length: the build says it for each that it makes.
 template <Family family, int length>
@@ -33,7 +27,7 @@ struct ManyTextOf;
 template <Family family, int length, class Element, class Real, Placement placement>
 void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers) {
     using Text = typename ManyTextOf<family, length>::Type;
-    using Ports = typename ManyPortsOf<family, length, Element, Real, placement>::Type;
+    using Ports = ManyPortsOf<family, length, Element, Real, placement>;
     using Factors = FactorsByFlag<typename FlagsOf<family>::Flags, Scale<Element, length, Text>>;
     constexpr std::ptrdiff_t copies = copiesOf<family, Real>;
     arrays.scale = Factors::factors[flag >> 1];

@@ -2,34 +2,16 @@
 // routine has levels, while it is loaded, and never written after that.
 #include "batch/batch.h"
 #include "batch_levels.h"
-#include "boundary/dispatch.h"
+#include "boundary/slot.h"
 
 namespace zulg {
 
 using SizeRoutine = Status(ZULG_CALL*)(std::int32_t size, std::int32_t* pSize);
 
 // One routine of any of the exported shapes.
-union Routine {
-    BatchRoutine<float> batch32;
-    BatchRoutine<double> batch64;
-    Resolver<BatchRoutine<float>> batchResolver32;
-    Resolver<BatchRoutine<double>> batchResolver64;
-    BatchWhtRoutine<float> wht32;
-    BatchWhtRoutine<double> wht64;
-    BatchDct4Routine<float> dct432;
-    BatchDct4Routine<double> dct464;
-    SizeRoutine size;
-
-    constexpr Routine(BatchRoutine<float> routine) : batch32(routine) {}
-    constexpr Routine(BatchRoutine<double> routine) : batch64(routine) {}
-    constexpr Routine(Resolver<BatchRoutine<float>> resolver) : batchResolver32(resolver) {}
-    constexpr Routine(Resolver<BatchRoutine<double>> resolver) : batchResolver64(resolver) {}
-    constexpr Routine(BatchWhtRoutine<float> routine) : wht32(routine) {}
-    constexpr Routine(BatchWhtRoutine<double> routine) : wht64(routine) {}
-    constexpr Routine(BatchDct4Routine<float> routine) : dct432(routine) {}
-    constexpr Routine(BatchDct4Routine<double> routine) : dct464(routine) {}
-    constexpr Routine(SizeRoutine routine) : size(routine) {}
-};
+using Routine = OneOf<BatchRoutine<float>, BatchRoutine<double>, Resolver<BatchRoutine<float>>,
+                      Resolver<BatchRoutine<double>>, BatchWhtRoutine<float>, BatchWhtRoutine<double>,
+                      BatchDct4Routine<float>, BatchDct4Routine<double>, SizeRoutine>;
 
 #define SLOT(name, routine) Routine(routine),
 extern "C" {

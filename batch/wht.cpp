@@ -4,6 +4,7 @@
 #include "batch/batch.h"
 #include "batch/checks.h"
 #include "batch/one_by_one.h"
+#include "kernel/scale.h"
 
 namespace zulg {
 namespace {
@@ -15,15 +16,13 @@ Status transformOne(const double* from, double* to, std::int32_t order, std::int
     return zulgWHT_64f(from, to, order, flag, buffer);
 }
 
-constexpr int highestWithoutBuffer = 7;
-
 }  // namespace
 
 // The buffer of one transform, and after it room for the elements of one.
 template <class Element>
 Status ZULG_CALL batchWhtGetBufferSize(std::int32_t order, std::int32_t* pSize) {
     if (order < lowestOrder || order > highestOrder) return StatusSizeError;
-    const int elements = order <= highestWithoutBuffer ? 0 : whtBufferElements(order) + (1 << order);
+    const int elements = order < lowestBufferedOrder ? 0 : whtBufferElements(order) + (1 << order);
     *pSize = elements * static_cast<std::int32_t>(sizeof(Element));
     return StatusOk;
 }
@@ -33,13 +32,13 @@ Status ZULG_CALL batchWht(const Element* pSrc, std::int64_t srcStep, std::int64_
                           std::int64_t dstStep, std::int64_t dstDistance, std::int32_t order, std::int32_t flag,
                           std::int64_t count, Element* pBuffer) {
     if (order < lowestOrder || order > highestOrder) return StatusSizeError;
-    const bool hasBuffer = order > highestWithoutBuffer;
+    const bool hasBuffer = order >= lowestBufferedOrder;
     if (pSrc == nullptr || pDst == nullptr || (hasBuffer && pBuffer == nullptr)) return StatusNullPointer;
     if (!isFlag(flag)) return StatusFlagError;
     const Shape source{srcStep, srcDistance}, destination{dstStep, dstDistance};
     const std::int64_t points = std::int64_t{1} << order;
     if (!isAccepted(source, points, destination, points, count, sizeof(Element))) return StatusSizeError;
-    Element few[1 << highestWithoutBuffer];
+    Element few[1 << (lowestBufferedOrder - 1)];
     oneByOne<1>(pSrc, source, pDst, destination, {points, points}, count,
                 hasBuffer ? pBuffer + whtBufferElements(order) : few,
                 [=](const Element* from, Element* to) { transformOne(from, to, order, flag, pBuffer); });

@@ -82,8 +82,8 @@ struct Contest {
 
 // All contests in which our library takes part. There is one for each transform of each size, with caches that are
 // warm. A contest with the prefix `batch_` has many transforms in a call, each on data of its own: one after the other
-// or, with `batch_beside_`, side by side. One with `dispatch_`
-// compares our routine of a fixed length with the one that takes the length as an argument.
+// or, with `batch_beside_`, side by side. One with `dispatch_` compares our routine of a fixed length with the one that
+// takes the length as an argument.
 std::vector<Contest> allContests();
 
 // A contest of one element type while participants are added.
@@ -105,7 +105,7 @@ struct Field {
 // Each adds what it has for the field's transform and size, or nothing.
 template <class Element>
 void addOurs(Field<Element>& field);
-// One call of the batch library.
+// One call of the batch library, and a loop of calls of the main library.
 template <class Element>
 void addOurBatch(Field<Element>& field);
 template <class Element>

@@ -6,7 +6,8 @@ import statistics
 PEERS = [("fftw_patient_scalar", "FFTW patient"), ("fftw_measure_scalar", "measure"),
          ("fftw_estimate_scalar", "estimate"), ("fftw_patient_simd", "patient, SIMD"),
          ("fftw_measure_simd", "measure, SIMD"), ("fftw_estimate_simd", "estimate, SIMD"), ("kissfft", "KissFFT"),
-         ("zulgenpx_loop", "one by one"), ("zulgenpx_single", "computed in single"), ("gsl", "GSL"), ("plain_in_place", "plain loop"), ("plain_copied", "plain loop and copy")]
+         ("gsl", "GSL"), ("plain_in_place", "plain loop"), ("plain_copied", "plain loop and copy"),
+         ("zulgenpx_loop", "one by one"), ("zulgenpx_single", "computed in single")]
 TITLES = {"complex_forward": "Complex, forward", "complex_inverse": "Complex, inverse",
           "real_forward": "Real to half spectrum (CCS; FFTW r2c)",
           "real_inverse": "Half spectrum to real (CCS; FFTW c2r)",
@@ -54,7 +55,8 @@ def ratio(item, peer):
 
 def other_builds(items):
     """The further builds of our library that took part."""
-    present = {name for item in items for name in item.figures if not name.endswith(("_dispatcher", "_loop", "_single"))}
+    of_each = ("_dispatcher", "_loop", "_single")  # further participants of a build
+    present = {name for item in items for name in item.figures if not name.endswith(of_each)}
     return sorted(present - {"zulgenpx", *dict(PEERS)})
 
 

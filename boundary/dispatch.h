@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "boundary/slot.h"
 #include "kernel/kernel.h"
 #include "levels.h"
 
@@ -12,19 +13,9 @@ namespace zulg {
 template <class Element>
 using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
-// Gives a routine while the library is loaded, where that has levels.
+// The first is the routine: what is stored as a resolver is, in a library that is loaded, what it returned.
 template <class Routine>
-using Resolver = Routine (*)();
-
-// What is stored as a resolver is, in a library that is loaded, the routine that it returned.
-template <class Routine>
-union DispatchSlot {
-    Routine routine;
-    Resolver<Routine> resolver;
-
-    constexpr DispatchSlot(Routine stored) : routine(stored) {}
-    constexpr DispatchSlot(Resolver<Routine> stored) : resolver(stored) {}
-};
+using DispatchSlot = OneOf<Routine, Resolver<Routine>>;
 
 // Index 0 is the shortest length.
 template <Family family, class Element>
@@ -37,7 +28,7 @@ template <Family family, class Element>
 Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag) {
     const std::uint32_t index = static_cast<std::uint32_t>(length) - shortestLength;
     if (index >= kernelTable<family, Element>.size()) return StatusSizeError;
-    return kernelTable<family, Element>[index].routine(pSrc, pDst, flag);
+    return kernelTable<family, Element>[index].first(pSrc, pDst, flag);
 }
 
 }  // namespace zulg

@@ -33,7 +33,7 @@ Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t or
                              Element* pBuffer) {
     const std::uint32_t index = indexOf(order);
     if (index >= whtTable<Element>.size()) return StatusSizeError;
-    return whtTable<Element>[index].routine(pSrc, pDst, flag, pBuffer);
+    return whtTable<Element>[index].first(pSrc, pDst, flag, pBuffer);
 }
 
 template <class Element>

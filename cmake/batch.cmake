@@ -5,10 +5,10 @@
 # 1.5 * 2^-24: those with a prime factor from 11 up, other than 13 and 26, and 49, 54 and 63.
 set(lengths_in_single 2 3 4 5 6 7 8 9 10 12 13 14 15 16 18 20 21 24 25 26 27 28 30 32 35 36 40 42 45 48 50 56 60 64)
 
-# many_instances(VARIABLE FAMILY GRAPH LENGTH STEPS): how one text becomes routines for one family, as words: the type of
-# the elements, the type that the routine computes in, the placement. Of the half spectra those in CCS serve the other
-# layouts as well where transforms are side by side. Long transforms one after the other are as fast one by one, but in
-# single there are none of these.
+# many_instances(VARIABLE FAMILY GRAPH LENGTH STEPS): how one text becomes routines for one family, as words: the type
+# of the elements, the type that the routine computes in, the placement. Where transforms are side by side, the routines
+# of CCS serve the other layouts of a half spectrum as well. Long transforms one after the other are as fast one by one;
+# in single there is no routine that does one.
 function(many_instances variable family graph length steps)
     set(instances "")
     set(isComplex FALSE)
@@ -42,11 +42,10 @@ function(add_batch_level library folder)
     foreach(row IN LISTS kernel_texts)
         string(REPLACE " " ";" row "${row}")
         list(POP_FRONT row text form graph length steps)
-        if(NOT graph MATCHES "^Complex(Pairs)$|^(Real|Hartley).*Graph$")
+        if(NOT graph MATCHES "^ComplexPairs$|^(Real|Hartley).*Graph$")
             continue()
         endif()
         set(definitions "")
-        set(texts_before "${lines}")
         foreach(family IN LISTS row)
             string(APPEND definitions "template <>\nstruct ManyTextOf<Family::${family}, ${length}> {\n"
                 "    using Type = ${graph}<${length}>;\n};\n")
@@ -59,7 +58,7 @@ function(add_batch_level library folder)
                 list(APPEND lines "MANY_TEXT(${family}, ${length}, ${computed}, ${placement})\n")
             endforeach()
         endforeach()
-        if(lines STREQUAL texts_before)
+        if(NOT definitions MATCHES "manyTransforms")
             continue()
         endif()
         string(REGEX REPLACE "h$" "cpp" source "${made}/${text}")
@@ -72,11 +71,8 @@ function(add_batch_level library folder)
     list(JOIN lines "" lines)
     file(CONFIGURE OUTPUT ${made}/many_texts.inc @ONLY CONTENT "${lines}")
 
-    add_library(${library} OBJECT ${sources})
-    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-    target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder} ${made})
-    target_compile_options(${library} PRIVATE ${library_compile_flags} ${target_compile_flags} ${batch_compile_flags})
-    target_link_libraries(${library} PRIVATE zulgen_warnings)
+    add_objects(${library} ${folder} "${target_compile_flags};${batch_compile_flags}" ${sources})
+    target_include_directories(${library} PRIVATE ${made})
 endfunction()
 
 # add_batch_library(NAME MAIN_LIBRARY): the batch library beside a main library.

@@ -22,6 +22,15 @@ function(choose_texts variable forms lengths)
     set(${variable} "${chosen}" PARENT_SCOPE)
 endfunction()
 
+# add_objects(LIBRARY FOLDER FLAGS SOURCE ...): an object library for the target in FOLDER.
+function(add_objects library folder flags)
+    add_library(${library} OBJECT ${ARGN})
+    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder})
+    target_compile_options(${library} PRIVATE ${library_compile_flags} ${flags})
+    target_link_libraries(${library} PRIVATE zulgen_warnings)
+endfunction()
+
 # add_kernels(LIBRARY FOLDER [LENGTH ...]): an object library of the kernels of these lengths, or of all, for the target
 # in FOLDER.
 function(add_kernels library folder)
@@ -55,11 +64,7 @@ function(add_kernels library folder)
         set_source_files_properties(${source} PROPERTIES COMPILE_OPTIONS "${flags}")
     endforeach()
 
-    add_library(${library} OBJECT ${sources})
-    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-    target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder})
-    target_compile_options(${library} PRIVATE ${library_compile_flags} ${target_compile_flags})
-    target_link_libraries(${library} PRIVATE zulgen_warnings)
+    add_objects(${library} ${folder} "${target_compile_flags}" ${sources})
 endfunction()
 
 # add_lane_passes(LIBRARY FOLDER): an object library of the routines whose loops run bodies in registers of several
@@ -67,9 +72,5 @@ endfunction()
 function(add_lane_passes library folder)
     include(${folder}/target.cmake)
     list(TRANSFORM lane_sources PREPEND ${PROJECT_SOURCE_DIR}/)
-    add_library(${library} OBJECT ${lane_sources})
-    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-    target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder})
-    target_compile_options(${library} PRIVATE ${library_compile_flags} ${target_compile_flags} ${lane_compile_flags})
-    target_link_libraries(${library} PRIVATE zulgen_warnings)
+    add_objects(${library} ${folder} "${target_compile_flags};${lane_compile_flags}" ${lane_sources})
 endfunction()

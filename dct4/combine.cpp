@@ -23,14 +23,13 @@ template <int radix, class Element>
     const SkewBins<Element> bins{transforms + position, stage.outputStep};
     const std::ptrdiff_t step = 2 * bins.transforms * stage.blockStride;
     for (std::ptrdiff_t k = 0; k < stage.rows; ++k) {
-        Dct4Combine<radix>::run(CombinePorts<TargetNumbers, Element, radix>{{},
-                                                                            inner + sections.innerEntries * k,
-                                                                            outer + sections.outerEntries * k,
-                                                                            parts + 2 * radix * k,
-                                                                            bins.re(k),
-                                                                            bins.re(stage.mirrorBase - k),
-                                                                            step,
-                                                                            bins.transforms});
+        Dct4Combine<radix>::run(
+            CombinePorts<TargetNumbers, Element, radix>{{},
+                                                        inner + sections.innerEntries * k,
+                                                        outer + sections.outerEntries * k,
+                                                        parts + 2 * radix * k,
+                                                        {bins.re(k), bins.re(stage.mirrorBase - k), step},
+                                                        bins.transforms});
     }
     return StatusOk;
 }

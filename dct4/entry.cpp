@@ -82,7 +82,7 @@ Status ZULG_CALL dct4Free(DctPlan* plan) {
 template <class Element>
 Status ZULG_CALL dct4(const Element* pSrc, Element* pDst, DctPlan* plan) {
     if (pSrc == nullptr || pDst == nullptr || plan == nullptr) return StatusNullPointer;
-    if (plan->kind < PlanKind::Direct2 || plan->kind > PlanKind::Composite) return StatusPlanKindError;
+    if (!isKnown(plan->kind)) return StatusPlanKindError;
     runPlan<Element>(*plan, pSrc, pDst);
     return StatusOk;
 }

@@ -40,7 +40,8 @@ struct SplitInLanes {
 
     template <int radix>
     RowBins<Element, radix> row(Element* first, std::ptrdiff_t k) const {
-        return {first + 2 * count * k, first + 2 * count * (combine.mirrorBase - k), 2 * count * combine.blockStride};
+        const SkewBins<Element> bins{first, count};
+        return {bins.re(k), bins.re(combine.mirrorBase - k), 2 * count * combine.blockStride};
     }
 
     template <int points, int radix>
@@ -56,9 +57,9 @@ struct SplitInLanes {
 
     // What one sequence after the other leaves in the split's own vector: the short transforms of the last one.
     template <int radix>
-    void keepLast(Element* kept, const Element* last) const {
+    void keepLast(Element* kept, Element* last) const {
         for (std::ptrdiff_t k = 0; k < combine.rows; ++k) {
-            const auto bins = row<radix>(const_cast<Element*>(last), k);
+            const auto bins = row<radix>(last, k);
             for (int c = 0; c < radix; ++c) {
                 kept[2 * radix * k + c] = *bins.at(c);
                 kept[2 * radix * k + radix + c] = bins.at(c)[count];
@@ -78,14 +79,16 @@ struct SplitInLanes {
         }
     }
 
+    // Returns true, for the one that chose the sizes.
     template <int points, int radix>
-    void run(const SkewSplit& split, Element* transforms, FoldSource<Element> from) const {
+    bool run(const SkewSplit& split, Element* transforms, FoldSource<Element> from) const {
         constexpr int width = Dct4InLanes<Element>::width;
         for (std::ptrdiff_t p = 0; p < count; p += width) {
             fold<points, radix>(transforms + p, from.next(p));
             if (p + width == count) keepLast<radix>(static_cast<Element*>(split.scratch.get()), transforms + count - 1);
             combineRows<radix>(transforms + p);
         }
+        return true;
     }
 };
 
@@ -99,15 +102,11 @@ bool splitInLanes(const FoldStage& stage, Element* transforms, const Element* x)
     const SplitInLanes<Element> inLanes{step, combine, stage.count};
     const FoldSource<Element> from = sourceOf(stage, x);
     const auto has = [&](FoldKind fold, CombineKind rows) { return step.kind == fold && combine.kind == rows; };
-    if (has(FoldKind::Points16, CombineKind::Radix8)) return inLanes.template run<16, 8>(split, transforms, from), true;
-    if (has(FoldKind::Points16, CombineKind::Radix16))
-        return inLanes.template run<16, 16>(split, transforms, from), true;
-    if (has(FoldKind::Points32, CombineKind::Radix16))
-        return inLanes.template run<32, 16>(split, transforms, from), true;
-    if (has(FoldKind::Points32, CombineKind::Radix32))
-        return inLanes.template run<32, 32>(split, transforms, from), true;
-    if (has(FoldKind::Points64, CombineKind::Radix32))
-        return inLanes.template run<64, 32>(split, transforms, from), true;
+    if (has(FoldKind::Points16, CombineKind::Radix8)) return inLanes.template run<16, 8>(split, transforms, from);
+    if (has(FoldKind::Points16, CombineKind::Radix16)) return inLanes.template run<16, 16>(split, transforms, from);
+    if (has(FoldKind::Points32, CombineKind::Radix16)) return inLanes.template run<32, 16>(split, transforms, from);
+    if (has(FoldKind::Points32, CombineKind::Radix32)) return inLanes.template run<32, 32>(split, transforms, from);
+    if (has(FoldKind::Points64, CombineKind::Radix32)) return inLanes.template run<64, 32>(split, transforms, from);
     return false;
 }
 

@@ -21,6 +21,8 @@ constexpr PlanKind planKind(std::int32_t length) {
     }
 }
 
+constexpr bool isKnown(PlanKind kind) { return kind >= PlanKind::Direct2 && kind <= PlanKind::Composite; }
+
 // By the length of the skew transforms that a fold record leads to: one body does each of them, or a SkewSplit does.
 enum class FoldKind : std::int32_t { None, Points2, Points4, Points8, Points16, Points32, Points64, Split };
 

@@ -7,6 +7,7 @@
 
 #include "dct4/bodies.h"
 #include "dct4/fold.h"
+#include "dct4/ports.h"
 #include "kernel/lanes.h"
 
 namespace zulg {
@@ -73,28 +74,7 @@ struct FoldLanePorts : Dct4InLanes<Element> {
     }
     ZULG_INLINE void re(int k, Value value) const { Base::write(bins.re(k), value); }
     ZULG_INLINE void im(int k, Value value) const { Base::write(bins.im(k), value); }
-    ZULG_INLINE void minusIm(int k, Value value) const { Base::write(bins.im(k), minus(value)); }
-
-private:
-    ZULG_INLINE static Value minus(Value value) {
-        return [value]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-            return flipped<(lane >= 0)...>(value);
-        }
-        (std::make_integer_sequence<int, Base::width>{});
-    }
-};
-
-// Where the bins of a row of a combine pass are, of one long transform: the lower half of them rises from one bin, and
-// the upper half falls from the mirror of that bin.
-template <class Element, int radix>
-struct RowBins {
-    using Place = typename InMemory<Element>::Type;
-
-    Place* low;
-    Place* high;
-    std::ptrdiff_t step;
-
-    ZULG_INLINE Place* at(std::ptrdiff_t e) const { return e < radix / 2 ? low + step * e : high - step * e; }
+    ZULG_INLINE void minusIm(int k, Value value) const { Base::write(bins.im(k), Value(-value.vector)); }
 };
 
 // The same row of neighbouring transforms, in place: bin c of the row is read where bin c is written. A body reads the

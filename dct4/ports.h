@@ -68,8 +68,20 @@ struct OutputPorts : Dct4Ports<Numbers, Element> {
     ZULG_INLINE void falling(int b, Value value) const { Base::write(down[-step * b], value); }
 };
 
-// A row of r' bins, one of each short transform, to r' bins of the long one. The lower half of these rises from one
-// bin; the upper half falls from the mirror of that bin.
+// Where the bins of a row of a combine pass are, of one long transform: the lower half of them rises from one bin, and
+// the upper half falls from the mirror of that bin.
+template <class Element, int radix>
+struct RowBins {
+    using Place = typename InMemory<Element>::Type;
+
+    Place* low;
+    Place* high;
+    std::ptrdiff_t step;
+
+    ZULG_INLINE Place* at(std::ptrdiff_t e) const { return e < radix / 2 ? low + step * e : high - step * e; }
+};
+
+// A row of r' bins, one of each short transform, to r' bins of the long one.
 template <class Numbers, class Element, int radix>
 struct CombinePorts : Dct4Ports<Numbers, Element> {
     using Base = Dct4Ports<Numbers, Element>;
@@ -78,9 +90,7 @@ struct CombinePorts : Dct4Ports<Numbers, Element> {
     const Place* entries;       // of the only step, or of the inner one
     const Place* outerEntries;  // of the outer step
     const Place* row;
-    Place* low;
-    Place* high;
-    std::ptrdiff_t step;
+    RowBins<Element, radix> bins;
     std::ptrdiff_t toImaginary;
 
     ZULG_INLINE Value re(int c) const { return Base::read(row[c]); }
@@ -88,11 +98,8 @@ struct CombinePorts : Dct4Ports<Numbers, Element> {
     ZULG_INLINE Value table(int i) const { return Base::read(entries[i]); }
     ZULG_INLINE Value inner(int i) const { return Base::read(entries[i]); }
     ZULG_INLINE Value outer(int i) const { return Base::read(outerEntries[i]); }
-    ZULG_INLINE void re(int e, Value value) const { Base::write(*at(e), value); }
-    ZULG_INLINE void im(int e, Value value) const { Base::write(at(e)[toImaginary], value); }
-
-private:
-    ZULG_INLINE Place* at(int e) const { return e < radix / 2 ? low + step * e : high - step * e; }
+    ZULG_INLINE void re(int e, Value value) const { Base::write(*bins.at(e), value); }
+    ZULG_INLINE void im(int e, Value value) const { Base::write(bins.at(e)[toImaginary], value); }
 };
 
 template <class Numbers, class Element>

@@ -7,7 +7,7 @@ inline namespace ZULG_TARGET {
 template <class Element>
 Status ZULG_CALL dct4InLanes(const Element* pSrc, Element* pDst, DctPlan* plan) {
     if (pSrc == nullptr || pDst == nullptr || plan == nullptr) return StatusNullPointer;
-    if (plan->kind < PlanKind::Direct2 || plan->kind > PlanKind::Composite) return StatusPlanKindError;
+    if (!isKnown(plan->kind)) return StatusPlanKindError;
     const bool isPowerOfTwo = (plan->length & (plan->length - 1)) == 0;
     if (plan->kind == PlanKind::Composite && isPowerOfTwo) {
         Element* const transforms = static_cast<Element*>(plan->scratch.get());

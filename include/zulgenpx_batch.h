@@ -1,9 +1,9 @@
 /* zulgenpx_batch: many transforms of zulgenpx in one call. This header is plain C. It comes with a library of its own,
    libzulgenpx-batch-7.0.so, which uses libzulgenpx-7.0.so of the same folder.
 
-   A batch is `count` transforms of one family, length, element type and flag. Each gives bit for bit what the routine of
-   zulgenpx.h gives for it alone: a batch saves calls and loads, and where registers hold several transforms it does as
-   many at once.
+   A batch is `count` transforms of one family, length, element type and flag. Each gives bit for bit what the routine
+   of zulgenpx.h gives for it alone: a batch saves calls and loads, and where registers hold several transforms it does
+   as many at once.
 
    Arrays. Element k of transform j is at pSrc[k * srcStep + j * srcDistance], and its result at
    pDst[k * dstStep + j * dstDistance]. Steps and distances count elements of the array's type; they may be negative,
@@ -97,7 +97,7 @@ extern "C" {
 
    GetBufferSize: StatusSizeError for a length below 2 or above 2^27, *pSize then as it was. pSize is not checked. */
 
-/* -- All routines, one to a line -------------------------------------------------------------------------------- */
+/* -- All routines ------------------------------------------------------------------------------------------------ */
 #include "zulgenpx_batch_routines.h"
 
 #ifdef __cplusplus

@@ -42,9 +42,13 @@ struct FactorsByFlag {
     }
     static constexpr Element factors[] = {divided(DivFwdByN), divided(DivInvByN), Factor::inverseRoot, {}, Factor::one};
     static_assert(DivFwdByN == 1 && DivInvByN == 2 && DivBySqrtN == 4 && NoDivByAny == 8);
-
-    static constexpr std::uint32_t flags = 1 << DivFwdByN | 1 << DivInvByN | 1 << DivBySqrtN | 1 << NoDivByAny;
 };
+
+// The flags as bits of one word: bit `flag` is set. Kernels test it in place, where the compiler lays out the refusal.
+constexpr std::uint32_t flagBits = 1 << DivFwdByN | 1 << DivInvByN | 1 << DivBySqrtN | 1 << NoDivByAny;
+constexpr bool isFlag(std::int32_t flag) {
+    return static_cast<std::uint32_t>(flag) <= NoDivByAny && (flagBits >> flag & 1) != 0;
+}
 
 // Puts a status into its register before the test that follows. A refusal is then a forward jump to the single return.
 // Without the empty asm the compiler places the code of a refusal after the kernel, from where it jumps backwards to
@@ -62,7 +66,7 @@ ZULG_INLINE Status withScale(const void* pSrc, const void* pDst, std::int32_t fl
     Status status = settled(StatusNullPointer);
     if (pSrc != nullptr && pDst != nullptr) {
         status = settled(StatusFlagError);
-        if (bit <= NoDivByAny && (Factors::flags >> bit & 1) != 0) {
+        if (bit <= NoDivByAny && (flagBits >> bit & 1) != 0) {
             run(Factors::factors[flag >> 1]);
             status = StatusOk;
         }

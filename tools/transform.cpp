@@ -107,7 +107,7 @@ void flatten(ConstBins values, int numbersInValue, std::vector<T>& numbers) {
 }
 
 template <typename T>
-void unflatten(std::span<T> numbers, int numbersInValue, Bins& values) {
+void unflatten(const std::vector<T>& numbers, int numbersInValue, Bins& values) {
     values.resize(numbers.size() / static_cast<std::size_t>(numbersInValue));
     auto number = numbers.begin();
     for (std::complex<double>& value : values) {
@@ -124,8 +124,8 @@ Prepared<T>::Prepared(const Options& options)
       routines(routinesOf<T>(family)),
       call{options.size, options.flag, nullptr},
       samplesInFrame(static_cast<std::size_t>(options.length)),
-      points(static_cast<std::size_t>(options.length * family.numbersInPoint)),
-      bins(static_cast<std::size_t>(family.binCount(options.length) * family.numbersInBin)) {
+      numbersInBins(static_cast<std::size_t>(family.binCount(options.length) * family.numbersInBin)) {
+    makeRoom(1);
     if (routines.workspaceBytes) makeWorkspace();
     // Transforms silence once, so that the library can refuse the flag.
     const ZulgStatus status = routines.forward(points.data(), bins.data(), call);
@@ -145,28 +145,31 @@ void Prepared<T>::makeWorkspace() {
 }
 
 template <typename T>
+void Prepared<T>::makeRoom(std::size_t frames) {
+    points.resize(frames * samplesInFrame * static_cast<std::size_t>(family.numbersInPoint));
+    bins.resize(frames * numbersInBins);
+}
+
+template <typename T>
 void Prepared<T>::forward(std::span<const double> samples, Bins& result) {
     const std::size_t frames = samples.size() / samplesInFrame;
-    if (frames > framesWithRoom) {
-        points.resize(points.size() / framesWithRoom * frames);
-        bins.resize(bins.size() / framesWithRoom * frames);
-        framesWithRoom = frames;
-    }
+    makeRoom(frames);
     auto point = points.begin();
     for (double sample : samples) {
         *point++ = static_cast<T>(sample);
         if (family.numbersInPoint == 2) *point++ = 0;
     }
     expectOk(routines.forwardMany(points.data(), bins.data(), call, static_cast<std::int64_t>(frames)));
-    unflatten(std::span(bins).first(bins.size() / framesWithRoom * frames), family.numbersInBin, result);
+    unflatten(bins, family.numbersInBin, result);
 }
 
 template <typename T>
 void Prepared<T>::inverse(const Bins& given, Bins& result) {
+    makeRoom(1);
     flatten(given, family.numbersInBin, bins);
     const Call back{call.size, family.restoringFlag(call.flag), call.workspace};
     expectOk(routines.inverse(bins.data(), points.data(), back));
-    unflatten(std::span(points).first(points.size() / framesWithRoom), family.numbersInPoint, result);
+    unflatten(points, family.numbersInPoint, result);
 }
 
 Transform::Transform(const Options& options) : prepared(preparedFor(checked(options))) {

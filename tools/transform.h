@@ -32,12 +32,13 @@ private:
     };
 
     void makeWorkspace();
+    void makeRoom(std::size_t frames);
 
     const Family& family;
     Routines<T> routines;
     Call call;
-    std::size_t samplesInFrame, framesWithRoom = 1;
-    std::vector<T> points, bins;  // of as many frames as there is room for
+    std::size_t samplesInFrame, numbersInBins;  // of one frame
+    std::vector<T> points, bins;
     std::unique_ptr<void, Release> block;
 };
 

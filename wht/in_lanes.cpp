@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "kernel/core_library.h"
 #include "kernel/lanes.h"
 #include "wht/bodies/wht_2.h"
 #include "wht/bodies/wht_4.h"
@@ -98,7 +97,7 @@ Status ZULG_CALL whtInLanes(const Element* pSrc, Element* pDst, std::int32_t fla
             constexpr int points = 1 << order;
             if constexpr (points <= width) {
                 WhtBlock<points>::run(WhtScaledPorts<Element, TargetNumbers, 1>{{pSrc, pDst}, scale});
-            } else if constexpr (order < 8) {
+            } else if constexpr (order < lowestBufferedOrder) {
                 WhtBlock<points / width>::run(Scaled<BlockOfRegisters<Element>>{{{pSrc, pDst}}, Register(scale)});
             } else {
                 withBuffer<order>(

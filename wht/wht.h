@@ -8,6 +8,7 @@
 namespace zulg {
 
 constexpr int lowestOrder = 1, highestOrder = 13;
+constexpr int lowestBufferedOrder = 8;
 
 template <class Element>
 using WhtRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
@@ -30,6 +31,8 @@ Status ZULG_CALL whtGetBufferSize(std::int32_t order, std::int32_t* pSize);
 
 // The main area holds all points; orders 12 and 13 have a scratch area of one outer block after it.
 constexpr int whtScratchElements(int order) { return order == 12 ? 256 : order == 13 ? 1024 : 0; }
-constexpr int whtBufferElements(int order) { return order < 8 ? 0 : (1 << order) + whtScratchElements(order); }
+constexpr int whtBufferElements(int order) {
+    return order < lowestBufferedOrder ? 0 : (1 << order) + whtScratchElements(order);
+}
 
 }  // namespace zulg

@@ -202,14 +202,33 @@ std::string emitTexts(const std::vector<KernelText>& texts) {
 
 namespace {
 
-std::string prototypes(const std::vector<Export>& exports) {
-    std::string text;
-    for (const Export& entry : exports) {
-        std::vector<std::string> parameters;
-        for (const Argument& argument : entry.arguments) parameters.push_back(argument.declaration());
-        text += "ZulgStatus ZULG_CALL " + entry.name + "(" + joined(parameters) + ");\n";
+// A prototype, broken where it does not fit into a line.
+std::string prototype(const Export& entry) {
+    constexpr size_t columns = 120;
+    std::vector<std::string> parameters;
+    for (const Argument& argument : entry.arguments) parameters.push_back(argument.declaration());
+    const std::string start = "ZulgStatus ZULG_CALL " + entry.name + "(", end = ");\n";
+    const std::string line = start + joined(parameters) + end;
+    if (line.size() <= columns + 1) return line;
+    std::string text = start, indented;
+    for (const std::string& parameter : parameters) {
+        if (indented.empty() || indented.size() + parameter.size() + 3 > columns) {
+            text += indented + "\n";
+            indented = "    " + parameter;
+        } else {
+            indented += " " + parameter;
+        }
+        indented += ",";
     }
-    return text;
+    indented.pop_back();
+    return text + indented + end;
+}
+
+std::string prototypes(const std::vector<Export>& exports) { return joined(exports, prototype, ""); }
+
+// The beginning of a line of the slot table.
+std::string slot(const Export& entry) {
+    return "SLOT(" + entry.name + ", (" + entry.routine + "<" + joined(entry.routineParameters) + ">)";
 }
 
 }  // namespace
@@ -220,10 +239,7 @@ std::string emitSlots(const std::vector<Export>& exports) {
         "   SLOT(exported name, routine, bytes of arguments), in the ASCII order of the names: the line's place from 0 "
         "is\n"
         "   the slot, from 1 the ordinal. */\n";
-    for (const Export& entry : exports) {
-        text += "SLOT(" + entry.name + ", (" + entry.routine + "<" + joined(entry.routineParameters) + ">), " +
-                to_string(entry.argumentBytes()) + ")\n";
-    }
+    for (const Export& entry : exports) text += slot(entry) + ", " + to_string(entry.argumentBytes()) + ")\n";
     return text;
 }
 
@@ -231,17 +247,14 @@ std::string emitBatchSlots(const std::vector<Export>& exports) {
     std::string text =
         "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
         "   SLOT(exported name, routine), in the ASCII order of the names: the line's place from 0 is the slot. */\n";
-    for (const Export& entry : exports)
-        text += "SLOT(" + entry.name + ", (" + entry.routine + "<" + joined(entry.routineParameters) + ">))\n";
+    for (const Export& entry : exports) text += slot(entry) + ")\n";
     return text;
 }
 
 std::string emitBatchRoutines(const std::vector<Export>& exports) {
     std::string text =
         "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
-        "   The routines of the batch library, one to a line. Included by zulgenpx_batch.h, which tells what each "
-        "does. "
-        "*/\n";
+        "   The routines of the batch library. Included by zulgenpx_batch.h, which tells what each does. */\n";
     return text + prototypes(exports);
 }
 

@@ -76,44 +76,41 @@ std::optional<GraphEntry> whtGraph(int order) {
     return {};
 }
 
+// An export of a family of bodies.
+Export ofBodies(const std::string& name, const std::string& family, const Width& width, const std::string& routine,
+                std::vector<Argument> arguments) {
+    return {.name = name + "_" + width.digits + "f",
+            .family = family,
+            .elementType = width.digits + "f",
+            .length = {},
+            .order = {},
+            .arguments = std::move(arguments),
+            .routine = routine,
+            .routineParameters = {width.element},
+            .graph = {}};
+}
+
 // Walsh-Hadamard: a kernel for each order, the dispatcher, the size of the buffer.
 void addWht(std::vector<Export>& exports) {
     for (const Width& width : widths) {
-        const std::string suffix = width.digits + "f", type = "Zulg" + suffix;
-        Export base{.name = {},
-                    .family = "WHT",
-                    .elementType = suffix,
-                    .length = {},
-                    .order = {},
-                    .arguments = {},
-                    .routine = {},
-                    .routineParameters = {width.element},
-                    .graph = {}};
+        const std::string type = "Zulg" + width.digits + "f";
         for (int order = firstWhtOrder; order <= lastWhtOrder; ++order) {
             const std::string points = to_string(1 << order);
-            Export kernel = base;
-            kernel.name = "zulgWHT_" + to_string(order) + "_" + suffix;
+            Export kernel =
+                ofBodies("zulgWHT_" + to_string(order), "WHT", width, "bestWht",
+                         {array("pSrc", Use::In, type, points), array("pDst", Use::Out, type, points), number("flag"),
+                          buffer(type, to_string(whtBufferBytes(order, width.bytes) / width.bytes))});
             kernel.order = order;
-            kernel.arguments = {array("pSrc", Use::In, type, points), array("pDst", Use::Out, type, points),
-                                number("flag"),
-                                buffer(type, to_string(whtBufferBytes(order, width.bytes) / width.bytes))};
-            kernel.routine = "bestWht";
             kernel.routineParameters = {to_string(order), width.element};
             kernel.graph = whtGraph(order);
             exports.push_back(kernel);
         }
-        Export dispatcher = base;
-        dispatcher.name = "zulgWHT_" + suffix;
-        dispatcher.arguments = {array("pSrc", Use::In, type, "1 << order"), array("pDst", Use::Out, type, "1 << order"),
-                                number("order"), number("flag"), buffer(type, "size / sizeof(element)")};
-        dispatcher.routine = "whtDispatch";
-        exports.push_back(dispatcher);
-
-        Export getSize = base;
-        getSize.name = "zulgWHTGetBufferSize_" + suffix;
-        getSize.arguments = {number("order"), size()};
-        getSize.routine = "whtGetBufferSize";
-        exports.push_back(getSize);
+        exports.push_back(
+            ofBodies("zulgWHT", "WHT", width, "whtDispatch",
+                     {array("pSrc", Use::In, type, "1 << order"), array("pDst", Use::Out, type, "1 << order"),
+                      number("order"), number("flag"), buffer(type, "size / sizeof(element)")}));
+        exports.push_back(
+            ofBodies("zulgWHTGetBufferSize", "WHT", width, "whtGetBufferSize", {number("order"), size()}));
     }
 }
 
@@ -122,15 +119,7 @@ void addDct4(std::vector<Export>& exports) {
     for (const Width& width : widths) {
         const std::string suffix = width.digits + "f", type = "Zulg" + suffix, plan = "ZulgDCT4Plan_" + suffix;
         const auto add = [&](const std::string& name, const std::string& routine, std::vector<Argument> arguments) {
-            exports.push_back({.name = name + "_" + suffix,
-                               .family = "DCT4",
-                               .elementType = suffix,
-                               .length = {},
-                               .order = {},
-                               .arguments = std::move(arguments),
-                               .routine = routine,
-                               .routineParameters = {width.element},
-                               .graph = {}});
+            exports.push_back(ofBodies(name, "DCT4", width, routine, std::move(arguments)));
         };
         const Argument newPlan{"pPlan", Use::Out, plan + "*"}, usedPlan{"plan", Use::InOut, plan};
         add("zulgDCT4", "bestDct4",
@@ -161,7 +150,7 @@ std::vector<Argument> batchArguments(const std::string& type, const std::string&
 
 Argument countOfTransforms() { return {"count", Use::Value, "int64_t"}; }
 
-// Batches of one family of kernels; `computed` is "Single" where they compute in single.
+// Batches of one family of kernels, and of singles those that compute in single.
 void addBatches(const GraphFamily& graphs, std::vector<Export>& exports) {
     for (const KernelFamily& family : graphs.exported) {
         for (const Width& width : widths) {
@@ -193,15 +182,7 @@ void addBatchesOfBodies(std::vector<Export>& exports) {
         const std::string suffix = width.digits + "f", type = "Zulg" + suffix;
         const auto add = [&](const std::string& stem, const std::string& family, const std::string& routine,
                              std::vector<Argument> arguments) {
-            exports.push_back({.name = "zulgBatch" + stem + "_" + suffix,
-                               .family = family,
-                               .elementType = suffix,
-                               .length = {},
-                               .order = {},
-                               .arguments = std::move(arguments),
-                               .routine = routine,
-                               .routineParameters = {width.element},
-                               .graph = {}});
+            exports.push_back(ofBodies("zulgBatch" + stem, family, width, routine, std::move(arguments)));
         };
         const Argument own = buffer(type, "size / sizeof(element)");
         add("WHT", "WHT", "batchWht",

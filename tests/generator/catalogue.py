@@ -53,9 +53,9 @@ def check_counts(exports, expected):
 def check_arguments(exports, header):
     """The prototypes, put together from the data; each array of bins has a slot for each of its numbers."""
     prototypes = {}
-    for line in header.read_text(encoding="ascii").splitlines():
-        if match := re.fullmatch(r"ZulgStatus ZULG_CALL (\w+)\((.*)\);", line):
-            prototypes[match[1]] = match[2]
+    text = header.read_text(encoding="ascii")
+    for name, arguments in re.findall(r"^ZulgStatus ZULG_CALL (\w+)\(([^;]*)\);$", text, re.M):
+        prototypes[name] = " ".join(arguments.split())
     expect(len(prototypes), len([export for export in exports if export["family"] != "version"]), "prototypes")
     pointer = {"value": ("", " "), "in": ("const ", "* "), "out": ("", "* "), "inout": ("", "* ")}
     for export in exports:

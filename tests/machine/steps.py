@@ -8,8 +8,8 @@ families that have several numbers to a register: there a packed step counts as 
 lane is in use. A kernel of several levels is counted at each. The negations of the forward real family are left to the
 graph: a compiler may fold one into its neighbours. The large Walsh-Hadamard orders have the loops and the calls out of
 the library that their table grants them; a loop over several blocks side by side has the steps of one block in each
-lane. Where a target stores the 2 that the inverse real kernels multiply by, they
-read it in the width of their elements; elsewhere a compiler may double by a sum.
+lane. Where a target stores the 2 that the inverse real kernels multiply by, they read it in the width of their
+elements; elsewhere a compiler may double by a sum.
 """
 import os
 import re
@@ -36,6 +36,9 @@ def due_counts(folder, table):
     return due
 
 
+RESTORES = re.compile(r"v?mov|(add|sub|lea|push|pop)[lq]?$")  # registers and the stack, after a call
+
+
 def lanes(instruction):
     return 4 if "%ymm" in instruction.operands else 2
 
@@ -44,10 +47,10 @@ def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
     """granted: how many loops and calls out of the library there are to be."""
     sums = products = loops = calls = 0
     faults = []
-    since_call = 9
+    follows_call = False  # with nothing else between
     for instruction in instructions:
         name = instruction.mnemonic
-        since_call = 0 if name.startswith("call") else since_call + 1
+        follows_call = name.startswith("call") or follows_call and (RESTORES.match(name) or name == "jmp")
         if machine.SUMS.match(name):
             sums += 1
         elif machine.PRODUCTS.match(name):
@@ -72,8 +75,8 @@ def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
             if target is None or not instructions[0].address <= target <= instructions[-1].address:
                 faults.append(f"jumps elsewhere: {name} {instruction.operands}")
             elif target <= instruction.address:
-                # A call may be out of the way, with registers restored after it; the jump back from it is no loop.
-                loops += not (name == "jmp" and since_call <= 4)
+                # A call may be out of the way; the jump back from it is no loop.
+                loops += not (name == "jmp" and follows_call)
     if (loops, calls) != granted:
         faults.append(f"{loops} backward jumps, {calls} calls; due are {granted[0]}, {granted[1]}")
     return sums, products, faults

@@ -26,7 +26,8 @@ GENERATION_TIME = {
 }
 OF_THE_TARGET = {"value.h", "levels.h", "level_routines.h", "batch_levels.h", "batch_level_routines.h",
                  "entries.inc"}
-OF_THE_FOLDER = {"zulgenpx.h", "zulgenpx_routines.h", "zulgenpx_batch_routines.h", "many_texts.inc"}  # included by a header beside it
+# Included by a header beside it, or made in the build folder.
+OF_THE_FOLDER = {"zulgenpx.h", "zulgenpx_routines.h", "zulgenpx_batch_routines.h", "many_texts.inc"}
 
 
 def includes(file):

@@ -34,7 +34,7 @@ endfunction()
 
 # add_batch_level(LIBRARY FOLDER): an object library of what the batch library has for the target in FOLDER.
 function(add_batch_level library folder)
-    include(${folder}/target.cmake)
+    include_target(${folder})
     get_filename_component(target ${folder} NAME)
     set(made ${CMAKE_CURRENT_BINARY_DIR}/${target}/batch)
     set(sources ${PROJECT_SOURCE_DIR}/batch/batch.cpp)
@@ -80,7 +80,7 @@ function(add_batch_library name main)
     add_library(${name} SHARED batch/dct4.cpp batch/entries.S batch/slot_table.cpp batch/wht.cpp
         ${library_first_sources})
     foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
-        target_sources(${name} PRIVATE $<TARGET_OBJECTS:batch_${level}>)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:zulgenpx_batch_objects_${level}>)
     endforeach()
     set_target_properties(${name} PROPERTIES
         OUTPUT_NAME zulgenpx-batch-7.0
@@ -88,28 +88,29 @@ function(add_batch_library name main)
         LINK_DEPENDS ${PROJECT_SOURCE_DIR}/batch/exports.map
         BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN")
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${target_folder}
-        INTERFACE ${PROJECT_SOURCE_DIR}/include)
+        INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
     target_compile_options(${name} PRIVATE
         "$<$<COMPILE_LANGUAGE:CXX>:${library_compile_flags};${target_compile_flags}>")
     target_link_options(${name} PRIVATE ${common_link_flags}
         -Wl,--version-script=${PROJECT_SOURCE_DIR}/batch/exports.map)
-    target_link_libraries(${name} PRIVATE zulgen_warnings ${main})
+    target_link_libraries(${name} PRIVATE zulgen_warnings PUBLIC ${main})
 endfunction()
 
 foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
-    add_batch_level(batch_${level} ${PROJECT_SOURCE_DIR}/targets/${level})
+    add_batch_level(zulgenpx_batch_objects_${level} ${PROJECT_SOURCE_DIR}/targets/${level})
 endforeach()
 add_batch_library(zulgenpx_batch zulgenpx)
-install(TARGETS zulgenpx_batch LIBRARY DESTINATION lib)
-install(FILES include/zulgenpx_batch.h include/zulgenpx_batch_routines.h TYPE INCLUDE)
+set_source_files_properties(batch/entries.S PROPERTIES OBJECT_DEPENDS
+    "${PROJECT_SOURCE_DIR}/batch/slots.inc;${target_folder}/entries.inc")
 
 # One level by itself, for the tests, beside the main library of that level.
+if(NOT is_developed)
+    return()
+endif()
 foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
     add_batch_library(zulgenpx_batch_${level} zulgenpx_${level})
     target_include_directories(zulgenpx_batch_${level} BEFORE PRIVATE tests/levels/one)
     target_compile_definitions(zulgenpx_batch_${level} PRIVATE ZULG_LEVEL=${level})
     set_target_properties(zulgenpx_batch_${level} PROPERTIES
-        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/levels/${level})
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/levels/${level})
 endforeach()
-set_source_files_properties(batch/entries.S PROPERTIES OBJECT_DEPENDS
-    "${PROJECT_SOURCE_DIR}/batch/slots.inc;${target_folder}/entries.inc")

@@ -1,7 +1,7 @@
 # From boundary/slots.inc to what the linker needs to export exactly those names: the .def of the DLL, with ordinals and
 # undecorated names, and the version script of the ELF library.
-file(READ ${CMAKE_SOURCE_DIR}/boundary/slots.inc slots_text)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/boundary/slots.inc)
+file(READ ${PROJECT_SOURCE_DIR}/boundary/slots.inc slots_text)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/boundary/slots.inc)
 string(REGEX MATCHALL "SLOT\\(zulg[^\n]+" slot_lines "${slots_text}")
 list(APPEND slot_lines "SLOT(zulgenGetLibVersion, the last, 0)")  # after the slots, since it has none
 
@@ -13,7 +13,7 @@ string(CONCAT import_text
     "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are undecorated:\n"
     "; dlltool -k -d zulgenpx.def -l libzulgenpx.dll.a, or llvm-dlltool -m i386 -k -d zulgenpx.def -l zulgenpx.lib.\n"
     "${def_text}")
-set(map_text "{\nglobal:\n")
+set(map_text "ZULGENPX_7.0 {\nglobal:\n")
 set(ordinal 0)
 foreach(line IN LISTS slot_lines)
     string(REGEX MATCH "SLOT\\(([A-Za-z0-9_]+),.* ([0-9]+)\\)" matched "${line}")
@@ -30,29 +30,33 @@ foreach(line IN LISTS slot_lines)
     string(APPEND map_text "    ${name};\n")
 endforeach()
 string(APPEND map_text "local:\n    *;\n};\n")
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx.def CONTENT "${def_text}" @ONLY)
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx_import.def CONTENT "${import_text}" @ONLY)
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/zulgenpx.map CONTENT "${map_text}" @ONLY)
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/zulgenpx.def CONTENT "${def_text}" @ONLY)
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/zulgenpx_import.def CONTENT "${import_text}" @ONLY)
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/zulgenpx.map CONTENT "${map_text}" @ONLY)
 
 # link_consumer(TARGET): links a program with the library as its users do. On Windows this is through an import library.
 # There are two, in the GNU format and in the Microsoft one. The import library that the linker writes beside the DLL
 # has no decorated names, so that nothing links with it and it is not installed.
 if(WIN32)
-    find_program(LLVM_DLLTOOL llvm-dlltool REQUIRED)
-    set(import_def ${CMAKE_BINARY_DIR}/zulgenpx_import.def)
-    set(import_library ${CMAKE_BINARY_DIR}/libzulgenpx.dll.a)
-    set(microsoft_import_library ${CMAKE_BINARY_DIR}/zulgenpx.lib)
+    find_program(LLVM_DLLTOOL llvm-dlltool)
+    set(import_def ${PROJECT_BINARY_DIR}/zulgenpx_import.def)
+    set(import_library ${PROJECT_BINARY_DIR}/libzulgenpx.dll.a)
+    set(microsoft_import_library ${PROJECT_BINARY_DIR}/zulgenpx.lib)
     add_custom_command(OUTPUT ${import_library}
         COMMAND ${CMAKE_DLLTOOL} -k -d ${import_def} -l ${import_library}
         DEPENDS ${import_def})
-    add_custom_command(OUTPUT ${microsoft_import_library}
-        COMMAND ${LLVM_DLLTOOL} -m i386 -k -d ${import_def} -l ${microsoft_import_library}
-        DEPENDS ${import_def})
-    add_custom_target(import_library ALL DEPENDS ${import_library} ${microsoft_import_library})
-    install(FILES ${import_library} ${microsoft_import_library} DESTINATION lib)
-    install(FILES ${import_def} DESTINATION lib RENAME zulgenpx.def)
+    set(import_libraries ${import_library})
+    if(LLVM_DLLTOOL)
+        add_custom_command(OUTPUT ${microsoft_import_library}
+            COMMAND ${LLVM_DLLTOOL} -m i386 -k -d ${import_def} -l ${microsoft_import_library}
+            DEPENDS ${import_def})
+        list(APPEND import_libraries ${microsoft_import_library})
+    else()
+        message(STATUS "zulgenpx.lib, for Microsoft's linkers, is left out: it needs llvm-dlltool")
+    endif()
+    add_custom_target(import_library ALL DEPENDS ${import_libraries})
     function(link_consumer target)
-        target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/include)
+        target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/include)
         target_link_libraries(${target} PRIVATE ${import_library})
         add_dependencies(${target} zulgenpx import_library)
     endfunction()
@@ -64,19 +68,9 @@ else()
 endif()
 
 if(WIN32)
-    set(exports_link_input ${CMAKE_BINARY_DIR}/zulgenpx.def)
+    set(exports_link_input ${PROJECT_BINARY_DIR}/zulgenpx.def)
     set(exports_link_flags "")
 else()
     set(exports_link_input "")
-    set(exports_link_flags -Wl,--version-script=${CMAKE_BINARY_DIR}/zulgenpx.map)
-endif()
-
-# The tools with which a test builds consumers of either import library.
-if(WIN32)
-    find_program(CLANG clang REQUIRED)
-    find_program(LLD_LINK lld-link REQUIRED)
-    set(consumer_tools --emulator ${CMAKE_CROSSCOMPILING_EMULATOR} --dlltool ${CMAKE_DLLTOOL}
-        --llvm-dlltool ${LLVM_DLLTOOL} --clang ${CLANG} --lld-link ${LLD_LINK})
-else()
-    set(consumer_tools "")
+    set(exports_link_flags -Wl,--version-script=${PROJECT_BINARY_DIR}/zulgenpx.map)
 endif()

@@ -34,7 +34,7 @@ endfunction()
 # add_kernels(LIBRARY FOLDER [LENGTH ...]): an object library of the kernels of these lengths, or of all, for the target
 # in FOLDER.
 function(add_kernels library folder)
-    include(${folder}/target.cmake)
+    include_target(${folder})
     get_filename_component(target ${folder} NAME)
     set(sources "")
     choose_texts(texts "${kernel_forms}" "${ARGN}")
@@ -70,7 +70,7 @@ endfunction()
 # add_lane_passes(LIBRARY FOLDER): an object library of the routines whose loops run bodies in registers of several
 # lanes, for the target in FOLDER.
 function(add_lane_passes library folder)
-    include(${folder}/target.cmake)
+    include_target(${folder})
     list(TRANSFORM lane_sources PREPEND ${PROJECT_SOURCE_DIR}/)
     add_objects(${library} ${folder} "${target_compile_flags};${lane_compile_flags}" ${lane_sources})
 endfunction()

@@ -10,7 +10,7 @@ endif()
 if(NOT DEFINED ZULG_TARGET)
     set(ZULG_TARGET x86_64)
 endif()
-set(target_folder ${CMAKE_SOURCE_DIR}/targets/${ZULG_TARGET})
+set(target_folder ${PROJECT_SOURCE_DIR}/targets/${ZULG_TARGET})
 
 # Test programs of the other target are linked with their runtime, since nothing is installed where they run. They may
 # use the upper half of the address space, where an address that is taken as a signed number is negative.

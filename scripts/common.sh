@@ -7,9 +7,12 @@ cd "$tree"
 # The i386 Debian root in which Windows programs run. It is outside the tree, since all checkouts share it and `git
 # clean` must not delete it.
 win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
+# That in which packages are installed and used, as bare as Debian comes but for a compiler.
+package_root=${ZULG_PACKAGE_ROOT:-/var/cache/zulgenpx/package-root}
 
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
-    binutils ca-certificates qemu-user)
+    binutils ca-certificates qemu-user pkg-config)
+packages_packages=(dpkg-dev file gzip lintian debootstrap util-linux)
 packages_demo=(alsa-utils)
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 
@@ -38,6 +41,48 @@ need_packages() {
         apt-get -qq install -y --no-install-recommends "${missing[@]}"; } </dev/null >"$log" 2>&1 ||
         { tail -n 20 "$log" >&2; fail "the packages could not be installed; the whole log: $log"; }
     rm -f "$log"
+}
+
+# debian_root FOLDER ARCHITECTURE PACKAGE ...: a Debian root with these packages, made once for the machine. Prints
+# nothing when it exists already.
+debian_root() {
+    local root=$1 architecture=$2
+    shift 2
+    [ ! -e "$root/ready" ] || return 0
+    need_packages debootstrap util-linux
+    can_be_root || fail "The root $root is missing. Run this as root, then start again: $0"
+
+    # The first mirror that the machine itself uses, since that can be reached.
+    local mirror
+    mirror=$(cat /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources 2>/dev/null |
+        grep -oE '(https?|file):/[^ ]*debian/?( |$)' | grep -v security | head -n 1 | tr -d ' ' || true)
+    mirror=${mirror:-http://deb.debian.org/debian}
+
+    as_root mkdir -p "$(dirname "$root")"
+    exec 9>"/tmp/zulgenpx-$(basename "$root").lock"
+    flock 9
+    [ ! -e "$root/ready" ] || return 0
+
+    say "Making the root $root (about a minute) ..."
+    local log
+    log=$(mktemp)
+    fill_root "$root" "$architecture" "$mirror" "$@" </dev/null >"$log" 2>&1 ||
+        { tail -n 20 "$log" >&2; fail "The root $root could not be made; the whole log: $log"; }
+    rm -f "$log"
+    exec 9>&-
+}
+fill_root() {
+    local root=$1 architecture=$2 mirror=$3
+    shift 3
+    # Package scripts of the root must not start services.
+    as_root rm -rf --one-file-system "$root" &&
+        as_root debootstrap "--arch=$architecture" --variant=minbase bookworm "$root" "$mirror" &&
+        as_root sh -c "printf '#!/bin/sh\nexit 101\n' > '$root/usr/sbin/policy-rc.d'" &&
+        as_root chmod 755 "$root/usr/sbin/policy-rc.d" &&
+        { as_root cp /etc/resolv.conf "$root/etc/resolv.conf" || true; } &&
+        as_root env DEBIAN_FRONTEND=noninteractive chroot "$root" apt-get -qq install -y --no-install-recommends "$@" &&
+        as_root chroot "$root" apt-get clean &&
+        as_root touch "$root/ready"
 }
 
 # build_preset NAME: configures and builds, quietly; on failure prints the end of the log.

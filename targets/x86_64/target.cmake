@@ -1,6 +1,7 @@
 # x86-64, with ELF shared libraries: code that any such processor runs.
 
 set(target_compile_flags
+    -march=x86-64 -mtune=generic  # whatever the project asks for that this library is a part of
     -mfpmath=sse -mno-sse3
     -fcf-protection=full)
 

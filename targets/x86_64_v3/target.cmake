@@ -2,6 +2,7 @@
 include(${CMAKE_CURRENT_LIST_DIR}/../x86_64/target.cmake)
 
 set(target_compile_flags
+    -march=x86-64 -mtune=generic
     -mavx2
     -mno-fma                      # a step that rounds once less is another step
     -fcf-protection=full)

@@ -1,101 +1,126 @@
-"""Installs the library into a folder of the build, and links programs with what is there alone, as its users do. On
-Windows it links with both import libraries, and then with both made anew from the installed .def.
+"""Programs of users: each is made in an empty folder with nothing but what is installed, in one of the ways in which
+people link, and run.
 
-consumers.py --source TREE --build FOLDER --cmake CMAKE --cc COMPILER [tools of Windows]
+consumers.py --source TREE --build FOLDER --cmake CMAKE --cc COMPILER --cxx COMPILER [tools; see below]
 """
 import argparse
-import os
-import shutil
-import subprocess
+import re
 import sys
+
+from installation import SOURCES, Fault, Installation, done
+from part_of_a_project import parts_of_projects
+from static_library import static_library
+from windows import windows_programs
 
 
 def parsed():
     parser = argparse.ArgumentParser()
-    for name in ("source", "build", "cmake", "cc"):
+    for name in ("source", "build", "cmake", "cc", "cxx", "libdir", "pkg-config"):
         parser.add_argument(f"--{name}", required=True)
-    for name in ("emulator", "dlltool", "llvm-dlltool", "clang", "lld-link"):
-        parser.add_argument(f"--{name}")
+    for name in ("emulator", "toolchain", "dlltool", "llvm-dlltool", "clang", "lld-link", "digests", "python"):
+        parser.add_argument(f"--{name}", default="")
     return parser.parse_args()
 
 
-def done(*words):
-    subprocess.run(words, check=True)
+def installed_files(place):
+    """What the tree has, and what it must not have."""
+    due = {"include/zulgenpx.h", "include/zulgenpx_routines.h", "share/doc/zulgenpx/LICENSE"}
+    lib = place.args.libdir
+    due |= {f"{lib}/{name}" for name in ("pkgconfig/zulgenpx.pc", "cmake/zulgenpx/zulgenpx-config.cmake",
+                                         "cmake/zulgenpx/zulgenpx-config-version.cmake")}
+    if place.args.emulator:
+        due |= {"bin/zulgenpx-7.0.dll", "bin/zulcore-7.0.dll", f"{lib}/libzulgenpx.dll.a", f"{lib}/zulgenpx.lib",
+                f"{lib}/zulgenpx.def"}
+    else:
+        due |= {f"{lib}/{name}" for name in (
+            "libzulgenpx-7.0.so", "libzulgenpx.so", "libzulcore-7.0.so", "libzulgenpx.a", "libzulgenpx-batch-7.0.so",
+            "libzulgenpx-batch.so", "pkgconfig/zulgenpx-static.pc", "pkgconfig/zulgenpx-batch.pc")}
+        due |= {"include/zulgenpx_batch.h", "include/zulgenpx_batch_routines.h"}
+    if due - place.files():
+        raise Fault(f"not installed: {sorted(due - place.files())}")
+    if f"{lib}/libzulgenpx-7.0.dll.a" in place.files():
+        raise Fault("the linker's own import library is installed")
+    for file in place.lib.rglob("*"):
+        if file.suffix in (".pc", ".cmake") and re.search(r"(?<![\w}/.])/(?!/)\w+/", file.read_text(encoding="utf-8")):
+            raise Fault(f"{file} has an absolute path")
 
 
-class Installation:
-    """bin, lib and include below a folder of its own."""
-
-    def __init__(self, args):
-        self.args = args
-        self.prefix = os.path.join(args.build, "consumers")
-        shutil.rmtree(self.prefix, ignore_errors=True)
-        subprocess.run([args.cmake, "--install", args.build, "--prefix", self.prefix], check=True,
-                       stdout=subprocess.DEVNULL)
-        self.consumer = os.path.join(args.source, "tests/consumers/consumer.c")
-        self.flags = ["-Wall", "-Wextra", "-Werror", "-O1", "-I", self.path("include"), "-I", args.source]
-
-    def path(self, *parts):
-        return os.path.join(self.prefix, *parts)
-
-    def files(self):
-        return {os.path.relpath(os.path.join(folder, name), self.prefix)
-                for folder, _, names in os.walk(self.prefix) for name in names}
-
-    def gcc(self, name, *libraries):
-        program = self.path("bin", name)
-        os.makedirs(os.path.dirname(program), exist_ok=True)
-        done(self.args.cc, *self.flags, self.consumer, "-o", program, *libraries)
-        return program
-
-    def clang(self, name, library):
-        """Needs no header and no library of another vendor: ExitProcess comes from an import library made here."""
-        args, program = self.args, self.path("bin", name)
-        system, compiled = self.path("system"), self.path("consumer.obj")
-        with open(system + ".def", "w", encoding="ascii") as file:
-            file.write("LIBRARY KERNEL32.dll\nEXPORTS\n    ExitProcess@4\n")
-        done(args.llvm_dlltool, "-m", "i386", "-k", "-d", system + ".def", "-l", system + ".lib")
-        done(args.clang, "--target=i686-pc-windows-msvc", "-ffreestanding", "-DFREESTANDING", *self.flags, "-c",
-             self.consumer, "-o", compiled)
-        done(args.lld_link, "/nologo", "/nodefaultlib", "/subsystem:console", "/entry:start", f"/out:{program}",
-             compiled, library, system + ".lib")
-        return program
+def plain_flags(place):
+    paths = ["-I", place.include, "-L", place.lib]
+    beside = ["-Wl,-rpath," + str(place.lib)] if not place.args.emulator else []
+    for name, source, standard, libraries in (
+            ("plain_c99", "one_transform.c", "c99", ["-lzulgenpx"]),
+            ("plain_c17", "one_transform.c", "c17", ["-lzulgenpx"]),
+            ("plain_cpp20", "plan.cpp", "", ["-lzulgenpx"])):
+        place.run(place.compiled(name, source, *paths, *libraries, *beside, standard=standard))
+    if not place.args.emulator:
+        place.run(place.compiled("plain_file", "one_transform.c", *paths, "-l:libzulgenpx-7.0.so", *beside))
+        place.run(place.compiled("plain_batch", "batch.c", *paths, "-lzulgenpx-batch", "-lzulgenpx", *beside))
 
 
-def windows_programs(installation):
-    args, path = installation.args, installation.path
-    gnu, microsoft = path("remade.dll.a"), path("remade.lib")
-    done(args.dlltool, "-k", "-d", path("lib/zulgenpx.def"), "-l", gnu)
-    done(args.llvm_dlltool, "-m", "i386", "-k", "-d", path("lib/zulgenpx.def"), "-l", microsoft)
-    return [installation.gcc("gcc.exe", "-L", path("lib"), "-lzulgenpx"),
-            installation.gcc("gcc_remade.exe", gnu),
-            installation.clang("clang.exe", path("lib/zulgenpx.lib")),
-            installation.clang("clang_remade.exe", microsoft)]
+def every_name(place):
+    """One program that names all routines."""
+    beside = ["-Wl,-rpath," + str(place.lib)] if not place.args.emulator else []
+    place.run(place.compiled("every_name", "consumer.c", "-I", place.include, "-I", place.args.source, "-L", place.lib,
+                             "-lzulgenpx", *beside))
+
+
+def by_pkg_config(place):
+    if place.pkg_config("--modversion", "zulgenpx") != ["7.0"]:
+        raise Fault("pkg-config gives another version")
+    beside = ["-Wl,-rpath," + str(place.lib)] if not place.args.emulator else []
+    place.run(place.compiled("pkg_shared", "one_transform.c", *place.pkg_config("--cflags", "--libs", "zulgenpx"),
+                             *beside))
+    if place.args.emulator:
+        return
+    words = place.pkg_config("--cflags", "--libs", "zulgenpx-static")
+    place.run(place.compiled("pkg_static", "plan.cpp", *words))
+    place.run(place.compiled("pkg_static_whole", "plan.cpp", "-static", *words))
+    place.run(place.compiled("pkg_batch", "batch.c", *place.pkg_config("--cflags", "--libs", "zulgenpx-batch"),
+                             *beside))
+
+
+def by_find_package(place):
+    components = "" if place.args.emulator else "static;batch"
+    package = f"-Dzulgenpx_DIR={place.lib}/cmake/zulgenpx"
+    built = place.cmake_project("find_package", "project", package, f"-DCOMPONENTS={components}")
+    done(place.args.cmake, "--build", built)
+    suffix = ".exe" if place.args.emulator else ""
+    names = ["one_shared", "plan_shared"]
+    if not place.args.emulator:
+        names += ["one_static", "plan_static", "batch"]
+    for name in names:
+        place.run(built / (name + suffix))
+    for options, due in (("-DCOMPONENTS=harmonic", "This zulgenpx has no harmonic."),):
+        try:
+            place.cmake_project("find_package_refused", "project", package, options)
+        except Fault as fault:
+            if due not in str(fault):
+                raise
+        else:
+            raise Fault(f"{options} is accepted")
+
+
+def loaded_by_name(place):
+    """A program that is not linked with the library at all."""
+    if place.args.emulator:
+        return  # windows.py
+    file = place.lib / "libzulgenpx-7.0.so"
+    place.run(place.compiled("dlopen", "loads.c", f'-DLIBRARY="{file}"', "-ldl"))
 
 
 def main():
     args = parsed()
-    installation = Installation(args)
-    due = {"include/zulgenpx.h", "include/zulgenpx_routines.h"}
-    if args.emulator:
-        due |= {"bin/zulgenpx-7.0.dll", "lib/libzulgenpx.dll.a", "lib/zulgenpx.lib", "lib/zulgenpx.def"}
-    else:
-        due |= {"lib/libzulgenpx-7.0.so"}
-    missing, linkers_own = due - installation.files(), "lib/libzulgenpx-7.0.dll.a"
-    if missing or linkers_own in installation.files():
-        print(f"not installed: {sorted(missing)}; must not be installed: {linkers_own}")
-        return 1
-
-    if args.emulator:
-        programs = windows_programs(installation)
-    else:
-        programs = [installation.gcc("cc", "-L", installation.path("lib"), "-l:libzulgenpx-7.0.so",
-                                     "-Wl,-rpath,$ORIGIN/../lib")]
-    failed = 0
-    for program in programs:
-        code = subprocess.run([args.emulator, program] if args.emulator else [program], check=False).returncode
-        print(f"{os.path.basename(program)}: {code}, due is 42")
-        failed += code != 42
+    ways = [installed_files, plain_flags, every_name, by_pkg_config, by_find_package, loaded_by_name]
+    ways += [windows_programs] if args.emulator else [static_library, parts_of_projects]
+    place, failed = Installation(args), 0
+    for way in ways:
+        try:
+            way(place)
+            print(f"{way.__name__}: ok", flush=True)
+        except Fault as fault:
+            print(f"{way.__name__}: {fault}", flush=True)
+            failed += 1
     return 1 if failed else 0
 
 

@@ -87,11 +87,13 @@ class Library:
             name = self._string(names_at + header[0])
             by_name[name] = header
             self.sections.append((name, header[3], header[5], header[4]))
-        self.exports, self.imports, self.relocated, self.resolvers = {}, set(), {}, {}
+        self.exports, self.imports, self.relocated, self.resolvers, self.versions = {}, set(), {}, {}, set()
         symbols, strings = by_name[".dynsym"], by_name[".dynstr"]
         for at in range(symbols[4], symbols[4] + symbols[5], 24):
             name, _, _, section, value, _ = struct.unpack_from("<IBBHQQ", data, at)
-            if section != 0:
+            if section == 0xFFF1:  # a number and no address: the name of a version
+                self.versions.add(self._string(strings[4] + name))
+            elif section != 0:
                 self.exports[self._string(strings[4] + name)] = (None, value)
             elif name != 0:
                 self.imports.add(self._string(strings[4] + name))

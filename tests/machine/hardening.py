@@ -144,6 +144,12 @@ def check_elf(library, imports):
         at = next(address for section, address, _, _ in library.sections if section == name)
         expect(start <= at < start + size, f"{name} is not read-only after loading")
 
+    version = "ZULGENPX_BATCH_7.0" if imports is batch_imports else "ZULGENPX_7.0"
+    named = [line.split()[7] for line in readelf("--dyn-syms").splitlines() if re.match(r" +\d+: ", line)
+             and line.split()[6] not in ("UND", "ABS")]
+    expect(library.versions == {version} and sorted(named) == sorted(f"{name}@@{version}" for name in library.exports),
+           f"exports without the version {version}")
+
     expect("IBT" in notes and "SHSTK" in notes, "no branch-target or shadow-stack mark")
     landing = b"\xf3\x0f\x1e\xfa"
     for slot in slots(library):

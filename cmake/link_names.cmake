@@ -1,0 +1,20 @@
+# The targets that other projects link with, of the same names as those of the installed package. zulgenpx::zulgenpx is
+# the shared library, or the static one where BUILD_SHARED_LIBS is off.
+if(WIN32)
+    # The import library that the linker writes beside the DLL is not the one for consumers.
+    add_library(zulgenpx_import INTERFACE)
+    target_include_directories(zulgenpx_import INTERFACE ${PROJECT_SOURCE_DIR}/include)
+    target_link_libraries(zulgenpx_import INTERFACE ${import_library})
+    add_dependencies(zulgenpx_import zulgenpx import_library)
+    add_library(zulgenpx::zulgenpx ALIAS zulgenpx_import)
+elseif(is_static)
+    add_library(zulgenpx::zulgenpx ALIAS zulgenpx_static)
+else()
+    add_library(zulgenpx::zulgenpx ALIAS zulgenpx)
+endif()
+if(TARGET zulgenpx_static)
+    add_library(zulgenpx::static ALIAS zulgenpx_static)
+endif()
+if(TARGET zulgenpx_batch)
+    add_library(zulgenpx::batch ALIAS zulgenpx_batch)
+endif()

@@ -10,11 +10,12 @@ win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
 # That in which packages are installed and used, as bare as Debian comes but for a compiler.
 package_root=${ZULG_PACKAGE_ROOT:-/var/cache/zulgenpx/package-root}
 
-packages_pages=(groff-base man-db mandoc)  # what tests of the manual pages read them with
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
-    binutils ca-certificates qemu-user pkg-config "${packages_pages[@]}")
+    binutils ca-certificates qemu-user pkg-config)
 packages_packages=(dpkg-dev file gzip lintian debootstrap util-linux)
 packages_demo=(alsa-utils)
+packages_pages=(groff-base man-db mandoc)               # what tests read the manual pages with
+packages_languages=(mono-mcs mono-runtime fp-compiler)  # what tests compile the declarations for other languages with
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 
 say() { printf '%s\n' "$*"; }

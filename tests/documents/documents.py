@@ -19,7 +19,7 @@ import extents
 import extract
 
 DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/architecture.md", "docs/constructions.md", "docs/testing.md",
-             "kernels/README.md", "benchmarks/README.md", "tools/README.md"]
+             "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md"]
 HEADER = "include/zulgenpx.h"
 WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 

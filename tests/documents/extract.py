@@ -3,7 +3,8 @@ in indented blocks."""
 import re
 
 PROGRAM_LANGUAGES = {"c"}
-OTHER_KINDS = {"text"}  # diagrams
+OTHER_KINDS = {"text",  # diagrams
+               "csharp", "pascal", "vb"}  # tests/declarations compiles what can be compiled
 
 
 class Program:

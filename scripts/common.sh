@@ -14,6 +14,7 @@ packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev l
     binutils ca-certificates qemu-user pkg-config)
 packages_packages=(dpkg-dev file gzip lintian debootstrap util-linux)
 packages_demo=(alsa-utils)
+packages_abi=(abigail-tools)                            # what tests compare binary interfaces with
 packages_pages=(groff-base man-db mandoc)               # what tests read the manual pages with
 packages_languages=(mono-mcs mono-runtime fp-compiler)  # what tests compile the declarations for other languages with
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)

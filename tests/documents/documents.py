@@ -18,8 +18,8 @@ import wave
 import extents
 import extract
 
-DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/architecture.md", "docs/constructions.md", "docs/testing.md",
-             "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md"]
+DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/architecture.md", "docs/compatibility.md", "docs/constructions.md",
+             "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md"]
 HEADER = "include/zulgenpx.h"
 WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 

@@ -17,6 +17,7 @@ packages_demo=(alsa-utils)
 packages_abi=(abigail-tools)                            # what tests compare binary interfaces with
 packages_pages=(groff-base man-db mandoc)               # what tests read the manual pages with
 packages_languages=(mono-mcs mono-runtime fp-compiler)  # what tests compile the declarations for other languages with
+packages_release=(git)                                  # what the checks before a release look at the tree with
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 
 say() { printf '%s\n' "$*"; }

@@ -10,6 +10,7 @@
 #include "output/catalogue_json.h"
 #include "output/emit.h"
 #include "output/emit_lanes.h"
+#include "output/routine_tables.h"
 #include "output/tuning.h"
 
 namespace {
@@ -63,8 +64,10 @@ std::map<std::string, std::string> allFiles() {
     files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
     files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
+    files["include/zulgenpx_routines.hpp"] = gen::emitRoutineTables(gen::allExports());
     files["batch/slots.inc"] = gen::emitBatchSlots(gen::batchExports());
     files["include/zulgenpx_batch_routines.h"] = gen::emitBatchRoutines(gen::batchExports());
+    files["include/zulgenpx_batch_routines.hpp"] = gen::emitBatchRoutineTables(gen::batchExports());
     files["docs/catalogue.json"] = gen::catalogueJson(gen::allExports(), gen::batchExports(), counts);
     return files;
 }

@@ -27,7 +27,9 @@ GENERATION_TIME = {
 OF_THE_TARGET = {"value.h", "levels.h", "level_routines.h", "batch_levels.h", "batch_level_routines.h",
                  "entries.inc"}
 # Included by a header beside it, or made in the build folder.
-OF_THE_FOLDER = {"zulgenpx.h", "zulgenpx_routines.h", "zulgenpx_batch_routines.h", "many_texts.inc"}
+OF_THE_FOLDER = {"zulgenpx.h", "zulgenpx_routines.h", "zulgenpx_batch_routines.h", "many_texts.inc",
+                 "zulgenpx.hpp", "zulgenpx_arrays.hpp", "zulgenpx_batch.h", "zulgenpx_batch_routines.hpp",
+                 "zulgenpx_calls.hpp", "zulgenpx_dct4.hpp", "zulgenpx_routines.hpp", "zulgenpx_view.hpp"}
 
 
 def includes(file):
@@ -43,7 +45,7 @@ def faults_of(folder, rooms):
     files, faults = 0, []
     for room, allowed in rooms.items():
         for file in sorted((folder / room).rglob("*")):
-            if file.suffix not in (".h", ".cpp", ".S", ".inc", ".rc"):
+            if file.suffix not in (".h", ".hpp", ".cpp", ".S", ".inc", ".rc"):
                 continue
             files += 1
             faults += [f"{file.relative_to(folder)} includes {included}; {room} may include only "

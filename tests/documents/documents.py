@@ -1,6 +1,6 @@
-"""Takes the code out of the documents and proves that it is true: programs are compiled, as C11 and as C++17, and run,
-on the native target also with the address sanitizer; lines for the shell are run where that is quick, and otherwise
-what they name must be there. Links and paths must lead somewhere.
+"""Takes the code out of the documents and proves that it is true: programs are compiled and run, those in C as C11 and
+as C++17, and on the native target with the address sanitizer as well; lines for the shell are run where that is quick,
+and otherwise what they name must be there. Links and paths must lead somewhere.
 
 documents.py --source TREE --build FOLDER --cc COMPILER --cxx COMPILER [--emulator PROGRAM]
 """
@@ -20,7 +20,7 @@ import extract
 
 DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/architecture.md", "docs/compatibility.md", "docs/constructions.md",
              "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md"]
-HEADER = "include/zulgenpx.h"
+HEADERS = ["include/zulgenpx.h", "include/zulgenpx.hpp", "include/zulgenpx_dct4.hpp", "include/zulgenpx_batch.hpp"]
 WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 
 # Shell lines that are not run, by how they begin: they build or install everything, time, or write into the tree.
@@ -71,7 +71,7 @@ class Check:
             self.fail(where, f"prints {output!r} and not {program.printed}")
 
     def program(self, program):
-        """Both languages; natively, in C, the sanitizers as well."""
+        """What is C in both languages; natively the sanitizers as well."""
         args = self.args
         uses_batches = "zulgenpx_batch.h" in program.text
         if uses_batches and args.emulator:
@@ -82,7 +82,11 @@ class Check:
             link = ["-static", os.path.join(args.build, "libzulgenpx.dll.a")]
         sanitizers = ["-fsanitize=address,undefined", "-fno-sanitize-recover=all", "-include", "checked.h", "-g"]
         ways = [("c", args.cc, ["-std=c11"], ".c"), ("cpp", args.cxx, ["-std=c++17"], ".cpp")]
-        if not args.emulator:
+        if program.language == "cpp":
+            ways = [("cpp", args.cxx, ["-std=c++20"], ".cpp")]
+            if not args.emulator:  # the headers check sizes themselves
+                ways.append(("sanitized", args.cxx, ["-std=c++20"] + sanitizers[:2] + ["-g"], ".cpp"))
+        elif not args.emulator:
             ways.append(("sanitized", args.cc, ["-std=c11"] + sanitizers, ".c"))
         with open(self.path("checked.h"), "w", encoding="utf-8") as file:
             file.write(extents.checked_header(program.text))
@@ -176,12 +180,16 @@ def main():
                 check.shell(where, line)
             check.paths(name, text)
             programs += len(found)
-        with open(os.path.join(args.source, HEADER), encoding="utf-8") as file:
-            found = extract.of_header(HEADER, file.read())
-        for program in found:
-            check.program(program)
-        print(f"{programs + len(found)} programs, {len(check.failures)} failures")
-        return 1 if check.failures or programs == 0 or not found else 0
+        for name in HEADERS:
+            with open(os.path.join(args.source, name), encoding="utf-8") as file:
+                found = extract.of_header(name, file.read())
+            for program in found:
+                check.program(program)
+            programs += len(found)
+            if not found:
+                check.fail(name, "there is no example")
+        print(f"{programs} programs, {len(check.failures)} failures")
+        return 1 if check.failures or programs == 0 else 0
 
 
 sys.exit(main())

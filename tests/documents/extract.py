@@ -2,16 +2,16 @@
 in indented blocks."""
 import re
 
-PROGRAM_LANGUAGES = {"c"}
+PROGRAM_LANGUAGES = {"c", "cpp"}
 OTHER_KINDS = {"text",  # diagrams
                "csharp", "pascal", "vb"}  # tests/declarations compiles what can be compiled
 
 
 class Program:
-    """A piece of C, whole or a fragment that runs inside a main, and the lines that it says it prints."""
+    """A piece of C or C++, whole or a fragment that runs inside a main, and the lines that it says it prints."""
 
-    def __init__(self, where, text):
-        self.where, self.text = where, text
+    def __init__(self, where, text, language="c"):
+        self.where, self.text, self.language = where, text, language
         self.printed = re.findall(r"/\* prints (.*?) \*/|// prints (.*)", text)
         self.printed = [first or second for first, second in self.printed]
 
@@ -49,7 +49,7 @@ def of_markdown(name, text):
                     raise ValueError(f"{name}:{number}: a block of the unknown kind '{fence[1]}'")
             else:
                 if fence[1] in PROGRAM_LANGUAGES:
-                    programs.append(Program(f"{name}:{fence[0]}", "\n".join(fence[2]) + "\n"))
+                    programs.append(Program(f"{name}:{fence[0]}", "\n".join(fence[2]) + "\n", fence[1]))
                 fence = None
         if fence is not None and number > fence[0]:
             fence[2].append(line)
@@ -68,6 +68,7 @@ def is_continued_list(lines, number):
 def of_header(name, text):
     """Programs that are in comments after a line that begins with "Example"."""
     lines, programs = text.splitlines(), []
+    language = "cpp" if name.endswith(".hpp") else "c"
     for start, line in enumerate(lines):
         if not line.strip().startswith("Example"):
             continue
@@ -78,5 +79,5 @@ def of_header(name, text):
             body.append(inner[5:])
         if not any(body):
             raise ValueError(f"{name}:{start + 1}: no example follows")
-        programs.append(Program(f"{name}:{start + 1}", "\n".join(body) + "\n"))
+        programs.append(Program(f"{name}:{start + 1}", "\n".join(body) + "\n", language))
     return programs

@@ -19,4 +19,5 @@ add_custom_command(OUTPUT ${declarations_files}
         ${PROJECT_SOURCE_DIR}/docs/catalogue.json
     COMMENT "Writing the declarations for other languages" VERBATIM)
 add_custom_target(declarations ALL DEPENDS ${declarations_files})
-install(FILES ${declarations_files} ${PROJECT_SOURCE_DIR}/bindings/README.md DESTINATION share/zulgenpx)
+install(FILES ${declarations_files} ${PROJECT_SOURCE_DIR}/bindings/README.md
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zulgenpx COMPONENT documentation)

@@ -19,4 +19,4 @@ add_custom_command(OUTPUT ${man_pages_folder}/man3/zulgenpx.3
         ${PROJECT_SOURCE_DIR}/include/zulgenpx.h
     COMMENT "Writing the manual pages" VERBATIM)
 add_custom_target(man_pages ALL DEPENDS ${man_pages_folder}/man3/zulgenpx.3)
-install(DIRECTORY ${man_pages_folder}/man1 ${man_pages_folder}/man3 TYPE MAN)
+install(DIRECTORY ${man_pages_folder}/man1 ${man_pages_folder}/man3 TYPE MAN COMPONENT documentation)

@@ -1,6 +1,6 @@
 """Takes the code out of the documents and proves that it is true: programs are compiled and run, those in C as C11 and
-as C++17, and on the native target with the address sanitizer as well; lines for the shell are run where that is quick,
-and otherwise what they name must be there. Links and paths must lead somewhere.
+as C++17, and on the native target with the address sanitizer as well; there programs in Python are run, too. Lines for
+the shell are run where that is quick, and otherwise what they name must be there. Links and paths must lead somewhere.
 
 documents.py --source TREE --build FOLDER --cc COMPILER --cxx COMPILER [--emulator PROGRAM]
 """
@@ -19,12 +19,16 @@ import extents
 import extract
 
 DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/architecture.md", "docs/compatibility.md", "docs/constructions.md",
-             "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md"]
+             "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md",
+             "python/README.md"]
 HEADERS = ["include/zulgenpx.h", "include/zulgenpx.hpp", "include/zulgenpx_dct4.hpp", "include/zulgenpx_batch.hpp"]
 WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 
 # Shell lines that are not run, by how they begin: they build or install everything, time, or write into the tree.
-NOT_RUN = ("scripts/", "cmake ", "build/native/bench", "build/native/generate write")
+NOT_RUN = ("scripts/", "cmake ", "build/native/bench", "build/native/generate write", "pip install",
+           "benchmarks/python_times.py")
+
+PYTHON = "/usr/bin/python3"  # the packaged one, which has NumPy
 
 
 def parsed():
@@ -70,8 +74,22 @@ class Check:
         if output is not None and program.printed != [line.strip() for line in output.splitlines()]:
             self.fail(where, f"prints {output!r} and not {program.printed}")
 
+    def python(self, program):
+        """The package of the tree with the built libraries, which are there on the native target only."""
+        if self.args.emulator:
+            return
+        if not program.printed:
+            self.fail(program.where, "does not say what it prints")
+        environment = dict(os.environ, PYTHONPATH=os.path.join(self.args.source, "python"),
+                           ZULGENPX_LIBRARY_DIR=self.folder)
+        output = self.run(program.where, [PYTHON, "-B", "-c", program.text], env=environment)
+        self.compare(program, program.where, output)
+
     def program(self, program):
         """What is C in both languages; natively the sanitizers as well."""
+        if program.language == "python":
+            self.python(program)
+            return
         args = self.args
         uses_batches = "zulgenpx_batch.h" in program.text
         if uses_batches and args.emulator:

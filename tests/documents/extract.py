@@ -2,18 +2,22 @@
 in indented blocks."""
 import re
 
-PROGRAM_LANGUAGES = {"c", "cpp"}
+PROGRAM_LANGUAGES = {"c", "cpp", "python"}
 OTHER_KINDS = {"text",  # diagrams
                "csharp", "pascal", "vb"}  # tests/declarations compiles what can be compiled
 
 
 class Program:
-    """A piece of C or C++, whole or a fragment that runs inside a main, and the lines that it says it prints."""
+    """A piece of C or C++, whole or a fragment that runs inside a main, or of Python, and the lines that it says it
+    prints."""
 
     def __init__(self, where, text, language="c"):
         self.where, self.text, self.language = where, text, language
-        self.printed = re.findall(r"/\* prints (.*?) \*/|// prints (.*)", text)
-        self.printed = [first or second for first, second in self.printed]
+        if language == "python":
+            self.printed = re.findall(r"# prints (.*)", text)
+        else:
+            found = re.findall(r"/\* prints (.*?) \*/|// prints (.*)", text)
+            self.printed = [first or second for first, second in found]
 
     def whole(self):
         if re.search(r"\bmain\s*\(", self.text):

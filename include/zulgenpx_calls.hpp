@@ -218,7 +218,7 @@ void transform(Source from, Destination to, scale factor) noexcept(is_fixed<Sour
 template <family F, int N, class Source>
 auto transformed(Source from, scale factor) noexcept(is_fixed<Source>) {
     using From = element_of<typename Source::element_type>;
-    constexpr std::size_t length = known_length<F, N, Source, Source>();
+    constexpr std::size_t length = known_length<F, N, Source, std::span<int>>();  // of the source alone
     static_assert(From::is_known,
                   "zulgenpx: elements are float, double, std::complex of these, or the complex types of C");
     static_assert(length != 0,

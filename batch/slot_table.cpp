@@ -4,7 +4,7 @@
 #include "batch_levels.h"
 #include "boundary/slot.h"
 
-namespace zulg {
+namespace ZULG_SLOTS {
 
 using SizeRoutine = Status(ZULG_CALL*)(std::int32_t size, std::int32_t* pSize);
 
@@ -15,11 +15,11 @@ using Routine = OneOf<BatchRoutine<float>, BatchRoutine<double>, Resolver<BatchR
 
 #define SLOT(name, routine) Routine(routine),
 extern "C" {
-extern const Routine zulgSlots[];
-constinit const Routine zulgSlots[] = {
+extern const Routine ZULG_SLOT_TABLE[];
+ZULG_SLOT_PLACE constinit const Routine ZULG_SLOT_TABLE[] = {
 #include "batch/slots.inc"
 };
 }
 #undef SLOT
 
-}  // namespace zulg
+}  // namespace ZULG_SLOTS

@@ -1,7 +1,7 @@
 // The length dispatchers of all families.
 #include "boundary/dispatch.h"
 
-namespace zulg {
+namespace ZULG_SLOTS {
 
 // clang-format off
 template Status ZULG_CALL dispatch<Family::DFTFwd_CToC, float>(const float*, float*, std::int32_t, std::int32_t);
@@ -24,4 +24,4 @@ template Status ZULG_CALL dispatch<Family::Hartley, float>(const float*, float*,
 template Status ZULG_CALL dispatch<Family::Hartley, double>(const double*, double*, std::int32_t, std::int32_t);
 // clang-format on
 
-}  // namespace zulg
+}  // namespace ZULG_SLOTS

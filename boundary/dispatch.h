@@ -1,4 +1,4 @@
-// The length dispatcher of a family: one range check, one lookup, one call.
+// The dispatchers, which take the length or the order as an argument: one range check, one lookup, one call.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 #include "kernel/kernel.h"
 #include "levels.h"
 
-namespace zulg {
+namespace ZULG_SLOTS {
 
 template <class Element>
 using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
@@ -31,4 +31,11 @@ Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t lengt
     return kernelTable<family, Element>[index].first(pSrc, pDst, flag);
 }
 
-}  // namespace zulg
+template <class Element>
+Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
+                             Element* pBuffer);
+
+template <class Element>
+Status ZULG_CALL whtGetBufferSize(std::int32_t order, std::int32_t* pSize);
+
+}  // namespace ZULG_SLOTS

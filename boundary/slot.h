@@ -2,6 +2,14 @@
 // table of slots is a constant expression.
 #pragma once
 
+#include "kernel/slot_names.h"
+#include "levels.h"
+
+// The section of a table that the entries jump through, where a target's levels.h names one.
+#ifndef ZULG_SLOT_PLACE
+#define ZULG_SLOT_PLACE
+#endif
+
 namespace zulg {
 
 template <class First, class... Others>

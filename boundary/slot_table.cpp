@@ -6,7 +6,7 @@
 #include "levels.h"
 #include "wht/wht.h"
 
-namespace zulg {
+namespace ZULG_SLOTS {
 
 // Gives the bytes that an order or a length needs.
 using SizeRoutine = Status(ZULG_CALL*)(std::int32_t size, std::int32_t* pSize);
@@ -21,11 +21,11 @@ using Routine = OneOf<KernelRoutine<float>, KernelRoutine<double>, Resolver<Kern
 
 #define SLOT(name, routine, bytes) Routine(routine),
 extern "C" {
-extern const Routine zulgSlots[];
-constinit const Routine zulgSlots[] = {
+extern const Routine ZULG_SLOT_TABLE[];
+ZULG_SLOT_PLACE constinit const Routine ZULG_SLOT_TABLE[] = {
 #include "boundary/slots.inc"
 };
 }
 #undef SLOT
 
-}  // namespace zulg
+}  // namespace ZULG_SLOTS

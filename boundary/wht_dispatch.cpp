@@ -6,7 +6,7 @@
 #include "levels.h"
 #include "wht/wht.h"
 
-namespace zulg {
+namespace ZULG_SLOTS {
 namespace {
 
 constexpr auto orders = std::make_integer_sequence<int, highestOrder - lowestOrder + 1>{};
@@ -49,4 +49,4 @@ template Status ZULG_CALL whtDispatch<double>(const double*, double*, std::int32
 template Status ZULG_CALL whtGetBufferSize<float>(std::int32_t, std::int32_t*);
 template Status ZULG_CALL whtGetBufferSize<double>(std::int32_t, std::int32_t*);
 
-}  // namespace zulg
+}  // namespace ZULG_SLOTS

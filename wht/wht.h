@@ -22,13 +22,6 @@ using WhtDispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer);
 
-template <class Element>
-Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
-                             Element* pBuffer);
-
-template <class Element>
-Status ZULG_CALL whtGetBufferSize(std::int32_t order, std::int32_t* pSize);
-
 // The main area holds all points; orders 12 and 13 have a scratch area of one outer block after it.
 constexpr int whtScratchElements(int order) { return order == 12 ? 256 : order == 13 ? 1024 : 0; }
 constexpr int whtBufferElements(int order) {

@@ -1,24 +1,11 @@
 // The level of the processor, found out once.
-#include <cpuid.h>
-
 #include "levels.h"
+#include "targets/x86_64/has_avx2.h"
 
 namespace zulg {
 namespace {
 
-bool savesWideRegisters() {
-    std::uint32_t low, high;
-    asm volatile("xgetbv" : "=a"(low), "=d"(high) : "c"(0));
-    return (low & 6) == 6;  // the lower and the upper halves of the vector registers
-}
-
-Level foundLevel() {
-    unsigned a, b, c, d;
-    if (!__get_cpuid(1, &a, &b, &c, &d) || !(c & bit_OSXSAVE) || !(c & bit_AVX) || !savesWideRegisters()) {
-        return levelX86_64;
-    }
-    return __get_cpuid_count(7, 0, &a, &b, &c, &d) && (b & bit_AVX2) ? levelX86_64_v3 : levelX86_64;
-}
+Level foundLevel() { return hasAVX2() ? levelX86_64_v3 : levelX86_64; }
 
 using LevelResolver = Level (*)();
 

@@ -25,13 +25,7 @@ set(common_link_flags
 set(library_link_flags ${common_link_flags} -Wl,--entry=_zulgLoadEntry@12 -Wl,--image-base=0x65c00000)
 set(companion_link_flags ${common_link_flags} -Wl,--image-base=0x65b00000)
 
-# Sine and cosine, for the tables of the DCT-IV, from the C runtime. The toolchain's import library of that runtime
-# leaves these two out in favour of code of its own.
-set(library_math ${PROJECT_BINARY_DIR}/libmsvcrt_math.a)
-file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/msvcrt_math.def CONTENT "LIBRARY msvcrt.dll\nEXPORTS\n    cos\n    sin\n")
-# The names are relative, since the members of an import library are named after its path.
-execute_process(COMMAND ${CMAKE_DLLTOOL} -d msvcrt_math.def -l libmsvcrt_math.a
-    WORKING_DIRECTORY ${PROJECT_BINARY_DIR} COMMAND_ERROR_IS_FATAL ANY)
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/windows_math.cmake)
 
 set(library_link_libraries ${library_math} gcc kernel32 msvcrt)
 set(library_platform_sources boundary/shared_library_windows.cpp boundary/library.rc)

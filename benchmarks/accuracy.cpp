@@ -79,7 +79,7 @@ struct Registers {
     const char* name;
     bool roundToDouble;
 };
-#ifdef _WIN32
+#if defined(_WIN32) && !defined(_WIN64)
 constexpr Registers allRegisters[] = {{"extended", false}, {"double", true}};
 #else
 constexpr Registers allRegisters[] = {{"sse2", false}};

@@ -6,12 +6,19 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+// A symbol of C begins with an underscore on 32-bit Windows only.
+#ifdef _WIN64
+#define IMPORTED(name) "__imp_" name
+#else
+#define IMPORTED(name) "__imp__" name
+#endif
+
 // The words of the import table. The name of an imported routine itself leads to a jump inside this library.
 extern "C" {
-extern decltype(&std::malloc) importedMalloc __asm__("__imp__malloc");
-extern decltype(&std::calloc) importedCalloc __asm__("__imp__calloc");
-extern decltype(&std::realloc) importedRealloc __asm__("__imp__realloc");
-extern decltype(&std::free) importedFree __asm__("__imp__free");
+extern decltype(&std::malloc) importedMalloc __asm__(IMPORTED("malloc"));
+extern decltype(&std::calloc) importedCalloc __asm__(IMPORTED("calloc"));
+extern decltype(&std::realloc) importedRealloc __asm__(IMPORTED("realloc"));
+extern decltype(&std::free) importedFree __asm__(IMPORTED("free"));
 }
 
 namespace zulg {

@@ -75,31 +75,68 @@ function(add_batch_level library folder)
     target_include_directories(${library} PRIVATE ${made})
 endfunction()
 
+# Exported are the names of batch/slots.inc, on Windows with their places as ordinals. Nothing is decorated where there
+# is a batch library.
+if(WIN32)
+    file(READ ${PROJECT_SOURCE_DIR}/batch/slots.inc batch_slots)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/batch/slots.inc)
+    string(REGEX MATCHALL "SLOT\\(zulg[A-Za-z0-9_]+" batch_names "${batch_slots}")
+    string(CONCAT batch_def_text
+        "; The exports of zulgenpx-batch-7.0.dll: dlltool -d zulgenpx-batch.def -l libzulgenpx-batch.dll.a, or\n"
+        "; llvm-dlltool -m ${dlltool_machine} -d zulgenpx-batch.def -l zulgenpx-batch.lib.\n"
+        "LIBRARY \"zulgenpx-batch-7.0.dll\"\nEXPORTS\n")
+    set(ordinal 0)
+    foreach(name IN LISTS batch_names)
+        math(EXPR ordinal "${ordinal} + 1")
+        string(REPLACE "SLOT(" "" name ${name})
+        string(APPEND batch_def_text "    ${name} @${ordinal}\n")
+    endforeach()
+    set(batch_exports ${PROJECT_BINARY_DIR}/zulgenpx-batch.def)
+    file(CONFIGURE OUTPUT ${batch_exports} CONTENT "${batch_def_text}" @ONLY)
+    set(batch_platform_sources ${batch_exports} batch/library.rc)
+    set(batch_import_libraries ${PROJECT_BINARY_DIR}/libzulgenpx-batch.dll.a ${PROJECT_BINARY_DIR}/zulgenpx-batch.lib)
+    list(GET batch_import_libraries 0 gnu)
+    list(GET batch_import_libraries 1 microsoft)
+    add_custom_command(OUTPUT ${batch_import_libraries}
+        COMMAND ${CMAKE_DLLTOOL} -d ${batch_exports} -l ${gnu}
+        COMMAND ${LLVM_DLLTOOL} -m ${dlltool_machine} -d ${batch_exports} -l ${microsoft}
+        DEPENDS ${batch_exports})
+    add_custom_target(batch_import_libraries ALL DEPENDS ${batch_import_libraries})
+    install(FILES ${batch_import_libraries} ${batch_exports} DESTINATION lib)
+else()
+    set(batch_exports ${PROJECT_SOURCE_DIR}/batch/exports.map)
+    set(batch_link_flags ${common_link_flags} -Wl,--version-script=${batch_exports})
+    set(batch_platform_sources "")
+endif()
+
 # add_batch_library(NAME MAIN_LIBRARY): the batch library beside a main library.
 function(add_batch_library name main)
     add_library(${name} SHARED batch/dct4.cpp batch/entries.S batch/slot_table.cpp batch/wht.cpp
-        ${library_first_sources})
-    foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
+        ${library_first_sources} ${batch_platform_sources})
+    foreach(level IN ITEMS ${first_level} LISTS further_levels)
         target_sources(${name} PRIVATE $<TARGET_OBJECTS:zulgenpx_batch_objects_${level}>)
     endforeach()
     set_target_properties(${name} PROPERTIES
-        OUTPUT_NAME zulgenpx-batch-7.0
+        OUTPUT_NAME zulgenpx-batch-7.0 PREFIX "${library_file_prefix}"
         LINKER_LANGUAGE C  # no C++ runtime is linked
-        LINK_DEPENDS ${PROJECT_SOURCE_DIR}/batch/exports.map
+        LINK_DEPENDS ${batch_exports}
         BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN")
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${target_folder}
         INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
     target_compile_options(${name} PRIVATE
         "$<$<COMPILE_LANGUAGE:CXX>:${library_compile_flags};${target_compile_flags}>")
-    target_link_options(${name} PRIVATE ${common_link_flags}
-        -Wl,--version-script=${PROJECT_SOURCE_DIR}/batch/exports.map)
-    target_link_libraries(${name} PRIVATE zulgen_warnings PUBLIC ${main})
+    target_link_options(${name} PRIVATE ${batch_link_flags})
+    target_link_libraries(${name} PRIVATE zulgen_warnings ${batch_link_libraries} PUBLIC ${main})
 endfunction()
 
-foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
+foreach(level IN ITEMS ${first_level} LISTS further_levels)
     add_batch_level(zulgenpx_batch_objects_${level} ${PROJECT_SOURCE_DIR}/targets/${level})
 endforeach()
 add_batch_library(zulgenpx_batch zulgenpx)
+if(settling_sources)
+    settled_by_entry(zulgenpx_batch batch/slot_table.cpp)
+    target_sources(zulgenpx_batch PRIVATE batch/load.cpp)
+endif()
 set_source_files_properties(batch/entries.S PROPERTIES OBJECT_DEPENDS
     "${PROJECT_SOURCE_DIR}/batch/slots.inc;${target_folder}/entries.inc")
 
@@ -107,10 +144,12 @@ set_source_files_properties(batch/entries.S PROPERTIES OBJECT_DEPENDS
 if(NOT is_developed)
     return()
 endif()
-foreach(level IN ITEMS ${ZULG_TARGET} LISTS further_levels)
+foreach(level IN ITEMS ${first_level} LISTS further_levels)
     add_batch_library(zulgenpx_batch_${level} zulgenpx_${level})
     target_include_directories(zulgenpx_batch_${level} BEFORE PRIVATE tests/levels/one)
     target_compile_definitions(zulgenpx_batch_${level} PRIVATE ZULG_LEVEL=${level})
-    set_target_properties(zulgenpx_batch_${level} PROPERTIES
-        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/levels/${level})
+    target_link_options(zulgenpx_batch_${level} PRIVATE ${batch_level_link_flags})
+    set(folder ${PROJECT_BINARY_DIR}/levels/${level})
+    set_target_properties(zulgenpx_batch_${level} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${folder}
+        LIBRARY_OUTPUT_DIRECTORY ${folder} ARCHIVE_OUTPUT_DIRECTORY ${folder})
 endforeach()

@@ -9,10 +9,19 @@ list(APPEND slot_lines "SLOT(zulgenGetLibVersion, the last, 0)")  # after the sl
 # the bytes of its arguments, as a caller's compiler writes it, and dlltool -k removes this ending from the name that is
 # looked up.
 set(def_text "LIBRARY \"zulgenpx-7.0.dll\"\nEXPORTS\n")
-string(CONCAT import_text
-    "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are undecorated:\n"
-    "; dlltool -k -d zulgenpx.def -l libzulgenpx.dll.a, or llvm-dlltool -m i386 -k -d zulgenpx.def -l zulgenpx.lib.\n"
-    "${def_text}")
+if(symbols_are_decorated)
+    set(dlltool_machine i386)
+    string(CONCAT import_text
+        "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are undecorated:\n"
+        "; dlltool -k -d zulgenpx.def -l libzulgenpx.dll.a, or llvm-dlltool -m i386 -k -d zulgenpx.def -l zulgenpx.lib.\n"
+        "${def_text}")
+else()
+    set(dlltool_machine i386:x86-64)
+    string(CONCAT import_text
+        "; The exports of zulgenpx-7.0.dll: dlltool -d zulgenpx.def -l libzulgenpx.dll.a, or\n"
+        "; llvm-dlltool -m i386:x86-64 -d zulgenpx.def -l zulgenpx.lib.\n"
+        "${def_text}")
+endif()
 set(map_text "ZULGENPX_7.0 {\nglobal:\n")
 set(ordinal 0)
 foreach(line IN LISTS slot_lines)
@@ -21,12 +30,16 @@ foreach(line IN LISTS slot_lines)
     set(bytes ${CMAKE_MATCH_2})
     math(EXPR ordinal "${ordinal} + 1")
     # The version call is compiled, so that its symbol is decorated. The symbols of the entries are plain names.
-    if(name STREQUAL "zulgenGetLibVersion")
+    if(symbols_are_decorated AND name STREQUAL "zulgenGetLibVersion")
         string(APPEND def_text "    ${name} = ${name}@0 @${ordinal}\n")
     else()
         string(APPEND def_text "    ${name} @${ordinal}\n")
     endif()
-    string(APPEND import_text "    ${name}@${bytes} @${ordinal}\n")
+    if(symbols_are_decorated)
+        string(APPEND import_text "    ${name}@${bytes} @${ordinal}\n")
+    else()
+        string(APPEND import_text "    ${name} @${ordinal}\n")
+    endif()
     string(APPEND map_text "    ${name};\n")
 endforeach()
 string(APPEND map_text "local:\n    *;\n};\n")
@@ -48,7 +61,7 @@ if(WIN32)
     set(import_libraries ${import_library})
     if(LLVM_DLLTOOL)
         add_custom_command(OUTPUT ${microsoft_import_library}
-            COMMAND ${LLVM_DLLTOOL} -m i386 -k -d ${import_def} -l ${microsoft_import_library}
+            COMMAND ${LLVM_DLLTOOL} -m ${dlltool_machine} -k -d ${import_def} -l ${microsoft_import_library}
             DEPENDS ${import_def})
         list(APPEND import_libraries ${microsoft_import_library})
     else()

@@ -27,7 +27,9 @@ function(add_objects library folder flags)
     add_library(${library} OBJECT ${ARGN})
     set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
     target_include_directories(${library} PRIVATE ${PROJECT_SOURCE_DIR} ${folder})
-    target_compile_options(${library} PRIVATE ${library_compile_flags} ${flags})
+    get_filename_component(level ${folder} NAME)
+    target_compile_options(${library} PRIVATE
+        ${library_compile_flags} ${flags} ${platform_compile_flags} ${platform_compile_flags_${level}})
     target_link_libraries(${library} PRIVATE zulgen_warnings)
 endfunction()
 

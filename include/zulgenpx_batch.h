@@ -1,5 +1,6 @@
 /* zulgenpx_batch: many transforms of zulgenpx in one call. This header is plain C. It comes with a library of its own,
-   libzulgenpx-batch-7.0.so, which uses libzulgenpx-7.0.so of the same folder.
+   libzulgenpx-batch-7.0.so, which uses libzulgenpx-7.0.so of the same folder; on 64-bit Windows it is
+   zulgenpx-batch-7.0.dll, and 32-bit Windows has none.
 
    A batch is `count` transforms of one family, length, element type and flag. Each gives bit for bit what the routine
    of zulgenpx.h gives for it alone: a batch saves calls and loads, and where registers hold several transforms it does

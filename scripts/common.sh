@@ -19,6 +19,7 @@ packages_pages=(groff-base man-db mandoc)               # what tests read the ma
 packages_languages=(mono-mcs mono-runtime fp-compiler)  # what tests compile the declarations for other languages with
 packages_release=(git)                                  # what the checks before a release look at the tree with
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
+packages_win64=(g++-mingw-w64-x86-64-posix llvm clang lld wine64 util-linux)
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s\n' "$*" >&2; exit 1; }

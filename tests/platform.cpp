@@ -18,8 +18,10 @@ namespace test {
 #ifdef _WIN32
 
 void* exportedAddress(const std::string& name) {
-    static const HMODULE library = LoadLibraryA("zulgenpx-7.0.dll");
-    if (library == nullptr) return std::puts("zulgenpx-7.0.dll does not load"), std::exit(1), nullptr;
+    const char* const other = std::getenv("ZULG_TEST_LIBRARY");  // one level by itself: tests/levels
+    static const char* const path = other != nullptr ? other : "zulgenpx-7.0.dll";
+    static const HMODULE library = LoadLibraryA(path);
+    if (library == nullptr) return std::printf("%s does not load\n", path), std::exit(1), nullptr;
     return reinterpret_cast<void*>(GetProcAddress(library, name.c_str()));
 }
 

@@ -17,7 +17,7 @@ def parsed():
     parser = argparse.ArgumentParser()
     for name in ("source", "build", "cmake", "cc", "cxx", "libdir", "pkg-config"):
         parser.add_argument(f"--{name}", required=True)
-    for name in ("emulator", "toolchain", "dlltool", "llvm-dlltool", "clang", "lld-link", "digests", "python"):
+    for name in ("emulator", "toolchain", "dlltool", "llvm-dlltool", "machine", "clang", "lld-link", "digests", "python"):
         parser.add_argument(f"--{name}", default="")
     return parser.parse_args()
 

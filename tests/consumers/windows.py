@@ -1,14 +1,17 @@
 """Programs of Windows: both import libraries, and both made anew from the installed .def, and LoadLibrary."""
 from installation import SOURCES, done
 
+CLANG_NAMES = {"i386": "i686", "i386:x86-64": "x86_64"}  # of the machines, by the name that dlltool has for them
+
 
 def by_clang(place, name, library):
     """Needs no header and no library of another vendor: ExitProcess comes from an import library made here."""
     args, program = place.args, place.program(name)
     system, compiled = program.parent / "system", program.parent / "consumer.obj"
-    system.with_suffix(".def").write_text("LIBRARY KERNEL32.dll\nEXPORTS\n    ExitProcess@4\n", encoding="ascii")
-    done(args.llvm_dlltool, "-m", "i386", "-k", "-d", f"{system}.def", "-l", f"{system}.lib")
-    done(args.clang, "--target=i686-pc-windows-msvc", "-ffreestanding", "-DFREESTANDING", *place.flags, "-I",
+    system.with_suffix(".def").write_text(
+        f"LIBRARY KERNEL32.dll\nEXPORTS\n    ExitProcess{'@4' if args.machine == 'i386' else ''}\n", encoding="ascii")
+    done(args.llvm_dlltool, "-m", args.machine, "-k", "-d", f"{system}.def", "-l", f"{system}.lib")
+    done(args.clang, f"--target={CLANG_NAMES[args.machine]}-pc-windows-msvc", "-ffreestanding", "-DFREESTANDING", *place.flags, "-I",
          place.include, "-I", args.source, "-c", SOURCES / "consumer.c", "-o", compiled)
     done(args.lld_link, "/nologo", "/nodefaultlib", "/subsystem:console", "/entry:start", f"/out:{program}", compiled,
          library, f"{system}.lib")
@@ -19,7 +22,7 @@ def windows_programs(place):
     args, folder = place.args, place.folder
     gnu, microsoft = folder / "remade.dll.a", folder / "remade.lib"
     done(args.dlltool, "-k", "-d", place.lib / "zulgenpx.def", "-l", gnu)
-    done(args.llvm_dlltool, "-m", "i386", "-k", "-d", place.lib / "zulgenpx.def", "-l", microsoft)
+    done(args.llvm_dlltool, "-m", args.machine, "-k", "-d", place.lib / "zulgenpx.def", "-l", microsoft)
     includes = ["-I", place.include, "-I", args.source]
     place.run(place.compiled("gcc_remade", "consumer.c", *includes, gnu))
     place.run(by_clang(place, "clang", place.lib / "zulgenpx.lib"))

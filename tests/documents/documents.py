@@ -92,12 +92,15 @@ class Check:
             return
         args = self.args
         uses_batches = "zulgenpx_batch.h" in program.text
-        if uses_batches and args.emulator:
+        import_libraries = [os.path.join(args.build, "libzulgenpx.dll.a")]
+        if uses_batches:
+            import_libraries.insert(0, os.path.join(args.build, "libzulgenpx-batch.dll.a"))
+        if args.emulator and not os.path.exists(import_libraries[0]):
             return  # 32-bit Windows has no batch library
         libraries = ["-l:libzulgenpx-batch-7.0.so"] * uses_batches + [f"-l:{self.library}"]
         link = [f"-L{self.folder}", "-Wl,-rpath,$ORIGIN", *libraries]
         if args.emulator:
-            link = ["-static", os.path.join(args.build, "libzulgenpx.dll.a")]
+            link = ["-static", *import_libraries]
         sanitizers = ["-fsanitize=address,undefined", "-fno-sanitize-recover=all", "-include", "checked.h", "-g"]
         ways = [("c", args.cc, ["-std=c11"], ".c"), ("cpp", args.cxx, ["-std=c++17"], ".cpp")]
         if program.language == "cpp":

@@ -53,7 +53,12 @@ FAKE_EXPORT void FAKE_CALL zulFree(void* block) {
 
 #ifdef _WIN32
 // Callers that this object is linked with reach an imported routine through a pointer of this name.
+#ifdef _WIN64
+extern const auto importedMalloc __asm__("__imp_zulMalloc") = &zulMalloc;
+extern const auto importedFree __asm__("__imp_zulFree") = &zulFree;
+#else
 extern const auto importedMalloc __asm__("__imp__zulMalloc@4") = &zulMalloc;
 extern const auto importedFree __asm__("__imp__zulFree@4") = &zulFree;
+#endif
 #endif
 }

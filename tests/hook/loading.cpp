@@ -46,8 +46,8 @@ namespace {
 struct Sections {
     explicit Sections(void* module) : base(static_cast<std::byte*>(module)) {
         const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-        const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS32*>(base + dos->e_lfanew);
-        first = reinterpret_cast<const IMAGE_SECTION_HEADER*>(headers + 1);
+        const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+        first = IMAGE_FIRST_SECTION(headers);
         last = first + headers->FileHeader.NumberOfSections;
     }
     const IMAGE_SECTION_HEADER* begin() const { return first; }

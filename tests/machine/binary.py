@@ -23,7 +23,7 @@ class Instruction:
 class Library:
     """exports: name -> (ordinal or None, entry address); imports: file -> names of a PE file, names of an ELF one;
     word(address): the pointer stored there after loading; resolvers: address -> the routine whose result is stored
-    there; code: address -> instruction."""
+    there; code: address -> instruction; pointer: the bytes of an address."""
 
     def __init__(self, path, objdump):
         self.path = path
@@ -31,6 +31,7 @@ class Library:
         with open(path, "rb") as file:
             self.data = file.read()
         self.is_pe = self.data[:2] == b"MZ"
+        self.pointer = 8
         self.sections = []  # (name, address, size, file offset)
         if self.is_pe:
             self._read_pe()
@@ -43,13 +44,18 @@ class Library:
         count = struct.unpack_from("<H", data, header + 6)[0]
         optional_size = struct.unpack_from("<H", data, header + 20)[0]
         optional = header + 24
-        self.image_base = struct.unpack_from("<I", data, optional + 28)[0]
+        if struct.unpack_from("<H", data, optional)[0] == 0x10B:
+            self.pointer, self.directories = 4, optional + 96
+            self.image_base = struct.unpack_from("<I", data, optional + 28)[0]
+        else:
+            self.directories = optional + 112
+            self.image_base = struct.unpack_from("<Q", data, optional + 24)[0]
         for i in range(count):
             at = optional + optional_size + 40 * i
             name = data[at:at + 8].rstrip(b"\0").decode()
             size, rva, _, offset = struct.unpack_from("<IIII", data, at + 8)
             self.sections.append((name, self.image_base + rva, size, offset))
-        export_rva = struct.unpack_from("<I", data, optional + 96)[0]
+        export_rva = struct.unpack_from("<I", data, self.directories)[0]
         at = self.offset(self.image_base + export_rva)
         base, functions, names = struct.unpack_from("<III", data, at + 16)
         tables = [self.offset(self.image_base + rva) for rva in struct.unpack_from("<III", data, at + 28)]
@@ -59,10 +65,11 @@ class Library:
             index = struct.unpack_from("<H", data, tables[2] + 2 * i)[0]
             address = self.image_base + struct.unpack_from("<I", data, tables[0] + 4 * index)[0]
             self.exports[self.text(self.image_base + name_rva)] = (index + base, address)
-        self._read_pe_imports(struct.unpack_from("<I", data, optional + 104)[0])
+        self._read_pe_imports(struct.unpack_from("<I", data, self.directories + 8)[0])
 
     def _read_pe_imports(self, directory_rva):
         self.imports = {}
+        layout, mark = ("<I", 1 << 31) if self.pointer == 4 else ("<Q", 1 << 63)
         descriptor = self.offset(self.image_base + directory_rva)
         while True:
             names_rva, _, _, file_rva, _ = struct.unpack_from("<IIIII", self.data, descriptor)
@@ -70,10 +77,9 @@ class Library:
                 return
             names = self.imports.setdefault(self.text(self.image_base + file_rva), set())
             at = self.offset(self.image_base + names_rva)
-            while (entry := struct.unpack_from("<I", self.data, at)[0]) != 0:
-                by_ordinal = entry & 0x80000000
-                names.add(entry & 0xFFFF if by_ordinal else self.text(self.image_base + entry + 2))
-                at += 4
+            while (entry := struct.unpack_from(layout, self.data, at)[0]) != 0:
+                names.add(entry & 0xFFFF if entry & mark else self.text(self.image_base + entry + 2))
+                at += self.pointer
             descriptor += 20
 
     def _read_elf(self):
@@ -127,16 +133,36 @@ class Library:
 
     def word(self, address):
         if self.is_pe:
-            return struct.unpack("<I", self.bytes(address, 4))[0]
+            return int.from_bytes(self.bytes(address, self.pointer), "little")
         return self.relocated[address]
 
     def kernels(self, slot):
         """What a slot may hold after loading: the kernels of all levels, the lowest level first."""
+        if self.is_pe and self.slots_of_last_level is not None:
+            return [self.word(slot), self.word(self.slots_of_last_level + slot - self.slots_in_use)]
         if self.is_pe or slot not in self.resolvers:
             return [self.word(slot)]
         found = [re.search(r"# (?:0x)?([0-9a-f]+)", instruction.operands)
                  for instruction in self.routine(self.resolvers[slot]) if instruction.mnemonic == "lea"]
         return sorted((int(match[1], 16) for match in found if match), key=self.level)
+
+    @functools.cached_property
+    def slots_in_use(self):
+        """The table that the load entry of a DLL settles; None if there is none."""
+        return next((start for name, start, _, _ in self.sections if name == ".slots"), None)
+
+    @functools.cached_property
+    def slots_of_last_level(self):
+        """The table that the load entry copies there. No symbol says where it is. Its first four slots have one routine
+        at all levels, and these are side by side nowhere else."""
+        if self.slots_in_use is None:
+            return None
+        start, size = next((start, size) for name, start, size, _ in self.sections if name == ".rdata")
+        data, sought = self.bytes(start, size), self.bytes(self.slots_in_use, 4 * self.pointer)
+        at = data.find(sought)
+        if at < 0 or data.find(sought, at + 1) >= 0:
+            raise ValueError("there is not one table of slots of another level")
+        return start + at
 
     def level(self, start):
         """Of a kernel: whether it has instructions of AVX."""
@@ -164,7 +190,11 @@ class Library:
         entry = self.exports[name][1]
         if self.is_pe:
             raw = self.bytes(entry, 6)
-            return struct.unpack_from("<I", raw, 2)[0] if raw[:2] == b"\xff\x25" else None
+            if raw[:2] != b"\xff\x25":
+                return None
+            if self.pointer == 4:
+                return struct.unpack_from("<I", raw, 2)[0]
+            return entry + 6 + struct.unpack_from("<i", raw, 2)[0]
         raw = self.bytes(entry, 10)
         if raw[:6] != b"\xf3\x0f\x1e\xfa\xff\x25":
             return None
@@ -173,7 +203,7 @@ class Library:
     def leads_outside(self, call):
         """Whether a call goes to another library: through the table of imports, or to a stub that does."""
         if self.is_pe:
-            match = re.match(r"\*0x([0-9a-f]+)$", call.operands)
+            match = re.match(r"\*0x([0-9a-f]+)$" if self.pointer == 4 else r".*# (?:0x)?([0-9a-f]+)", call.operands)
             return bool(match) and self.section_of(int(match.group(1), 16)) == ".idata"
         match = re.search(r"# 0x([0-9a-f]+)|# ([0-9a-f]+)", call.operands)
         if match:

@@ -17,5 +17,11 @@ def kernels():
             and (export["length"] is not None or export["order"] is not None)]
 
 
+def dispatchers():
+    """The exports that transform arrays whose length or order is an argument."""
+    return [export for export in exports() if export["length"] is None and export["order"] is None
+            and any(argument["name"] == "flag" for argument in export["arguments"])]
+
+
 def array(export, argument):
     return next(each for each in export["arguments"] if each["name"] == argument)

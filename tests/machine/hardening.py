@@ -18,6 +18,11 @@ pe_imports = {
     "KERNEL32.dll": {"LoadLibraryA", "GetProcAddress", "FreeLibrary"},
     "msvcrt.dll": hook | {"cos", "sin"},
 }
+pe64_imports = {
+    **pe_imports,
+    "KERNEL32.dll": pe_imports["KERNEL32.dll"] | {"VirtualProtect"},
+    "msvcrt.dll": pe_imports["msvcrt.dll"] | {"memcpy"},
+}
 elf_imports = {
     "libzulcore-7.0.so": core,
     "libc.so.6": {"dlopen", "dlsym", "dlclose"} | hook,
@@ -28,6 +33,12 @@ batch_imports = {
     "libzulgenpx-7.0.so": {export["name"] for export in catalogue.exports()
                            if any(argument["name"] == "pSrc" for argument in export["arguments"])
                            and export["length"] is None and export["order"] is None},
+}
+
+batch_pe64_imports = {
+    "zulgenpx-7.0.dll": batch_imports["libzulgenpx-7.0.so"],
+    "KERNEL32.dll": {"VirtualProtect"},
+    "msvcrt.dll": {"memcpy"},
 }
 
 failures = []
@@ -50,7 +61,7 @@ def check_no_initializers(library):
 
 def check_frames(library):
     """No stack frame is larger than the page that guards a stack, so that no routine can step over that page."""
-    bits = 32 if library.is_pe else 64
+    bits = 8 * library.pointer
     for instruction in library.code.values():
         line = f"{instruction.mnemonic} {instruction.operands}"
         if not re.match(r"((sub|add)[lq]? .*|lea .*\(%[er]sp\)),%[er]sp$", line):  # other changes give stack back
@@ -65,34 +76,49 @@ def check_frames(library):
 
 
 def pe_relocations(library, address, size):
-    """The addresses that the loader corrects when it moves the file: 32-bit words all."""
+    """The addresses that the loader corrects when it moves the file: words as long as an address all."""
+    kind = 3 if library.pointer == 4 else 10
     places, at = set(), address
     while at < address + size:
         page, block = struct.unpack("<II", library.bytes(at, 8))
         for entry in struct.unpack(f"<{(block - 8) // 2}H", library.bytes(at + 8, block - 8)):
-            if entry >> 12 == 3:
+            if entry >> 12 == kind:
                 places.add(library.image_base + page + (entry & 0xFFF))
         at += block
     return places
 
 
-def check_pe(library):
-    expect(library.imports == pe_imports, f"imports {library.imports}")
+def check_unwinding(library, table, size):
+    """On 64-bit Windows a handler of exceptions is found through the frames below it. A routine that moves the stack has
+    a row of the table that says how; one without a row counts as one that does not."""
+    rows = {struct.unpack("<I", library.bytes(table + at, 4))[0] + library.image_base for at in range(0, size, 12)}
+    for routine in {routine for slot in slots(library) for routine in library.kernels(slot)}:
+        moves = any(re.match(r"(push|sub .*,%rsp$|lea .*,%rsp$)", f"{each.mnemonic} {each.operands}")
+                    for each in library.routine(routine))
+        expect(not moves or routine in rows, f"{routine:#x}: moves the stack and has no row of the exception table")
+
+
+def check_pe(library, imports):
+    expect(library.imports == imports, f"imports {library.imports}")
 
     header = struct.unpack_from("<I", library.data, 0x3C)[0]
     optional = header + 24
     machine, sections, optional_size, kind = struct.unpack_from("<HH12xHH", library.data, header + 4)
-    expect(machine == 0x14C, "not for 32-bit x86")
+    is_64 = library.pointer == 8
+    expect(machine == (0x8664 if is_64 else 0x14C), "for another machine")
     expect(kind & 0x2000 and not kind & 0x0001, "no DLL, or its relocations are stripped")
     characteristics = struct.unpack_from("<H", library.data, optional + 70)[0]
-    for bit, what in ((0x40, "dynamic base"), (0x100, "no-execute"), (0x400, "no SEH")):
+    for bit, what in ((0x40, "dynamic base"), (0x100, "no-execute"),
+                      (0x20, "any address") if is_64 else (0x400, "no SEH")):
         expect(characteristics & bit, f"not marked: {what}")
 
-    directories = struct.unpack_from("<32I", library.data, optional + 96)
+    directories = struct.unpack_from("<32I", library.data, library.directories)
     for index, what in ((6, "debug data"), (9, "thread-local storage"), (13, "delayed imports")):
         expect(directories[2 * index] == 0, f"there is a directory of {what}")
     relocated = pe_relocations(library, library.image_base + directories[10], directories[11])
     expect(relocated >= set(slots(library)), "slots without relocation")
+    if is_64:
+        check_unwinding(library, library.image_base + directories[6], directories[7])
 
     for i in range(sections):
         at = optional + optional_size + 40 * i
@@ -104,7 +130,8 @@ def check_pe(library):
             expect(not writable and not executable, "the slot table is not in read-only data")
     # This target's loader ignores marks of branch targets.
     start, size = next((start, size) for name, start, size, _ in library.sections if name == ".text")
-    expect(b"\xf3\x0f\x1e\xfb" not in library.bytes(start, size), "branch-target marks")
+    mark = b"\xf3\x0f\x1e\xfa" if is_64 else b"\xf3\x0f\x1e\xfb"
+    expect(mark not in library.bytes(start, size), "branch-target marks")
 
 
 def check_elf(library, imports):
@@ -171,7 +198,8 @@ def main():
     check_no_initializers(library)
     check_frames(library)
     if library.is_pe:
-        check_pe(library)
+        pe = batch_pe64_imports if "batch" in library.path else pe64_imports
+        check_pe(library, pe if library.pointer == 8 else pe_imports)
     else:
         check_elf(library, batch_imports if "batch" in library.path else elf_imports)
     for failure in failures[:20]:

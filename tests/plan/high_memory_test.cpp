@@ -1,6 +1,6 @@
 // Blocks above the 2 GiB line of a 32-bit address space, whose addresses count as negative numbers. Elsewhere there is
 // no such line.
-#ifdef _WIN32
+#if defined(_WIN32) && !defined(_WIN64)
 
 #include <windows.h>
 

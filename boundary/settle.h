@@ -1,5 +1,5 @@
-// Slots that the load entry settles: where the loader of a platform does not know what a processor's level is, a library
-// has a table of slots for each level.
+// Slots that the load entry settles: where the loader of a platform does not know what a processor's level is, a
+// library has a table of slots for each level.
 #pragma once
 
 #include <cstddef>

@@ -24,9 +24,7 @@ public:
     struct Section {
         const std::byte* start;
         std::size_t bytes;
-        bool holds(std::uintptr_t address) const {
-            return address - reinterpret_cast<std::uintptr_t>(start) < bytes;
-        }
+        bool holds(std::uintptr_t address) const { return address - reinterpret_cast<std::uintptr_t>(start) < bytes; }
     };
     Section section(const char* name) const {
         const IMAGE_NT_HEADERS* const headers = ntHeaders();
@@ -99,7 +97,7 @@ protected:
         const Image atItsAddress(GetParam().name);
         image = GetParam().isMoved ? atItsAddress.moved(GetParam().name) : atItsAddress;
         ASSERT_TRUE(image.isLoaded());
-        if (GetParam().isMoved) ASSERT_NE(image.loadedAt(), atItsAddress.loadedAt());
+        ASSERT_EQ(image.loadedAt() != atItsAddress.loadedAt(), GetParam().isMoved);
         ASSERT_EQ(image.slotOf(GetParam().firstExport), image.section(".slots").start);
         ASSERT_GE(image.section(".slots").bytes, GetParam().slots * sizeof(std::uintptr_t));
     }
@@ -145,16 +143,14 @@ TEST_P(Slots, AreThoseOfTheProcessorsLevel) {
     }
 }
 
+constexpr const char* testNames[] = {"TheLibrary", "TheLibraryMoved", "TheBatchLibrary", "TheBatchLibraryMoved"};
 INSTANTIATE_TEST_SUITE_P(
     Of, Slots,
     testing::Values(Library{"zulgenpx-7.0.dll", 1192, "zulgDCT4Free_32f", 8, false},
                     Library{"zulgenpx-7.0.dll", 1192, "zulgDCT4Free_32f", 8, true},
                     Library{"zulgenpx-batch-7.0.dll", 35, "zulgBatchDCT4GetBufferSize_32f", 4, false},
                     Library{"zulgenpx-batch-7.0.dll", 35, "zulgBatchDCT4GetBufferSize_32f", 4, true}),
-    [](const auto& test) {
-        constexpr const char* names[] = {"TheLibrary", "TheLibraryMoved", "TheBatchLibrary", "TheBatchLibraryMoved"};
-        return std::string(names[test.index]);
-    });
+    [](const auto& each) { return std::string(testNames[each.index]); });
 
 }  // namespace
 }  // namespace test

@@ -17,9 +17,14 @@
 
 namespace zulg {
 
-// Its definition names the levels as the shared library has them.
+// The dispatchers, whose own header names the levels as the shared library has them.
 template <Family family, class Element>
 Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
+template <class Element>
+Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,
+                             Element* pBuffer);
+template <class Element>
+Status ZULG_CALL whtGetBufferSize(std::int32_t order, std::int32_t* pSize);
 
 #include "boundary/slots.inc"
 }  // namespace zulg

@@ -47,7 +47,12 @@ endif()
 if(TARGET zulgenpx_batch)
     install(TARGETS zulgenpx_batch LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library)
-    development_link(zulgenpx-batch)
+    if(WIN32)
+        install(FILES ${batch_import_libraries} ${batch_exports} DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            COMPONENT development)
+    else()
+        development_link(zulgenpx-batch)
+    endif()
     pkg_config_file(zulgenpx-batch "Many transforms of zulgenpx in one call" "zulgenpx = ${PROJECT_VERSION}"
         "-L\${libdir} -lzulgenpx-batch")
 endif()

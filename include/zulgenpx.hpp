@@ -13,7 +13,7 @@
      x[1] = 1;
      zulgenpx::dft<15>(x, spectrum);             // X[k] = sum of x[n] exp(-2 pi i n k/15)
      zulgenpx::inverse_dft<15>(spectrum, x);     // and back, 1/15 on the way
-     printf("%.1f %.1f\n", x[0].real(), x[1].real());   // prints 0.0 1.0
+     printf("%.1f %.1f\n", spectrum[0].real(), x[1].real());   // prints 1.0 1.0
 
    Lengths. A length between angle brackets picks its routine when the program is compiled: the call above is one call
    of zulgDFTFwd_CToC_15_64fc. Without brackets the length is that of the arrays. If it is part of their types, as with

@@ -90,12 +90,13 @@ fill_root() {
         as_root touch "$root/ready"
 }
 
-# build_preset NAME: configures and builds, quietly; on failure prints the end of the log.
+# build_preset NAME [OPTION ...]: configures and builds, quietly; on failure prints the end of the log.
 build_preset() {
-    local log=build/$1/build.log
-    mkdir -p "build/$1"
-    { cmake --preset "$1" && cmake --build --preset "$1"; } </dev/null >"$log" 2>&1 && return
+    local name=$1 log=build/$1/build.log
+    shift
+    mkdir -p "build/$name"
+    { cmake --preset "$name" && cmake --build --preset "$name" "$@"; } </dev/null >"$log" 2>&1 && return
     grep -nE 'error|FAILED' "$log" | head -n 20 >&2 || true
     tail -n 30 "$log" >&2
-    fail "the build of $1 failed; the whole log: $log"
+    fail "the build of $name failed; the whole log: $log"
 }

@@ -34,8 +34,12 @@ def installed_files(place):
     else:
         due |= {f"{lib}/{name}" for name in (
             "libzulgenpx-7.0.so", "libzulgenpx.so", "libzulcore-7.0.so", "libzulgenpx.a", "libzulgenpx-batch-7.0.so",
-            "libzulgenpx-batch.so", "pkgconfig/zulgenpx-static.pc", "pkgconfig/zulgenpx-batch.pc")}
-        due |= {"include/zulgenpx_batch.h", "include/zulgenpx_batch_routines.h"}
+            "libzulgenpx-batch.so", "pkgconfig/zulgenpx-static.pc")}
+    if place.has_batch:
+        due |= {"include/zulgenpx_batch.h", "include/zulgenpx_batch_routines.h", f"{lib}/pkgconfig/zulgenpx-batch.pc"}
+    if place.has_batch and place.args.emulator:
+        due |= {"bin/zulgenpx-batch-7.0.dll", f"{lib}/libzulgenpx-batch.dll.a", f"{lib}/zulgenpx-batch.lib",
+                f"{lib}/zulgenpx-batch.def"}
     if due - place.files():
         raise Fault(f"not installed: {sorted(due - place.files())}")
     if f"{lib}/libzulgenpx-7.0.dll.a" in place.files():
@@ -55,6 +59,7 @@ def plain_flags(place):
         place.run(place.compiled(name, source, *paths, *libraries, *beside, standard=standard))
     if not place.args.emulator:
         place.run(place.compiled("plain_file", "one_transform.c", *paths, "-l:libzulgenpx-7.0.so", *beside))
+    if place.has_batch:
         place.run(place.compiled("plain_batch", "batch.c", *paths, "-lzulgenpx-batch", "-lzulgenpx", *beside))
 
 
@@ -71,24 +76,27 @@ def by_pkg_config(place):
     beside = ["-Wl,-rpath," + str(place.lib)] if not place.args.emulator else []
     place.run(place.compiled("pkg_shared", "one_transform.c", *place.pkg_config("--cflags", "--libs", "zulgenpx"),
                              *beside))
+    if place.has_batch:
+        place.run(place.compiled("pkg_batch", "batch.c", *place.pkg_config("--cflags", "--libs", "zulgenpx-batch"),
+                                 *beside))
     if place.args.emulator:
         return
     words = place.pkg_config("--cflags", "--libs", "zulgenpx-static")
     place.run(place.compiled("pkg_static", "plan.cpp", *words))
     place.run(place.compiled("pkg_static_whole", "plan.cpp", "-static", *words))
-    place.run(place.compiled("pkg_batch", "batch.c", *place.pkg_config("--cflags", "--libs", "zulgenpx-batch"),
-                             *beside))
 
 
 def by_find_package(place):
-    components = "" if place.args.emulator else "static;batch"
+    components = ";".join(["static"] * (not place.args.emulator) + ["batch"] * place.has_batch)
     package = f"-Dzulgenpx_DIR={place.lib}/cmake/zulgenpx"
     built = place.cmake_project("find_package", "project", package, f"-DCOMPONENTS={components}")
     done(place.args.cmake, "--build", built)
     suffix = ".exe" if place.args.emulator else ""
     names = ["one_shared", "plan_shared"]
     if not place.args.emulator:
-        names += ["one_static", "plan_static", "batch"]
+        names += ["one_static", "plan_static"]
+    if place.has_batch:
+        names.append("batch")
     for name in names:
         place.run(built / (name + suffix))
     for options, due in (("-DCOMPONENTS=harmonic", "This zulgenpx has no harmonic."),):

@@ -5,6 +5,8 @@ import shutil
 import subprocess
 
 SOURCES = pathlib.Path(__file__).resolve().parent
+# Windows has no C++ runtime of this compiler: a program brings its own.
+OWN_RUNTIME = ("-static-libgcc", "-static-libstdc++")
 WORKED = 42  # what each program returns, and neither a loader nor a fault does
 
 
@@ -33,6 +35,7 @@ class Installation:
         first.rename(self.prefix)
         self.lib = self.prefix / args.libdir
         self.include = self.prefix / "include"
+        self.has_batch = args.machine != "i386"
         self.flags = ["-Wall", "-Wextra", "-Werror", "-O1"]
 
     def files(self):
@@ -49,6 +52,8 @@ class Installation:
         """A program of one source, compiled and linked in one command."""
         program = self.program(name)
         is_cpp = source.endswith(".cpp")
+        if is_cpp and self.args.emulator:
+            options = (*options, *OWN_RUNTIME)
         done(self.args.cxx if is_cpp else self.args.cc, f"-std={'c++20' if is_cpp else standard}", *self.flags,
              SOURCES / source, "-o", program, *options, cwd=program.parent)
         return program

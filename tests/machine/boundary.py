@@ -54,7 +54,8 @@ def check_slots(library):
     routines = [kernel for slot in slots if slot for kernel in set(library.kernels(slot))]
     expect(len(set(routines)) == len(routines), "two slots lead to one routine")
     section = library.section_of(slots[0])
-    expect(section == (".slots" if library.slots_in_use else ".rdata" if library.is_pe else ".data.rel.ro"), f"the slot table is in {section}")
+    due = ".slots" if library.slots_in_use else ".rdata" if library.is_pe else ".data.rel.ro"
+    expect(section == due, f"the slot table is in {section}")
 
 
 def check_level(library):

@@ -19,7 +19,8 @@ def kernels():
 
 def dispatchers():
     """The exports that transform arrays whose length or order is an argument."""
-    return [export for export in exports() if export["length"] is None and export["order"] is None
+    return [export for export in exports() if export["family"] != "version"
+            and export["length"] is None and export["order"] is None
             and any(argument["name"] == "flag" for argument in export["arguments"])]
 
 

@@ -7,12 +7,9 @@ cd "$tree"
 # The i386 Debian root in which Windows programs run. It is outside the tree, since all checkouts share it and `git
 # clean` must not delete it.
 win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
-# That in which packages are installed and used, as bare as Debian comes but for a compiler.
-package_root=${ZULG_PACKAGE_ROOT:-/var/cache/zulgenpx/package-root}
 
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
     binutils ca-certificates qemu-user pkg-config python3-numpy python3-scipy python3-venv python3-pip)
-packages_packages=(dpkg-dev file gzip lintian debootstrap util-linux)
 packages_demo=(alsa-utils)
 packages_abi=(abigail-tools)                            # what tests compare binary interfaces with
 packages_pages=(groff-base man-db mandoc)               # what tests read the manual pages with

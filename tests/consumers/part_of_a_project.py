@@ -16,7 +16,8 @@ def bare_machine(place):
         link = folder / os.path.basename(name)
         if found and not link.exists():
             link.symlink_to(found)
-    return dict(os.environ, PATH=str(folder))
+    plain = {name: value for name, value in os.environ.items() if not name.startswith("CMAKE_")}
+    return dict(plain, PATH=str(folder))
 
 
 def parts_of_projects(place):

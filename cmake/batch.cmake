@@ -94,18 +94,7 @@ if(WIN32)
     set(batch_exports ${PROJECT_BINARY_DIR}/zulgenpx-batch.def)
     file(CONFIGURE OUTPUT ${batch_exports} CONTENT "${batch_def_text}" @ONLY)
     set(batch_platform_sources ${batch_exports} batch/library.rc)
-    set(batch_import_libraries ${PROJECT_BINARY_DIR}/libzulgenpx-batch.dll.a)
-    add_custom_command(OUTPUT ${batch_import_libraries}
-        COMMAND ${CMAKE_DLLTOOL} -d ${batch_exports} -l ${batch_import_libraries}
-        DEPENDS ${batch_exports})
-    if(LLVM_DLLTOOL)
-        set(microsoft ${PROJECT_BINARY_DIR}/zulgenpx-batch.lib)
-        add_custom_command(OUTPUT ${microsoft}
-            COMMAND ${LLVM_DLLTOOL} -m ${dlltool_machine} -d ${batch_exports} -l ${microsoft}
-            DEPENDS ${batch_exports})
-        list(APPEND batch_import_libraries ${microsoft})
-    endif()
-    add_custom_target(batch_import_libraries ALL DEPENDS ${batch_import_libraries})
+    add_import_libraries(zulgenpx-batch ${batch_exports})
 else()
     set(batch_exports ${PROJECT_SOURCE_DIR}/batch/exports.map)
     set(batch_link_flags ${common_link_flags} -Wl,--version-script=${batch_exports})

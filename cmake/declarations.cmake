@@ -1,13 +1,5 @@
 # The declarations for C#, Pascal and Basic, written into the folder `declarations` of the build and installed in
-# share/zulgenpx. They need Python at build time; without it there are none, and nothing else changes.
-if(NOT PROJECT_IS_TOP_LEVEL)
-    return()
-endif()
-find_package(Python3 COMPONENTS Interpreter)
-if(NOT Python3_FOUND)
-    return()
-endif()
-
+# share/zulgenpx.
 set(declarations_folder ${PROJECT_BINARY_DIR}/declarations)
 set(declarations_names Zulgenpx.cs ZulgenpxBatch.cs zulgenpx.pas zulgenpx_batch.pas zulgenpx.bas zulgenpx_batch.bas)
 list(TRANSFORM declarations_names PREPEND ${declarations_folder}/ OUTPUT_VARIABLE declarations_files)

@@ -12,8 +12,9 @@ set(def_text "LIBRARY \"zulgenpx-7.0.dll\"\nEXPORTS\n")
 if(symbols_are_decorated)
     set(dlltool_machine i386)
     string(CONCAT import_text
-        "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are undecorated:\n"
-        "; dlltool -k -d zulgenpx.def -l libzulgenpx.dll.a, or llvm-dlltool -m i386 -k -d zulgenpx.def -l zulgenpx.lib.\n"
+        "; The exports of zulgenpx-7.0.dll as a caller's compiler writes them. Inside the DLL the names are "
+        "undecorated:\n; dlltool -k -d zulgenpx.def -l libzulgenpx.dll.a, or llvm-dlltool -m i386 -k -d zulgenpx.def "
+        "-l zulgenpx.lib.\n"
         "${def_text}")
 else()
     set(dlltool_machine i386:x86-64)
@@ -47,31 +48,36 @@ file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/zulgenpx.def CONTENT "${def_text}" @
 file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/zulgenpx_import.def CONTENT "${import_text}" @ONLY)
 file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/zulgenpx.map CONTENT "${map_text}" @ONLY)
 
-# link_consumer(TARGET): links a program with the library as its users do. On Windows this is through an import library.
-# There are two, in the GNU format and in the Microsoft one. The import library that the linker writes beside the DLL
-# has no decorated names, so that nothing links with it and it is not installed.
-if(WIN32)
+# add_import_libraries(NAME DEF): the target NAME_import_libraries makes those of consumers, lib<NAME>.dll.a in the GNU
+# format and <NAME>.lib in the Microsoft one; the variable of that name has their paths.
+function(add_import_libraries name def)
+    set(gnu ${PROJECT_BINARY_DIR}/lib${name}.dll.a)
+    set(microsoft ${PROJECT_BINARY_DIR}/${name}.lib)
+    add_custom_command(OUTPUT ${gnu} COMMAND ${CMAKE_DLLTOOL} -k -d ${def} -l ${gnu} DEPENDS ${def})
+    set(made ${gnu})
     find_program(LLVM_DLLTOOL llvm-dlltool)
-    set(import_def ${PROJECT_BINARY_DIR}/zulgenpx_import.def)
-    set(import_library ${PROJECT_BINARY_DIR}/libzulgenpx.dll.a)
-    set(microsoft_import_library ${PROJECT_BINARY_DIR}/zulgenpx.lib)
-    add_custom_command(OUTPUT ${import_library}
-        COMMAND ${CMAKE_DLLTOOL} -k -d ${import_def} -l ${import_library}
-        DEPENDS ${import_def})
-    set(import_libraries ${import_library})
     if(LLVM_DLLTOOL)
-        add_custom_command(OUTPUT ${microsoft_import_library}
-            COMMAND ${LLVM_DLLTOOL} -m ${dlltool_machine} -k -d ${import_def} -l ${microsoft_import_library}
-            DEPENDS ${import_def})
-        list(APPEND import_libraries ${microsoft_import_library})
+        add_custom_command(OUTPUT ${microsoft}
+            COMMAND ${LLVM_DLLTOOL} -m ${dlltool_machine} -k -d ${def} -l ${microsoft} DEPENDS ${def})
+        list(APPEND made ${microsoft})
     else()
-        message(STATUS "zulgenpx.lib, for Microsoft's linkers, is left out: it needs llvm-dlltool")
+        message(STATUS "${name}.lib, for Microsoft's linkers, is left out: it needs llvm-dlltool")
     endif()
-    add_custom_target(import_library ALL DEPENDS ${import_libraries})
+    add_custom_target(${name}_import_libraries ALL DEPENDS ${made})
+    set(${name}_import_libraries ${made} PARENT_SCOPE)
+endfunction()
+
+# link_consumer(TARGET): links a program with the library as its users do. On Windows this is through an import library,
+# and not through the one that the linker writes beside the DLL: that one has no decorated names, so that nothing links
+# with it and it is not installed.
+if(WIN32)
+    set(import_def ${PROJECT_BINARY_DIR}/zulgenpx_import.def)
+    add_import_libraries(zulgenpx ${import_def})
+    list(GET zulgenpx_import_libraries 0 import_library)
     function(link_consumer target)
         target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/include)
         target_link_libraries(${target} PRIVATE ${import_library})
-        add_dependencies(${target} zulgenpx import_library)
+        add_dependencies(${target} zulgenpx zulgenpx_import_libraries)
     endfunction()
 else()
     function(link_consumer target)

@@ -32,8 +32,7 @@ foreach(folder INCLUDEDIR LIBDIR)
 endforeach()
 
 if(WIN32)
-    install(FILES ${import_libraries} DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        COMPONENT development)
+    install(FILES ${zulgenpx_import_libraries} DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
     install(FILES ${import_def} DESTINATION ${CMAKE_INSTALL_LIBDIR} RENAME zulgenpx.def COMPONENT development)
 else()
     development_link(zulgenpx)
@@ -48,7 +47,7 @@ if(TARGET zulgenpx_batch)
     install(TARGETS zulgenpx_batch LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library)
     if(WIN32)
-        install(FILES ${batch_import_libraries} ${batch_exports} DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        install(FILES ${zulgenpx-batch_import_libraries} ${batch_exports} DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT development)
     else()
         development_link(zulgenpx-batch)

@@ -1,14 +1,4 @@
-# The manual pages, written into the folder `man` of the build and installed. They need Python at build time; without it
-# there are none, and nothing else changes. They are for systems that have man: not for Windows, nor for a project that
-# has this one as a part.
-if(WIN32 OR NOT PROJECT_IS_TOP_LEVEL)
-    return()
-endif()
-find_package(Python3 COMPONENTS Interpreter)
-if(NOT Python3_FOUND)
-    return()
-endif()
-
+# The manual pages, written into the folder `man` of the build and installed, for systems that have man.
 set(man_pages_folder ${PROJECT_BINARY_DIR}/man)
 file(GLOB man_pages_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/man/*.in
     ${PROJECT_SOURCE_DIR}/docs/man/parts/*.in ${PROJECT_SOURCE_DIR}/docs/man/examples/*.c)

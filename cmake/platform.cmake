@@ -19,8 +19,8 @@ else()
     set(symbols_are_decorated FALSE)
 endif()
 
-# Test programs of Windows are linked with their runtime, since nothing is installed where they run. Those of 32 bits may
-# use the upper half of the address space, where an address that is taken as a signed number is negative.
+# Test programs of Windows are linked with their runtime, since nothing is installed where they run. Those of 32 bits
+# may use the upper half of the address space, where an address that is taken as a signed number is negative.
 if(symbols_are_decorated)
     set(test_link_flags -static -Wl,--large-address-aware)
 elseif(WIN32)

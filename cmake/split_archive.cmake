@@ -1,8 +1,8 @@
 # Makes an archive of object files, one routine to a member, so that a program links with what it calls and nothing
 # else. Each routine is in a section of its own; a linker that makes an object of objects takes them apart.
 #
-# cmake -D ARCHIVE=FILE -D FOLDER=SCRATCH -D APART=LIST.txt -D WHOLE=LIST.txt -D AR=... -D LINKER=... -D NM=... -D STRIP=...
-#     -P THIS
+# cmake -D ARCHIVE=FILE -D FOLDER=SCRATCH -D APART=LIST.txt -D WHOLE=LIST.txt -D AR=... -D LINKER=... -D NM=...
+#     -D STRIP=... -P THIS
 # The two lists have the path of an object in each line: those to be taken apart, and those that go in as they are.
 cmake_policy(SET CMP0007 NEW)
 file(REMOVE_RECURSE ${FOLDER})

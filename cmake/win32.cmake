@@ -1,14 +1,7 @@
-# Toolchain for 32-bit Windows. It is the posix variant of the compiler, since the tests' threads need std::mutex.
-set(CMAKE_SYSTEM_NAME Windows)
+# Toolchain for 32-bit Windows.
+set(prefix i686-w64-mingw32)
+include(${CMAKE_CURRENT_LIST_DIR}/windows.cmake)
 set(CMAKE_SYSTEM_PROCESSOR i686)
-set(CMAKE_C_COMPILER i686-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER i686-w64-mingw32-g++-posix)
-set(CMAKE_RC_COMPILER i686-w64-mingw32-windres)
-set(CMAKE_FIND_ROOT_PATH /usr/i686-w64-mingw32)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # Tests run in wine, whose loader reads the DLL as that of Windows does.
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine)
 # The folder of targets/ that is built.

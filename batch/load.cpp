@@ -1,8 +1,6 @@
 // The load entry of a batch library whose slots are settled by it.
 #include <cstddef>
 
-#include "batch_levels.h"
-#include "boundary/load_entry.h"
 #include "boundary/settle.h"
 
 #define SLOT(name, routine) +1
@@ -19,6 +17,5 @@ std::int32_t ZULG_CALL zulgLoadBatch(void* module, std::uint32_t reason, void* r
 }
 
 std::int32_t ZULG_CALL zulgLoadBatch(void*, std::uint32_t reason, void*) {
-    return reason != processAttach || !zulg::processorHasLastLevel() ||
-           zulg::settle(zulgSlots, zulgSlotsOfLastLevel, sizeof zulgSlots);
+    return zulg::settleAtLoad(reason, zulgSlots, zulgSlotsOfLastLevel, sizeof zulgSlots);
 }

@@ -1,12 +1,8 @@
 // The dispatchers, which take the length or the order as an argument: one range check, one lookup, one call.
 #pragma once
 
-#include <array>
-#include <utility>
-
 #include "boundary/slot.h"
 #include "kernel/kernel.h"
-#include "levels.h"
 
 namespace ZULG_SLOTS {
 
@@ -17,19 +13,8 @@ using DispatchRoutine = Status(ZULG_CALL*)(const Element* pSrc, Element* pDst, s
 template <class Routine>
 using DispatchSlot = OneOf<Routine, Resolver<Routine>>;
 
-// Index 0 is the shortest length.
 template <Family family, class Element>
-inline constexpr auto kernelTable = []<int... index>(std::integer_sequence<int, index...>) {
-    return std::array{DispatchSlot<KernelRoutine<Element>>(bestKernel<family, shortestLength + index, Element>)...};
-}
-(std::make_integer_sequence<int, longestLength - shortestLength + 1>{});
-
-template <Family family, class Element>
-Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag) {
-    const std::uint32_t index = static_cast<std::uint32_t>(length) - shortestLength;
-    if (index >= kernelTable<family, Element>.size()) return StatusSizeError;
-    return kernelTable<family, Element>[index].first(pSrc, pDst, flag);
-}
+Status ZULG_CALL dispatch(const Element* pSrc, Element* pDst, std::int32_t length, std::int32_t flag);
 
 template <class Element>
 Status ZULG_CALL whtDispatch(const Element* pSrc, Element* pDst, std::int32_t order, std::int32_t flag,

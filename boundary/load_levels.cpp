@@ -1,9 +1,7 @@
 // The load entry of a library whose slots are settled by it: slots first, then everything else.
 #include <cstddef>
 
-#include "boundary/load_entry.h"
 #include "boundary/settle.h"
-#include "levels.h"
 
 #define SLOT(name, routine, bytes) +1
 constexpr std::size_t slotCount = 0
@@ -19,9 +17,6 @@ std::int32_t ZULG_CALL zulgLoadLevels(void* module, std::uint32_t reason, void* 
 }
 
 std::int32_t ZULG_CALL zulgLoadLevels(void* module, std::uint32_t reason, void* reserved) {
-    if (reason == processAttach && zulg::processorHasLastLevel() &&
-        !zulg::settle(zulgSlots, zulgSlotsOfLastLevel, sizeof zulgSlots)) {
-        return 0;  // the library does not load
-    }
-    return zulgLoadEntry(module, reason, reserved);
+    return zulg::settleAtLoad(reason, zulgSlots, zulgSlotsOfLastLevel, sizeof zulgSlots) &&
+           zulgLoadEntry(module, reason, reserved);
 }

@@ -3,16 +3,10 @@
 // looks at a level.
 #pragma once
 
-#include <cstdint>
-
 #include "level_routines.h"
+#include "targets/x86_64/processor_level.h"
 
 namespace zulg {
-
-enum Level : std::uintptr_t { levelX86_64 = 1, levelX86_64_v3 };
-
-// That of the processor. Resolvers call it, when nothing of the library but its relative addresses is settled.
-[[gnu::visibility("hidden")]] Level processorLevel() noexcept;
 
 // The mark makes the address of this function, wherever it is stored, the address that it returns. The function is
 // never inlined: the compiler does not know that a call of this address is a call of the routine.

@@ -1,5 +1,6 @@
 // The level of the processor, found out once.
-#include "levels.h"
+#include "targets/x86_64/processor_level.h"
+
 #include "targets/x86_64/has_avx2.h"
 
 namespace zulg {

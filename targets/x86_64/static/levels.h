@@ -2,23 +2,17 @@
 // program that has none, calls it and puts the routine that it returns where the name is used.
 #pragma once
 
-#include <cstdint>
-
 #include "level_routines.h"
+#include "targets/x86_64/processor_level.h"
 
 namespace zulg {
-
-enum Level : std::uintptr_t { levelX86_64 = 1, levelX86_64_v3 };
-
-// That of the processor.
-[[gnu::visibility("hidden")]] Level processorLevel() noexcept;
 
 template <class Routine>
 struct RoutineOfLevels {
     Routine first, second;
 };
 
-// What a public name stands for on this processor.
+// The routine that calls of a public name go to on this processor.
 template <class Routine>
 ZULG_INLINE Routine chosen(RoutineOfLevels<Routine> routine) {
     return processorLevel() >= levelX86_64_v3 ? routine.second : routine.first;

@@ -13,7 +13,7 @@ import gzip
 import hashlib
 import io
 import os
-import struct
+import runpy
 import tarfile
 import time
 import tomllib
@@ -29,13 +29,15 @@ LIBRARIES = (
     ("zulcore-7.0.dll", "zulgenpx-7.0.dll", "zulgenpx-batch-7.0.dll"),
 )
 # What pip calls the machine that the header of a library names.
-ELF_PLATFORMS = {
-    (3, 1): "linux_i686",
-    (62, 2): "linux_x86_64",
-    (183, 2): "linux_aarch64",
-    (243, 2): "linux_riscv64",
+PLATFORMS = {
+    ("ELF", 3, 32): "linux_i686",
+    ("ELF", 62, 64): "linux_x86_64",
+    ("ELF", 183, 64): "linux_aarch64",
+    ("ELF", 243, 64): "linux_riscv64",
+    ("PE", 0x14C, 0): "win32",
+    ("PE", 0x8664, 0): "win_amd64",
+    ("PE", 0xAA64, 0): "win_arm64",
 }
-PE_PLATFORMS = {0x14C: "win32", 0x8664: "win_amd64", 0xAA64: "win_arm64"}
 FIRST_TIME = 315532800  # 1980-01-01
 
 Settings = Optional[Mapping[str, Any]]
@@ -77,17 +79,13 @@ def package_files() -> list[str]:
     return sorted(name for name in os.listdir(os.path.join(FOLDER, PACKAGE)) if name.endswith((".py", ".typed")))
 
 
+def machine_of(path: str) -> Any:
+    """What the package's own file tells of a library; the package itself would load the libraries."""
+    return runpy.run_path(os.path.join(FOLDER, PACKAGE, "_machine.py"))["machine_of"](path)
+
+
 def platform_of(path: str) -> str:
-    with open(path, "rb") as file:
-        head = file.read(4096)
-    found = None
-    if len(head) >= 20 and head[:4] == b"\x7fELF":
-        order = ">" if head[5] == 2 else "<"
-        found = ELF_PLATFORMS.get((struct.unpack_from(order + "H", head, 18)[0], head[4]))
-    elif len(head) >= 64 and head[:2] == b"MZ":
-        at = struct.unpack_from("<I", head, 60)[0]
-        if head[at : at + 4] == b"PE\0\0" and len(head) >= at + 6:
-            found = PE_PLATFORMS.get(struct.unpack_from("<H", head, at + 4)[0])
+    found = PLATFORMS.get(machine_of(path))
     if found is None:
         raise BuildError(f"{path} is no shared library of a machine that wheels are made for")
     return found

@@ -72,11 +72,15 @@ _from_buffer: Any = ctypes.c_void_p.from_buffer  # takes arrays as well
 _ndarray = np.ndarray
 
 
-def usual(family: Family, a: Any, axis: Any, norm: Any, precision: Any) -> Optional[Routines]:
-    """The routines, if the array can go the short way as it is."""
+def usual(
+    family: Family, norms: dict[Optional[str], int], a: Any, axis: Any, norm: Any, precision: Any
+) -> Optional[tuple[Array, Routines, int]]:
+    """The array, the routines and the scale flag, if the array can go the short way as it is."""
     if type(a) is _ndarray and type(axis) is int and type(precision) is str and (norm is None or type(norm) is str):
         if a.flags.c_contiguous and a.size and (axis == -1 or axis == a.ndim - 1):
-            return family.routines.get((precision, a.dtype))
+            routines, flag = family.routines.get((precision, a.dtype)), norms.get(norm)
+            if routines is not None and flag is not None:
+                return a, routines, flag
     return None
 
 

@@ -4,9 +4,10 @@ from __future__ import annotations
 
 import ctypes
 import os
-import struct
 import sys
 from typing import Callable, NamedTuple, Optional
+
+from ._machine import machine_of
 
 FOLDER_VARIABLE = "ZULGENPX_LIBRARY_DIR"
 
@@ -62,20 +63,10 @@ _MACHINES = {
 
 
 def _machine(path: str) -> Optional[tuple[str, int, int]]:
-    """The kind of file, the machine that it is for, and the width of addresses; None if it is no ELF or PE file."""
     try:
-        with open(path, "rb") as file:
-            head = file.read(4096)
+        return machine_of(path)
     except OSError:
         return None
-    if len(head) >= 20 and head[:4] == b"\x7fELF":
-        order = ">" if head[5] == 2 else "<"
-        return "ELF", struct.unpack_from(order + "H", head, 18)[0], 64 if head[4] == 2 else 32
-    if len(head) >= 64 and head[:2] == b"MZ":
-        at = struct.unpack_from("<I", head, 60)[0]
-        if head[at : at + 4] == b"PE\0\0" and len(head) >= at + 6:
-            return "PE", struct.unpack_from("<H", head, at + 4)[0], 0
-    return None
 
 
 def _called(machine: tuple[str, int, int]) -> str:

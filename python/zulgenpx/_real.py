@@ -56,10 +56,9 @@ def rfft(
     family = choice("rfft", "layout", layout, REAL_FORWARD)
     is_ccs = layout == "ccs"
     if n is None and out is None:
-        routines = usual(family, a, axis, norm, precision)
-        flag = NORMS.get(norm) if routines is not None else None
-        if routines is not None and flag is not None:
-            array: Array = a  # type: ignore[assignment]
+        short = usual(family, NORMS, a, axis, norm, precision)
+        if short is not None:
+            array, routines, flag = short
             shape = array.shape
             length = shape[-1]
             if 2 <= length <= 64:
@@ -128,10 +127,9 @@ def irfft(
     family = choice("irfft", "layout", layout, REAL_INVERSE)
     is_ccs = layout == "ccs"
     if n is None and out is None:
-        routines = usual(family, a, axis, norm, precision)
-        flag = NORMS.get(norm) if routines is not None else None
-        if routines is not None and flag is not None:
-            array: Array = a  # type: ignore[assignment]
+        short = usual(family, NORMS, a, axis, norm, precision)
+        if short is not None:
+            array, routines, flag = short
             shape = array.shape
             held = shape[-1]
             length = 2 * (held - 1) if is_ccs else held

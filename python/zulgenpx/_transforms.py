@@ -31,10 +31,9 @@ def _same_length(
 ) -> Array:
     """Transforms whose result has the type and the length of their input."""
     if n is None and out is None:
-        routines = usual(family, a, axis, norm, precision)
-        flag = norms.get(norm) if routines is not None else None
-        if routines is not None and flag is not None:
-            array: Array = a  # type: ignore[assignment]
+        short = usual(family, norms, a, axis, norm, precision)
+        if short is not None:
+            array, routines, flag = short
             shape = array.shape
             length = shape[-1]
             if 2 <= length <= 64:
@@ -179,10 +178,9 @@ def wht(a: ArrayLike, axis: SupportsIndex = -1, norm: Optional[str] = None, out:
     [3.0, -1.0, 3.0, -1.0]
     """
     if out is None:
-        routines = usual(WHT, a, axis, norm, "double")
-        flag = OWN_INVERSE_NORMS.get(norm) if routines is not None else None
-        if routines is not None and flag is not None:
-            array: Array = a  # type: ignore[assignment]
+        short = usual(WHT, OWN_INVERSE_NORMS, a, axis, norm, "double")
+        if short is not None:
+            array, routines, flag = short
             length = array.shape[-1]
             if length in WHT_LENGTHS:
                 buffer = _wht_buffer(array.dtype, length)

@@ -15,6 +15,9 @@ import subprocess
 import sys
 import tempfile
 
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "header"))
+from prototypes import prototypes
+
 HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent.parent
 
@@ -43,12 +46,11 @@ def run(*command, allowed=(0,), folder=None):
 def describe(library, include, compiler, folder):
     """Path of the description of a stand-in made from the headers of the folder `include`."""
     headers, _ = LIBRARIES[library]
-    code = re.sub(r"/\*.*?\*/", "", "".join((include / name).read_text(encoding="ascii") for name in headers),
-                  flags=re.S)
-    prototypes = re.findall(r"^(\w[\w ]*\*? ZULG_CALL \w+\([^;]*\));", code, re.M)
+    declared = prototypes("".join((include / name).read_text(encoding="ascii") for name in headers))
     source, stand_in, description = folder / "stand_in.c", folder / library, folder / (library + ".abi")
     source.write_text("".join([f'#include "{headers[0]}"\n']
-                              + [f"{prototype} {{\n    return 0;\n}}\n" for prototype in prototypes]),
+                              + [f"{returned} ZULG_CALL {name}({arguments}) {{\n    return 0;\n}}\n"
+                                 for returned, name, arguments in declared]),
                       encoding="ascii")
     # A header of this system would bring its own types into the description.
     (folder / "system").mkdir(exist_ok=True)

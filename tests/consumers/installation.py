@@ -35,6 +35,9 @@ class Installation:
         first.rename(self.prefix)
         self.lib = self.prefix / args.libdir
         self.include = self.prefix / "include"
+        self.paths = ["-I", self.include, "-L", self.lib]
+        # Programs of other systems find the libraries in a folder that they name. On Windows these are beside them.
+        self.beside = [] if args.emulator else [f"-Wl,-rpath,{self.lib}"]
         self.has_batch = args.machine != "i386"
         self.flags = ["-Wall", "-Wextra", "-Werror", "-O1"]
 

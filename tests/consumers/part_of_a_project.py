@@ -7,6 +7,11 @@ from installation import Fault, done
 NEEDED = ("ninja", "ld", "ar", "nm", "ranlib", "as", "objcopy", "objdump", "readelf", "strip", "sh", "uname")
 
 
+# Objects that are built as a sample.
+OF_EACH_KIND = ("/complex_pairs/dft_5.cpp.o", "/boundary/entries.S.o", "/boundary/slot_table.cpp.o",
+                "/boundary/static_names.cpp.o", "/dct4/run_in_lanes.cpp.o", "/batch/slot_table.cpp.o")
+
+
 def bare_machine(place):
     """A folder of programs to find, which has no Python and no pkg-config."""
     folder = place.folder / "bare"
@@ -38,10 +43,9 @@ def parts_of_projects(place):
         due, other = ("libzulgenpx-7.0.so", "libzulgenpx.a") if shared == "ON" else ("libzulgenpx.a", "batch")
         if due not in plan or other in plan:
             raise Fault(f"{name}: one_transform is built of {plan[-400:]}")
-        objects = [line.split(":")[0] for line in done("ninja", "-C", built, "-t", "targets", "all", env=bare).splitlines()
-                   if line.split(":")[0].endswith(("/complex_pairs/dft_5.cpp.o", "/boundary/entries.S.o",
-                                                   "/boundary/slot_table.cpp.o", "/boundary/static_names.cpp.o",
-                                                   "/dct4/run_in_lanes.cpp.o", "/batch/slot_table.cpp.o"))]
+        built_files = [line.split(":")[0] for line in
+                       done("ninja", "-C", built, "-t", "targets", "all", env=bare).splitlines()]
+        objects = [file for file in built_files if file.endswith(OF_EACH_KIND)]
         if len(objects) < 6:
             raise Fault(f"{name}: only {objects} are there to be built")
         done("ninja", "-C", built, "zulcore", *objects, env=bare)

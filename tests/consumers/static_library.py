@@ -38,5 +38,6 @@ def static_library(place):
         raise Fault(compared.stdout + compared.stderr)
 
     # Every name links, without a dynamic linker as well.
-    for name, more in (("static_every_name", []), ("static_without_linker", ["-static"]), ("static_no_pie", ["-no-pie"])):
+    for name, more in (("static_every_name", []), ("static_without_linker", ["-static"]),
+                       ("static_no_pie", ["-no-pie"])):
         place.run(place.compiled(name, "consumer.c", "-I", place.include, "-I", source, *more, archive, "-lm"))

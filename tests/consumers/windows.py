@@ -11,8 +11,8 @@ def by_clang(place, name, library):
     system.with_suffix(".def").write_text(
         f"LIBRARY KERNEL32.dll\nEXPORTS\n    ExitProcess{'@4' if args.machine == 'i386' else ''}\n", encoding="ascii")
     done(args.llvm_dlltool, "-m", args.machine, "-k", "-d", f"{system}.def", "-l", f"{system}.lib")
-    done(args.clang, f"--target={CLANG_NAMES[args.machine]}-pc-windows-msvc", "-ffreestanding", "-DFREESTANDING", *place.flags, "-I",
-         place.include, "-I", args.source, "-c", SOURCES / "consumer.c", "-o", compiled)
+    done(args.clang, f"--target={CLANG_NAMES[args.machine]}-pc-windows-msvc", "-ffreestanding", "-DFREESTANDING",
+         *place.flags, "-I", place.include, "-I", args.source, "-c", SOURCES / "consumer.c", "-o", compiled)
     done(args.lld_link, "/nologo", "/nodefaultlib", "/subsystem:console", "/entry:start", f"/out:{program}", compiled,
          library, f"{system}.lib")
     return program

@@ -5,11 +5,12 @@ catalogue.py SOURCE_FOLDER LIBRARY
 import ctypes
 import json
 import pathlib
-import re
 import sys
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "machine"))
+for folder in ("machine", "header"):
+    sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / folder))
 from expected import expected_rows
+from prototypes import prototypes
 
 failures = []
 
@@ -52,11 +53,9 @@ def check_counts(exports, expected):
 
 def check_arguments(exports, header):
     """The prototypes, put together from the data; each array of bins has a slot for each of its numbers."""
-    prototypes = {}
-    text = header.read_text(encoding="ascii")
-    for name, arguments in re.findall(r"^ZulgStatus ZULG_CALL (\w+)\(([^;]*)\);$", text, re.M):
-        prototypes[name] = " ".join(arguments.split())
-    expect(len(prototypes), len([export for export in exports if export["family"] != "version"]), "prototypes")
+    declared = {name: arguments for returned, name, arguments in prototypes(header.read_text(encoding="ascii"))
+                if returned == "ZulgStatus"}
+    expect(len(declared), len([export for export in exports if export["family"] != "version"]), "prototypes")
     pointer = {"value": ("", " "), "in": ("const ", "* "), "out": ("", "* "), "inout": ("", "* ")}
     for export in exports:
         if export["family"] == "version":
@@ -65,7 +64,7 @@ def check_arguments(exports, header):
         for argument in export["arguments"]:
             before, after = pointer[argument["use"]]
             parts.append(before + argument["type"] + after + argument["name"])
-        expect(", ".join(parts), prototypes[export["name"]], f"prototype of {export['name']}")
+        expect(", ".join(parts), declared[export["name"]], f"prototype of {export['name']}")
         if "spectrum" in export and export["length"] is not None:
             spectrum = export["spectrum"]
             array = next(argument for argument in export["arguments"] if argument["name"] == spectrum["argument"])

@@ -89,8 +89,8 @@ def pe_relocations(library, address, size):
 
 
 def check_unwinding(library, table, size):
-    """On 64-bit Windows a handler of exceptions is found through the frames below it. A routine that moves the stack has
-    a row of the table that says how; one without a row counts as one that does not."""
+    """On 64-bit Windows a handler of exceptions is found through the frames below it. A routine that moves the stack
+    has a row of the table that says how; one without a row counts as one that does not."""
     rows = {struct.unpack("<I", library.bytes(table + at, 4))[0] + library.image_base for at in range(0, size, 12)}
     for routine in {routine for slot in slots(library) for routine in library.kernels(slot)}:
         moves = any(re.match(r"(push|sub .*,%rsp$|lea .*,%rsp$)", f"{each.mnemonic} {each.operands}")

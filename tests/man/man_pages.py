@@ -13,8 +13,11 @@ import sys
 import tempfile
 import wave
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "documents"))
+for folder in ("documents", "header", "machine"):
+    sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / folder))
 import extract
+from binary import Library
+from prototypes import code_of, prototypes
 
 LIBRARIES = ["libzulgenpx-7.0.so", "libzulgenpx-batch-7.0.so"]
 CORE = {"libzulcore-7.0.so", "zulMalloc", "zulFree"}
@@ -39,9 +42,9 @@ class Headers:
     def __init__(self, folder):
         self.text = "".join(path.read_text(encoding="ascii") for path in sorted(folder.glob("*.h")))
         self.files = {path.name for path in folder.glob("*.h")}
-        self.code = re.sub(r"/\*.*?\*/", "", self.text, flags=re.S)
-        found = re.findall(r"^((?:const )?\w+\*?) ZULG_CALL (zul\w+)\(([^;]*)\);", self.code, re.M)
-        self.prototypes = {name: normal(f"{returned} {name}({arguments})") for returned, name, arguments in found}
+        self.code = code_of(self.text)
+        self.prototypes = {name: normal(f"{returned} {name}({arguments})")
+                           for returned, name, arguments in prototypes(self.text)}
         self.values = dict(re.findall(r"\b((?:Status|Div|NoDiv)\w+) = (-?\d+)", self.code))
 
 
@@ -74,13 +77,6 @@ def form_of(name, forms):
         if candidate in forms:
             return candidate
     return None
-
-
-def exported(library):
-    code, text = output_of("nm", "-D", "--defined-only", str(library))
-    if code != 0:
-        raise ValueError(text)
-    return {line.split()[2].split("@")[0] for line in text.splitlines() if line.split()[1] != "A"}
 
 
 def check_names(pages_folder, names, headers):
@@ -230,7 +226,7 @@ def main():
     args.source, args.build = os.path.realpath(args.source), os.path.realpath(args.build)
     pages_folder = pathlib.Path(args.pages).resolve()
     headers = Headers(pathlib.Path(args.source) / "include")
-    names = set().union(*(exported(pathlib.Path(args.build) / library) for library in LIBRARIES))
+    names = set().union(*(Library(pathlib.Path(args.build) / library, "objdump").exports for library in LIBRARIES))
     check_names(pages_folder, names, headers)
 
     pages = {f"{path.parent.name}/{path.name}": Page(path) for path in pages_folder.glob("man[13]/*.[13]")}

@@ -1,4 +1,4 @@
-"""Counts the instructions of a call, in C and through the C++ headers, the transform itself included, and prints a table.
+"""Counts the instructions of a call, in C and through the C++ headers, the transform included, and prints a table.
 
 face.py PROGRAM     PROGRAM: build/native/face; valgrind must be there
 """

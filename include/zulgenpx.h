@@ -66,7 +66,7 @@ typedef struct Zulg64fc {
 typedef int32_t ZulgStatus;
 enum {
     StatusOk = 0,             /* done, the output is written */
-    StatusPlanKindError = -5, /* DCT-IV: the plan is of no known kind */
+    StatusPlanKindError = -5, /* DCT-IV: the kind of the plan is unknown */
     StatusSizeError = -6,     /* length or order out of range */
     StatusNullPointer = -8,   /* a required pointer is null */
     StatusFlagError = -16     /* flag is not exactly one of 1, 2, 4, 8 */
@@ -286,7 +286,7 @@ const LibVersion* ZULG_CALL zulgenGetLibVersion(void);
               length below 1
    InitAlloc  the same statuses, and StatusNullPointer where the core library has no memory. Nothing is left to be freed
    Free       StatusNullPointer
-   DCT4       StatusNullPointer, StatusPlanKindError if the plan is of no known kind; the destination is then untouched
+   DCT4       StatusNullPointer, StatusPlanKindError if the plan's kind is unknown; the destination is then untouched
 
    Example, a plan in memory of one's own:
 

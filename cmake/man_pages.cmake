@@ -9,4 +9,5 @@ add_custom_command(OUTPUT ${man_pages_folder}/man3/zulgenpx.3
         ${PROJECT_SOURCE_DIR}/include/zulgenpx.h
     COMMENT "Writing the manual pages" VERBATIM)
 add_custom_target(man_pages ALL DEPENDS ${man_pages_folder}/man3/zulgenpx.3)
-install(DIRECTORY ${man_pages_folder}/man1 ${man_pages_folder}/man3 TYPE MAN COMPONENT documentation)
+install(DIRECTORY ${man_pages_folder}/man3 TYPE MAN COMPONENT documentation)
+install(DIRECTORY ${man_pages_folder}/man1 TYPE MAN COMPONENT tools)

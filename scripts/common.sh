@@ -7,6 +7,8 @@ cd "$tree"
 # The i386 Debian root in which Windows programs run. It is outside the tree, since all checkouts share it and `git
 # clean` must not delete it.
 win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
+# The one in which packages are installed and used.
+package_root=${ZULG_PACKAGE_ROOT:-/var/cache/zulgenpx/package-root}
 
 packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
     binutils ca-certificates qemu-user pkg-config python3-numpy python3-scipy python3-venv python3-pip)
@@ -15,6 +17,7 @@ packages_abi=(abigail-tools)                            # what tests compare bin
 packages_pages=(groff-base man-db mandoc)               # what tests read the manual pages with
 packages_languages=(mono-mcs mono-runtime fp-compiler)  # what tests compile the declarations for other languages with
 packages_release=(git)                                  # what the checks before a release look at the tree with
+packages_packages=(dpkg-dev gzip lintian)               # what packages are made and checked with
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 packages_win64=(g++-mingw-w64-x86-64-posix llvm clang lld wine64 util-linux)
 

@@ -1,0 +1,31 @@
+"""Packages made by scripts/packages, twice, in two folders."""
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+
+def done(*words, **options):
+    """Runs a command and gives what it prints."""
+    ran = subprocess.run([str(word) for word in words], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                         stderr=subprocess.STDOUT, text=True, check=False, **options)
+    if ran.returncode != 0:
+        sys.exit(f"{' '.join(str(word) for word in words)}: exit code {ran.returncode}\n{ran.stdout}")
+    return ran.stdout
+
+
+def made_twice(tree, build, target):
+    """The files of one of two runs, which must be the same bytes."""
+    made = []
+    for name in ("first", "second"):
+        folder = pathlib.Path(build).resolve() / "packages" / name
+        shutil.rmtree(folder, ignore_errors=True)
+        done(f"{tree}/scripts/packages", "--built", target, env=dict(os.environ, ZULG_PACKAGES=str(folder)))
+        made.append({path.name: path for path in (folder / target).iterdir()})
+    first, second = made
+    different = sorted(name for name in {*first, *second} if name not in first or name not in second
+                       or first[name].read_bytes() != second[name].read_bytes())
+    if different or not first:
+        sys.exit(f"made twice, these are not the same: {different}")
+    return first

@@ -20,6 +20,21 @@ Wide summed(int count, const Term& term) {
     return sum;
 }
 
+// The cosines and sines of all turns k/n, which are computed once for each n.
+struct Turns {
+    explicit Turns(int n) {
+        for (int k = 0; k < n; ++k) {
+            cosines.push_back(cosTurn(k, n));
+            sines.push_back(sinTurn(k, n));
+        }
+    }
+    Values cosines, sines;
+};
+const Turns& turnsOf(int n) {
+    static std::map<int, Turns> turns;
+    return turns.try_emplace(n, n).first->second;
+}
+
 }  // namespace
 
 Wide cosTurn(int k, int n) {
@@ -38,19 +53,16 @@ Wide casTurn(int k, int n) { return cosTurn(k, n) + sinTurn(k, n); }
 
 Values complexTransform(const Values& x, int sign) {
     const int length = static_cast<int>(x.size() / 2);
-    Values cosines, sines;
-    for (int k = 0; k < length; ++k) {
-        cosines.push_back(cosTurn(k, length));
-        sines.push_back(static_cast<Wide>(sign) * sinTurn(k, length));
-    }
+    const auto& [cosines, sines] = turnsOf(length);
     Values result;
     for (int k = 0; k < length; ++k) {
         Wide re = 0, im = 0;
         for (int n = 0; n < length; ++n) {
             const auto place = static_cast<std::size_t>(n * k % length);
             const Wide xr = x[static_cast<std::size_t>(2 * n)], xi = x[static_cast<std::size_t>(2 * n + 1)];
-            re += xr * cosines[place] - xi * sines[place];
-            im += xr * sines[place] + xi * cosines[place];
+            const Wide cosine = cosines[place], sine = static_cast<Wide>(sign) * sines[place];
+            re += xr * cosine - xi * sine;
+            im += xr * sine + xi * cosine;
         }
         result.push_back(re);
         result.push_back(im);
@@ -86,11 +98,13 @@ Values inverseRealTransform(const Values& bins, int length) {
 
 Values hartleyTransform(const Values& x) {
     const int length = static_cast<int>(x.size());
+    const auto& [cosines, sines] = turnsOf(length);
     Values result;
     for (int k = 0; k < length; ++k) {
         Wide sum = 0;
         for (int j = 0; j < length; ++j) {
-            sum += x[static_cast<std::size_t>(j)] * casTurn(j * k, length);
+            const auto turn = static_cast<std::size_t>(j * k % length);
+            sum += x[static_cast<std::size_t>(j)] * (cosines[turn] + sines[turn]);
         }
         result.push_back(sum);
     }
@@ -100,13 +114,16 @@ Values hartleyTransform(const Values& x) {
 int walshHadamardSign(int j, int k) { return std::popcount(static_cast<unsigned>(j & k)) % 2 == 0 ? 1 : -1; }
 
 Values walshHadamardTransform(const Values& x) {
-    if (x.size() == 1) return x;
-    const auto middle = x.begin() + static_cast<std::ptrdiff_t>(x.size() / 2);
-    const Values low = walshHadamardTransform({x.begin(), middle}), high = walshHadamardTransform({middle, x.end()});
-    // The highest bit of j turns the sign of those k that have it too.
-    Values result;
-    for (std::size_t k = 0; k < low.size(); ++k) result.push_back(low[k] + high[k]);
-    for (std::size_t k = 0; k < low.size(); ++k) result.push_back(low[k] - high[k]);
+    Values result = x;
+    for (std::size_t bit = 1; bit < x.size(); bit *= 2) {
+        // This bit of j turns the sign of those k that have it too.
+        for (std::size_t k = 0; k < x.size(); ++k) {
+            if ((k & bit) != 0) continue;
+            const Wide without = result[k], with = result[k + bit];
+            result[k] = without + with;
+            result[k + bit] = without - with;
+        }
+    }
     return result;
 }
 
@@ -135,11 +152,7 @@ Values dct4Transform(const Values& x, Chosen outputs) {
 
 Values skewTransform(const Values& v, Chosen bins) {
     const int length = static_cast<int>(v.size()), period = 2 * length;
-    Values cosines, sines;
-    for (int j = 0; j < period; ++j) {
-        cosines.push_back(cosTurn(j, period));
-        sines.push_back(sinTurn(j, period));
-    }
+    const auto& [cosines, sines] = turnsOf(period);
     Values result;
     for (int k = bins.first; k < length / 2; k += bins.step) {
         Wide re = 0, im = 0;

@@ -11,10 +11,8 @@ namespace zulg {
 // forward[i s] in the first half and -mirrored[-i s] in the second half. The body changes that sign.
 template <class Element>
 struct FoldSource {
-    using Place = typename InMemory<Element>::Type;
-
-    const Place* forward;
-    const Place* mirrored;
+    PlacesToRead<Element> forward;
+    PlacesToRead<Element> mirrored;
 
     // The sequence that begins `shift` elements later.
     ZULG_INLINE FoldSource next(std::ptrdiff_t shift) const { return {forward + shift, mirrored - shift}; }

@@ -22,13 +22,11 @@ struct Dct4Ports {
 // One of R skew transforms that are side by side. Each bin has its R real parts first, then its R imaginary parts.
 template <class Element>
 struct SkewBins {
-    using Place = typename InMemory<Element>::Type;
+    PlacesToWrite<Element> first;  // the real part of bin 0
+    std::ptrdiff_t transforms;     // R
 
-    Place* first;               // the real part of bin 0
-    std::ptrdiff_t transforms;  // R
-
-    ZULG_INLINE Place* re(std::ptrdiff_t k) const { return first + 2 * transforms * k; }
-    ZULG_INLINE Place* im(std::ptrdiff_t k) const { return re(k) + transforms; }
+    ZULG_INLINE PlacesToWrite<Element> re(std::ptrdiff_t k) const { return first + 2 * transforms * k; }
+    ZULG_INLINE PlacesToWrite<Element> im(std::ptrdiff_t k) const { return re(k) + transforms; }
 };
 
 // A folded sequence of `points` values. The first half is read upwards from `forward` and the second half downwards
@@ -36,10 +34,10 @@ struct SkewBins {
 template <class Numbers, class Element, int points>
 struct FoldPorts : Dct4Ports<Numbers, Element> {
     using Base = Dct4Ports<Numbers, Element>;
-    using typename Base::Place, typename Base::Value;
+    using typename Base::Value;
 
-    const Place* forward;
-    const Place* mirrored;
+    PlacesToRead<Element> forward;
+    PlacesToRead<Element> mirrored;
     std::ptrdiff_t step;
     SkewBins<Element> bins;
 
@@ -53,12 +51,12 @@ struct FoldPorts : Dct4Ports<Numbers, Element> {
 template <class Numbers, class Element, int radix>
 struct OutputPorts : Dct4Ports<Numbers, Element> {
     using Base = Dct4Ports<Numbers, Element>;
-    using typename Base::Place, typename Base::Value;
+    using typename Base::Value;
 
-    const Place* row;
-    const Place* entries;
-    Place* up;    // rising output 0; each further one is `step` later
-    Place* down;  // falling output 0; each further one is `step` earlier
+    PlacesToRead<Element> row;
+    PlacesToRead<Element> entries;
+    PlacesToWrite<Element> up;    // rising output 0; each further one is `step` later
+    PlacesToWrite<Element> down;  // falling output 0; each further one is `step` earlier
     std::ptrdiff_t step;
 
     ZULG_INLINE Value re(int p) const { return Base::read(row[p]); }
@@ -72,24 +70,24 @@ struct OutputPorts : Dct4Ports<Numbers, Element> {
 // the upper half falls from the mirror of that bin.
 template <class Element, int radix>
 struct RowBins {
-    using Place = typename InMemory<Element>::Type;
-
-    Place* low;
-    Place* high;
+    PlacesToWrite<Element> low;
+    PlacesToWrite<Element> high;
     std::ptrdiff_t step;
 
-    ZULG_INLINE Place* at(std::ptrdiff_t e) const { return e < radix / 2 ? low + step * e : high - step * e; }
+    ZULG_INLINE PlacesToWrite<Element> at(std::ptrdiff_t e) const {
+        return e < radix / 2 ? low + step * e : high - step * e;
+    }
 };
 
 // A row of r' bins, one of each short transform, to r' bins of the long one.
 template <class Numbers, class Element, int radix>
 struct CombinePorts : Dct4Ports<Numbers, Element> {
     using Base = Dct4Ports<Numbers, Element>;
-    using typename Base::Place, typename Base::Value;
+    using typename Base::Value;
 
-    const Place* entries;       // of the only step, or of the inner one
-    const Place* outerEntries;  // of the outer step
-    const Place* row;
+    PlacesToRead<Element> entries;       // of the only step, or of the inner one
+    PlacesToRead<Element> outerEntries;  // of the outer step
+    PlacesToRead<Element> row;
     RowBins<Element, radix> bins;
     std::ptrdiff_t toImaginary;
 
@@ -105,10 +103,10 @@ struct CombinePorts : Dct4Ports<Numbers, Element> {
 template <class Numbers, class Element>
 struct DirectPorts : Dct4Ports<Numbers, Element> {
     using Base = Dct4Ports<Numbers, Element>;
-    using typename Base::Place, typename Base::Value;
+    using typename Base::Value;
 
-    const Place* source;
-    Place* destination;
+    PlacesToRead<Element> source;
+    PlacesToWrite<Element> destination;
 
     ZULG_INLINE Value in(int n) const { return Base::read(source[n]); }
     ZULG_INLINE void out(int k, Value value) const { Base::write(destination[k], value); }

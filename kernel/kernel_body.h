@@ -5,9 +5,11 @@
 #include "kernel/families.h"
 #include "kernel/graphs.h"
 #include "kernel/kernel.h"
-#include "kernel/lane_ports.h"
 #include "kernel/ports.h"
 #include "kernel/scale.h"
+#ifdef ZULG_GNU_CPP
+#include "kernel/lane_ports.h"
+#endif
 
 namespace zulg {
 inline namespace ZULG_TARGET {
@@ -20,11 +22,13 @@ struct TextOf;
 template <Family family, class Text, class Element>
 struct PortsOf;
 
+#ifdef ZULG_GNU_CPP
 template <Family family, template <int> class TextInLanes, int length, class Element>
 struct PortsOf<family, TextInLanes<length>, Element> {
     using Type = LanePorts<TargetNumbers, Element, layoutOf<family>, length, family == Family::DFTInv_CToC,
                            isRealForward<family>>;
 };
+#endif
 
 template <int length, class Element>
 struct PortsOf<Family::DFTFwd_CToC, ComplexGraph<length>, Element> {
@@ -52,12 +56,11 @@ Status ZULG_CALL kernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
     using Graph = typename TextOf<family, length>::Type;
     using Factor = Scale<Element, length, Graph>;
 
-    return withScale<typename FlagsOf<family>::Flags, Factor>(
-        pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-            const typename PortsOf<family, Graph, Element>::Type io{{pSrc, pDst, scale}};
-            Graph::run(io);
-            io.finish();
-        });
+    return withScale<typename FlagsOf<family>::Flags, Factor>(pSrc, pDst, flag, [=](Element scale) ZULG_INLINE_LAMBDA {
+        const typename PortsOf<family, Graph, Element>::Type io{{pSrc, pDst, scale}};
+        Graph::run(io);
+        io.finish();
+    });
 }
 
 }  // namespace ZULG_TARGET

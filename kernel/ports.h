@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 
 #include "kernel/in_memory.h"
 #include "kernel/platform.h"
@@ -17,12 +18,11 @@ namespace zulg {
 template <class Numbers, class Element>
 struct Arrays {
     using Value = typename Numbers::Value;
-    using Place = typename InMemory<Element>::Type;
     template <class Graph>
     using Constants = typename Numbers::template Constants<Graph>;
 
-    const Place* source;
-    Place* destination;
+    PlacesToRead<Element> source;
+    PlacesToWrite<Element> destination;
     Value scale;
 
     ZULG_INLINE Value load(int place) const { return Numbers::template widened<Element>(source[place]); }
@@ -93,12 +93,12 @@ struct Slots {
 // take no floating-point register and leave the rest of the kernel as it is in the other layouts. Word by word: a zero
 // of eight bytes would claim space in the frame on 32-bit targets.
 template <Layout layout, int length, class Element>
-ZULG_INLINE void storeImaginaryZeros(typename InMemory<Element>::Type* bins) {
+ZULG_INLINE void storeImaginaryZeros(PlacesToWrite<Element> bins) {
     if constexpr (layout == Layout::CCS) {
         for (int slot : {1, length + 1}) {
             if (slot > 1 && length % 2 != 0) continue;
             const std::uint32_t zero = 0;
-            auto* const bytes = reinterpret_cast<char*>(bins + slot);
+            auto* const bytes = reinterpret_cast<char*>(&bins[slot]);
             for (std::size_t i = 0; i < sizeof(Element); i += sizeof zero) std::memcpy(bytes + i, &zero, sizeof zero);
         }
     }

@@ -54,7 +54,9 @@ constexpr bool isFlag(std::int32_t flag) {
 // Without the empty asm the compiler places the code of a refusal after the kernel, from where it jumps backwards to
 // the return. The test of the machine code forbids backward jumps, since they would be loops.
 ZULG_INLINE Status settled(Status status) {
+#ifdef ZULG_GNU_CPP
     asm volatile("" : "+r"(status));
+#endif
     return status;
 }
 

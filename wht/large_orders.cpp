@@ -6,13 +6,11 @@ namespace zulg {
 
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element* pBuffer) {
-    return whtChecked<order>(
-        pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-            withBuffer<order>(
-                pBuffer, [=](Element * buffer) __attribute__((always_inline)) {
-                    whtPasses<order, WhtBlockByBlock<TargetNumbers>>(pSrc, pDst, buffer, scale);
-                });
+    return whtChecked<order>(pSrc, pDst, flag, [=](Element scale) ZULG_INLINE_LAMBDA {
+        withBuffer<order>(pBuffer, [=](Element* buffer) ZULG_INLINE_LAMBDA {
+            whtPasses<order, WhtBlockByBlock<TargetNumbers>>(pSrc, pDst, buffer, scale);
         });
+    });
 }
 
 // clang-format off

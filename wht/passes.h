@@ -27,10 +27,9 @@ namespace zulg {
 template <class Element, class Numbers, int stride>
 struct WhtPorts {
     using Value = typename Numbers::Value;
-    using Place = typename InMemory<Element>::Type;
 
-    const Place* source;
-    Place* destination;
+    PlacesToRead<Element> source;
+    PlacesToWrite<Element> destination;
 
     ZULG_INLINE Value in(int n) const { return Numbers::template widened<Element>(source[n * stride]); }
     ZULG_INLINE void out(int k, Value value) const {

@@ -14,10 +14,9 @@ namespace zulg {
 // The buffer is part of the signature of all orders and is ignored here.
 template <int order, class Element>
 Status ZULG_CALL wht(const Element* pSrc, Element* pDst, std::int32_t flag, Element*) {
-    return whtChecked<order>(
-        pSrc, pDst, flag, [=](Element scale) __attribute__((always_inline)) {
-            WhtBlock<1 << order>::run(RealPorts<TargetNumbers, Element>{{pSrc, pDst, scale}});
-        });
+    return whtChecked<order>(pSrc, pDst, flag, [=](Element scale) ZULG_INLINE_LAMBDA {
+        WhtBlock<1 << order>::run(RealPorts<TargetNumbers, Element>{{pSrc, pDst, scale}});
+    });
 }
 
 // clang-format off

@@ -16,4 +16,4 @@ constinit const LibVersion version = {
 
 }  // namespace
 
-extern "C" [[gnu::visibility("default")]] const LibVersion* ZULG_CALL zulgenGetLibVersion() { return &version; }
+extern "C" ZULG_EXPORT const LibVersion* ZULG_CALL zulgenGetLibVersion() { return &version; }

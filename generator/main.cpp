@@ -63,9 +63,11 @@ std::map<std::string, std::string> allFiles() {
     }
     files["kernels/texts.cmake"] = gen::emitTexts(kernelTexts);
     files["boundary/slots.inc"] = gen::emitSlots(gen::allExports());
+    files["boundary/cpp_entries.inc"] = gen::emitEntries(gen::allExports());
     files["include/zulgenpx_routines.h"] = gen::emitRoutines(gen::allExports());
     files["include/zulgenpx_routines.hpp"] = gen::emitRoutineTables(gen::allExports());
     files["batch/slots.inc"] = gen::emitBatchSlots(gen::batchExports());
+    files["batch/cpp_entries.inc"] = gen::emitEntries(gen::batchExports());
     files["include/zulgenpx_batch_routines.h"] = gen::emitBatchRoutines(gen::batchExports());
     files["include/zulgenpx_batch_routines.hpp"] = gen::emitBatchRoutineTables(gen::batchExports());
     files["docs/catalogue.json"] = gen::catalogueJson(gen::allExports(), gen::batchExports(), counts);

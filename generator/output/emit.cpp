@@ -226,9 +226,23 @@ std::string prototype(const Export& entry) {
 
 std::string prototypes(const std::vector<Export>& exports) { return joined(exports, prototype, ""); }
 
+// The routine of an export as a macro takes it.
+std::string routineOf(const Export& entry) {
+    return "(" + entry.routine + "<" + joined(entry.routineParameters) + ">)";
+}
+
 // The beginning of a line of the slot table.
-std::string slot(const Export& entry) {
-    return "SLOT(" + entry.name + ", (" + entry.routine + "<" + joined(entry.routineParameters) + ">)";
+std::string slot(const Export& entry) { return "SLOT(" + entry.name + ", " + routineOf(entry); }
+
+// An entry: its name, its parameters, and what it calls with what.
+std::string entryInCpp(const Export& entry) {
+    std::vector<std::string> parameters, names;
+    for (const Argument& argument : entry.arguments) {
+        parameters.push_back(argument.declaration());
+        names.push_back(argument.name);
+    }
+    return "ENTRY(" + entry.name + ",\n      (" + joined(parameters) + "),\n      (" + joined(names) + "), " +
+           routineOf(entry) + ")\n";
 }
 
 }  // namespace
@@ -249,6 +263,12 @@ std::string emitBatchSlots(const std::vector<Export>& exports) {
         "   SLOT(exported name, routine), in the ASCII order of the names: the line's place from 0 is the slot. */\n";
     for (const Export& entry : exports) text += slot(entry) + ")\n";
     return text;
+}
+
+std::string emitEntries(const std::vector<Export>& exports) {
+    return "/* Written by `generate write`; do not edit. The rule: generator/output/exports.cpp.\n"
+           "   ENTRY(exported name, (parameters), (their names), routine), in the ASCII order of the names. */\n" +
+           joined(exports, entryInCpp, "");
 }
 
 std::string emitBatchRoutines(const std::vector<Export>& exports) {

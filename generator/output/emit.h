@@ -36,4 +36,7 @@ std::string emitRoutines(const std::vector<Export>& exports);
 std::string emitBatchSlots(const std::vector<Export>& exports);
 std::string emitBatchRoutines(const std::vector<Export>& exports);
 
+// boundary/cpp_entries.inc or batch/cpp_entries.inc: the entries of targets without assembler.
+std::string emitEntries(const std::vector<Export>& exports);
+
 }  // namespace gen

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
+
+#include "kernel/platform.h"
 
 namespace zulg {
 
@@ -11,17 +14,39 @@ struct Shape {
     std::int64_t distance;
 };
 
+constexpr std::uint64_t magnitude(std::int64_t x) {
+    return x < 0 ? 0 - static_cast<std::uint64_t>(x) : static_cast<std::uint64_t>(x);
+}
+
+// Whether a product or a sum is a number of 64 bits, and that number.
+constexpr bool hasProduct(std::int64_t a, std::int64_t b, std::int64_t* pProduct) {
+#ifdef ZULG_GNU_CPP
+    return !__builtin_mul_overflow(a, b, pProduct);
+#else
+    const bool isNegative = (a < 0) != (b < 0);
+    const std::uint64_t limit =
+        magnitude(isNegative ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max());
+    if (a != 0 && magnitude(b) > limit / magnitude(a)) return false;
+    const std::uint64_t product = magnitude(a) * magnitude(b);
+    *pProduct = static_cast<std::int64_t>(isNegative ? 0 - product : product);
+    return true;
+#endif
+}
+constexpr bool hasSum(std::int64_t a, std::int64_t b, std::int64_t* pSum) {
+#ifdef ZULG_GNU_CPP
+    return !__builtin_add_overflow(a, b, pSum);
+#else
+    *pSum = static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
+    return ((a ^ *pSum) & (b ^ *pSum)) >= 0;
+#endif
+}
+
 // Whether every place, counted in bytes, is a number of 64 bits. Elements and transforms are one at least.
 constexpr bool fits(Shape shape, std::int64_t elements, std::int64_t count, std::int64_t elementBytes) {
     std::int64_t last, first, place, bytes;
-    return !__builtin_mul_overflow(shape.step, elements - 1, &last) &&
-           !__builtin_mul_overflow(shape.distance, count - 1, &first) && !__builtin_add_overflow(last, first, &place) &&
-           !__builtin_mul_overflow(place, elementBytes, &bytes) &&
-           !__builtin_mul_overflow(last, elementBytes, &bytes) && !__builtin_mul_overflow(first, elementBytes, &bytes);
-}
-
-constexpr std::uint64_t magnitude(std::int64_t x) {
-    return x < 0 ? 0 - static_cast<std::uint64_t>(x) : static_cast<std::uint64_t>(x);
+    return hasProduct(shape.step, elements - 1, &last) && hasProduct(shape.distance, count - 1, &first) &&
+           hasSum(last, first, &place) && hasProduct(place, elementBytes, &bytes) &&
+           hasProduct(last, elementBytes, &bytes) && hasProduct(first, elementBytes, &bytes);
 }
 
 constexpr std::uint64_t greatestDivisor(std::uint64_t a, std::uint64_t b) {

@@ -20,10 +20,8 @@ enum class Placement { Beside, Behind };
 // slots of zeros have a place only if the layout is CCS: `hasZeros`.
 template <class Element>
 struct ManyArrays {
-    using Place = typename InMemory<Element>::Type;
-
-    const Place* source;
-    Place* destination;
+    PlacesToRead<Element> source;
+    PlacesToWrite<Element> destination;
     std::ptrdiff_t sourceStep, sourceDistance;
     std::ptrdiff_t destinationStep, destinationDistance;
     const std::ptrdiff_t* spectrum;
@@ -31,10 +29,22 @@ struct ManyArrays {
     Element scale;
 };
 
-// How many transforms are in the widest register of the level.
+// How many doubles are in the widest register of the level: 0 if no register has several numbers.
+template <class Numbers>
+constexpr int widestOf() {
+    if constexpr (requires { Numbers::widest; }) {
+        return Numbers::widest;
+    } else {
+        return 0;
+    }
+}
+inline constexpr bool hasLanes = widestOf<TargetNumbers>() != 0;
+
+// How many transforms a routine does at once.
 template <Family family, class Real>
-inline constexpr int copiesOf = TargetNumbers::widest* static_cast<int>(sizeof(double) / sizeof(Real)) /
-                                (isComplex<family> ? 2 : 1);
+inline constexpr int copiesOf = hasLanes ? widestOf<TargetNumbers>() * static_cast<int>(sizeof(double) / sizeof(Real)) /
+                                               (isComplex<family> ? 2 : 1)
+                                         : 1;
 
 template <class Element>
 using ManyRoutine = void (*)(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);

@@ -4,21 +4,33 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "batch/many_ports.h"
+#include "batch/one_ports.h"
 #include "kernel/families.h"
 #include "kernel/graphs.h"
 #include "kernel/kernel.h"
 #include "kernel/scale.h"
+#ifdef ZULG_GNU_CPP
+#include "batch/many_ports.h"
+#endif
 
 namespace zulg {
 inline namespace ZULG_TARGET {
 
 // The ports of a family.
+template <bool inLanes, Family family, int length, class Element, class Real, Placement placement>
+struct ManyPortsOf {
+    using Type = std::conditional_t<isComplex<family>, OneComplexPorts<Element, Real, family == Family::DFTInv_CToC>,
+                                    OneRealPorts<family, length, Element, Real>>;
+};
+#ifdef ZULG_GNU_CPP
 template <Family family, int length, class Element, class Real, Placement placement>
-using ManyPortsOf = std::conditional_t<
-    isComplex<family>,
-    ManyComplexPorts<Element, Real, copiesOf<family, Real>, placement, family == Family::DFTInv_CToC>,
-    ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>>;
+struct ManyPortsOf<true, family, length, Element, Real, placement> {
+    using Type = std::conditional_t<
+        isComplex<family>,
+        ManyComplexPorts<Element, Real, copiesOf<family, Real>, placement, family == Family::DFTInv_CToC>,
+        ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>>;
+};
+#endif
 
 // The text of a family and length: the build says it for each that it makes.
 template <Family family, int length>
@@ -27,7 +39,7 @@ struct ManyTextOf;
 template <Family family, int length, class Element, class Real, Placement placement>
 void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers) {
     using Text = typename ManyTextOf<family, length>::Type;
-    using Ports = ManyPortsOf<family, length, Element, Real, placement>;
+    using Ports = typename ManyPortsOf<hasLanes, family, length, Element, Real, placement>::Type;
     using Factors = FactorsByFlag<typename FlagsOf<family>::Flags, Scale<Element, length, Text>>;
     constexpr std::ptrdiff_t copies = copiesOf<family, Real>;
     arrays.scale = Factors::factors[flag >> 1];

@@ -14,13 +14,11 @@ namespace zulg {
 // `width` numbers to an element: 2 of complex arrays.
 template <class Element, int width>
 struct Gathered {
-    using Place = typename InMemory<Element>::Type;
-
-    static void copyIn(Element* buffer, const Place* place, std::int64_t step, std::int64_t elements) {
+    static void copyIn(Element* buffer, PlacesToRead<Element> place, std::int64_t step, std::int64_t elements) {
         for (std::int64_t k = 0; k < elements; ++k)
             for (int i = 0; i < width; ++i) buffer[k * width + i] = place[k * step * width + i];
     }
-    static void copyOut(const Element* buffer, Place* place, std::int64_t step, std::int64_t elements) {
+    static void copyOut(const Element* buffer, PlacesToWrite<Element> place, std::int64_t step, std::int64_t elements) {
         for (std::int64_t k = 0; k < elements; ++k)
             for (int i = 0; i < width; ++i) place[k * step * width + i] = buffer[k * width + i];
     }

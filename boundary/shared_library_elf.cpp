@@ -14,6 +14,10 @@ const void* findSymbol(SharedLibrary library, const char* name) { return dlsym(l
 
 void releaseLibrary(SharedLibrary library) { dlclose(library); }
 
-AllocatorSlots runtimeRoutines() { return {std::malloc, std::calloc, std::realloc, std::free}; }
+// The table is constant by its declaration: on AArch64 the compiler puts one of its own making into writable memory.
+AllocatorSlots runtimeRoutines() {
+    static constexpr AllocatorSlots routines = {std::malloc, std::calloc, std::realloc, std::free};
+    return routines;
+}
 
 }  // namespace zulg

@@ -1,16 +1,37 @@
-# What is built on which target. The generator and the tools are programs of the build machine; the other target takes
-# the generated text as it is committed.
-if(CMAKE_CROSSCOMPILING)
+# The target that is built, by its folder: that of the machine, or standard C++ for one that no folder is of.
+if(NOT DEFINED ZULG_TARGET)
+    string(TOLOWER "${CMAKE_SYSTEM_PROCESSOR}" processor)
+    if(CMAKE_SIZEOF_VOID_P EQUAL 8 AND processor MATCHES "^(x86_64|amd64)$" AND NOT APPLE)
+        set(ZULG_TARGET x86_64)
+    elseif(CMAKE_SIZEOF_VOID_P EQUAL 8 AND processor MATCHES "^(aarch64|arm64)$" AND NOT APPLE)
+        set(ZULG_TARGET aarch64)
+    else()
+        set(ZULG_TARGET generic)
+    endif()
+    if(WIN32)
+        set(ZULG_TARGET win64)
+        if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+            set(ZULG_TARGET x87)
+        endif()
+    endif()
+endif()
+set(target_folder ${PROJECT_SOURCE_DIR}/targets/${ZULG_TARGET})
+
+# What is built on which target. The generator and the tools are programs of the build machine, built beside the library
+# for it; the other targets take the generated text as it is committed.
+if(CMAKE_CROSSCOMPILING OR NOT ZULG_TARGET STREQUAL "x86_64")
     set(host_tools OFF)
 else()
     set(host_tools ON)
 endif()
 
-# The target that is built, by its folder.
-if(NOT DEFINED ZULG_TARGET)
-    set(ZULG_TARGET x86_64)
+# Timings, errors, the tests of the built file and of what is installed: where the target says what its machine code
+# may hold. Elsewhere the tests are those of results and of the boundary.
+if(EXISTS ${target_folder}/machine.py)
+    set(whole_suite ON)
+else()
+    set(whole_suite OFF)
 endif()
-set(target_folder ${PROJECT_SOURCE_DIR}/targets/${ZULG_TARGET})
 
 # A routine of 32-bit Windows removes its arguments itself, and its symbol ends in their bytes.
 if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)

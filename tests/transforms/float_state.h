@@ -1,9 +1,12 @@
 // The processor's floating-point settings, as a caller may have set them.
 #pragma once
 
+#include <cfenv>
 #include <cstdint>
 
 namespace test {
+
+#if defined(__i386__) || defined(__x86_64__)
 
 struct FloatState {
     std::uint16_t control;  // of the x87 unit
@@ -31,5 +34,22 @@ private:
     static void set(std::uint16_t control) { __asm__ volatile("fldcw %0" : : "m"(control)); }
     std::uint16_t before;
 };
+
+#else
+
+// Other processors have no registers wider than a double. What a caller can set is the direction of rounding.
+struct FloatState {
+    int control;
+    int tags;
+};
+
+inline FloatState floatState() { return {std::fegetround(), 0}; }
+
+class DoublePrecisionRegisters {
+public:
+    DoublePrecisionRegisters() {}
+};
+
+#endif
 
 }  // namespace test

@@ -1,11 +1,11 @@
 """Tells whether two builds of the library give the same bits, export by export.
 
-same_bits.py [--run PROGRAM] compare DIGESTS LIBRARY OTHER   prints the exports that differ; exit code 1 if any do
-same_bits.py [--run PROGRAM] check DIGESTS LIBRARY FILE [KIND ...]   the same against a committed list
-same_bits.py [--run PROGRAM] write DIGESTS LIBRARY FILE      accepts the library's bits as that list
+same_bits.py [--run WORD ...] compare DIGESTS LIBRARY OTHER   prints the exports that differ; exit code 1 if any do
+same_bits.py [--run WORD ...] check DIGESTS LIBRARY FILE [KIND ...]   the same against a committed list
+same_bits.py [--run WORD ...] write DIGESTS LIBRARY FILE      accepts the library's bits as that list
 
-DIGESTS is the program digests.cpp; PROGRAM runs it where the machine itself cannot. KIND is a kind of input: moderate,
-wide, zeros, extreme. A list leaves out the DCT-IV above 32 points: it hangs on each machine's own sine and cosine.
+DIGESTS is the program digests.cpp. Where the machine itself cannot run it, another program does, which is given word by
+word: --run PROGRAM --run ARGUMENT. KIND is a kind of input: moderate, wide, zeros, extreme. A list leaves out the DCT-IV above 32 points: it hangs on each machine's own sine and cosine.
 """
 import re
 import subprocess
@@ -39,8 +39,8 @@ def report(found, due, kinds):
 def main():
     words = sys.argv[1:]
     run = []
-    if words[:1] == ["--run"]:
-        run, words = [words[1]], words[2:]
+    while words[:1] == ["--run"]:
+        run, words = run + words[1:2], words[2:]
     if len(words) < 4 or words[0] not in ("compare", "check", "write"):
         sys.exit(__doc__.strip())
     verb, program, library, other, *kinds = words

@@ -20,6 +20,7 @@ packages_release=(git)                                  # what the checks before
 packages_packages=(dpkg-dev gzip lintian)               # what packages are made and checked with
 packages_win32=(g++-mingw-w64-i686-posix llvm clang lld debootstrap util-linux)
 packages_win64=(g++-mingw-w64-x86-64-posix llvm clang lld wine64 util-linux)
+packages_aarch64=(g++-aarch64-linux-gnu libc6-dev-arm64-cross qemu-user)
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s\n' "$*" >&2; exit 1; }

@@ -103,4 +103,17 @@ install(FILES ${debian_files}/libzulgenpx-7.0 DESTINATION share/lintian/override
 install(DIRECTORY python/zulgenpx DESTINATION lib/python3/dist-packages COMPONENT python EXCLUDE_FROM_ALL
     PATTERN __pycache__ EXCLUDE)
 
+# By this, pip and importlib.metadata know of the package. Python 3.11 and later can write it.
+if(Python3_VERSION VERSION_GREATER_EQUAL 3.11)
+    set(from_backend ${Python3_EXECUTABLE} -B -c)
+    execute_process(COMMAND ${from_backend} "import build_backend; print(build_backend.info_folder(), end='')"
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/python OUTPUT_VARIABLE info_folder COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(
+        COMMAND ${from_backend} "import build_backend, sys; sys.stdout.buffer.write(build_backend.metadata())"
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/python OUTPUT_FILE ${package_documents}/METADATA
+        COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${package_documents}/METADATA DESTINATION lib/python3/dist-packages/${info_folder} COMPONENT python
+        EXCLUDE_FROM_ALL)
+endif()
+
 include(CPack)

@@ -24,6 +24,7 @@ c++ -std=c++20 -Wall -Werror plan.cpp $(pkg-config --cflags --libs zulgenpx-stat
 ldd one | grep -q '/lib/x86_64-linux-gnu/libzulgenpx-7.0.so'
 printf '1\n2\n3\n4\n' | zulspectrum - --family hartley --length 4 --hop 4 --window none > table.txt; test -s table.txt
 python3 -c 'import numpy, zulgenpx; x = numpy.arange(15.0); assert numpy.allclose(zulgenpx.fft(x), numpy.fft.fft(x))'
+python3 -c 'import importlib.metadata as m; assert m.metadata("zulgenpx")["Name"] == "zulgenpx"'
 python3 -c 'import glob; assert glob.glob("/usr/lib/python3/dist-packages/zulgenpx/__pycache__/*")'
 zcat /usr/share/man/man3/zulgenpx.3.gz | grep -q '^.Dd'
 zcat /usr/share/man/man3/zulgDFTFwd_CToC_15_64fc.3.gz | grep -q '^.so man3/zulgenpx'

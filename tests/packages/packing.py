@@ -16,10 +16,11 @@ def done(*words, **options):
 
 
 def made_twice(tree, build, target):
-    """The files of one of two runs, which must be the same bytes."""
+    """The files of one of two runs, which must be the same bytes. The folders are this target's: packages of others may
+    be made at the same time."""
     made = []
     for name in ("first", "second"):
-        folder = pathlib.Path(build).resolve() / "packages" / name
+        folder = pathlib.Path(build).resolve() / "packages" / f"{target}-{name}"
         shutil.rmtree(folder, ignore_errors=True)
         done(f"{tree}/scripts/packages", "--built", target, env=dict(os.environ, ZULG_PACKAGES=str(folder)))
         made.append({path.name: path for path in (folder / target).iterdir()})

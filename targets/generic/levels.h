@@ -1,4 +1,4 @@
-// There is one level: each slot holds its routine.
+// There is one level, of one number to a register: each slot holds its routine.
 #pragma once
 
 #include "dct4/dct4.h"

@@ -152,9 +152,10 @@ void fewInSingle(const Request<family, float>& request, ManyRoutine<float> besid
 // The transforms of a request that has been checked: exact, or computed in single.
 template <Family family, class Element>
 void run(const Request<family, Element>& request) {
+    constexpr int width = Request<family, Element>::width;
     const std::int64_t done = request.template doMany<double>(routinesOf<family, Element, double>(request.length));
-    Element buffer[maxElements * request.width];
-    oneByOne<request.width>(
+    Element buffer[maxElements * width];
+    oneByOne<width>(
         request.from(done), request.source, request.to(done), request.destination, elementsOf<family>(request.length),
         request.count - done, buffer,
         [&](const Element* from, Element* to) { one<family>(from, to, request.length, request.flag); });

@@ -39,7 +39,8 @@ protected:
 
     template <class A, class B>
     static bool sameBytes(const A& a, const B& b) {
-        const auto bytesA = std::as_bytes(std::span{a}), bytesB = std::as_bytes(std::span{b});
+        const auto bytesA = std::as_bytes(std::span{a});
+        const auto bytesB = std::as_bytes(std::span{b});
         return bytesA.size() == bytesB.size() && std::memcmp(bytesA.data(), bytesB.data(), bytesA.size()) == 0;
     }
 

@@ -19,7 +19,12 @@ constexpr auto inverses = [] {
     return table;
 }();
 
+// clang takes no root while it compiles. Where it is used, no register is wider than the type.
+#ifdef __clang__
+const auto inverseRoots = [] {
+#else
 constexpr auto inverseRoots = [] {
+#endif
     std::array<double, most + 1> table{};
     for (int n = 1; n <= most; ++n) table[static_cast<std::size_t>(n)] = 1.0 / __builtin_sqrt(static_cast<double>(n));
     return table;

@@ -8,7 +8,7 @@ set(kernel_forms pairs)
 set(scalar_kernel_sources "")
 set(scalar_wht_sources "")
 set(kernel_compile_flags -O2 -fno-schedule-insns -fno-schedule-insns2 -flive-range-shrinkage -fno-tree-ter
-    --param=max-combine-insns=2)  # the same code, in a third of the time
+    --param=max-combine-insns=2)  # the same code, for the longest in less than half of the time
 set(short_kernel_steps 0)
 
 # The loops of the Walsh-Hadamard family and of the DCT-IV.

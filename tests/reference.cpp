@@ -20,19 +20,13 @@ Wide summed(int count, const Term& term) {
     return sum;
 }
 
-// The cosines and sines of all turns k/n, which are computed once for each n.
-struct Turns {
-    explicit Turns(int n) {
-        for (int k = 0; k < n; ++k) {
-            cosines.push_back(cosTurn(k, n));
-            sines.push_back(sinTurn(k, n));
-        }
-    }
-    Values cosines, sines;
-};
-const Turns& turnsOf(int n) {
-    static std::map<int, Turns> turns;
-    return turns.try_emplace(n, n).first->second;
+// turn(k, n) for each k from 0 to n - 1, computed once for each n.
+template <Wide (*turn)(int, int)>
+const Values& tableOf(int n) {
+    static std::map<int, Values> tables;
+    Values& table = tables[n];
+    for (int k = static_cast<int>(table.size()); k < n; ++k) table.push_back(turn(k, n));
+    return table;
 }
 
 }  // namespace
@@ -53,7 +47,7 @@ Wide casTurn(int k, int n) { return cosTurn(k, n) + sinTurn(k, n); }
 
 Values complexTransform(const Values& x, int sign) {
     const int length = static_cast<int>(x.size() / 2);
-    const auto& [cosines, sines] = turnsOf(length);
+    const Values &cosines = tableOf<cosTurn>(length), &sines = tableOf<sinTurn>(length);
     Values result;
     for (int k = 0; k < length; ++k) {
         Wide re = 0, im = 0;
@@ -98,13 +92,12 @@ Values inverseRealTransform(const Values& bins, int length) {
 
 Values hartleyTransform(const Values& x) {
     const int length = static_cast<int>(x.size());
-    const auto& [cosines, sines] = turnsOf(length);
+    const Values& factors = tableOf<casTurn>(length);
     Values result;
     for (int k = 0; k < length; ++k) {
         Wide sum = 0;
         for (int j = 0; j < length; ++j) {
-            const auto turn = static_cast<std::size_t>(j * k % length);
-            sum += x[static_cast<std::size_t>(j)] * (cosines[turn] + sines[turn]);
+            sum += x[static_cast<std::size_t>(j)] * factors[static_cast<std::size_t>(j * k % length)];
         }
         result.push_back(sum);
     }
@@ -134,9 +127,7 @@ Wide dct4Factor(int n, int k, int length) {
 
 Values dct4Transform(const Values& x, Chosen outputs) {
     const int length = static_cast<int>(x.size()), period = 8 * length;
-    static std::map<int, Values> tables;  // of every factor of a length
-    Values& cosines = tables[length];
-    for (int j = static_cast<int>(cosines.size()); j < period; ++j) cosines.push_back(cosTurn(j, period));
+    const Values& cosines = tableOf<cosTurn>(period);
     Values result;
     for (int k = outputs.first; k < length; k += outputs.step) {
         int turn = 2 * k + 1;  // (2n + 1)(2k + 1) modulo 8N
@@ -152,7 +143,7 @@ Values dct4Transform(const Values& x, Chosen outputs) {
 
 Values skewTransform(const Values& v, Chosen bins) {
     const int length = static_cast<int>(v.size()), period = 2 * length;
-    const auto& [cosines, sines] = turnsOf(period);
+    const Values &cosines = tableOf<cosTurn>(period), &sines = tableOf<sinTurn>(period);
     Values result;
     for (int k = bins.first; k < length / 2; k += bins.step) {
         Wide re = 0, im = 0;

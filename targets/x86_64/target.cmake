@@ -31,17 +31,7 @@ set(batch_behind_real_steps 0)
 set(batch_behind_complex_steps 800)
 set(batch_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
 
-set(common_link_flags
-    -nostartfiles                 # nothing but the load entry runs when the library is loaded
-    -Wl,-z,ibt,-z,shstk           # branch-target and shadow-stack marks, which need the note in entries.inc
-    -Wl,-z,relro,-z,now,-z,noexecstack
-    -Wl,--no-undefined,--build-id=none
-    -Wl,--strip-all)
-set(library_link_flags ${common_link_flags} -Wl,-init=zulgLoad)
-set(companion_link_flags ${common_link_flags})
-set(library_math m)  # sine and cosine, for the tables of the DCT-IV
-set(library_link_libraries ${library_math} ${CMAKE_DL_LIBS})
-set(library_platform_sources boundary/shared_library_elf.cpp boundary/load_elf.cpp)
+set(mark_link_flags -Wl,-z,ibt,-z,shstk)  # branch targets and shadow stacks, which need the note in entries.inc
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/elf.cmake)
 set(library_first_sources targets/x86_64/processor_level.cpp)  # its word is settled before all slots
 set(further_levels x86_64_v3)  # folders of targets/ whose kernels are in the library, too
-set(library_file_prefix "lib")

@@ -30,11 +30,12 @@ zcat /usr/share/man/man3/zulgenpx.3.gz | grep -q '^.Dd'
 zcat /usr/share/man/man3/zulgDFTFwd_CToC_15_64fc.3.gz | grep -q '^.so man3/zulgenpx'
 zcat /usr/share/man/man1/zulspectrum.1.gz | grep -q '^.Dd'
 grep -q 'zulgHartley_64_64f' /usr/share/zulgenpx/zulgenpx.pas
-for name in libzulgenpx-7.0 libzulgenpx-dev zulgenpx-tools python3-zulgenpx; do test -s /usr/share/doc/$name/copyright; done
+cd /usr/share/doc && test -s libzulgenpx-7.0/copyright && test -s libzulgenpx-dev/copyright
+cd /usr/share/doc && test -s zulgenpx-tools/copyright && test -s python3-zulgenpx/copyright
 """
 
 
-def common_file(tree, name):
+def setting(tree, name):
     """A value of scripts/common.sh."""
     return done("bash", "-c", f". {shlex.quote(str(tree))}/scripts/common.sh; printf %s \"${name}\"")
 
@@ -58,7 +59,7 @@ def without_most_members(package, folder):
 
 
 def needed_c_library(packages):
-    """The library's package names the least C library, since nothing else looks that up."""
+    """The library's package must name the oldest C library that it runs with: CPack does not look it up."""
     with tempfile.TemporaryDirectory() as folder:
         done("dpkg-deb", "-x", packages["libzulgenpx-7.0"], folder)
         libraries = sorted(pathlib.Path(folder).rglob("*.so"))
@@ -104,7 +105,7 @@ def main():
         shortened["libzulgenpx-dev"] = without_most_members(packages["libzulgenpx-dev"], pathlib.Path(folder))
         print(done("lintian", "--allow-root", "--fail-on", "error,warning", "--tag-display-limit", "0",
                    *shortened.values()) or "lintian: clean")
-    return 1 if used_in_root(tree, pathlib.Path(common_file(tree, "package_root")), packages) else 0
+    return 1 if used_in_root(tree, pathlib.Path(setting(tree, "package_root")), packages) else 0
 
 
 sys.exit(main())

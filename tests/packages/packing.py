@@ -2,17 +2,10 @@
 import os
 import pathlib
 import shutil
-import subprocess
 import sys
 
-
-def done(*words, **options):
-    """Runs a command and gives what it prints."""
-    ran = subprocess.run([str(word) for word in words], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                         stderr=subprocess.STDOUT, text=True, check=False, **options)
-    if ran.returncode != 0:
-        sys.exit(f"{' '.join(str(word) for word in words)}: exit code {ran.returncode}\n{ran.stdout}")
-    return ran.stdout
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "consumers"))
+from installation import done
 
 
 def made_twice(tree, build, target):

@@ -13,7 +13,7 @@ TEST(ExactCosine, IsThatOfAWiderType) {
     std::mt19937 random{static_cast<unsigned>(GTEST_FLAG_GET(random_seed))};
     std::uniform_real_distribution<double> uniform(0, 6.28);
     for (int i = 0; i < 2000; ++i) {
-        // In memory it is a double, where a register of the x87 keeps more digits than the functions are given.
+        // A register of the x87 would keep more digits than the functions are given. In memory this is a double.
         volatile double place = i % 2 == 0 ? uniform(random) : std::ldexp(uniform(random), -i % 30);
         const double x = place;
         const long double wide = x;

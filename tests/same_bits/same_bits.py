@@ -5,7 +5,8 @@ same_bits.py [--run WORD ...] check DIGESTS LIBRARY FILE [KIND ...]   the same a
 same_bits.py [--run WORD ...] write DIGESTS LIBRARY FILE      accepts the library's bits as that list
 
 DIGESTS is the program digests.cpp. Where the machine itself cannot run it, another program does, which is given word by
-word: --run PROGRAM --run ARGUMENT. KIND is a kind of input: moderate, wide, zeros, extreme. A list leaves out the DCT-IV above 32 points: it hangs on each machine's own sine and cosine.
+word: --run PROGRAM --run ARGUMENT. KIND is a kind of input: moderate, wide, zeros, extreme. A list leaves out the DCT-IV
+above 32 points, which depends on each machine's own sine and cosine.
 """
 import re
 import subprocess

@@ -3,7 +3,7 @@
 //
 //     zulgDCT4_64f 4096 moderate 1f3b...
 //
-// The tables of a plan hang on the cosine and the sine of the machine. Here the library builds a plan, and its tables
+// The tables of a plan depend on the cosine and the sine of the machine. Here the library builds a plan, and its tables
 // are replaced by given ones, which are the same everywhere: the library's own sources build them in this program, with
 // a cosine and a sine from integers. What the two disagree in is printed as an error if it is more than one unit of the
 // last place.
@@ -21,8 +21,8 @@
 #include "tests/same_bits/exact_cosine.h"
 #include "tests/transforms/float_state.h"
 
-// What the sources of the plan call in this program. The build hides the two, so that the library's own calls lead to the
-// mathematics library.
+// What the sources of the plan call in this program. The build hides the two, so that the library itself calls those of
+// the mathematics library.
 extern "C" {
 double cos(double x) noexcept { return test::exactCosine(x); }
 double sin(double x) noexcept { return test::exactSine(x); }

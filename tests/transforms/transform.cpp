@@ -19,7 +19,8 @@ constexpr auto inverses = [] {
     return table;
 }();
 
-// clang takes no root while it compiles. Where it is used, no register is wider than the type.
+// clang computes no square root while it compiles. On the processors that it is used for, no register is wider than the
+// type.
 #ifdef __clang__
 const auto inverseRoots = [] {
 #else

@@ -1,4 +1,4 @@
-# The manual pages, written into the folder `man` of the build and installed, for systems that have man.
+# The manual pages of the library, written into the folder `man` of the build and installed, for systems that have man.
 set(man_pages_folder ${PROJECT_BINARY_DIR}/man)
 file(GLOB man_pages_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/man/*.in
     ${PROJECT_SOURCE_DIR}/docs/man/parts/*.in ${PROJECT_SOURCE_DIR}/docs/man/examples/*.c)
@@ -10,4 +10,3 @@ add_custom_command(OUTPUT ${man_pages_folder}/man3/zulgenpx.3
     COMMENT "Writing the manual pages" VERBATIM)
 add_custom_target(man_pages ALL DEPENDS ${man_pages_folder}/man3/zulgenpx.3)
 install(DIRECTORY ${man_pages_folder}/man3 TYPE MAN COMPONENT documentation)
-install(DIRECTORY ${man_pages_folder}/man1 TYPE MAN COMPONENT tools)

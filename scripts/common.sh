@@ -10,7 +10,8 @@ win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
 # The one in which packages are installed and used.
 package_root=${ZULG_PACKAGE_ROOT:-/var/cache/zulgenpx/package-root}
 
-packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libcli11-dev libpng-dev python3
+packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libflac-dev libcli11-dev
+    libpng-dev nlohmann-json3-dev python3
     binutils ca-certificates qemu-user pkg-config python3-numpy python3-scipy python3-venv python3-pip)
 packages_demo=(alsa-utils)
 packages_abi=(abigail-tools)                            # what tests compare binary interfaces with

@@ -1,10 +1,14 @@
-// The colour map is computed in L*a*b* coordinates, where equal steps look equal: lightness is a straight line, the
-// hue turns from blue through red to yellow, and the colours are strongest in the middle.
+// Colour maps are computed in L*a*b* coordinates, where equal steps look equal: lightness is a straight line, the hue
+// turns from one angle to another, and the colours are strongest in the middle.
 #include "colour_map.h"
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <numbers>
+
+#include "numbers.h"
+#include "user_error.h"
 
 namespace spectrum {
 namespace {
@@ -31,14 +35,57 @@ Colour fromLab(double lightness, double a, double b) {
             displayByte(0.0557 * x - 0.2040 * y + 1.0570 * z)};
 }
 
+struct Map {
+    const char* name;
+    double dark, light;          // lightness at the levels 0 and 1
+    double firstHue, lastHue;    // in degrees: 20 is red, 90 yellow, 160 green, 290 blue
+    double weakest, strongest;   // strength of colour: at the ends, and what is added in the middle
+};
+
+constexpr Map maps[] = {
+    {"dusk", 4, 96, 290, 460, 12, 54},   // from blue through red to yellow
+    {"sea", 8, 94, 310, 105, 14, 42},    // from violet through green to yellow
+    {"grey", 0, 100, 0, 0, 0, 0},
+    {"paper", 100, 8, 0, 0, 0, 0},       // dark on white, for print
+    {"ink", 98, 12, 250, 290, 2, 38},    // dark blue on white
+};
+
+Colours makeColours(const Map& map) {
+    Colours made;
+    for (std::size_t i = 0; i < made.map.size(); ++i) {
+        const double level = static_cast<double>(i) / static_cast<double>(made.map.size() - 1);
+        const double lightness = map.dark + (map.light - map.dark) * level;
+        const double hue = (map.firstHue + (map.lastHue - map.firstHue) * level) * std::numbers::pi / 180;
+        const double strength =
+            map.weakest + map.strongest * std::pow(std::sin(std::numbers::pi * std::pow(level, 0.9)), 0.8);
+        made.map[i] = fromLab(lightness, strength * std::cos(hue), strength * std::sin(hue));
+    }
+    const bool isLight = map.dark > map.light;
+    made.background = isLight ? Colour{255, 255, 255} : Colour{20, 20, 26};
+    made.ink = isLight ? Colour{30, 30, 36} : Colour{214, 214, 222};
+    made.frameLine = isLight ? Colour{150, 150, 160} : Colour{96, 96, 108};
+    return made;
+}
+
 }  // namespace
 
-Colour colourOf(double level) {
+Colour Colours::at(double level) const {
     const double bounded = level > 0 ? std::min(level, 1.0) : 0.0;
-    const double lightness = 4 + 92 * bounded;
-    const double hue = (290 + 170 * bounded) * std::numbers::pi / 180;
-    const double strength = 12 + 54 * std::pow(std::sin(std::numbers::pi * std::pow(bounded, 0.9)), 0.8);
-    return fromLab(lightness, strength * std::cos(hue), strength * std::sin(hue));
+    return map[static_cast<std::size_t>(std::lround(bounded * static_cast<double>(map.size() - 1)))];
+}
+
+const Colours& coloursOf(const std::string& name) {
+    static std::map<std::string, Colours> made;
+    for (const Map& map : maps) {
+        if (name == map.name) return made.try_emplace(name, makeColours(map)).first->second;
+    }
+    throw UsageError("--colours " + shownWord(name) + ": no such map of colours; known: " + colourNames());
+}
+
+std::string colourNames() {
+    std::string names;
+    for (const Map& map : maps) names += (names.empty() ? "" : ", ") + std::string(map.name);
+    return names;
 }
 
 }  // namespace spectrum

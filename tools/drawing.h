@@ -22,6 +22,12 @@ public:
     static int textWidth(std::string_view letters);
     static constexpr int textHeight = 14;
 
+    int across() const { return width; }
+    int down() const { return height; }
+    Colour at(int x, int y) const {
+        return points[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+    }
+
     std::string png() const;
 
 private:

@@ -95,12 +95,25 @@ int binOfSignChanges(int changes, int length) {
 
 double ownMagnitude(ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); }
 
+void ownPowers(ConstBins bins, std::span<double> result) {
+    for (std::size_t k = 0; k < bins.size(); ++k) {
+        result[k] = bins[k].real() * bins[k].real() + bins[k].imag() * bins[k].imag();
+    }
+}
+
 // A Hartley bin is the sum of the cosine and the sine part of its frequency, the bin of the negative frequency their
 // difference; the two parts are those of the complex bin.
 double hartleyMagnitude(ConstBins bins, int bin) {
     const std::size_t k = static_cast<std::size_t>(bin);
     const double here = bins[k].real(), there = bins[(bins.size() - k) % bins.size()].real();
     return std::abs(std::complex(here + there, here - there)) / 2;
+}
+
+void hartleyPowers(ConstBins bins, std::span<double> result) {
+    for (std::size_t k = 0; k < bins.size(); ++k) {
+        const double here = bins[k].real(), there = bins[(bins.size() - k) % bins.size()].real();
+        result[k] = (here * here + there * there) / 2;
+    }
 }
 
 // For a forward and an inverse routine, which restore the input at the same flag, unless that is NoDivByAny.
@@ -125,6 +138,7 @@ constexpr Family families[] = {
         .shownCount = countToMiddle,
         .shownBin = inTheirOrder,
         .magnitude = ownMagnitude,
+        .powers = ownPowers,
         .restoringFlag = flagOfInverse,
         .single = {nullptr, nullptr, plain<Zulg32fc, zulgDFTFwd_CToC_32fc>, plain<Zulg32fc, zulgDFTInv_CToC_32fc>,
                    plainMany<Zulg32fc, zulgBatchDFTFwd_CToC_32fc, sameLength>},
@@ -144,6 +158,7 @@ constexpr Family families[] = {
         .shownCount = countToMiddle,
         .shownBin = inTheirOrder,
         .magnitude = ownMagnitude,
+        .powers = ownPowers,
         .restoringFlag = flagOfInverse,
         .single = {nullptr, nullptr, plain<Zulg32f, zulgDFTFwd_RToCCS_32f>, plain<Zulg32f, zulgDFTInv_CCSToR_32f>,
                    plainMany<Zulg32f, zulgBatchDFTFwd_RToCCS_32f, lengthOfCCS>},
@@ -162,6 +177,7 @@ constexpr Family families[] = {
         .shownCount = countToMiddle,
         .shownBin = inTheirOrder,
         .magnitude = hartleyMagnitude,
+        .powers = hartleyPowers,
         .restoringFlag = flagOfInvolution,
         .single = {nullptr, nullptr, plain<Zulg32f, zulgHartley_32f>, plain<Zulg32f, zulgHartley_32f>,
                    plainMany<Zulg32f, zulgBatchHartley_32f, sameLength>},
@@ -180,6 +196,7 @@ constexpr Family families[] = {
         .shownCount = all,
         .shownBin = binOfSignChanges,
         .magnitude = ownMagnitude,
+        .powers = ownPowers,
         .restoringFlag = flagOfInvolution,
         .single = {zulgBatchWHTGetBufferSize_32f, buffer, buffered<zulgWHT_32f>, buffered<zulgWHT_32f>,
                    bufferedMany<zulgBatchWHT_32f>},
@@ -198,6 +215,7 @@ constexpr Family families[] = {
         .shownCount = all,
         .shownBin = inTheirOrder,
         .magnitude = ownMagnitude,
+        .powers = ownPowers,
         .restoringFlag = [](std::int32_t flag) { return flag; },
         .single = {zulgDCT4GetSize_32f, plan<ZulgDCT4Plan_32f, zulgDCT4Init_32f>,
                    planned<ZulgDCT4Plan_32f, zulgDCT4_32f>, plannedInverse<ZulgDCT4Plan_32f, zulgDCT4_32f>,

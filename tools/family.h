@@ -55,6 +55,8 @@ struct Family {
     int (*shownBin)(int place, int length);
     // Gets all bins, since some families form a magnitude from several of them.
     double (*magnitude)(ConstBins bins, int bin);
+    // The squared magnitudes of all bins.
+    void (*powers)(ConstBins bins, std::span<double> result);
     // The scale flag with which the inverse restores what the forward transform with `flag` was given.
     std::int32_t (*restoringFlag)(std::int32_t flag);
     Routines<float> single;

@@ -3,20 +3,20 @@
 #include "frames.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <numbers>
 
 #include "user_error.h"
 
 namespace spectrum {
 
-Frames::Frames(Source& from, int length, int hopSamples)
+Frames::Frames(Source& from, int length, int hopSamples, std::int64_t first)
     : source(from), hop(static_cast<std::size_t>(hopSamples)), frame(static_cast<std::size_t>(length)) {
-    if (fill(0) < frame.size()) {
+    if (first > 0) count = source.skip(first * hopSamples);
+    const std::size_t got = fill(0);
+    if (first == 0 && got < frame.size()) {
         throw UserError(source.name + ": too few samples: " + std::to_string(count) + ", and one frame takes " +
                         std::to_string(length));
     }
+    ended = got < frame.size();
 }
 
 bool Frames::next() {
@@ -25,7 +25,7 @@ bool Frames::next() {
     if (hop < frame.size()) {
         std::copy(frame.begin() + static_cast<std::ptrdiff_t>(hop), frame.end(), frame.begin());
         kept = frame.size() - hop;
-    } else if (!skip(hop - frame.size())) {
+    } else if (!skip(static_cast<std::int64_t>(hop - frame.size()))) {
         return false;
     }
     const std::size_t got = fill(kept);
@@ -40,25 +40,16 @@ std::size_t Frames::fill(std::size_t from) {
     return got;
 }
 
-bool Frames::skip(std::size_t most) {
-    std::array<double, 4096> unused;
-    while (most > 0) {
-        const std::size_t got = source.read(std::span(unused).first(std::min(most, unused.size())));
-        count += static_cast<std::int64_t>(got);
-        most -= got;
-        if (got == 0) return false;
-    }
-    return true;
+bool Frames::skip(std::int64_t most) {
+    const std::int64_t got = source.skip(most);
+    count += got;
+    return got == most;
 }
 
-std::vector<double> windowWeights(Window window, int length) {
-    std::vector<double> weights(static_cast<std::size_t>(length), 1.0);
-    if (window == Window::None) return weights;
-    for (int i = 0; i < length; ++i) {
-        const double turn = 2 * std::numbers::pi * i / length;
-        weights[static_cast<std::size_t>(i)] = 0.5 - 0.5 * std::cos(turn);
-    }
-    return weights;
+std::int64_t frameCount(std::int64_t samples, int length, int hop) {
+    // After each frame but the last begins another: at a sample that exists, and that no frame before holds.
+    const std::int64_t beyondFirst = hop > length ? samples - 1 : samples - length + hop - 1;
+    return 1 + beyondFirst / hop;
 }
 
 }  // namespace spectrum

@@ -7,14 +7,13 @@
 #include <vector>
 
 #include "input.h"
-#include "options.h"
 
 namespace spectrum {
 
 class Frames {
 public:
-    // Reads the first frame. Throws UserError when the input is shorter.
-    Frames(Source& source, int length, int hop);
+    // Reads the first frame, or the frame of that number. Throws UserError when the input is shorter than one frame.
+    Frames(Source& source, int length, int hop, std::int64_t first = 0);
 
     std::span<const double> samples() const { return frame; }
     std::int64_t samplesRead() const { return count; }
@@ -25,7 +24,7 @@ public:
 
 private:
     std::size_t fill(std::size_t from);
-    bool skip(std::size_t most);
+    bool skip(std::int64_t most);
 
     Source& source;
     std::size_t hop;
@@ -34,6 +33,7 @@ private:
     bool ended = false;
 };
 
-std::vector<double> windowWeights(Window window, int length);
+// How many frames there are in so many samples, which are at least one frame.
+std::int64_t frameCount(std::int64_t samples, int length, int hop);
 
 }  // namespace spectrum

@@ -8,28 +8,60 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include "byte_stream.h"
 
 namespace spectrum {
+
+enum class DecimalMark { Point, Comma };
+
+// What is read, and how.
+struct InputOptions {
+    std::string path;  // "-" for standard input
+    int channel = 1;   // counted from 1; 0 is the mean of all
+    DecimalMark decimal = DecimalMark::Point;
+    bool allowsDamage = false;
+    std::optional<double> start, end;  // in seconds of sound, or in samples
+};
 
 class Source {
 public:
     virtual ~Source() = default;
 
     // Fills `out` from the front and returns how many samples it has filled in. These are fewer than asked for only at
-    // the end of the input. Throws UserError.
+    // the end of the input. Throws UserError, and DamagedInput unless damage is allowed.
     virtual std::size_t read(std::span<double> out) = 0;
+    // Leaves out samples and returns how many there were.
+    virtual std::int64_t skip(std::int64_t count);
 
     std::string name;                   // for messages
     bool isSound = false;               // otherwise plain numbers, whose rate is 1
     double rate = 1;                    // samples in one second
     std::optional<std::int64_t> total;  // samples, when known from the start
+    std::vector<std::string> warnings;  // about damage that is allowed
 };
 
-// `path` may be "-". A channel other than the first is refused for numbers. Throws UserError.
-std::unique_ptr<Source> openInput(const std::string& path, int channel);
+// The samples of the time range, of one channel. Throws UserError.
+std::unique_ptr<Source> openInput(const InputOptions& options);
 
-// The two kinds, for openInput.
-std::unique_ptr<Source> openSound(const std::string& path, int channel);
-std::unique_ptr<Source> openText(const std::string& path);
+// The kinds, for openInput. `name` is for messages; the descriptor is of a regular file and is closed by the source.
+std::unique_ptr<Source> openSound(const InputOptions& options, const std::string& name, int descriptor);
+std::unique_ptr<Source> openFlac(const InputOptions& options, const std::string& name, int descriptor);
+std::unique_ptr<Source> openText(const InputOptions& options, std::unique_ptr<ByteStream> stream);
+
+// Throws UserError when there is no such channel. Returns the first of them, counted from 0, and how many are taken.
+std::pair<std::size_t, std::size_t> chosenChannels(const InputOptions& options, const std::string& name, int channels);
+
+// Takes the mean of `chosen` neighbours out of each frame of interleaved channels. Throws UserError at the first that
+// is infinite or not a number; `position` is that of the first frame in the file.
+void takeChannel(const double* interleaved, std::size_t channels, std::pair<std::size_t, std::size_t> chosen,
+                 std::span<double> out, std::int64_t position, const std::string& name);
+
+// What to say of damage, and what it means for the run: throws DamagedInput unless that is allowed. The good samples are
+// counted from the start; nothing is said where it cannot be known which are good.
+void reportDamage(Source& source, const InputOptions& options, const std::string& what,
+                  std::optional<std::int64_t> goodSamples);
 
 }  // namespace spectrum

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "json.h"
 #include "user_error.h"
 
 namespace spectrum {
@@ -47,12 +48,16 @@ std::string line(const std::string& name, const std::vector<std::string>& slots,
     return text + '\n';
 }
 
+void expectLength(int length) {
+    if (length < 2 || length > longestLayout) {
+        throw UsageError("layout " + std::to_string(length) + ": lengths are 2 to " + std::to_string(longestLayout));
+    }
+}
+
 }  // namespace
 
 std::string layoutText(int length) {
-    if (length < 2 || length > longestLayout) {
-        throw UserError("layout " + std::to_string(length) + ": lengths are 2 to " + std::to_string(longestLayout));
-    }
+    expectLength(length);
     const std::vector<Layout> layouts = layoutsOf(length);
     const std::size_t most = layouts[0].slots.size();  // none has more slots than CCS
     std::vector<std::string> numbers;
@@ -67,6 +72,13 @@ std::string layoutText(int length) {
         }
     }
     return text;
+}
+
+std::string layoutJson(int length) {
+    expectLength(length);
+    Json json{{"length", length}};
+    for (const Layout& layout : layoutsOf(length)) json[layout.name] = layout.slots;
+    return jsonText(json);
 }
 
 }  // namespace spectrum

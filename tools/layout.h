@@ -11,5 +11,7 @@ inline constexpr int longestLayout = 64;
 // below. R3 is the real part of bin 3, I3 its imaginary part, and 0 a slot that holds zero.
 // Throws UserError when the length is not one of 2 to longestLayout.
 std::string layoutText(int length);
+// For programs: the slots of each layout in their order.
+std::string layoutJson(int length);
 
 }  // namespace spectrum

@@ -1,21 +1,20 @@
-// The spectrogram: time to the right, frequency or sequency upward, level as colour. A column shows the mean power of
-// its frames. The number of columns is bounded: when it is reached, neighbours are merged, and each column has twice as
-// many frames from then on. Bins share a row in the same way where there are more of them than pixels.
+// The spectrogram: time to the right, frequency or sequency upward, level as colour. A scene of rectangles and words is
+// laid out once, and written as PNG or as SVG.
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "drawing.h"
+#include "levels.h"
+#include "numbers.h"
+#include "scene.h"
 #include "sink.h"
 
 namespace spectrum {
 namespace {
 
 constexpr int marginLeft = 72, marginTop = 40, marginRight = 112, marginBottom = 44;
-constexpr int fewestPixelsAcross = 768, mostColumns = 2 * fewestPixelsAcross;
+constexpr int fewestPixelsAcross = 768, standardColumns = 2 * fewestPixelsAcross;
 constexpr int pixelsDown = 512;
-constexpr double shownDecibels = 80;
-constexpr Colour background{20, 20, 26}, ink{214, 214, 222}, frameLine{96, 96, 108};
 
 // The distance from one tick of an axis to the next: a round number that makes at most `most` steps.
 double roundStep(double range, int most) {
@@ -27,144 +26,107 @@ double roundStep(double range, int most) {
     return 10 * decade;
 }
 
-std::string label(double value) {
-    char digits[40];
-    return std::string(digits, std::to_chars(digits, digits + sizeof digits, value, std::chars_format::general, 6).ptr);
-}
-
 class PictureSink : public Sink {
 public:
-    PictureSink(const Heading& head, OutputFile& out)
+    PictureSink(const Heading& head, OutputFile* out)
         : heading(head),
           file(out),
-          places(head.options.family->shownCount(head.options.length)),
-          placesPerRow((places + pixelsDown - 1) / pixelsDown),
-          rows((places + placesPerRow - 1) / placesPerRow) {}
+          colours(coloursOf(head.options.picture.colours)),
+          levels(head.family(), head.framing().length, pixelsDown,
+                 head.options.picture.columns > 0 ? head.options.picture.columns : standardColumns, head.frames) {}
 
-    void add(std::int64_t, const Bins& bins) override {
-        if (framesInLast == framesPerColumn || columns == 0) startColumn();
-        ++framesInLast;
-        for (int place = 0; place < places; ++place) {
-            const double magnitude = heading.magnitude(bins, binAt(place));
-            const int row = place / placesPerRow;
-            power[index(columns - 1, row)] +=
-                magnitude * magnitude / std::min(placesPerRow, places - row * placesPerRow);
-        }
-    }
+    void add(std::int64_t, ConstBins bins) override { levels.add(bins); }
+    std::string takePiece() override { return levels.takeColumns(); }
+    void addPiece(std::string_view piece, std::int64_t frames) override { levels.addColumns(piece, frames); }
+    std::int64_t pieceStep() const override { return levels.framesInColumn(); }
 
     void finish() override {
-        const double missing = static_cast<double>(framesPerColumn) / static_cast<double>(framesInLast);
-        for (int k = 0; k < rows; ++k) power[index(columns - 1, k)] *= missing;
-        columnPixels = (fewestPixelsAcross + columns - 1) / columns;
-        rowPixels = pixelsDown / rows;
-        plotWidth = columns * columnPixels;
-        plotHeight = rows * rowPixels;
-        Drawing drawing(marginLeft + plotWidth + marginRight, marginTop + plotHeight + marginBottom, background);
-        drawing.fill(marginLeft - 2, marginTop - 2, plotWidth + 4, plotHeight + 4, frameLine);
-        drawLevels(drawing);
-        drawTimeAxis(drawing);
-        drawBinAxis(drawing);
-        drawScale(drawing);
-        file.write(drawing.png());
+        levels.finish();
+        columnPixels = (fewestPixelsAcross + levels.columns() - 1) / levels.columns();
+        rowPixels = pixelsDown / levels.rows();
+        plotWidth = levels.columns() * columnPixels;
+        plotHeight = levels.rows() * rowPixels;
+        Scene scene(marginLeft + plotWidth + marginRight, marginTop + plotHeight + marginBottom, colours.background);
+        scene.fill(marginLeft - 2, marginTop - 2, plotWidth + 4, plotHeight + 4, colours.frameLine);
+        addLevels(scene);
+        addTimeAxis(scene);
+        addBinAxis(scene);
+        addScale(scene);
+        file->write(heading.options.format == Format::Svg ? scene.svg() : scene.png());
     }
 
 private:
-    std::size_t index(int column, int row) const {
-        return static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) + static_cast<std::size_t>(row);
-    }
+    double decibelsShown() const { return heading.options.picture.decibels; }
 
-    int binAt(int place) const { return heading.options.family->shownBin(place, heading.options.length); }
-
-    void startColumn() {
-        if (columns == mostColumns) {
-            columns /= 2;
-            framesPerColumn *= 2;
-            for (int c = 0; c < columns; ++c) {
-                for (int k = 0; k < rows; ++k) {
-                    power[index(c, k)] = power[index(2 * c, k)] + power[index(2 * c + 1, k)];
-                }
+    void addLevels(Scene& scene) const {
+        Drawing cells(levels.columns(), levels.rows(), {});
+        for (int c = 0; c < levels.columns(); ++c) {
+            for (int k = 0; k < levels.rows(); ++k) {
+                cells.fill(c, levels.rows() - 1 - k, 1, 1, colours.at(1 + levels.decibels(c, k) / decibelsShown()));
             }
         }
-        framesInLast = 0;
-        power.resize(index(++columns, 0));
-        std::fill(power.begin() + static_cast<std::ptrdiff_t>(index(columns - 1, 0)), power.end(), 0.0);
+        scene.picture(marginLeft, marginTop, columnPixels, rowPixels, std::move(cells));
     }
 
-    void drawLevels(Drawing& drawing) const {
-        double strongest = 0;
-        for (double value : power) {
-            if (std::isfinite(value)) strongest = std::max(strongest, value);
-        }
-        for (int c = 0; c < columns; ++c) {
-            for (int k = 0; k < rows; ++k) {
-                const double decibels = 10 * std::log10(power[index(c, k)] / strongest);
-                drawing.fill(marginLeft + c * columnPixels, marginTop + (rows - 1 - k) * rowPixels, columnPixels,
-                             rowPixels, colourOf(1 + decibels / shownDecibels));
-            }
-        }
-    }
-
-    void drawTimeAxis(Drawing& drawing) const {
-        const double range = heading.time(columns * framesPerColumn);
+    void addTimeAxis(Scene& scene) const {
+        const double range = heading.time(levels.framesShown());
         const double step = roundStep(range, 8);
         const int top = marginTop + plotHeight + 2;
         for (int i = 0; i * step <= range * (1 + 1e-9); ++i) {
             const int x = marginLeft + static_cast<int>(std::lround(i * step / range * plotWidth));
-            const std::string number = label(i * step);
-            drawing.fill(x, top, 2, 6, ink);
-            drawing.text(x + 1 - Drawing::textWidth(number) / 2, top + 12, number, ink);
+            scene.fill(x, top, 2, 6, colours.ink);
+            scene.text(x + 1, top + 12, Align::Middle, shortLabel(i * step), colours.ink);
         }
         const char* const unit = heading.isSound ? "s" : "samples";
-        drawing.text(marginLeft + plotWidth + 24, top + 12, unit, ink);
+        scene.text(marginLeft + plotWidth + 24, top + 12, Align::Left, unit, colours.ink);
     }
 
-    void drawBinAxis(Drawing& drawing) const {
+    void addBinAxis(Scene& scene) const {
         // Positions rise evenly from one shown bin to the next. The tick of a position is at the middle of its bin.
+        const int places = levels.places();
+        const auto positionAt = [&](int place) { return heading.position(levels.binAt(place)); };
         const bool ofSound = heading.isSound && heading.showsFrequency();
-        const bool inKilohertz = ofSound && heading.position(binAt(places - 1)) >= 1000;
+        const bool inKilohertz = ofSound && positionAt(places - 1) >= 1000;
         const double unit = inKilohertz ? 1000 : 1;
-        const double first = heading.position(binAt(0)) / unit;
-        const double each = places > 1 ? heading.position(binAt(1)) / unit - first : 1;
+        const double first = positionAt(0) / unit;
+        const double each = places > 1 ? positionAt(1) / unit - first : 1;
         const double range = each * places, leastStep = heading.showsFrequency() ? 0 : 1;
         const double step = std::max(roundStep(range, 10), leastStep);
         for (int i = 0; i * step <= first + range - each / 2 + 1e-9 * range; ++i) {
-            const double row = ((i * step - first) / each + 0.5) / placesPerRow;
+            const double row = ((i * step - first) / each + 0.5) / levels.placesInRow();
             const int y = marginTop + plotHeight - static_cast<int>(std::lround(row * rowPixels));
-            const std::string number = label(i * step);
-            drawing.fill(marginLeft - 8, y - 1, 6, 2, ink);
-            drawing.text(marginLeft - 14 - Drawing::textWidth(number), y - Drawing::textHeight / 2, number, ink);
+            scene.fill(marginLeft - 8, y - 1, 6, 2, colours.ink);
+            scene.text(marginLeft - 14, y - Drawing::textHeight / 2, Align::Right, shortLabel(i * step), colours.ink);
         }
         const char* const frequencyUnit = inKilohertz ? "kHz" : ofSound ? "Hz" : "cycles/sample";
-        drawing.text(10, 10, heading.showsFrequency() ? frequencyUnit : "sequency", ink);
+        scene.text(10, 10, Align::Left, heading.showsFrequency() ? frequencyUnit : "sequency", colours.ink);
     }
 
-    void drawScale(Drawing& drawing) const {
+    void addScale(Scene& scene) const {
         const int left = marginLeft + plotWidth + 24, width = 18;
-        drawing.fill(left - 2, marginTop - 2, width + 4, plotHeight + 4, frameLine);
-        for (int y = 0; y < plotHeight; ++y) {
-            drawing.fill(left, marginTop + y, width, 1, colourOf(1 - (y + 0.5) / plotHeight));
+        scene.fill(left - 2, marginTop - 2, width + 4, plotHeight + 4, colours.frameLine);
+        Drawing shades(1, plotHeight, {});
+        for (int y = 0; y < plotHeight; ++y) shades.fill(0, y, 1, 1, colours.at(1 - (y + 0.5) / plotHeight));
+        scene.picture(left, marginTop, width, 1, std::move(shades));
+        const double step = roundStep(decibelsShown(), 4);
+        for (int i = 0; i * step <= decibelsShown() * (1 + 1e-9); ++i) {
+            const int y = marginTop + static_cast<int>(std::lround(i * step / decibelsShown() * plotHeight));
+            scene.fill(left + width + 2, y - 1, 6, 2, colours.ink);
+            scene.text(left + width + 14, y - Drawing::textHeight / 2, Align::Left, shortLabel(-i * step), colours.ink);
         }
-        for (int decibels = 0; decibels <= static_cast<int>(shownDecibels); decibels += 20) {
-            const int y = marginTop + static_cast<int>(std::lround(decibels / shownDecibels * plotHeight));
-            drawing.fill(left + width + 2, y - 1, 6, 2, ink);
-            drawing.text(left + width + 14, y - Drawing::textHeight / 2, label(-decibels), ink);
-        }
-        drawing.text(left, 10, "dB", ink);
+        scene.text(left, 10, Align::Left, "dB", colours.ink);
     }
 
     const Heading& heading;
-    OutputFile& file;
-    int places, placesPerRow, rows;
-    int columns = 0;
-    std::int64_t framesPerColumn = 1;
-    std::int64_t framesInLast = 0;
-    std::vector<double> power;  // column by column: the sum over the frames of a column
+    OutputFile* file;
+    const Colours& colours;
+    Levels levels;
     int columnPixels = 0, rowPixels = 0, plotWidth = 0, plotHeight = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Sink> makePictureSink(const Heading& heading, OutputFile& file) {
+std::unique_ptr<Sink> makePictureSink(const Heading& heading, OutputFile* file) {
     return std::make_unique<PictureSink>(heading, file);
 }
 

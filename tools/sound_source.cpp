@@ -1,10 +1,11 @@
-// Samples of one channel of a sound file, through libsndfile. Integer samples come scaled to the range -1 .. 1, as
-// that library does it.
+// Samples of one channel of a sound file, or their mean over all, through libsndfile. Integer samples come scaled to
+// the range -1 .. 1, as that library does it.
 #include <sndfile.h>
+#include <unistd.h>
 
 #include <algorithm>
-#include <vector>
 
+#include "container.h"
 #include "input.h"
 #include "user_error.h"
 
@@ -13,35 +14,47 @@ namespace {
 
 class SoundSource : public Source {
 public:
-    SoundSource(const std::string& path, int channel) {
-        name = printable(path);
-        file.reset(sf_open(path.c_str(), SFM_READ, &info));
+    SoundSource(const InputOptions& given, const std::string& shownName, int descriptor) : options(given) {
+        name = shownName;
+        const std::string damage = damageOf(descriptor);
+        lseek(descriptor, 0, SEEK_SET);
+        file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
         if (!file) {
-            const int error = sf_error(nullptr);
-            if (error == SF_ERR_SYSTEM) throw UserError("cannot read " + name + ": " + sf_strerror(nullptr));
-            throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
-        }
-        if (channel > info.channels) {
-            throw UserError("--channel " + std::to_string(channel) + ": " + name + " has " +
-                            (info.channels == 1 ? "1 channel" : std::to_string(info.channels) + " channels"));
+            const std::string reason = printable(sf_strerror(nullptr));
+            close(descriptor);
+            if (!damage.empty()) throw DamagedInput(name + ": the file is damaged: " + damage + "; samples that are good: 0");
+            if (!isSoundFile) throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
+            throw UserError(name + ": the sound cannot be read: " + reason);
         }
         isSound = true;
         rate = info.samplerate;
-        if (info.frames < SF_COUNT_MAX) total = info.frames;
-        chosen = static_cast<std::size_t>(channel - 1);
+        if (info.samplerate < 1) throw UserError(name + ": the sound has no sample rate");
+        if (info.frames >= 0 && info.frames < SF_COUNT_MAX) total = info.frames;
+        if (!damage.empty()) reportDamage(*this, options, damage, total.value_or(0));
+        chosen = chosenChannels(options, name, info.channels);
         block.resize(blockFrames * static_cast<std::size_t>(info.channels));
     }
 
     std::size_t read(std::span<double> out) override {
         std::size_t count = 0;
+        const std::size_t channels = static_cast<std::size_t>(info.channels);
         while (count < out.size() && (next < filled || fill())) {
             const std::size_t some = std::min(out.size() - count, filled - next);
-            const std::size_t stride = static_cast<std::size_t>(info.channels);
-            for (std::size_t i = 0; i < some; ++i) out[count + i] = block[(next + i) * stride + chosen];
+            takeChannel(block.data() + next * channels, channels, chosen, out.subspan(count, some),
+                        delivered - static_cast<std::int64_t>(filled - next), name);
             count += some;
             next += some;
         }
         return count;
+    }
+
+    // Far ahead without decoding; back to the plain way where the file cannot do that.
+    std::int64_t skip(std::int64_t wanted) override {
+        if (delivered == 0 && info.seekable && total && sf_seek(file.get(), std::min(wanted, *total), SF_SEEK_SET) >= 0) {
+            delivered = std::min(wanted, *total);
+            return delivered;
+        }
+        return Source::skip(wanted);
     }
 
 private:
@@ -50,30 +63,46 @@ private:
     };
     static constexpr std::size_t blockFrames = 8192;
 
+    std::string damageOf(int descriptor) {
+        std::unique_ptr<std::FILE, int (*)(std::FILE*)> bytes(fdopen(dup(descriptor), "rb"), std::fclose);
+        if (!bytes) throw UserError("cannot read " + name + ": " + systemReason());
+        char start[12];
+        const std::size_t count = std::fread(start, 1, sizeof start, bytes.get());
+        isSoundFile = !containerName({start, count}).empty();
+        return damageOfContainer(bytes.get());
+    }
+
     bool fill() {
+        if (ended) return false;
         const sf_count_t got = sf_readf_double(file.get(), block.data(), blockFrames);
         delivered += got;
         // A damaged file must not pass for a shorter one.
         if (got == 0 && (sf_error(file.get()) != SF_ERR_NO_ERROR || (total && delivered < *total))) {
-            throw UserError(name + ": the sound cannot be read beyond sample " + std::to_string(delivered));
+            const std::string reason = sf_error(file.get()) != SF_ERR_NO_ERROR
+                                           ? std::string(sf_strerror(file.get()))
+                                           : std::to_string(*total) + " samples are announced";
+            ended = true;
+            reportDamage(*this, options, "it ends before its time: " + printable(reason), delivered);
         }
         filled = static_cast<std::size_t>(got);
         next = 0;
         return got > 0;
     }
 
+    InputOptions options;
     std::unique_ptr<SNDFILE, Closer> file;
     SF_INFO info{};
-    std::size_t chosen = 0;
+    bool isSoundFile = false, ended = false;
+    std::pair<std::size_t, std::size_t> chosen;
     std::vector<double> block;  // interleaved, as the file holds it
     std::size_t next = 0, filled = 0;
-    sf_count_t delivered = 0;
+    std::int64_t delivered = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Source> openSound(const std::string& path, int channel) {
-    return std::make_unique<SoundSource>(path, channel);
+std::unique_ptr<Source> openSound(const InputOptions& options, const std::string& name, int descriptor) {
+    return std::make_unique<SoundSource>(options, name, descriptor);
 }
 
 }  // namespace spectrum

@@ -1,11 +1,7 @@
-// Real numbers from text, in a file or on standard input. Bytes are taken one by one from a block and lines are
-// counted, since the message about a wrong word names its line.
-#include <array>
-#include <cerrno>
+// Real numbers from text, in a file or on standard input. Letters are taken one by one and lines are counted, since the
+// message about a wrong word names its line. UTF-16 is read where a byte-order mark says so.
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstring>
 
 #include "input.h"
 #include "user_error.h"
@@ -15,12 +11,14 @@ namespace {
 
 class TextSource : public Source {
 public:
-    explicit TextSource(const std::string& path)
-        : file(path == "-" ? stdin : std::fopen(path.c_str(), "rb"), [](std::FILE* open) {
-              if (open && open != stdin) std::fclose(open);
-          }) {
-        name = path == "-" ? "standard input" : printable(path);
-        if (!file) throw UserError("cannot read " + name + ": " + std::strerror(errno));
+    TextSource(const InputOptions& options, std::unique_ptr<ByteStream> given)
+        : bytes(std::move(given)), mark(options.decimal == DecimalMark::Comma ? ',' : '.') {
+        name = bytes->name();
+        const std::string_view start = bytes->held();
+        if (start.starts_with("\xef\xbb\xbf")) bytes->take(3);
+        if (start.starts_with("\xff\xfe")) width = Width::LittleEndian;
+        if (start.starts_with("\xfe\xff")) width = Width::BigEndian;
+        if (width != Width::Byte) bytes->take(2);
     }
 
     std::size_t read(std::span<double> out) override {
@@ -30,67 +28,97 @@ public:
     }
 
 private:
-    static constexpr std::size_t longestWord = 1000;
+    enum class Width { Byte, LittleEndian, BigEndian };
+    static constexpr std::size_t longestWord = 1 << 20;
+    static constexpr int noLetter = 0xff;  // stands for all that is beyond ASCII
 
-    // The next byte, or EOF.
+    // The next letter, or EOF.
     int peek() {
-        if (next == filled) {
-            filled = std::fread(block.data(), 1, block.size(), file.get());
-            next = 0;
-            if (std::ferror(file.get())) throw UserError("cannot read " + name + ": " + std::strerror(errno));
-            if (filled == 0) return EOF;
-        }
-        return static_cast<unsigned char>(block[next]);
+        if (width == Width::Byte) return bytes->peek();
+        if (letter != nothing) return letter;
+        const int first = bytes->peek();
+        if (first == EOF) return letter = EOF;
+        bytes->step();
+        const int second = bytes->peek();
+        if (second == EOF) throw UserError(where() + "the text ends within a letter of UTF-16");
+        bytes->step();
+        const int high = width == Width::BigEndian ? first : second, low = width == Width::BigEndian ? second : first;
+        return letter = high == 0 ? low : noLetter;
     }
 
-    static bool separates(int letter) {
-        return letter == ' ' || letter == ',' || (letter >= '\t' && letter <= '\r');
+    void step() {
+        if (width == Width::Byte) bytes->step();
+        letter = nothing;
+    }
+
+    bool separates(int one) const {
+        return one == ' ' || (one == ',' && mark == '.') || one == ';' || (one >= '\t' && one <= '\r');
     }
 
     void skipSeparators() {
         bool inComment = false;
-        for (int letter = peek(); letter != EOF; letter = peek()) {
-            if (letter == '#') inComment = true;
-            if (letter == '\n') inComment = false;
-            if (!inComment && !separates(letter)) return;
-            line += letter == '\n';
-            ++next;
+        for (int one = peek(); one != EOF; one = peek()) {
+            if (one == '#') inComment = true;
+            if (one == '\n') inComment = false;
+            if (!inComment && !separates(one)) return;
+            line += one == '\n';
+            step();
         }
     }
 
     bool takeWord() {
         skipSeparators();
         word.clear();
-        for (int letter = peek(); letter != EOF && letter != '#' && !separates(letter); letter = peek()) {
-            word += static_cast<char>(letter);
-            ++next;
-            if (word.size() > longestWord) break;
+        for (int one = peek(); one != EOF && one != '#' && !separates(one); one = peek()) {
+            if (word.size() == longestWord) {
+                throw UserError(where() + "'" + printable(word, 40) + "' is longer than " +
+                                std::to_string(longestWord) + " letters");
+            }
+            word += static_cast<char>(one);
+            step();
         }
         return !word.empty();
     }
 
-    double numberOfWord() const {
+    double numberOfWord() {
+        const std::string shown = "'" + printable(word, 40) + "' is ";
+        if (mark == ',') {
+            for (char& one : word) {
+                if (one == '.') throw UserError(where() + shown + "not a number with a decimal comma");
+                if (one == ',') one = '.';
+            }
+        }
         const char* start = word.data();
         const char* const end = start + word.size();
         // std::from_chars accepts a minus sign but no plus sign.
         if (word.size() > 1 && word[0] == '+' && word[1] != '-') ++start;
         double number = 0;
         const auto [rest, error] = std::from_chars(start, end, number);
-        const std::string where = name + ", line " + std::to_string(line) + ": '" + printable(word, 40) + "' is ";
-        if (error == std::errc::result_out_of_range) throw UserError(where + "beyond the range of a number");
-        if (error != std::errc{} || rest != end || !std::isfinite(number)) throw UserError(where + "not a number");
+        if (error == std::errc::result_out_of_range && rest == end) {
+            throw UserError(where() + shown + "beyond the range of a number");
+        }
+        if (error != std::errc{} || rest != end || !std::isfinite(number)) {
+            throw UserError(where() + shown + "not a number");
+        }
         return number;
     }
 
-    std::unique_ptr<std::FILE, void (*)(std::FILE*)> file;
-    std::array<char, 65536> block;
-    std::size_t next = 0, filled = 0;
+    std::string where() const { return name + ", line " + std::to_string(line) + ": "; }
+
+    static constexpr int nothing = -2;
+
+    std::unique_ptr<ByteStream> bytes;
+    char mark;
+    Width width = Width::Byte;
+    int letter = nothing;  // that is looked at and not taken, of UTF-16
     std::int64_t line = 1;
     std::string word;
 };
 
 }  // namespace
 
-std::unique_ptr<Source> openText(const std::string& path) { return std::make_unique<TextSource>(path); }
+std::unique_ptr<Source> openText(const InputOptions& options, std::unique_ptr<ByteStream> stream) {
+    return std::make_unique<TextSource>(options, std::move(stream));
+}
 
 }  // namespace spectrum

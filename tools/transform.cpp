@@ -62,38 +62,38 @@ std::string sizesOf(const Family& family, Ways ways) {
     return (family.sizes == Sizes::Orders ? "the orders " : "") + list;
 }
 
-std::string sizeWords(const Options& options) {
-    return options.byOrder ? "--order " + std::to_string(options.size) : "--length " + std::to_string(options.length);
+std::string sizeWords(const Framing& framing) {
+    return framing.byOrder ? "--order " + std::to_string(framing.size) : "--length " + std::to_string(framing.length);
 }
 
-std::string whyMissing(const Options& options) {
-    const Family& family = *options.family;
-    if (options.byOrder) return "no transform of this order";
-    if (family.sizes != Sizes::Lengths && !isPowerOfTwo(options.length)) return "not a power of two";
-    if (family.sizes == Sizes::PowersOfTwo && options.length > longestFrame) return "too long for one frame";
+std::string whyMissing(const Framing& framing) {
+    const Family& family = *framing.family;
+    if (framing.byOrder) return "no transform of this order";
+    if (family.sizes != Sizes::Lengths && !isPowerOfTwo(framing.length)) return "not a power of two";
+    if (family.sizes == Sizes::PowersOfTwo && framing.length > longestFrame) return "too long for one frame";
     return "no transform of this length";
 }
 
-// Returns the options, so that an initializer can check them before it uses them.
-const Options& checked(const Options& options) {
-    const Family& family = *options.family;
-    if (exists(family, options.size, Ways::There)) return options;
-    throw UserError(sizeWords(options) + ": " + whyMissing(options) + "; the " + std::string(family.name) +
+// Returns the framing, so that an initializer can check it before it uses it.
+const Framing& checked(const Framing& framing) {
+    const Family& family = *framing.family;
+    if (exists(family, framing.size, Ways::There)) return framing;
+    throw UsageError(sizeWords(framing) + ": " + whyMissing(framing) + "; the " + std::string(family.name) +
                     " family has " + sizesOf(family, Ways::There));
 }
 
 // The two directions need not have the same sizes.
-void expectWayBack(const Options& options) {
-    const Family& family = *options.family;
-    if (exists(family, options.size, Ways::Both)) return;
-    throw UserError("--check at " + sizeWords(options) + ": " + whyMissing(options) +
+void expectWayBack(const Framing& framing, const std::string& purpose) {
+    const Family& family = *framing.family;
+    if (exists(family, framing.size, Ways::Both)) return;
+    throw UsageError(purpose + " at " + sizeWords(framing) + ": " + whyMissing(framing) +
                     " back to the samples; both ways, the " + std::string(family.name) + " family has " +
                     sizesOf(family, Ways::Both));
 }
 
-std::variant<Prepared<float>, Prepared<double>> preparedFor(const Options& options) {
-    if (options.precision == Precision::Single) return Prepared<float>(options);
-    return Prepared<double>(options);
+std::variant<Prepared<float>, Prepared<double>> preparedFor(const Framing& framing) {
+    if (framing.precision == Precision::Single) return Prepared<float>(framing);
+    return Prepared<double>(framing);
 }
 
 // Converts complex values to plain numbers and back: both parts of each value, or the real part alone.
@@ -116,20 +116,30 @@ void unflatten(const std::vector<T>& numbers, int numbersInValue, Bins& values) 
     }
 }
 
+// A sample that does not fit makes infinite bins too.
+template <typename T>
+void expectFinite(const std::vector<T>& bins) {
+    T none = 0;
+    for (T value : bins) none += value * 0;  // 0, or not a number
+    if (none == 0) return;
+    throw UserError(std::is_same_v<T, float> ? "the samples or their spectrum are beyond the range of 32 bits; --precision 64 has a wider one"
+                                             : "the spectrum is beyond the range of 64 bits");
+}
+
 }  // namespace
 
 template <typename T>
-Prepared<T>::Prepared(const Options& options)
-    : family(*options.family),
+Prepared<T>::Prepared(const Framing& framing)
+    : family(*framing.family),
       routines(routinesOf<T>(family)),
-      call{options.size, options.flag, nullptr},
-      samplesInFrame(static_cast<std::size_t>(options.length)),
-      numbersInBins(static_cast<std::size_t>(family.binCount(options.length) * family.numbersInBin)) {
+      call{framing.size, framing.flag, nullptr},
+      samplesInFrame(static_cast<std::size_t>(framing.length)),
+      numbersInBins(static_cast<std::size_t>(family.binCount(framing.length) * family.numbersInBin)) {
     makeRoom(1);
     if (routines.workspaceBytes) makeWorkspace();
     // Transforms silence once, so that the library can refuse the flag.
     const ZulgStatus status = routines.forward(points.data(), bins.data(), call);
-    if (status == StatusFlagError) throw UserError("--flag " + std::to_string(call.flag) + ": " + statusText(status));
+    if (status == StatusFlagError) throw UsageError("--flag " + std::to_string(call.flag) + ": " + statusText(status));
     expectOk(status);
 }
 
@@ -160,11 +170,12 @@ void Prepared<T>::forward(std::span<const double> samples, Bins& result) {
         if (family.numbersInPoint == 2) *point++ = 0;
     }
     expectOk(routines.forwardMany(points.data(), bins.data(), call, static_cast<std::int64_t>(frames)));
+    expectFinite(bins);
     unflatten(bins, family.numbersInBin, result);
 }
 
 template <typename T>
-void Prepared<T>::inverse(const Bins& given, Bins& result) {
+void Prepared<T>::inverse(ConstBins given, Bins& result) {
     makeRoom(1);
     flatten(given, family.numbersInBin, bins);
     const Call back{call.size, family.restoringFlag(call.flag), call.workspace};
@@ -172,16 +183,57 @@ void Prepared<T>::inverse(const Bins& given, Bins& result) {
     unflatten(points, family.numbersInPoint, result);
 }
 
-Transform::Transform(const Options& options) : prepared(preparedFor(checked(options))) {
-    if (options.check) expectWayBack(options);
+template <typename T>
+void Prepared<T>::fill(std::size_t frames) {
+    makeRoom(frames);
+    for (std::size_t i = 0; i < points.size(); ++i) points[i] = static_cast<T>(i % 7) - 3;
+}
+
+template <typename T>
+void Prepared<T>::repeatOne() {
+    expectOk(routines.forward(points.data(), bins.data(), call));
+}
+
+template <typename T>
+void Prepared<T>::repeatAll() {
+    expectOk(routines.forwardMany(points.data(), bins.data(), call,
+                                  static_cast<std::int64_t>(bins.size() / numbersInBins)));
+}
+
+void expectTransform(const Framing& framing) { checked(framing); }
+
+std::vector<int> lengthsOf(const Family& family) {
+    std::vector<int> lengths;
+    for (int length = 1; length <= longestFrame; ++length) {
+        const bool isOrder = family.sizes == Sizes::Orders;
+        if (family.sizes != Sizes::Lengths && !isPowerOfTwo(length)) continue;
+        if (exists(family, isOrder ? std::countr_zero(static_cast<unsigned>(length)) : length, Ways::There)) {
+            lengths.push_back(length);
+        }
+    }
+    return lengths;
+}
+
+Transform::Transform(const Framing& framing, const char* purpose) : prepared(preparedFor(checked(framing))) {
+    if (purpose) expectWayBack(framing, purpose);
 }
 
 void Transform::forward(std::span<const double> samples, Bins& bins) {
     std::visit([&](auto& transform) { transform.forward(samples, bins); }, prepared);
 }
 
-void Transform::inverse(const Bins& bins, Bins& points) {
+void Transform::inverse(ConstBins bins, Bins& points) {
     std::visit([&](auto& transform) { transform.inverse(bins, points); }, prepared);
+}
+
+void Transform::fill(std::size_t frames) {
+    std::visit([&](auto& transform) { transform.fill(frames); }, prepared);
+}
+void Transform::repeatOne() {
+    std::visit([](auto& transform) { transform.repeatOne(); }, prepared);
+}
+void Transform::repeatAll() {
+    std::visit([](auto& transform) { transform.repeatAll(); }, prepared);
 }
 
 void RelativeError::add(std::span<const double> samples, const Bins& points) {

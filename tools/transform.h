@@ -20,11 +20,16 @@ using Bins = std::vector<std::complex<double>>;
 template <typename T>
 class Prepared {
 public:
-    explicit Prepared(const Options& options);
+    explicit Prepared(const Framing& framing);
 
     // As many frames as the samples are; the bins of the frames are one after the other, too.
     void forward(std::span<const double> samples, Bins& bins);
-    void inverse(const Bins& bins, Bins& points);
+    void inverse(ConstBins bins, Bins& points);
+
+    // For timing: numbers for so many frames, and the transforms of the first of them and of all.
+    void fill(std::size_t frames);
+    void repeatOne();
+    void repeatAll();
 
 private:
     struct Release {
@@ -44,17 +49,29 @@ private:
 
 class Transform {
 public:
-    // Throws UserError, in the words of the option that asks for it, when there is no such transform.
-    explicit Transform(const Options& options);
+    // Throws UserError, in the words of the option that asks for it, when there is no such transform, or, where the
+    // inverse is wanted for `purpose`, no inverse.
+    explicit Transform(const Framing& framing, const char* purpose = nullptr);
 
-    // Of one frame or of several, one after the other.
+    // Of one frame or of several, one after the other. Throws UserError when a number is beyond the precision.
     void forward(std::span<const double> samples, Bins& bins);
     // Has the scale that restores what forward was given.
-    void inverse(const Bins& bins, Bins& points);
+    void inverse(ConstBins bins, Bins& points);
+
+    // As those of Prepared.
+    void fill(std::size_t frames);
+    void repeatOne();
+    void repeatAll();
 
 private:
     std::variant<Prepared<float>, Prepared<double>> prepared;
 };
+
+// Throws UsageError when there is no such transform.
+void expectTransform(const Framing& framing);
+
+// All lengths of a family, in rising order.
+std::vector<int> lengthsOf(const Family& family);
 
 // How far the points that an inverse transform gave are from the samples: the root of the summed squared error over
 // the root of the summed squares, over all frames.

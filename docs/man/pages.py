@@ -1,4 +1,4 @@
-"""Writes the manual pages: one for each family of routines and for the tool, from the texts beside this file and from
+"""Writes the manual pages: one for each family of routines, from the texts beside this file and from
 docs/catalogue.json, and for each exported name a page of one line that leads to its family.
 
 pages.py CATALOGUE OUTPUT_FOLDER
@@ -216,11 +216,10 @@ def main():
     source, output = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
     made = pages(json.loads(source.read_text(encoding="ascii")),
                  version_of(source.parent.parent / "include" / "zulgenpx.h"))
-    for folder in ("man1", "man3"):
-        (output / folder).mkdir(parents=True, exist_ok=True)
-        for old in (output / folder).iterdir():
-            if f"{folder}/{old.name}" not in made:
-                old.unlink()
+    (output / "man3").mkdir(parents=True, exist_ok=True)
+    for old in (output / "man3").iterdir():
+        if f"man3/{old.name}" not in made:
+            old.unlink()
     for path, text in made.items():
         (output / path).write_text(text, encoding="ascii")
 

@@ -170,30 +170,42 @@ def check_examples(page, args, folder):
     return len(programs)
 
 
+def tone_file(path, seconds):
+    path.parent.mkdir(exist_ok=True)
+    with wave.open(str(path), "wb") as file:
+        file.setnchannels(1)
+        file.setsampwidth(2)
+        file.setframerate(8000)
+        file.writeframes(bytes((i * i // 40) % 251 for i in range(16000)) * seconds)
+
+
 def check_tool(page, tool, folder):
-    """The options of the page are those of --help; the commands of its examples run."""
+    """The options of the page are those of --help of the program and of each command; the examples run, in their order."""
     code, text = output_of(tool, "--help")
-    due = set(re.findall(r"^ +(?:-h,)?(--[a-z]+)", text, re.M))
-    found = {"--" + name for name in re.findall(r"^\.It .*?Fl Fl ([a-z]+)", page.plain, re.M)}
-    if code != 0 or not due or due != found:
+    commands = re.findall(r"^  ([a-z]+) +[A-Z]", text.partition("Commands;")[2], re.M)
+    due = set()
+    for words in [[], *([command] for command in commands)]:
+        code, text = output_of(tool, *words, "--help")
+        due |= set(re.findall(r"(?:^ +|,)(--[a-z-]+)", text.partition("Options:")[2].partition("\n\n")[0], re.M))
+        if code != 0 or (words and f".Ss {words[0]}\n" not in page.text):
+            fail(page.where, f"does not have the command {words}")
+    found = {"--" + name for name in re.findall(r"Fl Fl ([a-z-]+)", page.text)}
+    if len(commands) < 8 or not due or due != found:
         fail(page.where, f"options that differ from those of --help: {sorted(due ^ found)}")
-    families = re.search(r"--family NAME=complex +Transform family: (.*?) \(", text)
-    for family in families.group(1).split(", "):
-        if f".It Cm {family}\n" not in page.plain:
-            fail(page.where, f"does not have the family {family}")
-    for name in ("voice.wav", "voice.flac"):  # the reader goes by the content
-        with wave.open(str(folder / name), "wb") as file:
-            file.setnchannels(1)
-            file.setsampwidth(2)
-            file.setframerate(8000)
-            file.writeframes(bytes((i * i // 40) % 251 for i in range(8000)))
-    commands = re.findall(r"^\.Dl (.*zulspectrum .*)$", page.plain, re.M)
-    for command in commands:
+    # The reader of sounds goes by the content, not by the name.
+    for name, seconds in (("voice.wav", 1), ("concert.flac", 70), ("recordings/a.wav", 1), ("recordings/b.flac", 2)):
+        tone_file(folder / name, seconds)
+    (folder / "numbers.txt").write_text(" ".join(str(i * i % 17) for i in range(4096)), encoding="ascii")
+    lines = page.plain.replace("\\(aq", "'").splitlines()
+    examples = [line for line in lines if re.match(r"(zulspectrum|seq) ", line)]
+    for example in examples:
+        if " completion " in example:
+            example = example.partition(" >")[0]  # where it goes is a matter of the system
         path = os.path.dirname(tool) + os.pathsep + os.environ["PATH"]
-        code, said = output_of("sh", "-c", command, cwd=folder, env=dict(os.environ, PATH=path))
+        code, said = output_of("sh", "-c", example, cwd=folder, env=dict(os.environ, PATH=path))
         if code != 0:
-            fail(page.where, f"{command} ends with {code}: {said}")
-    if len(commands) < 5:
+            fail(page.where, f"{example} ends with {code}: {said}")
+    if len(examples) < 14:
         fail(page.where, "has lost its examples")
 
 
@@ -202,7 +214,7 @@ def check_writer(args, pages_folder, folder):
     script = pathlib.Path(args.source) / "docs/man/pages.py"
     catalogue = pathlib.Path(args.source) / "docs/catalogue.json"
     code, text = output_of(sys.executable, "-B", str(script), str(catalogue), str(folder / "again"))
-    both = [{path.relative_to(root): path.read_bytes() for path in root.rglob("*.[13]")}
+    both = [{path.relative_to(root): path.read_bytes() for path in root.glob("man3/*.3")}
             for root in (pages_folder, folder / "again")]
     if code != 0 or both[0] != both[1]:
         differ = [str(path) for path in both[0].keys() | both[1].keys() if both[0].get(path) != both[1].get(path)]
@@ -232,6 +244,7 @@ def main():
     pages = {f"{path.parent.name}/{path.name}": Page(path) for path in pages_folder.glob("man[13]/*.[13]")}
     own = {where: page for where, page in pages.items() if not page.text.startswith(".so ")}
     known = names | CORE | headers.files | set(LIBRARIES) | {pathlib.Path(where).stem for where in own}
+    known |= {"zulspectrum-batch.jsonl", "zulspectrum.fish"}  # files of the tool
     known |= {form for page in own.values() for form, _ in page.prototypes()}
     examples = 0
     with tempfile.TemporaryDirectory(prefix="man-", dir=args.build) as name:

@@ -50,6 +50,7 @@ constexpr Family familyOf(Sizes sizes, Routines<float> single, Routines<double> 
         .shownCount = [](int length) { return length; },
         .shownBin = [](int place, int) { return place; },
         .magnitude = [](ConstBins bins, int bin) { return std::abs(bins[static_cast<std::size_t>(bin)]); },
+        .powers = [](ConstBins, std::span<double>) {},
         .restoringFlag = [](std::int32_t flag) { return flag; },
         .single = single,
         .wide = wide,
@@ -65,10 +66,10 @@ constexpr Family powers =
 constexpr Family orders = familyOf(Sizes::Orders, lengths.single, lengths.wide);
 
 // The message, which is empty where there is such a transform.
-std::string refusal(Options options) {
-    options.precision = Precision::Double;
+std::string refusal(Framing framing, bool check) {
+    framing.precision = Precision::Double;
     try {
-        const Transform transform(options);
+        const Transform transform(framing, check ? "--check" : nullptr);
     } catch (const UserError& error) {
         return error.what();
     }
@@ -76,22 +77,21 @@ std::string refusal(Options options) {
 }
 
 std::string refusal(int length, bool check, std::int32_t flag = DivInvByN, const Family& family = lengths) {
-    Options options{};
-    options.family = &family;
-    options.length = options.size = length;
-    options.flag = flag;
-    options.check = check;
-    return refusal(options);
+    Framing framing{};
+    framing.family = &family;
+    framing.length = framing.size = length;
+    framing.flag = flag;
+    return refusal(framing, check);
 }
 
 std::string refusalOfOrder(int order, int length, bool byOrder) {
-    Options options{};
-    options.family = &orders;
-    options.length = length;
-    options.size = order;
-    options.byOrder = byOrder;
-    options.flag = NoDivByAny;
-    return refusal(options);
+    Framing framing{};
+    framing.family = &orders;
+    framing.length = length;
+    framing.size = order;
+    framing.byOrder = byOrder;
+    framing.flag = NoDivByAny;
+    return refusal(framing, false);
 }
 
 TEST(MissingLength, IsReportedWithTheLengthsThatExist) {

@@ -542,10 +542,10 @@ class Sounds(ToolTest):
         path = self.path("tone.txt", sound_files.wav([[1000] * 64]))
         self.assertEqual(float(self.table(path)[0]["re"]), 64 * 1000 / 32768)
 
-    def test_not_a_number_goes_through(self):
-        path = self.path("nan.wav", sound_files.wav([[0.5, math.nan] * 40], bits=32, floating=True))
-        self.assertEqual(self.table(path, "--length", 8)[0]["re"].lstrip("-"), "nan")
-        sound_files.png_rows(self.ok(path, "--length", 8, "--format", "png"))
+    def test_samples_that_are_no_numbers(self):
+        for value, says in ((math.nan, "not a number"), (math.inf, "infinite"), (-math.inf, "infinite")):
+            path = self.path("odd.wav", sound_files.wav([[0.5, 0.25] * 4000 + [value, 0.5]], bits=32, floating=True))
+            self.refused(path, "--length", 8, says=["odd.wav", "sample 8000 is " + says])
 
     def test_memory_does_not_grow_with_the_input(self):
         head = sound_files.wav([[0] * 8], bits=8)
@@ -725,8 +725,8 @@ class Layouts(ToolTest):
         self.refused("layout", says="N is required")
         self.refused("layout", "4", "5", says="5")
         self.refused("layout", "4", "--check", says="--check")
-        self.refused("--length", "8", "layout", "4", says=["layout", "--length"])
-        self.refused("-", "layout", "4", says=["layout", "INPUT"], given=b"1 2 3 4 " * 16)
+        self.refused("--length", "8", "layout", "4", says=["layout", "first word", "./layout"])
+        self.refused("-", "layout", "4", says=["layout", "first word", "./layout"], given=b"1 2 3 4 " * 16)
         with open("/dev/full", "wb") as full:
             self.refused("layout", "8", stdout=full, says="cannot write standard output")
 
@@ -734,7 +734,7 @@ class Layouts(ToolTest):
         folder = self.folder.name
         self.path("layout", b"1 2 3 4")
         done = run("./layout", "--length", 4, "--output", "layout", cwd=folder)
-        self.assertEqual(done.returncode, 1)
+        self.assertEqual(done.returncode, 2)
         self.assertIn(b"--output layout: that is the input itself", done.stderr)
         done = run("-", "--length", 4, "--format", "csv", "--output", "layout", given=b"1 2 3 4", cwd=folder)
         self.assertEqual((done.returncode, done.stderr), (0, b""))
@@ -836,13 +836,13 @@ class Errors(ToolTest):
             self.refused(path, says=["cannot read", "Permission denied"])
 
     def test_unsupported_input(self):
-        for content in (bytes(range(256)) * 8, b"\x7fELF" + bytes(200), b"RIFF\x10\0\0\0WAVEjunk" + bytes(8)):
+        for content in (bytes(range(256)) * 8, b"\x7fELF" + bytes(200)):
             self.refused(self.path("strange.wav", content), says=["strange.wav", "neither a sound file"])
 
     def test_wrong_numbers_are_reported_with_their_line(self):
         path = self.path("numbers.txt", b"1 2\n# three\n\n3 4, five 6\n")
         self.refused(path, "--length", 2, says=["numbers.txt, line 4: 'five' is not a number"])
-        for word in ("0x10", "1.5.2", "nan", "inf", "--1", "+-1", "1e", "+", "\x01\x02", "x" * 2000, "1;2", "é"):
+        for word in ("0x10", "1.5.2", "nan", "inf", "--1", "+-1", "1e", "+", "\x01\x02", "x" * 2000, "é"):
             line = self.refused("-", "--length", 2, given=("1\n2\n" + word).encode(), says=["line 3", "not a number"])
             self.assertLess(len(line), 150)
         for word in ("1e999", "7" * 2000):
@@ -850,10 +850,11 @@ class Errors(ToolTest):
                          says=["line 1: '" + word[:40], "beyond the range"])
 
     def test_too_few_samples(self):
-        self.refused("-", "--length", 16, given=b"", says=["too few samples: 0", "takes 16"])
+        self.refused("-", "--length", 16, given=b"", says="standard input: it is empty")
+        self.refused("-", "--length", 16, given=b"# nothing", says=["too few samples: 0", "takes 16"])
         self.refused("-", "--length", 16, given=b"1 2 3", says=["too few samples: 3", "takes 16"])
         self.refused(self.path("empty"), says="No such file")
-        self.refused(self.path("empty", b""), says="too few samples: 0")
+        self.refused(self.path("empty", b""), says="empty: it is empty")
         self.refused(self.path("short.wav", sound_files.wav([[1] * 63])), says=["short.wav", "too few samples: 63"])
 
     def test_channels(self):
@@ -862,7 +863,7 @@ class Errors(ToolTest):
 
     def test_damaged_sound_is_refused(self):
         data = sound_files.flac([round(9000 * math.sin(i)) for i in range(2048)])
-        self.refused(self.path("cut.flac", data[:len(data) // 2]), says=["cut.flac", "cannot be read beyond sample"])
+        self.refused(self.path("cut.flac", data[:len(data) // 2]), says=["cut.flac", "damaged", "samples that are good: 768"])
 
     def test_output_that_cannot_be_written(self):
         given = b"1 2 3 4 " * 64

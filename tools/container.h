@@ -1,0 +1,17 @@
+// What a sound file says about its own size. Libraries that read sound take a file that is cut off for a shorter one,
+// so the headers are compared with the bytes that there are.
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+namespace spectrum {
+
+// The name of the container that the first bytes announce, such as "WAV", or nothing.
+std::string containerName(std::string_view firstBytes);
+
+// What is wrong with the sizes, or with the pages of an Ogg file, in words, or nothing when all is whole or when the
+// container says nothing about its size. Leaves the position in the file anywhere.
+std::string damageOfContainer(std::FILE* file);
+
+}  // namespace spectrum

@@ -2,6 +2,8 @@
 //
 //     mdct FILE [N]      N bins to a frame, a power of two from 2 to 65536; 1024 if not given
 //
+// The file is read as zulspectrum reads it: a damaged one is refused with exit status 3.
+//
 // Frames of 2N samples overlap by half. A frame is weighted with a sine window and cut in quarters a, b, c, d, which
 // are folded to the N values (-c' - d, a - b'), where ' is reversal: their DCT-IV is the spectrum of the frame. The way
 // back unfolds to (a - b', b - a', c + d', d + c') and weights once more. The reversed quarters have opposite signs in
@@ -10,14 +12,15 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <numbers>
-#include <sndfile.hh>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "tools/input.h"
+#include "tools/numbers.h"
+#include "tools/user_error.h"
 #include "zulgenpx.h"
 
 namespace {
@@ -71,7 +74,7 @@ using DoubleMdct = Mdct<double, ZulgDCT4Plan_64f, zulgDCT4InitAlloc_64f, zulgDCT
 
 // Transforms and restores the samples, and prints how large the errors are and where the energy is.
 template <typename AnyMdct>
-bool runOver(const std::vector<double>& samples, int N, int rate, double bound) {
+bool runOver(const std::vector<double>& samples, int N, double rate, double bound) {
     using T = typename AnyMdct::Number;
     const std::size_t count = samples.size(), frames = (count + N - 1) / N + 1;
     // Half a frame of silence before and after the samples, so that two frames cover each of them.
@@ -98,31 +101,35 @@ bool runOver(const std::vector<double>& samples, int N, int rate, double bound) 
     return relative < bound;
 }
 
-std::vector<double> firstChannel(SndfileHandle& file) {
-    std::vector<double> samples, block(std::size_t(4096) * file.channels());
-    while (const sf_count_t got = file.readf(block.data(), 4096)) {
-        for (sf_count_t i = 0; i < got; ++i) samples.push_back(block[i * file.channels()]);
+std::vector<double> allOf(spectrum::Source& source) {
+    std::vector<double> samples, block(4096);
+    while (const std::size_t got = source.read(block)) {
+        samples.insert(samples.end(), block.begin(), block.begin() + static_cast<std::ptrdiff_t>(got));
     }
     return samples;
 }
 
-int restore(const char* path, int N) {
-    if (N < 2 || N > 65536 || (N & (N - 1)) != 0) throw std::runtime_error("N is a power of two from 2 to 65536");
-    SndfileHandle file(path);
-    if (file.error() != 0) throw std::runtime_error(std::string(path) + ": " + file.strError());
-    const std::vector<double> samples = firstChannel(file);
-    if (samples.empty()) throw std::runtime_error(std::string(path) + " holds no samples");
-    const bool wide = runOver<DoubleMdct>(samples, N, file.samplerate(), 1e-15);
-    const bool narrow = runOver<SingleMdct>(samples, N, file.samplerate(), 5e-7);
+int restore(const char* path, const char* bins) {
+    const int N = static_cast<int>(spectrum::wholeNumber("N", bins, 2, 65536));
+    if ((N & (N - 1)) != 0) throw spectrum::UsageError("N " + std::to_string(N) + ": not a power of two");
+    spectrum::InputOptions options;
+    options.path = path;
+    const auto source = spectrum::openInput(options);
+    const std::vector<double> samples = allOf(*source);
+    if (samples.empty()) throw std::runtime_error(source->name + ": it holds no samples");
+    const bool wide = runOver<DoubleMdct>(samples, N, source->rate, 1e-15);
+    const bool narrow = runOver<SingleMdct>(samples, N, source->rate, 5e-7);
     return wide && narrow ? 0 : 1;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 && argc != 3) return std::fprintf(stderr, "mdct FILE [N]\n"), 1;
+    if (argc != 2 && argc != 3) return std::fprintf(stderr, "mdct FILE [N]\n"), 2;
     try {
-        return restore(argv[1], argc == 3 ? std::atoi(argv[2]) : 1024);
+        return restore(argv[1], argc == 3 ? argv[2] : "1024");
+    } catch (const spectrum::UserError& error) {
+        return std::fprintf(stderr, "mdct: %s\n", error.what()), static_cast<int>(error.status());
     } catch (const std::exception& error) {
         return std::fprintf(stderr, "mdct: %s\n", error.what()), 1;
     }

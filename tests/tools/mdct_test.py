@@ -57,12 +57,20 @@ class Mdct(unittest.TestCase):
 
     def test_refusals(self):
         self.run_on([1] * 8)
-        for arguments, says in (([], "mdct FILE [N]"), (["a", "b", "c"], "mdct FILE [N]"),
-                                ([self.path, "60"], "power of two"), ([self.path, "9"], "power of two"),
-                                ([self.path, "131072"], "65536"), ([self.path, "many"], "power of two"),
-                                ([self.path + "x"], "No such file")):
+        with open(self.path, "rb") as file:
+            whole = file.read()
+        cut = self.path + ".cut"
+        with open(cut, "wb") as file:
+            file.write(whole[:-6])
+        for arguments, status, says in (
+                ([], 2, "mdct FILE [N]"), (["a", "b", "c"], 2, "mdct FILE [N]"),
+                ([self.path, "60"], 2, "power of two"), ([self.path, "9"], 2, "power of two"),
+                ([self.path, "131072"], 2, "65536"), ([self.path, "many"], 2, "N many: not a whole number"),
+                ([self.path, "64x"], 2, "N 64x: not a whole number"), ([self.path, ""], 2, "N ''"),
+                ([self.path + "x"], 1, "No such file"), ([self.path + "\x1b[31m"], 1, "sound.wav?[31m"),
+                ([cut], 3, "samples that are good: 6")):
             done = subprocess.run([EXAMPLE, *arguments], capture_output=True, timeout=60)
-            self.assertEqual(done.returncode, 1)
+            self.assertEqual(done.returncode, status)
             self.assertRegex(done.stderr.decode(), r"\A[^\n]+\n\Z")
             self.assertIn(says, done.stderr.decode())
 

@@ -82,6 +82,11 @@ debian_package(development libzulgenpx-dev libdevel "small signal transforms, de
 debian_package(tools zulgenpx-tools sound "spectra of sound files by small transforms"
     "The program zulspectrum runs any transform of zulgenpx on a sound or\n\
 text file." "${on_library}")
+if(TARGET zulspectrum-mpi)
+    debian_package(mpi zulgenpx-mpi sound "spectra of sound files on many machines"
+        "The program zulspectrum-mpi does what the command batch of zulspectrum\n\
+does, with MPI, on any number of machines." "${on_library};openmpi-bin")
+endif()
 debian_package(documentation zulgenpx-doc doc "small signal transforms, documentation"
     "Manual pages of each family and routine, and declarations of all\n\
 routines for C#, Pascal and Basic." "")
@@ -91,7 +96,7 @@ as NumPy names them." "python3:any;python3-numpy;${on_library}")
 foreach(part DOCUMENTATION PYTHON)
     set(CPACK_DEBIAN_${part}_PACKAGE_ARCHITECTURE all)
 endforeach()
-# Only the tool's dependencies are looked for. Where CPack looks at a library, it adds scripts that call ldconfig, which
+# Only the dependencies of the programs are looked for. Where CPack looks at a library, it adds scripts that call ldconfig, which
 # is what a trigger is for.
 foreach(part LIBRARY DEVELOPMENT DOCUMENTATION PYTHON)
     set(CPACK_DEBIAN_${part}_PACKAGE_SHLIBDEPS OFF)

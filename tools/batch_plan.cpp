@@ -97,6 +97,13 @@ void declareBatchOptions(CLI::App& app, Words& words) {
     declareFlag(app, words, "--json", "Print the summary as JSON");
 }
 
+void declareClusterOptions(CLI::App& app, Words& words) {
+    declareBatchOptions(app, words);
+    declareOption(app, words, "--split", "SAMPLES", "Recordings that are longer are split into pieces of that many",
+                  "4000000");
+    declareFlag(app, words, "--probe", "Print what a message and a byte between two ranks cost, and exit");
+}
+
 BatchOptions batchOptionsOf(const Words& words) {
     BatchOptions options{};
     options.inputs = words.list("FILE-OR-FOLDER");

@@ -28,6 +28,8 @@ struct FileResult {
 
 // The options of the command line that both programs share.
 void declareBatchOptions(CLI::App& app, Words& words);
+// Those of zulspectrum-mpi.
+void declareClusterOptions(CLI::App& app, Words& words);
 BatchOptions batchOptionsOf(const Words& words);
 
 // In the order of their names. Throws UserError.

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "batch.h"
+#include "batch_plan.h"
 #include "bench.h"
 #include "help_texts.h"
 #include "info.h"
@@ -147,7 +148,16 @@ int runCompletion(const Words& words) {
     return writeText(words, completionScript(words["SHELL"], "zulspectrum", commands()));
 }
 
-int runManual(const Words& words) { return writeText(words, manualPage("zulspectrum", commands())); }
+void declareManual(CLI::App& app, Words& words) {
+    declareTextOutput(app, words);
+    declareFlag(app, words, "--mpi", "The page of zulspectrum-mpi");
+}
+
+int runManual(const Words& words) {
+    if (!words.given("--mpi")) return writeText(words, manualPage("zulspectrum", commands()));
+    const Command cluster{"", clusterSummary, "FILE-OR-FOLDER ...", declareClusterOptions, nullptr, mpiFooter};
+    return writeText(words, manualPage("zulspectrum-mpi", {cluster}));
+}
 
 }  // namespace
 
@@ -166,7 +176,7 @@ const std::vector<Command>& commands() {
         {"bench", "How long the transforms take on this machine", "", declareBench, runBench, benchFooter},
         {"completion", "A script that completes words in bash, zsh or fish", "SHELL", declareCompletion, runCompletion,
          completionFooter},
-        {"manual", "", "", declareTextOutput, runManual, ""},  // for the build
+        {"manual", "", "", declareManual, runManual, ""},  // for the build
     };
     return all;
 }

@@ -93,6 +93,18 @@ const char* const batchFooter =
     "  zulspectrum batch recordings --into pictures --family real --length 60 --window hann\n"
     "  zulspectrum batch recordings --match '*.wav' --match '*.flac' --into tables --format npy --jobs 4";
 
+const char* const clusterSummary = "Spectra of many files, by many processes on one machine or on many";
+
+const char* const mpiFooter =
+    "Each rank makes the outputs of files as zulspectrum batch does, and asks for the next when it is done. A recording\n"
+    "of more than --split samples is split by time, and its pieces are gathered by rank 0. Inputs and the folder\n"
+    "--into have to be the same on all machines, as in a shared file system. The outputs are the same bytes, whatever\n"
+    "the number of ranks is. When a rank is lost the launcher ends the run; started again, it goes on where it was.\n"
+    "\n"
+    "Exit status: 0 all files are done; 1 some failed, or 3 where all of these are damaged; 2 wrong words.\n"
+    "\n"
+    "  mpirun -n 4 zulspectrum-mpi recordings --into pictures --family real --length 60 --window hann";
+
 const char* const layoutFooter =
     "R3 stands for the real part of bin 3, I3 for its imaginary part, 0 for a slot that holds zero. The numbers of\n"
     "the slots are in the line above.";

@@ -8,6 +8,8 @@ extern const char* const transformFooter;
 extern const char* const spectrogramFooter;
 extern const char* const inverseFooter;
 extern const char* const batchFooter;
+extern const char* const mpiFooter;
+extern const char* const clusterSummary;
 extern const char* const layoutFooter;
 extern const char* const infoFooter;
 extern const char* const benchFooter;

@@ -83,10 +83,11 @@ std::string optionList(const CLI::App& app) {
 }  // namespace
 
 std::string manualPage(const std::string& program, const std::vector<Command>& commands) {
-    std::string upper = program;
+    std::string described(commands.front().summary), upper = program;
+    described[0] = static_cast<char>(std::tolower(described[0]));
     for (char& letter : upper) letter = static_cast<char>(std::toupper(letter));
     std::string page = ".Dd November 23, 2026\n.Dt " + upper + " 1\n.Os\n.Sh NAME\n.Nm " + program +
-                       "\n.Nd short-time spectra of sound files and of numbers\n.Sh SYNOPSIS\n";
+                       "\n.Nd " + described + "\n.Sh SYNOPSIS\n";
     for (const Command& command : commands) {
         if (command.summary.empty()) continue;
         page += ".Nm\n";

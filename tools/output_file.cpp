@@ -7,30 +7,47 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <utility>
 
 #include "user_error.h"
 
 namespace spectrum {
 namespace {
 
-// What a signal removes. Only one file is unfinished at a time.
-char unfinished[4096];
-volatile std::sig_atomic_t isUnfinished = 0;
+// What a signal removes.
+struct Unfinished {
+    std::atomic<bool> isTaken, isNamed;
+    char path[4096];
+};
+Unfinished unfinished[16];
+static_assert(std::atomic<bool>::is_always_lock_free, "a handler of signals reads it");
 
 void removeAndEnd(int signal) {
-    if (isUnfinished != 0) unlink(unfinished);
+    removeUnfinishedFile();
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }
 
-void noteUnfinished(const std::string& path) {
-    isUnfinished = 0;
-    if (path.size() >= sizeof unfinished) return;
-    path.copy(unfinished, path.size());
-    unfinished[path.size()] = '\0';
-    isUnfinished = 1;
+// Returns where the name is kept, or -1.
+int noteUnfinished(const std::string& path) {
+    for (int i = 0; i < 16; ++i) {
+        Unfinished& one = unfinished[i];
+        if (path.size() >= sizeof one.path || one.isTaken.exchange(true)) continue;
+        path.copy(one.path, path.size());
+        one.path[path.size()] = '\0';
+        one.isNamed = true;
+        return i;
+    }
+    return -1;
+}
+
+void forgetUnfinished(int note) {
+    if (note < 0) return;
+    unfinished[note].isNamed = false;
+    unfinished[note].isTaken = false;
 }
 
 bool isSame(const struct stat& one, const struct stat& other) {
@@ -92,11 +109,12 @@ void OutputFile::openBeside() {
         const std::string reason = systemReason();
         throw UserError("cannot write " + name + ": " + printable(beside.string()) + ": " + reason);
     }
-    noteUnfinished(beside);
+    note = noteUnfinished(beside);
     if (ftruncate(descriptor, 0) != 0 || (replaces && fchmod(descriptor, earlier.st_mode & 07777) != 0) ||
         !(file = fdopen(descriptor, "w+b"))) {
         const int reason = errno;
         unlink(beside.c_str());
+        forgetUnfinished(note);
         ::close(descriptor);
         errno = reason;
         fail();
@@ -106,7 +124,7 @@ void OutputFile::openBeside() {
 OutputFile::~OutputFile() {
     if (!file || file == stdout) return;
     if (!beside.empty()) unlink(beside.c_str());
-    isUnfinished = 0;
+    forgetUnfinished(note);
     std::fclose(file);
 }
 
@@ -130,7 +148,7 @@ void OutputFile::close() {
         // The bytes are on the disk before the name is, so that not even a loss of power leaves half a file.
         if (fsync(fileno(file)) != 0 || std::rename(beside.c_str(), place.c_str()) != 0) fail();
         beside.clear();
-        isUnfinished = 0;
+        forgetUnfinished(std::exchange(note, -1));
     }
     std::FILE* const open = file;
     file = nullptr;
@@ -146,6 +164,12 @@ void refuseInputAsOutput(const std::string& input, const std::string& output) {
     const std::string from_name = input == "-" ? "standard input" : printable(input);
     throw UsageError((output == "-" ? "standard output" : "--output " + printable(output)) + ": that is the input itself, " +
                      from_name);
+}
+
+void removeUnfinishedFile() {
+    for (const Unfinished& one : unfinished) {
+        if (one.isNamed) unlink(one.path);
+    }
 }
 
 void removeUnfinishedFileOnSignals() {

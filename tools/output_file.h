@@ -36,11 +36,15 @@ private:
     std::string name;
     std::filesystem::path place, beside;  // both empty where there is nothing to be replaced
     std::FILE* file = nullptr;
+    int note = -1;  // of the unfinished file, for signals
 };
 
 // Throws UsageError when an output is the input itself, under whatever name: the input would be lost, or would grow
 // while it is read. "-" are the standard streams.
 void refuseInputAsOutput(const std::string& input, const std::string& output);
+
+// Removes the file that is not finished. A handler of signals may call it.
+void removeUnfinishedFile();
 
 // Interrupted and terminated runs remove their unfinished file first.
 void removeUnfinishedFileOnSignals();

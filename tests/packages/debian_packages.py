@@ -13,7 +13,7 @@ import tempfile
 
 from packing import done, made_twice
 
-NAMES = {"libzulgenpx-7.0", "libzulgenpx-dev", "zulgenpx-tools", "zulgenpx-doc", "python3-zulgenpx"}
+NAMES = {"libzulgenpx-7.0", "libzulgenpx-dev", "zulgenpx-tools", "zulgenpx-mpi", "zulgenpx-doc", "python3-zulgenpx"}
 
 # What users do with the packages. Each line is a shell's, in an empty folder of the root, and must end with code 0.
 USES = r"""
@@ -29,6 +29,9 @@ python3 -c 'import glob; assert glob.glob("/usr/lib/python3/dist-packages/zulgen
 zcat /usr/share/man/man3/zulgenpx.3.gz | grep -q '^.Dd'
 zcat /usr/share/man/man3/zulgDFTFwd_CToC_15_64fc.3.gz | grep -q '^.so man3/zulgenpx'
 zcat /usr/share/man/man1/zulspectrum.1.gz | grep -q '^.Dd'
+zcat /usr/share/man/man1/zulspectrum-mpi.1.gz | grep -q '^.Dd'
+seq 1000 > in.txt; mpirun --allow-run-as-root --oversubscribe -n 2 zulspectrum-mpi in.txt --into out; test -s out/in.txt.png
+test -s /usr/share/bash-completion/completions/zulspectrum
 grep -q 'zulgHartley_64_64f' /usr/share/zulgenpx/zulgenpx.pas
 cd /usr/share/doc && test -s libzulgenpx-7.0/copyright && test -s libzulgenpx-dev/copyright
 cd /usr/share/doc && test -s zulgenpx-tools/copyright && test -s python3-zulgenpx/copyright
@@ -70,17 +73,28 @@ def needed_c_library(packages):
         sys.exit(f"{len(libraries)} libraries need the C library {needed}, and the package names {named}")
 
 
+def steps_of(containerfile):
+    """What makes an image of a bare Debian: the same steps make the root ready here."""
+    steps = re.findall(r"^RUN (.*)$", containerfile.read_text(encoding="ascii"), re.M)
+    if len(steps) < 3:
+        sys.exit(f"{containerfile} has lost its steps")
+    return steps
+
+
 def used_in_root(tree, root, packages):
     as_root = [] if os.geteuid() == 0 else ["sudo", "-n", "--"]
     used = root / "used"
     done(*as_root, "rm", "-rf", used)
     done(*as_root, "mkdir", used)
-    done(*as_root, "cp", *packages.values(), *(tree / "tests/consumers").glob("*.c*"), used)
+    done(*as_root, "mkdir", "-p", root / "packages")
+    done(*as_root, "cp", *packages.values(), root / "packages")
+    done(*as_root, "cp", *(tree / "tests/consumers").glob("*.c*"), used)
     inside = [*as_root, "chroot", str(root), "env", "-i", "PATH=/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL=C.UTF-8",
               "DEBIAN_FRONTEND=noninteractive", "sh", "-c"]
     failed = 0
     try:
-        done(*inside, "apt-get -qq install -y --no-install-recommends /used/*.deb")
+        for step in steps_of(tree / "deploy/Containerfile"):
+            done(*inside, step)
         for use in USES.strip().splitlines():
             ran = subprocess.run([*inside, f"cd /used && {use}"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                  stderr=subprocess.STDOUT, text=True, check=False)

@@ -106,7 +106,8 @@ def page(files, counts, times, probe, bytes_gathered):
     return f"""# zulspectrum-mpi on one machine and on many
 
 Made by `scripts/cluster-demo --record`: {files} files, {counts['samples']} samples, with
-`{' '.join(OPTIONS)}`, {os.cpu_count()} cores. The outputs of every run are the same bytes as those of one process.
+`{' '.join(OPTIONS)}`, {os.cpu_count()} cores. The outputs of every run are
+the same bytes as those of one process.
 
 | ranks | seconds (median of {len(times[1])}) | times one rank |
 |---|---|---|

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <iterator>
 #include <map>
 
 namespace test {
@@ -51,12 +52,15 @@ Values complexTransform(const Values& x, int sign) {
     Values result;
     for (int k = 0; k < length; ++k) {
         Wide re = 0, im = 0;
+        int turn = 0;  // n k modulo N
         for (int n = 0; n < length; ++n) {
-            const auto place = static_cast<std::size_t>(n * k % length);
+            const auto place = static_cast<std::size_t>(turn);
             const Wide xr = x[static_cast<std::size_t>(2 * n)], xi = x[static_cast<std::size_t>(2 * n + 1)];
             const Wide cosine = cosines[place], sine = static_cast<Wide>(sign) * sines[place];
             re += xr * cosine - xi * sine;
             im += xr * sine + xi * cosine;
+            turn += k;
+            if (turn >= length) turn -= length;
         }
         result.push_back(re);
         result.push_back(im);
@@ -65,28 +69,40 @@ Values complexTransform(const Values& x, int sign) {
 }
 
 Values realTransform(const Values& x) {
-    Values pairs;
-    for (Wide value : x) pairs.insert(pairs.end(), {value, 0});
-    Values bins = complexTransform(pairs, -1);
-    bins.resize(x.size() / 2 * 2 + 2);
-    bins[1] = 0;
-    if (x.size() % 2 == 0) bins[x.size() + 1] = 0;
+    const int length = static_cast<int>(x.size());
+    const Values &cosines = tableOf<cosTurn>(length), &sines = tableOf<sinTurn>(length);
+    Values bins;
+    for (int k = 0; 2 * k <= length; ++k) {
+        Wide re = 0, im = 0;
+        int turn = 0;  // n k modulo N
+        for (const Wide value : x) {
+            re += value * cosines[static_cast<std::size_t>(turn)];
+            im -= value * sines[static_cast<std::size_t>(turn)];
+            turn += k;
+            if (turn >= length) turn -= length;
+        }
+        const bool isReal = 2 * k % length == 0;
+        bins.insert(bins.end(), {re, isReal ? 0 : im});
+    }
     return bins;
 }
 
+// The bins that are left out are the conjugates of those between the real ones, so that these count twice.
 Values inverseRealTransform(const Values& bins, int length) {
-    Values spectrum(static_cast<std::size_t>(2 * length));
-    for (int k = 0; 2 * k <= length; ++k) {
-        const auto here = static_cast<std::size_t>(2 * k),
-                   mirrored = static_cast<std::size_t>(2 * ((length - k) % length));
-        const bool isReal = 2 * k % length == 0;
-        spectrum[here] = spectrum[mirrored] = bins[here];
-        spectrum[here + 1] = isReal ? 0 : bins[here + 1];
-        spectrum[mirrored + 1] = -spectrum[here + 1];
-    }
-    const Values pairs = complexTransform(spectrum, +1);
+    const Values &cosines = tableOf<cosTurn>(length), &sines = tableOf<sinTurn>(length);
     Values y;
-    for (std::size_t n = 0; n < pairs.size(); n += 2) y.push_back(pairs[n]);
+    for (int n = 0; n < length; ++n) {
+        Wide sum = 0;
+        int turn = 0;  // n k modulo N
+        for (int k = 0; 2 * k <= length; ++k) {
+            const Wide re = bins[static_cast<std::size_t>(2 * k)], im = bins[static_cast<std::size_t>(2 * k + 1)];
+            const Wide cosine = cosines[static_cast<std::size_t>(turn)], sine = sines[static_cast<std::size_t>(turn)];
+            sum += 2 * k % length == 0 ? re * cosine : 2 * (re * cosine - im * sine);
+            turn += n;
+            if (turn >= length) turn -= length;
+        }
+        y.push_back(sum);
+    }
     return y;
 }
 
@@ -96,8 +112,11 @@ Values hartleyTransform(const Values& x) {
     Values result;
     for (int k = 0; k < length; ++k) {
         Wide sum = 0;
-        for (int j = 0; j < length; ++j) {
-            sum += x[static_cast<std::size_t>(j)] * factors[static_cast<std::size_t>(j * k % length)];
+        int turn = 0;  // j k modulo N
+        for (const Wide value : x) {
+            sum += value * factors[static_cast<std::size_t>(turn)];
+            turn += k;
+            if (turn >= length) turn -= length;
         }
         result.push_back(sum);
     }
@@ -128,11 +147,17 @@ Wide dct4Factor(int n, int k, int length) {
 Values dct4Transform(const Values& x, Chosen outputs) {
     const int length = static_cast<int>(x.size()), period = 8 * length;
     const Values& cosines = tableOf<cosTurn>(period);
+    // Zeros at both ends are left out: there is one value in a unit vector.
+    const auto isThere = [](Wide value) { return value != 0; };
+    const auto begin = std::find_if(x.begin(), x.end(), isThere);
+    const auto end = std::find_if(x.rbegin(), std::make_reverse_iterator(begin), isThere).base();
+    const auto first = static_cast<int>(begin - x.begin()), count = static_cast<int>(end - begin);
     Values result;
     for (int k = outputs.first; k < length; k += outputs.step) {
-        int turn = 2 * k + 1;  // (2n + 1)(2k + 1) modulo 8N
-        result.push_back(summed(length, [&](int n) {
-            const Wide term = x[static_cast<std::size_t>(n)] * cosines[static_cast<std::size_t>(turn)];
+        // (2n + 1)(2k + 1) modulo 8N
+        auto turn = static_cast<int>(static_cast<long long>(2 * first + 1) * (2 * k + 1) % period);
+        result.push_back(summed(count, [&](int n) {
+            const Wide term = begin[n] * cosines[static_cast<std::size_t>(turn)];
             turn += 2 * (2 * k + 1);
             if (turn >= period) turn -= period;
             return term;

@@ -1,10 +1,11 @@
-"""What the C++ headers refuse to compile: each wrong line by itself must fail with the message that names the fault,
-and the right lines beside them must compile, together, without a warning.
+"""What the C++ headers refuse to compile: each wrong line must fail with the message that names the fault, and the right
+lines beside them must compile, together, without a warning.
 
 misuse.py --source TREE --folder FOLDER [--batch] COMPILER ...
 """
 import argparse
 import os
+import re
 import subprocess
 import sys
 
@@ -93,6 +94,27 @@ def compiled(compiler, source, file, text):
     return result.returncode == 0, result.stdout
 
 
+def wrong_function(number, line):
+    """A function whose place, in what the compiler says, is `wrong_<number>` and no line of the file."""
+    return f'#line 1 "wrong_{number}"\nvoid wrong{number}() {{ {line} }}\n'
+
+
+def errors_of(said):
+    """The errors of each wrong line: an error is that of the place which was named last."""
+    errors, place = {}, None
+    for line in said.splitlines():
+        named = re.match(r"wrong_(\d+):", line)
+        place = int(named[1]) if named else place
+        if " error: " in line:
+            errors.setdefault(place, []).append(line)
+            place = None
+    return errors
+
+
+def says(said, message):
+    return any(each in said for each in message.split("|"))
+
+
 def failures_of(compiler, args):
     failures = 0
     kinds = [("zulgenpx.hpp", MISUSE)] + [("zulgenpx_batch.hpp", OF_BATCHES)] * args.batch
@@ -104,10 +126,15 @@ def failures_of(compiler, args):
         if not is_right:
             print(f"{compiler}: what is right does not compile:\n{said}")
             failures += 1
-        for wrong, _, message in rows:
+        # All wrong lines at once. The compiler says the same thing about two of them only once, or stops at one: those
+        # that are not refused there are compiled by themselves.
+        functions = [wrong_function(number, wrong) for number, (wrong, _, _) in enumerate(rows)]
+        errors = errors_of(compiled(compiler, args.source, file, head + "".join(functions))[1])
+        for number, (wrong, _, message) in enumerate(rows):
+            if says("\n".join(errors.get(number, [])), message):
+                continue
             is_right, said = compiled(compiler, args.source, file, head + f"void wrong() {{ {wrong} }}\n")
-            named = any(each in said for each in message.split("|"))
-            if is_right or not named:
+            if is_right or not says(said, message):
                 print(f"{compiler}: {wrong} " + ("compiles" if is_right else f"does not say '{message}':\n{said}"))
                 failures += 1
     return failures

@@ -3,6 +3,7 @@
 Uses objdump of the target for the disassembly and nothing else; the files' own tables are read here.
 """
 import functools
+import gc
 import re
 import struct
 import subprocess
@@ -18,6 +19,27 @@ class Instruction:
         """The address a direct jump or call goes to, or None."""
         match = re.match(r"(?:0x)?([0-9a-f]+)(?:\s|$|<)", self.operands)
         return int(match.group(1), 16) if match else None
+
+
+@functools.cache
+def disassembled(path, objdump):
+    """address -> instruction, of the section of code."""
+    text = subprocess.run([objdump, "-d", "-w", "-j", ".text", path], check=True, capture_output=True, text=True).stdout
+    code = {}
+    gc.disable()  # among a million new instructions it would look for cycles again and again
+    for line in text.splitlines():
+        parts = line.split("\t")
+        if len(parts) < 3 or not parts[0].rstrip().endswith(":"):
+            continue
+        words = parts[2].split(None, 1)
+        while words and words[0] in ("notrack", "rep", "repz", "bnd", "data16") and len(words) > 1:
+            words = words[1].split(None, 1)
+        address = int(parts[0].strip()[:-1], 16)
+        operands = words[1] if len(words) > 1 else ""
+        code[address] = Instruction(address, words[0] if words else "", operands, len(parts[1].split()))
+    gc.freeze()
+    gc.enable()
+    return code
 
 
 class Library:
@@ -170,20 +192,7 @@ class Library:
 
     @functools.cached_property
     def code(self):
-        text = subprocess.run([self.objdump, "-d", "-w", "-j", ".text", self.path], check=True, capture_output=True,
-                              text=True).stdout
-        code = {}
-        for line in text.splitlines():
-            parts = line.split("\t")
-            if len(parts) < 3 or not parts[0].rstrip().endswith(":"):
-                continue
-            words = parts[2].split(None, 1)
-            while words and words[0] in ("notrack", "rep", "repz", "bnd", "data16") and len(words) > 1:
-                words = words[1].split(None, 1)
-            address = int(parts[0].strip()[:-1], 16)
-            operands = words[1] if len(words) > 1 else ""
-            code[address] = Instruction(address, words[0] if words else "", operands, len(parts[1].split()))
-        return code
+        return disassembled(self.path, self.objdump)
 
     def slot_address(self, name):
         """Where the entry of an export jumps through: the address of its slot, or None if it is no such entry."""

@@ -1,10 +1,21 @@
 #include "numbers/exact.h"
 
 #include <boost/math/constants/constants.hpp>
+#include <boost/multiprecision/cpp_bin_float.hpp>
 #include <cmath>
+#include <ostream>
 
 namespace gen {
+
+using Number = boost::multiprecision::cpp_bin_float_50;
+
+struct Exact::Digits {
+    Number number;
+};
+
 namespace {
+
+Exact exact(const Number& number) { return Exact(std::make_shared<const Exact::Digits>(number)); }
 
 // The angle 2 pi k/n, reduced to the first octant: to 2 pi eighths/(8 n) with 0 <= eighths <= n. The flags tell how the
 // cosine and sine of the whole angle follow from those of the reduced one.
@@ -32,23 +43,47 @@ Octant reduce(int k, int n) {
     return octant;
 }
 
-Exact angle(const Octant& octant, int n) { return boost::math::constants::two_pi<Exact>() * octant.eighths / (8 * n); }
+Number angle(const Octant& octant, int n) {
+    return boost::math::constants::two_pi<Number>() * octant.eighths / (8 * n);
+}
 
 }  // namespace
 
+Exact::Exact(int value) : Exact(exact(value)) {}
+Exact::Exact(double value) : Exact(exact(Number(value))) {}
+Exact::Exact(const std::string& decimal) : Exact(exact(Number(decimal))) {}
+
+Exact::operator double() const { return digits->number.convert_to<double>(); }
+Exact::operator long double() const { return digits->number.convert_to<long double>(); }
+
+Exact operator+(const Exact& a, const Exact& b) { return exact(a.digits->number + b.digits->number); }
+Exact operator-(const Exact& a, const Exact& b) { return exact(a.digits->number - b.digits->number); }
+Exact operator*(const Exact& a, const Exact& b) { return exact(a.digits->number * b.digits->number); }
+Exact operator/(const Exact& a, const Exact& b) { return exact(a.digits->number / b.digits->number); }
+Exact operator-(const Exact& x) { return exact(-x.digits->number); }
+Exact abs(const Exact& x) { return exact(abs(x.digits->number)); }
+Exact sqrt(const Exact& x) { return exact(sqrt(x.digits->number)); }
+bool operator==(const Exact& a, const Exact& b) { return a.digits->number == b.digits->number; }
+bool operator<(const Exact& a, const Exact& b) { return a.digits->number < b.digits->number; }
+
+std::string Exact::text(int digitsAfterFirst) const {
+    return digits->number.str(digitsAfterFirst, std::ios::scientific);
+}
+std::ostream& operator<<(std::ostream& out, const Exact& x) { return out << x.text(48); }
+
 Exact cosTurn(int k, int n) {
     const Octant octant = reduce(k, n);
-    const Exact magnitude = octant.exchanged ? sin(angle(octant, n)) : cos(angle(octant, n));
-    return octant.minusCos ? -magnitude : magnitude;
+    const Number magnitude = octant.exchanged ? sin(angle(octant, n)) : cos(angle(octant, n));
+    return exact(octant.minusCos ? Number(-magnitude) : magnitude);
 }
 
 Exact sinTurn(int k, int n) {
     const Octant octant = reduce(k, n);
-    const Exact magnitude = octant.exchanged ? cos(angle(octant, n)) : sin(angle(octant, n));
-    return octant.minusSin ? -magnitude : magnitude;
+    const Number magnitude = octant.exchanged ? cos(angle(octant, n)) : sin(angle(octant, n));
+    return exact(octant.minusSin ? Number(-magnitude) : magnitude);
 }
 
-double nearest(const Exact& x) { return x.convert_to<double>(); }
+double nearest(const Exact& x) { return static_cast<double>(x); }
 
 double storedInverseRoot(int n) { return 1.0 / std::sqrt(static_cast<double>(n)); }
 

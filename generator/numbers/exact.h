@@ -4,11 +4,44 @@
 // The double in the kernel is that number, rounded once.
 #pragma once
 
-#include <boost/multiprecision/cpp_bin_float.hpp>
+#include <iosfwd>
+#include <memory>
+#include <string>
 
 namespace gen {
 
-using Exact = boost::multiprecision::cpp_bin_float_50;
+// A number that never changes once it is made. Its digits are known to exact.cpp alone, since their headers take longer
+// to compile than the rest of the generator.
+class Exact {
+public:
+    struct Digits;
+
+    Exact(int value = 0);
+    explicit Exact(double value);
+    explicit Exact(const std::string& decimal);
+    explicit Exact(std::shared_ptr<const Digits> from) : digits(std::move(from)) {}
+
+    explicit operator double() const;  // the nearest one
+    explicit operator long double() const;
+
+    friend Exact operator+(const Exact& a, const Exact& b);
+    friend Exact operator-(const Exact& a, const Exact& b);
+    friend Exact operator*(const Exact& a, const Exact& b);
+    friend Exact operator/(const Exact& a, const Exact& b);
+    friend Exact operator-(const Exact& x);
+    friend Exact abs(const Exact& x);
+    friend Exact sqrt(const Exact& x);
+    friend bool operator==(const Exact& a, const Exact& b);
+    friend bool operator<(const Exact& a, const Exact& b);
+
+    // In decimal, with so many digits after the first one.
+    std::string text(int digitsAfterFirst) const;
+
+private:
+    std::shared_ptr<const Digits> digits;
+};
+
+std::ostream& operator<<(std::ostream& out, const Exact& x);
 
 // cos and sin of 2 pi k/n, for any integer k and n > 0. The angle is reduced to the first octant in integers, so that
 // equal magnitudes come out equal to the last digit and multiples of a quarter turn are exact.

@@ -35,8 +35,8 @@ RaderConstants::RaderConstants(int prime, int a) : p(prime), powers(powersOf(sma
         for (int n = 0; n < m; ++n) {
             // b[n] exp(-2 pi i n k/M) = exp(-2 pi i t/(p M)).
             const int t = modulo(a * output(n) * m + n * k * p, p * m);
-            sum.re += cosTurn(t, p * m);
-            sum.im -= sinTurn(t, p * m);
+            sum.re = sum.re + cosTurn(t, p * m);
+            sum.im = sum.im - sinTurn(t, p * m);
         }
         bins.push_back({sum.re / m, sum.im / m});
     }

@@ -44,7 +44,7 @@ TEST(Exact, RoundsToTheNearestDouble) {
         for (int k = 0; k < n; ++k) {
             const Exact c = cosTurn(k, n);
             // The C library reads decimal text to the nearest double: an independent rounding.
-            EXPECT_EQ(nearest(c), std::strtod(c.str(48, std::ios::scientific).c_str(), nullptr)) << k << "/" << n;
+            EXPECT_EQ(nearest(c), std::strtod(c.text(48).c_str(), nullptr)) << k << "/" << n;
         }
     }
 }

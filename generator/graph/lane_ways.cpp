@@ -17,6 +17,15 @@ void keepCheaper(std::optional<Way>& best, Way way) {
     if (!best || way.cost < best->cost) best = std::move(way);
 }
 
+// A list of ways that are moved into it; a list in braces would copy them, with all ways before them.
+template <class... Ways>
+std::vector<Way> waysOf(Ways... ways) {
+    std::vector<Way> list;
+    list.reserve(sizeof...(ways));
+    (list.push_back(std::move(ways)), ...);
+    return list;
+}
+
 }  // namespace
 
 LaneRegisters::LaneRegisters(const Graph& source, Elements inputElements)
@@ -120,10 +129,11 @@ bool LaneRegisters::absorb(Way& way, const Lanes& want) const {
 }
 
 Way LaneRegisters::withSigns(Way way, const Lanes& want) const {
+    if (way.lanes == want) return way;
     if (Way other = way; absorb(other, want)) return other;
     std::vector<bool> flips;
     for (size_t i = 0; i < want.size(); ++i) flips.push_back(way.lanes[i].minus != want[i].minus);
-    return stepWay({.kind = StepKind::Flip, .flips = flips}, {std::move(way)}, want);
+    return stepWay({.kind = StepKind::Flip, .flips = flips}, waysOf(std::move(way)), want);
 }
 
 Way LaneRegisters::shuffled(std::vector<Way> before, std::vector<int> places) const {
@@ -139,13 +149,13 @@ Way LaneRegisters::shuffled(std::vector<Way> before, std::vector<int> places) co
 Way LaneRegisters::joined(Way low, Way high) const {
     Lanes lanes = low.lanes;
     lanes.insert(lanes.end(), high.lanes.begin(), high.lanes.end());
-    return stepWay({.kind = StepKind::Join}, {std::move(low), std::move(high)}, std::move(lanes));
+    return stepWay({.kind = StepKind::Join}, waysOf(std::move(low), std::move(high)), std::move(lanes));
 }
 
 Way LaneRegisters::part(Way whole, int half) const {
     const auto middle = whole.lanes.begin() + static_cast<std::ptrdiff_t>(whole.lanes.size() / 2);
     Lanes lanes = half == 0 ? Lanes(whole.lanes.begin(), middle) : Lanes(middle, whole.lanes.end());
-    Way way = stepWay({.kind = StepKind::Part, .places = {half}}, {std::move(whole)}, std::move(lanes));
+    Way way = stepWay({.kind = StepKind::Part, .places = {half}}, waysOf(std::move(whole)), std::move(lanes));
     if (half == 0) --way.cost;  // the low half of a register is that register
     return way;
 }
@@ -184,7 +194,7 @@ Way LaneRegisters::singleWay(const Lanes& want) const {
         keepCheaper(best, withSigns(loadWay({node}), want));
     }
     if (!best) throw std::logic_error("a node is taken before its step");
-    return *best;
+    return std::move(*best);
 }
 
 Way LaneRegisters::pairWay(const Lanes& want) const {
@@ -196,14 +206,15 @@ Way LaneRegisters::pairWay(const Lanes& want) const {
     if (best && best->cost == 0) return *best;
     for (const auto& [a, aLane] : first) {
         for (const auto& [b, bLane] : second) {
-            Way both = a.lanes == b.lanes ? shuffled({a}, {aLane, bLane}) : shuffled({a, b}, {aLane, bLane + 2});
+            Way both =
+                a.lanes == b.lanes ? shuffled(waysOf(a), {aLane, bLane}) : shuffled(waysOf(a, b), {aLane, bLane + 2});
             keepCheaper(best, withSigns(std::move(both), want));
         }
     }
     if (areRealLoads(want)) keepCheaper(best, withSigns(loadWay({want[0].node, want[1].node}), want));
     // Each of the two in a register of its own.
     if (!best) best = withSigns(joined(singleWay({want[0]}), singleWay({want[1]})), want);
-    return *best;
+    return std::move(*best);
 }
 
 bool LaneRegisters::areRealLoads(const Lanes& lanes) const {
@@ -230,7 +241,7 @@ Way LaneRegisters::linesWay(const Lanes& want) const {
     for (const Home& home : homesOf(want[0].node, 4)) {
         const Way way = standingWay(home.number);
         if (holdsNodes(way.lanes, want)) keepCheaper(best, withSigns(way, want));
-        if (holdsNodes(way.lanes, swapped)) keepCheaper(best, withSigns(shuffled({way}, {1, 0, 3, 2}), want));
+        if (holdsNodes(way.lanes, swapped)) keepCheaper(best, withSigns(shuffled(waysOf(way), {1, 0, 3, 2}), want));
     }
     if (best && best->cost == 0) return *best;
     if (areRealLoads(want)) {
@@ -239,7 +250,7 @@ Way LaneRegisters::linesWay(const Lanes& want) const {
     keepCheaper(best, withSigns(fromHalves(want), want));
     if (isAnyHalf(swapped[0], swapped[1]) || isAnyHalf(swapped[2], swapped[3])) {
         const Way way = fromHalves(swapped);
-        keepCheaper(best, withSigns(shuffled({way}, {1, 0, 3, 2}), want));
+        keepCheaper(best, withSigns(shuffled(waysOf(way), {1, 0, 3, 2}), want));
     }
     // One line is swapped and the other is not.
     for (const int line : {0, 1}) {
@@ -247,18 +258,19 @@ Way LaneRegisters::linesWay(const Lanes& want) const {
             line == 0 ? Lanes{want[1], want[0], want[2], want[3]} : Lanes{want[0], want[1], want[3], want[2]};
         if (!isAnyHalf(mixed[0], mixed[1]) || !isAnyHalf(mixed[2], mixed[3])) continue;
         const std::vector<int> places = line == 0 ? std::vector{1, 0, 2, 3} : std::vector{0, 1, 3, 2};
-        keepCheaper(best, withSigns(shuffled({fromHalves(mixed)}, places), want));
+        keepCheaper(best, withSigns(shuffled(waysOf(fromHalves(mixed)), places), want));
     }
     // Lanes 0 and 2 of one register with lanes 1 and 3 of another.
     for (const Home& a : homesOf(want[0].node, 4)) {
         for (const Home& b : homesOf(want[1].node, 4)) {
             const auto i = upperLane(a.number, want[2].node), j = upperLane(b.number, want[3].node);
             if (a.lane > 1 || b.lane > 1 || !i || !j) continue;
-            const Way both = shuffled({standingWay(a.number), standingWay(b.number)}, {a.lane, b.lane + 4, *i, *j + 4});
+            const Way both =
+                shuffled(waysOf(standingWay(a.number), standingWay(b.number)), {a.lane, b.lane + 4, *i, *j + 4});
             keepCheaper(best, withSigns(both, want));
         }
     }
-    return *best;
+    return std::move(*best);
 }
 
 // Which of lanes 2 and 3 of a register holds a node.
@@ -293,9 +305,9 @@ std::vector<std::pair<Way, int>> LaneRegisters::halvesWith(NodeId low, NodeId hi
         for (const Home& b : homesOf(high, 4)) {
             if (a.lane / 2 != b.lane / 2) continue;
             const int i = a.lane % 2, j = b.lane % 2;
-            found.emplace_back(a.number == b.number
-                                   ? shuffled({standingWay(a.number)}, {i, j, i + 2, j + 2})
-                                   : shuffled({standingWay(a.number), standingWay(b.number)}, {i, j + 4, i + 2, j + 6}),
+            found.emplace_back(a.number == b.number ? shuffled(waysOf(standingWay(a.number)), {i, j, i + 2, j + 2})
+                                                    : shuffled(waysOf(standingWay(a.number), standingWay(b.number)),
+                                                               {i, j + 4, i + 2, j + 6}),
                                a.lane / 2);
         }
     }
@@ -307,8 +319,8 @@ Way LaneRegisters::fromHalves(const Lanes& want) const {
     for (const auto& [a, aHalf] : halvesWith(want[0].node, want[1].node)) {
         for (const auto& [b, bHalf] : halvesWith(want[2].node, want[3].node)) {
             const bool isOne = a.standing >= 0 && a.standing == b.standing;
-            Way both = isOne ? shuffled({a}, {2 * aHalf, 2 * aHalf + 1, 2 * bHalf, 2 * bHalf + 1})
-                             : shuffled({a, b}, {2 * aHalf, 2 * aHalf + 1, 2 * bHalf + 4, 2 * bHalf + 5});
+            Way both = isOne ? shuffled(waysOf(a), {2 * aHalf, 2 * aHalf + 1, 2 * bHalf, 2 * bHalf + 1})
+                             : shuffled(waysOf(a, b), {2 * aHalf, 2 * aHalf + 1, 2 * bHalf + 4, 2 * bHalf + 5});
             keepCheaper(best, std::move(both));
         }
     }
@@ -318,7 +330,7 @@ Way LaneRegisters::fromHalves(const Lanes& want) const {
         return loadWay({want[0].node, want[1].node, want[2].node, want[3].node});
     }
     keepCheaper(best, joined(pairWay({want[0], want[1]}), pairWay({want[2], want[3]})));
-    return *best;
+    return std::move(*best);
 }
 
 }  // namespace gen

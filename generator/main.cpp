@@ -10,6 +10,7 @@
 #include "output/catalogue_json.h"
 #include "output/emit.h"
 #include "output/emit_lanes.h"
+#include "output/graph_json.h"
 #include "output/routine_tables.h"
 #include "output/tuning.h"
 
@@ -24,6 +25,7 @@ constexpr const char* usage =
     "       generate show FAMILY N FORM   the same in registers of several lanes: pairs or lines\n"
     "       generate list FAMILY N    prints the graph itself, one node to a line\n"
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
+    "       generate graphs FOLDER    writes every graph as JSON into this folder, FAMILY_N.json\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
     "FAMILY: complex, real_forward, real_inverse, hartley, wht, dct4_fold, dct4_output, dct4_combine,\n"
     "dct4_direct.  The tree is the working folder.\n";
@@ -149,11 +151,25 @@ int count() {
     return 0;
 }
 
+int graphs(const fs::path& folder) {
+    fs::create_directories(folder);
+    for (const gen::GraphEntry& entry : gen::allGraphs()) {
+        const auto graph = entry.build();
+        const fs::path path = folder / (entry.family->word + "_" + std::to_string(entry.length) + ".json");
+        std::ofstream file(path, std::ios::binary);
+        const std::string text = gen::graphJson(entry, *graph, tuning().schedule(entry, *graph));
+        if (!(file << text).flush()) throw std::runtime_error("cannot write " + path.generic_string());
+    }
+    std::cout << gen::allGraphs().size() << " graphs\n";
+    return 0;
+}
+
 int run(const std::vector<std::string>& words) {
     const std::string verb = words.empty() ? "" : words[0];
     if (words.size() == 1 && verb == "write") return write();
     if (words.size() == 1 && verb == "check") return check();
     if (words.size() == 1 && verb == "count") return count();
+    if (words.size() == 2 && verb == "graphs") return graphs(words[1]);
     if (words.size() == 4 && verb == "show") {
         const gen::GraphEntry& entry = find(words[1], words[2]);
         const auto graph = entry.build();

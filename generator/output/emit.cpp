@@ -1,26 +1,18 @@
 #include "output/emit.h"
 
 #include <cctype>
-#include <charconv>
 #include <map>
 #include <optional>
 #include <stdexcept>
 
 #include "output/block_title.h"
+#include "output/numerals.h"
 #include "output/words.h"
 
 namespace gen {
 namespace {
 
 using std::to_string;
-
-// The shortest text that reads back as this double.
-std::string literal(double x) {
-    char text[32];
-    const auto end = std::to_chars(text, text + sizeof text, x).ptr;
-    std::string digits(text, end);
-    return digits.find_first_of(".e") == std::string::npos ? digits + ".0" : digits;
-}
 
 // Names the values of one graph in the order in which the schedule meets them, and numbers its constants: those used
 // most come first. The 2 of the doubled bins is no constant of a text but comes from the ports: a compiler that sees it

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "dct4/wrap.h"
 
@@ -36,7 +37,9 @@ inline void arenaSetCursor(PlanArena* arena, std::uintptr_t cursor) { std::memcp
 
 inline PlanArena* arenaInit(std::uint8_t* block) {
     const auto arena = reinterpret_cast<PlanArena*>(block);
-    arenaSetCursor(arena, firstRecordAddress(reinterpret_cast<std::uintptr_t>(block)));
+    // A compiler may have a third type for addresses, as wide as one of these two.
+    using Address = std::conditional_t<sizeof(void*) == sizeof(std::uint32_t), std::uint32_t, std::uint64_t>;
+    arenaSetCursor(arena, firstRecordAddress(static_cast<Address>(reinterpret_cast<std::uintptr_t>(block))));
     return arena;
 }
 

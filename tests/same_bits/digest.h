@@ -16,7 +16,7 @@
 
 #ifdef _WIN32
 #include <windows.h>
-#else
+#elif !defined(__wasm__)
 #include <dlfcn.h>
 #endif
 
@@ -29,6 +29,10 @@ namespace test {
 inline HMODULE library;
 inline bool load(const char* path) { return (library = LoadLibraryA(path)) != nullptr; }
 inline void* find(const std::string& name) { return reinterpret_cast<void*>(GetProcAddress(library, name.c_str())); }
+#elif defined(__wasm__)
+// linked_names.cpp
+bool load(const char* path);
+void* find(const std::string& name);
 #else
 inline void* library;
 inline bool load(const char* path) { return (library = dlopen(path, RTLD_NOW)) != nullptr; }

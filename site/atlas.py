@@ -283,7 +283,7 @@ data-view="clear">Clear</button></div>
     if len(rows) > 1:
         parts.append('<h2 id="forms">Forms</h2><p>Each form does the same sums and products in each lane, so that the results '
                      "are the same bits. What is added are shuffles and changes of sign, which round nothing.</p>" +
-                     table(["form", "", "steps of registers", "shuffles", "signs"], rows, "Forms of the text", "ttnnn"))
+                     table(["form", "what shares a register", "steps", "shuffles", "signs"], rows, "Forms of the text", "ttnnn"))
     if codes:
         where, floor, rows = figures_of(data, graph, export, codes, forms)
         note = f"Times: {escape(where)}. The floor is {floor:.0f} cycles." if floor and rows[0][4] else ""
@@ -371,7 +371,7 @@ def kernels_page(site, data, codes):
 </option></select></label>
 <label>Points from <input name="from" type="number" min="2" max="8192" size="6"></label>
 <label>to <input name="to" type="number" min="2" max="8192" size="6"></label><output role="status"></output></form>
-<div class="wide" role="region" aria-label="All kernels" tabindex="0"><table class="sortable" id="kernels"><caption>All kernels
+<div class="wide" role="group" aria-label="All kernels" tabindex="0"><table class="sortable" id="kernels"><caption>All kernels
 </caption><thead><tr>{head}</tr></thead><tbody>
 {chr(10).join(rows)}
 </tbody></table></div>"""

@@ -213,7 +213,7 @@ def build(site, data):
     batches = re.search(r"/\*.*?\*/", (data.source / "include/zulgenpx_batch.hpp").read_text(encoding="ascii"), re.S)[0]
     site.page("reference/cpp.html", "C++", "<h1>C++</h1><p class=\"lead\">Headers for C++20: routines picked by length when "
               "the program is compiled, sizes checked, plans that own their memory.</p>"
-              f'<ul class="names">{items}</ul>' + tabs("header", [
+              f'<h2>Names</h2><ul class="names">{items}</ul><h2>What the headers say</h2>' + tabs("header", [
                   ("zulgenpx.hpp", comment_text(overview)), ("zulgenpx_batch.hpp", comment_text(batches))]),
               trail=[("Reference", "reference/index.html")], words="C++ headers")
     items = ""

@@ -92,7 +92,7 @@ def table(heads, rows, label, kinds="", sortable=False, classes=""):
         f'<th scope="row"{names[kind]}>{cell}</th>' if number == 0 else f"<td{names[kind]}>{cell}</td>"
         for number, (cell, kind) in enumerate(zip(row, kinds))) + "</tr>" for row in rows)
     mark = f' class="sortable {classes}"' if sortable else f' class="{classes}"' if classes else ""
-    return (f'<div class="wide" role="region" aria-label="{escape(label, quote=True)}" tabindex="0">'
+    return (f'<div class="wide" role="group" aria-label="{escape(label, quote=True)}" tabindex="0">'
             f"<table{mark}><caption>{label}</caption><thead><tr>{head}</tr></thead><tbody>\n{body}\n</tbody></table>"
             "</div>\n")
 
@@ -103,7 +103,7 @@ def facts(rows):
 
 
 def code(text, language, label):
-    return (f'<div class="code-block"><pre tabindex="0" role="region" aria-label="{escape(label, quote=True)}">'
+    return (f'<div class="code-block"><pre tabindex="0" role="group" aria-label="{escape(label, quote=True)}">'
             f'<code class="{language}">{escape(text, quote=False)}</code></pre></div>\n')
 
 

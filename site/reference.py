@@ -368,8 +368,13 @@ def wrapped(name):
     return name.replace("_", "_<wbr>")
 
 
+# What people who come from elsewhere type.
+SYNONYMS = {"CToC forward": "fft", "CToC inverse": "ifft", "real forward": "rfft r2c half spectrum",
+            "real inverse": "irfft c2r half spectrum", "Hartley": "dht", "WHT": "fwht hadamard", "DCT4": "dct cosine mdct"}
+
+
 def search_words(export):
-    words = [lib.TITLES[export["family"]], lib.kind(export)]
+    words = [lib.TITLES[export["family"]], lib.kind(export), SYNONYMS.get(lib.kind(export), "")]
     n = lib.points(export)
     if n:
         words.append(f"{n} points length {n}")

@@ -48,6 +48,7 @@
             count.textContent = shown + " of " + table.tBodies[0].rows.length + " rows";
         }
         form.addEventListener("input", run);
+        form.addEventListener("change", run);
         form.addEventListener("submit", function (event) { event.preventDefault(); });
         run();
     });

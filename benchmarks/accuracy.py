@@ -1,5 +1,5 @@
-"""Makes benchmarks/results/accuracy.md of what the program accuracy has printed, and puts the same figures into README
-and header, or looks whether these still say the same.
+"""Makes benchmarks/results/accuracy.md of what the program accuracy has printed, and puts the same figures into
+docs/accuracy.md and the header, or looks whether these still say the same.
 
 accuracy.py write FILE.csv ...    one file for each target
 accuracy.py check
@@ -11,7 +11,7 @@ import sys
 
 TREE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
 RESULTS = "benchmarks/results/accuracy.md"
-README, HEADER = "README.md", "include/zulgenpx.h"
+PAGE, HEADER = "docs/accuracy.md", "include/zulgenpx.h"
 
 ELEMENTS = ["64f", "32f"]
 DFT = {"complex_forward": "complex forward", "complex_inverse": "complex inverse", "real_forward": "real forward",
@@ -27,7 +27,7 @@ def within(family, first, last):
     return lambda record: record.family == family and first <= record.length <= last
 
 
-# What README and header tell apart.
+# What page and header tell apart.
 GROUPS = {
     "complex, no prime from 11 up": lambda r: r.family.startswith("complex") and not has_prime_from_11(r.length),
     "complex, a prime from 11 up": lambda r: r.family.startswith("complex") and has_prime_from_11(r.length),
@@ -186,7 +186,7 @@ def blocks():
 def places():
     """File, lines that are due there, and the beginning of the first of them."""
     summary, lengths = blocks()
-    return [(README, summary, "| pooled, worst |"),
+    return [(PAGE, summary, "| pooled, worst |"),
             (HEADER, header_summary(summary), "                                          64f, times"),
             (HEADER, header_lengths(lengths), "     N               2     4 ")]
 

@@ -5,38 +5,80 @@ import re
 ELEMENTS = {"32f": "float", "64f": "double", "32fc": "complex float", "64fc": "complex double"}
 C_TYPES = {"32f": "Zulg32f", "64f": "Zulg64f", "32fc": "Zulg32fc", "64fc": "Zulg64fc"}
 LENGTHS = range(2, 65)
-GRAPH_OF = {"DFTFwd_CToC": "complex", "DFTInv_CToC": "complex", "DFTFwd_RToCCS": "real_forward",
-            "DFTFwd_RToPack": "real_forward", "DFTFwd_RToPerm": "real_forward", "DFTInv_CCSToR": "real_inverse",
-            "DFTInv_PackToR": "real_inverse", "DFTInv_PermToR": "real_inverse", "Hartley": "hartley", "WHT": "wht"}
-TITLES = {"DFTFwd_CToC": "Complex DFT, forward", "DFTInv_CToC": "Complex DFT, inverse",
-          "DFTFwd_RToCCS": "Real DFT, forward, to CCS", "DFTFwd_RToPack": "Real DFT, forward, to Pack",
-          "DFTFwd_RToPerm": "Real DFT, forward, to Perm", "DFTInv_CCSToR": "Real DFT, inverse, from CCS",
-          "DFTInv_PackToR": "Real DFT, inverse, from Pack", "DFTInv_PermToR": "Real DFT, inverse, from Perm",
-          "Hartley": "Hartley transform", "WHT": "Walsh-Hadamard transform", "DCT4": "DCT-IV", "version": "Version"}
+GRAPH_OF = {
+    "DFTFwd_CToC": "complex",
+    "DFTInv_CToC": "complex",
+    "DFTFwd_RToCCS": "real_forward",
+    "DFTFwd_RToPack": "real_forward",
+    "DFTFwd_RToPerm": "real_forward",
+    "DFTInv_CCSToR": "real_inverse",
+    "DFTInv_PackToR": "real_inverse",
+    "DFTInv_PermToR": "real_inverse",
+    "Hartley": "hartley",
+    "WHT": "wht",
+}
+TITLES = {
+    "DFTFwd_CToC": "Complex DFT, forward",
+    "DFTInv_CToC": "Complex DFT, inverse",
+    "DFTFwd_RToCCS": "Real DFT, forward, to CCS",
+    "DFTFwd_RToPack": "Real DFT, forward, to Pack",
+    "DFTFwd_RToPerm": "Real DFT, forward, to Perm",
+    "DFTInv_CCSToR": "Real DFT, inverse, from CCS",
+    "DFTInv_PackToR": "Real DFT, inverse, from Pack",
+    "DFTInv_PermToR": "Real DFT, inverse, from Perm",
+    "Hartley": "Hartley transform",
+    "WHT": "Walsh-Hadamard transform",
+    "DCT4": "DCT-IV",
+    "version": "Version",
+}
 FAMILIES = list(TITLES)
-INVERSE_OF = {"DFTFwd_CToC": "DFTInv_CToC", "DFTFwd_RToCCS": "DFTInv_CCSToR", "DFTFwd_RToPack": "DFTInv_PackToR",
-              "DFTFwd_RToPerm": "DFTInv_PermToR"}
+INVERSE_OF = {
+    "DFTFwd_CToC": "DFTInv_CToC",
+    "DFTFwd_RToCCS": "DFTInv_CCSToR",
+    "DFTFwd_RToPack": "DFTInv_PackToR",
+    "DFTFwd_RToPerm": "DFTInv_PermToR",
+}
 INVERSE_OF.update({inverse: forward for forward, inverse in INVERSE_OF.items()})
 
 # X[k] and x[n] as HTML. The same words as in the header.
 FORMULAS = {
     "CToC forward": ("X[k] = scale · <span class=sum>Σ</span><sub>n</sub> x[n] · exp(−2πi·n·k/N)", "k = 0 … N−1"),
     "CToC inverse": ("x[n] = scale · <span class=sum>Σ</span><sub>k</sub> X[k] · exp(+2πi·n·k/N)", "n = 0 … N−1"),
-    "real forward": ("X[k] = scale · <span class=sum>Σ</span><sub>n</sub> x[n] · exp(−2πi·n·k/N)",
-                     "k = 0 … N/2, since X[N−k] is the conjugate of X[k]"),
-    "real inverse": ("y[n] = scale · <span class=sum>Σ</span><sub>k</sub> X[k] · exp(+2πi·n·k/N)",
-                     "n = 0 … N−1; the bins above N/2 are the conjugates of those below"),
-    "Hartley": ("out[k] = scale · <span class=sum>Σ</span><sub>j</sub> in[j] · (cos(2πj·k/N) + sin(2πj·k/N))",
-                "k = 0 … N−1"),
-    "WHT": ("out[k] = scale · <span class=sum>Σ</span><sub>j</sub> (−1)<sup>bits set in both j and k</sup> · in[j]",
-            "k = 0 … N−1, N = 2<sup>order</sup>; rows in natural (Sylvester) order"),
+    "real forward": (
+        "X[k] = scale · <span class=sum>Σ</span><sub>n</sub> x[n] · exp(−2πi·n·k/N)",
+        "k = 0 … N/2, since X[N−k] is the conjugate of X[k]",
+    ),
+    "real inverse": (
+        "y[n] = scale · <span class=sum>Σ</span><sub>k</sub> X[k] · exp(+2πi·n·k/N)",
+        "n = 0 … N−1; the bins above N/2 are the conjugates of those below",
+    ),
+    "Hartley": (
+        "out[k] = scale · <span class=sum>Σ</span><sub>j</sub> in[j] · (cos(2πj·k/N) + sin(2πj·k/N))",
+        "k = 0 … N−1",
+    ),
+    "WHT": (
+        "out[k] = scale · <span class=sum>Σ</span><sub>j</sub> (−1)<sup>bits set in both j and k</sup> · in[j]",
+        "k = 0 … N−1, N = 2<sup>order</sup>; rows in natural (Sylvester) order",
+    ),
     "DCT4": ("y[k] = <span class=sum>Σ</span><sub>n</sub> x[n] · cos(π(n + ½)(k + ½)/N)", "k = 0 … N−1; no scale"),
 }
-STACK = {"CToC": "at most 2 KB", "R": "at most 1 KB", "Hartley": "at most 1 KB", "WHT": "at most 2 KB",
-         "DCT4": "at most 12 KB at any length", "build": "at most 2 KB", "batch": "at most 6 KB",
-         "batch DCT4": "at most 13 KB"}
-STATUSES = {"StatusOk": 0, "StatusPlanKindError": -5, "StatusSizeError": -6, "StatusNullPointer": -8,
-            "StatusFlagError": -16}
+STACK = {
+    "CToC": "at most 2 KB",
+    "R": "at most 1 KB",
+    "Hartley": "at most 1 KB",
+    "WHT": "at most 2 KB",
+    "DCT4": "at most 12 KB at any length",
+    "build": "at most 2 KB",
+    "batch": "at most 6 KB",
+    "batch DCT4": "at most 13 KB",
+}
+STATUSES = {
+    "StatusOk": 0,
+    "StatusPlanKindError": -5,
+    "StatusSizeError": -6,
+    "StatusNullPointer": -8,
+    "StatusFlagError": -16,
+}
 
 
 class Library:
@@ -46,13 +88,20 @@ class Library:
         self.exports, self.batches, self.sizes = catalogue["exports"], catalogue["batches"], catalogue["sizes"]
         self.by_name = {export["name"]: export for export in self.exports + self.batches}
         header = (source / "include/zulgenpx.h").read_text(encoding="ascii")
-        self.version = ".".join(re.search(rf"#define ZULG_VERSION_{part} (\d+)", header)[1]
-                                for part in ("MAJOR", "MINOR"))
+        self.version = ".".join(
+            re.search(rf"#define ZULG_VERSION_{part} (\d+)", header)[1] for part in ("MAJOR", "MINOR")
+        )
 
     def of(self, family, size, element):
         """The export of a family with this length or order."""
-        return next((export for export in self.exports if export["family"] == family and size_of(export) == size
-                     and export.get("element") == element), None)
+        return next(
+            (
+                export
+                for export in self.exports
+                if export["family"] == family and size_of(export) == size and export.get("element") == element
+            ),
+            None,
+        )
 
 
 def size_of(export):

@@ -9,6 +9,7 @@ class MachineCode:
     def __init__(self, source, path, objdump):
         sys.path.insert(0, str(source / "tests/machine"))
         import binary  # of the tree
+
         self.library = binary.Library(str(path), objdump)
 
     def kernels(self, name):
@@ -17,8 +18,9 @@ class MachineCode:
         found = []
         for level, start in zip(LEVELS, self.library.kernels(slot)):
             instructions = self.library.routine(start)
-            found.append((level, sum(each.size for each in instructions), len(instructions),
-                          listing(instructions, start)))
+            found.append(
+                (level, sum(each.size for each in instructions), len(instructions), listing(instructions, start))
+            )
         return found
 
 

@@ -5,12 +5,22 @@ import snippets
 from pages import code, escape, facts, relative, table, tabs
 
 FOLDER = "reference"
-DESCRIPTIONS = {"pSrc": "source, read only", "pDst": "destination, all of it written and nothing beyond",
-                "flag": "one of the four scale flags", "length": "how many points", "order": "N = 2<sup>order</sup>",
-                "pBuffer": "memory to work in, or null", "pSize": "receives the number of bytes",
-                "plan": "a plan of this element type", "pPlan": "receives the plan", "count": "how many transforms",
-                "srcStep": "from element to element of the source", "dstStep": "the same of the destination",
-                "srcDistance": "from transform to transform in the source", "dstDistance": "the same of the destination"}
+DESCRIPTIONS = {
+    "pSrc": "source, read only",
+    "pDst": "destination, all of it written and nothing beyond",
+    "flag": "one of the four scale flags",
+    "length": "how many points",
+    "order": "N = 2<sup>order</sup>",
+    "pBuffer": "memory to work in, or null",
+    "pSize": "receives the number of bytes",
+    "plan": "a plan of this element type",
+    "pPlan": "receives the plan",
+    "count": "how many transforms",
+    "srcStep": "from element to element of the source",
+    "dstStep": "the same of the destination",
+    "srcDistance": "from transform to transform in the source",
+    "dstDistance": "the same of the destination",
+}
 
 
 def path_of(name):
@@ -25,8 +35,12 @@ def argument_rows(export):
     for argument in export["arguments"]:
         elements = "" if argument["use"] == "value" else str(argument["elements"])
         shape = escape(elements) + (" of each transform" if "step" in argument else "") if elements else "by value"
-        yield [argument["name"], escape(lib.c_argument(argument)), shape,
-               DESCRIPTIONS.get(argument["name"], "") + ("; may be null" if argument.get("null") else "")]
+        yield [
+            argument["name"],
+            escape(lib.c_argument(argument)),
+            shape,
+            DESCRIPTIONS.get(argument["name"], "") + ("; may be null" if argument.get("null") else ""),
+        ]
 
 
 def slots_figure(export):
@@ -43,24 +57,43 @@ def slots_figure(export):
             words = f"{'Re' if held[0] == 'R' else 'Im'} X[{held[1:]}]"
             kind = "real" if held[0] == "R" else "imaginary"
         cells.append(f'<li class="{kind}"><span class="slot">{slot}</span><span class="held">{words}</span></li>')
-    rule = {"CCS": "The bins in turn, real part before imaginary part: what NumPy’s rfft returns, seen as reals.",
-            "Pack": "CCS without its zeros.",
-            "Perm": "CCS with Re X[N/2] in the place of the first zero." if n % 2 == 0
-                    else "At odd lengths the same as Pack."}[layout]
-    reads = ("The zeros are stored whatever the input is." if export["sense"] == "forward" else
-             "What is in the slots of the zeros has no effect; N + 1 elements suffice.") if layout == "CCS" else ""
-    return (f'<h2 id="slots">Which slot holds which bin</h2><p>{export["spectrum"]["argument"]} has {len(named)} '
-            f'elements. {rule} {reads}</p><ol class="slots" start="0" aria-label="Slots of {layout} at {n} points">'
-            f"{''.join(cells)}</ol>\n")
+    rule = {
+        "CCS": "The bins in turn, real part before imaginary part: what NumPy’s rfft returns, seen as reals.",
+        "Pack": "CCS without its zeros.",
+        "Perm": (
+            "CCS with Re X[N/2] in the place of the first zero." if n % 2 == 0 else "At odd lengths the same as Pack."
+        ),
+    }[layout]
+    reads = (
+        (
+            "The zeros are stored whatever the input is."
+            if export["sense"] == "forward"
+            else "What is in the slots of the zeros has no effect; N + 1 elements suffice."
+        )
+        if layout == "CCS"
+        else ""
+    )
+    return (
+        f'<h2 id="slots">Which slot holds which bin</h2><p>{export["spectrum"]["argument"]} has {len(named)} '
+        f'elements. {rule} {reads}</p><ol class="slots" start="0" aria-label="Slots of {layout} at {n} points">'
+        f'{"".join(cells)}</ol>\n'
+    )
 
 
 def slots_in_words(export):
     layout = export["spectrum"]["layout"]
-    rows = [["CCS", "N+2, or N+1 at odd N", "0", "N", "2k", "2k+1"], ["Pack", "N", "0", "N−1", "2k−1", "2k"],
-            ["Perm, even N", "N", "0", "1", "2k", "2k+1"], ["Perm, odd N", "N", "0", "–", "2k−1", "2k"]]
-    return ('<h2 id="slots">Which slot holds which bin</h2>' + table(
+    rows = [
+        ["CCS", "N+2, or N+1 at odd N", "0", "N", "2k", "2k+1"],
+        ["Pack", "N", "0", "N−1", "2k−1", "2k"],
+        ["Perm, even N", "N", "0", "1", "2k", "2k+1"],
+        ["Perm, odd N", "N", "0", "–", "2k−1", "2k"],
+    ]
+    return '<h2 id="slots">Which slot holds which bin</h2>' + table(
         ["layout", "elements", "Re X[0]", "Re X[N/2]", "Re X[k]", "Im X[k], 0 &lt; k &lt; N/2"],
-        [row for row in rows if row[0].startswith(layout)], "Slots by length", "tnnnnn"))
+        [row for row in rows if row[0].startswith(layout)],
+        "Slots by length",
+        "tnnnnn",
+    )
 
 
 def scale_table(export):
@@ -68,12 +101,18 @@ def scale_table(export):
     sense = {"forward": "forward", "inverse": "inverse"}.get(export.get("sense"), "either direction")
     values = {"1": "1", "1/N": f"1/{n}" if n else "1/N", "1/√N": f"1/√{n}" if n else "1/√N"}
     rows = []
-    for name, flag, norm in (("DivFwdByN", 1, "forward"), ("DivInvByN", 2, "backward, the default"),
-                             ("DivBySqrtN", 4, "ortho"), ("NoDivByAny", 8, "")):
+    for name, flag, norm in (
+        ("DivFwdByN", 1, "forward"),
+        ("DivInvByN", 2, "backward, the default"),
+        ("DivBySqrtN", 4, "ortho"),
+        ("NoDivByAny", 8, ""),
+    ):
         rows.append([name, flag, values[lib.scale_of(export, flag)], norm])
-    return ('<h2 id="scale">Who divides by N</h2><p>The flag is one value and no set of bits. The same flag forward and '
-            "then inverse restores the input for 1, 2 and 4; 8 on both multiplies it by N.</p>" +
-            table(["flag", "value", f"factor, {sense}", "NumPy’s norm"], rows, "Factor of each flag", "cnnt"))
+    return (
+        '<h2 id="scale">Who divides by N</h2><p>The flag is one value and no set of bits. The same flag forward and '
+        "then inverse restores the input for 1, 2 and 4; 8 on both multiplies it by N.</p>"
+        + table(["flag", "value", f"factor, {sense}", "NumPy’s norm"], rows, "Factor of each flag", "cnnt")
+    )
 
 
 def statuses(export):
@@ -82,13 +121,30 @@ def statuses(export):
     rows = [["StatusOk", 0, "done"]]
     size = next((each for each in ("length", "order") if each in arguments), None)
     if size:
-        allowed = ("2 to 64" if size == "length" and export["family"] != "DCT4" else "1 to 13" if size == "order" else
-                   "what GetSize accepts")
-        rows.append(["StatusSizeError", -6, f"{size} is not {allowed}" if export["family"] != "DCT4" else
-                     "the length is not accepted: use powers of two from 2 up"])
+        allowed = (
+            "2 to 64"
+            if size == "length" and export["family"] != "DCT4"
+            else "1 to 13" if size == "order" else "what GetSize accepts"
+        )
+        rows.append(
+            [
+                "StatusSizeError",
+                -6,
+                (
+                    f"{size} is not {allowed}"
+                    if export["family"] != "DCT4"
+                    else "the length is not accepted: use powers of two from 2 up"
+                ),
+            ]
+        )
     if "Batch" in name and "count" in arguments:
-        rows.append(["StatusSizeError", -6, "count is negative, a place is no number of 64 bits, or two results would be "
-                     "in one place"])
+        rows.append(
+            [
+                "StatusSizeError",
+                -6,
+                "count is negative, a place is no number of 64 bits, or two results would be in one place",
+            ]
+        )
     checked = [each for each in ("pSrc", "pDst", "plan", "pPlan") if each in arguments]
     if "pBuffer" in arguments and ("Batch" in name or export["family"] == "DCT4"):
         checked.append("pBuffer, where it is needed")
@@ -100,8 +156,14 @@ def statuses(export):
         rows.append(["StatusFlagError", -16, "flag is not exactly one of 1, 2, 4, 8"])
     if export["family"] == "DCT4" and "pDst" in arguments:
         rows.append(["StatusPlanKindError", -5, "the kind of the plan is unknown"])
-    note = ("" if len(rows) == 1 else "<p>Checks come in this order: length or order, pointers, flag. Unless the status is "
-            "StatusOk, nothing has been read or written.</p>")
+    note = (
+        ""
+        if len(rows) == 1
+        else (
+            "<p>Checks come in this order: length or order, pointers, flag. Unless the status is "
+            "StatusOk, nothing has been read or written.</p>"
+        )
+    )
     if "DCT4Init_" in name:
         note = "<p>A length is refused only after a part of the plan has been built in the block.</p>"
     if "pSize" in arguments:
@@ -114,31 +176,72 @@ def promises(export):
     family, name, rows = export["family"], export["name"], []
     is_batch, is_transform = "Batch" in name, lib.is_transform(export)
     if is_transform and not is_batch:
-        rows.append(("Aliasing", "All input is read before the first output is written: pDst may equal pSrc or overlap "
-                     "it in any way. Arrays need no alignment."))
+        rows.append(
+            (
+                "Aliasing",
+                (
+                    "All input is read before the first output is written: pDst may equal pSrc or overlap "
+                    "it in any way. Arrays need no alignment."
+                ),
+            )
+        )
     if is_batch and is_transform:
-        rows.append(("Aliasing", "In place where steps and distances of both arrays are equal. Otherwise no element that "
-                     "is written may be one that is read. Nothing needs to be aligned."))
+        rows.append(
+            (
+                "Aliasing",
+                (
+                    "In place where steps and distances of both arrays are equal. Otherwise no element that "
+                    "is written may be one that is read. Nothing needs to be aligned."
+                ),
+            )
+        )
     if family == "DCT4" and (is_transform or "Init" in name):
-        rows.append(("Threads", "A plan of more than 32 points serves one thread at a time: each run writes inside it. "
-                     "Different plans run at the same time."))
+        rows.append(
+            (
+                "Threads",
+                (
+                    "A plan of more than 32 points serves one thread at a time: each run writes inside it. "
+                    "Different plans run at the same time."
+                ),
+            )
+        )
     else:
-        rows.append(("Threads", "Any number of threads may call at the same time, each with its own destination"
-                     + (" and buffer" if family == "WHT" else "") + ". There is no state and no lock."))
+        rows.append(
+            (
+                "Threads",
+                "Any number of threads may call at the same time, each with its own destination"
+                + (" and buffer" if family == "WHT" else "")
+                + ". There is no state and no lock.",
+            )
+        )
     if family == "WHT" and is_transform:
         order = export.get("order")
         sizes = f"{export['element']}: "
         if not is_batch and order and order <= 7:
             rows.append(("Memory", "Nothing is allocated; pBuffer is ignored at orders 1 to 7."))
         else:
-            rows.append(("Memory", "Orders 8 to 13 work through pBuffer, as many bytes as zulgWHTGetBufferSize says"
-                         + (". A null pointer is refused." if is_batch else ". With a null pointer the routine takes a "
+            rows.append(
+                (
+                    "Memory",
+                    "Orders 8 to 13 work through pBuffer, as many bytes as zulgWHTGetBufferSize says"
+                    + (
+                        ". A null pointer is refused."
+                        if is_batch
+                        else (
+                            ". With a null pointer the routine takes a "
                             "block from the core library for the time of the call; where there is none, the call "
-                            "faults.") + (f" At order {order} it is {{}} bytes." if order else "")))
+                            "faults."
+                        )
+                    )
+                    + (f" At order {order} it is {{}} bytes." if order else ""),
+                )
+            )
     elif family == "DCT4" and "InitAlloc" in name:
         rows.append(("Memory", "The plan is in a block of the core library; give it back with the routine Free."))
     elif family == "DCT4" and "Init_" in name:
-        rows.append(("Memory", "The plan is in the caller’s block of as many bytes as GetSize says. Never move or copy it."))
+        rows.append(
+            ("Memory", "The plan is in the caller’s block of as many bytes as GetSize says. Never move or copy it.")
+        )
     else:
         rows.append(("Memory", "Nothing is allocated."))
     if is_batch:
@@ -146,7 +249,9 @@ def promises(export):
     elif family == "DCT4" and not is_transform:
         stack = lib.STACK["build"]
     else:
-        stack = lib.STACK.get(family) or lib.STACK["CToC" if "CToC" in family else "R"] if family != "version" else "none"
+        stack = (
+            lib.STACK.get(family) or lib.STACK["CToC" if "CToC" in family else "R"] if family != "version" else "none"
+        )
     rows.append(("Stack", f"{stack}, on every target."))
     return rows
 
@@ -155,14 +260,29 @@ def counts_of(export, name_of_graph, here):
     counts = export["counts"]
     sums = counts["additions"] + counts["subtractions"]
     total = sums + counts["multiplications"] + counts["scale"]
-    rows = [("Steps", f"{total}: {counts['additions']} additions, {counts['subtractions']} subtractions, "
-             f"{counts['multiplications']} products, and {counts['scale']} products with scale"),
-            ("Constants", counts["constants"]), ("Construction", escape(export["recipe"]["words"]))]
+    rows = [
+        (
+            "Steps",
+            (
+                f"{total}: {counts['additions']} additions, {counts['subtractions']} subtractions, "
+                f"{counts['multiplications']} products, and {counts['scale']} products with scale"
+            ),
+        ),
+        ("Constants", counts["constants"]),
+        ("Construction", escape(export["recipe"]["words"])),
+    ]
     if counts["negations"]:
         rows.append(("Signs", f"{counts['negations']} outputs are stored with their sign changed"))
     if name_of_graph:
-        rows.append(("Graph", f'<a href="{relative(here, f"atlas/{name_of_graph}.html")}">'
-                     f"{name_of_graph.replace('_', ' ')} in the atlas</a>"))
+        rows.append(
+            (
+                "Graph",
+                (
+                    f'<a href="{relative(here, f"atlas/{name_of_graph}.html")}">'
+                    f'{name_of_graph.replace("_", " ")} in the atlas</a>'
+                ),
+            )
+        )
     return '<h2 id="counts">Counts</h2>' + facts(rows)
 
 
@@ -184,14 +304,21 @@ def accuracy(export, errors, bounds):
     rows = error_facts(found, element)
     if bound:
         rows.append(("Proved bound", bound))
-    note = ("Singles are computed in double and rounded once at the store."
-            if element.startswith("32") and export["family"] != "DCT4" else "")
-    return ('<h2 id="accuracy">How exact it is</h2><p>Relative L2 errors on x86-64, measured over 100,000 random inputs '
-            f"(from 4096 points on fewer). Greater errors of single calls are possible. {note}</p>" + facts(rows))
+    note = (
+        "Singles are computed in double and rounded once at the store."
+        if element.startswith("32") and export["family"] != "DCT4"
+        else ""
+    )
+    return (
+        '<h2 id="accuracy">How exact it is</h2><p>Relative L2 errors on x86-64, measured over 100,000 random inputs '
+        f"(from 4096 points on fewer). Greater errors of single calls are possible. {note}</p>"
+        + facts(rows)
+    )
 
 
 def speed(export, times):
     from results import PARTICIPANTS
+
     found = times.of(export["family"], export["element"], lib.points(export))
     if not found:
         return ""
@@ -202,21 +329,37 @@ def speed(export, times):
         if name in figures:
             nanoseconds, cycles, _ = figures[name]
             base = cycles / ours[1] if cycles and ours[1] else nanoseconds / ours[0]
-            rows.append([words, f"{nanoseconds:.1f}" if nanoseconds < 1000 else f"{nanoseconds:.0f}",
-                         f"{cycles:.0f}" if cycles else "", f"{base:.2f}"])
+            rows.append(
+                [
+                    words,
+                    f"{nanoseconds:.1f}" if nanoseconds < 1000 else f"{nanoseconds:.0f}",
+                    f"{cycles:.0f}" if cycles else "",
+                    f"{base:.2f}",
+                ]
+            )
     text = ""
     if floor and ours[1]:
-        text = (f"The floor, the least number of cycles for these steps with one number to a register, is {floor:.0f} "
-                f"cycles; this kernel takes {ours[1] / floor:.2f} times that.")
-    return ('<h2 id="speed">How fast it is</h2><p>' + f"{escape(where)}; hot, out of place, flag 8. {text} "
-            "Figures of other machines differ.</p>" +
-            table(["who", "nanoseconds", "cycles", "time over ours"], rows, "Time beside other libraries", "tnnn"))
+        text = (
+            f"The floor, the least number of cycles for these steps with one number to a register, is {floor:.0f} "
+            f"cycles; this kernel takes {ours[1] / floor:.2f} times that."
+        )
+    return (
+        '<h2 id="speed">How fast it is</h2><p>'
+        + f"{escape(where)}; hot, out of place, flag 8. {text} Figures of other machines differ.</p>"
+        + table(["who", "nanoseconds", "cycles", "time over ours"], rows, "Time beside other libraries", "tnnn")
+    )
 
 
 def snippet_tabs(found):
-    parts = [(title, code(text, language, f"A program in {title}"))
-             for title, language, text in (("C", "c", found.c), ("C++", "cpp", found.cpp),
-                                           ("Python", "python", found.python)) if text]
+    parts = [
+        (title, code(text, language, f"A program in {title}"))
+        for title, language, text in (
+            ("C", "c", found.c),
+            ("C++", "cpp", found.cpp),
+            ("Python", "python", found.python),
+        )
+        if text
+    ]
     return '<h2 id="example">Example</h2><p>The tests of the library run it.</p>' + tabs("language", parts)
 
 
@@ -239,6 +382,7 @@ def kin(export, library, here):
 
     def link(other, words):
         return f'<a href="{relative(here, path_of(other["name"]))}">{words}</a>'
+
     width = {"32f": "64f", "64f": "32f", "32fc": "64fc", "64fc": "32fc"}[element]
     twin = library.by_name.get(export["name"].replace("_" + element, "_" + width))
     if twin:
@@ -249,8 +393,17 @@ def kin(export, library, here):
     if "Batch" not in export["name"] and size:
         around = [library.of(family, size + step, element) for step in (-1, 1)]
         rows.append(("Neighbours", ", ".join(link(each, each["name"]) for each in around if each)))
-        general = next((each for each in library.exports if each["family"] == family and lib.size_of(each) is None
-                        and each["element"] == element and lib.is_transform(each)), None)
+        general = next(
+            (
+                each
+                for each in library.exports
+                if each["family"] == family
+                and lib.size_of(each) is None
+                and each["element"] == element
+                and lib.is_transform(each)
+            ),
+            None,
+        )
         if general:
             rows.append((f"{'Length' if export['length'] else 'Order'} as an argument", link(general, general["name"])))
     batch = library.by_name.get(f"zulgBatch{family}_{element}")
@@ -259,10 +412,13 @@ def kin(export, library, here):
     return '<h2 id="kin">Kin</h2>' + facts(rows) if rows else ""
 
 
-PURPOSES = {"GetBufferSize": "Tells the bytes of the buffer of an order; 0 for orders 1 to 7.",
-            "GetSize": "Tells the bytes of the plan of a length.",
-            "InitAlloc": "Builds a plan in a block of the core library.", "Init": "Builds a plan in the caller’s block.",
-            "Free": "Gives a plan of InitAlloc back. A plan of Init needs no freeing."}
+PURPOSES = {
+    "GetBufferSize": "Tells the bytes of the buffer of an order; 0 for orders 1 to 7.",
+    "GetSize": "Tells the bytes of the plan of a length.",
+    "InitAlloc": "Builds a plan in a block of the core library.",
+    "Init": "Builds a plan in the caller’s block.",
+    "Free": "Gives a plan of InitAlloc back. A plan of Init needs no freeing.",
+}
 
 
 def purpose(export):
@@ -270,8 +426,11 @@ def purpose(export):
     for word, text in PURPOSES.items():
         if word in name:
             if "Batch" in name:
-                return ("Tells the bytes of the buffer of a batch: of an order, 0 for orders 1 to 7." if
-                        export["family"] == "WHT" else "Tells the bytes of the buffer of a batch whose steps are not 1.")
+                return (
+                    "Tells the bytes of the buffer of a batch: of an order, 0 for orders 1 to 7."
+                    if export["family"] == "WHT"
+                    else "Tells the bytes of the buffer of a batch whose steps are not 1."
+                )
             return text
     if export["family"] == "version":
         return "Tells what the library that is loaded is. It cannot fail, and gives the same address at each call."
@@ -296,9 +455,9 @@ def size_tables(export, library):
     return ""
 
 
-DCT4_WARNING = """<aside class="warning" aria-label="Before anything else"><p>Lengths are powers of two from 2 to 2<sup>27</sup>
-in 32f, to 2<sup>26</sup> in 64f. The lengths 2<sup>k</sup> + 1 from 9 on are accepted too: never use them, they write past
-the arrays. Nor use longer powers of two. Never move or copy the block of a plan.</p></aside>
+DCT4_WARNING = """<aside class="warning" aria-label="Before anything else"><p>Lengths are powers of two from 2 to
+2<sup>27</sup> in 32f, to 2<sup>26</sup> in 64f. The lengths 2<sup>k</sup> + 1 from 9 on are accepted too: never use
+them, they write past the arrays. Nor use longer powers of two. Never move or copy the block of a plan.</p></aside>
 """
 
 
@@ -314,12 +473,16 @@ def entry(export, data, here):
     parts.append(code(f'#include "{header}"\n\n{lib.prototype(export)}', "c", "Prototype"))
     rows = list(argument_rows(export))
     if rows:
-        parts.append('<h2 id="arguments">Arguments: how long the arrays are</h2>' +
-                     table(["name", "declared", "elements", "what"], rows, "Arguments", "ccct"))
+        parts.append(
+            '<h2 id="arguments">Arguments: how long the arrays are</h2>'
+            + table(["name", "declared", "elements", "what"], rows, "Arguments", "ccct")
+        )
     if "Batch" in export["name"] and lib.is_transform(export):
-        parts.append("<p>Element k of transform j is at pSrc[k · srcStep + j · srcDistance], its result at "
-                     "pDst[k · dstStep + j · dstDistance]. Steps and distances count elements of the array; they may be "
-                     "negative, and those of the source 0.</p>")
+        parts.append(
+            "<p>Element k of transform j is at pSrc[k · srcStep + j · srcDistance], its result at "
+            "pDst[k · dstStep + j · dstDistance]. Steps and distances count elements of the array; they may be "
+            "negative, and those of the source 0.</p>"
+        )
     parts.append(slots_figure(export) or (slots_in_words(export) if "spectrum" in export else ""))
     if any(argument["name"] == "flag" for argument in export["arguments"]):
         parts.append(scale_table(export))
@@ -349,18 +512,32 @@ def entry(export, data, here):
 def plan_figures(export, data):
     """Errors and times of the DCT-IV, by length."""
     rows = []
-    for points in (2 ** power for power in range(1, 17)):
+    for points in (2**power for power in range(1, 17)):
         error = data.errors.of("DCT4", points, export["element"])
         found = data.times.of("DCT4", export["element"], points)
         where, figures, _ = found or ("", {}, None)
         peer = figures.get("fftw_patient_simd")
         ours = figures.get("zulgenpx")
-        rows.append([points, number(error[0][0]) if error else "", number(error[0][1]) if error else "",
-                     f"{ours[0]:.0f}" if ours else "", f"{peer[0]:.0f}" if peer else ""])
+        rows.append(
+            [
+                points,
+                number(error[0][0]) if error else "",
+                number(error[0][1]) if error else "",
+                f"{ours[0]:.0f}" if ours else "",
+                f"{peer[0]:.0f}" if peer else "",
+            ]
+        )
     unit = "2<sup>−53</sup>" if export["element"] == "64f" else "2<sup>−24</sup>"
-    return ('<h2 id="accuracy">How exact and how fast, by length</h2>' + f"<p>Times: {escape(where)}.</p>" +
-            table(["points", f"pooled error, times {unit}", "worst", "nanoseconds", "FFTW PATIENT as packaged, ns"], rows,
-                  "Errors and times of the DCT-IV", "nnnnn"))
+    return (
+        '<h2 id="accuracy">How exact and how fast, by length</h2>'
+        + f"<p>Times: {escape(where)}.</p>"
+        + table(
+            ["points", f"pooled error, times {unit}", "worst", "nanoseconds", "FFTW PATIENT as packaged, ns"],
+            rows,
+            "Errors and times of the DCT-IV",
+            "nnnnn",
+        )
+    )
 
 
 def wrapped(name):
@@ -369,15 +546,24 @@ def wrapped(name):
 
 
 # What people who come from elsewhere type.
-SYNONYMS = {"CToC forward": "fft", "CToC inverse": "ifft", "real forward": "rfft r2c half spectrum",
-            "real inverse": "irfft c2r half spectrum", "Hartley": "dht", "WHT": "fwht hadamard", "DCT4": "dct cosine mdct"}
+SYNONYMS = {
+    "CToC forward": "fft",
+    "CToC inverse": "ifft",
+    "real forward": "rfft r2c half spectrum",
+    "real inverse": "irfft c2r half spectrum",
+    "Hartley": "dht",
+    "WHT": "fwht hadamard",
+    "DCT4": "dct cosine mdct",
+}
 
 
 def search_words(export):
     words = [lib.TITLES[export["family"]], lib.kind(export), SYNONYMS.get(lib.kind(export), "")]
     n = lib.points(export)
     if n:
-        words.append(f"{n} points length {n}")
+        words.append(f"{n} points length {n}" + (f" order {export['order']}" if export["order"] else ""))
+    elif export.get("element"):
+        words.append("order as an argument" if export["family"] == "WHT" else "length as an argument")
     if export.get("element"):
         words.append(lib.ELEMENTS[export["element"]])
     return " ".join(words)
@@ -392,8 +578,14 @@ def build(site, data):
             up.append(("Batch library", f"{FOLDER}/batch.html"))
         elif export["family"] != "version":
             up.append((lib.TITLES[export["family"]], f"{FOLDER}/{export['family']}.html"))
-        site.page(path, export["name"], entry(export, data, path), description=purpose(export), trail=up,
-                  words=search_words(export))
+        site.page(
+            path,
+            export["name"],
+            entry(export, data, path),
+            description=purpose(export),
+            trail=up,
+            words=search_words(export),
+        )
     for family in lib.FAMILIES[:-1]:
         family_page(site, data, family)
     batch_page(site, library)
@@ -419,30 +611,71 @@ def family_page(site, data, family):
                 row.append(f'<a href="{export["name"]}.html">{export["name"]}</a>')
             counts, error, time = export.get("counts"), data.errors.of(family, lib.points(export), "64"), None
             found = data.times.of(family, "64", lib.points(export))
-            row += [str(counts["additions"] + counts["subtractions"]), str(counts["multiplications"])] if counts else ["", ""]
-            row += [f"{found[1]['zulgenpx'][0]:.1f}" if found else "", number(error[0][0]) if error else "",
-                    number(error[0][1]) if error else ""]
+            row += (
+                [str(counts["additions"] + counts["subtractions"]), str(counts["multiplications"])]
+                if counts
+                else ["", ""]
+            )
+            row += [
+                f"{found[1]['zulgenpx'][0]:.1f}" if found else "",
+                number(error[0][0]) if error else "",
+                number(error[0][1]) if error else "",
+            ]
             rows.append(row)
-        parts.append("<h2>Every length</h2><p>Select the head of a column to sort by it.</p>" + table(
-            ["length" if family != "WHT" else "order", *(lib.ELEMENTS[element] for element in elements), "sums",
-             "products", "ns, 64f", "pooled error, 64f", "worst"], rows, f"Routines of the family: {lib.TITLES[family]}",
-            "nccnnnnn", sortable=True))
+        parts.append(
+            "<h2>Every length</h2><p>Select the head of a column to sort by it.</p>"
+            + table(
+                [
+                    "length" if family != "WHT" else "order",
+                    *(lib.ELEMENTS[element] for element in elements),
+                    "sums",
+                    "products",
+                    "ns, 64f",
+                    "pooled error, 64f",
+                    "worst",
+                ],
+                rows,
+                f"Routines of the family: {lib.TITLES[family]}",
+                "nccnnnnn",
+                sortable=True,
+            )
+        )
     others = [export for export in exports if lib.size_of(export) is None]
     if others:
-        parts.append("<h2>Without a number in the name</h2><ul>" + "".join(
-            f'<li><a href="{export["name"]}.html"><code>{export["name"]}</code></a>: {purpose(export)}</li>'
-            for export in others) + "</ul>")
-    site.page(path, lib.TITLES[family], "\n".join(parts), trail=[("Reference", f"{FOLDER}/index.html")],
-              scripts=["assets/tables.js"], words=family)
+        parts.append(
+            "<h2>Without a number in the name</h2><ul>"
+            + "".join(
+                f'<li><a href="{export["name"]}.html"><code>{export["name"]}</code></a>: {purpose(export)}</li>'
+                for export in others
+            )
+            + "</ul>"
+        )
+    site.page(
+        path,
+        lib.TITLES[family],
+        "\n".join(parts),
+        trail=[("Reference", f"{FOLDER}/index.html")],
+        scripts=["assets/tables.js"],
+        words=family,
+    )
 
 
 def batch_page(site, library):
-    items = "".join(f'<li><a href="{batch["name"]}.html"><code>{batch["name"]}</code></a>: {purpose(batch)}</li>'
-                    for batch in library.batches)
-    site.page(f"{FOLDER}/batch.html", "Batch library",
-              "<h1>Batch library</h1><p class=\"lead\">Many transforms of one family and length in one call, bit for bit "
-              "those of single calls. One after the other and side by side are the fast shapes.</p>"
-              f"<ul>{items}</ul>", trail=[("Reference", f"{FOLDER}/index.html")], words="batch many")
+    items = "".join(
+        f'<li><a href="{batch["name"]}.html"><code>{batch["name"]}</code></a>: {purpose(batch)}</li>'
+        for batch in library.batches
+    )
+    site.page(
+        f"{FOLDER}/batch.html",
+        "Batch library",
+        (
+            '<h1>Batch library</h1><p class="lead">Many transforms of one family and length in one call, bit for bit '
+            "those of single calls. One after the other and side by side are the fast shapes.</p>"
+            f"<ul>{items}</ul>"
+        ),
+        trail=[("Reference", f"{FOLDER}/index.html")],
+        words="batch many",
+    )
 
 
 def index_page(site, data):
@@ -451,17 +684,30 @@ def index_page(site, data):
     for family in lib.FAMILIES[:-1]:
         exports = [export for export in library.exports if export["family"] == family]
         sized = sorted({lib.size_of(export) for export in exports} - {None})
-        what = (f"{'orders' if family == 'WHT' else 'lengths'} {sized[0]} to {sized[-1]}" if sized
-                else "powers of two up to 2<sup>26</sup>, through a plan")
-        cards += (f'<li><a href="{family}.html">{lib.TITLES[family]}</a><span>{len(exports)} routines, {what}</span></li>')
+        what = (
+            f"{'orders' if family == 'WHT' else 'lengths'} {sized[0]} to {sized[-1]}"
+            if sized
+            else "powers of two up to 2<sup>26</sup>, through a plan"
+        )
+        cards += (
+            f'<li><a href="{family}.html">{lib.TITLES[family]}</a><span>{len(exports)} routines, {what}</span></li>'
+        )
     cards += '<li><a href="zulgenGetLibVersion.html">Version</a><span>1 routine</span></li>'
     cards += f'<li><a href="batch.html">Batch library</a><span>{len(library.batches)} routines</span></li>'
-    cards += ('<li><a href="cpp.html">C++</a><span>zulgenpx.hpp and zulgenpx_batch.hpp</span></li>'
-              '<li><a href="python.html">Python</a><span>arrays of NumPy</span></li>')
-    everything = "".join(f'<li><a href="{export["name"]}.html">{wrapped(export["name"])}</a></li>'
-                         for export in library.exports)
-    site.page(f"{FOLDER}/index.html", "Reference",
-              f"<h1>Reference</h1><p class=\"lead\">{len(library.exports)} routines, {len(library.batches)} batches and the "
-              "faces for C++ and Python, each with a page of its own.</p>"
-              f'<ul class="cards">{cards}</ul><h2 id="all">All routines, one to a line</h2>'
-              f'<ol class="names">{everything}</ol>', words="all routines list")
+    cards += (
+        '<li><a href="cpp.html">C++</a><span>zulgenpx.hpp and zulgenpx_batch.hpp</span></li>'
+        '<li><a href="python.html">Python</a><span>arrays of NumPy</span></li>'
+    )
+    everything = "".join(
+        f'<li><a href="{export["name"]}.html">{wrapped(export["name"])}</a></li>' for export in library.exports
+    )
+    site.page(
+        f"{FOLDER}/index.html",
+        "Reference",
+        (
+            f'<h1>Reference</h1><p class="lead">{len(library.exports)} routines, {len(library.batches)} batches and the'
+            f' faces for C++ and Python, each with a page of its own.</p><ul class="cards">{cards}</ul><h2 id="all">All'
+            f' routines, one to a line</h2><ol class="names">{everything}</ol>'
+        ),
+        words="all routines list",
+    )

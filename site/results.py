@@ -4,13 +4,27 @@ import pathlib
 import re
 import sys
 
-CONTESTS = {"DFTFwd_CToC": "complex_forward", "DFTInv_CToC": "complex_inverse", "DFTFwd_RToCCS": "real_forward",
-            "DFTInv_CCSToR": "real_inverse", "DFTFwd_RToPack": "packed_forward", "DFTInv_PackToR": "packed_inverse",
-            "Hartley": "hartley", "DCT4": "dct4", "WHT": "wht"}
-PARTICIPANTS = {"zulgenpx": "zulgenpx", "x86-64": "zulgenpx, level without AVX2",
-                "fftw_patient_simd": "FFTW PATIENT as packaged (vectors)", "fftw_patient_scalar": "FFTW PATIENT, scalar",
-                "kissfft": "KissFFT", "gsl": "GSL", "plain_in_place": "plain loop, in place",
-                "plain_copied": "plain loop and copy"}
+CONTESTS = {
+    "DFTFwd_CToC": "complex_forward",
+    "DFTInv_CToC": "complex_inverse",
+    "DFTFwd_RToCCS": "real_forward",
+    "DFTInv_CCSToR": "real_inverse",
+    "DFTFwd_RToPack": "packed_forward",
+    "DFTInv_PackToR": "packed_inverse",
+    "Hartley": "hartley",
+    "DCT4": "dct4",
+    "WHT": "wht",
+}
+PARTICIPANTS = {
+    "zulgenpx": "zulgenpx",
+    "x86-64": "zulgenpx, level without AVX2",
+    "fftw_patient_simd": "FFTW PATIENT as packaged (vectors)",
+    "fftw_patient_scalar": "FFTW PATIENT, scalar",
+    "kissfft": "KissFFT",
+    "gsl": "GSL",
+    "plain_in_place": "plain loop, in place",
+    "plain_copied": "plain loop and copy",
+}
 
 
 class Times:
@@ -44,6 +58,7 @@ class Times:
 def read_times(source):
     sys.path.insert(0, str(source / "benchmarks"))
     import floors  # of the tree
+
     return Times(source / "benchmarks" / "results", floors)
 
 
@@ -56,9 +71,13 @@ def pair(cell):
 class Errors:
     """Pooled and worst errors on x86-64, by family, size and element: ((pooled, worst), the same at any flag)."""
 
-    COLUMNS = {"complex forward": ["DFTFwd_CToC"], "complex inverse": ["DFTInv_CToC"],
-               "real forward": ["DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm"],
-               "real inverse": ["DFTInv_CCSToR", "DFTInv_PackToR", "DFTInv_PermToR"], "Hartley": ["Hartley"]}
+    COLUMNS = {
+        "complex forward": ["DFTFwd_CToC"],
+        "complex inverse": ["DFTInv_CToC"],
+        "real forward": ["DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm"],
+        "real inverse": ["DFTInv_CCSToR", "DFTInv_PackToR", "DFTInv_PermToR"],
+        "Hartley": ["Hartley"],
+    }
 
     def __init__(self, path):
         self.found, element, heads = {}, None, []

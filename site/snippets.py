@@ -1,5 +1,5 @@
-"""Short programs for each routine, in C, C++ and Python, with what they print. What is printed comes from the definition
-of the transform, computed here, and not from the library: a test runs the programs and compares."""
+"""Short programs for each routine, in C, C++ and Python, with what they print. What is printed comes from the
+definition of the transform, computed here, and not from the library: a test runs the programs and compares."""
 import math
 
 from library import C_TYPES, points, size_of
@@ -35,16 +35,27 @@ class Snippets:
 
 def c_program(lines, header="zulgenpx.h"):
     includes = ["#include <stdio.h>"] + (["#include <stdlib.h>"] if any("malloc" in line for line in lines) else [])
-    return "\n".join(includes + [f'#include "{header}"', "", "int main(void) {"]
-                     + ["    " + line if line else "" for line in lines] + ["    return 0;", "}", ""])
+    return "\n".join(
+        includes
+        + [f'#include "{header}"', "", "int main(void) {"]
+        + ["    " + line if line else "" for line in lines]
+        + ["    return 0;", "}", ""]
+    )
 
 
 def cpp_program(includes, lines):
-    return "\n".join([f"#include {name}" for name in ["<array>"] * any("std::array" in line for line in lines)
-                      + ["<complex>"] * any("std::complex" in line for line in lines) + ["<cstdio>"]
-                      + ["<vector>"] * any("std::vector" in line for line in lines)] + [f'#include "{includes}"', "",
-                                                                                      "int main() {"]
-                     + ["    " + line for line in lines] + ["}", ""])
+    return "\n".join(
+        [
+            f"#include {name}"
+            for name in ["<array>"] * any("std::array" in line for line in lines)
+            + ["<complex>"] * any("std::complex" in line for line in lines)
+            + ["<cstdio>"]
+            + ["<vector>"] * any("std::vector" in line for line in lines)
+        ]
+        + [f'#include "{includes}"', "", "int main() {"]
+        + ["    " + line for line in lines]
+        + ["}", ""]
+    )
 
 
 def real_type(element):
@@ -63,8 +74,9 @@ def of(export):
         return dct4(export)
     if "BufferSize" in export["name"]:
         return buffer_size(export)
-    return {"CToC": complex_dft, "DFTF": real_forward, "DFTI": real_inverse, "Hart": hartley,
-            "WHT": walsh_hadamard}["CToC" if "CToC" in family else family[:4]](export)
+    return {"CToC": complex_dft, "DFTF": real_forward, "DFTI": real_inverse, "Hart": hartley, "WHT": walsh_hadamard}[
+        "CToC" if "CToC" in family else family[:4]
+    ](export)
 
 
 def call(export, *arguments):
@@ -83,22 +95,34 @@ def complex_dft(export):
     kind, python_type, form = C_TYPES[element], numpy_type(element), form_of(element)
     if export["sense"] == "forward":
         value = ramp_bin(n, 1)
-        c = [f"{kind} x[{n}] = {{{{0, 0}}}}, X[{n}];",
-             f"for (int n = 0; n < {n}; ++n) x[n].re = n + 1;",
-             call(export, "x", "X", *extra, "NoDivByAny")]
-        cpp = [f"std::array<std::complex<{real}>, {n}> x, X;", f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
-               f"zulgenpx::dft<{n}>(x, X);" if not extra else "zulgenpx::dft(x, X);    // the length of the arrays"]
+        c = [
+            f"{kind} x[{n}] = {{{{0, 0}}}}, X[{n}];",
+            f"for (int n = 0; n < {n}; ++n) x[n].re = n + 1;",
+            call(export, "x", "X", *extra, "NoDivByAny"),
+        ]
+        cpp = [
+            f"std::array<std::complex<{real}>, {n}> x, X;",
+            f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
+            f"zulgenpx::dft<{n}>(x, X);" if not extra else "zulgenpx::dft(x, X);    // the length of the arrays",
+        ]
         python = [f"x = np.arange(1, {n + 1}).astype(np.{python_type})", "X = zulgenpx.fft(x)"]
         array = "X"
     else:
         angle = 2 * math.pi / n
         value = complex(3 + math.cos(angle), math.sin(angle))
-        c = [f"{kind} X[{n}] = {{{{{3 * n}, 0}}, {{{n}, 0}}}}, x[{n}];",
-             call(export, "X", "x", *extra, "DivInvByN") + "  /* 1/N here */"]
-        cpp = [f"std::array<std::complex<{real}>, {n}> X{{{3 * n}, {n}}}, x;",
-               f"zulgenpx::inverse_dft<{n}>(X, x);" if not extra else "zulgenpx::inverse_dft(X, x);"]
-        python = [f"X = np.zeros({n}, np.{python_type})", f"X[:2] = {3 * n}, {n}",
-                  "x = zulgenpx.ifft(X)                    # 1/N here"]
+        c = [
+            f"{kind} X[{n}] = {{{{{3 * n}, 0}}, {{{n}, 0}}}}, x[{n}];",
+            call(export, "X", "x", *extra, "DivInvByN") + "  /* 1/N here */",
+        ]
+        cpp = [
+            f"std::array<std::complex<{real}>, {n}> X{{{3 * n}, {n}}}, x;",
+            f"zulgenpx::inverse_dft<{n}>(X, x);" if not extra else "zulgenpx::inverse_dft(X, x);",
+        ]
+        python = [
+            f"X = np.zeros({n}, np.{python_type})",
+            f"X[:2] = {3 * n}, {n}",
+            "x = zulgenpx.ifft(X)                    # 1/N here",
+        ]
         array = "x"
     if n == 2:
         printed = shown(element, value.real)
@@ -141,16 +165,23 @@ def real_forward(export):
     comment = f"Re X[1] is in slot {re}" + (f", Im X[1] in slot {im}" if n > 2 else "")
     printed = " ".join(shown(element, number) for _, number in numbers)
     form, arguments = " ".join([form_of(element)] * len(numbers)), ", ".join(name for name, _ in numbers)
-    c = [f"{kind} x[{n}], X[{size}];  /* {comment} */", f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;",
-         call(export, "x", "X", *extra, "NoDivByAny"),
-         f'printf("{form}\\n", {arguments});  /* prints {printed} */']
+    c = [
+        f"{kind} x[{n}], X[{size}];  /* {comment} */",
+        f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;",
+        call(export, "x", "X", *extra, "NoDivByAny"),
+        f'printf("{form}\\n", {arguments});  /* prints {printed} */',
+    ]
     named = f"<{n}, zulgenpx::layout::{layout.lower()}>" if not extra else f"<zulgenpx::layout::{layout.lower()}>"
-    cpp = [f"std::array<{real}, {n}> x;", f"std::array<{real}, {size}> X;",
-           f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);", f"zulgenpx::real_dft{named}(x, X);",
-           f'std::printf("{form}\\n", {arguments});  // prints {printed}']
+    cpp = [
+        f"std::array<{real}, {n}> x;",
+        f"std::array<{real}, {size}> X;",
+        f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
+        f"zulgenpx::real_dft{named}(x, X);",
+        f'std::printf("{form}\\n", {arguments});  // prints {printed}',
+    ]
     x = f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})"
     if layout == "CCS":
-        parts = ["X[1].real", "X[1].imag"][:len(numbers)]
+        parts = ["X[1].real", "X[1].imag"][: len(numbers)]
         python = [x, "X = zulgenpx.rfft(x)                    # the complex bins, in memory the layout CCS"]
     else:
         parts = [name for name, _ in numbers]
@@ -167,18 +198,34 @@ def real_inverse(export):
     kind, size = C_TYPES[element], half_spectrum_size(export["spectrum"]["layout"], n)
     place, form = place_of(layout, n, 1, "re"), form_of(element)
     printed = shown(element, 3 - 1 if n == 2 else 3 + 2 * math.cos(2 * math.pi / n))
-    c = [f"{kind} X[{size}] = {{0}}, x[{n}];", f"X[0] = {3 * n};      /* bin 0 */",
-         f"X[{place}] = {n};      /* the real part of bin 1 */", call(export, "X", "x", *extra, "DivInvByN"),
-         f'printf("{form}\\n", x[1]);  /* prints {printed} */']
+    c = [
+        f"{kind} X[{size}] = {{0}}, x[{n}];",
+        f"X[0] = {3 * n};      /* bin 0 */",
+        f"X[{place}] = {n};      /* the real part of bin 1 */",
+        call(export, "X", "x", *extra, "DivInvByN"),
+        f'printf("{form}\\n", x[1]);  /* prints {printed} */',
+    ]
     named = f"<{n}, zulgenpx::layout::{layout.lower()}>" if not extra else f"<zulgenpx::layout::{layout.lower()}>"
-    cpp = [f"std::array<{real}, {size}> X{{}};", f"std::array<{real}, {n}> x;", f"X[0] = {3 * n};", f"X[{place}] = {n};",
-           f"zulgenpx::inverse_real_dft{named}(X, x);", f'std::printf("{form}\\n", x[1]);  // prints {printed}']
+    cpp = [
+        f"std::array<{real}, {size}> X{{}};",
+        f"std::array<{real}, {n}> x;",
+        f"X[0] = {3 * n};",
+        f"X[{place}] = {n};",
+        f"zulgenpx::inverse_real_dft{named}(X, x);",
+        f'std::printf("{form}\\n", x[1]);  // prints {printed}',
+    ]
     if layout == "CCS":
-        python = [f"X = np.zeros({n // 2 + 1}, np.{'complex128' if real == 'double' else 'complex64'})",
-                  f"X[:2] = {3 * n}, {n}", f"x = zulgenpx.irfft(X, {n})"]
+        python = [
+            f"X = np.zeros({n // 2 + 1}, np.{'complex128' if real == 'double' else 'complex64'})",
+            f"X[:2] = {3 * n}, {n}",
+            f"x = zulgenpx.irfft(X, {n})",
+        ]
     else:
-        python = [f"X = np.zeros({n}, np.{numpy_type(element)})", f"X[0], X[{place}] = {3 * n}, {n}",
-                  f'x = zulgenpx.irfft(X, layout="{layout.lower()}")']
+        python = [
+            f"X = np.zeros({n}, np.{numpy_type(element)})",
+            f"X[0], X[{place}] = {3 * n}, {n}",
+            f'x = zulgenpx.irfft(X, layout="{layout.lower()}")',
+        ]
     python += [f'print(f"{{x[1]:{form[1:]}}}")  # prints {printed}']
     return Snippets(c_program(c), cpp_program("zulgenpx.hpp", cpp), python_program(python))
 
@@ -188,13 +235,23 @@ def hartley(export):
     element, real = export["element"], real_type(export["element"])
     value, form = ramp_bin(n, 1), form_of(element)
     printed = shown(element, value.real - (value.imag if n > 2 else 0))
-    c = [f"{C_TYPES[element]} x[{n}], h[{n}];", f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;",
-         call(export, "x", "h", *extra, "NoDivByAny"), f'printf("{form}\\n", h[1]);  /* prints {printed} */']
-    cpp = [f"std::array<{real}, {n}> x, h;", f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
-           f"zulgenpx::hartley<{n}>(x, h);" if not extra else "zulgenpx::hartley(x, h);",
-           f'std::printf("{form}\\n", h[1]);  // prints {printed}']
-    python = [f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})", "h = zulgenpx.hartley(x)",
-              f'print(f"{{h[1]:{form[1:]}}}")  # prints {printed}']
+    c = [
+        f"{C_TYPES[element]} x[{n}], h[{n}];",
+        f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;",
+        call(export, "x", "h", *extra, "NoDivByAny"),
+        f'printf("{form}\\n", h[1]);  /* prints {printed} */',
+    ]
+    cpp = [
+        f"std::array<{real}, {n}> x, h;",
+        f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
+        f"zulgenpx::hartley<{n}>(x, h);" if not extra else "zulgenpx::hartley(x, h);",
+        f'std::printf("{form}\\n", h[1]);  // prints {printed}',
+    ]
+    python = [
+        f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})",
+        "h = zulgenpx.hartley(x)",
+        f'print(f"{{h[1]:{form[1:]}}}")  # prints {printed}',
+    ]
     return Snippets(c_program(c), cpp_program("zulgenpx.hpp", cpp), python_program(python))
 
 
@@ -207,20 +264,32 @@ def walsh_hadamard(export):
     storage = "static " if n > 1024 else ""
     c = [f"{storage}{kind} x[{n}];", f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;"]
     if needs_buffer:
-        c += ["int32_t bytes;", f"if (zulgWHTGetBufferSize_{element}({order}, &bytes) != StatusOk) return 1;",
-              f"{kind}* buffer = ({kind}*)malloc((size_t)bytes);", "if (buffer == NULL) return 1;"]
-    c += [call(export, "x", "x", *extra, "NoDivByAny", "buffer" if needs_buffer else "NULL")
-          + ("" if needs_buffer else "  /* no buffer is needed */"),
-          f'printf("%.0f %.0f\\n", x[0], x[1]);  /* prints {printed} */'] + ["free(buffer);"] * needs_buffer
+        c += [
+            "int32_t bytes;",
+            f"if (zulgWHTGetBufferSize_{element}({order}, &bytes) != StatusOk) return 1;",
+            f"{kind}* buffer = ({kind}*)malloc((size_t)bytes);",
+            "if (buffer == NULL) return 1;",
+        ]
+    c += [
+        call(export, "x", "x", *extra, "NoDivByAny", "buffer" if needs_buffer else "NULL")
+        + ("" if needs_buffer else "  /* no buffer is needed */"),
+        f'printf("%.0f %.0f\\n", x[0], x[1]);  /* prints {printed} */',
+    ] + ["free(buffer);"] * needs_buffer
     cpp = [f"std::vector<{real}> x({n});", f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);"]
     angle = f"<{order}>" if not extra else ""
     if needs_buffer:
-        cpp += [f"std::vector<{real}> buffer(zulgenpx::wht_buffer_size({order}));", f"zulgenpx::wht{angle}(x, x, buffer);"]
+        cpp += [
+            f"std::vector<{real}> buffer(zulgenpx::wht_buffer_size({order}));",
+            f"zulgenpx::wht{angle}(x, x, buffer);",
+        ]
     else:
         cpp += [f"zulgenpx::wht{angle}(x, x);"]
     cpp += [f'std::printf("%.0f %.0f\\n", x[0], x[1]);  // prints {printed}']
-    python = [f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})", "h = zulgenpx.wht(x)",
-              f'print(f"{{h[0]:.0f}} {{h[1]:.0f}}")  # prints {printed}']
+    python = [
+        f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})",
+        "h = zulgenpx.wht(x)",
+        f'print(f"{{h[0]:.0f}} {{h[1]:.0f}}")  # prints {printed}',
+    ]
     return Snippets(c_program(c), cpp_program("zulgenpx.hpp", cpp), python_program(python))
 
 
@@ -229,7 +298,7 @@ def buffer_size(export, header="zulgenpx.h", sizes=None):
     bytes_ = {"32f": 2048, "64f": 4096}[element] if sizes is None else sizes
     c = ["int32_t bytes = 0;", call(export, 9, "&bytes"), f'printf("%d\\n", (int)bytes);  /* prints {bytes_} */']
     real = real_type(element)
-    cpp = [f"std::printf(\"%zu\\n\", zulgenpx::wht_buffer_size(9) * sizeof({real}));  // prints {bytes_}"]
+    cpp = [f'std::printf("%zu\\n", zulgenpx::wht_buffer_size(9) * sizeof({real}));  // prints {bytes_}']
     return Snippets(c_program(c, header), cpp_program("zulgenpx.hpp", cpp), None)
 
 
@@ -243,31 +312,50 @@ def dct4(export):
     kind, form = C_TYPES[element], "%.1f" if element == "32f" else "%.4f"
     printed = form % dct4_value(n)
     plan = f"ZulgDCT4Plan_{element}"
-    c = ([f"static {kind} x[{n}], y[{n}];", f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;", f"{plan}* plan;"])
+    c = [f"static {kind} x[{n}], y[{n}];", f"for (int n = 0; n < {n}; ++n) x[n] = n + 1;", f"{plan}* plan;"]
     if "InitAlloc" in export["name"] or "Free" in export["name"] or export["name"] == f"zulgDCT4_{element}":
-        c += [f"if (zulgDCT4InitAlloc_{element}(&plan, {n}) != StatusOk) return 1;  /* from the core library */",
-              f"if (zulgDCT4_{element}(x, y, plan) != StatusOk) return 1;",
-              f'printf("{form}\\n", y[0]);  /* prints {printed} */', f"zulgDCT4Free_{element}(plan);"]
+        c += [
+            f"if (zulgDCT4InitAlloc_{element}(&plan, {n}) != StatusOk) return 1;  /* from the core library */",
+            f"if (zulgDCT4_{element}(x, y, plan) != StatusOk) return 1;",
+            f'printf("{form}\\n", y[0]);  /* prints {printed} */',
+            f"zulgDCT4Free_{element}(plan);",
+        ]
     else:
-        c += ["int32_t bytes;", f"if (zulgDCT4GetSize_{element}({n}, &bytes) != StatusOk) return 1;",
-              "uint8_t* block = (uint8_t*)malloc((size_t)bytes);", "if (block == NULL) return 1;",
-              f"if (zulgDCT4Init_{element}(&plan, {n}, block) != StatusOk) return 1;",
-              f"if (zulgDCT4_{element}(x, y, plan) != StatusOk) return 1;",
-              f'printf("{form}\\n", y[0]);  /* prints {printed} */', "free(block);  /* the plan is in it */"]
-    cpp = [f"std::vector<{real}> x({n}), y({n});", f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
-           f"zulgenpx::dct4_plan<{real}> plan({n});    // owns its block", "plan(x, y);",
-           f'std::printf("{form}\\n", y[0]);  // prints {printed}']
-    python = [f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})",
-              f"plan = zulgenpx.DCT4Plan({n}, np.{numpy_type(element)})", "y = plan(x)",
-              f'print(f"{{y[0]:{form[1:]}}}")  # prints {printed}']
+        c += [
+            "int32_t bytes;",
+            f"if (zulgDCT4GetSize_{element}({n}, &bytes) != StatusOk) return 1;",
+            "uint8_t* block = (uint8_t*)malloc((size_t)bytes);",
+            "if (block == NULL) return 1;",
+            f"if (zulgDCT4Init_{element}(&plan, {n}, block) != StatusOk) return 1;",
+            f"if (zulgDCT4_{element}(x, y, plan) != StatusOk) return 1;",
+            f'printf("{form}\\n", y[0]);  /* prints {printed} */',
+            "free(block);  /* the plan is in it */",
+        ]
+    cpp = [
+        f"std::vector<{real}> x({n}), y({n});",
+        f"for (int n = 0; n < {n}; ++n) x[n] = {real}(n + 1);",
+        f"zulgenpx::dct4_plan<{real}> plan({n});    // owns its block",
+        "plan(x, y);",
+        f'std::printf("{form}\\n", y[0]);  // prints {printed}',
+    ]
+    python = [
+        f"x = np.arange(1, {n + 1}).astype(np.{numpy_type(element)})",
+        f"plan = zulgenpx.DCT4Plan({n}, np.{numpy_type(element)})",
+        "y = plan(x)",
+        f'print(f"{{y[0]:{form[1:]}}}")  # prints {printed}',
+    ]
     return Snippets(c_program(c), cpp_program("zulgenpx.hpp", cpp), python_program(python))
 
 
 def version():
-    c = ["const LibVersion* version = zulgenGetLibVersion();",
-         'printf("%d.%d\\n", (int)version->major, (int)version->minor);  /* prints 7.0 */']
-    cpp = ['const LibVersion* version = zulgenGetLibVersion();',
-           'std::printf("%d.%d\\n", int(version->major), int(version->minor));  // prints 7.0']
+    c = [
+        "const LibVersion* version = zulgenGetLibVersion();",
+        'printf("%d.%d\\n", (int)version->major, (int)version->minor);  /* prints 7.0 */',
+    ]
+    cpp = [
+        "const LibVersion* version = zulgenGetLibVersion();",
+        'std::printf("%d.%d\\n", int(version->major), int(version->minor));  // prints 7.0',
+    ]
     python = ["version = zulgenpx.library_version()", 'print(f"{version.major}.{version.minor}")  # prints 7.0']
     return Snippets(c_program(c), cpp_program("zulgenpx.hpp", cpp), python_program(python))
 
@@ -281,51 +369,85 @@ def of_batch(batch):
         width = 8 if element == "64f" else 4
         single = {"32f": 2048, "64f": 4096}[element]
         printed = single + 512 * width if family == "WHT" else 64 * width
-        return Snippets(c_program(["int32_t bytes = 0;", call(batch, argument, "&bytes"),
-                                   f'printf("%d\\n", (int)bytes);  /* prints {printed} */'], "zulgenpx_batch.h"))
+        return Snippets(
+            c_program(
+                [
+                    "int32_t bytes = 0;",
+                    call(batch, argument, "&bytes"),
+                    f'printf("%d\\n", (int)bytes);  /* prints {printed} */',
+                ],
+                "zulgenpx_batch.h",
+            )
+        )
     if family == "DCT4":
         n, form = 64, "%.1f" if element == "32f" else "%.4f"
         printed = form % dct4_value(n)
-        c = [f"static {kind} x[{2 * n}], y[{2 * n}];", f"for (int n = 0; n < {2 * n}; ++n) x[n] = n % {n} + 1;",
-             f"ZulgDCT4Plan_{element}* plan;", f"if (zulgDCT4InitAlloc_{element}(&plan, {n}) != StatusOk) return 1;",
-             call(batch, "x", 1, n, "y", 1, n, "plan", 2, "NULL") + "  /* no buffer: both steps are 1 */",
-             f'printf("{form}\\n", y[{n}]);  /* prints {printed} */', f"zulgDCT4Free_{element}(plan);"]
+        c = [
+            f"static {kind} x[{2 * n}], y[{2 * n}];",
+            f"for (int n = 0; n < {2 * n}; ++n) x[n] = n % {n} + 1;",
+            f"ZulgDCT4Plan_{element}* plan;",
+            f"if (zulgDCT4InitAlloc_{element}(&plan, {n}) != StatusOk) return 1;",
+            call(batch, "x", 1, n, "y", 1, n, "plan", 2, "NULL") + "  /* no buffer: both steps are 1 */",
+            f'printf("{form}\\n", y[{n}]);  /* prints {printed} */',
+            f"zulgDCT4Free_{element}(plan);",
+        ]
         return Snippets(c_program(c, "zulgenpx_batch.h"))
     if family == "WHT":
         n = 16
-        c = [f"{kind} x[{2 * n}];", f"for (int n = 0; n < {2 * n}; ++n) x[n] = n % {n} + 1;",
-             call(batch, "x", 1, n, "x", 1, n, 4, "NoDivByAny", 2, "NULL") + "  /* order 4 needs no buffer */",
-             f'printf("%.0f %.0f\\n", x[{n}], x[{n + 1}]);  /* prints {n * (n + 1) // 2} {-n // 2} */']
+        c = [
+            f"{kind} x[{2 * n}];",
+            f"for (int n = 0; n < {2 * n}; ++n) x[n] = n % {n} + 1;",
+            call(batch, "x", 1, n, "x", 1, n, 4, "NoDivByAny", 2, "NULL") + "  /* order 4 needs no buffer */",
+            f'printf("%.0f %.0f\\n", x[{n}], x[{n + 1}]);  /* prints {n * (n + 1) // 2} {-n // 2} */',
+        ]
         return Snippets(c_program(c, "zulgenpx_batch.h"))
     n, form = 15, form_of(element)
     value, layout = ramp_bin(n, 1), batch.get("spectrum", {}).get("layout")
     size = half_spectrum_size(layout, n) if layout else n
     if "CToC" in family:
         if "Fwd" in family:
-            c = [f"static {kind} x[{count * n}], X[{count * n}];",
-                 f"for (int n = 0; n < {count * n}; ++n) x[n].re = n % {n} + 1;",
-                 call(batch, "x", 1, n, "X", 1, n, n, "NoDivByAny", count),
-                 f'printf("{form} {form}\\n", X[{n + 1}].re, X[{n + 1}].im);  '
-                 f"/* prints {shown(element, value.real)} {shown(element, value.imag)} */"]
+            c = [
+                f"static {kind} x[{count * n}], X[{count * n}];",
+                f"for (int n = 0; n < {count * n}; ++n) x[n].re = n % {n} + 1;",
+                call(batch, "x", 1, n, "X", 1, n, n, "NoDivByAny", count),
+                (
+                    f'printf("{form} {form}\\n", X[{n + 1}].re, X[{n + 1}].im);  '
+                    f"/* prints {shown(element, value.real)} {shown(element, value.imag)} */"
+                ),
+            ]
         else:
-            c = [f"static {kind} X[{count * n}], x[{count * n}];", f"X[{n}].re = {3 * n};", f"X[{n + 1}].re = {n};",
-                 call(batch, "X", 1, n, "x", 1, n, n, "DivInvByN", count),
-                 f'printf("{form}\\n", x[{n + 1}].re);  /* prints {shown(element, 3 + math.cos(2 * math.pi / n))} */']
+            c = [
+                f"static {kind} X[{count * n}], x[{count * n}];",
+                f"X[{n}].re = {3 * n};",
+                f"X[{n + 1}].re = {n};",
+                call(batch, "X", 1, n, "x", 1, n, n, "DivInvByN", count),
+                f'printf("{form}\\n", x[{n + 1}].re);  /* prints {shown(element, 3 + math.cos(2 * math.pi / n))} */',
+            ]
     elif "Fwd" in family:
         place = size + place_of(layout, n, 1, "re")
-        c = [f"static {kind} x[{count * n}], X[{count * size}];",
-             f"for (int n = 0; n < {count * n}; ++n) x[n] = n % {n} + 1;",
-             call(batch, "x", 1, n, "X", 1, size, n, "NoDivByAny", count),
-             f'printf("{form} {form}\\n", X[{place}], X[{place + 1}]);  '
-             f"/* prints {shown(element, value.real)} {shown(element, value.imag)} */"]
+        c = [
+            f"static {kind} x[{count * n}], X[{count * size}];",
+            f"for (int n = 0; n < {count * n}; ++n) x[n] = n % {n} + 1;",
+            call(batch, "x", 1, n, "X", 1, size, n, "NoDivByAny", count),
+            (
+                f'printf("{form} {form}\\n", X[{place}], X[{place + 1}]);  '
+                f"/* prints {shown(element, value.real)} {shown(element, value.imag)} */"
+            ),
+        ]
     elif "Inv" in family:
         place = size + place_of(layout, n, 1, "re")
-        c = [f"static {kind} X[{count * size}], x[{count * n}];", f"X[{size}] = {3 * n};", f"X[{place}] = {n};",
-             call(batch, "X", 1, size, "x", 1, n, n, "DivInvByN", count),
-             f'printf("{form}\\n", x[{n + 1}]);  /* prints {shown(element, 3 + 2 * math.cos(2 * math.pi / n))} */']
+        c = [
+            f"static {kind} X[{count * size}], x[{count * n}];",
+            f"X[{size}] = {3 * n};",
+            f"X[{place}] = {n};",
+            call(batch, "X", 1, size, "x", 1, n, n, "DivInvByN", count),
+            f'printf("{form}\\n", x[{n + 1}]);  /* prints {shown(element, 3 + 2 * math.cos(2 * math.pi / n))} */',
+        ]
     else:
-        c = [f"static {kind} x[{count * n}], h[{count * n}];",
-             f"for (int n = 0; n < {count * n}; ++n) x[n] = n % {n} + 1;",
-             call(batch, "x", 1, n, "h", 1, n, n, "NoDivByAny", count),
-             f'printf("{form}\\n", h[{n + 1}]);  /* prints {shown(element, value.real - value.imag)} */']
+        c = [
+            f"static {kind} x[{count * n}], h[{count * n}];",
+            f"for (int n = 0; n < {count * n}; ++n) x[n] = n % {n} + 1;",
+            call(batch, "x", 1, n, "h", 1, n, n, "NoDivByAny", count),
+            f'printf("{form}\\n", h[{n + 1}]);  /* prints {shown(element, value.real - value.imag)} */',
+        ]
     return Snippets(c_program(c, "zulgenpx_batch.h"))

@@ -9,10 +9,11 @@
     function order(a, b) {
         if (a === "" || b === "") return a === b ? 0 : a === "" ? 1 : -1;
         if (typeof a === "number" && typeof b === "number") return a - b;
-        return String(a).localeCompare(String(b), "en", {numeric: true});
+        return String(a).localeCompare(String(b), "en", { numeric: true });
     }
     document.querySelectorAll("table.sortable").forEach(function (table) {
-        const heads = Array.from(table.tHead.rows[0].cells), body = table.tBodies[0];
+        const heads = Array.from(table.tHead.rows[0].cells),
+            body = table.tBodies[0];
         heads.forEach(function (head, column) {
             const button = document.createElement("button");
             button.type = "button";
@@ -20,16 +21,28 @@
             head.replaceChildren(button);
             button.addEventListener("click", function () {
                 const sign = head.getAttribute("aria-sort") === "ascending" ? -1 : 1;
-                heads.forEach(function (other) { other.removeAttribute("aria-sort"); });
+                heads.forEach(function (other) {
+                    other.removeAttribute("aria-sort");
+                });
                 head.setAttribute("aria-sort", sign === 1 ? "ascending" : "descending");
-                const rows = Array.from(body.rows).map(function (row) { return {row: row, value: value(row, column)}; });
-                rows.sort(function (a, b) { return sign * order(a.value, b.value); });
-                body.append.apply(body, rows.map(function (each) { return each.row; }));
+                const rows = Array.from(body.rows).map(function (row) {
+                    return { row: row, value: value(row, column) };
+                });
+                rows.sort(function (a, b) {
+                    return sign * order(a.value, b.value);
+                });
+                body.append.apply(
+                    body,
+                    rows.map(function (each) {
+                        return each.row;
+                    }),
+                );
             });
         });
     });
     document.querySelectorAll("form.filter[data-table]").forEach(function (form) {
-        const table = document.getElementById(form.dataset.table), count = form.querySelector("output");
+        const table = document.getElementById(form.dataset.table),
+            count = form.querySelector("output");
         function run() {
             const chosen = new FormData(form);
             let shown = 0;
@@ -37,7 +50,15 @@
                 let fits = true;
                 for (const [name, text] of chosen) {
                     if (text === "") continue;
-                    if (name === "words") fits = fits && text.toLowerCase().split(/\s+/).every(function (word) { return row.textContent.toLowerCase().includes(word); });
+                    if (name === "words")
+                        fits =
+                            fits &&
+                            text
+                                .toLowerCase()
+                                .split(/\s+/)
+                                .every(function (word) {
+                                    return row.textContent.toLowerCase().includes(word);
+                                });
                     else if (name === "from") fits = fits && Number(row.dataset.length) >= Number(text);
                     else if (name === "to") fits = fits && Number(row.dataset.length) <= Number(text);
                     else fits = fits && row.dataset[name] === text;
@@ -49,7 +70,9 @@
         }
         form.addEventListener("input", run);
         form.addEventListener("change", run);
-        form.addEventListener("submit", function (event) { event.preventDefault(); });
+        form.addEventListener("submit", function (event) {
+            event.preventDefault();
+        });
         run();
     });
 })();

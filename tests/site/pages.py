@@ -1,5 +1,5 @@
-"""Makes the site in a folder of its own and looks at its pages: an entry for each routine, links that lead somewhere, tags
-that are closed, nothing from a network, and the same bytes each time for what the pages are made of."""
+"""Makes the site in a folder of its own and looks at its pages: an entry for each routine, links that lead somewhere,
+tags that are closed, nothing from a network, and the same bytes each time for what the pages are made of."""
 import html.parser
 import json
 import pathlib
@@ -53,7 +53,11 @@ def check_links(folder, pages):
                 continue
             failures.expect(not re.match(r"[a-z]+:|//", link), f"{path}: {link} needs a network")
             target, _, mark = link.partition("#")
-            target = posixpath.normpath(posixpath.join(posixpath.dirname(path), urllib.parse.unquote(target))) if target else path
+            target = (
+                posixpath.normpath(posixpath.join(posixpath.dirname(path), urllib.parse.unquote(target)))
+                if target
+                else path
+            )
             failures.expect(target in files, f"{path}: {link} leads nowhere")
             if mark and target in ids:
                 failures.expect(mark in ids[target], f"{path}: there is no #{mark} in {target}")
@@ -62,9 +66,10 @@ def check_links(folder, pages):
 def check_entries(pages, found):
     import faces
     import library as lib
+
     library = lib.Library(args.source)
     due = {export["name"] for export in library.exports + library.batches}
-    entries = {path[len("reference/"):-len(".html")] for path in pages if path.startswith("reference/zulg")}
+    entries = {path[len("reference/") : -len(".html")] for path in pages if path.startswith("reference/zulg")}
     failures.expect(entries == due, f"reference: {len(entries)} entries, {len(due)} exports")
     failures.expect(len(library.exports) == 1193, f"{len(library.exports)} exports")
     for face, names in (("cpp", faces.cpp_names(args.source)), ("python", faces.python_names(args.source))):
@@ -74,10 +79,14 @@ def check_entries(pages, found):
     for export in library.exports + library.batches:
         text = pages[f"reference/{export['name']}.html"]
         words = re.sub(r"<[^>]+>", "", text)
-        failures.expect(export["name"] in words and "Threads" in words and "Stack" in words, f"{export['name']}: no entry")
+        failures.expect(
+            export["name"] in words and "Threads" in words and "Stack" in words, f"{export['name']}: no entry"
+        )
         for argument in export["arguments"]:
-            failures.expect(f"<th scope=\"row\" class=\"code\">{argument['name']}</th>" in text,
-                            f"{export['name']}: nothing of {argument['name']}")
+            failures.expect(
+                f"<th scope=\"row\" class=\"code\">{argument['name']}</th>" in text,
+                f"{export['name']}: nothing of {argument['name']}",
+            )
         slots = lib.slots(export)
         if slots:
             shown = re.findall(r'<span class="held">(?:(Re|Im) X\[(\d+)\]|(\+0\.0))</span>', text)
@@ -85,8 +94,10 @@ def check_entries(pages, found):
             failures.expect(shown == slots, f"{export['name']}: slots {shown}")
         if "counts" in export:
             counts = export["counts"]
-            failures.expect(f"{counts['additions']} additions, {counts['subtractions']} subtractions" in words,
-                            f"{export['name']}: no counts")
+            failures.expect(
+                f"{counts['additions']} additions, {counts['subtractions']} subtractions" in words,
+                f"{export['name']}: no counts",
+            )
         failures.expect(found[export["name"]] == f"reference/{export['name']}.html", f"{export['name']} is not found")
     graphs = {path for path in pages if re.fullmatch(r"atlas/\w+_\d+\.html", path)}
     failures.expect(len(graphs) == 4 * 63 + 7 + 22, f"{len(graphs)} graphs")
@@ -102,8 +113,24 @@ def main():
     with tempfile.TemporaryDirectory(dir=args.build) as folder:
         folder = pathlib.Path(folder)
         common.graphs_into(args, folder / "graphs")
-        subprocess.run([sys.executable, "-B", args.source / "site/build.py", "--source", args.source, "--build", args.build,
-                        "--graphs", folder / "graphs", "--output", folder / "site", "--objdump", args.objdump], check=True)
+        subprocess.run(
+            [
+                sys.executable,
+                "-B",
+                args.source / "site/build.py",
+                "--source",
+                args.source,
+                "--build",
+                args.build,
+                "--graphs",
+                folder / "graphs",
+                "--output",
+                folder / "site",
+                "--objdump",
+                args.objdump,
+            ],
+            check=True,
+        )
         pages = read(folder / "site")
         index = (folder / "site/assets/search-index.js").read_text(encoding="utf-8")
         entries = json.loads(index.removeprefix("const zulgSearchIndex = ").rstrip(";\n")).split("\n")
@@ -116,8 +143,13 @@ def main():
             for mark in ("<h1", '<html lang="en">', 'name="viewport"'):
                 failures.expect(mark in text, f"{path}: no {mark}")
         for path in [path for path in pages if not path.startswith(("reference/zulg", "atlas/"))] + [
-                "reference/zulgDFTFwd_RToCCS_8_32f.html", "reference/zulgBatchDCT4_32f.html", "atlas/complex_5.html",
-                "atlas/wht_8.html", "atlas/dct4_direct_8.html", "atlas/index.html"]:
+            "reference/zulgDFTFwd_RToCCS_8_32f.html",
+            "reference/zulgBatchDCT4_32f.html",
+            "atlas/complex_5.html",
+            "atlas/wht_8.html",
+            "atlas/dct4_direct_8.html",
+            "atlas/index.html",
+        ]:
             tags = Tags()
             tags.feed(pages[path])
             failures.expect(not tags.wrong and not tags.open, f"{path}: {tags.wrong[:3]} {tags.open[-3:]}")

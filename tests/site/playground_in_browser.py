@@ -1,4 +1,5 @@
-"""Drives the playground in the browser: known inputs give known spectra, files that hold no sound get a clear message."""
+"""Drives the playground in the browser: known inputs give known spectra, files that hold no sound get a clear
+message."""
 import cmath
 import json
 import math
@@ -44,7 +45,9 @@ def one_transform(browser, expect):
     field.send_keys("1 2 3 4 5 6", Keys.TAB)
     due = [21, -3, 3 * math.sqrt(3), -3, math.sqrt(3), -3]
     found = numbers(browser, "#signal-output")
-    expect(len(found) == 6 and max(abs(a - b) for a, b in zip(found, due)) < 1e-13, f"playground: Pack of 1 … 6 is {found}")
+    expect(
+        len(found) == 6 and max(abs(a - b) for a, b in zip(found, due)) < 1e-13, f"playground: Pack of 1 … 6 is {found}"
+    )
     held = browser.run("return Array.from(document.querySelectorAll('#signal-slots .held')).map(e => e.textContent)")
     expect(held == ["Re X0", "Re X1", "Im X1", "Re X2", "Im X2", "Re X3"], f"playground: slots {held}")
     error = float(browser.one("#signal-error").get_property("value"))
@@ -58,28 +61,44 @@ def one_transform(browser, expect):
     for wrong, words in (("1 2 3", "6 points take 6"), ("1 2 x 4 5 6", "is no number")):
         field.clear()
         field.send_keys(wrong, Keys.TAB)
-        expect(words in browser.one("#signal-said").text, f"playground: {wrong} gets {browser.one('#signal-said').text}")
+        expect(
+            words in browser.one("#signal-said").text, f"playground: {wrong} gets {browser.one('#signal-said').text}"
+        )
     # Every family and length against the definitions, in one go.
-    for family, n in (("complex", 15), ("complex", 64), ("hartley", 9), ("wht", 32), ("dct4", 64), ("perm", 8), ("ccs", 7)):
+    for family, n in (
+        ("complex", 15),
+        ("complex", 64),
+        ("hartley", 9),
+        ("wht", 32),
+        ("dct4", 64),
+        ("perm", 8),
+        ("ccs", 7),
+    ):
         count = browser.run("return zulg.sizes(arguments[0], arguments[1]).input", family, n)
         x = [math.sin(k * k + 1) for k in range(count)]
         found = browser.run("return zulg.show(arguments[0], arguments[1], '64f', 8, arguments[2])", family, n, x)
-        expect(len(found) > 0 and max(abs(a - b) for a, b in zip(found, defined(family, n, x))) < 1e-12 * n,
-               f"playground: {family} of {n} points is wrong")
+        expect(
+            len(found) > 0 and max(abs(a - b) for a, b in zip(found, defined(family, n, x))) < 1e-12 * n,
+            f"playground: {family} of {n} points is wrong",
+        )
 
 
 def defined(family, n, x):
     """The output by the definition."""
+
     def dft(values):
         return [sum(v * cmath.exp(-2j * math.pi * m * k / n) for m, v in enumerate(values)) for k in range(n)]
+
     if family == "complex":
-        return [part for bin_ in dft([complex(a, b) for a, b in zip(x[::2], x[1::2])]) for part in (bin_.real, bin_.imag)]
+        return [
+            part for bin_ in dft([complex(a, b) for a, b in zip(x[::2], x[1::2])]) for part in (bin_.real, bin_.imag)
+        ]
     if family == "hartley":
         return [bin_.real - bin_.imag for bin_ in dft(x)]
     if family == "wht":
         return [sum((-1) ** (j & k).bit_count() * v for j, v in enumerate(x)) for k in range(n)]
     if family == "dct4":
-        return [sum(v * math.cos(math.pi * (j + .5) * (k + .5) / n) for j, v in enumerate(x)) for k in range(n)]
+        return [sum(v * math.cos(math.pi * (j + 0.5) * (k + 0.5) / n) for j, v in enumerate(x)) for k in range(n)]
     bins = dft(x)
     inner = [part for k in range(1, (n + 1) // 2) for part in (bins[k].real, bins[k].imag)]
     if family == "perm":
@@ -97,11 +116,11 @@ def sounds(browser, expect):
         browser.one("#signal-file").send_keys(str(tone))
         browser.wait(lambda: "tone.wav" in browser.one("#signal-said").text)
         bins = numbers(browser, "#signal-output")
-        powers = [math.hypot(*bins[2 * k:2 * k + 2]) for k in range(17)]
+        powers = [math.hypot(*bins[2 * k : 2 * k + 2]) for k in range(17)]
         # The browser takes the sound at the rate of its own.
         due = 3000 * 32 / browser.run("return zulg.audio().sampleRate")
         strongest = max(range(17), key=powers.__getitem__)
-        expect(abs(strongest - due) < .6 and len(bins) == 34, f"playground: 3000 Hz is in bin {strongest}, not {due}")
+        expect(abs(strongest - due) < 0.6 and len(bins) == 34, f"playground: 3000 Hz is in bin {strongest}, not {due}")
         browser.one("#signal-listen-kept").click()
         expect(browser.run("return zulg.heard.length") > 7000, "playground: nothing can be heard")
         browser.one("#signal-file").send_keys(str(wrong))
@@ -123,6 +142,6 @@ def parts(browser, expect):
     expect(0 < error < 1e-14, f"playground: the MDCT restores with an error of {error}")
     browser.run("const e = document.getElementById('mdct-keep'); e.value = 10; e.dispatchEvent(new Event('input'))")
     error = float(browser.one("#mdct-error").get_property("value"))
-    expect(1e-6 < error < .6, f"playground: a tenth of the coefficients gives an error of {error}")
+    expect(1e-6 < error < 0.6, f"playground: a tenth of the coefficients gives an error of {error}")
     browser.driver.find_elements(By.CSS_SELECTOR, "#parts button")[0].click()
     print(json.dumps({"playground": "driven"}), flush=True)

@@ -1,5 +1,5 @@
-"""Runs the examples of the reference, those in C and Python of every routine, those in C++ of every family at some lengths,
-and compares what they print with what they say."""
+"""Runs the examples of the reference, those in C and Python of every routine, those in C++ of every family at some
+lengths, and compares what they print with what they say."""
 import contextlib
 import io
 import os
@@ -31,7 +31,7 @@ def as_functions(programs, language):
             failures.expect(False, f"{name}: no main")
         body = body.replace(main, f"static int run_{number}(void) {{")
         if language == "cpp":
-            body = body[:body.rindex("}")] + "    return 0;\n}\n"
+            body = body[: body.rindex("}")] + "    return 0;\n}\n"
         parts = parts + [body]
         calls.append(f'    puts("= {name}"); if (run_{number}() != 0) puts("refused"); fflush(stdout);')
     return "\n".join(parts + ["int main(void) {", *calls, "    return 0;", "}", ""])
@@ -55,9 +55,24 @@ def compiled(programs, language, folder):
     source.write_text(as_functions(programs, language), encoding="ascii")
     program = pathlib.Path(folder) / f"examples-{language}"
     compiler = [args.cc, "-std=c11"] if language == "c" else [args.cxx, "-std=c++20"]
-    subprocess.run([*compiler, "-O0", "-Wall", "-Wextra", "-Werror", f"-I{args.source}/include", source, "-o", program,
-                    f"-L{args.build}", "-l:libzulgenpx-batch-7.0.so", "-l:libzulgenpx-7.0.so",
-                    f"-Wl,-rpath,{args.build}"], check=True)
+    subprocess.run(
+        [
+            *compiler,
+            "-O0",
+            "-Wall",
+            "-Wextra",
+            "-Werror",
+            f"-I{args.source}/include",
+            source,
+            "-o",
+            program,
+            f"-L{args.build}",
+            "-l:libzulgenpx-batch-7.0.so",
+            "-l:libzulgenpx-7.0.so",
+            f"-Wl,-rpath,{args.build}",
+        ],
+        check=True,
+    )
     result = subprocess.run([program], capture_output=True, text=True, check=True)
     compare(programs, result.stdout, language)
 
@@ -76,16 +91,29 @@ def in_python(programs):
 def main():
     import library as lib
     import snippets
+
     library = lib.Library(args.source)
     found = [(export, snippets.of(export)) for export in library.exports]
     found += [(batch, snippets.of_batch(batch)) for batch in library.batches]
     for export, example in found:
-        failures.expect(export["name"] in example.c or "GetSize" in export["name"] or "Free" in export["name"]
-                        or "Init" in export["name"], f"{export['name']}: the example does not call it")
+        failures.expect(
+            export["name"] in example.c
+            or "GetSize" in export["name"]
+            or "Free" in export["name"]
+            or "Init" in export["name"],
+            f"{export['name']}: the example does not call it",
+        )
     with tempfile.TemporaryDirectory(dir=args.build) as folder:
         compiled([(export["name"], example.c) for export, example in found], "c", folder)
-        compiled([(export["name"], example.cpp) for export, example in found
-                  if example.cpp and lib.size_of(export) in CPP_SIZES], "cpp", folder)
+        compiled(
+            [
+                (export["name"], example.cpp)
+                for export, example in found
+                if example.cpp and lib.size_of(export) in CPP_SIZES
+            ],
+            "cpp",
+            folder,
+        )
     in_python([(export["name"], example.python) for export, example in found if example.python])
     failures.end("examples")
 

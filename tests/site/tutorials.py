@@ -19,13 +19,32 @@ def run(program, folder):
         environment = dict(os.environ, PYTHONPATH=str(args.source / "python"), ZULGENPX_LIBRARY_DIR=str(args.build))
         command = [sys.executable, "-B", "-c", program.text]
     else:
-        ending, compiler, standard = ((".c", args.cc, "-std=c11") if program.language == "c" else
-                                      (".cpp", args.cxx, "-std=c++20"))
+        ending, compiler, standard = (
+            (".c", args.cc, "-std=c11") if program.language == "c" else (".cpp", args.cxx, "-std=c++20")
+        )
         source, made = pathlib.Path(folder) / f"program{ending}", pathlib.Path(folder) / "program"
         source.write_text(program.whole(), encoding="utf-8")
-        compiled = subprocess.run([compiler, standard, "-O1", "-Wall", "-Wextra", "-Werror", f"-I{args.source}/include",
-                                   source, "-o", made, f"-L{args.build}", "-l:libzulgenpx-batch-7.0.so",
-                                   "-l:libzulgenpx-7.0.so", "-lm", f"-Wl,-rpath,{args.build}"], capture_output=True, text=True)
+        compiled = subprocess.run(
+            [
+                compiler,
+                standard,
+                "-O1",
+                "-Wall",
+                "-Wextra",
+                "-Werror",
+                f"-I{args.source}/include",
+                source,
+                "-o",
+                made,
+                f"-L{args.build}",
+                "-l:libzulgenpx-batch-7.0.so",
+                "-l:libzulgenpx-7.0.so",
+                "-lm",
+                f"-Wl,-rpath,{args.build}",
+            ],
+            capture_output=True,
+            text=True,
+        )
         if compiled.returncode:
             return compiled.stderr
         environment, command = None, [made]
@@ -41,9 +60,11 @@ def main():
             failures.expect(bool(programs), f"{path.name}: no program")
             for program in programs:
                 printed = run(program, folder)
-                failures.expect(program.printed and [line.strip() for line in printed.splitlines()] ==
-                                [line.strip() for line in program.printed],
-                                f"{program.where}: prints {printed!r}, says {program.printed}")
+                failures.expect(
+                    program.printed
+                    and [line.strip() for line in printed.splitlines()] == [line.strip() for line in program.printed],
+                    f"{program.where}: prints {printed!r}, says {program.printed}",
+                )
     failures.expect(len(paths) == 9, f"{len(paths)} tutorials")
     failures.end("tutorials")
 

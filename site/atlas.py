@@ -453,9 +453,10 @@ def family_page(site, data, family):
 
 def kernel_rows(data, codes):
     """All kernels of both element types: a row for each, with the figures of both levels."""
-    for export in data.library.exports:
-        if "counts" not in export:
-            continue
+    kernels = [export for export in data.library.exports if "counts" in export]
+    for export in sorted(
+        kernels, key=lambda each: (lib.FAMILIES.index(each["family"]), lib.points(each), each["element"])
+    ):
         counts, points = export["counts"], lib.points(export)
         sums, products = counts["additions"] + counts["subtractions"], counts["multiplications"] + counts["scale"]
         sizes = codes.get(export["name"], [("", 0), ("", 0)])
@@ -470,7 +471,9 @@ def kernel_rows(data, codes):
             f'<a href="../reference/{export["name"]}.html">{export["name"]}</a>',
             points,
             f'<a href="{lib.GRAPH_OF[export["family"]]}_{points}.html">{escape(export["recipe"]["words"])}</a>',
-            sums, products, counts["constants"],
+            sums,
+            products,
+            counts["constants"],
             sizes[0][1] or "",
             sizes[1][1] or "",
             f"{lower:.0f}" if lower else "",
@@ -538,6 +541,7 @@ kernels </caption><thead><tr>{head}</tr></thead><tbody>
         trail=[("Atlas", "atlas/index.html")],
         scripts=["assets/tables.js"],
         words="table sort filter bytes cycles errors",
+        is_broad=True,
     )
     return len(rows)
 

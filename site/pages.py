@@ -38,7 +38,7 @@ FRAME = """<!DOCTYPE html>
 <ul id="found" role="listbox" aria-label="Pages found" hidden></ul>
 </form>
 <button type="button" id="theme" aria-label="Light or dark colours" title="Light or dark colours">◐</button>
-</header> <main id="content" tabindex="-1">
+</header> <main id="content" tabindex="-1"{broad}>
 {trail}{body}
 </main>
 <footer><p>zulgenpx {version}, MIT licence. Made from the library's own data; nothing on these pages is loaded from a
@@ -56,7 +56,7 @@ class Site:
     def __init__(self, version):
         self.version, self.files, self.found = version, {}, []
 
-    def page(self, path, title, body, description="", trail=(), scripts=(), words=None):
+    def page(self, path, title, body, description="", trail=(), scripts=(), words=None, is_broad=False):
         """`trail` are the pages above this one: (title, path). `words` make it known to the search, beside its
         title."""
         if path in self.files:
@@ -75,6 +75,7 @@ class Site:
             description=escape(description or title, quote=True),
             navigation=navigation,
             version=self.version,
+            broad=' class="broad"' if is_broad else "",
             trail=f'<nav aria-label="Pages above"><ol class="trail">{steps}</ol></nav>\n' if trail else "",
             scripts="\n".join(f'<script src="{root}{script}" defer></script>' for script in scripts),
         )

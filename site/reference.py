@@ -80,6 +80,27 @@ def slots_figure(export):
     )
 
 
+def order_in_words(export):
+    """Where things are in arrays that hold no half spectrum."""
+    n = lib.points(export)
+    if "CToC" in export["family"]:
+        last = f"{n - 1}" if n else "N−1"
+        half = f"{n // 2 + 1}" if n else "N/2 + 1"
+        spectrum = "pDst" if export["sense"] == "forward" else "pSrc"
+        words = (
+            f"Element k of {spectrum} is X[k], from 0 to {last}: its real part, then its imaginary part. Seen as reals,"
+            f" these are slots 2k and 2k+1. X[0] is the sum of the input; the bins from {half} on are the negative"
+            " frequencies k − N. Nothing is shifted."
+        )
+    elif export["family"] == "WHT":
+        words = "Element k is row k of the Hadamard matrix times the input, in natural order: no bits are reversed."
+    elif export["family"] == "DCT4":
+        words = "Element k is y[k], rising in frequency: (k + ½)/2N of the rate of the samples."
+    else:
+        words = "Element k is out[k]. The frequencies k and N − k are those of one bin of the DFT."
+    return f'<h2 id="slots">Which slot holds which bin</h2><p>{words}</p>'
+
+
 def slots_in_words(export):
     layout = export["spectrum"]["layout"]
     rows = [
@@ -483,7 +504,10 @@ def entry(export, data, here):
             "pDst[k · dstStep + j · dstDistance]. Steps and distances count elements of the array; they may be "
             "negative, and those of the source 0.</p>"
         )
-    parts.append(slots_figure(export) or (slots_in_words(export) if "spectrum" in export else ""))
+    if "spectrum" in export:
+        parts.append(slots_figure(export) or slots_in_words(export))
+    elif lib.is_transform(export):
+        parts.append(order_in_words(export))
     if any(argument["name"] == "flag" for argument in export["arguments"]):
         parts.append(scale_table(export))
     if export["returns"] == "ZulgStatus":

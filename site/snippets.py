@@ -362,6 +362,154 @@ def version():
 
 def of_batch(batch):
     """Two transforms, one after the other."""
+    found = batch_in_c(batch)
+    if "BufferSize" not in batch["name"]:
+        found.cpp, found.python = batch_in_cpp(batch), batch_in_python(batch)
+    elif batch["family"] == "WHT":
+        found.cpp = cpp_program(
+            "zulgenpx_batch.hpp",
+            [
+                f'std::printf("%zu\\n", zulgenpx::batch::wht_buffer_size(9) * sizeof({real_type(batch["element"])}));'
+                f'  // prints {8192 if batch["element"] == "64f" else 4096}'
+            ],
+        )
+    return found
+
+
+def batch_in_cpp(batch):
+    family, element, real = batch["family"], batch["element"], real_type(batch["element"])
+    form, value, n = form_of(element), ramp_bin(15, 1), 15
+    space = "zulgenpx::batch::single" if "Single" in batch["name"] else "zulgenpx::batch"
+    layout = batch.get("spectrum", {}).get("layout")
+    size = half_spectrum_size(layout, n) if layout else n
+    named = f"<zulgenpx::layout::{layout.lower()}>" if layout else ""
+    ramp = f"for (int n = 0; n < 30; ++n) x[n] = {real}(n % 15 + 1);"
+
+    def arrays(kind, *sizes):
+        return [f"std::vector<{kind}> {name}({2 * count});" for name, count in sizes]
+
+    def rows(name, count):
+        return f"zulgenpx::rows({name}, {count})"
+
+    if family == "DCT4":
+        form = "%.1f" if element == "32f" else "%.4f"
+        lines = arrays(real, ("x", 64), ("y", 64)) + [
+            f"for (int n = 0; n < 128; ++n) x[n] = {real}(n % 64 + 1);",
+            f"zulgenpx::dct4_plan<{real}> plan(64);",
+            f"{space}::dct4(plan, {rows('x', 64)}, {rows('y', 64)});",
+            f'std::printf("{form}\\n", y[64]);  // prints {form % dct4_value(64)}',
+        ]
+    elif family == "WHT":
+        lines = arrays(real, ("x", 16)) + [
+            f"for (int n = 0; n < 32; ++n) x[n] = {real}(n % 16 + 1);",
+            f"{space}::wht({rows('x', 16)}, {rows('x', 16)});",
+            'std::printf("%.0f %.0f\\n", x[16], x[17]);  // prints 136 -8',
+        ]
+    elif family == "DFTFwd_CToC":
+        lines = arrays(f"std::complex<{real}>", ("x", n), ("X", n)) + [
+            ramp,
+            f"{space}::dft({rows('x', n)}, {rows('X', n)});",
+            (
+                f'std::printf("{form} {form}\\n", X[16].real(), X[16].imag());'
+                f"  // prints {shown(element, value.real)} {shown(element, value.imag)}"
+            ),
+        ]
+    elif family == "DFTInv_CToC":
+        lines = arrays(f"std::complex<{real}>", ("X", n), ("x", n)) + [
+            "X[15] = 45;",
+            "X[16] = 15;",
+            f"{space}::inverse_dft({rows('X', n)}, {rows('x', n)});",
+            f'std::printf("{form}\\n", x[16].real());  // prints {shown(element, 3 + math.cos(2 * math.pi / n))}',
+        ]
+    elif family.startswith("DFTFwd"):
+        place = size + place_of(layout, n, 1, "re")
+        lines = arrays(real, ("x", n), ("X", size)) + [
+            ramp,
+            f"{space}::real_dft{named}({rows('x', n)}, {rows('X', size)});",
+            (
+                f'std::printf("{form} {form}\\n", X[{place}], X[{place + 1}]);'
+                f"  // prints {shown(element, value.real)} {shown(element, value.imag)}"
+            ),
+        ]
+    elif family.startswith("DFTInv"):
+        lines = arrays(real, ("X", size), ("x", n)) + [
+            f"X[{size}] = 45;",
+            f"X[{size + place_of(layout, n, 1, 're')}] = 15;",
+            f"{space}::inverse_real_dft{named}({rows('X', size)}, {rows('x', n)});",
+            f'std::printf("{form}\\n", x[16]);  // prints {shown(element, 3 + 2 * math.cos(2 * math.pi / n))}',
+        ]
+    else:
+        lines = arrays(real, ("x", n), ("h", n)) + [
+            ramp,
+            f"{space}::hartley({rows('x', n)}, {rows('h', n)});",
+            f'std::printf("{form}\\n", h[16]);  // prints {shown(element, value.real - value.imag)}',
+        ]
+    return cpp_program("zulgenpx_batch.hpp", lines)
+
+
+def batch_in_python(batch):
+    family, element, value, n = batch["family"], batch["element"], ramp_bin(15, 1), 15
+    layout, form = batch.get("spectrum", {}).get("layout"), form_of(batch["element"])[1:]
+    options = ', precision="single"' if "Single" in batch["name"] else ""
+    kept = f', layout="{layout.lower()}"' if layout in ("Pack", "Perm") else ""
+
+    def rows_of(count):
+        return f"x = np.tile(np.arange(1, {count + 1}), (2, 1)).astype(np.{numpy_type(element)})"
+
+    if family == "DCT4":
+        form = ".1f" if element == "32f" else ".4f"
+        return python_program(
+            [
+                rows_of(64),
+                f"plan = zulgenpx.DCT4Plan(64, np.{numpy_type(element)})",
+                "y = plan(x)",
+                f'print(f"{{y[1, 0]:{form}}}")  # prints {f"%{form}" % dct4_value(64)}',
+            ]
+        )
+    if family == "WHT":
+        lines = [rows_of(16), "h = zulgenpx.wht(x)", 'print(f"{h[1, 0]:.0f} {h[1, 1]:.0f}")  # prints 136 -8']
+    elif family == "Hartley":
+        due = shown(element, value.real - value.imag)
+        lines = [rows_of(n), f"h = zulgenpx.hartley(x{options})", f'print(f"{{h[1, 1]:{form}}}")  # prints {due}']
+    elif family == "DFTFwd_CToC" or layout == "CCS" and "Fwd" in family:
+        call_ = "fft" if "CToC" in family else "rfft"
+        lines = [
+            rows_of(n),
+            f"X = zulgenpx.{call_}(x{options})",
+            (
+                f'print(f"{{X[1, 1].real:{form}}} {{X[1, 1].imag:{form}}}")'
+                f"  # prints {shown(element, value.real)} {shown(element, value.imag)}"
+            ),
+        ]
+    elif "Fwd" in family:
+        place = place_of(layout, n, 1, "re")
+        lines = [
+            rows_of(n),
+            f"X = zulgenpx.rfft(x{kept}{options})",
+            (
+                f'print(f"{{X[1, {place}]:{form}}} {{X[1, {place + 1}]:{form}}}")'
+                f"  # prints {shown(element, value.real)} {shown(element, value.imag)}"
+            ),
+        ]
+    else:
+        complex_type = "complex128" if element.startswith("64") else "complex64"
+        width, kind = (
+            (n, complex_type) if "CToC" in family else (8, complex_type) if not kept else (n, numpy_type(element))
+        )
+        call_ = "ifft(X" if "CToC" in family else f"irfft(X, 15{kept}" if not kept else f"irfft(X{kept}"
+        place = 1 if not kept else place_of(layout, n, 1, "re")
+        due = 3 + (1 if "CToC" in family else 2) * math.cos(2 * math.pi / n)
+        part = ".real" if "CToC" in family else ""
+        lines = [
+            f"X = np.zeros((2, {width}), np.{kind})",
+            f"X[1, 0], X[1, {place}] = 45, 15",
+            f"x = zulgenpx.{call_}{options})",
+            f'print(f"{{x[1, 1]{part}:{form}}}")  # prints {shown(element, due)}',
+        ]
+    return python_program(lines)
+
+
+def batch_in_c(batch):
     family, element, name = batch["family"], batch["element"], batch["name"]
     kind, count = C_TYPES[element], 2
     if "BufferSize" in name:

@@ -3,7 +3,9 @@
 #include <boost/math/constants/constants.hpp>
 #include <boost/multiprecision/cpp_bin_float.hpp>
 #include <cmath>
+#include <map>
 #include <ostream>
+#include <utility>
 
 namespace gen {
 
@@ -47,6 +49,20 @@ Number angle(const Octant& octant, int n) {
     return boost::math::constants::two_pi<Number>() * octant.eighths / (8 * n);
 }
 
+// Cosine and sine of reduced angles. Rules ask for the same ones again and again.
+const Number& cosineOf(const Octant& octant, int n) {
+    static std::map<std::pair<int, int>, Number> known;
+    const auto [found, isNew] = known.try_emplace({octant.eighths, n});
+    if (isNew) found->second = cos(angle(octant, n));
+    return found->second;
+}
+const Number& sineOf(const Octant& octant, int n) {
+    static std::map<std::pair<int, int>, Number> known;
+    const auto [found, isNew] = known.try_emplace({octant.eighths, n});
+    if (isNew) found->second = sin(angle(octant, n));
+    return found->second;
+}
+
 }  // namespace
 
 Exact::Exact(int value) : Exact(exact(value)) {}
@@ -73,13 +89,13 @@ std::ostream& operator<<(std::ostream& out, const Exact& x) { return out << x.te
 
 Exact cosTurn(int k, int n) {
     const Octant octant = reduce(k, n);
-    const Number magnitude = octant.exchanged ? sin(angle(octant, n)) : cos(angle(octant, n));
+    const Number& magnitude = octant.exchanged ? sineOf(octant, n) : cosineOf(octant, n);
     return exact(octant.minusCos ? Number(-magnitude) : magnitude);
 }
 
 Exact sinTurn(int k, int n) {
     const Octant octant = reduce(k, n);
-    const Number magnitude = octant.exchanged ? cos(angle(octant, n)) : sin(angle(octant, n));
+    const Number& magnitude = octant.exchanged ? cosineOf(octant, n) : sineOf(octant, n);
     return exact(octant.minusSin ? Number(-magnitude) : magnitude);
 }
 

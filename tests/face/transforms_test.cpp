@@ -65,8 +65,7 @@ protected:
         }
     }
 
-    template <int N>
-    std::string name(const std::string& family, const std::string& tail = "") {
+    static std::string name(int N, const std::string& family, const std::string& tail = "") {
         return exportedName<Real>("zulg" + family + "_" + std::to_string(N)) + tail;
     }
 
@@ -75,54 +74,80 @@ protected:
         return std::span<Element, size>(elements, size);
     }
 
+    // Functions, and no lambdas in what follows: a lambda is compiled anew for each length, and a class each time.
+    using Point = std::complex<Real>;
+    using Points = std::vector<Point>;
+    template <int N>
+    static void dft(const Point* x, Point* y, scale factor) {
+        zulgenpx::dft<N>(fixed<N>(x), fixed<N>(y), factor);
+    }
+    static void dftOfArrays(const Points& x, Points& y, scale factor) { zulgenpx::dft(x, y, factor); }
+    template <int N>
+    static void inverseDft(const Point* x, Point* y, scale factor) {
+        zulgenpx::inverse_dft<N>(fixed<N>(x), fixed<N>(y), factor);
+    }
+    static void inverseDftOfArrays(const Points& x, Points& y, scale factor) { zulgenpx::inverse_dft(x, y, factor); }
+
     template <int N>
     void checkComplex() {
-        using Complex = std::complex<Real>;
-        expectBits<Complex, Complex>(
-            name<N>("DFTFwd_CToC", "c"), N, N,
-            [](auto x, auto y, scale factor) { zulgenpx::dft<N>(fixed<N>(x), fixed<N>(y), factor); },
-            [](auto& x, auto& y, scale factor) { zulgenpx::dft(x, y, factor); });
-        expectBits<Complex, Complex>(
-            name<N>("DFTInv_CToC", "c"), N, N,
-            [](auto x, auto y, scale factor) { zulgenpx::inverse_dft<N>(fixed<N>(x), fixed<N>(y), factor); },
-            [](auto& x, auto& y, scale factor) { zulgenpx::inverse_dft(x, y, factor); });
+        expectBits<Point, Point>(name(N, "DFTFwd_CToC", "c"), N, N, dft<N>, dftOfArrays);
+        expectBits<Point, Point>(name(N, "DFTInv_CToC", "c"), N, N, inverseDft<N>, inverseDftOfArrays);
     }
 
     template <int N, layout kept, class Bin>
-    void checkReal(const std::string& word) {
-        constexpr std::size_t size = kept != layout::ccs ? N : (N / 2 + 1) * (sizeof(Bin) == sizeof(Real) ? 2 : 1);
-        expectBits<Real, Bin>(
-            name<N>("DFTFwd_RTo" + word), N, size,
-            [](auto x, auto y, scale factor) { zulgenpx::real_dft<N, kept>(fixed<N>(x), fixed<size>(y), factor); },
-            [](auto& x, auto& y, scale factor) { zulgenpx::real_dft<kept>(x, y, factor); });
-        expectBits<Bin, Real>(
-            name<N>("DFTInv_" + word + "ToR"), size, N,
-            [](auto x, auto y, scale factor) {
-                zulgenpx::inverse_real_dft<N, kept>(fixed<size>(x), fixed<N>(y), factor);
-            },
-            [](auto& x, auto& y, scale factor) { zulgenpx::inverse_real_dft<kept>(x, y, factor); });
+    static constexpr std::size_t spectrumSize = kept != layout::ccs
+                                                    ? N
+                                                    : (N / 2 + 1) * (sizeof(Bin) == sizeof(Real) ? 2 : 1);
+    template <int N, layout kept, class Bin>
+    static void realDft(const Real* x, Bin* y, scale factor) {
+        zulgenpx::real_dft<N, kept>(fixed<N>(x), fixed<spectrumSize<N, kept, Bin>>(y), factor);
+    }
+    template <layout kept, class Bin>
+    static void realDftOfArrays(const std::vector<Real>& x, std::vector<Bin>& y, scale factor) {
+        zulgenpx::real_dft<kept>(x, y, factor);
+    }
+    template <int N, layout kept, class Bin>
+    static void inverseRealDft(const Bin* x, Real* y, scale factor) {
+        zulgenpx::inverse_real_dft<N, kept>(fixed<spectrumSize<N, kept, Bin>>(x), fixed<N>(y), factor);
+    }
+    template <layout kept, class Bin>
+    static void inverseRealDftOfArrays(const std::vector<Bin>& x, std::vector<Real>& y, scale factor) {
+        zulgenpx::inverse_real_dft<kept>(x, y, factor);
+    }
+
+    template <int N, layout kept, class Bin>
+    void checkReal(const char* forward, const char* inverse) {
+        constexpr std::size_t size = spectrumSize<N, kept, Bin>;
+        expectBits<Real, Bin>(name(N, forward), N, size, realDft<N, kept, Bin>, realDftOfArrays<kept, Bin>);
+        expectBits<Bin, Real>(name(N, inverse), size, N, inverseRealDft<N, kept, Bin>,
+                              inverseRealDftOfArrays<kept, Bin>);
     }
 
     template <int N>
     void checkReals() {
-        checkReal<N, layout::ccs, Real>("CCS");
-        checkReal<N, layout::ccs, std::complex<Real>>("CCS");
-        checkReal<N, layout::pack, Real>("Pack");
-        checkReal<N, layout::perm, Real>("Perm");
+        checkReal<N, layout::ccs, Real>("DFTFwd_RToCCS", "DFTInv_CCSToR");
+        checkReal<N, layout::ccs, std::complex<Real>>("DFTFwd_RToCCS", "DFTInv_CCSToR");
+        checkReal<N, layout::pack, Real>("DFTFwd_RToPack", "DFTInv_PackToR");
+        checkReal<N, layout::perm, Real>("DFTFwd_RToPerm", "DFTInv_PermToR");
+    }
+
+    template <int N>
+    static void hartley(const Real* x, Real* y, scale factor) {
+        zulgenpx::hartley<N>(fixed<N>(x), fixed<N>(y), factor);
+    }
+    static void hartleyOfArrays(const std::vector<Real>& x, std::vector<Real>& y, scale factor) {
+        zulgenpx::hartley(x, y, factor);
     }
 
     template <int N>
     void checkHartley() {
-        expectBits<Real, Real>(
-            name<N>("Hartley"), N, N,
-            [](auto x, auto y, scale factor) { zulgenpx::hartley<N>(fixed<N>(x), fixed<N>(y), factor); },
-            [](auto& x, auto& y, scale factor) { zulgenpx::hartley(x, y, factor); });
+        expectBits<Real, Real>(name(N, "Hartley"), N, N, hartley<N>, hartleyOfArrays);
     }
 
     template <int order>
     void checkWht() {
         constexpr std::size_t size = std::size_t{1} << order;
-        const auto routine = exported<test::WhtKernel<Real>>(name<order>("WHT"));
+        const auto routine = exported<test::WhtKernel<Real>>(name(order, "WHT"));
         std::int32_t bytes = -1;
         ASSERT_EQ(exported<ZulgStatus(ZULG_CALL*)(std::int32_t, std::int32_t*)>(
                       exportedName<Real>("zulgWHTGetBufferSize"))(order, &bytes),

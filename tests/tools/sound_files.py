@@ -1,14 +1,17 @@
 # Writes small WAV and FLAC files for the tests, and reads PNG pictures back, with the standard library alone.
 # The FLAC files hold their samples uncompressed, which the format allows.
+import re
 import struct
 import zlib
+
+ANY_BUT_ZERO = re.compile(rb"[^\0]")
 
 
 def wav(samples, rate=8000, bits=16, floating=False):
     """`samples` is a list of channels; integers as they go into the file, or floats."""
     channels, size = len(samples), bits // 8
     if floating:
-        data = b"".join(struct.pack("<f", v) for frame in zip(*samples) for v in frame)
+        data = struct.pack("<%df" % (channels * len(samples[0])), *(v for frame in zip(*samples) for v in frame))
     elif bits == 8:
         data = b"".join(struct.pack("<B", v + 128) for frame in zip(*samples) for v in frame)
     else:
@@ -43,20 +46,34 @@ def flac(samples, rate=8000, block=256):
 
 
 def unfilter(kind, line, above):
-    for i in range(len(line)):
-        left = line[i - 3] if i >= 3 else 0
-        corner = above[i - 3] if i >= 3 else 0
+    """Puts the guess of the filter back, for pixels of three bytes."""
+    if kind == 1:
+        for i in range(3, len(line)):
+            line[i] = (line[i] + line[i - 3]) & 255
+    elif kind == 2:
+        line[:] = bytes((one + other) & 255 for one, other in zip(line, above)) if any(line) else above
+    elif kind == 3:
+        for i in range(len(line)):
+            line[i] = (line[i] + ((line[i - 3] if i >= 3 else 0) + above[i]) // 2) & 255
+    elif kind == 4:
+        unfilter_paeth(line, above)
+
+
+def unfilter_paeth(line, above):
+    i = 0
+    while i < len(line):
+        left, corner = (line[i - 3], above[i - 3]) if i >= 3 else (0, 0)
         up = above[i]
-        if kind == 1:
-            guess = left
-        elif kind == 2:
-            guess = up
-        elif kind == 3:
-            guess = (left + up) // 2
-        else:
-            distance = [abs(up - corner), abs(left - corner), abs(left + up - 2 * corner)]
-            guess = (left, up, corner)[distance.index(min(distance))]
-        line[i] = (line[i] + guess) & 255
+        if line[max(i - 3, 0):i] == above[max(i - 3, 0):i] and line[i] == 0:
+            # After a pixel that is as the one above, the guess is what is above, as far as it is right.
+            end = ANY_BUT_ZERO.search(line, i)
+            end = end.start() if end else len(line)
+            line[i:end] = above[i:end]
+            i = end
+            continue
+        distance = [abs(up - corner), abs(left - corner), abs(left + up - 2 * corner)]
+        line[i] = (line[i] + (left, up, corner)[distance.index(min(distance))]) & 255
+        i += 1
 
 
 def png_rows(data):

@@ -69,6 +69,9 @@ InverseOptions inverseOptions(const Words& words) {
     options.hopGiven = words.given("--hop") || words.given("--noverlap");
     options.format = formatOf(words, sampleFormats);
     options.encoding = words["--encoding"];
+    if (words.given("--encoding") && options.encoding.empty()) {
+        throw UsageError("--encoding '': no such encoding; known: " + encodingNames());
+    }
     if (words.given("--rate")) {
         options.rate = realNumber("--rate", words["--rate"]);
         if (options.rate <= 0) throw UsageError("--rate " + shownWord(words["--rate"]) + ": a rate is above 0");
@@ -118,13 +121,13 @@ public:
 
 private:
     double rate() const {
-        if (options.rate > 0 && file->rate && std::abs(*file->rate / options.rate - 1) > 1e-9) {
+        // Numbers have a rate of 1, and may become a sound of any.
+        const bool known = file->rate && *file->rate != 1;
+        if (options.rate > 0 && known && std::abs(*file->rate / options.rate - 1) > 1e-9) {
             throw UserError("--rate " + shortest(options.rate) + ": " + file->name + " has a rate of " +
                             shortest(*file->rate));
         }
         if (options.rate > 0) return options.rate;
-        // Numbers have a rate of 1.
-        const bool known = file->rate && *file->rate != 1;
         if (!known && options.format != Format::Text) {
             throw UsageError("--rate is required: " + file->name + " does not tell the rate of the sound");
         }

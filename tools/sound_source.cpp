@@ -20,7 +20,7 @@ public:
         lseek(descriptor, 0, SEEK_SET);
         file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
         if (!file) {
-            const std::string reason = printable(sf_strerror(nullptr));
+            const std::string reason = reasonOfLibrary();
             close(descriptor);
             if (!damage.empty()) throw DamagedInput(name + ": the file is damaged: " + damage + "; samples that are good: 0");
             if (!isSoundFile) throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
@@ -63,9 +63,17 @@ private:
     };
     static constexpr std::size_t blockFrames = 8192;
 
+    // Why a file cannot be opened.
+    static std::string reasonOfLibrary() {
+        const std::string reason = printable(sf_strerror(nullptr));
+        if (reason.find("SF_INFO struct incomplete") == std::string::npos) return reason;
+        return "its header says no sample rate, or one that no sound has";
+    }
+
     std::string damageOf(int descriptor) {
         std::unique_ptr<std::FILE, int (*)(std::FILE*)> bytes(fdopen(dup(descriptor), "rb"), std::fclose);
         if (!bytes) throw UserError("cannot read " + name + ": " + systemReason());
+        std::rewind(bytes.get());  // a copy of standard input stands at its end
         char start[12];
         const std::size_t count = std::fread(start, 1, sizeof start, bytes.get());
         isSoundFile = !containerName({start, count}).empty();

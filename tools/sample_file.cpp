@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "numbers.h"
@@ -44,14 +45,17 @@ public:
         : encoding(encodingOf(options)), name(printable(options.output)) {
         SF_INFO info{};
         info.channels = 1;
-        info.samplerate = static_cast<int>(std::lround(rate));
-        info.format = encoding.format | (options.format == Format::Flac ? SF_FORMAT_FLAC : SF_FORMAT_WAV);
-        if (sf_format_check(&info) == 0) {
+        const bool isFlac = options.format == Format::Flac;
+        const double greatest = isFlac ? 655350 : std::numeric_limits<int>::max() - 1.0;
+        const bool isRate = rate >= 0.5 && rate <= greatest;
+        info.samplerate = isRate ? static_cast<int>(std::lround(rate)) : 0;
+        info.format = encoding.format | (isFlac ? SF_FORMAT_FLAC : SF_FORMAT_WAV);
+        if (!isRate || sf_format_check(&info) == 0) {
             throw UsageError("--rate " + shortest(rate) + ": no sound file has this rate");
         }
         if (!out.canGoBack()) throw UsageError("--output " + name + ": a sound cannot go to a pipe; name a file");
-        file.reset(sf_open_fd(out.descriptor(), SFM_RDWR, &info, SF_FALSE));
-        if (!file) file.reset(sf_open_fd(out.descriptor(), SFM_WRITE, &info, SF_FALSE));
+        // One attempt: the library closes the descriptor of a file that it cannot open.
+        file.reset(sf_open_fd(out.descriptor(), isFlac ? SFM_WRITE : SFM_RDWR, &info, SF_FALSE));
         if (!file) throw UserError("cannot write " + name + ": " + printable(sf_strerror(nullptr)));
         sf_command(file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);  // it would hold the date
         sf_command(file.get(), SFC_SET_CLIPPING, nullptr, SF_TRUE);

@@ -71,7 +71,8 @@ class BadSounds(ToolTest):
             row(wav(form(codec=3, bits=16), PCM), FAILED, "cannot be read"),
             row(wav(form(), b""), FAILED, "too few samples: 0, and one frame takes 4"),
             row(wav(form(), PCM[:6]), FAILED, "too few samples: 3"),
-            row(wav(form(), PCM, chunk(b"junk", b"12", size=10 ** 9)), DAMAGED, "announces 1000000000 bytes of a chunk"),
+            row(wav(form(), PCM, chunk(b"junk", b"12", size=10 ** 9)),
+            DAMAGED, "announces 1000000000 bytes of a chunk"),
             row(wav(form(), PCM, chunk(b"\x1b[2J", b"12", size=10 ** 9)), DAMAGED, "of a chunk"),
             row(b"RIFF" + bytes(4) + b"WAVE", DAMAGED, NONE_GOOD), row(b"RIFF", DAMAGED, NONE_GOOD),
             row(b"RIFF" + bytes(400), FAILED, "neither a sound file that can be read nor a text"),
@@ -149,7 +150,8 @@ class BadSounds(ToolTest):
         self.assertEqual(self.ok("-", "--length", "4", "--format", "csv", given=data),
                          self.ok(self.path("a.wav", data), "--length", "4", "--format", "csv"))
         rows = [Bad(["-", "--output", "{kept}"], status, "^standard input: " + says, given) for given, status, says in (
-            (data[:100], DAMAGED, "the file is damaged: .*samples that are good: 28"), (b"\0\1\2", FAILED, "neither a sound"),
+            (data[:100], DAMAGED, "the file is damaged: .*samples that are good: 28"),
+            (b"\0\1\2", FAILED, "neither a sound"),
             (wav(form(codec=99), PCM), FAILED, "the sound cannot be read"), (b"", FAILED, "it is empty"))]
         expect_refusals(self, rows, 4)
 

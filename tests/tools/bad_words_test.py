@@ -9,7 +9,8 @@ NUMBERS = b"1 2 3 4 " * 64
 # A word, and how a message shows it.
 NO_NUMBERS = [("", "''"), (" ", "' '"), ("many", "many"), ("0x10", "0x10"), ("8,5", "8,5"), ("8 ", "8 "), (" 8", " 8"),
               ("+-8", "+-8"), ("++8", "++8"), ("8-", "8-"), ("\t8", "?8"), ("8\n", "8?"), ("\x1b[31m8", "?[31m8"),
-              (b"8\xff", "8?"), (b"\xc0\xb8", "??"), ("\uff18", "\uff18"), ("\u202e8", "???8"), ("x" * 2000, "x" * 60 + "..."),
+              (b"8\xff", "8?"), (b"\xc0\xb8", "??"), ("\uff18", "\uff18"), ("\u202e8", "???8"),
+              ("x" * 2000, "x" * 60 + "..."),
               ("nan", "nan"), ("inf", "inf"), ("8e", "8e"), ("8.5.1", "8.5.1"), ("8;rm", "8;rm")]
 NO_WHOLE_NUMBERS = [*NO_NUMBERS, ("1e3", "1e3"), ("8.5", "8.5"), (".", ".")]
 HUGE = "9" * 30
@@ -32,14 +33,16 @@ NAMES = [(FRAMED, "--family", "no such family; known: complex, real, hartley, wh
          (FRAMED, "--flag", "neither a number nor forward, backward, ortho or none"),
          (FRAMED, "--window", "no such window; known: none, boxcar, hann"),
          (FRAMED, "--precision", "neither 32 nor 64"), (FRAMED, "--decimal", "neither point nor comma"),
-         (PICTURE, "--colours", "no such map of colours; known: dusk"), (["bench"], "--family", "no such family; known"),
+         (PICTURE, "--colours", "no such map of colours; known: dusk"),
+         (["bench"], "--family", "no such family; known"),
          (FRAMED, "--format", "no format of this command; it has text, csv, json, npy$"),
          (["inverse", "{folder}/spectra.csv", "--output", "{kept}"], "--format",
           "no format of this command; it has text, wav, flac$"),
          ([*INVERSE[:-4], "--format", "wav", "--length", "4", "--rate", "8000"], "--encoding",
           "no such encoding; known: float, double, pcm24, pcm16"),
          (BATCH, "--format", "no format of this command; it has text, csv, json, npy, png, svg$")]
-NO_NAMES = [(" ", "' '"), ("x", "x"), ("HANN", "HANN"), ("hann ", "hann "), ("64.0", "64.0"), ("\x1b]0;x\x07", "?]0;x?"),
+NO_NAMES = [(" ", "' '"), ("x", "x"), ("HANN", "HANN"), ("hann ", "hann "), ("64.0", "64.0"),
+("\x1b]0;x\x07", "?]0;x?"),
             (b"\xff\xfe", "??"), ("real\n", "real?"), ("\u2028", "???"), ("y" * 5000, "y" * 60 + "...")]
 
 
@@ -88,7 +91,8 @@ class BadWords(ToolTest):
                 (PICTURE, "--range", ("0", "-5", "1001", "1e300"), "a picture shows 1 to 1000 decibels"),
                 (INVERSE, "--rate", ("0", "-8000"), "a rate is above 0"),
                 (["bench"], "--time", ("0", "-1", "101", "1e-9"), "a round takes 0.00001 to 100 seconds"),
-                (["bench"], "--lengths", ("0", "65", "7,,9", ",", "60,"), r"(the least is 1|no transform|not a whole)")):
+                (["bench"], "--lengths", ("0", "65", "7,,9", ",", "60,"),
+                r"(the least is 1|no transform|not a whole)")):
             for word in words:
                 # What the library has no transform for is told of the one length.
                 start = option.removesuffix("s") if word == "65" else option
@@ -110,7 +114,8 @@ class BadWords(ToolTest):
         for word, shown in [*NO_NAMES, ("", "''")]:
             rows.append(Bad(["completion", word], USAGE, "^" + re.escape(f"completion {shown}: no such shell")))
             rows.append(Bad(["info", word], USAGE, "^" + re.escape(f"{shown}: no routine of the library; ")))
-        for word, says in (("kaiser", "say kaiser:BETA"), ("gaussian", "say gaussian:STD"), ("hann:3", "has no parameter"),
+        for word, says in (("kaiser", "say kaiser:BETA"), ("gaussian", "say gaussian:STD"),
+        ("hann:3", "has no parameter"),
                            ("kaiser:", "BETA '': not a number"), ("kaiser:x", "BETA x: not a number"),
                            ("kaiser:-1", "BETA is 0 to 700"), ("kaiser:701", "BETA is 0 to 700"),
                            ("kaiser:nan", "BETA nan: not a number"), ("tukey:1.5", "SHARE is 0 to 1"),
@@ -124,8 +129,10 @@ class BadWords(ToolTest):
         for command, option in (("transform", "--columns"), ("transform", "--range"), ("transform", "--colours"),
                                 ("transform", "--rate"), ("transform", "--jobs"), ("spectrogram", "--encoding"),
                                 ("inverse", "--check"), ("inverse", "--start"), ("inverse", "--columns"),
-                                ("batch", "--output"), ("batch", "--check"), ("layout", "--length"), ("info", "--family"),
-                                ("bench", "--hop"), ("bench", "--output"), ("completion", "--json"), ("manual", "--json"),
+                                ("batch", "--output"), ("batch", "--check"), ("layout", "--length"),
+                                ("info", "--family"),
+                                ("bench", "--hop"), ("bench", "--output"), ("completion", "--json"),
+                                ("manual", "--json"),
                                 ("", "--jobs"), ("", "--nonsense"), ("layout", "-x"), ("", "-l"), ("", "--leng")):
             rows.append(Bad([*([command] if command else []), "8" if command == "layout" else "kept.csv", option, "8"],
                             USAGE, "^" + option + ": there is no such option"))
@@ -134,17 +141,20 @@ class BadWords(ToolTest):
             rows.append(Bad(["-", option], USAGE, f"^{option}.*its value is missing", NUMBERS))
             rows.append(Bad(["-", option, "8", option, "8"], USAGE, f"^{option}.*it is given more than once", NUMBERS))
         for words, says in (
-                ([], "^INPUT is required"), (["transform"], "^INPUT is required"), (["spectrogram"], "^INPUT is required"),
+                ([], "^INPUT is required"), (["transform"], "^INPUT is required"),
+                (["spectrogram"], "^INPUT is required"),
                 (["inverse"], "^INPUT is required"), (["batch"], "^FILE-OR-FOLDER is required"),
                 (["batch", "kept.csv"], "^--into is required"), (["layout"], "^N is required"),
                 (["completion"], "^SHELL is required"), ([""], "^INPUT '': a file has a name"),
-                (["transform", ""], "^INPUT '': a file has a name"), (["-", "--output", ""], "^--output '': a file has"),
+                (["transform", ""], "^INPUT '': a file has a name"),
+                (["-", "--output", ""], "^--output '': a file has"),
                 (["kept.csv", "second"], "^second: a word too many"), (["layout", "8", "9"], "^9: a word too many"),
                 (["info", "a", "b"], "^b: a word too many"), (["bench", "8"], "^8: a word too many"),
                 (["kept.csv", "layout"], "^layout: a command is the first word"),
                 (["--length", "8", "batch"], "^batch: a command is the first word"),
                 (["-", "\x1b[2J"], r"^\?\[2J: a word too many"), (["-", b"\xff\xfe"], r"^\?\?: a word too many"),
-                (["-", "--\x1b"], r"^--\?: there is no such option"), (["-", "--output", "x.gif"], "^--output x.gif: no format"),
+                (["-", "--\x1b"], r"^--\?: there is no such option"),
+                (["-", "--output", "x.gif"], "^--output x.gif: no format"),
                 (["-", "--output", "x.wav"], "^--output x.wav: no format"),
                 (["inverse", "-", "--output", "x.png"], "^--output x.png: no format"),
                 (["-", "--hop", "8", "--noverlap", "8"], "^--hop 8 beside --noverlap 8: one of them is enough"),
@@ -155,7 +165,8 @@ class BadWords(ToolTest):
                 (["-", "--start", "9", "--end", "8"], "^--end 8: it is not after the start"),
                 (["info", "--list", "zulgWHT_64f"], "^--list beside ROUTINE"),
                 (["inverse", "-", "--format", "text", "--encoding", "float"], "^--encoding float: text has none"),
-                (["inverse", "-", "--format", "flac", "--encoding", "float", "--rate", "8"], "^--encoding float: FLAC has"),
+                (["inverse", "-", "--format", "flac", "--encoding", "float", "--rate",
+                "8"], "^--encoding float: FLAC has"),
                 (["transform", "-", "--length", "65"], "^--length 65: no transform of this length; .* 2-"),
                 (["transform", "-", "--family", "dct4", "--length", "60"], "^--length 60: not a power of two"),
                 (["transform", "-", "--family", "wht", "--order", "14"], "^--order 14: no transform of this order"),

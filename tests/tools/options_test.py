@@ -127,7 +127,8 @@ class Errors(ToolTest):
 
     def test_damaged_sound_is_refused(self):
         data = sound_files.flac([round(9000 * math.sin(i)) for i in range(2048)])
-        self.refused(self.path("cut.flac", data[:len(data) // 2]), says=["cut.flac", "damaged", "samples that are good: 768"])
+        self.refused(self.path("cut.flac", data[:len(data) // 2]),
+        says=["cut.flac", "damaged", "samples that are good: 768"])
 
     def test_output_that_cannot_be_written(self):
         given = b"1 2 3 4 " * 64

@@ -87,6 +87,10 @@ OutputFile::OutputFile(const std::string& path) : name(path == "-" ? "standard o
     std::error_code error;
     place = std::filesystem::weakly_canonical(path, error);
     if (error) place = path;
+    // What a link leads to need not be there yet.
+    for (int links = 0; links < 40 && std::filesystem::is_symlink(place, error); ++links) {
+        place = place.parent_path() / std::filesystem::read_symlink(place, error);
+    }
     const std::filesystem::file_status status = std::filesystem::status(place, error);
     if (std::filesystem::is_directory(status)) throw UserError("cannot write " + name + ": it is a folder");
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <vector>
 
@@ -51,7 +52,9 @@ public:
         info.samplerate = isRate ? static_cast<int>(std::lround(rate)) : 0;
         info.format = encoding.format | (isFlac ? SF_FORMAT_FLAC : SF_FORMAT_WAV);
         if (!isRate || sf_format_check(&info) == 0) {
-            throw UsageError("--rate " + shortest(rate) + ": no sound file has this rate");
+            char text[40];
+            std::snprintf(text, sizeof text, "%.10g", rate);
+            throw UsageError(std::string("--rate ") + text + ": no sound file has this rate");
         }
         if (!out.canGoBack()) throw UsageError("--output " + name + ": a sound cannot go to a pipe; name a file");
         // One attempt: the library closes the descriptor of a file that it cannot open.

@@ -39,6 +39,8 @@ public:
         return value;
     }
 
+    std::optional<std::int64_t> goodSamples;  // before the damage, where the container tells it
+
 private:
     std::FILE* file;
     std::uint64_t length;
@@ -141,6 +143,9 @@ std::string damageOfOgg(Reader& file) {
     constexpr std::size_t headerBytes = 27;
     std::uint64_t position = 0;
     bool ended = false;
+    // A page tells how many samples end with it; what else goes into Ogg than Vorbis counts them otherwise.
+    const bool isVorbis = file.bytes(headerBytes + 1, 7) == std::string_view("\x01vorbis", 7);
+    if (isVorbis) file.goodSamples = 0;
     while (position < file.size()) {
         const std::string where = " at byte " + std::to_string(position);
         std::string page = file.bytes(position, headerBytes);
@@ -155,6 +160,8 @@ std::string damageOfOgg(Reader& file) {
         std::memset(page.data() + 22, 0, 4);
         if (pageChecksum(page) != sum) return "the checksum of the page" + where + " is wrong";
         ended = (page[5] & 4) != 0;
+        const std::uint64_t samples = *file.number(position + 6, 8, Bytes::LittleEndian);
+        if (isVorbis && samples < unknown / 2) file.goodSamples = static_cast<std::int64_t>(samples);
         position += bytes;
     }
     return ended ? "" : "its last page is missing";
@@ -203,10 +210,12 @@ std::string containerName(std::string_view firstBytes) {
     return kind ? kind->name : "";
 }
 
-std::string damageOfContainer(std::FILE* file) {
+std::string damageOfContainer(std::FILE* file, std::optional<std::int64_t>& goodSamples) {
     Reader reader(file);
     const Kind* const kind = kindOf(reader.bytes(0, 12));
-    return kind ? kind->damage(reader) : "";
+    const std::string damage = kind ? kind->damage(reader) : "";
+    goodSamples = reader.goodSamples;
+    return damage;
 }
 
 }  // namespace spectrum

@@ -2,8 +2,11 @@
 // so the headers are compared with the bytes that there are.
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace spectrum {
 
@@ -11,7 +14,8 @@ namespace spectrum {
 std::string containerName(std::string_view firstBytes);
 
 // What is wrong with the sizes, or with the pages of an Ogg file, in words, or nothing when all is whole or when the
-// container says nothing about its size. Leaves the position in the file anywhere.
-std::string damageOfContainer(std::FILE* file);
+// container says nothing about its size. Leaves the position in the file anywhere. `goodSamples` are those before the
+// damage, where the container tells them.
+std::string damageOfContainer(std::FILE* file, std::optional<std::int64_t>& goodSamples);
 
 }  // namespace spectrum

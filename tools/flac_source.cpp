@@ -66,6 +66,8 @@ private:
         FlacSource& source = *static_cast<FlacSource*>(self);
         const FLAC__StreamMetadata_StreamInfo& info = metadata->data.stream_info;
         source.rate = info.sample_rate > 0 ? info.sample_rate : 1;
+        source.headerRate = info.sample_rate;
+        source.headerBits = info.bits_per_sample;
         source.channels = info.channels;
         if (info.total_samples > 0) source.total = static_cast<std::int64_t>(info.total_samples);
     }
@@ -96,6 +98,9 @@ private:
             if (error.empty()) error = "a frame has another number of channels";
             return options.allowsDamage;
         }
+        // Frames of variable rate are not made, and the digest says nothing of the rate.
+        if (header.sample_rate != headerRate && error.empty()) error = "a frame has another sample rate";
+        if (header.bits_per_sample != headerBits && error.empty()) error = "a frame has another number of bits";
         if (!error.empty() && !options.allowsDamage) return false;
         const std::int64_t first = static_cast<std::int64_t>(header.number.sample_number);
         const std::int64_t gap = first - delivered - static_cast<std::int64_t>(held.size());
@@ -146,6 +151,7 @@ private:
     InputOptions options;
     std::unique_ptr<FLAC__StreamDecoder, void (*)(FLAC__StreamDecoder*)> decoder;
     std::size_t channels = 0;
+    unsigned headerRate = 0, headerBits = 0;
     std::pair<std::size_t, std::size_t> chosen;
     std::vector<double> held;  // of the channel that is taken
     std::size_t next = 0;

@@ -30,7 +30,7 @@ public:
         rate = info.samplerate;
         if (info.samplerate < 1) throw UserError(name + ": the sound has no sample rate");
         if (info.frames >= 0 && info.frames < SF_COUNT_MAX) total = info.frames;
-        if (!damage.empty()) reportDamage(*this, options, damage, total.value_or(0));
+        if (!damage.empty()) reportDamage(*this, options, damage, goodSamples ? *goodSamples : total.value_or(0));
         chosen = chosenChannels(options, name, info.channels);
         block.resize(blockFrames * static_cast<std::size_t>(info.channels));
     }
@@ -77,7 +77,7 @@ private:
         char start[12];
         const std::size_t count = std::fread(start, 1, sizeof start, bytes.get());
         isSoundFile = !containerName({start, count}).empty();
-        return damageOfContainer(bytes.get());
+        return damageOfContainer(bytes.get(), goodSamples);
     }
 
     bool fill() {
@@ -100,6 +100,7 @@ private:
     InputOptions options;
     std::unique_ptr<SNDFILE, Closer> file;
     SF_INFO info{};
+    std::optional<std::int64_t> goodSamples;  // of a damaged file, where its container tells them
     bool isSoundFile = false, ended = false;
     std::pair<std::size_t, std::size_t> chosen;
     std::vector<double> block;  // interleaved, as the file holds it

@@ -216,7 +216,8 @@ void Journal::read(const std::string& words, bool startsAgain) {
                             "); --again starts over");
         }
         isFirst = false;
-        if (line.is_object() && line.contains("file") && line.contains("input") && line.contains("output")) {
+        const auto isText = [&](const char* name) { return line.contains(name) && line[name].is_string(); };
+        if (line.is_object() && isText("file") && isText("input") && isText("output")) {
             done[line["file"]] = line["input"].get<std::string>() + " / " + line["output"].get<std::string>();
         }
     }

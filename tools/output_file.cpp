@@ -58,6 +58,10 @@ bool statusOf(const std::string& path, int stream, struct stat& status) {
     return (path == "-" ? fstat(stream, &status) : stat(path.c_str(), &status)) == 0;
 }
 
+std::filesystem::path besideOf(const std::filesystem::path& place) {
+    return place.parent_path() / ("." + place.filename().string() + ".part");
+}
+
 // Opens and locks the file, or returns -1. Another run may rename the file between the two steps, and then the lock is
 // on a file that has its place already.
 int openLocked(const std::string& path) {
@@ -106,7 +110,7 @@ void OutputFile::openBeside() {
     struct stat earlier;
     const bool replaces = stat(place.c_str(), &earlier) == 0;
     if (replaces && access(place.c_str(), W_OK) != 0) fail();
-    beside = place.parent_path() / ("." + place.filename().string() + ".part");
+    beside = besideOf(place);
     const int descriptor = openLocked(beside);
     if (descriptor < 0 && errno == EWOULDBLOCK) throw UserError("cannot write " + name + ": another run writes it now");
     if (descriptor < 0) {
@@ -175,6 +179,8 @@ void removeUnfinishedFile() {
         if (one.isNamed) unlink(one.path);
     }
 }
+
+void removeUnfinishedFileOf(const std::string& output) { unlink(besideOf(output).c_str()); }
 
 void removeUnfinishedFileOnSignals() {
     for (int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE, SIGXCPU}) {

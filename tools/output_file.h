@@ -46,6 +46,9 @@ void refuseInputAsOutput(const std::string& input, const std::string& output);
 // Removes the file that is not finished. A handler of signals may call it.
 void removeUnfinishedFile();
 
+// What a process that has crashed left beside an output.
+void removeUnfinishedFileOf(const std::string& output);
+
 // Interrupted and terminated runs remove their unfinished file first.
 void removeUnfinishedFileOnSignals();
 

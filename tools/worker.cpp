@@ -11,6 +11,7 @@
 
 #include <cerrno>
 
+#include "output_file.h"
 #include "user_error.h"
 
 namespace spectrum {
@@ -96,6 +97,7 @@ void Worker::start(std::size_t file) {
 }
 
 FileResult Worker::result() {
+    const std::size_t file = current.value();
     current.reset();
     std::uint64_t size;
     if (readAll(channel, &size, sizeof size)) {
@@ -106,6 +108,7 @@ FileResult Worker::result() {
     while (waitpid(process, &status, 0) < 0 && errno == EINTR) {}
     close(channel);
     channel = -1;
+    removeUnfinishedFileOf(files[file].output);
     launch();
     FileResult failure;
     failure.status = 1;

@@ -102,26 +102,21 @@ def recipe_of(data, kind, length):
 
 
 def construction_words(kind, length, recipe):
-    """How a block is made, with its numbers filled in."""
-    factors = recipe.get("factors", [])
-    name = recipe["construction"]
+    """How a block is made, with its numbers filled in. A spectrum block goes from bins to real values."""
+    factors, name, is_spectrum = recipe.get("factors", []), recipe["construction"], kind == "spectrum"
     if name == "base":
-        return "One sum and one difference: X[0] = x[0] + x[1], X[1] = x[0] − x[1]."
+        x, X = ("X", "y") if is_spectrum else ("x", "X")
+        return f"One sum and one difference: {X}[0] = {x}[0] + {x}[1], {X}[1] = {x}[0] − {x}[1]."
     if name == "direct":
-        half = (length - 1) // 2
-        return (
-            "Direct symmetric form. With a<sub>j</sub>, d<sub>j</sub> the sums and differences of x[j] and"
-            f" x[{length}−j], j = 1 … {half}: P<sub>k</sub> = x[0] + Σ cos(2πjk/{length}) a<sub>j</sub>, Q<sub>k</sub>"
-            f" = Σ sin(2πjk/{length}) d<sub>j</sub>, X[k] = P<sub>k</sub> − iQ<sub>k</sub> and X[{length}−k] ="
-            " P<sub>k</sub> + iQ<sub>k</sub>."
-        )
+        return direct_words(length, is_spectrum)
     if name == "twiddled":
         a, b = factors
+        source, result = ("bins X", "y") if is_spectrum else ("columns x", "X")
+        symmetry = " Conjugate symmetry leaves half of the rows." if kind != "complex" else ""
         return (
-            f"Twiddled: {length} = {a} · {b} (Cooley and Tukey 1965). Blocks of {a} on the columns x[r + {b}m], the"
-            f" factors W<sub>{length}</sub><sup>r·k<sub>1</sub></sup>, blocks of {b} on the rows; output k<sub>2</sub>"
-            f" of row k<sub>1</sub> is X[k<sub>1</sub> + {a}k<sub>2</sub>]."
-            + (" Conjugate symmetry leaves half of the rows." if kind != "complex" else "")
+            f"Twiddled: {length} = {a} · {b} (Cooley and Tukey 1965). Blocks of {a} on the {source}[r + {b}m], the"
+            f" factors W<sub>{length}</sub><sup>{'−' if is_spectrum else ''}r·k<sub>1</sub></sup>, blocks of {b} on the"
+            f" rows; output k<sub>2</sub> of row k<sub>1</sub> is {result}[k<sub>1</sub> + {a}k<sub>2</sub>].{symmetry}"
         )
     if name == "prime-factor":
         maps = " + ".join(f"{length // q}·n<sub>{number}</sub>" for number, q in enumerate(factors, 1))
@@ -132,11 +127,34 @@ def construction_words(kind, length, recipe):
             f" turned by (N/q) mod q: {turned}."
         )
     m = length - 1
-    inside = f", made of {' · '.join(map(str, factors))}" if factors else ""
-    return (
+    words = (
         f"Rader’s construction for the prime {length} (1968): with the smallest primitive root g, X[g<sup>−m</sup>] is"
-        f" x[0] plus a cyclic convolution of length {m}, which goes through real transforms of length {m}{inside} and"
-        " back; the constants are the transform of the sequence of roots."
+        f" x[0] plus the cyclic convolution of length {m} of x[g<sup>n</sup>] with exp(−2πi·g<sup>−n</sup>/{length})."
+    )
+    if kind == "complex":
+        return (
+            f"{words} It goes through real transforms of length {m} on each channel, products with constants, and back."
+        )
+    inside = " · ".join(map(str, factors))
+    return (
+        f"{words} There is one channel: even bins of a transform of {m} = {inside} give the real parts, odd bins the"
+        " imaginary parts."
+    )
+
+
+def direct_words(length, is_spectrum):
+    half = (length - 1) // 2
+    if is_spectrum:
+        return (
+            f"Direct symmetric form. With the doubled bins d<sub>k</sub> + i·e<sub>k</sub>, k = 1 … {half}:"
+            f" E<sub>m</sub> = X[0] + Σ cos(2πkm/{length}) d<sub>k</sub>, O<sub>m</sub> = Σ sin(2πkm/{length})"
+            f" e<sub>k</sub>, y[m] = E<sub>m</sub> − O<sub>m</sub> and y[{length}−m] = E<sub>m</sub> + O<sub>m</sub>."
+        )
+    return (
+        "Direct symmetric form. With a<sub>j</sub>, d<sub>j</sub> the sums and differences of x[j] and"
+        f" x[{length}−j], j = 1 … {half}: P<sub>k</sub> = x[0] + Σ cos(2πjk/{length}) a<sub>j</sub>, Q<sub>k</sub>"
+        f" = Σ sin(2πjk/{length}) d<sub>j</sub>, X[k] = P<sub>k</sub> − iQ<sub>k</sub> and X[{length}−k] ="
+        " P<sub>k</sub> + iQ<sub>k</sub>."
     )
 
 
@@ -168,6 +186,16 @@ OTHERS = {
 }
 
 
+def is_direct_here(graph, kind, length):
+    """Whether a block of a prime from 11 up is in direct form in this graph, whatever its own row says: one by Rader's
+    construction has blocks inside."""
+    if length < 11 or any(length % d == 0 for d in range(2, length)):
+        return False
+    title = re.compile(rf"{kind} block of {length}(,|$)")
+    numbers = {number for number, row in enumerate(graph["blocks"]) if title.match(row[0])}
+    return bool(numbers) and not any(row[1] in numbers for row in graph["blocks"][1:])
+
+
 def construction(data, graph):
     family, length = graph["family"], graph["length"]
     parts = []
@@ -180,7 +208,8 @@ def construction(data, graph):
         recipe = export["recipe"]
         if recipe["form"] == "F":
             parts.append(
-                "<p>Form F: the forward real graph, then Re X[k] − Im X[k] and Re X[k] + Im X[k] (Bracewell 1983).</p>"
+                "<p>Form F: the forward real graph, then Re X[k] − Im X[k] and Re X[k] + Im X[k] (Bracewell 1983)."
+                + (" The sign of the exponent is reversed, and with it the two.</p>" if recipe["reversed"] else "</p>")
             )
         else:
             parts.append(
@@ -196,6 +225,9 @@ def construction(data, graph):
             key = (match[1], int(match[2]))
             if key not in rows:
                 rows[key] = recipe_of(data, *key)
+    for kind, size in list(rows):
+        if is_direct_here(graph, kind, size):
+            rows[kind, size] = {"construction": "direct"}
     items = "".join(
         f"<li><strong>{kind} block of {size}</strong> {construction_words(kind, size, recipe)}</li>"
         for (kind, size), recipe in rows.items()

@@ -3,7 +3,7 @@
 script may be missing. Searches every routine, looks at accessibility with axe-core, drives the playground, and takes
 pictures.
 
-browser.py --site FOLDER --axe FILE --pictures FOLDER [--only WORD]
+browser.py --site FOLDER --axe FILE --pictures FOLDER [--library FILE] [--only WORD]
 """
 import argparse
 import base64
@@ -33,6 +33,7 @@ def parsed():
     parser = argparse.ArgumentParser()
     for name in ("site", "axe", "pictures"):
         parser.add_argument(f"--{name}", type=pathlib.Path, required=True)
+    parser.add_argument("--library", type=pathlib.Path, help="the built library, to compare the playground with")
     parser.add_argument(
         "--only", default="", help="only the parts with this word: pages, search, axe, atlas, playground, pictures"
     )
@@ -268,7 +269,7 @@ def main():
     try:
         import playground_in_browser
 
-        parts["playground"] = lambda: playground_in_browser.drive(browser, expect)
+        parts["playground"] = lambda: playground_in_browser.drive(browser, expect, args.library)
         for name, part in parts.items():
             if args.only in name:
                 part()

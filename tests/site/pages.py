@@ -105,6 +105,11 @@ def check_entries(pages, found):
         code = pages[path].count('<code class="asm">')
         has_kernel = not path.startswith("atlas/dct4")
         failures.expect(code == 2 * has_kernel and '<code class="cpp">' in pages[path], f"{path}: {code} listings")
+    words = pages["atlas/real_inverse_23.html"]
+    failures.expect(
+        re.search("spectrum block of 11</strong> Direct", words) and re.search("block of 23</strong> Rader", words),
+        "atlas: the 11 inside the inverse of 23 points is in direct form",
+    )
     rows = pages["atlas/kernels.html"].count("<tr data-family")
     failures.expect(rows == sum("counts" in export for export in library.exports), f"{rows} kernels")
 

@@ -18,9 +18,10 @@ import wave
 import extents
 import extract
 
-DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/accuracy.md", "docs/architecture.md", "docs/compatibility.md",
-             "docs/constructions.md", "docs/guide.md", "docs/install.md", "docs/site.md", "docs/testing.md",
-             "bindings/README.md", "kernels/README.md", "benchmarks/README.md", "tools/README.md", "python/README.md"]
+DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/accuracy.md", "docs/architecture.md",
+             "docs/compatibility.md", "docs/constructions.md", "docs/guide.md", "docs/install.md", "docs/promises.md",
+             "docs/site.md", "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md",
+             "tools/README.md", "python/README.md"]
 HEADERS = ["include/zulgenpx.h", "include/zulgenpx.hpp", "include/zulgenpx_dct4.hpp", "include/zulgenpx_batch.hpp"]
 WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 

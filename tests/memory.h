@@ -17,9 +17,22 @@ public:
     std::byte* atRear(std::size_t bytes) const { return inner + innerBytes - bytes; }
 
 private:
+    friend class ReadOnly;
     std::byte* whole;
     std::byte* inner;
     std::size_t wholeBytes, innerBytes;
+};
+
+// While one of these lives, the memory between the guards cannot be written.
+class ReadOnly {
+public:
+    explicit ReadOnly(const GuardedPages& of);
+    ~ReadOnly();
+    ReadOnly(const ReadOnly&) = delete;
+    ReadOnly& operator=(const ReadOnly&) = delete;
+
+private:
+    const GuardedPages& pages;
 };
 
 }  // namespace test

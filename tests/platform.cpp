@@ -38,6 +38,15 @@ GuardedPages::GuardedPages(std::size_t bytes) {
 
 GuardedPages::~GuardedPages() { VirtualFree(whole, 0, MEM_RELEASE); }
 
+ReadOnly::ReadOnly(const GuardedPages& of) : pages(of) {
+    DWORD previous;
+    VirtualProtect(pages.inner, pages.innerBytes, PAGE_READONLY, &previous);
+}
+ReadOnly::~ReadOnly() {
+    DWORD previous;
+    VirtualProtect(pages.inner, pages.innerBytes, PAGE_READWRITE, &previous);
+}
+
 #else
 
 void* exportedAddress(const std::string& name) {
@@ -59,6 +68,9 @@ GuardedPages::GuardedPages(std::size_t bytes) {
 }
 
 GuardedPages::~GuardedPages() { munmap(whole, wholeBytes); }
+
+ReadOnly::ReadOnly(const GuardedPages& of) : pages(of) { mprotect(pages.inner, pages.innerBytes, PROT_READ); }
+ReadOnly::~ReadOnly() { mprotect(pages.inner, pages.innerBytes, PROT_READ | PROT_WRITE); }
 
 #endif
 

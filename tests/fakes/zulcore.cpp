@@ -22,6 +22,7 @@ void* allocate(std::uint32_t bytes) {
     const std::uintptr_t start = reinterpret_cast<std::uintptr_t>(memory) / step * step + 2 * step + state.remainder;
     auto* const block = reinterpret_cast<unsigned char*>(start);
     std::memcpy(block - sizeof memory, &memory, sizeof memory);
+    if (state.fills) std::memset(block, state.filling, bytes);
     return block;
 }
 

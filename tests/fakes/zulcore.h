@@ -22,6 +22,8 @@ struct FakeCore {
     // Options.
     bool refuses;              // zulMalloc gives a null pointer
     std::uintptr_t remainder;  // where a block begins, modulo 64
+    bool fills;                // a block is given full of the byte `filling`
+    unsigned char filling;
 };
 
 }  // namespace test

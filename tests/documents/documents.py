@@ -18,7 +18,7 @@ import wave
 import extents
 import extract
 
-DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/accuracy.md", "docs/architecture.md",
+DOCUMENTS = ["README.md", "CONTRIBUTING.md", "SECURITY.md", "docs/accuracy.md", "docs/architecture.md",
              "docs/compatibility.md", "docs/constructions.md", "docs/guide.md", "docs/install.md", "docs/promises.md",
              "docs/site.md", "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md",
              "tools/README.md", "python/README.md"]
@@ -27,7 +27,7 @@ WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 
 # Shell lines that are not run, by how they begin: they build or install everything, time, or write into the tree.
 NOT_RUN = ("scripts/", "cmake ", "build/native/bench", "build/native/generate write", "pip install",
-           "benchmarks/python_times.py")
+           "benchmarks/python_times.py", "LD_PRELOAD=")
 
 PYTHON = "/usr/bin/python3"  # the packaged one, which has NumPy
 

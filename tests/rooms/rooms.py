@@ -16,6 +16,7 @@ RUN_TIME = {
     "dct4": {"kernel", "dct4"},
     "batch": {"include", "kernel", "wht", "dct4", "boundary", "batch", "target"},
     "boundary": {"include", "kernel", "wht", "dct4", "boundary", "target"},
+    "checked": {"include", "boundary", "checked"},
     "companion": {"include"},
 }
 GENERATION_TIME = {

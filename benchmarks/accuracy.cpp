@@ -4,23 +4,31 @@
 //     pooled   the root of all squared errors over all squared results, over all inputs
 //     worst    the greatest error of one call
 //
-// Inputs are normally distributed. Each input is multiplied by a factor between sqrt(1/2) and sqrt(2), drawn anew,
-// because the error of a rounding depends on where the value lies between two powers of two. Results are compared with
-// those of the exact scale factor, 1/N or 1/sqrt(N), so that the rounding of the stored factor is part of the error.
+// and, in the same units, the greatest error of one output over the root mean square of its input times sqrt(N), which
+// is what the proved bounds are in. Of a complex output it is the modulus.
 //
-//     accuracy [TRIALS [LENGTH ...]]    inputs for each routine (100000), and the lengths if not all; prints a line for
-//                                       each routine, flag and way of rounding: family, element, length, flag,
-//                                       registers, inputs, pooled, worst
+// Inputs are normally distributed. With --mixed, every second one is a row of a transform in some noise, so that nearly
+// all of it goes into one output, and every fourth one has three values or fewer, the others being zero. Each input is
+// multiplied by a factor between sqrt(1/2) and sqrt(2), drawn anew, because the error of a rounding depends on where
+// the value lies between two powers of two. Results are compared with those of the exact scale factor, 1/N or
+// 1/sqrt(N), so that the rounding of the stored factor is part of the error.
+//
+//     accuracy [--mixed] [TRIALS [LENGTH ...]]    inputs for each routine (100000), and the lengths if not all; prints
+//     a
+//                                       line for each routine, flag and way of rounding: family, element, length, flag,
+//                                       registers, inputs, pooled, worst, greatest
 //     accuracy --check                  holds the references against the definitions, and does nothing else
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <random>
+#include <numbers>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "benchmarks/accuracy_inputs.h"
 #include "benchmarks/accuracy_reference.h"
 #include "tests/exports.h"
 #include "tests/transforms/float_state.h"
@@ -28,7 +36,8 @@
 namespace {
 
 using accuracy::Dct4Reference;
-using accuracy::FoldedSums;
+using accuracy::Shape;
+using accuracy::WideReference;
 using test::exported;
 using test::Kernel;
 using test::Values;
@@ -49,30 +58,7 @@ std::string ending() {
     return isSingle<Element> ? "_32f" : "_64f";
 }
 
-// Each input is the sum of two stretches of a pool: as good as fresh values, and much quicker.
-class Inputs {
-public:
-    Inputs() {
-        std::normal_distribution<double> normal(0, std::sqrt(0.5));
-        for (double& value : pool) value = normal(random);
-    }
-
-    template <class Element>
-    void fill(std::vector<Element>& x) {
-        const double scale = std::exp2(std::uniform_real_distribution<double>(-0.5, 0.5)(random));
-        const double *const a = stretch(x.size()), *const b = stretch(x.size());
-        for (std::size_t i = 0; i < x.size(); ++i) x[i] = static_cast<Element>((a[i] + b[i]) * scale);
-    }
-
-private:
-    const double* stretch(std::size_t count) {
-        return &pool[static_cast<std::size_t>(random() % (pool.size() - count))];
-    }
-
-    std::mt19937_64 random;
-    std::vector<double> pool = std::vector<double>(1 << 20);
-};
-Inputs inputs;
+accuracy::Inputs inputs;
 
 // The ways in which registers round. Where kernels use the x87 unit, many a Windows program has set it to double.
 struct Registers {
@@ -96,12 +82,16 @@ std::vector<Flag> flagsOf(int points, int dividing) {
     return {{"none", NoDivByAny, 1}, {"root", DivBySqrtN, 1 / std::sqrt(N)}, {"whole", dividing, 1 / N}};
 }
 
+// Which outputs are the two parts of one complex number: none; each even one and the next; each odd one and the next.
+enum class Outputs { Real, Complex, Pack };
+
 // The errors of one routine.
 template <class Element>
 class Judge {
 public:
-    Judge(std::string familyName, int routineLength, int points, std::vector<Flag> routineFlags)
+    Judge(std::string familyName, Outputs kind, int routineLength, int points, std::vector<Flag> routineFlags)
         : family(std::move(familyName)),
+          outputs(kind),
           length(routineLength),
           flags(std::move(routineFlags)),
           found(static_cast<std::size_t>(points)),
@@ -109,7 +99,9 @@ public:
 
     // call(destination, flag) is made in every way; `due` is without the factor.
     template <class Call, class Due>
-    void judge(const Call& call, const std::vector<Due>& due) {
+    void judge(const Call& call, const std::vector<Element>& input, const std::vector<Due>& due) {
+        Wide inputSquare = 0;
+        for (Element x : input) inputSquare += Wide{x} * x;
         Figures* at = figures.data();
         for (const Registers& registers : allRegisters) {
             for (const Flag& flag : flags) {
@@ -119,7 +111,7 @@ public:
                 } else {
                     call(found.data(), flag.value);
                 }
-                (at++)->add(found, due, flag.factor);
+                (at++)->add(found, due, flag.factor, outputs, inputSquare);
             }
         }
         ++trials;
@@ -132,8 +124,9 @@ public:
         };
         for (const Registers& registers : allRegisters) {
             for (const Flag& flag : flags) {
-                std::printf("%s,%s,%d,%s,%s,%d,%.3f,%.3f\n", family.c_str(), ending<Element>().c_str() + 1, length,
-                            flag.name, registers.name, trials, inUnits(at->errors / at->results), inUnits(at->worst));
+                std::printf("%s,%s,%d,%s,%s,%d,%.3f,%.3f,%.3f\n", family.c_str(), ending<Element>().c_str() + 1, length,
+                            flag.name, registers.name, trials, inUnits(at->errors / at->results), inUnits(at->worst),
+                            inUnits(at->greatest));
                 ++at;
             }
         }
@@ -142,16 +135,23 @@ public:
 
 private:
     struct Figures {
-        Wide errors = 0, results = 0, worst = 0;
+        Wide errors = 0, results = 0, worst = 0, greatest = 0;
 
         template <class Due>
-        void add(const std::vector<Element>& results_, const std::vector<Due>& due, Wide factor) {
-            Wide error = 0, square = 0;
+        void add(const std::vector<Element>& results_, const std::vector<Due>& due, Wide factor, Outputs outputs,
+                 Wide inputSquare) {
+            Wide error = 0, square = 0, former = 0, most = 0;
             for (std::size_t i = 0; i < due.size(); ++i) {
                 const Wide exact = due[i] * factor, difference = results_[i] - exact;
-                error += difference * difference;
+                const Wide own = difference * difference;
+                const bool isSecond =
+                    outputs != Outputs::Real && i > 0 && (i % 2 == 1) == (outputs == Outputs::Complex);
+                most = std::max(most, isSecond ? own + former : own);
+                former = own;
+                error += own;
                 square += exact * exact;
             }
+            greatest = std::max(greatest, most / (inputSquare * factor * factor));
             errors += error;
             results += square;
             worst = std::max(worst, error / square);
@@ -159,50 +159,11 @@ private:
     };
 
     std::string family;
+    Outputs outputs;
     int length, trials = 0;
     std::vector<Flag> flags;
     std::vector<Element> found;
     std::vector<Figures> figures;
-};
-
-// The results that the DFT and Hartley routines of one length must give at factor 1. For double elements they are the
-// sums of the definition, in long double.
-class WideReference {
-public:
-    using Due = Wide;
-
-    explicit WideReference(int length) : N(length), sums{FoldedSums(length), FoldedSums(length)} {}
-
-    void signal(const double* re, const double* im) {
-        sums[0].fold(re);
-        sums[1].fold(im);
-        for (FoldedSums& part : sums) part.compute();
-    }
-    void complexTransform(std::vector<Due>& due, int sign) const {
-        for (int k = 0; k < N; ++k) {
-            due[static_cast<std::size_t>(2 * k)] = sums[0].cosine(k) - static_cast<Wide>(sign) * sums[1].sine(k);
-            due[static_cast<std::size_t>(2 * k + 1)] = sums[1].cosine(k) + static_cast<Wide>(sign) * sums[0].sine(k);
-        }
-    }
-    void realForward(std::vector<Due>& due) const {
-        due[0] = sums[0].cosine(0);
-        for (int i = 1; i < N; ++i) {
-            const int k = (i + 1) / 2;
-            due[static_cast<std::size_t>(i)] = i % 2 == 1 ? sums[0].cosine(k) : -sums[0].sine(k);
-        }
-    }
-    void hartley(std::vector<Due>& due) const {
-        for (int k = 0; k < N; ++k) due[static_cast<std::size_t>(k)] = sums[0].cosine(k) + sums[0].sine(k);
-    }
-    void realInverse(const double* packed, std::vector<Due>& due) {
-        sums[0].foldBins(packed);
-        sums[0].compute();
-        for (int n = 0; n < N; ++n) due[static_cast<std::size_t>(n)] = sums[0].cosine(n) - sums[0].sine(n);
-    }
-
-private:
-    int N;
-    FoldedSums sums[2];
 };
 
 std::string kernelName(const char* family, int length, const char* suffix) {
@@ -259,10 +220,11 @@ void measureDft(int length) {
     const auto points = static_cast<std::size_t>(length);
     const std::string real = ending<Element>(), complex = real + "c";
     const auto forwardFlags = flagsOf(length, DivFwdByN), inverseFlags = flagsOf(length, DivInvByN);
-    Judge<Element> complexForward("complex_forward", length, 2 * length, forwardFlags),
-        complexInverse("complex_inverse", length, 2 * length, inverseFlags),
-        realForward("real_forward", length, length, forwardFlags),
-        realInverse("real_inverse", length, length, inverseFlags), hartley("hartley", length, length, forwardFlags);
+    Judge<Element> complexForward("complex_forward", Outputs::Complex, length, 2 * length, forwardFlags),
+        complexInverse("complex_inverse", Outputs::Complex, length, 2 * length, inverseFlags),
+        realForward("real_forward", Outputs::Pack, length, length, forwardFlags),
+        realInverse("real_inverse", Outputs::Real, length, length, inverseFlags),
+        hartley("hartley", Outputs::Real, length, length, forwardFlags);
 
     using Due = typename Reference<Element>::Due;
     Reference<Element> reference(length);
@@ -275,24 +237,34 @@ void measureDft(int length) {
         runRealInverse(kernelName("DFTInv_PackToR", length, real.c_str()), im),
         runHartley(kernelName("Hartley", length, real.c_str()), re);
 
+    // Of j parts of a turn that has 8 N of them.
+    const auto cosine = [&](int j) { return std::cos(2 * std::numbers::pi * (j % (8 * length)) / (8 * length)); };
+    const auto sine = [&](int j) { return std::sin(2 * std::numbers::pi * (j % (8 * length)) / (8 * length)); };
     for (int i = 0; i < trialsOfEach; ++i) {
-        inputs.fill(re);
-        inputs.fill(im);
+        // A row of the forward transform, or for the inverse real one of that: the values of bins in Pack.
+        const Shape shape = inputs.shapeOf(i);
+        const int k = static_cast<int>(inputs.below(points)), turns = i / 4 % 8;
+        inputs.fill(re, shape, [&](std::size_t n) { return cosine(8 * k * static_cast<int>(n) + turns * length); });
+        inputs.fill(im, shape, [&](std::size_t n) {
+            const int j = static_cast<int>(n);
+            if (i % 4 == 1) return sine(8 * k * j + turns * length);
+            return j % 2 == 1 || j == 0 ? cosine(8 * k * ((j + 1) / 2)) : -sine(4 * k * j);
+        });
         for (std::size_t n = 0; n < points; ++n) {
             z[2 * n] = re[n], z[2 * n + 1] = im[n];
             wideRe[n] = re[n], wideIm[n] = im[n];
         }
         reference.signal(wideRe.data(), wideIm.data());
         reference.complexTransform(complexDue, -1);
-        complexForward.judge(runComplexForward, complexDue);
+        complexForward.judge(runComplexForward, z, complexDue);
         reference.complexTransform(complexDue, 1);
-        complexInverse.judge(runComplexInverse, complexDue);
+        complexInverse.judge(runComplexInverse, z, complexDue);
         reference.realForward(due);
-        realForward.judge(runRealForward, due);
+        realForward.judge(runRealForward, re, due);
         reference.hartley(due);
-        hartley.judge(runHartley, due);
+        hartley.judge(runHartley, re, due);
         reference.realInverse(wideIm.data(), due);
-        realInverse.judge(runRealInverse, due);
+        realInverse.judge(runRealInverse, im, due);
     }
     for (const auto* judge : {&complexForward, &complexInverse, &realForward, &realInverse, &hartley}) judge->print();
 }
@@ -302,15 +274,16 @@ void measureWalshHadamard(int order) {
     using Routine = ZulgStatus(ZULG_CALL*)(const Element*, Element*, std::int32_t flag, Element*);
     const auto routine = exported<Routine>(kernelName("WHT", order, ending<Element>().c_str()));
     const std::size_t points = std::size_t{1} << order;
-    Judge<Element> judge("wht", order, static_cast<int>(points), flagsOf(1 << order, DivFwdByN));
+    Judge<Element> judge("wht", Outputs::Real, order, static_cast<int>(points), flagsOf(1 << order, DivFwdByN));
     std::vector<Element> x(points), buffer(2 * points);
     Values due(points);
     const int trials = trialsOf(trialsOfEach, 1 << order);
     for (int i = 0; i < trials; ++i) {
-        inputs.fill(x);
+        const std::size_t k = inputs.below(points);
+        inputs.fill(x, inputs.shapeOf(i), [&](std::size_t j) { return std::popcount(j & k) % 2 == 1 ? -1.0 : 1.0; });
         due.assign(x.begin(), x.end());
         accuracy::walshHadamard(due);
-        judge.judge([&](Element* y, int flag) { routine(x.data(), y, flag, buffer.data()); }, due);
+        judge.judge([&](Element* y, int flag) { routine(x.data(), y, flag, buffer.data()); }, x, due);
     }
     judge.print();
 }
@@ -342,21 +315,25 @@ void measureDct4(int length) {
     const Plan<Element> plan(length);
     const Plan<double> planInDouble(length);
     Dct4Reference reference(length);
-    Judge<Element> judge("dct4", length, length, {{"none", 0, 1}});
+    Judge<Element> judge("dct4", Outputs::Real, length, length, {{"none", 0, 1}});
     std::vector<Element> x(points);
     std::vector<double> wide(points), dueInDouble(points);
     Values due(points);
     const int trials = trialsOf(trialsOfEach, length);
     for (int i = 0; i < trials; ++i) {
-        inputs.fill(x);
+        const std::size_t k = inputs.below(points);
+        inputs.fill(x, inputs.shapeOf(i), [&](std::size_t n) {
+            return std::cos(std::numbers::pi * static_cast<double>((2 * n + 1) * (2 * k + 1) % (8 * points)) /
+                            static_cast<double>(4 * points));
+        });
         wide.assign(x.begin(), x.end());
         const auto run = [&](Element* y, int) { plan.run(x.data(), y); };
         if constexpr (isSingle<Element>) {
             planInDouble.run(wide.data(), dueInDouble.data());
-            judge.judge(run, dueInDouble);
+            judge.judge(run, x, dueInDouble);
         } else {
             reference.compute(wide.data(), due);
-            judge.judge(run, due);
+            judge.judge(run, x, due);
         }
     }
     judge.print();
@@ -380,8 +357,10 @@ void measureAll(const std::set<int>& lengths) {
 int main(int argc, char** argv) {
     if (!accuracy::definitionsHold()) return 1;
     if (argc > 1 && std::strcmp(argv[1], "--check") == 0) return 0;
+    inputs.areMixed = argc > 1 && std::strcmp(argv[1], "--mixed") == 0;
+    if (inputs.areMixed) --argc, ++argv;
     if (argc > 1) trialsOfEach = std::atoi(argv[1]);
-    if (trialsOfEach < 1) return std::fputs("accuracy [TRIALS [LENGTH ...]] | --check\n", stderr), 1;
+    if (trialsOfEach < 1) return std::fputs("accuracy [--mixed] [TRIALS [LENGTH ...]] | --check\n", stderr), 1;
     std::set<int> lengths;
     for (int i = 2; i < argc; ++i) lengths.insert(std::atoi(argv[i]));
     measureAll<double>(lengths);

@@ -47,7 +47,7 @@ class Record:
     """One line of the program: a routine, at one flag, on one machine."""
 
     def __init__(self, fields):
-        self.family, self.element, length, self.flag, registers, trials, pooled, worst = fields
+        self.family, self.element, length, self.flag, registers, trials, pooled, worst, *_ = fields
         self.machine = MACHINES[registers]
         self.length, self.trials = int(length), int(trials)
         self.pooled, self.worst = float(pooled), float(worst)
@@ -98,17 +98,6 @@ def length_rows(records):
 
 def cells_of(row):
     return [cell.strip() for cell in row.strip().strip("|").split("|")]
-
-
-def header_summary(rows):
-    """The summary as the header has it."""
-    lines = ["                                          64f, times 2^-53            32f, times 2^-24",
-             "                                      factor 1      any flag      factor 1      any flag"]
-    for row in rows[2:]:
-        name, *cells = cells_of(row)
-        pairs = [cell.split(", ") if cell else ["", ""] for cell in cells]
-        lines.append(f"     {name:33}" + "   ".join(f"{a:>5} {b:>5}" for a, b in pairs))
-    return [line.rstrip() for line in lines]
 
 
 def header_lengths(rows):
@@ -187,7 +176,6 @@ def places():
     """File, lines that are due there, and the beginning of the first of them."""
     summary, lengths = blocks()
     return [(PAGE, summary, "| pooled, worst |"),
-            (HEADER, header_summary(summary), "                                          64f, times"),
             (HEADER, header_lengths(lengths), "     N               2     4 ")]
 
 

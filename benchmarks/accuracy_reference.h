@@ -37,6 +37,46 @@ private:
     Values s, d, cosines, sines;
 };
 
+// The results that the DFT and Hartley routines of one length must give at factor 1. For double elements they are the
+// sums of the definition, in long double.
+class WideReference {
+public:
+    using Due = Wide;
+
+    explicit WideReference(int length) : N(length), sums{FoldedSums(length), FoldedSums(length)} {}
+
+    void signal(const double* re, const double* im) {
+        sums[0].fold(re);
+        sums[1].fold(im);
+        for (FoldedSums& part : sums) part.compute();
+    }
+    void complexTransform(std::vector<Due>& due, int sign) const {
+        for (int k = 0; k < N; ++k) {
+            due[static_cast<std::size_t>(2 * k)] = sums[0].cosine(k) - static_cast<Wide>(sign) * sums[1].sine(k);
+            due[static_cast<std::size_t>(2 * k + 1)] = sums[1].cosine(k) + static_cast<Wide>(sign) * sums[0].sine(k);
+        }
+    }
+    void realForward(std::vector<Due>& due) const {
+        due[0] = sums[0].cosine(0);
+        for (int i = 1; i < N; ++i) {
+            const int k = (i + 1) / 2;
+            due[static_cast<std::size_t>(i)] = i % 2 == 1 ? sums[0].cosine(k) : -sums[0].sine(k);
+        }
+    }
+    void hartley(std::vector<Due>& due) const {
+        for (int k = 0; k < N; ++k) due[static_cast<std::size_t>(k)] = sums[0].cosine(k) + sums[0].sine(k);
+    }
+    void realInverse(const double* packed, std::vector<Due>& due) {
+        sums[0].foldBins(packed);
+        sums[0].compute();
+        for (int n = 0; n < N; ++n) due[static_cast<std::size_t>(n)] = sums[0].cosine(n) - sums[0].sine(n);
+    }
+
+private:
+    int N;
+    FoldedSums sums[2];
+};
+
 // In place, stage after stage.
 void walshHadamard(Values& x);
 

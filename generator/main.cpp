@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "output/bounds.h"
 #include "output/catalogue_json.h"
 #include "output/emit.h"
 #include "output/emit_lanes.h"
@@ -27,6 +28,7 @@ constexpr const char* usage =
     "       generate dot FAMILY N     prints the graph for GraphViz\n"
     "       generate graphs FOLDER    writes every graph as JSON into this folder, FAMILY_N.json\n"
     "       generate count            prints one row for each graph: construction and operation counts\n"
+    "       generate bounds           prints the proved error bound of each kernel, in half a minute\n"
     "FAMILY: complex, real_forward, real_inverse, hartley, wht, dct4_fold, dct4_output, dct4_combine,\n"
     "dct4_direct.  The tree is the working folder.\n";
 
@@ -170,6 +172,7 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 1 && verb == "check") return check();
     if (words.size() == 1 && verb == "count") return count();
     if (words.size() == 2 && verb == "graphs") return graphs(words[1]);
+    if (words.size() == 1 && verb == "bounds") return std::cout << gen::boundsTable(), 0;
     if (words.size() == 4 && verb == "show") {
         const gen::GraphEntry& entry = find(words[1], words[2]);
         const auto graph = entry.build();

@@ -87,27 +87,29 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
 
 /* -- Accuracy ------------------------------------------------------------------------------------------------------
 
-   Errors are relative and of a whole call: the root of its summed squared errors over its summed squared results. Each
-   pair below has two figures. The first is pooled: sums over 100,000 random inputs to each routine, from 4096 points on
-   over 2^28/N. The second is the worst of these calls. Each is the greatest figure of all lengths in its row, on any
-   target. These errors have been seen; greater ones of single calls are possible.
+   Each pair below is a bound and the worst that 100,000 inputs to each routine show. The bound is proved: none gets
+   above it as long as no value overflows or is below the normal numbers. It is for the greatest error of one output,
+   of a complex one the modulus, over the root mean square of the input times sqrt(N) and over the factor of the flag.
+   Figures are the greatest of all lengths and targets; benchmarks/results/bounds.md has those of each length.
 
-                                          64f, times 2^-53            32f, times 2^-24
-                                      factor 1      any flag      factor 1      any flag
-     complex, no prime from 11 up      1.63  3.69    2.31  4.35    0.47  1.00    1.06  1.53
-     complex, a prime from 11 up       2.79  4.48    2.89  4.73    0.43  0.79    1.03  1.29
-     real, forward                     2.72  4.64    2.81  4.92    0.47  1.00    1.06  1.70
-     real, inverse                     2.74  4.87    2.84  5.18    0.47  1.00    1.06  1.67
-     Hartley                           2.78  4.71    2.87  5.17    0.47  1.00    1.06  1.68
-     Walsh-Hadamard, orders 1 to 7     1.22  2.12    1.52  2.93    0.47  1.00    0.52  1.28
-     Walsh-Hadamard, orders 8 to 11    1.52  1.65    1.77  1.99    0.61  0.74    0.67  0.80
-     Walsh-Hadamard, orders 12 and 13  1.66  1.71    1.89  1.97    0.74  0.78    0.79  0.83
-     DCT-IV, 2 to 32 points            1.59  3.90                  0.91  1.72
-     DCT-IV, 64 to 2048 points         2.26  2.84                  1.32  1.87
-     DCT-IV, 4096 to 65536 points      2.96  3.00                  1.40  1.43
+                                             64f, times 2^-53                32f, times 2^-24
+                                         factor 1        any flag        factor 1        any flag
+     complex, Hartley, no prime >= 11   104.48  30.47   123.27  41.68     8.01   7.95    15.63  15.58
+     complex, Hartley, a prime >= 11    311.73  30.95   320.09  38.69     7.88   7.86    15.14  15.05
+     real forward, no prime >= 11        78.13  20.04    96.92  32.37     8.01   7.83    15.63  15.11
+     real forward, a prime >= 11        303.14  23.96   311.50  31.61     7.88   7.86    15.14  14.43
+     real inverse, no prime >= 11       133.89  38.18   160.37  59.90    11.23  11.12    22.02  21.82
+     real inverse, a prime >= 11        408.69  46.42   420.45  55.03    11.05  10.90    21.32  21.20
+     Walsh-Hadamard, orders 1 to 7       79.24  33.66    99.59  45.31    11.32  11.31    14.57  14.47
+     Walsh-Hadamard, orders 8 to 11     498.05 119.97   579.46 173.16    90.51  55.17   103.51  64.21
+     Walsh-Hadamard, orders 12 and 13  1177.21 240.26  1340.03 319.99   271.53 137.59   297.52 141.57
+     DCT-IV, 2 to 32 points              50.15  15.86                     8.60   8.36
 
    Factor 1 stands for the flags that leave the result as it is, such as 8. Any flag takes in the rounding of the
    factors 1/N and 1/sqrt(N), which are stored as elements, and of the product. The DCT-IV has no factor.
+
+   The DCT-IV as measured, pooled and worst: the root of the summed squared errors over the summed squared results, over
+   100,000 inputs (2^28/N from 4096 points on). Greater errors of single calls are possible.
 
      N               2     4     8    16    32    64   128   256   512  1024  2048  4096  8192 16384 32768 65536
      64f pooled   0.65  1.19  1.38  1.59  1.56  1.73  1.86  1.97  2.08  2.16  2.26  2.43  2.63  2.77  2.90  2.96
@@ -116,11 +118,9 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
          worst    1.48  1.72  1.52  1.60  1.51  1.87  1.71  1.61  1.53  1.30  1.25  1.43  1.34  1.37  1.42  1.42
 
    In 32f, the DFT and Hartley transforms compute in double and round once, at the store. Walsh-Hadamard orders 8 to 11
-   round once more, and 12 and 13 twice more, when they write to the buffer. A DCT-IV from 64 points on rounds once more
-   at least, when it writes to its plan.
-
-   On 32-bit Windows the processor's registers are wider than a double, unless the program has set them to round to
-   double. Where they are wider, 64f results are better than the figures say. */
+   round once more, and 12 and 13 twice more, when they write to the buffer; a DCT-IV from 64 points on at least once,
+   when it writes to its plan. On 32-bit Windows, registers are wider than a double unless the program has set them to
+   round to double; where they are, 64f results are better than the worst that has been seen. */
 
 /* -- Version -------------------------------------------------------------------------------------------------------
 

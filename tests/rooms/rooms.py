@@ -22,8 +22,9 @@ RUN_TIME = {
 GENERATION_TIME = {
     "numbers": {"numbers"},
     "graph": {"numbers", "graph"},
+    "errors": {"numbers", "graph", "errors"},
     "rules": {"numbers", "graph", "rules"},
-    "output": {"numbers", "graph", "rules", "output"},
+    "output": {"numbers", "graph", "errors", "rules", "output"},
 }
 OF_THE_TARGET = {"value.h", "levels.h", "level_routines.h", "batch_levels.h", "batch_level_routines.h",
                  "entries.inc"}

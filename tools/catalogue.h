@@ -1,4 +1,5 @@
-// The catalogue of the library's routines, docs/catalogue.json, which is a part of the program.
+// Data of the library that are parts of the program: the catalogue of its routines, docs/catalogue.json, and the proved
+// bounds of their errors, benchmarks/results/bounds.csv.
 #pragma once
 
 #include <string_view>
@@ -6,5 +7,6 @@
 namespace spectrum {
 
 std::string_view catalogueText();
+std::string_view boundsText();
 
 }  // namespace spectrum

@@ -111,8 +111,8 @@ const char* const layoutFooter =
 
 const char* const infoFooter =
     "It tells what the routine computes as a formula, how it is called, the length of each array, how it is built,\n"
-    "what it counts, and how long it takes on this machine. Without a routine it tells about the library, and --list\n"
-    "prints the names of all routines.\n"
+    "what it counts, the proved bound of its error beside the worst of many trials, and how long it takes on this\n"
+    "machine. Without a routine it tells about the library, and --list prints the names of all routines.\n"
     "\n"
     "  zulspectrum info zulgDFTFwd_RToCCS_25_64f";
 

@@ -102,6 +102,40 @@ double timeOf(const Json& entry) {
     return startsWith(entry.at("element"), "32") ? timeOfKernel<float>(entry) : timeOfKernel<double>(entry);
 }
 
+// The family, the element and the length of a routine as the table of bounds has them, or nothing.
+std::string boundKeyOf(const Json& entry) {
+    const std::string family = entry.at("family"), element = entry.at("element");
+    const std::string name = family == "DFTFwd_CToC"             ? "complex_forward"
+                             : family == "DFTInv_CToC"           ? "complex_inverse"
+                             : startsWith(family, "DFTFwd_RTo")  ? "real_forward"
+                             : startsWith(family, "DFTInv_")     ? "real_inverse"
+                             : family == "Hartley"               ? "hartley"
+                             : family == "WHT"                   ? "wht"
+                                                                 : "";
+    const bool hasOrder = !entry.at("order").is_null();
+    if (name.empty() || (!hasOrder && entry.at("length").is_null())) return "";
+    // The table has orders where a family has them.
+    const int size = entry.at(hasOrder ? "order" : "length");
+    return name + "," + element.substr(0, 3) + "," + std::to_string(size) + ",";
+}
+
+// Of each scale: the proved bound and the worst error of the trials.
+Json boundsOf(const Json& entry) {
+    Json bounds = Json::object();
+    const std::string key = boundKeyOf(entry);
+    if (key.empty()) return bounds;
+    std::string_view rest = boundsText();
+    while (!rest.empty()) {
+        const std::string line(rest.substr(0, rest.find('\n')));
+        rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+        if (!startsWith(line, key)) continue;
+        const std::size_t scale = line.find(',', key.size()), bound = line.find(',', scale + 1);
+        bounds[line.substr(key.size(), scale - key.size())] = {
+            {"bound", std::stod(line.substr(scale + 1))}, {"worst", std::stod(line.substr(bound + 1))}};
+    }
+    return bounds;
+}
+
 std::string prototypeOf(const Json& entry) {
     std::string text = entry.at("returns").get<std::string>() + " " + entry.at("name").get<std::string>() + "(";
     std::string arguments;
@@ -154,6 +188,14 @@ std::string textOf(const Json& entry, double nanoseconds) {
         }
         appendLine(text, "counts", counts);
     }
+    const std::string unit = startsWith(entry.at("element"), "32") ? "2^-24" : "2^-53";
+    const Json bounds = boundsOf(entry);
+    for (const auto& [scale, error] : bounds.items()) {
+        appendLine(text, "error",
+                   "at most " + error.at("bound").dump() + " * " + unit + " * 2-norm of the input" +
+                       (scale == "none" ? "" : scale == "root" ? " / sqrt(N) at flag 4" : " / N at a flag with 1/N") +
+                       "; worst trial " + error.at("worst").dump());
+    }
     if (entry.contains("ordinal")) appendLine(text, "ordinal", wordOf(entry.at("ordinal")));
     if (nanoseconds >= 0) {
         char time[60];
@@ -201,6 +243,8 @@ int runInfo(const Words& words) {
         std::cout << textOf(entry, nanoseconds);
         return 0;
     }
+    const Json bounds = boundsOf(entry);
+    if (!bounds.empty()) entry["error_bounds"] = bounds;
     entry["formula"] = entry.contains("sense") ? formulaOf(entry.at("family")) : "";
     if (nanoseconds >= 0) entry["nanoseconds"] = nanoseconds;
     std::cout << jsonText(entry);

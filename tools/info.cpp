@@ -154,11 +154,17 @@ void appendLine(std::string& text, std::string head, const std::string& what) {
     text += head + what + "\n";
 }
 
+// Some routines of a family make plans, or tell the size of a buffer.
+bool transforms(const Json& entry) {
+    const Json& arguments = entry.at("arguments");
+    return std::any_of(arguments.begin(), arguments.end(), [](const Json& one) { return one.at("name") == "pSrc"; });
+}
+
 std::string textOf(const Json& entry, double nanoseconds) {
     std::string text;
     appendLine(text, "routine", entry.at("name"));
     const std::string formula = formulaOf(entry.at("family"));
-    if (!formula.empty() && entry.contains("sense")) appendLine(text, "computes", formula);
+    if (!formula.empty() && transforms(entry)) appendLine(text, "computes", formula);
     appendLine(text, "called as", prototypeOf(entry));
     for (const Json& argument : entry.at("arguments")) {
         if (!argument.contains("elements")) continue;
@@ -245,7 +251,7 @@ int runInfo(const Words& words) {
     }
     const Json bounds = boundsOf(entry);
     if (!bounds.empty()) entry["error_bounds"] = bounds;
-    entry["formula"] = entry.contains("sense") ? formulaOf(entry.at("family")) : "";
+    entry["formula"] = transforms(entry) ? formulaOf(entry.at("family")) : "";
     if (nanoseconds >= 0) entry["nanoseconds"] = nanoseconds;
     std::cout << jsonText(entry);
     return 0;

@@ -71,7 +71,8 @@ class Files(ToolTest):
             self.expect([*command, "/dev/null", *text], FAILED, "/dev/null: it is empty")
             self.expect([*command, "-", *text], FAILED, "standard input: it is empty")
             if os.geteuid() == 0 and os.path.exists("/proc/self/mem"):
-                self.expect([*command, "/proc/self/mem", *text], FAILED, "cannot read /proc/self/mem: Input/output error")
+                self.expect([*command, "/proc/self/mem", *text], FAILED,
+                            "cannot read /proc/self/mem: Input/output error")
         closed = subprocess.run(["sh", "-c", '"$0" - --length 4 <&-', tool.TOOL], capture_output=True, check=False)
         self.assertEqual((closed.returncode, closed.stderr.decode()),
                          (FAILED, "zulspectrum: cannot read standard input: Bad file descriptor\n"))
@@ -94,10 +95,12 @@ class Files(ToolTest):
         if drop:
             os.chmod(self.folder.name, 0o777)
         for output, says in ((kept, "cannot write .*kept.csv: Permission denied"),
-                             (self.path("closed/new.csv"), r"cannot write .*closed/new.csv: .*\.part: Permission denied")):
+                             (self.path("closed/new.csv"),
+                              r"cannot write .*closed/new.csv: .*\.part: Permission denied")):
             before = self.files()
             # The tool is where others may not look; only it is started by root.
-            done = subprocess.run([*drop, "/proc/self/fd/%d" % self.tool_file(), "-", "--length", "4", "--output", output],
+            done = subprocess.run([*drop, "/proc/self/fd/%d" % self.tool_file(), "-", "--length", "4", "--output",
+                                   output],
                                   input=NUMBERS, capture_output=True, check=False, pass_fds=[self.tool_file()],
                                   env={**os.environ, "LD_LIBRARY_PATH": os.path.dirname(tool.TOOL)})
             self.assertEqual(self.files(), before)
@@ -121,7 +124,8 @@ class Files(ToolTest):
                                  ("numbers/a.csv", "cannot write numbers/a.csv: .*Not a directory"),
                                  ("folder", "cannot write folder: it is a folder"),
                                  ("folder.csv", "cannot write folder.csv: it is a folder"),
-                                 (".", "cannot write .: it is a folder"), ("folder/", "cannot write folder/: it is a folder"),
+                                 (".", "cannot write .: it is a folder"),
+                                 ("folder/", "cannot write folder/: it is a folder"),
                                  ("/proc/new.csv", "cannot write /proc/new.csv: "),
                                  ("y" * 300 + ".csv", "cannot write y+.*: .*File name too long"),
                                  ("no/\x1b[2J.csv", r"cannot write no/\?\[2J.csv: ")):
@@ -158,12 +162,15 @@ class Files(ToolTest):
                             "standard output: that is the input itself, sound.wav$", stdout=stdout)
         csv = self.ok(self.sound, "--length", "4", "--format", "csv")
         table = self.path("table.csv", csv)
-        self.expect(["inverse", table, "--length", "4", "--format", "text", "--output", table], USAGE, "the input itself")
+        self.expect(["inverse", table, "--length", "4", "--format", "text", "--output", table], USAGE,
+                    "the input itself")
         with open(table, "ab") as stdout:
-            self.expect(["inverse", table, "--length", "4", "--format", "text"], USAGE, "the input itself", stdout=stdout)
+            self.expect(["inverse", table, "--length", "4", "--format", "text"], USAGE, "the input itself",
+                        stdout=stdout)
         for command in ('"$0" numbers --length 4 >> numbers', '"$0" - --length 4 < numbers >> numbers'):
             before = self.files()
-            done = subprocess.run(["sh", "-c", command, tool.TOOL], cwd=self.folder.name, capture_output=True, check=False)
+            done = subprocess.run(["sh", "-c", command, tool.TOOL], cwd=self.folder.name, capture_output=True,
+                                  check=False)
             self.assertEqual((done.returncode, self.files()), (USAGE, before))
             self.assertRegex(done.stderr.decode(), "standard output: that is the input itself")
 
@@ -175,7 +182,8 @@ class Files(ToolTest):
         for words in runs:
             self.expect([*words, "--output", "/dev/full"], FAILED, "cannot write /dev/full: No space left on device$")
         runs += [["layout", "8"], ["layout", "8", "--json"], ["info"], ["info", "--list"], ["info", "zulgWHT_64f"],
-                 [self.sound, "--check"], [self.sound, "--check", "--json"], ["--help"], ["--version"], ["inverse", "--help"],
+                 [self.sound, "--check"], [self.sound, "--check", "--json"], ["--help"], ["--version"],
+                 ["inverse", "--help"],
                  ["bench", "--lengths", "4", "--time", "1e-5", "--json"]]
         for words in runs:
             with open("/dev/full", "wb") as full:
@@ -197,22 +205,23 @@ class Files(ToolTest):
         for name in ("wav", "flac"):
             table = self.path("table.csv", self.ok(self.sound, "--length", "4", "--format", "csv"))
             self.expect(["inverse", table, "--length", "4", "--format", name], USAGE,
-                        "standard output: a sound cannot go to a pipe|--output -: a sound cannot go to a pipe; name a file")
+                        "a sound cannot go to a pipe; name a file")
         self.expect(["-", "--length", "4", "--format", "npy"], FAILED, "cannot be written to a pipe", given=NUMBERS)
         # A reader that goes away ends the run without a word, as with other programs.
-        done = subprocess.run(["sh", "-c", '"$0" /dev/zero 2>&1 </dev/null | true; yes 1 | "$0" - --length 4 | head -n 1',
+        done = subprocess.run(["sh", "-c", 'yes 1 | "$0" - --length 4 | head -n 1',
                                tool.TOOL], capture_output=True, check=False, timeout=60,
                               preexec_fn=largest_file(1 << 22))
         self.assertEqual(done.stdout, b"# standard input\n")
 
     def test_batch_folders(self):
-        for into, says in (("numbers", "(Not a directory|File exists|cannot write)"), ("numbers/out", "Not a directory"),
+        for into, says in (("numbers", "cannot write numbers/"), ("numbers/out", "Not a directory"),
                            ("/proc/new", "cannot write /proc/new")):
             self.expect(["batch", self.sound, "--into", into], FAILED, says)
         os.makedirs(self.path("in/a"))
         for name in ("in/a/x.wav", "in/x.wav"):
             os.link(self.sound, self.path(name))
-        self.expect(["batch", "in/x.wav", "in/a/x.wav", "--into", "out"], FAILED, "two inputs would have one output: in/")
+        self.expect(["batch", "in/x.wav", "in/a/x.wav", "--into", "out"], FAILED,
+                    "two inputs would have one output: in/(a/)?x.wav and in/(a/)?x.wav")
 
 
 if __name__ == "__main__":

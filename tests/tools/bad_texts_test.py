@@ -61,7 +61,7 @@ class BadTexts(ToolTest):
             text(BYTE_ORDER_MARK + "x", ", line 1: 'x' is not a number$"),
             text("1 2\n" + BYTE_ORDER_MARK + "3", ", line 2: '\ufeff3' is not a number$"),
             text(wide.encode("utf-16-le"),
-            ": this is text in UTF-16 without a byte-order mark; iconv turns it into UTF-8$"),
+                 ": this is text in UTF-16 without a byte-order mark; iconv turns it into UTF-8$"),
             text(wide.encode("utf-16-be"), ": this is text in UTF-16 without a byte-order mark"),
             text((BYTE_ORDER_MARK + wide).encode("utf-16-le")[:-1],
                  ", line 1: the text ends within a letter of UTF-16$"),
@@ -70,18 +70,17 @@ class BadTexts(ToolTest):
             text(wide.encode("utf-32"), ".*(neither a sound file|is not a number)"),
             text(b"1 2 \0 3", ": neither a sound file that can be read nor a text of numbers$"),
             text(b"1 " * 400 + b"\0", r", line 1: '\?' is not a number$"),
-            text("1;2;x", "', line 1".strip("'") + ": 'x' is not a number$"),
+            text("1;2;x", ", line 1: 'x' is not a number$"),
             text("1,5 2.5", ", line 1: '2.5' is not a number with a decimal comma$", "--decimal", "comma"),
             text("1,5,2 3", ", line 1: '1.5.2' is not a number$", "--decimal", "comma"),
-            text("1, 2", ".*", "--decimal", "comma", "--length", "4",
-            status=2)._replace(says="--length: it is given more"),
             text("time,value\n0,1\n", ", line 1: 'time' is not a number$"),
             text("{\"a\": 1}", ", line 1: '{\"a\":' is not"),
             text("<html>", ", line 1: '<html>' is not a number$"), text("%PDF-1.4", ", line 1: '%PDF-1.4' is not"),
             text("1 2 3", ": too few samples: 0", "--start", "10"),
             text("1 2 3 4", ": too few samples: 1", "--end", "1"),
-            text("1e308 1e308", ".*", )._replace(says="the spectrum is beyond the range of 64 bits"),
-            text("1e39 1", ".*", "--precision", "32")._replace(says="beyond the range of 32 bits; --precision 64"),
+            text("1e308 1e308", "")._replace(says="^the spectrum is beyond the range of 64 bits$"),
+            text("1e39 1", "", "--precision",
+                 "32")._replace(says="^the samples .* beyond the range of 32 bits; --precision 64"),
         ]
         expect_refusals(self, rows, 25)
 
@@ -115,8 +114,6 @@ class BadTables(ToolTest):
             table("".join([*lines[:2], *lines[3:]]), ", line 3: frame 0, bin 1 is due, of 2 bins in a frame$"),
             table("".join([lines[0], *lines[3:]]), ", line 2: frame 0, bin 0 is due"),
             table(GOOD + GOOD, ", line 6: 'frame,time,bin,frequency,re,im,magnitude' is not a row of 7 numbers$"),
-            table(GOOD, ", line 3: .*(is another at this family and length|bin 1 is due)", "--length", "4", status=2)
-            ._replace(says="--length: it is given more than once"),
         ]
         for cell in ("", "x", "nan", "inf", "0x1", "1e999", " 1", "1 ", "1,1", "\x1b[31m", "1e", "--1"):
             rows.append(table(GOOD.replace("7,0,7", f"{cell},0,7"),
@@ -126,11 +123,6 @@ class BadTables(ToolTest):
                              ("1,2,0,0,7", "2,2,0,0,7"), ("1,2,0,0,7", "1.5,2,0,0,7"), ("0,0,1,0.5", "0,0,1,0")):
             rows.append(table(GOOD.replace(wrong, right), ", line [2-5]: "))
         rows.append(table(GOOD, ".*", "--hop", "1")._replace(says="^--hop 1: input has a hop of 2$"))
-        rows.append(table(GOOD, ".*", "--format", "wav",
-        status=2)._replace(says="--format: it is given more than once"))
-        for words, says in ((["--rate", "9000", "--format", "wav", "--length", "4"], "is due|is another"),):
-            arguments = ["inverse", "{folder}/input", "--output", "{kept}", "--family", "real", *words]
-            rows.append(Bad(arguments, FAILED, says, None, {"input": GOOD.encode()}))
         arguments = ["inverse", "{folder}/input", "--output", "{kept}", "--family", "real", "--length", "2", "--format"]
         rows.append(Bad([*arguments, "wav"], 2, "^--rate is required: input does not tell",
         None, {"input": GOOD.encode()}))
@@ -150,7 +142,7 @@ class BadTables(ToolTest):
         rows = [
             table(npy(data=bytes(63)), ": the file is damaged: it ends within frame 1; frames that are good: 1$",
                   status=DAMAGED),
-            table(npy(data=b""), "within frame 0; frames that are good: 0$".join([": .*", ""]), status=DAMAGED),
+            table(npy(data=b""), ": .*within frame 0; frames that are good: 0$", status=DAMAGED),
             table(npy()[:60], ": the file is damaged: it ends within its header; frames that are good: 0$",
             status=DAMAGED),
             table(npy()[:8], ": .*within its header", status=DAMAGED),

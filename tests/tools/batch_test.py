@@ -73,10 +73,12 @@ class Batches(BatchTest):
         self.add_some(5)
         self.add("numbers.txt", b"1 2 3 4 " * 40)
         self.add("deep/numbers", b"4 3 2 1 " * 40)
-        self.add("deep/deeper/a b\xc3\xa9.flac".encode("latin-1").decode("utf-8"), sound_files.flac([i % 99 for i in range(512)]))
+        self.add("deep/deeper/a b\u00e9.flac",
+                 sound_files.flac([i % 99 for i in range(512)]))
         libsndfile.write(os.path.join(self.inputs, "deep", "tone.ogg"), [[0.1, -0.1] * 4000], "ogg", "vorbis")
         self.add(".hidden.wav", b"nothing")
-        names = [f"{i:03}.wav" for i in range(5)] + ["numbers.txt", "deep/numbers", "deep/deeper/a b\u00e9.flac", "deep/tone.ogg"]
+        names = [f"{i:03}.wav" for i in range(5)] + ["numbers.txt", "deep/numbers", "deep/deeper/a b\u00e9.flac",
+                                                     "deep/tone.ogg"]
         options = ["--length", "30", "--hop", "11", "--window", "hann", "--family", "real"]
         for format_name, suffix in SUFFIXES.items():
             for jobs in (1, 2, 5):
@@ -100,7 +102,8 @@ class Batches(BatchTest):
         self.assertEqual(len(lines), 3)
         for name, says in (("bad.txt", "line 1: 'x' is not a number"), ("cut.wav", "the file is damaged: "),
                            ("zero.wav", "it is empty")):
-            self.assertTrue([line for line in lines if line.startswith(f"zulspectrum: {name} failed: ") and says in line])
+            line, = [line for line in lines if line.startswith(f"zulspectrum: {name} failed: ")]
+            self.assertIn(says, line)
         self.assertRegex(done.stdout.decode(), r"files +6\ndone +3 now, 0 before\nfailed +3\n")
         self.expect_outputs(["000.wav", "001.wav", "002.wav"], ".csv", "--length", "4")
         summary = self.batch("--format", "csv", "--length", "4", status=FAILED)
@@ -118,8 +121,8 @@ class Batches(BatchTest):
         os.mkfifo(pipe)
         for how, word in ((signal.SIGKILL, "Killed"), (signal.SIGSEGV, "Segmentation fault")):
             for jobs in (1, 2):
-                tool = start("batch", pipe, self.inputs, "--into", self.out, "--format", "csv", "--jobs", jobs, "--json",
-                             "--again")
+                tool = start("batch", pipe, self.inputs, "--into", self.out, "--format", "csv", "--jobs", jobs,
+                             "--json", "--again")
                 # The names are in order, so that the pipe comes last, and the others are done when it is read.
                 wait_for(lambda: os.path.exists(os.path.join(self.out, "003.wav.csv")))
                 feeder = os.open(pipe, os.O_WRONLY)  # waits for the reader
@@ -138,7 +141,8 @@ class Batches(BatchTest):
 
     def reads(self, process, path):
         folder = f"/proc/{process}/fd"
-        return any(os.path.realpath(os.path.join(folder, name)) == os.path.realpath(path) for name in os.listdir(folder))
+        place = os.path.realpath(path)
+        return any(os.path.realpath(os.path.join(folder, name)) == place for name in os.listdir(folder))
 
     def test_other_options_are_refused(self):
         self.add_some(2)
@@ -153,7 +157,8 @@ class Batches(BatchTest):
             self.assertIn("length 8", line)
         self.refused("batch", self.inputs, "--into", self.out, "--length", "8", says="format csv")
         self.assertEqual(self.output("000.wav"), before)
-        self.assertEqual(self.batch("--format", "csv", "--length", "8", "--hop", "8")["done_before"], 2)  # the same, said otherwise
+        # The same options, said otherwise.
+        self.assertEqual(self.batch("--format", "csv", "--length", "8", "--hop", "8")["done_before"], 2)
         self.assertEqual(self.batch("--format", "csv", "--length", "4", "--again")["done"], 2)
         self.expect_outputs(["000.wav", "001.wav"], ".csv", "--length", "4")
 

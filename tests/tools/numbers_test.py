@@ -1,5 +1,5 @@
-# What the tool computes, against NumPy and SciPy: windows, spectra, the way back, time ranges, channels, and sounds that
-# are read back.
+# What the tool computes, against NumPy and SciPy: windows, spectra, the way back, time ranges, channels, and sounds
+# that are read back.
 import io
 import itertools
 import json
@@ -17,7 +17,8 @@ from tool import ToolTest, main, numbers, run
 WINDOWS = {"boxcar": "boxcar", "hann": "hann", "hamming": "hamming", "blackman": "blackman",
            "blackmanharris": "blackmanharris", "nuttall": "nuttall", "flattop": "flattop", "bartlett": "bartlett",
            "triang": "triang", "cosine": "cosine", "tukey": ("tukey", 0.5), "tukey:0": ("tukey", 0),
-           "tukey:0.3": ("tukey", 0.3), "tukey:1": ("tukey", 1), "kaiser:0": ("kaiser", 0), "kaiser:8.6": ("kaiser", 8.6),
+           "tukey:0.3": ("tukey", 0.3), "tukey:1": ("tukey", 1), "kaiser:0": ("kaiser", 0),
+           "kaiser:8.6": ("kaiser", 8.6),
            "kaiser:14": ("kaiser", 14), "gaussian:3": ("gaussian", 3), "gaussian:0.5": ("gaussian", 0.5)}
 SPECTRA = {  # the bins of frames without scale
     "complex": numpy.fft.fft, "real": numpy.fft.rfft,
@@ -48,7 +49,8 @@ class Numbers(ToolTest):
                 # The bins of an impulse at each place are its weight.
                 given = numbers(float(v) for v in numpy.eye(size).ravel())
                 found = self.array("-", "--length", size, "--window", word, given=given)[:, 0].real
-                numpy.testing.assert_allclose(found, scipy.signal.get_window(name, size), rtol=0, atol=2e-15, err_msg=word)
+                numpy.testing.assert_allclose(found, scipy.signal.get_window(name, size), rtol=0, atol=2e-15,
+                                              err_msg=word)
 
     def test_spectra(self):
         samples = random.uniform(-1, 1, 700)
@@ -71,21 +73,24 @@ class Numbers(ToolTest):
         samples = random.uniform(-1, 1, 500)
         given = numbers(map(float, samples))
         for (family, length), window, precision, suffix in itertools.product(
-                (("complex", 50), ("real", 50), ("hartley", 20), ("wht", 64), ("dct4", 64)), ("none", "hann", "hamming"),
+                (("complex", 50), ("real", 50), ("hartley", 20), ("wht", 64), ("dct4", 64)),
+                ("none", "hann", "hamming"),
                 (64, 32), (".csv", ".npy")):
             for hop in {length, length // 4, 7}:
                 same = ["--family", family, "--length", length, "--window", window, "--precision", precision]
                 table = self.path("table" + suffix)
                 self.ok("transform", "-", *same, "--hop", hop, "--output", table, given=given)
                 knows = suffix == ".csv" and family != "wht"
-                done = run("inverse", table, *same, *([] if knows else ["--hop", hop]), "--samples", 500, "--format", "text")
+                done = run("inverse", table, *same, *([] if knows else ["--hop", hop]), "--samples", 500, "--format",
+                           "text")
                 self.assertEqual(done.returncode, 0, done.stderr)
                 found = numpy.array(done.stdout.split(), float)
                 self.assertEqual(len(found), 500)
                 # Where hann has weights of zero, nothing can come back; the report counts these samples.
                 weights = numpy.zeros(len(samples) + 2 * length)
+                squares = scipy.signal.get_window("boxcar" if window == "none" else window, length) ** 2
                 for start in range(0, len(samples), hop):
-                    weights[start:start + length] += scipy.signal.get_window("boxcar" if window == "none" else window, length) ** 2
+                    weights[start:start + length] += squares
                     if start + length >= len(samples):
                         break
                 held = weights[:500] > 1e-6
@@ -100,7 +105,8 @@ class Numbers(ToolTest):
         sound = libsndfile.write(self.path("in.wav"), [list(samples)], "wav", "double", rate=44100)
         table = self.path("table.csv")
         self.ok("transform", sound, "--length", 50, "--hop", 25, "--family", "real", "--output", table)
-        for suffix, encoding, tolerance in ((".wav", "float", 1e-7), (".wav", "double", 1e-15), (".wav", "pcm24", 2 ** -23),
+        for suffix, encoding, tolerance in ((".wav", "float", 1e-7), (".wav", "double", 1e-15),
+                                            (".wav", "pcm24", 2 ** -23),
                                             (".wav", "pcm16", 2 ** -15), (".flac", "pcm24", 2 ** -23),
                                             (".flac", "pcm16", 2 ** -15)):
             out = self.path("back" + suffix)
@@ -112,7 +118,8 @@ class Numbers(ToolTest):
             self.assertEqual(len(self.array(out, "--length", 50)), 40)
             report = json.loads(self.ok("inverse", table, "--length", 50, "--family", "real", "--encoding", encoding,
                                         "--output", out, "--json"))
-            self.assertEqual((report["frames"], report["samples"], report["clipped"], report["rate"]), (79, 2000, 0, 44100))
+            self.assertEqual((report["frames"], report["samples"], report["clipped"], report["rate"]),
+                             (79, 2000, 0, 44100))
 
     def test_samples_beyond_full_scale_are_reported(self):
         table = self.path("table.csv")
@@ -130,7 +137,8 @@ class Numbers(ToolTest):
         text = self.path("numbers", numbers(map(int, samples)))
         sound = {kind: libsndfile.write(self.path("in." + kind), [list(samples / 8192)], kind, code, rate=100)
                  for kind, code in (("wav", "pcm24"), ("flac", "pcm24"), ("aiff", "float"))}
-        for start, end in ((0, 10), (10, 500), (991, 1000), (0, 4000), (3, None), (None, 77), (None, None), (995, 1000)):
+        for start, end in ((0, 10), (10, 500), (991, 1000), (0, 4000), (3, None), (None, 77), (None, None),
+                           (995, 1000)):
             part = samples[start or 0:end]
             for path, rate in ((text, 1), *((path, 100) for path in sound.values())):
                 words = [*(["--start", repr(start / rate)] if start is not None else []),
@@ -146,7 +154,8 @@ class Numbers(ToolTest):
         channels = [list(random.integers(-4000, 4000, 300) / 8192) for _ in range(3)]
         for kind, code in (("wav", "pcm16"), ("flac", "pcm16"), ("aiff", "pcm24"), ("caf", "double")):
             path = libsndfile.write(self.path("three." + kind), channels, kind, code)
-            for word, due in (("1", channels[0]), ("2", channels[1]), ("3", channels[2]), ("mix", numpy.mean(channels, axis=0))):
+            for word, due in (("1", channels[0]), ("2", channels[1]), ("3", channels[2]),
+                              ("mix", numpy.mean(channels, axis=0))):
                 found = self.array(path, "--length", 5, "--channel", word)
                 numpy.testing.assert_allclose(found, numpy.fft.fft(frames_of(due, 5, 5)), rtol=0, atol=1e-14)
 
@@ -166,7 +175,7 @@ class Numbers(ToolTest):
                 self.assertEqual([frame["frame"] for frame in frames], list(range(len(array))))
                 if command == "transform":
                     values = csv["re"] + 1j * csv["im"]
-                    held = numpy.array([frame["re"] for frame in frames]) + 1j * numpy.array([frame["im"] for frame in frames])
+                    held = numpy.array([numpy.array(frame["re"]) + 1j * numpy.array(frame["im"]) for frame in frames])
                 else:
                     values = csv["magnitude"]
                     held = numpy.array([frame["magnitude"] for frame in frames])

@@ -51,7 +51,8 @@ class Info(ToolTest):
                 self.assertIn(f"{name} {count}", text)
 
     def test_formulas(self):
-        for name, word in (("zulgDFTFwd_CToC_8_64fc", "exp(-2 pi i n k / N)"), ("zulgDFTInv_CToC_8_64fc", "exp(+2 pi i n k"),
+        for name, word in (("zulgDFTFwd_CToC_8_64fc", "exp(-2 pi i n k / N)"),
+                           ("zulgDFTInv_CToC_8_64fc", "exp(+2 pi i n k"),
                            ("zulgWHT_3_32f", "N = 2^order"), ("zulgDCT4_64f", "(n + 1/2)"),
                            ("zulgHartley_8_64f", "cos(2 pi n k / N) + sin"), ("zulgWHT_64f", "(-1)^"),
                            ("zulgDFTFwd_RToCCS_8_64f", "k = 0 to N/2"), ("zulgDFTInv_CCSToR_8_64f", "conj X[k]")):
@@ -64,7 +65,8 @@ class Info(ToolTest):
 
 class Bench(ToolTest):
     def test_figures(self):
-        for family, lengths in (("complex", [2, 15, 64]), ("real", [5, 8]), ("hartley", [3]), ("wht", [8, 512]), ("dct4", [4, 128])):
+        for family, lengths in (("complex", [2, 15, 64]), ("real", [5, 8]), ("hartley", [3]), ("wht", [8, 512]),
+                                ("dct4", [4, 128])):
             words = ["bench", "--family", family, "--lengths", ",".join(map(str, lengths)), "--time", "1e-5"]
             found = json.loads(self.ok(*words, "--json"))
             self.assertEqual((found["family"], [row["length"] for row in found["rows"]]), (family, lengths))
@@ -89,7 +91,8 @@ class Reports(ToolTest):
         for command in ("transform", "spectrogram", ""):
             words = [*([command] if command else []), sound, "--length", 20, "--hop", 10, "--output", out, "--json"]
             report = json.loads(self.ok(*words))
-            self.assertEqual({name: report[name] for name in ("input", "samples", "frames", "rate", "length", "output", "damage")},
+            self.assertEqual({name: report[name] for name in ("input", "samples", "frames", "rate", "length", "output",
+                                                              "damage")},
                              {"input": sound, "samples": 130, "frames": 12, "rate": 8000, "length": 20, "output": out,
                               "damage": []})
             self.assertNotIn("relative_error", report)
@@ -145,7 +148,8 @@ class Shells(ToolTest):
             line = " ".join(f"'{word}'" for word in words)
             program = (f". {script}; COMP_WORDS=(zulspectrum {line}); COMP_CWORD={len(words)}; _zulspectrum; "
                        'printf "%s\\n" "${COMPREPLY[@]}"')
-            done = subprocess.run(["bash", "-c", program], capture_output=True, check=True, cwd=self.folder.name, timeout=60)
+            done = subprocess.run(["bash", "-c", program], capture_output=True, check=True, cwd=self.folder.name,
+                                  timeout=60)
             return sorted(done.stdout.decode().split())
 
         self.assertEqual(completions("tr"), ["transform"])
@@ -175,7 +179,8 @@ class Shells(ToolTest):
         if not program:
             self.skipTest("mandoc is not installed")
         path = self.path("zulspectrum.1", self.ok("manual"))
-        done = subprocess.run([program, "-T", "lint", "-W", "warning", path], capture_output=True, check=False, timeout=60)
+        done = subprocess.run([program, "-T", "lint", "-W", "warning", path], capture_output=True, check=False,
+                              timeout=60)
         self.assertEqual((done.returncode, done.stdout), (0, b""))
 
 

@@ -64,10 +64,12 @@ class Restarts(BatchTest):
             noted, before = self.noted(), self.stamps()
             partly += 0 < len(noted) < FILES
             summary = self.batch(*OPTIONS)
-            self.assertEqual((summary["done"], summary["done_before"]), (FILES - len(noted), len(noted)), f"seed {seed}")
+            self.assertEqual((summary["done"], summary["done_before"]), (FILES - len(noted), len(noted)),
+                             f"seed {seed}")
             self.assertEqual(self.outputs(), whole, f"seed {seed}, turn {turn}")
             after = self.stamps()
-            self.assertEqual({name: after[name] for name in noted}, {name: before[name] for name in noted}, f"seed {seed}")
+            self.assertEqual({name: after[name] for name in noted}, {name: before[name] for name in noted},
+                             f"seed {seed}")
             self.assertFalse([name for name in os.listdir(self.out) if name.endswith(".part")], f"seed {seed}")
         self.assertGreater(partly, 0, "no run was killed in its middle")
 
@@ -110,7 +112,8 @@ class Signals(BatchTest):
         for how in (signal.SIGINT, signal.SIGTERM):
             for format_name in ("wav", "flac", "text"):
                 kept = self.path("kept", b"precious")
-                tool = start("inverse", "-", "--length", "4", "--rate", "8000", "--format", format_name, "--output", kept, stdin=-1)
+                tool = start("inverse", "-", "--length", "4", "--rate", "8000", "--format", format_name, "--output",
+                             kept, stdin=-1)
                 tool.stdin.write(table)
                 tool.stdin.flush()
                 wait_for(lambda: os.path.exists(self.path(".kept.part")))

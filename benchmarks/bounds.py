@@ -16,6 +16,7 @@ import sys
 
 TREE = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 TABLE, SUMMARY, HEADER = "benchmarks/results/bounds.csv", "benchmarks/results/bounds.md", "include/zulgenpx.h"
+PLOT = "benchmarks/results/bounds.svg"
 MEDIAN_DUE = 20
 ELEMENTS = ["64f", "32f"]
 FACTORS = ["none", "root", "whole"]
@@ -130,6 +131,8 @@ The layouts of a real spectrum give the same bits; Pack is measured. All targets
 Windows, where a step is rounded to 64 bits, or to 53, and once more to 53 where its result is kept in memory: the
 bounds are for such a step, and hold there too.
 
+![Bounds and worst trials by length](bounds.svg)
+
 Half of the {count} bounds are at most {all:.1f} times the worst trial: {64f:.1f} times in 64f, {32f:.1f} times in 32f.
 """
 
@@ -181,6 +184,28 @@ def header_place():
     return lines, start, lines.index("", start)
 
 
+def plot(rows):
+    """Bound and worst trial of each length, at factor 1."""
+    sys.path.insert(0, os.path.join(TREE, "benchmarks"))
+    from plots import plt, LINES, mark_primes, save  # pylint: disable=import-outside-toplevel
+    figure, both = plt.subplots(2, 1, figsize=(9, 6.4), sharex=True, constrained_layout=True)
+    figure.suptitle("Greatest error of an output over the input's root mean square times sqrt(N): proved bound (lines) "
+                    "and worst of 100,000 trials (dots)", fontsize=9)
+    for axes, element, unit in zip(both, ELEMENTS, ("2^-53", "2^-24")):
+        mark_primes(axes)
+        for family, (name, colour) in LINES.items():
+            here = [row for row in rows if (row.family, row.element, row.factor) == (family, element, "none")]
+            axes.plot([row.length for row in here], [row.bound for row in here], color=colour, lw=1, label=name)
+            axes.plot([row.length for row in here], [row.worst for row in here], color=colour, lw=0, marker="o", ms=2.5)
+        axes.set_yscale("log", base=2)
+        axes.yaxis.set_major_formatter(lambda tick, _: f"{tick:g}")
+        axes.set_ylabel(f"{element}, times {unit}")
+        axes.set_xlim(1, 65)
+    both[0].legend(ncol=4, loc="upper left")
+    both[1].set_xlabel("length; primes are shaded")
+    save(figure, os.path.join(TREE, PLOT))
+
+
 def above(trials, bounds):
     """Says which trials are above their bounds. A transform without a bound has none to be above of."""
     faults = 0
@@ -208,6 +233,7 @@ def write_all(bounds, paths):
     write(SUMMARY, summary(table, fewest))
     lines, start, end = header_place()
     write(HEADER, "\n".join(lines[:start] + header_lines(table) + lines[end:]))
+    plot(table)
     return 0
 
 

@@ -324,7 +324,17 @@ def accuracy(export, errors, bounds):
         return ""
     rows = error_facts(found, element)
     if bound:
-        rows.append(("Proved bound", bound))
+        unit = "2<sup>−53</sup>" if element.startswith("64") else "2<sup>−24</sup>"
+        rows.append(
+            (
+                "Proved bound",
+                (
+                    f"{number(bound[0])} at factor 1 and {number(bound[2])} at any flag, times {unit}: of the error of"
+                    " one output over the 2-norm of the input and the factor. The worst trial at factor 1 had"
+                    f" {number(bound[1])}."
+                ),
+            )
+        )
     note = (
         "Singles are computed in double and rounded once at the store."
         if element.startswith("32") and export["family"] != "DCT4"

@@ -1,4 +1,5 @@
 """Times and errors, as benchmarks/results has them, and the floor that belongs to a time."""
+import csv
 import json
 import pathlib
 import re
@@ -115,6 +116,29 @@ def read_errors(source):
     return Errors(pathlib.Path(source) / "benchmarks/results/accuracy.md")
 
 
+FAMILIES_OF_BOUNDS = {
+    "complex_forward": ["DFTFwd_CToC"],
+    "complex_inverse": ["DFTInv_CToC"],
+    "real_forward": ["DFTFwd_RToCCS", "DFTFwd_RToPack", "DFTFwd_RToPerm"],
+    "real_inverse": ["DFTInv_CCSToR", "DFTInv_PackToR", "DFTInv_PermToR"],
+    "hartley": ["Hartley"],
+    "wht": ["WHT"],
+    "dct4": ["DCT4"],
+}
+
+
 def read_bounds(source):
-    """Proved bounds on errors, where the tree has them: by family, points and "32" or "64", as text."""
-    return {}
+    """Proved bounds, by family, points and "32" or "64": the bound and the worst trial at factor 1, then the bound at
+    any flag. A tree without the file has none."""
+    path, found = pathlib.Path(source) / "benchmarks/results/bounds.csv", {}
+    if not path.exists():
+        return found
+    with open(path, encoding="ascii", newline="") as file:
+        for row in csv.DictReader(file):
+            points = 1 << int(row["length"]) if row["family"] == "wht" else int(row["length"])
+            for family in FAMILIES_OF_BOUNDS[row["family"]]:
+                entry = found.setdefault((family, points, row["element"][:2]), [None, None, 0.0])
+                if row["factor"] == "none":
+                    entry[:2] = float(row["bound"]), float(row["worst"])
+                entry[2] = max(entry[2], float(row["bound"]))
+    return found

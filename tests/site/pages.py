@@ -98,6 +98,7 @@ def check_entries(pages, found):
                 f"{counts['additions']} additions, {counts['subtractions']} subtractions" in words,
                 f"{export['name']}: no counts",
             )
+            failures.expect("Proved bound" in words, f"{export['name']}: no bound")
         failures.expect(found[export["name"]] == f"reference/{export['name']}.html", f"{export['name']} is not found")
     graphs = {path for path in pages if re.fullmatch(r"atlas/\w+_\d+\.html", path)}
     failures.expect(len(graphs) == 4 * 63 + 7 + 22, f"{len(graphs)} graphs")

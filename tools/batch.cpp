@@ -44,7 +44,8 @@ void declareBatch(CLI::App& app, Words& words) {
 int runBatch(const Words& words) {
     const auto begun = std::chrono::steady_clock::now();
     const BatchOptions options = batchOptionsOf(words);
-    const int jobs = words.given("--jobs") ? static_cast<int>(wholeNumber("--jobs", words["--jobs"], 1, 1024)) : coreCount();
+    const int jobs =
+        words.given("--jobs") ? static_cast<int>(wholeNumber("--jobs", words["--jobs"], 1, 1024)) : coreCount();
     expectTransform(options.each.framing);
     const std::vector<BatchFile> files = batchFiles(options);
     Journal journal(options);

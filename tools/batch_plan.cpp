@@ -87,8 +87,9 @@ std::string wordsOf(const Options& options) {
 void declareBatchOptions(CLI::App& app, Words& words) {
     declareOperands(app, words, "FILE-OR-FOLDER", "Sound files, text files, and folders of such");
     declareOption(app, words, "--into", "FOLDER", "Where the outputs go; it is made when it is missing");
-    declareRepeated(app, words, "--match", "PATTERN", "Take only the files of folders whose names match, such as "
-                                                         "'*.wav'; may be repeated");
+    declareRepeated(app, words, "--match", "PATTERN",
+                    "Take only the files of folders whose names match, such as "
+                    "'*.wav'; may be repeated");
     declareOption(app, words, "--format", "NAME", "Of the outputs: png, svg, csv, json, npy or text", "png");
     declareFlag(app, words, "--again", "Forget what earlier runs have done");
     declareInverseFraming(app, words);
@@ -175,8 +176,11 @@ FileResult runFile(const BatchOptions& options, const BatchFile& file) {
 }
 
 Json jsonOf(const FileResult& result) {
-    return {{"status", result.status}, {"message", result.message}, {"samples", result.samples},
-            {"frames", result.frames}, {"warnings", result.warnings}};
+    return {{"status", result.status},
+            {"message", result.message},
+            {"samples", result.samples},
+            {"frames", result.frames},
+            {"warnings", result.warnings}};
 }
 
 FileResult resultOf(const Json& json) {
@@ -265,8 +269,13 @@ int Summary::print(const std::string& program, double seconds) const {
             failures.push_back({{"file", line.name}, {"status", line.result.status}, {"message", line.result.message}});
         }
         for (const Line& line : damaged) warnings.push_back({{"file", line.name}, {"damage", line.result.warnings}});
-        std::cout << jsonText({{"files", total}, {"done", done}, {"done_before", earlier}, {"failed", failures},
-                               {"damaged", warnings}, {"samples", samples}, {"seconds", seconds}});
+        std::cout << jsonText({{"files", total},
+                               {"done", done},
+                               {"done_before", earlier},
+                               {"failed", failures},
+                               {"damaged", warnings},
+                               {"samples", samples},
+                               {"seconds", seconds}});
         return status;
     }
     for (const Line& line : damaged) {
@@ -278,7 +287,8 @@ int Summary::print(const std::string& program, double seconds) const {
     char time[40];
     std::snprintf(time, sizeof time, "%.1f s", seconds);
     std::cout << "files           " << total << "\ndone            " << done << " now, " << earlier
-              << " before\nfailed          " << failed.size() << "\nsamples         " << samples << " in " << time << "\n";
+              << " before\nfailed          " << failed.size() << "\nsamples         " << samples << " in " << time
+              << "\n";
     return status;
 }
 

@@ -1,5 +1,5 @@
-// What a run over many files consists of, for the program of one machine and for that of many: the files, what became of
-// each, and the journal that lets a run go on where an earlier one was stopped.
+// What a run over many files consists of, for the program of one machine and for that of many: the files, what became
+// of each, and the journal that lets a run go on where an earlier one was stopped.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "json.h"
-#include "options.h"
 #include "option_words.h"
+#include "options.h"
 
 namespace spectrum {
 

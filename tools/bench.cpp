@@ -79,8 +79,11 @@ int runBench(const Words& words) {
     for (const Framing& framing : framings) {
         const Row row = measured(framing, seconds);
         if (words.given("--json")) {
-            rows.push_back({{"length", row.length}, {"single_32", row.single[0]}, {"single_64", row.single[1]},
-                            {"many_32", row.many[0]}, {"many_64", row.many[1]}});
+            rows.push_back({{"length", row.length},
+                            {"single_32", row.single[0]},
+                            {"single_64", row.single[1]},
+                            {"many_32", row.many[0]},
+                            {"many_64", row.many[1]}});
             continue;
         }
         std::printf("%8d %12.1f %12.1f %16.1f %16.1f\n", row.length, row.single[0], row.single[1], row.many[0],

@@ -37,17 +37,16 @@ Colour fromLab(double lightness, double a, double b) {
 
 struct Map {
     const char* name;
-    double dark, light;          // lightness at the levels 0 and 1
-    double firstHue, lastHue;    // in degrees: 20 is red, 90 yellow, 160 green, 290 blue
-    double weakest, strongest;   // strength of colour: at the ends, and what is added in the middle
+    double dark, light;         // lightness at the levels 0 and 1
+    double firstHue, lastHue;   // in degrees: 20 is red, 90 yellow, 160 green, 290 blue
+    double weakest, strongest;  // strength of colour: at the ends, and what is added in the middle
 };
 
 constexpr Map maps[] = {
-    {"dusk", 4, 96, 290, 460, 12, 54},   // from blue through red to yellow
-    {"sea", 8, 94, 310, 105, 14, 42},    // from violet through green to yellow
-    {"grey", 0, 100, 0, 0, 0, 0},
-    {"paper", 100, 8, 0, 0, 0, 0},       // dark on white, for print
-    {"ink", 98, 12, 250, 290, 2, 38},    // dark blue on white
+    {"dusk", 4, 96, 290, 460, 12, 54},                                 // from blue through red to yellow
+    {"sea", 8, 94, 310, 105, 14, 42},                                  // from violet through green to yellow
+    {"grey", 0, 100, 0, 0, 0, 0},      {"paper", 100, 8, 0, 0, 0, 0},  // dark on white, for print
+    {"ink", 98, 12, 250, 290, 2, 38},                                  // dark blue on white
 };
 
 Colours makeColours(const Map& map) {

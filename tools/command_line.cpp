@@ -1,5 +1,5 @@
-// Commands are read one at a time, each by an application of CLI11 of its own: a command knows only its own options, and
-// a file may have the name of an option's value.
+// Commands are read one at a time, each by an application of CLI11 of its own: a command knows only its own options,
+// and a file may have the name of an option's value.
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
@@ -27,7 +27,8 @@ std::string nearestOption(const CLI::App& app, const std::string& word) {
     const std::string stem = word.substr(std::min(word.find_first_not_of('-'), word.size()));
     for (const CLI::Option* option : app.get_options()) {
         const std::string name = option->get_single_name();
-        if (!stem.empty() && name.compare(0, std::min<std::size_t>(stem.size(), 3), stem, 0, 3) == 0) return "--" + name;
+        if (!stem.empty() && name.compare(0, std::min<std::size_t>(stem.size(), 3), stem, 0, 3) == 0)
+            return "--" + name;
     }
     return "";
 }
@@ -55,8 +56,7 @@ void refuseExtras(const CLI::App& app, const std::vector<std::string>& extras, c
                          (meant.empty() ? "; --help lists all" : "; perhaps " + meant));
     }
     if (!extras.empty()) {
-        throw UsageError(shownWord(extras[0]) + ": a word too many" +
-                         (operands.empty() ? "" : ", after " + operands));
+        throw UsageError(shownWord(extras[0]) + ": a word too many" + (operands.empty() ? "" : ", after " + operands));
     }
 }
 
@@ -141,8 +141,10 @@ void declareOperand(CLI::App& app, Words& words, const std::string& name, const 
 
 void declareRepeated(CLI::App& app, Words& words, const std::string& name, const std::string& value,
                      const std::string& help) {
-    app.add_option(name, words.lists[name], help)->type_name(value)->expected(1)->multi_option_policy(
-        CLI::MultiOptionPolicy::TakeAll);
+    app.add_option(name, words.lists[name], help)
+        ->type_name(value)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
 void declareOperands(CLI::App& app, Words& words, const std::string& name, const std::string& help) {
@@ -182,7 +184,8 @@ void declarePicture(CLI::App& app, Words& words) {
 
 void declareOutput(CLI::App& app, Words& words, const std::string& formats) {
     declareOption(app, words, "--format", "NAME", formats + " [by the suffix of --output]");
-    declareOption(app, words, "--output", "FILE", "File to write; it appears whole or not at all [standard output]", "-");
+    declareOption(app, words, "--output", "FILE", "File to write; it appears whole or not at all [standard output]",
+                  "-");
     declareFlag(app, words, "--json", "Print the report as JSON");
 }
 
@@ -218,7 +221,8 @@ int runCommandLine(const std::string& program, const std::vector<Command>& comma
     return command.run(words);
 }
 
-std::string completionScript(const std::string& shell, const std::string& program, const std::vector<Command>& commands) {
+std::string completionScript(const std::string& shell, const std::string& program,
+                             const std::vector<Command>& commands) {
     std::string names, cases, fish;
     for (const Command& command : commands) {
         if (!command.name.empty() && command.summary.empty()) continue;
@@ -230,7 +234,8 @@ std::string completionScript(const std::string& shell, const std::string& progra
         for (const CLI::Option* option : app.get_options()) {
             for (const std::string& word : option->get_lnames()) {
                 options += (options.empty() ? "--" : " --") + word;
-                const std::string condition = name.empty() ? "__fish_use_subcommand" : "__fish_seen_subcommand_from " + name;
+                const std::string condition =
+                    name.empty() ? "__fish_use_subcommand" : "__fish_seen_subcommand_from " + name;
                 fish += "complete -c " + program + " -n '" + condition + "' -l " + word +
                         (option->get_items_expected_max() > 0 ? " -r" : "") + "\n";
             }
@@ -253,14 +258,17 @@ std::string completionScript(const std::string& shell, const std::string& progra
         "    esac\n    if [ \"$COMP_CWORD\" -eq 1 ]; then options=\"" + names + " $options\"; fi\n" +
         "    case $word in\n        -*) COMPREPLY=($(compgen -W \"$options\" -- \"$word\")) ;;\n" +
         "        *) COMPREPLY=($(compgen -f -- \"$word\"))\n           if [ \"$COMP_CWORD\" -eq 1 ]; then "
-        "COMPREPLY+=($(compgen -W \"" + names + "\" -- \"$word\")); fi ;;\n    esac\n}\n";
+        "COMPREPLY+=($(compgen -W \"" +
+        names + "\" -- \"$word\")); fi ;;\n    esac\n}\n";
     if (shell == "bash") {
         return "# Completion of " + program + " for bash.\n" + body + "complete -o filenames -F " + function + " " +
                program + "\n";
     }
     if (shell == "zsh") {
-        return "#compdef " + program + "\n# Completion of " + program + " for zsh, through that for bash.\nautoload -U "
-               "+X bashcompinit && bashcompinit\n" + body + "complete -o filenames -F " + function + " " + program + "\n";
+        return "#compdef " + program + "\n# Completion of " + program +
+               " for zsh, through that for bash.\nautoload -U "
+               "+X bashcompinit && bashcompinit\n" +
+               body + "complete -o filenames -F " + function + " " + program + "\n";
     }
     throw UsageError("completion " + shownWord(shell) + ": no such shell; known: bash, zsh, fish");
 }

@@ -27,8 +27,8 @@ public:
 };
 
 struct Command {
-    std::string_view name;     // empty for the plain run
-    std::string_view summary;  // one line
+    std::string_view name;      // empty for the plain run
+    std::string_view summary;   // one line
     std::string_view operands;  // as the usage shows them
     void (*declare)(CLI::App& app, Words& words);
     int (*run)(const Words& words);
@@ -56,7 +56,8 @@ void declareOperands(CLI::App& app, Words& words, const std::string& name, const
 int runCommandLine(const std::string& program, const std::vector<Command>& commands, int argc, char** argv);
 
 // Scripts for the completion of words, and the manual page in mdoc, from the same declarations.
-std::string completionScript(const std::string& shell, const std::string& program, const std::vector<Command>& commands);
+std::string completionScript(const std::string& shell, const std::string& program,
+                             const std::vector<Command>& commands);
 std::string manualPage(const std::string& program, const std::vector<Command>& commands);
 
 }  // namespace spectrum

@@ -23,7 +23,8 @@ namespace {
 
 constexpr Format allFormats[] = {Format::Text, Format::Csv, Format::JsonLines, Format::Npy, Format::Png, Format::Svg};
 constexpr Format tableFormats[] = {Format::Text, Format::Csv, Format::JsonLines, Format::Npy};
-constexpr Format pictureFormats[] = {Format::Png, Format::Svg, Format::Csv, Format::JsonLines, Format::Npy, Format::Text};
+constexpr Format pictureFormats[] = {Format::Png,       Format::Svg, Format::Csv,
+                                     Format::JsonLines, Format::Npy, Format::Text};
 
 // Warnings do not stop a run, so that each is a line of its own.
 void printWarnings(const std::vector<std::string>& warnings) {
@@ -110,9 +111,7 @@ int runTransform(const Words& words) { return runOne(spectraOptions(words, table
 void declareSpectrogram(CLI::App& app, Words& words) {
     declareSpectra(app, words, "png, svg, or the magnitudes as csv, json, npy or text", true);
 }
-int runSpectrogram(const Words& words) {
-    return runOne(spectraOptions(words, pictureFormats, Content::Magnitudes));
-}
+int runSpectrogram(const Words& words) { return runOne(spectraOptions(words, pictureFormats, Content::Magnitudes)); }
 
 void declareLayout(CLI::App& app, Words& words) {
     declareOperand(app, words, "N", "Points of the real transform, 2 to 64");

@@ -1,4 +1,5 @@
-// WAV (also in its 64-bit forms), AIFF, AU, CAF and Ogg. The first four are a row of chunks, each with its size in front.
+// WAV (also in its 64-bit forms), AIFF, AU, CAF and Ogg. The first four are a row of chunks, each with its size in
+// front.
 #include "container.h"
 
 #include <array>
@@ -168,8 +169,8 @@ std::string damageOfOgg(Reader& file) {
 }
 
 struct Kind {
-    const char* start;    // the first four bytes
-    const char* within;   // four bytes from the ninth on, where there are such
+    const char* start;   // the first four bytes
+    const char* within;  // four bytes from the ninth on, where there are such
     const char* name;
     std::string (*damage)(Reader&);
 };
@@ -182,10 +183,12 @@ const Kind kinds[] = {
     {"FORM", "AIF", "AIFF", damageOfAiff},
     {".snd", "", "AU", [](Reader& file) { return damageOfAu(file, Bytes::BigEndian); }},
     {"dns.", "", "AU", [](Reader& file) { return damageOfAu(file, Bytes::LittleEndian); }},
-    {"riff", "", "W64", [](Reader& file) {
+    {"riff", "", "W64",
+     [](Reader& file) {
          return damageOfChunks(file, {40, 16, 8, Bytes::LittleEndian, 24, 8, "data"}, unknown);
      }},
-    {"caff", "", "CAF", [](Reader& file) {
+    {"caff", "", "CAF",
+     [](Reader& file) {
          return damageOfChunks(file, {8, 4, 8, Bytes::BigEndian, 0, 1, "data"}, unknown);
      }},
     {"OggS", "", "Ogg", damageOfOgg},

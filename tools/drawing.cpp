@@ -70,8 +70,8 @@ void Drawing::fill(int left, int top, int across, int down, Colour colour) {
 
 void Drawing::text(int left, int top, std::string_view letters, Colour colour) {
     for (char letter : letters) {
-        const auto* glyph = std::find_if(std::begin(glyphs), std::end(glyphs),
-                                         [&](const Glyph& one) { return one.letter == letter; });
+        const auto* glyph =
+            std::find_if(std::begin(glyphs), std::end(glyphs), [&](const Glyph& one) { return one.letter == letter; });
         for (int i = 0; glyph != std::end(glyphs) && i < cellsAcross * cellsDown; ++i) {
             const int x = i % cellsAcross, y = i / cellsAcross;
             if ((glyph->rows[static_cast<std::size_t>(y)] >> (cellsAcross - 1 - x) & 1) == 0) continue;

@@ -221,8 +221,7 @@ constexpr Family families[] = {
                    planned<ZulgDCT4Plan_32f, zulgDCT4_32f>, plannedInverse<ZulgDCT4Plan_32f, zulgDCT4_32f>,
                    plannedMany<ZulgDCT4Plan_32f, zulgBatchDCT4_32f>},
         .wide = {zulgDCT4GetSize_64f, plan<ZulgDCT4Plan_64f, zulgDCT4Init_64f>, planned<ZulgDCT4Plan_64f, zulgDCT4_64f>,
-                 plannedInverse<ZulgDCT4Plan_64f, zulgDCT4_64f>,
-                 plannedMany<ZulgDCT4Plan_64f, zulgBatchDCT4_64f>},
+                 plannedInverse<ZulgDCT4Plan_64f, zulgDCT4_64f>, plannedMany<ZulgDCT4Plan_64f, zulgBatchDCT4_64f>},
     },
 };
 

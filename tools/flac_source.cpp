@@ -78,18 +78,19 @@ private:
 
     static FLAC__StreamDecoderWriteStatus onFrame(const FLAC__StreamDecoder*, const FLAC__Frame* frame,
                                                   const FLAC__int32* const samples[], void* self) {
-        return static_cast<FlacSource*>(self)->take(frame->header, samples)
-                   ? FLAC__STREAM_DECODER_WRITE_STATUS_CONTINUE
-                   : FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
+        return static_cast<FlacSource*>(self)->take(frame->header, samples) ? FLAC__STREAM_DECODER_WRITE_STATUS_CONTINUE
+                                                                            : FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
     }
 
     void noteError(FLAC__StreamDecoderErrorStatus status) {
         if (!error.empty()) return;
         switch (status) {
-        case FLAC__STREAM_DECODER_ERROR_STATUS_FRAME_CRC_MISMATCH: error = "the checksum of a frame is wrong"; break;
-        case FLAC__STREAM_DECODER_ERROR_STATUS_BAD_HEADER: error = "the header of a frame is wrong"; break;
-        case FLAC__STREAM_DECODER_ERROR_STATUS_LOST_SYNC: error = "there is no frame where one should be"; break;
-        default: error = "a frame cannot be decoded"; break;
+            case FLAC__STREAM_DECODER_ERROR_STATUS_FRAME_CRC_MISMATCH:
+                error = "the checksum of a frame is wrong";
+                break;
+            case FLAC__STREAM_DECODER_ERROR_STATUS_BAD_HEADER: error = "the header of a frame is wrong"; break;
+            case FLAC__STREAM_DECODER_ERROR_STATUS_LOST_SYNC: error = "there is no frame where one should be"; break;
+            default: error = "a frame cannot be decoded"; break;
         }
     }
 
@@ -107,7 +108,8 @@ private:
         if (gap > 0 && error.empty()) error = "samples are missing";
         if (gap > 0 && !options.allowsDamage) return false;
         // A damaged number of a frame must not make hours of silence.
-        if (gap > 0 && gap <= mostSilence && (!total || first <= *total)) held.resize(held.size() + static_cast<std::size_t>(gap));
+        if (gap > 0 && gap <= mostSilence && (!total || first <= *total))
+            held.resize(held.size() + static_cast<std::size_t>(gap));
         const double scale = std::ldexp(1.0, 1 - static_cast<int>(header.bits_per_sample));
         for (std::size_t i = 0; i < header.blocksize; ++i) {
             double sum = samples[chosen.first][i];

@@ -10,34 +10,37 @@
     "of two; the frequency of bin k is (k + 1/2)/(2N) cycles per sample.\n"                                            \
     "\n"                                                                                                               \
     "The scale is 1/N in the forward transform (--flag forward or 1), 1/N in the inverse (backward or 2), 1/sqrt(N)\n" \
-    "in both (ortho or 4), or 1 (none or 8). Of hartley and wht, which are their own inverses, the forward transform\n" \
+    "in both (ortho or 4), or 1 (none or 8). Of hartley and wht, which are their own inverses, the forward "           \
+    "transform\n"                                                                                                      \
     "has 1/N both with forward and with backward. dct4 has no scale and takes no --flag; its inverse is 2/N times\n"   \
     "itself.\n"
 
-#define WINDOW_TEXT                                                                                                    \
+#define WINDOW_TEXT \
     "Windows have the names and values of SciPy's get_window; one with a parameter is written as kaiser:8.6.\n"
 
 #define INPUT_TEXT                                                                                                     \
-    "INPUT is a sound file (WAV, FLAC, Ogg, AIFF and what else libsndfile reads), a text file of real numbers in\n"     \
-    "ASCII, UTF-8, or UTF-16 with a byte-order mark, or - for either on standard input. Numbers are separated by\n"     \
-    "white space, commas or semicolons; # starts a comment. With --decimal comma a comma is the decimal mark.\n"         \
-    "Frames start every --hop samples. When samples remain after the last full frame, one more frame is\n"              \
-    "filled up with zeros; an input shorter than one frame is refused. A sound file that is damaged or shorter than\n"  \
-    "it says is refused too, with exit status 3, unless --allow-damaged is given.\n"                                              \
+    "INPUT is a sound file (WAV, FLAC, Ogg, AIFF and what else libsndfile reads), a text file of real numbers in\n"    \
+    "ASCII, UTF-8, or UTF-16 with a byte-order mark, or - for either on standard input. Numbers are separated by\n"    \
+    "white space, commas or semicolons; # starts a comment. With --decimal comma a comma is the decimal mark.\n"       \
+    "Frames start every --hop samples. When samples remain after the last full frame, one more frame is\n"             \
+    "filled up with zeros; an input shorter than one frame is refused. A sound file that is damaged or shorter than\n" \
+    "it says is refused too, with exit status 3, unless --allow-damaged is given.\n"                                   \
     "\n"                                                                                                               \
     "Frequencies are in Hz and times in seconds for sound, in cycles per sample and in samples for numbers.\n"
 
-#define CHECK_TEXT                                                                                                     \
-    "--check transforms each frame, unwindowed, there and back, and reports the root of the summed squared error over\n" \
+#define CHECK_TEXT                                                                                                 \
+    "--check transforms each frame, unwindowed, there and back, and reports the root of the summed squared error " \
+    "over\n"                                                                                                       \
     "the root of the summed squares. The spectrum is then written only if --output or --format is given too.\n"
 
-#define EXIT_TEXT                                                                                                      \
+#define EXIT_TEXT \
     "Exit status: 0 done; 1 an input, an output or a transform failed; 2 wrong words; 3 a damaged input.\n"
 
 namespace spectrum {
 
-const char* const plainFooter = "Without a command, INPUT is transformed, and the format tells whether a table or a picture is made.\n\n"
-    FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT
+const char* const plainFooter =
+    "Without a command, INPUT is transformed, and the format tells whether a table or a picture is "
+    "made.\n\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT
     "A picture shows time to the right and frequency or sequency upward.\n\n" CHECK_TEXT "\n" EXIT_TEXT
     "\n"
     "  zulspectrum voice.wav --length 60 --hop 30 --window hann --output voice.png\n"
@@ -51,23 +54,24 @@ const char* const plainFooter = "Without a command, INPUT is transformed, and th
 const char* const transformFooter =
     "The columns of csv are frame, time, bin, frequency (or sequency), re, im, magnitude. json has one object to a\n"
     "line: what is common to all frames, then the frames. npy is an array of NumPy, of frames and bins, complex where\n"
-    "bins are complex. All numbers read back as what was computed.\n\n"
-    FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT "\n" CHECK_TEXT "\n" EXIT_TEXT
+    "bins are complex. All numbers read back as what was computed.\n\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT
+    "\n" CHECK_TEXT "\n" EXIT_TEXT
     "\n"
     "  zulspectrum transform voice.wav --family real --length 60 --hop 30 --window hann --output voice.csv\n"
     "  zulspectrum transform numbers.txt --length 25 --output spectra.npy";
 
 const char* const spectrogramFooter =
     "A picture shows time to the right, frequency or sequency upward, and --range decibels below the strongest bin. A\n"
-    "column is the mean power of its frames. The colours dusk, sea and grey are for screens, paper and ink for print.\n\n"
-    FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT "\n" CHECK_TEXT "\n" EXIT_TEXT
+    "column is the mean power of its frames. The colours dusk, sea and grey are for screens, paper and ink for "
+    "print.\n\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT "\n" CHECK_TEXT "\n" EXIT_TEXT
     "\n"
     "  zulspectrum spectrogram voice.wav --family real --length 60 --hop 30 --window hann --output voice.png\n"
     "  zulspectrum spectrogram concert.flac --start 0:30 --end 1:05.5 --columns 4096 --output part.svg";
 
 const char* const inverseFooter =
     "INPUT is a CSV or NPY file of transform, and the family, the length, the window, the scale and (for NPY, which\n"
-    "does not hold them, and for wht) the hop and the rate are those that it was made with. Frames are transformed back, weighted\n"
+    "does not hold them, and for wht) the hop and the rate are those that it was made with. Frames are transformed "
+    "back, weighted\n"
     "with the window once more and added up where they overlap, and each sample is divided by the sum of its squared\n"
     "weights: this is the signal that is nearest to the spectra in the mean square, and the samples themselves when\n"
     "the spectra are unchanged. Samples that no frame holds with a weight become zero; their number is reported.\n"
@@ -75,8 +79,7 @@ const char* const inverseFooter =
     "\n"
     "The output is a WAV or FLAC file, or text with a number to a line. --encoding pcm16 and pcm24 round the samples\n"
     "and cut off what is beyond full scale, which is reported; float and double keep them.\n"
-    "\n"
-    FAMILIES_TEXT "\n" WINDOW_TEXT "\n" EXIT_TEXT
+    "\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" EXIT_TEXT
     "\n"
     "  zulspectrum inverse voice.csv --family real --length 60 --window hann --output back.wav\n"
     "  zulspectrum inverse spectra.npy --length 25 --output numbers.txt";
@@ -96,7 +99,8 @@ const char* const batchFooter =
 const char* const clusterSummary = "Spectra of many files, by many processes on one machine or on many";
 
 const char* const mpiFooter =
-    "Each rank makes the outputs of files as zulspectrum batch does, and asks for the next when it is done. A recording\n"
+    "Each rank makes the outputs of files as zulspectrum batch does, and asks for the next when it is done. A "
+    "recording\n"
     "of more than --split samples is split by time, and its pieces are gathered by rank 0. Inputs and the folder\n"
     "--into have to be the same on all machines, as in a shared file system. The outputs are the same bytes, whatever\n"
     "the number of ranks is. When a rank is lost the launcher ends the run; started again, it goes on where it was.\n"
@@ -117,7 +121,8 @@ const char* const infoFooter =
     "  zulspectrum info zulgDFTFwd_RToCCS_25_64f";
 
 const char* const benchFooter =
-    "Each figure is the median of several rounds in which the transform repeats for --time seconds, one call after the\n"
+    "Each figure is the median of several rounds in which the transform repeats for --time seconds, one call after "
+    "the\n"
     "other in a cache, and many transforms in one call of the batch library. Other programs on the machine make the\n"
     "figures larger.\n"
     "\n"

@@ -35,7 +35,8 @@ std::string formulaOf(const std::string& family) {
                "conj X[k]";
     }
     if (family == "Hartley") return "y[k] = scale * sum over n of x[n] (cos(2 pi n k / N) + sin(2 pi n k / N))";
-    if (family == "WHT") return "y[k] = scale * sum over n of x[n] (-1)^(bits that n and k have in common), N = 2^order";
+    if (family == "WHT")
+        return "y[k] = scale * sum over n of x[n] (-1)^(bits that n and k have in common), N = 2^order";
     if (family == "DCT4") return "y[k] = sum over n of x[n] cos(pi (n + 1/2) (k + 1/2) / N)";
     return "";
 }
@@ -105,13 +106,13 @@ double timeOf(const Json& entry) {
 // The family, the element and the length of a routine as the table of bounds has them, or nothing.
 std::string boundKeyOf(const Json& entry) {
     const std::string family = entry.at("family"), element = entry.at("element");
-    const std::string name = family == "DFTFwd_CToC"             ? "complex_forward"
-                             : family == "DFTInv_CToC"           ? "complex_inverse"
-                             : startsWith(family, "DFTFwd_RTo")  ? "real_forward"
-                             : startsWith(family, "DFTInv_")     ? "real_inverse"
-                             : family == "Hartley"               ? "hartley"
-                             : family == "WHT"                   ? "wht"
-                                                                 : "";
+    const std::string name = family == "DFTFwd_CToC"            ? "complex_forward"
+                             : family == "DFTInv_CToC"          ? "complex_inverse"
+                             : startsWith(family, "DFTFwd_RTo") ? "real_forward"
+                             : startsWith(family, "DFTInv_")    ? "real_inverse"
+                             : family == "Hartley"              ? "hartley"
+                             : family == "WHT"                  ? "wht"
+                                                                : "";
     const bool hasOrder = !entry.at("order").is_null();
     if (name.empty() || (!hasOrder && entry.at("length").is_null())) return "";
     // The table has orders where a family has them.
@@ -130,8 +131,8 @@ Json boundsOf(const Json& entry) {
         rest.remove_prefix(std::min(rest.size(), line.size() + 1));
         if (!startsWith(line, key)) continue;
         const std::size_t scale = line.find(',', key.size()), bound = line.find(',', scale + 1);
-        bounds[line.substr(key.size(), scale - key.size())] = {
-            {"bound", std::stod(line.substr(scale + 1))}, {"worst", std::stod(line.substr(bound + 1))}};
+        bounds[line.substr(key.size(), scale - key.size())] = {{"bound", std::stod(line.substr(scale + 1))},
+                                                               {"worst", std::stod(line.substr(bound + 1))}};
     }
     return bounds;
 }
@@ -199,7 +200,9 @@ std::string textOf(const Json& entry, double nanoseconds) {
     for (const auto& [scale, error] : bounds.items()) {
         appendLine(text, "error",
                    "at most " + error.at("bound").dump() + " * " + unit + " * 2-norm of the input" +
-                       (scale == "none" ? "" : scale == "root" ? " / sqrt(N) at flag 4" : " / N at a flag with 1/N") +
+                       (scale == "none"   ? ""
+                        : scale == "root" ? " / sqrt(N) at flag 4"
+                                          : " / N at a flag with 1/N") +
                        "; worst trial " + error.at("worst").dump());
     }
     if (entry.contains("ordinal")) appendLine(text, "ordinal", wordOf(entry.at("ordinal")));
@@ -218,8 +221,11 @@ std::string libraryText() {
 
 Json libraryJson() {
     const LibVersion& library = *zulgenGetLibVersion();
-    return {{"name", library.name}, {"version", library.version}, {"date", library.buildDate},
-            {"exports", catalogue().at("exports").size()}, {"batches", catalogue().at("batches").size()}};
+    return {{"name", library.name},
+            {"version", library.version},
+            {"date", library.buildDate},
+            {"exports", catalogue().at("exports").size()},
+            {"batches", catalogue().at("batches").size()}};
 }
 
 }  // namespace

@@ -18,9 +18,7 @@
 namespace spectrum {
 namespace {
 
-bool isOfText(char letter) {
-    return static_cast<unsigned char>(letter) >= 0x20 || (letter >= '\t' && letter <= '\r');
-}
+bool isOfText(char letter) { return static_cast<unsigned char>(letter) >= 0x20 || (letter >= '\t' && letter <= '\r'); }
 
 // Every sound file has a header that is known, or a byte in it that no text has.
 bool looksLikeText(std::string_view start) {

@@ -22,8 +22,10 @@ constexpr Format sampleFormats[] = {Format::Text, Format::Wav, Format::Flac};
 class OverlapAdd {
 public:
     OverlapAdd(const Framing& framing, int hopSamples)
-        : weights(windowWeights(framing.window, framing.length)), hop(static_cast<std::size_t>(hopSamples)),
-          sums(std::max(weights.size(), hop)), squares(sums.size()) {}
+        : weights(windowWeights(framing.window, framing.length)),
+          hop(static_cast<std::size_t>(hopSamples)),
+          sums(std::max(weights.size(), hop)),
+          squares(sums.size()) {}
 
     void add(const Bins& points) {
         for (std::size_t i = 0; i < weights.size(); ++i) {
@@ -161,8 +163,8 @@ private:
 
 void print(const InverseReport& report, const InverseOptions& options) {
     if (options.json) {
-        Json json{{"input", report.inputName}, {"frames", report.frames}, {"samples", report.samples},
-                  {"rate", report.rate}, {"not_restored", report.lost}, {"clipped", report.clipped}};
+        Json json{{"input", report.inputName}, {"frames", report.frames},     {"samples", report.samples},
+                  {"rate", report.rate},       {"not_restored", report.lost}, {"clipped", report.clipped}};
         if (options.output != "-") json["output"] = options.output;
         (options.output == "-" ? std::cerr : std::cout) << jsonText(json);
         return;

@@ -1,7 +1,7 @@
 // The levels of a spectrogram: columns of time, rows of frequency or sequency. A column has the mean power of its
 // frames. The number of columns is bounded. Where the number of frames is known from the start, each column but the
-// last has the same number of frames; otherwise neighbours are merged whenever the bound is reached, and each column has
-// twice as many frames from then on. Bins share a row where there are more of them than rows.
+// last has the same number of frames; otherwise neighbours are merged whenever the bound is reached, and each column
+// has twice as many frames from then on. Bins share a row where there are more of them than rows.
 #pragma once
 
 #include <cstdint>
@@ -50,7 +50,7 @@ private:
     int columnCount = 0;
     std::int64_t framesPerColumn = 1;
     std::int64_t framesInLast = 0;
-    std::vector<double> power;  // column by column: the sum over the frames of a column
+    std::vector<double> power;   // column by column: the sum over the frames of a column
     std::vector<double> powers;  // of the bins of one frame
     double strongest = 0;
 };

@@ -11,13 +11,13 @@ std::string literal(std::string_view text) {
     std::string result;
     for (char letter : text) {
         switch (letter) {
-        case '\\': result += "\\e"; break;
-        case '-': result += "\\-"; break;
-        case '\'': result += "\\(aq"; break;
-        case '`': result += "\\(ga"; break;
-        case '^': result += "\\(ha"; break;
-        case '~': result += "\\(ti"; break;
-        default: result += letter;
+            case '\\': result += "\\e"; break;
+            case '-': result += "\\-"; break;
+            case '\'': result += "\\(aq"; break;
+            case '`': result += "\\(ga"; break;
+            case '^': result += "\\(ha"; break;
+            case '~': result += "\\(ti"; break;
+            default: result += letter;
         }
     }
     return result.starts_with(".") ? "\\&" + result : result;
@@ -75,7 +75,8 @@ std::string optionList(const CLI::App& app) {
         }
         if (option->get_positional()) head = "Ar " + literal(option->get_name());
         result += ".It " + head + "\n" + filled(option->get_description() + ".");
-        if (!option->get_default_str().empty()) result += "The default is " + literal(option->get_default_str()) + ".\n";
+        if (!option->get_default_str().empty())
+            result += "The default is " + literal(option->get_default_str()) + ".\n";
     }
     return result + ".El\n";
 }
@@ -86,8 +87,8 @@ std::string manualPage(const std::string& program, const std::vector<Command>& c
     std::string described(commands.front().summary), upper = program;
     described[0] = static_cast<char>(std::tolower(described[0]));
     for (char& letter : upper) letter = static_cast<char>(std::toupper(letter));
-    std::string page = ".Dd November 23, 2026\n.Dt " + upper + " 1\n.Os\n.Sh NAME\n.Nm " + program +
-                       "\n.Nd " + described + "\n.Sh SYNOPSIS\n";
+    std::string page = ".Dd November 23, 2026\n.Dt " + upper + " 1\n.Os\n.Sh NAME\n.Nm " + program + "\n.Nd " +
+                       described + "\n.Sh SYNOPSIS\n";
     for (const Command& command : commands) {
         if (command.summary.empty()) continue;
         page += ".Nm\n";

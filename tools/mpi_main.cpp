@@ -109,7 +109,10 @@ private:
 class Master {
 public:
     Master(const BatchOptions& given, const std::vector<BatchFile>& all, std::int64_t mostSamples)
-        : options(given), files(all), journal(given), summary(all.size(), given.json),
+        : options(given),
+          files(all),
+          journal(given),
+          summary(all.size(), given.json),
           dealer(given, all, mostSamples, [this](const BatchFile& file) { return journal.isDone(file); }) {}
 
     int run() {
@@ -233,7 +236,8 @@ int probe(bool isFirst) {
     secondsOf(10, 1);
     const double message = secondsOf(200, 200), piece = secondsOf(50, 8 << 20);
     if (isFirst) {
-        std::cout << jsonText({{"seconds_of_a_message", message}, {"seconds_of_a_byte", (piece - message) / (8 << 20)}});
+        std::cout << jsonText(
+            {{"seconds_of_a_message", message}, {"seconds_of_a_byte", (piece - message) / (8 << 20)}});
     }
     return 0;
 }

@@ -15,10 +15,10 @@ constexpr std::int64_t mostBytes = 16 << 20;
 std::int64_t bytesOfFrame(const Options& options) {
     const std::int64_t bins = options.framing.family->binCount(options.framing.length);
     switch (options.format) {
-    case Format::Png:
-    case Format::Svg: return 1;
-    case Format::Npy: return 16 * bins;
-    default: return 160 * bins + 100;
+        case Format::Png:
+        case Format::Svg: return 1;
+        case Format::Npy: return 16 * bins;
+        default: return 160 * bins + 100;
     }
 }
 

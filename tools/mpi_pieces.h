@@ -53,7 +53,7 @@ private:
         std::int64_t framesInPiece = 0, dealt = 0, written = 0;  // frames
         std::size_t underWay = 0;
         std::map<std::int64_t, PieceResult> waiting;  // by first frame: pieces that came before their turn
-        std::unique_ptr<PieceCollector> collector;  // none any more once a piece has failed
+        std::unique_ptr<PieceCollector> collector;    // none any more once a piece has failed
     };
 
     std::int64_t framesInPiece(const RunShape& shape) const;

@@ -22,16 +22,17 @@ constexpr std::pair<const char*, std::int32_t> flagNames[] = {
 
 constexpr std::pair<const char*, Format> formatNames[] = {
     {"text", Format::Text}, {"csv", Format::Csv}, {"json", Format::JsonLines}, {"npy", Format::Npy},
-    {"png", Format::Png},   {"svg", Format::Svg}, {"wav", Format::Wav},   {"flac", Format::Flac},
+    {"png", Format::Png},   {"svg", Format::Svg}, {"wav", Format::Wav},        {"flac", Format::Flac},
 };
 
 constexpr std::pair<const char*, Format> suffixes[] = {
-    {".txt", Format::Text},   {".csv", Format::Csv}, {".json", Format::JsonLines}, {".jsonl", Format::JsonLines},
-    {".npy", Format::Npy},    {".png", Format::Png}, {".svg", Format::Svg},   {".wav", Format::Wav},
-    {".flac", Format::Flac},
+    {".txt", Format::Text},        {".csv", Format::Csv}, {".json", Format::JsonLines},
+    {".jsonl", Format::JsonLines}, {".npy", Format::Npy}, {".png", Format::Png},
+    {".svg", Format::Svg},         {".wav", Format::Wav}, {".flac", Format::Flac},
 };
 
-int intOf(const Words& words, const std::string& option, std::int64_t least = leastInt, std::int64_t most = greatestInt) {
+int intOf(const Words& words, const std::string& option, std::int64_t least = leastInt,
+          std::int64_t most = greatestInt) {
     return static_cast<int>(wholeNumber(option, words[option], least, most));
 }
 
@@ -164,7 +165,8 @@ InputOptions inputOf(const Words& words, const std::string& path) {
     input.path = path;
     input.channel = words["--channel"] == "mix" ? 0 : intOf(words, "--channel", 1);
     const std::string& mark = words["--decimal"];
-    if (mark != "point" && mark != "comma") throw UsageError("--decimal " + shownWord(mark) + ": neither point nor comma");
+    if (mark != "point" && mark != "comma")
+        throw UsageError("--decimal " + shownWord(mark) + ": neither point nor comma");
     input.decimal = mark == "comma" ? DecimalMark::Comma : DecimalMark::Point;
     input.allowsDamage = words.given("--allow-damaged");
     input.start = timeOf(words, "--start");

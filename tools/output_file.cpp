@@ -1,5 +1,5 @@
-// The unfinished file has a fixed name, so that a run that is killed leaves at most one beside each output, and the next
-// run takes it over. A lock keeps two runs at one output apart.
+// The unfinished file has a fixed name, so that a run that is killed leaves at most one beside each output, and the
+// next run takes it over. A lock keeps two runs at one output apart.
 #include "output_file.h"
 
 #include <fcntl.h>
@@ -140,7 +140,9 @@ void OutputFile::write(std::string_view bytes) {
     if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) fail();
 }
 
-bool OutputFile::canGoBack() const { return std::fseek(file, 0, SEEK_CUR) == 0 && lseek(fileno(file), 0, SEEK_CUR) >= 0; }
+bool OutputFile::canGoBack() const {
+    return std::fseek(file, 0, SEEK_CUR) == 0 && lseek(fileno(file), 0, SEEK_CUR) >= 0;
+}
 
 void OutputFile::writeStart(std::string_view bytes) {
     if (std::fseek(file, 0, SEEK_SET) != 0) fail();
@@ -170,8 +172,8 @@ void refuseInputAsOutput(const std::string& input, const std::string& output) {
     if (!statusOf(input, STDIN_FILENO, from) || !statusOf(output, STDOUT_FILENO, to)) return;
     if (!S_ISREG(from.st_mode) || !isSame(from, to)) return;
     const std::string from_name = input == "-" ? "standard input" : printable(input);
-    throw UsageError((output == "-" ? "standard output" : "--output " + printable(output)) + ": that is the input itself, " +
-                     from_name);
+    throw UsageError((output == "-" ? "standard output" : "--output " + printable(output)) +
+                     ": that is the input itself, " + from_name);
 }
 
 void removeUnfinishedFile() {

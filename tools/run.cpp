@@ -16,8 +16,8 @@ namespace {
 
 void refuseBadTargets(const Options& options) {
     if (!options.writesSpectrum) return;
-    const bool isText = options.format == Format::Text || options.format == Format::Csv || options.format == Format::JsonLines ||
-                        options.format == Format::Svg;
+    const bool isText = options.format == Format::Text || options.format == Format::Csv ||
+                        options.format == Format::JsonLines || options.format == Format::Svg;
     if (options.output == "-" && !isText && isatty(STDOUT_FILENO) == 1) {
         throw UsageError("--format " + formatName(options.format) +
                          ": such bytes cannot go to a terminal; name a file with --output");
@@ -162,7 +162,10 @@ std::string runPiece(const Options& options, std::int64_t first, std::int64_t co
 
 struct PieceCollector::State {
     explicit State(const Options& given)
-        : options(given), source(openInput(given.input)), heading(headingOf(options, *source)), file(options.output),
+        : options(given),
+          source(openInput(given.input)),
+          heading(headingOf(options, *source)),
+          file(options.output),
           sink(makeSink(heading, &file)) {}
 
     Options options;
@@ -172,7 +175,9 @@ struct PieceCollector::State {
     std::unique_ptr<Sink> sink;
 };
 
-PieceCollector::PieceCollector(const Options& options) : state(std::make_unique<State>(options)) { state->sink->start(); }
+PieceCollector::PieceCollector(const Options& options) : state(std::make_unique<State>(options)) {
+    state->sink->start();
+}
 PieceCollector::~PieceCollector() = default;
 
 void PieceCollector::add(std::string_view piece, std::int64_t frames) { state->sink->addPiece(piece, frames); }

@@ -17,7 +17,7 @@ namespace {
 
 struct Encoding {
     const char* name;
-    int format;       // of libsndfile
+    int format;  // of libsndfile
     bool inFlac;
     double greatest;  // of the numbers written; 0 where there is no bound
 };
@@ -128,7 +128,8 @@ std::string encodingNames() {
 
 std::unique_ptr<SampleFile> makeSampleFile(const InverseOptions& options, double rate, OutputFile& file) {
     if (options.format == Format::Text) {
-        if (!options.encoding.empty()) throw UsageError("--encoding " + shownWord(options.encoding) + ": text has none");
+        if (!options.encoding.empty())
+            throw UsageError("--encoding " + shownWord(options.encoding) + ": text has none");
         return std::make_unique<NumberFile>(options, file);
     }
     return std::make_unique<SoundFile>(options, rate, file);

@@ -1,4 +1,5 @@
-// In an SVG the cells are a small PNG picture within the file, which the viewer enlarges; the rest are lines and letters.
+// In an SVG the cells are a small PNG picture within the file, which the viewer enlarges; the rest are lines and
+// letters.
 #include "scene.h"
 
 #include <charconv>
@@ -97,7 +98,8 @@ std::string Scene::svg() const {
     for (const Words& one : texts) {
         constexpr const char* anchors[] = {"start", "middle", "end"};
         text += "<text" + attribute("x", one.x) + attribute("y", one.top + Drawing::textHeight) + " text-anchor=\"" +
-                anchors[static_cast<int>(one.align)] + "\" fill=\"" + hexOf(one.colour) + "\">" + one.words + "</text>\n";
+                anchors[static_cast<int>(one.align)] + "\" fill=\"" + hexOf(one.colour) + "\">" + one.words +
+                "</text>\n";
     }
     return text + "</svg>\n";
 }

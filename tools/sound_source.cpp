@@ -22,7 +22,8 @@ public:
         if (!file) {
             const std::string reason = reasonOfLibrary();
             close(descriptor);
-            if (!damage.empty()) throw DamagedInput(name + ": the file is damaged: " + damage + "; samples that are good: 0");
+            if (!damage.empty())
+                throw DamagedInput(name + ": the file is damaged: " + damage + "; samples that are good: 0");
             if (!isSoundFile) throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
             throw UserError(name + ": the sound cannot be read: " + reason);
         }
@@ -50,7 +51,8 @@ public:
 
     // Far ahead without decoding; back to the plain way where the file cannot do that.
     std::int64_t skip(std::int64_t wanted) override {
-        if (delivered == 0 && info.seekable && total && sf_seek(file.get(), std::min(wanted, *total), SF_SEEK_SET) >= 0) {
+        if (delivered == 0 && info.seekable && total &&
+            sf_seek(file.get(), std::min(wanted, *total), SF_SEEK_SET) >= 0) {
             delivered = std::min(wanted, *total);
             return delivered;
         }

@@ -94,7 +94,9 @@ private:
             if (position != 0) refuse("the frequency of bin 0 is not 0");
             return;
         }
-        if (!rate) rate = std::abs(position / due - std::round(position / due)) < 1e-6 ? std::round(position / due) : position / due;
+        if (!rate)
+            rate = std::abs(position / due - std::round(position / due)) < 1e-6 ? std::round(position / due)
+                                                                                : position / due;
         if (*rate <= 0 || std::abs(position - due * *rate) > 1e-9 * *rate) {
             refuse("the frequency of bin " + std::to_string(bin) + " is another at this family and length");
         }

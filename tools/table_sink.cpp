@@ -177,8 +177,9 @@ class NpySink : public TableSink {
 public:
     NpySink(const Heading& head, OutputFile* out) : TableSink(head, out), count(head.frames) {
         if (out && !count && !out->canGoBack()) {
-            throw UserError("an array whose length is not known beforehand cannot be written to a pipe; name a file with "
-                            "--output");
+            throw UserError(
+                "an array whose length is not known beforehand cannot be written to a pipe; name a file with "
+                "--output");
         }
     }
 
@@ -257,12 +258,12 @@ std::unique_ptr<Sink> makeNpySink(const Heading& heading, OutputFile* file) {
 
 std::unique_ptr<Sink> makeSink(const Heading& heading, OutputFile* file) {
     switch (heading.options.format) {
-    case Format::Csv: return makeCsvSink(heading, file);
-    case Format::JsonLines: return makeJsonSink(heading, file);
-    case Format::Npy: return makeNpySink(heading, file);
-    case Format::Png:
-    case Format::Svg: return makePictureSink(heading, file);
-    default: return makeTextSink(heading, file);
+        case Format::Csv: return makeCsvSink(heading, file);
+        case Format::JsonLines: return makeJsonSink(heading, file);
+        case Format::Npy: return makeNpySink(heading, file);
+        case Format::Png:
+        case Format::Svg: return makePictureSink(heading, file);
+        default: return makeTextSink(heading, file);
     }
 }
 

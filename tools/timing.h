@@ -20,7 +20,8 @@ double secondsOf(Call&& call, double seconds) {
     std::int64_t calls = 1;
     double took = timed(calls);
     while (took < seconds / 4 && calls < std::int64_t{1} << 40) took = timed(calls *= 2);
-    calls = std::max<std::int64_t>(1, static_cast<std::int64_t>(static_cast<double>(calls) * seconds / std::max(took, 1e-9)));
+    calls = std::max<std::int64_t>(
+        1, static_cast<std::int64_t>(static_cast<double>(calls) * seconds / std::max(took, 1e-9)));
     std::array<double, 5> rounds;
     for (double& round : rounds) round = timed(calls) / static_cast<double>(calls);
     std::nth_element(rounds.begin(), rounds.begin() + 2, rounds.end());

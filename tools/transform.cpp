@@ -79,7 +79,7 @@ const Framing& checked(const Framing& framing) {
     const Family& family = *framing.family;
     if (exists(family, framing.size, Ways::There)) return framing;
     throw UsageError(sizeWords(framing) + ": " + whyMissing(framing) + "; the " + std::string(family.name) +
-                    " family has " + sizesOf(family, Ways::There));
+                     " family has " + sizesOf(family, Ways::There));
 }
 
 // The two directions need not have the same sizes.
@@ -87,8 +87,8 @@ void expectWayBack(const Framing& framing, const std::string& purpose) {
     const Family& family = *framing.family;
     if (exists(family, framing.size, Ways::Both)) return;
     throw UsageError(purpose + " at " + sizeWords(framing) + ": " + whyMissing(framing) +
-                    " back to the samples; both ways, the " + std::string(family.name) + " family has " +
-                    sizesOf(family, Ways::Both));
+                     " back to the samples; both ways, the " + std::string(family.name) + " family has " +
+                     sizesOf(family, Ways::Both));
 }
 
 std::variant<Prepared<float>, Prepared<double>> preparedFor(const Framing& framing) {
@@ -122,8 +122,10 @@ void expectFinite(const std::vector<T>& bins) {
     T none = 0;
     for (T value : bins) none += value * 0;  // 0, or not a number
     if (none == 0) return;
-    throw UserError(std::is_same_v<T, float> ? "the samples or their spectrum are beyond the range of 32 bits; --precision 64 has a wider one"
-                                             : "the spectrum is beyond the range of 64 bits");
+    throw UserError(
+        std::is_same_v<T, float>
+            ? "the samples or their spectrum are beyond the range of 32 bits; --precision 64 has a wider one"
+            : "the spectrum is beyond the range of 64 bits");
 }
 
 }  // namespace
@@ -196,8 +198,8 @@ void Prepared<T>::repeatOne() {
 
 template <typename T>
 void Prepared<T>::repeatAll() {
-    expectOk(routines.forwardMany(points.data(), bins.data(), call,
-                                  static_cast<std::int64_t>(bins.size() / numbersInBins)));
+    expectOk(
+        routines.forwardMany(points.data(), bins.data(), call, static_cast<std::int64_t>(bins.size() / numbersInBins)));
 }
 
 void expectTransform(const Framing& framing) { checked(framing); }

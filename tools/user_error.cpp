@@ -18,12 +18,13 @@ std::size_t printableBytes(std::string_view text) {
     for (std::size_t i = 1; i < bytes; ++i) {
         if (!continues(text[i])) return 0;
     }
-    const unsigned second = static_cast<unsigned char>(text[1]), third = bytes > 2 ? static_cast<unsigned char>(text[2]) : 0;
-    if (first == 0xc2 && second < 0xa0) return 0;                     // more control characters
-    if (first == 0xe0 && second < 0xa0) return 0;                     // longer than need be
-    if (first == 0xed && second >= 0xa0) return 0;                    // half of a pair of UTF-16
-    if (first == 0xf0 && second < 0x90) return 0;                     // longer than need be
-    if (first == 0xf4 && second >= 0x90) return 0;                    // beyond the last character
+    const unsigned second = static_cast<unsigned char>(text[1]),
+                   third = bytes > 2 ? static_cast<unsigned char>(text[2]) : 0;
+    if (first == 0xc2 && second < 0xa0) return 0;   // more control characters
+    if (first == 0xe0 && second < 0xa0) return 0;   // longer than need be
+    if (first == 0xed && second >= 0xa0) return 0;  // half of a pair of UTF-16
+    if (first == 0xf0 && second < 0x90) return 0;   // longer than need be
+    if (first == 0xf4 && second >= 0x90) return 0;  // beyond the last character
     const bool turnsLines = first == 0xe2 && ((second == 0x80 && third >= 0xa8 && third <= 0xae) ||
                                               (second == 0x81 && third >= 0xa6 && third <= 0xa9));
     return turnsLines ? 0 : bytes;  // these end lines or reverse the direction of writing

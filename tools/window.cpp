@@ -1,5 +1,5 @@
-// A window of N weights is the first N of a symmetric one of N+1. Most are sums of cosines. The coefficients are those of
-// F. J. Harris, "On the use of windows for harmonic analysis with the discrete Fourier transform" (1978), of A. H.
+// A window of N weights is the first N of a symmetric one of N+1. Most are sums of cosines. The coefficients are those
+// of F. J. Harris, "On the use of windows for harmonic analysis with the discrete Fourier transform" (1978), of A. H.
 // Nuttall, "Some windows with very good sidelobe behavior" (1981), and of G. D'Antona and A. Ferrero, "Digital Signal
 // Processing for Measurement Systems" (2006) for the flat top.
 #include "window.h"
@@ -60,7 +60,7 @@ double gaussian(double x, double deviation, int steps) {
 struct Kind {
     const char* name;
     Weight weight;
-    const char* parameter;  // its name, or null
+    const char* parameter;         // its name, or null
     double least, most, standard;  // of the parameter; a negative standard says that it must be given
 };
 
@@ -101,7 +101,8 @@ Window windowOf(const std::string& word) {
         if (kind.standard >= 0) return {kind.name, kind.standard};
         throw UsageError(start + "say " + kind.name + ":" + kind.parameter);
     }
-    const double parameter = realNumber("--window " + std::string(kind.name) + ", " + kind.parameter, word.substr(colon + 1));
+    const double parameter =
+        realNumber("--window " + std::string(kind.name) + ", " + kind.parameter, word.substr(colon + 1));
     if (parameter < kind.least || parameter > kind.most) {
         throw UsageError(start + kind.parameter + " is " + shortest(kind.least) + " to " + shortest(kind.most));
     }
@@ -115,14 +116,16 @@ std::string windowWord(const Window& window) {
 
 std::string windowNames() {
     std::string names = "none";
-    for (const Kind& kind : kinds) names += std::string(", ") + kind.name + (kind.parameter ? std::string(":") + kind.parameter : "");
+    for (const Kind& kind : kinds)
+        names += std::string(", ") + kind.name + (kind.parameter ? std::string(":") + kind.parameter : "");
     return names;
 }
 
 std::vector<double> windowWeights(const Window& window, int length) {
     const Kind& kind = kindOf(window.name);
     std::vector<double> weights;
-    for (int i = 0; i < length; ++i) weights.push_back(kind.weight(i / static_cast<double>(length), window.parameter, length));
+    for (int i = 0; i < length; ++i)
+        weights.push_back(kind.weight(i / static_cast<double>(length), window.parameter, length));
     return weights;
 }
 

@@ -2,14 +2,14 @@
 // front.
 #include "worker.h"
 
-#include <csignal>
-#include <cstring>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
+#include <cstring>
 
 #include "output_file.h"
 #include "user_error.h"
@@ -87,7 +87,8 @@ void Worker::end() {
     close(channel);
     channel = -1;
     int status;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {}
+    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    }
 }
 
 void Worker::start(std::size_t file) {
@@ -105,7 +106,8 @@ FileResult Worker::result() {
         if (readAll(channel, text.data(), size)) return resultOf(Json::parse(text));
     }
     int status = 0;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {}
+    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    }
     close(channel);
     channel = -1;
     removeUnfinishedFileOf(files[file].output);

@@ -105,6 +105,7 @@ double timeOf(const Json& entry) {
 
 // The family, the element and the length of a routine as the table of bounds has them, or nothing.
 std::string boundKeyOf(const Json& entry) {
+    if (!entry.contains("element")) return "";
     const std::string family = entry.at("family"), element = entry.at("element");
     const std::string name = family == "DFTFwd_CToC"            ? "complex_forward"
                              : family == "DFTInv_CToC"          ? "complex_inverse"
@@ -195,7 +196,7 @@ std::string textOf(const Json& entry, double nanoseconds) {
         }
         appendLine(text, "counts", counts);
     }
-    const std::string unit = startsWith(entry.at("element"), "32") ? "2^-24" : "2^-53";
+    const std::string unit = startsWith(entry.value("element", ""), "32") ? "2^-24" : "2^-53";
     const Json bounds = boundsOf(entry);
     for (const auto& [scale, error] : bounds.items()) {
         appendLine(text, "error",

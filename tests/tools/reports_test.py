@@ -38,6 +38,8 @@ class Info(ToolTest):
         for entry in seen.values():
             found = json.loads(self.ok("info", entry["name"], "--json"))
             formula, nanoseconds = found.pop("formula"), found.pop("nanoseconds", None)
+            for error in found.pop("error_bounds", {}).values():
+                self.assertGreater(error["bound"], 0, entry["name"])
             self.assertEqual(found, entry)
             if entry.get("length") and "counts" in entry:
                 self.assertGreater(nanoseconds, 0, entry["name"])

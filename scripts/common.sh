@@ -14,8 +14,8 @@ packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev l
     libpng-dev nlohmann-json3-dev python3
     binutils ca-certificates qemu-user pkg-config python3-numpy python3-scipy python3-venv python3-pip)
 packages_demo=(alsa-utils)
-packages_cluster=(libopenmpi-dev openmpi-bin)        # for zulspectrum-mpi; python3-jsonschema and python3-yaml check its files
-packages_cluster+=(python3-jsonschema python3-yaml)
+# For zulspectrum-mpi and its tests, which check the files for clusters as well.
+packages_cluster=(libopenmpi-dev openmpi-bin procps python3-jsonschema python3-yaml)
 packages_abi=(abigail-tools)                            # what tests compare binary interfaces with
 packages_pages=(groff-base man-db mandoc python3-markdown)  # what tests read manual pages with, and make the site with
 packages_languages=(mono-mcs mono-runtime fp-compiler)  # what tests compile the declarations for other languages with

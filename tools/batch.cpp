@@ -3,10 +3,8 @@
 
 #include <poll.h>
 #include <sched.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <cstdio>
 #include <memory>
 
 #include "batch_plan.h"
@@ -22,16 +20,6 @@ namespace {
 int coreCount() {
     cpu_set_t cores;
     return sched_getaffinity(0, sizeof cores, &cores) == 0 ? std::max(1, CPU_COUNT(&cores)) : 1;
-}
-
-void showProgress(const Summary& summary, std::size_t total, bool isLast) {
-    if (isatty(STDERR_FILENO) != 1) return;
-    if (isLast) {
-        std::fputs("\r\033[K", stderr);
-        return;
-    }
-    std::fprintf(stderr, "\rzulspectrum: %zu of %zu files, %zu failed\033[K", summary.finished(), total,
-                 summary.failures());
 }
 
 }  // namespace
@@ -83,10 +71,9 @@ int runBatch(const Words& words) {
             if (result.status == 0) journal.noteDone(file);
             summary.add(file, result);
             startNext(*workers[i]);
-            showProgress(summary, files.size(), false);
+            summary.showProgress("zulspectrum");
         }
     }
-    showProgress(summary, files.size(), true);
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begun;
     return summary.print("zulspectrum", took.count());
 }

@@ -12,7 +12,6 @@
 #include <cstdio>
 #include <fstream>
 #include <iostream>
-#include <set>
 
 #include "numbers.h"
 #include "run.h"
@@ -22,8 +21,6 @@ namespace spectrum {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr Format batchFormats[] = {Format::Png, Format::Svg, Format::Csv, Format::JsonLines, Format::Npy, Format::Text};
 
 bool isHidden(const fs::path& path) { return path.filename().string().starts_with("."); }
 
@@ -75,7 +72,7 @@ std::string wordsOf(const Options& options) {
                         std::to_string(input.channel) + ", start " + time(input.start) + ", end " + time(input.end) +
                         ", decimal " + (input.decimal == DecimalMark::Comma ? "comma" : "point") + ", damage " +
                         (input.allowsDamage ? "allowed" : "refused") + ", format " + formatName(options.format);
-    if (options.format == Format::Png || options.format == Format::Svg) {
+    if (isPicture(options.format)) {
         words += ", columns " + std::to_string(options.picture.columns) + ", colours " + options.picture.colours +
                  ", range " + shortest(options.picture.decibels);
     }
@@ -88,8 +85,7 @@ void declareBatchOptions(CLI::App& app, Words& words) {
     declareOperands(app, words, "FILE-OR-FOLDER", "Sound files, text files, and folders of such");
     declareOption(app, words, "--into", "FOLDER", "Where the outputs go; it is made when it is missing");
     declareRepeated(app, words, "--match", "PATTERN",
-                    "Take only the files of folders whose names match, such as "
-                    "'*.wav'; may be repeated");
+                    "Take only the files of folders whose names match, such as '*.wav'; may be repeated");
     declareOption(app, words, "--format", "NAME", "Of the outputs: png, svg, csv, json, npy or text", "png");
     declareFlag(app, words, "--again", "Forget what earlier runs have done");
     declareInverseFraming(app, words);
@@ -115,9 +111,8 @@ BatchOptions batchOptionsOf(const Words& words) {
     options.each.framing = framingOf(words);
     options.each.input = inputOf(words, "");
     options.each.picture = pictureOf(words);
-    options.each.format = formatOf(words, batchFormats);
-    const bool isPicture = options.each.format == Format::Png || options.each.format == Format::Svg;
-    options.each.content = isPicture ? Content::Magnitudes : Content::Bins;
+    options.each.format = formatOf(words, pictureFormats);
+    options.each.content = isPicture(options.each.format) ? Content::Magnitudes : Content::Bins;
     options.each.writesSpectrum = true;
     options.words = wordsOf(options.each);
     options.startsAgain = words.given("--again");
@@ -256,6 +251,15 @@ void Summary::add(const BatchFile& file, const FileResult& result) {
     }
     ++done;
     if (!result.warnings.empty()) damaged.push_back({file.name, result});
+}
+
+void Summary::showProgress(const std::string& program) const {
+    if (isatty(STDERR_FILENO) != 1) return;
+    if (finished() == total) {
+        std::fputs("\r\033[K", stderr);
+        return;
+    }
+    std::fprintf(stderr, "\r%s: %zu of %zu files, %zu failed\033[K", program.c_str(), finished(), total, failed.size());
 }
 
 int Summary::print(const std::string& program, double seconds) const {

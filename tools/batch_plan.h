@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -74,13 +75,15 @@ public:
     void addEarlier() { ++earlier; }
     void add(const BatchFile& file, const FileResult& result);
 
-    std::size_t finished() const { return done + earlier + failed.size(); }
-    std::size_t failures() const { return failed.size(); }
+    // A line on standard error for people at a terminal, which ends with the last file.
+    void showProgress(const std::string& program) const;
 
     // The summary to standard output and a line for each failed file to standard error. Returns the exit status.
     int print(const std::string& program, double seconds) const;
 
 private:
+    std::size_t finished() const { return done + earlier + failed.size(); }
+
     struct Line {
         std::string name;
         FileResult result;

@@ -43,10 +43,11 @@ struct Map {
 };
 
 constexpr Map maps[] = {
-    {"dusk", 4, 96, 290, 460, 12, 54},                                 // from blue through red to yellow
-    {"sea", 8, 94, 310, 105, 14, 42},                                  // from violet through green to yellow
-    {"grey", 0, 100, 0, 0, 0, 0},      {"paper", 100, 8, 0, 0, 0, 0},  // dark on white, for print
-    {"ink", 98, 12, 250, 290, 2, 38},                                  // dark blue on white
+    {"dusk", 4, 96, 290, 460, 12, 54},  // from blue through red to yellow
+    {"sea", 8, 94, 310, 105, 14, 42},   // from violet through green to yellow
+    {"grey", 0, 100, 0, 0, 0, 0},       // from black to white
+    {"paper", 100, 8, 0, 0, 0, 0},      // dark on white, for print
+    {"ink", 98, 12, 250, 290, 2, 38},   // dark blue on white
 };
 
 Colours makeColours(const Map& map) {

@@ -16,12 +16,6 @@ namespace {
 
 bool isOption(const std::string& word) { return word.size() > 1 && word[0] == '-'; }
 
-std::string familyNames() {
-    std::string names;
-    for (const Family& family : allFamilies()) names += (names.empty() ? "" : ", ") + std::string(family.name);
-    return names;
-}
-
 // The option that the user may have meant: one that begins like the word, without its dashes.
 std::string nearestOption(const CLI::App& app, const std::string& word) {
     const std::string stem = word.substr(std::min(word.find_first_not_of('-'), word.size()));
@@ -208,9 +202,6 @@ int runCommandLine(const std::string& program, const std::vector<Command>& comma
     for (const CLI::Option* option : app.get_options()) {
         const std::string name = option->get_positional() ? option->get_name() : "--" + option->get_lnames().front();
         if (option->count() > 0) words.wasGiven[name] = true;
-        if (option->count() > 1 && option->get_items_expected_max() == 1 && !words.wasGiven.contains(name)) {
-            throw UsageError(name + ": it is given more than once");
-        }
     }
     const std::vector<std::string> extras = app.remaining();
     if (command.name.empty()) {

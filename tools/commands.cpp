@@ -23,8 +23,6 @@ namespace {
 
 constexpr Format allFormats[] = {Format::Text, Format::Csv, Format::JsonLines, Format::Npy, Format::Png, Format::Svg};
 constexpr Format tableFormats[] = {Format::Text, Format::Csv, Format::JsonLines, Format::Npy};
-constexpr Format pictureFormats[] = {Format::Png,       Format::Svg, Format::Csv,
-                                     Format::JsonLines, Format::Npy, Format::Text};
 
 // Warnings do not stop a run, so that each is a line of its own.
 void printWarnings(const std::vector<std::string>& warnings) {
@@ -73,8 +71,7 @@ Options spectraOptions(const Words& words, std::span<const Format> formats, Cont
     Options options{};
     options.framing = framingOf(words);
     options.input = inputOf(words, inputPath(words, "INPUT"));
-    options.output = words["--output"];
-    if (options.output.empty()) throw UsageError("--output '': a file has a name");
+    options.output = outputPath(words);
     options.content = content;
     options.format = formatOf(words, formats);
     if (words.values.contains("--columns")) options.picture = pictureOf(words);

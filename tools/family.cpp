@@ -229,4 +229,10 @@ constexpr Family families[] = {
 
 std::span<const Family> allFamilies() { return families; }
 
+std::string familyNames() {
+    std::string names;
+    for (const Family& family : families) names += (names.empty() ? "" : ", ") + std::string(family.name);
+    return names;
+}
+
 }  // namespace spectrum

@@ -5,6 +5,7 @@
 #include <complex>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "zulgenpx_batch.h"
@@ -64,5 +65,8 @@ struct Family {
 };
 
 std::span<const Family> allFamilies();
+
+// For the help and for messages.
+std::string familyNames();
 
 }  // namespace spectrum

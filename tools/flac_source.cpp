@@ -29,7 +29,7 @@ public:
             throw UserError(name + ": the sound cannot be read: " + FLAC__StreamDecoderInitStatusString[state]);
         }
         if (!FLAC__stream_decoder_process_until_end_of_metadata(decoder.get()) || channels == 0) {
-            throw DamagedInput(name + ": the file is damaged: it ends within its header; samples that are good: 0");
+            throw DamagedInput(damageText(name, "it ends within its header", 0));
         }
         chosen = chosenChannels(options, name, static_cast<int>(channels));
     }

@@ -160,11 +160,15 @@ void takeChannel(const double* interleaved, std::size_t channels, std::pair<std:
     }
 }
 
+std::string damageText(const std::string& name, const std::string& what, std::optional<std::int64_t> goodSamples) {
+    return name + ": the file is damaged: " + what + "; " +
+           (goodSamples ? "samples that are good: " + std::to_string(*goodSamples)
+                        : "which samples are good cannot be told");
+}
+
 void reportDamage(Source& source, const InputOptions& options, const std::string& what,
                   std::optional<std::int64_t> goodSamples) {
-    const std::string good = goodSamples ? "samples that are good: " + std::to_string(*goodSamples)
-                                         : "which samples are good cannot be told";
-    const std::string text = source.name + ": the file is damaged: " + what + "; " + good;
+    const std::string text = damageText(source.name, what, goodSamples);
     if (!options.allowsDamage) throw DamagedInput(text + " (--allow-damaged goes on)");
     source.warnings.push_back(text);
 }

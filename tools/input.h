@@ -59,8 +59,11 @@ std::pair<std::size_t, std::size_t> chosenChannels(const InputOptions& options, 
 void takeChannel(const double* interleaved, std::size_t channels, std::pair<std::size_t, std::size_t> chosen,
                  std::span<double> out, std::int64_t position, const std::string& name);
 
-// What to say of damage, and what it means for the run: throws DamagedInput unless that is allowed. The good samples
-// are counted from the start; nothing is said where it cannot be known which are good.
+// The message about damage. The good samples are counted from the start; nothing is said where it cannot be known which
+// are good.
+std::string damageText(const std::string& name, const std::string& what, std::optional<std::int64_t> goodSamples);
+
+// What to say of damage, and what it means for the run: throws DamagedInput unless that is allowed.
 void reportDamage(Source& source, const InputOptions& options, const std::string& what,
                   std::optional<std::int64_t> goodSamples);
 

@@ -65,8 +65,7 @@ private:
 InverseOptions inverseOptions(const Words& words) {
     InverseOptions options{};
     options.input = inputPath(words, "INPUT");
-    options.output = words["--output"];
-    if (options.output.empty()) throw UsageError("--output '': a file has a name");
+    options.output = outputPath(words);
     options.framing = framingOf(words);
     options.hopGiven = words.given("--hop") || words.given("--noverlap");
     options.format = formatOf(words, sampleFormats);

@@ -8,10 +8,8 @@
 #include <condition_variable>
 #include <csignal>
 #include <cstdio>
-#include <deque>
 #include <exception>
 #include <iostream>
-#include <map>
 #include <mutex>
 #include <thread>
 
@@ -113,7 +111,7 @@ public:
           files(all),
           journal(given),
           summary(all.size(), given.json),
-          dealer(given, all, mostSamples, [this](const BatchFile& file) { return journal.isDone(file); }) {}
+          dealer(given, all, mostSamples, [this](const BatchFile& file) { return isDone(file); }) {}
 
     int run() {
         const auto begun = std::chrono::steady_clock::now();
@@ -136,12 +134,17 @@ public:
                 usleep(200);
             }
         }
-        for (std::size_t i = 0; i < dealer.doneBefore(); ++i) summary.addEarlier();
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begun;
         return summary.print(program, took.count());
     }
 
 private:
+    bool isDone(const BatchFile& file) {
+        const bool found = journal.isDone(file);
+        if (found) summary.addEarlier();
+        return found;
+    }
+
     // Returns false where there is nothing left, which ends the rank.
     bool deal(int rank, OwnWorker& own) {
         const std::optional<Piece> piece = dealer.next();
@@ -159,10 +162,7 @@ private:
         const BatchFile& file = files[result.piece.file];
         if (finished->status == 0) journal.noteDone(file);
         summary.add(file, *finished);
-        if (isatty(STDERR_FILENO) == 1) {
-            std::fprintf(stderr, "\r%s: %zu of %zu files, %zu failed\033[K", program, summary.finished(), files.size(),
-                         summary.failures());
-        }
+        summary.showProgress(program);
     }
 
     const BatchOptions& options;

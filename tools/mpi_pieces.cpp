@@ -14,12 +14,8 @@ constexpr std::int64_t mostBytes = 16 << 20;
 // What a frame takes in a table, at most, and in a picture.
 std::int64_t bytesOfFrame(const Options& options) {
     const std::int64_t bins = options.framing.family->binCount(options.framing.length);
-    switch (options.format) {
-        case Format::Png:
-        case Format::Svg: return 1;
-        case Format::Npy: return 16 * bins;
-        default: return 160 * bins + 100;
-    }
+    if (isPicture(options.format)) return 1;
+    return options.format == Format::Npy ? 16 * bins : 160 * bins + 100;
 }
 
 Json jsonOf(const Piece& piece) { return {{"file", piece.file}, {"first", piece.first}, {"count", piece.count}}; }
@@ -88,10 +84,7 @@ std::optional<Piece> Dealer::next() {
     }
     while (nextFile < files.size()) {
         const std::size_t file = nextFile++;
-        if (isDone(files[file])) {
-            ++before;
-            continue;
-        }
+        if (isDone(files[file])) continue;
         const Piece whole{file, 0, 0};
         Recording recording;
         try {

@@ -37,6 +37,7 @@ PieceResult pieceResultOf(const std::string& text);
 // Deals out files in their order and puts pieces together. Rank 0 has one.
 class Dealer {
 public:
+    // `isDone` is asked once for each file.
     Dealer(const BatchOptions& options, const std::vector<BatchFile>& files, std::int64_t mostSamples,
            std::function<bool(const BatchFile&)> isDone);
     ~Dealer();
@@ -44,7 +45,6 @@ public:
     std::optional<Piece> next();
     // What became of the file, when this was the last of its pieces.
     std::optional<FileResult> take(const PieceResult& result);
-    std::size_t doneBefore() const { return before; }
 
 private:
     // A recording of which pieces are under way.
@@ -63,7 +63,7 @@ private:
     const std::vector<BatchFile>& files;
     std::int64_t mostSamples;
     std::function<bool(const BatchFile&)> isDone;
-    std::size_t nextFile = 0, before = 0;
+    std::size_t nextFile = 0;
     std::map<std::size_t, Recording> recordings;
     std::vector<std::size_t> wholes;  // files of which a piece has failed: one run over all says what is wrong
 };

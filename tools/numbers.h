@@ -4,6 +4,8 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 namespace spectrum {
 
@@ -12,6 +14,10 @@ std::int64_t wholeNumber(const std::string& option, const std::string& word, std
 
 // A finite number. Throws UsageError.
 double realNumber(const std::string& option, const std::string& word);
+
+// What std::from_chars says of the whole word, which may have a plus sign in front: invalid_argument unless all of it
+// is a number, result_out_of_range where that is beyond the range.
+std::errc readWhole(std::string_view word, double& number);
 
 // The word as the message about it shows it: quoted when nothing of it could be seen.
 std::string shownWord(const std::string& word);

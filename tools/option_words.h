@@ -19,7 +19,12 @@ PictureOptions pictureOf(const Words& words);
 // --output has a standard format.
 Format formatOf(const Words& words, std::span<const Format> allowed);
 
-// The word of an operand that must be there.
+// The formats of spectrograms, the usual one first.
+inline constexpr Format pictureFormats[] = {Format::Png,       Format::Svg, Format::Csv,
+                                            Format::JsonLines, Format::Npy, Format::Text};
+
+// The word of an operand that must be there, and that of --output.
 const std::string& inputPath(const Words& words, const char* operand);
+const std::string& outputPath(const Words& words);
 
 }  // namespace spectrum

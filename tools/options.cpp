@@ -119,12 +119,10 @@ Format formatNamed(const std::string& word, std::span<const Format> allowed) {
 }  // namespace
 
 const Family& familyNamed(const std::string& word) {
-    std::string names;
     for (const Family& family : allFamilies()) {
         if (word == family.name) return family;
-        names += (names.empty() ? "" : ", ") + std::string(family.name);
     }
-    throw UsageError("--family " + shownWord(word) + ": no such family; known: " + names);
+    throw UsageError("--family " + shownWord(word) + ": no such family; known: " + familyNames());
 }
 
 Framing plainFraming(const Family& family, int length) {
@@ -206,6 +204,11 @@ const std::string& inputPath(const Words& words, const char* operand) {
     if (!words.given(operand)) throw UsageError(std::string(operand) + " is required: a file, or - for standard input");
     if (words[operand].empty()) throw UsageError(std::string(operand) + " '': a file has a name");
     return words[operand];
+}
+
+const std::string& outputPath(const Words& words) {
+    if (words["--output"].empty()) throw UsageError("--output '': a file has a name");
+    return words["--output"];
 }
 
 std::string flagName(std::int32_t flag) {

@@ -13,6 +13,7 @@
 namespace spectrum {
 
 enum class Format { Text, Csv, JsonLines, Npy, Png, Svg, Wav, Flac };
+constexpr bool isPicture(Format format) { return format == Format::Png || format == Format::Svg; }
 enum class Precision { Single, Double };
 // What a table holds of each bin: its value and its magnitude, or the magnitude alone.
 enum class Content { Bins, Magnitudes };
@@ -64,8 +65,7 @@ struct BatchOptions {
     std::vector<std::string> inputs;
     std::string folder;
     std::vector<std::string> patterns;
-    Options each;  // but for input path and output
-    int jobs;
+    Options each;       // but for input path and output
     std::string words;  // the options of `each` as a text, to see whether an earlier run had the same
     bool startsAgain;
     bool json;

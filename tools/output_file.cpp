@@ -171,9 +171,9 @@ void refuseInputAsOutput(const std::string& input, const std::string& output) {
     struct stat from, to;
     if (!statusOf(input, STDIN_FILENO, from) || !statusOf(output, STDOUT_FILENO, to)) return;
     if (!S_ISREG(from.st_mode) || !isSame(from, to)) return;
-    const std::string from_name = input == "-" ? "standard input" : printable(input);
+    const std::string shownInput = input == "-" ? "standard input" : printable(input);
     throw UsageError((output == "-" ? "standard output" : "--output " + printable(output)) +
-                     ": that is the input itself, " + from_name);
+                     ": that is the input itself, " + shownInput);
 }
 
 void removeUnfinishedFile() {

@@ -22,8 +22,7 @@ public:
         if (!file) {
             const std::string reason = reasonOfLibrary();
             close(descriptor);
-            if (!damage.empty())
-                throw DamagedInput(name + ": the file is damaged: " + damage + "; samples that are good: 0");
+            if (!damage.empty()) throw DamagedInput(damageText(name, damage, 0));
             if (!isSoundFile) throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
             throw UserError(name + ": the sound cannot be read: " + reason);
         }
@@ -75,7 +74,7 @@ private:
     std::string damageOf(int descriptor) {
         std::unique_ptr<std::FILE, int (*)(std::FILE*)> bytes(fdopen(dup(descriptor), "rb"), std::fclose);
         if (!bytes) throw UserError("cannot read " + name + ": " + systemReason());
-        std::rewind(bytes.get());  // a copy of standard input stands at its end
+        std::rewind(bytes.get());  // a copy of standard input is at its end
         char start[12];
         const std::size_t count = std::fread(start, 1, sizeof start, bytes.get());
         isSoundFile = !containerName({start, count}).empty();

@@ -2,7 +2,6 @@
 // taken for something else.
 #include "spectra_file.h"
 
-#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -94,9 +93,10 @@ private:
             if (position != 0) refuse("the frequency of bin 0 is not 0");
             return;
         }
-        if (!rate)
-            rate = std::abs(position / due - std::round(position / due)) < 1e-6 ? std::round(position / due)
-                                                                                : position / due;
+        if (!rate) {
+            const double told = position / due, whole = std::round(told);
+            rate = std::abs(told - whole) < 1e-6 ? whole : told;
+        }
         if (*rate <= 0 || std::abs(position - due * *rate) > 1e-9 * *rate) {
             refuse("the frequency of bin " + std::to_string(bin) + " is another at this family and length");
         }

@@ -257,12 +257,11 @@ std::unique_ptr<Sink> makeNpySink(const Heading& heading, OutputFile* file) {
 }
 
 std::unique_ptr<Sink> makeSink(const Heading& heading, OutputFile* file) {
+    if (isPicture(heading.options.format)) return makePictureSink(heading, file);
     switch (heading.options.format) {
         case Format::Csv: return makeCsvSink(heading, file);
         case Format::JsonLines: return makeJsonSink(heading, file);
         case Format::Npy: return makeNpySink(heading, file);
-        case Format::Png:
-        case Format::Svg: return makePictureSink(heading, file);
         default: return makeTextSink(heading, file);
     }
 }

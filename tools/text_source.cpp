@@ -1,9 +1,9 @@
 // Real numbers from text, in a file or on standard input. Letters are taken one by one and lines are counted, since the
 // message about a wrong word names its line. UTF-16 is read where a byte-order mark says so.
-#include <charconv>
 #include <cmath>
 
 #include "input.h"
+#include "numbers.h"
 #include "user_error.h"
 
 namespace spectrum {
@@ -30,7 +30,7 @@ public:
 private:
     enum class Width { Byte, LittleEndian, BigEndian };
     static constexpr std::size_t longestWord = 1 << 20;
-    static constexpr int noLetter = 0xff;  // stands for all that is beyond ASCII
+    static constexpr int noLetter = 0xff;  // instead of any letter beyond ASCII
 
     // The next letter, or EOF.
     int peek() {
@@ -88,18 +88,10 @@ private:
                 if (one == ',') one = '.';
             }
         }
-        const char* start = word.data();
-        const char* const end = start + word.size();
-        // std::from_chars accepts a minus sign but no plus sign.
-        if (word.size() > 1 && word[0] == '+' && word[1] != '-') ++start;
         double number = 0;
-        const auto [rest, error] = std::from_chars(start, end, number);
-        if (error == std::errc::result_out_of_range && rest == end) {
-            throw UserError(where() + shown + "beyond the range of a number");
-        }
-        if (error != std::errc{} || rest != end || !std::isfinite(number)) {
-            throw UserError(where() + shown + "not a number");
-        }
+        const std::errc error = readWhole(word, number);
+        if (error == std::errc::result_out_of_range) throw UserError(where() + shown + "beyond the range of a number");
+        if (error != std::errc{} || !std::isfinite(number)) throw UserError(where() + shown + "not a number");
         return number;
     }
 

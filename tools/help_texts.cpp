@@ -10,10 +10,9 @@
     "of two; the frequency of bin k is (k + 1/2)/(2N) cycles per sample.\n"                                            \
     "\n"                                                                                                               \
     "The scale is 1/N in the forward transform (--flag forward or 1), 1/N in the inverse (backward or 2), 1/sqrt(N)\n" \
-    "in both (ortho or 4), or 1 (none or 8). Of hartley and wht, which are their own inverses, the forward "           \
-    "transform\n"                                                                                                      \
-    "has 1/N both with forward and with backward. dct4 has no scale and takes no --flag; its inverse is 2/N times\n"   \
-    "itself.\n"
+    "in both (ortho or 4), or 1 (none or 8). Of hartley and wht, which are their own inverses, the forward\n"          \
+    "transform has 1/N both with forward and with backward. dct4 has no scale and takes no --flag; its inverse is\n"   \
+    "2/N times itself.\n"
 
 #define WINDOW_TEXT \
     "Windows have the names and values of SciPy's get_window; one with a parameter is written as kaiser:8.6.\n"
@@ -28,10 +27,10 @@
     "\n"                                                                                                               \
     "Frequencies are in Hz and times in seconds for sound, in cycles per sample and in samples for numbers.\n"
 
-#define CHECK_TEXT                                                                                                 \
-    "--check transforms each frame, unwindowed, there and back, and reports the root of the summed squared error " \
-    "over\n"                                                                                                       \
-    "the root of the summed squares. The spectrum is then written only if --output or --format is given too.\n"
+#define CHECK_TEXT                                                                                              \
+    "--check transforms each frame, unwindowed, there and back, and reports the root of the summed squared\n"   \
+    "error over the root of the summed squares. The spectrum is then written only if --output or --format is\n" \
+    "given too.\n"
 
 #define EXIT_TEXT \
     "Exit status: 0 done; 1 an input, an output or a transform failed; 2 wrong words; 3 a damaged input.\n"
@@ -39,8 +38,8 @@
 namespace spectrum {
 
 const char* const plainFooter =
-    "Without a command, INPUT is transformed, and the format tells whether a table or a picture is "
-    "made.\n\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT
+    "Without a command, INPUT is transformed, and the format tells whether a table or a picture is made.\n"
+    "\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT
     "A picture shows time to the right and frequency or sequency upward.\n\n" CHECK_TEXT "\n" EXIT_TEXT
     "\n"
     "  zulspectrum voice.wav --length 60 --hop 30 --window hann --output voice.png\n"
@@ -62,7 +61,7 @@ const char* const transformFooter =
 
 const char* const spectrogramFooter =
     "A picture shows time to the right, frequency or sequency upward, and --range decibels below the strongest bin. A\n"
-    "column is the mean power of its frames. The colours dusk, sea and grey are for screens, paper and ink for "
+    "column is the mean power of its frames. The colours dusk, sea and grey are for screens, paper and ink for\n"
     "print.\n\n" FAMILIES_TEXT "\n" WINDOW_TEXT "\n" INPUT_TEXT "\n" CHECK_TEXT "\n" EXIT_TEXT
     "\n"
     "  zulspectrum spectrogram voice.wav --family real --length 60 --hop 30 --window hann --output voice.png\n"
@@ -70,12 +69,11 @@ const char* const spectrogramFooter =
 
 const char* const inverseFooter =
     "INPUT is a CSV or NPY file of transform, and the family, the length, the window, the scale and (for NPY, which\n"
-    "does not hold them, and for wht) the hop and the rate are those that it was made with. Frames are transformed "
-    "back, weighted\n"
-    "with the window once more and added up where they overlap, and each sample is divided by the sum of its squared\n"
-    "weights: this is the signal that is nearest to the spectra in the mean square, and the samples themselves when\n"
-    "the spectra are unchanged. Samples that no frame holds with a weight become zero; their number is reported.\n"
-    "Frames that were filled up with zeros give these zeros back; --samples cuts them off.\n"
+    "does not hold them, and for wht) the hop and the rate are those that it was made with. Frames are transformed\n"
+    "back, weighted with the window once more and added up where they overlap, and each sample is divided by the sum\n"
+    "of its squared weights: this is the signal that is nearest to the spectra in the mean square, and the samples\n"
+    "themselves when the spectra are unchanged. Samples that no frame holds with a weight become zero; their number\n"
+    "is reported. Frames that were filled up with zeros give these zeros back; --samples cuts them off.\n"
     "\n"
     "The output is a WAV or FLAC file, or text with a number to a line. --encoding pcm16 and pcm24 round the samples\n"
     "and cut off what is beyond full scale, which is reported; float and double keep them.\n"
@@ -99,19 +97,19 @@ const char* const batchFooter =
 const char* const clusterSummary = "Spectra of many files, by many processes on one machine or on many";
 
 const char* const mpiFooter =
-    "Each rank makes the outputs of files as zulspectrum batch does, and asks for the next when it is done. A "
-    "recording\n"
-    "of more than --split samples is split by time, and its pieces are gathered by rank 0. Inputs and the folder\n"
-    "--into have to be the same on all machines, as in a shared file system. The outputs are the same bytes, whatever\n"
-    "the number of ranks is. When a rank is lost the launcher ends the run; started again, it goes on where it was.\n"
+    "Each rank makes the outputs of files as zulspectrum batch does, and asks for the next when it is done. A\n"
+    "recording of more than --split samples is split by time, and its pieces are gathered by rank 0. Inputs and the\n"
+    "folder --into have to be the same on all machines, as in a shared file system. The outputs are the same bytes,\n"
+    "whatever the number of ranks is. When a rank is lost the launcher ends the run; started again, it goes on where\n"
+    "it was.\n"
     "\n"
     "Exit status: 0 all files are done; 1 some failed, or 3 where all of these are damaged; 2 wrong words.\n"
     "\n"
     "  mpirun -n 4 zulspectrum-mpi recordings --into pictures --family real --length 60 --window hann";
 
 const char* const layoutFooter =
-    "R3 stands for the real part of bin 3, I3 for its imaginary part, 0 for a slot that holds zero. The numbers of\n"
-    "the slots are in the line above.";
+    "R3 is the real part of bin 3, I3 its imaginary part, and 0 a slot that holds zero. The numbers of the slots are\n"
+    "in the line above.";
 
 const char* const infoFooter =
     "It tells what the routine computes as a formula, how it is called, the length of each array, how it is built,\n"
@@ -121,10 +119,9 @@ const char* const infoFooter =
     "  zulspectrum info zulgDFTFwd_RToCCS_25_64f";
 
 const char* const benchFooter =
-    "Each figure is the median of several rounds in which the transform repeats for --time seconds, one call after "
-    "the\n"
-    "other in a cache, and many transforms in one call of the batch library. Other programs on the machine make the\n"
-    "figures larger.\n"
+    "Each figure is the median of several rounds in which the transform repeats for --time seconds, one call after\n"
+    "the other in a cache, and many transforms in one call of the batch library. Other programs on the machine make\n"
+    "the figures larger.\n"
     "\n"
     "  zulspectrum bench --family real --lengths 15,16,60";
 

@@ -20,8 +20,8 @@ extern "C" void zulFree(void* block);
 namespace zulg::checked {
 namespace {
 
-// An argument that has nothing to do with arrays.
-constexpr std::int32_t shortest = 2, longest = 64, lowestOrder = 1, highestOrder = 13, lowestWithBuffer = 8;
+// The lengths and orders that there are.
+constexpr std::int32_t shortest = 2, longest = 64, lowestOrder = 1, highestOrder = 13;
 
 bool isFlag(std::int32_t flag) {
     return flag == DivFwdByN || flag == DivInvByN || flag == DivBySqrtN || flag == NoDivByAny;
@@ -56,7 +56,7 @@ ZulgStatus walshHadamard(const Routine& routine, std::int32_t order, const Eleme
     if (isRefused || !isFlag(flag)) return call(pBuffer);
     static const Routine bufferSize(isSingle<Element> ? "zulgWHTGetBufferSize_32f" : "zulgWHTGetBufferSize_64f");
     std::int32_t bytes = 0;
-    if (order >= lowestWithBuffer) checked::call(bufferSize, order, &bytes);
+    checked::call(bufferSize, order, &bytes);  // none at the lowest orders
     void* own = nullptr;
     if (bytes != 0 && pBuffer == nullptr) {
         own = zulMalloc(static_cast<std::uint32_t>(bytes));

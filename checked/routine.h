@@ -1,4 +1,4 @@
-// A routine of the library behind the checked one: its address, and what its name tells.
+// A routine of the library that the checked one calls: its address, and what its name tells.
 #pragma once
 
 #include <cstddef>

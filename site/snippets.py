@@ -155,6 +155,12 @@ def place_of(layout, n, k, part):
     return first + (part == "im")
 
 
+def template_arguments(n, extra, layout):
+    """Of a real transform in C++: a length that is an argument of the routine is none of the template."""
+    kept = f"zulgenpx::layout::{layout.lower()}"
+    return f"<{kept}>" if extra else f"<{n}, {kept}>"
+
+
 def real_forward(export):
     n, extra = lengths(export)
     element, real, layout = export["element"], real_type(export["element"]), export["spectrum"]["layout"]
@@ -171,7 +177,7 @@ def real_forward(export):
         call(export, "x", "X", *extra, "NoDivByAny"),
         f'printf("{form}\\n", {arguments});  /* prints {printed} */',
     ]
-    named = f"<{n}, zulgenpx::layout::{layout.lower()}>" if not extra else f"<zulgenpx::layout::{layout.lower()}>"
+    named = template_arguments(n, extra, layout)
     cpp = [
         f"std::array<{real}, {n}> x;",
         f"std::array<{real}, {size}> X;",
@@ -205,7 +211,7 @@ def real_inverse(export):
         call(export, "X", "x", *extra, "DivInvByN"),
         f'printf("{form}\\n", x[1]);  /* prints {printed} */',
     ]
-    named = f"<{n}, zulgenpx::layout::{layout.lower()}>" if not extra else f"<zulgenpx::layout::{layout.lower()}>"
+    named = template_arguments(n, extra, layout)
     cpp = [
         f"std::array<{real}, {size}> X{{}};",
         f"std::array<{real}, {n}> x;",

@@ -21,6 +21,15 @@ def graphs_into(args, folder):
     subprocess.run([args.build / "generate", "graphs", folder], check=True, cwd=args.source, stdout=subprocess.DEVNULL)
 
 
+def compile_command(args, language, source, program, optimization):
+    """Compiles one program in C or C++ with the built libraries."""
+    compiler = [args.cc, "-std=c11"] if language == "c" else [args.cxx, "-std=c++20"]
+    warnings = ["-Wall", "-Wextra", "-Werror"]
+    libraries = [f"-L{args.build}", "-l:libzulgenpx-batch-7.0.so", "-l:libzulgenpx-7.0.so", "-lm"]
+    return [*compiler, optimization, *warnings, f"-I{args.source}/include", source, "-o", program, *libraries,
+            f"-Wl,-rpath,{args.build}"]
+
+
 class Failures:
     def __init__(self):
         self.found, self.checked = [], 0

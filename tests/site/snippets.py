@@ -54,25 +54,7 @@ def compiled(programs, language, folder):
     source = pathlib.Path(folder) / f"examples.{language}"
     source.write_text(as_functions(programs, language), encoding="ascii")
     program = pathlib.Path(folder) / f"examples-{language}"
-    compiler = [args.cc, "-std=c11"] if language == "c" else [args.cxx, "-std=c++20"]
-    subprocess.run(
-        [
-            *compiler,
-            "-O0",
-            "-Wall",
-            "-Wextra",
-            "-Werror",
-            f"-I{args.source}/include",
-            source,
-            "-o",
-            program,
-            f"-L{args.build}",
-            "-l:libzulgenpx-batch-7.0.so",
-            "-l:libzulgenpx-7.0.so",
-            f"-Wl,-rpath,{args.build}",
-        ],
-        check=True,
-    )
+    subprocess.run(common.compile_command(args, language, source, program, "-O0"), check=True)
     result = subprocess.run([program], capture_output=True, text=True, check=True)
     compare(programs, result.stdout, language)
 

@@ -19,32 +19,11 @@ def run(program, folder):
         environment = dict(os.environ, PYTHONPATH=str(args.source / "python"), ZULGENPX_LIBRARY_DIR=str(args.build))
         command = [sys.executable, "-B", "-c", program.text]
     else:
-        ending, compiler, standard = (
-            (".c", args.cc, "-std=c11") if program.language == "c" else (".cpp", args.cxx, "-std=c++20")
-        )
+        ending = ".c" if program.language == "c" else ".cpp"
         source, made = pathlib.Path(folder) / f"program{ending}", pathlib.Path(folder) / "program"
         source.write_text(program.whole(), encoding="utf-8")
-        compiled = subprocess.run(
-            [
-                compiler,
-                standard,
-                "-O1",
-                "-Wall",
-                "-Wextra",
-                "-Werror",
-                f"-I{args.source}/include",
-                source,
-                "-o",
-                made,
-                f"-L{args.build}",
-                "-l:libzulgenpx-batch-7.0.so",
-                "-l:libzulgenpx-7.0.so",
-                "-lm",
-                f"-Wl,-rpath,{args.build}",
-            ],
-            capture_output=True,
-            text=True,
-        )
+        command = common.compile_command(args, program.language, source, made, "-O1")
+        compiled = subprocess.run(command, capture_output=True, text=True)
         if compiled.returncode:
             return compiled.stderr
         environment, command = None, [made]

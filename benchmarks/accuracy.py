@@ -6,10 +6,10 @@ accuracy.py check
 """
 import csv
 import math
-import os
 import sys
 
-TREE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
+from tree_files import has_prime_from_11, read, write
+
 RESULTS = "benchmarks/results/accuracy.md"
 PAGE, HEADER = "docs/accuracy.md", "include/zulgenpx.h"
 
@@ -17,10 +17,6 @@ ELEMENTS = ["64f", "32f"]
 DFT = {"complex_forward": "complex forward", "complex_inverse": "complex inverse", "real_forward": "real forward",
        "real_inverse": "real inverse", "hartley": "Hartley"}
 MACHINES = {"sse2": "x86-64", "extended": "32-bit DLL", "double": "32-bit DLL, registers set to round to double"}
-
-
-def has_prime_from_11(n):
-    return any(n % p == 0 for p in range(11, n + 1) if all(p % q for q in range(2, p)))
 
 
 def within(family, first, last):
@@ -177,16 +173,6 @@ def places():
     summary, lengths = blocks()
     return [(PAGE, summary, "| pooled, worst |"),
             (HEADER, header_lengths(lengths), "     N               2     4 ")]
-
-
-def read(name):
-    with open(os.path.join(TREE, name), encoding="utf-8") as file:
-        return file.read()
-
-
-def write(name, text):
-    with open(os.path.join(TREE, name), "w", encoding="utf-8") as file:
-        file.write(text)
 
 
 def main():

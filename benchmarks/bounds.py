@@ -14,16 +14,13 @@ import statistics
 import subprocess
 import sys
 
-TREE = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+from tree_files import TREE, has_prime_from_11, read, write
+
 TABLE, SUMMARY, HEADER = "benchmarks/results/bounds.csv", "benchmarks/results/bounds.md", "include/zulgenpx.h"
 PLOT = "benchmarks/results/bounds.svg"
 MEDIAN_DUE = 20
 ELEMENTS = ["64f", "32f"]
 FACTORS = ["none", "root", "whole"]
-
-
-def has_prime_from_11(n):
-    return any(n % p == 0 for p in range(11, n + 1) if all(p % q for q in range(2, p)))
 
 
 class Row:
@@ -39,16 +36,6 @@ class Row:
 
     def line(self):
         return f"{self.family},{self.element},{self.length},{self.factor},{self.bound:.3f},{self.worst:.3f}"
-
-
-def read(name):
-    with open(os.path.join(TREE, name), encoding="utf-8") as file:
-        return file.read()
-
-
-def write(name, text):
-    with open(os.path.join(TREE, name), "w", encoding="utf-8") as file:
-        file.write(text)
 
 
 def rows_in(text):
@@ -124,8 +111,8 @@ The measure is the greatest error of one output over the root mean square of the
 2-norm of the input, and over the factor: in units of 2^-53 for 64f and 2^-24 for 32f. The error of a complex output is
 its modulus. Each cell has two figures: the bound, and the worst of {inputs} trials of each routine (2^28/N from 4096
 points on). A quarter of the inputs is noise. Half are rows of a transform in a hundredth of noise, so that nearly all
-of an input goes into one output. A quarter has three values or fewer. *Factor 1*: the flag is 8. *Any flag*: the greatest
-figure of all flags. Figures are rounded up.
+of an input goes into one output. A quarter has three values or fewer. *Factor 1*: the flag is 8. *Any flag*: the
+greatest figure of all flags. Figures are rounded up.
 
 The layouts of a real spectrum give the same bits; Pack is measured. All targets give the same bits, but for 32-bit
 Windows, where a step is rounded to 64 bits, or to 53, and once more to 53 where its result is kept in memory: the
@@ -186,7 +173,6 @@ def header_place():
 
 def plot(rows):
     """Bound and worst trial of each length, at factor 1."""
-    sys.path.insert(0, os.path.join(TREE, "benchmarks"))
     from plots import plt, LINES, mark_primes, save  # pylint: disable=import-outside-toplevel
     figure, both = plt.subplots(2, 1, figsize=(9, 6.4), sharex=True, constrained_layout=True)
     figure.suptitle("Greatest error of an output over the input's root mean square times sqrt(N): proved bound (lines) "

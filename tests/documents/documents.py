@@ -19,15 +19,16 @@ import extents
 import extract
 
 DOCUMENTS = ["README.md", "CONTRIBUTING.md", "SECURITY.md", "docs/accuracy.md", "docs/architecture.md",
-             "docs/compatibility.md", "docs/constructions.md", "docs/guide.md", "docs/install.md", "docs/promises.md",
-             "docs/site.md", "docs/testing.md", "bindings/README.md", "kernels/README.md", "benchmarks/README.md",
-             "tools/README.md", "python/README.md"]
+             "docs/clusters.md", "docs/compatibility.md", "docs/constructions.md", "docs/guide.md", "docs/install.md",
+             "docs/promises.md", "docs/site.md", "docs/testing.md", "bindings/README.md", "kernels/README.md",
+             "benchmarks/README.md", "tools/README.md", "python/README.md"]
 HEADERS = ["include/zulgenpx.h", "include/zulgenpx.hpp", "include/zulgenpx_dct4.hpp", "include/zulgenpx_batch.hpp"]
 WARNINGS = ["-Wall", "-Wextra", "-Werror", "-O2"]
 
-# Shell lines that are not run, by how they begin: they build or install everything, time, or write into the tree.
+# Shell lines that are not run, by how they begin: they build or install everything, time, write into the tree, or ask
+# for a cluster.
 NOT_RUN = ("scripts/", "cmake ", "build/native/bench", "build/native/generate write", "pip install",
-           "benchmarks/python_times.py", "LD_PRELOAD=")
+           "benchmarks/python_times.py", "LD_PRELOAD=", "mpirun ", "podman ", "sbatch ", "kubectl ")
 
 PYTHON = "/usr/bin/python3"  # the packaged one, which has NumPy
 

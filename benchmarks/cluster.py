@@ -68,7 +68,7 @@ def make_corpus(folder, files):
 
 def run(command):
     start = time.monotonic()
-    done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
+    done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, check=False)
     return done, time.monotonic() - start
 
 
@@ -97,6 +97,10 @@ def same(one, other):
     return names == outputs(other) and all(filecmp.cmp(one / name, other / name, shallow=False) for name in names)
 
 
+def report(who, summary, seconds):
+    print(f"{who:<15} {summary['files']} files, {summary['done']} done, {len(summary['failed'])} failed, {seconds:.1f} s")
+
+
 def page(files, counts, times, probe, bytes_gathered):
     one, two = (statistics.median(times[ranks]) for ranks in (1, 2))
     message, byte = probe["seconds_of_a_message"], probe["seconds_of_a_byte"]
@@ -114,13 +118,13 @@ the same bytes as those of one process.
 | 1 | {one:.2f} | 1.0 |
 | 2 | {two:.2f} | {one / two:.2f} |
 
-Measured between two ranks of this machine (`mpirun -n 2 zulspectrum-mpi --probe`): {message * 1e6:.0f} us for dealing out
-one piece of work and taking its result, {byte * 1e9:.2f} ns for each byte of a piece that is gathered. One rank takes
-{one / files * 1e3:.1f} ms for a file.
+Measured between two ranks of this machine (`mpirun -n 2 zulspectrum-mpi --probe`): {message * 1e6:.0f} us for dealing
+out one piece of work and taking its result, {byte * 1e9:.2f} ns for each byte of a piece that is gathered. One rank
+takes {one / files * 1e3:.1f} ms for a file.
 
 **Worked out, not measured**: with R ranks on machines that are as fast as this one, and a network that costs what two
-ranks cost here, a run takes the time of one rank over R, but at least what rank 0 needs to deal out {files} files and to
-gather {bytes_gathered} bytes of the long recording. A real network and a shared file system cost more.
+ranks cost here, a run takes the time of one rank over R, but at least what rank 0 needs to deal out {files} files and
+to gather {bytes_gathered} bytes of the long recording. A real network and a shared file system cost more.
 
 | ranks | seconds | times one rank |
 |---|---|---|
@@ -144,12 +148,9 @@ def main():
     alone = [str(args.programs / "zulspectrum"), "batch", "--jobs", "1"]
     ranks = [str(args.programs / "zulspectrum-mpi"), "--split", "2000000"]
 
-    summary, seconds = batch(alone, corpus, ours)
-    print(f"one process     {summary['files']} files, {summary['done']} done, {len(summary['failed'])} failed, "
-          f"{seconds:.1f} s")
+    report("one process", *batch(alone, corpus, ours))
     summary, seconds = batch([*mpirun(args.ranks), *ranks], corpus, theirs)
-    print(f"{args.ranks} ranks         {summary['files']} files, {summary['done']} done, {len(summary['failed'])} failed, "
-          f"{seconds:.1f} s")
+    report(f"{args.ranks} ranks", summary, seconds)
     if len(summary["failed"]) != DAMAGED or not same(ours, theirs):
         sys.exit("cluster.py: the outputs differ from those of one process")
     print(f"outputs         {len(outputs(theirs))} files, byte for byte those of one process")

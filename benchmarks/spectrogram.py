@@ -69,7 +69,7 @@ def main():
                                                  "--window", "hann"],
         "zulspectrum, dct4, 1024 points, hop 512": [*ours, "--family", "dct4", "--length", "1024", "--hop", "512",
                                                     "--window", "hann"],
-        f"scipy.signal.spectrogram, {LENGTH} points": ["/usr/bin/python3", "-c", SCIPY.format(length=LENGTH), str(sound)],
+        f"scipy.signal.spectrogram, {LENGTH} points": [sys.executable, "-c", SCIPY.format(length=LENGTH), str(sound)],
     }
     if shutil.which("sox"):
         # Its window follows from the height of the picture: 65 rows are 128 points, and fewer are refused.

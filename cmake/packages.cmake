@@ -96,8 +96,8 @@ as NumPy names them." "python3:any;python3-numpy;${on_library}")
 foreach(part DOCUMENTATION PYTHON)
     set(CPACK_DEBIAN_${part}_PACKAGE_ARCHITECTURE all)
 endforeach()
-# Only the dependencies of the programs are looked for. Where CPack looks at a library, it adds scripts that call ldconfig, which
-# is what a trigger is for.
+# Only the dependencies of the programs are looked for. Where CPack looks at a library, it adds scripts that call
+# ldconfig, which is what a trigger is for.
 foreach(part LIBRARY DEVELOPMENT DOCUMENTATION PYTHON)
     set(CPACK_DEBIAN_${part}_PACKAGE_SHLIBDEPS OFF)
 endforeach()

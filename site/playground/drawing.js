@@ -43,7 +43,8 @@ zulg.plot = function (canvas, values, options) {
         context.lineTo(width - right, y(value));
         context.stroke();
         context.fillText(Math.abs(value) < 1e-12 ? "0" : value.toPrecision(3), left - 4, y(value) + 4);
-    } context.textAlign = "center";
+    }
+    context.textAlign = "center";
     const step = Math.max(1, Math.ceil(count / 12));
     for (let k = 0; k < count; k += step) context.fillText(options.names ? options.names[k] : k, x(k), height - 5);
     const thick = Math.max(1, Math.min(18, ((width - left - right) / count) * 0.6));
@@ -134,7 +135,8 @@ zulg.record = async function (seconds) {
         stream = await navigator.mediaDevices.getUserMedia({ audio: true });
     } catch (error) {
         throw new Error("The microphone cannot be used: " + (error.message || error.name) + ".");
-    } const context = zulg.audio(),
+    }
+    const context = zulg.audio(),
         source = context.createMediaStreamSource(stream),
         parts = [];
     await context.resume();

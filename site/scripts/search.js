@@ -1,5 +1,5 @@
-// The search in the head of each page, tabs, and buttons that copy code. The index is zulgSearchIndex: one line for each
-// page, title, path and words with tabs between them.
+// The search in the head of each page, tabs, and buttons that copy code. The index is zulgSearchIndex: one line for
+// each page, title, path and words with tabs between them.
 "use strict";
 (function () {
     const root = document.documentElement.dataset.root;

@@ -1,5 +1,5 @@
-# WebAssembly with vectors of 128 bits, which every browser of today has. The result is one module with all routines, and
-# the core library inside: there are no shared libraries, no entries in assembler and no load entry there.
+# WebAssembly with vectors of 128 bits, which every browser of today has. The result is one module with all routines,
+# and the core library inside: there are no shared libraries, no entries in assembler and no load entry there.
 
 set(target_compile_flags -msimd128)
 

@@ -1,5 +1,5 @@
-"""What the C++ headers refuse to compile: each wrong line must fail with the message that names the fault, and the right
-lines beside them must compile, together, without a warning.
+"""What the C++ headers refuse to compile: each wrong line must fail with the message that names the fault, and the
+right lines beside them must compile, together, without a warning.
 
 misuse.py --source TREE --folder FOLDER [--batch] COMPILER ...
 """

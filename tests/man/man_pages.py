@@ -180,7 +180,8 @@ def tone_file(path, seconds):
 
 
 def check_tool(page, tool, folder):
-    """The options of the page are those of --help of the program and of each command; the examples run, in their order."""
+    """The options of the page are those of --help of the program and of each command; the examples run, in their
+    order."""
     code, text = output_of(tool, "--help")
     commands = re.findall(r"^  ([a-z]+) +[A-Z]", text.partition("Commands;")[2], re.M)
     due = set()

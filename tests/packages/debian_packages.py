@@ -30,7 +30,8 @@ zcat /usr/share/man/man3/zulgenpx.3.gz | grep -q '^.Dd'
 zcat /usr/share/man/man3/zulgDFTFwd_CToC_15_64fc.3.gz | grep -q '^.so man3/zulgenpx'
 zcat /usr/share/man/man1/zulspectrum.1.gz | grep -q '^.Dd'
 zcat /usr/share/man/man1/zulspectrum-mpi.1.gz | grep -q '^.Dd'
-seq 1000 > in.txt; mpirun --allow-run-as-root --oversubscribe -n 2 zulspectrum-mpi in.txt --into out; test -s out/in.txt.png
+seq 1000 > in.txt; mpirun --allow-run-as-root --oversubscribe -n 2 zulspectrum-mpi in.txt --into out
+test -s out/in.txt.png
 test -s /usr/share/bash-completion/completions/zulspectrum
 grep -q 'zulgHartley_64_64f' /usr/share/zulgenpx/zulgenpx.pas
 cd /usr/share/doc && test -s libzulgenpx-7.0/copyright && test -s libzulgenpx-dev/copyright

@@ -1,7 +1,7 @@
 // Every length there is, all 2^32 of them. The size that the library reports, or its refusal, is compared with a model
-// that goes from the bottom of the tree up, adds without a limit and wraps each sum by itself. All of them take minutes,
-// and are asked for by name (scripts/soak); otherwise these are the neighbours of the powers of two, where all accepted
-// lengths are, and every 1009th of the others.
+// that goes from the bottom of the tree up, adds without a limit and wraps each sum by itself. All of them take
+// minutes, and are asked for by name (scripts/soak); otherwise these are the neighbours of the powers of two, where all
+// accepted lengths are, and every 1009th of the others.
 #include <gtest/gtest.h>
 
 #include <array>

@@ -135,7 +135,8 @@ class Deployment(unittest.TestCase):
         path = SOURCE / "deploy/zulspectrum.sbatch"
         self.assertEqual(run(["bash", "-n", path]).returncode, 0)
         lines = [line.split()[1] for line in path.read_text().splitlines() if line.startswith("#SBATCH")]
-        known = {"--job-name", "--nodes", "--ntasks-per-node", "--cpus-per-task", "--mem-per-cpu", "--time", "--requeue"}
+        known = {"--job-name", "--nodes", "--ntasks-per-node", "--cpus-per-task", "--mem-per-cpu", "--time",
+                 "--requeue"}
         self.assertLessEqual({line.partition("=")[0] for line in lines}, known)
         # A stand-in for srun shows the command.
         with tempfile.TemporaryDirectory() as folder:

@@ -41,10 +41,29 @@ void addFolder(const BatchOptions& options, const fs::path& folder, const fs::pa
         if (entry.is_directory(error)) {
             if (!isLink) addFolder(options, entry.path(), within / name, files);
         } else if (entry.is_regular_file(error) && matches(options.patterns, name)) {
-            files.push_back({entry.path(), within / name, ""});
+            files.push_back({entry.path(), within / name, "", options.each.input.channel});
         }
     }
     if (error) throw UserError("cannot read the folder " + printable(folder.string()) + ": " + error.message());
+}
+
+// Each file once for each of its channels. A file that cannot be opened stays one: its run tells what is wrong.
+std::vector<BatchFile> byChannel(const BatchOptions& options, const std::vector<BatchFile>& files) {
+    std::vector<BatchFile> all;
+    for (const BatchFile& file : files) {
+        try {
+            const int channels = channelsOf(optionsFor(options, file).input);
+            for (int channel = 1; channel <= channels; ++channel) {
+                const std::string number = std::to_string(channel);
+                all.push_back({file.path, file.name + ", channel " + number,
+                               fs::path(options.folder) / (file.name + "." + number + suffixOf(options.each.format)),
+                               channel});
+            }
+        } catch (const UserError&) {
+            all.push_back(file);
+        }
+    }
+    return all;
 }
 
 // What tells whether a file is still the same: its size and the time of its last change.
@@ -69,7 +88,7 @@ std::string wordsOf(const Options& options) {
                         ", hop " + std::to_string(framing.hop) + ", window " + windowWord(framing.window) + ", flag " +
                         flagName(framing.flag) + ", precision " +
                         (framing.precision == Precision::Single ? "32" : "64") + ", channel " +
-                        std::to_string(input.channel) + ", start " + time(input.start) + ", end " + time(input.end) +
+                        channelWord(input.channel) + ", start " + time(input.start) + ", end " + time(input.end) +
                         ", decimal " + (input.decimal == DecimalMark::Comma ? "comma" : "point") + ", damage " +
                         (input.allowsDamage ? "allowed" : "refused") + ", format " + formatName(options.format);
     if (isPicture(options.format)) {
@@ -129,17 +148,20 @@ std::vector<BatchFile> batchFiles(const BatchOptions& options) {
         if (fs::is_directory(status)) {
             addFolder(options, input, "", files);
         } else {
-            files.push_back({input, fs::path(input).filename(), ""});
+            files.push_back({input, fs::path(input).filename(), "", options.each.input.channel});
         }
     }
     if (files.empty()) throw UserError("there is no file to transform");
     std::sort(files.begin(), files.end(), [](const BatchFile& a, const BatchFile& b) { return a.name < b.name; });
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        if (i > 0 && files[i].name == files[i - 1].name) {
-            throw UserError("two inputs would have one output: " + printable(files[i - 1].path) + " and " +
-                            printable(files[i].path));
+    if (options.each.input.channel == everyChannel) files = byChannel(options, files);
+    std::map<std::string, std::string> inputs;  // by output
+    for (BatchFile& file : files) {
+        if (file.output.empty()) file.output = fs::path(options.folder) / (file.name + suffixOf(options.each.format));
+        const auto [earlier, isNew] = inputs.emplace(file.output, file.path);
+        if (!isNew) {
+            throw UserError("two inputs would have one output: " + printable(earlier->second) + " and " +
+                            printable(file.path));
         }
-        files[i].output = fs::path(options.folder) / (files[i].name + suffixOf(options.each.format));
     }
     return files;
 }
@@ -147,6 +169,7 @@ std::vector<BatchFile> batchFiles(const BatchOptions& options) {
 Options optionsFor(const BatchOptions& options, const BatchFile& file) {
     Options one = options.each;
     one.input.path = file.path;
+    one.input.channel = file.channel;
     one.output = file.output;
     return one;
 }
@@ -163,6 +186,10 @@ FileResult resultOf(const std::exception& error) {
 FileResult runFile(const BatchOptions& options, const BatchFile& file) {
     try {
         fs::create_directories(fs::path(file.output).parent_path());
+        if (file.channel == everyChannel) {
+            channelsOf(optionsFor(options, file).input);  // fails as it did before
+            throw UserError(printable(file.name) + ": it changed while it was read");
+        }
         const RunReport report = runSpectra(optionsFor(options, file), false);
         return {0, "", report.samples, report.frames, report.warnings};
     } catch (const std::exception& error) {

@@ -18,6 +18,7 @@ struct BatchFile {
     std::string path;    // as it is opened
     std::string name;    // within the inputs, for messages, the journal, and the output
     std::string output;  // path
+    int channel;         // as InputOptions have it; everyChannel only where the channels could not be counted
 };
 
 struct FileResult {
@@ -33,7 +34,7 @@ void declareBatchOptions(CLI::App& app, Words& words);
 void declareClusterOptions(CLI::App& app, Words& words);
 BatchOptions batchOptionsOf(const Words& words);
 
-// In the order of their names. Throws UserError.
+// In the order of their names, with --channel each one after the other for each channel. Throws UserError.
 std::vector<BatchFile> batchFiles(const BatchOptions& options);
 
 // The options for one of the files.

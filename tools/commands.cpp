@@ -31,7 +31,10 @@ void printWarnings(const std::vector<std::string>& warnings) {
 
 Json jsonOf(const RunReport& report, const Options& options) {
     Json json{{"input", report.inputName}, {"samples", report.samples}, {"frames", report.frames}};
-    if (report.isSound) json["rate"] = report.rate;
+    if (report.isSound) {
+        json["rate"] = report.rate;
+        json["channel"] = channelWord(options.input.channel);
+    }
     json["family"] = options.framing.family->name;
     json["length"] = options.framing.length;
     json["precision"] = options.framing.precision == Precision::Single ? 32 : 64;
@@ -43,7 +46,9 @@ Json jsonOf(const RunReport& report, const Options& options) {
 
 std::string checkText(const RunReport& report, const Options& options) {
     char text[200];
-    std::string lines = "input           " + report.inputName + ", " + std::to_string(report.samples) + " samples";
+    std::string lines = "input           " + report.inputName + ", ";
+    if (options.input.channel > 1) lines += "channel " + std::to_string(options.input.channel) + ", ";
+    lines += std::to_string(report.samples) + " samples";
     if (report.isSound) {
         std::snprintf(text, sizeof text, ", %.3f s at %.0f Hz", static_cast<double>(report.samples) / report.rate,
                       report.rate);
@@ -54,16 +59,17 @@ std::string checkText(const RunReport& report, const Options& options) {
     return lines + text + " after the inverse transform\n";
 }
 
-int runOne(const Options& options) {
-    const RunReport report = runSpectra(options, true);
-    printWarnings(report.warnings);
+int runInput(const Options& options) {
     // Where the spectrum is on standard output, the report must not get between its lines.
     std::ostream& stream = options.writesSpectrum && options.output == "-" ? std::cerr : std::cout;
-    if (options.json) {
-        stream << jsonText(jsonOf(report, options));
-    } else if (options.check) {
-        stream << checkText(report, options);
+    Json reports = Json::array();
+    for (const Options& one : runsOf(options)) {
+        const RunReport report = runSpectra(one, true);
+        if (reports.empty()) printWarnings(report.warnings);  // damage is that of all channels
+        reports.push_back(jsonOf(report, one));
+        if (options.check && !options.json) stream << checkText(report, one);
     }
+    if (options.json) stream << jsonText(options.input.channel == everyChannel ? reports : reports[0]);
     return 0;
 }
 
@@ -99,16 +105,16 @@ int runPlain(const Words& words) {
         std::cout << versionText();
         return 0;
     }
-    return runOne(spectraOptions(words, allFormats, Content::Bins));
+    return runInput(spectraOptions(words, allFormats, Content::Bins));
 }
 
 void declareTransform(CLI::App& app, Words& words) { declareSpectra(app, words, "text, csv, json or npy", false); }
-int runTransform(const Words& words) { return runOne(spectraOptions(words, tableFormats, Content::Bins)); }
+int runTransform(const Words& words) { return runInput(spectraOptions(words, tableFormats, Content::Bins)); }
 
 void declareSpectrogram(CLI::App& app, Words& words) {
     declareSpectra(app, words, "png, svg, or the magnitudes as csv, json, npy or text", true);
 }
-int runSpectrogram(const Words& words) { return runOne(spectraOptions(words, pictureFormats, Content::Magnitudes)); }
+int runSpectrogram(const Words& words) { return runInput(spectraOptions(words, pictureFormats, Content::Magnitudes)); }
 
 void declareLayout(CLI::App& app, Words& words) {
     declareOperand(app, words, "N", "Points of the real transform, 2 to 64");

@@ -20,6 +20,7 @@ public:
         : options(given), decoder(FLAC__stream_decoder_new(), FLAC__stream_decoder_delete) {
         name = shownName;
         isSound = true;
+        channels = 0;  // until the header is read
         std::FILE* const file = fdopen(descriptor, "rb");
         if (!file || !decoder) throw UserError("cannot read " + name + ": " + systemReason());
         std::rewind(file);
@@ -31,7 +32,7 @@ public:
         if (!FLAC__stream_decoder_process_until_end_of_metadata(decoder.get()) || channels == 0) {
             throw DamagedInput(damageText(name, "it ends within its header", 0));
         }
-        chosen = chosenChannels(options, name, static_cast<int>(channels));
+        chosen = chosenChannels(options, name, channels);
     }
 
     std::size_t read(std::span<double> out) override {
@@ -68,7 +69,7 @@ private:
         source.rate = info.sample_rate > 0 ? info.sample_rate : 1;
         source.headerRate = info.sample_rate;
         source.headerBits = info.bits_per_sample;
-        source.channels = info.channels;
+        source.channels = static_cast<int>(info.channels);
         if (info.total_samples > 0) source.total = static_cast<std::int64_t>(info.total_samples);
     }
 
@@ -95,7 +96,7 @@ private:
     }
 
     bool take(const FLAC__FrameHeader& header, const FLAC__int32* const samples[]) {
-        if (header.channels != channels) {
+        if (header.channels != static_cast<unsigned>(channels)) {
             if (error.empty()) error = "a frame has another number of channels";
             return options.allowsDamage;
         }
@@ -152,7 +153,6 @@ private:
 
     InputOptions options;
     std::unique_ptr<FLAC__StreamDecoder, void (*)(FLAC__StreamDecoder*)> decoder;
-    std::size_t channels = 0;
     unsigned headerRate = 0, headerBits = 0;
     std::pair<std::size_t, std::size_t> chosen;
     std::vector<double> held;  // of the channel that is taken

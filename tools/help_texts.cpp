@@ -24,6 +24,8 @@
     "Frames start every --hop samples. When samples remain after the last full frame, one more frame is\n"             \
     "filled up with zeros; an input shorter than one frame is refused. A sound file that is damaged or shorter than\n" \
     "it says is refused too, with exit status 3, unless --allow-damaged is given.\n"                                   \
+    "With --channel each, every channel of a sound file has an output of its own: voice.png becomes voice.1.png,\n"    \
+    "voice.2.png and so on.\n"                                                                                         \
     "\n"                                                                                                               \
     "Frequencies are in Hz and times in seconds for sound, in cycles per sample and in samples for numbers.\n"
 
@@ -88,6 +90,8 @@ const char* const batchFooter =
     "file that fails does not stop the rest and is named at the end. A run that was stopped, by whatever, goes on\n"
     "where it was when it is started again: a file is done again only when its size or date has changed or its\n"
     "output is missing. The folder keeps what was done in the file .zulspectrum-batch.jsonl.\n"
+    "With --channel each, every channel of a sound file has an output of its own and counts as a file: voice.wav\n"
+    "gives voice.wav.1.png, voice.wav.2.png and so on.\n"
     "\n"
     "Exit status: 0 all files are done; 1 some failed, or 3 where all of these are damaged; 2 wrong words.\n"
     "\n"

@@ -61,7 +61,8 @@ class Range : public Source {
 public:
     Range(std::unique_ptr<Source> given, std::int64_t first, std::optional<std::int64_t> count)
         : inner(std::move(given)), left(count) {
-        name = inner->name, isSound = inner->isSound, rate = inner->rate, warnings = inner->warnings;
+        name = inner->name, isSound = inner->isSound, rate = inner->rate, channels = inner->channels;
+        warnings = inner->warnings;
         if (inner->total) total = std::max<std::int64_t>(0, *inner->total - first);
         if (total && left) total = std::min(*total, *left);
         inner->skip(first);
@@ -91,8 +92,8 @@ std::unique_ptr<Source> opened(const InputOptions& options) {
     if (start.empty()) throw UserError(name + ": it is empty");
     if (looksLikeText(start)) {
         if (options.channel != 1) {
-            throw UserError("--channel " + (options.channel == 0 ? "mix" : std::to_string(options.channel)) + ": " +
-                            name + " holds numbers, which have only channel 1");
+            throw UserError("--channel " + channelWord(options.channel) + ": " + name +
+                            " holds numbers, which have only channel 1");
         }
         return openText(options, std::move(stream));
     }
@@ -134,6 +135,22 @@ std::unique_ptr<Source> openInput(const InputOptions& options) {
     std::optional<std::int64_t> count;
     if (options.end) count = std::max<std::int64_t>(0, sampleAt("--end", *options.end, source->rate) - first);
     return std::make_unique<Range>(std::move(source), first, count);
+}
+
+std::string channelWord(int channel) {
+    if (channel == everyChannel) return "each";
+    return channel == 0 ? "mix" : std::to_string(channel);
+}
+
+int channelsOf(const InputOptions& options) {
+    std::error_code error;
+    if (options.path == "-" || std::filesystem::is_fifo(options.path, error)) {
+        throw UserError("--channel each: " + (options.path == "-" ? "standard input" : printable(options.path)) +
+                        " can be read only once; name a file");
+    }
+    InputOptions first = options;
+    first.channel = 1;
+    return opened(first)->channels;
 }
 
 std::pair<std::size_t, std::size_t> chosenChannels(const InputOptions& options, const std::string& name, int channels) {

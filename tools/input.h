@@ -17,10 +17,12 @@ namespace spectrum {
 
 enum class DecimalMark { Point, Comma };
 
+constexpr int everyChannel = -1;
+
 // What is read, and how.
 struct InputOptions {
     std::string path;  // "-" for standard input
-    int channel = 1;   // counted from 1; 0 is the mean of all
+    int channel = 1;   // counted from 1; 0 is the mean of all, and everyChannel each in a run of its own
     DecimalMark decimal = DecimalMark::Point;
     bool allowsDamage = false;
     std::optional<double> start, end;  // in seconds of sound, or in samples
@@ -39,12 +41,18 @@ public:
     std::string name;                   // for messages
     bool isSound = false;               // otherwise plain numbers, whose rate is 1
     double rate = 1;                    // samples in one second
+    int channels = 1;                   // of the input, whichever of them is read
     std::optional<std::int64_t> total;  // samples, when known from the start
     std::vector<std::string> warnings;  // about damage that is allowed
 };
 
-// The samples of the time range, of one channel. Throws UserError.
+// The samples of the time range, of one channel or of the mean of all. Throws UserError.
 std::unique_ptr<Source> openInput(const InputOptions& options);
+
+// How many channels a file has. Throws UserError, also for what can be read only once.
+int channelsOf(const InputOptions& options);
+// A channel as --channel takes it.
+std::string channelWord(int channel);
 
 // The kinds, for openInput. `name` is for messages; the descriptor is of a regular file and is closed by the source.
 std::unique_ptr<Source> openSound(const InputOptions& options, const std::string& name, int descriptor);

@@ -200,7 +200,9 @@ std::vector<BatchFile> sharedFiles(const BatchOptions& options) {
     std::string text;
     if (rankOf() == 0) {
         Json list = Json::array();
-        for (const BatchFile& file : batchFiles(options)) list.push_back({file.path, file.name, file.output});
+        for (const BatchFile& file : batchFiles(options)) {
+            list.push_back({file.path, file.name, file.output, file.channel});
+        }
         text = list.dump(-1, ' ', false, Json::error_handler_t::strict);
     }
     std::uint64_t size = text.size();
@@ -208,7 +210,7 @@ std::vector<BatchFile> sharedFiles(const BatchOptions& options) {
     text.resize(size);
     MPI_Bcast(text.data(), static_cast<int>(size), MPI_CHAR, 0, MPI_COMM_WORLD);
     std::vector<BatchFile> files;
-    for (const Json& one : Json::parse(text)) files.push_back({one[0], one[1], one[2]});
+    for (const Json& one : Json::parse(text)) files.push_back({one[0], one[1], one[2], one[3]});
     return files;
 }
 

@@ -90,6 +90,7 @@ std::optional<Piece> Dealer::next() {
         try {
             const Options one = optionsFor(options, files[file]);
             if (one.input.allowsDamage) return whole;  // a damaged file may hold less than it says
+            if (one.input.channel == everyChannel) return whole;
             recording.shape = shapeOf(one);
             recording.framesInPiece = framesInPiece(recording.shape);
             if (recording.shape.frames == 0 || recording.shape.samples <= mostSamples) return whole;

@@ -161,7 +161,8 @@ Framing framingOf(const Words& words) {
 InputOptions inputOf(const Words& words, const std::string& path) {
     InputOptions input;
     input.path = path;
-    input.channel = words["--channel"] == "mix" ? 0 : intOf(words, "--channel", 1);
+    const std::string& channel = words["--channel"];
+    input.channel = channel == "mix" ? 0 : channel == "each" ? everyChannel : intOf(words, "--channel", 1);
     const std::string& mark = words["--decimal"];
     if (mark != "point" && mark != "comma")
         throw UsageError("--decimal " + shownWord(mark) + ": neither point nor comma");

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 
 #include "frames.h"
@@ -110,6 +111,27 @@ Transform transformFor(const Options& options) {
 }
 
 }  // namespace
+
+std::vector<Options> runsOf(const Options& options) {
+    if (options.input.channel != everyChannel) return {options};
+    const bool isFile = options.writesSpectrum && options.output != "-";
+    if (options.writesSpectrum && !isFile) {
+        throw UsageError("--channel each: the channels do not fit into one output; name a file with --output");
+    }
+    const std::filesystem::path output = options.output;
+    std::vector<Options> runs;
+    const int channels = channelsOf(options.input);
+    for (int channel = 1; channel <= channels; ++channel) {
+        Options& one = runs.emplace_back(options);
+        one.input.channel = channel;
+        if (!isFile) continue;
+        std::filesystem::path name = output.stem();
+        name += "." + std::to_string(channel);
+        name += output.extension();
+        one.output = output.parent_path() / name;
+    }
+    return runs;
+}
 
 RunReport runSpectra(const Options& options, bool showsProgress) {
     Transform transform = transformFor(options);

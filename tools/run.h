@@ -18,6 +18,10 @@ struct RunReport {
     std::vector<std::string> warnings;  // about damage that is allowed
 };
 
+// The runs that --channel each stands for, one for each channel of the file, or the one that is given. The output of a
+// channel has its number before the suffix. Throws UserError.
+std::vector<Options> runsOf(const Options& options);
+
 // Throws UserError, and then the output is as it was before.
 RunReport runSpectra(const Options& options, bool showsProgress);
 

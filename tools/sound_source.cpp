@@ -31,16 +31,17 @@ public:
         if (info.samplerate < 1) throw UserError(name + ": the sound has no sample rate");
         if (info.frames >= 0 && info.frames < SF_COUNT_MAX) total = info.frames;
         if (!damage.empty()) reportDamage(*this, options, damage, goodSamples ? *goodSamples : total.value_or(0));
-        chosen = chosenChannels(options, name, info.channels);
+        channels = info.channels;
+        chosen = chosenChannels(options, name, channels);
         block.resize(blockFrames * static_cast<std::size_t>(info.channels));
     }
 
     std::size_t read(std::span<double> out) override {
         std::size_t count = 0;
-        const std::size_t channels = static_cast<std::size_t>(info.channels);
+        const std::size_t width = static_cast<std::size_t>(channels);
         while (count < out.size() && (next < filled || fill())) {
             const std::size_t some = std::min(out.size() - count, filled - next);
-            takeChannel(block.data() + next * channels, channels, chosen, out.subspan(count, some),
+            takeChannel(block.data() + next * width, width, chosen, out.subspan(count, some),
                         delivered - static_cast<std::int64_t>(filled - next), name);
             count += some;
             next += some;

@@ -139,6 +139,33 @@ class Batches(BatchTest):
                 for name in os.listdir(self.out):
                     os.unlink(os.path.join(self.out, name))
 
+    def test_each_channel_has_its_own_output(self):
+        noise = random.Random(3)
+        for name, count in (("one", 1), ("two", 2), ("deep/six", 6)):
+            waves = [[noise.uniform(-1, 1) for _ in range(200)] for _ in range(count)]
+            libsndfile.write(os.path.join(self.inputs, name + ".wav"), waves, "wav", "pcm24")
+        self.add("broken.wav", b"RIFF")
+        os.mkfifo(os.path.join(self.inputs, "pipe"))
+        options = ["--channel", "each", "--format", "csv", "--length", "8"]
+        summary = self.batch(*options, status=DAMAGED)
+        self.assertEqual((summary["files"], summary["done"]), (10, 9))
+        self.assertEqual([failure["file"] for failure in summary["failed"]], ["broken.wav"])
+        for name, count in (("one", 1), ("two", 2), ("deep/six", 6)):
+            for number in range(1, count + 1):
+                words = ["--length", "8", "--channel", str(number)]
+                self.assertEqual(self.output(f"{name}.wav.{number}"), self.single(name + ".wav", ".csv", *words))
+        # Started again, it goes on where it was: what is missing is made, and nothing else.
+        os.unlink(os.path.join(self.out, "deep/six.wav.4.csv"))
+        summary = self.batch(*options, status=DAMAGED)
+        self.assertEqual((summary["done"], summary["done_before"]), (1, 8))
+        # What can be read only once, and two files with one output.
+        done = run("batch", os.path.join(self.inputs, "pipe"), "--into", self.path("more"), *options)
+        self.assertEqual(done.returncode, FAILED)
+        self.assertIn(b"can be read only once", done.stderr)
+        self.add("two.wav.1", b"RIFF")
+        os.unlink(os.path.join(self.inputs, "broken.wav"))
+        self.refused("batch", self.inputs, "--into", self.path("mixed"), *options, says="two inputs would have one")
+
     def reads(self, process, path):
         folder = f"/proc/{process}/fd"
         place = os.path.realpath(path)

@@ -81,6 +81,19 @@ class Cluster(unittest.TestCase):
         done = run([*mpirun(2), inputs, "--into", ranks, "--format", kind, "--split", 3000, "--json", *OPTIONS])
         self.assertEqual(json.JSONDecoder().raw_decode(done.stdout.decode())[0]["done_before"], 10)
 
+    def test_each_channel_is_split_by_itself(self):
+        source, folder = random.Random(2), self.folder / "in"
+        folder.mkdir()
+        for i in range(3):
+            channels = [[source.randrange(-9000, 9000) for _ in range(9000)] for _ in range(i + 1)]
+            (folder / f"{i}.wav").write_bytes(sound_files.wav(channels))
+        alone, ranks = self.folder / "alone", self.folder / "ranks"
+        options = ["--format", "csv", "--channel", "each", *OPTIONS]
+        self.assertEqual(run([PROGRAMS / "zulspectrum", "batch", folder, "--into", alone, *options]).returncode, 0)
+        self.assertEqual(run([*mpirun(3), folder, "--into", ranks, "--split", 3000, *options]).returncode, 0)
+        self.assertEqual(len(files_of(alone)), 6)
+        self.expect_same(alone, ranks)
+
     def test_a_damaged_recording_that_is_split(self):
         inputs = self.folder / "in"
         inputs.mkdir()

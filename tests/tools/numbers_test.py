@@ -12,7 +12,7 @@ import scipy.signal
 
 import libsndfile
 import sound_files
-from tool import ToolTest, main, numbers, run
+from tool import ToolTest, content_of, main, numbers, run
 
 WINDOWS = {"boxcar": "boxcar", "hann": "hann", "hamming": "hamming", "blackman": "blackman",
            "blackmanharris": "blackmanharris", "nuttall": "nuttall", "flattop": "flattop", "bartlett": "bartlett",
@@ -158,6 +158,48 @@ class Numbers(ToolTest):
                               ("mix", numpy.mean(channels, axis=0))):
                 found = self.array(path, "--length", 5, "--channel", word)
                 numpy.testing.assert_allclose(found, numpy.fft.fft(frames_of(due, 5, 5)), rtol=0, atol=1e-14)
+
+    def test_each_channel_has_its_own_output(self):
+        channels = [list(random.integers(-4000, 4000, 300) / 8192) for _ in range(3)]
+        for kind, code in (("wav", "pcm16"), ("flac", "pcm16"), ("caf", "double")):
+            path = libsndfile.write(self.path("three." + kind), channels, kind, code)
+            for form in ("csv", "npy", "png"):
+                output = self.path("out." + form)
+                reports = json.loads(self.ok(path, "--length", 6, "--channel", "each", "--output", output, "--json"))
+                self.assertEqual([report["channel"] for report in reports], ["1", "2", "3"])
+                for number, report in zip("123", reports):
+                    single = self.path("single." + form)
+                    self.ok(path, "--length", 6, "--channel", number, "--output", single)
+                    self.assertEqual(report["output"], self.path(f"out.{number}.{form}"))
+                    self.assertEqual(content_of(report["output"]), content_of(single), (kind, form, number))
+                    os.unlink(report["output"])
+                self.assertFalse(os.path.exists(output))
+            errors = [self.ok(path, "--length", 6, "--channel", number, "--check", "--json") for number in "123"]
+            together = json.loads(self.ok(path, "--length", 6, "--channel", "each", "--check", "--json"))
+            self.assertEqual([json.loads(error) for error in errors], together)
+        # A name without a suffix, in a folder whose name has a point.
+        os.makedirs(self.path("a.b"))
+        self.ok(path, "--channel", "each", "--format", "csv", "--output", self.path("a.b/spectra"))
+        self.assertEqual(sorted(os.listdir(self.path("a.b"))), ["spectra.1", "spectra.2", "spectra.3"])
+        # One channel, and numbers, are told apart from several by nothing.
+        self.ok(self.path("numbers.txt", b"1 2 3 4"), "--length", 2, "--channel", "each", "--output", self.path("n.csv"))
+        self.assertTrue(os.path.exists(self.path("n.1.csv")))
+
+    def test_each_channel_needs_files(self):
+        path = libsndfile.write(self.path("two.wav"), [[0.5] * 64] * 2, "wav", "pcm16")
+        self.refused(path, "--length", 4, "--channel", "each", says="into one output; name a file")
+        self.refused("-", "--length", 4, "--channel", "each", "--output", self.path("a.csv"), given=content_of(path),
+                     says="--channel each: standard input can be read only once; name a file")
+        self.refused(path, "--length", 4, "--channel", "every", "--output", self.path("a.csv"),
+                     says="--channel every")
+        self.refused(self.path("none.wav"), "--length", 4, "--channel", "each", "--output", self.path("a.csv"),
+                     says="No such file")
+        # An output that would be the input.
+        before = content_of(path)
+        os.rename(path, self.path("a.1.csv"))
+        self.refused(self.path("a.1.csv"), "--length", 4, "--channel", "each", "--output", self.path("a.csv"),
+                     says="the input itself")
+        self.assertEqual(content_of(self.path("a.1.csv")), before)
 
     def test_formats_hold_the_same_numbers(self):
         sound = self.path("in.wav", sound_files.wav([list(map(int, random.integers(-9000, 9000, 200)))], rate=8000))

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "kernel/lanes.h"
+#include "kernel/upper_halves.h"
 #include "wht/bodies/wht_2.h"
 #include "wht/bodies/wht_4.h"
 #include "wht/checks.h"
@@ -99,10 +100,12 @@ Status ZULG_CALL whtInLanes(const Element* pSrc, Element* pDst, std::int32_t fla
                 WhtBlock<points>::run(WhtScaledPorts<Element, TargetNumbers, 1>{{pSrc, pDst}, scale});
             } else if constexpr (order < lowestBufferedOrder) {
                 WhtBlock<points / width>::run(Scaled<BlockOfRegisters<Element>>{{{pSrc, pDst}}, Register(scale)});
+                cleanUpperHalves();
             } else {
                 withBuffer<order>(
                     pBuffer, [=](Element * buffer) __attribute__((always_inline)) {
                         whtPasses<order, LoopsInLanes>(pSrc, pDst, buffer, Register(scale));
+                        cleanUpperHalves();
                     });
             }
         });

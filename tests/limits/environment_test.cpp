@@ -119,7 +119,7 @@ protected:
         State found{};
         if (canAskForUpperHalves()) __asm__ volatile("vzeroupper" ::: "memory");
         EXPECT_EQ(callAndLook(routine, &found, pSrc, pDst, third, fourth), StatusOk);
-        if (canAskForUpperHalves() && transform.order < 3) {
+        if (canAskForUpperHalves()) {
             EXPECT_FALSE(upperHalvesAreInUse());
         }
         return found;

@@ -1,0 +1,122 @@
+"""Mutants of plans, passes, boundary and batches, and of the headers that these share with kernels. The build's objects
+that see a mutant are compiled again, with little optimisation, and linked with all others: to a library, or to a test
+that has sources of the library linked in. Short judges come first: the bits of some exports, then test programs.
+"""
+import os
+import re
+import subprocess
+
+from build import Build
+from faults import code_faults, text_faults
+
+# Judges, short ones first:
+#     bits PATTERN        digests of the exports whose names contain PATTERN
+#     table               digests of the DCT-IV over tables of integers, with the plan's sources linked in
+#     run PROGRAM ...     a test program with the mutant in place of the library
+#     link PROGRAM ...    a test program that has sources of the library linked in
+WHOLE_DCT4 = "run dct4_test --gtest_filter=-*Stack*"
+JUDGES = {
+    r"dct4/(combine|fold|output|run|split|ports|lane_ports|in_lanes|[a-z]+_in_lanes)\.|dct4/bodies/":
+        ["bits DCT4", "table", "link dct4_plain_test", WHOLE_DCT4],
+    r"dct4/": ["link plan_test", "bits DCT4", "table", "link table_arguments_test", WHOLE_DCT4],
+    r"wht/": ["bits WHT", "run wht_test"],
+    r"boundary/(allocator_hook|load_entry|load_elf|shared_library_elf)\.":
+        ["link hook_binding_test", "link hook_companion_test", "run hook_library_test"],
+    r"boundary/": ["run boundary_test", "bits WHT", "bits "],
+    r"batch/": ["run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
+                "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
+    r"targets/": ["bits _5_", "run boundary_test"],
+    r"kernel/": ["bits WHT", "bits DCT4", "table"],
+}
+# Files without a mutant: those that this target does not compile, those that are no code but declarations, and the
+# ports of batches, which hundreds of objects see.
+LEFT_OUT = (r"boundary/(entries|entry_call|load_levels|load_standard|settle\w*|\w*windows|static_names)\.|"
+            r"batch/(entries|load|one_ports|many_ports|many|many_transforms|many_routines|many_texts)\.|"
+            r"wht/(small_orders|large_orders)\.|.*entries\.inc$")
+FOLDERS = ("boundary", "wht", "dct4", "batch")
+LEVELS = ("has_avx2.h", "levels.h", "processor_level.cpp")
+SECONDS = 60
+
+
+def read_digests(path):
+    digests = {}
+    with open(path, encoding="ascii") as file:
+        for line in file:
+            if not line.startswith("#"):
+                key, digest = line.rstrip("\n").rsplit(" ", 1)
+                digests[key] = digest
+    return digests
+
+
+class Library:
+    def __init__(self, tree, build, folder):
+        self.tree, self.build = tree, Build(build)
+        self.folder = folder
+        os.makedirs(folder, exist_ok=True)
+        bits = os.path.join(tree, "tests/same_bits")
+        self.digests = read_digests(os.path.join(bits, "digests.txt"))
+        self.table = read_digests(os.path.join(bits, "table_digests.txt"))
+        self.build.join_kernels(folder)
+
+    def mutants(self):
+        paths = [f"{folder}/{name}" for folder in FOLDERS for name in sorted(os.listdir(os.path.join(self.tree, folder)))
+                 if re.search(r"\.(h|cpp)$", name) and not re.match(LEFT_OUT, f"{folder}/{name}")]
+        for path in paths + [f"targets/x86_64/{name}" for name in LEVELS]:
+            with open(os.path.join(self.tree, path), encoding="utf-8") as file:
+                lines = file.read().split("\n")
+            for fault in self.faults(path, lines):
+                yield path, fault
+
+    @staticmethod
+    def faults(path, lines):
+        return text_faults(lines) if "/bodies/" in path else code_faults(lines)
+
+    def outcome(self, folder, path):
+        """How a mutant ends: compiler, survives, or the judge that sees it."""
+        objects = self.build.compile_users(folder, path)
+        if objects is None:
+            return "compiler"
+        libraries = None
+        for pattern, judges in JUDGES.items():
+            if re.match(pattern, path):
+                break
+        for judge in judges:
+            kind, *words = judge.split(" ")
+            if kind != "link" and libraries is None:
+                libraries = self.build.link_libraries(folder, objects)
+                if libraries is None:
+                    return "compiler"
+            if not self.passes(kind, words, folder, objects, libraries):
+                return judge
+        return "survives"
+
+    def passes(self, kind, words, folder, objects, libraries):
+        if kind == "bits":
+            done = self.started([self.build.path("digests"), libraries["main"], *words])
+            return done is not None and self.same(done, self.digests)
+        if kind == "table":
+            program = self.build.link_program(folder, "table_digests", objects)
+            done = program and self.started([program, libraries["main"]])
+            return bool(done) and self.same(done, self.table)
+        if kind == "link":
+            program = self.build.link_program(folder, words[0], objects)
+            return program is not None and self.started([program, "--gtest_brief=1", *words[1:]]) is not None
+        environment = {"ZULG_TEST_LIBRARY": libraries["main"], "ZULG_TEST_BATCH_LIBRARY": libraries["batch"],
+                       "LD_LIBRARY_PATH": os.path.dirname(libraries["main"])}
+        return self.started([self.build.path(words[0]), "--gtest_brief=1", *words[1:]], environment) is not None
+
+    @staticmethod
+    def same(lines, due):
+        found = dict(line.rsplit(" ", 1) for line in lines.splitlines() if " is missing" not in line)
+        common = [key for key in found if key in due]
+        return bool(common) and all(found[key] == due[key] for key in common)
+
+    def started(self, command, environment=None):
+        """What a program prints, or null if it fails, crashes or hangs."""
+        try:
+            done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+                                  errors="replace", timeout=SECONDS, check=False,
+                                  env={**os.environ, **(environment or {})})
+        except subprocess.TimeoutExpired:
+            return None
+        return done.stdout if done.returncode == 0 else None

@@ -25,7 +25,7 @@ JUDGES = {
     r"boundary/": ["run boundary_test", "bits WHT", "bits "],
     r"batch/": ["run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
                 "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
-    r"targets/": ["bits _5_", "run boundary_test"],
+    r"targets/": ["bits _5_", "run best_level_test", "run boundary_test"],
     r"kernel/": ["bits WHT", "bits DCT4", "table"],
 }
 # Files without a mutant: those that this target does not compile, those that are no code but declarations, and the

@@ -2,7 +2,7 @@
 
 mutate.py run TREE BUILD COUNT [SEED [SECONDS]]    judges mutants until COUNT are known in BUILD/mutation/outcomes.txt,
                                                    or the seconds are over; a mutant that is known is not judged again
-mutate.py tell TREE BUILD [SEED]                   prints tables of what is known, and those that survive
+mutate.py tell TREE BUILD                          prints tables of what is known, and those that survive
 
 A mutant is killed if a test fails, if the bits of a result are not those of tests/same_bits, or if the program crashes
 or hangs. What does not compile is no mutant. What survives and computes the same all the same is in equivalent.txt,
@@ -124,13 +124,66 @@ def run(tree, build, count, seed, seconds):
     return 0
 
 
+def equivalents_of(tree):
+    """The reason of each mutant in equivalent.txt."""
+    reasons = {}
+    with open(os.path.join(tree, "tests/mutation/equivalent.txt"), encoding="utf-8") as file:
+        for line in file:
+            if line.startswith("#") or not line.strip():
+                continue
+            name, bar, reason = line.rstrip("\n").rpartition(" | ")
+            if not bar:
+                sys.exit(f"equivalent.txt: no reason in: {line.strip()}")
+            reasons[name] = reason
+    return reasons
+
+
+ENDS = ["other bits", "a failed test", "a crash", "equivalent", "survives"]
+
+
+def end_of(name, outcome, reasons):
+    if outcome == "survives":
+        return "equivalent" if name in reasons else "survives"
+    if outcome == "crash":
+        return "a crash"
+    return "other bits" if outcome == "table" or outcome.startswith("bits") else "a failed test"
+
+
+def folder_of(name):
+    """kernels/complex of `generic kernels/complex/dft_5.h:12: ...`."""
+    return os.path.dirname(name.split(":")[0].split(" ")[-1])
+
+
+def tell(tree, build):
+    known = outcomes_of(os.path.join(build, "mutation", "outcomes.txt"))
+    reasons = equivalents_of(tree)
+    by_kind, by_folder = (collections.defaultdict(collections.Counter) for _ in range(2))
+    ends = {name: end_of(name, outcome, reasons) for name, (_, outcome) in known.items() if outcome != "compiler"}
+    for name, end in ends.items():
+        by_kind[known[name][0]][end] += 1
+        by_folder[folder_of(name)][end] += 1
+    for title, table in (("folder", by_folder), ("fault", by_kind)):
+        print(f"| {title} | mutants | " + " | ".join(ENDS) + " |\n|---|" + "--:|" * (len(ENDS) + 1))
+        for row in sorted(table):
+            print(f"| {row} | {table[row].total()} | " + " | ".join(str(table[row][end]) for end in ENDS) + " |")
+        whole = sum(table.values(), collections.Counter())
+        print(f"| all | {whole.total()} | " + " | ".join(str(whole[end]) for end in ENDS) + " |\n")
+    print(f"Beside these, {len(known) - len(ends)} faults did not compile.\n")
+    print("The reasons of those that are equivalent are in `tests/mutation/equivalent.txt`.\n")
+    survivors = sorted(name for name, end in ends.items() if end == "survives")
+    print("Survivors: none." if not survivors else "Survivors:\n\n" + "\n".join(f"- `{name}`" for name in survivors))
+    return 1 if survivors else 0
+
+
 def main():
     verb, tree, build, *numbers = sys.argv[1:]
     tree, build = os.path.abspath(tree), os.path.abspath(build)
     if verb == "run":
         count, seed, seconds = (numbers + ["", "", ""])[:3]
         return run(tree, build, int(count), int(seed or 1), float(seconds or "inf"))
-    return 1
+    if verb == "tell":
+        return tell(tree, build)
+    sys.exit(__doc__.strip())
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
 // Which level of a routine the library runs: on a processor with AVX2 that of AVX2, and nothing of the first one. Bits
 // cannot tell, since both levels give the same. Instructions of AVX write whole vector registers, those of SSE leave
-// the upper halves as they are. The first level by itself, where these stay, shows that the test can tell the two apart.
+// the upper halves as they are. The first level by itself, where these stay, shows that the test can tell the two
+// apart.
 #include <cstdlib>
 
 #include "tests/transforms/kernel_fixture.h"

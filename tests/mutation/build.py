@@ -15,10 +15,11 @@ OWN = (r"CMakeFiles/zulgenpx\.dir/|CMakeFiles/zulgenpx_lane_passes_x86_64_v3\.di
 
 
 class Build:
-    def __init__(self, folder):
+    def __init__(self, folder, everything=False):
         self.folder = os.path.abspath(folder)
         self.commands = {entry["output"]: entry for entry in json.loads(self.ninja("-t", "compdb"))
-                         if entry["output"].endswith(".o") and re.match(OWN + "|tests/", entry["output"])}
+                         if entry["output"].endswith(".o")
+                         and (everything or re.match(OWN + "|tests/", entry["output"]))}
         self.users = {}
         user = None
         for line in self.ninja("-t", "deps").splitlines():
@@ -73,7 +74,8 @@ class Build:
         source = entry["file"]
         if os.path.normpath(os.path.join(self.folder, source)) == os.path.join(self.tree, path):
             source = os.path.join(folder, path)
-        return [words[0], f"-I{folder}", *words[1:], *flags, "-c", source, "-o", output]
+        own = [f"-I{folder}"] if folder else []
+        return [words[0], *own, *words[1:], *flags, "-c", source, "-o", output]
 
     def link_libraries(self, folder, objects):
         """The library and the batch library with these objects in place of the build's; null if one does not link."""
@@ -105,16 +107,17 @@ class Build:
     def is_of(self, library, user):
         return user in self.links[library]
 
-    def link_program(self, folder, name, objects):
+    def link_program(self, folder, name, objects, options=()):
         """A program of the build with these objects in place of its own, or before the archives that have them."""
         if name not in self.links:
             self.links[name] = shlex.split(self.ninja("-t", "commands", name).splitlines()[-1])
         words = [objects.get(word, word) for word in self.links[name]]
         own = [path for user, path in objects.items()
-               if user not in self.links[name] and re.match(r"CMakeFiles/zulgenpx\.dir/dct4/", user)
+               if user not in self.links[name] and re.match(r"CMakeFiles/zulgenpx\.dir/dct4/|generator/", user)
                and self.has_source(name, user)]
         at = words.index("-o")
         words[at:at] = own
+        words += options
         path = os.path.join(folder, name)
         return path if self.linked(words, name, path) else None
 

@@ -17,6 +17,23 @@ TARGET_OF_FORM = {"scalar": "generic", "pairs": "x86_64", "lines": "x86_64_v3"}
 COMPLEX = ("DFTFwd_CToC", "DFTInv_CToC")
 ELEMENTS = {"double": "64f", "float": "32f"}
 
+# The kernel of a text that is named. It is that of kernel/kernel_body.h, which finds its text by family and length.
+HEAD = """#include <cstdlib>
+namespace zulg {
+inline namespace ZULG_TARGET {
+template <class Graph, Family family, int length, class Element>
+Status ownKernel(const Element* pSrc, Element* pDst, std::int32_t flag) {
+    using Factor = Scale<Element, length, Graph>;
+    return withScale<typename FlagsOf<family>::Flags, Factor>(pSrc, pDst, flag, [=](Element scale) {
+        const typename PortsOf<family, Graph, Element>::Type io{{pSrc, pDst, scale}};
+        Graph::run(io);
+        io.finish();
+    });
+}
+}
+}
+"""
+
 
 class Text:
     """A row of kernels/texts.cmake, or a block of the Walsh-Hadamard family."""
@@ -104,12 +121,13 @@ class Kernels:
                                "-lm", "-lc", "-lgcc"], stderr=subprocess.PIPE, check=False)
         return library if done.returncode == 0 else None
 
-    def judged(self, library, names):
+    def judged(self, library, names, environment=None):
         """How the kernels of a library end: survives, crash or bits."""
         for name in names:
             try:
                 done = subprocess.run([self.digests, library, name], stdout=subprocess.PIPE,
-                                      stderr=subprocess.DEVNULL, text=True, timeout=60, check=False)
+                                      stderr=subprocess.DEVNULL, text=True, timeout=60, check=False,
+                                      env={**os.environ, **(environment or {})})
             except subprocess.TimeoutExpired:
                 return "crash"
             if done.returncode != 0:
@@ -118,6 +136,34 @@ class Kernels:
             if not found or found != self.due[name]:
                 return "bits"
         return "survives"
+
+    def outcomes_of_texts(self, folder, text, faults):
+        """The outcomes of several mutants of one text, which are compiled together: a library of them all, whose entry
+        goes to the one that an environment variable names. None if they do not compile together."""
+        with open(os.path.join(self.tree, text.path), encoding="utf-8") as file:
+            lines = file.read().split("\n")
+        family = text.families[0]
+        parts = [text.source([family]), HEAD]
+        for number, (_, line, changed) in enumerate(faults):
+            own = f"{text.graph}_{number}"
+            mutant = "\n".join(lines[:line] + [changed] + lines[line + 1:])
+            parts.append(f"namespace zulg {{\ntemplate <int length>\nstruct {own};\n"
+                         "inline namespace ZULG_TARGET {\ntemplate <Family family, int length, class Element>\n"
+                         f"struct PortsOf<family, {own}<length>, Element> : "
+                         f"PortsOf<family, {text.graph}<length>, Element> {{}};\n}}\n}}\n")
+            parts.append(re.sub(rf"\b{text.graph}\b", own, mutant.replace("#pragma once", "")))
+        name = text.name(family, "double")
+        routines = ", ".join(f"ownKernel<{text.graph}_{number}<{text.length}>, Family::{family}, {text.length}, double>"
+                             for number in range(len(faults)))
+        arguments = "(const double* a, double* b, std::int32_t f)"
+        parts.append(f"namespace zulg {{\nstatic KernelRoutine<double> const routines[] = {{{routines}}};\n}}\n"
+                     f'int own_{name}{arguments} __asm__("{name}");\nint own_{name}{arguments} '
+                     '{ return zulg::routines[std::atoi(std::getenv("ZULG_MUTANT"))](a, b, f); }\n')
+        library = self.compiled(folder, TARGET_OF_FORM[text.form], "".join(parts),
+                                os.path.join(self.folder, TARGET_OF_FORM[text.form]))
+        if library is None:
+            return None
+        return [self.judged(library, [name], {"ZULG_MUTANT": str(number)}) for number in range(len(faults))]
 
     def text_outcome(self, folder, text, families, elements):
         entries = list(text.entries(families, elements))

@@ -23,7 +23,8 @@ JUDGES = {
     r"boundary/(allocator_hook|load_entry|load_elf|shared_library_elf)\.":
         ["link hook_binding_test", "link hook_companion_test", "run hook_library_test"],
     r"boundary/": ["run boundary_test", "bits WHT", "bits "],
-    r"batch/": ["run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
+    r"batch/": ["run batch_fast_shapes_test",
+                "run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
                 "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
     r"targets/": ["bits _5_", "run best_level_test", "run boundary_test"],
     r"kernel/": ["bits WHT", "bits DCT4", "table"],

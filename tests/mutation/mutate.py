@@ -19,9 +19,10 @@ import time
 from kernels import TARGET_OF_FORM, Kernels, Probes
 from library import Library
 
-# Of the mutants, so many are in texts: 40 in 100, of these one in ten in a text of more than 150 steps, which takes
-# longer to compile and is no other.
-TEXTS = 0.4
+# How many mutants of one text are compiled together, and how often these are taken in place of one mutant of other
+# code. One in ten is in a text of more than 150 steps, which takes longer to compile and is no other.
+TOGETHER = 12
+TEXTS = 0.25
 LONG_TEXTS = 1 / 10
 
 
@@ -64,13 +65,29 @@ class Run:
         self.choose.shuffle(code)
         while True:
             if code and self.choose.random() >= TEXTS:
-                yield code.pop()
-            else:
-                text = self.choose.choice(long if self.choose.random() < LONG_TEXTS else short)
-                faults = list(self.kernels.faults_of(text))
-                kind = self.choose.choice(sorted({fault[0] for fault in faults}))
-                fault = self.choose.choice([fault for fault in faults if fault[0] == kind])
-                yield Mutant(self.kernels.outcome_of_text, f"{TARGET_OF_FORM[text.form]} ", text.path, fault, text)
+                yield [code.pop()]
+                continue
+            text = self.choose.choice(long if self.choose.random() < LONG_TEXTS else short)
+            of_kind = collections.defaultdict(list)
+            for fault in self.kernels.faults_of(text):
+                of_kind[fault[0]].append(fault)
+            faults = {}
+            for _ in range(TOGETHER):
+                fault = self.choose.choice(of_kind[self.choose.choice(sorted(of_kind))])
+                faults[fault[1:]] = fault
+            yield [Mutant(self.kernels.outcome_of_text, f"{TARGET_OF_FORM[text.form]} ", text.path, fault, text)
+                   for fault in faults.values()]
+
+    def outcomes(self, mutants):
+        """How each of some mutants ends: those of a text are judged together, and what is not killed once more."""
+        found = None
+        if len(mutants) > 1 and mutants[0].subject.families != ["WHT"]:
+            with tempfile.TemporaryDirectory() as folder:
+                found = self.kernels.outcomes_of_texts(
+                    folder, mutants[0].subject, [(mutant.kind, mutant.line, mutant.changed) for mutant in mutants])
+        for number, mutant in enumerate(mutants):
+            outcome = found[number] if found else "survives"
+            yield mutant, outcome if outcome != "survives" else mutant.outcome(self.tree)
 
     def judge_of_header(self, folder, path):
         """The kernels first; what they do not see is shown to all else that includes the header."""
@@ -106,15 +123,13 @@ def run(tree, build, count, seed, seconds):
                 with lock:
                     if done >= count or time.time() - started >= seconds:
                         return
-                    mutant = next(mutants)
-                    if mutant.name in known:
-                        continue
-                    known[mutant.name] = mutant.kind, None
-                outcome = mutant.outcome(tree)
-                with lock:
-                    done += outcome != "compiler"
-                    file.write(f"{mutant.kind}\t{outcome}\t{mutant.name}\n")
-                    file.flush()
+                    chosen = [mutant for mutant in next(mutants) if mutant.name not in known]
+                    known.update((mutant.name, None) for mutant in chosen)
+                for mutant, outcome in mutation.outcomes(chosen):
+                    with lock:
+                        done += outcome != "compiler"
+                        file.write(f"{mutant.kind}\t{outcome}\t{mutant.name}\n")
+                        file.flush()
 
         threads = [threading.Thread(target=work) for _ in range(2)]
         for thread in threads:

@@ -2,6 +2,7 @@
 // other.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <cstring>
 
 #include "boundary/allocator_hook.h"
@@ -13,10 +14,16 @@
 namespace test {
 namespace {
 
+// One with a change in it may take the place of the library: scripts/mutate.
+const char* libraryPath() {
+    const char* const other = std::getenv("ZULG_TEST_LIBRARY");
+    return other != nullptr ? other : ZULG_LIBRARY;
+}
+
 // Loads the library anew for each test. The objects of the library are no part of this program.
 class LibraryTest : public testing::Test {
 protected:
-    LibraryTest() : library(ZULG_LIBRARY), hook(static_cast<zulg::AllocatorHook*>(library.writableData().start)) {}
+    LibraryTest() : library(libraryPath()), hook(static_cast<zulg::AllocatorHook*>(library.writableData().start)) {}
     ~LibraryTest() override {
         releaseCompanion();
         library.release();

@@ -74,7 +74,9 @@ class Build:
         source = entry["file"]
         if os.path.normpath(os.path.join(self.folder, source)) == os.path.join(self.tree, path):
             source = os.path.join(folder, path)
-        own = [f"-I{folder}"] if folder else []
+        # Each folder of the tree in which headers are searched, as it is with the change.
+        own = [word.replace(f"-I{self.tree}", f"-I{folder}") for word in words
+               if folder and (word == f"-I{self.tree}" or word.startswith(f"-I{self.tree}/targets/"))]
         return [words[0], *own, *words[1:], *flags, "-c", source, "-o", output]
 
     def link_libraries(self, folder, objects):

@@ -5,6 +5,7 @@ that has sources of the library linked in. Short judges come first: the bits of 
 import os
 import re
 import subprocess
+import sys
 
 from build import Build
 from faults import code_faults, text_faults
@@ -12,6 +13,8 @@ from faults import code_faults, text_faults
 # Judges, short ones first:
 #     bits PATTERN        digests of the exports whose names contain PATTERN
 #     table               digests of the DCT-IV over tables of integers, with the plan's sources linked in
+#     old PATTERN         the same on an emulated processor without AVX
+#     processors          what the library asks emulated processors
 #     run PROGRAM ...     a test program with the mutant in place of the library
 #     link PROGRAM ...    a test program that has sources of the library linked in
 WHOLE_DCT4 = "run dct4_test --gtest_filter=-*Stack*"
@@ -26,8 +29,9 @@ JUDGES = {
     r"batch/": ["run batch_fast_shapes_test",
                 "run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
                 "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
-    r"targets/": ["bits _5_", "run best_level_test", "run boundary_test"],
-    r"kernel/": ["bits WHT", "bits DCT4", "table"],
+    r"targets/": ["bits _5_", "run best_level_test", "old zulgDFTFwd_CToC_5_32fc",
+                  "processors"],
+    r"kernel/": ["bits WHT", "bits DCT4", "table", "run batch_test --gtest_filter=*Fast*:*InPlace*"],
 }
 # Files without a mutant: those that this target does not compile, those that are no code but declarations, and the
 # ports of batches, which hundreds of objects see.
@@ -92,13 +96,20 @@ class Library:
         return "survives"
 
     def passes(self, kind, words, folder, objects, libraries):
-        if kind == "bits":
-            done = self.started([self.build.path("digests"), libraries["main"], *words])
+        if kind in ("bits", "old"):
+            emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind == "old" else []
+            done = self.started([*emulator, self.build.path("digests"), libraries["main"], *words])
             return done is not None and self.same(done, self.digests)
         if kind == "table":
             program = self.build.link_program(folder, "table_digests", objects)
             done = program and self.started([program, libraries["main"]])
             return bool(done) and self.same(done, self.table)
+        if kind == "processors":
+            levels, program = os.path.join(self.tree, "tests/levels"), os.path.join(folder, "has_avx2")
+            subprocess.run(["g++", "-std=c++20", f"-I{folder}", f"-I{self.tree}", os.path.join(levels, "has_avx2.cpp"),
+                            "-o", program], stderr=subprocess.DEVNULL, check=False)
+            return self.started([sys.executable, os.path.join(levels, "processors.py"), "qemu-x86_64",
+                                 program]) is not None
         if kind == "link":
             program = self.build.link_program(folder, words[0], objects)
             return program is not None and self.started([program, "--gtest_brief=1", *words[1:]]) is not None

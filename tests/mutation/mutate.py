@@ -1,8 +1,9 @@
 """Puts one small fault after another into the sources of the library and asks the tests whether they see it.
 
-mutate.py run TREE BUILD COUNT [SEED [SECONDS]]    judges mutants until COUNT are known in BUILD/mutation/outcomes.txt,
-                                                   or the seconds are over; a mutant that is known is not judged again
-mutate.py tell TREE BUILD                          prints tables of what is known, and those that survive
+mutate.py run TREE BUILD COUNT [SEED [SECONDS [PATH]]]   judges mutants until COUNT are known in
+                                            BUILD/mutation/outcomes.txt, or the seconds are over; a mutant that is known
+                                            is not judged again. With a pattern for paths, those of code in such files
+mutate.py tell TREE BUILD                   prints tables of what is known, and those that survive
 
 A mutant is killed if a test fails, if the bits of a result are not those of tests/same_bits, or if the program crashes
 or hangs. What does not compile is no mutant. What survives and computes the same all the same is in equivalent.txt,
@@ -11,6 +12,7 @@ with the reason. The faults are told in faults.py; who judges which source, in k
 import collections
 import os
 import random
+import re
 import sys
 import tempfile
 import threading
@@ -49,8 +51,8 @@ class Mutant:
 
 
 class Run:
-    def __init__(self, tree, build, seed, folder):
-        self.tree = tree
+    def __init__(self, tree, build, seed, folder, pattern):
+        self.tree, self.pattern = tree, pattern
         self.kernels = Kernels(tree, os.path.join(build, "digests"), folder)
         self.probes = Probes(self.kernels)
         self.library = Library(tree, build, os.path.join(folder, "library"))
@@ -62,9 +64,10 @@ class Run:
         long = [text for text in self.kernels.texts if text.steps > 150]
         code = [Mutant(self.judge_of_header, "", path, fault, path) for path, fault in self.probes.mutants()]
         code += [Mutant(self.library.outcome, "", path, fault, path) for path, fault in self.library.mutants()]
+        code = [mutant for mutant in code if re.match(self.pattern or "", mutant.path)]
         self.choose.shuffle(code)
-        while True:
-            if code and self.choose.random() >= TEXTS:
+        while code or not self.pattern:
+            if code and (self.pattern or self.choose.random() >= TEXTS):
                 yield [code.pop()]
                 continue
             text = self.choose.choice(long if self.choose.random() < LONG_TEXTS else short)
@@ -105,14 +108,14 @@ def outcomes_of(path):
     return known
 
 
-def run(tree, build, count, seed, seconds):
+def run(tree, build, count, seed, seconds, pattern):
     started = time.time()
     path = os.path.join(build, "mutation", "outcomes.txt")
     os.makedirs(os.path.dirname(path), exist_ok=True)
     known = outcomes_of(path)
     lock = threading.Lock()
     with tempfile.TemporaryDirectory() as folder, open(path, "a", encoding="utf-8") as file:
-        mutation = Run(tree, build, seed, folder)
+        mutation = Run(tree, build, seed, folder, pattern)
         done = sum(outcome != "compiler" for _, outcome in known.values())
 
         mutants = mutation.mutants()
@@ -123,7 +126,10 @@ def run(tree, build, count, seed, seconds):
                 with lock:
                     if done >= count or time.time() - started >= seconds:
                         return
-                    chosen = [mutant for mutant in next(mutants) if mutant.name not in known]
+                    chosen = next(mutants, None)
+                    if chosen is None:
+                        return
+                    chosen = [mutant for mutant in chosen if mutant.name not in known]
                     known.update((mutant.name, None) for mutant in chosen)
                 for mutant, outcome in mutation.outcomes(chosen):
                     with lock:
@@ -194,8 +200,8 @@ def main():
     verb, tree, build, *numbers = sys.argv[1:]
     tree, build = os.path.abspath(tree), os.path.abspath(build)
     if verb == "run":
-        count, seed, seconds = (numbers + ["", "", ""])[:3]
-        return run(tree, build, int(count), int(seed or 1), float(seconds or "inf"))
+        count, seed, seconds, pattern = (numbers + [""] * 4)[:4]
+        return run(tree, build, int(count), int(seed or 1), float(seconds or "inf"), pattern)
     if verb == "tell":
         return tell(tree, build)
     sys.exit(__doc__.strip())

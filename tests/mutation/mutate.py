@@ -4,6 +4,7 @@ mutate.py run TREE BUILD COUNT [SEED [SECONDS [PATH]]]   judges mutants until CO
                                             BUILD/mutation/outcomes.txt, or the seconds are over; a mutant that is known
                                             is not judged again. With a pattern for paths, those of code in such files
 mutate.py tell TREE BUILD                   prints tables of what is known, and those that survive
+mutate.py reasons TREE                      holds that every mutant of equivalent.txt is one of its file
 
 A mutant is killed if a test fails, if the bits of a result are not those of tests/same_bits, or if the program crashes
 or hangs. What does not compile is no mutant. What survives and computes the same all the same is in equivalent.txt,
@@ -18,13 +19,14 @@ import tempfile
 import threading
 import time
 
+from faults import code_faults, text_faults
 from kernels import TARGET_OF_FORM, Kernels, Probes
 from library import Library
 
 # How many mutants of one text are compiled together, and how often these are taken in place of one mutant of other
 # code. One in ten is in a text of more than 150 steps, which takes longer to compile and is no other.
-TOGETHER = 12
-TEXTS = 0.25
+TOGETHER = 24
+TEXTS = 0.5
 LONG_TEXTS = 1 / 10
 
 
@@ -196,7 +198,28 @@ def tell(tree, build):
     return 1 if survivors else 0
 
 
+def check_reasons(tree):
+    """Whether the mutants of equivalent.txt are still those of the sources: a line may have changed, or have moved."""
+    faults = 0
+    for name in equivalents_of(tree):
+        where, line, changed = name.split(":", 2)
+        path = os.path.join(tree, where.split(" ")[-1])
+        if os.path.exists(path):
+            with open(path, encoding="utf-8") as file:
+                lines = file.read().split("\n")
+            of_file = text_faults(lines) if "/bodies/" in path or "/kernels/" in path else code_faults(lines)
+            if any((n + 1, text.strip() or "(nothing)") == (int(line), changed.strip()) for _, n, text in of_file):
+                continue
+        print(f"equivalent.txt: there is no such mutant: {name}")
+        faults += 1
+    return 1 if faults else 0
+
+
 def main():
+    if sys.argv[1:2] == ["reasons"] and len(sys.argv) == 3:
+        return check_reasons(os.path.abspath(sys.argv[2]))
+    if len(sys.argv) < 4:
+        sys.exit(__doc__.strip())
     verb, tree, build, *numbers = sys.argv[1:]
     tree, build = os.path.abspath(tree), os.path.abspath(build)
     if verb == "run":

@@ -1,4 +1,5 @@
-// Quotients and products that are rounded once, under both settings of the processor's control word.
+// Quotients and products that are rounded once, under both settings of the processor's control word: by operators where
+// these round once, and by integers.
 #include "dct4/rounded_once.h"
 
 #include <cmath>
@@ -9,6 +10,12 @@
 #include "tests/plan/plan_fixture.h"
 #include "tests/transforms/float_state.h"
 
+// Of rounded_by_integers.cpp.
+namespace by_integers {
+double quotientRoundedOnce(std::int32_t dividend, std::int32_t divisor);
+double productRoundedOnce(double a, double b);
+}  // namespace by_integers
+
 namespace test {
 namespace {
 
@@ -17,6 +24,7 @@ constexpr double pi = 3.141592653589793;
 void expectQuotient(std::int32_t a, std::int32_t b) {
     const double due = roundedOnce(Exact(a) / Exact(b));
     ASSERT_EQ(zulg::quotientRoundedOnce(a, b), due) << a << " / " << b;
+    ASSERT_EQ(by_integers::quotientRoundedOnce(a, b), due) << a << " / " << b;
     const DoublePrecisionRegisters asACallerMaySetThem;
     ASSERT_EQ(zulg::quotientRoundedOnce(a, b), due) << a << " / " << b;
 }
@@ -24,6 +32,7 @@ void expectQuotient(std::int32_t a, std::int32_t b) {
 void expectProduct(double a, double b) {
     const double due = roundedOnce(Exact(a) * Exact(b));
     ASSERT_EQ(zulg::productRoundedOnce(a, b), due) << a << " * " << b;
+    ASSERT_EQ(by_integers::productRoundedOnce(a, b), due) << a << " * " << b;
     const DoublePrecisionRegisters asACallerMaySetThem;
     ASSERT_EQ(zulg::productRoundedOnce(a, b), due) << a << " * " << b;
 }
@@ -38,6 +47,8 @@ TEST(RoundedOnce, QuotientsOfIntegers) {
     std::uniform_int_distribution<std::int32_t> any(1, greatest);
     for (int i = 0; i < 200000; ++i) expectQuotient(any(random) >> i % 31 | 1, any(random) >> i % 29 | 1);
     EXPECT_EQ(zulg::quotientRoundedOnce(0, 5), 0.0);
+    EXPECT_EQ(by_integers::quotientRoundedOnce(0, 5), 0.0);
+    EXPECT_EQ(by_integers::quotientRoundedOnce(-5, 0), -std::numeric_limits<double>::infinity());
 }
 
 TEST(RoundedOnce, ProductsOfFractionsAndPi) {

@@ -125,9 +125,10 @@ public:
         name = bytes->name();
         const std::string header = readHeader();
         static const std::regex dictionary(
-            R"(\{'descr': '<([cf])(4|8|16)', 'fortran_order': False, 'shape': \((\d{1,18}), (\d{1,9}),?\),? *\} *\n?)");
+            R"(\{'descr': '<([cf])(4|8|16)', 'fortran_order': False, 'shape': \((\d{1,18}), (\d{1,9}),?\),? *\})");
         std::smatch found;
-        if (!std::regex_match(header, found, dictionary)) {
+        // The search takes some stack for each letter.
+        if (header.size() > longestDictionary || !std::regex_match(header, found, dictionary)) {
             throw UserError(name + ": not an array of frames and bins as transform writes it");
         }
         const bool isComplex = found[1] == "c";
@@ -180,6 +181,9 @@ private:
         }
     }
 
+    static constexpr std::size_t longestDictionary = 200;
+
+    // Without what fills it up at its end.
     std::string readHeader() {
         unsigned char start[12] = {};
         read(reinterpret_cast<char*>(start), 10);
@@ -191,6 +195,8 @@ private:
         if (size > 65536) throw UserError(name + ": the header of the array is too long");
         std::string header(size, ' ');
         read(header.data(), size);
+        if (header.ends_with('\n')) header.pop_back();
+        header.erase(header.find_last_not_of(' ') + 1);
         return header;
     }
 

@@ -22,6 +22,7 @@ def table(content, says, *words, status=FAILED):
 
 HEAD = "frame,time,bin,frequency,re,im,magnitude\n"
 GOOD = HEAD + "0,0,0,0,3,0,3\n0,0,1,0.5,-1,0,1\n1,2,0,0,7,0,7\n1,2,1,0.5,-1,0,1\n"
+WRITTEN = "{'descr': '<c16', 'fortran_order': False, 'shape': (2, 2), }"
 
 
 def npy(shape="(2, 2)", descr="<c16", order="False", data=bytes(64), header=None, version=1, start=b"\x93NUMPY"):
@@ -159,6 +160,10 @@ class BadTables(ToolTest):
             table(npy(descr="<f8"), ": its numbers are real"), table(npy(descr="<f4"), ": its numbers are real"),
             table(npy(descr="<c4"), ": "), table(npy(header="{'shape': (2, 2)}"), not_as_written),
             table(npy(header="\x1b[2J"), not_as_written), table(npy(header="__import__('os')"), not_as_written),
+            # As long as a header may be: what fills it up, and what does not.
+            table(npy(header=WRITTEN + " " * 65000, data=bytes(63)), ": .*within frame 1", status=DAMAGED),
+            table(npy(header=WRITTEN + " " * 65000 + "x"), not_as_written),
+            table(npy(header="{" + " " * 65000 + WRITTEN), not_as_written),
             table(npy(start=b"\x93NUMPX"), ": its first line is not that of a table"),
             table(npy()[:6] + b"\2\0\xff\xff\xff\xff" + bytes(40), ": the header of the array is too long$"),
             table(npy("(1000000000000, 2)"), ": .*it ends within frame 2; frames that are good: 2$", status=DAMAGED),

@@ -106,3 +106,39 @@ build_preset() {
     tail -n 30 "$log" >&2
     fail "the build of $name failed; the whole log: $log"
 }
+
+# How long an input of a harness may get: calls are short, and a sound file needs its headers.
+longest_input() { if [ "$1" = readers ]; then echo 5000; else echo 600; fi; }
+
+# fuzz_build NAME ...: builds harnesses of tests/fuzz with clang's libFuzzer and sanitizers into build/fuzz, against the
+# libraries of the native build. An object that is newer than all sources is kept.
+fuzz_build() {
+    need_packages "${packages_native[@]}" clang
+    build_preset native --target zulgenpx zulgenpx_batch zulcore fake_core
+    local name source object gtest=/usr/src/googletest/googletest
+    local shared=(tests/platform.cpp tests/reference.cpp tests/transforms/transform.cpp tests/batch/batches.cpp
+        tests/fakes/substituted_core.cpp "$gtest/src/gtest-all.cc")
+    local tool=(tools/{byte_stream,container,family,flac_source,input,numbers,sound_source,spectra_file}.cpp
+        tools/{text_source,user_error}.cpp)
+    local flags=(-std=c++20 -O1 -g1 -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+        -fno-sanitize=alignment)
+    mkdir -p build/fuzz/objects
+    for name in "$@"; do
+        local sources=("tests/fuzz/${name}_fuzz.cpp" "${shared[@]}") objects=()
+        [ "$name" != readers ] || sources=("tests/fuzz/${name}_fuzz.cpp" "${tool[@]}")
+        say "Building the harness $name ..."
+        for source in "${sources[@]}"; do
+            object=build/fuzz/objects/$(basename "$source").o
+            objects+=("$object")
+            [ -z "$(find "$object" -newer "$source" 2>/dev/null)" ] || [ -n "$(find include tests tools dct4 batch \
+                -name '*.h' -newer "$object")" ] || continue
+            clang++ "${flags[@]}" -I. -Iinclude -Itargets/x86_64 -I"$gtest/include" -I"$gtest" \
+                "-DZULG_LIBRARY=\"$tree/build/native/libzulgenpx-7.0.so\"" "-DZULG_FAKE_CORE=\"none\"" \
+                "-DZULG_BATCH_LIBRARY=\"$tree/build/native/libzulgenpx-batch-7.0.so\"" -c "$source" -o "$object"
+        done
+        clang++ -fsanitize=fuzzer,address,undefined "${objects[@]}" -Lbuild/native -lzulgenpx-batch-7.0 \
+            -lzulgenpx-7.0 "-Wl,-rpath,$tree/build/native" -lsndfile -lFLAC -ldl -lpthread \
+            -o "build/fuzz/${name}_fuzz"
+    done
+    export LSAN_OPTIONS=suppressions=$tree/tests/fuzz/leaks.txt:print_suppressions=0
+}

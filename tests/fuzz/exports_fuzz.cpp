@@ -5,14 +5,13 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <map>
 #include <string>
 #include <tuple>
 #include <vector>
 
+#include "tests/fuzz/bytes.h"
 #include "tests/transforms/kernel_fixture.h"
 
 namespace test {
@@ -22,33 +21,8 @@ constexpr std::size_t guard = 64;
 constexpr int longest = 128;  // points that are compared with the definition
 
 [[noreturn]] void fail(const Transform& transform, const char* what) {
-    std::fprintf(stderr, "%s: %s\n", transform.kernelName().c_str(), what);
-    std::abort();
+    test::fail(transform.kernelName(), what);
 }
-
-// Takes what a call needs from the bytes; zeros after their end.
-class Bytes {
-public:
-    Bytes(const std::uint8_t* data, std::size_t size) : at(data), left(size) {}
-
-    template <class Number>
-    Number take() {
-        Number number{};
-        const std::size_t count = std::min(left, sizeof number);
-        std::memcpy(&number, at, count);
-        at += count;
-        left -= count;
-        return number;
-    }
-    // All that is left, over and over.
-    void fill(std::byte* to, std::size_t count) const {
-        for (std::size_t i = 0; i < count; ++i) to[i] = left == 0 ? std::byte{} : static_cast<std::byte>(at[i % left]);
-    }
-
-private:
-    const std::uint8_t* at;
-    std::size_t left;
-};
 
 const std::vector<Transform>& transforms() {
     static const std::vector<Transform> all = flaggedTransforms();
@@ -125,11 +99,7 @@ void run(const Transform& row, Bytes bytes, const Shape& shape) {
 
     std::vector<Element> values(static_cast<std::size_t>(sized.sourceElements));
     bytes.fill(reinterpret_cast<std::byte*>(values.data()), sourceBytes);
-    if (shape.isModerate) {  // arbitrary bits are seldom numbers that can be compared
-        std::vector<std::int16_t> small(values.size());
-        bytes.fill(reinterpret_cast<std::byte*>(small.data()), small.size() * sizeof small[0]);
-        for (std::size_t i = 0; i < values.size(); ++i) values[i] = static_cast<Element>(small[i]) / 256;
-    }
+    if (shape.isModerate) bytes.fillModerate(values.data(), values.size());
     const std::size_t room = std::max(sourceBytes, destinationBytes) + 3 * guard;
     std::vector<std::byte> from(room, pattern), to(room, pattern);
     std::byte* const read =

@@ -25,8 +25,8 @@ else()
 endif()
 
 # Timings, errors, the tests of the built file and of what is installed: where the target says what its machine code
-# may hold. Elsewhere the tests are those of results and of the boundary.
-if(EXISTS ${target_folder}/machine.py)
+# may hold. Elsewhere, and with sanitizers, the tests are those of results and of the boundary.
+if(EXISTS ${target_folder}/machine.py AND NOT ZULG_SANITIZE)
     set(whole_suite ON)
 else()
     set(whole_suite OFF)

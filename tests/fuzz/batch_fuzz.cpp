@@ -110,9 +110,9 @@ ZulgStatus call(const Request<Element>& request, const Element* pSrc, Shape sour
                                                               request.flag, count, pBuffer);
     }
     if (request.kind == Kind::Dct4) {
-        return batchExported<BatchDct4<Element, zulg::DctPlan>>(request.name)(
-            pSrc, source.step, source.distance, pDst, destination.step, destination.distance, request.plan, count,
-            pBuffer);
+        return batchExported<BatchDct4<Element, zulg::DctPlan>>(request.name)(pSrc, source.step, source.distance, pDst,
+                                                                              destination.step, destination.distance,
+                                                                              request.plan, count, pBuffer);
     }
     return batchExported<Batch<Element>>(request.name)(pSrc, source.step, source.distance, pDst, destination.step,
                                                        destination.distance, request.number, request.flag, count);
@@ -209,7 +209,8 @@ void runAccepted(const Request<Element>& request, Bytes bytes, unsigned where) {
 
     std::int32_t bufferBytes = 0;
     if (request.needsBuffer()) {
-        const char* const stem = request.kind == Kind::Dct4 ? "zulgBatchDCT4GetBufferSize" : "zulgBatchWHTGetBufferSize";
+        const char* const stem =
+            request.kind == Kind::Dct4 ? "zulgBatchDCT4GetBufferSize" : "zulgBatchWHTGetBufferSize";
         if (batchExported<BatchSize>(exportedName<Element>(stem))(request.number, &bufferBytes) != StatusOk)
             fail(request.name, "there is no size of its buffer");
     }
@@ -241,10 +242,9 @@ template <class Element>
 void runRefused(const Request<Element>& request, ZulgStatus due) {
     std::vector<Element> x(64, 1), y(64, 7), buffer(64, 3);
     const auto before = y, bufferBefore = buffer;
-    const ZulgStatus status =
-        call(request, request.isSourceNull ? nullptr : x.data() + 32, request.source,
-             request.isDestinationNull ? nullptr : y.data() + 32, request.destination, request.count,
-             request.isBufferNull ? nullptr : buffer.data() + 32);
+    const ZulgStatus status = call(request, request.isSourceNull ? nullptr : x.data() + 32, request.source,
+                                   request.isDestinationNull ? nullptr : y.data() + 32, request.destination,
+                                   request.count, request.isBufferNull ? nullptr : buffer.data() + 32);
     if (status != due) fail(request.name, "another status than the model's");
     if (y != before || buffer != bufferBefore) fail(request.name, "something is written without a result");
 }

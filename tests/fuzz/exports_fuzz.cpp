@@ -20,9 +20,7 @@ namespace {
 constexpr std::size_t guard = 64;
 constexpr int longest = 128;  // points that are compared with the definition
 
-[[noreturn]] void fail(const Transform& transform, const char* what) {
-    test::fail(transform.kernelName(), what);
-}
+[[noreturn]] void fail(const Transform& transform, const char* what) { test::fail(transform.kernelName(), what); }
 
 const std::vector<Transform>& transforms() {
     static const std::vector<Transform> all = flaggedTransforms();

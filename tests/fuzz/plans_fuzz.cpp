@@ -3,8 +3,8 @@
 // model, what is written against guards on both sides of block and arrays, results against the definition and against
 // those of a plan of InitAlloc, bit by bit.
 //
-// Left out is what the header forbids: runs at the lengths 2^k + 1, Init where the size has wrapped around, and a plan of
-// the other element.
+// Left out is what the header forbids: runs at the lengths 2^k + 1, Init where the size has wrapped around, and a plan
+// of the other element.
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -108,8 +108,8 @@ private:
             stop("zulgDCT4GetSize", "another status than the model's");
         if (status != StatusOk && size != -77) stop("zulgDCT4GetSize", "the size is written after a refusal");
         const int exponent = static_cast<int>(std::bit_width(static_cast<std::uint32_t>(length))) - 1;
-        const bool isInTable = status == StatusOk && length <= longestBuilt && std::has_single_bit(
-            static_cast<std::uint32_t>(length));
+        const bool isInTable =
+            status == StatusOk && length <= longestBuilt && std::has_single_bit(static_cast<std::uint32_t>(length));
         if (isInTable && size != sizeDue<Element>(exponent)) stop("zulgDCT4GetSize", "another size than the table's");
     }
 
@@ -118,11 +118,11 @@ private:
         Plan* plan = nothing;
         std::uint8_t byte = 0xA5;
         Element element = 7;
-        const bool areRefused =
-            routines.init(nullptr, length, &byte) == StatusNullPointer &&
-            routines.init(&plan, length, nullptr) == StatusNullPointer &&
-            routines.initAlloc(nullptr, length) == StatusNullPointer && routines.free(nullptr) == StatusNullPointer &&
-            routines.run(&element, &element, nullptr) == StatusNullPointer;
+        const bool areRefused = routines.init(nullptr, length, &byte) == StatusNullPointer &&
+                                routines.init(&plan, length, nullptr) == StatusNullPointer &&
+                                routines.initAlloc(nullptr, length) == StatusNullPointer &&
+                                routines.free(nullptr) == StatusNullPointer &&
+                                routines.run(&element, &element, nullptr) == StatusNullPointer;
         if (!areRefused) stop("zulgDCT4", "a null pointer is not refused");
         if (plan != nothing || byte != 0xA5 || element != 7) stop("zulgDCT4", "something is written after a refusal");
     }
@@ -202,8 +202,8 @@ private:
         for (std::size_t i = 0; i < due.size(); ++i) {
             Element found;
             std::memcpy(&found, to.data() + i * sizeof(Element), sizeof found);
-            const bool isSame = std::memcmp(&found, &due[i], sizeof found) == 0 ||
-                                (std::isnan(found) && std::isnan(due[i]));
+            const bool isSame =
+                std::memcmp(&found, &due[i], sizeof found) == 0 || (std::isnan(found) && std::isnan(due[i]));
             if (!isSame) stop("zulgDCT4", "two plans of one length give different bits");
         }
     }

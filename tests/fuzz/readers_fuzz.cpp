@@ -1,6 +1,6 @@
-// Any bytes as an input of zulspectrum: sound files, texts of numbers, and the tables that it reads back, CSV and arrays
-// of NumPy. The first bytes choose the reader and its options, the rest is the file. A reader may refuse a file with one
-// line and a status that the README has for it; it may do nothing else.
+// Any bytes as an input of zulspectrum: sound files, texts of numbers, and the tables that it reads back, CSV and
+// arrays of NumPy. The first bytes choose the reader and its options, the rest is the file. A reader may refuse a file
+// with one line and a status that the README has for it; it may do nothing else.
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -21,7 +21,7 @@ namespace {
 
 using namespace spectrum;
 
-constexpr std::int64_t mostSamples = 1 << 20, mostFrames = 1 << 12;
+constexpr std::int64_t mostSamples = 1 << 16, mostFrames = 1 << 12;
 
 // A file of these bytes without a name in any folder. Its path is that of the descriptor.
 class File {
@@ -93,8 +93,8 @@ void readSpectra(const File& file, Bytes& choice) {
     Framing framing{};
     framing.family = &families[choice.below(families.size())];
     const std::size_t word = choice.below(256);
-    framing.length = framing.family->sizes == Sizes::Lengths ? 2 + static_cast<int>(word % 63)
-                                                              : 2 << static_cast<int>(word % 8);
+    framing.length =
+        framing.family->sizes == Sizes::Lengths ? 2 + static_cast<int>(word % 63) : 2 << static_cast<int>(word % 8);
     framing.size = framing.length;
     const std::unique_ptr<SpectraFile> spectra = openSpectra(file.path(), framing);
     Bins bins;

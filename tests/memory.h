@@ -35,4 +35,8 @@ private:
     const GuardedPages& pages;
 };
 
+// In WebAssembly, which has no such pages: the end of memory. The bytes before it, as many as are asked for, are
+// nobody else's.
+std::byte* endOfMemory(std::size_t bytes);
+
 }  // namespace test

@@ -7,7 +7,7 @@
 
 #ifdef _WIN32
 #include <windows.h>
-#else
+#elif !defined(__wasm__)
 #include <dlfcn.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -45,6 +45,26 @@ ReadOnly::ReadOnly(const GuardedPages& of) : pages(of) {
 ReadOnly::~ReadOnly() {
     DWORD previous;
     VirtualProtect(pages.inner, pages.innerBytes, PAGE_READWRITE, &previous);
+}
+
+#elif defined(__wasm__)
+
+// tests/module/run.js has the routines.
+extern "C" __attribute__((import_module("library"), import_name("find"))) void* findRoutine(const char* letters,
+                                                                                            std::size_t count);
+
+void* exportedAddress(const std::string& name) { return findRoutine(name.data(), name.size()); }
+
+std::byte* endOfMemory(std::size_t bytes) {
+    constexpr std::size_t page = 65536;
+    static std::size_t first = 0, last = 0;  // the pages that are kept for this
+    const std::size_t count = (bytes + page - 1) / page;
+    // An allocator may have taken more memory since the last time.
+    if (last != __builtin_wasm_memory_size(0) || last - first < count) {
+        first = __builtin_wasm_memory_grow(0, count);
+        last = first + count;
+    }
+    return reinterpret_cast<std::byte*>(last * page);
 }
 
 #else

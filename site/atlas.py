@@ -5,7 +5,7 @@ import re
 
 import library as lib
 import machine_code
-from pages import code, escape, table, tabs
+from pages import capital, code, escape, table, tabs
 
 FAMILY_TITLES = {
     "complex": "Complex DFT",
@@ -356,7 +356,7 @@ def page(site, data, name, graph, codes):
     export = kernel_of(data, graph)
     total = graph["additions"] + graph["subtractions"] + graph["multiplications"]
     parts = [
-        f"<h1>{escape(graph['title'])}</h1><p class=\"lead\">{escape(graph['recipe'])}; {total} steps: "
+        f"<h1>{escape(graph['title'])}</h1><p class=\"lead\">{escape(capital(graph['recipe']))}; {total} steps: "
         f"{graph['additions']} additions, {graph['subtractions']} subtractions, {graph['multiplications']} products"
         + (
             f"; {graph['steps_with_scale']} with the products with scale."
@@ -401,13 +401,19 @@ data-view="clear">Clear</button></div>
         )
     if codes:
         where, floor, rows = figures_of(data, graph, export, codes, forms)
-        note = f"Times: {escape(where)}. The floor is {floor:.0f} cycles." if floor and rows[0][4] else ""
+        is_timed = bool(floor and rows[0][4])
+        note = (
+            f"Times: {escape(where)}. The floor, the least number of cycles for these steps with one number to a"
+            f" register, is {floor:.0f} cycles."
+            if is_timed
+            else ""
+        )
         parts.append(
             f'<h2 id="levels">Levels</h2><p>Of <a href="../reference/{export["name"]}.html"><code>{export["name"]}'
             f"</code></a>. {note}</p>"
             + table(
-                ["level", "runs", "code bytes", "instructions", "cycles", "time over the floor"],
-                rows,
+                ["level", "runs", "code bytes", "instructions"] + ["cycles", "time over the floor"] * is_timed,
+                [row[: 4 + 2 * is_timed] for row in rows],
                 "Code and time by level",
                 "ttnnnn",
             )

@@ -104,6 +104,11 @@ class Library:
         )
 
 
+def wht_passes(order):
+    """How often a Walsh-Hadamard transform passes over its values."""
+    return 1 if order <= 7 else 2 if order <= 11 else 3
+
+
 def size_of(export):
     """Length or order, None where it is an argument."""
     return export.get("length") or export.get("order")

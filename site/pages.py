@@ -115,6 +115,11 @@ def table(heads, rows, label, kinds="", sortable=False, classes=""):
     )
 
 
+def capital(words):
+    """The words as the beginning of a sentence."""
+    return words[:1].upper() + words[1:]
+
+
 def facts(rows):
     """Names and what they are, as a list of definitions."""
     return (

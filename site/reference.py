@@ -2,7 +2,7 @@
 import faces
 import library as lib
 import snippets
-from pages import code, escape, facts, relative, table, tabs
+from pages import capital, code, escape, facts, relative, table, tabs
 
 FOLDER = "reference"
 DESCRIPTIONS = {
@@ -11,7 +11,7 @@ DESCRIPTIONS = {
     "flag": "one of the four scale flags",
     "length": "how many points",
     "order": "N = 2<sup>order</sup>",
-    "pBuffer": "memory to work in, or null",
+    "pBuffer": "memory to work in",
     "pSize": "receives the number of bytes",
     "plan": "a plan of this element type",
     "pPlan": "receives the plan",
@@ -58,10 +58,14 @@ def slots_figure(export):
             kind = "real" if held[0] == "R" else "imaginary"
         cells.append(f'<li class="{kind}"><span class="slot">{slot}</span><span class="held">{words}</span></li>')
     rule = {
-        "CCS": "The bins in turn, real part before imaginary part: what NumPy’s rfft returns, seen as reals.",
-        "Pack": "CCS without its zeros.",
+        "CCS": (
+            "They are the bins in turn, real part before imaginary part: what NumPy’s rfft returns, seen as reals."
+        ),
+        "Pack": f"They are those of CCS without the {'zeros' if n % 2 == 0 else 'zero'}.",
         "Perm": (
-            "CCS with Re X[N/2] in the place of the first zero." if n % 2 == 0 else "At odd lengths the same as Pack."
+            "They are those of CCS without the zeros; Re X[N/2] is in the place of the first one."
+            if n % 2 == 0
+            else "They are those of CCS without the zero. At odd lengths Perm is the same as Pack."
         ),
     }[layout]
     reads = (
@@ -158,14 +162,6 @@ def statuses(export):
                 ),
             ]
         )
-    if "Batch" in name and "count" in arguments:
-        rows.append(
-            [
-                "StatusSizeError",
-                -6,
-                "count is negative, a place is no number of 64 bits, or two results would be in one place",
-            ]
-        )
     checked = [each for each in ("pSrc", "pDst", "plan", "pPlan") if each in arguments]
     if "pBuffer" in arguments and ("Batch" in name or export["family"] == "DCT4"):
         checked.append("pBuffer, where it is needed")
@@ -177,12 +173,20 @@ def statuses(export):
         rows.append(["StatusFlagError", -16, "flag is not exactly one of 1, 2, 4, 8"])
     if export["family"] == "DCT4" and "pDst" in arguments:
         rows.append(["StatusPlanKindError", -5, "the kind of the plan is unknown"])
+    if "Batch" in name and "count" in arguments:
+        rows.append(
+            [
+                "StatusSizeError",
+                -6,
+                "count is negative, a place in bytes is no number of 64 bits, or two results would be in one place",
+            ]
+        )
     note = (
         ""
         if len(rows) == 1
         else (
-            "<p>Checks come in this order: length or order, pointers, flag. Unless the status is "
-            "StatusOk, nothing has been read or written.</p>"
+            "<p>Checks come in the order of this table. Unless the status is StatusOk, nothing has been read or "
+            "written.</p>"
         )
     )
     if "DCT4Init_" in name:
@@ -254,7 +258,7 @@ def promises(export):
                             "faults."
                         )
                     )
-                    + (f" At order {order} it is {{}} bytes." if order else ""),
+                    + (f" The buffer of order {order} has {{}} bytes." if order else ""),
                 )
             )
     elif family == "DCT4" and "InitAlloc" in name:
@@ -273,7 +277,7 @@ def promises(export):
         stack = (
             lib.STACK.get(family) or lib.STACK["CToC" if "CToC" in family else "R"] if family != "version" else "none"
         )
-    rows.append(("Stack", f"{stack}, on every target."))
+    rows.append(("Stack", f"{capital(stack)}, on every target."))
     return rows
 
 
@@ -290,10 +294,18 @@ def counts_of(export, name_of_graph, here):
             ),
         ),
         ("Constants", counts["constants"]),
-        ("Construction", escape(export["recipe"]["words"])),
+        ("Construction", escape(capital(export["recipe"]["words"]))),
     ]
     if counts["negations"]:
-        rows.append(("Signs", f"{counts['negations']} outputs are stored with their sign changed"))
+        count = counts["negations"]
+        rows.append(
+            (
+                "Signs",
+                "One output is stored with its sign changed"
+                if count == 1
+                else f"{count} outputs are stored with their signs changed",
+            )
+        )
     if name_of_graph:
         rows.append(
             (
@@ -329,17 +341,20 @@ def accuracy(export, errors, bounds):
             (
                 "Proved bound",
                 (
-                    f"{number(bound[0])} at factor 1 and {number(bound[2])} at any flag, times {unit}: of the error of"
-                    " one output over the 2-norm of the input and the factor. The worst trial at factor 1 had"
-                    f" {number(bound[1])}."
+                    f"{number(bound[0])} at factor 1 and {number(bound[2])} at any flag, times {unit}. An output is off"
+                    " by at most this, times the 2-norm of the input, times the factor. The worst trial at factor 1"
+                    f" had {number(bound[1])}."
                 ),
             )
         )
-    note = (
-        "Singles are computed in double and rounded once at the store."
-        if element.startswith("32") and export["family"] != "DCT4"
-        else ""
-    )
+    note = ""
+    if element.startswith("32") and export["family"] != "DCT4":
+        passes = lib.wht_passes(export["order"]) if export["family"] == "WHT" else 1
+        note = (
+            f"Singles are computed in double and rounded at the end of each of {passes} passes."
+            if passes > 1
+            else "Singles are computed in double and rounded once at the store."
+        )
     return (
         '<h2 id="accuracy">How exact it is</h2><p>Relative L2 errors on x86-64, measured over 100,000 random inputs '
         f"(from 4096 points on fewer). Greater errors of single calls are possible. {note}</p>"
@@ -347,12 +362,12 @@ def accuracy(export, errors, bounds):
     )
 
 
-def speed(export, times):
+def speed(export, times, here):
     from results import PARTICIPANTS
 
     found = times.of(export["family"], export["element"], lib.points(export))
     if not found:
-        return ""
+        return speed_of_pack(export, here)
     where, figures, floor = found
     ours = figures["zulgenpx"]
     rows = []
@@ -378,6 +393,18 @@ def speed(export, times):
         '<h2 id="speed">How fast it is</h2><p>'
         + f"{escape(where)}; hot, out of place, flag 8. {text} Figures of other machines differ.</p>"
         + table(["who", "nanoseconds", "cycles", "time over ours"], rows, "Time beside other libraries", "tnnn")
+    )
+
+
+def speed_of_pack(export, here):
+    """Perm without figures of its own: where those of the same steps are."""
+    if "Perm" not in export["family"]:
+        return ""
+    twin = export["name"].replace("Perm", "Pack")
+    return (
+        '<h2 id="speed">How fast it is</h2><p>This layout has not been timed. The routine takes the same steps as '
+        f'<a href="{relative(here, path_of(twin))}#speed">{wrapped(twin)}</a>, which has; only the slots of the '
+        "spectrum are others.</p>"
     )
 
 
@@ -418,8 +445,12 @@ def kin(export, library, here):
     twin = library.by_name.get(export["name"].replace("_" + element, "_" + width))
     if twin:
         rows.append(("Other width", link(twin, twin["name"])))
-    if family in lib.INVERSE_OF and "Batch" not in export["name"]:
-        inverse = library.of(lib.INVERSE_OF[family], size, element)
+    if family in lib.INVERSE_OF:
+        inverse = (
+            library.by_name[export["name"].replace(family, lib.INVERSE_OF[family])]
+            if "Batch" in export["name"]
+            else library.of(lib.INVERSE_OF[family], size, element)
+        )
         rows.append(("Other direction", link(inverse, inverse["name"])))
     if "Batch" not in export["name"] and size:
         around = [library.of(family, size + step, element) for step in (-1, 1)]
@@ -534,7 +565,7 @@ def entry(export, data, here):
         name = f"{graph}_{lib.points(export)}"
         parts.append(counts_of(export, name if name in data.graphs else None, here))
     if lib.points(export):
-        parts += [accuracy(export, data.errors, data.bounds), speed(export, data.times)]
+        parts += [accuracy(export, data.errors, data.bounds), speed(export, data.times, here)]
     if export["name"] in (f"zulgDCT4_{export.get('element')}",):
         parts.append(plan_figures(export, data))
     found = snippets.of_batch(export) if "Batch" in export["name"] else snippets.of(export)

@@ -12,6 +12,8 @@ CONTESTS = {
     "DFTInv_CCSToR": "real_inverse",
     "DFTFwd_RToPack": "packed_forward",
     "DFTInv_PackToR": "packed_inverse",
+    "DFTFwd_RToPerm": "permuted_forward",
+    "DFTInv_PermToR": "permuted_inverse",
     "Hartley": "hartley",
     "DCT4": "dct4",
     "WHT": "wht",

@@ -10,9 +10,10 @@ win32_root=${ZULG_WIN32_ROOT:-/var/cache/zulgenpx/win32-root}
 # The one in which packages are installed and used.
 package_root=${ZULG_PACKAGE_ROOT:-/var/cache/zulgenpx/package-root}
 
-packages_native=(g++ cmake ninja-build googletest libboost-dev libsndfile1-dev libflac-dev libcli11-dev
-    libpng-dev nlohmann-json3-dev python3
-    binutils ca-certificates qemu-user pkg-config python3-numpy python3-scipy python3-venv python3-pip)
+# What the library and the generator are configured and built with.
+packages_library=(g++ cmake ninja-build googletest libboost-dev python3 binutils ca-certificates qemu-user pkg-config)
+packages_native=("${packages_library[@]}" libsndfile1-dev libflac-dev libcli11-dev libpng-dev nlohmann-json3-dev
+    python3-numpy python3-scipy python3-venv python3-pip)
 packages_demo=(alsa-utils)
 # For zulspectrum-mpi and its tests, which check the files for clusters as well.
 packages_cluster=(libopenmpi-dev openmpi-bin procps python3-jsonschema python3-yaml)

@@ -5,9 +5,9 @@
 namespace bench {
 namespace {
 
-constexpr Transform kernels[] = {Transform::ComplexForward, Transform::ComplexInverse, Transform::RealForward,
-                                 Transform::RealInverse,    Transform::PackedForward,  Transform::PackedInverse,
-                                 Transform::Hartley};
+constexpr Transform kernels[] = {Transform::ComplexForward,  Transform::ComplexInverse,  Transform::RealForward,
+                                 Transform::RealInverse,     Transform::PackedForward,   Transform::PackedInverse,
+                                 Transform::PermutedForward, Transform::PermutedInverse, Transform::Hartley};
 
 template <class Element>
 Contest contest(Transform transform, int size) {

@@ -1,5 +1,6 @@
 #include "benchmarks/contest.h"
 
+#include <algorithm>
 #include <random>
 
 namespace bench {
@@ -20,6 +21,8 @@ const char* name(Transform transform) {
         case Transform::RealInverse: return "real_inverse";
         case Transform::PackedForward: return "packed_forward";
         case Transform::PackedInverse: return "packed_inverse";
+        case Transform::PermutedForward: return "permuted_forward";
+        case Transform::PermutedInverse: return "permuted_inverse";
         case Transform::Hartley: return "hartley";
         case Transform::Dct4: return "dct4";
         case Transform::WalshHadamard: return "wht";
@@ -42,7 +45,21 @@ Counts counts(Transform transform, int size) {
     }
 }
 
+bool hasOtherOrder(Transform transform, const Result& half) {
+    return (transform == Transform::PermutedForward || transform == Transform::PermutedInverse) && half.size() % 2 == 0;
+}
+
 }  // namespace
+
+Result packedToOurs(Transform transform, Result packed) {
+    if (hasOtherOrder(transform, packed)) std::rotate(packed.begin() + 1, packed.end() - 1, packed.end());
+    return packed;
+}
+
+Result oursToPacked(Transform transform, Result ours) {
+    if (hasOtherOrder(transform, ours)) std::rotate(ours.begin() + 1, ours.begin() + 2, ours.end());
+    return ours;
+}
 
 int& chosenCopy() {
     static int copy = 0;

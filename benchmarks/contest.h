@@ -21,6 +21,8 @@ enum class Transform {
     RealInverse,
     PackedForward,  // half spectrum in as many numbers as there are points
     PackedInverse,
+    PermutedForward,  // the same, with the real bin of an even length beside that of frequency zero
+    PermutedInverse,
     Hartley,
     Dct4,
     WalshHadamard
@@ -67,6 +69,11 @@ Prepared prepared(Call call) {
 }
 
 using Result = std::vector<double>;
+
+// Half spectra in as many numbers as points. Peers know the order of Pack, or one that comes from it. In that of Perm,
+// the last number of an even length is the second one.
+Result packedToOurs(Transform transform, Result packed);
+Result oursToPacked(Transform transform, Result ours);
 
 struct Participant {
     std::string name;

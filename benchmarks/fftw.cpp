@@ -51,8 +51,10 @@ struct Fftw<float> {
 
 fftw_r2r_kind realKind(Transform transform) {
     switch (transform) {
-        case Transform::PackedForward: return FFTW_R2HC;
-        case Transform::PackedInverse: return FFTW_HC2R;
+        case Transform::PackedForward:
+        case Transform::PermutedForward: return FFTW_R2HC;
+        case Transform::PackedInverse:
+        case Transform::PermutedInverse: return FFTW_HC2R;
         case Transform::Hartley: return FFTW_DHT;
         default: return FFTW_REDFT11;
     }
@@ -102,7 +104,7 @@ void requireScalar(typename Fftw<Element>::Plan plan) {
                 std::exit(1);
 }
 
-// FFTW's half spectrum without zeros is R0 R1 .. R(n/2) I((n-1)/2) .. I1; ours R0 R1 I1 R2 I2 ..
+// FFTW's half spectrum without zeros is R0 R1 .. R(n/2) I((n-1)/2) .. I1; that of Pack R0 R1 I1 R2 I2 ..
 Result packed(const Result& half) {
     const std::size_t n = half.size();
     Result values(n);
@@ -111,14 +113,14 @@ Result packed(const Result& half) {
     return values;
 }
 
-// Puts our packed source into FFTW's order. The time of a transform does not depend on the order of its numbers, so
-// that only the check does this.
+// Puts our source into FFTW's order. The time of a transform does not depend on the order of its numbers, so that only
+// the check does this.
 template <class Element>
-void unpack(const Arrays<Element>& arrays) {
-    const Result ours(arrays.source, arrays.source + arrays.sourceCount);
-    const std::size_t n = ours.size();
-    for (std::size_t k = 0; k <= n / 2; ++k) arrays.source[k] = static_cast<Element>(ours[k == 0 ? 0 : 2 * k - 1]);
-    for (std::size_t k = 1; k <= (n - 1) / 2; ++k) arrays.source[n - k] = static_cast<Element>(ours[2 * k]);
+void unpack(Transform transform, const Arrays<Element>& arrays) {
+    const Result half = oursToPacked(transform, {arrays.source, arrays.source + arrays.sourceCount});
+    const std::size_t n = half.size();
+    for (std::size_t k = 0; k <= n / 2; ++k) arrays.source[k] = static_cast<Element>(half[k == 0 ? 0 : 2 * k - 1]);
+    for (std::size_t k = 1; k <= (n - 1) / 2; ++k) arrays.source[n - k] = static_cast<Element>(half[2 * k]);
 }
 
 }  // namespace
@@ -135,12 +137,16 @@ void addFftw(Field<Element>& field) {
             if (plan == nullptr) std::fprintf(stderr, "FFTW: no plan of length %d\n", size), std::exit(1);
             if (planning.flags & withoutVectors) requireScalar<Element>(plan);
             Prepared call = prepared([plan] { Api::execute(plan); });
-            if (transform == Transform::PackedInverse)
-                call.once = [plan, arrays] { unpack(*arrays), Api::execute(plan); };
+            if (transform == Transform::PackedInverse || transform == Transform::PermutedInverse)
+                call.once = [=] { unpack(transform, *arrays), Api::execute(plan); };
             return call;
         };
         std::function<Result()> result = destination;
-        if (field.transform == Transform::PackedForward) result = [destination] { return packed(destination()); };
+        if (field.transform == Transform::PackedForward || field.transform == Transform::PermutedForward) {
+            result = [destination, transform = field.transform] {
+                return packedToOurs(transform, packed(destination()));
+            };
+        }
         field.contest.participants.push_back({planning.name, prepare, result});
     }
 }

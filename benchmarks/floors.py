@@ -12,7 +12,7 @@ import catalogue  # noqa: E402
 # The families of kernels, by the name of their contests.
 KERNELS = {"complex_forward": "DFTFwd_CToC", "complex_inverse": "DFTInv_CToC", "real_forward": "DFTFwd_RToCCS",
            "real_inverse": "DFTInv_CCSToR", "packed_forward": "DFTFwd_RToPack", "packed_inverse": "DFTInv_PackToR",
-           "hartley": "Hartley"}
+           "permuted_forward": "DFTFwd_RToPerm", "permuted_inverse": "DFTInv_PermToR", "hartley": "Hartley"}
 # Of a family, a length or an order, and "32" or "64".
 EXPORTS = {(export["family"], export["length"] or export["order"], export["element"][:2]): export
            for export in catalogue.kernels()}

@@ -19,6 +19,8 @@ const char* kernelFamily(Transform transform) {
         case Transform::RealInverse: return "DFTInv_CCSToR";
         case Transform::PackedForward: return "DFTFwd_RToPack";
         case Transform::PackedInverse: return "DFTInv_PackToR";
+        case Transform::PermutedForward: return "DFTFwd_RToPerm";
+        case Transform::PermutedInverse: return "DFTInv_PermToR";
         default: return "Hartley";
     }
 }

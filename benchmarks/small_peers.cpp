@@ -126,9 +126,25 @@ void addGsl(Field<Element>& field) {
                 return inPlace(Api::complexForward, Api::complexTable(n), Api::complexSpace(n));
             case Transform::ComplexInverse:
                 return inPlace(Api::complexBackward, Api::complexTable(n), Api::complexSpace(n));
-            case Transform::PackedForward: return inPlace(Api::realForward, Api::realTable(n), Api::realSpace(n));
+            case Transform::PackedForward:
+            case Transform::PermutedForward: return inPlace(Api::realForward, Api::realTable(n), Api::realSpace(n));
             default: return inPlace(Api::realBackward, Api::halfTable(n), Api::realSpace(n));
         }
+    };
+    // Its half spectrum is in the order of Pack. Into that order only the check puts our source.
+    const auto prepareFromPerm = [prepare, arrays = field.arrays] {
+        const Prepared call = prepare();
+        return Prepared{[call, arrays] {
+                            const Result ours(arrays->source, arrays->source + arrays->sourceCount);
+                            const Result half = oursToPacked(Transform::PermutedInverse, ours);
+                            for (std::size_t i = 0; i < half.size(); ++i)
+                                arrays->source[i] = static_cast<Element>(half[i]);
+                            call.once();
+                        },
+                        call.loop};
+    };
+    const auto permuted = [destination = field.destination()] {
+        return packedToOurs(Transform::PermutedForward, destination());
     };
     switch (field.transform) {
         case Transform::ComplexForward:
@@ -136,6 +152,10 @@ void addGsl(Field<Element>& field) {
         case Transform::PackedForward:
         case Transform::PackedInverse:
             field.contest.participants.push_back({"gsl", prepare, field.destination()});
+            break;
+        case Transform::PermutedForward: field.contest.participants.push_back({"gsl", prepare, permuted}); break;
+        case Transform::PermutedInverse:
+            field.contest.participants.push_back({"gsl", prepareFromPerm, field.destination()});
             break;
         default: break;
     }

@@ -13,19 +13,24 @@
 // the value lies between two powers of two. Results are compared with those of the exact scale factor, 1/N or
 // 1/sqrt(N), so that the rounding of the stored factor is part of the error.
 //
-//     accuracy [--mixed] [TRIALS [LENGTH ...]]    inputs for each routine (100000), and the lengths if not all; prints
-//     a
-//                                       line for each routine, flag and way of rounding: family, element, length, flag,
-//                                       registers, inputs, pooled, worst, greatest
-//     accuracy --check                  holds the references against the definitions, and does nothing else
+// With --control, each is measured under every setting of the floating-point unit: to nearest, down, up and towards
+// zero, and where kernels use the x87 unit, with registers of 64, 53 and 24 bits. A plan is built under the same one.
+//
+//     accuracy [--mixed] [--control] [TRIALS [LENGTH ...]]
+//                         inputs for each routine (100000), and the lengths if not all; prints a line for each routine,
+//                         flag and setting: family, element, length, flag, setting, inputs, pooled, worst, greatest
+//     accuracy --check    holds the references against the definitions, and does nothing else
+#include <algorithm>
 #include <bit>
+#include <cfenv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <memory>
 #include <numbers>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "benchmarks/accuracy_inputs.h"
@@ -45,12 +50,6 @@ using test::Wide;
 
 int trialsOfEach = 100000;
 
-// Where a transform of so many points is long, its error is nearly the same at each call, and fewer calls show it.
-constexpr int trialsOf(int all, int points) {
-    const int most = (1 << 28) / points;
-    return all < most ? all : most;
-}
-
 template <class Element>
 constexpr bool isSingle = sizeof(Element) == 4;
 template <class Element>
@@ -60,16 +59,45 @@ std::string ending() {
 
 accuracy::Inputs inputs;
 
-// The ways in which registers round. Where kernels use the x87 unit, many a Windows program has set it to double.
-struct Registers {
-    const char* name;
-    bool roundToDouble;
+// Where a plan has so many points, fewer calls show its error: pooled it is nearly the same at each call, and of mixed
+// inputs each output is looked at by itself.
+int trialsOf(int points) {
+    const int most = (inputs.areMixed ? 1 << 26 : 1 << 28) / points;
+    return points < 4096 ? trialsOfEach : std::min(trialsOfEach, most);
+}
+
+// Settings of the floating-point unit. Where kernels use the x87 unit, many a Windows program has set it to 53 bits.
+struct Setting {
+    std::string name;
+    int bits;  // of a register; 0 where that cannot be set
+    int direction;
 };
 #if defined(_WIN32) && !defined(_WIN64)
-constexpr Registers allRegisters[] = {{"extended", false}, {"double", true}};
+std::vector<Setting> settings = {{"extended", 64, FE_TONEAREST}, {"double", 53, FE_TONEAREST}};
 #else
-constexpr Registers allRegisters[] = {{"sse2", false}};
+std::vector<Setting> settings = {{"sse2", 0, FE_TONEAREST}};
 #endif
+
+void takeAllSettings() {
+    if (settings.front().bits != 0) settings.push_back({"single", 24, FE_TONEAREST});
+    const auto ways = settings;
+    for (const auto& [ending, direction] :
+         {std::pair{"_down", FE_DOWNWARD}, {"_up", FE_UPWARD}, {"_zero", FE_TOWARDZERO}}) {
+        for (const Setting& way : ways) settings.push_back({way.name + ending, way.bits, direction});
+    }
+}
+
+// A setting holds while one of these lives.
+class UnderSetting {
+public:
+    explicit UnderSetting(const Setting& setting) : registers(setting.bits) { std::fesetround(setting.direction); }
+    ~UnderSetting() { std::fesetround(FE_TONEAREST); }
+    UnderSetting(const UnderSetting&) = delete;
+    UnderSetting& operator=(const UnderSetting&) = delete;
+
+private:
+    test::RegistersOfBits registers;
+};
 
 struct Flag {
     const char* name;
@@ -95,21 +123,19 @@ public:
           length(routineLength),
           flags(std::move(routineFlags)),
           found(static_cast<std::size_t>(points)),
-          figures(flags.size() * std::size(allRegisters)) {}
+          figures(flags.size() * settings.size()) {}
 
-    // call(destination, flag) is made in every way; `due` is without the factor.
+    // call(destination, flag, setting) is made in every way; `due` is without the factor.
     template <class Call, class Due>
     void judge(const Call& call, const std::vector<Element>& input, const std::vector<Due>& due) {
         Wide inputSquare = 0;
         for (Element x : input) inputSquare += Wide{x} * x;
         Figures* at = figures.data();
-        for (const Registers& registers : allRegisters) {
+        for (std::size_t setting = 0; setting < settings.size(); ++setting) {
             for (const Flag& flag : flags) {
-                if (registers.roundToDouble) {
-                    const test::DoublePrecisionRegisters precision;
-                    call(found.data(), flag.value);
-                } else {
-                    call(found.data(), flag.value);
+                {
+                    const UnderSetting under(settings[setting]);
+                    call(found.data(), flag.value, setting);
                 }
                 (at++)->add(found, due, flag.factor, outputs, inputSquare);
             }
@@ -122,11 +148,11 @@ public:
         const auto inUnits = [](Wide ratio) {
             return static_cast<double>(std::ldexp(std::sqrt(ratio), isSingle<Element> ? 24 : 53));
         };
-        for (const Registers& registers : allRegisters) {
+        for (const Setting& setting : settings) {
             for (const Flag& flag : flags) {
                 std::printf("%s,%s,%d,%s,%s,%d,%.3f,%.3f,%.3f\n", family.c_str(), ending<Element>().c_str() + 1, length,
-                            flag.name, registers.name, trials, inUnits(at->errors / at->results), inUnits(at->worst),
-                            inUnits(at->greatest));
+                            flag.name, setting.name.c_str(), trials, inUnits(at->errors / at->results),
+                            inUnits(at->worst), inUnits(at->greatest));
                 ++at;
             }
         }
@@ -208,7 +234,7 @@ class OnInput {
 public:
     OnInput(const std::string& name, const std::vector<Element>& input)
         : kernel(exported<Kernel<Element>>(name)), source(input.data()) {}
-    void operator()(Element* destination, int flag) const { kernel(source, destination, flag); }
+    void operator()(Element* destination, int flag, std::size_t) const { kernel(source, destination, flag); }
 
 private:
     Kernel<Element> kernel;
@@ -277,13 +303,12 @@ void measureWalshHadamard(int order) {
     Judge<Element> judge("wht", Outputs::Real, order, static_cast<int>(points), flagsOf(1 << order, DivFwdByN));
     std::vector<Element> x(points), buffer(2 * points);
     Values due(points);
-    const int trials = trialsOf(trialsOfEach, 1 << order);
-    for (int i = 0; i < trials; ++i) {
+    for (int i = 0; i < trialsOfEach; ++i) {
         const std::size_t k = inputs.below(points);
         inputs.fill(x, inputs.shapeOf(i), [&](std::size_t j) { return std::popcount(j & k) % 2 == 1 ? -1.0 : 1.0; });
         due.assign(x.begin(), x.end());
         accuracy::walshHadamard(due);
-        judge.judge([&](Element* y, int flag) { routine(x.data(), y, flag, buffer.data()); }, x, due);
+        judge.judge([&](Element* y, int flag, std::size_t) { routine(x.data(), y, flag, buffer.data()); }, x, due);
     }
     judge.print();
 }
@@ -312,14 +337,18 @@ private:
 template <class Element>
 void measureDct4(int length) {
     const auto points = static_cast<std::size_t>(length);
-    const Plan<Element> plan(length);
+    std::vector<std::unique_ptr<Plan<Element>>> plans;  // one for each setting
+    for (const Setting& setting : settings) {
+        const UnderSetting under(setting);
+        plans.push_back(std::make_unique<Plan<Element>>(length));
+    }
     const Plan<double> planInDouble(length);
     Dct4Reference reference(length);
     Judge<Element> judge("dct4", Outputs::Real, length, length, {{"none", 0, 1}});
     std::vector<Element> x(points);
     std::vector<double> wide(points), dueInDouble(points);
     Values due(points);
-    const int trials = trialsOf(trialsOfEach, length);
+    const int trials = trialsOf(length);
     for (int i = 0; i < trials; ++i) {
         const std::size_t k = inputs.below(points);
         inputs.fill(x, inputs.shapeOf(i), [&](std::size_t n) {
@@ -327,7 +356,7 @@ void measureDct4(int length) {
                             static_cast<double>(4 * points));
         });
         wide.assign(x.begin(), x.end());
-        const auto run = [&](Element* y, int) { plan.run(x.data(), y); };
+        const auto run = [&](Element* y, int, std::size_t setting) { plans[setting]->run(x.data(), y); };
         if constexpr (isSingle<Element>) {
             planInDouble.run(wide.data(), dueInDouble.data());
             judge.judge(run, x, dueInDouble);
@@ -356,13 +385,23 @@ void measureAll(const std::set<int>& lengths) {
 
 int main(int argc, char** argv) {
     if (!accuracy::definitionsHold()) return 1;
-    if (argc > 1 && std::strcmp(argv[1], "--check") == 0) return 0;
-    inputs.areMixed = argc > 1 && std::strcmp(argv[1], "--mixed") == 0;
-    if (inputs.areMixed) --argc, ++argv;
-    if (argc > 1) trialsOfEach = std::atoi(argv[1]);
-    if (trialsOfEach < 1) return std::fputs("accuracy [--mixed] [TRIALS [LENGTH ...]] | --check\n", stderr), 1;
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    auto argument = arguments.begin();
+    const auto is = [&](std::string_view name) {
+        const bool found = argument != arguments.end() && *argument == name;
+        if (found) ++argument;
+        return found;
+    };
+    if (is("--check")) return 0;
+    inputs.areMixed = is("--mixed");
+    if (is("--control")) takeAllSettings();
+    if (argument != arguments.end()) trialsOfEach = std::atoi((argument++)->data());
+    if (trialsOfEach < 1) {
+        std::fputs("accuracy [--mixed] [--control] [TRIALS [LENGTH ...]] | --check\n", stderr);
+        return 1;
+    }
     std::set<int> lengths;
-    for (int i = 2; i < argc; ++i) lengths.insert(std::atoi(argv[i]));
+    while (argument != arguments.end()) lengths.insert(std::atoi((argument++)->data()));
     measureAll<double>(lengths);
     measureAll<float>(lengths);
 }

@@ -2,9 +2,13 @@
 
 #include <cmath>
 #include <cstdio>
+#include <map>
+#include <memory>
 
+#include "errors/dct4_bound.h"
 #include "errors/error_bound.h"
 #include "output/catalogue.h"
+#include "rules/transforms.h"
 
 namespace gen {
 namespace {
@@ -102,6 +106,39 @@ void addDct4(Table& table, const GraphEntry& entry) {
     table.add("dct4", "32f", entry.length, one.name, boundInSingle(single, one, 1));
 }
 
+// The bounds of the bodies of a plan, each computed once.
+class BodyBounds {
+public:
+    explicit BodyBounds(Width constants) : width(constants) {}
+
+    Dct4Bodies bodies() {
+        return {[this](int points) { return of(folds, dct4FoldTransform, points, true); },
+                [this](int radix) { return of(rows, dct4OutputOfRotated, radix, false); },
+                [this](int points) { return of(dfts, dct4CombineOfRotated, points, true); }};
+    }
+
+private:
+    using Known = std::map<int, ErrorBound>;
+
+    ErrorBound of(Known& known, std::unique_ptr<Graph> (*build)(int), int number, bool complex) {
+        const auto [place, isNew] = known.try_emplace(number);
+        if (isNew) place->second = errorBound(LinearMap(*build(number), width), complex);
+        return place->second;
+    }
+
+    Width width;
+    Known folds, rows, dfts;
+};
+
+void addDct4Plans(Table& table) {
+    BodyBounds inDouble(Width::Double), inSingle(Width::Single);
+    for (int points = 64; points <= 65536; points *= 2) {
+        table.add("dct4", "64f", points, "none", dct4Bound(points, inDouble.bodies(), Width::Double).total() / unit);
+        table.add("dct4", "32f", points, "none",
+                  dct4Bound(points, inSingle.bodies(), Width::Single).total() / singleUnit);
+    }
+}
+
 }  // namespace
 
 std::string boundsTable() {
@@ -110,6 +147,7 @@ std::string boundsTable() {
         if (!entry.family->isBody()) addKernels(table, entry);
         if (entry.family->word == "dct4_direct") addDct4(table, entry);
     }
+    addDct4Plans(table);
     for (int order = 1; order <= 13; ++order) addWalshHadamard(table, order);
     return table.text();
 }

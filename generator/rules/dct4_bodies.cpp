@@ -218,6 +218,10 @@ RealSignal dct4Output(const Signal& z, const Signal& table) {
     return outputRow(turned);
 }
 
+RealSignal dct4OutputOfRotated(const Signal& z) { return outputRow(z); }
+
+Signal dct4CombineOfRotated(const Signal& d) { return positiveDft(d); }
+
 Signal dct4Combine(const Signal& d, const Signal& table) {
     if (d.size() > 8) return folded(combinedInTwo(d, table));
     Signal row = {d[0]};

@@ -18,6 +18,9 @@ Signal dct4Fold(const RealSignal& x);
 // the order of dct4OutputOrder. Result: r rising outputs, then r falling ones.
 RealSignal dct4Output(const Signal& z, const Signal& table);
 
+// The same from bins that have been rotated by their table entries.
+RealSignal dct4OutputOfRotated(const Signal& z);
+
 // Which p each place of a table row has.
 std::vector<int> dct4OutputOrder(int radix);
 
@@ -25,6 +28,10 @@ std::vector<int> dct4OutputOrder(int radix);
 // row's bins of the r parts. table: the twiddles of parts 1 .. r-1; for radix 16 and 32, done as r/4 by 4, those of the
 // inner step (r/4 - 1), then for each of r/4 sub-rows the three of the outer step.
 Signal dct4Combine(const Signal& d, const Signal& table);
+
+// What a row of radix 2, 4 or 8, and each step of one of 16 or 32, does after its rotations: a DFT with the root
+// exp(2 pi i/L).
+Signal dct4CombineOfRotated(const Signal& d);
 
 // The whole transform: y[k] = sum over n of x[n] cos(pi (n + 1/2)(k + 1/2)/N).
 RealSignal dct4Direct(const RealSignal& x);

@@ -115,6 +115,18 @@ std::unique_ptr<Graph> dct4CombineRow(int radix) {
     return graph;
 }
 
+std::unique_ptr<Graph> dct4OutputOfRotated(int radix) {
+    auto graph = std::make_unique<Graph>();
+    storeReals(*graph, dct4OutputOfRotated(loadPairs(*graph, 0, radix)));
+    return graph;
+}
+
+std::unique_ptr<Graph> dct4CombineOfRotated(int points) {
+    auto graph = std::make_unique<Graph>();
+    storePairs(*graph, dct4CombineOfRotated(loadPairs(*graph, 0, points)));
+    return graph;
+}
+
 std::unique_ptr<Graph> dct4DirectTransform(int points) {
     auto graph = std::make_unique<Graph>();
     storeReals(*graph, dct4Direct(loadReals(*graph, 0, points)));

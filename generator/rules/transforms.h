@@ -30,6 +30,10 @@ std::unique_ptr<Graph> dct4FoldTransform(int points);
 std::unique_ptr<Graph> dct4OutputRow(int radix);
 std::unique_ptr<Graph> dct4CombineRow(int radix);
 
+// What such a row does after its rotations: an output row of this radix, a DFT in a combine row. These have no tables.
+std::unique_ptr<Graph> dct4OutputOfRotated(int radix);
+std::unique_ptr<Graph> dct4CombineOfRotated(int points);
+
 // The complex numbers in the table of a combine row: those of its first step, and those of its second one, which rows
 // of radix 16 and 32 have.
 struct CombineTable {

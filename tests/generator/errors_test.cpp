@@ -2,10 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
+#include <numbers>
 #include <random>
 
+#include "dct4/tree.h"
+#include "errors/dct4_bound.h"
 #include "errors/error_bound.h"
 #include "output/catalogue.h"
+#include "rules/dct4_bodies.h"
+#include "rules/transforms.h"
 
 namespace test {
 namespace {
@@ -83,8 +89,39 @@ TEST(ErrorBound, OfWalshHadamardTransformsIsThatOfTheirGraphs) {
     }
 }
 
-// Each step of a graph is made wrong by its whole 2^-53 in the direction that is worst for an output. No input may make
-// that error greater than the bound. The inputs are the rows of what has the greatest gains, which come near to it.
+// Each step of a graph is made wrong by its whole 2^-53 in the direction that is worst for an output. Inputs are looked
+// for that make this error great: the rows of what has the greatest gains come near to it. Returns the greatest error
+// over the 2-norm of its input, in units of 2^-53.
+double worstRoundings(const LinearMap& map, const Output& output, std::mt19937& random) {
+    std::normal_distribution<double> normal;
+    const auto gains = map.gains(output);
+    const auto alive = map.graph().aliveNodes();
+    const auto errorOf = [&](const std::vector<double>& x, std::vector<double>* next) {
+        double error = 0, square = 0;
+        for (double value : x) square += value * value;
+        for (NodeId node : alive) {
+            if (!map.rounds(node) || gains[node] == 0) continue;
+            double value = 0;
+            for (std::size_t i = 0; i < x.size(); ++i) value += map.row(node)[i] * x[i];
+            error += std::abs(gains[node] * value);
+            // The input that makes this sum greater: all rows in the directions that they have now.
+            const double weight = std::copysign(gains[node], value);
+            for (std::size_t i = 0; i < x.size(); ++i) (*next)[i] += weight * map.row(node)[i];
+        }
+        return error / std::sqrt(square);
+    };
+    std::vector<double> x(static_cast<std::size_t>(map.graph().inputs()));
+    for (double& value : x) value = normal(random);
+    double worst = 0;
+    for (int round = 0; round < 6; ++round) {
+        std::vector<double> next(x.size());
+        worst = std::max(worst, errorOf(x, &next));
+        x = next;
+    }
+    return worst;
+}
+
+// No input may make the error of a graph greater than the bound.
 class ErrorBounds : public testing::TestWithParam<gen::GraphEntry> {};
 
 TEST_P(ErrorBounds, AreAboveTheWorstRoundings) {
@@ -92,35 +129,11 @@ TEST_P(ErrorBounds, AreAboveTheWorstRoundings) {
     const auto graph = entry.build();
     const LinearMap map(*graph, Width::Double);
     std::mt19937 random(1);
-    std::normal_distribution<double> normal;
     double nearest = 0;
     for (const Output& output : graph->outputs()) {
-        const double bound = errorBound(map, {output}).steps;
-        const auto gains = map.gains(output);
-        // Values of all nodes, one after the other.
-        const auto errorOf = [&](const std::vector<double>& x, std::vector<double>* next) {
-            double error = 0, square = 0;
-            for (double value : x) square += value * value;
-            for (NodeId node : graph->aliveNodes()) {
-                if (!map.rounds(node) || gains[node] == 0) continue;
-                double value = 0;
-                for (std::size_t i = 0; i < x.size(); ++i) value += map.row(node)[i] * x[i];
-                error += std::abs(gains[node] * value);
-                // The input that makes this sum greater: all rows in the directions that they have now.
-                const double weight = std::copysign(gains[node], value);
-                for (std::size_t i = 0; i < x.size(); ++i) (*next)[i] += weight * map.row(node)[i];
-            }
-            return error / std::sqrt(square);
-        };
-        std::vector<double> x(static_cast<std::size_t>(graph->inputs()));
-        for (double& value : x) value = normal(random);
-        for (int round = 0; round < 6; ++round) {
-            std::vector<double> next(x.size());
-            const double error = errorOf(x, &next);
-            ASSERT_LE(error, bound) << "output " << output.place;
-            nearest = std::max(nearest, error / bound);
-            x = next;
-        }
+        const double bound = errorBound(map, {output}).steps, error = worstRoundings(map, output, random);
+        EXPECT_LE(error, bound) << "output " << output.place;
+        nearest = std::max(nearest, error / bound);
     }
     EXPECT_GT(nearest, 0.6) << "the bound is far from what is possible";
 }
@@ -138,6 +151,120 @@ std::vector<gen::GraphEntry> someGraphs() {
 INSTANTIATE_TEST_SUITE_P(All, ErrorBounds, testing::ValuesIn(someGraphs()), [](const auto& test) {
     return test.param.family->word + "_" + std::to_string(test.param.length);
 });
+
+// A DCT-IV in two passes as one graph: its rotations are by constants in place of tables.
+void buildInPasses(Graph& graph, int points) {
+    const int r = gen::dct4Radix(points), M = points / r;
+    gen::RealSignal x;
+    for (int n = 0; n < points; ++n) x.push_back(graph.load(n));
+    std::vector<gen::Signal> bins;
+    for (int p = 0; p < r; ++p) {
+        gen::RealSignal part;
+        for (int s = 0; s < M; ++s) {
+            const int n = s < M / 2 ? p + 2 * r * s : 2 * points - 1 - p - 2 * r * s;
+            part.push_back(x[static_cast<std::size_t>(n)]);
+        }
+        bins.push_back(gen::dct4Fold(part));
+    }
+    for (int m = 0; m < M / 2; ++m) {
+        gen::Signal row;
+        for (int p = 0; p < r; ++p) {
+            const gen::ComplexValue z = bins[static_cast<std::size_t>(p)][static_cast<std::size_t>(m)];
+            const int angle = (2 * m + 1) * (2 * p + 1);  // of a turn that has 8 N parts
+            const gen::Coefficient c = gen::cosine(angle, 8 * points), s = gen::sine(angle, 8 * points);
+            row.push_back({c * z.re - s * z.im, c * z.im + s * z.re});
+        }
+        const gen::RealSignal outputs = gen::dct4OutputOfRotated(row);
+        for (int b = 0; b < r; ++b) {
+            graph.store(m + b * M, outputs[static_cast<std::size_t>(b)]);
+            graph.store(points - 1 - m - b * M, outputs[static_cast<std::size_t>(r + b)]);
+        }
+    }
+}
+
+gen::ErrorBound boundOf(std::unique_ptr<Graph> graph, bool complex) {
+    return errorBound(LinearMap(*graph, Width::Double), complex);
+}
+
+const gen::Dct4Bodies bodies = {[](int points) { return boundOf(gen::dct4FoldTransform(points), true); },
+                                [](int radix) { return boundOf(gen::dct4OutputOfRotated(radix), false); },
+                                [](int points) { return boundOf(gen::dct4CombineOfRotated(points), true); }};
+
+TEST(Dct4Bound, IsAboveTheWorstRoundingsOfBothPassesTogether) {
+    for (int points : {64, 128}) {
+        Graph graph;
+        buildInPasses(graph, points);
+        const LinearMap map(graph, Width::Double);
+        const gen::Dct4Bound bound = dct4Bound(points, bodies, Width::Double);
+        std::mt19937 random(1);
+        double nearest = 0;
+        for (std::size_t i = 0; i < graph.outputs().size(); i += 5) {
+            const double error = worstRoundings(map, graph.outputs()[i], random);
+            EXPECT_LE(error * 0x1p-53, bound.steps);
+            nearest = std::max(nearest, error * 0x1p-53 / bound.steps);
+        }
+        EXPECT_GT(nearest, 0.3) << "the bound is far from what is possible";
+        // It is the transform, and each of its outputs has the modulus that the bound takes it to have.
+        const std::vector<double>& row = map.row(graph.outputs().front().node);
+        double square = 0;
+        for (std::size_t n = 0; n < row.size(); ++n) {
+            const double k = graph.outputs().front().place, N = points;
+            const double sign = graph.outputs().front().minus ? -1 : 1;
+            EXPECT_NEAR(sign * row[n], std::cos(std::numbers::pi * (static_cast<double>(n) + 0.5) * (k + 0.5) / N),
+                        1e-14);
+            square += row[n] * row[n];
+        }
+        EXPECT_NEAR(square, points / 2.0, 1e-9);
+    }
+}
+
+// What the bound takes apart is what ships: a row is its rotations, of four products and two sums each, and the rest.
+TEST(Dct4Bound, KnowsAllStepsOfARow) {
+    const auto additions = [](const Graph& graph) { return graph.counts().additions + graph.counts().subtractions; };
+    for (int radix : {8, 16, 32}) {
+        const auto row = gen::dct4OutputRow(radix), rest = gen::dct4OutputOfRotated(radix);
+        EXPECT_EQ(row->counts().multiplications, 4 * radix + rest->counts().multiplications);
+        EXPECT_EQ(additions(*row), 2 * radix + additions(*rest));
+        const int inner = radix == 8 ? 8 : radix / 4, outer = radix / inner;
+        const auto combine = gen::dct4CombineRow(radix), first = gen::dct4CombineOfRotated(inner),
+                   second = gen::dct4CombineOfRotated(4);
+        const int rotations = (inner - 1) * outer + (outer == 4 ? 3 * inner : 0), seconds = outer == 4 ? inner : 0;
+        EXPECT_EQ(combine->counts().multiplications,
+                  4 * rotations + outer * first->counts().multiplications + seconds * second->counts().multiplications);
+        EXPECT_EQ(additions(*combine), 2 * rotations + outer * additions(*first) + seconds * additions(*second));
+    }
+}
+
+TEST(Dct4Bound, TakesPartsAsPlansDo) {
+    for (int points = 64; points <= 1 << 20; points *= 2) {
+        std::int32_t radix = 0;
+        ASSERT_EQ(zulg::pickRadix(&radix, points / 2), StatusOk);
+        EXPECT_EQ(gen::dct4Radix(points), radix) << points;
+    }
+}
+
+// Entries are computed here as the tables of a plan are.
+TEST(Dct4Bound, IsAboveTheErrorsOfTables) {
+    constexpr double pi = 3.141592653589793;
+    for (double most : {0.5, 0.75, 0.875, 1.3125, 1.40625}) {
+        double twice = 0, single = 0;
+        for (int i = 1; i <= 16384; ++i) {
+            const double f = most * (2 * i - 1) / 32768;  // exact
+            const double c = std::cos(f * pi), s = std::sin(f * pi);
+            const long double angle = std::numbers::pi_v<long double> * static_cast<long double>(f);
+            const long double cosine = std::cos(angle), sine = std::sin(angle);
+            const auto distance = [&](long double x, long double y) {
+                return static_cast<double>(std::hypot(x - cosine, y - sine));
+            };
+            twice = std::max(twice, distance(c, s));
+            single = std::max(single, distance(static_cast<float>(c), static_cast<float>(s)));
+        }
+        EXPECT_LE(twice, gen::tableError(most, Width::Double)) << most;
+        EXPECT_GE(twice, 0.2 * gen::tableError(most, Width::Double)) << most;
+        EXPECT_LE(single, gen::tableError(most, Width::Single)) << most;
+        EXPECT_GE(single, 0.9 * gen::tableError(most, Width::Single)) << most;
+    }
+}
 
 }  // namespace
 }  // namespace test

@@ -19,16 +19,23 @@ inline FloatState floatState() {
     return {static_cast<std::uint16_t>(environment[0]), static_cast<std::uint16_t>(environment[2])};
 }
 
-// Sets the x87 registers to round to double while it lives. Where kernels use other registers, nothing changes.
-class DoublePrecisionRegisters {
+// Sets the x87 registers to round to so many bits, 64, 53 or 24, while it lives. Where kernels use other registers,
+// nothing changes, nor does anything for 0 bits.
+class RegistersOfBits {
 public:
-    DoublePrecisionRegisters() {
+    explicit RegistersOfBits(int bits) {
         __asm__ volatile("fnstcw %0" : "=m"(before));
-        set(static_cast<std::uint16_t>((before & ~0x0300) | 0x0200));
+        const int precision = bits == 24 ? 0x0000 : bits == 53 ? 0x0200 : bits == 64 ? 0x0300 : before & 0x0300;
+        set(static_cast<std::uint16_t>((before & ~0x0300) | precision));
     }
-    ~DoublePrecisionRegisters() { set(before); }
-    DoublePrecisionRegisters(const DoublePrecisionRegisters&) = delete;
-    DoublePrecisionRegisters& operator=(const DoublePrecisionRegisters&) = delete;
+    // What else has been set in the meantime is kept.
+    ~RegistersOfBits() {
+        std::uint16_t now;
+        __asm__ volatile("fnstcw %0" : "=m"(now));
+        set(static_cast<std::uint16_t>((now & ~0x0300) | (before & 0x0300)));
+    }
+    RegistersOfBits(const RegistersOfBits&) = delete;
+    RegistersOfBits& operator=(const RegistersOfBits&) = delete;
 
 private:
     static void set(std::uint16_t control) { __asm__ volatile("fldcw %0" : : "m"(control)); }
@@ -45,11 +52,17 @@ struct FloatState {
 
 inline FloatState floatState() { return {std::fegetround(), 0}; }
 
-class DoublePrecisionRegisters {
+class RegistersOfBits {
 public:
-    DoublePrecisionRegisters() {}
+    explicit RegistersOfBits(int) {}
 };
 
 #endif
+
+// Registers that round to double.
+class DoublePrecisionRegisters : RegistersOfBits {
+public:
+    DoublePrecisionRegisters() : RegistersOfBits(53) {}
+};
 
 }  // namespace test

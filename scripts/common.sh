@@ -112,7 +112,7 @@ build_preset() {
 longest_input() { if [ "$1" = readers ]; then echo 5000; else echo 600; fi; }
 
 # fuzz_build NAME ...: builds harnesses of tests/fuzz with clang's libFuzzer and sanitizers into build/fuzz, against the
-# libraries of the native build. An object that is newer than all sources is kept.
+# libraries of the native build. One that is newer than all sources is kept.
 fuzz_build() {
     need_packages "${packages_native[@]}" clang
     build_preset native --target zulgenpx zulgenpx_batch zulcore fake_core
@@ -127,12 +127,12 @@ fuzz_build() {
     for name in "$@"; do
         local sources=("tests/fuzz/${name}_fuzz.cpp" "${shared[@]}") objects=()
         [ "$name" != readers ] || sources=("tests/fuzz/${name}_fuzz.cpp" "${tool[@]}")
+        if [ -e "build/fuzz/${name}_fuzz" ] && [ -z "$(find include batch dct4 tests tools -name '*.[ch]*' \
+            -newer "build/fuzz/${name}_fuzz")" ]; then continue; fi
         say "Building the harness $name ..."
         for source in "${sources[@]}"; do
             object=build/fuzz/objects/$(basename "$source").o
             objects+=("$object")
-            [ -z "$(find "$object" -newer "$source" 2>/dev/null)" ] || [ -n "$(find include tests tools dct4 batch \
-                -name '*.h' -newer "$object")" ] || continue
             clang++ "${flags[@]}" -I. -Iinclude -Itargets/x86_64 -I"$gtest/include" -I"$gtest" \
                 "-DZULG_LIBRARY=\"$tree/build/native/libzulgenpx-7.0.so\"" "-DZULG_FAKE_CORE=\"none\"" \
                 "-DZULG_BATCH_LIBRARY=\"$tree/build/native/libzulgenpx-batch-7.0.so\"" -c "$source" -o "$object"

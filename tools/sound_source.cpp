@@ -20,8 +20,7 @@ public:
         lseek(descriptor, 0, SEEK_SET);
         file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
         if (!file) {
-            const std::string reason = reasonOfLibrary();
-            close(descriptor);
+            const std::string reason = reasonOfLibrary();  // the library has closed the descriptor
             if (!damage.empty()) throw DamagedInput(damageText(name, damage, 0));
             if (!isSoundFile) throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
             throw UserError(name + ": the sound cannot be read: " + reason);

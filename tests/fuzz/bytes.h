@@ -20,6 +20,7 @@ public:
     Number take() {
         Number number{};
         const std::size_t count = std::min(left, sizeof number);
+        if (count == 0) return number;  // there may be no bytes at all
         std::memcpy(&number, at, count);
         at += count;
         left -= count;

@@ -1,10 +1,7 @@
 // The convention of 64-bit Windows: eight registers and the lower halves of xmm6 to xmm15 belong to the caller.
-#include <xmmintrin.h>
-
 #include <array>
 
-#include "tests/limits/surroundings.h"
-#include "tests/limits/upper_halves.h"
+#include "tests/limits/x86_64_units.h"
 
 namespace test {
 namespace {
@@ -14,8 +11,7 @@ struct State {
     std::array<std::uint64_t, 9> kept;  // rbx, rbp, rdi, rsi, r12 to r15, and how far the stack pointer is off
     std::uint64_t flags;
     std::array<std::uint64_t, 20> vectors;  // xmm6 to xmm15
-    std::uint32_t mxcsr;
-    std::uint16_t control, tags;
+    Units units;
 };
 
 }  // namespace
@@ -139,58 +135,33 @@ spoil:
     ret
 )");
 
-const char* const whatSpoilChanges = " rdi r15 direction xmm9 tags";
+const char* const whatSpoilChanges = " rdi r15 xmm9 direction tags";
 
 namespace {
 
 constexpr std::array<const char*, 9> names = {" rbx", " rbp", " rdi", " rsi", " r12", " r13", " r14", " r15", " rsp"};
 constexpr std::uint64_t ones = 0x1111111111111111;
-constexpr std::uint32_t usual = 0x1F80, raised = 0x1D, status = 0x3F;
-constexpr std::uint64_t directionFlag = 0x400;
 
-// Rounding to nearest; towards zero; flushing of small numbers; rounding down.
-constexpr std::uint32_t settings[] = {usual, usual | 0x6000, usual | 0x8040, usual | 0x2000};
+}  // namespace
 
-bool wereInUse = false;
-
-Looked callUnder(std::uint32_t mxcsr, std::uint16_t control, void* routine, Arguments arguments) {
+Looked callUnder(Units due, void* routine, Arguments arguments) {
     arguments.resize(mostArguments);
     State found{};
     for (std::size_t i = 0; i < found.vectors.size(); ++i) arguments.push_back(0x123456789ABCDEF0 + i);
     Looked looked;
-    cleanUpperHalves();
-    __asm__ volatile("fldcw %0" : : "m"(control));
-    _mm_setcsr(mxcsr);
+    setUnits(due);
     looked.result = callWithState(routine, &found, arguments.data());
-    _mm_setcsr(usual);
-    __asm__ volatile("fninit");
-    wereInUse = upperHalvesAreInUse();
+    const std::string units = unitsChanged(due, found.units, found.flags);
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (found.kept[i] != (i == 8 ? 0 : ones * (i + 1))) looked.changed += names[i];
     }
-    if ((found.flags & directionFlag) != 0) looked.changed += " direction";
     for (std::size_t i = 0; i < found.vectors.size(); i += 2) {
-        const std::uintptr_t* const due = &arguments[mostArguments + i];
-        if (found.vectors[i] != due[0] || found.vectors[i + 1] != due[1])
+        const std::uintptr_t* const own = &arguments[mostArguments + i];
+        if (found.vectors[i] != own[0] || found.vectors[i + 1] != own[1])
             looked.changed += " xmm" + std::to_string(6 + i / 2);
     }
-    if ((found.mxcsr & ~status) != (mxcsr & ~status)) looked.changed += " mxcsr";
-    if ((found.mxcsr & raised) != 0) looked.changed += " exceptions";
-    if (found.control != control) looked.changed += " control";
-    if (found.tags != 0xFFFF) looked.changed += " tags";
+    looked.changed += units;
     return looked;
 }
-
-}  // namespace
-
-int waysToCall() { return std::size(settings); }
-
-Looked callAndLook(void* routine, const Arguments& arguments, int way) {
-    return callUnder(settings[way], 0x037F, routine, arguments);
-}
-
-Looked callUnmasked(void* routine, const Arguments& arguments) { return callUnder(0x1100, 0x0362, routine, arguments); }
-
-bool upperHalvesWereInUse() { return wereInUse; }
 
 }  // namespace test

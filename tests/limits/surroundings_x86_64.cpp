@@ -1,10 +1,7 @@
 // The convention of x86-64 on Linux.
-#include <xmmintrin.h>
-
 #include <array>
 
-#include "tests/limits/surroundings.h"
-#include "tests/limits/upper_halves.h"
+#include "tests/limits/x86_64_units.h"
 
 namespace test {
 namespace {
@@ -13,8 +10,7 @@ namespace {
 struct State {
     std::array<std::uint64_t, 7> kept;  // rbx, rbp, r12 to r15, and how far the stack pointer is off
     std::uint64_t flags;
-    std::uint32_t mxcsr;
-    std::uint16_t control, tags;
+    Units units;
 };
 
 }  // namespace
@@ -99,51 +95,26 @@ const char* const whatSpoilChanges = " rbx r14 direction tags";
 namespace {
 
 constexpr std::array<const char*, 7> names = {" rbx", " rbp", " r12", " r13", " r14", " r15", " rsp"};
-constexpr std::array<std::uint64_t, 7> due = {0x1111111111111111,
-                                              0x2222222222222222,
-                                              0x3333333333333333,
-                                              0x4444444444444444,
-                                              0x5555555555555555,
-                                              0x6666666666666666,
-                                              0};
-constexpr std::uint32_t usual = 0x1F80, raised = 0x1D, status = 0x3F;
-constexpr std::uint64_t directionFlag = 0x400;
-
-// Rounding to nearest; towards zero; flushing of small numbers; rounding down.
-constexpr std::uint32_t settings[] = {usual, usual | 0x6000, usual | 0x8040, usual | 0x2000};
-
-bool wereInUse = false;
-
-Looked callUnder(std::uint32_t mxcsr, std::uint16_t control, void* routine, Arguments arguments) {
-    arguments.resize(mostArguments);
-    State found{};
-    Looked looked;
-    cleanUpperHalves();
-    __asm__ volatile("fldcw %0" : : "m"(control));
-    _mm_setcsr(mxcsr);
-    looked.result = callWithState(routine, &found, arguments.data());
-    _mm_setcsr(usual);
-    __asm__ volatile("fninit");
-    wereInUse = upperHalvesAreInUse();
-    for (std::size_t i = 0; i < names.size(); ++i) looked.changed += found.kept[i] == due[i] ? "" : names[i];
-    if ((found.flags & directionFlag) != 0) looked.changed += " direction";
-    if ((found.mxcsr & ~status) != (mxcsr & ~status)) looked.changed += " mxcsr";
-    if ((found.mxcsr & raised) != 0) looked.changed += " exceptions";
-    if (found.control != control) looked.changed += " control";
-    if (found.tags != 0xFFFF) looked.changed += " tags";
-    return looked;
-}
+constexpr std::array<std::uint64_t, 7> expected = {0x1111111111111111,
+                                                   0x2222222222222222,
+                                                   0x3333333333333333,
+                                                   0x4444444444444444,
+                                                   0x5555555555555555,
+                                                   0x6666666666666666,
+                                                   0};
 
 }  // namespace
 
-int waysToCall() { return std::size(settings); }
-
-Looked callAndLook(void* routine, const Arguments& arguments, int way) {
-    return callUnder(settings[way], 0x037F, routine, arguments);
+Looked callUnder(Units due, void* routine, Arguments arguments) {
+    arguments.resize(mostArguments);
+    State found{};
+    Looked looked;
+    setUnits(due);
+    looked.result = callWithState(routine, &found, arguments.data());
+    const std::string units = unitsChanged(due, found.units, found.flags);
+    for (std::size_t i = 0; i < names.size(); ++i) looked.changed += found.kept[i] == expected[i] ? "" : names[i];
+    looked.changed += units;
+    return looked;
 }
-
-Looked callUnmasked(void* routine, const Arguments& arguments) { return callUnder(0x1100, 0x0362, routine, arguments); }
-
-bool upperHalvesWereInUse() { return wereInUse; }
 
 }  // namespace test

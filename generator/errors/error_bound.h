@@ -39,7 +39,8 @@ struct ErrorBound {
 
 // Of an output that is one real number, or of the two that are a complex one. A step of x87 rounds to 64 bits, and once
 // more to 53 where the compiler keeps its result in memory: together at most 2^-53 (1 + 2^-11). All bounds are for that
-// step, so that they hold on every target.
+// step. What they take for granted is that all uses of a node have the same rounding. On x87 with registers of 64 bits
+// a value can be used from its register and from memory; that is not counted.
 ErrorBound errorBound(const LinearMap& map, const std::vector<Output>& parts);
 
 // The greatest of the bounds of all outputs, each figure by itself. Where outputs are `complex`, those of numbers 2k

@@ -218,6 +218,8 @@ def measure(tree, build, folder, parts):
             print(f"| {place} | {lines} | {reached} | {100 * reached / lines:.1f} % | {told} | "
                   f"{lines - reached - told} |")
     print(f"\nRows of `{LIST}`: {len(reasons)}.\n")
+    for path, line in (key for key in reasons if key not in used and key[0] in counts):
+        print(f"Reached all the same, a row to be dropped: {path}: {line}\n")
     print("Lines that are neither reached nor listed: " + ("none." if not missing else "\n"))
     print("\n".join(f"    {line}" for line in missing))
     return 1 if missing else 0

@@ -15,14 +15,17 @@ from faults import code_faults, text_faults
 #     table               digests of the DCT-IV over tables of integers, with the plan's sources linked in
 #     old PATTERN         the same on an emulated processor without AVX
 #     processors          what the library asks emulated processors
+#     plain               digests of the Walsh-Hadamard family as targets without lanes have it
 #     run PROGRAM ...     a test program with the mutant in place of the library
 #     link PROGRAM ...    a test program that has sources of the library linked in
 WHOLE_DCT4 = "run dct4_test --gtest_filter=-*Stack*"
 JUDGES = {
     r"dct4/(combine|fold|output|run|split|ports|lane_ports|in_lanes|[a-z]+_in_lanes)\.|dct4/bodies/":
         ["bits DCT4", "table", "link dct4_plain_test", WHOLE_DCT4],
+    r"dct4/rounded_once": ["link table_arguments_test", "link plan_test"],
     r"dct4/": ["link plan_test", "bits DCT4", "table", "link table_arguments_test", WHOLE_DCT4],
-    r"wht/": ["bits WHT", "run wht_test"],
+    r"wht/(small|large)_orders": ["plain"],
+    r"wht/": ["bits WHT", "plain", "run wht_test"],
     r"boundary/(allocator_hook|load_entry|load_elf|shared_library_elf)\.":
         ["link hook_binding_test", "link hook_companion_test", "run hook_library_test"],
     r"boundary/": ["run boundary_test", "bits WHT", "bits "],
@@ -37,7 +40,7 @@ JUDGES = {
 # ports of batches, which hundreds of objects see.
 LEFT_OUT = (r"boundary/(entries|entry_call|load_levels|load_standard|settle\w*|\w*windows|static_names)\.|"
             r"batch/(entries|load|one_ports|many_ports|many|many_transforms|many_routines|many_texts)\.|"
-            r"wht/(small_orders|large_orders)\.|.*entries\.inc$")
+            r".*entries\.inc$")
 FOLDERS = ("boundary", "wht", "dct4", "batch")
 LEVELS = ("has_avx2.h", "levels.h", "processor_level.cpp")
 SECONDS = 60
@@ -104,6 +107,9 @@ class Library:
             program = self.build.link_program(folder, "table_digests", objects)
             done = program and self.started([program, libraries["main"]])
             return bool(done) and self.same(done, self.table)
+        if kind == "plain":
+            done = self.plain_orders(folder)
+            return done is not None and self.same(done, self.digests)
         if kind == "processors":
             levels, program = os.path.join(self.tree, "tests/levels"), os.path.join(folder, "has_avx2")
             subprocess.run(["g++", "-std=c++20", f"-I{folder}", f"-I{self.tree}", os.path.join(levels, "has_avx2.cpp"),
@@ -116,6 +122,26 @@ class Library:
         environment = {"ZULG_TEST_LIBRARY": libraries["main"], "ZULG_TEST_BATCH_LIBRARY": libraries["batch"],
                        "LD_LIBRARY_PATH": os.path.dirname(libraries["main"])}
         return self.started([self.build.path(words[0]), "--gtest_brief=1", *words[1:]], environment) is not None
+
+    def plain_orders(self, folder):
+        """What the orders print that are one number to a register, compiled for the target in plain C++."""
+        entries = ['#include <cstdlib>\n#include "wht/wht.h"\nextern "C" void* zulMalloc(std::uint32_t n) '
+                   '{ return std::malloc(n); }\nextern "C" void zulFree(void* p) { std::free(p); }\n']
+        for order in range(1, 14):
+            for element, suffix in (("float", "32f"), ("double", "64f")):
+                arguments = f"(const {element}* a, {element}* b, std::int32_t f, {element}* c)"
+                name = f"zulgWHT_{order}_{suffix}"
+                entries.append(f'int own_{name}{arguments} __asm__("{name}");\nint own_{name}{arguments} '
+                               f"{{ return zulg::wht<{order}, {element}>(a, b, f, c); }}\n")
+        source, library = os.path.join(folder, "entries.cpp"), os.path.join(folder, "plain.so")
+        with open(source, "w", encoding="ascii") as file:
+            file.write("".join(entries))
+        own = [path if os.path.exists(path) else os.path.join(self.tree, "wht", os.path.basename(path))
+               for path in (os.path.join(folder, f"wht/{name}_orders.cpp") for name in ("small", "large"))]
+        done = subprocess.run(["g++", "-std=c++20", "-O1", "-w", "-fPIC", "-ffp-contract=off", "-shared", f"-I{folder}",
+                               f"-I{self.tree}", f"-I{self.tree}/targets/generic", source, *own, "-o", library],
+                              stderr=subprocess.DEVNULL, check=False)
+        return self.started([self.build.path("digests"), library, "zulgWHT_"]) if done.returncode == 0 else None
 
     @staticmethod
     def same(lines, due):

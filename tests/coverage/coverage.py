@@ -1,4 +1,4 @@
-"""Measures which lines the tests reach, with gcov, and holds the lines that they do not reach against a list of reasons.
+"""Measures which lines the tests reach, with gcov, and holds those that they do not reach against a list of reasons.
 
 coverage.py measure TREE BUILD FOLDER   compiles the sources of a build anew in FOLDER, with counters, runs the tests on
                                         them, and prints the table for the results; fails at a line without a reason

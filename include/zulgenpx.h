@@ -123,10 +123,10 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
    In 32f, the DFT and Hartley transforms compute in double and round once, at the store. Walsh-Hadamard orders 8 to 11
    round once more, and 12 and 13 twice more, when they write to the buffer; a DCT-IV from 64 points on at least once,
    when it writes to its plan. On 32-bit Windows, registers are wider than a double unless the program has set them to
-   round to double; where they are, 64f results are better than the worst that has been seen. Where a program has set
-   them to 24 bits, 64f results are as exact as single ones: the bounds of 64f hold in units of 2^-24, but for a DCT-IV
-   above 32 points, of which nothing is proved then. All of this is for rounding to nearest; in another direction errors
-   are at most twice the bounds. */
+   53 bits. 64f results are better there, and the proof leaves out that a value can be used both from its register and
+   from memory, which differ by a rounding. Where a program has set them to 24 bits, 64f results are as exact as single
+   ones: the bounds of 64f hold in units of 2^-24, but for a DCT-IV above 32 points, of which nothing is proved then.
+   All of this is for rounding to nearest; in another direction errors are at most twice the bounds. */
 
 /* -- Version -------------------------------------------------------------------------------------------------------
 

@@ -39,7 +39,13 @@ protected:
 };
 
 TEST_F(LibraryTest, TheHookIsAllItsWritableData) {
-    EXPECT_EQ(library.writableData().bytes, sizeof(zulg::AllocatorHook));
+#ifdef _WIN64
+    // The compiler aligns what is this large to 32 bytes, and a section of this target is a multiple of its alignment.
+    constexpr std::size_t due = (sizeof(zulg::AllocatorHook) + 31) / 32 * 32;
+#else
+    constexpr std::size_t due = sizeof(zulg::AllocatorHook);
+#endif
+    EXPECT_EQ(library.writableData().bytes, due);
 }
 
 TEST_F(LibraryTest, LoadingFillsTheSlotsWithRoutinesOfItsOwn) {

@@ -26,6 +26,12 @@ const std::map<int, std::pair<double, double>> boundsOfDct4 = {
     {2, {0.5, 0.25}}, {4, {1, 2}},     {8, {1.25, 1.5}}, {16, {1.5, 2.5}},   {32, {2, 3}},     {64, {3, 3}},
     {128, {3, 4}},    {256, {3.5, 5}}, {512, {3.5, 5}},  {1024, {3.5, 5.5}}, {2048, {3.5, 6}},
 };
+// Plans have tables of the machine's own sine and cosine, and more of those of 64-bit Windows are not the nearest.
+#ifdef _WIN64
+constexpr double byTables = 0.5;
+#else
+constexpr double byTables = 0;
+#endif
 
 // The distance of two neighbouring singles around x.
 double placeOfSingle(double x) { return std::ldexp(1.0, std::max(std::ilogb(x), -126) - 23); }
@@ -138,7 +144,7 @@ TEST_P(MatrixTest, EveryCoefficientIsTheExactOne) {
         }
         if (coefficients.isDct4()) {
             const auto [single, twice] = boundsOfDct4.at(transform.length);
-            const double bound = perType<Element>(single, twice);
+            const double bound = perType<Element>(single, twice) + (transform.length > 32 ? byTables : 0);
             return eachCoefficient(subject, coefficients, [&](Element found, const Exact& due) {
                 const double error = std::abs(due.errorOf(found)) / subject.unit;
                 const std::string unit = perType<Element>(", times 2^-24", ", times 2^-53");

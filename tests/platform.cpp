@@ -4,6 +4,7 @@
 
 #include "tests/exports.h"
 #include "tests/memory.h"
+#include "tests/tested_library.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -18,8 +19,7 @@ namespace test {
 #ifdef _WIN32
 
 void* exportedAddress(const std::string& name) {
-    const char* const other = std::getenv("ZULG_TEST_LIBRARY");  // one level by itself: tests/levels
-    static const char* const path = other != nullptr ? other : "zulgenpx-7.0.dll";
+    static const char* const path = testedLibrary("zulgenpx-7.0.dll");
     static const HMODULE library = LoadLibraryA(path);
     if (library == nullptr) return std::printf("%s does not load\n", path), std::exit(1), nullptr;
     return reinterpret_cast<void*>(GetProcAddress(library, name.c_str()));
@@ -70,8 +70,7 @@ std::byte* endOfMemory(std::size_t bytes) {
 #else
 
 void* exportedAddress(const std::string& name) {
-    const char* const other = std::getenv("ZULG_TEST_LIBRARY");  // one level by itself: tests/levels
-    static void* const library = dlopen(other != nullptr ? other : ZULG_LIBRARY, RTLD_NOW);
+    static void* const library = dlopen(testedLibrary(ZULG_LIBRARY), RTLD_NOW);
     if (library == nullptr) return std::puts(dlerror()), std::exit(1), nullptr;
     return dlsym(library, name.c_str());
 }

@@ -2,7 +2,6 @@
 // other.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "boundary/allocator_hook.h"
@@ -10,20 +9,17 @@
 #include "tests/hook/every_export.h"
 #include "tests/hook/loading.h"
 #include "tests/hook/slots.h"
+#include "tests/tested_library.h"
 
 namespace test {
 namespace {
 
-// One with a change in it may take the place of the library: scripts/mutate.
-const char* libraryPath() {
-    const char* const other = std::getenv("ZULG_TEST_LIBRARY");
-    return other != nullptr ? other : ZULG_LIBRARY;
-}
-
 // Loads the library anew for each test. The objects of the library are no part of this program.
 class LibraryTest : public testing::Test {
 protected:
-    LibraryTest() : library(libraryPath()), hook(static_cast<zulg::AllocatorHook*>(library.writableData().start)) {}
+    LibraryTest()
+        : library(testedLibrary(ZULG_LIBRARY)),
+          hook(static_cast<zulg::AllocatorHook*>(library.writableData().start)) {}
     ~LibraryTest() override {
         releaseCompanion();
         library.release();

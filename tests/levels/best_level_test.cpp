@@ -2,8 +2,7 @@
 // cannot tell, since both levels give the same. Instructions of AVX write whole vector registers, those of SSE leave
 // the upper halves as they are. The first level by itself, where these stay, shows that the test can tell the two
 // apart.
-#include <cstdlib>
-
+#include "tests/tested_library.h"
 #include "tests/transforms/kernel_fixture.h"
 
 namespace test {
@@ -57,8 +56,7 @@ protected:
 
 TEST_P(BestLevelTest, IsThatOfTheProcessor) {
     if (transform.takes == Takes::Plan && transform.length <= 32) GTEST_SKIP() << "all levels share one routine";
-    const char* const other = std::getenv("ZULG_TEST_LIBRARY");
-    expectLevel(other != nullptr && std::string(other).find("levels/x86_64/") != std::string::npos);
+    expectLevel(std::string(testedLibrary("")).find("levels/x86_64/") != std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, BestLevelTest, testing::ValuesIn(allTransforms()), testName);

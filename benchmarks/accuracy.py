@@ -147,11 +147,11 @@ figure of all four flags, beside results of the exact factor, so that the roundi
 product are part of the error.
 
 The layouts of a real spectrum give the same bits; Pack is measured. Both levels of x86-64, 64-bit Windows, 64-bit ARM,
-standard C++ on any machine and WebAssembly give the same bits, which the tests `same_bits` hold, so that x86-64 stands
-for all of them. The DCT-IV above 32 points is the same over the same tables; those come from the machine's sine and
-cosine, which agree within one unit of the last place. On 32-bit Windows the registers of the processor are wider than a
-double, unless the program has set them to round to double; both are measured, and [other settings](accuracy-x87.md)
-beside them.
+standard C++ on any machine and WebAssembly give the same bits, which the tests `same_bits` hold, so that all of them
+have the figures of x86-64. The DCT-IV above 32 points is the same over the same tables; those come from the machine's
+sine and cosine, which agree within one unit of the last place. On 32-bit Windows the registers of the processor are
+wider than a double, unless the program has set them to round to double; both are measured, and [other
+settings](accuracy-x87.md) beside them.
 
 ![Pooled and worst errors by length](accuracy.svg)
 

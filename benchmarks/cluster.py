@@ -98,7 +98,8 @@ def same(one, other):
 
 
 def report(who, summary, seconds):
-    print(f"{who:<15} {summary['files']} files, {summary['done']} done, {len(summary['failed'])} failed, {seconds:.1f} s")
+    print(f"{who:<15} {summary['files']} files, {summary['done']} done, {len(summary['failed'])} failed, "
+          f"{seconds:.1f} s")
 
 
 def page(files, counts, times, probe, bytes_gathered):

@@ -31,8 +31,8 @@ QUESTIONS = [
         "How exact is it?",
         "figures/index.html#accuracy",
         (
-            "Pooled errors of at most 3 units of 2<sup>−53</sup> in double; singles of the DFT and Hartley transforms are"
-            " computed in double and rounded once."
+            "Pooled errors of at most 3 units of 2<sup>−53</sup> in double; singles of the DFT and Hartley transforms"
+            " are computed in double and rounded once."
         ),
     ),
     ("I come from another library", "tutorials/moving.html", "Call by call, from FFTW, KissFFT and NumPy."),

@@ -146,7 +146,8 @@ void declareOperands(CLI::App& app, Words& words, const std::string& name, const
 }
 
 void declareInput(CLI::App& app, Words& words) {
-    declareOption(app, words, "--channel", "N", "Channel of a sound, counted from 1; mix: the mean of all; each: all (see below)", "1");
+    declareOption(app, words, "--channel", "N",
+                  "Channel of a sound, counted from 1; mix: the mean of all; each: all (see below)", "1");
     declareOption(app, words, "--start", "TIME", "Where to begin: seconds or h:m:s of a sound, samples of numbers");
     declareOption(app, words, "--end", "TIME", "Where to end, as --start");
     declareOption(app, words, "--decimal", "MARK", "Decimal mark of numbers: point or comma (see below)", "point");

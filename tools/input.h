@@ -22,7 +22,7 @@ constexpr int everyChannel = -1;
 // What is read, and how.
 struct InputOptions {
     std::string path;  // "-" for standard input
-    int channel = 1;   // counted from 1; 0 is the mean of all, and everyChannel each in a run of its own
+    int channel = 1;   // counted from 1; 0: the mean of all; everyChannel: each, in a run of its own
     DecimalMark decimal = DecimalMark::Point;
     bool allowsDamage = false;
     std::optional<double> start, end;  // in seconds of sound, or in samples
@@ -41,7 +41,7 @@ public:
     std::string name;                   // for messages
     bool isSound = false;               // otherwise plain numbers, whose rate is 1
     double rate = 1;                    // samples in one second
-    int channels = 1;                   // of the input, whichever of them is read
+    int channels = 1;                   // of the input, not only what is read of them
     std::optional<std::int64_t> total;  // samples, when known from the start
     std::vector<std::string> warnings;  // about damage that is allowed
 };

@@ -18,8 +18,8 @@ struct RunReport {
     std::vector<std::string> warnings;  // about damage that is allowed
 };
 
-// The runs that --channel each stands for, one for each channel of the file, or the one that is given. The output of a
-// channel has its number before the suffix. Throws UserError.
+// With --channel each, one run for each channel of the file, whose outputs have the number of the channel before their
+// suffix. Otherwise the run that is given. Throws UserError.
 std::vector<Options> runsOf(const Options& options);
 
 // Throws UserError, and then the output is as it was before.

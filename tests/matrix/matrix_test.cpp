@@ -26,7 +26,7 @@ const std::map<int, std::pair<double, double>> boundsOfDct4 = {
     {2, {0.5, 0.25}}, {4, {1, 2}},     {8, {1.25, 1.5}}, {16, {1.5, 2.5}},   {32, {2, 3}},     {64, {3, 3}},
     {128, {3, 4}},    {256, {3.5, 5}}, {512, {3.5, 5}},  {1024, {3.5, 5.5}}, {2048, {3.5, 6}},
 };
-// Plans have tables of the machine's own sine and cosine, and more of those of 64-bit Windows are not the nearest.
+// Plans have tables of the machine's own sine and cosine. Those of 64-bit Windows have given 6.18 at 2048 points.
 #ifdef _WIN64
 constexpr double byTables = 0.5;
 #else

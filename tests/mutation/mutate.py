@@ -7,8 +7,8 @@ mutate.py tell TREE BUILD                   prints tables of what is known, and 
 mutate.py reasons TREE                      holds that every mutant of equivalent.txt is one of its file
 
 A mutant is killed if a test fails, if the bits of a result are not those of tests/same_bits, or if the program crashes
-or hangs. What does not compile is no mutant. What survives and computes the same all the same is in equivalent.txt,
-with the reason. The faults are told in faults.py; who judges which source, in kernels.py and library.py.
+or hangs. What does not compile is no mutant. What survives because no result differs is in equivalent.txt, with the
+reason. The faults are told in faults.py; who judges which source, in kernels.py and library.py.
 """
 import collections
 import os

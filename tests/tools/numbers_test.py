@@ -181,8 +181,9 @@ class Numbers(ToolTest):
         os.makedirs(self.path("a.b"))
         self.ok(path, "--channel", "each", "--format", "csv", "--output", self.path("a.b/spectra"))
         self.assertEqual(sorted(os.listdir(self.path("a.b"))), ["spectra.1", "spectra.2", "spectra.3"])
-        # One channel, and numbers, are told apart from several by nothing.
-        self.ok(self.path("numbers.txt", b"1 2 3 4"), "--length", 2, "--channel", "each", "--output", self.path("n.csv"))
+        # Numbers have one channel, and their output is named like the others.
+        given = self.path("numbers.txt", b"1 2 3 4")
+        self.ok(given, "--length", 2, "--channel", "each", "--output", self.path("n.csv"))
         self.assertTrue(os.path.exists(self.path("n.1.csv")))
 
     def test_each_channel_needs_files(self):

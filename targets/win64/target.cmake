@@ -12,6 +12,11 @@ set(platform_compile_flags
 set(platform_compile_flags_x86_64_v3 -Wa,-muse-unaligned-vector-move)
 list(APPEND target_compile_flags ${platform_compile_flags})
 
+# Ten vector registers belong to the caller here, and these kernels save them all. The flags keep their frames within
+# 1 KB; that of the inverse becomes larger by them, and does not need them.
+set(platform_deep_texts "/(real_forward|hartley)[a-z_]*/[a-z]+_59\\.h$")
+set(platform_deep_compile_flags -fno-tree-ter -fschedule-insns -fsched-pressure)
+
 set(common_link_flags
     -nostdlib                     # the stock start files have initializers, and imports of their own
     -Wl,--no-insert-timestamp     # the same bytes from each build

@@ -3,7 +3,7 @@
 steps.py LIBRARY OBJDUMP EXPECTED_FOLDER TARGET_FOLDER
 
 Each kernel is reached as a caller reaches it: exported entry, one indirect jump, slot, routine. What is demanded of it:
-additions plus subtractions and multiplications of the table, no call, no backward jump, and packed arithmetic only in
+additions plus subtractions and multiplications of the table, no call, no loop, and packed arithmetic only in
 families that have several numbers to a register: there a packed step counts as many steps as it has lanes, and every
 lane is in use. A kernel of several levels is counted at each. The negations of the forward real family are left to the
 graph: a compiler may fold one into its neighbours. The large Walsh-Hadamard orders have the loops and the calls out of
@@ -36,7 +36,22 @@ def due_counts(folder, table):
     return due
 
 
-RESTORES = re.compile(r"v?mov|(add|sub|lea|push|pop)[lq]?$")  # registers and the stack, after a call
+def leads_to(instructions, start, end):
+    """Whether the instruction at address `end` can follow the one at `start`, directly or after others."""
+    places = {instruction.address: place for place, instruction in enumerate(instructions)}
+    open_places, seen = [places.get(start)], {None}
+    while open_places:
+        place = open_places.pop()
+        while place not in seen:
+            seen.add(place)
+            instruction = instructions[place]
+            if instruction.address == end:
+                return True
+            name = instruction.mnemonic
+            if name.startswith(("j", "loop")):
+                open_places.append(places.get(instruction.target()))
+            place = None if name == "jmp" or name.startswith("ret") or place + 1 == len(instructions) else place + 1
+    return False
 
 
 def lanes(instruction):
@@ -47,10 +62,8 @@ def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
     """granted: how many loops and calls out of the library there are to be."""
     sums = products = loops = calls = 0
     faults = []
-    follows_call = False  # with nothing else between
     for instruction in instructions:
         name = instruction.mnemonic
-        follows_call = name.startswith("call") or follows_call and (RESTORES.match(name) or name == "jmp")
         if machine.SUMS.match(name):
             sums += 1
         elif machine.PRODUCTS.match(name):
@@ -75,10 +88,10 @@ def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
             if target is None or not instructions[0].address <= target <= instructions[-1].address:
                 faults.append(f"jumps elsewhere: {name} {instruction.operands}")
             elif target <= instruction.address:
-                # A call may be out of the way; the jump back from it is no loop.
-                loops += not (name == "jmp" and follows_call)
+                # A jump back to an end that several ways share, or from a call that is out of the way, is no loop.
+                loops += leads_to(instructions, target, instruction.address)
     if (loops, calls) != granted:
-        faults.append(f"{loops} backward jumps, {calls} calls; due are {granted[0]}, {granted[1]}")
+        faults.append(f"{loops} loops, {calls} calls; due are {granted[0]}, {granted[1]}")
     return sums, products, faults
 
 

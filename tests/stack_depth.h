@@ -17,13 +17,19 @@ inline constexpr unsigned char stackPaint = 0xC5;
     return reinterpret_cast<std::uintptr_t>(region);
 }
 
-// The bytes below the caller's stack frame that `call` has written. They include the stack frame of this routine: an
-// empty call gives about 100 bytes.
+// Makes the call. Returns the address of its own stack frame, below which the call's begins.
+template <class Call>
+[[gnu::noinline]] std::uintptr_t frameOfCaller(const Call& call) {
+    call();
+    return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+}
+
+// The bytes that `call` has written below the stack frame of the routine that makes it. Registers which that routine
+// saves are among them: an empty call gives less than 100 bytes.
 template <class Call>
 [[gnu::noinline]] std::ptrdiff_t stackDepth(const Call& call) {
-    const auto top = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
     std::uintptr_t place = paintStack();
-    call();
+    const std::uintptr_t top = frameOfCaller(call);
     while (place < top && *reinterpret_cast<const volatile unsigned char*>(place) == stackPaint) ++place;
     return static_cast<std::ptrdiff_t>(top - place);
 }

@@ -17,7 +17,8 @@ test::FakeCore state;
 // A block, after the address at which its memory begins.
 void* allocate(std::uint32_t bytes) {
     constexpr std::uintptr_t step = 64;
-    void* const memory = std::malloc(bytes + 3 * step);
+    const std::size_t all = bytes + 3 * step;
+    void* const memory = all <= state.reserveBytes ? state.reserve : std::malloc(all);
     if (memory == nullptr) return nullptr;
     const std::uintptr_t start = reinterpret_cast<std::uintptr_t>(memory) / step * step + 2 * step + state.remainder;
     auto* const block = reinterpret_cast<unsigned char*>(start);
@@ -29,7 +30,7 @@ void* allocate(std::uint32_t bytes) {
 void release(void* block) {
     void* memory;
     std::memcpy(&memory, static_cast<unsigned char*>(block) - sizeof memory, sizeof memory);
-    std::free(memory);
+    if (memory != state.reserve) std::free(memory);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // is built as a shared library under the name of the real one (substituted_core.h) and linked into the tests of plans.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #ifdef _WIN32
@@ -24,6 +25,8 @@ struct FakeCore {
     std::uintptr_t remainder;  // where a block begins, modulo 64
     bool fills;                // a block is given full of the byte `filling`
     unsigned char filling;
+    unsigned char* reserve;  // memory for one block at a time, so that the C library is not called
+    std::size_t reserveBytes;
 };
 
 }  // namespace test

@@ -1,6 +1,8 @@
 """Whether the checked library returns and writes what the library does, export by export.
 
-same_results.py DIGESTS LIBRARY CHECKED
+same_results.py [--run WORD ...] DIGESTS LIBRARY CHECKED
+
+What runs the program, where the machine itself cannot, is given word by word: --run PROGRAM --run ARGUMENT.
 """
 import subprocess
 import sys
@@ -9,11 +11,14 @@ FAMILIES = ["zulgDFTFwd", "zulgDFTInv", "zulgHartley", "zulgWHT", "zulgenGet"]
 
 
 def main():
-    program, library, checked = sys.argv[1:]
+    words, launcher = sys.argv[1:], []
+    while words[:1] == ["--run"]:
+        launcher, words = launcher + words[1:2], words[2:]
+    program, library, checked = words
     lines, different = 0, 0
     for family in FAMILIES:
-        due, found = (subprocess.run([program, file, family], stdout=subprocess.PIPE, check=True, text=True)
-                      .stdout.splitlines() for file in (library, checked))
+        due, found = (subprocess.run([*launcher, program, file, family], stdout=subprocess.PIPE, check=True,
+                                     text=True).stdout.splitlines() for file in (library, checked))
         for wanted, given in zip(due, found, strict=True):
             lines += 1
             if wanted != given:

@@ -125,11 +125,12 @@ class Build:
         return path if self.linked(words, name, path) else None
 
     def has_source(self, program, user):
-        """Whether a program has the source of an object of the library linked in."""
-        return os.path.basename(user) in self.members(program)
+        """Whether a program has the source of an object of the library or of the generator linked in."""
+        return os.path.basename(user) in self.members(program, of_generator=user.startswith("generator/"))
 
-    def members(self, program):
-        archives = [word for word in self.links[program] if word.endswith(".a")]
+    def members(self, program, of_generator):
+        archives = [word for word in self.links[program]
+                    if word.endswith(".a") and word.startswith("generator/") == of_generator]
         for archive in archives:
             if archive not in self.archives:
                 self.archives[archive] = subprocess.run(["ar", "t", archive], cwd=self.folder, stdout=subprocess.PIPE,

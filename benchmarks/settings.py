@@ -99,11 +99,10 @@ and the greatest error of one output, as a share of what is proved of it.
 
 Errors are in units of 2^-53 for 64f and 2^-24 for 32f; with registers of 24 bits, in units of 2^-24 for both.
 
-What is proved: with registers of 64 and of 53 bits and to nearest, the [bounds](bounds.md), with 64 but for what these
-tell of values that are used twice. In another direction a step is off by twice as much, and twice the bound holds. With
-registers of 24 bits each step rounds to 24 bits whatever the element is. So the bounds of 64f hold in units of 2^-24,
-and the sum of that and of the bound of 32f holds for 32f; nothing is proved of plans above 32 points, since the system
-computes their tables with those registers.
+What is proved: with registers of 64 and of 53 bits and to nearest, the [bounds](bounds.md). In another direction a step
+is off by twice as much, and twice the bound holds. With registers of 24 bits each step rounds to 24 bits whatever the
+element is. So the bounds of 64f hold in units of 2^-24, and the sum of that and of the bound of 32f holds for 32f;
+nothing is proved of plans above 32 points, since the system computes their tables with those registers.
 """
 
 

@@ -95,18 +95,18 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
 
                                              64f, times 2^-53                32f, times 2^-24
                                          factor 1        any flag        factor 1        any flag
-     complex, Hartley, no prime >= 11   104.48  30.47   123.27  41.68     8.01   7.95    15.63  15.58
-     complex, Hartley, a prime >= 11    311.73  30.95   320.09  38.69     7.88   7.86    15.14  15.05
-     real forward, no prime >= 11        78.13  20.04    96.92  32.37     8.01   7.83    15.63  15.35
-     real forward, a prime >= 11        303.14  23.96   311.50  31.61     7.88   7.86    15.14  14.43
-     real inverse, no prime >= 11       133.89  38.18   160.37  59.90    11.23  11.12    22.02  21.82
-     real inverse, a prime >= 11        408.69  46.42   420.45  55.03    11.05  10.90    21.32  21.20
+     complex, Hartley, no prime >= 11   107.05  30.47   125.85  41.68     8.01   7.95    15.63  15.58
+     complex, Hartley, a prime >= 11    331.35  30.95   339.70  38.69     7.88   7.86    15.14  15.05
+     real forward, no prime >= 11        79.54  20.04    98.34  32.37     8.01   7.83    15.63  15.35
+     real forward, a prime >= 11        317.42  23.96   325.78  31.61     7.88   7.86    15.14  14.43
+     real inverse, no prime >= 11       135.41  38.18   161.88  59.90    11.23  11.12    22.02  21.82
+     real inverse, a prime >= 11        434.04  46.42   445.80  55.03    11.05  10.90    21.32  21.20
      Walsh-Hadamard, orders 1 to 7       79.24  33.66    99.59  45.31    11.32  11.31    14.57  14.47
      Walsh-Hadamard, orders 8 to 11     498.05 119.97   579.46 173.16    90.51  55.17   103.51  64.21
      Walsh-Hadamard, orders 12 and 13  1177.21 240.26  1340.03 347.14   271.53 143.77   297.52 147.75
-     DCT-IV, 2 to 32 points              50.15  15.86                     8.60   8.36
-     DCT-IV, 64 to 2048 points          980.88 127.62                   133.73  74.95
-     DCT-IV, 4096 to 65536 points      9620.96 637.29                  1204.82 417.27
+     DCT-IV, 2 to 32 points              51.05  15.86                     8.60   8.36
+     DCT-IV, 64 to 2048 points          992.98 127.62                   133.73  74.95
+     DCT-IV, 4096 to 65536 points      9960.46 637.29                  1204.82 417.27
 
    Factor 1 stands for the flags that leave the result as it is, such as 8. Any flag takes in the rounding of the
    factors 1/N and 1/sqrt(N), which are stored as elements, and of the product. The DCT-IV has no factor.
@@ -123,8 +123,8 @@ enum { DivFwdByN = 1, DivInvByN = 2, DivBySqrtN = 4, NoDivByAny = 8 };
    In 32f, the DFT and Hartley transforms compute in double and round once, at the store. Walsh-Hadamard orders 8 to 11
    round once more, and 12 and 13 twice more, when they write to the buffer; a DCT-IV from 64 points on at least once,
    when it writes to its plan. On 32-bit Windows, registers are wider than a double unless the program has set them to
-   53 bits. 64f results are better there, and the proof leaves out that a value can be used both from its register and
-   from memory, which differ by a rounding. Where a program has set them to 24 bits, 64f results are as exact as single
+   53 bits. 64f results are better there. The bounds count that a value can be used both from its register and from
+   memory, which differ by a rounding. Where a program has set them to 24 bits, 64f results are as exact as single
    ones: the bounds of 64f hold in units of 2^-24, but for a DCT-IV above 32 points, of which nothing is proved then.
    All of this is for rounding to nearest; in another direction errors are at most twice the bounds. */
 

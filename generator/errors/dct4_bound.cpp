@@ -1,5 +1,6 @@
 #include "errors/dct4_bound.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -10,7 +11,6 @@ constexpr double unit = 0x1p-53, singleUnit = 0x1p-24;
 // A step of x87 may round twice, as errors/error_bound.h says. The rest is the second order.
 constexpr double stepUnit = unit * (1 + 0x1p-11) * (1 + 1e-9);
 constexpr double ownRoundings = 1 + 1e-9;
-constexpr double rotationError = stepUnit * (1 + std::numbers::sqrt2);
 
 // The bins of a skew transform: their errors, and their greatest modulus. All are over the 2-norm of the inputs.
 struct Bins {
@@ -20,13 +20,21 @@ struct Bins {
     double computed() const { return greatest + error.total(); }
 };
 
-// Rows of `radix` bins, of which `rotated` are multiplied by entries of a table; `steps` is what follows then.
-Bins inRows(const Bins& bins, int radix, int rotated, double tables, const ErrorBound& steps) {
+// Rows of `radix` bins, of which `rotated` are multiplied by entries of a table; `row` is what follows then.
+Bins inRows(const Bins& bins, int radix, int rotated, double tables, const RowBound& row) {
+    const double rotationError = stepUnit * (std::numbers::sqrt2 + row.uses);
     const double parts = std::sqrt(radix), turned = std::sqrt(rotated) * bins.computed() * (1 + tables);
     const double after = bins.computed() * (1 + rotationError) * (1 + tables);
-    return {{parts * bins.error.steps + rotationError * turned + unit * steps.steps * after,
-             parts * bins.error.tables + tables * turned + unit * steps.constants * after, parts * bins.error.stores},
-            parts * bins.greatest};
+    return {
+        {parts * bins.error.steps + rotationError * turned + unit * row.error.steps * after,
+         parts * bins.error.tables + tables * turned + unit * row.error.constants * after, parts * bins.error.stores},
+        parts * bins.greatest};
+}
+
+// What comes on top where the rows find their bins in registers.
+Bins notStored(Bins bins, const RowBound& row) {
+    bins.error.steps += stepUnit * std::max(std::numbers::sqrt2, row.uses) * bins.computed();
+    return bins;
 }
 
 Bins stored(Bins bins, Width element) {
@@ -48,7 +56,10 @@ Bins skewTransform(int points, const Dct4Bodies& bodies, Width element) {
     // Of a row, the angle t is below 1/2. The fractions are 2tc/radix, and those of an outer step 2(t + j)c/radix.
     const int inner = radix <= 8 ? radix : radix / 4;
     bins = inRows(bins, inner, inner - 1, tableError((inner - 1.0) / inner, element), bodies.dft(inner));
-    if (radix > 8) bins = inRows(bins, 4, 3, tableError(2.0 * (inner - 0.5) * 3 / radix, element), bodies.dft(4));
+    if (radix > 8) {
+        const RowBound outer = bodies.dft(4);
+        bins = inRows(notStored(bins, outer), 4, 3, tableError(2.0 * (inner - 0.5) * 3 / radix, element), outer);
+    }
     return stored(bins, element);
 }
 

@@ -8,14 +8,21 @@
 //
 //     the errors of the bins give         sum of E |x[p]|                       <=  E sqrt(R) |x|
 //     rotations, n of them, and tables    sum of (rho + tau)(G + E) |x[p]|      <=  (rho + tau)(G + E) sqrt(n) |x|
+//     bins that have not been stored      sum of sigma (G + E) |x[p]|           <=  sigma (G + E) sqrt(R) |x|
 //     the steps after them, bounded as    beta |rotated bins|                   <=  beta (G + E)(1 + rho + tau) |x|
 //     a graph by itself
 //
 // since a row turns its bins and adds them up: each has a factor of modulus 1 in each output. A row of radix 16 or 32
-// of a combine pass is two such rows in turn. What is stored in single is rounded once more.
+// of a combine pass is two such rows in turn; the second takes bins that have not been stored. What is stored in single
+// is rounded once more.
 //
 // rho: with products xr c, xi s, xi c, xr s and two sums, all rounded, the error of x (c + i s) is at most u times
-// the length of (|xr c| + |xi s|, |xi c| + |xr s|), which is at most sqrt(2) |x|, and u |x| for the sums.
+// the length of (|xr c| + |xi s|, |xi c| + |xr s|), which is at most sqrt(2) |x|, and u |x| for the sums. The row uses
+// a sum several times, and may find it rounded at some of them only (errors/error_bound.h): what the sums add counts
+// gamma times, the greatest gain of what is added at some uses of a bin.
+//
+// sigma: bins that have not been stored may be rounded once more at some of their uses. A rotation uses xr twice and xi
+// twice, which makes sqrt(2) u |x| of it at most. A bin without a rotation has gamma u |x|.
 //
 // tau: an entry is the cosine or sine of pi f, where the fraction f is exact. The product of f with the double next to
 // pi is rounded. The cosine and the sine of the machine are at most one unit of the last place off the nearest double.
@@ -28,11 +35,17 @@
 
 namespace gen {
 
+// Of what a row does after its rotations: the bound, and what some uses of a bin can do (gainOfInputUses).
+struct RowBound {
+    ErrorBound error;
+    double uses;
+};
+
 // The bounds of the bodies that a plan is made of.
 struct Dct4Bodies {
     std::function<ErrorBound(int points)> fold;  // of a complex bin
-    std::function<ErrorBound(int radix)> row;    // of an output row, after its rotations
-    std::function<ErrorBound(int points)> dft;   // of the DFT in a combine row, of a complex bin
+    std::function<RowBound(int radix)> row;      // of an output row
+    std::function<RowBound(int points)> dft;     // of the DFT in a combine row, of a complex bin
 };
 
 // The greatest errors of an output over the 2-norm of the input, of 64 points or more.

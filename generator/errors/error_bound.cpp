@@ -88,6 +88,64 @@ private:
     std::vector<double> entries;
 };
 
+// What something does to the one part or the two parts of an output.
+struct Effect {
+    double re = 0, im = 0;
+
+    Effect operator+(const Effect& other) const { return {re + other.re, im + other.im}; }
+    double along(const Effect& other) const { return re * other.re + im * other.im; }
+    double across(const Effect& other) const { return re * other.im - im * other.re; }
+};
+
+// The effects of the uses of a node.
+using Uses = std::vector<Effect>;
+using UsesOfNodes = PerNode<Uses>;
+
+UsesOfNodes usesOfNodes(const LinearMap& map, const std::vector<Output>& parts) {
+    const auto re = map.gainsOfUses(parts.front()), im = map.gainsOfUses(parts.back());
+    UsesOfNodes all;
+    for (std::size_t i = 0; i < map.graph().nodes().size(); ++i) {
+        const NodeId node{static_cast<int>(i)};
+        Uses uses;
+        for (std::size_t j = 0; j < re[node].size(); ++j)
+            uses.push_back({re[node][j], parts.size() == 2 ? im[node][j] : 0});
+        all.push_back(uses);
+    }
+    return all;
+}
+
+// The sums of any of these effects fill a polygon. These are its corners: an edge is the effect of one use, and those
+// beyond that edge are in both of its ends.
+std::vector<Effect> cornersOf(const Uses& uses) {
+    std::vector<Effect> corners;
+    for (const Effect& edge : uses) {
+        const double square = edge.along(edge);
+        if (square == 0) continue;
+        for (double side : {1.0, -1.0}) {
+            Effect first, last;
+            for (const Effect& use : uses) {
+                const double across = side * edge.across(use);
+                const bool isParallel = std::abs(across) <= 1e-12 * std::sqrt(square * use.along(use));
+                if (isParallel ? edge.along(use) > 0 : across > 0) first = first + use;
+                if (isParallel ? edge.along(use) < 0 : across > 0) last = last + use;
+            }
+            corners.insert(corners.end(), {first, last});
+        }
+    }
+    if (corners.empty()) corners.push_back({});
+    return corners;
+}
+
+// The square of the gain of what is added at any uses of one node or of two. It is the 2-norm of a matrix, and greatest
+// at corners, since it is a convex function of its columns.
+double squareOfGain(const Uses& first, const Uses* second) {
+    double greatest = 0;
+    const std::vector<Effect> others = cornersOf(second == nullptr ? Uses{} : *second);
+    for (const Effect& p : cornersOf(first))
+        for (const Effect& q : others) greatest = std::max(greatest, greatestOf(p.along(p), p.along(q), q.along(q)));
+    return greatest;
+}
+
 // Nodes that round and are taken together: one, or the two of a pair.
 std::vector<std::vector<NodeId>> groupsOf(const LinearMap& map, bool inPairs) {
     const Graph& graph = map.graph();
@@ -124,19 +182,14 @@ PerNode<double> errorsBefore(const LinearMap& map) {
     return before;
 }
 
-double stepsBound(const LinearMap& map, const std::vector<PerNode<double>>& gains) {
+double stepsBound(const LinearMap& map, const std::vector<Output>& parts) {
     const PerNode<double> before = errorsBefore(map);
+    const UsesOfNodes uses = usesOfNodes(map, parts);
     Symmetric squares(static_cast<std::size_t>(map.graph().inputs()));
     double weights = 0, ofSecondOrder = 0;
-    for (const std::vector<NodeId>& group : groupsOf(map, gains.size() == 2)) {
-        double a = 0, b = 0, c = 0, rows = 0;
-        for (const PerNode<double>& gain : gains) {
-            const double p = gain[group.front()], q = group.size() == 2 ? gain[group.back()] : 0;
-            a += p * p;
-            b += p * q;
-            c += q * q;
-        }
-        const double gain = greatestOf(a, b, c);  // its square
+    for (const std::vector<NodeId>& group : groupsOf(map, parts.size() == 2)) {
+        double rows = 0;
+        const double gain = squareOfGain(uses[group.front()], group.size() == 2 ? &uses[group.back()] : nullptr);
         if (gain == 0) continue;
         for (NodeId node : group) {
             rows += squareOf(map.row(node));
@@ -149,30 +202,49 @@ double stepsBound(const LinearMap& map, const std::vector<PerNode<double>>& gain
     return roundingsOfStep * (std::sqrt(weights * squares.eigenvalueBound()) + ofSecondOrder);
 }
 
+// The outputs of each number.
+std::map<int, std::vector<Output>> numbersOf(const Graph& graph, bool complex) {
+    std::map<int, std::vector<Output>> numbers;
+    for (const Output& output : graph.outputs()) numbers[complex ? output.place / 2 : output.place].push_back(output);
+    return numbers;
+}
+
 }  // namespace
 
 ErrorBound errorBound(const LinearMap& map, const std::vector<Output>& parts) {
-    std::vector<PerNode<double>> gains;
-    for (const Output& part : parts) gains.push_back(map.gains(part));
     const NodeId first = parts.front().node, last = parts.back().node;
     const bool isOne = parts.size() == 1;
-    return {ownRoundings * stepsBound(map, gains),
+    return {ownRoundings * stepsBound(map, parts),
             ownRoundings * normOf(map.shift(first), isOne ? nullptr : &map.shift(last)) / unit,
             ownRoundings * normOf(map.row(first), isOne ? nullptr : &map.row(last))};
 }
 
 ErrorBound errorBound(const LinearMap& map, bool complex) {
-    std::map<int, std::vector<Output>> numbers;
-    for (const Output& output : map.graph().outputs())
-        numbers[complex ? output.place / 2 : output.place].push_back(output);
     ErrorBound greatest;
-    for (const auto& [place, parts] : numbers) {
+    for (const auto& [place, parts] : numbersOf(map.graph(), complex)) {
         const ErrorBound bound = errorBound(map, parts);
         greatest.steps = std::max(greatest.steps, bound.steps);
         greatest.constants = std::max(greatest.constants, bound.constants);
         greatest.greatest = std::max(greatest.greatest, bound.greatest);
     }
     return greatest;
+}
+
+double gainOfInputUses(const LinearMap& map, bool complex) {
+    std::map<int, std::vector<NodeId>> numbers;
+    for (std::size_t i = 0; i < map.graph().nodes().size(); ++i) {
+        const Node& node = map.graph().nodes()[i];
+        if (node.kind == Kind::Load) numbers[node.input / 2].push_back(NodeId(i));
+    }
+    double greatest = 0;
+    for (const auto& [place, parts] : numbersOf(map.graph(), complex)) {
+        const UsesOfNodes uses = usesOfNodes(map, parts);
+        for (const auto& [number, loads] : numbers) {
+            const Uses* const second = loads.size() == 2 ? &uses[loads.back()] : nullptr;
+            greatest = std::max(greatest, squareOfGain(uses[loads.front()], second));
+        }
+    }
+    return ownRoundings * std::sqrt(greatest);
 }
 
 ErrorBound walshHadamardBound(int order) {

@@ -17,6 +17,11 @@
 // has no greater eigenvalue than L is proved by a triangular factorisation of L - S, which has none unless all of its
 // pivots are positive.
 //
+// A step of x87 rounds to 64 bits, and once more to 53 where the compiler keeps its result in memory: together at most
+// 2^-53 (1 + 2^-11). Some steps may use a value from its register and others the same value from memory, so that the
+// second rounding is there for any part of the uses. The gain of v is therefore that of those uses for which it is
+// greatest. All bounds are for such steps; where every use has the same rounding, as elsewhere, nothing is greater.
+//
 // Where two outputs are one complex number, the error is the modulus of that number's. There the two nodes of a pair
 // are taken together: g[v] becomes the 2-norm of their 2 by 2 matrix of gains, and w[v] x the length of their two
 // values.
@@ -37,18 +42,20 @@ struct ErrorBound {
     double total() const { return steps + constants; }
 };
 
-// Of an output that is one real number, or of the two that are a complex one. A step of x87 rounds to 64 bits, and once
-// more to 53 where the compiler keeps its result in memory: together at most 2^-53 (1 + 2^-11). All bounds are for that
-// step. What they take for granted is that all uses of a node have the same rounding. On x87 with registers of 64 bits
-// a value can be used from its register and from memory; that is not counted.
+// Of an output that is one real number, or of the two that are a complex one.
 ErrorBound errorBound(const LinearMap& map, const std::vector<Output>& parts);
 
 // The greatest of the bounds of all outputs, each figure by itself. Where outputs are `complex`, those of numbers 2k
 // and 2k + 1 are one.
 ErrorBound errorBound(const LinearMap& map, bool complex);
 
+// The greatest gain of what is added to an input, at any of its uses. Here inputs 2k and 2k + 1 are one complex number,
+// and what is added is over its modulus. Outputs are as above.
+double gainOfInputUses(const LinearMap& map, bool complex);
+
 // Of a Walsh-Hadamard transform in any number of blocks. Each of its stages has N steps, and the rows of those on which
-// an output depends are orthogonal and of equal length: a stage adds sqrt(N), and not more.
+// an output depends are orthogonal and of equal length: a stage adds sqrt(N), and not more. An output depends on one
+// use of each step.
 ErrorBound walshHadamardBound(int order);
 
 }  // namespace gen

@@ -83,6 +83,27 @@ PerNode<double> LinearMap::gains(const Output& output) const {
     return gains;
 }
 
+PerNode<std::vector<double>> LinearMap::gainsOfUses(const Output& output) const {
+    const auto& nodes = source.nodes();
+    const PerNode<double> gain = gains(output);
+    PerNode<std::vector<double>> uses(nodes.size());
+    for (std::size_t i = nodes.size(); i-- > 0;) {  // all steps that use a node come before it
+        const NodeId id{static_cast<int>(i)};
+        const Node& node = nodes[i];
+        uses[id].push_back(id == output.node ? 1 : 0);
+        if (node.kind == Kind::Load) continue;
+        if (node.kind != Kind::Scaled) {
+            uses[node.a].push_back(gain[id]);
+            uses[node.b].push_back(node.kind == Kind::Sub ? -gain[id] : gain[id]);
+        } else if (rounds(id)) {
+            uses[node.a].push_back(gain[id] * factor(node));
+        } else {
+            for (double use : uses[id]) uses[node.a].push_back(use * factor(node));
+        }
+    }
+    return uses;
+}
+
 bool LinearMap::rounds(NodeId id) const {
     const Node& node = source.node(id);
     if (node.kind != Kind::Scaled) return node.kind != Kind::Load;

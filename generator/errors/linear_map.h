@@ -29,6 +29,11 @@ public:
     // For each node, by how much what is added there changes an output.
     PerNode<double> gains(const Output& output) const;
 
+    // The same of each use of a node by itself, which add up to its gain. The lists of all outputs have the same order:
+    // the steps that use the node, then the output. A product with a power of two does not round, and has no use of its
+    // own: what uses it uses its operand.
+    PerNode<std::vector<double>> gainsOfUses(const Output& output) const;
+
     // The factor of a scaled node as the kernel has it.
     double factor(const Node& node) const { return factors[index(node.constant)]; }
     // Whether the step of a node can round: loads do not, nor do products with powers of two.

@@ -112,17 +112,21 @@ public:
     explicit BodyBounds(Width constants) : width(constants) {}
 
     Dct4Bodies bodies() {
-        return {[this](int points) { return of(folds, dct4FoldTransform, points, true); },
+        return {[this](int points) { return of(folds, dct4FoldTransform, points, true).error; },
                 [this](int radix) { return of(rows, dct4OutputOfRotated, radix, false); },
                 [this](int points) { return of(dfts, dct4CombineOfRotated, points, true); }};
     }
 
 private:
-    using Known = std::map<int, ErrorBound>;
+    using Known = std::map<int, RowBound>;
 
-    ErrorBound of(Known& known, std::unique_ptr<Graph> (*build)(int), int number, bool complex) {
+    RowBound of(Known& known, std::unique_ptr<Graph> (*build)(int), int number, bool complex) {
         const auto [place, isNew] = known.try_emplace(number);
-        if (isNew) place->second = errorBound(LinearMap(*build(number), width), complex);
+        if (isNew) {
+            const auto graph = build(number);
+            const LinearMap map(*graph, width);
+            place->second = {errorBound(map, complex), gainOfInputUses(map, complex)};
+        }
         return place->second;
     }
 

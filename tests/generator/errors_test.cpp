@@ -1,10 +1,13 @@
 // The proved error bounds: what a graph does to inputs and to errors, and that nothing goes beyond a bound.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 #include <numbers>
 #include <random>
+#include <tuple>
 
 #include "dct4/tree.h"
 #include "errors/dct4_bound.h"
@@ -21,6 +24,7 @@ using gen::Graph;
 using gen::LinearMap;
 using gen::NodeId;
 using gen::Output;
+using gen::PerNode;
 using gen::Width;
 
 // y[0] = 3/8 (a + b), y[1] = 2 (a - b).
@@ -43,6 +47,40 @@ TEST(LinearMap, TellsRowsAndGains) {
     EXPECT_EQ(gains[graph.node(second.node).a], 2);
     EXPECT_EQ(gains[NodeId(1)], -2);  // b
     EXPECT_EQ(gains[first.node], 0);
+}
+
+// y = 2 (a + b) + (a + b) - (a + b) c: the sum is used three times, once by way of a product that does not round.
+TEST(LinearMap, TellsTheGainOfEachUse) {
+    Graph graph;
+    const gen::Value sum = graph.load(0) + graph.load(1);
+    const gen::Value product = gen::Coefficient{Exact(1) / 3, "1/3"} * sum;
+    graph.store(0, (gen::Coefficient{Exact(2), "2"} * sum + sum) - product);
+    const LinearMap map(graph, Width::Double);
+    const auto uses = map.gainsOfUses(graph.outputs()[0]);
+    std::vector<double> ofSum = uses[sum.node];
+    std::sort(ofSum.begin(), ofSum.end());
+    EXPECT_EQ(ofSum.size(), 5U) << "three, and two outputs that they are not";
+    EXPECT_NEAR(ofSum.front(), -1.0 / 3, 1e-15);
+    EXPECT_EQ(ofSum.back(), 2);
+    EXPECT_EQ(std::count(ofSum.begin(), ofSum.end(), 1.0), 1);
+    EXPECT_EQ(uses[graph.outputs()[0].node], (std::vector<double>{1}));
+}
+
+TEST(LinearMap, TellsTheGainOfEachUseSoThatTheyAddUp) {
+    for (const gen::GraphEntry& entry : gen::allGraphs()) {
+        if (entry.family->isBody() || entry.length > 16) continue;
+        const auto graph = entry.build();
+        const LinearMap map(*graph, Width::Double);
+        for (const Output& output : graph->outputs()) {
+            const auto gains = map.gains(output);
+            const auto uses = map.gainsOfUses(output);
+            for (NodeId node : graph->aliveNodes()) {
+                double sum = 0;
+                for (double use : uses[node]) sum += use;
+                ASSERT_NEAR(sum, gains[node], 1e-13) << entry.name() << ", node " << gen::number(node);
+            }
+        }
+    }
 }
 
 TEST(LinearMap, KnowsWhichStepsRound) {
@@ -76,6 +114,82 @@ TEST(ErrorBound, OfOneStep) {
     EXPECT_NEAR(bound.greatest, 1.0 / 3, 1e-8);
 }
 
+// y = ((a + b) + c) - (a + b): what the first sum is off by is in y if one of its two uses has it and the other has
+// not.
+TEST(ErrorBound, OfAValueThatIsRoundedAtSomeUses) {
+    Graph graph;
+    const gen::Value sum = graph.load(0) + graph.load(1);
+    graph.store(0, (sum + graph.load(2)) - sum);
+    const LinearMap map(graph, Width::Double);
+    EXPECT_EQ(map.gains(graph.outputs()[0])[sum.node], 0);
+    // a = b = c: 2, 3 and 1 roundings of a. At most sqrt(2) for the first sum, sqrt(3) for the second, 1 for the last.
+    const double bound = errorBound(map, false).steps;
+    EXPECT_GE(bound, 6 / std::sqrt(3.0));
+    EXPECT_LE(bound, 1.01 * (std::sqrt(2.0) + std::sqrt(3.0) + 1));
+}
+
+// x + i y turned by a twelfth: x and y are used twice each.
+TEST(ErrorBound, OfSomeUsesOfAnInput) {
+    Graph graph;
+    const gen::Value x = graph.load(0), y = graph.load(1);
+    const gen::Coefficient c = gen::cosine(1, 12), s = gen::sine(1, 12);
+    graph.store(0, c * x - s * y);
+    graph.store(1, s * x + c * y);
+    // The matrix of all uses turns, and has the norm 1. That of (c 0; s c), which leaves one out, is greater.
+    const double square = 0.75, trace = 2 * square + 0.25;
+    const double greatest = (trace + std::sqrt(trace * trace - 4 * square * square)) / 2;
+    EXPECT_NEAR(gainOfInputUses(LinearMap(graph, Width::Double), true), std::sqrt(greatest), 1e-6);
+    EXPECT_NEAR(gainOfInputUses(LinearMap(graph, Width::Double), false), 1, 1e-6);
+}
+
+// The greatest 2-norm of the two columns over all choices of uses, one after the other.
+double gainOfAnyUses(const std::vector<double> (&first)[2], const std::vector<double> (&second)[2]) {
+    const std::size_t m = first[0].size(), n = second[0].size();
+    double greatest = 0;
+    for (std::size_t chosen = 0; chosen < std::size_t{1} << (m + n); ++chosen) {
+        double p[2] = {}, q[2] = {};
+        for (int part = 0; part < 2; ++part) {
+            for (std::size_t i = 0; i < m; ++i) p[part] += (chosen >> i & 1) != 0 ? first[part][i] : 0;
+            for (std::size_t i = 0; i < n; ++i) q[part] += (chosen >> (m + i) & 1) != 0 ? second[part][i] : 0;
+        }
+        const double trace = p[0] * p[0] + p[1] * p[1] + q[0] * q[0] + q[1] * q[1];
+        const double root = p[0] * q[1] - p[1] * q[0];  // of the determinant
+        const double rest = std::sqrt(std::max(trace * trace - 4 * root * root, 0.0));
+        greatest = std::max(greatest, (trace + rest) / 2);
+    }
+    return std::sqrt(greatest);
+}
+
+TEST(ErrorBound, OfSomeUsesIsThatOfTheWorstOfAllChoices) {
+    const std::tuple<std::unique_ptr<Graph>, bool> rows[] = {
+        {gen::complexTransform(3), true},  {gen::complexTransform(5), true},     {gen::complexTransform(7), true},
+        {gen::hartleyTransform(6), false}, {gen::dct4CombineOfRotated(8), true}, {gen::dct4OutputOfRotated(8), false}};
+    double greatest = 0;
+    for (const auto& [graph, complex] : rows) {
+        const LinearMap map(*graph, Width::Double);
+        std::map<int, std::vector<NodeId>> numbers;
+        for (NodeId node : graph->aliveNodes())
+            if (graph->node(node).kind == gen::Kind::Load) numbers[graph->node(node).input / 2].push_back(node);
+        double due = 0;
+        const std::size_t parts = complex ? 2 : 1;
+        for (std::size_t k = 0; k < graph->outputs().size(); k += parts) {
+            const auto re = map.gainsOfUses(graph->outputs()[k]), im = map.gainsOfUses(graph->outputs()[k + parts - 1]);
+            for (const auto& [number, loads] : numbers) {
+                std::vector<double> columns[2][2];
+                for (std::size_t i = 0; i < 2; ++i) {
+                    columns[i][0] = re[loads[i]];
+                    columns[i][1] = complex ? im[loads[i]] : std::vector<double>(columns[i][0].size());
+                }
+                ASSERT_LE(columns[0][0].size() + columns[1][0].size(), 16U);
+                due = std::max(due, gainOfAnyUses(columns[0], columns[1]));
+            }
+        }
+        EXPECT_NEAR(gainOfInputUses(map, complex), due, 1e-6);
+        greatest = std::max(greatest, due);
+    }
+    EXPECT_GT(greatest, 1.1);
+}
+
 TEST(ErrorBound, OfWalshHadamardTransformsIsThatOfTheirGraphs) {
     for (const gen::GraphEntry& entry : gen::allGraphs()) {
         if (entry.family->word != "wht") continue;
@@ -89,12 +203,23 @@ TEST(ErrorBound, OfWalshHadamardTransformsIsThatOfTheirGraphs) {
     }
 }
 
+// The gain of each node at all uses that have one sign, whichever gives more.
+PerNode<double> greatestGains(const LinearMap& map, const Output& output) {
+    const auto uses = map.gainsOfUses(output);
+    PerNode<double> gains;
+    for (std::size_t i = 0; i < map.graph().nodes().size(); ++i) {
+        double above = 0, below = 0;
+        for (double use : uses[NodeId(i)]) (use > 0 ? above : below) += use;
+        gains.push_back(above > -below ? above : below);
+    }
+    return gains;
+}
+
 // Each step of a graph is made wrong by its whole 2^-53 in the direction that is worst for an output. Inputs are looked
 // for that make this error great: the rows of what has the greatest gains come near to it. Returns the greatest error
 // over the 2-norm of its input, in units of 2^-53.
-double worstRoundings(const LinearMap& map, const Output& output, std::mt19937& random) {
+double worstRoundings(const LinearMap& map, const PerNode<double>& gains, std::mt19937& random) {
     std::normal_distribution<double> normal;
-    const auto gains = map.gains(output);
     const auto alive = map.graph().aliveNodes();
     const auto errorOf = [&](const std::vector<double>& x, std::vector<double>* next) {
         double error = 0, square = 0;
@@ -131,7 +256,8 @@ TEST_P(ErrorBounds, AreAboveTheWorstRoundings) {
     std::mt19937 random(1);
     double nearest = 0;
     for (const Output& output : graph->outputs()) {
-        const double bound = errorBound(map, {output}).steps, error = worstRoundings(map, output, random);
+        const double bound = errorBound(map, {output}).steps,
+                     error = worstRoundings(map, greatestGains(map, output), random);
         EXPECT_LE(error, bound) << "output " << output.place;
         nearest = std::max(nearest, error / bound);
     }
@@ -182,11 +308,12 @@ void buildInPasses(Graph& graph, int points) {
     }
 }
 
-gen::ErrorBound boundOf(std::unique_ptr<Graph> graph, bool complex) {
-    return errorBound(LinearMap(*graph, Width::Double), complex);
+gen::RowBound boundOf(std::unique_ptr<Graph> graph, bool complex) {
+    const LinearMap map(*graph, Width::Double);
+    return {errorBound(map, complex), gainOfInputUses(map, complex)};
 }
 
-const gen::Dct4Bodies bodies = {[](int points) { return boundOf(gen::dct4FoldTransform(points), true); },
+const gen::Dct4Bodies bodies = {[](int points) { return boundOf(gen::dct4FoldTransform(points), true).error; },
                                 [](int radix) { return boundOf(gen::dct4OutputOfRotated(radix), false); },
                                 [](int points) { return boundOf(gen::dct4CombineOfRotated(points), true); }};
 
@@ -199,7 +326,9 @@ TEST(Dct4Bound, IsAboveTheWorstRoundingsOfBothPassesTogether) {
         std::mt19937 random(1);
         double nearest = 0;
         for (std::size_t i = 0; i < graph.outputs().size(); i += 5) {
-            const double error = worstRoundings(map, graph.outputs()[i], random);
+            // The bins between the passes are stored: all uses of a step there are one.
+            const Output& output = graph.outputs()[i];
+            const double error = worstRoundings(map, map.gains(output), random);
             EXPECT_LE(error * 0x1p-53, bound.steps);
             nearest = std::max(nearest, error * 0x1p-53 / bound.steps);
         }

@@ -116,7 +116,7 @@ class Build:
             self.links[name] = shlex.split(self.ninja("-t", "commands", name).splitlines()[-1])
         words = [objects.get(word, word) for word in self.links[name]]
         own = [path for user, path in objects.items()
-               if user not in self.links[name] and re.match(r"CMakeFiles/zulgenpx\.dir/dct4/|generator/", user)
+               if user not in self.links[name] and re.match(r"CMakeFiles/zulgenpx\.dir/dct4/|generator/|tools/", user)
                and self.has_source(name, user)]
         at = words.index("-o")
         words[at:at] = own
@@ -125,12 +125,13 @@ class Build:
         return path if self.linked(words, name, path) else None
 
     def has_source(self, program, user):
-        """Whether a program has the source of an object of the library or of the generator linked in."""
-        return os.path.basename(user) in self.members(program, of_generator=user.startswith("generator/"))
+        """Whether a program has the source of an object linked in, by way of an archive. Sources of the library are in
+        archives of tests."""
+        folder = user.split("/")[0]
+        return os.path.basename(user) in self.members(program, "tests" if folder == "CMakeFiles" else folder)
 
-    def members(self, program, of_generator):
-        archives = [word for word in self.links[program]
-                    if word.endswith(".a") and word.startswith("generator/") == of_generator]
+    def members(self, program, folder):
+        archives = [word for word in self.links[program] if word.endswith(".a") and word.startswith(folder + "/")]
         for archive in archives:
             if archive not in self.archives:
                 self.archives[archive] = subprocess.run(["ar", "t", archive], cwd=self.folder, stdout=subprocess.PIPE,

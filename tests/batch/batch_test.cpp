@@ -283,7 +283,32 @@ Job<float> jobInSingle(const BatchFamily& family, int length, int flag) {
     return job;
 }
 
-class BatchInSingleTest : public BatchTest<float> {};
+class BatchInSingleTest : public BatchTest<float> {
+protected:
+    // Over so many transforms, each at a scale of its own, in units of 2^-24. Held against the transform in double of
+    // the same input, which has errors 2^29 times as small.
+    double pooledError(const BatchFamily& family, int length, std::int64_t count) {
+        const auto inSingle = jobInSingle(family, length, NoDivByAny);
+        const auto exact = jobOf<double>(family, length, NoDivByAny);
+        std::vector<float> x;
+        for (std::int64_t i = 0; i < count; ++i) {
+            const auto one = randomElements(static_cast<int>(inSingle.read * inSingle.width));
+            x.insert(x.end(), one.begin(), one.end());
+        }
+        const std::vector<double> wide(x.begin(), x.end());
+        std::vector<float> y(static_cast<std::size_t>(count * inSingle.written * inSingle.width));
+        std::vector<double> due(y.size());
+        const Shape source{1, inSingle.read}, destination{1, inSingle.written};
+        EXPECT_EQ(inSingle.batch(x.data(), source, y.data(), destination, count), StatusOk);
+        EXPECT_EQ(exact.batch(wide.data(), source, due.data(), destination, count), StatusOk);
+        double errors = 0, squares = 0;
+        for (std::size_t i = 0; i < y.size(); ++i) {
+            errors += (y[i] - due[i]) * (y[i] - due[i]);
+            squares += due[i] * due[i];
+        }
+        return std::sqrt(errors / squares) / 0x1p-24;
+    }
+};
 
 TEST_F(BatchInSingleTest, EveryShapeAndCountGivesTheSameBits) {
     for (const BatchFamily& family : batchFamilies) {
@@ -303,28 +328,13 @@ TEST_F(BatchInSingleTest, EveryShapeAndCountGivesTheSameBits) {
     }
 }
 
-// Held against the transform in double of the same input, which has errors 2^29 times as small.
+// The greatest, of Hartley transforms of 26 points, is near to 1.49. Few inputs cannot tell that from the bound.
 TEST_F(BatchInSingleTest, PooledErrorsAreWhatTheHeaderSays) {
-    constexpr std::int64_t count = 512;
     double greatest = 0;
     for (const BatchFamily& family : batchFamilies) {
         for (int length = 2; length <= 64; ++length) {
-            const auto inSingle = jobInSingle(family, length, NoDivByAny);
-            const auto exact = jobOf<double>(family, length, NoDivByAny);
-            const auto numbers = static_cast<int>(count * inSingle.read * inSingle.width);
-            const auto x = randomElements(numbers);
-            const std::vector<double> wide(x.begin(), x.end());
-            std::vector<float> y(static_cast<std::size_t>(count * inSingle.written * inSingle.width));
-            std::vector<double> due(y.size());
-            const Shape source{1, inSingle.read}, destination{1, inSingle.written};
-            ASSERT_EQ(inSingle.batch(x.data(), source, y.data(), destination, count), StatusOk);
-            ASSERT_EQ(exact.batch(wide.data(), source, due.data(), destination, count), StatusOk);
-            double errors = 0, squares = 0;
-            for (std::size_t i = 0; i < y.size(); ++i) {
-                errors += (y[i] - due[i]) * (y[i] - due[i]);
-                squares += due[i] * due[i];
-            }
-            const double error = std::sqrt(errors / squares) / 0x1p-24;
+            double error = pooledError(family, length, 512);
+            if (error > 1.42) error = pooledError(family, length, 32768);
             EXPECT_LT(error, 1.5) << family.name << ", " << length;
             greatest = std::max(greatest, error);
         }

@@ -118,17 +118,39 @@ RULES = [
 ]
 
 
+# What is defined where mutants are compiled, and what is not.
+DEFINED = {"ZULG_GNU_CPP": True, "_WIN32": False}
+
+
+def is_compiled(lines):
+    """Of each line, whether the conditions of the preprocessor that are known let it be compiled."""
+    conditions = []  # of the blocks around the line; None is not known
+    for line in lines:
+        found = re.match(r"#\s*(ifdef|ifndef|if|else|elif|endif)\b\s*(\w*)", line)
+        word = found and found.group(1)
+        if word in ("ifdef", "ifndef"):
+            known = DEFINED.get(found.group(2))
+            conditions.append(known if known is None else known == (word == "ifdef"))
+        elif word == "if":
+            conditions.append(None)
+        elif word == "else" and conditions[-1] is not None:
+            conditions[-1] = not conditions[-1]
+        elif word == "endif":
+            conditions.pop()
+        yield False not in conditions
+
+
 def code_of(lines):
     """The lines without their comments, and empty where nothing is to be changed."""
     in_macro = False
-    for line in lines:
+    for line, compiled in zip(lines, is_compiled(lines)):
         code = re.sub(r"\s*//.*$", "", line)
         skipped = re.match(r"\s*(#|static_assert|namespace|inline namespace|using |extern template|/\*|template .*\);$|"
                            r"template (Status|void) .*)", code) is not None
         # The lines of a macro: what it makes is counted once, where it is used.
         if in_macro or line.startswith("#"):
             in_macro, skipped = line.endswith("\\"), True
-        yield "" if skipped else code
+        yield "" if skipped or not compiled else code
 
 
 def negated(code):

@@ -18,6 +18,7 @@ from faults import code_faults, text_faults
 #     plain               digests of the Walsh-Hadamard family as targets without lanes have it
 #     run PROGRAM ...     a test program with the mutant in place of the library
 #     link PROGRAM ...    a test program that has sources of the library linked in
+#     own PROGRAM FOLDER  a test program whose own sources, in that folder of the build, see the mutant
 WHOLE_DCT4 = "run dct4_test --gtest_filter=-*Stack*"
 JUDGES = {
     r"dct4/(combine|fold|output|run|split|ports|lane_ports|in_lanes|[a-z]+_in_lanes)\.|dct4/bodies/":
@@ -34,7 +35,9 @@ JUDGES = {
                 "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
     r"targets/": ["bits _5_", "run best_level_test", "old zulgDFTFwd_CToC_5_32fc",
                   "processors"],
-    r"kernel/": ["bits WHT", "bits DCT4", "table", "run batch_test --gtest_filter=*Fast*:*Random*"],
+    r"kernel/lanes": ["bits WHT", "bits DCT4", "table", "own texts_test tests/texts/"],
+    r"kernel/": ["bits WHT", "bits DCT4", "table", "run boundary_test",
+                 "run batch_test --gtest_filter=*Fast*:*Random*"],
 }
 # Files without a mutant: those that this target does not compile, those that are no code but declarations, and the
 # ports of batches, which hundreds of objects see.
@@ -91,15 +94,15 @@ class Library:
                 break
         for judge in judges:
             kind, *words = judge.split(" ")
-            if kind != "link" and libraries is None:
+            if kind not in ("link", "own") and libraries is None:
                 libraries = self.build.link_libraries(folder, objects)
                 if libraries is None:
                     return "compiler"
-            if not self.passes(kind, words, folder, objects, libraries):
+            if not self.passes(kind, words, folder, path, objects, libraries):
                 return judge
         return "survives"
 
-    def passes(self, kind, words, folder, objects, libraries):
+    def passes(self, kind, words, folder, path, objects, libraries):
         if kind in ("bits", "old"):
             emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind == "old" else []
             done = self.started([*emulator, self.build.path("digests"), libraries["main"], *words])
@@ -120,6 +123,10 @@ class Library:
         if kind == "link":
             program = self.build.link_program(folder, words[0], objects)
             return program is not None and self.started([program, "--gtest_brief=1", *words[1:]]) is not None
+        if kind == "own":
+            compiled = self.build.compile_users(folder, path, words[1], ("-O0", "-w"))
+            program = compiled and self.build.link_program(folder, words[0], compiled)
+            return bool(program) and self.started([program, "--gtest_brief=1"]) is not None
         environment = {"ZULG_TEST_LIBRARY": libraries["main"], "ZULG_TEST_BATCH_LIBRARY": libraries["batch"],
                        "LD_LIBRARY_PATH": os.path.dirname(libraries["main"])}
         return self.started([self.build.path(words[0]), "--gtest_brief=1", *words[1:]], environment) is not None

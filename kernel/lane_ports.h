@@ -39,9 +39,8 @@ struct LanePorts : Arrays<Numbers, Element> {
         Numbers::template storeReals<Element>(this->destination, a, b, c, d, scaled(value));
     }
 
-    // Parts of complex numbers, and one or two of these.
+    // Real bins, and complex numbers, one or two of these.
     ZULG_INLINE Value re(int k) const { return in(Slot::re(k)); }
-    ZULG_INLINE Value im(int k) const { return in(Slot::im(k)); }
     ZULG_INLINE Pair pair(int k) const { return Pair(Numbers::template pair<Element>(this->source + Slot::re(k))); }
     ZULG_INLINE Lines pairs(int k, int l) const {
         return Lines(
@@ -51,10 +50,6 @@ struct LanePorts : Arrays<Numbers, Element> {
     template <class Register>
     ZULG_INLINE void re(int k, Register value) const {
         out(Slot::re(k), value);
-    }
-    template <class Register>
-    ZULG_INLINE void im(int k, Register value) const {
-        out(Slot::im(k), value);
     }
     template <class Register>
     ZULG_INLINE void pair(int k, Register value) const {

@@ -7,6 +7,7 @@ lines for the level with AVX2. Nothing is optimised: the bits are the same, and 
 import os
 import re
 import subprocess
+import sys
 
 from faults import code_faults, text_faults
 
@@ -59,6 +60,10 @@ class Text:
                 arguments = f"(const {element}* a, {element}* b, std::int32_t f)"
                 yield name, (f'int own_{name}{arguments} __asm__("{name}");\nint own_{name}{arguments} '
                              f"{{ return zulg::kernel<zulg::Family::{family}, {self.length}, {element}>(a, b, f); }}\n")
+
+
+# The headers that check the arguments of kernels.
+CHECKS = ("kernel/scale.h", "kernel/kernel_body.h", "kernel/families.h")
 
 
 class WhtText(Text):
@@ -195,6 +200,7 @@ class Probes:
         scalar, pairs = self.some("scalar", 1, 2), self.some("pairs", 1, 2)
         lines, longer = self.some("lines", 0, 1), self.some("lines", 1, 3)
         few = [text for text in lines if text.graph == "ComplexLines"]
+        pairs += self.with_neighbours("pairs")
         self.of_ports = [("generic", scalar, "double"), ("generic", scalar, "float"), ("x86_64", pairs, "double")]
         self.of_lanes = [("x86_64_v3", few, "double"), ("x86_64_v3", few, "float"), ("x86_64", pairs, "double"),
                          ("x86_64", pairs, "float")]
@@ -210,6 +216,15 @@ class Probes:
                                   and text.length > 2), key=lambda text: text.steps)[first:end]
         return chosen
 
+    def with_neighbours(self, form):
+        """A short text that reads and stores neighbours in one register."""
+        for text in sorted((text for text in self.kernels.texts if text.form == form), key=lambda text: text.steps):
+            with open(os.path.join(self.kernels.tree, text.path), encoding="utf-8") as file:
+                calls = re.findall(r"io\.(in|out)\((\d+), (\d+)[,)]", file.read())
+            if {name for name, a, b in calls if int(b) == int(a) + 1} == {"in", "out"}:
+                return [text]
+        return []
+
     def outcome(self, folder, path):
         for target, texts, element in self.of_lanes if HEADERS[path] else self.of_ports:
             entries = [entry for text in texts for entry in text.entries(text.families, [element])]
@@ -217,10 +232,19 @@ class Probes:
             library = self.kernels.compiled(folder, target, source + "".join(entry for _, entry in entries))
             if library is None:
                 return "compiler"
-            outcome = self.kernels.judged(library, [name for name, _ in entries])
+            names = [name for name, _ in entries]
+            outcome = self.kernels.judged(library, names)
+            if outcome == "survives" and path in CHECKS and not self.refuses(library, names):
+                outcome = "refusals"
             if outcome != "survives":
                 return outcome
         return outcome
+
+    @staticmethod
+    def refuses(library, names):
+        script = os.path.join(os.path.dirname(os.path.abspath(__file__)), "refusals.py")
+        return subprocess.run([sys.executable, "-B", script, library, *names], stderr=subprocess.DEVNULL, timeout=60,
+                              check=False).returncode == 0
 
     def mutants(self):
         for path in HEADERS:

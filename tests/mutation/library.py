@@ -18,18 +18,20 @@ from faults import code_faults, text_faults
 #     plain               digests of the Walsh-Hadamard family as targets without lanes have it
 #     run PROGRAM ...     a test program with the mutant in place of the library
 #     link PROGRAM ...    a test program that has sources of the library linked in
-#     own PROGRAM FOLDER  a test program whose own sources, in that folder of the build, see the mutant
+#     own PROGRAM FOLDER ...  a test program whose own sources, in that folder of the build, see the mutant
 WHOLE_DCT4 = "run dct4_test --gtest_filter=-*Stack*"
 JUDGES = {
     r"dct4/(combine|fold|output|run|split|ports|lane_ports|in_lanes|[a-z]+_in_lanes)\.|dct4/bodies/":
         ["bits DCT4", "table", "link dct4_plain_test", WHOLE_DCT4],
     r"dct4/rounded_once": ["link table_arguments_test", "link plan_test"],
+    r"dct4/(arena|size)\.": ["link plan_test", "own plan_test tests/plan/", "run dct4_test --gtest_filter=*Size*"],
     r"dct4/": ["link plan_test", "bits DCT4", "table", "link table_arguments_test", WHOLE_DCT4],
     r"wht/(small|large)_orders": ["plain"],
     r"wht/": ["bits WHT", "plain", "run wht_test"],
     r"boundary/(allocator_hook|load_entry|load_elf|shared_library_elf)\.":
         ["link hook_binding_test", "link hook_companion_test", "run hook_library_test"],
     r"boundary/": ["run boundary_test", "bits WHT", "bits "],
+    r"batch/checks": ["run batch_test --gtest_filter=*Checks*:*Shapes*", "own batch_test tests/batch/ --gtest_filter=BatchShapes*"],
     r"batch/": ["run batch_fast_shapes_test",
                 "run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
                 "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
@@ -126,7 +128,7 @@ class Library:
         if kind == "own":
             compiled = self.build.compile_users(folder, path, words[1], ("-O0", "-w"))
             program = compiled and self.build.link_program(folder, words[0], compiled)
-            return bool(program) and self.started([program, "--gtest_brief=1"]) is not None
+            return bool(program) and self.started([program, "--gtest_brief=1", *words[2:]]) is not None
         environment = {"ZULG_TEST_LIBRARY": libraries["main"], "ZULG_TEST_BATCH_LIBRARY": libraries["batch"],
                        "LD_LIBRARY_PATH": os.path.dirname(libraries["main"])}
         return self.started([self.build.path(words[0]), "--gtest_brief=1", *words[1:]], environment) is not None

@@ -383,7 +383,10 @@ TYPED_TEST(BatchWhtTest, GivesTheBitsOfSingleCalls) {
         SCOPED_TRACE(order);
         std::int32_t bytes = -1;
         ASSERT_EQ(this->size(order, &bytes), StatusOk);
-        EXPECT_EQ(bytes == 0, order <= 7);
+        // The buffer of a single call, and the elements of one transform.
+        std::int32_t ofSingle = -1;
+        ASSERT_EQ(exported<BatchSize>(exportedName<TypeParam>("zulgWHTGetBufferSize"))(order, &ofSingle), StatusOk);
+        EXPECT_EQ(bytes, order <= 7 ? 0 : ofSingle + (static_cast<int>(sizeof(TypeParam)) << order));
         const GuardedPages buffer(static_cast<std::size_t>(bytes) + 1);
         auto* const pBuffer =
             bytes == 0 ? nullptr : reinterpret_cast<TypeParam*>(buffer.atRear(static_cast<std::size_t>(bytes)));
@@ -464,11 +467,14 @@ TYPED_TEST(BatchDct4Test, ChecksComeInTheirOrder) {
     Planned<TypeParam> planned(64);
     std::vector<TypeParam> x(4 * 64), y(x.size(), 7), buffer(64);
     const auto untouched = y;
-    for (const std::int32_t length : {1, 0, -1, INT32_MIN, INT32_MAX}) {
-        std::int32_t bytes = 5;
+    constexpr std::int32_t longest = 1 << 27;
+    std::int32_t bytes = 5;
+    for (const std::int32_t length : {1, 0, -1, INT32_MIN, longest + 1, INT32_MAX}) {
         EXPECT_EQ(this->size(length, &bytes), StatusSizeError);
         EXPECT_EQ(bytes, 5);
     }
+    EXPECT_EQ(this->size(longest, &bytes), StatusOk);
+    EXPECT_EQ(bytes, longest * static_cast<int>(sizeof(TypeParam)));
     auto* const plan = planned.plan;
     EXPECT_EQ(this->batch(nullptr, 1, 64, y.data(), 1, 64, plan, -1, nullptr), StatusNullPointer);
     EXPECT_EQ(this->batch(x.data(), 1, 64, nullptr, 1, 64, plan, -1, nullptr), StatusNullPointer);

@@ -36,6 +36,10 @@ PROGRAMS = {"boundary_test": "*", "wht_test": "*", "dct4_test": "-*Stack*:*Threa
 LINKED = ["plan_test", "table_arguments_test", "dct4_plain_test", "hook_binding_test", "hook_companion_test"]
 
 
+# What is thrown only if the program contradicts itself: no input leads there.
+IMPOSSIBLE = re.compile(r"throw std::(logic_error|out_of_range)\(")
+
+
 class Coverage:
     def __init__(self, tree, build, folder):
         self.tree, self.folder = tree, folder
@@ -91,8 +95,8 @@ class Coverage:
             self.run([self.build.path(name), "--gtest_brief=1", f"--gtest_filter={chosen}"], environment)
         for name in LINKED:
             self.run([self.link(name), "--gtest_brief=1"], environment)
-        # The checked library ends programs, and its counters are written before that.
-        checked = self.link(CHECKED, "-Wl,--wrap=abort", self.abort())
+        # The checked library ends programs.
+        checked = self.link(CHECKED, *self.dumping_before("abort", "(void)", "()"))
         for name, chosen in {"boundary_test": "*", "transforms_test": "*_15_*:*WHT_7_*:*DCT4_64_*", "wht_test": "*",
                              "memory_test": "*", "dct4_test": "*InitAlloc*"}.items():
             self.run([self.build.path(name), "--gtest_brief=1", f"--gtest_filter={chosen}"],
@@ -100,13 +104,14 @@ class Coverage:
         self.run([sys.executable, "-B", os.path.join(self.tree, "tests/checked/checked.py"), self.tree,
                   self.build.path("misuse"), self.build.path("misuse_of_memory")], environment)
 
-    def abort(self):
-        source, output = os.path.join(self.folder, "abort.c"), os.path.join(self.folder, "abort.o")
+    def dumping_before(self, name, parameters, arguments):
+        """What is linked so that counters are written before a routine that ends the program."""
+        source, output = (os.path.join(self.folder, f"{name}.{end}") for end in "co")
         with open(source, "w", encoding="ascii") as file:
-            file.write("void __gcov_dump(void);\nvoid __real_abort(void);\n"
-                       "void __wrap_abort(void) { __gcov_dump(); __real_abort(); }\n")
+            file.write(f"void __gcov_dump(void);\nvoid __real_{name}{parameters};\n"
+                       f"void __wrap_{name}{parameters} {{ __gcov_dump(); __real_{name}{arguments}; }}\n")
         subprocess.run(["gcc", "-fPIC", "-c", source, "-o", output], check=True)
-        return output
+        return f"-Wl,--wrap={name}", output
 
     def generator(self):
         self.compile("generator/")
@@ -119,12 +124,26 @@ class Coverage:
 
     def tools(self):
         self.compile("tools/")
-        tool = self.link("zulspectrum")
+        # Processes of a batch end without the end of a program.
+        dumping = self.dumping_before("_exit", "(int status)", "(status)")
+        programs = {self.build.path(name): self.link(name, *dumping)
+                    for name in ("zulspectrum", "zulspectrum-mpi") if os.path.exists(self.build.path(name))}
+        programs[self.build.folder] = self.build_with(programs)
         status = self.link("status_test")
         self.run([status])
         for test, command in self.tests().items():
-            if test.startswith("zulspectrum"):
-                self.run([tool if word == self.build.path("zulspectrum") else word for word in command])
+            if test.startswith("zulspectrum") or test == "cluster":
+                self.run([programs.get(word, word) for word in command])
+
+    def build_with(self, programs):
+        """A folder that looks like the build, with these programs in place of its own."""
+        folder = os.path.join(self.folder, "build")
+        shutil.rmtree(folder, ignore_errors=True)
+        os.makedirs(folder)
+        for name in os.listdir(self.build.folder):
+            path = self.build.path(name)
+            os.symlink(programs.get(path, path), os.path.join(folder, name))
+        return folder
 
     def tests(self):
         listed = subprocess.run(["ctest", "--show-only=json-v1"], cwd=self.build.folder, stdout=subprocess.PIPE,
@@ -202,11 +221,13 @@ def measure(tree, build, folder, parts):
         text = text_of(tree, path)
         for number, count in sorted(counts[path].items()):
             row = rows[place]
-            row[0] += 1
             key = path, text[number - 1].strip()
+            if key[1] in ("}", "};") and not count:
+                continue  # what is cleaned up when an exception passes
+            row[0] += 1
             if count:
                 row[1] += 1
-            elif key in reasons:
+            elif key in reasons or IMPOSSIBLE.search(key[1]):
                 row[2] += 1
                 used.add(key)
             else:

@@ -10,8 +10,8 @@ LIBRARY, BATCH = "libzulgenpx-7.0.so", "libzulgenpx-batch-7.0.so"
 KERNELS = r"CMakeFiles/zulgenpx_kernels(_\w+)?\.dir/"
 # The objects of the libraries that are compiled anew where they see a change: not the kernels and not the texts of
 # batches, which are hundreds.
-OWN = (r"CMakeFiles/zulgenpx\.dir/|CMakeFiles/zulgenpx_lane_passes_x86_64_v3\.dir/|CMakeFiles/zulgenpx_batch\.dir/|"
-       r"CMakeFiles/zulgenpx_batch_objects_x86_64_v3\.dir/batch/|"
+OWN = (r"CMakeFiles/zulgenpx\.dir/|CMakeFiles/zulgenpx_lane_passes_x86_64(_v3)?\.dir/|CMakeFiles/zulgenpx_batch\.dir/|"
+       r"CMakeFiles/zulgenpx_batch_objects_x86_64(_v3)?\.dir/batch/|"
        r"tests/plan/CMakeFiles/table_arguments_test\.dir/rounded_by_integers")
 
 

@@ -62,8 +62,8 @@ class Text:
                              f"{{ return zulg::kernel<zulg::Family::{family}, {self.length}, {element}>(a, b, f); }}\n")
 
 
-# The headers that check the arguments of kernels.
-CHECKS = ("kernel/scale.h", "kernel/kernel_body.h", "kernel/families.h")
+# The headers that check the arguments of kernels, and say where a result is.
+CHECKS = ("kernel/scale.h", "kernel/kernel_body.h", "kernel/families.h", "kernel/ports.h", "kernel/lane_ports.h")
 
 
 class WhtText(Text):
@@ -197,7 +197,7 @@ class Probes:
 
     def __init__(self, kernels):
         self.kernels = kernels
-        scalar, pairs = self.some("scalar", 1, 2), self.some("pairs", 1, 2)
+        scalar, pairs = self.some("scalar", 0, 2), self.some("pairs", 1, 2)
         lines, longer = self.some("lines", 0, 1), self.some("lines", 1, 3)
         few = [text for text in lines if text.graph == "ComplexLines"]
         pairs += self.with_neighbours("pairs")

@@ -13,7 +13,8 @@ from faults import code_faults, text_faults
 # Judges, short ones first:
 #     bits PATTERN        digests of the exports whose names contain PATTERN
 #     table               digests of the DCT-IV over tables of integers, with the plan's sources linked in
-#     old PATTERN         the same on an emulated processor without AVX
+#     old PATTERN         digests of exports on an emulated processor without AVX
+#     oldtable            digests over tables on that processor
 #     processors          what the library asks emulated processors
 #     plain               digests of the Walsh-Hadamard family as targets without lanes have it
 #     run PROGRAM ...     a test program with the mutant in place of the library
@@ -22,24 +23,26 @@ from faults import code_faults, text_faults
 WHOLE_DCT4 = "run dct4_test --gtest_filter=-*Stack*"
 JUDGES = {
     r"dct4/(combine|fold|output|run|split|ports|lane_ports|in_lanes|[a-z]+_in_lanes)\.|dct4/bodies/":
-        ["bits DCT4", "table", "link dct4_plain_test", WHOLE_DCT4],
+        ["bits DCT4", "table", "link dct4_plain_test", WHOLE_DCT4, "oldtable"],
     r"dct4/rounded_once": ["link table_arguments_test", "link plan_test"],
     r"dct4/(arena|size)\.": ["link plan_test", "own plan_test tests/plan/", "run dct4_test --gtest_filter=*Size*"],
-    r"dct4/": ["link plan_test", "bits DCT4", "table", "link table_arguments_test", WHOLE_DCT4],
+    r"dct4/": ["link plan_test", "bits DCT4", "table", "link table_arguments_test", WHOLE_DCT4,
+               "own plan_test tests/plan/"],
     r"wht/(small|large)_orders": ["plain"],
-    r"wht/": ["bits WHT", "plain", "run wht_test"],
+    r"wht/": ["bits WHT", "plain", "run wht_test", "old WHT_9_32f", "run environment_test --gtest_filter=*WHT*"],
     r"boundary/(allocator_hook|load_entry|load_elf|shared_library_elf)\.":
         ["link hook_binding_test", "link hook_companion_test", "run hook_library_test"],
     r"boundary/": ["run boundary_test", "bits WHT", "bits "],
-    r"batch/checks": ["run batch_test --gtest_filter=*Checks*:*Shapes*", "own batch_test tests/batch/ --gtest_filter=BatchShapes*"],
+    r"batch/checks": ["run batch_test --gtest_filter=*Checks*:*Shapes*",
+                      "own batch_test tests/batch/ --gtest_filter=BatchShapes*"],
     r"batch/": ["run batch_fast_shapes_test",
                 "run batch_test --gtest_filter=*Checks*:*Shapes*:*Wht*:*Dct4*", "run batch_test --gtest_filter=*Fast*",
                 "run batch_test --gtest_filter=-*Stack*:*Checks*:*Wht*:*Dct4*:*Fast*:*Errors*:*Threads*"],
     r"targets/": ["bits _5_", "run best_level_test", "old zulgDFTFwd_CToC_5_32fc",
-                  "processors"],
+                  "processors", "oldtable"],
     r"kernel/lanes": ["bits WHT", "bits DCT4", "table", "own texts_test tests/texts/"],
     r"kernel/": ["bits WHT", "bits DCT4", "table", "run boundary_test",
-                 "run batch_test --gtest_filter=*Fast*:*Random*"],
+                 "run batch_test --gtest_filter=*Checks*:*Fast*:*Random*"],
 }
 # Files without a mutant: those that this target does not compile, those that are no code but declarations, and the
 # ports of batches, which hundreds of objects see.
@@ -109,9 +112,10 @@ class Library:
             emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind == "old" else []
             done = self.started([*emulator, self.build.path("digests"), libraries["main"], *words])
             return done is not None and self.same(done, self.digests)
-        if kind == "table":
+        if kind in ("table", "oldtable"):
+            emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind == "oldtable" else []
             program = self.build.link_program(folder, "table_digests", objects)
-            done = program and self.started([program, libraries["main"]])
+            done = program and self.started([*emulator, program, libraries["main"]])
             return bool(done) and self.same(done, self.table)
         if kind == "plain":
             done = self.plain_orders(folder)

@@ -169,7 +169,7 @@ def end_of(name, outcome, reasons):
         return "equivalent" if name in reasons else "survives"
     if outcome == "crash":
         return "a crash"
-    return "other bits" if outcome in ("table", "plain") or outcome.startswith(("bits", "old")) else "a failed test"
+    return "other bits" if outcome in ("table", "oldtable", "plain") or outcome.startswith(("bits", "old")) else "a failed test"
 
 
 def folder_of(name):

@@ -169,7 +169,8 @@ def end_of(name, outcome, reasons):
         return "equivalent" if name in reasons else "survives"
     if outcome == "crash":
         return "a crash"
-    return "other bits" if outcome in ("table", "oldtable", "plain") or outcome.startswith(("bits", "old")) else "a failed test"
+    is_bits = outcome in ("table", "oldtable", "plain") or outcome.startswith(("bits", "old "))
+    return "other bits" if is_bits else "a failed test"
 
 
 def folder_of(name):

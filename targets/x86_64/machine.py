@@ -16,3 +16,4 @@ FOREIGN = re.compile(
     r"|v?(div|sqrt)s[sd]|vf?n?m(add|sub)|cmp[a-z]*s[sd]|u?comis[sd]|fu?comi?p?")
 STORES_TWO = False  # inverse real kernels double their bins by a constant or by a sum
 HAS_WIDE_REGISTERS = False
+MAY_SHARE_AN_END = False  # with the refusals before it

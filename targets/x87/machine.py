@@ -17,3 +17,4 @@ READS_SINGLE = re.compile(r"f(?:ld|mul)s$")
 READS_DOUBLE = re.compile(r"f(?:ld|mul)l$")
 # Registers are wider than a double: a spill at another place changes results.
 HAS_WIDE_REGISTERS = True
+MAY_SHARE_AN_END = False  # with the refusals before it

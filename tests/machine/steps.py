@@ -3,13 +3,14 @@
 steps.py LIBRARY OBJDUMP EXPECTED_FOLDER TARGET_FOLDER
 
 Each kernel is reached as a caller reaches it: exported entry, one indirect jump, slot, routine. What is demanded of it:
-additions plus subtractions and multiplications of the table, no call, no loop, and packed arithmetic only in
+additions plus subtractions and multiplications of the table, no call, no backward jump, and packed arithmetic only in
 families that have several numbers to a register: there a packed step counts as many steps as it has lanes, and every
 lane is in use. A kernel of several levels is counted at each. The negations of the forward real family are left to the
 graph: a compiler may fold one into its neighbours. The large Walsh-Hadamard orders have the loops and the calls out of
-the library that their table grants them; a loop over several blocks side by side has the steps of one block in each
-lane. Where a target stores the 2 that the inverse real kernels multiply by, they read it in the width of their
-elements; elsewhere a compiler may double by a sum.
+the library that their table grants them; such a call may be out of the way, and a jump leads back from it. A loop over
+several blocks side by side has the steps of one block in each lane. On a target whose kernels may share an end with the
+refusals before it, a jump back to that end is allowed, since it is no loop. Where a target stores the 2 that the
+inverse real kernels multiply by, they read it in the width of their elements; elsewhere a compiler may double by a sum.
 """
 import os
 import re
@@ -61,6 +62,7 @@ def lanes(instruction):
 def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
     """granted: how many loops and calls out of the library there are to be."""
     sums = products = loops = calls = 0
+    loops_granted, calls_granted = granted
     faults = []
     for instruction in instructions:
         name = instruction.mnemonic
@@ -88,10 +90,12 @@ def counted(library, instructions, may_negate, granted=(0, 0), may_pack=False):
             if target is None or not instructions[0].address <= target <= instructions[-1].address:
                 faults.append(f"jumps elsewhere: {name} {instruction.operands}")
             elif target <= instruction.address:
-                # A jump back to an end that several ways share, or from a call that is out of the way, is no loop.
-                loops += leads_to(instructions, target, instruction.address)
+                is_loop = leads_to(instructions, target, instruction.address)
+                loops += is_loop
+                if not (is_loop or calls_granted or machine.MAY_SHARE_AN_END):
+                    faults.append(f"jumps backwards: {name} {instruction.operands}")
     if (loops, calls) != granted:
-        faults.append(f"{loops} loops, {calls} calls; due are {granted[0]}, {granted[1]}")
+        faults.append(f"{loops} loops, {calls} calls; due are {loops_granted}, {calls_granted}")
     return sums, products, faults
 
 

@@ -3,13 +3,16 @@ SECURITY.md tells must come from one of them, numbers aside. What is right must 
 
 checked.py [--run WORD ...] TREE PROGRAM ...
 
-What runs the programs, where the machine itself cannot, is given word by word: --run PROGRAM --run ARGUMENT.
+--run: what runs the programs where the machine itself cannot (tests/launcher.py).
 """
 import os
 import re
 import signal
 import subprocess
 import sys
+
+sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+from launcher import launcher_and_rest  # noqa: E402
 
 
 def pattern(line):
@@ -29,9 +32,7 @@ def run(*command):
 
 
 def main():
-    words, launcher = sys.argv[1:], []
-    while words[:1] == ["--run"]:
-        launcher, words = launcher + words[1:2], words[2:]
+    launcher, words = launcher_and_rest(sys.argv[1:])
     tree, *programs = words
     with open(os.path.join(tree, "SECURITY.md"), encoding="utf-8") as file:
         told = {pattern(line): line for line in re.findall(r"`(zulg\w+: [^`]+)`", file.read())}

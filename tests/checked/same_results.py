@@ -2,18 +2,20 @@
 
 same_results.py [--run WORD ...] DIGESTS LIBRARY CHECKED
 
-What runs the program, where the machine itself cannot, is given word by word: --run PROGRAM --run ARGUMENT.
+--run: what runs the programs where the machine itself cannot (tests/launcher.py).
 """
+import os
 import subprocess
 import sys
+
+sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+from launcher import launcher_and_rest  # noqa: E402
 
 FAMILIES = ["zulgDFTFwd", "zulgDFTInv", "zulgHartley", "zulgWHT", "zulgenGet"]
 
 
 def main():
-    words, launcher = sys.argv[1:], []
-    while words[:1] == ["--run"]:
-        launcher, words = launcher + words[1:2], words[2:]
+    launcher, words = launcher_and_rest(sys.argv[1:])
     program, library, checked = words
     lines, different = 0, 0
     for family in FAMILIES:

@@ -4,13 +4,17 @@ same_bits.py [--run WORD ...] compare DIGESTS LIBRARY OTHER   prints the exports
 same_bits.py [--run WORD ...] check DIGESTS LIBRARY FILE [KIND ...]   the same against a committed list
 same_bits.py [--run WORD ...] write DIGESTS LIBRARY FILE      accepts the library's bits as that list
 
-DIGESTS is the program digests.cpp. Where the machine itself cannot run it, another program does, which is given word by
-word: --run PROGRAM --run ARGUMENT. KIND is a kind of input: moderate, wide, zeros, extreme. A list leaves out the DCT-IV
-above 32 points, which depends on each machine's own sine and cosine.
+DIGESTS is the program digests.cpp. --run: what runs it where the machine itself cannot (tests/launcher.py). KIND is a
+kind of input: moderate, wide, zeros, extreme. A list leaves out the DCT-IV above 32 points, which depends on each
+machine's own sine and cosine.
 """
+import os
 import re
 import subprocess
 import sys
+
+sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+from launcher import launcher_and_rest  # noqa: E402
 
 
 def digests(run, program, library):
@@ -38,10 +42,7 @@ def report(found, due, kinds):
 
 
 def main():
-    words = sys.argv[1:]
-    run = []
-    while words[:1] == ["--run"]:
-        run, words = run + words[1:2], words[2:]
+    run, words = launcher_and_rest(sys.argv[1:])
     if len(words) < 4 or words[0] not in ("compare", "check", "write"):
         sys.exit(__doc__.strip())
     verb, program, library, other, *kinds = words

@@ -62,10 +62,6 @@ class Text:
                              f"{{ return zulg::kernel<zulg::Family::{family}, {self.length}, {element}>(a, b, f); }}\n")
 
 
-# The headers that check the arguments of kernels, and say where a result is.
-CHECKS = ("kernel/scale.h", "kernel/kernel_body.h", "kernel/families.h", "kernel/ports.h", "kernel/lane_ports.h")
-
-
 class WhtText(Text):
     """A block, as the order of its points; the text is not a kernel's, and one source has the orders up to 7."""
 
@@ -189,6 +185,8 @@ class Kernels:
 HEADERS = {"kernel/ports.h": False, "kernel/scale.h": False, "kernel/families.h": False, "kernel/kernel_body.h": False,
            "kernel/doubles.h": False, "kernel/in_memory.h": False, "kernel/kernel.h": False, "kernel/two.cpp": False,
            "kernel/lane_ports.h": True, "kernel/lanes.h": True, "targets/x86_64/in_lanes.h": True}
+# Those of them that check the arguments of kernels, or say where a result is.
+CHECKS = ("kernel/scale.h", "kernel/kernel_body.h", "kernel/families.h", "kernel/ports.h", "kernel/lane_ports.h")
 
 
 class Probes:

@@ -108,12 +108,11 @@ class Library:
         return "survives"
 
     def passes(self, kind, words, folder, path, objects, libraries):
+        emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind.startswith("old") else []
         if kind in ("bits", "old"):
-            emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind == "old" else []
             done = self.started([*emulator, self.build.path("digests"), libraries["main"], *words])
             return done is not None and self.same(done, self.digests)
         if kind in ("table", "oldtable"):
-            emulator = ["qemu-x86_64", "-cpu", "Nehalem"] if kind == "oldtable" else []
             program = self.build.link_program(folder, "table_digests", objects)
             done = program and self.started([*emulator, program, libraries["main"]])
             return bool(done) and self.same(done, self.table)

@@ -58,7 +58,10 @@ protected:
         substitutedCore().reserve = reserve.get();
         substitutedCore().reserveBytes = reserveBytes;
     }
-    void TearDown() override { substitutedCore().reserveBytes = 0; }
+    void TearDown() override {
+        substitutedCore().reserve = nullptr;
+        substitutedCore().reserveBytes = 0;
+    }
 
     static constexpr std::size_t reserveBytes = 192 << 20;  // a plan of 2^22 points fits
     const std::unique_ptr<unsigned char[]> reserve{new unsigned char[reserveBytes]};

@@ -59,7 +59,7 @@ TEST(LinearMap, TellsTheGainOfEachUse) {
     const auto uses = map.gainsOfUses(graph.outputs()[0]);
     std::vector<double> ofSum = uses[sum.node];
     std::sort(ofSum.begin(), ofSum.end());
-    EXPECT_EQ(ofSum.size(), 5U) << "three, and two outputs that they are not";
+    EXPECT_EQ(ofSum.size(), 5U) << "three steps, and twice whether it is the output: the sum, and its double";
     EXPECT_NEAR(ofSum.front(), -1.0 / 3, 1e-15);
     EXPECT_EQ(ofSum.back(), 2);
     EXPECT_EQ(std::count(ofSum.begin(), ofSum.end(), 1.0), 1);

@@ -25,7 +25,7 @@ class VerbsTest(unittest.TestCase):
         done = subprocess.run([GENERATE, *words], cwd=self.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
                               text=True, check=False)
         self.assertEqual(done.returncode, code, done.stderr)
-        return done.stderr if code else done.stdout
+        return done.stdout or done.stderr
 
     def test_write_makes_the_tree_s_files_and_check_finds_what_differs(self):
         said = self.run_verb("write")
@@ -40,12 +40,11 @@ class VerbsTest(unittest.TestCase):
         changed.write_text("\n".join(lines[:9] + ["another"] + lines[10:]))
         missing.unlink()
         (self.folder / "kernels/complex/dft_65.h").write_text("")
-        done = subprocess.run([GENERATE, "check"], cwd=self.folder, stdout=subprocess.PIPE, text=True, check=False)
-        self.assertEqual(done.returncode, 1)
-        self.assertIn(f"kernels/complex/dft_8.h:10\n  is:     another\n  due is: {lines[9]}\n", done.stdout)
-        self.assertIn("kernels/hartley/dht_5.h:1\n  is:     (nothing)\n", done.stdout)
-        self.assertIn("dft_65.h", done.stdout)
-        self.assertIn("3 files differ. To accept: ", done.stdout)
+        differences = self.run_verb("check", code=1)
+        self.assertIn(f"kernels/complex/dft_8.h:10\n  is:     another\n  due is: {lines[9]}\n", differences)
+        self.assertIn("kernels/hartley/dht_5.h:1\n  is:     (nothing)\n", differences)
+        self.assertIn("dft_65.h", differences)
+        self.assertIn("3 files differ. To accept: ", differences)
 
         self.assertEqual(self.run_verb("write"), f"{len(files)} files, 2 of them new or changed\n")
         self.assertEqual(changed.read_text().split("\n"), lines)
@@ -62,7 +61,7 @@ class VerbsTest(unittest.TestCase):
         nodes = self.run_verb("list", "complex", "2").splitlines()
         self.assertTrue(any(" + " in node for node in nodes) and any(" - " in node for node in nodes), nodes)
         # A table of factors makes products of two values.
-        self.assertRegex(self.run_verb("list", "dct4_output", "2"), r"t\d+ \* t\d+|\w+ \* \w+")
+        self.assertRegex(self.run_verb("list", "dct4_output", "2"), r"\w+ \* \w+")
         dot = self.run_verb("dot", "dct4_output", "2")
         self.assertTrue(dot.startswith("digraph"))
         for label in ('"+"', '"-"', '"*"'):

@@ -63,6 +63,7 @@ function(add_kernels library folder)
         if(steps LESS short_kernel_steps)
             set(flags ${short_kernel_compile_flags})
         endif()
+        # Texts whose frame would be too deep where the callee saves more registers.
         if(platform_deep_texts AND text MATCHES "${platform_deep_texts}")
             list(APPEND flags ${platform_deep_compile_flags})
         endif()

@@ -2,8 +2,9 @@
 // exact one: at factor 1, at least 9999 of 10,000 over all kernels of the DFT and Hartley families and all
 // Walsh-Hadamard orders up to 7, and in each of them.
 //
-// Sums of singles are often half way between two singles, and the even one of them is due then. The definition, which
-// computes with rounded cosines, can miss the half by its own error; a result that is so near to it is taken for it.
+// The exact result is often half way between two singles. Then the even one is due. The definition computes with
+// rounded cosines, and its own error can move such a result a little off the half. So a result of the definition that
+// is nearly half way is taken to be half way.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>

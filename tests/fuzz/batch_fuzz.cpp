@@ -118,6 +118,24 @@ ZulgStatus call(const Request<Element>& request, const Element* pSrc, Shape sour
                                                        destination.distance, request.number, request.flag, count);
 }
 
+// Whether a result of one transform is in the place of what another one reads, if both arrays begin at one element: then
+// no result has a meaning.
+template <class Element>
+bool readsWhatOthersWrite(const Request<Element>& request) {
+    std::map<std::int64_t, std::int64_t> writtenBy;
+    for (std::int64_t j = 0; j < request.count; ++j) {
+        for (std::int64_t k = 0; k < request.written; ++k)
+            writtenBy[k * request.destination.step + j * request.destination.distance] = j;
+    }
+    for (std::int64_t j = 0; j < request.count; ++j) {
+        for (std::int64_t k = 0; k < request.read; ++k) {
+            const auto found = writtenBy.find(k * request.source.step + j * request.source.distance);
+            if (found != writtenBy.end() && found->second != j) return true;
+        }
+    }
+    return false;
+}
+
 // One transform by itself: by the main library, and what is computed in single by a batch of one.
 template <class Element>
 void transformOne(const Request<Element>& request, const Element* from, Element* to) {
@@ -193,8 +211,7 @@ void runAccepted(const Request<Element>& request, Bytes bytes, unsigned where) {
                : bytes.fill(reinterpret_cast<std::byte*>(values.data()), values.size() * sizeof(Element));
     std::memcpy(sourceMemory.at(0), values.data(), values.size() * sizeof(Element));
 
-    // Results that no other element of the source is in the place of.
-    const bool isDue = !isInOne || (shift == 0 && isSameShape);
+    const bool isDue = !isInOne || (shift == 0 && isSameShape && !readsWhatOthersWrite(request));
     std::vector<Element> x(static_cast<std::size_t>((request.read + 1) * width)), y(x.size() + 8);
     std::vector<Element> due;
     for (std::int64_t j = 0; isDue && j < request.count; ++j) {

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstdint>
-#include <utility>
 
 #include "kernel/platform.h"
 
@@ -38,6 +37,7 @@ struct PortableRegisters {
     }
 };
 
+// Operators are friends that need no deduction: a long text has thousands of them.
 template <class Registers, int width, bool exchanged>
 struct Lanes {
     using Vector = typename Vectors<width>::Type;
@@ -55,6 +55,11 @@ struct Lanes {
     ZULG_INLINE Lanes(double a, double b, double c, double d) requires(width == 4)
         : vector(exchanged ? Vector{b, a, d, c} : Vector{a, b, c, d}) {}
 
+    ZULG_INLINE friend Lanes operator+(const Lanes& a, const Lanes& b) { return Lanes(a.vector + b.vector); }
+    ZULG_INLINE friend Lanes operator-(const Lanes& a, const Lanes& b) { return Lanes(a.vector - b.vector); }
+    ZULG_INLINE friend Lanes operator*(const Lanes& a, const Lanes& b) { return Lanes(a.vector * b.vector); }
+    ZULG_INLINE friend Lanes operator*(double factor, const Lanes& x) { return Lanes(factor) * x; }
+
     // Where the lane of a text is in the register.
     static constexpr int place(int lane) { return exchanged ? lane ^ 1 : lane; }
 };
@@ -66,37 +71,26 @@ struct Lanes<Registers, 1, exchanged> {
 
     Lanes() = default;
     ZULG_INLINE explicit Lanes(double from) : vector(from) {}
-};
 
-template <class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> operator+(Lanes<Registers, width, exchanged> a,
-                                                         Lanes<Registers, width, exchanged> b) {
-    return Lanes<Registers, width, exchanged>(a.vector + b.vector);
-}
-template <class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> operator-(Lanes<Registers, width, exchanged> a,
-                                                         Lanes<Registers, width, exchanged> b) {
-    return Lanes<Registers, width, exchanged>(a.vector - b.vector);
-}
-template <class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> operator*(Lanes<Registers, width, exchanged> a,
-                                                         Lanes<Registers, width, exchanged> b) {
-    return Lanes<Registers, width, exchanged>(a.vector * b.vector);
-}
-template <class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> operator*(double factor, Lanes<Registers, width, exchanged> x) {
-    return Lanes<Registers, width, exchanged>(factor) * x;
-}
+    ZULG_INLINE friend Lanes operator+(const Lanes& a, const Lanes& b) { return Lanes(a.vector + b.vector); }
+    ZULG_INLINE friend Lanes operator-(const Lanes& a, const Lanes& b) { return Lanes(a.vector - b.vector); }
+    ZULG_INLINE friend Lanes operator*(const Lanes& a, const Lanes& b) { return Lanes(a.vector * b.vector); }
+    ZULG_INLINE friend Lanes operator*(double factor, const Lanes& x) { return Lanes(factor) * x; }
+};
 
 // The signs of these lanes changed.
 template <int... isFlipped, class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> flipped(Lanes<Registers, width, exchanged> x) {
+ZULG_INLINE Lanes<Registers, width, exchanged> flipped(const Lanes<Registers, width, exchanged>& x) {
     using L = Lanes<Registers, width, exchanged>;
     using Bits = typename Vectors<width>::Bits;
     static_assert(sizeof...(isFlipped) == width);
     constexpr std::int64_t signs[] = {isFlipped * INT64_MIN...};
-    const Bits mask = [&]<int... lane>(std::integer_sequence<int, lane...>) { return Bits{signs[L::place(lane)]...}; }
-    (std::make_integer_sequence<int, width>{});
+    Bits mask;
+    if constexpr (width == 2) {
+        mask = Bits{signs[L::place(0)], signs[L::place(1)]};
+    } else {
+        mask = Bits{signs[L::place(0)], signs[L::place(1)], signs[L::place(2)], signs[L::place(3)]};
+    }
     return L((typename Vectors<width>::Type)((Bits)x.vector ^ mask));
 }
 
@@ -124,24 +118,27 @@ constexpr int blendOf(const int (&from)[width]) {
 
 // These lanes of a, or of a and, counted on, of b.
 template <int... places, class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> shuffled(Lanes<Registers, width, exchanged> a,
-                                                        Lanes<Registers, width, exchanged> b) {
+ZULG_INLINE Lanes<Registers, width, exchanged> shuffled(const Lanes<Registers, width, exchanged>& a,
+                                                        const Lanes<Registers, width, exchanged>& b) {
     using L = Lanes<Registers, width, exchanged>;
     static_assert(sizeof...(places) == width);
     constexpr int of[] = {places...};
-    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-        constexpr int from[] = {L::place(of[L::place(lane)])...};
+    if constexpr (width == 2) {
+        constexpr int from[] = {L::place(of[L::place(0)]), L::place(of[L::place(1)])};
+        return L(__builtin_shufflevector(a.vector, b.vector, from[0], from[1]));
+    } else {
+        constexpr int from[] = {L::place(of[L::place(0)]), L::place(of[L::place(1)]), L::place(of[L::place(2)]),
+                                L::place(of[L::place(3)])};
         constexpr int blend = blendOf(from);
-        if constexpr (width == 4 && blend >= 0) {
+        if constexpr (blend >= 0) {
             return L(Registers::template blended<blend>(a.vector, b.vector));
         } else {
-            return L(__builtin_shufflevector(a.vector, b.vector, from[lane]...));
+            return L(__builtin_shufflevector(a.vector, b.vector, from[0], from[1], from[2], from[3]));
         }
     }
-    (std::make_integer_sequence<int, width>{});
 }
 template <int... places, class Registers, int width, bool exchanged>
-ZULG_INLINE Lanes<Registers, width, exchanged> shuffled(Lanes<Registers, width, exchanged> a) {
+ZULG_INLINE Lanes<Registers, width, exchanged> shuffled(const Lanes<Registers, width, exchanged>& a) {
     return shuffled<places...>(a, a);
 }
 

@@ -1,8 +1,6 @@
 // Scale flags: what they mean in each direction, the factors as stored, and the choice between them.
 #pragma once
 
-#include <type_traits>
-
 #include "kernel/kernel.h"
 
 namespace zulg {
@@ -25,8 +23,10 @@ struct InvolutionFlags {
 
 // The stored factors of one length, in the type of the data. 1/N is rounded once. 1/sqrt(N) is the double that the
 // graph states, rounded to that type.
-template <class Element, int length, class Graph>
+template <class Number, int length, class Graph>
 struct Scale {
+    using Element = Number;
+
     static constexpr Element one = 1;
     static constexpr Element inverse = Element{1} / Element{length};
     static constexpr Element inverseRoot = static_cast<Element>(Graph::inverseRoot);
@@ -35,7 +35,7 @@ struct Scale {
 // The factors by flag. The flags are 1, 2, 4 and 8, so that half of a flag is an index into a table of five factors.
 template <class Flags, class Factor>
 struct FactorsByFlag {
-    using Element = std::remove_const_t<decltype(Factor::one)>;
+    using Element = typename Factor::Element;
 
     static constexpr Element divided(std::int32_t flag) {
         return Flags::isDivided(flag) ? Factor::inverse : Factor::one;

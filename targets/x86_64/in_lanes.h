@@ -2,8 +2,6 @@
 // own, since what is here depends on the instructions that the level may use.
 #pragma once
 
-#include <emmintrin.h>
-
 #include "kernel/doubles.h"
 #include "kernel/in_memory.h"
 #include "kernel/lanes.h"
@@ -14,6 +12,7 @@ inline namespace ZULG_TARGET {
 struct DoublesInLanes : PortableRegisters {
     using Two = Vectors<2>::Type;
     using Four = Vectors<4>::Type;
+    typedef float Singles __attribute__((vector_size(16)));
 
 #ifdef __AVX__
     template <class Graph>
@@ -86,7 +85,7 @@ struct DoublesInLanes : PortableRegisters {
         if constexpr (sizeof(Element) == sizeof(double)) {
             return *reinterpret_cast<const TwoDoubles*>(place);
         } else {
-            return _mm_cvtps_pd((__m128)_mm_set_sd(*reinterpret_cast<const EightBytes*>(place)));
+            return lowInDoubles((Singles)Two{*reinterpret_cast<const EightBytes*>(place), 0});
         }
     }
     template <class Element>
@@ -94,7 +93,7 @@ struct DoublesInLanes : PortableRegisters {
         if constexpr (sizeof(Element) == sizeof(double)) {
             *reinterpret_cast<TwoDoubles*>(place) = value;
         } else {
-            *reinterpret_cast<EightBytes*>(place) = ((Two)_mm_cvtpd_ps(value))[0];
+            *reinterpret_cast<EightBytes*>(place) = ((Two)lowInSingles(value))[0];
         }
     }
 
@@ -105,7 +104,7 @@ struct DoublesInLanes : PortableRegisters {
         if constexpr (sizeof(Element) == sizeof(double)) {
             return Two{x[a], x[b]};
         } else {
-            return _mm_cvtps_pd(__m128{x[a], x[b]});
+            return lowInDoubles(Singles{x[a], x[b]});
         }
     }
     template <class Element>
@@ -115,21 +114,30 @@ struct DoublesInLanes : PortableRegisters {
             x[a] = value[0];
             x[b] = value[1];
         } else {
-            const __m128 singles = _mm_cvtpd_ps(value);
+            const Singles singles = lowInSingles(value);
             x[a] = singles[0];
             x[b] = singles[1];
         }
     }
 
-#ifdef __AVX__
-    // The instructions by the names that the compiler has for them: its header of all such names takes longer to read
+    // The instructions by the names that the compiler has for them: its headers of all such names take longer to read
     // than most kernels take to compile.
 #ifdef __clang__
-    ZULG_INLINE static Four inDoubles(__m128 elements) { return __builtin_convertvector(elements, Four); }
-    ZULG_INLINE static __m128 inSingles(Four value) { return __builtin_convertvector(value, __m128); }
+    ZULG_INLINE static Two lowInDoubles(Singles x) {
+        return __builtin_convertvector(__builtin_shufflevector(x, x, 0, 1), Two);
+    }
 #else
-    ZULG_INLINE static Four inDoubles(__m128 elements) { return __builtin_ia32_cvtps2pd256(elements); }
-    ZULG_INLINE static __m128 inSingles(Four value) { return __builtin_ia32_cvtpd2ps256(value); }
+    ZULG_INLINE static Two lowInDoubles(Singles x) { return __builtin_ia32_cvtps2pd(x); }
+#endif
+    ZULG_INLINE static Singles lowInSingles(Two x) { return __builtin_ia32_cvtpd2ps(x); }
+
+#ifdef __AVX__
+#ifdef __clang__
+    ZULG_INLINE static Four inDoubles(Singles elements) { return __builtin_convertvector(elements, Four); }
+    ZULG_INLINE static Singles inSingles(Four value) { return __builtin_convertvector(value, Singles); }
+#else
+    ZULG_INLINE static Four inDoubles(Singles elements) { return __builtin_ia32_cvtps2pd256(elements); }
+    ZULG_INLINE static Singles inSingles(Four value) { return __builtin_ia32_cvtpd2ps256(value); }
 
     // The compiler's own choice is a permutation of four lanes for the first of these, a copy more for the second and
     // one that crosses halves for the third.
@@ -155,7 +163,7 @@ struct DoublesInLanes : PortableRegisters {
         } else {
             const Two elements = {*reinterpret_cast<const EightBytes*>(low),
                                   *reinterpret_cast<const EightBytes*>(high)};
-            return inDoubles((__m128)elements);
+            return inDoubles((Singles)elements);
         }
     }
     template <class Element>
@@ -185,7 +193,7 @@ struct DoublesInLanes : PortableRegisters {
             storeReals<double>(x, a, b, lower(value));
             storeReals<double>(x, c, d, upper(value));
         } else {
-            const __m128 singles = inSingles(value);
+            const Singles singles = inSingles(value);
             x[a] = singles[0];
             x[b] = singles[1];
             x[c] = singles[2];
@@ -204,7 +212,7 @@ private:
         if constexpr (sizeof(Element) == sizeof(double)) {
             return Four(*reinterpret_cast<const FourDoubles*>(place));
         } else {
-            return __m128(*reinterpret_cast<const FourSingles*>(place));
+            return Singles(*reinterpret_cast<const FourSingles*>(place));
         }
     }
     template <class Element>

@@ -10,7 +10,7 @@ set(target_compile_flags
 set(kernel_forms pairs)
 set(scalar_kernel_sources "")
 set(scalar_wht_sources "")
-set(kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter)
+set(kernel_compile_flags -Os -flive-range-shrinkage -fno-tree-ter ${idle_pass_flags})
 
 # Short kernels are some percent faster at -O2, and those of singles up to twice as fast: at -Os the compiler does not
 # clear a register before a conversion, which then waits for what the register held.

@@ -8,7 +8,7 @@ set(target_compile_flags
     -fcf-protection=full)
 # The last flag keeps the frames of 47 and 59 complex points within 2 KB. Shorter kernels are faster without it.
 set(short_kernel_steps 4500)
-set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage)
+set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage ${idle_pass_flags})
 set(kernel_compile_flags ${short_kernel_compile_flags} -fno-tree-ter)
 
 # Batches. Transforms one after the other that have more steps are as fast one by one.

@@ -1,6 +1,7 @@
 # Kernels are made of the texts in kernels/. For each text the build folder receives one source, which includes it and
 # instantiates its kernels for one target.
 include(${CMAKE_CURRENT_LIST_DIR}/../kernels/texts.cmake)
+set(texts_in_a_source 1)  # unless a target has more
 
 # choose_texts(VARIABLE FORMS LENGTHS): the texts of these lengths, or of all, each in the first of FORMS that there is.
 function(choose_texts variable forms lengths)
@@ -34,16 +35,20 @@ function(add_objects library folder flags)
 endfunction()
 
 # add_kernels(LIBRARY FOLDER [LENGTH ...]): an object library of the kernels of these lengths, or of all, for the target
-# in FOLDER.
+# in FOLDER. A source has one text, or `texts_in_a_source` of them, which reads the headers less often.
 function(add_kernels library folder)
     include_target(${folder})
     get_filename_component(target ${folder} NAME)
     set(sources "")
+    set(included "")
+    set(instances "")
+    set(texts_in_source 0)
     choose_texts(texts "${kernel_forms}" "${ARGN}")
+    list(LENGTH texts texts_left)
     foreach(row IN LISTS texts)
         string(REPLACE " " ";" row "${row}")
         list(POP_FRONT row text form graph length steps)
-        set(instances "")
+        string(APPEND included "#include \"${text}\"\n")
         foreach(family IN LISTS row)
             string(APPEND instances "template <>\nstruct TextOf<Family::${family}, ${length}> {\n"
                 "    using Type = ${graph}<${length}>;\n};\n")
@@ -54,11 +59,20 @@ function(add_kernels library folder)
                     "(const ${element}*, ${element}*, std::int32_t);\n")
             endforeach()
         endforeach()
+        math(EXPR texts_in_source "${texts_in_source} + 1")
+        math(EXPR texts_left "${texts_left} - 1")
+        if(texts_left AND texts_in_source LESS texts_in_a_source)
+            continue()
+        endif()
+
         string(REGEX REPLACE "h$" "cpp" source "${CMAKE_CURRENT_BINARY_DIR}/${target}/${text}")
-        set(included "#include \"kernel/kernel_body.h\"\n#include \"${text}\"\n")
-        file(CONFIGURE OUTPUT ${source} @ONLY CONTENT
-            "${included}\nnamespace zulg {\ninline namespace ZULG_TARGET {\n\n${instances}\n}\n}\n")
+        file(CONFIGURE OUTPUT ${source} @ONLY CONTENT "#include \"kernel/kernel_body.h\"\n${included}\n\
+namespace zulg {\ninline namespace ZULG_TARGET {\n\n${instances}\n}\n}\n")
         list(APPEND sources ${source})
+        set(included "")
+        set(instances "")
+        set(texts_in_source 0)
+        # By the steps of the last text: where texts have different flags, each has a source.
         set(flags ${kernel_compile_flags})
         if(steps LESS short_kernel_steps)
             set(flags ${short_kernel_compile_flags})

@@ -9,6 +9,7 @@ set(scalar_kernel_sources "")
 set(scalar_wht_sources "")
 set(kernel_compile_flags -Os)  # as fast as at -O2, and the module is smaller
 set(short_kernel_steps 0)
+set(texts_in_a_source 12)
 
 # The loops of the Walsh-Hadamard family and of the DCT-IV.
 set(lane_sources wht/in_lanes.cpp dct4/fold_in_lanes.cpp dct4/output_in_lanes.cpp dct4/run_in_lanes.cpp)

@@ -422,7 +422,10 @@ data-view="clear">Clear</button></div>
     if codes:
         listings = tabs(
             "level",
-            [(f"Machine code: {level}", code(text, "asm", f"Machine code, {level}")) for level, _, _, text in codes],
+            [
+                (f"Machine code: {level}", code(data.machine.listing(start), "asm", f"Machine code, {level}"))
+                for level, _, _, start in codes
+            ],
         )
         parts.append(
             f'<h2 id="code">Text and machine code</h2><div class="columns"><div>{texts}</div><div>{listings}</div>'
@@ -589,8 +592,10 @@ kernels </caption><thead><tr>{head}</tr></thead><tbody>
 
 
 def build(site, data):
-    machine = machine_code.MachineCode(data.source, data.build / "libzulgenpx-7.0.so", data.objdump)
-    codes = {export["name"]: machine.kernels(export["name"]) for export in data.library.exports if "counts" in export}
+    data.machine = machine_code.MachineCode(data.source, data.build / "libzulgenpx-7.0.so", data.objdump)
+    codes = {
+        export["name"]: data.machine.kernels(export["name"]) for export in data.library.exports if "counts" in export
+    }
     data.codes = codes
     for name, graph in data.graphs.items():
         export = kernel_of(data, graph)

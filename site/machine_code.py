@@ -13,15 +13,16 @@ class MachineCode:
         self.library = binary.Library(str(path), objdump)
 
     def kernels(self, name):
-        """Of an export: (level, bytes, instructions, listing) for each level."""
-        slot = self.library.slot_address(name)
+        """Of an export: (level, bytes, instructions, address) for each level."""
         found = []
-        for level, start in zip(LEVELS, self.library.kernels(slot)):
+        for level, start in zip(LEVELS, self.library.kernels(self.library.slot_address(name))):
             instructions = self.library.routine(start)
-            found.append(
-                (level, sum(each.size for each in instructions), len(instructions), listing(instructions, start))
-            )
+            found.append((level, sum(each.size for each in instructions), len(instructions), start))
         return found
+
+    def listing(self, start):
+        """The routine at this address."""
+        return listing(self.library.routine(start), start)
 
 
 def listing(instructions, start):

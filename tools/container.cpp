@@ -1,7 +1,8 @@
-// WAV (also in its 64-bit forms), AIFF, AU, CAF and Ogg. The first four are a row of chunks, each with its size in
-// front.
+// WAV (also in its 64-bit forms), AIFF, AU, CAF, Ogg and MIDI Sample Dump. The first four are a row of chunks, each
+// with its size in front.
 #include "container.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -168,8 +169,36 @@ std::string damageOfOgg(Reader& file) {
     return ended ? "" : "its last page is missing";
 }
 
+// A header, and packets of 120 bytes of samples, each with a sum. Numbers have seven bits to a byte.
+std::string damageOfSampleDump(Reader& file) {
+    constexpr std::uint64_t headerBytes = 21, packetBytes = 127;
+    file.goodSamples = 0;
+    const std::string header = file.bytes(0, headerBytes);
+    if (header.size() < headerBytes) return "it ends before its sound begins";
+    const std::int64_t samples = header[12] << 14 | header[11] << 7 | header[10];
+    const int bits = header[6];
+    if (bits < 8 || bits > 28 || samples < 0) return "";  // no such sound can be read
+    const int samplesOfPacket = 120 / ((bits + 6) / 7);
+    for (std::uint64_t position = headerBytes; *file.goodSamples < samples; position += packetBytes) {
+        const std::string packet = file.bytes(position, packetBytes);
+        if (packet.size() < packetBytes) {
+            return "its header announces " + std::to_string(samples) + " samples, and " +
+                   std::to_string(*file.goodSamples) + " are there";
+        }
+        const std::string where = "at byte " + std::to_string(position);
+        const bool isPacket =
+            packet[0] == header[0] && packet[1] == header[1] && packet[3] == 2 && packet[packetBytes - 1] == '\xf7';
+        if (!isPacket) return "there is no packet " + where;
+        char sum = 0;
+        for (std::size_t i = 1; i < packetBytes - 2; ++i) sum = static_cast<char>(sum ^ packet[i]);
+        if ((sum & 0x7f) != packet[packetBytes - 2]) return "the checksum of the packet " + where + " is wrong";
+        file.goodSamples = std::min(samples, *file.goodSamples + samplesOfPacket);
+    }
+    return "";
+}
+
 struct Kind {
-    const char* start;   // the first four bytes
+    const char* start;   // the first four bytes; a question mark is any
     const char* within;  // four bytes from the ninth on, where there are such
     const char* name;
     std::string (*damage)(Reader&);
@@ -192,13 +221,15 @@ const Kind kinds[] = {
          return damageOfChunks(file, {8, 4, 8, Bytes::BigEndian, 0, 1, "data"}, unknown);
      }},
     {"OggS", "", "Ogg", damageOfOgg},
+    {"\xf0\x7e?\x01", "", "Sample Dump", damageOfSampleDump},
     {"fLaC", "", "FLAC", [](Reader&) { return std::string(); }},  // its decoder checks sums over all samples
 };
 
 const Kind* kindOf(std::string_view firstBytes) {
     for (const Kind& kind : kinds) {
         const std::string_view within(kind.within);
-        if (firstBytes.substr(0, 4) != kind.start) continue;
+        const auto isLike = [](char letter, char of) { return of == '?' || letter == of; };
+        if (!std::ranges::equal(firstBytes.substr(0, 4), std::string_view(kind.start), isLike)) continue;
         // A file that is cut off within these bytes is what it begins as.
         const std::string_view inside = firstBytes.size() > 8 ? firstBytes.substr(8, within.size()) : "";
         if (inside == within.substr(0, inside.size())) return &kind;

@@ -13,9 +13,9 @@ namespace spectrum {
 // The name of the container that the first bytes announce, such as "WAV", or nothing.
 std::string containerName(std::string_view firstBytes);
 
-// What is wrong with the sizes, or with the pages of an Ogg file, in words, or nothing when all is whole or when the
-// container says nothing about its size. Leaves the position in the file anywhere. `goodSamples` are those before the
-// damage, where the container tells them.
+// What is wrong with the sizes, the pages of an Ogg file or the packets of a Sample Dump, in words, or nothing when all
+// is whole or when the container says nothing about its size. Leaves the position in the file anywhere. `goodSamples`
+// are those before the damage, where the container tells them.
 std::string damageOfContainer(std::FILE* file, std::optional<std::int64_t>& goodSamples);
 
 }  // namespace spectrum

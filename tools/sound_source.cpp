@@ -1,9 +1,11 @@
 // Samples of one channel of a sound file, or their mean over all, through libsndfile. Integer samples come scaled to
 // the range -1 .. 1, as that library does it.
+#include <fcntl.h>
 #include <sndfile.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 
 #include "container.h"
 #include "input.h"
@@ -12,13 +14,41 @@
 namespace spectrum {
 namespace {
 
+// While it lives, nothing gets to standard output: the library prints what is wrong with a Sample Dump, where results
+// may be written.
+class Silence {
+public:
+    explicit Silence(bool isWanted) {
+        if (!isWanted) return;
+        std::fflush(stdout);
+        kept = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        if (kept >= 0 && nowhere >= 0) dup2(nowhere, STDOUT_FILENO);
+        if (nowhere >= 0) close(nowhere);
+    }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+    ~Silence() {
+        if (kept < 0) return;
+        std::fflush(stdout);
+        dup2(kept, STDOUT_FILENO);
+        close(kept);
+    }
+
+private:
+    int kept = -1;  // standard output
+};
+
 class SoundSource : public Source {
 public:
     SoundSource(const InputOptions& given, const std::string& shownName, int descriptor) : options(given) {
         name = shownName;
         const std::string damage = damageOf(descriptor);
         lseek(descriptor, 0, SEEK_SET);
-        file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
+        {
+            const Silence silence(isSampleDump);
+            file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
+        }
         if (!file) {
             const std::string reason = reasonOfLibrary();  // the library has closed the descriptor
             if (!damage.empty()) throw DamagedInput(damageText(name, damage, 0));
@@ -48,9 +78,10 @@ public:
         return count;
     }
 
-    // Far ahead without decoding; back to the plain way where the file cannot do that.
+    // Far ahead without decoding; back to the plain way where the file cannot do that, and for a Sample Dump, at whose
+    // last sample the library says that there is none.
     std::int64_t skip(std::int64_t wanted) override {
-        if (delivered == 0 && info.seekable && total &&
+        if (delivered == 0 && info.seekable && !isSampleDump && total &&
             sf_seek(file.get(), std::min(wanted, *total), SF_SEEK_SET) >= 0) {
             delivered = std::min(wanted, *total);
             return delivered;
@@ -78,11 +109,13 @@ private:
         char start[12];
         const std::size_t count = std::fread(start, 1, sizeof start, bytes.get());
         isSoundFile = !containerName({start, count}).empty();
+        isSampleDump = std::string_view(start, count).starts_with("\xf0\x7e");
         return damageOfContainer(bytes.get(), goodSamples);
     }
 
     bool fill() {
         if (ended) return false;
+        const Silence silence(isSampleDump);
         const sf_count_t got = sf_readf_double(file.get(), block.data(), blockFrames);
         delivered += got;
         // A damaged file must not pass for a shorter one.
@@ -102,7 +135,7 @@ private:
     std::unique_ptr<SNDFILE, Closer> file;
     SF_INFO info{};
     std::optional<std::int64_t> goodSamples;  // of a damaged file, where its container tells them
-    bool isSoundFile = false, ended = false;
+    bool isSoundFile = false, isSampleDump = false, ended = false;
     std::pair<std::size_t, std::size_t> chosen;
     std::vector<double> block;  // interleaved, as the file holds it
     std::size_t next = 0, filled = 0;

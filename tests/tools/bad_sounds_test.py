@@ -1,6 +1,7 @@
 # Sound files that are damaged, or that are well-formed and hold nothing that can be transformed.
 import math
 import os
+import re
 import struct
 
 import libsndfile
@@ -136,6 +137,7 @@ class BadSounds(ToolTest):
             row(b"caff" + bytes(400), DAMAGED, NONE_GOOD), row(b"riff" + bytes(12), DAMAGED, NONE_GOOD),
             row(bytes(wrong_sum), DAMAGED, "the checksum of a frame is wrong; samples that are good: 256"),
             row(bytes(wrong_digest), DAMAGED, "another digest.*which samples are good cannot be told"),
+            row(flac[:24] + b"\1" + flac[25:], DAMAGED, "its header announces 256 samples; samples that are good"),
             row(flac + b"more", DAMAGED, "no frame where one should be; samples that are good: 512"),
             row(bytes(ogg), DAMAGED, "the checksum of the page at byte \\d+ is wrong"),
             row(au[:20] + struct.pack(">I", 0) + au[24:], FAILED, "cannot be read"),
@@ -144,6 +146,43 @@ class BadSounds(ToolTest):
             row(au[:8] + struct.pack(">I", 2 ** 31) + au[12:], DAMAGED, "announces 2147483648 bytes of sound"),
         ]
         expect_refusals(self, rows, 25)
+
+    def test_sample_dumps(self):
+        dump = self.sound("sds", "pcm16")  # 15 packets of 40 samples after 21 bytes
+        self.assertEqual(len(dump), 21 + 15 * 127)
+
+        def changed(place, byte):
+            return dump[:place] + bytes([byte]) + dump[place + 1:]
+
+        rows = [
+            row(b"\xf0\x7e\0\1", DAMAGED, NONE_GOOD), row(dump[:20], DAMAGED, "ends before its sound begins"),
+            row(dump[:21], DAMAGED, "its header announces 600 samples, and 0 are there; " + NONE_GOOD),
+            row(dump[:-1], DAMAGED, "announces 600 samples, and 560 are there; samples that are good: 560"),
+            row(changed(10, 89), DAMAGED, "announces 601 samples, and 600 are there"),
+            row(changed(12, 127), DAMAGED, "announces 2081368 samples, and 600 are there"),
+            row(changed(21 + 127 + 50, dump[21 + 127 + 50] ^ 1), DAMAGED,
+                "the checksum of the packet at byte 148 is wrong; samples that are good: 40"),
+            *(row(changed(21 + 254 + place, 5), DAMAGED, "there is no packet at byte 275; samples that are good: 80")
+              for place in (0, 1, 3, 126)),
+            row(changed(6, 7), FAILED, "cannot be read"), row(changed(6, 29), FAILED, "cannot be read"),
+            row(b"\xf0\x7e\0\x03" + dump[4:], FAILED, "neither a sound"),
+        ]
+        expect_refusals(self, rows, 14)
+        self.assertEqual(self.run_on(changed(2, 9)), 0)  # of another channel
+        done = run(self.path("input", changed(21 + 127, 5)), "--length", "4", "--format", "csv", "--allow-damaged")
+        lines = done.stdout.splitlines()
+        self.assertEqual((done.returncode, len(lines)), (0, 1 + 600))
+        self.assertFalse([line for line in lines[1:] if not re.fullmatch(rb"[-+.,e\d]+", line)])
+        for bits, bytes_of_sample in ((8, 2), (14, 2), (15, 3), (21, 3), (22, 4), (28, 4)):
+            # Packets of as many samples as there is room for.
+            packets = -(-600 // (120 // bytes_of_sample))
+            data = changed(6, bits)[:21]
+            for number in range(packets):
+                packet = bytes([0x7e, 0, 2, number]) + bytes(120)
+                data += b"\xf0" + packet + bytes([0x7e ^ 2 ^ number]) + b"\xf7"
+            self.assertEqual(self.run_on(data), 0, bits)
+            self.refused(self.path("input", data[:-127]), "--length", "4",
+                         says=f"samples that are good: {(packets - 1) * (120 // bytes_of_sample)}")
 
     def test_sound_on_standard_input(self):
         data = wav(form(), PCM)

@@ -16,7 +16,7 @@ from tool import DAMAGED, FAILED, ToolTest, content_of, main, run
 ALL = "--all" in sys.argv
 if ALL:
     sys.argv.remove("--all")
-KINDS = {"wav": "pcm16", "flac": "pcm16", "aiff": "pcm16", "au": "pcm16", "ogg": "vorbis"}
+KINDS = {"wav": "pcm16", "flac": "pcm16", "aiff": "pcm16", "au": "pcm16", "ogg": "vorbis", "sds": "pcm16"}
 SAMPLES = 24000  # several pages of Ogg
 FRAME = ["--length", "2", "--family", "complex"]  # its bins are the sum and the difference of two samples
 source = random.Random(31)

@@ -3,7 +3,7 @@ import ctypes
 import os
 
 CONTAINERS = {"wav": 0x010000, "aiff": 0x020000, "au": 0x030000, "w64": 0x0B0000, "flac": 0x170000, "caf": 0x180000,
-              "ogg": 0x200000, "rf64": 0x220000}
+              "ogg": 0x200000, "rf64": 0x220000, "sds": 0x110000}
 ENCODINGS = {"s8": 1, "pcm16": 2, "pcm24": 3, "pcm32": 4, "u8": 5, "float": 6, "double": 7, "ulaw": 0x10,
              "vorbis": 0x60}
 LITTLE_ENDIAN = 0x10000000

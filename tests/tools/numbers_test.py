@@ -150,6 +150,15 @@ class Numbers(ToolTest):
             self.assertEqual(self.ok(sound["wav"], "--start", word, "--format", "csv"),
                              self.ok(sound["wav"], "--start", seconds, "--format", "csv"))
 
+    def test_time_ranges_of_a_sample_dump(self):
+        samples = random.integers(-999, 999, 1000)  # the last packet is full
+        path = libsndfile.write(self.path("in.sds"), [list(samples / 8192)], "sds", "pcm16", rate=1000)
+        for start in (0, 1, 39, 40, 41, 500, 998):
+            found = self.array(path, "--length", 2, "--flag", "none", "--start", repr(start / 1000))
+            due = numpy.fft.fft(frames_of(samples[start:], 2, 2)) / 8192
+            numpy.testing.assert_allclose(found, due, rtol=0, atol=1e-12)
+        self.refused(path, "--length", 2, "--start", "0.999", says="too few samples: 1")
+
     def test_channels(self):
         channels = [list(random.integers(-4000, 4000, 300) / 8192) for _ in range(3)]
         for kind, code in (("wav", "pcm16"), ("flac", "pcm16"), ("aiff", "pcm24"), ("caf", "double")):

@@ -141,7 +141,7 @@ private:
         const bool isDigestRight = FLAC__stream_decoder_finish(decoder.get()) != 0;
         const std::int64_t samples = delivered + static_cast<std::int64_t>(held.size());
         if (!error.empty()) return;
-        if (total && samples < *total) {
+        if (total && samples != *total) {
             error = "its header announces " + std::to_string(*total) + " samples";
         } else if (!isDigestRight) {
             error = "the samples have another digest than the header says";

@@ -118,8 +118,8 @@ ZulgStatus call(const Request<Element>& request, const Element* pSrc, Shape sour
                                                        destination.distance, request.number, request.flag, count);
 }
 
-// Whether a result of one transform is in the place of what another one reads, if both arrays begin at one element: then
-// no result has a meaning.
+// Whether a result of one transform is in the place of what another one reads, if both arrays begin at one element:
+// then no result has a meaning.
 template <class Element>
 bool readsWhatOthersWrite(const Request<Element>& request) {
     std::map<std::int64_t, std::int64_t> writtenBy;
@@ -272,7 +272,8 @@ std::int64_t takeStride(Bytes& bytes, std::int64_t elements, std::int64_t count)
     switch (choice % 8) {
         case 0: return 1;
         case 1: return elements + choice / 8 % 4;
-        case 2: return std::max<std::int64_t>(count, 1) + choice / 8 % 4;
+        case 2:
+            return std::clamp<std::int64_t>(count, 1, std::numeric_limits<std::int64_t>::max() - 3) + choice / 8 % 4;
         case 3: return -1;
         case 4: return static_cast<std::int8_t>(bytes.take<std::uint8_t>());
         case 5: return -(elements + choice / 8 % 4);

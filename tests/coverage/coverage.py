@@ -20,6 +20,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../
 from build import BATCH, KERNELS, LIBRARY, OWN, Build  # noqa: E402
 
 FLAGS = ["-O0", "-w", "--coverage"]
+GENERATOR_FLAGS = ["-O1", "-w", "--coverage"]  # it computes for minutes
 LIST = "tests/coverage/uncovered.txt"
 CHECKED = "libzulgenpx-7.0-checked.so"
 FOLDERS = ("kernel", "targets/x86_64", "boundary", "wht", "dct4", "batch", "checked", "generator", "tools")
@@ -47,7 +48,7 @@ class Coverage:
         self.objects = {}
         os.makedirs(folder, exist_ok=True)
 
-    def compile(self, pattern):
+    def compile(self, pattern, flags=FLAGS):
         """The objects whose names match, with counters."""
         chosen = [name for name in self.build.commands if re.match(pattern, name) and name not in self.objects]
         running = []
@@ -56,7 +57,7 @@ class Coverage:
             if os.path.exists(output):
                 self.objects[name] = output
                 continue
-            command = self.build.compile_command(name, None, "", output, FLAGS)
+            command = self.build.compile_command(name, None, "", output, flags)
             running.append((name, output, subprocess.Popen(command, cwd=self.build.folder)))
             if len(running) == 2:
                 self.finish(running.pop(0))
@@ -77,7 +78,7 @@ class Coverage:
 
     def run(self, command, environment=None):
         """Runs a test; what it says does not matter here."""
-        subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False, timeout=1200,
+        subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False, timeout=3600,
                        cwd=self.folder, env={**os.environ, **(environment or {})})
 
     def library(self):
@@ -114,7 +115,7 @@ class Coverage:
         return f"-Wl,--wrap={name}", output
 
     def generator(self):
-        self.compile("generator/")
+        self.compile("generator/", GENERATOR_FLAGS)
         generate, test = self.link("generate"), self.link("generator_test")
         subprocess.run([generate, "check"], cwd=self.tree, stdout=subprocess.DEVNULL, check=False)
         self.run([test, "--gtest_brief=1"])

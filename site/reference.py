@@ -362,12 +362,12 @@ def accuracy(export, errors, bounds):
     )
 
 
-def speed(export, times, here):
+def speed(export, times):
     from results import PARTICIPANTS
 
     found = times.of(export["family"], export["element"], lib.points(export))
     if not found:
-        return speed_of_pack(export, here)
+        return ""
     where, figures, floor = found
     ours = figures["zulgenpx"]
     rows = []
@@ -393,18 +393,6 @@ def speed(export, times, here):
         '<h2 id="speed">How fast it is</h2><p>'
         + f"{escape(where)}; hot, out of place, flag 8. {text} Figures of other machines differ.</p>"
         + table(["who", "nanoseconds", "cycles", "time over ours"], rows, "Time beside other libraries", "tnnn")
-    )
-
-
-def speed_of_pack(export, here):
-    """Perm without figures of its own: where those of the same steps are."""
-    if "Perm" not in export["family"]:
-        return ""
-    twin = export["name"].replace("Perm", "Pack")
-    return (
-        '<h2 id="speed">How fast it is</h2><p>This layout has not been timed. The routine takes the same steps as '
-        f'<a href="{relative(here, path_of(twin))}#speed">{wrapped(twin)}</a>, which has; only the slots of the '
-        "spectrum are others.</p>"
     )
 
 
@@ -565,7 +553,7 @@ def entry(export, data, here):
         name = f"{graph}_{lib.points(export)}"
         parts.append(counts_of(export, name if name in data.graphs else None, here))
     if lib.points(export):
-        parts += [accuracy(export, data.errors, data.bounds), speed(export, data.times, here)]
+        parts += [accuracy(export, data.errors, data.bounds), speed(export, data.times)]
     if export["name"] in (f"zulgDCT4_{export.get('element')}",):
         parts.append(plan_figures(export, data))
     found = snippets.of_batch(export) if "Batch" in export["name"] else snippets.of(export)

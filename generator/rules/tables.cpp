@@ -229,8 +229,6 @@ Recipe ofFactors(const std::vector<int>& factors, const std::vector<Recipe>& fam
 
 }  // namespace
 
-const std::vector<Recipe>& complexRecipes() { return complexTable; }
-
 const std::vector<Recipe>& realForwardRecipes() { return realForwardTable; }
 const std::vector<Recipe>& realInverseRecipes() { return realInverseTable; }
 

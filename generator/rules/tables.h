@@ -40,7 +40,6 @@ struct OddSplit {
 OddSplit oddSplit(int length, bool isInput);
 
 // The rows of one family, rising in length. Each is a stand-alone kernel and the block inside longer ones.
-const std::vector<Recipe>& complexRecipes();
 const std::vector<Recipe>& realForwardRecipes();
 const std::vector<Recipe>& realInverseRecipes();
 

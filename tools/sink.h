@@ -36,7 +36,7 @@ public:
     virtual void start() {}
     virtual void add(std::int64_t frame, ConstBins bins) = 0;
     // What comes after the last one.
-    virtual void finish() {}
+    virtual void finish() = 0;
 
     // For pieces: what add has made since the last call, and the same put where add would put it. Pieces come in order.
     virtual std::string takePiece() = 0;

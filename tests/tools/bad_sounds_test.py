@@ -78,6 +78,8 @@ class BadSounds(ToolTest):
             row(b"RIFF" + bytes(4) + b"WAVE", DAMAGED, NONE_GOOD), row(b"RIFF", DAMAGED, NONE_GOOD),
             row(b"RIFF" + bytes(400), FAILED, "neither a sound file that can be read nor a text"),
             row(b"RIFF" + bytes(4) + b"AVI " + bytes(400), FAILED, "neither a sound file"),
+            row(b"RIFX" + wav(form(), PCM)[4:], DAMAGED, "announces \\d+ bytes of a chunk"),
+            row(b"BW64" + wav(form(), PCM)[4:], DAMAGED, "ends before its sound begins"),
             row(b"RF64" + b"\xff" * 4 + b"WAVE" + chunk(b"fmt ", form()) + chunk(b"data", PCM), DAMAGED, "ends before"),
         ]
         expect_refusals(self, rows, 35)
@@ -124,7 +126,9 @@ class BadSounds(ToolTest):
         ogg = bytearray(self.sound("ogg", "vorbis"))
         ogg[len(ogg) // 2] ^= 1
         au = self.sound("au", "pcm16")
+        unseekable = flac[:len(flac) - 600] + bytes(600)
         rows = [
+            row(unseekable, DAMAGED, "its frames do not lead to sample 300", "--start", "0.0375"),
             row(bytes(range(256)) * 8, FAILED, "neither a sound file that can be read nor a text of numbers"),
             row(b"\x7fELF" + bytes(200), FAILED, "neither a sound file"), row(bytes(5000), FAILED, "neither a sound"),
             row(b"\0", FAILED, "neither a sound"), row(b"\x89PNG\r\n\x1a\n" + bytes(40), FAILED, "neither a sound"),

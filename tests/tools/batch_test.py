@@ -8,7 +8,7 @@ import time
 
 import libsndfile
 import sound_files
-from tool import DAMAGED, FAILED, USAGE, ToolTest, content_of, main, run, start
+from tool import DAMAGED, FAILED, USAGE, ToolTest, content_of, main, open_terminal, run, start
 
 SUFFIXES = {"text": ".txt", "csv": ".csv", "json": ".json", "npy": ".npy", "png": ".png", "svg": ".svg"}
 
@@ -114,6 +114,20 @@ class Batches(BatchTest):
         self.assertEqual([(line["file"], line["status"]) for line in summary["failed"]], [("cut.wav", DAMAGED)])
         summary = self.batch("--format", "csv", "--length", "4", "--allow-damaged", "--again")
         self.assertEqual([line["file"] for line in summary["damaged"]], ["cut.wav"])
+        done = run("batch", self.inputs, "--into", self.out, "--format", "csv", "--length", "4", "--allow-damaged",
+                   "--again")
+        self.assertRegex(done.stderr, rb"(?m)^zulspectrum: .*cut\.wav: the file is damaged: ")
+
+    def test_progress_on_a_terminal(self):
+        self.add_some(3)
+        ours, theirs = open_terminal(self)
+        tool = start("batch", self.inputs, "--into", self.out, "--format", "csv", "--length", "4", stderr=theirs)
+        os.close(theirs)
+        self.assertEqual(tool.wait(60), 0)
+        text = os.read(ours, 65536).decode()
+        os.close(ours)
+        self.assertRegex(text, r"zulspectrum: \d of 3 files, 0 failed\x1b\[K")
+        self.assertTrue(text.endswith("\r\x1b[K"), text)
 
     def test_a_worker_that_is_killed_is_one_failed_file(self):
         self.add_some(4)

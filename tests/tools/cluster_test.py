@@ -119,6 +119,7 @@ class Cluster(unittest.TestCase):
         said = stopped.communicate(timeout=60)[1].decode()
         self.assertNotEqual(stopped.returncode, 0)
         self.assertIn("signal 9", said)
+        self.assertIn("started again, it goes on where it was", said)
         done = run([*command, "--json"])
         summary = json.JSONDecoder().raw_decode(done.stdout.decode())[0]
         self.assertGreater(summary["done_before"], 0)

@@ -2,13 +2,14 @@
 import ctypes
 import math
 import os
+import resource
 import select
 import subprocess
 import time
 
 from definitions import ALL_FAMILIES, library
 import sound_files
-from tool import TOOL, ToolTest, main, numbers, open_terminal, run
+from tool import TOOL, ToolTest, content_of, main, numbers, open_terminal, run
 
 
 class Options(ToolTest):
@@ -146,6 +147,14 @@ class Errors(ToolTest):
         for arguments in (["-", "--check"], ["--help"], ["--version"]):
             with open("/dev/full", "wb") as full:
                 self.refused(*arguments, given=given, stdout=full, says="cannot write standard output")
+
+    def test_a_sound_that_may_not_grow(self):
+        table = self.path("table.csv", self.ok("-", "--length", "4", "--format", "csv", given=b"1 2 3 4 " * 20000))
+        path = self.path("out.wav", b"precious")
+        self.refused("inverse", table, "--length", "4", "--rate", "8000", "--output", path,
+                     preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (20000, 20000)),
+                     says=["cannot write", "out.wav: System error : File too large"])
+        self.assertEqual(content_of(path), b"precious")
 
     def test_files_survive_a_refused_run(self):
         path = self.path("kept.csv", b"precious")

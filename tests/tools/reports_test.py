@@ -180,10 +180,12 @@ class Shells(ToolTest):
         program = shutil.which("mandoc")
         if not program:
             self.skipTest("mandoc is not installed")
-        path = self.path("zulspectrum.1", self.ok("manual"))
-        done = subprocess.run([program, "-T", "lint", "-W", "warning", path], capture_output=True, check=False,
-                              timeout=60)
-        self.assertEqual((done.returncode, done.stdout), (0, b""))
+        for words, name in ((["manual"], b"zulspectrum"), (["manual", "--mpi"], b"zulspectrum-mpi")):
+            page = self.ok(*words)
+            self.assertIn(b"\n.Nm " + name + b"\n.Nd ", page)
+            done = subprocess.run([program, "-T", "lint", "-W", "warning", self.path("page.1", page)],
+                                  capture_output=True, check=False, timeout=60)
+            self.assertEqual((done.returncode, done.stdout), (0, b""))
 
 
 if __name__ == "__main__":

@@ -124,9 +124,10 @@ class Coverage:
                 self.run([generate if word == self.build.path("generate") else word for word in command])
 
     def tools(self):
-        self.compile("tools/")
-        # Processes of a batch end without the end of a program.
-        dumping = self.dumping_before("_exit", "(int status)", "(status)")
+        self.compile(r"tools/|tests/tools/CMakeFiles/status_test\.dir/__/__/tools/")
+        # Processes of a batch end without the end of a program, and so does what a signal stops.
+        dumping = [*self.dumping_before("_exit", "(int status)", "(status)"),
+                   *self.dumping_before("raise", "(int signal)", "(signal)")]
         programs = {self.build.path(name): self.link(name, *dumping)
                     for name in ("zulspectrum", "zulspectrum-mpi") if os.path.exists(self.build.path(name))}
         programs[self.build.folder] = self.build_with(programs)

@@ -176,8 +176,9 @@ std::string damageOfSampleDump(Reader& file) {
     const std::string header = file.bytes(0, headerBytes);
     if (header.size() < headerBytes) return "it ends before its sound begins";
     const std::int64_t samples = header[12] << 14 | header[11] << 7 | header[10];
+    if (samples < 0) return "its header has a byte above 127 where it announces samples";
     const int bits = header[6];
-    if (bits < 8 || bits > 28 || samples < 0) return "";  // no such sound can be read
+    if (bits < 8 || bits > 28) return "";  // no such sound can be read
     const int samplesOfPacket = 120 / ((bits + 6) / 7);
     for (std::uint64_t position = headerBytes; *file.goodSamples < samples; position += packetBytes) {
         const std::string packet = file.bytes(position, packetBytes);

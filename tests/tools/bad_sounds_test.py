@@ -168,10 +168,12 @@ class BadSounds(ToolTest):
                 "the checksum of the packet at byte 148 is wrong; samples that are good: 40"),
             *(row(changed(21 + 254 + place, 5), DAMAGED, "there is no packet at byte 275; samples that are good: 80")
               for place in (0, 1, 3, 126)),
+            *(row(changed(place, 200), DAMAGED, "a byte above 127 where it announces samples; " + NONE_GOOD)
+              for place in (10, 11, 12)),
             row(changed(6, 7), FAILED, "cannot be read"), row(changed(6, 29), FAILED, "cannot be read"),
             row(b"\xf0\x7e\0\x03" + dump[4:], FAILED, "neither a sound"),
         ]
-        expect_refusals(self, rows, 14)
+        expect_refusals(self, rows, 17)
         self.assertEqual(self.run_on(changed(2, 9)), 0)  # of another channel
         done = run(self.path("input", changed(21 + 127, 5)), "--length", "4", "--format", "csv", "--allow-damaged")
         lines = done.stdout.splitlines()

@@ -98,6 +98,7 @@ class Coverage:
             self.run([self.link(name), "--gtest_brief=1"], environment)
         # The checked library ends programs.
         checked = self.link(CHECKED, *self.dumping_before("abort", "(void)", "()"))
+        self.run([self.build.path("digests"), checked])
         for name, chosen in {"boundary_test": "*", "transforms_test": "*_15_*:*WHT_7_*:*DCT4_64_*", "wht_test": "*",
                              "memory_test": "*", "dct4_test": "*InitAlloc*"}.items():
             self.run([self.build.path(name), "--gtest_brief=1", f"--gtest_filter={chosen}"],

@@ -17,6 +17,12 @@ struct Vectors {
     typedef std::int64_t Bits __attribute__((vector_size(8 * width)));
 };
 
+// One number by itself.
+template <>
+struct Vectors<1> {
+    typedef double Type;
+};
+
 // How registers are put together and taken apart. A target may know a better way. These are templates, so that a
 // machine without such registers can read them.
 struct PortableRegisters {
@@ -62,20 +68,6 @@ struct Lanes {
 
     // Where the lane of a text is in the register.
     static constexpr int place(int lane) { return exchanged ? lane ^ 1 : lane; }
-};
-
-// One number by itself: its vector is that number.
-template <class Registers, bool exchanged>
-struct Lanes<Registers, 1, exchanged> {
-    double vector;
-
-    Lanes() = default;
-    ZULG_INLINE explicit Lanes(double from) : vector(from) {}
-
-    ZULG_INLINE friend Lanes operator+(const Lanes& a, const Lanes& b) { return Lanes(a.vector + b.vector); }
-    ZULG_INLINE friend Lanes operator-(const Lanes& a, const Lanes& b) { return Lanes(a.vector - b.vector); }
-    ZULG_INLINE friend Lanes operator*(const Lanes& a, const Lanes& b) { return Lanes(a.vector * b.vector); }
-    ZULG_INLINE friend Lanes operator*(double factor, const Lanes& x) { return Lanes(factor) * x; }
 };
 
 // The signs of these lanes changed.

@@ -21,18 +21,14 @@ class MachineCode:
         return found
 
     def listing(self, start):
-        """The routine at this address."""
-        return listing(self.library.routine(start), start)
-
-
-def listing(instructions, start):
-    """One instruction to a line, with its distance from the first one. Addresses of the library are left out."""
-    lines = []
-    for each in instructions:
-        operands = re.sub(r"\s*# .*$", "", each.operands)
-        operands = re.sub(r"\s*<[^>]*>", "", operands)
-        target = each.target() if each.mnemonic.startswith(("j", "call")) and not operands.startswith("*") else None
-        if target is not None:
-            operands = f"{target - start:#x}" if 0 <= target - start < 1 << 20 else "outside"
-        lines.append(f"{each.address - start:5x}  {each.mnemonic:<12}{operands}".rstrip())
-    return "\n".join(lines)
+        """The routine at this address, one instruction to a line, with its distance from the first one. Addresses of
+        the library are left out."""
+        lines = []
+        for each in self.library.routine(start):
+            operands = re.sub(r"\s*# .*$", "", each.operands)
+            operands = re.sub(r"\s*<[^>]*>", "", operands)
+            target = each.target() if each.mnemonic.startswith(("j", "call")) and not operands.startswith("*") else None
+            if target is not None:
+                operands = f"{target - start:#x}" if 0 <= target - start < 1 << 20 else "outside"
+            lines.append(f"{each.address - start:5x}  {each.mnemonic:<12}{operands}".rstrip())
+        return "\n".join(lines)

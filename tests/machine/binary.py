@@ -55,7 +55,6 @@ class Library:
         self.is_pe = self.data[:2] == b"MZ"
         self.pointer = 8
         self.sections = []  # (name, address, size, file offset)
-        self.routines = {}  # those that were asked for, by address
         if self.is_pe:
             self._read_pe()
         else:
@@ -220,13 +219,9 @@ class Library:
             return self.section_of(int(match.group(1) or match.group(2), 16)) == ".got"
         return call.target() is not None and self.section_of(call.target()).startswith(".plt")
 
+    @functools.cache
     def routine(self, start):
         """The instructions of the routine at this address, following its jumps forward, up to its last return."""
-        if start not in self.routines:
-            self.routines[start] = self._routine(start)
-        return self.routines[start]
-
-    def _routine(self, start):
         instructions, reach, address = [], start, start
         while True:
             instruction = self.code[address]

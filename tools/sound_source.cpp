@@ -14,11 +14,11 @@
 namespace spectrum {
 namespace {
 
-// While it lives, nothing gets to standard output: the library prints what is wrong with a Sample Dump, where results
-// may be written.
+// While one of these lives that is wanted, nothing gets to standard output. The library prints there what is wrong with
+// a Sample Dump, and our results may go there, too.
 class Silence {
 public:
-    explicit Silence(bool isWanted) {
+    explicit Silence(bool isWanted = true) {
         if (!isWanted) return;
         std::fflush(stdout);
         kept = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
@@ -46,7 +46,7 @@ public:
         const std::string damage = damageOf(descriptor);
         lseek(descriptor, 0, SEEK_SET);
         {
-            const Silence silence(isSampleDump);
+            const Silence silence;
             file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
         }
         if (!file) {
@@ -81,7 +81,7 @@ public:
     // Far ahead without decoding; back to the plain way where the file cannot do that, and for a Sample Dump, at whose
     // last sample the library says that there is none.
     std::int64_t skip(std::int64_t wanted) override {
-        if (delivered == 0 && info.seekable && !isSampleDump && total &&
+        if (delivered == 0 && info.seekable && !isSampleDump() && total &&
             sf_seek(file.get(), std::min(wanted, *total), SF_SEEK_SET) >= 0) {
             delivered = std::min(wanted, *total);
             return delivered;
@@ -109,13 +109,14 @@ private:
         char start[12];
         const std::size_t count = std::fread(start, 1, sizeof start, bytes.get());
         isSoundFile = !containerName({start, count}).empty();
-        isSampleDump = std::string_view(start, count).starts_with("\xf0\x7e");
         return damageOfContainer(bytes.get(), goodSamples);
     }
 
+    bool isSampleDump() const { return (info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_SDS; }
+
     bool fill() {
         if (ended) return false;
-        const Silence silence(isSampleDump);
+        const Silence silence(isSampleDump());
         const sf_count_t got = sf_readf_double(file.get(), block.data(), blockFrames);
         delivered += got;
         // A damaged file must not pass for a shorter one.
@@ -135,7 +136,7 @@ private:
     std::unique_ptr<SNDFILE, Closer> file;
     SF_INFO info{};
     std::optional<std::int64_t> goodSamples;  // of a damaged file, where its container tells them
-    bool isSoundFile = false, isSampleDump = false, ended = false;
+    bool isSoundFile = false, ended = false;
     std::pair<std::size_t, std::size_t> chosen;
     std::vector<double> block;  // interleaved, as the file holds it
     std::size_t next = 0, filled = 0;

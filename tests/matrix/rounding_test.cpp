@@ -2,9 +2,9 @@
 // exact one: at factor 1, at least 9999 of 10,000 over all kernels of the DFT and Hartley families and all
 // Walsh-Hadamard orders up to 7, and in each of them.
 //
-// The exact result is often half way between two singles. Then the even one is due. The definition computes with
-// rounded cosines, and its own error can move such a result a little off the half. So a result of the definition that
-// is nearly half way is taken to be half way.
+// The exact result is often the midpoint of two neighbouring singles. The correct one is then the one whose last bit is
+// 0. The reference of this test has an error of its own, because its cosines are rounded, so it may miss the midpoint
+// by a little. The test therefore treats a reference value that is very near a midpoint as the midpoint itself.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>

@@ -78,7 +78,7 @@ class Coverage:
 
     def run(self, command, environment=None):
         """Runs a test; what it says does not matter here."""
-        subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False, timeout=3600,
+        subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False, timeout=1200,
                        cwd=self.folder, env={**os.environ, **(environment or {})})
 
     def library(self):

@@ -36,6 +36,15 @@ def files_of(folder):
             if path.is_file() and path.name != ".zulspectrum-batch.jsonl"}
 
 
+def summary_of(done):
+    """The object that a run prints. A run without one fails with all that it says, since that may not come again."""
+    try:
+        return json.JSONDecoder().raw_decode(done.stdout.decode())[0]
+    except json.JSONDecodeError as error:
+        raise AssertionError(f"{done.args}\nends with {done.returncode}, prints {done.stdout!r} and says\n"
+                             f"{done.stderr.decode(errors='replace')}") from error
+
+
 class Cluster(unittest.TestCase):
     def setUp(self):
         # The launcher keeps its sockets here, and a path of them may not be long.
@@ -73,13 +82,13 @@ class Cluster(unittest.TestCase):
             for count in (1, 4):
                 done = run([*mpirun(count), inputs, "--into", ranks, "--format", kind, "--split", 3000, "--json",
                             "--again", *OPTIONS])
-                summary = json.JSONDecoder().raw_decode(done.stdout.decode())[0]
+                summary = summary_of(done)
                 self.assertEqual((done.returncode, summary["files"], summary["done"]), (3, 11, 10))
                 self.assertEqual([(one["file"], one["status"]) for one in summary["failed"]], [("cut.wav", 3)])
                 self.assertIn("samples that are good: 9989", summary["failed"][0]["message"])
                 self.expect_same(alone, ranks)
         done = run([*mpirun(2), inputs, "--into", ranks, "--format", kind, "--split", 3000, "--json", *OPTIONS])
-        self.assertEqual(json.JSONDecoder().raw_decode(done.stdout.decode())[0]["done_before"], 10)
+        self.assertEqual(summary_of(done)["done_before"], 10)
 
     def test_each_channel_is_split_by_itself(self):
         source, folder = random.Random(2), self.folder / "in"
@@ -102,7 +111,7 @@ class Cluster(unittest.TestCase):
         (inputs / "flipped.flac").write_bytes(data)
         alone = run([PROGRAMS / "zulspectrum", "batch", inputs, "--into", self.folder / "a", *OPTIONS, "--json"])
         ranks = run([*mpirun(3), inputs, "--into", self.folder / "b", "--split", 2000, *OPTIONS, "--json"])
-        failed = [json.JSONDecoder().raw_decode(done.stdout.decode())[0]["failed"] for done in (alone, ranks)]
+        failed = [summary_of(done)["failed"] for done in (alone, ranks)]
         self.assertEqual(failed[0], failed[1])
         self.assertEqual(failed[0][0]["status"], 3)
         self.assertEqual(files_of(self.folder / "b"), {})
@@ -121,7 +130,7 @@ class Cluster(unittest.TestCase):
         self.assertIn("signal 9", said)
         self.assertIn("started again, it goes on where it was", said)
         done = run([*command, "--json"])
-        summary = json.JSONDecoder().raw_decode(done.stdout.decode())[0]
+        summary = summary_of(done)
         self.assertGreater(summary["done_before"], 0)
         self.assertEqual(summary["done"] + summary["done_before"], 60)
         run([PROGRAMS / "zulspectrum", "batch", inputs, "--into", alone, "--format", "csv", *OPTIONS])
@@ -140,7 +149,7 @@ class Cluster(unittest.TestCase):
     def test_probe(self):
         done = run([*mpirun(2), "--probe"])
         self.assertEqual(done.returncode, 0)
-        costs = json.loads(done.stdout)
+        costs = summary_of(done)
         self.assertTrue(all(cost > 0 for cost in costs.values()) and len(costs) == 2, costs)
 
 

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
+#include <mutex>
 
 #include "container.h"
 #include "input.h"
@@ -15,11 +17,13 @@ namespace spectrum {
 namespace {
 
 // While one of these lives that is wanted, nothing gets to standard output. The library prints there what is wrong with
-// a Sample Dump, and our results may go there, too.
+// a Sample Dump, and our results may go there, too. One lives at a time: a second one in another thread takes nowhere
+// for standard output, and leaves that behind.
 class Silence {
 public:
     explicit Silence(bool isWanted = true) {
         if (!isWanted) return;
+        lock = std::unique_lock(mutex);
         std::fflush(stdout);
         kept = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
         const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
@@ -36,6 +40,9 @@ public:
     }
 
 private:
+    static inline std::mutex mutex;
+
+    std::unique_lock<std::mutex> lock;
     int kept = -1;  // standard output
 };
 

@@ -90,6 +90,15 @@ class Cluster(unittest.TestCase):
         done = run([*mpirun(2), inputs, "--into", ranks, "--format", kind, "--split", 3000, "--json", *OPTIONS])
         self.assertEqual(summary_of(done)["done_before"], 10)
 
+    def test_ranks_that_open_many_files_print_their_summary(self):
+        inputs = self.folder / "in"
+        inputs.mkdir()
+        for i in range(300):
+            (inputs / f"{i}.wav").write_bytes(sound_files.wav([[1, 2, 3, 4, 5, 6, 7, 8]]))
+        command = [*mpirun(4), inputs, "--into", self.folder / "out", "--format", "csv", "--length", "4", "--again"]
+        for _ in range(3):
+            self.assertEqual(summary_of(run([*command, "--json"]))["done"], 300)
+
     def test_each_channel_is_split_by_itself(self):
         source, folder = random.Random(2), self.folder / "in"
         folder.mkdir()

@@ -52,12 +52,13 @@ public:
         name = shownName;
         const std::string damage = damageOf(descriptor);
         lseek(descriptor, 0, SEEK_SET);
+        std::string reason;  // the library keeps that of the last file, whichever thread opens it
         {
             const Silence silence;
             file.reset(sf_open_fd(descriptor, SFM_READ, &info, SF_TRUE));
+            if (!file) reason = reasonOfLibrary();
         }
-        if (!file) {
-            const std::string reason = reasonOfLibrary();  // the library has closed the descriptor
+        if (!file) {  // the library has closed the descriptor
             if (!damage.empty()) throw DamagedInput(damageText(name, damage, 0));
             if (!isSoundFile) throw UserError(name + ": neither a sound file that can be read nor a text of numbers");
             throw UserError(name + ": the sound cannot be read: " + reason);

@@ -6,14 +6,10 @@ import subprocess
 
 import sound_files
 import tool
-from tool import FAILED, USAGE, ToolTest, content_of, main, run
+from tool import FAILED, USAGE, ToolTest, content_of, limited, main, run
 
 NUMBERS = b"1 2 3 4 5 6 7 8 " * 8
 FORMATS = ("text", "csv", "json", "npy", "png", "svg")
-
-
-def largest_file(size):
-    return lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
 
 
 class Files(ToolTest):
@@ -79,7 +75,7 @@ class Files(ToolTest):
 
     def test_endless_input_that_is_no_sound(self):
         self.expect(["/dev/zero", "--length", "4"], FAILED, "/dev/zero: .*neither a sound file|/dev/zero: ",
-                    preexec_fn=largest_file(1 << 24))
+                    preexec_fn=limited(resource.RLIMIT_FSIZE, 1 << 24))
 
     def test_unreadable_and_unwritable(self):
         if os.geteuid() == 0:
@@ -190,7 +186,7 @@ class Files(ToolTest):
                 self.expect(words, FAILED, "cannot write standard output", stdout=full)
 
     def test_file_that_may_not_grow(self):
-        limit = largest_file(2000)
+        limit = limited(resource.RLIMIT_FSIZE, 2000)
         kept = self.path("kept", b"precious")
         table = self.path("table.csv", self.ok(self.sound, "--length", "4", "--format", "csv"))
         for name in FORMATS:
@@ -210,7 +206,7 @@ class Files(ToolTest):
         # A reader that goes away ends the run without a word, as with other programs.
         done = subprocess.run(["sh", "-c", 'yes 1 | "$0" - --length 4 | head -n 1',
                                tool.TOOL], capture_output=True, check=False, timeout=60,
-                              preexec_fn=largest_file(1 << 22))
+                              preexec_fn=limited(resource.RLIMIT_FSIZE, 1 << 22))
         self.assertEqual(done.stdout, b"# standard input\n")
 
     def test_batch_folders(self):

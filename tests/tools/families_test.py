@@ -11,7 +11,7 @@ import resource
 from definitions import (FAMILIES, FLAGS, SCALES_OF_INVOLUTIONS, check_error, dct4_bin, dct4_cosine, library,
                          pattern, walsh_hadamard)
 import sound_files
-from tool import ToolTest, main, numbers, run
+from tool import ToolTest, limited, main, numbers, run
 
 
 class WalshHadamard(ToolTest):
@@ -175,7 +175,7 @@ class Dct4(ToolTest):
         most = 256 << 20  # bytes
         for arguments in (["--check", "--output", self.path("long.csv")], ["--output", self.path("long.png")]):
             done = run(path, "--family", "dct4", "--length", self.LONGEST, *arguments,
-                       preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (most, most)))
+                       preexec_fn=limited(resource.RLIMIT_AS, most))
             self.assertEqual((done.returncode, done.stderr), (0, b""))
         with open(self.path("long.csv"), encoding="ascii") as file:
             next(file)

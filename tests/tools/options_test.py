@@ -9,7 +9,7 @@ import time
 
 from definitions import ALL_FAMILIES, library
 import sound_files
-from tool import TOOL, ToolTest, content_of, main, numbers, open_terminal, run
+from tool import TOOL, ToolTest, content_of, limited, main, numbers, open_terminal, run
 
 
 class Options(ToolTest):
@@ -152,7 +152,7 @@ class Errors(ToolTest):
         table = self.path("table.csv", self.ok("-", "--length", "4", "--format", "csv", given=b"1 2 3 4 " * 20000))
         path = self.path("out.wav", b"precious")
         self.refused("inverse", table, "--length", "4", "--rate", "8000", "--output", path,
-                     preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (20000, 20000)),
+                     preexec_fn=limited(resource.RLIMIT_FSIZE, 20000),
                      says=["cannot write", "out.wav: System error : File too large"])
         self.assertEqual(content_of(path), b"precious")
 

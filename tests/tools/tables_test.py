@@ -7,7 +7,7 @@ import subprocess
 
 from definitions import cosine, dft
 import sound_files
-from tool import ToolTest, main, numbers, run
+from tool import ToolTest, limited, main, numbers, run
 
 
 class Tables(ToolTest):
@@ -112,7 +112,7 @@ class Sounds(ToolTest):
         os.truncate(path, 44 + count)
         most = 256 << 20  # bytes; all samples as numbers would take three times as much
         done = run(path, "--output", self.path("zeros.png"),
-                   preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (most, most)))
+                   preexec_fn=limited(resource.RLIMIT_AS, most))
         self.assertEqual((done.returncode, done.stderr), (0, b""))
 
 

@@ -5,6 +5,7 @@ import io
 import os
 import pty
 import re
+import resource
 import subprocess
 import sys
 import tempfile
@@ -32,6 +33,12 @@ def start(*arguments, **more):
     """A run that goes on beside the test."""
     more = {"stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **more}
     return subprocess.Popen([TOOL, *map(str, arguments)], **more)
+
+
+def limited(kind, most):
+    """What subprocess calls so that a run has a limit. The run could raise it again, as the measure of coverage does to
+    write its counters."""
+    return lambda: resource.setrlimit(kind, (most, resource.getrlimit(kind)[1]))
 
 
 def numbers(values):

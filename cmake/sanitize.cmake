@@ -19,6 +19,10 @@ if(NOT ZULG_SANITIZE)
 endif()
 set(sanitizer_flags -fsanitize=${ZULG_SANITIZE} -fno-sanitize-recover=all -fno-sanitize=alignment
     -fno-omit-frame-pointer -g1 -O1)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # GCC says of <regex> with these checks in it that something may not be set.
+    list(APPEND sanitizer_flags -Wno-maybe-uninitialized)
+endif()
 set(body_flags ${sanitizer_flags})
 if(ZULG_SANITIZE MATCHES "address")
     set(body_flags -fsanitize=address -fno-sanitize-address-use-after-scope --param=asan-stack=0 -g1 -O1)

@@ -13,6 +13,11 @@ import unittest
 
 sys.dont_write_bytecode = True  # the tree stays clean
 
+# What a sanitizer asks of this process is not for runs of the tool. There it leaves signals as they are.
+IS_WATCHED = bool(os.environ.pop("LD_PRELOAD", ""))
+if IS_WATCHED:
+    os.environ["ASAN_OPTIONS"] = "handle_segv=0"
+
 TOOL = os.path.abspath(sys.argv.pop(1)) if len(sys.argv) > 1 else ""
 FAILED, USAGE, DAMAGED = 1, 2, 3  # the exit statuses of runs that do not succeed
 # One line without control characters, whatever the input holds, and without what turns the direction of writing.
@@ -37,7 +42,9 @@ def start(*arguments, **more):
 
 def limited(kind, most):
     """What subprocess calls so that a run has a limit. The run could raise it again, as the measure of coverage does to
-    write its counters."""
+    write its counters. A sanitizer maps more memory than there is, and takes no limit of that."""
+    if IS_WATCHED and kind == resource.RLIMIT_AS:
+        return None
     return lambda: resource.setrlimit(kind, (most, resource.getrlimit(kind)[1]))
 
 

@@ -59,6 +59,14 @@ Values widened(const std::vector<Element>& elements) {
     return {elements.begin(), elements.end()};
 }
 
+// The root of the sum of squares.
+template <class Element>
+double normOf(const std::vector<Element>& elements) {
+    double squares = 0;
+    for (Element value : elements) squares += static_cast<double>(value) * static_cast<double>(value);
+    return std::sqrt(squares);
+}
+
 // Normally distributed, at a scale drawn anew from one octave: the relative error of even a correctly rounded result
 // depends on its position between two powers of two, and no length is to be judged by that.
 template <class Element>

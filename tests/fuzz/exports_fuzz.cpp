@@ -67,17 +67,15 @@ ZulgStatus callAs(const Transform& transform, bool isDispatched, const Element* 
 template <class Element>
 void compare(const Transform& transform, std::int32_t flag, const std::vector<Element>& source, const Element* found) {
     if (transform.length > longest) return;
-    double squares = 0;
-    for (Element value : source) {
-        const bool isModerate = value == 0 || (std::abs(value) > Element{1e-12F} && std::abs(value) < Element{1e12F});
-        if (!isModerate) return;
-        squares += static_cast<double>(value) * static_cast<double>(value);
-    }
+    const auto isModerate = [](Element value) {
+        return value == 0 || (std::abs(value) > Element{1e-12F} && std::abs(value) < Element{1e12F});
+    };
+    if (!std::ranges::all_of(source, isModerate)) return;
     const Values due = transform.definition(widened(source), {});
     const Wide scale = storedScale<Element>(transform, flag);
     // The proved bounds are below 421 and 23 in these units; what is scaled down is off by no more, but may be no
     // normal number.
-    const double bound = std::sqrt(squares) * static_cast<double>(scale) * unitOf<Element> * perType<Element>(23, 421);
+    const double bound = normOf(source) * static_cast<double>(scale) * unitOf<Element> * perType<Element>(23, 421);
     for (std::size_t k = 0; k < due.size(); ++k) {
         if (!(std::abs(found[k] - scale * due[k]) <= bound + 1e-300))
             fail(transform, "a result is not near to the definition");

@@ -210,13 +210,11 @@ private:
 
     // Some of the outputs against the definition.
     void compare(const std::vector<Element>& x, const std::vector<Element>& found) {
-        double squares = 0;
-        for (Element value : x) squares += static_cast<double>(value) * static_cast<double>(value);
         const int step = std::max(1, length / 16);
         const Chosen chosen{static_cast<int>(bytes.below(static_cast<std::size_t>(step))), step};
         const Values due = dct4Transform(widened(x), chosen);
-        // No coefficient is above 1, and no output above the square root of N times that of the sum of squares.
-        const double bound = std::sqrt(squares * length) * unitOf<Element> * 16;
+        // No coefficient is above 1, and no output above the square root of N times the norm.
+        const double bound = normOf(x) * std::sqrt(length) * unitOf<Element> * 16;
         for (std::size_t i = 0; i < due.size(); ++i) {
             const auto k = static_cast<std::size_t>(chosen.first) + i * static_cast<std::size_t>(step);
             if (!(std::abs(static_cast<double>(found[k]) - static_cast<double>(due[i])) <= bound))

@@ -21,7 +21,8 @@ TEST(ProgressLine, TellsShareAndPaceAndWhatIsLeft) {
 }
 
 TEST(ProgressLine, CountsNumbersWithoutASampleRate) {
-    EXPECT_EQ(progressLine(3000000, 6000000, 0, 1), "[############............] 50 %, 3 million samples per second, 0:01 left");
+    EXPECT_EQ(progressLine(3000000, 6000000, 0, 1),
+              "[############............] 50 %, 3 million samples per second, 0:01 left");
 }
 
 TEST(ProgressLine, LeavesOutWhatIsNotKnown) {

@@ -16,12 +16,13 @@ using std::size_t;
 
 class Builder {
 public:
-    Builder(const Graph& source, const Units& sourceUnits, Arrays arrays)
+    Builder(const Graph& source, const Units& sourceUnits, Arrays arrays, Mates mates)
         : graph(source), units(sourceUnits), registers(source, arrays.inputs), outputs(arrays.outputs) {
         for (const Output& output : graph.outputs()) {
             const int element = outputs == Elements::Complex ? output.place / 2 * 2 : output.place;
             waiting[element].push_back({output.node, output.minus});
         }
+        if (mates == Mates::Neighbours && outputs == Elements::Complex) findNeighbours();
     }
 
     LaneProgram run(Order order) {
@@ -133,6 +134,54 @@ private:
         Lanes lanes;
     };
 
+    // Where an output element is: in which half of which group of two lines.
+    struct Half {
+        std::size_t unit;
+        std::size_t lane;
+    };
+    std::optional<Half> halfOf(const Lanes& element) const {
+        if (element.size() != 2) return std::nullopt;
+        const size_t unit = units.of(element[0].node);
+        const std::vector<NodeId>& nodes = units.nodes(unit);
+        for (const size_t lane : {0u, 2u}) {
+            if (nodes.size() == 4 && nodes[lane] == element[0].node && nodes[lane + 1] == element[1].node) {
+                return Half{unit, lane};
+            }
+        }
+        return std::nullopt;
+    }
+
+    // The two lines of a group, by their blocks: the last ones on the way outwards that do not hold both.
+    std::pair<BlockId, BlockId> linesOf(size_t unit) const {
+        const auto outwards = [&](NodeId node) {
+            std::vector<BlockId> path;
+            for (BlockId block = graph.node(node).block; block != BlockId{}; block = graph.block(block).outer) {
+                path.push_back(block);
+            }
+            return path;
+        };
+        const std::vector<BlockId> a = outwards(units.nodes(unit)[0]), b = outwards(units.nodes(unit)[2]);
+        size_t same = 0;
+        while (same < std::min(a.size(), b.size()) && a[a.size() - 1 - same] == b[b.size() - 1 - same]) ++same;
+        if (same == a.size() || same == b.size()) return {};
+        return {a[a.size() - 1 - same], b[b.size() - 1 - same]};
+    }
+
+    // Elements that follow each other in memory are stored at once where two lines hold them, the first one in the low
+    // half of a register and the next one in the high half of this register or of another.
+    void findNeighbours() {
+        for (auto low = waiting.begin(); low != waiting.end(); ++low) {
+            const auto high = waiting.find(low->first + 2);
+            if (high == waiting.end() || neighbours.contains(low->first)) continue;
+            const std::optional<Half> a = halfOf(low->second), b = halfOf(high->second);
+            if (!a || !b || a->lane != 0 || b->lane != 2) continue;
+            const auto lines = linesOf(a->unit);
+            if (lines.first == BlockId{} || lines != linesOf(b->unit)) continue;
+            neighbours[low->first] = high->first;
+            neighbours[high->first] = low->first;
+        }
+    }
+
     bool isDone(const Lanes& lanes) const {
         return std::ranges::all_of(lanes, [&](const Lane& lane) { return registers.isAnywhere(lane.node); });
     }
@@ -140,7 +189,7 @@ private:
     // Stores the outputs that are known: several elements at once where one register holds them.
     void storeWhatIsDone() {
         for (auto next = waiting.begin(); next != waiting.end(); next = waiting.begin()) {
-            while (next != waiting.end() && !isDone(next->second)) ++next;
+            while (next != waiting.end() && !canBeStored(*next)) ++next;
             if (next == waiting.end()) return;
             const Stored stored = outputs == Elements::Complex ? elementsWith(next) : realsWith(next);
             for (int number : stored.numbers) waiting.erase(number);
@@ -153,6 +202,12 @@ private:
             step.a = done(way);
             steps.push_back(std::move(step));
         }
+    }
+
+    bool canBeStored(const std::pair<const int, Lanes>& element) const {
+        if (!isDone(element.second)) return false;
+        const auto neighbour = neighbours.find(element.first);
+        return neighbour == neighbours.end() || isDone(waiting.at(neighbour->second));
     }
 
     using Waiting = std::map<int, Lanes>;  // elements that are not stored yet, by the number of their first output
@@ -168,17 +223,21 @@ private:
         return stored;
     }
 
-    // A complex element, with that of the other line where both are in one register.
+    // A complex element, with its neighbour, or else with that of the other line where both are in one register.
     Stored elementsWith(Waiting::const_iterator element) const {
         if (element->second.size() == 1) return numbered({element});
+        if (const auto neighbour = neighbours.find(element->first); neighbour != neighbours.end()) {
+            const auto mate = waiting.find(neighbour->second);
+            return mate->first > element->first ? numbered({element, mate}) : numbered({mate, element});
+        }
         const NodeId re = element->second[0].node, im = element->second[1].node;
         if (const auto lines = registers.linesWith(re, im); !lines.empty()) {
             const auto [number, half] = lines[0];
             const auto at = static_cast<size_t>(half == 0 ? 2 : 0);
             const Lanes& all = registers.lanesOf(number);
             const auto other = std::ranges::find_if(waiting, [&](const auto& item) {
-                return item.second.size() == 2 && item.second[0].node == all[at].node &&
-                       item.second[1].node == all[at + 1].node;
+                return item.second.size() == 2 && !neighbours.contains(item.first) &&
+                       item.second[0].node == all[at].node && item.second[1].node == all[at + 1].node;
             });
             if (other != waiting.end()) {
                 const Waiting::const_iterator mate = other;
@@ -210,12 +269,13 @@ private:
     std::vector<LaneStep> steps;
     Elements outputs;
     Waiting waiting;
+    std::map<int, int> neighbours;  // of elements that are stored with the one before or after them
 };
 
 }  // namespace
 
-LaneProgram inLanes(const Graph& graph, const Units& units, Arrays arrays, Order order) {
-    return Builder(graph, units, arrays).run(order);
+LaneProgram inLanes(const Graph& graph, const Units& units, Arrays arrays, Mates mates, Order order) {
+    return Builder(graph, units, arrays, mates).run(order);
 }
 
 }  // namespace gen

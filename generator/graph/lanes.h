@@ -60,7 +60,12 @@ struct Arrays {
     Elements inputs, outputs;
 };
 
+// Which lines of a stage share registers: those with the most steps in common, or, of complex arrays, those whose
+// elements are neighbours. Registers of the second kind hold two elements that follow each other in memory, or two
+// registers do that differ in one half each, so that such elements are stored at once.
+enum class Mates { Alike, Neighbours };
+
 // All loads come before the first store.
-LaneProgram inLanes(const Graph& graph, const Units& units, Arrays arrays, Order order);
+LaneProgram inLanes(const Graph& graph, const Units& units, Arrays arrays, Mates mates, Order order);
 
 }  // namespace gen

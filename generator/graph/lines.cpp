@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -18,8 +19,9 @@ using Line = std::vector<BlockId>;
 
 class Matching {
 public:
-    Matching(const Graph& source, size_t lanes)
+    Matching(const Graph& source, size_t lanes, Arrays arrays, Mates preferred)
         : graph(source), width(lanes), blocks(source.blocks().size()), mates(source.blocks().size()) {
+        if (preferred == Mates::Neighbours) listElements(arrays);
         for (size_t i = 1; i < graph.blocks().size(); ++i) own(graph.blocks()[i].outer).children.push_back(BlockId(i));
         std::vector<Group> pairs;
         for (const Pair& pair : graph.pairs()) pairs.push_back({pair.re, pair.im});
@@ -51,12 +53,65 @@ private:
     struct Inside {
         std::vector<Strand> steps;  // that begin in a block itself, in their order
         std::vector<BlockId> children;
+        std::set<int> inputs, outputs;  // complex elements, where neighbours are preferred
     };
 
     Inside& own(BlockId block) { return blocks[static_cast<size_t>(block)]; }
     std::optional<BlockId>& mate(BlockId block) { return mates[static_cast<size_t>(block)]; }
     bool isLoad(NodeId id) const { return graph.node(id).kind == Kind::Load; }
     const Node& first(Strand strand) const { return graph.node(strands[strand][0]); }
+
+    // The complex elements that each block takes and gives.
+    void listElements(Arrays arrays) {
+        const auto list = [&](NodeId at, std::set<int> Inside::*elements, int place) {
+            for (BlockId block = graph.node(at).block; block != BlockId{}; block = graph.block(block).outer) {
+                (own(block).*elements).insert(place / 2);
+            }
+        };
+        if (arrays.inputs == Elements::Complex) {
+            for (NodeId id : graph.aliveNodes()) {
+                for (NodeId operand : operands(graph.node(id))) {
+                    if (isLoad(operand)) list(id, &Inside::inputs, graph.node(operand).input);
+                }
+            }
+        }
+        if (arrays.outputs == Elements::Complex) {
+            for (const Output& output : graph.outputs()) list(output.node, &Inside::outputs, output.place);
+        }
+    }
+
+    // How many elements of a line are followed in memory by one of another line.
+    int neighbours(const Line& line, const Line& next) {
+        const auto followed = [](const std::set<int>& elements, const std::set<int>& others) {
+            return static_cast<int>(
+                std::ranges::count_if(elements, [&](int element) { return others.contains(element + 1); }));
+        };
+        const Inside &a = own(line[0]), &b = own(next[0]);
+        return followed(a.inputs, b.inputs) + followed(a.outputs, b.outputs);
+    }
+
+    // Two lines, by their places, of which the second one follows the first one in memory at the most elements. The
+    // first to be chosen are those with the fewest lines to choose from, so that few are left over in the end.
+    std::optional<std::pair<size_t, size_t>> nextNeighbours(const std::vector<Line>& lines) {
+        std::vector<std::pair<size_t, size_t>> edges;
+        int most = 1;
+        for (size_t a = 0; a < lines.size(); ++a) {
+            for (size_t b = 0; b < lines.size(); ++b) {
+                if (a == b) continue;
+                const int count = neighbours(lines[a], lines[b]);
+                if (count > most) edges.clear();
+                if (count >= most) edges.emplace_back(a, b);
+                most = std::max(most, count);
+            }
+        }
+        if (edges.empty()) return std::nullopt;
+        const auto choices = [&](size_t line) {
+            return std::ranges::count_if(edges,
+                                         [&](const auto& edge) { return edge.first == line || edge.second == line; });
+        };
+        return *std::ranges::min_element(
+            edges, {}, [&](const auto& edge) { return std::min(choices(edge.first), choices(edge.second)); });
+    }
 
     // Lines inside this one that may be the same: those of one kind and length.
     std::vector<std::vector<Line>> kindsOfLines(const Line& outer) {
@@ -205,9 +260,20 @@ private:
         return stage;
     }
 
-    // Takes lines together: first those whose inputs have the most steps in common. Returns those that are left over.
+    // Takes lines together: first neighbours, then those whose inputs have the most steps in common. Returns those that
+    // are left over.
     std::vector<Line> matchLines(std::vector<Line> lines) {
+        const auto take = [&](size_t a, size_t b) {
+            matched(lines[a][0], lines[b][0], true);
+            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(std::max(a, b)));
+            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(std::min(a, b)));
+        };
         while (lines.size() > 1) {
+            if (const auto next = nextNeighbours(lines);
+                next && matched(lines[next->first][0], lines[next->second][0], false) > 0) {
+                take(next->first, next->second);
+                continue;
+            }
             size_t bestA = 0, bestB = 0;
             int best = 0;
             for (size_t a = 0; a < lines.size(); ++a) {
@@ -217,9 +283,7 @@ private:
                 }
             }
             if (best == 0) break;
-            matched(lines[bestA][0], lines[bestB][0], true);
-            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(bestB));
-            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(bestA));
+            take(bestA, bestB);
         }
         return lines;
     }
@@ -328,6 +392,8 @@ private:
 
 }  // namespace
 
-std::vector<Group> groupsOfLines(const Graph& graph, size_t lanes) { return Matching(graph, lanes).groups(); }
+std::vector<Group> groupsOfLines(const Graph& graph, size_t lanes, Arrays arrays, Mates mates) {
+    return Matching(graph, lanes, arrays, mates).groups();
+}
 
 }  // namespace gen

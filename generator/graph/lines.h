@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "graph/units.h"
+#include "graph/lanes.h"
 
 namespace gen {
 
@@ -15,6 +15,6 @@ namespace gen {
 // are taken together, all blocks inside them as well, then two such couples. Of a line that is left over, the lines
 // inside are taken together. Steps between two stages, such as twiddle factors, follow the lines that take their
 // results, and those of a last stage the registers that they take.
-std::vector<Group> groupsOfLines(const Graph& graph, std::size_t lanes);
+std::vector<Group> groupsOfLines(const Graph& graph, std::size_t lanes, Arrays arrays, Mates mates);
 
 }  // namespace gen

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 18.
 // Complex DFT of 18 points, prime-factor, order 2, 9; two lines of a stage to a register.
 // 28 sums, 22 differences, 20 products of registers, which do the 312 steps of the graph, those with
-// `scale` included; 19 shuffles, 3 changes of sign.
+// `scale` included; 28 shuffles, 3 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -28,61 +28,61 @@ struct ComplexLines<18> {
         using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
-        const Q x0_2 = io.pairs(0, 2);
-        const Q x9_11 = io.pairs(9, 11);
+        const Q x0_10 = io.pairs(0, 10);
+        const Q x9_1 = io.pairs(9, 1);
         // complex block of 2
-        const Q t0 = x0_2 + x9_11;
-        const Q t1 = x0_2 - x9_11;
-        const Q x8_10 = io.pairs(8, 10);
-        const Q x17_1 = io.pairs(17, 1);
+        const Q t0 = x0_10 + x9_1;
+        const Q t1 = x0_10 - x9_1;
+        const Q x6_16 = io.pairs(6, 16);
+        const Q x15_7 = io.pairs(15, 7);
         // complex block of 2
-        const Q t2 = x8_10 + x17_1;
-        const Q t3 = x8_10 - x17_1;
-        const Q x12_14 = io.pairs(12, 14);
-        const Q x3_5 = io.pairs(3, 5);
-        // complex block of 2
-        const Q t4 = x12_14 + x3_5;
-        const Q t5 = x12_14 - x3_5;
-        const P x16 = io.pair(16);
-        const P x7 = io.pair(7);
-        // complex block of 2
-        const P t6 = x16 + x7;
-        const P t7 = x16 - x7;
-        const Q t8 = shuffled<0, 1, 4, 5>(t2, t3);
-        const Q t9 = shuffled<2, 3, 6, 7>(t4, t5);
+        const Q t2 = x6_16 + x15_7;
+        const Q t3 = x6_16 - x15_7;
+        const Q t4 = shuffled<2, 3, 6, 7>(t0, t1);
+        const Q t5 = shuffled<2, 3, 6, 7>(t2, t3);
         // complex block of 3, multiplier 2
-        const Q t10 = t8 + t9;
-        const Q t11 = t8 - t9;
-        const Q t12 = shuffled<2, 3, 6, 7>(t2, t3);
-        const Q t13 = joined(t6, t7);
-        // complex block of 3, multiplier 2
-        const Q t14 = t12 + t13;
-        const Q t15 = t12 - t13;
-        const Q x4_6 = io.pairs(4, 6);
-        const Q x13_15 = io.pairs(13, 15);
+        const Q t6 = t4 + t5;
+        const Q t7 = t4 - t5;
+        const Q x2_12 = io.pairs(2, 12);
+        const Q x11_3 = io.pairs(11, 3);
         // complex block of 2
-        const Q t16 = x4_6 + x13_15;
-        const Q t17 = x4_6 - x13_15;
-        const Q t18 = shuffled<2, 3, 6, 7>(t16, t17);
-        const Q t19 = shuffled<0, 1, 4, 5>(t4, t5);
+        const Q t8 = x2_12 + x11_3;
+        const Q t9 = x2_12 - x11_3;
+        const Q x4_14 = io.pairs(4, 14);
+        const Q x13_5 = io.pairs(13, 5);
+        // complex block of 2
+        const Q t10 = x4_14 + x13_5;
+        const Q t11 = x4_14 - x13_5;
+        const P x8 = io.pair(8);
+        const P x17 = io.pair(17);
+        // complex block of 2
+        const P t12 = x8 + x17;
+        const P t13 = x8 - x17;
+        const Q t14 = joined(t12, t13);
+        const Q t15 = shuffled<2, 3, 6, 7>(t10, t11);
+        // complex block of 3, multiplier 2
+        const Q t16 = t14 + t15;
+        const Q t17 = t14 - t15;
+        const Q t18 = shuffled<0, 1, 4, 5>(t2, t3);
+        const Q t19 = shuffled<2, 3, 6, 7>(t8, t9);
         // complex block of 3, multiplier 2
         const Q t20 = t18 + t19;
         const Q t21 = t18 - t19;
-        const Q t22 = shuffled<2, 3, 6, 7>(t0, t1);
+        const Q t22 = shuffled<0, 1, 4, 5>(t8, t9);
         // complex block of 3, multiplier 2
-        const Q t23 = t10 + t22;
-        const Q t24 = c[0] * t10;
+        const Q t23 = t16 + t22;
+        const Q t24 = c[0] * t16;
         const Q t25 = t22 - t24;
-        const Q t26 = Q(-c[1], c[1], -c[1], c[1]) * t11;
+        const Q t26 = Q(-c[1], c[1], -c[1], c[1]) * t17;
         const Q t27 = shuffled<1, 0, 3, 2>(t26);
         const Q t28 = t25 + t27;
         const Q t29 = t25 - t27;
-        const Q t30 = shuffled<0, 1, 4, 5>(t16, t17);
+        const Q t30 = shuffled<0, 1, 4, 5>(t10, t11);
         // complex block of 3, multiplier 2
-        const Q t31 = t14 + t30;
-        const Q t32 = c[0] * t14;
+        const Q t31 = t6 + t30;
+        const Q t32 = c[0] * t6;
         const Q t33 = t30 - t32;
-        const Q t34 = Q(-c[1], c[1], -c[1], c[1]) * t15;
+        const Q t34 = Q(-c[1], c[1], -c[1], c[1]) * t7;
         const Q t35 = shuffled<1, 0, 3, 2>(t34);
         const Q t36 = t33 + t35;
         const Q t37 = t33 - t35;
@@ -93,15 +93,12 @@ struct ComplexLines<18> {
         const Q t40 = t23 + t31;
         const Q t41 = t23 - t31;
         const Q t42 = t40 + t39;
-        io.pairs(0, 9, t42);
         const Q t43 = c[0] * t40;
         const Q t44 = t39 - t43;
         const Q t45 = Q(-c[1], c[1], -c[1], c[1]) * t41;
         const Q t46 = shuffled<1, 0, 3, 2>(t45);
         const Q t47 = t44 + t46;
-        io.pairs(12, 3, t47);
         const Q t48 = t44 - t46;
-        io.pairs(6, 15, t48);
         // complex block of 3, multiplier 2
         const Q t49 = c[0] * t20;
         const Q t50 = t38 - t49;
@@ -138,26 +135,38 @@ struct ComplexLines<18> {
         const Q t77 = t69 + t76;
         // complex block of 3, multiplier 2
         const Q t78 = t64 + t54;
-        io.pairs(2, 11, t78);
-        const Q t79 = c[0] * t64;
-        const Q t80 = t54 - t79;
-        const Q t81 = Q(-c[1], c[1], -c[1], c[1]) * t65;
-        const Q t82 = shuffled<1, 0, 3, 2>(t81);
-        const Q t83 = t80 + t82;
-        io.pairs(14, 5, t83);
-        const Q t84 = t80 - t82;
-        io.pairs(8, 17, t84);
+        const Q t79 = shuffled<0, 1, 6, 7>(t78, t47);
+        io.pairs(2, 3, t79);
+        const Q t80 = c[0] * t64;
+        const Q t81 = t54 - t80;
+        const Q t82 = Q(-c[1], c[1], -c[1], c[1]) * t65;
+        const Q t83 = shuffled<1, 0, 3, 2>(t82);
+        const Q t84 = t81 + t83;
+        const Q t85 = shuffled<0, 1, 6, 7>(t84, t48);
+        io.pairs(14, 15, t85);
+        const Q t86 = t81 - t83;
+        const Q t87 = shuffled<0, 1, 6, 7>(t86, t42);
+        io.pairs(8, 9, t87);
         // complex block of 3, multiplier 2
-        const Q t85 = t75 + t53;
-        io.pairs(4, 13, t85);
-        const Q t86 = c[0] * t75;
-        const Q t87 = t53 - t86;
-        const Q t88 = c[1] * t77;
-        const Q t89 = shuffled<1, 0, 3, 2>(t88);
-        const Q t90 = t87 - t89;
-        io.pairs(16, 7, t90);
-        const Q t91 = t87 + t89;
-        io.pairs(10, 1, t91);
+        const Q t88 = t75 + t53;
+        const Q t89 = shuffled<0, 1, 6, 7>(t88, t84);
+        io.pairs(4, 5, t89);
+        const Q t90 = shuffled<0, 1, 6, 7>(t47, t88);
+        io.pairs(12, 13, t90);
+        const Q t91 = c[0] * t75;
+        const Q t92 = t53 - t91;
+        const Q t93 = c[1] * t77;
+        const Q t94 = shuffled<1, 0, 3, 2>(t93);
+        const Q t95 = t92 - t94;
+        const Q t96 = shuffled<0, 1, 6, 7>(t48, t95);
+        io.pairs(6, 7, t96);
+        const Q t97 = shuffled<0, 1, 6, 7>(t95, t86);
+        io.pairs(16, 17, t97);
+        const Q t98 = t92 + t94;
+        const Q t99 = shuffled<0, 1, 6, 7>(t42, t98);
+        io.pairs(0, 1, t99);
+        const Q t100 = shuffled<0, 1, 6, 7>(t98, t78);
+        io.pairs(10, 11, t100);
     }
 };
 

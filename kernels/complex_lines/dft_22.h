@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 22.
 // Complex DFT of 22 points, prime-factor, order 2, 11; two lines of a stage to a register.
 // 53 sums, 37 differences, 50 products of registers, which do the 600 steps of the graph, those with
-// `scale` included; 16 shuffles, 4 changes of sign.
+// `scale` included; 27 shuffles, 4 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -34,109 +34,108 @@ struct ComplexLines<22> {
         using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
-        const Q x0_2 = io.pairs(0, 2);
-        const Q x11_13 = io.pairs(11, 13);
+        const Q x0_12 = io.pairs(0, 12);
+        const Q x11_1 = io.pairs(11, 1);
         // complex block of 2
-        const Q t0 = x0_2 + x11_13;
-        const Q t1 = x0_2 - x11_13;
-        const Q x12_14 = io.pairs(12, 14);
-        const Q x1_3 = io.pairs(1, 3);
+        const Q t0 = x0_12 + x11_1;
+        const Q t1 = x0_12 - x11_1;
+        const Q x2_14 = io.pairs(2, 14);
+        const Q x13_3 = io.pairs(13, 3);
         // complex block of 2
-        const Q t2 = x12_14 + x1_3;
-        const Q t3 = x12_14 - x1_3;
-        const Q x4_6 = io.pairs(4, 6);
-        const Q x15_17 = io.pairs(15, 17);
+        const Q t2 = x2_14 + x13_3;
+        const Q t3 = x2_14 - x13_3;
+        const Q x4_16 = io.pairs(4, 16);
+        const Q x15_5 = io.pairs(15, 5);
         // complex block of 2
-        const Q t4 = x4_6 + x15_17;
-        const Q t5 = x4_6 - x15_17;
-        const Q x16_18 = io.pairs(16, 18);
-        const Q x5_7 = io.pairs(5, 7);
-        // complex block of 2
-        const Q t6 = x16_18 + x5_7;
-        const Q t7 = x16_18 - x5_7;
-        const Q x8_10 = io.pairs(8, 10);
-        const Q x19_21 = io.pairs(19, 21);
-        // complex block of 2
-        const Q t8 = x8_10 + x19_21;
-        const Q t9 = x8_10 - x19_21;
-        const Q t10 = shuffled<0, 1, 4, 5>(t8, t9);
-        const Q t11 = shuffled<2, 3, 6, 7>(t4, t5);
+        const Q t4 = x4_16 + x15_5;
+        const Q t5 = x4_16 - x15_5;
+        const Q t6 = shuffled<2, 3, 6, 7>(t2, t3);
+        const Q t7 = shuffled<2, 3, 6, 7>(t4, t5);
         // real block of 5, multiplier 2
+        const Q t8 = t6 + t7;
+        const Q t9 = t6 - t7;
+        const Q t10 = shuffled<0, 1, 4, 5>(t4, t5);
+        const Q t11 = shuffled<2, 3, 6, 7>(t0, t1);
         const Q t12 = t10 + t11;
         const Q t13 = t10 - t11;
-        const Q t14 = shuffled<2, 3, 6, 7>(t6, t7);
-        const Q t15 = shuffled<2, 3, 6, 7>(t8, t9);
-        const Q t16 = t14 + t15;
-        const Q t17 = t14 - t15;
-        const Q t18 = shuffled<2, 3, 6, 7>(t2, t3);
-        const Q t19 = shuffled<0, 1, 4, 5>(t6, t7);
-        // real block of 5, multiplier 2
-        const Q t20 = t18 + t19;
-        const Q t21 = t18 - t19;
-        const Q t22 = shuffled<0, 1, 4, 5>(t4, t5);
-        const Q t23 = shuffled<0, 1, 4, 5>(t2, t3);
-        const Q t24 = t22 + t23;
-        const Q t25 = t22 - t23;
-        const P x20 = io.pair(20);
-        const P x9 = io.pair(9);
+        const Q x6_18 = io.pairs(6, 18);
+        const Q x17_7 = io.pairs(17, 7);
         // complex block of 2
-        const P t26 = x20 + x9;
-        const P t27 = x20 - x9;
+        const Q t14 = x6_18 + x17_7;
+        const Q t15 = x6_18 - x17_7;
+        const Q x8_20 = io.pairs(8, 20);
+        const Q x19_9 = io.pairs(19, 9);
+        // complex block of 2
+        const Q t16 = x8_20 + x19_9;
+        const Q t17 = x8_20 - x19_9;
+        const P x10 = io.pair(10);
+        const P x21 = io.pair(21);
+        // complex block of 2
+        const P t18 = x10 + x21;
+        const P t19 = x10 - x21;
+        const Q t20 = shuffled<0, 1, 4, 5>(t16, t17);
+        const Q t21 = shuffled<0, 1, 4, 5>(t14, t15);
         // real block of 5, multiplier 2
-        const Q t28 = t12 + t16;
-        const Q t29 = shuffled<2, 3, 6, 7>(t0, t1);
+        const Q t22 = t20 + t21;
+        const Q t23 = t20 - t21;
+        const Q t24 = shuffled<2, 3, 6, 7>(t14, t15);
+        const Q t25 = joined(t18, t19);
+        const Q t26 = t24 + t25;
+        const Q t27 = t24 - t25;
+        const Q t28 = t22 + t26;
+        const Q t29 = shuffled<0, 1, 4, 5>(t2, t3);
         const Q t30 = t28 + t29;
         // real block of 5, multiplier 2
-        const Q t31 = t20 + t24;
-        const Q t32 = joined(t26, t27);
+        const Q t31 = t8 + t12;
+        const Q t32 = shuffled<2, 3, 6, 7>(t16, t17);
         const Q t33 = t31 + t32;
         // real block of 2
         const Q t34 = t30 + t33;
         const Q t35 = t30 - t33;
         // real block of 5, multiplier 2
-        const Q t36 = c[0] * t12;
+        const Q t36 = c[0] * t22;
         const Q t37 = t29 - t36;
-        const Q t38 = c[1] * t16;
+        const Q t38 = c[1] * t26;
         const Q t39 = t37 + t38;
         // real block of 5, multiplier 2
-        const Q t40 = c[0] * t20;
+        const Q t40 = c[0] * t8;
         const Q t41 = t32 - t40;
-        const Q t42 = c[1] * t24;
+        const Q t42 = c[1] * t12;
         const Q t43 = t41 + t42;
         // complex block of 2
         const Q t44 = t39 + t43;
         const Q t45 = t39 - t43;
         // real block of 5, multiplier 2
-        const Q t46 = c[2] * t13;
-        const Q t47 = c[3] * t17;
+        const Q t46 = c[2] * t23;
+        const Q t47 = c[3] * t27;
         const Q t48 = t46 + t47;
         // real block of 5, multiplier 2
-        const Q t49 = c[2] * t21;
-        const Q t50 = c[3] * t25;
+        const Q t49 = c[2] * t9;
+        const Q t50 = c[3] * t13;
         const Q t51 = t49 + t50;
         // complex block of 2
         const Q t52 = t48 + t51;
         const Q t53 = t51 - t48;
         // real block of 5, multiplier 2
-        const Q t54 = c[1] * t12;
-        const Q t55 = c[0] * t16;
+        const Q t54 = c[1] * t22;
+        const Q t55 = c[0] * t26;
         const Q t56 = t54 - t55;
         const Q t57 = t56 + t29;
         // real block of 5, multiplier 2
-        const Q t58 = c[1] * t20;
-        const Q t59 = c[0] * t24;
+        const Q t58 = c[1] * t8;
+        const Q t59 = c[0] * t12;
         const Q t60 = t58 - t59;
         const Q t61 = t60 + t32;
         // complex block of 2
         const Q t62 = t57 + t61;
         const Q t63 = t57 - t61;
         // real block of 5, multiplier 2
-        const Q t64 = c[3] * t13;
-        const Q t65 = c[2] * t17;
+        const Q t64 = c[3] * t23;
+        const Q t65 = c[2] * t27;
         const Q t66 = t64 - t65;
         // real block of 5, multiplier 2
-        const Q t67 = c[3] * t21;
-        const Q t68 = c[2] * t25;
+        const Q t67 = c[3] * t9;
+        const Q t68 = c[2] * t13;
         const Q t69 = t67 - t68;
         // complex block of 2
         const Q t70 = t66 + t69;
@@ -144,7 +143,6 @@ struct ComplexLines<22> {
         const Q t72 = shuffled<0, 1, 4, 5>(t0, t1);
         // complex block of 11, multiplier 2
         const Q t73 = t72 + t34;
-        io.pairs(0, 11, t73);
         const Q t74 = c[12] * t34;
         const Q t75 = t72 - t74;
         const Q t76 = shuffled<1, 0, 3, 2>(t35);
@@ -201,7 +199,6 @@ struct ComplexLines<22> {
         // spectrum block of 5, multiplier 2
         const Q t118 = t108 + t88;
         const Q t119 = t118 + t78;
-        io.pairs(2, 13, t119);
         const Q t120 = c[1] * t108;
         const Q t121 = c[0] * t88;
         const Q t122 = t120 - t121;
@@ -211,47 +208,60 @@ struct ComplexLines<22> {
         const Q t126 = t124 + t125;
         const Q t127 = flipped<1, 0, 1, 0>(t126);
         const Q t128 = t123 + t127;
-        io.pairs(10, 21, t128);
-        const Q t129 = t123 - t127;
-        io.pairs(18, 7, t129);
-        const Q t130 = c[0] * t108;
-        const Q t131 = t78 - t130;
-        const Q t132 = c[1] * t88;
-        const Q t133 = t131 + t132;
-        const Q t134 = c[3] * t97;
-        const Q t135 = Q(c[2], -c[2], c[2], -c[2]) * t116;
-        const Q t136 = t134 + t135;
-        const Q t137 = flipped<0, 1, 0, 1>(t136);
-        const Q t138 = t133 + t137;
-        io.pairs(6, 17, t138);
-        const Q t139 = t133 - t137;
-        io.pairs(8, 19, t139);
+        const Q t129 = shuffled<0, 1, 6, 7>(t128, t73);
+        io.pairs(10, 11, t129);
+        const Q t130 = t123 - t127;
+        const Q t131 = c[0] * t108;
+        const Q t132 = t78 - t131;
+        const Q t133 = c[1] * t88;
+        const Q t134 = t132 + t133;
+        const Q t135 = c[3] * t97;
+        const Q t136 = Q(c[2], -c[2], c[2], -c[2]) * t116;
+        const Q t137 = t135 + t136;
+        const Q t138 = flipped<0, 1, 0, 1>(t137);
+        const Q t139 = t134 + t138;
+        const Q t140 = shuffled<0, 1, 6, 7>(t139, t130);
+        io.pairs(6, 7, t140);
+        const Q t141 = t134 - t138;
+        const Q t142 = shuffled<0, 1, 6, 7>(t130, t141);
+        io.pairs(18, 19, t142);
         // spectrum block of 5, multiplier 2
-        const Q t140 = t109 + t89;
-        const Q t141 = t140 + t79;
-        io.pairs(20, 9, t141);
-        const Q t142 = c[1] * t109;
-        const Q t143 = c[0] * t89;
-        const Q t144 = t142 - t143;
-        const Q t145 = t144 + t79;
-        const Q t146 = c[3] * t117;
-        const Q t147 = Q(-c[2], c[2], -c[2], c[2]) * t98;
-        const Q t148 = t146 + t147;
-        const Q t149 = t145 - t148;
-        io.pairs(12, 1, t149);
-        const Q t150 = t145 + t148;
-        io.pairs(4, 15, t150);
-        const Q t151 = c[0] * t109;
-        const Q t152 = t79 - t151;
-        const Q t153 = c[1] * t89;
-        const Q t154 = t152 + t153;
-        const Q t155 = c[2] * t117;
-        const Q t156 = Q(c[3], -c[3], c[3], -c[3]) * t98;
-        const Q t157 = t155 + t156;
-        const Q t158 = t154 - t157;
-        io.pairs(16, 5, t158);
-        const Q t159 = t154 + t157;
-        io.pairs(14, 3, t159);
+        const Q t143 = t109 + t89;
+        const Q t144 = t143 + t79;
+        const Q t145 = shuffled<0, 1, 6, 7>(t141, t144);
+        io.pairs(8, 9, t145);
+        const Q t146 = shuffled<0, 1, 6, 7>(t144, t128);
+        io.pairs(20, 21, t146);
+        const Q t147 = c[1] * t109;
+        const Q t148 = c[0] * t89;
+        const Q t149 = t147 - t148;
+        const Q t150 = t149 + t79;
+        const Q t151 = c[3] * t117;
+        const Q t152 = Q(-c[2], c[2], -c[2], c[2]) * t98;
+        const Q t153 = t151 + t152;
+        const Q t154 = t150 - t153;
+        const Q t155 = shuffled<0, 1, 6, 7>(t73, t154);
+        io.pairs(0, 1, t155);
+        const Q t156 = shuffled<0, 1, 6, 7>(t154, t119);
+        io.pairs(12, 13, t156);
+        const Q t157 = t150 + t153;
+        const Q t158 = c[0] * t109;
+        const Q t159 = t79 - t158;
+        const Q t160 = c[1] * t89;
+        const Q t161 = t159 + t160;
+        const Q t162 = c[2] * t117;
+        const Q t163 = Q(c[3], -c[3], c[3], -c[3]) * t98;
+        const Q t164 = t162 + t163;
+        const Q t165 = t161 - t164;
+        const Q t166 = shuffled<0, 1, 6, 7>(t157, t165);
+        io.pairs(4, 5, t166);
+        const Q t167 = shuffled<0, 1, 6, 7>(t165, t139);
+        io.pairs(16, 17, t167);
+        const Q t168 = t161 + t164;
+        const Q t169 = shuffled<0, 1, 6, 7>(t119, t168);
+        io.pairs(2, 3, t169);
+        const Q t170 = shuffled<0, 1, 6, 7>(t168, t157);
+        io.pairs(14, 15, t170);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 26.
 // Complex DFT of 26 points, prime-factor, order 13, 2; two lines of a stage to a register.
 // 57 sums, 45 differences, 36 products of registers, which do the 600 steps of the graph, those with
-// `scale` included; 21 shuffles, 6 changes of sign.
+// `scale` included; 33 shuffles, 6 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -211,87 +211,100 @@ struct ComplexLines<26> {
         // spectrum block of 2
         const Q t116 = t115 + t114;
         const Q t117 = t115 - t114;
-        const Q t118 = shuffled<0, 1, 4, 5>(t116, t117);
-        const Q t119 = shuffled<2, 3, 6, 7>(t116, t117);
+        const P t118 = part<0>(t116);
+        const P t119 = part<1>(t116);
         // complex block of 2
-        const Q t120 = t118 + t119;
-        io.pairs(12, 14, t120);
-        const Q t121 = t118 - t119;
-        io.pairs(25, 1, t121);
+        const P t120 = t118 + t119;
+        io.pair(12, t120);
+        const P t121 = t118 - t119;
+        io.pair(25, t121);
+        const Q t122 = shuffled<0, 1, 4, 5>(t44, t117);
+        const Q t123 = shuffled<2, 3, 6, 7>(t44, t117);
+        // complex block of 2
+        const Q t124 = t122 + t123;
+        const Q t125 = t122 - t123;
+        const Q t126 = shuffled<0, 1, 6, 7>(t124, t125);
+        io.pairs(0, 1, t126);
+        const Q t127 = shuffled<0, 1, 6, 7>(t125, t124);
+        io.pairs(13, 14, t127);
         // complex block of 3
-        const Q t122 = Q(-c[1], c[1], -c[1], c[1]) * t105;
-        const Q t123 = t95 + t122;
+        const Q t128 = Q(-c[1], c[1], -c[1], c[1]) * t105;
+        const Q t129 = t95 + t128;
         // spectrum block of 2
-        const Q t124 = t66 + t70;
-        const Q t125 = flipped<0, 1, 0, 1>(t123);
+        const Q t130 = t66 + t70;
+        const Q t131 = flipped<0, 1, 0, 1>(t129);
         // spectrum block of 2
-        const Q t126 = t124 + t125;
-        const Q t127 = t124 - t125;
-        // spectrum block of 2
-        const Q t128 = t73 + t110;
-        const Q t129 = t73 - t110;
-        const Q t130 = shuffled<0, 1, 4, 5>(t127, t128);
-        const Q t131 = shuffled<2, 3, 6, 7>(t127, t128);
-        // complex block of 2
         const Q t132 = t130 + t131;
-        io.pairs(8, 10, t132);
         const Q t133 = t130 - t131;
-        io.pairs(21, 23, t133);
-        const Q t134 = shuffled<0, 1, 4, 5>(t129, t126);
-        const Q t135 = shuffled<2, 3, 6, 7>(t129, t126);
-        // complex block of 2
-        const Q t136 = t134 + t135;
-        io.pairs(16, 18, t136);
-        const Q t137 = t134 - t135;
-        io.pairs(3, 5, t137);
         // complex block of 3
-        const Q t138 = t112 - t113;
+        const Q t134 = t112 - t113;
         // spectrum block of 2
-        const Q t139 = t67 + t71;
+        const Q t135 = t67 + t71;
         // spectrum block of 2
-        const Q t140 = t139 + t138;
-        const Q t141 = t139 - t138;
-        const Q t142 = shuffled<0, 5, 2, 7>(t95, t122);
-        const Q t143 = shuffled<0, 5, 2, 7>(t122, t95);
+        const Q t136 = t135 + t134;
+        const Q t137 = t135 - t134;
+        const Q t138 = shuffled<0, 1, 4, 5>(t136, t132);
+        const Q t139 = shuffled<2, 3, 6, 7>(t136, t132);
+        // complex block of 2
+        const Q t140 = t138 + t139;
+        const Q t141 = t138 - t139;
+        const Q t142 = shuffled<0, 1, 6, 7>(t140, t141);
+        io.pairs(4, 5, t142);
+        const Q t143 = shuffled<0, 1, 6, 7>(t141, t140);
+        io.pairs(17, 18, t143);
+        const Q t144 = shuffled<0, 1, 4, 5>(t133, t137);
+        const Q t145 = shuffled<2, 3, 6, 7>(t133, t137);
+        // complex block of 2
+        const Q t146 = t144 + t145;
+        const Q t147 = t144 - t145;
+        const Q t148 = shuffled<0, 1, 6, 7>(t146, t147);
+        io.pairs(8, 9, t148);
+        const Q t149 = shuffled<0, 1, 6, 7>(t147, t146);
+        io.pairs(21, 22, t149);
+        const Q t150 = shuffled<0, 5, 2, 7>(t95, t128);
+        const Q t151 = shuffled<0, 5, 2, 7>(t128, t95);
         // complex block of 3
-        const Q t144 = t142 - t143;
+        const Q t152 = t150 - t151;
         // spectrum block of 2
-        const Q t145 = t67 - t71;
+        const Q t153 = t67 - t71;
         // spectrum block of 2
-        const Q t146 = t145 + t144;
-        const Q t147 = t145 - t144;
-        const Q t148 = shuffled<0, 1, 4, 5>(t140, t146);
-        const Q t149 = shuffled<2, 3, 6, 7>(t140, t146);
+        const Q t154 = t153 + t152;
+        const Q t155 = t153 - t152;
+        const Q t156 = shuffled<0, 1, 4, 5>(t154, t155);
+        const Q t157 = shuffled<2, 3, 6, 7>(t154, t155);
         // complex block of 2
-        const Q t150 = t148 + t149;
-        io.pairs(4, 6, t150);
-        const Q t151 = t148 - t149;
-        io.pairs(17, 19, t151);
-        const Q t152 = shuffled<0, 1, 4, 5>(t147, t141);
-        const Q t153 = shuffled<2, 3, 6, 7>(t147, t141);
-        // complex block of 2
-        const Q t154 = t152 + t153;
-        io.pairs(20, 22, t154);
-        const Q t155 = t152 - t153;
-        io.pairs(7, 9, t155);
+        const Q t158 = t156 + t157;
+        const Q t159 = t156 - t157;
+        const Q t160 = shuffled<0, 1, 6, 7>(t158, t159);
+        io.pairs(6, 7, t160);
+        const Q t161 = shuffled<0, 1, 6, 7>(t159, t158);
+        io.pairs(19, 20, t161);
         // spectrum block of 2
-        const Q t156 = t72 + t93;
-        const Q t157 = shuffled<0, 1, 4, 5>(t44, t156);
-        const Q t158 = shuffled<2, 3, 6, 7>(t44, t156);
-        // complex block of 2
-        const Q t159 = t157 + t158;
-        io.pairs(0, 2, t159);
-        const Q t160 = t157 - t158;
-        io.pairs(13, 15, t160);
+        const Q t162 = t72 + t93;
         // spectrum block of 2
-        const Q t161 = t72 - t93;
-        const P t162 = part<0>(t161);
-        const P t163 = part<1>(t161);
+        const Q t163 = t73 - t110;
+        const Q t164 = shuffled<0, 1, 4, 5>(t162, t163);
+        const Q t165 = shuffled<2, 3, 6, 7>(t162, t163);
         // complex block of 2
-        const P t164 = t162 + t163;
-        io.pair(24, t164);
-        const P t165 = t162 - t163;
-        io.pair(11, t165);
+        const Q t166 = t164 + t165;
+        const Q t167 = t164 - t165;
+        const Q t168 = shuffled<0, 1, 6, 7>(t166, t167);
+        io.pairs(2, 3, t168);
+        const Q t169 = shuffled<0, 1, 6, 7>(t167, t166);
+        io.pairs(15, 16, t169);
+        // spectrum block of 2
+        const Q t170 = t72 - t93;
+        // spectrum block of 2
+        const Q t171 = t73 + t110;
+        const Q t172 = shuffled<0, 1, 4, 5>(t171, t170);
+        const Q t173 = shuffled<2, 3, 6, 7>(t171, t170);
+        // complex block of 2
+        const Q t174 = t172 + t173;
+        const Q t175 = t172 - t173;
+        const Q t176 = shuffled<0, 1, 6, 7>(t174, t175);
+        io.pairs(10, 11, t176);
+        const Q t177 = shuffled<0, 1, 6, 7>(t175, t174);
+        io.pairs(23, 24, t177);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 34.
 // Complex DFT of 34 points, prime-factor, order 2, 17; two lines of a stage to a register.
 // 80 sums, 70 differences, 54 products of registers, which do the 880 steps of the graph, those with
-// `scale` included; 29 shuffles, 4 changes of sign.
+// `scale` included; 46 shuffles, 4 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -39,113 +39,113 @@ struct ComplexLines<34> {
         using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
-        const Q x0_2 = io.pairs(0, 2);
-        const Q x17_19 = io.pairs(17, 19);
+        const Q x0_18 = io.pairs(0, 18);
+        const Q x17_1 = io.pairs(17, 1);
         // complex block of 2
-        const Q t0 = x0_2 + x17_19;
-        const Q t1 = x0_2 - x17_19;
-        const P x32 = io.pair(32);
-        const P x15 = io.pair(15);
+        const Q t0 = x0_18 + x17_1;
+        const Q t1 = x0_18 - x17_1;
+        const Q x2_20 = io.pairs(2, 20);
+        const Q x19_3 = io.pairs(19, 3);
         // complex block of 2
-        const P t2 = x32 + x15;
-        const P t3 = x32 - x15;
-        const Q t4 = shuffled<2, 3, 6, 7>(t0, t1);
-        const Q t5 = joined(t2, t3);
-        // real block of 2
-        const Q t6 = t4 + t5;
-        const Q t7 = t4 - t5;
-        const Q x16_18 = io.pairs(16, 18);
-        const Q x33_1 = io.pairs(33, 1);
+        const Q t2 = x2_20 + x19_3;
+        const Q t3 = x2_20 - x19_3;
+        const Q x4_22 = io.pairs(4, 22);
+        const Q x21_5 = io.pairs(21, 5);
         // complex block of 2
-        const Q t8 = x16_18 + x33_1;
-        const Q t9 = x16_18 - x33_1;
-        const Q x4_6 = io.pairs(4, 6);
-        const Q x21_23 = io.pairs(21, 23);
+        const Q t4 = x4_22 + x21_5;
+        const Q t5 = x4_22 - x21_5;
+        const Q x12_30 = io.pairs(12, 30);
+        const Q x29_13 = io.pairs(29, 13);
         // complex block of 2
-        const Q t10 = x4_6 + x21_23;
-        const Q t11 = x4_6 - x21_23;
-        const Q x24_26 = io.pairs(24, 26);
-        const Q x7_9 = io.pairs(7, 9);
+        const Q t6 = x12_30 + x29_13;
+        const Q t7 = x12_30 - x29_13;
+        const Q x14_32 = io.pairs(14, 32);
+        const Q x31_15 = io.pairs(31, 15);
         // complex block of 2
-        const Q t12 = x24_26 + x7_9;
-        const Q t13 = x24_26 - x7_9;
-        const Q x8_10 = io.pairs(8, 10);
-        const Q x25_27 = io.pairs(25, 27);
+        const Q t8 = x14_32 + x31_15;
+        const Q t9 = x14_32 - x31_15;
+        const P x16 = io.pair(16);
+        const P x33 = io.pair(33);
         // complex block of 2
-        const Q t14 = x8_10 + x25_27;
-        const Q t15 = x8_10 - x25_27;
-        const Q x28_30 = io.pairs(28, 30);
-        const Q x11_13 = io.pairs(11, 13);
-        // complex block of 2
-        const Q t16 = x28_30 + x11_13;
-        const Q t17 = x28_30 - x11_13;
-        const Q t18 = shuffled<2, 3, 6, 7>(t12, t13);
-        const Q t19 = shuffled<0, 1, 4, 5>(t14, t15);
+        const P t10 = x16 + x33;
+        const P t11 = x16 - x33;
+        const Q t12 = shuffled<0, 1, 4, 5>(t2, t3);
+        const Q t13 = shuffled<2, 3, 6, 7>(t8, t9);
         // real block of 2
-        const Q t20 = t18 + t19;
-        const Q t21 = t18 - t19;
-        const Q t22 = shuffled<2, 3, 6, 7>(t10, t11);
-        const Q t23 = shuffled<0, 1, 4, 5>(t16, t17);
+        const Q t14 = t12 + t13;
+        const Q t15 = t12 - t13;
+        const Q t16 = shuffled<2, 3, 6, 7>(t0, t1);
+        const Q t17 = joined(t10, t11);
         // real block of 2
-        const Q t24 = t22 + t23;
-        const Q t25 = shuffled<2, 3, 6, 7>(t14, t15);
-        const Q t26 = shuffled<0, 1, 4, 5>(t12, t13);
+        const Q t18 = t16 + t17;
+        const Q t19 = t16 - t17;
+        const Q t20 = shuffled<2, 3, 6, 7>(t6, t7);
+        const Q t21 = shuffled<0, 1, 4, 5>(t4, t5);
         // real block of 2
-        const Q t27 = t25 + t26;
-        // real block of 2
-        const Q t28 = t24 - t27;
-        // real block of 2
-        const Q t29 = t22 - t23;
-        // real block of 2
-        const Q t30 = t25 - t26;
-        const Q t31 = shuffled<2, 3, 6, 7>(t8, t9);
-        const Q t32 = shuffled<0, 1, 4, 5>(t8, t9);
-        // real block of 2
-        const Q t33 = t31 + t32;
-        const Q t34 = t31 - t32;
-        const Q t35 = shuffled<2, 3, 6, 7>(t16, t17);
-        const Q t36 = shuffled<0, 1, 4, 5>(t10, t11);
-        // real block of 2
-        const Q t37 = t35 - t36;
+        const Q t22 = t20 - t21;
         // real block of 16
-        const Q t38 = t34 - t37;
-        const Q t39 = t37 + t34;
+        const Q t23 = t19 - t22;
+        const Q t24 = t22 + t19;
         // real block of 2
-        const Q t40 = t35 + t36;
-        const Q x20_22 = io.pairs(20, 22);
-        const Q x3_5 = io.pairs(3, 5);
+        const Q t25 = t20 + t21;
+        const Q t26 = shuffled<2, 3, 6, 7>(t2, t3);
+        const Q t27 = shuffled<0, 1, 4, 5>(t8, t9);
+        // real block of 2
+        const Q t28 = t26 + t27;
+        const Q t29 = shuffled<2, 3, 6, 7>(t4, t5);
+        const Q t30 = shuffled<0, 1, 4, 5>(t6, t7);
+        // real block of 2
+        const Q t31 = t29 + t30;
+        // real block of 2
+        const Q t32 = t28 - t31;
+        // real block of 2
+        const Q t33 = t26 - t27;
+        // real block of 2
+        const Q t34 = t29 - t30;
+        const Q x6_24 = io.pairs(6, 24);
+        const Q x23_7 = io.pairs(23, 7);
         // complex block of 2
-        const Q t41 = x20_22 + x3_5;
-        const Q t42 = x20_22 - x3_5;
-        const Q x12_14 = io.pairs(12, 14);
-        const Q x29_31 = io.pairs(29, 31);
+        const Q t35 = x6_24 + x23_7;
+        const Q t36 = x6_24 - x23_7;
+        const Q x10_28 = io.pairs(10, 28);
+        const Q x27_11 = io.pairs(27, 11);
         // complex block of 2
-        const Q t43 = x12_14 + x29_31;
-        const Q t44 = x12_14 - x29_31;
-        const Q t45 = shuffled<0, 1, 4, 5>(t41, t42);
-        const Q t46 = shuffled<2, 3, 6, 7>(t43, t44);
+        const Q t37 = x10_28 + x27_11;
+        const Q t38 = x10_28 - x27_11;
+        const Q t39 = shuffled<0, 1, 4, 5>(t35, t36);
+        const Q t40 = shuffled<2, 3, 6, 7>(t37, t38);
         // real block of 2
-        const Q t47 = t45 + t46;
-        const Q t48 = shuffled<2, 3, 6, 7>(t41, t42);
-        const Q t49 = shuffled<0, 1, 4, 5>(t43, t44);
+        const Q t41 = t39 + t40;
+        const Q t42 = shuffled<0, 1, 4, 5>(t37, t38);
+        const Q t43 = shuffled<2, 3, 6, 7>(t35, t36);
         // real block of 2
-        const Q t50 = t48 + t49;
+        const Q t44 = t42 + t43;
         // real block of 2
-        const Q t51 = t47 - t50;
+        const Q t45 = t41 - t44;
         // real block of 2
-        const Q t52 = t45 - t46;
+        const Q t46 = t39 - t40;
         // real block of 2
-        const Q t53 = t48 - t49;
+        const Q t47 = t42 - t43;
+        const Q x8_26 = io.pairs(8, 26);
+        const Q x25_9 = io.pairs(25, 9);
+        // complex block of 2
+        const Q t48 = x8_26 + x25_9;
+        const Q t49 = x8_26 - x25_9;
+        const Q t50 = shuffled<2, 3, 6, 7>(t48, t49);
+        const Q t51 = shuffled<0, 1, 4, 5>(t48, t49);
         // real block of 2
-        const Q t54 = t6 + t20;
+        const Q t52 = t50 + t51;
+        const Q t53 = t50 - t51;
         // real block of 2
-        const Q t55 = t33 + t40;
+        const Q t54 = t14 + t52;
+        // real block of 2
+        const Q t55 = t18 + t25;
         // real block of 2
         const Q t56 = t54 + t55;
         // real block of 2
-        const Q t57 = t24 + t27;
+        const Q t57 = t41 + t44;
         // real block of 2
-        const Q t58 = t47 + t50;
+        const Q t58 = t28 + t31;
         // real block of 2
         const Q t59 = t57 + t58;
         // real block of 2
@@ -156,49 +156,49 @@ struct ComplexLines<34> {
         const Q t62 = t56 + t59;
         const Q t63 = t56 - t59;
         // real block of 2
-        const Q t64 = t6 - t20;
+        const Q t64 = t14 - t52;
         // skew block of 4
-        const Q t65 = t28 - t51;
+        const Q t65 = t45 - t32;
         const Q t66 = c[0] * t65;
         const Q t67 = t64 + t66;
         const Q t68 = t64 - t66;
         // real block of 2
-        const Q t69 = t33 - t40;
+        const Q t69 = t18 - t25;
         // skew block of 4
-        const Q t70 = t28 + t51;
+        const Q t70 = t45 + t32;
         const Q t71 = c[0] * t70;
         const Q t72 = t71 - t69;
         const Q t73 = t69 + t71;
         // real block of 16
-        const Q t74 = c[1] * t29;
-        const Q t75 = c[2] * t30;
+        const Q t74 = c[1] * t46;
+        const Q t75 = c[2] * t47;
         const Q t76 = t74 - t75;
-        const Q t77 = c[2] * t52;
-        const Q t78 = c[1] * t53;
+        const Q t77 = c[2] * t33;
+        const Q t78 = c[1] * t34;
         const Q t79 = t77 - t78;
         // complex block of 2
         const Q t80 = t76 + t79;
         const Q t81 = t76 - t79;
         // real block of 16
-        const Q t82 = c[1] * t30;
-        const Q t83 = c[2] * t29;
+        const Q t82 = c[1] * t47;
+        const Q t83 = c[2] * t46;
         const Q t84 = t82 + t83;
-        const Q t85 = c[2] * t53;
-        const Q t86 = c[1] * t52;
+        const Q t85 = c[2] * t34;
+        const Q t86 = c[1] * t33;
         const Q t87 = t85 + t86;
         // complex block of 2
         const Q t88 = t84 + t87;
         const Q t89 = t87 - t84;
         // real block of 16
-        const Q t90 = c[0] * t38;
+        const Q t90 = c[0] * t23;
         // complex block of 2
-        const Q t91 = t7 + t90;
-        const Q t92 = t7 - t90;
+        const Q t91 = t15 + t90;
+        const Q t92 = t15 - t90;
         // real block of 16
-        const Q t93 = c[0] * t39;
+        const Q t93 = c[0] * t24;
         // complex block of 2
-        const Q t94 = t21 + t93;
-        const Q t95 = t93 - t21;
+        const Q t94 = t53 + t93;
+        const Q t95 = t93 - t53;
         // complex block of 2
         const Q t96 = t91 + t80;
         const Q t97 = t94 + t88;
@@ -212,7 +212,6 @@ struct ComplexLines<34> {
         const Q t104 = shuffled<0, 1, 4, 5>(t0, t1);
         // complex block of 17, multiplier 2
         const Q t105 = t104 + t62;
-        io.pairs(0, 17, t105);
         const Q t106 = c[17] * t62;
         const Q t107 = t104 - t106;
         const Q t108 = c[18] * t63;
@@ -322,86 +321,104 @@ struct ComplexLines<34> {
         const Q t190 = t149 + t189;
         // spectrum block of 2
         const Q t191 = t186 + t190;
-        io.pairs(2, 19, t191);
         const Q t192 = t186 - t190;
-        io.pairs(32, 15, t192);
         // spectrum block of 2
         const Q t193 = t187 - t188;
-        io.pairs(8, 25, t193);
         const Q t194 = t187 + t188;
-        io.pairs(26, 9, t194);
+        const Q t195 = shuffled<0, 1, 6, 7>(t193, t194);
+        io.pairs(8, 9, t195);
         // spectrum block of 2
-        const Q t195 = t109 + t181;
+        const Q t196 = t109 + t181;
         // spectrum block of 2
-        const Q t196 = t195 - t178;
-        const Q t197 = t195 + t178;
-        const Q t198 = flipped<0, 1, 0, 1>(t151);
+        const Q t197 = t196 - t178;
+        const Q t198 = t196 + t178;
+        const Q t199 = flipped<0, 1, 0, 1>(t151);
         // spectrum block of 16
-        const Q t199 = t147 + t198;
-        const Q t200 = t147 - t198;
-        const Q t201 = c[0] * t200;
+        const Q t200 = t147 + t199;
+        const Q t201 = t147 - t199;
+        const Q t202 = c[0] * t201;
         // spectrum block of 2
-        const Q t202 = t196 - t201;
-        io.pairs(4, 21, t202);
-        const Q t203 = t196 + t201;
-        io.pairs(30, 13, t203);
+        const Q t203 = t197 - t202;
+        const Q t204 = t197 + t202;
         // spectrum block of 16
-        const Q t204 = c[0] * t199;
+        const Q t205 = c[0] * t200;
         // spectrum block of 2
-        const Q t205 = t197 - t204;
-        io.pairs(16, 33, t205);
-        const Q t206 = t197 + t204;
-        io.pairs(18, 1, t206);
+        const Q t206 = t198 - t205;
+        const Q t207 = shuffled<0, 1, 6, 7>(t206, t105);
+        io.pairs(16, 17, t207);
+        const Q t208 = shuffled<0, 1, 6, 7>(t192, t206);
+        io.pairs(32, 33, t208);
+        const Q t209 = t198 + t205;
+        const Q t210 = shuffled<0, 1, 6, 7>(t105, t209);
+        io.pairs(0, 1, t210);
+        const Q t211 = shuffled<0, 1, 6, 7>(t209, t191);
+        io.pairs(18, 19, t211);
         // spectrum block of 2
-        const Q t207 = t110 - t184;
+        const Q t212 = t110 - t184;
         // mirrored skew block of 4
-        const Q t208 = c[0] * t169;
-        const Q t209 = c[0] * t177;
-        const Q t210 = t208 - t209;
-        // spectrum block of 2
-        const Q t211 = t207 + t210;
-        const Q t212 = t207 - t210;
-        // spectrum block of 16
-        const Q t213 = c[1] * t161;
-        const Q t214 = c[2] * t154;
+        const Q t213 = c[0] * t169;
+        const Q t214 = c[0] * t177;
         const Q t215 = t213 - t214;
-        const Q t216 = c[1] * t154;
-        const Q t217 = c[2] * t161;
-        const Q t218 = t216 + t217;
         // spectrum block of 2
-        const Q t219 = t211 + t215;
-        io.pairs(12, 29, t219);
-        const Q t220 = t211 - t215;
-        io.pairs(22, 5, t220);
-        // spectrum block of 2
-        const Q t221 = t212 - t218;
-        io.pairs(14, 31, t221);
-        const Q t222 = t212 + t218;
-        io.pairs(20, 3, t222);
-        // spectrum block of 2
-        const Q t223 = t110 + t184;
-        // mirrored skew block of 4
-        const Q t224 = t208 + t209;
-        // spectrum block of 2
-        const Q t225 = t223 - t224;
-        const Q t226 = t223 + t224;
+        const Q t216 = t212 + t215;
+        const Q t217 = t212 - t215;
         // spectrum block of 16
-        const Q t227 = c[2] * t162;
-        const Q t228 = c[1] * t155;
-        const Q t229 = t227 - t228;
-        const Q t230 = c[2] * t155;
-        const Q t231 = c[1] * t162;
-        const Q t232 = t230 + t231;
+        const Q t218 = c[1] * t161;
+        const Q t219 = c[2] * t154;
+        const Q t220 = t218 - t219;
+        const Q t221 = c[1] * t154;
+        const Q t222 = c[2] * t161;
+        const Q t223 = t221 + t222;
         // spectrum block of 2
-        const Q t233 = t225 + t229;
-        io.pairs(24, 7, t233);
-        const Q t234 = t225 - t229;
-        io.pairs(10, 27, t234);
+        const Q t224 = t216 + t220;
+        const Q t225 = shuffled<0, 1, 6, 7>(t224, t204);
+        io.pairs(12, 13, t225);
+        const Q t226 = t216 - t220;
+        const Q t227 = shuffled<0, 1, 6, 7>(t203, t226);
+        io.pairs(4, 5, t227);
         // spectrum block of 2
-        const Q t235 = t226 - t232;
-        io.pairs(28, 11, t235);
-        const Q t236 = t226 + t232;
-        io.pairs(6, 23, t236);
+        const Q t228 = t217 - t223;
+        const Q t229 = shuffled<0, 1, 6, 7>(t228, t192);
+        io.pairs(14, 15, t229);
+        const Q t230 = shuffled<0, 1, 6, 7>(t204, t228);
+        io.pairs(30, 31, t230);
+        const Q t231 = t217 + t223;
+        const Q t232 = shuffled<0, 1, 6, 7>(t191, t231);
+        io.pairs(2, 3, t232);
+        const Q t233 = shuffled<0, 1, 6, 7>(t231, t203);
+        io.pairs(20, 21, t233);
+        // spectrum block of 2
+        const Q t234 = t110 + t184;
+        // mirrored skew block of 4
+        const Q t235 = t213 + t214;
+        // spectrum block of 2
+        const Q t236 = t234 - t235;
+        const Q t237 = t234 + t235;
+        // spectrum block of 16
+        const Q t238 = c[2] * t162;
+        const Q t239 = c[1] * t155;
+        const Q t240 = t238 - t239;
+        const Q t241 = c[2] * t155;
+        const Q t242 = c[1] * t162;
+        const Q t243 = t241 + t242;
+        // spectrum block of 2
+        const Q t244 = t236 + t240;
+        const Q t245 = shuffled<0, 1, 6, 7>(t244, t193);
+        io.pairs(24, 25, t245);
+        const Q t246 = t236 - t240;
+        const Q t247 = shuffled<0, 1, 6, 7>(t194, t246);
+        io.pairs(26, 27, t247);
+        // spectrum block of 2
+        const Q t248 = t237 - t243;
+        const Q t249 = shuffled<0, 1, 6, 7>(t246, t248);
+        io.pairs(10, 11, t249);
+        const Q t250 = shuffled<0, 1, 6, 7>(t248, t224);
+        io.pairs(28, 29, t250);
+        const Q t251 = t237 + t243;
+        const Q t252 = shuffled<0, 1, 6, 7>(t251, t244);
+        io.pairs(6, 7, t252);
+        const Q t253 = shuffled<0, 1, 6, 7>(t226, t251);
+        io.pairs(22, 23, t253);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 36.
 // Complex DFT of 36 points, prime-factor, order 9, 4; two lines of a stage to a register.
 // 64 sums, 52 differences, 40 products of registers, which do the 696 steps of the graph, those with
-// `scale` included; 43 shuffles, 9 changes of sign.
+// `scale` included; 59 shuffles, 9 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -207,129 +207,141 @@ struct ComplexLines<36> {
         const Q t129 = shuffled<1, 0, 3, 2>(t128);
         const Q t130 = t101 - t129;
         // complex block of 3
-        const Q t131 = Q(-c[1], c[1], -c[1], c[1]) * t108;
+        const Q t131 = c[1] * t122;
         const Q t132 = shuffled<1, 0, 3, 2>(t131);
-        const Q t133 = t107 + t132;
+        const Q t133 = t120 - t132;
+        const Q t134 = shuffled<0, 1, 4, 5>(t130, t105);
+        const Q t135 = shuffled<0, 1, 4, 5>(t133, t124);
+        // complex block of 2
+        const Q t136 = t134 + t135;
+        const Q t137 = t134 - t135;
+        const Q t138 = shuffled<2, 3, 6, 7>(t130, t105);
+        const Q t139 = shuffled<2, 3, 6, 7>(t133, t124);
+        // complex block of 2
+        const Q t140 = t138 + t139;
+        const Q t141 = t138 - t139;
+        // complex block of 2
+        const Q t142 = t136 + t140;
+        const Q t143 = t136 - t140;
+        const Q t144 = shuffled<1, 0, 3, 2>(t141);
+        const Q t145 = flipped<0, 1, 0, 1>(t144);
+        // complex block of 2
+        const Q t146 = t137 + t145;
+        const Q t147 = shuffled<0, 1, 6, 7>(t142, t146);
+        io.pairs(16, 17, t147);
+        const Q t148 = shuffled<0, 1, 6, 7>(t146, t143);
+        io.pairs(25, 26, t148);
+        const Q t149 = t137 - t145;
+        const Q t150 = shuffled<0, 1, 6, 7>(t149, t142);
+        io.pairs(7, 8, t150);
+        const Q t151 = shuffled<0, 1, 6, 7>(t143, t149);
+        io.pairs(34, 35, t151);
         // complex block of 3
-        const Q t134 = c[1] * t122;
-        const Q t135 = shuffled<1, 0, 3, 2>(t134);
-        const Q t136 = t120 - t135;
+        const Q t152 = t101 + t129;
         // complex block of 3
-        const Q t137 = Q(-c[1], c[1], -c[1], c[1]) * t127;
-        const Q t138 = shuffled<1, 0, 3, 2>(t137);
-        const Q t139 = t126 + t138;
-        const Q t140 = shuffled<0, 1, 4, 5>(t130, t133);
-        const Q t141 = shuffled<0, 1, 4, 5>(t136, t139);
+        const Q t153 = t120 + t132;
+        const Q t154 = shuffled<0, 1, 4, 5>(t90, t152);
+        const Q t155 = shuffled<0, 1, 4, 5>(t109, t153);
         // complex block of 2
-        const Q t142 = t140 + t141;
-        const Q t143 = t140 - t141;
-        const Q t144 = shuffled<2, 3, 6, 7>(t130, t133);
-        const Q t145 = shuffled<2, 3, 6, 7>(t136, t139);
+        const Q t156 = t154 + t155;
+        const Q t157 = t154 - t155;
+        const Q t158 = shuffled<2, 3, 6, 7>(t90, t152);
+        const Q t159 = shuffled<2, 3, 6, 7>(t109, t153);
         // complex block of 2
-        const Q t146 = t144 + t145;
-        const Q t147 = t144 - t145;
+        const Q t160 = t158 + t159;
+        const Q t161 = t158 - t159;
         // complex block of 2
-        const Q t148 = t142 + t146;
-        io.pairs(16, 20, t148);
-        const Q t149 = t142 - t146;
-        io.pairs(34, 2, t149);
-        const Q t150 = shuffled<1, 0, 3, 2>(t147);
-        const Q t151 = flipped<0, 1, 0, 1>(t150);
+        const Q t162 = t156 + t160;
+        const Q t163 = t156 - t160;
+        const Q t164 = shuffled<1, 0, 3, 2>(t161);
+        const Q t165 = flipped<0, 1, 0, 1>(t164);
         // complex block of 2
-        const Q t152 = t143 + t151;
-        io.pairs(25, 29, t152);
-        const Q t153 = t143 - t151;
-        io.pairs(7, 11, t153);
+        const Q t166 = t157 + t165;
+        const Q t167 = shuffled<0, 1, 6, 7>(t162, t166);
+        io.pairs(0, 1, t167);
+        const Q t168 = shuffled<0, 1, 6, 7>(t166, t163);
+        io.pairs(9, 10, t168);
+        const Q t169 = t157 - t165;
+        const Q t170 = shuffled<0, 1, 6, 7>(t163, t169);
+        io.pairs(18, 19, t170);
+        const Q t171 = shuffled<0, 1, 6, 7>(t169, t162);
+        io.pairs(27, 28, t171);
         // complex block of 3
-        const Q t154 = t101 + t129;
+        const Q t172 = Q(-c[1], c[1], -c[1], c[1]) * t108;
+        const Q t173 = shuffled<1, 0, 3, 2>(t172);
+        const Q t174 = t107 + t173;
         // complex block of 3
-        const Q t155 = t120 + t135;
-        const Q t156 = shuffled<0, 1, 4, 5>(t96, t154);
-        const Q t157 = shuffled<0, 1, 4, 5>(t115, t155);
+        const Q t175 = Q(-c[1], c[1], -c[1], c[1]) * t127;
+        const Q t176 = shuffled<1, 0, 3, 2>(t175);
+        const Q t177 = t126 + t176;
+        const Q t178 = shuffled<0, 1, 4, 5>(t174, t95);
+        const Q t179 = shuffled<0, 1, 4, 5>(t177, t114);
         // complex block of 2
-        const Q t158 = t156 + t157;
-        const Q t159 = t156 - t157;
-        const Q t160 = shuffled<2, 3, 6, 7>(t96, t154);
-        const Q t161 = shuffled<2, 3, 6, 7>(t115, t155);
+        const Q t180 = t178 + t179;
+        const Q t181 = t178 - t179;
+        const Q t182 = shuffled<2, 3, 6, 7>(t174, t95);
+        const Q t183 = shuffled<2, 3, 6, 7>(t177, t114);
         // complex block of 2
-        const Q t162 = t160 + t161;
-        const Q t163 = t160 - t161;
+        const Q t184 = t182 + t183;
+        const Q t185 = t182 - t183;
         // complex block of 2
-        const Q t164 = t158 + t162;
-        io.pairs(24, 28, t164);
-        const Q t165 = t158 - t162;
-        io.pairs(6, 10, t165);
-        const Q t166 = shuffled<1, 0, 3, 2>(t163);
-        const Q t167 = flipped<0, 1, 0, 1>(t166);
+        const Q t186 = t180 + t184;
+        const Q t187 = t180 - t184;
+        const Q t188 = shuffled<1, 0, 3, 2>(t185);
+        const Q t189 = flipped<0, 1, 0, 1>(t188);
         // complex block of 2
-        const Q t168 = t159 + t167;
-        io.pairs(33, 1, t168);
-        const Q t169 = t159 - t167;
-        io.pairs(15, 19, t169);
+        const Q t190 = t181 + t189;
+        const Q t191 = shuffled<0, 1, 6, 7>(t186, t190);
+        io.pairs(20, 21, t191);
+        const Q t192 = shuffled<0, 1, 6, 7>(t190, t187);
+        io.pairs(29, 30, t192);
+        const Q t193 = t181 - t189;
+        const Q t194 = shuffled<0, 1, 6, 7>(t187, t193);
+        io.pairs(2, 3, t194);
+        const Q t195 = shuffled<0, 1, 6, 7>(t193, t186);
+        io.pairs(11, 12, t195);
         // complex block of 3
-        const Q t170 = t107 - t132;
+        const Q t196 = t107 - t173;
         // complex block of 3
-        const Q t171 = t126 - t138;
+        const Q t197 = t126 - t176;
+        const Q t198 = shuffled<0, 1, 4, 5>(t99, t196);
+        const Q t199 = shuffled<0, 1, 4, 5>(t118, t197);
         // complex block of 2
-        const Q t172 = t170 + t171;
-        const Q t173 = t170 - t171;
-        const Q t174 = shuffled<0, 1, 4, 5>(t172, t173);
-        const Q t175 = shuffled<1, 0, 3, 2>(t173);
-        const Q t176 = shuffled<2, 3, 6, 7>(t172, t175);
-        const Q t177 = flipped<0, 0, 0, 1>(t176);
+        const Q t200 = t198 + t199;
+        const Q t201 = t198 - t199;
+        const Q t202 = shuffled<2, 3, 6, 7>(t99, t196);
+        const Q t203 = shuffled<2, 3, 6, 7>(t118, t197);
         // complex block of 2
-        const Q t178 = t174 + t177;
-        io.pairs(32, 5, t178);
-        const Q t179 = t174 - t177;
-        io.pairs(14, 23, t179);
-        const Q t180 = shuffled<0, 1, 4, 5>(t90, t99);
-        const Q t181 = shuffled<0, 1, 4, 5>(t109, t118);
+        const Q t204 = t202 + t203;
+        const Q t205 = t202 - t203;
         // complex block of 2
-        const Q t182 = t180 + t181;
-        const Q t183 = shuffled<2, 3, 6, 7>(t90, t99);
-        const Q t184 = shuffled<2, 3, 6, 7>(t109, t118);
+        const Q t206 = t200 + t204;
+        const Q t207 = t200 - t204;
+        const Q t208 = shuffled<1, 0, 3, 2>(t205);
+        const Q t209 = flipped<0, 1, 0, 1>(t208);
         // complex block of 2
-        const Q t185 = t183 + t184;
+        const Q t210 = t201 + t209;
+        const Q t211 = shuffled<0, 1, 6, 7>(t206, t210);
+        io.pairs(4, 5, t211);
+        const Q t212 = shuffled<0, 1, 6, 7>(t210, t207);
+        io.pairs(13, 14, t212);
+        const Q t213 = t201 - t209;
+        const Q t214 = shuffled<0, 1, 6, 7>(t207, t213);
+        io.pairs(22, 23, t214);
+        const Q t215 = shuffled<0, 1, 6, 7>(t213, t206);
+        io.pairs(31, 32, t215);
         // complex block of 2
-        const Q t186 = t182 + t185;
-        io.pairs(0, 4, t186);
-        const Q t187 = t182 - t185;
-        io.pairs(18, 22, t187);
+        const Q t216 = t96 + t115;
+        const Q t217 = t96 - t115;
+        const Q t218 = shuffled<0, 1, 4, 5>(t216, t217);
+        const Q t219 = shuffled<1, 0, 3, 2>(t217);
+        const Q t220 = shuffled<2, 3, 6, 7>(t216, t219);
+        const Q t221 = flipped<0, 0, 0, 1>(t220);
         // complex block of 2
-        const Q t188 = t180 - t181;
-        // complex block of 2
-        const Q t189 = t183 - t184;
-        const Q t190 = shuffled<1, 0, 3, 2>(t189);
-        const Q t191 = flipped<0, 1, 0, 1>(t190);
-        // complex block of 2
-        const Q t192 = t188 + t191;
-        io.pairs(9, 13, t192);
-        const Q t193 = t188 - t191;
-        io.pairs(27, 31, t193);
-        const Q t194 = shuffled<0, 1, 4, 5>(t105, t95);
-        const Q t195 = shuffled<0, 1, 4, 5>(t124, t114);
-        // complex block of 2
-        const Q t196 = t194 + t195;
-        const Q t197 = shuffled<2, 3, 6, 7>(t105, t95);
-        const Q t198 = shuffled<2, 3, 6, 7>(t124, t114);
-        // complex block of 2
-        const Q t199 = t197 + t198;
-        // complex block of 2
-        const Q t200 = t196 + t199;
-        io.pairs(8, 12, t200);
-        const Q t201 = t196 - t199;
-        io.pairs(26, 30, t201);
-        // complex block of 2
-        const Q t202 = t194 - t195;
-        // complex block of 2
-        const Q t203 = t197 - t198;
-        const Q t204 = shuffled<1, 0, 3, 2>(t203);
-        const Q t205 = flipped<0, 1, 0, 1>(t204);
-        // complex block of 2
-        const Q t206 = t202 + t205;
-        io.pairs(17, 21, t206);
-        const Q t207 = t202 - t205;
-        io.pairs(35, 3, t207);
+        const Q t222 = t218 + t221;
+        io.pairs(24, 33, t222);
+        const Q t223 = t218 - t221;
+        io.pairs(6, 15, t223);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 38.
 // Complex DFT of 38 points, prime-factor, order 19, 2; two lines of a stage to a register.
 // 108 sums, 94 differences, 110 products of registers, which do the 1320 steps of the graph, those with
-// `scale` included; 28 shuffles, 9 changes of sign.
+// `scale` included; 46 shuffles, 9 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -404,150 +404,166 @@ struct ComplexLines<38> {
         const Q t255 = c[4] * t220;
         const Q t256 = t254 + t255;
         // spectrum block of 3, multiplier 2
-        const Q t257 = c[0] * t216;
-        const Q t258 = t140 - t257;
+        const Q t257 = t216 + t140;
+        const Q t258 = c[0] * t216;
+        const Q t259 = t140 - t258;
         // spectrum block of 3, multiplier 2
-        const Q t259 = c[22] * t221;
-        const Q t260 = c[23] * t226;
-        const Q t261 = t259 + t260;
+        const Q t260 = c[22] * t221;
+        const Q t261 = c[23] * t226;
+        const Q t262 = t260 + t261;
         // spectrum block of 3, multiplier 2
-        const Q t262 = c[24] * t225;
-        const Q t263 = c[25] * t220;
-        const Q t264 = t262 - t263;
+        const Q t263 = c[24] * t225;
+        const Q t264 = c[25] * t220;
+        const Q t265 = t263 - t264;
         // spectrum block of 3, multiplier 2
-        const Q t265 = c[1] * t247;
-        const Q t266 = t145 - t265;
-        const Q t267 = t145 + t265;
+        const Q t266 = c[1] * t247;
+        const Q t267 = t145 - t266;
+        const Q t268 = t145 + t266;
         // spectrum block of 9, multiplier 2
-        const Q t268 = c[2] * t239;
-        const Q t269 = c[3] * t234;
-        const Q t270 = t268 - t269;
-        const Q t271 = c[5] * t238;
-        const Q t272 = c[4] * t233;
-        const Q t273 = t271 + t272;
+        const Q t269 = c[2] * t239;
+        const Q t270 = c[3] * t234;
+        const Q t271 = t269 - t270;
+        const Q t272 = c[5] * t238;
+        const Q t273 = c[4] * t233;
+        const Q t274 = t272 + t273;
         // spectrum block of 3, multiplier 2
-        const Q t274 = c[0] * t229;
-        const Q t275 = t143 - t274;
+        const Q t275 = t229 + t143;
+        const Q t276 = c[0] * t229;
+        const Q t277 = t143 - t276;
         // spectrum block of 3, multiplier 2
-        const Q t276 = c[22] * t234;
-        const Q t277 = c[23] * t239;
-        const Q t278 = t276 + t277;
+        const Q t278 = c[22] * t234;
+        const Q t279 = c[23] * t239;
+        const Q t280 = t278 + t279;
         // spectrum block of 3, multiplier 2
-        const Q t279 = c[24] * t238;
-        const Q t280 = c[25] * t233;
-        const Q t281 = t279 - t280;
+        const Q t281 = c[24] * t238;
+        const Q t282 = c[25] * t233;
+        const Q t283 = t281 - t282;
         // spectrum block of 3, multiplier 2
-        const Q t282 = c[1] * t215;
-        const Q t283 = t258 - t282;
+        const Q t284 = c[1] * t215;
+        const Q t285 = t259 - t284;
         // spectrum block of 3, multiplier 2
-        const Q t284 = t249 - t256;
-        const Q t285 = shuffled<0, 1, 4, 5>(t284, t283);
-        const Q t286 = shuffled<2, 3, 6, 7>(t284, t283);
+        const Q t286 = c[0] * t253;
+        const Q t287 = t250 - t286;
+        const Q t288 = t287 - t262;
+        const Q t289 = t287 + t262;
+        // spectrum block of 3, multiplier 2
+        const Q t290 = t249 - t256;
+        const Q t291 = shuffled<0, 1, 4, 5>(t290, t288);
+        const Q t292 = shuffled<2, 3, 6, 7>(t290, t288);
         // complex block of 2
-        const Q t287 = t285 + t286;
-        io.pairs(12, 14, t287);
-        const Q t288 = t285 - t286;
-        io.pairs(31, 33, t288);
-        // spectrum block of 3, multiplier 2
-        const Q t289 = t258 + t282;
-        // spectrum block of 3, multiplier 2
-        const Q t290 = t270 + t267;
-        // spectrum block of 3, multiplier 2
-        const Q t291 = c[0] * t273;
-        const Q t292 = t291 + t266;
-        const Q t293 = t292 - t281;
-        const Q t294 = t292 + t281;
-        const Q t295 = shuffled<0, 1, 4, 5>(t294, t289);
-        const Q t296 = shuffled<2, 3, 6, 7>(t294, t289);
+        const Q t293 = t291 + t292;
+        const Q t294 = t291 - t292;
+        const Q t295 = shuffled<0, 1, 6, 7>(t293, t294);
+        io.pairs(12, 13, t295);
+        const Q t296 = shuffled<0, 1, 6, 7>(t294, t293);
+        io.pairs(31, 32, t296);
+        const Q t297 = shuffled<0, 1, 4, 5>(t285, t289);
+        const Q t298 = shuffled<2, 3, 6, 7>(t285, t289);
         // complex block of 2
-        const Q t297 = t295 + t296;
-        io.pairs(20, 22, t297);
-        const Q t298 = t295 - t296;
-        io.pairs(1, 3, t298);
-        const Q t299 = shuffled<0, 1, 4, 5>(t290, t293);
-        const Q t300 = shuffled<2, 3, 6, 7>(t290, t293);
+        const Q t299 = t297 + t298;
+        const Q t300 = t297 - t298;
+        const Q t301 = shuffled<0, 1, 6, 7>(t299, t300);
+        io.pairs(14, 15, t301);
+        const Q t302 = shuffled<0, 1, 6, 7>(t300, t299);
+        io.pairs(33, 34, t302);
+        // spectrum block of 3, multiplier 2
+        const Q t303 = t259 + t284;
+        const Q t304 = shuffled<0, 1, 4, 5>(t257, t303);
+        const Q t305 = shuffled<2, 3, 6, 7>(t257, t303);
         // complex block of 2
-        const Q t301 = t299 + t300;
-        io.pairs(28, 30, t301);
-        const Q t302 = t299 - t300;
-        io.pairs(9, 11, t302);
+        const Q t306 = t304 + t305;
+        const Q t307 = t304 - t305;
+        const Q t308 = shuffled<0, 1, 6, 7>(t306, t307);
+        io.pairs(2, 3, t308);
+        const Q t309 = shuffled<0, 1, 6, 7>(t307, t306);
+        io.pairs(21, 22, t309);
         // spectrum block of 3, multiplier 2
-        const Q t303 = t253 + t250;
+        const Q t310 = t253 + t250;
         // spectrum block of 3, multiplier 2
-        const Q t304 = c[0] * t256;
-        const Q t305 = t304 + t249;
-        const Q t306 = t305 - t264;
-        const Q t307 = t305 + t264;
-        // spectrum block of 3, multiplier 2
-        const Q t308 = c[1] * t228;
-        const Q t309 = t275 + t308;
-        const Q t310 = shuffled<0, 1, 4, 5>(t306, t303);
-        const Q t311 = shuffled<2, 3, 6, 7>(t306, t303);
+        const Q t311 = c[0] * t274;
+        const Q t312 = t311 + t267;
+        const Q t313 = t312 - t283;
+        const Q t314 = t312 + t283;
+        const Q t315 = shuffled<0, 1, 4, 5>(t120, t314);
+        const Q t316 = shuffled<2, 3, 6, 7>(t120, t314);
         // complex block of 2
-        const Q t312 = t310 + t311;
-        io.pairs(8, 10, t312);
-        const Q t313 = t310 - t311;
-        io.pairs(27, 29, t313);
-        const Q t314 = shuffled<0, 1, 4, 5>(t309, t307);
-        const Q t315 = shuffled<2, 3, 6, 7>(t309, t307);
+        const Q t317 = t315 + t316;
+        const Q t318 = t315 - t316;
+        const Q t319 = shuffled<0, 1, 6, 7>(t317, t318);
+        io.pairs(0, 1, t319);
+        const Q t320 = shuffled<0, 1, 6, 7>(t318, t317);
+        io.pairs(19, 20, t320);
+        const Q t321 = shuffled<0, 1, 4, 5>(t310, t313);
+        const Q t322 = shuffled<2, 3, 6, 7>(t310, t313);
         // complex block of 2
-        const Q t316 = t314 + t315;
-        io.pairs(16, 18, t316);
-        const Q t317 = t314 - t315;
-        io.pairs(35, 37, t317);
+        const Q t323 = t321 + t322;
+        const Q t324 = t321 - t322;
+        const Q t325 = shuffled<0, 1, 6, 7>(t323, t324);
+        io.pairs(10, 11, t325);
+        const Q t326 = shuffled<0, 1, 6, 7>(t324, t323);
+        io.pairs(29, 30, t326);
         // spectrum block of 3, multiplier 2
-        const Q t318 = c[0] * t253;
-        const Q t319 = t250 - t318;
-        const Q t320 = t319 - t261;
-        const Q t321 = t319 + t261;
-        const Q t322 = shuffled<0, 1, 4, 5>(t320, t321);
-        const Q t323 = shuffled<2, 3, 6, 7>(t320, t321);
+        const Q t327 = c[0] * t256;
+        const Q t328 = t327 + t249;
+        const Q t329 = t328 - t265;
+        const Q t330 = t328 + t265;
+        // spectrum block of 3, multiplier 2
+        const Q t331 = t271 + t268;
+        const P t332 = part<0>(t330);
+        const P t333 = part<1>(t330);
         // complex block of 2
-        const Q t324 = t322 + t323;
-        io.pairs(32, 34, t324);
-        const Q t325 = t322 - t323;
-        io.pairs(13, 15, t325);
-        // spectrum block of 3, multiplier 2
-        const Q t326 = t275 - t308;
-        // spectrum block of 3, multiplier 2
-        const Q t327 = t266 - t273;
-        const Q t328 = shuffled<0, 1, 4, 5>(t326, t327);
-        const Q t329 = shuffled<2, 3, 6, 7>(t326, t327);
-        // complex block of 2
-        const Q t330 = t328 + t329;
-        io.pairs(24, 26, t330);
-        const Q t331 = t328 - t329;
-        io.pairs(5, 7, t331);
-        // spectrum block of 3, multiplier 2
-        const Q t332 = c[0] * t270;
-        const Q t333 = t267 - t332;
-        const Q t334 = t333 - t278;
-        const Q t335 = t333 + t278;
-        const Q t336 = shuffled<0, 1, 4, 5>(t335, t334);
-        const Q t337 = shuffled<2, 3, 6, 7>(t335, t334);
+        const P t334 = t332 + t333;
+        io.pair(18, t334);
+        const P t335 = t332 - t333;
+        io.pair(37, t335);
+        const Q t336 = shuffled<0, 1, 4, 5>(t329, t331);
+        const Q t337 = shuffled<2, 3, 6, 7>(t329, t331);
         // complex block of 2
         const Q t338 = t336 + t337;
-        io.pairs(4, 6, t338);
         const Q t339 = t336 - t337;
-        io.pairs(23, 25, t339);
+        const Q t340 = shuffled<0, 1, 6, 7>(t338, t339);
+        io.pairs(8, 9, t340);
+        const Q t341 = shuffled<0, 1, 6, 7>(t339, t338);
+        io.pairs(27, 28, t341);
         // spectrum block of 3, multiplier 2
-        const Q t340 = t216 + t140;
-        const Q t341 = shuffled<0, 1, 4, 5>(t120, t340);
-        const Q t342 = shuffled<2, 3, 6, 7>(t120, t340);
-        // complex block of 2
-        const Q t343 = t341 + t342;
-        io.pairs(0, 2, t343);
-        const Q t344 = t341 - t342;
-        io.pairs(19, 21, t344);
+        const Q t342 = c[1] * t228;
+        const Q t343 = t277 - t342;
         // spectrum block of 3, multiplier 2
-        const Q t345 = t229 + t143;
-        const P t346 = part<0>(t345);
-        const P t347 = part<1>(t345);
+        const Q t344 = c[0] * t271;
+        const Q t345 = t268 - t344;
+        const Q t346 = t345 - t280;
+        const Q t347 = t345 + t280;
+        // spectrum block of 3, multiplier 2
+        const Q t348 = t267 - t274;
+        const Q t349 = shuffled<0, 1, 4, 5>(t347, t343);
+        const Q t350 = shuffled<2, 3, 6, 7>(t347, t343);
         // complex block of 2
-        const P t348 = t346 + t347;
-        io.pair(36, t348);
-        const P t349 = t346 - t347;
-        io.pair(17, t349);
+        const Q t351 = t349 + t350;
+        const Q t352 = t349 - t350;
+        const Q t353 = shuffled<0, 1, 6, 7>(t351, t352);
+        io.pairs(4, 5, t353);
+        const Q t354 = shuffled<0, 1, 6, 7>(t352, t351);
+        io.pairs(23, 24, t354);
+        const Q t355 = shuffled<0, 1, 4, 5>(t346, t348);
+        const Q t356 = shuffled<2, 3, 6, 7>(t346, t348);
+        // complex block of 2
+        const Q t357 = t355 + t356;
+        const Q t358 = t355 - t356;
+        const Q t359 = shuffled<0, 1, 6, 7>(t357, t358);
+        io.pairs(6, 7, t359);
+        const Q t360 = shuffled<0, 1, 6, 7>(t358, t357);
+        io.pairs(25, 26, t360);
+        // spectrum block of 3, multiplier 2
+        const Q t361 = t277 + t342;
+        const Q t362 = shuffled<0, 1, 4, 5>(t361, t275);
+        const Q t363 = shuffled<2, 3, 6, 7>(t361, t275);
+        // complex block of 2
+        const Q t364 = t362 + t363;
+        const Q t365 = t362 - t363;
+        const Q t366 = shuffled<0, 1, 6, 7>(t364, t365);
+        io.pairs(16, 17, t366);
+        const Q t367 = shuffled<0, 1, 6, 7>(t365, t364);
+        io.pairs(35, 36, t367);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 39.
 // Complex DFT of 39 points, prime-factor, order 3, 13; two lines of a stage to a register.
 // 105 sums, 84 differences, 73 products of registers, which do the 1030 steps of the graph, those with
-// `scale` included; 63 shuffles, 11 changes of sign.
+// `scale` included; 77 shuffles, 11 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -38,151 +38,149 @@ struct ComplexLines<39> {
         using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
-        const Q x13_16 = io.pairs(13, 16);
-        const Q x26_29 = io.pairs(26, 29);
+        const Q x13_1 = io.pairs(13, 1);
+        const Q x26_14 = io.pairs(26, 14);
         // complex block of 3
-        const Q t0 = x13_16 + x26_29;
-        const Q t1 = x13_16 - x26_29;
-        const Q x0_3 = io.pairs(0, 3);
-        const Q t2 = t0 + x0_3;
+        const Q t0 = x13_1 + x26_14;
+        const Q t1 = x13_1 - x26_14;
+        const Q x0_27 = io.pairs(0, 27);
+        const Q t2 = t0 + x0_27;
         const Q t3 = c[0] * t0;
-        const Q t4 = x0_3 - t3;
-        const Q t5 = Q(c[1], -c[1], c[1], -c[1]) * t1;
+        const Q t4 = x0_27 - t3;
+        const Q t5 = Q(-c[1], c[1], -c[1], c[1]) * t1;
         const Q t6 = shuffled<1, 0, 3, 2>(t5);
         const Q t7 = t4 + t6;
-        const Q x37_1 = io.pairs(37, 1);
-        const Q x11_14 = io.pairs(11, 14);
+        const Q t8 = t4 - t6;
+        const Q x28_16 = io.pairs(28, 16);
+        const Q x2_29 = io.pairs(2, 29);
         // complex block of 3
-        const Q t8 = x37_1 + x11_14;
-        const Q t9 = x37_1 - x11_14;
-        const Q x24_27 = io.pairs(24, 27);
-        const Q t10 = t8 + x24_27;
-        const Q t11 = c[0] * t8;
-        const Q t12 = x24_27 - t11;
-        const Q t13 = Q(-c[1], c[1], -c[1], c[1]) * t9;
-        const Q t14 = shuffled<1, 0, 3, 2>(t13);
-        const Q t15 = t12 + t14;
-        const Q t16 = t12 - t14;
-        const Q x25_28 = io.pairs(25, 28);
-        const Q x38_2 = io.pairs(38, 2);
+        const Q t9 = x28_16 + x2_29;
+        const Q t10 = x28_16 - x2_29;
+        const Q x15_3 = io.pairs(15, 3);
+        const Q t11 = t9 + x15_3;
+        const Q t12 = c[0] * t9;
+        const Q t13 = x15_3 - t12;
+        const Q t14 = Q(c[1], -c[1], c[1], -c[1]) * t10;
+        const Q t15 = shuffled<1, 0, 3, 2>(t14);
+        const Q t16 = t13 + t15;
+        const Q x4_31 = io.pairs(4, 31);
+        const Q x17_5 = io.pairs(17, 5);
         // complex block of 3
-        const Q t17 = x25_28 + x38_2;
-        const Q t18 = x25_28 - x38_2;
-        const Q x12_15 = io.pairs(12, 15);
-        const Q t19 = t17 + x12_15;
+        const Q t17 = x4_31 + x17_5;
+        const Q t18 = x4_31 - x17_5;
+        const Q x30_18 = io.pairs(30, 18);
+        const Q t19 = t17 + x30_18;
         const Q t20 = c[0] * t17;
-        const Q t21 = x12_15 - t20;
+        const Q t21 = x30_18 - t20;
         const Q t22 = Q(-c[1], c[1], -c[1], c[1]) * t18;
         const Q t23 = shuffled<1, 0, 3, 2>(t22);
         const Q t24 = t21 + t23;
         const Q t25 = t21 - t23;
-        const Q x4_7 = io.pairs(4, 7);
-        const Q x17_20 = io.pairs(17, 20);
+        const Q x19_7 = io.pairs(19, 7);
+        const Q x32_20 = io.pairs(32, 20);
         // complex block of 3
-        const Q t26 = x4_7 + x17_20;
-        const Q t27 = x4_7 - x17_20;
-        const Q x30_33 = io.pairs(30, 33);
-        const Q t28 = t26 + x30_33;
+        const Q t26 = x19_7 + x32_20;
+        const Q t27 = x19_7 - x32_20;
+        const Q x6_33 = io.pairs(6, 33);
+        const Q t28 = t26 + x6_33;
         const Q t29 = c[0] * t26;
-        const Q t30 = x30_33 - t29;
+        const Q t30 = x6_33 - t29;
         const Q t31 = Q(-c[1], c[1], -c[1], c[1]) * t27;
         const Q t32 = shuffled<1, 0, 3, 2>(t31);
         const Q t33 = t30 + t32;
         const Q t34 = t30 - t32;
-        const Q x31_34 = io.pairs(31, 34);
-        const Q x5_8 = io.pairs(5, 8);
+        const P x34 = io.pair(34);
+        const P x8 = io.pair(8);
         // complex block of 3
-        const Q t35 = x31_34 + x5_8;
-        const Q t36 = x31_34 - x5_8;
-        const Q x18_21 = io.pairs(18, 21);
-        const Q t37 = t35 + x18_21;
-        const Q t38 = c[0] * t35;
-        const Q t39 = x18_21 - t38;
-        const Q t40 = Q(-c[1], c[1], -c[1], c[1]) * t36;
-        const Q t41 = shuffled<1, 0, 3, 2>(t40);
-        const Q t42 = t39 + t41;
-        const Q t43 = t39 - t41;
-        const Q x19_22 = io.pairs(19, 22);
-        const Q x32_35 = io.pairs(32, 35);
+        const P t35 = x34 + x8;
+        const P t36 = x34 - x8;
+        const P x21 = io.pair(21);
+        const P t37 = t35 + x21;
+        const P t38 = c[0] * t35;
+        const P t39 = x21 - t38;
+        const P t40 = P(-c[1], c[1]) * t36;
+        const P t41 = shuffled<1, 0>(t40);
+        const P t42 = t39 + t41;
+        const P t43 = t39 - t41;
+        const Q x22_10 = io.pairs(22, 10);
+        const Q x35_23 = io.pairs(35, 23);
         // complex block of 3
-        const Q t44 = x19_22 + x32_35;
-        const Q t45 = x19_22 - x32_35;
-        const Q x6_9 = io.pairs(6, 9);
-        const Q t46 = t44 + x6_9;
+        const Q t44 = x22_10 + x35_23;
+        const Q t45 = x22_10 - x35_23;
+        const Q x9_36 = io.pairs(9, 36);
+        const Q t46 = t44 + x9_36;
         const Q t47 = c[0] * t44;
-        const Q t48 = x6_9 - t47;
+        const Q t48 = x9_36 - t47;
         const Q t49 = Q(-c[1], c[1], -c[1], c[1]) * t45;
         const Q t50 = shuffled<1, 0, 3, 2>(t49);
         const Q t51 = t48 + t50;
         const Q t52 = t48 - t50;
-        const P x10 = io.pair(10);
-        const P x23 = io.pair(23);
+        const Q x37_25 = io.pairs(37, 25);
+        const Q x11_38 = io.pairs(11, 38);
         // complex block of 3
-        const P t53 = x10 + x23;
-        const P t54 = x10 - x23;
-        const P x36 = io.pair(36);
-        const P t55 = t53 + x36;
-        const P t56 = c[0] * t53;
-        const P t57 = x36 - t56;
-        const P t58 = P(c[1], -c[1]) * t54;
-        const P t59 = shuffled<1, 0>(t58);
-        const P t60 = t57 + t59;
+        const Q t53 = x37_25 + x11_38;
+        const Q t54 = x37_25 - x11_38;
+        const Q x24_12 = io.pairs(24, 12);
+        const Q t55 = t53 + x24_12;
+        const Q t56 = c[0] * t53;
+        const Q t57 = x24_12 - t56;
+        const Q t58 = Q(-c[1], c[1], -c[1], c[1]) * t54;
+        const Q t59 = shuffled<1, 0, 3, 2>(t58);
+        const Q t60 = t57 + t59;
+        const Q t61 = t57 - t59;
         // complex block of 3
-        const Q t61 = t4 - t6;
-        // complex block of 3
-        const P t62 = t57 - t59;
-        const Q t63 = shuffled<2, 3, 6, 7>(t2, t61);
-        const Q t64 = joined(t55, t62);
+        const Q t62 = t13 - t15;
+        const Q t63 = shuffled<2, 3, 6, 7>(t11, t62);
+        const Q t64 = shuffled<2, 3, 6, 7>(t46, t51);
         // real block of 2
         const Q t65 = t63 + t64;
         const Q t66 = t63 - t64;
-        const Q t67 = shuffled<0, 1, 4, 5>(t10, t15);
-        const Q t68 = shuffled<2, 3, 6, 7>(t19, t24);
+        const Q t67 = shuffled<0, 1, 4, 5>(t55, t60);
+        const Q t68 = shuffled<0, 1, 4, 5>(t11, t62);
         // real block of 2
         const Q t69 = t67 + t68;
-        const Q t70 = shuffled<2, 3, 6, 7>(t46, t51);
-        const Q t71 = shuffled<0, 1, 4, 5>(t28, t33);
+        const Q t70 = t67 - t68;
+        const Q t71 = shuffled<0, 1, 4, 5>(t46, t51);
+        const Q t72 = shuffled<0, 1, 4, 5>(t19, t24);
         // real block of 2
-        const Q t72 = t70 - t71;
-        const Q t73 = shuffled<2, 3, 6, 7>(t10, t15);
-        const Q t74 = shuffled<0, 1, 4, 5>(t19, t24);
+        const Q t73 = t71 - t72;
+        const Q t74 = shuffled<2, 3, 6, 7>(t2, t7);
+        const Q t75 = shuffled<2, 3, 6, 7>(t55, t60);
         // real block of 2
-        const Q t75 = t73 - t74;
+        const Q t76 = t74 - t75;
         // complex block of 3
-        const Q t76 = t72 + t75;
-        const Q t77 = t72 - t75;
+        const Q t77 = t73 + t76;
+        const Q t78 = t73 - t76;
+        const Q t79 = shuffled<2, 3, 6, 7>(t28, t33);
+        const Q t80 = shuffled<0, 1, 4, 5>(t28, t33);
         // real block of 2
-        const Q t78 = t65 + t69;
-        const Q t79 = t65 - t69;
+        const Q t81 = t79 - t80;
+        const Q t82 = joined(t37, t42);
+        const Q t83 = shuffled<2, 3, 6, 7>(t19, t24);
+        // real block of 2
+        const Q t84 = t82 - t83;
         // complex block of 3
-        const Q t80 = c[0] * t76;
-        const Q t81 = t66 - t80;
+        const Q t85 = t81 + t84;
+        const Q t86 = t81 - t84;
         // real block of 2
-        const Q t82 = t67 - t68;
-        const Q t83 = shuffled<2, 3, 6, 7>(t28, t33);
-        const Q t84 = shuffled<0, 1, 4, 5>(t46, t51);
-        // real block of 2
-        const Q t85 = t83 - t84;
-        const Q t86 = shuffled<2, 3, 6, 7>(t37, t42);
-        const Q t87 = shuffled<0, 1, 4, 5>(t37, t42);
-        // real block of 2
-        const Q t88 = t86 - t87;
+        const Q t87 = t65 + t69;
+        const Q t88 = t65 - t69;
         // complex block of 3
-        const Q t89 = t85 + t88;
-        const Q t90 = t85 - t88;
-        const Q t91 = c[0] * t89;
-        const Q t92 = t82 - t91;
+        const Q t89 = c[0] * t77;
+        const Q t90 = t66 - t89;
+        const Q t91 = c[0] * t85;
+        const Q t92 = t70 - t91;
         // real block of 2
-        const Q t93 = t70 + t71;
+        const Q t93 = t71 + t72;
         // real block of 2
-        const Q t94 = t83 + t84;
+        const Q t94 = t79 + t80;
         // real block of 2
         const Q t95 = t93 + t94;
         const Q t96 = t93 - t94;
         // real block of 2
-        const Q t97 = t73 + t74;
+        const Q t97 = t74 + t75;
         // real block of 2
-        const Q t98 = t86 + t87;
+        const Q t98 = t82 + t83;
         // real block of 2
         const Q t99 = t97 + t98;
         const Q t100 = t97 - t98;
@@ -192,20 +190,20 @@ struct ComplexLines<39> {
         // real block of 3
         const Q t103 = t96 + t100;
         const Q t104 = t96 - t100;
-        const Q t105 = shuffled<2, 3, 6, 7>(t7, t52);
-        const P t106 = part<0>(t34);
-        const Q t107 = joined(t60, t106);
+        const Q t105 = shuffled<2, 3, 4, 5>(t16, t52);
+        const Q t106 = shuffled<2, 3, 4, 5>(t52, t25);
         // real block of 2
-        const Q t108 = t105 + t107;
-        const Q t109 = shuffled<0, 1, 6, 7>(t16, t34);
-        const Q t110 = shuffled<2, 3, 4, 5>(t25, t52);
+        const Q t107 = t105 + t106;
+        const Q t108 = shuffled<0, 1, 6, 7>(t61, t34);
+        const Q t109 = shuffled<0, 1, 4, 5>(t16, t34);
         // real block of 2
-        const Q t111 = t109 + t110;
+        const Q t110 = t108 + t109;
         // real block of 2
-        const Q t112 = t108 + t111;
-        const Q t113 = t108 - t111;
-        const Q t114 = shuffled<2, 3, 6, 7>(t16, t43);
-        const Q t115 = shuffled<0, 1, 4, 5>(t25, t43);
+        const Q t111 = t107 + t110;
+        const Q t112 = t107 - t110;
+        const P t113 = part<1>(t8);
+        const Q t114 = joined(t113, t43);
+        const Q t115 = shuffled<2, 3, 6, 7>(t61, t25);
         // real block of 2
         const Q t116 = t114 + t115;
         const P t117 = part<0>(t116);
@@ -213,15 +211,15 @@ struct ComplexLines<39> {
         // real block of 2
         const P t119 = t117 + t118;
         const P t120 = t117 - t118;
-        const Q t121 = shuffled<2, 3, 6, 7>(t112, t113);
+        const Q t121 = shuffled<2, 3, 6, 7>(t111, t112);
         const Q t122 = joined(t119, t120);
         // real block of 3
         const Q t123 = t121 + t122;
         const Q t124 = t121 - t122;
         // real block of 2
-        const Q t125 = t105 - t107;
+        const Q t125 = t105 - t106;
         // real block of 2
-        const Q t126 = t109 - t110;
+        const Q t126 = t108 - t109;
         // real block of 2
         const Q t127 = t114 - t115;
         const P t128 = part<1>(t125);
@@ -240,14 +238,14 @@ struct ComplexLines<39> {
         const P t140 = c[0] * t133;
         const P t141 = t139 - t140;
         // real block of 3
-        const Q t142 = t101 + t78;
-        const Q t143 = shuffled<0, 1, 4, 5>(t2, t61);
+        const Q t142 = t101 + t87;
+        const Q t143 = shuffled<0, 1, 4, 5>(t2, t7);
         // complex block of 13, multiplier 3
         const Q t144 = c[8] * t142;
         const Q t145 = t143 - t144;
         // real block of 3
         const Q t146 = c[0] * t101;
-        const Q t147 = t78 - t146;
+        const Q t147 = t87 - t146;
         // complex block of 13, multiplier 3
         const Q t148 = c[9] * t147;
         // real block of 3
@@ -260,8 +258,8 @@ struct ComplexLines<39> {
         const Q t153 = c[12] * t147;
         const Q t154 = t152 + t153;
         // complex block of 3
-        const Q t155 = t76 + t66;
-        const Q t156 = t89 + t82;
+        const Q t155 = t77 + t66;
+        const Q t156 = t85 + t70;
         const Q t157 = shuffled<1, 0, 3, 2>(t156);
         // complex block of 13, multiplier 3
         const Q t158 = Q(-c[2], c[2], -c[2], c[2]) * t157;
@@ -272,11 +270,11 @@ struct ComplexLines<39> {
         const Q t163 = c[2] * t159;
         const Q t164 = t162 + t163;
         // complex block of 3
-        const Q t165 = c[1] * t90;
-        const Q t166 = t81 + t165;
-        const Q t167 = c[1] * t77;
+        const Q t165 = c[1] * t86;
+        const Q t166 = t90 + t165;
+        const Q t167 = c[1] * t78;
         const Q t168 = t92 - t167;
-        const Q t169 = t81 - t165;
+        const Q t169 = t90 - t165;
         const Q t170 = t92 + t167;
         const Q t171 = shuffled<1, 0, 3, 2>(t170);
         // complex block of 13, multiplier 3
@@ -306,9 +304,9 @@ struct ComplexLines<39> {
         const Q t192 = t191 + t187;
         const Q t193 = t187 - t191;
         // real block of 3
-        const Q t194 = t103 + t79;
+        const Q t194 = t103 + t88;
         const Q t195 = c[0] * t103;
-        const Q t196 = t79 - t195;
+        const Q t196 = t88 - t195;
         // complex block of 13, multiplier 3
         const Q t197 = c[13] * t196;
         // real block of 3
@@ -322,7 +320,6 @@ struct ComplexLines<39> {
         const Q t203 = t201 - t202;
         // complex block of 13, multiplier 3
         const Q t204 = t143 + t142;
-        io.pairs(0, 13, t204);
         // spectrum block of 3
         const Q t205 = t151 + t145;
         // complex block of 13, multiplier 3
@@ -337,200 +334,214 @@ struct ComplexLines<39> {
         const Q t211 = t182 + t161;
         // spectrum block of 2
         const Q t212 = t208 + t211;
-        io.pairs(3, 16, t212);
         const Q t213 = t208 - t211;
-        io.pairs(36, 10, t213);
         const Q t214 = flipped<0, 1, 0, 1>(t210);
         // spectrum block of 2
         const Q t215 = t209 + t214;
-        io.pairs(15, 28, t215);
-        const Q t216 = t209 - t214;
-        io.pairs(24, 37, t216);
+        const Q t216 = shuffled<0, 1, 6, 7>(t215, t212);
+        io.pairs(15, 16, t216);
+        const Q t217 = t209 - t214;
+        const Q t218 = shuffled<0, 1, 6, 7>(t213, t217);
+        io.pairs(36, 37, t218);
         // spectrum block of 3
-        const Q t217 = c[0] * t151;
-        const Q t218 = t145 - t217;
-        const Q t219 = t218 + t154;
-        const Q t220 = t218 - t154;
+        const Q t219 = c[0] * t151;
+        const Q t220 = t145 - t219;
+        const Q t221 = t220 + t154;
+        const Q t222 = t220 - t154;
         // complex block of 3
-        const Q t221 = Q(-c[0], c[0], -c[0], c[0]) * t192;
-        const Q t222 = flipped<0, 1, 0, 1>(t164);
-        const Q t223 = t221 + t222;
-        const Q t224 = c[0] * t182;
-        const Q t225 = t161 - t224;
+        const Q t223 = Q(-c[0], c[0], -c[0], c[0]) * t192;
+        const Q t224 = flipped<0, 1, 0, 1>(t164);
+        const Q t225 = t223 + t224;
+        const Q t226 = c[0] * t182;
+        const Q t227 = t161 - t226;
         // spectrum block of 3
-        const Q t226 = c[0] * t200;
-        const Q t227 = t226 + t206;
-        const Q t228 = t227 + t203;
-        const Q t229 = t227 - t203;
+        const Q t228 = c[0] * t200;
+        const Q t229 = t228 + t206;
+        const Q t230 = t229 + t203;
+        const Q t231 = t229 - t203;
         // complex block of 3
-        const Q t230 = Q(c[1], -c[1], c[1], -c[1]) * t184;
-        const Q t231 = t223 + t230;
+        const Q t232 = Q(c[1], -c[1], c[1], -c[1]) * t184;
+        const Q t233 = t225 + t232;
         // spectrum block of 2
-        const Q t232 = t219 - t228;
+        const Q t234 = t221 - t230;
         // spectrum block of 2
-        const Q t233 = t232 + t231;
-        io.pairs(18, 31, t233);
-        const Q t234 = t232 - t231;
-        io.pairs(21, 34, t234);
+        const Q t235 = t234 + t233;
+        const Q t236 = t234 - t233;
         // complex block of 3
-        const Q t235 = Q(c[1], -c[1], c[1], -c[1]) * t193;
-        const Q t236 = t225 + t235;
+        const Q t237 = Q(c[1], -c[1], c[1], -c[1]) * t193;
+        const Q t238 = t227 + t237;
         // spectrum block of 2
-        const Q t237 = t219 + t228;
+        const Q t239 = t221 + t230;
         // spectrum block of 2
-        const Q t238 = t237 + t236;
-        io.pairs(27, 1, t238);
-        const Q t239 = t237 - t236;
-        io.pairs(12, 25, t239);
+        const Q t240 = t239 + t238;
+        const Q t241 = shuffled<0, 1, 6, 7>(t204, t240);
+        io.pairs(0, 1, t241);
+        const Q t242 = shuffled<0, 1, 6, 7>(t240, t215);
+        io.pairs(27, 28, t242);
+        const Q t243 = t239 - t238;
+        const Q t244 = shuffled<0, 1, 6, 7>(t243, t204);
+        io.pairs(12, 13, t244);
+        const Q t245 = shuffled<0, 1, 6, 7>(t217, t243);
+        io.pairs(24, 25, t245);
         // complex block of 3
-        const Q t240 = t223 - t230;
+        const Q t246 = t225 - t232;
         // spectrum block of 2
-        const Q t241 = t220 - t229;
+        const Q t247 = t222 - t231;
         // spectrum block of 2
-        const Q t242 = t241 + t240;
-        io.pairs(6, 19, t242);
-        const Q t243 = t241 - t240;
-        io.pairs(33, 7, t243);
+        const Q t248 = t247 + t246;
+        const Q t249 = shuffled<0, 1, 6, 7>(t235, t248);
+        io.pairs(18, 19, t249);
+        const Q t250 = t247 - t246;
+        const Q t251 = shuffled<0, 1, 6, 7>(t248, t250);
+        io.pairs(6, 7, t251);
+        const Q t252 = shuffled<0, 1, 6, 7>(t250, t236);
+        io.pairs(33, 34, t252);
         // complex block of 3
-        const Q t244 = t225 - t235;
+        const Q t253 = t227 - t237;
         // spectrum block of 2
-        const Q t245 = t220 + t229;
+        const Q t254 = t222 + t231;
         // spectrum block of 2
-        const Q t246 = t245 + t244;
-        io.pairs(9, 22, t246);
-        const Q t247 = t245 - t244;
-        io.pairs(30, 4, t247);
+        const Q t255 = t254 + t253;
+        const Q t256 = shuffled<0, 1, 6, 7>(t255, t213);
+        io.pairs(9, 10, t256);
+        const Q t257 = shuffled<0, 1, 6, 7>(t236, t255);
+        io.pairs(21, 22, t257);
+        const Q t258 = t254 - t253;
+        const Q t259 = shuffled<0, 1, 6, 7>(t212, t258);
+        io.pairs(3, 4, t259);
+        const Q t260 = shuffled<0, 1, 6, 7>(t258, t235);
+        io.pairs(30, 31, t260);
         // complex block of 3
-        const P t248 = t130 + t136;
-        const P t249 = t133 + t139;
-        const Q t250 = joined(t248, t249);
-        const Q t251 = shuffled<1, 0, 3, 2>(t250);
+        const P t261 = t130 + t136;
+        const P t262 = t133 + t139;
+        const Q t263 = joined(t261, t262);
+        const Q t264 = shuffled<1, 0, 3, 2>(t263);
         // complex block of 13, multiplier 3
-        const Q t252 = Q(c[2], c[2], -c[2], c[2]) * t251;
-        const Q t253 = shuffled<2, 3, 0, 1>(t251);
-        const Q t254 = Q(c[3], c[3], c[3], -c[3]) * t253;
-        const Q t255 = t252 + t254;
+        const Q t265 = Q(c[2], c[2], -c[2], c[2]) * t264;
+        const Q t266 = shuffled<2, 3, 0, 1>(t264);
+        const Q t267 = Q(c[3], c[3], c[3], -c[3]) * t266;
+        const Q t268 = t265 + t267;
         // complex block of 3
-        const P t256 = c[1] * t135;
-        const P t257 = t138 + t256;
-        const P t258 = c[1] * t134;
-        const P t259 = t141 - t258;
-        const P t260 = t138 - t256;
-        const P t261 = t141 + t258;
-        const Q t262 = joined(t260, t261);
-        const Q t263 = shuffled<1, 0, 3, 2>(t262);
+        const P t269 = c[1] * t135;
+        const P t270 = t138 + t269;
+        const P t271 = c[1] * t134;
+        const P t272 = t141 - t271;
+        const P t273 = t138 - t269;
+        const P t274 = t141 + t271;
+        const Q t275 = joined(t273, t274);
+        const Q t276 = shuffled<1, 0, 3, 2>(t275);
         // complex block of 13, multiplier 3
-        const Q t264 = Q(c[4], c[4], -c[4], c[4]) * t263;
-        const Q t265 = shuffled<2, 3, 0, 1>(t263);
-        const Q t266 = Q(c[5], c[5], c[5], -c[5]) * t265;
-        const Q t267 = t264 + t266;
-        const Q t268 = joined(t257, t257);
-        const Q t269 = shuffled<1, 0, 3, 2>(t268);
-        const Q t270 = Q(c[7], -c[7], c[6], c[6]) * t269;
-        const Q t271 = joined(t259, t259);
-        const Q t272 = shuffled<1, 0, 3, 2>(t271);
-        const Q t273 = Q(-c[6], c[6], c[7], c[7]) * t272;
-        const Q t274 = t270 + t273;
-        const P t275 = part<0>(t274);
-        const P t276 = flipped<1, 0>(t275);
-        const P t277 = part<0>(t267);
+        const Q t277 = Q(c[4], c[4], -c[4], c[4]) * t276;
+        const Q t278 = shuffled<2, 3, 0, 1>(t276);
+        const Q t279 = Q(c[5], c[5], c[5], -c[5]) * t278;
+        const Q t280 = t277 + t279;
+        const Q t281 = joined(t270, t270);
+        const Q t282 = shuffled<1, 0, 3, 2>(t281);
+        const Q t283 = Q(c[7], -c[7], c[6], c[6]) * t282;
+        const Q t284 = joined(t272, t272);
+        const Q t285 = shuffled<1, 0, 3, 2>(t284);
+        const Q t286 = Q(-c[6], c[6], c[7], c[7]) * t285;
+        const Q t287 = t283 + t286;
+        const P t288 = part<0>(t287);
+        const P t289 = flipped<1, 0>(t288);
+        const P t290 = part<0>(t280);
         // complex block of 3
-        const P t278 = t276 + t277;
-        const P t279 = part<1>(t267);
-        const P t280 = part<1>(t274);
-        const P t281 = flipped<0, 1>(t280);
-        const P t282 = t279 + t281;
-        const P t283 = t277 - t276;
-        const P t284 = flipped<1, 0>(t279);
-        const P t285 = t280 + t284;
-        const Q t286 = shuffled<0, 1, 4, 5>(t112, t113);
+        const P t291 = t289 + t290;
+        const P t292 = part<1>(t280);
+        const P t293 = part<1>(t287);
+        const P t294 = flipped<0, 1>(t293);
+        const P t295 = t292 + t294;
+        const P t296 = t290 - t289;
+        const P t297 = flipped<1, 0>(t292);
+        const P t298 = t293 + t297;
+        const Q t299 = shuffled<0, 1, 4, 5>(t111, t112);
         // real block of 3
-        const Q t287 = t123 + t286;
-        const P t288 = part<0>(t7);
-        const P t289 = part<0>(t287);
+        const Q t300 = t123 + t299;
+        const P t301 = part<0>(t8);
+        const P t302 = part<0>(t300);
         // complex block of 13, multiplier 3
-        const P t290 = c[8] * t289;
-        const P t291 = t288 - t290;
+        const P t303 = c[8] * t302;
+        const P t304 = t301 - t303;
         // real block of 3
-        const Q t292 = c[0] * t123;
-        const Q t293 = t286 - t292;
+        const Q t305 = c[0] * t123;
+        const Q t306 = t299 - t305;
         // complex block of 13, multiplier 3
-        const Q t294 = Q(c[9], c[9], c[13], c[13]) * t293;
+        const Q t307 = Q(c[9], c[9], c[13], c[13]) * t306;
         // real block of 3
-        const Q t295 = c[1] * t124;
+        const Q t308 = c[1] * t124;
         // complex block of 13, multiplier 3
-        const Q t296 = Q(-c[10], -c[10], c[14], c[14]) * t295;
-        const Q t297 = t294 + t296;
-        const Q t298 = shuffled<0, 1, 6, 7>(t295, t293);
+        const Q t309 = Q(-c[10], -c[10], c[14], c[14]) * t308;
+        const Q t310 = t307 + t309;
+        const Q t311 = shuffled<0, 1, 6, 7>(t308, t306);
         // spectrum block of 3
-        const Q t299 = Q(c[11], c[11], c[15], c[15]) * t298;
-        const Q t300 = shuffled<0, 1, 6, 7>(t293, t295);
-        const Q t301 = Q(c[12], c[12], -c[16], -c[16]) * t300;
-        const Q t302 = t299 + t301;
+        const Q t312 = Q(c[11], c[11], c[15], c[15]) * t311;
+        const Q t313 = shuffled<0, 1, 6, 7>(t306, t308);
+        const Q t314 = Q(c[12], c[12], -c[16], -c[16]) * t313;
+        const Q t315 = t312 + t314;
         // complex block of 13, multiplier 3
-        const P t303 = t288 + t289;
-        io.pair(26, t303);
-        const P t304 = part<0>(t255);
+        const P t316 = t301 + t302;
+        io.pair(26, t316);
+        const P t317 = part<0>(t268);
         // complex block of 3
-        const P t305 = t278 + t304;
-        const P t306 = part<1>(t255);
-        const P t307 = t282 + t306;
-        const P t308 = P(-c[0], c[0]) * t278;
-        const P t309 = flipped<0, 1>(t304);
-        const P t310 = t308 + t309;
-        const P t311 = c[0] * t282;
-        const P t312 = t306 - t311;
-        const P t313 = part<1>(t287);
+        const P t318 = t291 + t317;
+        const P t319 = part<1>(t268);
+        const P t320 = t295 + t319;
+        const P t321 = P(-c[0], c[0]) * t291;
+        const P t322 = flipped<0, 1>(t317);
+        const P t323 = t321 + t322;
+        const P t324 = c[0] * t295;
+        const P t325 = t319 - t324;
+        const P t326 = part<1>(t300);
         // complex block of 13, multiplier 3
-        const P t314 = c[17] * t313;
-        const Q t315 = joined(t291, t314);
-        const Q t316 = flipped<0, 0, 1, 1>(t297);
+        const P t327 = c[17] * t326;
+        const Q t328 = joined(t304, t327);
+        const Q t329 = flipped<0, 0, 1, 1>(t310);
         // spectrum block of 3
-        const Q t317 = t315 + t316;
-        const Q t318 = Q(-c[0], -c[0], c[0], c[0]) * t297;
-        const Q t319 = t318 + t315;
-        const Q t320 = t319 + t302;
-        const Q t321 = t319 - t302;
+        const Q t330 = t328 + t329;
+        const Q t331 = Q(-c[0], -c[0], c[0], c[0]) * t310;
+        const Q t332 = t331 + t328;
+        const Q t333 = t332 + t315;
+        const Q t334 = t332 - t315;
         // complex block of 3
-        const P t322 = P(c[1], -c[1]) * t285;
-        const P t323 = t310 + t322;
-        const Q t324 = shuffled<0, 1, 4, 5>(t317, t320);
-        const Q t325 = shuffled<2, 3, 6, 7>(t317, t320);
+        const P t335 = P(c[1], -c[1]) * t298;
+        const P t336 = t323 + t335;
+        const Q t337 = shuffled<0, 1, 4, 5>(t330, t333);
+        const Q t338 = shuffled<2, 3, 6, 7>(t330, t333);
         // spectrum block of 2
-        const Q t326 = t324 - t325;
-        const P t327 = flipped<0, 1>(t305);
-        const Q t328 = joined(t327, t323);
+        const Q t339 = t337 - t338;
+        const P t340 = flipped<0, 1>(t318);
+        const Q t341 = joined(t340, t336);
         // spectrum block of 2
-        const Q t329 = t326 + t328;
-        io.pairs(2, 5, t329);
-        const Q t330 = t326 - t328;
-        io.pairs(11, 8, t330);
+        const Q t342 = t339 + t341;
+        io.pairs(2, 5, t342);
+        const Q t343 = t339 - t341;
+        io.pairs(11, 8, t343);
         // complex block of 3
-        const P t331 = P(c[1], -c[1]) * t283;
-        const P t332 = t312 + t331;
+        const P t344 = P(c[1], -c[1]) * t296;
+        const P t345 = t325 + t344;
         // spectrum block of 2
-        const Q t333 = t324 + t325;
-        const Q t334 = joined(t307, t332);
+        const Q t346 = t337 + t338;
+        const Q t347 = joined(t320, t345);
         // spectrum block of 2
-        const Q t335 = t333 + t334;
-        io.pairs(29, 14, t335);
-        const Q t336 = t333 - t334;
-        io.pairs(23, 38, t336);
+        const Q t348 = t346 + t347;
+        io.pairs(29, 14, t348);
+        const Q t349 = t346 - t347;
+        io.pairs(23, 38, t349);
         // complex block of 3
-        const P t337 = t310 - t322;
-        const P t338 = t312 - t331;
-        const P t339 = part<0>(t321);
-        const P t340 = part<1>(t321);
+        const P t350 = t323 - t335;
+        const P t351 = t325 - t344;
+        const P t352 = part<0>(t334);
+        const P t353 = part<1>(t334);
         // spectrum block of 2
-        const P t341 = t339 + t340;
-        const P t342 = t339 - t340;
-        const Q t343 = joined(t341, t342);
-        const Q t344 = joined(t338, t337);
+        const P t354 = t352 + t353;
+        const P t355 = t352 - t353;
+        const Q t356 = joined(t354, t355);
+        const Q t357 = joined(t351, t350);
         // spectrum block of 2
-        const Q t345 = t343 + t344;
-        io.pairs(35, 32, t345);
-        const Q t346 = t343 - t344;
-        io.pairs(17, 20, t346);
+        const Q t358 = t356 + t357;
+        io.pairs(35, 32, t358);
+        const Q t359 = t356 - t357;
+        io.pairs(17, 20, t359);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 45.
 // Complex DFT of 45 points, prime-factor, order 9, 5; two lines of a stage to a register.
 // 106 sums, 77 differences, 90 products of registers, which do the 1122 steps of the graph, those with
-// `scale` included; 68 shuffles, 17 changes of sign.
+// `scale` included; 91 shuffles, 17 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -33,31 +33,31 @@ struct ComplexLines<45> {
         using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
-        const Q x25_34 = io.pairs(25, 34);
-        const Q x40_4 = io.pairs(40, 4);
+        const Q x25_16 = io.pairs(25, 16);
+        const Q x40_31 = io.pairs(40, 31);
         // complex block of 3, multiplier 2
-        const Q t0 = x25_34 + x40_4;
-        const Q t1 = x25_34 - x40_4;
-        const Q x10_19 = io.pairs(10, 19);
-        const Q t2 = t0 + x10_19;
+        const Q t0 = x25_16 + x40_31;
+        const Q t1 = x25_16 - x40_31;
+        const Q x10_1 = io.pairs(10, 1);
+        const Q t2 = t0 + x10_1;
         const Q t3 = c[0] * t0;
-        const Q t4 = x10_19 - t3;
-        const Q x20_29 = io.pairs(20, 29);
-        const Q x35_44 = io.pairs(35, 44);
+        const Q t4 = x10_1 - t3;
+        const Q x20_11 = io.pairs(20, 11);
+        const Q x35_26 = io.pairs(35, 26);
         // complex block of 3, multiplier 2
-        const Q t5 = x20_29 + x35_44;
-        const Q t6 = x20_29 - x35_44;
-        const Q x5_14 = io.pairs(5, 14);
-        const Q t7 = t5 + x5_14;
+        const Q t5 = x20_11 + x35_26;
+        const Q t6 = x20_11 - x35_26;
+        const Q x5_41 = io.pairs(5, 41);
+        const Q t7 = t5 + x5_41;
         const Q t8 = c[0] * t5;
-        const Q t9 = x5_14 - t8;
-        const Q x15_24 = io.pairs(15, 24);
-        const Q x30_39 = io.pairs(30, 39);
+        const Q t9 = x5_41 - t8;
+        const Q x15_6 = io.pairs(15, 6);
+        const Q x30_21 = io.pairs(30, 21);
         // complex block of 3, multiplier 2
-        const Q t10 = x15_24 + x30_39;
-        const Q t11 = x15_24 - x30_39;
-        const Q x0_9 = io.pairs(0, 9);
-        const Q t12 = t10 + x0_9;
+        const Q t10 = x15_6 + x30_21;
+        const Q t11 = x15_6 - x30_21;
+        const Q x0_36 = io.pairs(0, 36);
+        const Q t12 = t10 + x0_36;
         // complex block of 3, multiplier 2
         const Q t13 = t7 + t2;
         const Q t14 = t13 + t12;
@@ -65,7 +65,7 @@ struct ComplexLines<45> {
         const Q t16 = t12 - t15;
         // complex block of 3, multiplier 2
         const Q t17 = c[0] * t10;
-        const Q t18 = x0_9 - t17;
+        const Q t18 = x0_36 - t17;
         const Q t19 = Q(-c[1], c[1], -c[1], c[1]) * t11;
         const Q t20 = shuffled<1, 0, 3, 2>(t19);
         const Q t21 = t18 + t20;
@@ -110,42 +110,43 @@ struct ComplexLines<45> {
         const Q t52 = t44 + t51;
         // complex block of 3, multiplier 2
         const Q t53 = t7 - t2;
-        const P x16 = io.pair(16);
-        const P x31 = io.pair(31);
+        const Q x42_2 = io.pairs(42, 2);
+        const Q x12_17 = io.pairs(12, 17);
         // complex block of 3, multiplier 2
-        const P t54 = x16 + x31;
-        const P x1 = io.pair(1);
-        const P t55 = t54 + x1;
-        const Q x6_11 = io.pairs(6, 11);
-        const Q x21_26 = io.pairs(21, 26);
+        const Q t54 = x42_2 + x12_17;
+        const Q t55 = x42_2 - x12_17;
+        const Q x27_32 = io.pairs(27, 32);
+        const Q t56 = t54 + x27_32;
+        const P x7 = io.pair(7);
+        const P x22 = io.pair(22);
         // complex block of 3, multiplier 2
-        const Q t56 = x6_11 + x21_26;
-        const Q t57 = x6_11 - x21_26;
-        const Q x36_41 = io.pairs(36, 41);
-        const Q t58 = t56 + x36_41;
-        const Q t59 = c[0] * t56;
-        const Q t60 = x36_41 - t59;
-        const P t61 = part<1>(t58);
+        const P t57 = x7 + x22;
+        const P x37 = io.pair(37);
+        const P t58 = t57 + x37;
+        // complex block of 3, multiplier 2
+        const Q t59 = c[0] * t54;
+        const Q t60 = x27_32 - t59;
+        const P t61 = part<1>(t56);
         const V t62 = part<0>(t61);
-        const V t63 = part<0>(t55);
+        const V t63 = part<0>(t58);
         // complex block of 3, multiplier 2
         const V t64 = t62 + t63;
         const V t65 = part<1>(t61);
-        const V t66 = part<1>(t55);
+        const V t66 = part<1>(t58);
         const V t67 = t65 + t66;
-        const Q t68 = joined(x16, t61);
-        const Q t69 = joined(x31, t55);
+        const Q t68 = joined(x7, t61);
+        const Q t69 = joined(x22, t58);
         // complex block of 3, multiplier 2
         const Q t70 = t68 - t69;
         // complex block of 3, multiplier 2
-        const Q t71 = Q(-c[1], c[1], -c[1], c[1]) * t57;
+        const Q t71 = Q(-c[1], c[1], -c[1], c[1]) * t55;
         const Q t72 = shuffled<1, 0, 3, 2>(t71);
         const Q t73 = t60 + t72;
         const Q t74 = t60 - t72;
-        const P t75 = part<0>(t58);
-        const Q t76 = joined(x1, t75);
+        const P t75 = part<0>(t56);
+        const Q t76 = joined(x37, t75);
         const P t77 = joined(t64, t67);
-        const Q t78 = joined(t54, t77);
+        const Q t78 = joined(t57, t77);
         // complex block of 3, multiplier 2
         const Q t79 = c[0] * t78;
         const Q t80 = t76 - t79;
@@ -166,52 +167,52 @@ struct ComplexLines<45> {
         const Q t94 = t91 + t93;
         // complex block of 3, multiplier 2
         const P t95 = t77 + t75;
-        const Q x38_2 = io.pairs(38, 2);
-        const Q x8_17 = io.pairs(8, 17);
+        const Q x33_24 = io.pairs(33, 24);
+        const Q x3_39 = io.pairs(3, 39);
         // complex block of 3, multiplier 2
-        const Q t96 = x38_2 + x8_17;
-        const Q t97 = x38_2 - x8_17;
-        const Q x23_32 = io.pairs(23, 32);
-        const Q t98 = t96 + x23_32;
-        const Q t99 = c[0] * t96;
-        const Q t100 = x23_32 - t99;
-        const Q x33_42 = io.pairs(33, 42);
-        const Q x3_12 = io.pairs(3, 12);
+        const Q t96 = x33_24 + x3_39;
+        const Q t97 = x33_24 - x3_39;
+        const Q x43_34 = io.pairs(43, 34);
+        const Q x13_4 = io.pairs(13, 4);
         // complex block of 3, multiplier 2
-        const Q t101 = x33_42 + x3_12;
-        const Q t102 = x33_42 - x3_12;
-        const Q x43_7 = io.pairs(43, 7);
-        const Q x13_22 = io.pairs(13, 22);
+        const Q t98 = x43_34 + x13_4;
+        const Q t99 = x43_34 - x13_4;
+        const Q x28_19 = io.pairs(28, 19);
+        const Q t100 = t98 + x28_19;
+        const Q t101 = c[0] * t98;
+        const Q t102 = x28_19 - t101;
+        const Q x38_29 = io.pairs(38, 29);
+        const Q x8_44 = io.pairs(8, 44);
         // complex block of 3, multiplier 2
-        const Q t103 = x43_7 + x13_22;
-        const Q t104 = x43_7 - x13_22;
-        const Q x28_37 = io.pairs(28, 37);
-        const Q t105 = t103 + x28_37;
+        const Q t103 = x38_29 + x8_44;
+        const Q t104 = x38_29 - x8_44;
+        const Q x23_14 = io.pairs(23, 14);
+        const Q t105 = t103 + x23_14;
         const Q t106 = c[0] * t103;
-        const Q t107 = x28_37 - t106;
-        const Q x18_27 = io.pairs(18, 27);
+        const Q t107 = x23_14 - t106;
+        const Q x18_9 = io.pairs(18, 9);
         // complex block of 3, multiplier 2
-        const Q t108 = t101 + x18_27;
+        const Q t108 = t96 + x18_9;
         // complex block of 3, multiplier 2
-        const Q t109 = t98 + t105;
+        const Q t109 = t105 + t100;
         const Q t110 = t109 + t108;
         const Q t111 = c[0] * t109;
         const Q t112 = t108 - t111;
         // complex block of 3, multiplier 2
-        const Q t113 = c[0] * t101;
-        const Q t114 = x18_27 - t113;
-        const Q t115 = Q(-c[1], c[1], -c[1], c[1]) * t102;
+        const Q t113 = c[0] * t96;
+        const Q t114 = x18_9 - t113;
+        const Q t115 = Q(-c[1], c[1], -c[1], c[1]) * t97;
         const Q t116 = shuffled<1, 0, 3, 2>(t115);
         const Q t117 = t114 + t116;
         const Q t118 = t114 - t116;
         // complex block of 3, multiplier 2
-        const Q t119 = Q(-c[1], c[1], -c[1], c[1]) * t97;
+        const Q t119 = Q(-c[1], c[1], -c[1], c[1]) * t104;
         const Q t120 = shuffled<1, 0, 3, 2>(t119);
-        const Q t121 = t100 + t120;
+        const Q t121 = t107 + t120;
         // complex block of 3, multiplier 2
-        const Q t122 = Q(-c[1], c[1], -c[1], c[1]) * t104;
+        const Q t122 = Q(-c[1], c[1], -c[1], c[1]) * t99;
         const Q t123 = shuffled<1, 0, 3, 2>(t122);
-        const Q t124 = t107 + t123;
+        const Q t124 = t102 + t123;
         // complex block of 9, multiplier 5
         const Q t125 = c[6] * t121;
         const Q t126 = shuffled<1, 0, 3, 2>(t121);
@@ -225,9 +226,9 @@ struct ComplexLines<45> {
         const Q t133 = t128 + t132;
         const Q t134 = t128 - t132;
         // complex block of 3, multiplier 2
-        const Q t135 = t100 - t120;
+        const Q t135 = t107 - t120;
         // complex block of 3, multiplier 2
-        const Q t136 = t107 - t123;
+        const Q t136 = t102 - t123;
         const Q t137 = shuffled<1, 0, 3, 2>(t135);
         // complex block of 9, multiplier 5
         const Q t138 = c[10] * t137;
@@ -243,280 +244,297 @@ struct ComplexLines<45> {
         const Q t147 = flipped<0, 1, 0, 1>(t144);
         const Q t148 = t140 + t147;
         // complex block of 3, multiplier 2
-        const Q t149 = t98 - t105;
-        // complex block of 3, multiplier 2
-        const Q t150 = Q(-c[1], c[1], -c[1], c[1]) * t53;
+        const Q t149 = t105 - t100;
+        const Q t150 = Q(-c[1], c[1], -c[1], c[1]) * t149;
         const Q t151 = shuffled<1, 0, 3, 2>(t150);
-        const Q t152 = t16 + t151;
-        const Q t153 = t16 - t151;
+        const Q t152 = t112 + t151;
+        const Q t153 = t112 - t151;
         // complex block of 3, multiplier 2
-        const Q t154 = t50 + t22;
-        const Q t155 = c[0] * t50;
-        const Q t156 = t22 - t155;
+        const Q t154 = t146 + t118;
         // complex block of 3, multiplier 2
-        const Q t157 = t37 + t21;
-        const Q t158 = c[0] * t37;
-        const Q t159 = t21 - t158;
-        const Q t160 = flipped<1, 0, 0, 0>(t94);
+        const Q t155 = Q(c[1], -c[1], c[1], -c[1]) * t53;
+        const Q t156 = shuffled<1, 0, 3, 2>(t155);
+        const Q t157 = t16 + t156;
         // complex block of 3, multiplier 2
-        const Q t161 = t89 + t160;
-        const Q t162 = shuffled<0, 1, 4, 5>(t74, t73);
-        const Q t163 = t161 + t162;
-        const Q t164 = c[0] * t161;
-        const Q t165 = t162 - t164;
-        const Q t166 = flipped<0, 1, 0, 0>(t89);
-        const Q t167 = flipped<1, 0, 1, 1>(t160);
-        const Q t168 = t166 + t167;
-        // complex block of 3, multiplier 2
-        const Q t169 = c[1] * t52;
-        const Q t170 = shuffled<1, 0, 3, 2>(t169);
-        const Q t171 = t156 + t170;
-        // complex block of 3, multiplier 2
-        const Q t172 = Q(-c[1], c[1], -c[1], c[1]) * t38;
-        const Q t173 = shuffled<1, 0, 3, 2>(t172);
-        const Q t174 = t159 + t173;
-        // complex block of 3, multiplier 2
-        const Q t175 = Q(c[1], c[1], -c[1], c[1]) * t168;
-        const Q t176 = shuffled<1, 0, 3, 2>(t175);
-        const Q t177 = t165 + t176;
-        const Q t178 = shuffled<2, 3, 6, 7>(t152, t171);
-        const Q t179 = shuffled<2, 3, 4, 5>(t83, t177);
+        const Q t158 = t50 + t22;
+        const Q t159 = shuffled<2, 3, 6, 7>(t154, t153);
+        const Q t160 = shuffled<2, 3, 6, 7>(t158, t157);
         // complex block of 5, multiplier 4
-        const Q t180 = t178 + t179;
-        const P t181 = part<1>(t174);
-        const P t182 = part<1>(t177);
+        const Q t161 = t159 + t160;
+        const Q t162 = t159 - t160;
+        // complex block of 3, multiplier 2
+        const Q t163 = c[0] * t146;
+        const Q t164 = t118 - t163;
+        // complex block of 3, multiplier 2
+        const Q t165 = t133 + t117;
+        // complex block of 3, multiplier 2
+        const Q t166 = t37 + t21;
+        const Q t167 = shuffled<2, 3, 6, 7>(t110, t165);
+        const Q t168 = shuffled<2, 3, 6, 7>(t14, t166);
         // complex block of 5, multiplier 4
-        const P t183 = t181 + t182;
+        const Q t169 = t167 + t168;
+        const Q t170 = t167 - t168;
         // complex block of 3, multiplier 2
-        const Q t184 = t156 - t170;
+        const Q t171 = c[0] * t133;
+        const Q t172 = t117 - t171;
+        const Q t173 = flipped<1, 0, 0, 0>(t94);
         // complex block of 3, multiplier 2
-        const Q t185 = t159 - t173;
+        const Q t174 = t89 + t173;
+        const Q t175 = shuffled<0, 1, 4, 5>(t74, t73);
+        const Q t176 = t174 + t175;
+        const Q t177 = c[0] * t174;
+        const Q t178 = t175 - t177;
+        const Q t179 = flipped<0, 1, 0, 0>(t89);
+        const Q t180 = flipped<1, 0, 1, 1>(t173);
+        const Q t181 = t179 + t180;
         // complex block of 3, multiplier 2
-        const Q t186 = t165 - t176;
-        const Q t187 = shuffled<2, 3, 6, 7>(t184, t185);
+        const Q t182 = t16 - t156;
+        // complex block of 3, multiplier 2
+        const Q t183 = c[0] * t50;
+        const Q t184 = t22 - t183;
+        // complex block of 3, multiplier 2
+        const Q t185 = c[0] * t37;
+        const Q t186 = t21 - t185;
+        // complex block of 3, multiplier 2
+        const Q t187 = c[1] * t148;
+        const Q t188 = shuffled<1, 0, 3, 2>(t187);
+        const Q t189 = t164 + t188;
+        const Q t190 = t164 - t188;
+        // complex block of 3, multiplier 2
+        const Q t191 = Q(-c[1], c[1], -c[1], c[1]) * t134;
+        const Q t192 = shuffled<1, 0, 3, 2>(t191);
+        const Q t193 = t172 + t192;
+        const Q t194 = t172 - t192;
+        // complex block of 3, multiplier 2
+        const Q t195 = Q(c[1], c[1], -c[1], c[1]) * t181;
+        const Q t196 = shuffled<1, 0, 3, 2>(t195);
+        const Q t197 = t178 + t196;
+        const Q t198 = t178 - t196;
+        // complex block of 3, multiplier 2
+        const Q t199 = c[1] * t52;
+        const Q t200 = shuffled<1, 0, 3, 2>(t199);
+        const Q t201 = t184 + t200;
+        const Q t202 = t184 - t200;
+        // complex block of 3, multiplier 2
+        const Q t203 = Q(-c[1], c[1], -c[1], c[1]) * t38;
+        const Q t204 = shuffled<1, 0, 3, 2>(t203);
+        const Q t205 = t186 + t204;
+        const Q t206 = t186 - t204;
+        const Q t207 = shuffled<2, 3, 6, 7>(t190, t152);
+        const Q t208 = shuffled<2, 3, 6, 7>(t202, t182);
         // complex block of 5, multiplier 4
-        const Q t188 = t187 + t186;
-        const Q t189 = shuffled<2, 3, 6, 7>(t14, t154);
-        const P t190 = part<0>(t163);
-        const Q t191 = joined(t95, t190);
+        const Q t209 = t207 + t208;
+        const Q t210 = t207 - t208;
+        const Q t211 = shuffled<0, 1, 6, 7>(t198, t83);
+        const Q t212 = shuffled<0, 1, 4, 5>(t190, t152);
+        const Q t213 = t211 + t212;
+        const Q t214 = shuffled<2, 3, 6, 7>(t194, t189);
+        const Q t215 = shuffled<2, 3, 6, 7>(t206, t201);
         // complex block of 5, multiplier 4
-        const Q t192 = t189 + t191;
-        const Q t193 = t189 - t191;
-        const Q t194 = shuffled<2, 3, 6, 7>(t157, t153);
-        const Q t195 = shuffled<2, 3, 6, 7>(t163, t84);
-        // complex block of 5, multiplier 4
-        const Q t196 = t194 + t195;
-        const Q t197 = t194 - t195;
-        // complex block of 3, multiplier 2
-        const Q t198 = Q(-c[1], c[1], -c[1], c[1]) * t149;
-        const Q t199 = shuffled<1, 0, 3, 2>(t198);
-        const Q t200 = t112 + t199;
-        // complex block of 3, multiplier 2
-        const Q t201 = c[0] * t146;
-        const Q t202 = t118 - t201;
-        // complex block of 3, multiplier 2
-        const Q t203 = c[0] * t133;
-        const Q t204 = t117 - t203;
-        // complex block of 3, multiplier 2
-        const Q t205 = c[1] * t148;
-        const Q t206 = shuffled<1, 0, 3, 2>(t205);
-        const Q t207 = t202 + t206;
-        const Q t208 = shuffled<2, 3, 6, 7>(t200, t207);
-        const Q t209 = shuffled<0, 1, 4, 5>(t200, t207);
-        // complex block of 5, multiplier 4
-        const Q t210 = t208 + t209;
-        const Q t211 = t208 - t209;
-        // complex block of 3, multiplier 2
-        const Q t212 = t202 - t206;
-        // complex block of 3, multiplier 2
-        const Q t213 = Q(c[1], -c[1], c[1], -c[1]) * t134;
-        const Q t214 = shuffled<1, 0, 3, 2>(t213);
-        const Q t215 = t204 + t214;
-        const Q t216 = shuffled<2, 3, 6, 7>(t212, t215);
-        const Q t217 = shuffled<0, 1, 4, 5>(t212, t215);
-        // complex block of 5, multiplier 4
-        const Q t218 = t216 + t217;
-        const Q t219 = t216 - t217;
-        // complex block of 3, multiplier 2
-        const Q t220 = t204 - t214;
-        const P t221 = part<1>(t220);
-        const P t222 = part<0>(t220);
+        const Q t216 = t214 + t215;
+        const Q t217 = t214 - t215;
+        const Q t218 = shuffled<2, 3, 4, 5>(t198, t197);
+        const Q t219 = shuffled<0, 1, 4, 5>(t194, t189);
+        const Q t220 = t218 + t219;
+        const P t221 = part<1>(t193);
+        const P t222 = part<1>(t205);
         // complex block of 5, multiplier 4
         const P t223 = t221 + t222;
         const P t224 = t221 - t222;
-        // complex block of 3, multiplier 2
-        const Q t225 = t112 - t199;
-        // complex block of 3, multiplier 2
-        const Q t226 = t133 + t117;
-        const Q t227 = shuffled<2, 3, 6, 7>(t226, t225);
-        const Q t228 = shuffled<0, 1, 4, 5>(t226, t225);
+        const P t225 = part<1>(t197);
+        const P t226 = part<0>(t193);
+        const P t227 = t225 + t226;
+        const Q t228 = shuffled<0, 1, 6, 7>(t110, t176);
+        const P t229 = part<0>(t165);
+        const Q t230 = joined(t95, t229);
         // complex block of 5, multiplier 4
-        const Q t229 = t227 + t228;
-        const Q t230 = t227 - t228;
-        // complex block of 3, multiplier 2
-        const Q t231 = t146 + t118;
-        const Q t232 = shuffled<2, 3, 6, 7>(t110, t231);
-        const Q t233 = shuffled<0, 1, 4, 5>(t110, t231);
+        const Q t231 = t228 + t230;
+        const Q t232 = shuffled<0, 1, 6, 7>(t230, t228);
+        const Q t233 = shuffled<0, 1, 6, 7>(t228, t230);
+        const Q t234 = t232 - t233;
+        const Q t235 = shuffled<0, 1, 6, 7>(t176, t84);
+        const Q t236 = shuffled<0, 1, 4, 5>(t154, t153);
         // complex block of 5, multiplier 4
-        const Q t234 = t232 + t233;
-        const Q t235 = t232 - t233;
-        const Q t236 = t192 + t234;
-        const Q t237 = shuffled<0, 1, 4, 5>(t14, t154);
-        const Q t238 = t236 + t237;
-        io.pairs(0, 5, t238);
-        const Q t239 = c[2] * t192;
-        const Q t240 = c[3] * t234;
-        const Q t241 = t239 - t240;
-        const Q t242 = t241 + t237;
-        const Q t243 = c[4] * t193;
-        const Q t244 = c[5] * t235;
-        const Q t245 = t243 - t244;
-        const Q t246 = shuffled<1, 0, 3, 2>(t245);
-        const Q t247 = flipped<0, 1, 0, 1>(t246);
-        const Q t248 = t242 + t247;
-        io.pairs(36, 41, t248);
-        const Q t249 = t242 - t247;
-        io.pairs(9, 14, t249);
-        const Q t250 = c[3] * t192;
-        const Q t251 = t237 - t250;
-        const Q t252 = c[2] * t234;
-        const Q t253 = t251 + t252;
-        const Q t254 = c[5] * t193;
-        const Q t255 = c[4] * t235;
-        const Q t256 = t254 + t255;
-        const Q t257 = shuffled<1, 0, 3, 2>(t256);
-        const Q t258 = flipped<0, 1, 0, 1>(t257);
-        const Q t259 = t253 + t258;
-        io.pairs(27, 32, t259);
-        const Q t260 = t253 - t258;
-        io.pairs(18, 23, t260);
+        const Q t237 = t235 + t236;
+        const Q t238 = t235 - t236;
         // complex block of 5, multiplier 4
-        const Q t261 = t196 + t229;
-        const Q t262 = shuffled<0, 1, 4, 5>(t157, t153);
-        const Q t263 = t261 + t262;
-        io.pairs(10, 15, t263);
-        const Q t264 = c[2] * t196;
-        const Q t265 = c[3] * t229;
-        const Q t266 = t264 - t265;
-        const Q t267 = t266 + t262;
-        const Q t268 = c[4] * t197;
-        const Q t269 = c[5] * t230;
-        const Q t270 = t268 - t269;
-        const Q t271 = shuffled<1, 0, 3, 2>(t270);
-        const Q t272 = flipped<0, 1, 0, 1>(t271);
-        const Q t273 = t267 + t272;
-        io.pairs(1, 6, t273);
-        const Q t274 = t267 - t272;
-        io.pairs(19, 24, t274);
-        const Q t275 = c[3] * t196;
-        const Q t276 = t262 - t275;
-        const Q t277 = c[2] * t229;
-        const Q t278 = t276 + t277;
-        const Q t279 = c[5] * t197;
-        const Q t280 = c[4] * t230;
-        const Q t281 = t279 + t280;
-        const Q t282 = shuffled<1, 0, 3, 2>(t281);
-        const Q t283 = flipped<0, 1, 0, 1>(t282);
-        const Q t284 = t278 + t283;
-        io.pairs(37, 42, t284);
-        const Q t285 = t278 - t283;
-        io.pairs(28, 33, t285);
+        const Q t239 = t169 + t231;
+        const Q t240 = shuffled<0, 1, 4, 5>(t14, t166);
+        const Q t241 = t239 + t240;
+        const Q t242 = c[2] * t169;
+        const Q t243 = c[3] * t231;
+        const Q t244 = t242 - t243;
+        const Q t245 = t244 + t240;
+        const Q t246 = c[4] * t170;
+        const Q t247 = c[5] * t234;
+        const Q t248 = t246 - t247;
+        const Q t249 = shuffled<1, 0, 3, 2>(t248);
+        const Q t250 = flipped<0, 1, 0, 1>(t249);
+        const Q t251 = t245 + t250;
+        const Q t252 = shuffled<0, 1, 6, 7>(t241, t251);
+        io.pairs(0, 1, t252);
+        const Q t253 = t245 - t250;
+        const Q t254 = shuffled<0, 1, 6, 7>(t253, t241);
+        io.pairs(9, 10, t254);
+        const Q t255 = c[3] * t169;
+        const Q t256 = t240 - t255;
+        const Q t257 = c[2] * t231;
+        const Q t258 = t256 + t257;
+        const Q t259 = c[5] * t170;
+        const Q t260 = c[4] * t234;
+        const Q t261 = t259 + t260;
+        const Q t262 = shuffled<1, 0, 3, 2>(t261);
+        const Q t263 = flipped<0, 1, 0, 1>(t262);
+        const Q t264 = t258 + t263;
+        const Q t265 = shuffled<0, 1, 6, 7>(t251, t264);
+        io.pairs(36, 37, t265);
+        const Q t266 = t258 - t263;
+        const Q t267 = shuffled<0, 1, 6, 7>(t266, t253);
+        io.pairs(18, 19, t267);
+        const Q t268 = shuffled<0, 1, 6, 7>(t264, t266);
+        io.pairs(27, 28, t268);
         // complex block of 5, multiplier 4
-        const Q t286 = t187 - t186;
-        const Q t287 = c[2] * t188;
-        const Q t288 = c[3] * t218;
-        const Q t289 = t287 - t288;
-        const Q t290 = shuffled<0, 1, 4, 5>(t184, t185);
-        const Q t291 = c[3] * t188;
-        const Q t292 = t290 - t291;
-        const Q t293 = t289 + t290;
-        const Q t294 = c[4] * t286;
-        const Q t295 = c[5] * t219;
-        const Q t296 = t294 - t295;
-        const Q t297 = shuffled<1, 0, 3, 2>(t296);
-        const Q t298 = flipped<0, 1, 0, 1>(t297);
-        const Q t299 = t293 + t298;
-        io.pairs(11, 16, t299);
-        const Q t300 = t293 - t298;
-        io.pairs(29, 34, t300);
-        const Q t301 = c[2] * t218;
-        const Q t302 = t292 + t301;
-        const Q t303 = c[5] * t286;
-        const Q t304 = c[4] * t219;
-        const Q t305 = t303 + t304;
-        const Q t306 = shuffled<1, 0, 3, 2>(t305);
-        const Q t307 = flipped<0, 1, 0, 1>(t306);
-        const Q t308 = t302 + t307;
-        io.pairs(2, 7, t308);
-        const Q t309 = t302 - t307;
-        io.pairs(38, 43, t309);
-        const Q t310 = t188 + t218;
-        const Q t311 = t310 + t290;
-        io.pairs(20, 25, t311);
+        const Q t269 = t161 + t237;
+        const Q t270 = shuffled<0, 1, 4, 5>(t158, t157);
+        const Q t271 = t269 + t270;
+        const Q t272 = c[2] * t161;
+        const Q t273 = c[3] * t237;
+        const Q t274 = t272 - t273;
+        const Q t275 = t274 + t270;
+        const Q t276 = c[4] * t162;
+        const Q t277 = c[5] * t238;
+        const Q t278 = t276 - t277;
+        const Q t279 = shuffled<1, 0, 3, 2>(t278);
+        const Q t280 = flipped<0, 1, 0, 1>(t279);
+        const Q t281 = t275 + t280;
+        const Q t282 = shuffled<0, 1, 6, 7>(t271, t281);
+        io.pairs(5, 6, t282);
+        const Q t283 = t275 - t280;
+        const Q t284 = shuffled<0, 1, 6, 7>(t283, t271);
+        io.pairs(14, 15, t284);
+        const Q t285 = c[3] * t161;
+        const Q t286 = t270 - t285;
+        const Q t287 = c[2] * t237;
+        const Q t288 = t286 + t287;
+        const Q t289 = c[5] * t162;
+        const Q t290 = c[4] * t238;
+        const Q t291 = t289 + t290;
+        const Q t292 = shuffled<1, 0, 3, 2>(t291);
+        const Q t293 = flipped<0, 1, 0, 1>(t292);
+        const Q t294 = t288 + t293;
+        const Q t295 = shuffled<0, 1, 6, 7>(t281, t294);
+        io.pairs(41, 42, t295);
+        const Q t296 = t288 - t293;
+        const Q t297 = shuffled<0, 1, 6, 7>(t296, t283);
+        io.pairs(23, 24, t297);
+        const Q t298 = shuffled<0, 1, 6, 7>(t294, t296);
+        io.pairs(32, 33, t298);
         // complex block of 5, multiplier 4
-        const Q t312 = t178 - t179;
-        const Q t313 = c[2] * t180;
-        const Q t314 = c[3] * t210;
-        const Q t315 = t313 - t314;
-        const Q t316 = shuffled<0, 1, 4, 5>(t152, t171);
-        const Q t317 = c[3] * t180;
-        const Q t318 = t316 - t317;
-        const Q t319 = t315 + t316;
-        const Q t320 = c[4] * t312;
-        const Q t321 = c[5] * t211;
-        const Q t322 = t320 - t321;
-        const Q t323 = shuffled<1, 0, 3, 2>(t322);
-        const Q t324 = flipped<0, 1, 0, 1>(t323);
-        const Q t325 = t319 + t324;
-        io.pairs(21, 26, t325);
-        const Q t326 = t319 - t324;
-        io.pairs(39, 44, t326);
-        const Q t327 = c[2] * t210;
-        const Q t328 = t318 + t327;
-        const Q t329 = c[5] * t312;
-        const Q t330 = c[4] * t211;
-        const Q t331 = t329 + t330;
-        const Q t332 = shuffled<1, 0, 3, 2>(t331);
-        const Q t333 = flipped<0, 1, 0, 1>(t332);
-        const Q t334 = t328 + t333;
-        io.pairs(12, 17, t334);
-        const Q t335 = t328 - t333;
-        io.pairs(3, 8, t335);
-        const Q t336 = t180 + t210;
-        const Q t337 = t336 + t316;
-        io.pairs(30, 35, t337);
+        const Q t299 = t211 - t212;
+        const Q t300 = c[2] * t209;
+        const Q t301 = c[3] * t213;
+        const Q t302 = t300 - t301;
+        const Q t303 = shuffled<0, 1, 4, 5>(t202, t182);
+        const Q t304 = c[3] * t209;
+        const Q t305 = t303 - t304;
+        const Q t306 = t302 + t303;
+        const Q t307 = c[4] * t210;
+        const Q t308 = c[5] * t299;
+        const Q t309 = t307 - t308;
+        const Q t310 = shuffled<1, 0, 3, 2>(t309);
+        const Q t311 = flipped<0, 1, 0, 1>(t310);
+        const Q t312 = t306 + t311;
+        const Q t313 = t306 - t311;
+        const Q t314 = c[2] * t213;
+        const Q t315 = t305 + t314;
+        const Q t316 = c[5] * t210;
+        const Q t317 = c[4] * t299;
+        const Q t318 = t316 + t317;
+        const Q t319 = shuffled<1, 0, 3, 2>(t318);
+        const Q t320 = flipped<0, 1, 0, 1>(t319);
+        const Q t321 = t315 + t320;
+        const Q t322 = shuffled<0, 1, 6, 7>(t312, t321);
+        io.pairs(11, 12, t322);
+        const Q t323 = t315 - t320;
+        const Q t324 = shuffled<0, 1, 6, 7>(t321, t323);
+        io.pairs(2, 3, t324);
+        const Q t325 = shuffled<0, 1, 6, 7>(t323, t313);
+        io.pairs(38, 39, t325);
+        const Q t326 = t209 + t213;
+        const Q t327 = t326 + t303;
+        const Q t328 = shuffled<0, 1, 6, 7>(t327, t312);
+        io.pairs(20, 21, t328);
+        const Q t329 = shuffled<0, 1, 6, 7>(t313, t327);
+        io.pairs(29, 30, t329);
         // complex block of 5, multiplier 4
-        const P t338 = t181 - t182;
-        const P t339 = c[2] * t183;
-        const P t340 = c[3] * t223;
-        const P t341 = t339 - t340;
-        const P t342 = part<0>(t174);
-        const P t343 = c[3] * t183;
-        const P t344 = t342 - t343;
-        const P t345 = t341 + t342;
-        const P t346 = c[4] * t338;
-        const P t347 = c[5] * t224;
-        const P t348 = t346 - t347;
-        const P t349 = shuffled<1, 0>(t348);
-        const P t350 = flipped<0, 1>(t349);
-        const P t351 = t345 + t350;
-        io.pair(31, t351);
-        const P t352 = t345 - t350;
-        io.pair(4, t352);
-        const P t353 = c[2] * t223;
-        const P t354 = t344 + t353;
-        const P t355 = c[5] * t338;
-        const P t356 = c[4] * t224;
-        const P t357 = t355 + t356;
-        const P t358 = shuffled<1, 0>(t357);
-        const P t359 = flipped<0, 1>(t358);
-        const P t360 = t354 + t359;
-        io.pair(22, t360);
-        const P t361 = t354 - t359;
-        io.pair(13, t361);
-        const P t362 = t183 + t223;
-        const P t363 = t362 + t342;
-        io.pair(40, t363);
+        const Q t330 = t218 - t219;
+        const Q t331 = c[2] * t216;
+        const Q t332 = c[3] * t220;
+        const Q t333 = t331 - t332;
+        const Q t334 = shuffled<0, 1, 4, 5>(t206, t201);
+        const Q t335 = c[3] * t216;
+        const Q t336 = t334 - t335;
+        const Q t337 = t333 + t334;
+        const Q t338 = c[4] * t217;
+        const Q t339 = c[5] * t330;
+        const Q t340 = t338 - t339;
+        const Q t341 = shuffled<1, 0, 3, 2>(t340);
+        const Q t342 = flipped<0, 1, 0, 1>(t341);
+        const Q t343 = t337 + t342;
+        const Q t344 = t337 - t342;
+        const Q t345 = c[2] * t220;
+        const Q t346 = t336 + t345;
+        const Q t347 = c[5] * t217;
+        const Q t348 = c[4] * t330;
+        const Q t349 = t347 + t348;
+        const Q t350 = shuffled<1, 0, 3, 2>(t349);
+        const Q t351 = flipped<0, 1, 0, 1>(t350);
+        const Q t352 = t346 + t351;
+        const Q t353 = shuffled<0, 1, 6, 7>(t343, t352);
+        io.pairs(16, 17, t353);
+        const Q t354 = t346 - t351;
+        const Q t355 = shuffled<0, 1, 6, 7>(t352, t354);
+        io.pairs(7, 8, t355);
+        const Q t356 = shuffled<0, 1, 6, 7>(t354, t344);
+        io.pairs(43, 44, t356);
+        const Q t357 = t216 + t220;
+        const Q t358 = t357 + t334;
+        const Q t359 = shuffled<0, 1, 6, 7>(t358, t343);
+        io.pairs(25, 26, t359);
+        const Q t360 = shuffled<0, 1, 6, 7>(t344, t358);
+        io.pairs(34, 35, t360);
+        // complex block of 5, multiplier 4
+        const P t361 = t225 - t226;
+        const P t362 = c[2] * t223;
+        const P t363 = c[3] * t227;
+        const P t364 = t362 - t363;
+        const P t365 = part<0>(t205);
+        const P t366 = c[3] * t223;
+        const P t367 = t365 - t366;
+        const P t368 = t364 + t365;
+        const P t369 = c[4] * t224;
+        const P t370 = c[5] * t361;
+        const P t371 = t369 - t370;
+        const P t372 = shuffled<1, 0>(t371);
+        const P t373 = flipped<0, 1>(t372);
+        const P t374 = t368 + t373;
+        io.pair(31, t374);
+        const P t375 = t368 - t373;
+        io.pair(4, t375);
+        const P t376 = c[2] * t227;
+        const P t377 = t367 + t376;
+        const P t378 = c[5] * t224;
+        const P t379 = c[4] * t361;
+        const P t380 = t378 + t379;
+        const P t381 = shuffled<1, 0>(t380);
+        const P t382 = flipped<0, 1>(t381);
+        const P t383 = t377 + t382;
+        io.pair(22, t383);
+        const P t384 = t377 - t382;
+        io.pair(13, t384);
+        const P t385 = t223 + t227;
+        const P t386 = t385 + t365;
+        io.pair(40, t386);
     }
 };
 

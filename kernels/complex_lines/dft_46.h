@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 46.
 // Complex DFT of 46 points, prime-factor, order 23, 2; two lines of a stage to a register.
 // 202 sums, 144 differences, 242 products of registers, which do the 2440 steps of the graph, those with
-// `scale` included; 38 shuffles, 18 changes of sign.
+// `scale` included; 60 shuffles, 18 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -665,230 +665,250 @@ struct ComplexLines<46> {
         // spectrum block of 5, multiplier 2
         const Q t490 = t384 + t414;
         const Q t491 = t490 + t344;
-        const Q t492 = c[1] * t384;
-        const Q t493 = t344 - t492;
-        const Q t494 = c[0] * t414;
-        const Q t495 = t493 + t494;
-        const Q t496 = c[3] * t392;
-        const Q t497 = c[2] * t422;
-        const Q t498 = t496 + t497;
         // spectrum block of 5, multiplier 2
-        const Q t499 = t385 + t415;
-        const Q t500 = t499 + t345;
-        // spectrum block of 5, multiplier 2
-        const Q t501 = t444 + t478;
-        const Q t502 = t501 + t359;
-        const Q t503 = c[1] * t444;
-        const Q t504 = t359 - t503;
-        const Q t505 = c[0] * t478;
-        const Q t506 = t504 + t505;
-        const Q t507 = c[3] * t452;
-        const Q t508 = Q(c[2], -c[2], c[2], -c[2]) * t486;
-        const Q t509 = t507 + t508;
-        const Q t510 = flipped<0, 1, 0, 1>(t479);
-        // spectrum block of 5, multiplier 2
-        const Q t511 = t445 + t510;
-        const Q t512 = flipped<0, 1, 0, 1>(t361);
-        const Q t513 = t511 + t512;
-        // spectrum block of 5, multiplier 2
-        const Q t514 = t495 - t498;
-        // spectrum block of 5, multiplier 2
-        const Q t515 = t506 - t509;
+        const Q t492 = t444 + t478;
+        const Q t493 = t492 + t359;
         // spectrum block of 2
+        const Q t494 = t491 + t493;
+        const Q t495 = shuffled<0, 1, 4, 5>(t334, t494);
+        const Q t496 = shuffled<2, 3, 6, 7>(t334, t494);
+        // complex block of 2
+        const Q t497 = t495 + t496;
+        const Q t498 = t495 - t496;
+        const Q t499 = shuffled<0, 1, 6, 7>(t497, t498);
+        io.pairs(0, 1, t499);
+        const Q t500 = shuffled<0, 1, 6, 7>(t498, t497);
+        io.pairs(23, 24, t500);
+        // spectrum block of 2
+        const Q t501 = t491 - t493;
+        const P t502 = part<0>(t501);
+        const P t503 = part<1>(t501);
+        // complex block of 2
+        const P t504 = t502 + t503;
+        io.pair(22, t504);
+        const P t505 = t502 - t503;
+        io.pair(45, t505);
+        // spectrum block of 5, multiplier 2
+        const Q t506 = c[0] * t384;
+        const Q t507 = c[1] * t414;
+        const Q t508 = t506 - t507;
+        const Q t509 = t508 + t344;
+        const Q t510 = c[2] * t392;
+        const Q t511 = c[3] * t422;
+        const Q t512 = t510 - t511;
+        const Q t513 = c[1] * t384;
+        const Q t514 = t344 - t513;
+        const Q t515 = c[0] * t414;
         const Q t516 = t514 + t515;
-        const Q t517 = t514 - t515;
+        const Q t517 = c[3] * t392;
+        const Q t518 = c[2] * t422;
+        const Q t519 = t517 + t518;
+        // spectrum block of 5, multiplier 2
+        const Q t520 = t385 + t415;
+        const Q t521 = t520 + t345;
+        const Q t522 = c[0] * t385;
+        const Q t523 = c[1] * t415;
+        const Q t524 = t522 - t523;
+        const Q t525 = t524 + t345;
+        const Q t526 = c[2] * t393;
+        const Q t527 = c[3] * t423;
+        const Q t528 = t526 + t527;
+        const Q t529 = c[1] * t385;
+        const Q t530 = t345 - t529;
+        const Q t531 = c[0] * t415;
+        const Q t532 = t530 + t531;
+        const Q t533 = c[3] * t393;
+        const Q t534 = c[2] * t423;
+        const Q t535 = t533 - t534;
+        // spectrum block of 5, multiplier 2
+        const Q t536 = c[0] * t444;
+        const Q t537 = c[1] * t478;
+        const Q t538 = t536 - t537;
+        const Q t539 = t538 + t359;
+        const Q t540 = c[2] * t452;
+        const Q t541 = Q(-c[3], c[3], -c[3], c[3]) * t486;
+        const Q t542 = t540 + t541;
+        const Q t543 = c[1] * t444;
+        const Q t544 = t359 - t543;
+        const Q t545 = c[0] * t478;
+        const Q t546 = t544 + t545;
+        const Q t547 = c[3] * t452;
+        const Q t548 = Q(c[2], -c[2], c[2], -c[2]) * t486;
+        const Q t549 = t547 + t548;
+        const Q t550 = flipped<0, 1, 0, 1>(t479);
+        // spectrum block of 5, multiplier 2
+        const Q t551 = t445 + t550;
+        const Q t552 = flipped<0, 1, 0, 1>(t361);
+        const Q t553 = t551 + t552;
+        const Q t554 = c[0] * t445;
+        const Q t555 = Q(-c[1], c[1], -c[1], c[1]) * t479;
+        const Q t556 = t554 + t555;
+        const Q t557 = t556 + t552;
+        const Q t558 = c[2] * t453;
+        const Q t559 = c[3] * t489;
+        const Q t560 = t558 + t559;
+        const Q t561 = Q(-c[1], c[1], -c[1], c[1]) * t445;
+        const Q t562 = t361 + t561;
+        const Q t563 = c[0] * t479;
+        const Q t564 = t562 + t563;
+        const Q t565 = c[3] * t453;
+        const Q t566 = c[2] * t489;
+        const Q t567 = t565 - t566;
         // spectrum block of 2
-        const Q t518 = t500 + t513;
-        const Q t519 = t500 - t513;
-        const Q t520 = shuffled<0, 1, 4, 5>(t518, t516);
-        const Q t521 = shuffled<2, 3, 6, 7>(t518, t516);
-        // complex block of 2
-        const Q t522 = t520 + t521;
-        io.pairs(4, 6, t522);
-        const Q t523 = t520 - t521;
-        io.pairs(27, 29, t523);
-        const Q t524 = shuffled<0, 1, 4, 5>(t517, t519);
-        const Q t525 = shuffled<2, 3, 6, 7>(t517, t519);
-        // complex block of 2
-        const Q t526 = t524 + t525;
-        io.pairs(40, 42, t526);
-        const Q t527 = t524 - t525;
-        io.pairs(17, 19, t527);
+        const Q t568 = t346 + t363;
+        const Q t569 = t346 - t363;
         // spectrum block of 5, multiplier 2
-        const Q t528 = t495 + t498;
+        const Q t570 = t509 - t512;
         // spectrum block of 5, multiplier 2
-        const Q t529 = t506 + t509;
+        const Q t571 = t539 - t542;
         // spectrum block of 2
-        const Q t530 = t528 + t529;
-        const Q t531 = t528 - t529;
+        const Q t572 = t570 + t571;
+        const Q t573 = t570 - t571;
+        // spectrum block of 5, multiplier 2
+        const Q t574 = t525 + t528;
+        // spectrum block of 5, multiplier 2
+        const Q t575 = t557 + t560;
         // spectrum block of 2
-        const Q t532 = t491 + t502;
-        const Q t533 = t491 - t502;
-        const Q t534 = shuffled<0, 1, 4, 5>(t531, t533);
-        const Q t535 = shuffled<2, 3, 6, 7>(t531, t533);
+        const Q t576 = t574 + t575;
+        const Q t577 = t574 - t575;
+        const Q t578 = shuffled<0, 1, 4, 5>(t573, t577);
+        const Q t579 = shuffled<2, 3, 6, 7>(t573, t577);
         // complex block of 2
-        const Q t536 = t534 + t535;
-        io.pairs(20, 22, t536);
-        const Q t537 = t534 - t535;
-        io.pairs(43, 45, t537);
-        const Q t538 = shuffled<0, 1, 4, 5>(t532, t530);
-        const Q t539 = shuffled<2, 3, 6, 7>(t532, t530);
+        const Q t580 = t578 + t579;
+        const Q t581 = t578 - t579;
+        const Q t582 = shuffled<0, 1, 6, 7>(t580, t581);
+        io.pairs(10, 11, t582);
+        const Q t583 = shuffled<0, 1, 6, 7>(t581, t580);
+        io.pairs(33, 34, t583);
+        const Q t584 = shuffled<0, 1, 4, 5>(t576, t572);
+        const Q t585 = shuffled<2, 3, 6, 7>(t576, t572);
         // complex block of 2
-        const Q t540 = t538 + t539;
-        io.pairs(24, 26, t540);
-        const Q t541 = t538 - t539;
-        io.pairs(1, 3, t541);
+        const Q t586 = t584 + t585;
+        const Q t587 = t584 - t585;
+        const Q t588 = shuffled<0, 1, 6, 7>(t586, t587);
+        io.pairs(12, 13, t588);
+        const Q t589 = shuffled<0, 1, 6, 7>(t587, t586);
+        io.pairs(35, 36, t589);
         // spectrum block of 5, multiplier 2
-        const Q t542 = c[0] * t384;
-        const Q t543 = c[1] * t414;
-        const Q t544 = t542 - t543;
-        const Q t545 = t544 + t344;
-        const Q t546 = c[2] * t392;
-        const Q t547 = c[3] * t422;
-        const Q t548 = t546 - t547;
+        const Q t590 = t509 + t512;
         // spectrum block of 5, multiplier 2
-        const Q t549 = c[0] * t444;
-        const Q t550 = c[1] * t478;
-        const Q t551 = t549 - t550;
-        const Q t552 = t551 + t359;
-        const Q t553 = c[2] * t452;
-        const Q t554 = Q(-c[3], c[3], -c[3], c[3]) * t486;
-        const Q t555 = t553 + t554;
-        // spectrum block of 5, multiplier 2
-        const Q t556 = t545 - t548;
-        // spectrum block of 5, multiplier 2
-        const Q t557 = t552 - t555;
+        const Q t591 = t539 + t542;
         // spectrum block of 2
-        const Q t558 = t556 + t557;
-        const Q t559 = t556 - t557;
-        // spectrum block of 5, multiplier 2
-        const Q t560 = t545 + t548;
-        // spectrum block of 5, multiplier 2
-        const Q t561 = t552 + t555;
-        // spectrum block of 2
-        const Q t562 = t560 + t561;
-        const Q t563 = t560 - t561;
-        const Q t564 = shuffled<0, 1, 4, 5>(t562, t559);
-        const Q t565 = shuffled<2, 3, 6, 7>(t562, t559);
-        // complex block of 2
-        const Q t566 = t564 + t565;
-        io.pairs(8, 10, t566);
-        const Q t567 = t564 - t565;
-        io.pairs(31, 33, t567);
-        const Q t568 = shuffled<0, 1, 4, 5>(t558, t563);
-        const Q t569 = shuffled<2, 3, 6, 7>(t558, t563);
-        // complex block of 2
-        const Q t570 = t568 + t569;
-        io.pairs(36, 38, t570);
-        const Q t571 = t568 - t569;
-        io.pairs(13, 15, t571);
-        // spectrum block of 5, multiplier 2
-        const Q t572 = c[0] * t385;
-        const Q t573 = c[1] * t415;
-        const Q t574 = t572 - t573;
-        const Q t575 = t574 + t345;
-        const Q t576 = c[2] * t393;
-        const Q t577 = c[3] * t423;
-        const Q t578 = t576 + t577;
-        const Q t579 = c[1] * t385;
-        const Q t580 = t345 - t579;
-        const Q t581 = c[0] * t415;
-        const Q t582 = t580 + t581;
-        const Q t583 = c[3] * t393;
-        const Q t584 = c[2] * t423;
-        const Q t585 = t583 - t584;
-        // spectrum block of 5, multiplier 2
-        const Q t586 = c[0] * t445;
-        const Q t587 = Q(-c[1], c[1], -c[1], c[1]) * t479;
-        const Q t588 = t586 + t587;
-        const Q t589 = t588 + t512;
-        const Q t590 = c[2] * t453;
-        const Q t591 = c[3] * t489;
         const Q t592 = t590 + t591;
-        const Q t593 = Q(-c[1], c[1], -c[1], c[1]) * t445;
-        const Q t594 = t361 + t593;
-        const Q t595 = c[0] * t479;
-        const Q t596 = t594 + t595;
-        const Q t597 = c[3] * t453;
-        const Q t598 = c[2] * t489;
-        const Q t599 = t597 - t598;
+        const Q t593 = t590 - t591;
         // spectrum block of 5, multiplier 2
-        const Q t600 = t575 - t578;
+        const Q t594 = t532 + t535;
+        const Q t595 = flipped<0, 1, 0, 1>(t564);
         // spectrum block of 5, multiplier 2
-        const Q t601 = t589 - t592;
+        const Q t596 = t567 + t595;
         // spectrum block of 2
-        const Q t602 = t600 + t601;
-        const Q t603 = t600 - t601;
-        // spectrum block of 5, multiplier 2
-        const Q t604 = t582 - t585;
-        const Q t605 = flipped<1, 0, 1, 0>(t599);
-        // spectrum block of 5, multiplier 2
-        const Q t606 = t596 + t605;
-        const Q t607 = flipped<0, 1, 0, 1>(t606);
-        // spectrum block of 2
-        const Q t608 = t604 + t607;
-        const Q t609 = t604 - t607;
-        const Q t610 = shuffled<0, 1, 4, 5>(t608, t602);
-        const Q t611 = shuffled<2, 3, 6, 7>(t608, t602);
+        const Q t597 = t594 + t596;
+        const Q t598 = t594 - t596;
+        const Q t599 = shuffled<0, 1, 4, 5>(t592, t597);
+        const Q t600 = shuffled<2, 3, 6, 7>(t592, t597);
         // complex block of 2
-        const Q t612 = t610 + t611;
-        io.pairs(16, 18, t612);
-        const Q t613 = t610 - t611;
-        io.pairs(39, 41, t613);
-        const Q t614 = shuffled<0, 1, 4, 5>(t603, t609);
-        const Q t615 = shuffled<2, 3, 6, 7>(t603, t609);
+        const Q t601 = t599 + t600;
+        const Q t602 = t599 - t600;
+        const Q t603 = shuffled<0, 1, 6, 7>(t601, t602);
+        io.pairs(8, 9, t603);
+        const Q t604 = shuffled<0, 1, 6, 7>(t602, t601);
+        io.pairs(31, 32, t604);
+        const Q t605 = shuffled<0, 1, 4, 5>(t598, t593);
+        const Q t606 = shuffled<2, 3, 6, 7>(t598, t593);
         // complex block of 2
-        const Q t616 = t614 + t615;
-        io.pairs(28, 30, t616);
-        const Q t617 = t614 - t615;
-        io.pairs(5, 7, t617);
+        const Q t607 = t605 + t606;
+        const Q t608 = t605 - t606;
+        const Q t609 = shuffled<0, 1, 6, 7>(t607, t608);
+        io.pairs(14, 15, t609);
+        const Q t610 = shuffled<0, 1, 6, 7>(t608, t607);
+        io.pairs(37, 38, t610);
         // spectrum block of 5, multiplier 2
-        const Q t618 = t575 + t578;
+        const Q t611 = t516 - t519;
         // spectrum block of 5, multiplier 2
-        const Q t619 = t589 + t592;
+        const Q t612 = t546 - t549;
         // spectrum block of 2
-        const Q t620 = t618 + t619;
-        const Q t621 = t618 - t619;
+        const Q t613 = t611 + t612;
+        const Q t614 = t611 - t612;
         // spectrum block of 5, multiplier 2
-        const Q t622 = t582 + t585;
-        const Q t623 = flipped<0, 1, 0, 1>(t596);
+        const Q t615 = t532 - t535;
+        const Q t616 = flipped<1, 0, 1, 0>(t567);
         // spectrum block of 5, multiplier 2
-        const Q t624 = t599 + t623;
+        const Q t617 = t564 + t616;
+        const Q t618 = flipped<0, 1, 0, 1>(t617);
         // spectrum block of 2
-        const Q t625 = t622 + t624;
-        const Q t626 = t622 - t624;
-        const Q t627 = shuffled<0, 1, 4, 5>(t620, t626);
-        const Q t628 = shuffled<2, 3, 6, 7>(t620, t626);
+        const Q t619 = t615 + t618;
+        const Q t620 = t615 - t618;
+        const Q t621 = shuffled<0, 1, 4, 5>(t613, t620);
+        const Q t622 = shuffled<2, 3, 6, 7>(t613, t620);
+        // complex block of 2
+        const Q t623 = t621 + t622;
+        const Q t624 = t621 - t622;
+        const Q t625 = shuffled<0, 1, 6, 7>(t623, t624);
+        io.pairs(6, 7, t625);
+        const Q t626 = shuffled<0, 1, 6, 7>(t624, t623);
+        io.pairs(29, 30, t626);
+        const Q t627 = shuffled<0, 1, 4, 5>(t619, t614);
+        const Q t628 = shuffled<2, 3, 6, 7>(t619, t614);
         // complex block of 2
         const Q t629 = t627 + t628;
-        io.pairs(12, 14, t629);
         const Q t630 = t627 - t628;
-        io.pairs(35, 37, t630);
-        const Q t631 = shuffled<0, 1, 4, 5>(t625, t621);
-        const Q t632 = shuffled<2, 3, 6, 7>(t625, t621);
-        // complex block of 2
-        const Q t633 = t631 + t632;
-        io.pairs(32, 34, t633);
-        const Q t634 = t631 - t632;
-        io.pairs(9, 11, t634);
+        const Q t631 = shuffled<0, 1, 6, 7>(t629, t630);
+        io.pairs(16, 17, t631);
+        const Q t632 = shuffled<0, 1, 6, 7>(t630, t629);
+        io.pairs(39, 40, t632);
+        // spectrum block of 5, multiplier 2
+        const Q t633 = t516 + t519;
+        // spectrum block of 5, multiplier 2
+        const Q t634 = t546 + t549;
         // spectrum block of 2
-        const Q t635 = t346 + t363;
-        const Q t636 = shuffled<0, 1, 4, 5>(t334, t635);
-        const Q t637 = shuffled<2, 3, 6, 7>(t334, t635);
+        const Q t635 = t633 + t634;
+        const Q t636 = t633 - t634;
+        const Q t637 = shuffled<0, 1, 4, 5>(t568, t635);
+        const Q t638 = shuffled<2, 3, 6, 7>(t568, t635);
         // complex block of 2
-        const Q t638 = t636 + t637;
-        io.pairs(0, 2, t638);
-        const Q t639 = t636 - t637;
-        io.pairs(23, 25, t639);
+        const Q t639 = t637 + t638;
+        const Q t640 = t637 - t638;
+        const Q t641 = shuffled<0, 1, 6, 7>(t639, t640);
+        io.pairs(2, 3, t641);
+        const Q t642 = shuffled<0, 1, 6, 7>(t640, t639);
+        io.pairs(25, 26, t642);
+        const Q t643 = shuffled<0, 1, 4, 5>(t636, t569);
+        const Q t644 = shuffled<2, 3, 6, 7>(t636, t569);
+        // complex block of 2
+        const Q t645 = t643 + t644;
+        const Q t646 = t643 - t644;
+        const Q t647 = shuffled<0, 1, 6, 7>(t645, t646);
+        io.pairs(20, 21, t647);
+        const Q t648 = shuffled<0, 1, 6, 7>(t646, t645);
+        io.pairs(43, 44, t648);
+        // spectrum block of 5, multiplier 2
+        const Q t649 = t525 - t528;
+        // spectrum block of 5, multiplier 2
+        const Q t650 = t557 - t560;
         // spectrum block of 2
-        const Q t640 = t346 - t363;
-        const P t641 = part<0>(t640);
-        const P t642 = part<1>(t640);
+        const Q t651 = t649 + t650;
+        const Q t652 = t649 - t650;
+        // spectrum block of 2
+        const Q t653 = t521 + t553;
+        const Q t654 = t521 - t553;
+        const Q t655 = shuffled<0, 1, 4, 5>(t653, t652);
+        const Q t656 = shuffled<2, 3, 6, 7>(t653, t652);
         // complex block of 2
-        const P t643 = t641 + t642;
-        io.pair(44, t643);
-        const P t644 = t641 - t642;
-        io.pair(21, t644);
+        const Q t657 = t655 + t656;
+        const Q t658 = t655 - t656;
+        const Q t659 = shuffled<0, 1, 6, 7>(t657, t658);
+        io.pairs(4, 5, t659);
+        const Q t660 = shuffled<0, 1, 6, 7>(t658, t657);
+        io.pairs(27, 28, t660);
+        const Q t661 = shuffled<0, 1, 4, 5>(t651, t654);
+        const Q t662 = shuffled<2, 3, 6, 7>(t651, t654);
+        // complex block of 2
+        const Q t663 = t661 + t662;
+        const Q t664 = t661 - t662;
+        const Q t665 = shuffled<0, 1, 6, 7>(t663, t664);
+        io.pairs(18, 19, t665);
+        const Q t666 = shuffled<0, 1, 6, 7>(t664, t663);
+        io.pairs(41, 42, t666);
     }
 };
 

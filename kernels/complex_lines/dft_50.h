@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 50.
 // Complex DFT of 50 points, prime-factor, order 25, 2; two lines of a stage to a register.
 // 122 sums, 82 differences, 112 products of registers, which do the 1352 steps of the graph, those with
-// `scale` included; 88 shuffles, 26 changes of sign.
+// `scale` included; 112 shuffles, 26 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -399,196 +399,220 @@ struct ComplexLines<50> {
         const Q t296 = shuffled<1, 0, 3, 2>(t288);
         const Q t297 = flipped<0, 1, 0, 1>(t296);
         const Q t298 = t285 + t297;
-        const Q t299 = t285 - t297;
         // complex block of 5, multiplier 2
-        const Q t300 = t225 + t200;
-        const Q t301 = c[2] * t211;
-        const Q t302 = c[3] * t221;
-        const Q t303 = t301 - t302;
-        const Q t304 = shuffled<1, 0, 3, 2>(t303);
-        const Q t305 = flipped<0, 1, 0, 1>(t304);
-        const Q t306 = t300 + t305;
-        const Q t307 = t300 - t305;
-        // complex block of 5, multiplier 2
-        const Q t308 = t195 + t167;
-        const Q t309 = c[2] * t178;
-        const Q t310 = c[3] * t190;
-        const Q t311 = t309 - t310;
-        const Q t312 = shuffled<1, 0, 3, 2>(t311);
-        const Q t313 = flipped<0, 1, 0, 1>(t312);
-        const Q t314 = t308 + t313;
-        const Q t315 = t308 - t313;
-        // complex block of 5, multiplier 2
-        const Q t316 = t164 + t138;
-        const Q t317 = c[2] * t148;
-        const Q t318 = Q(c[3], -c[3], c[3], -c[3]) * t160;
-        const Q t319 = t317 + t318;
-        const Q t320 = shuffled<1, 0, 3, 2>(t319);
-        const Q t321 = flipped<0, 1, 0, 1>(t320);
-        const Q t322 = t316 + t321;
-        const Q t323 = t316 - t321;
-        const P t324 = shuffled<0, 2>(t262, t267);
-        const P t325 = shuffled<1, 3>(t262, t267);
-        const Q t326 = joined(t324, t325);
-        const Q t327 = shuffled<0, 5, 2, 7>(t228, t258);
-        const Q t328 = flipped<0, 1, 0, 1>(t327);
-        // complex block of 5, multiplier 2
-        const Q t329 = t326 + t328;
-        const Q t330 = c[2] * t240;
-        const Q t331 = c[3] * t251;
-        const Q t332 = t330 - t331;
-        const Q t333 = shuffled<1, 0, 3, 2>(t332);
-        const Q t334 = flipped<0, 1, 0, 1>(t333);
-        const Q t335 = t329 + t334;
-        const Q t336 = t329 - t334;
-        const Q t337 = shuffled<0, 1, 4, 5>(t299, t307);
-        const Q t338 = shuffled<2, 3, 6, 7>(t299, t307);
+        const Q t299 = t192 + t167;
+        const Q t300 = shuffled<0, 1, 4, 5>(t299, t298);
+        const Q t301 = shuffled<2, 3, 6, 7>(t299, t298);
         // complex block of 2
-        const Q t339 = t337 + t338;
-        io.pairs(20, 22, t339);
-        const Q t340 = t337 - t338;
-        io.pairs(45, 47, t340);
-        const Q t341 = shuffled<0, 1, 4, 5>(t315, t323);
-        const Q t342 = shuffled<2, 3, 6, 7>(t315, t323);
+        const Q t302 = t300 + t301;
+        const Q t303 = t300 - t301;
+        const Q t304 = shuffled<0, 1, 6, 7>(t302, t303);
+        io.pairs(4, 5, t304);
+        const Q t305 = shuffled<0, 1, 6, 7>(t303, t302);
+        io.pairs(29, 30, t305);
+        // complex block of 5, multiplier 2
+        const Q t306 = t285 - t297;
+        // complex block of 5, multiplier 2
+        const Q t307 = t222 + t200;
+        const Q t308 = c[0] * t220;
+        const Q t309 = t227 + t308;
+        const Q t310 = c[3] * t211;
+        const Q t311 = c[2] * t221;
+        const Q t312 = t310 + t311;
+        const Q t313 = shuffled<1, 0, 3, 2>(t312);
+        const Q t314 = flipped<0, 1, 0, 1>(t313);
+        const Q t315 = t309 + t314;
+        const Q t316 = t309 - t314;
+        // complex block of 5, multiplier 2
+        const Q t317 = c[0] * t159;
+        const Q t318 = t166 + t317;
+        const Q t319 = c[3] * t148;
+        const Q t320 = Q(-c[2], c[2], -c[2], c[2]) * t160;
+        const Q t321 = t319 + t320;
+        const Q t322 = shuffled<1, 0, 3, 2>(t321);
+        const Q t323 = flipped<0, 1, 0, 1>(t322);
+        const Q t324 = t318 + t323;
+        const Q t325 = t318 - t323;
+        const P t326 = shuffled<0, 2>(t262, t267);
+        const P t327 = shuffled<1, 3>(t262, t267);
+        const Q t328 = joined(t326, t327);
+        const Q t329 = shuffled<0, 5, 2, 7>(t228, t258);
+        const Q t330 = flipped<0, 1, 0, 1>(t329);
+        // complex block of 5, multiplier 2
+        const Q t331 = t328 + t330;
+        const Q t332 = c[2] * t240;
+        const Q t333 = c[3] * t251;
+        const Q t334 = t332 - t333;
+        const Q t335 = shuffled<1, 0, 3, 2>(t334);
+        const Q t336 = flipped<0, 1, 0, 1>(t335);
+        const Q t337 = t331 + t336;
+        const Q t338 = t331 - t336;
+        const Q t339 = shuffled<0, 1, 4, 5>(t307, t338);
+        const Q t340 = shuffled<2, 3, 6, 7>(t307, t338);
         // complex block of 2
-        const Q t343 = t341 + t342;
-        io.pairs(24, 26, t343);
-        const Q t344 = t341 - t342;
-        io.pairs(49, 1, t344);
-        const Q t345 = shuffled<0, 1, 4, 5>(t336, t298);
-        const Q t346 = shuffled<2, 3, 6, 7>(t336, t298);
+        const Q t341 = t339 + t340;
+        const Q t342 = t339 - t340;
+        const Q t343 = shuffled<0, 1, 6, 7>(t341, t342);
+        io.pairs(2, 3, t343);
+        const Q t344 = shuffled<0, 1, 6, 7>(t342, t341);
+        io.pairs(27, 28, t344);
+        const Q t345 = shuffled<0, 1, 4, 5>(t315, t337);
+        const Q t346 = shuffled<2, 3, 6, 7>(t315, t337);
         // complex block of 2
         const Q t347 = t345 + t346;
-        io.pairs(28, 30, t347);
         const Q t348 = t345 - t346;
-        io.pairs(3, 5, t348);
-        const Q t349 = shuffled<0, 1, 4, 5>(t306, t314);
-        const Q t350 = shuffled<2, 3, 6, 7>(t306, t314);
+        const Q t349 = shuffled<0, 1, 6, 7>(t347, t348);
+        io.pairs(12, 13, t349);
+        const Q t350 = shuffled<0, 1, 6, 7>(t348, t347);
+        io.pairs(37, 38, t350);
+        const Q t351 = shuffled<0, 1, 4, 5>(t324, t316);
+        const Q t352 = shuffled<2, 3, 6, 7>(t324, t316);
         // complex block of 2
-        const Q t351 = t349 + t350;
-        io.pairs(32, 34, t351);
-        const Q t352 = t349 - t350;
-        io.pairs(7, 9, t352);
-        const Q t353 = shuffled<0, 1, 4, 5>(t322, t335);
-        const Q t354 = shuffled<2, 3, 6, 7>(t322, t335);
+        const Q t353 = t351 + t352;
+        const Q t354 = t351 - t352;
+        const Q t355 = shuffled<0, 1, 6, 7>(t353, t354);
+        io.pairs(16, 17, t355);
+        const Q t356 = shuffled<0, 1, 6, 7>(t354, t353);
+        io.pairs(41, 42, t356);
+        const Q t357 = shuffled<0, 1, 4, 5>(t306, t325);
+        const Q t358 = shuffled<2, 3, 6, 7>(t306, t325);
         // complex block of 2
-        const Q t355 = t353 + t354;
-        io.pairs(36, 38, t355);
-        const Q t356 = t353 - t354;
-        io.pairs(11, 13, t356);
-        const Q t357 = shuffled<1, 0, 3, 2>(t295);
-        const Q t358 = flipped<0, 1, 0, 1>(t357);
+        const Q t359 = t357 + t358;
+        const Q t360 = t357 - t358;
+        const Q t361 = shuffled<0, 1, 6, 7>(t359, t360);
+        io.pairs(20, 21, t361);
+        const Q t362 = shuffled<0, 1, 6, 7>(t360, t359);
+        io.pairs(45, 46, t362);
+        const Q t363 = shuffled<1, 0, 3, 2>(t295);
+        const Q t364 = flipped<0, 1, 0, 1>(t363);
         // complex block of 5, multiplier 2
-        const Q t359 = t292 + t358;
+        const Q t365 = t292 + t364;
         // complex block of 5, multiplier 2
-        const Q t360 = t253 + t228;
-        const Q t361 = shuffled<0, 1, 4, 5>(t360, t359);
-        const Q t362 = shuffled<2, 3, 6, 7>(t360, t359);
+        const Q t366 = t164 + t138;
+        const Q t367 = c[2] * t148;
+        const Q t368 = Q(c[3], -c[3], c[3], -c[3]) * t160;
+        const Q t369 = t367 + t368;
+        const Q t370 = shuffled<1, 0, 3, 2>(t369);
+        const Q t371 = flipped<0, 1, 0, 1>(t370);
+        const Q t372 = t366 + t371;
+        const Q t373 = t366 - t371;
+        const Q t374 = shuffled<0, 1, 4, 5>(t281, t373);
+        const Q t375 = shuffled<2, 3, 6, 7>(t281, t373);
         // complex block of 2
-        const Q t363 = t361 + t362;
-        io.pairs(8, 10, t363);
-        const Q t364 = t361 - t362;
-        io.pairs(33, 35, t364);
-        // complex block of 5, multiplier 2
-        const Q t365 = t292 - t358;
-        // complex block of 5, multiplier 2
-        const Q t366 = c[0] * t220;
-        const Q t367 = t227 + t366;
-        const Q t368 = c[3] * t211;
-        const Q t369 = c[2] * t221;
-        const Q t370 = t368 + t369;
-        const Q t371 = shuffled<1, 0, 3, 2>(t370);
-        const Q t372 = flipped<0, 1, 0, 1>(t371);
-        const Q t373 = t367 + t372;
-        const Q t374 = t367 - t372;
-        // complex block of 5, multiplier 2
-        const Q t375 = Q(c[0], -c[0], c[0], -c[0]) * t187;
-        const Q t376 = t197 + t375;
-        const Q t377 = c[3] * t178;
-        const Q t378 = c[2] * t190;
-        const Q t379 = t377 + t378;
-        const Q t380 = shuffled<1, 0, 3, 2>(t379);
-        const Q t381 = flipped<0, 1, 0, 1>(t380);
-        const Q t382 = t376 + t381;
-        const Q t383 = t376 - t381;
-        // complex block of 5, multiplier 2
-        const Q t384 = c[0] * t159;
-        const Q t385 = t166 + t384;
-        const Q t386 = c[3] * t148;
-        const Q t387 = Q(-c[2], c[2], -c[2], c[2]) * t160;
-        const Q t388 = t386 + t387;
-        const Q t389 = shuffled<1, 0, 3, 2>(t388);
-        const Q t390 = flipped<0, 1, 0, 1>(t389);
-        const Q t391 = t385 + t390;
-        const Q t392 = t385 - t390;
-        const P t393 = shuffled<0, 2>(t273, t279);
-        const P t394 = shuffled<1, 3>(t273, t279);
-        const Q t395 = joined(t393, t394);
-        const Q t396 = shuffled<0, 5, 2, 7>(t275, t228);
-        // complex block of 5, multiplier 2
-        const Q t397 = t395 + t396;
-        const Q t398 = c[3] * t240;
-        const Q t399 = c[2] * t251;
-        const Q t400 = t398 + t399;
-        const Q t401 = shuffled<1, 0, 3, 2>(t400);
-        const Q t402 = flipped<0, 1, 0, 1>(t401);
-        const Q t403 = t397 + t402;
-        const Q t404 = t397 - t402;
-        const Q t405 = shuffled<0, 1, 4, 5>(t373, t382);
-        const Q t406 = shuffled<2, 3, 6, 7>(t373, t382);
+        const Q t376 = t374 + t375;
+        const Q t377 = t374 - t375;
+        const Q t378 = shuffled<0, 1, 6, 7>(t376, t377);
+        io.pairs(0, 1, t378);
+        const Q t379 = shuffled<0, 1, 6, 7>(t377, t376);
+        io.pairs(25, 26, t379);
+        const Q t380 = shuffled<0, 1, 4, 5>(t365, t372);
+        const Q t381 = shuffled<2, 3, 6, 7>(t365, t372);
         // complex block of 2
-        const Q t407 = t405 + t406;
-        io.pairs(12, 14, t407);
-        const Q t408 = t405 - t406;
-        io.pairs(37, 39, t408);
-        const Q t409 = shuffled<0, 1, 4, 5>(t391, t403);
-        const Q t410 = shuffled<2, 3, 6, 7>(t391, t403);
-        // complex block of 2
-        const Q t411 = t409 + t410;
-        io.pairs(16, 18, t411);
-        const Q t412 = t409 - t410;
-        io.pairs(41, 43, t412);
-        const Q t413 = shuffled<0, 1, 4, 5>(t365, t374);
-        const Q t414 = shuffled<2, 3, 6, 7>(t365, t374);
-        // complex block of 2
-        const Q t415 = t413 + t414;
-        io.pairs(40, 42, t415);
-        const Q t416 = t413 - t414;
-        io.pairs(15, 17, t416);
-        const Q t417 = shuffled<0, 1, 4, 5>(t383, t392);
-        const Q t418 = shuffled<2, 3, 6, 7>(t383, t392);
+        const Q t382 = t380 + t381;
+        const Q t383 = t380 - t381;
+        const Q t384 = shuffled<0, 1, 6, 7>(t382, t383);
+        io.pairs(10, 11, t384);
+        const Q t385 = shuffled<0, 1, 6, 7>(t383, t382);
+        io.pairs(35, 36, t385);
+        // complex block of 5, multiplier 2
+        const Q t386 = t292 - t364;
+        // complex block of 5, multiplier 2
+        const Q t387 = t225 + t200;
+        const Q t388 = c[2] * t211;
+        const Q t389 = c[3] * t221;
+        const Q t390 = t388 - t389;
+        const Q t391 = shuffled<1, 0, 3, 2>(t390);
+        const Q t392 = flipped<0, 1, 0, 1>(t391);
+        const Q t393 = t387 + t392;
+        const Q t394 = t387 - t392;
+        // complex block of 5, multiplier 2
+        const Q t395 = Q(c[0], -c[0], c[0], -c[0]) * t187;
+        const Q t396 = t197 + t395;
+        const Q t397 = c[3] * t178;
+        const Q t398 = c[2] * t190;
+        const Q t399 = t397 + t398;
+        const Q t400 = shuffled<1, 0, 3, 2>(t399);
+        const Q t401 = flipped<0, 1, 0, 1>(t400);
+        const Q t402 = t396 + t401;
+        const Q t403 = t396 - t401;
+        // complex block of 5, multiplier 2
+        const Q t404 = t161 + t138;
+        const P t405 = shuffled<0, 2>(t273, t279);
+        const P t406 = shuffled<1, 3>(t273, t279);
+        const Q t407 = joined(t405, t406);
+        const Q t408 = shuffled<0, 5, 2, 7>(t275, t228);
+        // complex block of 5, multiplier 2
+        const Q t409 = t407 + t408;
+        const Q t410 = c[3] * t240;
+        const Q t411 = c[2] * t251;
+        const Q t412 = t410 + t411;
+        const Q t413 = shuffled<1, 0, 3, 2>(t412);
+        const Q t414 = flipped<0, 1, 0, 1>(t413);
+        const Q t415 = t409 + t414;
+        const Q t416 = t409 - t414;
+        const Q t417 = shuffled<0, 1, 4, 5>(t404, t393);
+        const Q t418 = shuffled<2, 3, 6, 7>(t404, t393);
         // complex block of 2
         const Q t419 = t417 + t418;
-        io.pairs(44, 46, t419);
         const Q t420 = t417 - t418;
-        io.pairs(19, 21, t420);
-        const P t421 = part<0>(t404);
-        const P t422 = part<1>(t404);
+        const Q t421 = shuffled<0, 1, 6, 7>(t419, t420);
+        io.pairs(6, 7, t421);
+        const Q t422 = shuffled<0, 1, 6, 7>(t420, t419);
+        io.pairs(31, 32, t422);
+        const Q t423 = shuffled<0, 1, 4, 5>(t402, t386);
+        const Q t424 = shuffled<2, 3, 6, 7>(t402, t386);
         // complex block of 2
-        const P t423 = t421 + t422;
-        io.pair(48, t423);
-        const P t424 = t421 - t422;
-        io.pair(23, t424);
-        // complex block of 5, multiplier 2
-        const Q t425 = t222 + t200;
-        const Q t426 = shuffled<0, 1, 4, 5>(t281, t425);
-        const Q t427 = shuffled<2, 3, 6, 7>(t281, t425);
+        const Q t425 = t423 + t424;
+        const Q t426 = t423 - t424;
+        const Q t427 = shuffled<0, 1, 6, 7>(t425, t426);
+        io.pairs(14, 15, t427);
+        const Q t428 = shuffled<0, 1, 6, 7>(t426, t425);
+        io.pairs(39, 40, t428);
+        const Q t429 = shuffled<0, 1, 4, 5>(t415, t403);
+        const Q t430 = shuffled<2, 3, 6, 7>(t415, t403);
         // complex block of 2
-        const Q t428 = t426 + t427;
-        io.pairs(0, 2, t428);
-        const Q t429 = t426 - t427;
-        io.pairs(25, 27, t429);
-        // complex block of 5, multiplier 2
-        const Q t430 = t192 + t167;
-        // complex block of 5, multiplier 2
-        const Q t431 = t161 + t138;
-        const Q t432 = shuffled<0, 1, 4, 5>(t430, t431);
-        const Q t433 = shuffled<2, 3, 6, 7>(t430, t431);
+        const Q t431 = t429 + t430;
+        const Q t432 = t429 - t430;
+        const Q t433 = shuffled<0, 1, 6, 7>(t431, t432);
+        io.pairs(18, 19, t433);
+        const Q t434 = shuffled<0, 1, 6, 7>(t432, t431);
+        io.pairs(43, 44, t434);
+        const Q t435 = shuffled<0, 1, 4, 5>(t394, t416);
+        const Q t436 = shuffled<2, 3, 6, 7>(t394, t416);
         // complex block of 2
-        const Q t434 = t432 + t433;
-        io.pairs(4, 6, t434);
-        const Q t435 = t432 - t433;
-        io.pairs(29, 31, t435);
+        const Q t437 = t435 + t436;
+        const Q t438 = t435 - t436;
+        const Q t439 = shuffled<0, 1, 6, 7>(t437, t438);
+        io.pairs(22, 23, t439);
+        const Q t440 = shuffled<0, 1, 6, 7>(t438, t437);
+        io.pairs(47, 48, t440);
+        // complex block of 5, multiplier 2
+        const Q t441 = t195 + t167;
+        const Q t442 = c[2] * t178;
+        const Q t443 = c[3] * t190;
+        const Q t444 = t442 - t443;
+        const Q t445 = shuffled<1, 0, 3, 2>(t444);
+        const Q t446 = flipped<0, 1, 0, 1>(t445);
+        const Q t447 = t441 + t446;
+        const Q t448 = t441 - t446;
+        // complex block of 5, multiplier 2
+        const Q t449 = t253 + t228;
+        const P t450 = part<0>(t448);
+        const P t451 = part<1>(t448);
+        // complex block of 2
+        const P t452 = t450 + t451;
+        io.pair(24, t452);
+        const P t453 = t450 - t451;
+        io.pair(49, t453);
+        const Q t454 = shuffled<0, 1, 4, 5>(t449, t447);
+        const Q t455 = shuffled<2, 3, 6, 7>(t449, t447);
+        // complex block of 2
+        const Q t456 = t454 + t455;
+        const Q t457 = t454 - t455;
+        const Q t458 = shuffled<0, 1, 6, 7>(t456, t457);
+        io.pairs(8, 9, t458);
+        const Q t459 = shuffled<0, 1, 6, 7>(t457, t456);
+        io.pairs(33, 34, t459);
     }
 };
 

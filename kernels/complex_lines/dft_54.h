@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 54.
 // Complex DFT of 54 points, prime-factor, order 27, 2; two lines of a stage to a register.
 // 129 sums, 89 differences, 110 products of registers, which do the 1416 steps of the graph, those with
-// `scale` included; 86 shuffles, 17 changes of sign.
+// `scale` included; 112 shuffles, 17 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -454,195 +454,216 @@ struct ComplexLines<54> {
         const Q t311 = shuffled<1, 0, 3, 2>(t310);
         const Q t312 = t167 + t311;
         // complex block of 3, multiplier 2
-        const Q t313 = c[0] * t205;
-        const Q t314 = t177 - t313;
-        // complex block of 3, multiplier 2
-        const Q t315 = c[0] * t251;
-        const Q t316 = t188 - t315;
-        // complex block of 3, multiplier 2
-        const Q t317 = c[0] * t296;
-        const Q t318 = t173 - t317;
-        const Q t319 = Q(-c[1], c[1], -c[1], c[1]) * t297;
-        const Q t320 = shuffled<1, 0, 3, 2>(t319);
-        const Q t321 = t318 + t320;
-        const Q t322 = t318 - t320;
-        // complex block of 3, multiplier 2
-        const Q t323 = t222 + t226;
-        const Q t324 = c[0] * t229;
-        const Q t325 = t183 - t324;
-        // complex block of 3, multiplier 2
-        const Q t326 = t268 + t272;
-        const Q t327 = c[0] * t275;
-        const Q t328 = t194 - t327;
-        // complex block of 3, multiplier 2
-        const Q t329 = c[0] * t307;
-        const Q t330 = t172 - t329;
-        const Q t331 = c[1] * t309;
-        const Q t332 = shuffled<1, 0, 3, 2>(t331);
-        const Q t333 = t330 - t332;
-        const Q t334 = t330 + t332;
-        const Q t335 = flipped<0, 1, 0, 1>(t237);
-        // complex block of 3, multiplier 2
-        const Q t336 = t233 + t335;
-        const Q t337 = c[0] * t239;
-        const Q t338 = t182 - t337;
-        const Q t339 = flipped<0, 1, 0, 1>(t283);
-        // complex block of 3, multiplier 2
-        const Q t340 = t279 + t339;
-        const Q t341 = c[0] * t285;
-        const Q t342 = t193 - t341;
-        // complex block of 3, multiplier 2
-        const Q t343 = Q(-c[1], c[1], -c[1], c[1]) * t206;
-        const Q t344 = shuffled<1, 0, 3, 2>(t343);
-        const Q t345 = t314 + t344;
-        const Q t346 = shuffled<0, 1, 4, 5>(t312, t345);
-        const Q t347 = shuffled<2, 3, 6, 7>(t312, t345);
+        const Q t313 = t229 + t183;
+        const Q t314 = shuffled<0, 1, 4, 5>(t313, t312);
+        const Q t315 = shuffled<2, 3, 6, 7>(t313, t312);
         // complex block of 2
-        const Q t348 = t346 + t347;
-        io.pairs(36, 38, t348);
-        const Q t349 = t346 - t347;
-        io.pairs(9, 11, t349);
+        const Q t316 = t314 + t315;
+        const Q t317 = t314 - t315;
+        const Q t318 = shuffled<0, 1, 6, 7>(t316, t317);
+        io.pairs(8, 9, t318);
+        const Q t319 = shuffled<0, 1, 6, 7>(t317, t316);
+        io.pairs(35, 36, t319);
         // complex block of 3, multiplier 2
-        const Q t350 = t314 - t344;
+        const Q t320 = t167 - t311;
         // complex block of 3, multiplier 2
-        const Q t351 = Q(c[1], -c[1], c[1], -c[1]) * t252;
-        const Q t352 = shuffled<1, 0, 3, 2>(t351);
-        const Q t353 = t316 + t352;
-        const Q t354 = shuffled<0, 1, 4, 5>(t350, t353);
-        const Q t355 = shuffled<2, 3, 6, 7>(t350, t353);
+        const Q t321 = t268 + t272;
+        const Q t322 = c[0] * t275;
+        const Q t323 = t194 - t322;
+        const Q t324 = c[1] * t321;
+        const Q t325 = shuffled<1, 0, 3, 2>(t324);
+        const Q t326 = t323 - t325;
+        const Q t327 = shuffled<0, 1, 4, 5>(t320, t326);
+        const Q t328 = shuffled<2, 3, 6, 7>(t320, t326);
         // complex block of 2
-        const Q t356 = t354 + t355;
-        io.pairs(20, 22, t356);
-        const Q t357 = t354 - t355;
-        io.pairs(47, 49, t357);
+        const Q t329 = t327 + t328;
+        const Q t330 = t327 - t328;
+        const Q t331 = shuffled<0, 1, 6, 7>(t329, t330);
+        io.pairs(18, 19, t331);
+        const Q t332 = shuffled<0, 1, 6, 7>(t330, t329);
+        io.pairs(45, 46, t332);
         // complex block of 3, multiplier 2
-        const Q t358 = t316 - t352;
-        const Q t359 = shuffled<0, 1, 4, 5>(t358, t321);
-        const Q t360 = shuffled<2, 3, 6, 7>(t358, t321);
+        const Q t333 = t323 + t325;
+        const Q t334 = shuffled<0, 1, 4, 5>(t165, t333);
+        const Q t335 = shuffled<2, 3, 6, 7>(t165, t333);
         // complex block of 2
-        const Q t361 = t359 + t360;
-        io.pairs(40, 42, t361);
-        const Q t362 = t359 - t360;
-        io.pairs(13, 15, t362);
+        const Q t336 = t334 + t335;
+        const Q t337 = t334 - t335;
+        const Q t338 = shuffled<0, 1, 6, 7>(t336, t337);
+        io.pairs(0, 1, t338);
+        const Q t339 = shuffled<0, 1, 6, 7>(t337, t336);
+        io.pairs(27, 28, t339);
         // complex block of 3, multiplier 2
-        const Q t363 = c[1] * t323;
-        const Q t364 = shuffled<1, 0, 3, 2>(t363);
-        const Q t365 = t325 - t364;
+        const Q t340 = t205 + t177;
+        const Q t341 = c[0] * t205;
+        const Q t342 = t177 - t341;
         // complex block of 3, multiplier 2
-        const Q t366 = c[1] * t326;
-        const Q t367 = shuffled<1, 0, 3, 2>(t366);
-        const Q t368 = t328 - t367;
-        const Q t369 = shuffled<0, 1, 4, 5>(t365, t368);
-        const Q t370 = shuffled<2, 3, 6, 7>(t365, t368);
+        const Q t343 = t275 + t194;
+        // complex block of 3, multiplier 2
+        const Q t344 = c[0] * t307;
+        const Q t345 = t172 - t344;
+        const Q t346 = c[1] * t309;
+        const Q t347 = shuffled<1, 0, 3, 2>(t346);
+        const Q t348 = t345 - t347;
+        const Q t349 = t345 + t347;
+        // complex block of 3, multiplier 2
+        const Q t350 = Q(-c[1], c[1], -c[1], c[1]) * t206;
+        const Q t351 = shuffled<1, 0, 3, 2>(t350);
+        const Q t352 = t342 + t351;
+        const Q t353 = shuffled<0, 1, 4, 5>(t343, t352);
+        const Q t354 = shuffled<2, 3, 6, 7>(t343, t352);
         // complex block of 2
-        const Q t371 = t369 + t370;
-        io.pairs(44, 46, t371);
-        const Q t372 = t369 - t370;
-        io.pairs(17, 19, t372);
+        const Q t355 = t353 + t354;
+        const Q t356 = t353 - t354;
+        const Q t357 = shuffled<0, 1, 6, 7>(t355, t356);
+        io.pairs(10, 11, t357);
+        const Q t358 = shuffled<0, 1, 6, 7>(t356, t355);
+        io.pairs(37, 38, t358);
         // complex block of 3, multiplier 2
-        const Q t373 = t325 + t364;
-        const Q t374 = shuffled<0, 1, 4, 5>(t322, t373);
-        const Q t375 = shuffled<2, 3, 6, 7>(t322, t373);
+        const Q t359 = t342 - t351;
+        const Q t360 = shuffled<0, 1, 4, 5>(t359, t348);
+        const Q t361 = shuffled<2, 3, 6, 7>(t359, t348);
         // complex block of 2
-        const Q t376 = t374 + t375;
-        io.pairs(24, 26, t376);
-        const Q t377 = t374 - t375;
-        io.pairs(51, 53, t377);
-        // complex block of 3, multiplier 2
-        const Q t378 = t328 + t367;
-        const Q t379 = shuffled<0, 1, 4, 5>(t378, t334);
-        const Q t380 = shuffled<2, 3, 6, 7>(t378, t334);
+        const Q t362 = t360 + t361;
+        const Q t363 = t360 - t361;
+        const Q t364 = shuffled<0, 1, 6, 7>(t362, t363);
+        io.pairs(20, 21, t364);
+        const Q t365 = shuffled<0, 1, 6, 7>(t363, t362);
+        io.pairs(47, 48, t365);
+        const Q t366 = shuffled<0, 1, 4, 5>(t340, t349);
+        const Q t367 = shuffled<2, 3, 6, 7>(t340, t349);
         // complex block of 2
-        const Q t381 = t379 + t380;
-        io.pairs(28, 30, t381);
-        const Q t382 = t379 - t380;
-        io.pairs(1, 3, t382);
+        const Q t368 = t366 + t367;
+        const Q t369 = t366 - t367;
+        const Q t370 = shuffled<0, 1, 6, 7>(t368, t369);
+        io.pairs(2, 3, t370);
+        const Q t371 = shuffled<0, 1, 6, 7>(t369, t368);
+        io.pairs(29, 30, t371);
         // complex block of 3, multiplier 2
-        const Q t383 = c[1] * t336;
-        const Q t384 = shuffled<1, 0, 3, 2>(t383);
-        const Q t385 = t338 + t384;
-        const Q t386 = shuffled<0, 1, 4, 5>(t333, t385);
-        const Q t387 = shuffled<2, 3, 6, 7>(t333, t385);
+        const Q t372 = t251 + t188;
+        const Q t373 = c[0] * t251;
+        const Q t374 = t188 - t373;
+        // complex block of 3, multiplier 2
+        const Q t375 = t307 + t172;
+        const Q t376 = flipped<0, 1, 0, 1>(t237);
+        // complex block of 3, multiplier 2
+        const Q t377 = t233 + t376;
+        const Q t378 = c[0] * t239;
+        const Q t379 = t182 - t378;
+        // complex block of 3, multiplier 2
+        const Q t380 = Q(-c[1], c[1], -c[1], c[1]) * t252;
+        const Q t381 = shuffled<1, 0, 3, 2>(t380);
+        const Q t382 = t374 + t381;
+        const Q t383 = shuffled<0, 1, 4, 5>(t375, t382);
+        const Q t384 = shuffled<2, 3, 6, 7>(t375, t382);
         // complex block of 2
-        const Q t388 = t386 + t387;
-        io.pairs(48, 50, t388);
-        const Q t389 = t386 - t387;
-        io.pairs(21, 23, t389);
+        const Q t385 = t383 + t384;
+        const Q t386 = t383 - t384;
+        const Q t387 = shuffled<0, 1, 6, 7>(t385, t386);
+        io.pairs(12, 13, t387);
+        const Q t388 = shuffled<0, 1, 6, 7>(t386, t385);
+        io.pairs(39, 40, t388);
         // complex block of 3, multiplier 2
-        const Q t390 = t338 - t384;
+        const Q t389 = t374 - t381;
         // complex block of 3, multiplier 2
-        const Q t391 = c[1] * t340;
-        const Q t392 = shuffled<1, 0, 3, 2>(t391);
-        const Q t393 = t342 - t392;
-        const Q t394 = shuffled<0, 1, 4, 5>(t390, t393);
-        const Q t395 = shuffled<2, 3, 6, 7>(t390, t393);
+        const Q t390 = c[1] * t377;
+        const Q t391 = shuffled<1, 0, 3, 2>(t390);
+        const Q t392 = t379 + t391;
+        const Q t393 = shuffled<0, 1, 4, 5>(t389, t392);
+        const Q t394 = shuffled<2, 3, 6, 7>(t389, t392);
         // complex block of 2
-        const Q t396 = t394 + t395;
-        io.pairs(32, 34, t396);
-        const Q t397 = t394 - t395;
-        io.pairs(5, 7, t397);
+        const Q t395 = t393 + t394;
+        const Q t396 = t393 - t394;
+        const Q t397 = shuffled<0, 1, 6, 7>(t395, t396);
+        io.pairs(22, 23, t397);
+        const Q t398 = shuffled<0, 1, 6, 7>(t396, t395);
+        io.pairs(49, 50, t398);
         // complex block of 3, multiplier 2
-        const Q t398 = t342 + t392;
-        const P t399 = part<0>(t398);
-        const P t400 = part<1>(t398);
+        const Q t399 = t379 - t391;
+        const Q t400 = shuffled<0, 1, 4, 5>(t372, t399);
+        const Q t401 = shuffled<2, 3, 6, 7>(t372, t399);
         // complex block of 2
-        const P t401 = t399 + t400;
-        io.pair(52, t401);
-        const P t402 = t399 - t400;
-        io.pair(25, t402);
+        const Q t402 = t400 + t401;
+        const Q t403 = t400 - t401;
+        const Q t404 = shuffled<0, 1, 6, 7>(t402, t403);
+        io.pairs(4, 5, t404);
+        const Q t405 = shuffled<0, 1, 6, 7>(t403, t402);
+        io.pairs(31, 32, t405);
         // complex block of 3, multiplier 2
-        const Q t403 = t167 - t311;
+        const Q t406 = t296 + t173;
+        const Q t407 = c[0] * t296;
+        const Q t408 = t173 - t407;
+        const Q t409 = Q(-c[1], c[1], -c[1], c[1]) * t297;
+        const Q t410 = shuffled<1, 0, 3, 2>(t409);
+        const Q t411 = t408 + t410;
+        const Q t412 = t408 - t410;
         // complex block of 3, multiplier 2
-        const Q t404 = t285 + t193;
-        const Q t405 = shuffled<0, 1, 4, 5>(t404, t403);
-        const Q t406 = shuffled<2, 3, 6, 7>(t404, t403);
+        const Q t413 = t239 + t182;
+        const Q t414 = flipped<0, 1, 0, 1>(t283);
+        // complex block of 3, multiplier 2
+        const Q t415 = t279 + t414;
+        const Q t416 = c[0] * t285;
+        const Q t417 = t193 - t416;
+        const Q t418 = c[1] * t415;
+        const Q t419 = shuffled<1, 0, 3, 2>(t418);
+        const Q t420 = t417 + t419;
+        const Q t421 = shuffled<0, 1, 4, 5>(t412, t420);
+        const Q t422 = shuffled<2, 3, 6, 7>(t412, t420);
         // complex block of 2
-        const Q t407 = t405 + t406;
-        io.pairs(16, 18, t407);
-        const Q t408 = t405 - t406;
-        io.pairs(43, 45, t408);
+        const Q t423 = t421 + t422;
+        const Q t424 = t421 - t422;
+        const Q t425 = shuffled<0, 1, 6, 7>(t423, t424);
+        io.pairs(24, 25, t425);
+        const Q t426 = shuffled<0, 1, 6, 7>(t424, t423);
+        io.pairs(51, 52, t426);
         // complex block of 3, multiplier 2
-        const Q t409 = t205 + t177;
-        const Q t410 = shuffled<0, 1, 4, 5>(t165, t409);
-        const Q t411 = shuffled<2, 3, 6, 7>(t165, t409);
-        // complex block of 2
-        const Q t412 = t410 + t411;
-        io.pairs(0, 2, t412);
-        const Q t413 = t410 - t411;
-        io.pairs(27, 29, t413);
-        // complex block of 3, multiplier 2
-        const Q t414 = t251 + t188;
-        // complex block of 3, multiplier 2
-        const Q t415 = t296 + t173;
-        const Q t416 = shuffled<0, 1, 4, 5>(t414, t415);
-        const Q t417 = shuffled<2, 3, 6, 7>(t414, t415);
-        // complex block of 2
-        const Q t418 = t416 + t417;
-        io.pairs(4, 6, t418);
-        const Q t419 = t416 - t417;
-        io.pairs(31, 33, t419);
-        // complex block of 3, multiplier 2
-        const Q t420 = t229 + t183;
-        // complex block of 3, multiplier 2
-        const Q t421 = t275 + t194;
-        const Q t422 = shuffled<0, 1, 4, 5>(t420, t421);
-        const Q t423 = shuffled<2, 3, 6, 7>(t420, t421);
-        // complex block of 2
-        const Q t424 = t422 + t423;
-        io.pairs(8, 10, t424);
-        const Q t425 = t422 - t423;
-        io.pairs(35, 37, t425);
-        // complex block of 3, multiplier 2
-        const Q t426 = t307 + t172;
-        // complex block of 3, multiplier 2
-        const Q t427 = t239 + t182;
-        const Q t428 = shuffled<0, 1, 4, 5>(t426, t427);
-        const Q t429 = shuffled<2, 3, 6, 7>(t426, t427);
+        const Q t427 = t417 - t419;
+        const Q t428 = shuffled<0, 1, 4, 5>(t406, t427);
+        const Q t429 = shuffled<2, 3, 6, 7>(t406, t427);
         // complex block of 2
         const Q t430 = t428 + t429;
-        io.pairs(12, 14, t430);
         const Q t431 = t428 - t429;
-        io.pairs(39, 41, t431);
+        const Q t432 = shuffled<0, 1, 6, 7>(t430, t431);
+        io.pairs(6, 7, t432);
+        const Q t433 = shuffled<0, 1, 6, 7>(t431, t430);
+        io.pairs(33, 34, t433);
+        const Q t434 = shuffled<0, 1, 4, 5>(t413, t411);
+        const Q t435 = shuffled<2, 3, 6, 7>(t413, t411);
+        // complex block of 2
+        const Q t436 = t434 + t435;
+        const Q t437 = t434 - t435;
+        const Q t438 = shuffled<0, 1, 6, 7>(t436, t437);
+        io.pairs(14, 15, t438);
+        const Q t439 = shuffled<0, 1, 6, 7>(t437, t436);
+        io.pairs(41, 42, t439);
+        // complex block of 3, multiplier 2
+        const Q t440 = t222 + t226;
+        const Q t441 = c[0] * t229;
+        const Q t442 = t183 - t441;
+        // complex block of 3, multiplier 2
+        const Q t443 = t285 + t193;
+        // complex block of 3, multiplier 2
+        const Q t444 = c[1] * t440;
+        const Q t445 = shuffled<1, 0, 3, 2>(t444);
+        const Q t446 = t442 - t445;
+        const Q t447 = shuffled<0, 1, 4, 5>(t443, t446);
+        const Q t448 = shuffled<2, 3, 6, 7>(t443, t446);
+        // complex block of 2
+        const Q t449 = t447 + t448;
+        const Q t450 = t447 - t448;
+        const Q t451 = shuffled<0, 1, 6, 7>(t449, t450);
+        io.pairs(16, 17, t451);
+        const Q t452 = shuffled<0, 1, 6, 7>(t450, t449);
+        io.pairs(43, 44, t452);
+        // complex block of 3, multiplier 2
+        const Q t453 = t442 + t445;
+        const P t454 = part<0>(t453);
+        const P t455 = part<1>(t453);
+        // complex block of 2
+        const P t456 = t454 + t455;
+        io.pair(26, t456);
+        const P t457 = t454 - t455;
+        io.pair(53, t457);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 57.
 // Complex DFT of 57 points, prime-factor, order 19, 3; two lines of a stage to a register.
 // 180 sums, 156 differences, 186 products of registers, which do the 2170 steps of the graph, those with
-// `scale` included; 84 shuffles, 11 changes of sign.
+// `scale` included; 111 shuffles, 11 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -512,385 +512,409 @@ struct ComplexLines<57> {
         const Q t330 = t329 + t326;
         // complex block of 19, multiplier 3
         const Q t331 = x0_19 + t80;
+        // complex block of 2
+        const Q t332 = t110 - t107;
         // spectrum block of 3, multiplier 2
-        const Q t332 = t103 + t86;
-        // complex block of 3, multiplier 2
-        const Q t333 = t162 - t200;
-        const Q t334 = t154 - t192;
-        const Q t335 = t333 - t181;
-        const Q t336 = c[0] * t333;
-        const Q t337 = t181 + t336;
-        const Q t338 = c[1] * t334;
-        const Q t339 = t338 - t337;
-        const Q t340 = t337 + t338;
-        const Q t341 = t154 + t192;
-        const Q t342 = t341 + t173;
-        const Q t343 = t162 + t200;
-        const Q t344 = c[0] * t341;
-        const Q t345 = t173 - t344;
-        const Q t346 = c[1] * t343;
-        const Q t347 = t345 - t346;
-        const Q t348 = t345 + t346;
+        const Q t333 = c[0] * t103;
+        const Q t334 = t86 - t333;
+        const Q t335 = c[1] * t332;
+        const Q t336 = t334 - t335;
+        const Q t337 = t334 + t335;
+        // complex block of 2
+        const Q t338 = t110 + t107;
         // spectrum block of 3, multiplier 2
-        const Q t349 = t104 + t87;
-        // complex block of 3, multiplier 2
-        const Q t350 = t163 - t201;
-        const Q t351 = t155 - t193;
-        const Q t352 = t350 + t182;
-        const Q t353 = c[0] * t350;
-        const Q t354 = t182 - t353;
-        const Q t355 = c[1] * t351;
-        const Q t356 = t354 + t355;
-        const Q t357 = t354 - t355;
-        const Q t358 = t155 + t193;
-        const Q t359 = t358 + t174;
-        const Q t360 = t163 + t201;
-        const Q t361 = c[0] * t358;
-        const Q t362 = t174 - t361;
-        const Q t363 = c[1] * t360;
-        const Q t364 = t362 - t363;
-        const Q t365 = t362 + t363;
-        // complex block of 19, multiplier 3
-        const P t366 = x38 + t253;
-        const Q t367 = shuffled<0, 1, 4, 5>(t294, t295);
-        const Q t368 = joined(t259, t260);
+        const Q t339 = c[0] * t104;
+        const Q t340 = t87 - t339;
+        const Q t341 = c[1] * t338;
+        const Q t342 = t340 - t341;
+        const Q t343 = t340 + t341;
         // spectrum block of 3, multiplier 2
-        const Q t369 = t367 + t368;
-        const Q t370 = shuffled<2, 3, 6, 7>(t302, t303);
-        const Q t371 = shuffled<2, 3, 6, 7>(t328, t330);
+        const Q t344 = t103 + t86;
         // complex block of 3, multiplier 2
-        const Q t372 = t370 - t371;
-        const Q t373 = shuffled<2, 3, 6, 7>(t294, t295);
-        const Q t374 = shuffled<2, 3, 6, 7>(t317, t318);
+        const Q t345 = t162 - t200;
+        const Q t346 = t154 - t192;
+        const Q t347 = t345 - t181;
+        const Q t348 = c[0] * t345;
+        const Q t349 = t181 + t348;
+        const Q t350 = c[1] * t346;
+        const Q t351 = t350 - t349;
+        const Q t352 = t349 + t350;
+        const Q t353 = t154 + t192;
+        const Q t354 = t353 + t173;
+        const Q t355 = t162 + t200;
+        const Q t356 = c[0] * t353;
+        const Q t357 = t173 - t356;
+        const Q t358 = c[1] * t355;
+        const Q t359 = t357 - t358;
+        const Q t360 = t357 + t358;
+        // spectrum block of 9, multiplier 2
+        const Q t361 = c[2] * t360;
+        const Q t362 = c[3] * t352;
+        const Q t363 = t361 + t362;
+        const Q t364 = c[5] * t359;
+        const Q t365 = c[4] * t351;
+        const Q t366 = t364 + t365;
+        // spectrum block of 3, multiplier 2
+        const Q t367 = t354 + t344;
+        const Q t368 = c[0] * t354;
+        const Q t369 = t344 - t368;
+        const Q t370 = c[1] * t347;
+        const Q t371 = t369 - t370;
+        const Q t372 = t369 + t370;
+        // spectrum block of 3, multiplier 2
+        const Q t373 = c[22] * t360;
+        const Q t374 = c[23] * t352;
         const Q t375 = t373 - t374;
-        const Q t376 = shuffled<0, 1, 4, 5>(t328, t330);
-        const Q t377 = flipped<1, 1, 0, 0>(t376);
-        const Q t378 = t372 + t377;
-        const Q t379 = Q(c[0], c[0], -c[0], -c[0]) * t372;
-        const Q t380 = t376 + t379;
-        const Q t381 = flipped<1, 1, 0, 0>(t380);
-        const Q t382 = c[1] * t375;
-        const Q t383 = t381 + t382;
-        const Q t384 = flipped<0, 0, 1, 1>(t382);
-        const Q t385 = t380 + t384;
-        const Q t386 = t373 + t374;
-        const Q t387 = shuffled<0, 1, 4, 5>(t317, t318);
-        const Q t388 = t386 + t387;
-        const Q t389 = t370 + t371;
-        const Q t390 = c[0] * t386;
-        const Q t391 = t387 - t390;
-        const Q t392 = c[1] * t389;
-        const Q t393 = t391 - t392;
-        const Q t394 = t391 + t392;
+        // spectrum block of 3, multiplier 2
+        const Q t376 = c[24] * t359;
+        const Q t377 = c[25] * t351;
+        const Q t378 = t376 - t377;
+        // spectrum block of 3, multiplier 2
+        const Q t379 = t104 + t87;
+        // complex block of 3, multiplier 2
+        const Q t380 = t163 - t201;
+        const Q t381 = t155 - t193;
+        const Q t382 = t380 + t182;
+        const Q t383 = c[0] * t380;
+        const Q t384 = t182 - t383;
+        const Q t385 = c[1] * t381;
+        const Q t386 = t384 + t385;
+        const Q t387 = t384 - t385;
+        const Q t388 = t155 + t193;
+        const Q t389 = t388 + t174;
+        const Q t390 = t163 + t201;
+        const Q t391 = c[0] * t388;
+        const Q t392 = t174 - t391;
+        const Q t393 = c[1] * t390;
+        const Q t394 = t392 - t393;
+        const Q t395 = t392 + t393;
         // spectrum block of 9, multiplier 2
-        const Q t395 = c[2] * t348;
-        const Q t396 = c[3] * t340;
-        const Q t397 = t395 + t396;
-        const Q t398 = c[5] * t347;
-        const Q t399 = c[4] * t339;
-        const Q t400 = t398 + t399;
+        const Q t396 = c[2] * t395;
+        const Q t397 = c[3] * t387;
+        const Q t398 = t396 - t397;
+        const Q t399 = c[5] * t394;
+        const Q t400 = c[4] * t386;
+        const Q t401 = t399 + t400;
         // spectrum block of 3, multiplier 2
-        const Q t401 = t342 + t332;
+        const Q t402 = t389 + t379;
+        const Q t403 = c[0] * t389;
+        const Q t404 = t379 - t403;
+        const Q t405 = c[1] * t382;
+        const Q t406 = t404 - t405;
+        const Q t407 = t404 + t405;
         // spectrum block of 3, multiplier 2
-        const Q t402 = t359 + t349;
+        const Q t408 = c[23] * t387;
+        const Q t409 = c[22] * t395;
+        const Q t410 = t408 + t409;
         // spectrum block of 3, multiplier 2
-        const Q t403 = t388 + t369;
-        const Q t404 = shuffled<2, 3, 6, 7>(t331, t401);
-        const P t405 = part<0>(t403);
-        const Q t406 = joined(t366, t405);
-        // complex block of 3
-        const Q t407 = t404 + t406;
-        const P t408 = part<1>(t402);
-        const P t409 = part<1>(t403);
-        // complex block of 3
-        const P t410 = t408 + t409;
+        const Q t411 = c[24] * t394;
+        const Q t412 = c[25] * t386;
+        const Q t413 = t411 - t412;
+        // complex block of 19, multiplier 3
+        const P t414 = x38 + t253;
+        const Q t415 = shuffled<0, 1, 4, 5>(t294, t295);
+        const Q t416 = joined(t259, t260);
         // spectrum block of 3, multiplier 2
-        const Q t411 = c[0] * t342;
-        const Q t412 = t332 - t411;
-        const Q t413 = c[1] * t335;
-        const Q t414 = t412 - t413;
-        const Q t415 = t412 + t413;
-        // spectrum block of 3, multiplier 2
-        const Q t416 = c[22] * t348;
-        const Q t417 = c[23] * t340;
-        const Q t418 = t416 - t417;
-        // spectrum block of 3, multiplier 2
-        const Q t419 = c[24] * t347;
-        const Q t420 = c[25] * t339;
-        const Q t421 = t419 - t420;
+        const Q t417 = t415 + t416;
+        const Q t418 = shuffled<2, 3, 6, 7>(t302, t303);
+        const Q t419 = shuffled<2, 3, 6, 7>(t328, t330);
+        // complex block of 3, multiplier 2
+        const Q t420 = t418 - t419;
+        const Q t421 = shuffled<2, 3, 6, 7>(t294, t295);
+        const Q t422 = shuffled<2, 3, 6, 7>(t317, t318);
+        const Q t423 = t421 - t422;
+        const Q t424 = shuffled<0, 1, 4, 5>(t328, t330);
+        const Q t425 = flipped<1, 1, 0, 0>(t424);
+        const Q t426 = t420 + t425;
+        const Q t427 = Q(c[0], c[0], -c[0], -c[0]) * t420;
+        const Q t428 = t424 + t427;
+        const Q t429 = flipped<1, 1, 0, 0>(t428);
+        const Q t430 = c[1] * t423;
+        const Q t431 = t429 + t430;
+        const Q t432 = flipped<0, 0, 1, 1>(t430);
+        const Q t433 = t428 + t432;
+        const Q t434 = t421 + t422;
+        const Q t435 = shuffled<0, 1, 4, 5>(t317, t318);
+        const Q t436 = t434 + t435;
+        const Q t437 = t418 + t419;
+        const Q t438 = c[0] * t434;
+        const Q t439 = t435 - t438;
+        const Q t440 = c[1] * t437;
+        const Q t441 = t439 - t440;
+        const Q t442 = t439 + t440;
         // spectrum block of 9, multiplier 2
-        const Q t422 = c[2] * t365;
-        const Q t423 = c[3] * t357;
-        const Q t424 = t422 - t423;
-        const Q t425 = c[5] * t364;
-        const Q t426 = c[4] * t356;
-        const Q t427 = t425 + t426;
+        const Q t443 = c[2] * t442;
+        const Q t444 = Q(c[3], c[3], -c[3], -c[3]) * t433;
+        const Q t445 = t443 + t444;
+        const Q t446 = c[5] * t441;
+        const Q t447 = c[4] * t431;
+        const Q t448 = t446 + t447;
         // spectrum block of 3, multiplier 2
-        const Q t428 = c[0] * t359;
-        const Q t429 = t349 - t428;
-        const Q t430 = c[1] * t352;
-        const Q t431 = t429 - t430;
-        const Q t432 = t429 + t430;
+        const Q t449 = t436 + t417;
+        const Q t450 = c[0] * t436;
+        const Q t451 = t417 - t450;
+        const Q t452 = c[1] * t426;
+        const Q t453 = t451 - t452;
+        const Q t454 = t451 + t452;
+        const Q t455 = shuffled<0, 1, 6, 7>(t442, t433);
         // spectrum block of 3, multiplier 2
-        const Q t433 = c[23] * t357;
-        const Q t434 = c[22] * t365;
-        const Q t435 = t433 + t434;
+        const Q t456 = Q(c[22], c[22], c[23], c[23]) * t455;
+        const Q t457 = shuffled<0, 1, 6, 7>(t433, t442);
+        const Q t458 = Q(-c[23], -c[23], c[22], c[22]) * t457;
+        const Q t459 = t456 + t458;
         // spectrum block of 3, multiplier 2
-        const Q t436 = c[24] * t364;
-        const Q t437 = c[25] * t356;
-        const Q t438 = t436 - t437;
-        // spectrum block of 9, multiplier 2
-        const Q t439 = c[2] * t394;
-        const Q t440 = Q(c[3], c[3], -c[3], -c[3]) * t385;
-        const Q t441 = t439 + t440;
-        const Q t442 = c[5] * t393;
-        const Q t443 = c[4] * t383;
-        const Q t444 = t442 + t443;
-        // spectrum block of 3, multiplier 2
-        const Q t445 = c[0] * t388;
-        const Q t446 = t369 - t445;
-        const Q t447 = c[1] * t378;
-        const Q t448 = t446 - t447;
-        const Q t449 = t446 + t447;
-        const Q t450 = shuffled<0, 1, 6, 7>(t394, t385);
-        // spectrum block of 3, multiplier 2
-        const Q t451 = Q(c[22], c[22], c[23], c[23]) * t450;
-        const Q t452 = shuffled<0, 1, 6, 7>(t385, t394);
-        const Q t453 = Q(-c[23], -c[23], c[22], c[22]) * t452;
-        const Q t454 = t451 + t453;
-        // spectrum block of 3, multiplier 2
-        const Q t455 = c[24] * t393;
-        const Q t456 = c[25] * t383;
-        const Q t457 = t455 - t456;
-        // complex block of 2
-        const Q t458 = t110 - t107;
-        // spectrum block of 3, multiplier 2
-        const Q t459 = c[0] * t103;
-        const Q t460 = t86 - t459;
-        const Q t461 = c[1] * t458;
+        const Q t460 = c[24] * t441;
+        const Q t461 = c[25] * t431;
         const Q t462 = t460 - t461;
-        const Q t463 = t460 + t461;
-        // complex block of 2
-        const Q t464 = t110 + t107;
         // spectrum block of 3, multiplier 2
-        const Q t465 = c[0] * t104;
-        const Q t466 = t87 - t465;
-        const Q t467 = c[1] * t464;
-        const Q t468 = t466 - t467;
-        const Q t469 = t466 + t467;
+        const Q t463 = c[0] * t415;
+        const Q t464 = t416 - t463;
+        const Q t465 = shuffled<0, 1, 4, 5>(t302, t303);
+        const Q t466 = c[1] * t465;
+        const Q t467 = t464 - t466;
+        const Q t468 = t464 + t466;
         // spectrum block of 3, multiplier 2
-        const Q t470 = c[0] * t367;
-        const Q t471 = t368 - t470;
-        const Q t472 = shuffled<0, 1, 4, 5>(t302, t303);
-        const Q t473 = c[1] * t472;
-        const Q t474 = t471 - t473;
-        const Q t475 = t471 + t473;
+        const Q t469 = t363 + t337;
         // spectrum block of 3, multiplier 2
-        const Q t476 = t397 + t463;
+        const Q t470 = t398 + t343;
         // spectrum block of 3, multiplier 2
-        const Q t477 = c[0] * t400;
-        const Q t478 = t477 + t462;
-        const Q t479 = t478 - t421;
-        const Q t480 = t478 + t421;
+        const Q t471 = t445 + t468;
+        const Q t472 = shuffled<2, 3, 6, 7>(t470, t407);
+        const Q t473 = shuffled<2, 3, 6, 7>(t471, t454);
+        // complex block of 3
+        const Q t474 = t472 + t473;
+        const Q t475 = shuffled<2, 3, 6, 7>(t469, t402);
+        const Q t476 = shuffled<0, 1, 6, 7>(t471, t449);
+        // complex block of 3
+        const Q t477 = t475 + t476;
+        // complex block of 3
+        const Q t478 = t472 - t473;
+        // complex block of 3
+        const Q t479 = t475 - t476;
+        const Q t480 = shuffled<0, 1, 4, 5>(t470, t407);
+        // complex block of 3
+        const Q t481 = t474 + t480;
+        const Q t482 = c[0] * t474;
+        const Q t483 = t480 - t482;
+        const Q t484 = Q(-c[1], c[1], -c[1], c[1]) * t478;
+        const Q t485 = shuffled<1, 0, 3, 2>(t484);
+        const Q t486 = t483 + t485;
+        const Q t487 = shuffled<0, 1, 6, 7>(t481, t486);
+        io.pairs(42, 43, t487);
+        const Q t488 = t483 - t485;
+        const Q t489 = shuffled<0, 1, 6, 7>(t486, t488);
+        io.pairs(4, 5, t489);
+        const Q t490 = shuffled<0, 1, 6, 7>(t488, t481);
+        io.pairs(23, 24, t490);
+        const Q t491 = shuffled<0, 1, 4, 5>(t469, t402);
+        // complex block of 3
+        const Q t492 = t477 + t491;
+        const Q t493 = c[0] * t477;
+        const Q t494 = t491 - t493;
+        const Q t495 = Q(-c[1], c[1], -c[1], c[1]) * t479;
+        const Q t496 = shuffled<1, 0, 3, 2>(t495);
+        const Q t497 = t494 + t496;
+        const Q t498 = shuffled<0, 1, 6, 7>(t492, t497);
+        io.pairs(15, 16, t498);
+        const Q t499 = t494 - t496;
+        const Q t500 = shuffled<0, 1, 6, 7>(t497, t499);
+        io.pairs(34, 35, t500);
+        const Q t501 = shuffled<0, 1, 6, 7>(t499, t492);
+        io.pairs(53, 54, t501);
         // spectrum block of 3, multiplier 2
-        const Q t481 = t424 + t469;
+        const Q t502 = c[0] * t363;
+        const Q t503 = t337 - t502;
+        const Q t504 = t503 - t375;
+        const Q t505 = t503 + t375;
         // spectrum block of 3, multiplier 2
-        const Q t482 = c[0] * t427;
-        const Q t483 = t482 + t468;
-        const Q t484 = t483 - t438;
-        const Q t485 = t483 + t438;
+        const Q t506 = c[0] * t366;
+        const Q t507 = t506 + t336;
+        const Q t508 = t507 - t378;
+        const Q t509 = t507 + t378;
         // spectrum block of 3, multiplier 2
-        const Q t486 = t441 + t475;
+        const Q t510 = c[0] * t398;
+        const Q t511 = t343 - t510;
+        const Q t512 = t511 - t410;
+        const Q t513 = t511 + t410;
         // spectrum block of 3, multiplier 2
-        const Q t487 = c[0] * t444;
-        const Q t488 = t487 + t474;
-        const Q t489 = t488 - t457;
-        const Q t490 = t488 + t457;
-        const Q t491 = shuffled<2, 3, 6, 7>(t479, t476);
-        const Q t492 = shuffled<0, 1, 4, 5>(t489, t486);
-        // complex block of 3
-        const Q t493 = t491 + t492;
-        const Q t494 = t491 - t492;
-        const Q t495 = shuffled<2, 3, 6, 7>(t432, t480);
-        const Q t496 = shuffled<2, 3, 4, 5>(t449, t490);
-        // complex block of 3
-        const Q t497 = t495 + t496;
-        const Q t498 = t495 - t496;
-        const Q t499 = shuffled<2, 3, 6, 7>(t485, t415);
-        const Q t500 = shuffled<2, 3, 4, 5>(t490, t449);
-        // complex block of 3
-        const Q t501 = t499 + t500;
-        const Q t502 = t499 - t500;
-        const Q t503 = shuffled<2, 3, 6, 7>(t481, t484);
-        const Q t504 = shuffled<2, 3, 6, 7>(t486, t489);
-        // complex block of 3
-        const Q t505 = t503 + t504;
-        const Q t506 = t503 - t504;
-        const Q t507 = shuffled<0, 1, 4, 5>(t479, t476);
-        // complex block of 3
-        const Q t508 = t493 + t507;
-        io.pairs(12, 15, t508);
-        const Q t509 = c[0] * t493;
-        const Q t510 = t507 - t509;
-        const Q t511 = Q(-c[1], c[1], -c[1], c[1]) * t494;
-        const Q t512 = shuffled<1, 0, 3, 2>(t511);
-        const Q t513 = t510 + t512;
-        io.pairs(31, 34, t513);
-        const Q t514 = t510 - t512;
-        io.pairs(50, 53, t514);
-        const Q t515 = shuffled<0, 1, 4, 5>(t432, t480);
-        // complex block of 3
-        const Q t516 = t497 + t515;
-        io.pairs(24, 27, t516);
-        const Q t517 = c[0] * t497;
-        const Q t518 = t515 - t517;
-        const Q t519 = Q(-c[1], c[1], -c[1], c[1]) * t498;
-        const Q t520 = shuffled<1, 0, 3, 2>(t519);
-        const Q t521 = t518 + t520;
-        io.pairs(43, 46, t521);
-        const Q t522 = t518 - t520;
-        io.pairs(5, 8, t522);
-        const Q t523 = shuffled<0, 1, 4, 5>(t485, t415);
-        // complex block of 3
-        const Q t524 = t501 + t523;
-        io.pairs(30, 33, t524);
-        const Q t525 = c[0] * t501;
-        const Q t526 = t523 - t525;
-        const Q t527 = Q(-c[1], c[1], -c[1], c[1]) * t502;
-        const Q t528 = shuffled<1, 0, 3, 2>(t527);
-        const Q t529 = t526 + t528;
-        io.pairs(49, 52, t529);
-        const Q t530 = t526 - t528;
-        io.pairs(11, 14, t530);
-        const Q t531 = shuffled<0, 1, 4, 5>(t481, t484);
-        // complex block of 3
-        const Q t532 = t505 + t531;
-        io.pairs(42, 45, t532);
-        const Q t533 = c[0] * t505;
-        const Q t534 = t531 - t533;
-        const Q t535 = Q(-c[1], c[1], -c[1], c[1]) * t506;
-        const Q t536 = shuffled<1, 0, 3, 2>(t535);
-        const Q t537 = t534 + t536;
-        io.pairs(4, 7, t537);
-        const Q t538 = t534 - t536;
-        io.pairs(23, 26, t538);
+        const Q t514 = c[0] * t401;
+        const Q t515 = t514 + t342;
+        const Q t516 = t515 - t413;
+        const Q t517 = t515 + t413;
         // spectrum block of 3, multiplier 2
-        const Q t539 = c[0] * t397;
-        const Q t540 = t463 - t539;
-        const Q t541 = t540 - t418;
-        const Q t542 = t540 + t418;
+        const Q t518 = c[0] * t445;
+        const Q t519 = t468 - t518;
+        const Q t520 = t519 - t459;
+        const Q t521 = t519 + t459;
         // spectrum block of 3, multiplier 2
-        const Q t543 = c[0] * t424;
-        const Q t544 = t469 - t543;
-        const Q t545 = t544 - t435;
-        const Q t546 = t544 + t435;
+        const Q t522 = c[0] * t448;
+        const Q t523 = t522 + t467;
+        const Q t524 = t523 - t462;
+        const Q t525 = t523 + t462;
+        const Q t526 = shuffled<2, 3, 6, 7>(t509, t512);
+        const Q t527 = shuffled<0, 1, 6, 7>(t525, t520);
+        // complex block of 3
+        const Q t528 = t526 + t527;
+        const Q t529 = t526 - t527;
+        const Q t530 = shuffled<2, 3, 6, 7>(t513, t516);
+        const Q t531 = shuffled<2, 3, 6, 7>(t521, t524);
+        // complex block of 3
+        const Q t532 = t530 + t531;
+        const Q t533 = t530 - t531;
+        const Q t534 = shuffled<2, 3, 6, 7>(t504, t517);
+        const Q t535 = shuffled<0, 1, 6, 7>(t520, t525);
+        // complex block of 3
+        const Q t536 = t534 + t535;
+        const Q t537 = t534 - t535;
+        const Q t538 = shuffled<2, 3, 6, 7>(t508, t505);
+        const Q t539 = shuffled<0, 1, 4, 5>(t524, t521);
+        // complex block of 3
+        const Q t540 = t538 + t539;
+        const Q t541 = t538 - t539;
+        const Q t542 = shuffled<0, 1, 4, 5>(t509, t512);
+        // complex block of 3
+        const Q t543 = t528 + t542;
+        const Q t544 = c[0] * t528;
+        const Q t545 = t542 - t544;
+        const Q t546 = Q(-c[1], c[1], -c[1], c[1]) * t529;
+        const Q t547 = shuffled<1, 0, 3, 2>(t546);
+        const Q t548 = t545 + t547;
+        const Q t549 = shuffled<0, 1, 6, 7>(t543, t548);
+        io.pairs(27, 28, t549);
+        const Q t550 = t545 - t547;
+        const Q t551 = shuffled<0, 1, 6, 7>(t550, t543);
+        io.pairs(8, 9, t551);
+        const Q t552 = shuffled<0, 1, 6, 7>(t548, t550);
+        io.pairs(46, 47, t552);
+        const Q t553 = shuffled<0, 1, 4, 5>(t513, t516);
+        // complex block of 3
+        const Q t554 = t532 + t553;
+        const Q t555 = c[0] * t532;
+        const Q t556 = t553 - t555;
+        const Q t557 = Q(-c[1], c[1], -c[1], c[1]) * t533;
+        const Q t558 = shuffled<1, 0, 3, 2>(t557);
+        const Q t559 = t556 + t558;
+        const Q t560 = shuffled<0, 1, 6, 7>(t554, t559);
+        io.pairs(6, 7, t560);
+        const Q t561 = t556 - t558;
+        const Q t562 = shuffled<0, 1, 6, 7>(t559, t561);
+        io.pairs(25, 26, t562);
+        const Q t563 = shuffled<0, 1, 6, 7>(t561, t554);
+        io.pairs(44, 45, t563);
+        const Q t564 = shuffled<0, 1, 4, 5>(t504, t517);
+        // complex block of 3
+        const Q t565 = t536 + t564;
+        const Q t566 = c[0] * t536;
+        const Q t567 = t564 - t566;
+        const Q t568 = Q(-c[1], c[1], -c[1], c[1]) * t537;
+        const Q t569 = shuffled<1, 0, 3, 2>(t568);
+        const Q t570 = t567 + t569;
+        const Q t571 = shuffled<0, 1, 6, 7>(t565, t570);
+        io.pairs(48, 49, t571);
+        const Q t572 = t567 - t569;
+        const Q t573 = shuffled<0, 1, 6, 7>(t570, t572);
+        io.pairs(10, 11, t573);
+        const Q t574 = shuffled<0, 1, 6, 7>(t572, t565);
+        io.pairs(29, 30, t574);
+        const Q t575 = shuffled<0, 1, 4, 5>(t508, t505);
+        // complex block of 3
+        const Q t576 = t540 + t575;
+        const Q t577 = c[0] * t540;
+        const Q t578 = t575 - t577;
+        const Q t579 = Q(-c[1], c[1], -c[1], c[1]) * t541;
+        const Q t580 = shuffled<1, 0, 3, 2>(t579);
+        const Q t581 = t578 + t580;
+        const Q t582 = shuffled<0, 1, 6, 7>(t576, t581);
+        io.pairs(12, 13, t582);
+        const Q t583 = t578 - t580;
+        const Q t584 = shuffled<0, 1, 6, 7>(t581, t583);
+        io.pairs(31, 32, t584);
+        const Q t585 = shuffled<0, 1, 6, 7>(t583, t576);
+        io.pairs(50, 51, t585);
         // spectrum block of 3, multiplier 2
-        const Q t547 = c[0] * t441;
-        const Q t548 = t475 - t547;
-        const Q t549 = t548 - t454;
-        const Q t550 = t548 + t454;
-        const Q t551 = shuffled<2, 3, 6, 7>(t546, t545);
-        const Q t552 = shuffled<2, 3, 6, 7>(t550, t549);
-        // complex block of 3
-        const Q t553 = t551 + t552;
-        const Q t554 = t551 - t552;
-        const Q t555 = shuffled<2, 3, 6, 7>(t541, t542);
-        const Q t556 = shuffled<0, 1, 4, 5>(t549, t550);
-        // complex block of 3
-        const Q t557 = t555 + t556;
-        const Q t558 = t555 - t556;
-        const Q t559 = shuffled<0, 1, 4, 5>(t546, t545);
-        // complex block of 3
-        const Q t560 = t553 + t559;
-        io.pairs(6, 9, t560);
-        const Q t561 = c[0] * t553;
-        const Q t562 = t559 - t561;
-        const Q t563 = Q(-c[1], c[1], -c[1], c[1]) * t554;
-        const Q t564 = shuffled<1, 0, 3, 2>(t563);
-        const Q t565 = t562 + t564;
-        io.pairs(25, 28, t565);
-        const Q t566 = t562 - t564;
-        io.pairs(44, 47, t566);
-        const Q t567 = shuffled<0, 1, 4, 5>(t541, t542);
-        // complex block of 3
-        const Q t568 = t557 + t567;
-        io.pairs(48, 51, t568);
-        const Q t569 = c[0] * t557;
-        const Q t570 = t567 - t569;
-        const Q t571 = Q(-c[1], c[1], -c[1], c[1]) * t558;
-        const Q t572 = shuffled<1, 0, 3, 2>(t571);
-        const Q t573 = t570 + t572;
-        io.pairs(10, 13, t573);
-        const Q t574 = t570 - t572;
-        io.pairs(29, 32, t574);
+        const Q t586 = t336 - t366;
         // spectrum block of 3, multiplier 2
-        const Q t575 = t462 - t400;
+        const Q t587 = t342 - t401;
         // spectrum block of 3, multiplier 2
-        const Q t576 = t468 - t427;
-        // spectrum block of 3, multiplier 2
-        const Q t577 = t474 - t444;
-        const Q t578 = shuffled<2, 3, 6, 7>(t575, t414);
-        const Q t579 = shuffled<0, 1, 4, 5>(t577, t448);
+        const Q t588 = t467 - t448;
+        const Q t589 = shuffled<2, 3, 6, 7>(t406, t586);
+        const Q t590 = shuffled<2, 3, 4, 5>(t453, t588);
         // complex block of 3
-        const Q t580 = t578 + t579;
-        const Q t581 = shuffled<2, 3, 6, 7>(t431, t576);
-        const Q t582 = shuffled<2, 3, 6, 7>(t448, t577);
+        const Q t591 = t589 + t590;
+        const Q t592 = shuffled<2, 3, 6, 7>(t331, t587);
+        const P t593 = part<1>(t588);
+        const Q t594 = joined(t414, t593);
         // complex block of 3
-        const Q t583 = t581 + t582;
+        const Q t595 = t592 + t594;
         // complex block of 3
-        const Q t584 = t578 - t579;
+        const Q t596 = t589 - t590;
         // complex block of 3
-        const Q t585 = t581 - t582;
-        const Q t586 = shuffled<0, 1, 4, 5>(t575, t414);
+        const Q t597 = t592 - t594;
+        const Q t598 = shuffled<0, 1, 4, 5>(t406, t586);
         // complex block of 3
-        const Q t587 = t580 + t586;
-        io.pairs(18, 21, t587);
-        const Q t588 = c[0] * t580;
-        const Q t589 = t586 - t588;
-        const Q t590 = Q(-c[1], c[1], -c[1], c[1]) * t584;
-        const Q t591 = shuffled<1, 0, 3, 2>(t590);
-        const Q t592 = t589 + t591;
-        io.pairs(37, 40, t592);
-        const Q t593 = t589 - t591;
-        io.pairs(56, 2, t593);
-        const Q t594 = shuffled<0, 1, 4, 5>(t431, t576);
+        const Q t599 = t591 + t598;
+        const Q t600 = c[0] * t591;
+        const Q t601 = t598 - t600;
+        const Q t602 = Q(-c[1], c[1], -c[1], c[1]) * t596;
+        const Q t603 = shuffled<1, 0, 3, 2>(t602);
+        const Q t604 = t601 + t603;
+        const Q t605 = shuffled<0, 1, 6, 7>(t599, t604);
+        io.pairs(36, 37, t605);
+        const Q t606 = t601 - t603;
+        const Q t607 = shuffled<0, 1, 6, 7>(t606, t599);
+        io.pairs(17, 18, t607);
+        const Q t608 = shuffled<0, 1, 6, 7>(t604, t606);
+        io.pairs(55, 56, t608);
+        const Q t609 = shuffled<0, 1, 4, 5>(t331, t587);
         // complex block of 3
-        const Q t595 = t583 + t594;
-        io.pairs(36, 39, t595);
-        const Q t596 = c[0] * t583;
-        const Q t597 = t594 - t596;
-        const Q t598 = Q(-c[1], c[1], -c[1], c[1]) * t585;
-        const Q t599 = shuffled<1, 0, 3, 2>(t598);
-        const Q t600 = t597 + t599;
-        io.pairs(55, 1, t600);
-        const Q t601 = t597 - t599;
-        io.pairs(17, 20, t601);
+        const Q t610 = t595 + t609;
+        const Q t611 = c[0] * t595;
+        const Q t612 = t609 - t611;
+        const Q t613 = Q(-c[1], c[1], -c[1], c[1]) * t597;
+        const Q t614 = shuffled<1, 0, 3, 2>(t613);
+        const Q t615 = t612 + t614;
+        const Q t616 = shuffled<0, 1, 6, 7>(t610, t615);
+        io.pairs(0, 1, t616);
+        const Q t617 = t612 - t614;
+        const Q t618 = shuffled<0, 1, 6, 7>(t615, t617);
+        io.pairs(19, 20, t618);
+        const Q t619 = shuffled<0, 1, 6, 7>(t617, t610);
+        io.pairs(38, 39, t619);
+        const Q t620 = shuffled<2, 3, 6, 7>(t371, t367);
+        const Q t621 = shuffled<0, 1, 4, 5>(t453, t449);
         // complex block of 3
-        const Q t602 = t404 - t406;
-        const Q t603 = shuffled<0, 1, 4, 5>(t331, t401);
-        const Q t604 = c[0] * t407;
-        const Q t605 = t603 - t604;
-        const Q t606 = Q(-c[1], c[1], -c[1], c[1]) * t602;
-        const Q t607 = shuffled<1, 0, 3, 2>(t606);
-        const Q t608 = t605 + t607;
-        io.pairs(19, 22, t608);
-        const Q t609 = t605 - t607;
-        io.pairs(38, 41, t609);
-        const Q t610 = t407 + t603;
-        io.pairs(0, 3, t610);
+        const Q t622 = t620 + t621;
+        const Q t623 = t620 - t621;
+        const Q t624 = shuffled<0, 1, 4, 5>(t371, t367);
+        const Q t625 = t622 + t624;
+        const Q t626 = c[0] * t622;
+        const Q t627 = t624 - t626;
+        const Q t628 = Q(-c[1], c[1], -c[1], c[1]) * t623;
+        const Q t629 = shuffled<1, 0, 3, 2>(t628);
+        const Q t630 = t627 + t629;
+        const Q t631 = shuffled<0, 1, 6, 7>(t625, t630);
+        io.pairs(21, 22, t631);
+        const Q t632 = t627 - t629;
+        const Q t633 = shuffled<0, 1, 6, 7>(t632, t625);
+        io.pairs(2, 3, t633);
+        const Q t634 = shuffled<0, 1, 6, 7>(t630, t632);
+        io.pairs(40, 41, t634);
+        const P t635 = part<1>(t372);
+        const P t636 = part<0>(t454);
         // complex block of 3
-        const P t611 = t408 - t409;
-        const P t612 = part<0>(t402);
-        const P t613 = c[0] * t410;
-        const P t614 = t612 - t613;
-        const P t615 = P(-c[1], c[1]) * t611;
-        const P t616 = shuffled<1, 0>(t615);
-        const P t617 = t614 + t616;
-        io.pair(16, t617);
-        const P t618 = t614 - t616;
-        io.pair(35, t618);
-        const P t619 = t410 + t612;
-        io.pair(54, t619);
+        const P t637 = t635 + t636;
+        const P t638 = t635 - t636;
+        const P t639 = part<0>(t372);
+        const P t640 = t637 + t639;
+        io.pair(33, t640);
+        const P t641 = c[0] * t637;
+        const P t642 = t639 - t641;
+        const P t643 = P(-c[1], c[1]) * t638;
+        const P t644 = shuffled<1, 0>(t643);
+        const P t645 = t642 + t644;
+        io.pair(52, t645);
+        const P t646 = t642 - t644;
+        io.pair(14, t646);
     }
 };
 

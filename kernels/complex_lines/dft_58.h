@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 58.
 // Complex DFT of 58 points, prime-factor, order 29, 2; two lines of a stage to a register.
 // 189 sums, 169 differences, 198 products of registers, which do the 2336 steps of the graph, those with
-// `scale` included; 47 shuffles, 9 changes of sign.
+// `scale` included; 75 shuffles, 9 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -591,272 +591,300 @@ struct ComplexLines<58> {
         // spectrum block of 7, multiplier 4
         const Q t417 = t351 + t412;
         const Q t418 = t417 + t323;
-        const Q t419 = shuffled<0, 1, 4, 5>(t222, t418);
-        const Q t420 = shuffled<2, 3, 6, 7>(t222, t418);
-        // complex block of 2
-        const Q t421 = t419 + t420;
-        io.pairs(0, 2, t421);
-        const Q t422 = t419 - t420;
-        io.pairs(29, 31, t422);
-        // spectrum block of 7, multiplier 4
-        const Q t423 = c[2] * t412;
-        const Q t424 = t354 - t423;
-        const Q t425 = t424 + t323;
-        const Q t426 = c[4] * t343;
-        const Q t427 = c[5] * t347;
-        const Q t428 = t426 + t427;
-        const Q t429 = c[3] * t406;
+        const Q t419 = c[2] * t412;
+        const Q t420 = t354 - t419;
+        const Q t421 = t420 + t323;
+        const Q t422 = c[4] * t343;
+        const Q t423 = c[5] * t347;
+        const Q t424 = t422 + t423;
+        const Q t425 = c[3] * t406;
+        const Q t426 = t424 + t425;
+        const Q t427 = c[2] * t259;
+        const Q t428 = t325 - t427;
+        const Q t429 = c[0] * t412;
         const Q t430 = t428 + t429;
-        const Q t431 = c[2] * t259;
-        const Q t432 = t325 - t431;
-        const Q t433 = c[0] * t412;
-        const Q t434 = t432 + t433;
-        const Q t435 = c[5] * t343;
-        const Q t436 = c[3] * t347;
-        const Q t437 = t435 - t436;
-        const Q t438 = c[4] * t406;
+        const Q t431 = c[5] * t343;
+        const Q t432 = c[3] * t347;
+        const Q t433 = t431 - t432;
+        const Q t434 = c[4] * t406;
+        const Q t435 = t433 - t434;
+        const Q t436 = c[0] * t259;
+        const Q t437 = t327 + t436;
+        const Q t438 = c[1] * t412;
         const Q t439 = t437 - t438;
+        const Q t440 = c[3] * t343;
+        const Q t441 = c[4] * t347;
+        const Q t442 = t440 - t441;
+        const Q t443 = c[5] * t406;
+        const Q t444 = t442 + t443;
         // spectrum block of 7, multiplier 4
-        const Q t440 = c[2] * t413;
-        const Q t441 = t362 - t440;
-        const Q t442 = t441 + t328;
-        const Q t443 = c[4] * t344;
-        const Q t444 = c[5] * t348;
-        const Q t445 = t443 + t444;
-        const Q t446 = c[3] * t407;
-        const Q t447 = t445 + t446;
-        const Q t448 = c[2] * t260;
-        const Q t449 = t330 - t448;
-        const Q t450 = c[0] * t413;
-        const Q t451 = t449 + t450;
-        const Q t452 = c[5] * t344;
-        const Q t453 = c[3] * t348;
-        const Q t454 = t452 - t453;
-        const Q t455 = c[4] * t407;
-        const Q t456 = t454 - t455;
+        const Q t445 = c[2] * t261;
+        const Q t446 = t335 - t445;
+        const Q t447 = c[0] * t415;
+        const Q t448 = t446 + t447;
+        const Q t449 = c[5] * t345;
+        const Q t450 = c[3] * t349;
+        const Q t451 = t449 - t450;
+        const Q t452 = c[4] * t410;
+        const Q t453 = t451 - t452;
+        const Q t454 = c[0] * t261;
+        const Q t455 = t337 + t454;
+        const Q t456 = c[1] * t415;
+        const Q t457 = t455 - t456;
+        const Q t458 = c[3] * t345;
+        const Q t459 = c[4] * t349;
+        const Q t460 = t458 - t459;
+        const Q t461 = c[5] * t410;
+        const Q t462 = t460 + t461;
         // spectrum block of 7, multiplier 4
-        const Q t457 = t425 - t430;
+        const Q t463 = t359 + t413;
+        const Q t464 = t463 + t328;
+        const Q t465 = c[2] * t413;
+        const Q t466 = t362 - t465;
+        const Q t467 = t466 + t328;
+        const Q t468 = c[4] * t344;
+        const Q t469 = c[5] * t348;
+        const Q t470 = t468 + t469;
+        const Q t471 = c[3] * t407;
+        const Q t472 = t470 + t471;
+        const Q t473 = c[2] * t260;
+        const Q t474 = t330 - t473;
+        const Q t475 = c[0] * t413;
+        const Q t476 = t474 + t475;
+        const Q t477 = c[5] * t344;
+        const Q t478 = c[3] * t348;
+        const Q t479 = t477 - t478;
+        const Q t480 = c[4] * t407;
+        const Q t481 = t479 - t480;
+        const Q t482 = c[0] * t260;
+        const Q t483 = t332 + t482;
+        const Q t484 = c[1] * t413;
+        const Q t485 = t483 - t484;
+        const Q t486 = c[3] * t344;
+        const Q t487 = c[4] * t348;
+        const Q t488 = t486 - t487;
+        const Q t489 = c[5] * t407;
+        const Q t490 = t488 + t489;
         // spectrum block of 7, multiplier 4
-        const Q t458 = t451 - t456;
-        const Q t459 = shuffled<0, 1, 4, 5>(t458, t457);
-        const Q t460 = shuffled<2, 3, 6, 7>(t458, t457);
-        // complex block of 2
-        const Q t461 = t459 + t460;
-        io.pairs(44, 46, t461);
-        const Q t462 = t459 - t460;
-        io.pairs(15, 17, t462);
-        // spectrum block of 7, multiplier 4
-        const Q t463 = t425 + t430;
-        const Q t464 = t434 + t439;
-        const Q t465 = shuffled<0, 1, 4, 5>(t463, t464);
-        const Q t466 = shuffled<2, 3, 6, 7>(t463, t464);
-        // complex block of 2
-        const Q t467 = t465 + t466;
-        io.pairs(48, 50, t467);
-        const Q t468 = t465 - t466;
-        io.pairs(19, 21, t468);
-        // spectrum block of 7, multiplier 4
-        const Q t469 = t434 - t439;
-        // spectrum block of 7, multiplier 4
-        const Q t470 = t442 - t447;
-        const Q t471 = shuffled<0, 1, 4, 5>(t470, t469);
-        const Q t472 = shuffled<2, 3, 6, 7>(t470, t469);
-        // complex block of 2
-        const Q t473 = t471 + t472;
-        io.pairs(12, 14, t473);
-        const Q t474 = t471 - t472;
-        io.pairs(41, 43, t474);
-        // spectrum block of 7, multiplier 4
-        const Q t475 = t442 + t447;
-        const Q t476 = t451 + t456;
-        const Q t477 = shuffled<0, 1, 4, 5>(t476, t475);
-        const Q t478 = shuffled<2, 3, 6, 7>(t476, t475);
-        // complex block of 2
-        const Q t479 = t477 + t478;
-        io.pairs(8, 10, t479);
-        const Q t480 = t477 - t478;
-        io.pairs(37, 39, t480);
-        // spectrum block of 7, multiplier 4
-        const Q t481 = c[0] * t259;
-        const Q t482 = t327 + t481;
-        const Q t483 = c[1] * t412;
-        const Q t484 = t482 - t483;
-        const Q t485 = c[3] * t343;
-        const Q t486 = c[4] * t347;
-        const Q t487 = t485 - t486;
-        const Q t488 = c[5] * t406;
-        const Q t489 = t487 + t488;
-        // spectrum block of 7, multiplier 4
-        const Q t490 = t355 + t415;
-        const Q t491 = t490 + t333;
-        const Q t492 = c[2] * t415;
-        const Q t493 = t358 - t492;
-        const Q t494 = t493 + t333;
-        const Q t495 = c[4] * t345;
-        const Q t496 = c[5] * t349;
-        const Q t497 = t495 + t496;
-        const Q t498 = c[3] * t410;
-        const Q t499 = t497 + t498;
-        const Q t500 = c[2] * t261;
-        const Q t501 = t335 - t500;
-        const Q t502 = c[0] * t415;
-        const Q t503 = t501 + t502;
-        const Q t504 = c[5] * t345;
-        const Q t505 = c[3] * t349;
+        const Q t491 = c[2] * t262;
+        const Q t492 = t340 - t491;
+        const Q t493 = c[0] * t416;
+        const Q t494 = t492 + t493;
+        const Q t495 = c[5] * t346;
+        const Q t496 = c[3] * t350;
+        const Q t497 = t495 - t496;
+        const Q t498 = c[4] * t411;
+        const Q t499 = t497 - t498;
+        const Q t500 = c[0] * t262;
+        const Q t501 = t342 + t500;
+        const Q t502 = c[1] * t416;
+        const Q t503 = t501 - t502;
+        const Q t504 = c[3] * t346;
+        const Q t505 = c[4] * t350;
         const Q t506 = t504 - t505;
-        const Q t507 = c[4] * t410;
-        const Q t508 = t506 - t507;
-        const Q t509 = c[0] * t261;
-        const Q t510 = t337 + t509;
-        const Q t511 = c[1] * t415;
-        const Q t512 = t510 - t511;
-        const Q t513 = c[3] * t345;
-        const Q t514 = c[4] * t349;
-        const Q t515 = t513 - t514;
-        const Q t516 = c[5] * t410;
-        const Q t517 = t515 + t516;
+        const Q t507 = c[5] * t411;
+        const Q t508 = t506 + t507;
         // spectrum block of 7, multiplier 4
-        const Q t518 = c[0] * t260;
-        const Q t519 = t332 + t518;
-        const Q t520 = c[1] * t413;
-        const Q t521 = t519 - t520;
-        const Q t522 = c[3] * t344;
-        const Q t523 = c[4] * t348;
-        const Q t524 = t522 - t523;
-        const Q t525 = c[5] * t407;
-        const Q t526 = t524 + t525;
+        const Q t509 = t421 - t426;
         // spectrum block of 7, multiplier 4
-        const Q t527 = t363 + t416;
-        const Q t528 = t527 + t338;
-        const Q t529 = c[2] * t416;
-        const Q t530 = t366 - t529;
-        const Q t531 = t530 + t338;
-        const Q t532 = c[4] * t346;
-        const Q t533 = c[5] * t350;
-        const Q t534 = t532 + t533;
-        const Q t535 = c[3] * t411;
-        const Q t536 = t534 + t535;
-        const Q t537 = c[2] * t262;
-        const Q t538 = t340 - t537;
-        const Q t539 = c[0] * t416;
-        const Q t540 = t538 + t539;
-        const Q t541 = c[5] * t346;
-        const Q t542 = c[3] * t350;
-        const Q t543 = t541 - t542;
-        const Q t544 = c[4] * t411;
-        const Q t545 = t543 - t544;
-        const Q t546 = c[0] * t262;
-        const Q t547 = t342 + t546;
-        const Q t548 = c[1] * t416;
-        const Q t549 = t547 - t548;
-        const Q t550 = c[3] * t346;
-        const Q t551 = c[4] * t350;
-        const Q t552 = t550 - t551;
-        const Q t553 = c[5] * t411;
-        const Q t554 = t552 + t553;
-        // spectrum block of 7, multiplier 4
-        const Q t555 = t484 - t489;
-        const Q t556 = shuffled<0, 1, 4, 5>(t555, t491);
-        const Q t557 = shuffled<2, 3, 6, 7>(t555, t491);
+        const Q t510 = t503 + t508;
+        const Q t511 = shuffled<0, 1, 4, 5>(t510, t509);
+        const Q t512 = shuffled<2, 3, 6, 7>(t510, t509);
         // complex block of 2
-        const Q t558 = t556 + t557;
-        io.pairs(32, 34, t558);
-        const Q t559 = t556 - t557;
-        io.pairs(3, 5, t559);
+        const Q t513 = t511 + t512;
+        const Q t514 = t511 - t512;
+        const Q t515 = shuffled<0, 1, 6, 7>(t513, t514);
+        io.pairs(16, 17, t515);
+        const Q t516 = shuffled<0, 1, 6, 7>(t514, t513);
+        io.pairs(45, 46, t516);
         // spectrum block of 7, multiplier 4
-        const Q t560 = t484 + t489;
+        const Q t517 = t421 + t426;
         // spectrum block of 7, multiplier 4
-        const Q t561 = t512 + t517;
-        const Q t562 = shuffled<0, 1, 4, 5>(t560, t561);
-        const Q t563 = shuffled<2, 3, 6, 7>(t560, t561);
+        const Q t518 = t485 + t490;
+        const Q t519 = shuffled<0, 1, 4, 5>(t518, t517);
+        const Q t520 = shuffled<2, 3, 6, 7>(t518, t517);
         // complex block of 2
-        const Q t564 = t562 + t563;
-        io.pairs(40, 42, t564);
-        const Q t565 = t562 - t563;
-        io.pairs(11, 13, t565);
+        const Q t521 = t519 + t520;
+        const Q t522 = t519 - t520;
+        const Q t523 = shuffled<0, 1, 6, 7>(t521, t522);
+        io.pairs(18, 19, t523);
+        const Q t524 = shuffled<0, 1, 6, 7>(t522, t521);
+        io.pairs(47, 48, t524);
         // spectrum block of 7, multiplier 4
-        const Q t566 = t494 - t499;
+        const Q t525 = t430 - t435;
         // spectrum block of 7, multiplier 4
-        const Q t567 = t531 - t536;
-        const Q t568 = shuffled<0, 1, 4, 5>(t566, t567);
-        const Q t569 = shuffled<2, 3, 6, 7>(t566, t567);
+        const Q t526 = t476 - t481;
+        const Q t527 = shuffled<0, 1, 4, 5>(t525, t526);
+        const Q t528 = shuffled<2, 3, 6, 7>(t525, t526);
         // complex block of 2
-        const Q t570 = t568 + t569;
-        io.pairs(28, 30, t570);
-        const Q t571 = t568 - t569;
-        io.pairs(57, 1, t571);
+        const Q t529 = t527 + t528;
+        const Q t530 = t527 - t528;
+        const Q t531 = shuffled<0, 1, 6, 7>(t529, t530);
+        io.pairs(14, 15, t531);
+        const Q t532 = shuffled<0, 1, 6, 7>(t530, t529);
+        io.pairs(43, 44, t532);
         // spectrum block of 7, multiplier 4
-        const Q t572 = t494 + t499;
-        const Q t573 = t503 - t508;
+        const Q t533 = t430 + t435;
+        // spectrum block of 7, multiplier 4
+        const Q t534 = t494 + t499;
+        const Q t535 = shuffled<0, 1, 4, 5>(t534, t533);
+        const Q t536 = shuffled<2, 3, 6, 7>(t534, t533);
+        // complex block of 2
+        const Q t537 = t535 + t536;
+        const Q t538 = t535 - t536;
+        const Q t539 = shuffled<0, 1, 6, 7>(t537, t538);
+        io.pairs(20, 21, t539);
+        const Q t540 = shuffled<0, 1, 6, 7>(t538, t537);
+        io.pairs(49, 50, t540);
+        // spectrum block of 7, multiplier 4
+        const Q t541 = t439 - t444;
+        const Q t542 = shuffled<0, 1, 4, 5>(t418, t541);
+        const Q t543 = shuffled<2, 3, 6, 7>(t418, t541);
+        // complex block of 2
+        const Q t544 = t542 + t543;
+        const Q t545 = t542 - t543;
+        const Q t546 = shuffled<0, 1, 6, 7>(t544, t545);
+        io.pairs(2, 3, t546);
+        const Q t547 = shuffled<0, 1, 6, 7>(t545, t544);
+        io.pairs(31, 32, t547);
+        // spectrum block of 7, multiplier 4
+        const Q t548 = t439 + t444;
+        // spectrum block of 7, multiplier 4
+        const Q t549 = t467 + t472;
+        const Q t550 = shuffled<0, 1, 4, 5>(t549, t548);
+        const Q t551 = shuffled<2, 3, 6, 7>(t549, t548);
+        // complex block of 2
+        const Q t552 = t550 + t551;
+        const Q t553 = t550 - t551;
+        const Q t554 = shuffled<0, 1, 6, 7>(t552, t553);
+        io.pairs(10, 11, t554);
+        const Q t555 = shuffled<0, 1, 6, 7>(t553, t552);
+        io.pairs(39, 40, t555);
+        // spectrum block of 7, multiplier 4
+        const Q t556 = t448 - t453;
+        // spectrum block of 7, multiplier 4
+        const Q t557 = t503 - t508;
+        const Q t558 = shuffled<0, 1, 4, 5>(t556, t557);
+        const Q t559 = shuffled<2, 3, 6, 7>(t556, t557);
+        // complex block of 2
+        const Q t560 = t558 + t559;
+        const Q t561 = t558 - t559;
+        const Q t562 = shuffled<0, 1, 6, 7>(t560, t561);
+        io.pairs(6, 7, t562);
+        const Q t563 = shuffled<0, 1, 6, 7>(t561, t560);
+        io.pairs(35, 36, t563);
+        // spectrum block of 7, multiplier 4
+        const Q t564 = t448 + t453;
+        // spectrum block of 7, multiplier 4
+        const Q t565 = t476 + t481;
+        const Q t566 = shuffled<0, 1, 4, 5>(t565, t564);
+        const Q t567 = shuffled<2, 3, 6, 7>(t565, t564);
+        // complex block of 2
+        const Q t568 = t566 + t567;
+        const Q t569 = t566 - t567;
+        const Q t570 = shuffled<0, 1, 6, 7>(t568, t569);
+        io.pairs(8, 9, t570);
+        const Q t571 = shuffled<0, 1, 6, 7>(t569, t568);
+        io.pairs(37, 38, t571);
+        // spectrum block of 7, multiplier 4
+        const Q t572 = t457 - t462;
+        // spectrum block of 7, multiplier 4
+        const Q t573 = t494 - t499;
         const Q t574 = shuffled<0, 1, 4, 5>(t572, t573);
         const Q t575 = shuffled<2, 3, 6, 7>(t572, t573);
         // complex block of 2
         const Q t576 = t574 + t575;
-        io.pairs(4, 6, t576);
         const Q t577 = t574 - t575;
-        io.pairs(33, 35, t577);
+        const Q t578 = shuffled<0, 1, 6, 7>(t576, t577);
+        io.pairs(22, 23, t578);
+        const Q t579 = shuffled<0, 1, 6, 7>(t577, t576);
+        io.pairs(51, 52, t579);
         // spectrum block of 7, multiplier 4
-        const Q t578 = t503 + t508;
+        const Q t580 = t457 + t462;
         // spectrum block of 7, multiplier 4
-        const Q t579 = t549 - t554;
-        const Q t580 = shuffled<0, 1, 4, 5>(t579, t578);
-        const Q t581 = shuffled<2, 3, 6, 7>(t579, t578);
+        const Q t581 = t467 - t472;
+        const Q t582 = shuffled<0, 1, 4, 5>(t581, t580);
+        const Q t583 = shuffled<2, 3, 6, 7>(t581, t580);
         // complex block of 2
-        const Q t582 = t580 + t581;
-        io.pairs(36, 38, t582);
-        const Q t583 = t580 - t581;
-        io.pairs(7, 9, t583);
+        const Q t584 = t582 + t583;
+        const Q t585 = t582 - t583;
+        const Q t586 = shuffled<0, 1, 6, 7>(t584, t585);
+        io.pairs(12, 13, t586);
+        const Q t587 = shuffled<0, 1, 6, 7>(t585, t584);
+        io.pairs(41, 42, t587);
         // spectrum block of 7, multiplier 4
-        const Q t584 = t512 - t517;
-        // spectrum block of 7, multiplier 4
-        const Q t585 = t540 + t545;
-        const Q t586 = shuffled<0, 1, 4, 5>(t585, t584);
-        const Q t587 = shuffled<2, 3, 6, 7>(t585, t584);
+        const Q t588 = t485 - t490;
+        const Q t589 = shuffled<0, 1, 4, 5>(t588, t464);
+        const Q t590 = shuffled<2, 3, 6, 7>(t588, t464);
         // complex block of 2
-        const Q t588 = t586 + t587;
-        io.pairs(20, 22, t588);
-        const Q t589 = t586 - t587;
-        io.pairs(49, 51, t589);
+        const Q t591 = t589 + t590;
+        const Q t592 = t589 - t590;
+        const Q t593 = shuffled<0, 1, 6, 7>(t591, t592);
+        io.pairs(26, 27, t593);
+        const Q t594 = shuffled<0, 1, 6, 7>(t592, t591);
+        io.pairs(55, 56, t594);
         // spectrum block of 7, multiplier 4
-        const Q t590 = t521 - t526;
-        const Q t591 = shuffled<0, 1, 4, 5>(t528, t590);
-        const Q t592 = shuffled<2, 3, 6, 7>(t528, t590);
+        const Q t595 = t355 + t415;
+        const Q t596 = t595 + t333;
+        const Q t597 = c[2] * t415;
+        const Q t598 = t358 - t597;
+        const Q t599 = t598 + t333;
+        const Q t600 = c[4] * t345;
+        const Q t601 = c[5] * t349;
+        const Q t602 = t600 + t601;
+        const Q t603 = c[3] * t410;
+        const Q t604 = t602 + t603;
+        const Q t605 = t599 - t604;
+        const P t606 = part<0>(t605);
+        const P t607 = part<1>(t605);
         // complex block of 2
-        const Q t593 = t591 + t592;
-        io.pairs(24, 26, t593);
-        const Q t594 = t591 - t592;
-        io.pairs(53, 55, t594);
+        const P t608 = t606 + t607;
+        io.pair(28, t608);
+        const P t609 = t606 - t607;
+        io.pair(57, t609);
         // spectrum block of 7, multiplier 4
-        const Q t595 = t521 + t526;
-        // spectrum block of 7, multiplier 4
-        const Q t596 = t549 + t554;
-        const Q t597 = shuffled<0, 1, 4, 5>(t596, t595);
-        const Q t598 = shuffled<2, 3, 6, 7>(t596, t595);
+        const Q t610 = t599 + t604;
+        const Q t611 = shuffled<0, 1, 4, 5>(t610, t596);
+        const Q t612 = shuffled<2, 3, 6, 7>(t610, t596);
         // complex block of 2
-        const Q t599 = t597 + t598;
-        io.pairs(16, 18, t599);
-        const Q t600 = t597 - t598;
-        io.pairs(45, 47, t600);
+        const Q t613 = t611 + t612;
+        const Q t614 = t611 - t612;
+        const Q t615 = shuffled<0, 1, 6, 7>(t613, t614);
+        io.pairs(4, 5, t615);
+        const Q t616 = shuffled<0, 1, 6, 7>(t614, t613);
+        io.pairs(33, 34, t616);
         // spectrum block of 7, multiplier 4
-        const Q t601 = t531 + t536;
-        const Q t602 = t540 - t545;
-        const Q t603 = shuffled<0, 1, 4, 5>(t602, t601);
-        const Q t604 = shuffled<2, 3, 6, 7>(t602, t601);
+        const Q t617 = t363 + t416;
+        const Q t618 = t617 + t338;
+        const Q t619 = c[2] * t416;
+        const Q t620 = t366 - t619;
+        const Q t621 = t620 + t338;
+        const Q t622 = c[4] * t346;
+        const Q t623 = c[5] * t350;
+        const Q t624 = t622 + t623;
+        const Q t625 = c[3] * t411;
+        const Q t626 = t624 + t625;
+        const Q t627 = t621 - t626;
+        const Q t628 = shuffled<0, 1, 4, 5>(t222, t627);
+        const Q t629 = shuffled<2, 3, 6, 7>(t222, t627);
         // complex block of 2
-        const Q t605 = t603 + t604;
-        io.pairs(52, 54, t605);
-        const Q t606 = t603 - t604;
-        io.pairs(23, 25, t606);
+        const Q t630 = t628 + t629;
+        const Q t631 = t628 - t629;
+        const Q t632 = shuffled<0, 1, 6, 7>(t630, t631);
+        io.pairs(0, 1, t632);
+        const Q t633 = shuffled<0, 1, 6, 7>(t631, t630);
+        io.pairs(29, 30, t633);
         // spectrum block of 7, multiplier 4
-        const Q t607 = t359 + t413;
-        const Q t608 = t607 + t328;
-        const P t609 = part<0>(t608);
-        const P t610 = part<1>(t608);
+        const Q t634 = t621 + t626;
+        const Q t635 = shuffled<0, 1, 4, 5>(t618, t634);
+        const Q t636 = shuffled<2, 3, 6, 7>(t618, t634);
         // complex block of 2
-        const P t611 = t609 + t610;
-        io.pair(56, t611);
-        const P t612 = t609 - t610;
-        io.pair(27, t612);
+        const Q t637 = t635 + t636;
+        const Q t638 = t635 - t636;
+        const Q t639 = shuffled<0, 1, 6, 7>(t637, t638);
+        io.pairs(24, 25, t639);
+        const Q t640 = shuffled<0, 1, 6, 7>(t638, t637);
+        io.pairs(53, 54, t640);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 6.
 // Complex DFT of 6 points, prime-factor, order 3, 2; two lines of a stage to a register.
 // 5 sums, 5 differences, 2 products of registers, which do the 56 steps of the graph, those with
-// `scale` included; 4 shuffles, 0 changes of sign.
+// `scale` included; 6 shuffles, 0 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -35,20 +35,22 @@ struct ComplexLines<6> {
         const Q t6 = shuffled<1, 0, 3, 2>(t5);
         const Q t7 = t4 + t6;
         const Q t8 = t4 - t6;
-        const Q t9 = shuffled<0, 1, 4, 5>(t2, t8);
-        const Q t10 = shuffled<2, 3, 6, 7>(t2, t8);
+        const P t9 = part<0>(t8);
+        const P t10 = part<1>(t8);
         // complex block of 2
-        const Q t11 = t9 + t10;
-        io.pairs(0, 2, t11);
-        const Q t12 = t9 - t10;
-        io.pairs(3, 5, t12);
-        const P t13 = part<0>(t7);
-        const P t14 = part<1>(t7);
+        const P t11 = t9 + t10;
+        io.pair(2, t11);
+        const P t12 = t9 - t10;
+        io.pair(5, t12);
+        const Q t13 = shuffled<0, 1, 4, 5>(t2, t7);
+        const Q t14 = shuffled<2, 3, 6, 7>(t2, t7);
         // complex block of 2
-        const P t15 = t13 + t14;
-        io.pair(4, t15);
-        const P t16 = t13 - t14;
-        io.pair(1, t16);
+        const Q t15 = t13 + t14;
+        const Q t16 = t13 - t14;
+        const Q t17 = shuffled<0, 1, 6, 7>(t15, t16);
+        io.pairs(0, 1, t17);
+        const Q t18 = shuffled<0, 1, 6, 7>(t16, t15);
+        io.pairs(3, 4, t18);
     }
 };
 

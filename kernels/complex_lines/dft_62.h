@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 62.
 // Complex DFT of 62 points, prime-factor, order 31, 2; two lines of a stage to a register.
 // 214 sums, 170 differences, 194 products of registers, which do the 2400 steps of the graph, those with
-// `scale` included; 96 shuffles, 7 changes of sign.
+// `scale` included; 126 shuffles, 7 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -690,308 +690,343 @@ struct ComplexLines<62> {
         const P t474 = t471 + t466;
         const P t475 = t471 - t466;
         // spectrum block of 5
-        const Q t476 = c[1] * t407;
-        const P t477 = part<0>(t476);
-        const P t478 = part<1>(t476);
-        const P t479 = shuffled<0, 2>(t477, t478);
-        const P t480 = t453 - t479;
-        const P t481 = shuffled<1, 3>(t477, t478);
-        const Q t482 = c[0] * t414;
-        const P t483 = part<0>(t482);
-        const P t484 = part<1>(t482);
-        const P t485 = shuffled<1, 3>(t483, t484);
+        const Q t476 = t311 + t232;
+        const Q t477 = c[3] * t286;
+        const Q t478 = c[2] * t297;
+        const Q t479 = t477 + t478;
+        const Q t480 = t476 - t479;
+        const Q t481 = t476 + t479;
+        const Q t482 = flipped<0, 1, 0, 1>(t373);
         // spectrum block of 5
-        const P t486 = t481 + t485;
-        const P t487 = shuffled<0, 2>(t480, t486);
-        const P t488 = shuffled<1, 3>(t480, t486);
-        const Q t489 = joined(t487, t488);
-        const Q t490 = shuffled<0, 5, 2, 7>(t482, t419);
+        const Q t483 = t439 + t482;
+        const Q t484 = c[3] * t435;
+        const Q t485 = c[2] * t434;
+        const Q t486 = t484 + t485;
+        const Q t487 = t483 + t486;
+        const Q t488 = t483 - t486;
         // spectrum block of 5
-        const Q t491 = t489 + t490;
-        const Q t492 = c[3] * t424;
-        const Q t493 = Q(c[2], -c[2], c[2], -c[2]) * t431;
-        const Q t494 = t492 + t493;
-        const Q t495 = flipped<0, 1, 0, 1>(t494);
-        const Q t496 = t491 + t495;
-        const Q t497 = t491 - t495;
+        const Q t489 = t295 + t306;
+        const Q t490 = t489 + t284;
+        const Q t491 = c[0] * t295;
+        const Q t492 = c[1] * t306;
+        const Q t493 = t491 - t492;
+        const Q t494 = t493 + t284;
+        const Q t495 = c[3] * t290;
+        const Q t496 = c[2] * t301;
+        const Q t497 = t495 + t496;
+        const Q t498 = t494 - t497;
+        const Q t499 = t494 + t497;
+        const Q t500 = flipped<0, 1, 0, 1>(t407);
         // spectrum block of 5
-        const Q t498 = t311 + t232;
-        const Q t499 = c[3] * t286;
-        const Q t500 = c[2] * t297;
-        const Q t501 = t499 + t500;
-        const Q t502 = t498 - t501;
-        const Q t503 = t498 + t501;
-        const Q t504 = c[0] * t244;
-        const Q t505 = t313 + t504;
-        const Q t506 = c[2] * t286;
-        const Q t507 = c[3] * t297;
-        const Q t508 = t506 - t507;
-        const Q t509 = t505 - t508;
-        const Q t510 = t505 + t508;
-        const Q t511 = flipped<0, 1, 0, 1>(t373);
+        const Q t501 = t414 + t500;
+        const Q t502 = t501 + t419;
+        // spectrum block of 2
+        const Q t503 = t480 + t487;
+        const P t504 = shuffled<0, 2>(t473, t475);
+        const P t505 = shuffled<1, 3>(t473, t475);
+        const Q t506 = joined(t504, t505);
+        // spectrum block of 2
+        const Q t507 = t499 + t506;
+        const Q t508 = shuffled<0, 1, 4, 5>(t503, t507);
+        const Q t509 = shuffled<2, 3, 6, 7>(t503, t507);
+        // complex block of 2
+        const Q t510 = t508 + t509;
+        const Q t511 = t508 - t509;
+        const Q t512 = shuffled<0, 1, 6, 7>(t510, t511);
+        io.pairs(4, 5, t512);
+        const Q t513 = shuffled<0, 1, 6, 7>(t511, t510);
+        io.pairs(35, 36, t513);
+        // spectrum block of 2
+        const Q t514 = t480 - t487;
+        // spectrum block of 2
+        const Q t515 = t499 - t506;
+        const Q t516 = shuffled<0, 1, 4, 5>(t515, t514);
+        const Q t517 = shuffled<2, 3, 6, 7>(t515, t514);
+        // complex block of 2
+        const Q t518 = t516 + t517;
+        const Q t519 = t516 - t517;
+        const Q t520 = shuffled<0, 1, 6, 7>(t518, t519);
+        io.pairs(26, 27, t520);
+        const Q t521 = shuffled<0, 1, 6, 7>(t519, t518);
+        io.pairs(57, 58, t521);
+        // spectrum block of 2
+        const Q t522 = t481 + t488;
+        const Q t523 = shuffled<0, 1, 4, 5>(t226, t522);
+        const Q t524 = shuffled<2, 3, 6, 7>(t226, t522);
+        // complex block of 2
+        const Q t525 = t523 + t524;
+        const Q t526 = t523 - t524;
+        const Q t527 = shuffled<0, 1, 6, 7>(t525, t526);
+        io.pairs(0, 1, t527);
+        const Q t528 = shuffled<0, 1, 6, 7>(t526, t525);
+        io.pairs(31, 32, t528);
+        // spectrum block of 2
+        const Q t529 = t481 - t488;
+        const P t530 = part<0>(t529);
+        const P t531 = part<1>(t529);
+        // complex block of 2
+        const P t532 = t530 + t531;
+        io.pair(30, t532);
+        const P t533 = t530 - t531;
+        io.pair(61, t533);
+        // spectrum block of 2
+        const Q t534 = t490 + t502;
+        const P t535 = shuffled<0, 2>(t472, t474);
+        const P t536 = shuffled<1, 3>(t472, t474);
+        const Q t537 = joined(t535, t536);
+        // spectrum block of 2
+        const Q t538 = t498 - t537;
+        const Q t539 = shuffled<0, 1, 4, 5>(t534, t538);
+        const Q t540 = shuffled<2, 3, 6, 7>(t534, t538);
+        // complex block of 2
+        const Q t541 = t539 + t540;
+        const Q t542 = t539 - t540;
+        const Q t543 = shuffled<0, 1, 6, 7>(t541, t542);
+        io.pairs(10, 11, t543);
+        const Q t544 = shuffled<0, 1, 6, 7>(t542, t541);
+        io.pairs(41, 42, t544);
+        // spectrum block of 2
+        const Q t545 = t490 - t502;
+        // spectrum block of 2
+        const Q t546 = t498 + t537;
+        const Q t547 = shuffled<0, 1, 4, 5>(t546, t545);
+        const Q t548 = shuffled<2, 3, 6, 7>(t546, t545);
+        // complex block of 2
+        const Q t549 = t547 + t548;
+        const Q t550 = t547 - t548;
+        const Q t551 = shuffled<0, 1, 6, 7>(t549, t550);
+        io.pairs(20, 21, t551);
+        const Q t552 = shuffled<0, 1, 6, 7>(t550, t549);
+        io.pairs(51, 52, t552);
         // spectrum block of 5
-        const Q t512 = t439 + t511;
-        const Q t513 = c[3] * t435;
-        const Q t514 = c[2] * t434;
-        const Q t515 = t513 + t514;
-        const Q t516 = t512 + t515;
-        const Q t517 = t512 - t515;
-        const Q t518 = c[0] * t362;
-        const Q t519 = flipped<0, 1, 0, 1>(t441);
-        const Q t520 = t518 + t519;
-        const Q t521 = c[3] * t434;
-        const Q t522 = c[2] * t435;
-        const Q t523 = t521 - t522;
-        const Q t524 = t520 - t523;
-        const Q t525 = t520 + t523;
+        const Q t553 = c[1] * t407;
+        const P t554 = part<0>(t553);
+        const P t555 = part<1>(t553);
+        const P t556 = shuffled<0, 2>(t554, t555);
+        const P t557 = t453 - t556;
+        const P t558 = shuffled<1, 3>(t554, t555);
+        const Q t559 = c[0] * t414;
+        const P t560 = part<0>(t559);
+        const P t561 = part<1>(t559);
+        const P t562 = shuffled<1, 3>(t560, t561);
         // spectrum block of 5
-        const Q t526 = t295 + t306;
-        const Q t527 = t526 + t284;
-        const Q t528 = c[0] * t295;
-        const Q t529 = c[1] * t306;
-        const Q t530 = t528 - t529;
-        const Q t531 = t530 + t284;
-        const Q t532 = c[3] * t290;
-        const Q t533 = c[2] * t301;
-        const Q t534 = t532 + t533;
-        const Q t535 = t531 - t534;
-        const Q t536 = t531 + t534;
-        const Q t537 = c[1] * t295;
-        const Q t538 = t284 - t537;
-        const Q t539 = c[0] * t306;
-        const Q t540 = t538 + t539;
-        const Q t541 = c[2] * t290;
-        const Q t542 = c[3] * t301;
-        const Q t543 = t541 - t542;
-        const Q t544 = t540 - t543;
-        const Q t545 = t540 + t543;
-        const Q t546 = flipped<0, 1, 0, 1>(t407);
+        const P t563 = t558 + t562;
+        const P t564 = shuffled<0, 2>(t557, t563);
+        const P t565 = shuffled<1, 3>(t557, t563);
+        const Q t566 = joined(t564, t565);
+        const Q t567 = shuffled<0, 5, 2, 7>(t559, t419);
         // spectrum block of 5
-        const Q t547 = t414 + t546;
-        const Q t548 = t547 + t419;
+        const Q t568 = t566 + t567;
+        const Q t569 = c[3] * t424;
+        const Q t570 = Q(c[2], -c[2], c[2], -c[2]) * t431;
+        const Q t571 = t569 + t570;
+        const Q t572 = flipped<0, 1, 0, 1>(t571);
+        const Q t573 = t568 + t572;
+        const Q t574 = t568 - t572;
         // spectrum block of 5
-        const Q t549 = t296 + t307;
-        const Q t550 = t549 + t285;
-        const Q t551 = c[0] * t296;
-        const Q t552 = c[1] * t307;
-        const Q t553 = t551 - t552;
-        const Q t554 = t553 + t285;
-        const Q t555 = c[3] * t291;
-        const Q t556 = c[2] * t302;
-        const Q t557 = t555 + t556;
-        const Q t558 = t554 - t557;
-        const Q t559 = t554 + t557;
-        const Q t560 = c[1] * t296;
-        const Q t561 = t285 - t560;
-        const Q t562 = c[0] * t307;
-        const Q t563 = t561 + t562;
-        const Q t564 = c[2] * t291;
-        const Q t565 = c[3] * t302;
-        const Q t566 = t564 - t565;
-        const Q t567 = t563 - t566;
-        const Q t568 = t563 + t566;
+        const Q t575 = t308 + t232;
         // spectrum block of 5
-        const Q t569 = t410 + t415;
-        const Q t570 = t569 + t420;
-        const Q t571 = c[0] * t410;
-        const Q t572 = c[1] * t415;
-        const Q t573 = t571 - t572;
-        const Q t574 = t573 + t420;
-        const Q t575 = c[3] * t432;
-        const Q t576 = c[2] * t427;
+        const Q t576 = t436 + t482;
+        // spectrum block of 2
         const Q t577 = t575 + t576;
-        const Q t578 = t574 + t577;
-        const Q t579 = t574 - t577;
-        const Q t580 = c[1] * t410;
-        const Q t581 = t420 - t580;
-        const Q t582 = c[0] * t415;
-        const Q t583 = t581 + t582;
-        const Q t584 = c[3] * t427;
-        const Q t585 = c[2] * t432;
-        const Q t586 = t584 - t585;
-        const Q t587 = t583 - t586;
-        const Q t588 = t583 + t586;
+        const Q t578 = t575 - t576;
+        // spectrum block of 5
+        const Q t579 = c[0] * t244;
+        const Q t580 = t313 + t579;
+        const Q t581 = c[2] * t286;
+        const Q t582 = c[3] * t297;
+        const Q t583 = t581 - t582;
+        const Q t584 = t580 - t583;
+        const Q t585 = t580 + t583;
+        // spectrum block of 5
+        const Q t586 = c[0] * t362;
+        const Q t587 = flipped<0, 1, 0, 1>(t441);
+        const Q t588 = t586 + t587;
+        const Q t589 = c[3] * t434;
+        const Q t590 = c[2] * t435;
+        const Q t591 = t589 - t590;
+        const Q t592 = t588 - t591;
+        const Q t593 = t588 + t591;
+        // spectrum block of 5
+        const Q t594 = c[1] * t295;
+        const Q t595 = t284 - t594;
+        const Q t596 = c[0] * t306;
+        const Q t597 = t595 + t596;
+        const Q t598 = c[2] * t290;
+        const Q t599 = c[3] * t301;
+        const Q t600 = t598 - t599;
+        const Q t601 = t597 - t600;
+        const Q t602 = t597 + t600;
+        // spectrum block of 5
+        const Q t603 = t296 + t307;
+        const Q t604 = t603 + t285;
+        const Q t605 = c[1] * t296;
+        const Q t606 = t285 - t605;
+        const Q t607 = c[0] * t307;
+        const Q t608 = t606 + t607;
+        const Q t609 = c[2] * t291;
+        const Q t610 = c[3] * t302;
+        const Q t611 = t609 - t610;
+        const Q t612 = t608 - t611;
+        const Q t613 = t608 + t611;
+        // spectrum block of 5
+        const Q t614 = t410 + t415;
+        const Q t615 = t614 + t420;
+        const Q t616 = c[1] * t410;
+        const Q t617 = t420 - t616;
+        const Q t618 = c[0] * t415;
+        const Q t619 = t617 + t618;
+        const Q t620 = c[3] * t427;
+        const Q t621 = c[2] * t432;
+        const Q t622 = t620 - t621;
+        const Q t623 = t619 - t622;
+        const Q t624 = t619 + t622;
         // spectrum block of 2
-        const Q t589 = t502 + t516;
+        const Q t625 = t584 + t592;
         // spectrum block of 2
-        const Q t590 = t559 - t579;
-        const Q t591 = shuffled<0, 1, 4, 5>(t589, t590);
-        const Q t592 = shuffled<2, 3, 6, 7>(t589, t590);
-        // complex block of 2
-        const Q t593 = t591 + t592;
-        io.pairs(4, 6, t593);
-        const Q t594 = t591 - t592;
-        io.pairs(35, 37, t594);
-        // spectrum block of 2
-        const Q t595 = t502 - t516;
-        // spectrum block of 2
-        const Q t596 = t559 + t579;
-        const Q t597 = shuffled<0, 1, 4, 5>(t596, t595);
-        const Q t598 = shuffled<2, 3, 6, 7>(t596, t595);
-        // complex block of 2
-        const Q t599 = t597 + t598;
-        io.pairs(56, 58, t599);
-        const Q t600 = t597 - t598;
-        io.pairs(25, 27, t600);
-        // spectrum block of 2
-        const Q t601 = t509 + t524;
-        // spectrum block of 2
-        const Q t602 = t527 + t548;
-        const Q t603 = shuffled<0, 1, 4, 5>(t601, t602);
-        const Q t604 = shuffled<2, 3, 6, 7>(t601, t602);
-        // complex block of 2
-        const Q t605 = t603 + t604;
-        io.pairs(8, 10, t605);
-        const Q t606 = t603 - t604;
-        io.pairs(39, 41, t606);
-        // spectrum block of 2
-        const Q t607 = t509 - t524;
-        // spectrum block of 2
-        const Q t608 = t527 - t548;
-        const Q t609 = shuffled<0, 1, 4, 5>(t608, t607);
-        const Q t610 = shuffled<2, 3, 6, 7>(t608, t607);
-        // complex block of 2
-        const Q t611 = t609 + t610;
-        io.pairs(52, 54, t611);
-        const Q t612 = t609 - t610;
-        io.pairs(21, 23, t612);
-        // spectrum block of 2
-        const Q t613 = t510 + t525;
-        // spectrum block of 2
-        const Q t614 = t545 + t497;
-        const Q t615 = shuffled<0, 1, 4, 5>(t613, t614);
-        const Q t616 = shuffled<2, 3, 6, 7>(t613, t614);
-        // complex block of 2
-        const Q t617 = t615 + t616;
-        io.pairs(16, 18, t617);
-        const Q t618 = t615 - t616;
-        io.pairs(47, 49, t618);
-        // spectrum block of 2
-        const Q t619 = t510 - t525;
-        // spectrum block of 2
-        const Q t620 = t545 - t497;
-        const Q t621 = shuffled<0, 1, 4, 5>(t620, t619);
-        const Q t622 = shuffled<2, 3, 6, 7>(t620, t619);
-        // complex block of 2
-        const Q t623 = t621 + t622;
-        io.pairs(44, 46, t623);
-        const Q t624 = t621 - t622;
-        io.pairs(13, 15, t624);
-        // spectrum block of 2
-        const Q t625 = t503 + t517;
-        // spectrum block of 2
-        const Q t626 = t568 - t588;
+        const Q t626 = t601 + t573;
         const Q t627 = shuffled<0, 1, 4, 5>(t625, t626);
         const Q t628 = shuffled<2, 3, 6, 7>(t625, t626);
         // complex block of 2
         const Q t629 = t627 + t628;
-        io.pairs(32, 34, t629);
         const Q t630 = t627 - t628;
-        io.pairs(1, 3, t630);
+        const Q t631 = shuffled<0, 1, 6, 7>(t629, t630);
+        io.pairs(8, 9, t631);
+        const Q t632 = shuffled<0, 1, 6, 7>(t630, t629);
+        io.pairs(39, 40, t632);
         // spectrum block of 2
-        const Q t631 = t503 - t517;
+        const Q t633 = t584 - t592;
         // spectrum block of 2
-        const Q t632 = t568 + t588;
-        const Q t633 = shuffled<0, 1, 4, 5>(t632, t631);
-        const Q t634 = shuffled<2, 3, 6, 7>(t632, t631);
+        const Q t634 = t601 - t573;
+        const Q t635 = shuffled<0, 1, 4, 5>(t634, t633);
+        const Q t636 = shuffled<2, 3, 6, 7>(t634, t633);
         // complex block of 2
-        const Q t635 = t633 + t634;
-        io.pairs(28, 30, t635);
-        const Q t636 = t633 - t634;
-        io.pairs(59, 61, t636);
-        const P t637 = shuffled<0, 2>(t472, t474);
-        const P t638 = shuffled<1, 3>(t472, t474);
-        const Q t639 = joined(t637, t638);
+        const Q t637 = t635 + t636;
+        const Q t638 = t635 - t636;
+        const Q t639 = shuffled<0, 1, 6, 7>(t637, t638);
+        io.pairs(22, 23, t639);
+        const Q t640 = shuffled<0, 1, 6, 7>(t638, t637);
+        io.pairs(53, 54, t640);
         // spectrum block of 2
-        const Q t640 = t535 + t639;
+        const Q t641 = t585 + t593;
         // spectrum block of 2
-        const Q t641 = t544 - t496;
-        const Q t642 = shuffled<0, 1, 4, 5>(t640, t641);
-        const Q t643 = shuffled<2, 3, 6, 7>(t640, t641);
+        const Q t642 = t612 - t623;
+        const Q t643 = shuffled<0, 1, 4, 5>(t641, t642);
+        const Q t644 = shuffled<2, 3, 6, 7>(t641, t642);
         // complex block of 2
-        const Q t644 = t642 + t643;
-        io.pairs(20, 22, t644);
-        const Q t645 = t642 - t643;
-        io.pairs(51, 53, t645);
+        const Q t645 = t643 + t644;
+        const Q t646 = t643 - t644;
+        const Q t647 = shuffled<0, 1, 6, 7>(t645, t646);
+        io.pairs(16, 17, t647);
+        const Q t648 = shuffled<0, 1, 6, 7>(t646, t645);
+        io.pairs(47, 48, t648);
         // spectrum block of 2
-        const Q t646 = t535 - t639;
+        const Q t649 = t585 - t593;
         // spectrum block of 2
-        const Q t647 = t544 + t496;
-        const Q t648 = shuffled<0, 1, 4, 5>(t647, t646);
-        const Q t649 = shuffled<2, 3, 6, 7>(t647, t646);
+        const Q t650 = t612 + t623;
+        const Q t651 = shuffled<0, 1, 4, 5>(t650, t649);
+        const Q t652 = shuffled<2, 3, 6, 7>(t650, t649);
         // complex block of 2
-        const Q t650 = t648 + t649;
-        io.pairs(40, 42, t650);
-        const Q t651 = t648 - t649;
-        io.pairs(9, 11, t651);
-        const P t652 = shuffled<0, 2>(t473, t475);
-        const P t653 = shuffled<1, 3>(t473, t475);
-        const Q t654 = joined(t652, t653);
+        const Q t653 = t651 + t652;
+        const Q t654 = t651 - t652;
+        const Q t655 = shuffled<0, 1, 6, 7>(t653, t654);
+        io.pairs(14, 15, t655);
+        const Q t656 = shuffled<0, 1, 6, 7>(t654, t653);
+        io.pairs(45, 46, t656);
         // spectrum block of 2
-        const Q t655 = t536 + t654;
+        const Q t657 = t602 + t574;
         // spectrum block of 2
-        const Q t656 = t558 + t578;
-        const Q t657 = shuffled<0, 1, 4, 5>(t655, t656);
-        const Q t658 = shuffled<2, 3, 6, 7>(t655, t656);
+        const Q t658 = t604 + t615;
+        const Q t659 = shuffled<0, 1, 4, 5>(t657, t658);
+        const Q t660 = shuffled<2, 3, 6, 7>(t657, t658);
         // complex block of 2
-        const Q t659 = t657 + t658;
-        io.pairs(36, 38, t659);
-        const Q t660 = t657 - t658;
-        io.pairs(5, 7, t660);
+        const Q t661 = t659 + t660;
+        const Q t662 = t659 - t660;
+        const Q t663 = shuffled<0, 1, 6, 7>(t661, t662);
+        io.pairs(18, 19, t663);
+        const Q t664 = shuffled<0, 1, 6, 7>(t662, t661);
+        io.pairs(49, 50, t664);
         // spectrum block of 2
-        const Q t661 = t536 - t654;
+        const Q t665 = t602 - t574;
         // spectrum block of 2
-        const Q t662 = t558 - t578;
-        const Q t663 = shuffled<0, 1, 4, 5>(t662, t661);
-        const Q t664 = shuffled<2, 3, 6, 7>(t662, t661);
+        const Q t666 = t604 - t615;
+        const Q t667 = shuffled<0, 1, 4, 5>(t666, t665);
+        const Q t668 = shuffled<2, 3, 6, 7>(t666, t665);
         // complex block of 2
-        const Q t665 = t663 + t664;
-        io.pairs(24, 26, t665);
-        const Q t666 = t663 - t664;
-        io.pairs(55, 57, t666);
+        const Q t669 = t667 + t668;
+        const Q t670 = t667 - t668;
+        const Q t671 = shuffled<0, 1, 6, 7>(t669, t670);
+        io.pairs(12, 13, t671);
+        const Q t672 = shuffled<0, 1, 6, 7>(t670, t669);
+        io.pairs(43, 44, t672);
         // spectrum block of 2
-        const Q t667 = t550 + t570;
-        // spectrum block of 2
-        const Q t668 = t567 - t587;
-        const Q t669 = shuffled<0, 1, 4, 5>(t668, t667);
-        const Q t670 = shuffled<2, 3, 6, 7>(t668, t667);
+        const Q t673 = t613 + t624;
+        const Q t674 = shuffled<0, 1, 4, 5>(t673, t578);
+        const Q t675 = shuffled<2, 3, 6, 7>(t673, t578);
         // complex block of 2
-        const Q t671 = t669 + t670;
-        io.pairs(48, 50, t671);
-        const Q t672 = t669 - t670;
-        io.pairs(17, 19, t672);
+        const Q t676 = t674 + t675;
+        const Q t677 = t674 - t675;
+        const Q t678 = shuffled<0, 1, 6, 7>(t676, t677);
+        io.pairs(28, 29, t678);
+        const Q t679 = shuffled<0, 1, 6, 7>(t677, t676);
+        io.pairs(59, 60, t679);
         // spectrum block of 2
-        const Q t673 = t550 - t570;
-        // spectrum block of 2
-        const Q t674 = t567 + t587;
-        const Q t675 = shuffled<0, 1, 4, 5>(t673, t674);
-        const Q t676 = shuffled<2, 3, 6, 7>(t673, t674);
+        const Q t680 = t613 - t624;
+        const Q t681 = shuffled<0, 1, 4, 5>(t577, t680);
+        const Q t682 = shuffled<2, 3, 6, 7>(t577, t680);
         // complex block of 2
-        const Q t677 = t675 + t676;
-        io.pairs(12, 14, t677);
-        const Q t678 = t675 - t676;
-        io.pairs(43, 45, t678);
+        const Q t683 = t681 + t682;
+        const Q t684 = t681 - t682;
+        const Q t685 = shuffled<0, 1, 6, 7>(t683, t684);
+        io.pairs(2, 3, t685);
+        const Q t686 = shuffled<0, 1, 6, 7>(t684, t683);
+        io.pairs(33, 34, t686);
         // spectrum block of 5
-        const Q t679 = t308 + t232;
+        const Q t687 = c[0] * t296;
+        const Q t688 = c[1] * t307;
+        const Q t689 = t687 - t688;
+        const Q t690 = t689 + t285;
+        const Q t691 = c[3] * t291;
+        const Q t692 = c[2] * t302;
+        const Q t693 = t691 + t692;
+        const Q t694 = t690 - t693;
+        const Q t695 = t690 + t693;
         // spectrum block of 5
-        const Q t680 = t436 + t511;
+        const Q t696 = c[0] * t410;
+        const Q t697 = c[1] * t415;
+        const Q t698 = t696 - t697;
+        const Q t699 = t698 + t420;
+        const Q t700 = c[3] * t432;
+        const Q t701 = c[2] * t427;
+        const Q t702 = t700 + t701;
+        const Q t703 = t699 + t702;
+        const Q t704 = t699 - t702;
         // spectrum block of 2
-        const Q t681 = t679 + t680;
-        const Q t682 = t679 - t680;
-        const Q t683 = shuffled<0, 1, 4, 5>(t226, t681);
-        const Q t684 = shuffled<2, 3, 6, 7>(t226, t681);
+        const Q t705 = t694 + t703;
+        // spectrum block of 2
+        const Q t706 = t695 - t704;
+        const Q t707 = shuffled<0, 1, 4, 5>(t706, t705);
+        const Q t708 = shuffled<2, 3, 6, 7>(t706, t705);
         // complex block of 2
-        const Q t685 = t683 + t684;
-        io.pairs(0, 2, t685);
-        const Q t686 = t683 - t684;
-        io.pairs(31, 33, t686);
-        const P t687 = part<0>(t682);
-        const P t688 = part<1>(t682);
+        const Q t709 = t707 + t708;
+        const Q t710 = t707 - t708;
+        const Q t711 = shuffled<0, 1, 6, 7>(t709, t710);
+        io.pairs(6, 7, t711);
+        const Q t712 = shuffled<0, 1, 6, 7>(t710, t709);
+        io.pairs(37, 38, t712);
+        // spectrum block of 2
+        const Q t713 = t694 - t703;
+        // spectrum block of 2
+        const Q t714 = t695 + t704;
+        const Q t715 = shuffled<0, 1, 4, 5>(t713, t714);
+        const Q t716 = shuffled<2, 3, 6, 7>(t713, t714);
         // complex block of 2
-        const P t689 = t687 + t688;
-        io.pair(60, t689);
-        const P t690 = t687 - t688;
-        io.pair(29, t690);
+        const Q t717 = t715 + t716;
+        const Q t718 = t715 - t716;
+        const Q t719 = shuffled<0, 1, 6, 7>(t717, t718);
+        io.pairs(24, 25, t719);
+        const Q t720 = shuffled<0, 1, 6, 7>(t718, t717);
+        io.pairs(55, 56, t720);
     }
 };
 

@@ -1,7 +1,7 @@
 // Written by `generate write`; do not edit. The rule: generator/rules/tables.cpp, complex, 64.
 // Complex DFT of 64 points, twiddled, inner 8, outer 8; two lines of a stage to a register.
-// 138 sums, 94 differences, 62 products of registers, which do the 1304 steps of the graph, those with
-// `scale` included; 116 shuffles, 68 changes of sign.
+// 136 sums, 96 differences, 64 products of registers, which do the 1304 steps of the graph, those with
+// `scale` included; 123 shuffles, 61 changes of sign.
 #pragma once
 
 #include "kernel/graphs.h"
@@ -14,24 +14,25 @@ struct ComplexLines<64> {
     static constexpr double inverseRoot = 0.125;  // 1/sqrt(64), for `scale`
     static constexpr double constants[] = {
         0.7071067811865476,  // c[0]: cos 2 pi 1/8
-        0.3826834323650898,  // c[1]: sin 2 pi 4/64
-        0.9238795325112867,  // c[2]: cos 2 pi 4/64
+        0.9238795325112867,  // c[1]: cos 2 pi 4/64
+        0.3826834323650898,  // c[2]: sin 2 pi 4/64
         0.9807852804032304,  // c[3]: cos 2 pi 2/64
-        0.8314696123025452,  // c[4]: cos 2 pi 6/64
-        0.19509032201612828,  // c[5]: sin 2 pi 2/64
+        0.19509032201612828,  // c[4]: sin 2 pi 2/64
+        0.8314696123025452,  // c[5]: cos 2 pi 6/64
         0.5555702330196022,  // c[6]: sin 2 pi 6/64
         0.9951847266721969,  // c[7]: cos 2 pi 1/64
-        0.9569403357322088,  // c[8]: cos 2 pi 3/64
-        0.0980171403295606,  // c[9]: sin 2 pi 1/64
-        0.2902846772544624,  // c[10]: sin 2 pi 3/64
-        0.881921264348355,  // c[11]: cos 2 pi 5/64
-        0.47139673682599764,  // c[12]: sin 2 pi 5/64
-        0.6343932841636455,  // c[13]: sin 2 pi 7/64
-        0.773010453362737,  // c[14]: cos 2 pi 7/64
+        0.0980171403295606,  // c[8]: sin 2 pi 1/64
+        0.881921264348355,  // c[9]: cos 2 pi 5/64
+        0.47139673682599764,  // c[10]: sin 2 pi 5/64
+        0.9569403357322088,  // c[11]: cos 2 pi 3/64
+        0.2902846772544624,  // c[12]: sin 2 pi 3/64
+        0.773010453362737,  // c[13]: cos 2 pi 7/64
+        0.6343932841636455,  // c[14]: sin 2 pi 7/64
     };
 
     template <class Ports>
     ZULG_INLINE static void run(const Ports& io) {
+        using P = typename Ports::Pair;
         using Q = typename Ports::Lines;
         const ConstantsOf<Ports, ComplexLines> c{};
         const Q x0_1 = io.pairs(0, 1);
@@ -197,43 +198,47 @@ struct ComplexLines<64> {
         // complex block of 2
         const Q t96 = t4 + t44;
         const Q t97 = t4 - t44;
+        const Q t98 = shuffled<1, 0, 3, 2>(t53);
+        const Q t99 = flipped<0, 1, 0, 1>(t98);
         // complex block of 2
-        const Q t98 = t14 - t58;
+        const Q t100 = t49 + t99;
         // complex block of 2
-        const Q t99 = t24 - t72;
+        const Q t101 = t8 + t100;
+        const Q t102 = t8 - t100;
         // complex block of 2
-        const Q t100 = t34 - t86;
-        const Q t101 = shuffled<2, 3, 6, 7>(t98, t97);
-        // complex block of 64
-        const Q t102 = Q(c[1], c[1], c[2], c[2]) * t101;
-        const Q t103 = shuffled<1, 0, 3, 2>(t101);
-        const Q t104 = Q(c[2], -c[2], c[1], -c[1]) * t103;
-        const Q t105 = t102 + t104;
-        const Q t106 = shuffled<2, 3, 6, 7>(t100, t99);
-        const Q t107 = Q(-c[2], c[2], -c[1], c[1]) * t106;
-        const Q t108 = shuffled<1, 0, 3, 2>(t106);
-        const Q t109 = Q(c[1], c[1], c[2], c[2]) * t108;
-        const Q t110 = t107 + t109;
-        const Q t111 = shuffled<1, 0, 3, 2>(t45);
-        const Q t112 = flipped<0, 1, 0, 1>(t111);
+        const Q t103 = t14 - t58;
+        const Q t104 = shuffled<1, 0, 3, 2>(t67);
+        const Q t105 = flipped<0, 1, 0, 1>(t104);
         // complex block of 2
-        const Q t113 = t5 + t112;
-        const Q t114 = t5 - t112;
-        const Q t115 = shuffled<2, 3, 6, 7>(t113, t114);
-        // complex block of 64
-        const Q t116 = Q(c[3], c[3], c[4], c[4]) * t115;
-        const Q t117 = shuffled<1, 0, 3, 2>(t115);
-        const Q t118 = Q(c[5], -c[5], c[6], -c[6]) * t117;
-        const Q t119 = t116 + t118;
-        const Q t120 = shuffled<1, 0, 3, 2>(t53);
-        const Q t121 = flipped<0, 1, 0, 1>(t120);
+        const Q t106 = t63 + t105;
         // complex block of 2
-        const Q t122 = t49 + t121;
+        const Q t107 = t18 + t106;
+        const Q t108 = t18 - t106;
         // complex block of 2
-        const Q t123 = t8 + t122;
-        const Q t124 = t8 - t122;
+        const Q t109 = t24 - t72;
+        const Q t110 = shuffled<1, 0, 3, 2>(t81);
+        const Q t111 = flipped<0, 1, 0, 1>(t110);
         // complex block of 2
-        const Q t125 = t49 - t121;
+        const Q t112 = t77 + t111;
+        // complex block of 2
+        const Q t113 = t28 + t112;
+        const Q t114 = t28 - t112;
+        // complex block of 2
+        const Q t115 = t34 - t86;
+        const Q t116 = shuffled<1, 0, 3, 2>(t95);
+        const Q t117 = flipped<0, 1, 0, 1>(t116);
+        // complex block of 2
+        const Q t118 = t91 + t117;
+        // complex block of 2
+        const Q t119 = t38 + t118;
+        const Q t120 = t38 - t118;
+        const Q t121 = shuffled<1, 0, 3, 2>(t45);
+        const Q t122 = flipped<0, 1, 0, 1>(t121);
+        // complex block of 2
+        const Q t123 = t5 + t122;
+        const Q t124 = t5 - t122;
+        // complex block of 2
+        const Q t125 = t49 - t99;
         const Q t126 = shuffled<1, 0, 3, 2>(t125);
         const Q t127 = flipped<0, 1, 0, 1>(t126);
         // complex block of 2
@@ -246,479 +251,475 @@ struct ComplexLines<64> {
         // complex block of 2
         const Q t133 = t15 + t132;
         const Q t134 = t15 - t132;
-        const Q t135 = shuffled<1, 0, 3, 2>(t133);
-        const Q t136 = shuffled<2, 3, 6, 7>(t135, t134);
-        // complex block of 64
-        const Q t137 = Q(c[6], -c[6], -c[5], c[5]) * t136;
-        const Q t138 = shuffled<1, 0, 3, 2>(t136);
-        const Q t139 = Q(c[4], c[4], c[3], c[3]) * t138;
-        const Q t140 = t137 + t139;
-        const Q t141 = shuffled<1, 0, 3, 2>(t67);
+        // complex block of 2
+        const Q t135 = t63 - t105;
+        const Q t136 = shuffled<1, 0, 3, 2>(t135);
+        const Q t137 = flipped<0, 1, 0, 1>(t136);
+        // complex block of 2
+        const Q t138 = t19 + t137;
+        const Q t139 = t19 - t137;
+        // complex block of 2
+        const Q t140 = t24 + t72;
+        const Q t141 = shuffled<1, 0, 3, 2>(t73);
         const Q t142 = flipped<0, 1, 0, 1>(t141);
         // complex block of 2
-        const Q t143 = t63 + t142;
+        const Q t143 = t25 + t142;
+        const Q t144 = t25 - t142;
         // complex block of 2
-        const Q t144 = t18 + t143;
-        const Q t145 = t18 - t143;
+        const Q t145 = t77 - t111;
+        const Q t146 = shuffled<1, 0, 3, 2>(t145);
+        const Q t147 = flipped<0, 1, 0, 1>(t146);
         // complex block of 2
-        const Q t146 = t63 - t142;
-        const Q t147 = shuffled<1, 0, 3, 2>(t146);
-        const Q t148 = flipped<0, 1, 0, 1>(t147);
+        const Q t148 = t29 + t147;
+        const Q t149 = t29 - t147;
         // complex block of 2
-        const Q t149 = t19 + t148;
-        const Q t150 = t19 - t148;
+        const Q t150 = t34 + t86;
+        const Q t151 = shuffled<1, 0, 3, 2>(t87);
+        const Q t152 = flipped<0, 1, 0, 1>(t151);
         // complex block of 2
-        const Q t151 = t24 + t72;
-        const Q t152 = shuffled<1, 0, 3, 2>(t73);
-        const Q t153 = flipped<0, 1, 0, 1>(t152);
+        const Q t153 = t35 + t152;
+        const Q t154 = t35 - t152;
         // complex block of 2
-        const Q t154 = t25 + t153;
-        const Q t155 = t25 - t153;
-        const Q t156 = shuffled<1, 0, 3, 2>(t154);
-        const Q t157 = shuffled<2, 3, 6, 7>(t156, t155);
+        const Q t155 = t91 - t117;
+        const Q t156 = shuffled<1, 0, 3, 2>(t155);
+        const Q t157 = flipped<0, 1, 0, 1>(t156);
+        // complex block of 2
+        const Q t158 = t39 + t157;
+        const Q t159 = t39 - t157;
+        const Q t160 = shuffled<0, 1, 6, 7>(t107, t101);
         // complex block of 64
-        const Q t158 = Q(c[4], -c[4], -c[3], c[3]) * t157;
-        const Q t159 = shuffled<1, 0, 3, 2>(t157);
-        const Q t160 = Q(c[6], c[6], c[5], c[5]) * t159;
-        const Q t161 = t158 + t160;
-        const Q t162 = shuffled<1, 0, 3, 2>(t81);
-        const Q t163 = flipped<0, 1, 0, 1>(t162);
+        const Q t161 = Q(c[3], c[3], c[7], c[7]) * t160;
+        const Q t162 = shuffled<1, 0, 3, 2>(t160);
+        const Q t163 = Q(c[4], -c[4], c[8], -c[8]) * t162;
+        const Q t164 = t161 + t163;
+        const Q t165 = shuffled<0, 1, 6, 7>(t119, t113);
+        const Q t166 = Q(c[5], c[5], c[9], c[9]) * t165;
+        const Q t167 = shuffled<1, 0, 3, 2>(t165);
+        const Q t168 = Q(c[6], -c[6], c[10], -c[10]) * t167;
+        const Q t169 = t166 + t168;
+        const Q t170 = shuffled<2, 3, 6, 7>(t96, t164);
+        const Q t171 = shuffled<2, 3, 6, 7>(t140, t169);
         // complex block of 2
-        const Q t164 = t77 + t163;
+        const Q t172 = t170 - t171;
+        const Q t173 = t170 + t171;
+        const Q t174 = shuffled<0, 1, 4, 5>(t130, t164);
+        const Q t175 = shuffled<0, 1, 4, 5>(t150, t169);
         // complex block of 2
-        const Q t165 = t28 + t164;
-        const Q t166 = t28 - t164;
-        // complex block of 2
-        const Q t167 = t77 - t163;
-        const Q t168 = shuffled<1, 0, 3, 2>(t167);
-        const Q t169 = flipped<0, 1, 0, 1>(t168);
-        // complex block of 2
-        const Q t170 = t29 + t169;
-        const Q t171 = t29 - t169;
-        // complex block of 2
-        const Q t172 = t34 + t86;
-        const Q t173 = shuffled<1, 0, 3, 2>(t87);
-        const Q t174 = flipped<0, 1, 0, 1>(t173);
-        // complex block of 2
-        const Q t175 = t35 + t174;
-        const Q t176 = t35 - t174;
-        const Q t177 = shuffled<2, 3, 6, 7>(t175, t176);
-        const Q t178 = shuffled<1, 0, 3, 2>(t177);
+        const Q t176 = t174 + t175;
+        const Q t177 = t174 - t175;
+        const Q t178 = shuffled<0, 1, 6, 7>(t113, t107);
         // complex block of 64
-        const Q t179 = Q(c[3], -c[3], c[4], c[4]) * t178;
-        const Q t180 = Q(c[5], c[5], c[6], -c[6]) * t177;
-        const Q t181 = t179 + t180;
-        const Q t182 = shuffled<1, 0, 3, 2>(t95);
-        const Q t183 = flipped<0, 1, 0, 1>(t182);
+        const Q t179 = Q(c[1], c[1], c[11], c[11]) * t178;
+        const Q t180 = shuffled<1, 0, 3, 2>(t178);
+        const Q t181 = Q(c[2], -c[2], c[12], -c[12]) * t180;
+        const Q t182 = t179 + t181;
+        const Q t183 = shuffled<1, 0, 3, 2>(t114);
+        const Q t184 = shuffled<0, 1, 6, 7>(t183, t119);
+        const Q t185 = Q(c[1], c[1], c[13], c[13]) * t184;
+        const Q t186 = shuffled<1, 0, 3, 2>(t184);
+        const Q t187 = Q(-c[2], c[2], c[14], -c[14]) * t186;
+        const Q t188 = t185 + t187;
+        const Q t189 = shuffled<2, 3, 6, 7>(t130, t182);
+        const Q t190 = shuffled<2, 3, 6, 7>(t150, t188);
         // complex block of 2
-        const Q t184 = t91 + t183;
+        const Q t191 = t189 - t190;
+        const Q t192 = shuffled<0, 1, 4, 5>(t96, t101);
+        const Q t193 = shuffled<0, 1, 4, 5>(t140, t182);
         // complex block of 2
-        const Q t185 = t38 + t184;
-        const Q t186 = t38 - t184;
+        const Q t194 = t192 + t193;
+        const Q t195 = t192 - t193;
         // complex block of 2
-        const Q t187 = t91 - t183;
-        const Q t188 = shuffled<1, 0, 3, 2>(t187);
-        const Q t189 = flipped<0, 1, 0, 1>(t188);
+        const Q t196 = t189 + t190;
+        const Q t197 = shuffled<0, 1, 4, 5>(t97, t102);
+        const Q t198 = shuffled<1, 0, 3, 2>(t109);
+        const Q t199 = shuffled<0, 1, 4, 5>(t198, t188);
+        const Q t200 = flipped<0, 1, 0, 1>(t199);
         // complex block of 2
-        const Q t190 = t39 + t189;
-        const Q t191 = t39 - t189;
-        const Q t192 = shuffled<2, 3, 6, 7>(t123, t128);
+        const Q t201 = t197 + t200;
+        const Q t202 = t197 - t200;
+        const Q t203 = shuffled<2, 3, 6, 7>(t97, t102);
         // complex block of 64
-        const Q t193 = Q(c[7], c[7], c[8], c[8]) * t192;
-        const Q t194 = shuffled<1, 0, 3, 2>(t192);
-        const Q t195 = Q(c[9], -c[9], c[10], -c[10]) * t194;
-        const Q t196 = t193 + t195;
-        const Q t197 = shuffled<2, 3, 6, 7>(t165, t170);
-        const Q t198 = Q(c[11], c[11], c[9], c[9]) * t197;
-        const Q t199 = shuffled<1, 0, 3, 2>(t197);
-        const Q t200 = Q(c[12], -c[12], c[7], -c[7]) * t199;
-        const Q t201 = t198 + t200;
+        const Q t204 = Q(c[1], c[1], c[9], c[9]) * t203;
+        const Q t205 = shuffled<1, 0, 3, 2>(t203);
+        const Q t206 = Q(c[2], -c[2], c[10], -c[10]) * t205;
+        const Q t207 = t204 + t206;
+        const Q t208 = shuffled<2, 3, 6, 7>(t109, t114);
+        const Q t209 = Q(-c[2], c[2], -c[13], c[13]) * t208;
+        const Q t210 = shuffled<1, 0, 3, 2>(t208);
+        const Q t211 = Q(c[1], c[1], c[14], c[14]) * t210;
+        const Q t212 = t209 + t211;
+        const Q t213 = flipped<1, 0, 1, 0>(t212);
         // complex block of 2
-        const Q t202 = t196 - t201;
-        const Q t203 = t196 + t201;
-        const Q t204 = shuffled<0, 1, 4, 5>(t144, t149);
+        const Q t214 = t207 + t213;
+        const Q t215 = t207 - t213;
+        const Q t216 = shuffled<0, 1, 4, 5>(t103, t108);
         // complex block of 64
-        const Q t205 = Q(c[3], c[3], c[4], c[4]) * t204;
-        const Q t206 = shuffled<1, 0, 3, 2>(t204);
-        const Q t207 = Q(c[5], -c[5], c[6], -c[6]) * t206;
-        const Q t208 = t205 + t207;
-        const Q t209 = shuffled<1, 0, 3, 2>(t185);
-        const Q t210 = shuffled<0, 1, 4, 5>(t209, t190);
-        const Q t211 = Q(c[6], -c[6], -c[5], c[5]) * t210;
-        const Q t212 = shuffled<1, 0, 3, 2>(t210);
-        const Q t213 = Q(c[4], c[4], c[3], c[3]) * t212;
-        const Q t214 = t211 + t213;
-        const Q t215 = flipped<0, 0, 0, 1>(t214);
-        // complex block of 2
-        const Q t216 = t208 + t215;
-        const Q t217 = t208 - t215;
-        const Q t218 = shuffled<2, 3, 6, 7>(t144, t149);
-        // complex block of 64
-        const Q t219 = Q(c[8], c[8], c[13], c[13]) * t218;
-        const Q t220 = shuffled<1, 0, 3, 2>(t218);
-        const Q t221 = Q(c[10], -c[10], c[14], -c[14]) * t220;
-        const Q t222 = t219 + t221;
-        const Q t223 = shuffled<2, 3, 6, 7>(t209, t190);
-        const Q t224 = Q(c[13], -c[13], -c[12], c[12]) * t223;
-        const Q t225 = shuffled<1, 0, 3, 2>(t223);
-        const Q t226 = Q(c[14], c[14], c[11], c[11]) * t225;
-        const Q t227 = t224 + t226;
-        const Q t228 = flipped<0, 0, 0, 1>(t227);
-        // complex block of 2
-        const Q t229 = t222 - t228;
-        const Q t230 = t222 + t228;
-        const Q t231 = shuffled<0, 1, 4, 5>(t165, t170);
-        // complex block of 64
-        const Q t232 = Q(c[2], c[2], c[1], c[1]) * t231;
-        const Q t233 = shuffled<1, 0, 3, 2>(t231);
-        const Q t234 = Q(c[1], -c[1], c[2], -c[2]) * t233;
+        const Q t217 = Q(c[0], c[0], c[6], c[6]) * t216;
+        const P t218 = part<0>(t217);
+        const P t219 = shuffled<1, 0>(t218);
+        const P t220 = flipped<0, 1>(t219);
+        const P t221 = part<0>(t108);
+        const P t222 = shuffled<1, 0>(t221);
+        const P t223 = P(c[5], -c[5]) * t222;
+        const Q t224 = joined(t220, t223);
+        const Q t225 = t217 + t224;
+        const Q t226 = shuffled<1, 0, 3, 2>(t120);
+        const Q t227 = shuffled<0, 1, 4, 5>(t115, t226);
+        const Q t228 = Q(c[0], c[0], c[4], c[4]) * t227;
+        const P t229 = part<0>(t228);
+        const P t230 = part<0>(t120);
+        const P t231 = P(-c[3], c[3]) * t230;
+        const Q t232 = joined(t229, t231);
+        const Q t233 = shuffled<1, 4, 2, 7>(t228, t228);
+        const Q t234 = flipped<0, 1, 0, 0>(t233);
         const Q t235 = t232 + t234;
-        const Q t236 = shuffled<0, 1, 4, 5>(t123, t128);
+        const Q t236 = shuffled<1, 4, 2, 7>(t235, t235);
+        const Q t237 = flipped<0, 1, 0, 1>(t236);
         // complex block of 2
-        const Q t237 = t236 + t235;
-        const Q t238 = t236 - t235;
-        // complex block of 2
-        const Q t239 = t237 + t216;
-        // complex block of 2
-        const Q t240 = t203 + t230;
-        // complex block of 2
-        const Q t241 = t239 + t240;
-        io.pairs(1, 3, t241);
-        const Q t242 = t239 - t240;
-        io.pairs(33, 35, t242);
-        // complex block of 2
-        const Q t243 = t237 - t216;
-        // complex block of 2
-        const Q t244 = t203 - t230;
-        const Q t245 = shuffled<1, 0, 3, 2>(t244);
-        const Q t246 = flipped<0, 1, 0, 1>(t245);
-        // complex block of 2
-        const Q t247 = t243 + t246;
-        io.pairs(17, 19, t247);
-        const Q t248 = t243 - t246;
-        io.pairs(49, 51, t248);
-        // complex block of 8
-        const Q t249 = c[0] * t202;
-        const Q t250 = shuffled<1, 0, 3, 2>(t249);
-        const Q t251 = flipped<0, 1, 0, 1>(t250);
-        const Q t252 = t249 + t251;
-        const Q t253 = c[0] * t229;
-        const Q t254 = shuffled<1, 0, 3, 2>(t253);
-        const Q t255 = flipped<0, 1, 0, 1>(t254);
-        const Q t256 = t253 + t255;
-        const Q t257 = shuffled<1, 0, 3, 2>(t256);
-        const Q t258 = flipped<0, 1, 0, 1>(t257);
-        // complex block of 2
-        const Q t259 = t252 + t258;
-        const Q t260 = t252 - t258;
-        const Q t261 = shuffled<1, 0, 3, 2>(t217);
-        const Q t262 = flipped<0, 1, 0, 1>(t261);
-        // complex block of 2
-        const Q t263 = t238 + t262;
-        const Q t264 = t238 - t262;
-        // complex block of 2
-        const Q t265 = t263 + t259;
-        io.pairs(9, 11, t265);
-        const Q t266 = t263 - t259;
-        io.pairs(41, 43, t266);
-        const Q t267 = shuffled<1, 0, 3, 2>(t260);
-        const Q t268 = flipped<0, 1, 0, 1>(t267);
-        // complex block of 2
-        const Q t269 = t264 + t268;
-        io.pairs(25, 27, t269);
-        const Q t270 = t264 - t268;
-        io.pairs(57, 59, t270);
-        const Q t271 = shuffled<0, 1, 4, 5>(t100, t98);
+        const Q t238 = t225 + t237;
+        const Q t239 = t225 - t237;
+        const Q t240 = shuffled<2, 3, 6, 7>(t103, t108);
         // complex block of 64
-        const Q t272 = c[0] * t271;
-        const Q t273 = shuffled<1, 0, 3, 2>(t272);
-        const Q t274 = flipped<0, 1, 0, 1>(t273);
-        const Q t275 = t272 + t274;
-        const Q t276 = shuffled<0, 1, 6, 7>(t130, t275);
-        const Q t277 = shuffled<1, 0, 3, 2>(t275);
-        const Q t278 = shuffled<0, 1, 4, 5>(t172, t277);
-        const Q t279 = flipped<0, 0, 0, 1>(t278);
+        const Q t241 = Q(c[2], c[2], c[8], c[8]) * t240;
+        const Q t242 = shuffled<1, 0, 3, 2>(t240);
+        const Q t243 = Q(c[1], -c[1], c[7], -c[7]) * t242;
+        const Q t244 = t241 + t243;
+        const Q t245 = shuffled<2, 3, 6, 7>(t115, t226);
+        const Q t246 = Q(-c[1], c[1], c[12], c[12]) * t245;
+        const Q t247 = shuffled<1, 0, 3, 2>(t245);
+        const Q t248 = Q(c[2], c[2], c[11], -c[11]) * t247;
+        const Q t249 = t246 + t248;
+        const Q t250 = flipped<1, 0, 0, 1>(t249);
         // complex block of 2
-        const Q t280 = t276 + t279;
-        const Q t281 = t276 - t279;
-        const Q t282 = shuffled<0, 1, 4, 5>(t96, t97);
-        const Q t283 = shuffled<1, 0, 3, 2>(t99);
-        const Q t284 = shuffled<0, 1, 4, 5>(t151, t283);
-        const Q t285 = flipped<0, 0, 0, 1>(t284);
+        const Q t251 = t244 + t250;
+        const Q t252 = t244 - t250;
         // complex block of 2
-        const Q t286 = t282 + t285;
-        const Q t287 = t282 - t285;
-        const Q t288 = shuffled<2, 3, 6, 7>(t96, t105);
-        const Q t289 = shuffled<2, 3, 6, 7>(t151, t110);
-        const Q t290 = flipped<0, 0, 0, 1>(t289);
+        const Q t253 = t194 + t176;
         // complex block of 2
-        const Q t291 = t288 + t290;
-        const Q t292 = shuffled<2, 3, 4, 5>(t130, t105);
-        const Q t293 = shuffled<2, 3, 4, 5>(t172, t110);
-        const Q t294 = flipped<0, 0, 0, 1>(t293);
+        const Q t254 = t173 + t196;
         // complex block of 2
-        const Q t295 = t292 + t294;
+        const Q t255 = t253 + t254;
+        io.pairs(0, 1, t255);
+        const Q t256 = t253 - t254;
+        io.pairs(32, 33, t256);
         // complex block of 2
-        const Q t296 = t291 + t295;
-        const Q t297 = t291 - t295;
+        const Q t257 = t194 - t176;
         // complex block of 2
-        const Q t298 = t288 - t290;
+        const Q t258 = t173 - t196;
+        const Q t259 = shuffled<1, 0, 3, 2>(t258);
+        const Q t260 = flipped<0, 1, 0, 1>(t259);
+        // complex block of 2
+        const Q t261 = t257 + t260;
+        io.pairs(16, 17, t261);
+        const Q t262 = t257 - t260;
+        io.pairs(48, 49, t262);
         // complex block of 8
-        const Q t299 = c[0] * t298;
+        const Q t263 = c[0] * t172;
+        const Q t264 = shuffled<1, 0, 3, 2>(t263);
+        const Q t265 = flipped<0, 1, 0, 1>(t264);
+        const Q t266 = t263 + t265;
+        const Q t267 = c[0] * t191;
+        const Q t268 = shuffled<1, 0, 3, 2>(t267);
+        const Q t269 = flipped<0, 1, 0, 1>(t268);
+        const Q t270 = t267 + t269;
+        const Q t271 = shuffled<1, 0, 3, 2>(t270);
+        const Q t272 = flipped<0, 1, 0, 1>(t271);
+        // complex block of 2
+        const Q t273 = t266 + t272;
+        const Q t274 = t266 - t272;
+        const Q t275 = shuffled<1, 0, 3, 2>(t177);
+        const Q t276 = flipped<0, 1, 0, 1>(t275);
+        // complex block of 2
+        const Q t277 = t195 + t276;
+        const Q t278 = t195 - t276;
+        // complex block of 2
+        const Q t279 = t277 + t273;
+        io.pairs(8, 9, t279);
+        const Q t280 = t277 - t273;
+        io.pairs(40, 41, t280);
+        const Q t281 = shuffled<1, 0, 3, 2>(t274);
+        const Q t282 = flipped<0, 1, 0, 1>(t281);
+        // complex block of 2
+        const Q t283 = t278 + t282;
+        io.pairs(24, 25, t283);
+        const Q t284 = t278 - t282;
+        io.pairs(56, 57, t284);
+        // complex block of 2
+        const Q t285 = t201 + t238;
+        // complex block of 2
+        const Q t286 = t215 + t252;
+        // complex block of 2
+        const Q t287 = t285 + t286;
+        io.pairs(4, 5, t287);
+        const Q t288 = t285 - t286;
+        io.pairs(36, 37, t288);
+        // complex block of 2
+        const Q t289 = t201 - t238;
+        // complex block of 2
+        const Q t290 = t215 - t252;
+        const Q t291 = shuffled<1, 0, 3, 2>(t290);
+        const Q t292 = flipped<0, 1, 0, 1>(t291);
+        // complex block of 2
+        const Q t293 = t289 + t292;
+        io.pairs(20, 21, t293);
+        const Q t294 = t289 - t292;
+        io.pairs(52, 53, t294);
+        // complex block of 8
+        const Q t295 = c[0] * t214;
+        const Q t296 = shuffled<1, 0, 3, 2>(t295);
+        const Q t297 = flipped<0, 1, 0, 1>(t296);
+        const Q t298 = t295 + t297;
+        const Q t299 = c[0] * t251;
         const Q t300 = shuffled<1, 0, 3, 2>(t299);
         const Q t301 = flipped<0, 1, 0, 1>(t300);
         const Q t302 = t299 + t301;
+        const Q t303 = shuffled<1, 0, 3, 2>(t302);
+        const Q t304 = flipped<0, 1, 0, 1>(t303);
         // complex block of 2
-        const Q t303 = t292 - t294;
-        // complex block of 8
-        const Q t304 = c[0] * t303;
-        const Q t305 = shuffled<1, 0, 3, 2>(t304);
-        const Q t306 = flipped<0, 1, 0, 1>(t305);
-        const Q t307 = t304 + t306;
+        const Q t305 = t298 + t304;
+        const Q t306 = t298 - t304;
+        const Q t307 = shuffled<1, 0, 3, 2>(t239);
+        const Q t308 = flipped<0, 1, 0, 1>(t307);
         // complex block of 2
-        const Q t308 = t286 + t280;
+        const Q t309 = t202 + t308;
+        const Q t310 = t202 - t308;
         // complex block of 2
-        const Q t309 = t308 + t296;
-        io.pairs(0, 4, t309);
-        const Q t310 = t308 - t296;
-        io.pairs(32, 36, t310);
+        const Q t311 = t309 + t305;
+        io.pairs(12, 13, t311);
+        const Q t312 = t309 - t305;
+        io.pairs(44, 45, t312);
+        const Q t313 = shuffled<1, 0, 3, 2>(t306);
+        const Q t314 = flipped<0, 1, 0, 1>(t313);
         // complex block of 2
-        const Q t311 = t286 - t280;
-        const Q t312 = shuffled<1, 0, 3, 2>(t297);
-        const Q t313 = flipped<0, 1, 0, 1>(t312);
-        // complex block of 2
-        const Q t314 = t311 + t313;
-        io.pairs(16, 20, t314);
-        const Q t315 = t311 - t313;
-        io.pairs(48, 52, t315);
-        const Q t316 = shuffled<1, 0, 3, 2>(t281);
-        const Q t317 = flipped<0, 1, 0, 1>(t316);
-        // complex block of 2
-        const Q t318 = t287 + t317;
-        const Q t319 = shuffled<1, 0, 3, 2>(t307);
-        const Q t320 = flipped<0, 1, 0, 1>(t319);
-        // complex block of 2
-        const Q t321 = t302 + t320;
-        // complex block of 2
-        const Q t322 = t318 + t321;
-        io.pairs(8, 12, t322);
-        const Q t323 = t318 - t321;
-        io.pairs(40, 44, t323);
-        // complex block of 2
-        const Q t324 = t287 - t317;
-        // complex block of 2
-        const Q t325 = t302 - t320;
-        const Q t326 = shuffled<1, 0, 3, 2>(t325);
-        const Q t327 = flipped<0, 1, 0, 1>(t326);
-        // complex block of 2
-        const Q t328 = t324 + t327;
-        io.pairs(24, 28, t328);
-        const Q t329 = t324 - t327;
-        io.pairs(56, 60, t329);
-        const Q t330 = shuffled<0, 1, 4, 5>(t133, t134);
+        const Q t315 = t310 + t314;
+        io.pairs(28, 29, t315);
+        const Q t316 = t310 - t314;
+        io.pairs(60, 61, t316);
+        const Q t317 = shuffled<2, 3, 6, 7>(t123, t128);
         // complex block of 64
-        const Q t331 = Q(c[2], c[2], c[1], c[1]) * t330;
-        const Q t332 = shuffled<1, 0, 3, 2>(t330);
-        const Q t333 = Q(c[1], -c[1], c[2], -c[2]) * t332;
-        const Q t334 = t331 + t333;
-        const Q t335 = shuffled<0, 1, 4, 5>(t175, t176);
-        const Q t336 = shuffled<1, 0, 3, 2>(t335);
-        const Q t337 = Q(c[2], -c[2], c[1], c[1]) * t336;
-        const Q t338 = Q(c[1], c[1], c[2], -c[2]) * t335;
-        const Q t339 = t337 + t338;
-        const Q t340 = flipped<0, 0, 1, 0>(t339);
+        const Q t318 = Q(c[3], c[3], c[11], c[11]) * t317;
+        const Q t319 = shuffled<1, 0, 3, 2>(t317);
+        const Q t320 = Q(c[4], -c[4], c[12], -c[12]) * t319;
+        const Q t321 = t318 + t320;
+        const Q t322 = shuffled<2, 3, 6, 7>(t143, t148);
+        const Q t323 = Q(c[6], c[6], c[8], c[8]) * t322;
+        const Q t324 = shuffled<1, 0, 3, 2>(t322);
+        const Q t325 = Q(c[5], -c[5], c[7], -c[7]) * t324;
+        const Q t326 = t323 + t325;
         // complex block of 2
-        const Q t341 = t334 + t340;
-        const Q t342 = t334 - t340;
-        const Q t343 = shuffled<0, 1, 4, 5>(t154, t155);
+        const Q t327 = t321 - t326;
+        const Q t328 = t321 + t326;
+        const Q t329 = shuffled<0, 1, 4, 5>(t133, t138);
         // complex block of 64
-        const Q t344 = c[0] * t343;
-        const Q t345 = shuffled<1, 0, 3, 2>(t344);
-        const Q t346 = flipped<0, 1, 0, 1>(t345);
+        const Q t330 = Q(c[1], c[1], c[5], c[5]) * t329;
+        const Q t331 = shuffled<1, 0, 3, 2>(t329);
+        const Q t332 = Q(c[2], -c[2], c[6], -c[6]) * t331;
+        const Q t333 = t330 + t332;
+        const Q t334 = shuffled<1, 0, 3, 2>(t153);
+        const Q t335 = shuffled<0, 1, 4, 5>(t334, t158);
+        const Q t336 = Q(c[1], -c[1], -c[4], c[4]) * t335;
+        const Q t337 = shuffled<1, 0, 3, 2>(t335);
+        const Q t338 = Q(c[2], c[2], c[3], c[3]) * t337;
+        const Q t339 = t336 + t338;
+        const Q t340 = flipped<0, 0, 0, 1>(t339);
+        // complex block of 2
+        const Q t341 = t333 + t340;
+        const Q t342 = t333 - t340;
+        const Q t343 = shuffled<2, 3, 6, 7>(t133, t138);
+        // complex block of 64
+        const Q t344 = Q(c[5], c[5], c[14], c[14]) * t343;
+        const Q t345 = shuffled<1, 0, 3, 2>(t343);
+        const Q t346 = Q(c[6], -c[6], c[13], -c[13]) * t345;
         const Q t347 = t344 + t346;
-        const Q t348 = shuffled<0, 1, 4, 5>(t113, t114);
-        const Q t349 = shuffled<0, 5, 3, 6>(t347, t347);
-        const Q t350 = flipped<0, 0, 0, 1>(t349);
+        const Q t348 = shuffled<2, 3, 6, 7>(t334, t158);
+        const Q t349 = Q(c[3], -c[3], -c[10], c[10]) * t348;
+        const Q t350 = shuffled<1, 0, 3, 2>(t348);
+        const Q t351 = Q(c[4], c[4], c[9], c[9]) * t350;
+        const Q t352 = t349 + t351;
+        const Q t353 = flipped<0, 0, 0, 1>(t352);
         // complex block of 2
-        const Q t351 = t348 + t350;
-        const Q t352 = t348 - t350;
-        const Q t353 = flipped<0, 0, 0, 1>(t161);
+        const Q t354 = t347 - t353;
+        const Q t355 = t347 + t353;
+        const Q t356 = shuffled<0, 1, 4, 5>(t143, t148);
+        // complex block of 64
+        const Q t357 = Q(c[0], c[0], c[2], c[2]) * t356;
+        const P t358 = part<0>(t357);
+        const P t359 = shuffled<1, 0>(t358);
+        const P t360 = flipped<0, 1>(t359);
+        const P t361 = part<0>(t148);
+        const P t362 = shuffled<1, 0>(t361);
+        const P t363 = P(c[1], -c[1]) * t362;
+        const Q t364 = joined(t360, t363);
+        const Q t365 = t357 + t364;
+        const Q t366 = shuffled<0, 1, 4, 5>(t123, t128);
         // complex block of 2
-        const Q t354 = t119 + t353;
-        const Q t355 = flipped<0, 0, 1, 0>(t181);
-        const Q t356 = flipped<0, 0, 0, 1>(t140);
+        const Q t367 = t366 + t365;
+        const Q t368 = t366 - t365;
         // complex block of 2
-        const Q t357 = t355 + t356;
+        const Q t369 = t367 + t341;
         // complex block of 2
-        const Q t358 = t354 + t357;
-        const Q t359 = t354 - t357;
+        const Q t370 = t328 + t355;
         // complex block of 2
-        const Q t360 = t119 - t353;
-        // complex block of 8
-        const Q t361 = c[0] * t360;
-        const Q t362 = shuffled<1, 0, 3, 2>(t361);
-        const Q t363 = flipped<0, 1, 0, 1>(t362);
-        const Q t364 = t361 + t363;
-        const Q t365 = flipped<1, 1, 1, 0>(t355);
+        const Q t371 = t369 + t370;
+        io.pairs(2, 3, t371);
+        const Q t372 = t369 - t370;
+        io.pairs(34, 35, t372);
         // complex block of 2
-        const Q t366 = t140 + t365;
-        // complex block of 8
-        const Q t367 = c[0] * t366;
-        const Q t368 = shuffled<1, 0, 3, 2>(t367);
-        const Q t369 = flipped<0, 1, 1, 0>(t368);
-        const Q t370 = t367 + t369;
+        const Q t373 = t367 - t341;
         // complex block of 2
-        const Q t371 = t351 + t341;
-        // complex block of 2
-        const Q t372 = t371 + t358;
-        io.pairs(2, 6, t372);
-        const Q t373 = t371 - t358;
-        io.pairs(34, 38, t373);
-        // complex block of 2
-        const Q t374 = t351 - t341;
-        const Q t375 = shuffled<1, 0, 3, 2>(t359);
+        const Q t374 = t328 - t355;
+        const Q t375 = shuffled<1, 0, 3, 2>(t374);
         const Q t376 = flipped<0, 1, 0, 1>(t375);
         // complex block of 2
-        const Q t377 = t374 + t376;
-        io.pairs(18, 22, t377);
-        const Q t378 = t374 - t376;
-        io.pairs(50, 54, t378);
-        const Q t379 = shuffled<1, 0, 3, 2>(t342);
-        const Q t380 = flipped<0, 1, 0, 1>(t379);
-        // complex block of 2
-        const Q t381 = t352 + t380;
-        const Q t382 = shuffled<1, 0, 3, 2>(t370);
-        const Q t383 = flipped<1, 0, 0, 0>(t382);
-        // complex block of 2
-        const Q t384 = t364 - t383;
-        // complex block of 2
-        const Q t385 = t381 + t384;
-        io.pairs(10, 14, t385);
-        const Q t386 = t381 - t384;
-        io.pairs(42, 46, t386);
-        // complex block of 2
-        const Q t387 = t352 - t380;
-        // complex block of 2
-        const Q t388 = t364 + t383;
-        const Q t389 = shuffled<1, 0, 3, 2>(t388);
-        const Q t390 = flipped<0, 1, 0, 1>(t389);
-        // complex block of 2
-        const Q t391 = t387 + t390;
-        io.pairs(26, 30, t391);
-        const Q t392 = t387 - t390;
-        io.pairs(58, 62, t392);
-        const Q t393 = shuffled<2, 3, 6, 7>(t124, t129);
-        // complex block of 64
-        const Q t394 = Q(c[11], c[11], c[14], c[14]) * t393;
-        const Q t395 = shuffled<1, 0, 3, 2>(t393);
-        const Q t396 = Q(c[12], -c[12], c[13], -c[13]) * t395;
-        const Q t397 = t394 + t396;
-        const Q t398 = shuffled<1, 0, 3, 2>(t171);
-        const Q t399 = shuffled<2, 3, 6, 7>(t166, t398);
-        const Q t400 = Q(-c[14], c[14], c[10], c[10]) * t399;
-        const Q t401 = shuffled<1, 0, 3, 2>(t399);
-        const Q t402 = Q(c[13], c[13], c[8], -c[8]) * t401;
-        const Q t403 = t400 + t402;
-        const Q t404 = flipped<1, 0, 0, 1>(t403);
-        // complex block of 2
-        const Q t405 = t397 + t404;
-        const Q t406 = t397 - t404;
-        const Q t407 = shuffled<0, 1, 4, 5>(t145, t150);
-        // complex block of 64
-        const Q t408 = Q(c[6], c[6], c[5], c[5]) * t407;
-        const Q t409 = shuffled<1, 0, 3, 2>(t407);
-        const Q t410 = Q(c[4], -c[4], c[3], -c[3]) * t409;
-        const Q t411 = t408 + t410;
-        const Q t412 = shuffled<1, 0, 3, 2>(t191);
-        const Q t413 = shuffled<0, 1, 4, 5>(t186, t412);
-        const Q t414 = Q(-c[3], c[3], c[4], c[4]) * t413;
-        const Q t415 = shuffled<1, 0, 3, 2>(t413);
-        const Q t416 = Q(c[5], c[5], c[6], -c[6]) * t415;
-        const Q t417 = t414 + t416;
-        const Q t418 = flipped<0, 1, 1, 0>(t417);
-        // complex block of 2
-        const Q t419 = t411 + t418;
-        const Q t420 = t411 - t418;
-        const Q t421 = shuffled<1, 0, 3, 2>(t145);
-        const Q t422 = shuffled<2, 3, 6, 7>(t421, t150);
-        // complex block of 64
-        const Q t423 = Q(c[7], -c[7], -c[12], c[12]) * t422;
-        const Q t424 = shuffled<1, 0, 3, 2>(t422);
-        const Q t425 = Q(c[9], c[9], c[11], c[11]) * t424;
-        const Q t426 = t423 + t425;
-        const Q t427 = shuffled<2, 3, 6, 7>(t186, t191);
-        const Q t428 = Q(c[8], -c[8], c[9], c[9]) * t427;
-        const Q t429 = shuffled<1, 0, 3, 2>(t427);
-        const Q t430 = Q(c[10], c[10], -c[7], c[7]) * t429;
-        const Q t431 = t428 + t430;
-        const Q t432 = flipped<0, 1, 1, 0>(t431);
-        // complex block of 2
-        const Q t433 = t426 + t432;
-        const Q t434 = flipped<1, 1, 1, 0>(t432);
-        const Q t435 = flipped<0, 0, 0, 1>(t426);
-        const Q t436 = t434 + t435;
-        const Q t437 = shuffled<0, 1, 4, 5>(t166, t171);
-        // complex block of 64
-        const Q t438 = Q(-c[1], c[1], -c[2], c[2]) * t437;
-        const Q t439 = shuffled<1, 0, 3, 2>(t437);
-        const Q t440 = Q(c[2], c[2], c[1], c[1]) * t439;
-        const Q t441 = t438 + t440;
-        const Q t442 = shuffled<0, 1, 4, 5>(t124, t129);
-        const Q t443 = flipped<0, 1, 0, 1>(t441);
-        // complex block of 2
-        const Q t444 = t442 + t443;
-        const Q t445 = t442 - t443;
-        // complex block of 2
-        const Q t446 = t444 + t419;
-        // complex block of 2
-        const Q t447 = t406 + t436;
-        // complex block of 2
-        const Q t448 = t446 + t447;
-        io.pairs(5, 7, t448);
-        const Q t449 = t446 - t447;
-        io.pairs(37, 39, t449);
-        // complex block of 2
-        const Q t450 = t444 - t419;
-        // complex block of 2
-        const Q t451 = t406 - t436;
-        const Q t452 = shuffled<1, 0, 3, 2>(t451);
-        const Q t453 = flipped<0, 1, 0, 1>(t452);
-        // complex block of 2
-        const Q t454 = t450 + t453;
-        io.pairs(21, 23, t454);
-        const Q t455 = t450 - t453;
-        io.pairs(53, 55, t455);
+        const Q t377 = t373 + t376;
+        io.pairs(18, 19, t377);
+        const Q t378 = t373 - t376;
+        io.pairs(50, 51, t378);
         // complex block of 8
-        const Q t456 = c[0] * t405;
-        const Q t457 = shuffled<1, 0, 3, 2>(t456);
-        const Q t458 = flipped<0, 1, 0, 1>(t457);
-        const Q t459 = t456 + t458;
-        const Q t460 = c[0] * t433;
-        const Q t461 = shuffled<1, 0, 3, 2>(t460);
-        const Q t462 = flipped<0, 1, 1, 0>(t461);
-        const Q t463 = t460 + t462;
-        const Q t464 = shuffled<1, 0, 3, 2>(t463);
-        const Q t465 = flipped<1, 0, 0, 0>(t464);
+        const Q t379 = c[0] * t327;
+        const Q t380 = shuffled<1, 0, 3, 2>(t379);
+        const Q t381 = flipped<0, 1, 0, 1>(t380);
+        const Q t382 = t379 + t381;
+        const Q t383 = c[0] * t354;
+        const Q t384 = shuffled<1, 0, 3, 2>(t383);
+        const Q t385 = flipped<0, 1, 0, 1>(t384);
+        const Q t386 = t383 + t385;
+        const Q t387 = shuffled<1, 0, 3, 2>(t386);
+        const Q t388 = flipped<0, 1, 0, 1>(t387);
         // complex block of 2
-        const Q t466 = t459 - t465;
-        const Q t467 = t459 + t465;
-        const Q t468 = shuffled<1, 0, 3, 2>(t420);
+        const Q t389 = t382 + t388;
+        const Q t390 = t382 - t388;
+        const Q t391 = shuffled<1, 0, 3, 2>(t342);
+        const Q t392 = flipped<0, 1, 0, 1>(t391);
+        // complex block of 2
+        const Q t393 = t368 + t392;
+        const Q t394 = t368 - t392;
+        // complex block of 2
+        const Q t395 = t393 + t389;
+        io.pairs(10, 11, t395);
+        const Q t396 = t393 - t389;
+        io.pairs(42, 43, t396);
+        const Q t397 = shuffled<1, 0, 3, 2>(t390);
+        const Q t398 = flipped<0, 1, 0, 1>(t397);
+        // complex block of 2
+        const Q t399 = t394 + t398;
+        io.pairs(26, 27, t399);
+        const Q t400 = t394 - t398;
+        io.pairs(58, 59, t400);
+        const Q t401 = shuffled<2, 3, 6, 7>(t124, t129);
+        // complex block of 64
+        const Q t402 = Q(c[5], c[5], c[13], c[13]) * t401;
+        const Q t403 = shuffled<1, 0, 3, 2>(t401);
+        const Q t404 = Q(c[6], -c[6], c[14], -c[14]) * t403;
+        const Q t405 = t402 + t404;
+        const Q t406 = shuffled<1, 0, 3, 2>(t149);
+        const Q t407 = shuffled<2, 3, 6, 7>(t144, t406);
+        const Q t408 = Q(-c[3], c[3], c[12], c[12]) * t407;
+        const Q t409 = shuffled<1, 0, 3, 2>(t407);
+        const Q t410 = Q(c[4], c[4], c[11], -c[11]) * t409;
+        const Q t411 = t408 + t410;
+        const Q t412 = flipped<1, 0, 0, 1>(t411);
+        // complex block of 2
+        const Q t413 = t405 + t412;
+        const Q t414 = t405 - t412;
+        const Q t415 = shuffled<0, 1, 4, 5>(t134, t139);
+        // complex block of 64
+        const Q t416 = Q(c[2], c[2], c[4], c[4]) * t415;
+        const Q t417 = shuffled<1, 0, 3, 2>(t415);
+        const Q t418 = Q(c[1], -c[1], c[3], -c[3]) * t417;
+        const Q t419 = t416 + t418;
+        const Q t420 = shuffled<0, 1, 4, 5>(t154, t159);
+        const Q t421 = shuffled<1, 0, 3, 2>(t420);
+        const Q t422 = Q(c[2], c[2], c[5], c[5]) * t421;
+        const Q t423 = Q(c[1], -c[1], c[6], -c[6]) * t420;
+        const Q t424 = t422 + t423;
+        const Q t425 = flipped<1, 0, 1, 0>(t424);
+        // complex block of 2
+        const Q t426 = t419 + t425;
+        const Q t427 = t419 - t425;
+        const Q t428 = shuffled<2, 3, 6, 7>(t134, t139);
+        // complex block of 64
+        const Q t429 = Q(-c[4], c[4], -c[10], c[10]) * t428;
+        const Q t430 = shuffled<1, 0, 3, 2>(t428);
+        const Q t431 = Q(c[3], c[3], c[9], c[9]) * t430;
+        const Q t432 = t429 + t431;
+        const Q t433 = shuffled<2, 3, 6, 7>(t154, t159);
+        const Q t434 = Q(c[6], -c[6], c[8], c[8]) * t433;
+        const Q t435 = shuffled<1, 0, 3, 2>(t433);
+        const Q t436 = Q(c[5], c[5], -c[7], c[7]) * t435;
+        const Q t437 = t434 + t436;
+        const Q t438 = flipped<0, 0, 1, 0>(t437);
+        // complex block of 2
+        const Q t439 = t432 + t438;
+        const Q t440 = shuffled<0, 5, 2, 7>(t432, t438);
+        const Q t441 = shuffled<0, 5, 2, 7>(t438, t432);
+        const Q t442 = t440 - t441;
+        const Q t443 = shuffled<0, 1, 4, 5>(t144, t406);
+        // complex block of 64
+        const Q t444 = Q(c[0], c[0], c[2], c[2]) * t443;
+        const P t445 = part<0>(t444);
+        const P t446 = part<0>(t149);
+        const P t447 = P(-c[1], c[1]) * t446;
+        const Q t448 = joined(t445, t447);
+        const Q t449 = shuffled<1, 4, 2, 7>(t444, t444);
+        const Q t450 = flipped<0, 1, 0, 0>(t449);
+        const Q t451 = t448 + t450;
+        const Q t452 = shuffled<0, 1, 4, 5>(t124, t129);
+        const Q t453 = shuffled<1, 4, 2, 7>(t451, t451);
+        const Q t454 = flipped<0, 1, 0, 1>(t453);
+        // complex block of 2
+        const Q t455 = t452 + t454;
+        const Q t456 = t452 - t454;
+        // complex block of 2
+        const Q t457 = t455 + t426;
+        // complex block of 2
+        const Q t458 = t414 + t442;
+        // complex block of 2
+        const Q t459 = t457 + t458;
+        io.pairs(6, 7, t459);
+        const Q t460 = t457 - t458;
+        io.pairs(38, 39, t460);
+        // complex block of 2
+        const Q t461 = t455 - t426;
+        // complex block of 2
+        const Q t462 = t414 - t442;
+        const Q t463 = shuffled<1, 0, 3, 2>(t462);
+        const Q t464 = flipped<0, 1, 0, 1>(t463);
+        // complex block of 2
+        const Q t465 = t461 + t464;
+        io.pairs(22, 23, t465);
+        const Q t466 = t461 - t464;
+        io.pairs(54, 55, t466);
+        // complex block of 8
+        const Q t467 = c[0] * t413;
+        const Q t468 = shuffled<1, 0, 3, 2>(t467);
         const Q t469 = flipped<0, 1, 0, 1>(t468);
+        const Q t470 = t467 + t469;
+        const Q t471 = c[0] * t439;
+        const Q t472 = shuffled<1, 0, 3, 2>(t471);
+        const Q t473 = flipped<1, 0, 1, 0>(t472);
+        const Q t474 = t471 + t473;
+        const Q t475 = shuffled<1, 0, 3, 2>(t474);
         // complex block of 2
-        const Q t470 = t445 + t469;
-        const Q t471 = t445 - t469;
+        const Q t476 = t470 - t475;
+        const Q t477 = t470 + t475;
+        const Q t478 = shuffled<1, 0, 3, 2>(t427);
+        const Q t479 = flipped<0, 1, 0, 1>(t478);
         // complex block of 2
-        const Q t472 = t470 + t466;
-        io.pairs(13, 15, t472);
-        const Q t473 = t470 - t466;
-        io.pairs(45, 47, t473);
-        const Q t474 = shuffled<1, 0, 3, 2>(t467);
-        const Q t475 = flipped<0, 1, 0, 1>(t474);
+        const Q t480 = t456 + t479;
+        const Q t481 = t456 - t479;
         // complex block of 2
-        const Q t476 = t471 + t475;
-        io.pairs(29, 31, t476);
-        const Q t477 = t471 - t475;
-        io.pairs(61, 63, t477);
+        const Q t482 = t480 + t476;
+        io.pairs(14, 15, t482);
+        const Q t483 = t480 - t476;
+        io.pairs(46, 47, t483);
+        const Q t484 = shuffled<1, 0, 3, 2>(t477);
+        const Q t485 = flipped<0, 1, 0, 1>(t484);
+        // complex block of 2
+        const Q t486 = t481 + t485;
+        io.pairs(30, 31, t486);
+        const Q t487 = t481 - t485;
+        io.pairs(62, 63, t487);
     }
 };
 

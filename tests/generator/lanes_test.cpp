@@ -9,6 +9,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "graph/complex_value.h"
 #include "graph/lines.h"
@@ -223,7 +224,7 @@ TEST(Lanes, ATurnIsAShuffleAndASign) {
     const ComplexValue z = x + timesMinusI(y);
     graph.store(0, z.re);
     graph.store(1, z.im);
-    const LaneProgram program = inLanes(graph, Units(graph, Unit::Pair), complexArrays, Order::Blocks);
+    const LaneProgram program = inLanes(graph, Units(graph, Unit::Pair), complexArrays, Mates::Alike, Order::Blocks);
     const Reading reading(graph, program);
     EXPECT_EQ(reading.shuffles, 1);
     EXPECT_EQ(reading.flips, 1);
@@ -236,7 +237,7 @@ TEST(Lanes, ASignGoesIntoAConstant) {
     const ComplexValue z = x + timesMinusI(cosine(1, 16) * y);
     graph.store(0, z.re);
     graph.store(1, z.im);
-    const LaneProgram program = inLanes(graph, Units(graph, Unit::Pair), complexArrays, Order::Blocks);
+    const LaneProgram program = inLanes(graph, Units(graph, Unit::Pair), complexArrays, Mates::Alike, Order::Blocks);
     EXPECT_EQ(Reading(graph, program).flips, 0);
 }
 
@@ -244,8 +245,8 @@ TEST(Lanes, ASignGoesIntoAConstant) {
 TEST(Lanes, FourSumsOfRealNumbersAreOneStep) {
     Graph graph;
     for (int n = 0; n < 4; ++n) graph.store(n, graph.load(n) + graph.load(n + 4));
-    const LaneProgram program =
-        inLanes(graph, Units(graph, {{NodeId(2), NodeId(5), NodeId(8), NodeId(11)}}), realArrays, Order::Blocks);
+    const Units units(graph, {{NodeId(2), NodeId(5), NodeId(8), NodeId(11)}});
+    const LaneProgram program = inLanes(graph, units, realArrays, Mates::Alike, Order::Blocks);
     ASSERT_EQ(program.steps.size(), 4u);
     EXPECT_EQ(program.steps[0].numbers, (std::vector{0, 1, 2, 3}));
     EXPECT_EQ(program.steps[1].numbers, (std::vector{4, 5, 6, 7}));
@@ -259,8 +260,8 @@ TEST(Lanes, AStoreChangesASign) {
     const Value x = graph.load(0), y = graph.load(1);
     graph.store(0, x + y);
     graph.store(1, -(x - y));
-    const LaneProgram program =
-        inLanes(graph, Units(graph, {{NodeId(2), NodeId(3)}}), {Elements::Real, Elements::Complex}, Order::Blocks);
+    const LaneProgram program = inLanes(graph, Units(graph, {{NodeId(2), NodeId(3)}}),
+                                        {Elements::Real, Elements::Complex}, Mates::Alike, Order::Blocks);
     const Reading reading(graph, program);
     EXPECT_EQ(reading.flips, 1);  // of the difference, on the way in
     EXPECT_EQ(program.steps.back().flips, (std::vector{false, true}));
@@ -285,17 +286,19 @@ TEST(Lanes, ColumnsAreTransposed) {
         }
     }
     const Units units(graph, {columnSums, columnDifferences, rows});
-    const LaneProgram program = inLanes(graph, units, realArrays, Order::Blocks);
+    const LaneProgram program = inLanes(graph, units, realArrays, Mates::Alike, Order::Blocks);
     EXPECT_EQ(Reading(graph, program).shuffles, 2);
 }
 
 // Lines are found where a stage has two of them, and every group is of steps that are alike.
-TEST(Lines, AreOfStepsThatAreAlike) {
+class LinesWith : public testing::TestWithParam<Mates> {};
+
+TEST_P(LinesWith, AreOfStepsThatAreAlike) {
     for (int length = 4; length <= 64; ++length) {
         const auto graph = complexTransform(length);
         std::set<NodeId> seen;
         std::size_t inLines = 0;
-        const std::vector<Group> groups = groupsOfLines(*graph, 4);
+        const std::vector<Group> groups = groupsOfLines(*graph, 4, complexArrays, GetParam());
         for (const Group& group : groups) {
             for (NodeId id : group) {
                 EXPECT_TRUE(seen.insert(id).second) << length << ": a step is in two groups";
@@ -310,6 +313,34 @@ TEST(Lines, AreOfStepsThatAreAlike) {
             }
         }
     }
+}
+
+INSTANTIATE_TEST_SUITE_P(BothMates, LinesWith, testing::Values(Mates::Alike, Mates::Neighbours),
+                         [](const auto& mates) { return mates.param == Mates::Alike ? "alike" : "neighbours"; });
+
+// How many stores of two elements there are, and how many of them are of neighbours.
+std::pair<int, int> storesOfTwo(int length, Mates mates) {
+    const auto graph = complexTransform(length);
+    const Units units(*graph, groupsOfLines(*graph, 4, complexArrays, mates));
+    const LaneProgram program = inLanes(*graph, units, complexArrays, mates, Order::Bisection);
+    Reading(*graph, program);
+    int all = 0, neighbours = 0;
+    for (const LaneStep& step : program.steps) {
+        if (step.kind != StepKind::Store || step.numbers.size() != 4) continue;
+        ++all;
+        neighbours += step.numbers[2] == step.numbers[0] + 2;
+    }
+    return {all, neighbours};
+}
+
+// Twiddled lines that follow each other hold neighbours in one register. Those of a prime-factor form hold an element
+// and its neighbour in two registers; the last line of an odd number of lines is by itself.
+TEST(Lines, OfNeighboursAreStoredTogether) {
+    EXPECT_EQ(storesOfTwo(64, Mates::Neighbours), (std::pair{32, 32}));
+    EXPECT_EQ(storesOfTwo(64, Mates::Alike), (std::pair{32, 0}));
+    EXPECT_EQ(storesOfTwo(20, Mates::Neighbours), (std::pair{10, 10}));
+    EXPECT_EQ(storesOfTwo(20, Mates::Alike), (std::pair{10, 0}));
+    EXPECT_EQ(storesOfTwo(30, Mates::Neighbours), (std::pair{14, 14}));
 }
 
 // Groups that take values from themselves or from each other are cut until they can be put in order.

@@ -1,12 +1,14 @@
-"""The table of orders of the lane texts, for scripts/tune: makes the alternatives that are timed, and writes the table.
+"""The tables of what lane texts like, for scripts/tune: makes the alternatives that are timed, and writes the tables.
 
-tuning.py prepare FOLDER [--folder TEXTS] [--length N]    a folder for each alternative, with a table of its own
-tuning.py settle RECORDS... [--check]                     the table, from what tune_times printed
+tuning.py prepare FOLDER [--folder TEXTS] [--length N]    a folder for each alternative, with tables of its own
+tuning.py settle RECORDS... [--check]                     the tables, from what tune_times printed
 
-An alternative is a table with a row for each text, or with no row. A text gets its row if its kernels take longer by
-LEAST_GAIN percent or more without it, and the row says by how many. That figure is the geometric mean over the kernels
-of the text, both elements, all levels that take it, and the places at which a kernel lies in the code. The time of a
-kernel at a place is the least that any process had.
+An alternative is made of two choices: whether a text has the order of steps that is usual for its form or the other
+one, and whether the compiler keeps that order or may change it. Each choice that is not the usual one is a row of a
+table, and a text has those rows that save the most time, where each row saves LEAST_GAIN percent or more: without it
+its kernels take longer by the figure that the row tells. That figure is the geometric mean over the kernels of the
+text, both elements, all levels that take it, and the places at which a kernel lies in the code. The time of a kernel at
+a place is the least that any process had.
 """
 import collections
 import datetime
@@ -16,12 +18,16 @@ import re
 import sys
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
-TABLE = pathlib.Path("targets", "x86_64", "tuning.txt")
-LEAST_GAIN = 5
+LEAST_GAIN = 3
 OTHER_ORDER = {"pairs": "bisection", "lines": "blocks"}  # than the usual one of the form
 TEXT = re.compile(r'"kernels/(\w+)/\w+\.h (pairs|lines) \w+ (\d+) ')
 
-HEAD = """\
+# The alternatives, by the choices that are not the usual ones.
+ALTERNATIVES = {"usual": (), "other": ("order",), "scheduled": ("compiler",), "both": ("order", "compiler")}
+
+PATHS = {"order": pathlib.Path("targets", "x86_64", "tuning.txt"),
+         "compiler": pathlib.Path("targets", "x86_64_v3", "scheduled.txt")}
+HEADS = {"order": """\
 # What this machine likes: texts in lanes whose order of steps is settled by measurement. scripts/tune writes this file.
 # A text without a row has the usual order of its form: two lanes block by block, four by recursive bisection.
 #
@@ -32,7 +38,17 @@ HEAD = """\
 # {written}
 #
 # folder               length  order      gain
-"""
+""", "compiler": """\
+# What this machine likes: texts in lanes whose steps the compiler may put into another order, so that fewer of them wait
+# for each other. scripts/tune writes this file. Kernels of all other texts keep the order of the text.
+#
+#   folder, length   the text: that of this length in kernels/FOLDER
+#   gain             by how many percent its kernels take longer without this row; {least} at least
+#
+# {written}
+#
+# folder               length  gain
+"""}
 
 
 def all_texts():
@@ -41,19 +57,24 @@ def all_texts():
     return {(folder, int(length)): OTHER_ORDER[form] for folder, form, length in TEXT.findall(texts)}
 
 
+def row(choice, text, order, gain):
+    columns = f"{text[0]:<20} {text[1]:>8}"
+    return f"{columns}  {order:<9} {gain:>5}\n" if choice == "order" else f"{columns}  {gain:>4}\n"
+
+
 def rows_of(path):
     """(folder, length) -> gain."""
     rows = {}
     for line in path.read_text(encoding="utf-8").splitlines() if path.exists() else ():
         columns = line.split("#")[0].split()
         if columns:
-            folder, length, _, gain = columns
-            rows[folder, int(length)] = gain
+            rows[columns[0], int(columns[1])] = columns[-1]
     return rows
 
 
 def write_if_changed(path, text):
     if not path.exists() or path.read_text(encoding="utf-8") != text:
+        path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text, encoding="utf-8")
 
 
@@ -62,11 +83,10 @@ def prepare(folder, options):
              if options.get("--folder", text[0]) == text[0] and options.get("--length", str(text[1])) == str(text[1])}
     if not texts:
         sys.exit("no text of " + " ".join(options.values()))
-    for alternative in ("usual", "other"):
-        tables = folder / alternative / TABLE
-        tables.parent.mkdir(parents=True, exist_ok=True)
-        write_if_changed(tables, "".join(f"{name} {length} {order} 0\n" for (name, length), order in texts.items()
-                                         if alternative == "other"))
+    for alternative, choices in ALTERNATIVES.items():
+        for choice, path in PATHS.items():
+            write_if_changed(folder / alternative / path, "".join(
+                row(choice, text, order, 0) for text, order in texts.items() if choice in choices))
         write_if_changed(folder / alternative / "texts.txt", "".join(
             f"{name} {length}\n" for name, length in texts))
 
@@ -84,10 +104,17 @@ def least_times(records):
 
 
 def settled(kernels):
-    """The gain of the row: by how many percent the usual order takes longer than the other one. None for no row."""
-    logarithms = [math.log(ticks["usual"] / ticks["other"]) for ticks in kernels.values()]
-    gain = 100 * math.expm1(sum(logarithms) / len(logarithms))
-    return gain if gain >= LEAST_GAIN else None
+    """The rows of a text, choice -> gain."""
+    means = {alternative: math.fsum(math.log(ticks[alternative]) for ticks in kernels.values()) / len(kernels)
+             for alternative in ALTERNATIVES}
+    least = math.log1p(LEAST_GAIN / 100) - 1e-12
+    best = min(ALTERNATIVES, key=lambda name: means[name] + least * len(ALTERNATIVES[name]))
+    gains = {}
+    for choice in ALTERNATIVES[best]:
+        rest = set(ALTERNATIVES[best]) - {choice}
+        without = next(name for name, choices in ALTERNATIVES.items() if set(choices) == rest)
+        gains[choice] = 100 * math.expm1(means[without] - means[best])
+    return gains
 
 
 def machine():
@@ -97,24 +124,25 @@ def machine():
 
 
 def settle(records, is_check):
-    before, times, texts = rows_of(TREE / TABLE), least_times(records), all_texts()
-    table = {}
-    for text in texts:
-        gain = settled(times[text]) if text in times else None
-        if gain is not None:
-            table[text] = f"{gain:.0f}"
-        elif text in before and text not in times:
-            table[text] = before[text]
-        if text in table or text in before:
-            print(f"{text[0]:<20} {text[1]:>8}  {texts[text]:<9} {table.get(text, 'no row'):>6}"
-                  f"   before: {before.get(text, 'no row')}")
-    if is_check:
-        return
+    times, texts = least_times(records), all_texts()
+    gains = {text: settled(kernels) for text, kernels in times.items()}
     part = "all texts" if len(times) == len(texts) else f"the last time {len(times)} of the {len(texts)} texts"
-    head = HEAD.format(least=LEAST_GAIN, written=f"Measured {datetime.date.today()} on {machine()}: {part}.")
-    (TREE / TABLE).write_text(head + "".join(f"{folder:<20} {length:>8}  {texts[folder, length]:<9} {value:>5}\n"
-                                             for (folder, length), value in table.items()), encoding="utf-8")
-    print(f"{TABLE}: {len(table)} rows")
+    for choice, path in PATHS.items():
+        before, table = rows_of(TREE / path), {}
+        for text in texts:
+            if text in gains and choice in gains[text]:
+                table[text] = f"{gains[text][choice]:.0f}"
+            elif text in before and text not in times:
+                table[text] = before[text]
+            if text in table or text in before:
+                print(f"{choice:<9}" + row(choice, text, texts[text], table.get(text, "no row")).rstrip() +
+                      f"   before: {before.get(text, 'no row')}")
+        if is_check:
+            continue
+        head = HEADS[choice].format(least=LEAST_GAIN, written=f"Measured {datetime.date.today()} on {machine()}: {part}.")
+        (TREE / path).write_text(head + "".join(row(choice, text, texts[text], gain) for text, gain in table.items()),
+                                 encoding="utf-8")
+        print(f"{path}: {len(table)} rows")
 
 
 def main(verb, *words):

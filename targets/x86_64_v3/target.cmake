@@ -11,6 +11,16 @@ set(short_kernel_steps 4500)
 set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage ${idle_pass_flags})
 set(kernel_compile_flags ${short_kernel_compile_flags} -fno-tree-ter)
 
+# Texts that are faster where the compiler may put the steps into another order: most of those whose values nearly find
+# room in the registers, and fewer of the longer ones. scripts/tune writes the table.
+if(NOT DEFINED scheduled_table)
+    set(scheduled_table ${CMAKE_CURRENT_LIST_DIR}/scheduled.txt)
+endif()
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${scheduled_table})
+file(STRINGS ${scheduled_table} scheduled_texts REGEX "^[a-z]")
+list(TRANSFORM scheduled_texts REPLACE "^([a-z_]+) +([0-9]+) .*" "\\1 \\2")
+set(scheduled_compile_flags -O2 -fschedule-insns -fsched-pressure ${idle_pass_flags})
+
 # Batches. Transforms one after the other that have more steps are as fast one by one.
 set(batch_types "float double" "double double" "float float")
 set(batch_behind_real_steps 150)

@@ -37,7 +37,8 @@ def comparable(library, name):
     levels = [arithmetic(library, kernel) for kernel in library.kernels(library.slot_address(name))]
     if machine.HAS_WIDE_REGISTERS:
         return levels[0]
-    return sorted((level, mnemonic) for level, instructions in enumerate(levels)
+    # Where the operand is in memory, the disassembler adds a letter for its width.
+    return sorted((level, re.sub("(?<=cvtpd2ps)[xy]$", "", mnemonic)) for level, instructions in enumerate(levels)
                   for mnemonic, _ in instructions if re.match(r"v?(add|sub|mul|cvt)", mnemonic))
 
 

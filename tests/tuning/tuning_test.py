@@ -17,20 +17,26 @@ import tuning
 
 
 class Settled(unittest.TestCase):
-    def gain(self, **ticks):
+    def gains(self, **ticks):
         """Of one kernel at one place."""
-        gain = tuning.settled({("kernel", "double", "0"): ticks})
-        return gain if gain is None else round(gain, 6)
+        gains = tuning.settled({("kernel", "double", "0"): ticks})
+        return {choice: round(gain, 6) for choice, gain in gains.items()}
 
     def test_a_choice_that_gains_less_has_no_row(self):
-        self.assertIsNone(self.gain(usual=104.9, other=100))
-        self.assertEqual(self.gain(usual=105, other=100), 5)
-        self.assertIsNone(self.gain(usual=90, other=100))
+        self.assertEqual(self.gains(usual=102.9, other=100, scheduled=120, both=120), {})
+        self.assertEqual(self.gains(usual=103.5, other=100, scheduled=120, both=120), {"order": 3.5})
+        self.assertEqual(self.gains(usual=103.5, other=120, scheduled=100, both=120), {"compiler": 3.5})
+        self.assertEqual(self.gains(usual=90, other=100, scheduled=100, both=100), {})
+
+    def test_each_of_two_choices_has_to_gain(self):
+        self.assertEqual(self.gains(usual=110, other=105, scheduled=104, both=100), {"order": 4, "compiler": 5})
+        self.assertEqual(self.gains(usual=110, other=105, scheduled=102, both=100), {"compiler": 7.843137})
+        self.assertEqual(self.gains(usual=104, other=130, scheduled=130, both=100), {})
 
     def test_kernels_and_places_count_by_their_geometric_mean(self):
-        kernels = {("kernel", "double", place): {"usual": ticks, "other": 100}
+        kernels = {("kernel", "double", place): {"usual": ticks, "other": 100, "scheduled": 500, "both": 500}
                    for place, ticks in (("0", 80), ("21", 245))}
-        self.assertAlmostEqual(tuning.settled(kernels), 40)
+        self.assertAlmostEqual(tuning.settled(kernels)["order"], 40)
 
     def test_the_least_time_of_all_processes_counts(self):
         with tempfile.TemporaryDirectory(dir=BUILD) as folder:
@@ -46,8 +52,12 @@ class Alternatives(unittest.TestCase):
         with tempfile.TemporaryDirectory(prefix="tuning-", dir=BUILD) as name:
             folder = pathlib.Path(name)
             tuning.prepare(folder, {"--length": "25"})
-            texts = {alternative: self.built(folder / alternative) for alternative in ("usual", "other")}
-            self.assertNotEqual(*texts.values())
+            texts = {alternative: self.built(folder / alternative) for alternative in tuning.ALTERNATIVES}
+            self.assertNotEqual(texts["usual"], texts["other"])
+            self.assertEqual(texts["usual"], texts["scheduled"])
+            self.assertEqual(texts["other"], texts["both"])
+            self.assertEqual({name: self.may_change_order(folder / name) for name in texts},
+                             {"usual": False, "other": False, "scheduled": True, "both": True})
             modules = [f"{alternative}.0={folder}/{alternative}/build/libafter_0.so" for alternative in texts]
             lines = subprocess.run([BUILD / "tune_times", "0", *modules], check=True, capture_output=True,
                                    text=True).stdout.splitlines()
@@ -57,7 +67,7 @@ class Alternatives(unittest.TestCase):
             levels = {"pairs": "x86_64"}
             if " avx2 " in pathlib.Path("/proc/cpuinfo").read_text(encoding="ascii", errors="replace"):
                 levels["lines"] = "x86_64_v3"
-            self.assertEqual(found, {(f"{family}_{form}", "25", f"{kernel}.{level}", element): 2
+            self.assertEqual(found, {(f"{family}_{form}", "25", f"{kernel}.{level}", element): 4
                                      for family, routines in kernels.items() for kernel in routines
                                      for form, level in levels.items() for element in ("single", "double")})
 
@@ -70,6 +80,9 @@ class Alternatives(unittest.TestCase):
             "-DCMAKE_BUILD_TYPE=Release", f"-DALTERNATIVE={alternative}")
         run(CMAKE, "--build", alternative / "build", "--target", "after_0")
         return (alternative / "kernels" / "hartley_lines" / "dht_25.h").read_text(encoding="utf-8")
+
+    def may_change_order(self, alternative):
+        return "-fsched-pressure" in (alternative / "build" / "build.ninja").read_text(encoding="utf-8")
 
 
 unittest.main(argv=sys.argv[:1])

@@ -235,7 +235,10 @@ double Transform::boundAt(int flag) const {
     return isRounded ? std::hypot(bound, 0.45) : bound;
 }
 
+// The shortest ones take more. Of a real transform of 4 points two outputs are sums of two singles, and correct rounding
+// is pooled to 0.442 of a unit; over 5000 inputs it comes out at 0.45, where the bound is, in one of a hundred runs.
 int Transform::inputs() const {
+    if (length <= 4) return 200000 / length;
     if (length <= 64) return std::max(200, 20000 / length);
     return takes == Takes::Plan ? std::max(4, 32000 / length) : std::max(64, 20000 / length);
 }

@@ -119,6 +119,12 @@ void Graph::pair(NodeId re, NodeId im) {
     pairByNode[re] = pairByNode[im] = {re, im};
 }
 
+std::vector<BlockId> Graph::blocksAround(NodeId id) const {
+    std::vector<BlockId> around;
+    for (BlockId at = node(id).block; at != BlockId{}; at = block(at).outer) around.insert(around.begin(), at);
+    return around;
+}
+
 std::optional<Pair> Graph::pairOf(NodeId node) const {
     const auto found = pairByNode.find(node);
     return found == pairByNode.end() ? std::nullopt : std::optional(found->second);

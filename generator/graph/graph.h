@@ -157,6 +157,8 @@ public:
     const std::vector<Output>& outputs() const { return allOutputs; }
     const std::vector<Block>& blocks() const { return allBlocks; }
     const Block& block(BlockId id) const { return allBlocks[static_cast<std::size_t>(id)]; }
+    // The blocks that a node is in, the outermost one first.
+    std::vector<BlockId> blocksAround(NodeId node) const;
     // The pair of a node, and all pairs in order of their first nodes.
     std::optional<Pair> pairOf(NodeId node) const;
     std::vector<Pair> pairs() const;

@@ -151,20 +151,14 @@ private:
         return std::nullopt;
     }
 
-    // The two lines of a group, by their blocks: the last ones on the way outwards that do not hold both.
+    // The two lines of a group: the outermost blocks that hold one half of it and not the other. No blocks if there are
+    // none.
     std::pair<BlockId, BlockId> linesOf(size_t unit) const {
-        const auto outwards = [&](NodeId node) {
-            std::vector<BlockId> path;
-            for (BlockId block = graph.node(node).block; block != BlockId{}; block = graph.block(block).outer) {
-                path.push_back(block);
-            }
-            return path;
-        };
-        const std::vector<BlockId> a = outwards(units.nodes(unit)[0]), b = outwards(units.nodes(unit)[2]);
-        size_t same = 0;
-        while (same < std::min(a.size(), b.size()) && a[a.size() - 1 - same] == b[b.size() - 1 - same]) ++same;
-        if (same == a.size() || same == b.size()) return {};
-        return {a[a.size() - 1 - same], b[b.size() - 1 - same]};
+        const std::vector<NodeId>& nodes = units.nodes(unit);
+        const std::vector<BlockId> around[] = {graph.blocksAround(nodes[0]), graph.blocksAround(nodes[2])};
+        const auto [a, b] = std::ranges::mismatch(around[0], around[1]);
+        if (a == around[0].end() || b == around[1].end()) return {};
+        return {*a, *b};
     }
 
     // Elements that follow each other in memory are stored at once where two lines hold them, the first one in the low

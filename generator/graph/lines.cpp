@@ -64,9 +64,7 @@ private:
     // The complex elements that each block takes and gives.
     void listElements(Arrays arrays) {
         const auto list = [&](NodeId at, std::set<int> Inside::*elements, int place) {
-            for (BlockId block = graph.node(at).block; block != BlockId{}; block = graph.block(block).outer) {
-                (own(block).*elements).insert(place / 2);
-            }
+            for (BlockId block : graph.blocksAround(at)) (own(block).*elements).insert(place / 2);
         };
         if (arrays.inputs == Elements::Complex) {
             for (NodeId id : graph.aliveNodes()) {

@@ -136,8 +136,9 @@ struct StepCounts {
     int all() const { return sums + differences + products + shuffles + flips; }
 };
 
-// Steps and what it takes to load and store registers of two complex elements that are no neighbours in memory: two
-// instructions for a load, three for a store, in place of one.
+// The steps of a program and what its memory costs. A register of two complex elements that are neighbours is loaded or
+// stored by one instruction, and none is counted for that; for two elements that lie apart a load takes one more and a
+// store two more.
 int instructionsOf(const LaneProgram& program) {
     int count = StepCounts(program).all();
     for (const LaneStep& step : program.steps) {

@@ -1,6 +1,7 @@
 """The tables of what lane texts like, for scripts/tune: makes the alternatives that are timed, and writes the tables.
 
-tuning.py prepare FOLDER [--folder TEXTS] [--length N]    a folder for each alternative, with tables of its own
+tuning.py prepare FOLDER [--folder TEXTS] [--length N]    a folder for each alternative, with tables of its own; prints
+                                                          their names
 tuning.py settle RECORDS... [--check]                     the tables, from what tune_times printed
 
 An alternative is made of two choices: whether a text has the order of steps that is usual for its form or the other
@@ -23,7 +24,7 @@ OTHER_ORDER = {"pairs": "bisection", "lines": "blocks"}  # than the usual one of
 TEXT = re.compile(r'"kernels/(\w+)/\w+\.h (pairs|lines) \w+ (\d+) ')
 
 # The alternatives, by the choices that are not the usual ones.
-ALTERNATIVES = {"usual": (), "other": ("order",), "scheduled": ("compiler",), "both": ("order", "compiler")}
+ALTERNATIVES = {"usual": set(), "other": {"order"}, "scheduled": {"compiler"}, "both": {"order", "compiler"}}
 
 PATHS = {"order": pathlib.Path("targets", "x86_64", "tuning.txt"),
          "compiler": pathlib.Path("targets", "x86_64_v3", "scheduled.txt")}
@@ -39,8 +40,8 @@ HEADS = {"order": """\
 #
 # folder               length  order      gain
 """, "compiler": """\
-# What this machine likes: texts in lanes whose steps the compiler may put into another order, so that fewer of them wait
-# for each other. scripts/tune writes this file. Kernels of all other texts keep the order of the text.
+# What this machine likes: texts in lanes whose steps the compiler may put into another order, so that fewer of them
+# wait for each other. scripts/tune writes this file. Kernels of all other texts keep the order of the text.
 #
 #   folder, length   the text: that of this length in kernels/FOLDER
 #   gain             by how many percent its kernels take longer without this row; {least} at least
@@ -89,6 +90,7 @@ def prepare(folder, options):
                 row(choice, text, order, 0) for text, order in texts.items() if choice in choices))
         write_if_changed(folder / alternative / "texts.txt", "".join(
             f"{name} {length}\n" for name, length in texts))
+    return ALTERNATIVES.keys()
 
 
 def least_times(records):
@@ -111,8 +113,7 @@ def settled(kernels):
     best = min(ALTERNATIVES, key=lambda name: means[name] + least * len(ALTERNATIVES[name]))
     gains = {}
     for choice in ALTERNATIVES[best]:
-        rest = set(ALTERNATIVES[best]) - {choice}
-        without = next(name for name, choices in ALTERNATIVES.items() if set(choices) == rest)
+        without = next(name for name in ALTERNATIVES if ALTERNATIVES[name] == ALTERNATIVES[best] - {choice})
         gains[choice] = 100 * math.expm1(means[without] - means[best])
     return gains
 
@@ -139,7 +140,8 @@ def settle(records, is_check):
                       f"   before: {before.get(text, 'no row')}")
         if is_check:
             continue
-        head = HEADS[choice].format(least=LEAST_GAIN, written=f"Measured {datetime.date.today()} on {machine()}: {part}.")
+        written = f"Measured {datetime.date.today()} on {machine()}: {part}."
+        head = HEADS[choice].format(least=LEAST_GAIN, written=written)
         (TREE / path).write_text(head + "".join(row(choice, text, texts[text], gain) for text, gain in table.items()),
                                  encoding="utf-8")
         print(f"{path}: {len(table)} rows")
@@ -147,7 +149,7 @@ def settle(records, is_check):
 
 def main(verb, *words):
     if verb == "prepare":
-        prepare(pathlib.Path(words[0]), dict(zip(words[1::2], words[2::2])))
+        print(*prepare(pathlib.Path(words[0]), dict(zip(words[1::2], words[2::2]))))
     else:
         settle([word for word in words if word != "--check"], "--check" in words)
 

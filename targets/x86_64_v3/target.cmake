@@ -11,8 +11,8 @@ set(short_kernel_steps 4500)
 set(short_kernel_compile_flags -O2 -fno-schedule-insns2 -flive-range-shrinkage ${idle_pass_flags})
 set(kernel_compile_flags ${short_kernel_compile_flags} -fno-tree-ter)
 
-# Texts that are faster where the compiler may put the steps into another order: most of those whose values nearly find
-# room in the registers, and fewer of the longer ones. scripts/tune writes the table.
+# Texts that are faster where the compiler may put the steps into another order. Fewer steps wait for each other then,
+# but more values wait in the frame, so that it slows other texts down. scripts/tune writes the table.
 if(NOT DEFINED scheduled_table)
     set(scheduled_table ${CMAKE_CURRENT_LIST_DIR}/scheduled.txt)
 endif()

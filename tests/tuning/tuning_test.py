@@ -47,6 +47,16 @@ class Settled(unittest.TestCase):
             self.assertEqual(tuning.least_times(records)["hartley_pairs", 9]["Hartley", "double", "21"], {"usual": 5})
 
 
+class Tables(unittest.TestCase):
+    def test_have_texts_of_kernels_and_gains_worth_a_row(self):
+        for path in tuning.PATHS.values():
+            rows = tuning.rows_of(SOURCE / path)
+            self.assertTrue(rows, path)
+            self.assertEqual(rows.keys() - tuning.all_texts().keys(), set(), path)
+            for text, gain in rows.items():
+                self.assertGreaterEqual(int(gain), tuning.LEAST_GAIN, text)
+
+
 class Alternatives(unittest.TestCase):
     def test_are_built_for_one_length(self):
         with tempfile.TemporaryDirectory(prefix="tuning-", dir=BUILD) as name:

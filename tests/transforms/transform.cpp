@@ -235,8 +235,9 @@ double Transform::boundAt(int flag) const {
     return isRounded ? std::hypot(bound, 0.45) : bound;
 }
 
-// The shortest ones take more. Of a real transform of 4 points two outputs are sums of two singles, and correct rounding
-// is pooled to 0.442 of a unit; over 5000 inputs it comes out at 0.45, where the bound is, in one of a hundred runs.
+// The shortest transforms take more inputs. Two outputs of a real transform of 4 points are sums of two singles, so
+// that the pooled error of correct rounding is 0.442 of a unit. Over 5000 inputs that comes out above the bound of 0.45
+// in about one run of a hundred.
 int Transform::inputs() const {
     if (length <= 4) return 200000 / length;
     if (length <= 64) return std::max(200, 20000 / length);

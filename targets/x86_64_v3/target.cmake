@@ -26,6 +26,10 @@ set(batch_types "float double" "double double" "float float")
 set(batch_behind_real_steps 150)
 set(batch_behind_complex_steps 800)
 set(batch_compile_flags ${short_kernel_compile_flags} -fno-gcse)  # 59 points: no frame above a page
+# From this length on, places are reckoned in each run of a text. Before the loop over registers there are so many that
+# they go to the frame and have to be read from there, and constants with them.
+set(batch_long_length 14)
+set(batch_long_compile_flags -fno-tree-loop-im -fno-move-loop-invariants)
 
 # Registers of four lanes, where the generator finds that they save a fifth of the steps.
 set(kernel_forms lines pairs)

@@ -51,15 +51,19 @@ template <class Element>
 struct ManyRoutines {
     ManyRoutine<Element> beside;
     ManyRoutine<Element> behind;
+    ManyRoutine<Element> inParts;  // beside
+    InParts whenInParts;
 };
 
 template <Family family, int length, class Element, class Real>
 constexpr ManyRoutines<Element> manyRoutines() {
-    ManyRoutines<Element> found{nullptr, nullptr};
+    ManyRoutines<Element> found{nullptr, nullptr, nullptr, inPartsOf<family, length, Element, Real>};
     if constexpr (hasManyText<inCCS(family), length, Real, Placement::Beside>)
         found.beside = &manyTransforms<inCCS(family), length, Element, Real, Placement::Beside>;
     if constexpr (hasManyText<family, length, Real, Placement::Behind>)
         found.behind = &manyTransforms<family, length, Element, Real, Placement::Behind>;
+    if constexpr (inPartsOf<family, length, Element, Real> != InParts::Never)
+        found.inParts = &manyTransforms<family, length, Element, Real, Placement::Beside, true>;
     return found;
 }
 
@@ -112,10 +116,24 @@ struct Request {
         if (many == nullptr || count < copies) return 0;
         Spectrum<layoutOf<family>> spectrum;
         if (!isComplex<family>) spectrum.place(length, isRealForward<family> ? destination.step : source.step);
-        many({pSrc, pDst, source.step * width, source.distance * width, destination.step * width,
-              destination.distance * width, spectrum.places, layoutOf<family> == Layout::CCS, Element{}},
-             flag, count / copies);
-        return count / copies * copies;
+        std::int64_t done = 0;
+        const auto run = [&](ManyRoutine<Element> routine, std::int64_t atOnce) {
+            const std::int64_t registers = (count - done) / atOnce;
+            routine({from(done), to(done), source.step * width, source.distance * width, destination.step * width,
+                     destination.distance * width, spectrum.places, layoutOf<family> == Layout::CCS, Element{}},
+                    flag, registers);
+            done += registers * atOnce;
+        };
+        if (isBeside() && isInParts(routines)) run(routines.inParts, copiesInParts<Real>);
+        run(many, copies);
+        return done;
+    }
+
+private:
+    bool isInParts(const ManyRoutines<Element>& routines) const {
+        constexpr std::int64_t bytes = width * static_cast<std::int64_t>(sizeof(Element));
+        if (routines.whenInParts != InParts::AtBadSteps) return routines.whenInParts == InParts::Always;
+        return isBadStep(source.step, bytes, length) || isBadStep(destination.step, bytes, length);
     }
 };
 

@@ -1,4 +1,4 @@
-// The shapes of a batch, and which of them are refused.
+// The shapes of a batch, which of them are refused, and which are slow.
 #pragma once
 
 #include <cstdint>
@@ -79,6 +79,16 @@ constexpr bool isAccepted(Shape source, std::int64_t sourceElements, Shape desti
     return fits(source, sourceElements, count, elementBytes) &&
            fits(destination, destinationElements, count, elementBytes) &&
            isDistinct(destination, destinationElements, count);
+}
+
+// Steps are bad where the elements of a transform share so few sets of the first cache that a line is gone before the
+// next transforms of that line come: where they are large powers of two, or multiples of these. The cache has 32 KB or
+// more, in ways of 4 KB.
+constexpr bool isBadStep(std::int64_t step, std::int64_t elementBytes, int length) {
+    constexpr std::uint64_t cacheBytes = 32768, wayBytes = 4096;
+    const std::uint64_t apart = magnitude(step) * static_cast<std::uint64_t>(elementBytes);
+    const std::uint64_t power = apart & (0 - apart);  // the largest power of two that divides it
+    return (power < wayBytes ? power : wayBytes) * static_cast<std::uint64_t>(length) > cacheBytes;
 }
 
 }  // namespace zulg

@@ -102,4 +102,30 @@ ZULG_INLINE Many<Real, copies, 1, exchanged> part(Many<Real, copies, 2, exchange
     (std::make_integer_sequence<int, copies>{});
 }
 
+// The real parts (0) or the imaginary parts (1) of two registers of complex numbers, in such an order of transforms
+// that no number crosses between pieces of 16 bytes; and one of the two registers again.
+template <int which, class Real, int copies>
+ZULG_INLINE Many<Real, 2 * copies, 1> partsOf(Many<Real, copies, 2> a, Many<Real, copies, 2> b) {
+    constexpr int piece = 16 / sizeof(Real), lanes = 2 * copies;
+    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+        constexpr auto from = [](int at) {
+            const int place = 2 * (at % piece) + which;
+            return at / piece * piece + place % piece + place / piece * lanes;
+        };
+        return Many<Real, lanes, 1>(__builtin_shufflevector(a.vector, b.vector, from(lane)...));
+    }
+    (std::make_integer_sequence<int, lanes>{});
+}
+template <int which, class Real, int lanes>
+ZULG_INLINE Many<Real, lanes / 2, 2> ofParts(Many<Real, lanes, 1> re, Many<Real, lanes, 1> im) {
+    constexpr int piece = 16 / sizeof(Real);
+    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+        constexpr auto from = [](int at) {
+            return at / piece * piece + which * piece / 2 + at % piece / 2 + (at % 2 == 0 ? 0 : lanes);
+        };
+        return Many<Real, lanes / 2, 2>(__builtin_shufflevector(re.vector, im.vector, from(lane)...));
+    }
+    (std::make_integer_sequence<int, lanes>{});
+}
+
 }  // namespace zulg

@@ -144,6 +144,51 @@ struct ManyComplexPorts : ManyPorts<Element, Real, copies, 2, exchanged> {
     ZULG_INLINE void finish() const {}
 };
 
+// Complex transforms that are side by side, with the parts in registers of their own: a text of single numbers, and no
+// turns by i, but twice as many values. A register of complex numbers and its neighbour become one of each part. Those
+// that are `exchanged` read and store the imaginary part of each number as its real part.
+template <int length, class Element, class Real, int copies, bool exchanged>
+struct ManyPartsPorts : ManyPorts<Element, Real, copies, 1, false> {
+    using Base = ManyPorts<Element, Real, copies, 1, false>;
+    using Base::Base;
+    using Value = Many<Real, copies, 1>;
+
+    static constexpr int toRe = exchanged ? 1 : 0, toIm = 1 - toRe;
+
+    ZULG_INLINE Value re(int n) const { return read<toRe>(n); }
+    ZULG_INLINE Value im(int n) const { return read<toIm>(n); }
+    ZULG_INLINE void re(int k, Value value) const { store<toRe>(k, value); }
+    ZULG_INLINE void im(int k, Value value) const { store<toIm>(k, value); }
+    ZULG_INLINE void finish() const {}
+
+private:
+    using Pairs = Many<Real, copies / 2, 2>;
+    using Memory = ManyInMemory<Element, Real, copies / 2, 2>;
+
+    template <int part>
+    ZULG_INLINE Value read(int n) const {
+        const auto* const place = this->source + n * this->sourceStep;
+        return partsOf<part>(Pairs(Memory::read(place)), Pairs(Memory::read(place + copies)));
+    }
+    // The part that comes first waits for the other one.
+    template <int part>
+    ZULG_INLINE void store(int k, Value value) const {
+        const Value result = this->scaled(value);
+        if (!isWaiting[k]) {
+            waiting[k] = result;
+            isWaiting[k] = true;
+            return;
+        }
+        const Value re = part == 0 ? result : waiting[k], im = part == 0 ? waiting[k] : result;
+        auto* const place = this->destination + k * this->destinationStep;
+        Memory::store(place, ofParts<0>(re, im).vector);
+        Memory::store(place + copies, ofParts<1>(re, im).vector);
+    }
+
+    mutable Value waiting[length];
+    mutable bool isWaiting[length] = {};
+};
+
 // Real numbers of transforms that are side by side. The slots of a half spectrum are where the caller's layout has
 // them.
 template <Family family, int length, class Element, class Real, int copies>

@@ -46,11 +46,15 @@ inline constexpr int copiesOf = hasLanes ? widestOf<TargetNumbers>() * static_ca
                                                (isComplex<family> ? 2 : 1)
                                          : 1;
 
+// And where the parts of complex numbers are in registers of their own.
+template <class Real>
+inline constexpr int copiesInParts = copiesOf<Family::Hartley, Real>;
+
 template <class Element>
 using ManyRoutine = void (*)(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
 
 // As many transforms as `registers` hold. The flag has been checked; the routine sets `arrays.scale`.
-template <Family family, int length, class Element, class Real, Placement placement>
+template <Family family, int length, class Element, class Real, Placement placement, bool inParts = false>
 void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
 
 }  // namespace ZULG_TARGET

@@ -12,6 +12,9 @@ namespace {
 
 constexpr int flags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
 
+// At this step the elements of a complex transform share a few sets of a cache, which the library takes another way.
+constexpr std::int64_t badStep = 512;
+
 // The lowest and the highest place of a shape, in elements.
 struct Extent {
     Extent(Shape shape, std::int64_t elements, std::int64_t count) {
@@ -143,6 +146,18 @@ TYPED_TEST(BatchTest, FastShapesGiveTheBitsOfSingleCallsAtEveryCount) {
     });
 }
 
+TYPED_TEST(BatchTest, BadStepsGiveTheBitsOfSingleCalls) {
+    this->forEachJob([&](const Job<TypeParam>& job) {
+        if (job.width != 2) return;
+        for (const std::int64_t count : {3, 4, 6, 9}) {
+            this->expectOneByOne(job, {badStep, 1}, {badStep, 1}, count, count % 2 == 0);
+            this->expectOneByOne(job, {badStep, 1}, {count, 1}, count, count % 2 == 0);
+            this->expectOneByOne(job, {count, 1}, {-badStep, 1}, count, count % 2 == 0);
+        }
+        this->expectInPlace(job, {badStep, 1}, 7);
+    });
+}
+
 TYPED_TEST(BatchTest, RandomShapesGiveTheBitsOfSingleCalls) {
     this->forEachJob([&](const Job<TypeParam>& job) {
         for (int i = 0; i < 12; ++i) {
@@ -176,12 +191,13 @@ TYPED_TEST(BatchTest, ASourceMayBeOneElementOrOneTransformForAll) {
 }
 
 TYPED_TEST(BatchTest, ZerosOfBothSignsAndInfinitiesAreThoseOfSingleCalls) {
-    this->forEachJob([&](const Job<TypeParam>& job) {
-        const std::int64_t count = 8;
-        std::vector<TypeParam> x(static_cast<std::size_t>(count * job.read * job.width)),
-            y(static_cast<std::size_t>(count * job.written * job.width));
+    const std::int64_t count = 8;
+    const auto expectSame = [&](const Job<TypeParam>& job, Shape source, Shape destination) {
+        const auto room = [=](std::int64_t elements, Shape shape) {
+            return Extent(shape, elements, count).elements() * static_cast<std::size_t>(job.width);
+        };
+        std::vector<TypeParam> x(room(job.read, source)), y(room(job.written, destination));
         for (std::size_t i = 0; i < x.size(); ++i) x[i] = i % 3 == 0 ? TypeParam{0} : i % 3 == 1 ? -TypeParam{0} : 1;
-        const Shape source{1, job.read}, destination{1, job.written};
         const auto dueNow = [&] {
             return this->dueOf(job, x.data(), source, y, destination, Extent(destination, job.written, count), count);
         };
@@ -190,7 +206,7 @@ TYPED_TEST(BatchTest, ZerosOfBothSignsAndInfinitiesAreThoseOfSingleCalls) {
         ASSERT_TRUE(sameBits(y, due));
         // One infinity in each second transform: what is not a number there counts as one and the same value.
         for (std::int64_t j = 0; j < count; j += 2)
-            x[static_cast<std::size_t>((j + 1) * job.read * job.width - 1)] =
+            x[static_cast<std::size_t>(((job.read - 1) * source.step + j * source.distance + 1) * job.width - 1)] =
                 std::numeric_limits<TypeParam>::infinity();
         due = dueNow();
         ASSERT_EQ(job.batch(x.data(), source, y.data(), destination, count), StatusOk);
@@ -198,6 +214,11 @@ TYPED_TEST(BatchTest, ZerosOfBothSignsAndInfinitiesAreThoseOfSingleCalls) {
             for (TypeParam& value : *values)
                 if (value != value) value = std::numeric_limits<TypeParam>::quiet_NaN();
         ASSERT_TRUE(sameBits(y, due));
+    };
+    this->forEachJob([&](const Job<TypeParam>& job) {
+        expectSame(job, {1, job.read}, {1, job.written});
+        expectSame(job, {count, 1}, {count, 1});
+        if (job.width == 2) expectSame(job, {badStep, 1}, {badStep, 1});
     });
 }
 
@@ -241,8 +262,8 @@ TYPED_TEST(BatchTest, TakesNoMoreStackThanTheHeaderSays) {
     std::ptrdiff_t deepest = 0;
     this->forEachJob([&](const Job<TypeParam>& job) {
         const std::int64_t count = 9, room = std::max(job.read, job.written);
-        std::vector<TypeParam> x(static_cast<std::size_t>(2 * count * room * job.width));
-        for (const Shape shape : {Shape{1, room}, Shape{count, 1}, Shape{2, 2 * room}}) {
+        std::vector<TypeParam> x(static_cast<std::size_t>(badStep * room * job.width));
+        for (const Shape shape : {Shape{1, room}, Shape{count, 1}, Shape{2, 2 * room}, Shape{badStep, 1}}) {
             deepest = std::max(deepest, stackDepth([&] { job.batch(x.data(), shape, x.data(), shape, count); }));
         }
     });
@@ -324,6 +345,7 @@ TEST_F(BatchInSingleTest, EveryShapeAndCountGivesTheSameBits) {
             }
             expectInPlace(job, {1, std::max(job.read, job.written)}, 9);
             expectInPlace(job, {9, 1}, 9);
+            if (job.width == 2) expectOneByOne(job, {badStep, 1}, {badStep, 1}, 13, true);
         }
     }
 }
@@ -513,6 +535,23 @@ TEST(BatchShapes, AreDistinctWhereNoTwoElementsAreInOnePlace) {
             }
         }
     }
+}
+
+// A way of a cache has 4096 bytes and a line 64: eight elements at one place of a way are all that stay.
+TEST(BatchShapes, AreSlowWhereElementsShareSetsOfACache) {
+    using zulg::isBadStep;
+    EXPECT_FALSE(isBadStep(256, 16, 8));
+    EXPECT_TRUE(isBadStep(256, 16, 9));
+    EXPECT_TRUE(isBadStep(-256, 16, 9));
+    EXPECT_TRUE(isBadStep(512, 8, 9));
+    EXPECT_TRUE(isBadStep(1024, 16, 9));
+    EXPECT_FALSE(isBadStep(1024, 16, 8));
+    EXPECT_TRUE(isBadStep(3 * 256, 16, 9));
+    EXPECT_FALSE(isBadStep(128, 16, 16));
+    EXPECT_TRUE(isBadStep(128, 16, 17));
+    EXPECT_FALSE(isBadStep(255, 16, 64));
+    EXPECT_FALSE(isBadStep(0, 16, 64));
+    EXPECT_TRUE(isBadStep(std::numeric_limits<std::int64_t>::min() / 16, 16, 9));
 }
 
 TEST(BatchShapes, FitWhereEveryPlaceHas64Bits) {

@@ -82,6 +82,18 @@ TYPED_TEST(FastShapesTest, TransformsSideBySideAreDoneSeveralAtOnce) {
     }
 }
 
+TYPED_TEST(FastShapesTest, BadStepsLeaveNoMoreToSingleCalls) {
+    for (const BatchFamily& family : batchFamilies) {
+        const auto job = jobOf<TypeParam>(family, 16, NoDivByAny);
+        std::vector<TypeParam> x(std::size_t{512} * 20 * 2, 1), y(x.size());
+        for (std::int64_t count = 1; count <= 9; ++count) {
+            calls = 0;
+            ASSERT_EQ(job.batch(x.data(), {512, 1}, y.data(), {512, 1}, count), StatusOk);
+            ASSERT_EQ(calls, count % copiesOf(family)) << family.name << ", " << count;
+        }
+    }
+}
+
 TYPED_TEST(FastShapesTest, ShortTransformsOneAfterTheOtherAreToo) {
     for (const BatchFamily& family : batchFamilies) {
         for (int length = 2; length <= (family.width == 2 ? 16 : 8); ++length) {

@@ -51,19 +51,19 @@ template <class Element>
 struct ManyRoutines {
     ManyRoutine<Element> beside;
     ManyRoutine<Element> behind;
-    ManyRoutine<Element> inParts;  // beside
-    InParts whenInParts;
+    ManyRoutine<Element> inParts;
+    bool isAlwaysInParts;
 };
 
 template <Family family, int length, class Element, class Real>
 constexpr ManyRoutines<Element> manyRoutines() {
-    ManyRoutines<Element> found{nullptr, nullptr, nullptr, inPartsOf<family, length, Element, Real>};
+    ManyRoutines<Element> found{nullptr, nullptr, nullptr, isAlwaysInParts<length, Element, Real>};
     if constexpr (hasManyText<inCCS(family), length, Real, Placement::Beside>)
         found.beside = &manyTransforms<inCCS(family), length, Element, Real, Placement::Beside>;
     if constexpr (hasManyText<family, length, Real, Placement::Behind>)
         found.behind = &manyTransforms<family, length, Element, Real, Placement::Behind>;
-    if constexpr (inPartsOf<family, length, Element, Real> != InParts::Never)
-        found.inParts = &manyTransforms<family, length, Element, Real, Placement::Beside, true>;
+    if constexpr (hasManyText<family, length, Real, Placement::InParts>)
+        found.inParts = &manyTransforms<family, length, Element, Real, Placement::InParts>;
     return found;
 }
 
@@ -124,7 +124,7 @@ struct Request {
                     flag, registers);
             done += registers * atOnce;
         };
-        if (isBeside() && isInParts(routines)) run(routines.inParts, copiesInParts<Real>);
+        if (isInParts(routines)) run(routines.inParts, copiesInParts<Real>);
         run(many, copies);
         return done;
     }
@@ -132,8 +132,9 @@ struct Request {
 private:
     bool isInParts(const ManyRoutines<Element>& routines) const {
         constexpr std::int64_t bytes = width * static_cast<std::int64_t>(sizeof(Element));
-        if (routines.whenInParts != InParts::AtBadSteps) return routines.whenInParts == InParts::Always;
-        return isBadStep(source.step, bytes, length) || isBadStep(destination.step, bytes, length);
+        return routines.inParts != nullptr && isBeside() &&
+               (routines.isAlwaysInParts || isBadStep(source.step, bytes, length) ||
+                isBadStep(destination.step, bytes, length));
     }
 };
 

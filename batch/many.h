@@ -103,7 +103,7 @@ ZULG_INLINE Many<Real, copies, 1, exchanged> part(Many<Real, copies, 2, exchange
 }
 
 // The real parts (0) or the imaginary parts (1) of two registers of complex numbers, in such an order of transforms
-// that no number crosses between pieces of 16 bytes; and one of the two registers again.
+// that no number leaves its 16 bytes.
 template <int which, class Real, int copies>
 ZULG_INLINE Many<Real, 2 * copies, 1> partsOf(Many<Real, copies, 2> a, Many<Real, copies, 2> b) {
     constexpr int piece = 16 / sizeof(Real), lanes = 2 * copies;
@@ -116,6 +116,7 @@ ZULG_INLINE Many<Real, 2 * copies, 1> partsOf(Many<Real, copies, 2> a, Many<Real
     }
     (std::make_integer_sequence<int, lanes>{});
 }
+// The first (0) or the second (1) of the two registers, from their real and their imaginary parts.
 template <int which, class Real, int lanes>
 ZULG_INLINE Many<Real, lanes / 2, 2> ofParts(Many<Real, lanes, 1> re, Many<Real, lanes, 1> im) {
     constexpr int piece = 16 / sizeof(Real);

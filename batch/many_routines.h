@@ -12,8 +12,9 @@ namespace zulg {
 inline namespace ZULG_TARGET {
 
 // How the transforms of a register are in memory. Beside: element n of all of them is in neighbouring elements, one
-// transform to each. Behind: the elements of each transform are neighbours.
-enum class Placement { Beside, Behind };
+// transform to each. Behind: the elements of each transform are neighbours. InParts: beside, and the real and the
+// imaginary parts of complex numbers are in registers of their own.
+enum class Placement { Beside, Behind, InParts };
 
 // The arrays of one run. Steps and distances are in places: those of complex arrays are even. `spectrum` says where the
 // caller's layout has what is in each CCS slot of a half spectrum, in places from the beginning of the transform. The
@@ -46,7 +47,7 @@ inline constexpr int copiesOf = hasLanes ? widestOf<TargetNumbers>() * static_ca
                                                (isComplex<family> ? 2 : 1)
                                          : 1;
 
-// And where the parts of complex numbers are in registers of their own.
+// And in parts.
 template <class Real>
 inline constexpr int copiesInParts = copiesOf<Family::Hartley, Real>;
 
@@ -54,7 +55,7 @@ template <class Element>
 using ManyRoutine = void (*)(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
 
 // As many transforms as `registers` hold. The flag has been checked; the routine sets `arrays.scale`.
-template <Family family, int length, class Element, class Real, Placement placement, bool inParts = false>
+template <Family family, int length, class Element, class Real, Placement placement>
 void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
 
 }  // namespace ZULG_TARGET

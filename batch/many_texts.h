@@ -13,18 +13,17 @@ inline constexpr bool hasManyText = false;
 #define MANY_TEXT(family, length, Real, placement) \
     template <>                                    \
     inline constexpr bool hasManyText<Family::family, length, Real, Placement::placement> = true;
-// And how complex transforms that are side by side have their parts in registers of their own, if they have: only
-// at bad steps, or always. MANY_PARTS(family, length, type of the elements, type that it computes in, when).
-enum class InParts { Never, AtBadSteps, Always };
 
-template <Family family, int length, class Element, class Real>
-inline constexpr InParts inPartsOf = InParts::Never;
+// Whether transforms that are side by side are done in parts at every step, not at bad ones only.
+template <int length, class Element, class Real>
+inline constexpr bool isAlwaysInParts = false;
 
-#define MANY_PARTS(family, length, Element, Real, when) \
-    template <>                                         \
-    inline constexpr InParts inPartsOf<Family::family, length, Element, Real> = InParts::when;
+// A line for each such length: ALWAYS_IN_PARTS(length, type of the elements, type that it computes in).
+#define ALWAYS_IN_PARTS(length, Element, Real) \
+    template <>                                \
+    inline constexpr bool isAlwaysInParts<length, Element, Real> = true;
 #include "many_texts.inc"
-#undef MANY_PARTS
+#undef ALWAYS_IN_PARTS
 #undef MANY_TEXT
 
 }  // namespace ZULG_TARGET

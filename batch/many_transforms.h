@@ -17,21 +17,21 @@ namespace zulg {
 inline namespace ZULG_TARGET {
 
 // The ports of a family.
-template <bool inLanes, Family family, int length, class Element, class Real, Placement placement, bool inParts>
+template <bool inLanes, Family family, int length, class Element, class Real, Placement placement>
 struct ManyPortsOf {
     using Type = std::conditional_t<isComplex<family>, OneComplexPorts<Element, Real, family == Family::DFTInv_CToC>,
                                     OneRealPorts<family, length, Element, Real>>;
 };
 #ifdef ZULG_GNU_CPP
 template <Family family, int length, class Element, class Real, Placement placement>
-struct ManyPortsOf<true, family, length, Element, Real, placement, false> {
+struct ManyPortsOf<true, family, length, Element, Real, placement> {
     using Type = std::conditional_t<
         isComplex<family>,
         ManyComplexPorts<Element, Real, copiesOf<family, Real>, placement, family == Family::DFTInv_CToC>,
         ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>>;
 };
 template <Family family, int length, class Element, class Real>
-struct ManyPortsOf<true, family, length, Element, Real, Placement::Beside, true> {
+struct ManyPortsOf<true, family, length, Element, Real, Placement::InParts> {
     using Type = ManyPartsPorts<length, Element, Real, copiesInParts<Real>, family == Family::DFTInv_CToC>;
 };
 #endif
@@ -40,10 +40,11 @@ struct ManyPortsOf<true, family, length, Element, Real, Placement::Beside, true>
 template <Family family, int length, bool inParts>
 struct ManyTextOf;
 
-template <Family family, int length, class Element, class Real, Placement placement, bool inParts>
+template <Family family, int length, class Element, class Real, Placement placement>
 void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers) {
+    constexpr bool inParts = placement == Placement::InParts;
     using Text = typename ManyTextOf<family, length, inParts>::Type;
-    using Ports = typename ManyPortsOf<hasLanes, family, length, Element, Real, placement, inParts>::Type;
+    using Ports = typename ManyPortsOf<hasLanes, family, length, Element, Real, placement>::Type;
     using Factors = FactorsByFlag<typename FlagsOf<family>::Flags, Scale<Element, length, Text>>;
     constexpr std::ptrdiff_t copies = inParts ? copiesInParts<Real> : copiesOf<family, Real>;
     arrays.scale = Factors::factors[flag >> 1];

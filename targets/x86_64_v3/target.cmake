@@ -25,18 +25,21 @@ set(scheduled_compile_flags -O2 -fschedule-insns -fsched-pressure ${idle_pass_fl
 set(batch_types "float double" "double double" "float float")
 set(batch_behind_real_steps 150)
 set(batch_behind_complex_steps 800)
-# Complex transforms side by side with the parts of numbers in registers of their own: the lengths for which there are
-# such routines, for steps at which the cache forgets a line before its next register is due, and those where they are
-# faster by 5 % at any step, by the types of elements and registers. Shorter transforms have too few lines to forget
-# any; where a prime factor is above 13, the arithmetic outweighs the loads; 63 points would have a frame above a page.
+
+# Complex transforms side by side whose real and imaginary parts are in registers of their own. `batch_in_parts` has the
+# lengths that run so at bad steps (batch/checks.h). Shorter transforms fit into the cache at every step. Where a prime
+# factor is above 13, loads take little of the time. With 63 points a frame would be above a page.
+# The other lists have the lengths that run so at every step, since they are faster by 5 % there. There is one for each
+# pair of types: that of the elements, and that of the numbers in registers.
 set(batch_in_parts 9 10 11 12 13 14 15 16 18 20 21 22 24 25 26 27 28 30 32 33 35 36 39 40 42 44 45 48 49 50 52 54 55 56
     60 64)
 set(batch_always_in_parts_double_double 16 25 26 27 32 35 36 40 42 44 45 48 50 52 54 55 56 60 64)
 set(batch_always_in_parts_float_double 64)
 set(batch_always_in_parts_float_float 16 25 27 32 48 50 60 64)
+
 set(batch_compile_flags ${short_kernel_compile_flags} -fno-gcse)  # 59 points: no frame above a page
-# From this length on, places are reckoned in each run of a text. Before the loop over registers there are so many that
-# they go to the frame and have to be read from there, and constants with them.
+# From this length on, the places of elements are computed in each run of a text. If they are computed once, before the
+# loop over registers, there are more of them than general registers, and each run reads them from the frame.
 set(batch_long_length 14)
 set(batch_long_compile_flags -fno-tree-loop-im -fno-move-loop-invariants)
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int flags[] = {DivFwdByN, DivInvByN, DivBySqrtN, NoDivByAny};
 
-// At this step the elements of a complex transform share a few sets of a cache, which the library takes another way.
+// At this step the elements of a complex transform share a few sets of a cache, and the library uses other routines.
 constexpr std::int64_t badStep = 512;
 
 // The lowest and the highest place of a shape, in elements.
@@ -389,7 +389,7 @@ protected:
     Job<Element> jobOf(int order, int flag, Element* pBuffer) {
         return {1, 1 << order, 1 << order,
                 [=, this](const Element* from, Element* to) {
-                    std::vector<Element> own(3 << order);
+                    std::vector<Element> own(std::size_t{3} << order);
                     return one(from, to, order, flag, own.data());
                 },
                 [=, this](const Element* from, Shape source, Element* to, Shape destination, std::int64_t count) {

@@ -41,8 +41,11 @@ constexpr bool hasSum(std::int64_t a, std::int64_t b, std::int64_t* pSum) {
 #endif
 }
 
-// Whether every place, counted in bytes, is a number of 64 bits. Elements and transforms are one at least.
+// Whether every place, counted in bytes, is a number of 64 bits. Elements and transforms are one at least. Usual shapes
+// are seen without a product: with less than 2^31 elements of 16 bytes at most, no place is above 2^60.
 constexpr bool fits(Shape shape, std::int64_t elements, std::int64_t count, std::int64_t elementBytes) {
+    constexpr std::uint64_t usual = std::uint64_t{1} << 24;
+    if (magnitude(shape.step) < usual && magnitude(shape.distance) < usual && count >> 31 == 0) return true;
     std::int64_t last, first, place, bytes;
     return hasProduct(shape.step, elements - 1, &last) && hasProduct(shape.distance, count - 1, &first) &&
            hasSum(last, first, &place) && hasProduct(place, elementBytes, &bytes) &&

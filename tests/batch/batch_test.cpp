@@ -563,6 +563,10 @@ TEST(BatchShapes, FitWhereEveryPlaceHas64Bits) {
     EXPECT_FALSE(zulg::fits({INT64_MIN, 1}, 2, 1, 4));
     EXPECT_FALSE(zulg::fits({1, 1}, 64, INT64_MAX, 4));
     EXPECT_TRUE(zulg::fits({INT64_MIN, INT64_MIN}, 1, 1, 16)) << "neither is used";
+    EXPECT_FALSE(zulg::fits({INT64_MAX, 1}, 3, 2, 4)) << "only the step is large";
+    EXPECT_FALSE(zulg::fits({1, INT64_MIN}, 2, 3, 4)) << "only the distance is large";
+    EXPECT_TRUE(zulg::fits({1 - (1 << 24), 1 - (1 << 24)}, INT32_MAX, INT32_MAX, 16));
+    EXPECT_TRUE(zulg::fits({1 << 24, 1 << 24}, INT32_MAX, 1ll << 31, 16));
 }
 
 }  // namespace

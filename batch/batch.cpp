@@ -114,8 +114,9 @@ struct Request {
         const ManyRoutine<Element> many = isBeside() ? routines.beside : isBehind() ? routines.behind : nullptr;
         constexpr int copies = copiesOf<family, Real>;
         if (many == nullptr || count < copies) return 0;
-        Spectrum<layoutOf<family>> spectrum;
-        if (!isComplex<family>) spectrum.place(length, isRealForward<family> ? destination.step : source.step);
+        Spectrum<layoutOf<family>> spectrum;  // read where transforms are side by side only
+        if (!isComplex<family> && isBeside())
+            spectrum.place(length, isRealForward<family> ? destination.step : source.step);
         std::int64_t done = 0;
         const auto run = [&](ManyRoutine<Element> routine, std::int64_t atOnce) {
             const std::int64_t registers = (count - done) / atOnce;
@@ -168,16 +169,23 @@ void fewInSingle(const Request<family, float>& request, ManyRoutine<float> besid
                   [&](float held, std::int64_t j, std::int64_t place) { request.to(j)[place] = held; });
 }
 
-// The transforms of a request that has been checked: exact, or computed in single.
+// The transforms of a request from number `done` on, one by one. Few calls have any left over: in a routine of its own,
+// the buffer costs the others nothing.
 template <Family family, class Element>
-void run(const Request<family, Element>& request) {
+[[gnu::noinline]] void runOneByOne(const Request<family, Element>& request, std::int64_t done) {
     constexpr int width = Request<family, Element>::width;
-    const std::int64_t done = request.template doMany<double>(routinesOf<family, Element, double>(request.length));
     Element buffer[maxElements * width];
     oneByOne<width>(
         request.from(done), request.source, request.to(done), request.destination, elementsOf<family>(request.length),
         request.count - done, buffer,
         [&](const Element* from, Element* to) { one<family>(from, to, request.length, request.flag); });
+}
+
+// The transforms of a request that has been checked: exact, or computed in single.
+template <Family family, class Element>
+void run(const Request<family, Element>& request) {
+    const std::int64_t done = request.template doMany<double>(routinesOf<family, Element, double>(request.length));
+    if (done < request.count) runOneByOne(request, done);
 }
 
 template <Family family>

@@ -52,11 +52,12 @@ template <class Real>
 inline constexpr int copiesInParts = copiesOf<Family::Hartley, Real>;
 
 template <class Element>
-using ManyRoutine = void (*)(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
+using ManyRoutine = void (*)(const ManyArrays<Element>& first, std::int32_t flag, std::int64_t registers);
 
-// As many transforms as `registers` hold. The flag has been checked; the routine sets `arrays.scale`.
+// As many transforms as `registers` hold. `first` has the arrays of the first ones; its scale is not read. The flag has
+// been checked.
 template <Family family, int length, class Element, class Real, Placement placement>
-void manyTransforms(ManyArrays<Element> arrays, std::int32_t flag, std::int64_t registers);
+void manyTransforms(const ManyArrays<Element>& first, std::int32_t flag, std::int64_t registers);
 
 }  // namespace ZULG_TARGET
 }  // namespace zulg

@@ -66,7 +66,8 @@ function(add_batch_level library folder)
                 string(REPLACE " " ";" words ${instance})
                 list(POP_FRONT words element computed placement)
                 string(APPEND definitions "template void manyTransforms<Family::${family}, ${length}, ${element}, "
-                    "${computed}, Placement::${placement}>(ManyArrays<${element}>, std::int32_t, std::int64_t);\n")
+                    "${computed}, Placement::${placement}>(const ManyArrays<${element}>&, std::int32_t, "
+                    "std::int64_t);\n")
                 list(APPEND lines "MANY_TEXT(${family}, ${length}, ${computed}, ${placement})\n")
             endforeach()
         endforeach()

@@ -50,10 +50,40 @@ struct ManyInMemory {
         }
     }
 
+    // The same of two neighbouring cells of each transform, which go to two registers or come from two: half as many
+    // reads and stores.
+    ZULG_INLINE static void readTwoApart(const Place* place, std::ptrdiff_t apart, Vector* pFirst, Vector* pSecond) {
+        if constexpr (copies == 2) {
+            const auto a = copied<Cells>(place), b = copied<Cells>(place + apart);
+            *pFirst = inReals((Elements)firstOfTwo(a, b));
+            *pSecond = inReals((Elements)secondOfTwo(a, b));
+        } else {
+            const auto row = [=](int j) __attribute__((always_inline)) { return copied<TwoCells>(place + j * apart); };
+            const auto ac = __builtin_shufflevector(row(0), row(2), 0, 1, 2, 3);
+            const auto bd = __builtin_shufflevector(row(1), row(3), 0, 1, 2, 3);
+            *pFirst = inReals((Elements)__builtin_shufflevector(ac, bd, 0, 4, 2, 6));
+            *pSecond = inReals((Elements)__builtin_shufflevector(ac, bd, 1, 5, 3, 7));
+        }
+    }
+    ZULG_INLINE static void storeTwoApart(Place* place, std::ptrdiff_t apart, Vector first, Vector second) {
+        const auto a = (Cells)inElements(first), b = (Cells)inElements(second);
+        if constexpr (copies == 2) {
+            put(place, firstOfTwo(a, b));
+            put(place + apart, secondOfTwo(a, b));
+        } else {
+            const auto ac = __builtin_shufflevector(a, b, 0, 4, 2, 6), bd = __builtin_shufflevector(a, b, 1, 5, 3, 7);
+            put(place, __builtin_shufflevector(ac, ac, 0, 1));
+            put(place + apart, __builtin_shufflevector(bd, bd, 0, 1));
+            put(place + 2 * apart, __builtin_shufflevector(ac, ac, 2, 3));
+            put(place + 3 * apart, __builtin_shufflevector(bd, bd, 2, 3));
+        }
+    }
+
 private:
     static constexpr int cellBytes = width * static_cast<int>(sizeof(Element));
     using Cell = std::conditional_t<cellBytes == 4, float, double>;
-    typedef Cell Cells __attribute__((vector_size(sizeof(Cell) * copies)));
+    typedef Cell Cells __attribute__((vector_size(cellBytes * copies)));
+    typedef Cell TwoCells __attribute__((vector_size(cellBytes * 2)));
     typedef Element Elements __attribute__((vector_size(sizeof(Element) * copies * width)));
 
     template <class What>
@@ -65,6 +95,22 @@ private:
     template <class What>
     ZULG_INLINE static void put(Place* place, What what) {
         __builtin_memcpy(reinterpret_cast<char*>(place), &what, sizeof what);
+    }
+
+    // The first cells of two registers that have two cells each, and the second ones.
+    ZULG_INLINE static Cells firstOfTwo(Cells a, Cells b) {
+        if constexpr (cellBytes == 16) {
+            return __builtin_shufflevector(a, b, 0, 1, 4, 5);
+        } else {
+            return __builtin_shufflevector(a, b, 0, 2);
+        }
+    }
+    ZULG_INLINE static Cells secondOfTwo(Cells a, Cells b) {
+        if constexpr (cellBytes == 16) {
+            return __builtin_shufflevector(a, b, 2, 3, 6, 7);
+        } else {
+            return __builtin_shufflevector(a, b, 1, 3);
+        }
     }
 
     // Where a level does not have both types, it has no conversion either.
@@ -118,8 +164,11 @@ struct ManyPorts {
     ZULG_INLINE Register scaled(Register value) const { return value * scale; }
 };
 
-// Complex transforms, a complex number of each to a register.
-template <class Element, class Real, int copies, Placement placement, bool exchanged>
+// Complex transforms, a complex number of each to a register. Where they are one after the other, two neighbouring
+// numbers of each transform come and go together: the first that is asked for brings the other one, and the first
+// result waits for the other one. Not in double at odd lengths, where many of such registers would lie in two lines of
+// the cache.
+template <int length, class Element, class Real, int copies, Placement placement, bool exchanged>
 struct ManyComplexPorts : ManyPorts<Element, Real, copies, 2, exchanged> {
     using Base = ManyPorts<Element, Real, copies, 2, exchanged>;
     using Base::Base;
@@ -129,19 +178,43 @@ struct ManyComplexPorts : ManyPorts<Element, Real, copies, 2, exchanged> {
     ZULG_INLINE Pair pair(int k) const {
         if constexpr (placement == Placement::Beside) {
             return Pair(Base::Memory::read(this->source + k * this->sourceStep));
-        } else {
+        } else if (!hasNeighbour(k)) {
             return Pair(Base::Memory::readApart(this->source + 2 * k, this->sourceDistance));
+        } else {
+            const int even = k / 2 * 2;
+            if (!isRead[k / 2]) {
+                Base::Memory::readTwoApart(this->source + 2 * even, this->sourceDistance, &held[even], &held[even + 1]);
+                isRead[k / 2] = true;
+            }
+            return Pair(held[k]);
         }
     }
     ZULG_INLINE void pair(int k, Pair value) const {
-        const typename Pair::Vector vector = this->scaled(value).vector;
+        const Vector vector = this->scaled(value).vector;
         if constexpr (placement == Placement::Beside) {
             Base::Memory::store(this->destination + k * this->destinationStep, vector);
-        } else {
+        } else if (!hasNeighbour(k)) {
             Base::Memory::storeApart(this->destination + 2 * k, this->destinationDistance, vector);
+        } else if (!isWaiting[k / 2]) {
+            waiting[k / 2] = vector;
+            isWaiting[k / 2] = true;
+        } else {
+            const Vector other = waiting[k / 2];
+            Base::Memory::storeTwoApart(this->destination + 2 * (k / 2 * 2), this->destinationDistance,
+                                        k % 2 == 0 ? vector : other, k % 2 == 0 ? other : vector);
         }
     }
     ZULG_INLINE void finish() const {}
+
+private:
+    using Vector = typename Pair::Vector;
+
+    static constexpr bool hasNeighbour(int k) {
+        return sizeof(Element) == sizeof(float) ? k / 2 * 2 + 1 < length : length % 2 == 0;
+    }
+
+    mutable Vector held[length], waiting[(length + 1) / 2];
+    mutable bool isRead[(length + 1) / 2] = {}, isWaiting[(length + 1) / 2] = {};
 };
 
 // Complex transforms that are side by side, with the parts in registers of their own: a text of single numbers, and no

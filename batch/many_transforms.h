@@ -27,7 +27,7 @@ template <Family family, int length, class Element, class Real, Placement placem
 struct ManyPortsOf<true, family, length, Element, Real, placement> {
     using Type = std::conditional_t<
         isComplex<family>,
-        ManyComplexPorts<Element, Real, copiesOf<family, Real>, placement, family == Family::DFTInv_CToC>,
+        ManyComplexPorts<length, Element, Real, copiesOf<family, Real>, placement, family == Family::DFTInv_CToC>,
         ManyRealPorts<family, length, Element, Real, copiesOf<family, Real>, placement>>;
 };
 template <Family family, int length, class Element, class Real>

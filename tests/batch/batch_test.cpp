@@ -562,6 +562,7 @@ TEST(BatchShapes, FitWhereEveryPlaceHas64Bits) {
     EXPECT_TRUE(zulg::fits({INT64_MIN / 8, INT64_MAX / 8}, 2, 2, 8));
     EXPECT_FALSE(zulg::fits({INT64_MIN, 1}, 2, 1, 4));
     EXPECT_FALSE(zulg::fits({1, 1}, 64, INT64_MAX, 4));
+    EXPECT_FALSE(zulg::fits({1, 1}, 64, 1ll << 62, 4));
     EXPECT_TRUE(zulg::fits({INT64_MIN, INT64_MIN}, 1, 1, 16)) << "neither is used";
     EXPECT_FALSE(zulg::fits({INT64_MAX, 1}, 3, 2, 4)) << "only the step is large";
     EXPECT_FALSE(zulg::fits({1, INT64_MIN}, 2, 3, 4)) << "only the distance is large";
